@@ -1,0 +1,142 @@
+#pragma once
+
+#include "platform/DeviceNotifier.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+#include <QUrl>
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+
+class QSettings;
+
+/// A task that starts a program at the user's logon.
+struct LogonTask {
+    QString name;
+    QString author;    ///< user name; also the user whose logon starts it
+    QString program;   ///< full path
+    QString arguments;
+};
+
+/// The seam to the operating system: all that the program asks of the machine goes through here. The operations
+/// bear the names of the system calls that they stand for.
+///
+/// One object serves all threads; every operation may be called from any thread unless it says otherwise.
+/// Failures are answered by the return value, never by an exception.
+class Platform
+{
+public:
+    using RawHandle = std::intptr_t;
+    static constexpr RawHandle InvalidHandle = -1;
+
+    Platform() = default;
+    Platform(const Platform &) = delete;
+    Platform &operator=(const Platform &) = delete;
+    virtual ~Platform() = default;
+
+    /// The platform of this process. Chosen at the first call: the simulated PC when the environment variable
+    /// HALVANE_PC names a folder, else the machine itself. A broken description of a PC ends the process with one
+    /// line on standard error and exit code 2.
+    static Platform &current();
+
+    /// Installs a platform in place of the current one (tests). Main thread only, with no worker running.
+    static void install(std::unique_ptr<Platform> platform);
+
+    /// \name Raw devices
+    /// Names are `\\.\PHYSICALDRIVE%d` and `\\.\%c:`. A handle is used by one thread at a time.
+    /// @{
+    virtual RawHandle CreateFileW(const QString &name, quint32 access, quint32 shareMode,
+                                  quint32 disposition) = 0;
+    /// Seeks to `byteOffset` from the start.
+    virtual bool SetFilePointer(RawHandle handle, qint64 byteOffset) = 0;
+    /// Transfers up to `bytes`; a transfer that crosses the end of the device is cut there and succeeds, one that
+    /// begins at or behind it fails. `transferred` may be null.
+    virtual bool ReadFile(RawHandle handle, void *buffer, quint32 bytes, quint32 *transferred) = 0;
+    virtual bool WriteFile(RawHandle handle, const void *buffer, quint32 bytes, quint32 *transferred) = 0;
+    /// The codes and records of platform/IoControl.h.
+    virtual bool DeviceIoControl(RawHandle handle, quint32 code, const void *in, quint32 inSize, void *out,
+                                 quint32 outSize, quint32 *returned) = 0;
+    virtual void CloseHandle(RawHandle handle) = 0;
+    /// @}
+
+    /// \name Volumes
+    /// @{
+    /// The roots of all volumes, such as `C:\`.
+    virtual QStringList GetLogicalDriveStringsW() = 0;
+    /// False, with both texts empty, where there is no readable volume. Either pointer may be null.
+    virtual bool GetVolumeInformationW(const QString &root, QString *label, QString *fileSystem) = 0;
+    /// One of io::DriveType.
+    virtual quint32 GetDriveTypeW(const QString &root) = 0;
+    /// Bytes. False, with both zero, where there is no readable volume.
+    virtual bool GetDiskFreeSpaceExW(const QString &root, quint64 *totalBytes, quint64 *freeBytes) = 0;
+    /// @}
+
+    /// \name Processes
+    /// @{
+    /// Runs a whole command line ("<interpreter> /c <command> ") and waits for its end without a time limit.
+    /// Each element of `line` is one character as the process creation would get it. False if the interpreter
+    /// could not be started; the command's own exit code is not told.
+    virtual bool CreateProcessAndWait(const std::wstring &line, bool hidden) = 0;
+    /// Opens a file, program, page or mail address with what the desktop has for it. Returns at once.
+    virtual bool ShellExecute(const QString &file, const QString &parameters, const QString &verb) = 0;
+    /// Opens a page or document. Main thread only.
+    virtual bool OpenUrl(const QUrl &url) = 0;
+    /// @}
+
+    /// \name Folders and names
+    /// @{
+    /// The user's temp folder, ending in a separator.
+    virtual QString GetTempPathW() = 0;
+    /// The folder of the system's tools, without a trailing separator.
+    virtual QString GetSystemDirectoryW() = 0;
+    virtual QString GetUserNameW() = 0;
+    /// Where the history of attribute values is kept; no trailing separator. `applicationFolder` where it can be
+    /// written, else a folder of the user's, which is made if it is missing.
+    virtual QString HistoryFolder(const QString &applicationFolder) = 0;
+    /// A path as this platform writes it: the program composes paths with backslashes.
+    virtual QString NativePath(const QString &path) const = 0;
+    /// The value of COMSPEC, empty if unset.
+    virtual QByteArray CommandInterpreter() = 0;
+    /// The operating system's own name, version and machine word for the About box.
+    virtual QString OperatingSystemName() = 0;
+    /// @}
+
+    /// \name Power, display, network, time
+    /// @{
+    virtual void SetThreadExecutionState(quint32 flags) = 0;
+    /// Dots per inch of the display, 96 at a scale of one. Main thread only.
+    virtual int LogPixelsX() = 0;
+    /// Loads a page into a file, blocking. Zero on success, like the result code of the system call.
+    virtual qint32 URLDownloadToFileW(const QString &url, const QString &path) = 0;
+    /// A fixed pause of the program.
+    virtual void Sleep(quint32 milliseconds) = 0;
+    /// @}
+
+    /// \name Volume arrival and removal
+    /// @{
+    /// Null on a platform that tells by window message. Owned by the platform. Main thread only.
+    virtual DeviceNotifier *deviceNotifier() = 0;
+    /// What a native window message says, if it is a device message.
+    virtual std::optional<DeviceChange> decodeDeviceMessage(const QByteArray &eventType, void *message) = 0;
+    /// @}
+
+    /// \name Logon task
+    /// @{
+    /// Starts what the task interface needs on this thread; diagnostics go to standard output.
+    virtual void InitializeCom() = 0;
+    virtual void CreateLogonTask(const LogonTask &task) = 0;
+    /// A task that does not exist is no error.
+    virtual void DeleteLogonTask(const QString &name) = 0;
+    /// @}
+
+    /// \name Settings
+    /// @{
+    /// Opens the settings below a registry path. Texts stay texts and numbers stay numbers in the store. Values
+    /// written are kept when the object goes. An empty path gives a store that keeps nothing.
+    virtual std::unique_ptr<QSettings> OpenSettings(const QString &registryPath) = 0;
+    /// @}
+};
