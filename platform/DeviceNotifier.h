@@ -2,8 +2,8 @@
 
 #include <QObject>
 
-/// Tells of volumes that come and go, on platforms that have no native window message for it. Lives on the main
-/// thread. Windows does not emit it: there the message reaches the splash window itself, see
+/// Tells of volumes that come and go, on platforms that have no native window message for it. Lives on the
+/// main thread. Windows does not emit it: there the message reaches the splash window itself, see
 /// Platform::decodeDeviceMessage().
 class DeviceNotifier : public QObject
 {

@@ -17,13 +17,13 @@ class QSettings;
 /// A task that starts a program at the user's logon.
 struct LogonTask {
     QString name;
-    QString author;    ///< user name; also the user whose logon starts it
-    QString program;   ///< full path
+    QString author;  ///< user name; also the user whose logon starts it
+    QString program; ///< full path
     QString arguments;
 };
 
-/// The seam to the operating system: all that the program asks of the machine goes through here. The operations
-/// bear the names of the system calls that they stand for.
+/// The seam to the operating system: all that the program asks of the machine goes through here. The
+/// operations bear the names of the system calls that they stand for.
 ///
 /// One object serves all threads; every operation may be called from any thread unless it says otherwise.
 /// Failures are answered by the return value, never by an exception.
@@ -39,8 +39,8 @@ public:
     virtual ~Platform() = default;
 
     /// The platform of this process. Chosen at the first call: the simulated PC when the environment variable
-    /// HALVANE_PC names a folder, else the machine itself. A broken description of a PC ends the process with one
-    /// line on standard error and exit code 2.
+    /// HALVANE_PC names a folder, else the machine itself. A broken description of a PC ends the process with
+    /// one line on standard error and exit code 2.
     static Platform &current();
 
     /// Installs a platform in place of the current one (tests). Main thread only, with no worker running.
@@ -53,8 +53,8 @@ public:
                                   quint32 disposition) = 0;
     /// Seeks to `byteOffset` from the start.
     virtual bool SetFilePointer(RawHandle handle, qint64 byteOffset) = 0;
-    /// Transfers up to `bytes`; a transfer that crosses the end of the device is cut there and succeeds, one that
-    /// begins at or behind it fails. `transferred` may be null.
+    /// Transfers up to `bytes`; a transfer that crosses the end of the device is cut there and succeeds, one
+    /// that begins at or behind it fails. `transferred` may be null.
     virtual bool ReadFile(RawHandle handle, void *buffer, quint32 bytes, quint32 *transferred) = 0;
     virtual bool WriteFile(RawHandle handle, const void *buffer, quint32 bytes, quint32 *transferred) = 0;
     /// The codes and records of platform/IoControl.h.
@@ -94,8 +94,8 @@ public:
     /// The folder of the system's tools, without a trailing separator.
     virtual QString GetSystemDirectoryW() = 0;
     virtual QString GetUserNameW() = 0;
-    /// Where the history of attribute values is kept; no trailing separator. `applicationFolder` where it can be
-    /// written, else a folder of the user's, which is made if it is missing.
+    /// Where the history of attribute values is kept; no trailing separator. `applicationFolder` where it can
+    /// be written, else a folder of the user's, which is made if it is missing.
     virtual QString HistoryFolder(const QString &applicationFolder) = 0;
     /// A path as this platform writes it: the program composes paths with backslashes.
     virtual QString NativePath(const QString &path) const = 0;
@@ -135,8 +135,8 @@ public:
 
     /// \name Settings
     /// @{
-    /// Opens the settings below a registry path. Texts stay texts and numbers stay numbers in the store. Values
-    /// written are kept when the object goes. An empty path gives a store that keeps nothing.
+    /// Opens the settings below a registry path. Texts stay texts and numbers stay numbers in the store.
+    /// Values written are kept when the object goes. An empty path gives a store that keeps nothing.
     virtual std::unique_ptr<QSettings> OpenSettings(const QString &registryPath) = 0;
     /// @}
 };

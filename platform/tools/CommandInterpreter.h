@@ -11,8 +11,8 @@
 namespace tools
 {
 
-/// A tool behind the interpreter: takes the words behind its name and what is piped in, gives its standard output.
-/// Runs on the thread of the caller; several runs may happen at once.
+/// A tool behind the interpreter: takes the words behind its name and what is piped in, gives its standard
+/// output. Runs on the thread of the caller; several runs may happen at once.
 using Tool = std::function<QByteArray(const QStringList &arguments, const QByteArray &input)>;
 
 /// Stands in for the command interpreter where there is none of Windows' kind: understands the lines that the
@@ -23,10 +23,10 @@ public:
     /// `baseName` is the file name without folder and ".exe", in any letter case.
     void addTool(const QString &baseName, Tool tool);
 
-    /// Runs "<interpreter> /c <command>". The redirection target is the text behind ">>" up to the next blank, as
-    /// the real interpreter takes it, each element of `line` being one character; `nativePath` turns it into a
-    /// path of this machine. A tool that is not known leaves the target empty, as an unknown command does there.
-    /// False where the line has no " /c ".
+    /// Runs "<interpreter> /c <command>". The redirection target is the text behind ">>" up to the next
+    /// blank, as the real interpreter takes it, each element of `line` being one character; `nativePath`
+    /// turns it into a path of this machine. A tool that is not known leaves the target empty, as an unknown
+    /// command does there. False where the line has no " /c ".
     bool run(const std::wstring &line, const std::function<QString(const QString &)> &nativePath) const;
 
 private:

@@ -9,9 +9,9 @@
 namespace tools
 {
 
-/// `diskdrive get …`, `logicaldisk get …` and `partition get …`: UTF-16LE with byte-order mark, CRLF, the columns
-/// sorted by name, each as wide as its longest cell plus two blanks, and a blank last line. Empty bytes for a
-/// question that it does not know.
+/// `diskdrive get …`, `logicaldisk get …` and `partition get …`: UTF-16LE with byte-order mark, CRLF, the
+/// columns sorted by name, each as wide as its longest cell plus two blanks, and a blank last line. Empty
+/// bytes for a question that it does not know.
 QByteArray wmic(const inventory::Machine &machine, const QStringList &arguments);
 
 /// `-status X:`: the description of one volume; without a letter of all volumes.
