@@ -1,0 +1,19 @@
+#include "ui/PopupMenu.h"
+
+#include "app/state/GlobalApp.h"
+
+#include <QShowEvent>
+
+PopupMenu::PopupMenu(bool alignRight, QWidget *parent) : QMenu(parent), m_bAlignRight(alignRight) {}
+
+void PopupMenu::showEvent(QShowEvent *event)
+{
+    QMenu::showEvent(event);
+    const QWidget *main = parentWidget() ? parentWidget()->window() : nullptr;
+    if (!m_bAlignRight) {
+        move(x(), y() + static_cast<int>(g_App.m_fScale * 12.0F));
+    } else if (main && main->isVisible()) {
+        const QRect frame = main->geometry();
+        move(frame.x() + frame.width() - width(), y());
+    }
+}
