@@ -101,6 +101,9 @@ public:
     virtual QString NativePath(const QString &path) const = 0;
     /// The value of COMSPEC, empty if unset.
     virtual QByteArray CommandInterpreter() = 0;
+    /// What sets this PC apart from others that the same user may run the program for: one instance may run per
+    /// scope. Empty where the machine is the only one.
+    virtual QString InstanceScope() { return QString(); }
     /// The operating system's own name, version and machine word for the About box.
     virtual QString OperatingSystemName() = 0;
     /// @}

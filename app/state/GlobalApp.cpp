@@ -1,17 +1,11 @@
 #include "app/state/GlobalApp.h"
 
-#include "app/state/Globals.h"
-
 GlobalApp g_App;
 
 GlobalApp::GlobalApp() = default;
 
-GlobalApp::~GlobalApp()
-{
-    freeDiskList();
-    freeList(g_pWmicDiskListHead, g_pWmicDiskListTail);
-    freeList(g_pLogicalDiskListHead, g_pLogicalDiskListTail);
-}
+// The lists go with the process: a worker that is still reading at its end may be walking them.
+GlobalApp::~GlobalApp() = default;
 
 void GlobalApp::freeDiskList()
 {
