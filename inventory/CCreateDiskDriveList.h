@@ -1,0 +1,43 @@
+#pragma once
+
+#include "app/state/DiskRecords.h"
+
+#include <QHash>
+#include <QStringList>
+
+#include <array>
+
+/// Builds the list of storage objects in g_App from the operating system's answers alone. Made on the stack,
+/// used once and dropped; the list outlives it. Runs on a device-load thread, one at a time.
+class CCreateDiskDriveList
+{
+public:
+    static constexpr int ProbedDisks = 128; ///< disk numbers that are tried
+    static constexpr int ListedDisks = 24;  ///< disk numbers that can become nodes
+    static constexpr std::uint16_t FirstLogicalId = 257;
+
+    /// Frees the previous list.
+    CCreateDiskDriveList();
+    virtual ~CCreateDiskDriveList() = default;
+    CCreateDiskDriveList(const CCreateDiskDriveList &) = delete;
+    CCreateDiskDriveList &operator=(const CCreateDiskDriveList &) = delete;
+
+    /// Fills the list. What does not open or answer is left out silently.
+    void BuildDriveList();
+
+private:
+    /// One class of physical disks as the probe found it.
+    struct ProbeTable {
+        std::array<bool, ProbedDisks> found{};
+        QHash<int, int> bytesPerSector; ///< by disk number
+    };
+
+    void probeDisks();
+    void appendPhysicalNodes(const ProbeTable &table, DiskKind kind);
+    DiskNode *makePhysicalNode(int number, DiskKind kind, int bytesPerSector) const;
+    QString driveLetters(int driveCode) const;
+
+    QStringList m_driveStrings;
+    ProbeTable m_fixed;
+    ProbeTable m_removable;
+};

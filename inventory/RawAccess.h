@@ -1,0 +1,27 @@
+#pragma once
+
+#include "platform/Platform.h"
+
+/// Raw access to disks and volumes. A target is named by its drive code: 128 + N is physical disk N, a code
+/// below 128 a drive letter, 0 for A. Sectors are of 512 bytes whatever the disk reports. Any thread may
+/// call.
+
+/// Stands for "no handle" in ReadWriteSectors().
+constexpr Platform::RawHandle NoDiskHandle = 0;
+
+/// The system's name of a target: `\\.\PHYSICALDRIVE%d` or `\\.\%c:`.
+QString diskName(int driveCode);
+
+/// Opens a target for reading and writing, shared with everybody. Platform::InvalidHandle if it does not
+/// open. The caller closes the handle.
+Platform::RawHandle OpenDisk(int driveCode);
+
+/// Transfers `byteCount` bytes from or to sector `sector`. Works on `handle` and leaves it open; with
+/// NoDiskHandle the call opens and closes the target itself. False if the target does not open, the place
+/// cannot be sought or the transfer fails. A transfer that crosses the target's end is cut there and
+/// succeeds: the rest of `buffer` keeps what it held.
+bool ReadWriteSectors(int driveCode, quint64 sector, void *buffer, quint32 byteCount,
+                      Platform::RawHandle handle = NoDiskHandle, bool write = false);
+
+/// Count of sectors of the target in `result`, 0 on failure.
+void GetDiskSectorCount(int driveCode, quint64 *result);

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "app/state/DiskRecords.h"
+
+#include <QString>
+#include <QVector>
+
+#include <functional>
+
+/// Reads the identity of a disk from its SMART report into g_strSerialNumber, g_strFirmware and
+/// g_strModelName. Handed in from above, as the reports are no business of this floor.
+using IdentityProbe = std::function<void(int diskIndex, const QString &interfaceText)>;
+
+/// Rebuilds the list at g_pWmicDiskListHead from the system's disk table, asking `probe` for each line. Where
+/// the table cannot be had the old list stays. Device-load threads only.
+void LoadDiskDrives(const IdentityProbe &probe);
+
+/// Rebuilds the list at g_pLogicalDiskListHead from the system's volume table. Where the table cannot be had
+/// the old list stays. Device-load threads only.
+void LoadLogicalDisks();
+
+/// Number of the disk that holds the system partition as text; empty if no partition is called so, null if
+/// the table cannot be had.
+QString GetSystemDiskIndex();
+
+/// The lines of the tables. Cut at blanks, never by column; a field that is missing counts as empty.
+namespace wmic
+{
+
+struct DiskDriveLine {
+    quint32 index = 0;
+    QString interfaceText;
+    QString model; ///< without its last two words, roughly
+    QString status;
+};
+
+struct LogicalDiskLine {
+    QString caption;
+    QString fileSystem;
+    qint64 freeBytes = 0;
+    qint64 sizeBytes = 0;
+};
+
+/// Index, InterfaceType, Model, Status.
+DiskDriveLine parseDiskDrive(const QString &line);
+
+/// Caption, FileSystem, FreeSpace, Size.
+LogicalDiskLine parseLogicalDisk(const QString &line);
+
+/// True for the line of the encryption tool that tells of a volume's state.
+bool isBitLockerLine(const QString &line);
+
+/// "NO" or "YES" from such a line.
+QString bitLockerState(const QString &line);
+
+/// The disk number of a line of the partition table.
+QString partitionDisk(const QString &line);
+
+/// Gives the i-th record the i-th number; what is left over on either side stays as it is.
+void pairDiskIndexes(LogicalDiskRecord *head, const QVector<int> &diskIndexes);
+
+} // namespace wmic

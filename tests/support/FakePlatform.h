@@ -1,0 +1,332 @@
+#pragma once
+
+#include "platform/IoControl.h"
+#include "platform/Platform.h"
+
+#include <QDir>
+#include <QFile>
+#include <QMap>
+#include <QMutex>
+#include <QSet>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QVector>
+
+#include <cstring>
+#include <functional>
+
+/// A machine for tests: nothing but what a test puts into it. Folders are in a private temp folder. Fields
+/// are set before the code under test runs; command lines may come from any thread.
+class FakePlatform : public Platform
+{
+public:
+    /// A physical disk. `bytes` may be shorter than `size`: what lies behind it reads as zeros and takes no
+    /// writes.
+    struct Disk {
+        QByteArray bytes;
+        quint32 mediaType = io::MediaFixed;
+        quint32 bytesPerSector = 512;
+        qint64 size = -1; ///< in bytes; -1: as long as `bytes`
+        bool opens = true;
+        bool hasSize = true;     ///< false: the extended geometry is refused
+        QSet<qint64> badSectors; ///< reads that touch one fail
+        QSet<qint64> unwritable; ///< writes that touch one fail
+        /// Answers the SMART codes; absent: they are refused.
+        std::function<bool(quint32 code, const QByteArray &in, QByteArray *out)> smart;
+
+        qint64 length() const { return size < 0 ? qint64(bytes.size()) : size; }
+    };
+
+    struct Volume {
+        QString label;
+        QString fileSystem;
+        quint32 type = io::DriveFixed;
+        quint64 total = 0; ///< bytes
+        quint64 free = 0;  ///< bytes
+        QVector<io::DiskExtent> extents;
+        Disk raw; ///< the volume's own bytes
+    };
+
+    /// Makes one, installs it and gives it to the test to fill. Owned by the seam.
+    static FakePlatform *install()
+    {
+        auto made = std::make_unique<FakePlatform>();
+        FakePlatform *fake = made.get();
+        Platform::install(std::move(made));
+        return fake;
+    }
+
+    QMap<int, Disk> disks;
+    QMap<QChar, Volume> volumes; ///< by upper-case letter
+    /// Runs for each command line; false means that the interpreter did not start.
+    std::function<bool(const QString &line)> onCommand;
+    QByteArray interpreter = "C:\\Windows\\system32\\cmd.exe";
+    QString systemFolder = QStringLiteral("C:\\Windows\\system32");
+    QString userName = QStringLiteral("tester");
+    int dotsPerInch = 96;
+    std::function<qint32(const QString &url, const QString &path)> onDownload;
+
+    /// What was asked of the machine, in order.
+    QStringList commands() const
+    {
+        const QMutexLocker lock(&m_mutex);
+        return m_commands;
+    }
+    QStringList openedNames; ///< of CreateFileW
+    QStringList executed;    ///< "<verb> <file> <parameters>" of ShellExecute, and pages opened
+    QVector<quint32> executionStates;
+    QVector<LogonTask> tasks;
+    quint64 slept = 0; ///< ms
+    int openHandles() const { return m_handles.size(); }
+
+    /// Where a command line redirects to, on this machine; empty if it does not. Up to the next blank.
+    static QString target(const QString &line)
+    {
+        const int mark = line.indexOf(QLatin1String(">> "));
+        if (mark < 0)
+            return QString();
+        return toNative(line.mid(mark + 3).section(QLatin1Char(' '), 0, 0));
+    }
+
+    /// Appends `output` to the file that the line redirects to, as the interpreter does.
+    static bool answer(const QString &line, const QByteArray &output)
+    {
+        QFile file(target(line));
+        return file.open(QIODevice::WriteOnly | QIODevice::Append) && file.write(output) == output.size();
+    }
+
+    RawHandle CreateFileW(const QString &name, quint32, quint32, quint32) override
+    {
+        openedNames << name;
+        const Disk *disk = find(name);
+        if (!disk || !disk->opens)
+            return InvalidHandle;
+        m_handles.insert(m_nextHandle, {name, 0});
+        return m_nextHandle++;
+    }
+
+    bool SetFilePointer(RawHandle handle, qint64 byteOffset) override
+    {
+        if (!m_handles.contains(handle) || byteOffset < 0)
+            return false;
+        m_handles[handle].position = byteOffset;
+        return true;
+    }
+
+    bool ReadFile(RawHandle handle, void *buffer, quint32 bytes, quint32 *transferred) override
+    {
+        return transfer(handle, bytes, transferred, [buffer](Disk *disk, qint64 at, int length) {
+            if (touches(disk->badSectors, at, length))
+                return false;
+            QByteArray piece = at < disk->bytes.size() ? disk->bytes.mid(int(at), length) : QByteArray();
+            piece.append(QByteArray(length - piece.size(), '\0'));
+            std::memcpy(buffer, piece.constData(), size_t(length));
+            return true;
+        });
+    }
+
+    bool WriteFile(RawHandle handle, const void *buffer, quint32 bytes, quint32 *transferred) override
+    {
+        return transfer(handle, bytes, transferred, [buffer](Disk *disk, qint64 at, int length) {
+            if (touches(disk->unwritable, at, length) || at + length > disk->bytes.size())
+                return false;
+            disk->bytes.replace(int(at), length, static_cast<const char *>(buffer), length);
+            return true;
+        });
+    }
+
+    bool DeviceIoControl(RawHandle handle, quint32 code, const void *in, quint32 inSize, void *out,
+                         quint32 outSize, quint32 *returned) override
+    {
+        if (!m_handles.contains(handle))
+            return false;
+        const QString name = m_handles[handle].name;
+        QByteArray reply;
+        const QByteArray asked(static_cast<const char *>(in), int(inSize));
+        if (!answerControl(name, code, asked, &reply) || reply.size() > int(outSize))
+            return false;
+        std::memcpy(out, reply.constData(), size_t(reply.size()));
+        if (returned)
+            *returned = quint32(reply.size());
+        return true;
+    }
+
+    void CloseHandle(RawHandle handle) override { m_handles.remove(handle); }
+
+    QStringList GetLogicalDriveStringsW() override
+    {
+        QStringList roots;
+        for (auto it = volumes.cbegin(); it != volumes.cend(); ++it)
+            roots << QString(it.key()) + QStringLiteral(":\\");
+        return roots;
+    }
+    bool GetVolumeInformationW(const QString &root, QString *label, QString *fileSystem) override
+    {
+        const Volume volume = volumes.value(root.at(0));
+        if (label)
+            *label = volume.label;
+        if (fileSystem)
+            *fileSystem = volume.fileSystem;
+        return !volume.fileSystem.isEmpty();
+    }
+    quint32 GetDriveTypeW(const QString &root) override
+    {
+        return volumes.contains(root.at(0)) ? volumes[root.at(0)].type : quint32(io::DriveNoRootDir);
+    }
+    bool GetDiskFreeSpaceExW(const QString &root, quint64 *totalBytes, quint64 *freeBytes) override
+    {
+        const Volume volume = volumes.value(root.at(0));
+        *totalBytes = volume.total;
+        *freeBytes = volume.free;
+        return volume.total != 0;
+    }
+
+    bool CreateProcessAndWait(const std::wstring &line, bool) override
+    {
+        const QString text = QString::fromStdWString(line);
+        {
+            const QMutexLocker lock(&m_mutex);
+            m_commands << text;
+        }
+        return !onCommand || onCommand(text);
+    }
+    bool ShellExecute(const QString &file, const QString &parameters, const QString &verb) override
+    {
+        executed << verb + QLatin1Char(' ') + file + QLatin1Char(' ') + parameters;
+        return true;
+    }
+    bool OpenUrl(const QUrl &url) override
+    {
+        executed << url.toString();
+        return true;
+    }
+
+    QString GetTempPathW() override { return m_folder.path() + m_tempFolder + QLatin1Char('/'); }
+    /// Moves the temp folder one folder down, to one with that name.
+    void useTempFolder(const QString &name)
+    {
+        m_tempFolder = QLatin1Char('/') + name;
+        QDir(m_folder.path()).mkpath(name);
+    }
+    QString GetSystemDirectoryW() override { return systemFolder; }
+    QString GetUserNameW() override { return userName; }
+    QString HistoryFolder(const QString &) override { return m_folder.path(); }
+    QString NativePath(const QString &path) const override { return toNative(path); }
+    QByteArray CommandInterpreter() override { return interpreter; }
+    QString OperatingSystemName() override { return QStringLiteral("Test system"); }
+
+    void SetThreadExecutionState(quint32 flags) override { executionStates << flags; }
+    int LogPixelsX() override { return dotsPerInch; }
+    qint32 URLDownloadToFileW(const QString &url, const QString &path) override
+    {
+        return onDownload ? onDownload(url, path) : -1;
+    }
+    void Sleep(quint32 milliseconds) override { slept += milliseconds; }
+    DeviceNotifier *deviceNotifier() override { return &m_notifier; }
+    std::optional<DeviceChange> decodeDeviceMessage(const QByteArray &, void *) override { return {}; }
+    void InitializeCom() override {}
+    void CreateLogonTask(const LogonTask &task) override { tasks << task; }
+    void DeleteLogonTask(const QString &name) override
+    {
+        for (int i = tasks.size() - 1; i >= 0; --i) {
+            if (tasks.at(i).name == name)
+                tasks.remove(i);
+        }
+    }
+    /// An INI file, so numbers come back as texts once the file was written.
+    std::unique_ptr<QSettings> OpenSettings(const QString &registryPath) override
+    {
+        QString name = registryPath;
+        name.replace(QLatin1Char('\\'), QLatin1Char('_'));
+        return std::make_unique<QSettings>(m_folder.filePath(QStringLiteral("settings") + name),
+                                           QSettings::IniFormat);
+    }
+
+private:
+    struct Handle {
+        QString name;
+        qint64 position = 0;
+    };
+
+    static QString toNative(QString path) { return path.replace(QLatin1Char('\\'), QLatin1Char('/')); }
+
+    static bool touches(const QSet<qint64> &sectors, qint64 at, int length)
+    {
+        for (const qint64 sector : sectors) {
+            if (sector * 512 < at + length && at < (sector + 1) * 512)
+                return true;
+        }
+        return false;
+    }
+
+    Disk *find(const QString &name)
+    {
+        const QString disk = QStringLiteral("\\\\.\\PHYSICALDRIVE");
+        if (name.startsWith(disk)) {
+            const auto it = disks.find(name.mid(disk.size()).toInt());
+            return it == disks.end() ? nullptr : &*it;
+        }
+        const auto it = name.size() == 6 ? volumes.find(name.at(4)) : volumes.end();
+        return it == volumes.end() ? nullptr : &it->raw;
+    }
+
+    template<typename Copy>
+    bool transfer(RawHandle handle, quint32 bytes, quint32 *transferred, Copy copy)
+    {
+        if (!m_handles.contains(handle))
+            return false;
+        Handle &open = m_handles[handle];
+        Disk *disk = find(open.name);
+        const qint64 length = qMin<qint64>(bytes, disk->length() - open.position);
+        if (length <= 0 || !copy(disk, open.position, int(length)))
+            return false;
+        open.position += length;
+        if (transferred)
+            *transferred = quint32(length);
+        return true;
+    }
+
+    bool answerControl(const QString &name, quint32 code, const QByteArray &in, QByteArray *reply)
+    {
+        const Disk *disk = find(name);
+        const io::DiskGeometry geometry{disk->length() / disk->bytesPerSector, disk->mediaType, 1, 1,
+                                        disk->bytesPerSector};
+        switch (code) {
+        case io::DiskGetDriveGeometry:
+            *reply = raw(geometry);
+            return true;
+        case io::DiskGetDriveGeometryEx:
+            *reply = raw(io::DiskGeometryEx{geometry, disk->length(), {}});
+            return disk->hasSize;
+        case io::VolumeGetVolumeDiskExtents:
+            return answerExtents(name, reply);
+        default:
+            return disk->smart && disk->smart(code, in, reply);
+        }
+    }
+
+    bool answerExtents(const QString &name, QByteArray *reply) const
+    {
+        const QVector<io::DiskExtent> extents = volumes.value(name.at(4)).extents;
+        if (name.size() != 6 || extents.isEmpty())
+            return false;
+        *reply = raw(quint64(extents.size()));
+        for (const io::DiskExtent &extent : extents)
+            reply->append(raw(extent));
+        return true;
+    }
+
+    template<typename Record>
+    static QByteArray raw(const Record &record)
+    {
+        return QByteArray(reinterpret_cast<const char *>(&record), int(sizeof record));
+    }
+
+    QTemporaryDir m_folder;
+    QString m_tempFolder;
+    DeviceNotifier m_notifier;
+    mutable QMutex m_mutex;
+    QStringList m_commands;
+    QMap<RawHandle, Handle> m_handles;
+    RawHandle m_nextHandle = 1;
+};
