@@ -1,0 +1,370 @@
+#include "platform/linux/LinuxPlatform.h"
+
+#include "platform/HttpDownload.h"
+#include "platform/IoControl.h"
+#include "platform/JsonSettings.h"
+#include "platform/NativePlatform.h"
+#include "platform/linux/LogonEntry.h"
+#include "platform/linux/UserFolders.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QScreen>
+#include <QSettings>
+#include <QSysInfo>
+#include <QThread>
+
+#include <cstddef>
+#include <cstring>
+#include <pwd.h>
+#include <unistd.h>
+
+namespace
+{
+
+constexpr quint32 ExecutionContinuous = 0x80000000u;
+constexpr quint32 ExecutionRequired = 0x00000043u; ///< system, display or away mode
+
+/// The geometry that every disk is told of.
+constexpr quint32 TracksPerCylinder = 255;
+constexpr quint32 SectorsPerTrack = 63;
+
+const QString DiskPrefix = QStringLiteral("\\\\.\\PHYSICALDRIVE");
+const QString VolumePrefix = QStringLiteral("\\\\.\\");
+
+template<typename Record>
+bool answer(const Record &record, void *out, quint32 outSize, quint32 *returned)
+{
+    if (!out || outSize < sizeof(Record))
+        return false;
+    std::memcpy(out, &record, sizeof(Record));
+    if (returned)
+        *returned = sizeof(Record);
+    return true;
+}
+
+io::DiskGeometry geometryOf(const RawDevice &device, quint32 mediaType)
+{
+    const qint64 cylinder = qint64{TracksPerCylinder} * SectorsPerTrack * device.bytesPerSector();
+    return {device.size() / cylinder, mediaType, TracksPerCylinder, SectorsPerTrack, device.bytesPerSector()};
+}
+
+bool answerExtents(const QVector<inventory::Extent> &extents, void *out, quint32 outSize, quint32 *returned)
+{
+    const quint32 head = offsetof(io::VolumeDiskExtents, extents);
+    const quint32 needed =
+        head + static_cast<quint32>(sizeof(io::DiskExtent)) * static_cast<quint32>(extents.size());
+    if (extents.isEmpty() || !out || outSize < needed)
+        return false;
+    auto *bytes = static_cast<char *>(out);
+    std::memset(bytes, 0, head);
+    const auto count = static_cast<quint32>(extents.size());
+    std::memcpy(bytes, &count, sizeof(count));
+    for (const inventory::Extent &extent : extents) {
+        const io::DiskExtent record{static_cast<quint32>(extent.disk), 0, static_cast<qint64>(extent.offset),
+                                    static_cast<qint64>(extent.length)};
+        std::memcpy(bytes + head, &record, sizeof(record));
+        bytes += sizeof(record);
+    }
+    if (returned)
+        *returned = needed;
+    return true;
+}
+
+quint32 mediaTypeOf(const inventory::Disk &disk)
+{
+    return disk.media == QLatin1String("removable") ? io::MediaRemovable : io::MediaFixed;
+}
+
+} // namespace
+
+LinuxPlatform::LinuxPlatform()
+{
+    addTools();
+}
+
+LinuxPlatform::~LinuxPlatform() = default;
+
+// Raw devices
+
+Platform::RawHandle LinuxPlatform::CreateFileW(const QString &name, quint32 access, quint32,
+                                               quint32 disposition)
+{
+    if (disposition != io::OpenExisting)
+        return InvalidHandle;
+
+    const lsblk::Inventory machine = pc();
+    auto open = std::make_shared<OpenDevice>();
+    QString node;
+    if (name.startsWith(DiskPrefix, Qt::CaseInsensitive)) {
+        bool isNumber = false;
+        const int number = name.mid(DiskPrefix.size()).toInt(&isNumber);
+        for (const inventory::Disk &disk : machine.machine.disks) {
+            if (isNumber && disk.number == number) {
+                node = disk.node;
+                open->mediaType = mediaTypeOf(disk);
+            }
+        }
+    } else if (name.size() == VolumePrefix.size() + 2 && name.startsWith(VolumePrefix) &&
+               name.endsWith(QLatin1Char(':'))) {
+        const QChar letter = name.at(VolumePrefix.size()).toUpper();
+        node = machine.volumeNodes.value(letter);
+        for (const inventory::Volume &volume : machine.machine.volumes) {
+            if (volume.letter == letter)
+                open->extents = volume.extents;
+        }
+    }
+    if (!node.isEmpty())
+        open->device = RawDevice::open(node, (access & io::GenericWrite) != 0);
+    if (!open->device)
+        return InvalidHandle;
+
+    const std::lock_guard<std::mutex> guard(m_mutex);
+    const RawHandle handle = m_nextHandle++;
+    m_open.insert(handle, open);
+    return handle;
+}
+
+std::shared_ptr<LinuxPlatform::OpenDevice> LinuxPlatform::find(RawHandle handle)
+{
+    const std::lock_guard<std::mutex> guard(m_mutex);
+    return m_open.value(handle);
+}
+
+bool LinuxPlatform::SetFilePointer(RawHandle handle, qint64 byteOffset)
+{
+    const auto open = find(handle);
+    return open && open->device->seek(byteOffset);
+}
+
+bool LinuxPlatform::ReadFile(RawHandle handle, void *buffer, quint32 bytes, quint32 *transferred)
+{
+    const auto open = find(handle);
+    const qint64 got = open ? open->device->read(buffer, bytes) : -1;
+    if (transferred)
+        *transferred = got < 0 ? 0 : static_cast<quint32>(got);
+    return got >= 0;
+}
+
+bool LinuxPlatform::WriteFile(RawHandle handle, const void *buffer, quint32 bytes, quint32 *transferred)
+{
+    const auto open = find(handle);
+    const qint64 put = open ? open->device->write(buffer, bytes) : -1;
+    if (transferred)
+        *transferred = put < 0 ? 0 : static_cast<quint32>(put);
+    return put >= 0;
+}
+
+bool LinuxPlatform::DeviceIoControl(RawHandle handle, quint32 code, const void *, quint32, void *out,
+                                    quint32 outSize, quint32 *returned)
+{
+    const auto open = find(handle);
+    if (returned)
+        *returned = 0;
+    if (!open)
+        return false;
+    const io::DiskGeometry geometry = geometryOf(*open->device, open->mediaType);
+    switch (code) {
+    case io::DiskGetDriveGeometry:
+        return answer(geometry, out, outSize, returned);
+    case io::DiskGetDriveGeometryEx:
+        return answer(io::DiskGeometryEx{geometry, open->device->size(), {}}, out, outSize, returned);
+    case io::VolumeGetVolumeDiskExtents:
+        return answerExtents(open->extents, out, outSize, returned);
+    default:
+        // SMART comes from smartctl alone.
+        return false;
+    }
+}
+
+void LinuxPlatform::CloseHandle(RawHandle handle)
+{
+    std::shared_ptr<OpenDevice>
+        last; // closed behind the lock: closing a disk that was written to takes its time
+    const std::lock_guard<std::mutex> guard(m_mutex);
+    last = m_open.take(handle);
+}
+
+// Volumes
+
+lsblk::Inventory LinuxPlatform::pc()
+{
+    {
+        const std::lock_guard<std::mutex> guard(m_mutex);
+        if (m_pc)
+            return *m_pc;
+    }
+    return readPc();
+}
+
+QStringList LinuxPlatform::GetLogicalDriveStringsW()
+{
+    // The list of disks is built from here, so this is where the PC is looked at again.
+    QStringList roots;
+    for (const inventory::Volume &volume : readPc().machine.volumes)
+        roots.append(QString(volume.letter) + QLatin1String(":\\"));
+    roots.sort();
+    return roots;
+}
+
+std::optional<inventory::Volume> LinuxPlatform::volumeOf(const QString &root)
+{
+    const QChar letter = root.isEmpty() ? QChar() : root.at(0).toUpper();
+    for (const inventory::Volume &volume : pc().machine.volumes) {
+        if (volume.letter == letter)
+            return volume;
+    }
+    return std::nullopt;
+}
+
+bool LinuxPlatform::GetVolumeInformationW(const QString &root, QString *label, QString *fileSystem)
+{
+    const auto volume = volumeOf(root);
+    const bool readable = volume && !volume->fileSystem.isEmpty();
+    if (label)
+        *label = readable ? volume->label : QString();
+    if (fileSystem)
+        *fileSystem = readable ? volume->fileSystem : QString();
+    return readable;
+}
+
+quint32 LinuxPlatform::GetDriveTypeW(const QString &root)
+{
+    const auto volume = volumeOf(root);
+    if (!volume)
+        return io::DriveNoRootDir;
+    if (volume->type == QLatin1String("cdrom"))
+        return io::DriveCdrom;
+    return volume->type == QLatin1String("removable") ? io::DriveRemovable : io::DriveFixed;
+}
+
+bool LinuxPlatform::GetDiskFreeSpaceExW(const QString &root, quint64 *totalBytes, quint64 *freeBytes)
+{
+    const auto volume = volumeOf(root);
+    if (totalBytes)
+        *totalBytes = volume ? volume->size : 0;
+    if (freeBytes)
+        *freeBytes = volume ? volume->free : 0;
+    return volume && volume->size > 0;
+}
+
+// Folders and names
+
+QString LinuxPlatform::GetTempPathW()
+{
+    return folders::privateTemp() + QLatin1Char('/');
+}
+
+QString LinuxPlatform::GetSystemDirectoryW()
+{
+    return QStringLiteral("C:\\Windows\\system32");
+}
+
+QString LinuxPlatform::GetUserNameW()
+{
+    const passwd *entry = getpwuid(geteuid());
+    return entry ? QString::fromLocal8Bit(entry->pw_name) : qEnvironmentVariable("USER");
+}
+
+QString LinuxPlatform::HistoryFolder(const QString &applicationFolder)
+{
+    const QString path = QDir::cleanPath(applicationFolder);
+    // An installed program keeps nothing beside itself, even if root runs it.
+    const bool installed = path.startsWith(QLatin1String("/usr/")) || path.startsWith(QLatin1String("/opt/"));
+    if (!installed && QFileInfo(path).isDir() && QFileInfo(path).isWritable())
+        return path;
+    const QString own = folders::data() + QLatin1String("/history");
+    QDir().mkpath(own);
+    return own;
+}
+
+QString LinuxPlatform::NativePath(const QString &path) const
+{
+    QString native = path;
+    return native.replace(QLatin1Char('\\'), QLatin1Char('/'));
+}
+
+QByteArray LinuxPlatform::CommandInterpreter()
+{
+    return qgetenv("COMSPEC");
+}
+
+QString LinuxPlatform::OperatingSystemName()
+{
+    const QString machine = QSysInfo::currentCpuArchitecture();
+    const QString word = machine == QLatin1String("x86_64") ? QStringLiteral("x64") : machine;
+    return QStringLiteral("%1 (%2) %3").arg(QSysInfo::prettyProductName(), QSysInfo::kernelVersion(), word);
+}
+
+// Power, display, network, time
+
+void LinuxPlatform::SetThreadExecutionState(quint32 flags)
+{
+    if ((flags & ExecutionContinuous) == 0)
+        return;
+    if ((flags & ExecutionRequired) != 0)
+        m_inhibitor.hold();
+    else
+        m_inhibitor.release();
+}
+
+int LinuxPlatform::LogPixelsX()
+{
+    const QScreen *screen = qGuiApp ? QGuiApplication::primaryScreen() : nullptr;
+    return screen ? qRound(screen->logicalDotsPerInchX()) : 96;
+}
+
+qint32 LinuxPlatform::URLDownloadToFileW(const QString &url, const QString &path)
+{
+    return httpDownload(url, NativePath(path));
+}
+
+void LinuxPlatform::Sleep(quint32 milliseconds)
+{
+    QThread::msleep(milliseconds);
+}
+
+// Volume arrival and removal
+
+DeviceNotifier *LinuxPlatform::deviceNotifier()
+{
+    return &m_notifier;
+}
+
+std::optional<DeviceChange> LinuxPlatform::decodeDeviceMessage(const QByteArray &, void *)
+{
+    return std::nullopt;
+}
+
+// Logon task
+
+void LinuxPlatform::InitializeCom() {}
+
+void LinuxPlatform::CreateLogonTask(const LogonTask &task)
+{
+    LogonTask native = task;
+    native.program = findProgram(NativePath(task.program));
+    if (native.program.isEmpty())
+        native.program = NativePath(task.program);
+    logonentry::create(folders::autostart(), native);
+}
+
+void LinuxPlatform::DeleteLogonTask(const QString &name)
+{
+    logonentry::remove(folders::autostart(), name);
+}
+
+// Settings
+
+std::unique_ptr<QSettings> LinuxPlatform::OpenSettings(const QString &registryPath)
+{
+    if (registryPath.isEmpty())
+        return jsonsettings::openNothing();
+    return jsonsettings::open(jsonsettings::fileOf(folders::configuration(), registryPath));
+}
+
+std::unique_ptr<Platform> makeNativePlatform()
+{
+    return std::make_unique<LinuxPlatform>();
+}

@@ -1,0 +1,86 @@
+#pragma once
+
+#include "platform/Platform.h"
+#include "platform/linux/LsblkInventory.h"
+#include "platform/linux/RawDevice.h"
+#include "platform/linux/SleepInhibitor.h"
+#include "platform/tools/CommandInterpreter.h"
+
+#include <QHash>
+
+#include <mutex>
+
+/// A Linux PC. HALVANE_DISKS, nodes with colons between them, limits it to those disks, in that order.
+class LinuxPlatform : public Platform
+{
+public:
+    LinuxPlatform();
+    ~LinuxPlatform() override;
+
+    RawHandle CreateFileW(const QString &name, quint32 access, quint32 shareMode,
+                          quint32 disposition) override;
+    bool SetFilePointer(RawHandle handle, qint64 byteOffset) override;
+    bool ReadFile(RawHandle handle, void *buffer, quint32 bytes, quint32 *transferred) override;
+    bool WriteFile(RawHandle handle, const void *buffer, quint32 bytes, quint32 *transferred) override;
+    bool DeviceIoControl(RawHandle handle, quint32 code, const void *in, quint32 inSize, void *out,
+                         quint32 outSize, quint32 *returned) override;
+    void CloseHandle(RawHandle handle) override;
+
+    QStringList GetLogicalDriveStringsW() override;
+    bool GetVolumeInformationW(const QString &root, QString *label, QString *fileSystem) override;
+    quint32 GetDriveTypeW(const QString &root) override;
+    bool GetDiskFreeSpaceExW(const QString &root, quint64 *totalBytes, quint64 *freeBytes) override;
+
+    bool CreateProcessAndWait(const std::wstring &line, bool hidden) override;
+    bool ShellExecute(const QString &file, const QString &parameters, const QString &verb) override;
+    bool OpenUrl(const QUrl &url) override;
+
+    QString GetTempPathW() override;
+    QString GetSystemDirectoryW() override;
+    QString GetUserNameW() override;
+    QString HistoryFolder(const QString &applicationFolder) override;
+    QString NativePath(const QString &path) const override;
+    QByteArray CommandInterpreter() override;
+    QString OperatingSystemName() override;
+
+    void SetThreadExecutionState(quint32 flags) override;
+    int LogPixelsX() override;
+    qint32 URLDownloadToFileW(const QString &url, const QString &path) override;
+    void Sleep(quint32 milliseconds) override;
+
+    DeviceNotifier *deviceNotifier() override;
+    std::optional<DeviceChange> decodeDeviceMessage(const QByteArray &eventType, void *message) override;
+
+    void InitializeCom() override;
+    void CreateLogonTask(const LogonTask &task) override;
+    void DeleteLogonTask(const QString &name) override;
+
+    std::unique_ptr<QSettings> OpenSettings(const QString &registryPath) override;
+
+private:
+    /// An open handle: the device, and what it was opened as.
+    struct OpenDevice {
+        std::unique_ptr<RawDevice> device;
+        quint32 mediaType = 0;
+        QVector<inventory::Extent> extents; ///< of a volume
+    };
+
+    void addTools();
+    /// The program that a file name stands for, with or without ".exe": a path, or a name beside the program
+    /// or in the search path. Empty if there is none.
+    static QString findProgram(const QString &file);
+    /// The PC as it was last read; read now if it never was.
+    lsblk::Inventory pc();
+    /// Reads the PC anew.
+    lsblk::Inventory readPc();
+    std::optional<inventory::Volume> volumeOf(const QString &root);
+    std::shared_ptr<OpenDevice> find(RawHandle handle);
+
+    std::mutex m_mutex;
+    std::optional<lsblk::Inventory> m_pc;
+    QHash<RawHandle, std::shared_ptr<OpenDevice>> m_open;
+    RawHandle m_nextHandle = 1;
+    tools::CommandInterpreter m_interpreter;
+    SleepInhibitor m_inhibitor;
+    DeviceNotifier m_notifier;
+};

@@ -1,0 +1,134 @@
+// The part of LinuxPlatform that starts other programs and asks them about the PC.
+
+#include "platform/linux/LinuxPlatform.h"
+#include "platform/linux/LinuxTools.h"
+#include "platform/tools/SystemTools.h"
+
+#include <QCoreApplication>
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QStorageInfo>
+#include <QUrl>
+
+namespace
+{
+
+/// The nodes of HALVANE_DISKS by their real names.
+QStringList onlyNodes()
+{
+    QStringList nodes;
+    for (const QString &node :
+         qEnvironmentVariable("HALVANE_DISKS").split(QLatin1Char(':'), Qt::SkipEmptyParts)) {
+        const QString real = QFileInfo(node).canonicalFilePath();
+        nodes.append(real.isEmpty() ? node : real);
+    }
+    return nodes;
+}
+
+QByteArray runLsblk()
+{
+    QProcess process;
+    process.setStandardErrorFile(QProcess::nullDevice());
+    process.start(QStringLiteral("lsblk"), lsblk::arguments(), QIODevice::ReadOnly);
+    process.waitForFinished(-1);
+    return process.readAllStandardOutput();
+}
+
+} // namespace
+
+lsblk::Inventory LinuxPlatform::readPc()
+{
+    lsblk::Inventory read = lsblk::parse(runLsblk(), onlyNodes());
+    for (inventory::Volume &volume : read.machine.volumes) {
+        const QStorageInfo storage(volume.mountPoint);
+        volume.size = static_cast<quint64>(std::max<qint64>(0, storage.bytesTotal()));
+        volume.free = static_cast<quint64>(std::max<qint64>(0, storage.bytesFree()));
+        if (volume.fileSystem.isEmpty())
+            volume.fileSystem = QString::fromLocal8Bit(storage.fileSystemType());
+    }
+    for (inventory::Disk &disk : read.machine.disks) {
+        if (disk.sectors != 0)
+            continue;
+        if (const auto device = RawDevice::open(disk.node, false)) {
+            disk.sectors = static_cast<quint64>(device->size()) / 512;
+            disk.bytesPerSector = device->bytesPerSector();
+        }
+    }
+    const std::lock_guard<std::mutex> guard(m_mutex);
+    m_pc = read;
+    return read;
+}
+
+void LinuxPlatform::addTools()
+{
+    const auto smartctl = [this](const QStringList &arguments, const QByteArray &) {
+        return linuxtools::smartctl(pc().machine, arguments);
+    };
+    m_interpreter.addTool(QStringLiteral("smartctl"), smartctl);
+    m_interpreter.addTool(QStringLiteral("smartctl64bit"), smartctl);
+    m_interpreter.addTool(QStringLiteral("wmic"), [this](const QStringList &arguments, const QByteArray &) {
+        return tools::wmic(readPc().machine, arguments);
+    });
+    m_interpreter.addTool(QStringLiteral("manage-bde"),
+                          [this](const QStringList &arguments, const QByteArray &) {
+                              return tools::manageBde(pc().machine, arguments);
+                          });
+    m_interpreter.addTool(QStringLiteral("tasklist"), [](const QStringList &, const QByteArray &) {
+        inventory::Machine machine;
+        machine.processes = linuxtools::processes();
+        return tools::tasklist(machine);
+    });
+    m_interpreter.addTool(QStringLiteral("findstr"), tools::findstr);
+    m_interpreter.addTool(QStringLiteral("taskkill"), [](const QStringList &arguments, const QByteArray &) {
+        return linuxtools::taskkill(arguments);
+    });
+    m_interpreter.addTool(QStringLiteral("shutdown"), [](const QStringList &arguments, const QByteArray &) {
+        return linuxtools::shutdown(arguments);
+    });
+}
+
+bool LinuxPlatform::CreateProcessAndWait(const std::wstring &line, bool)
+{
+    return m_interpreter.run(line, [this](const QString &path) { return NativePath(path); });
+}
+
+QString LinuxPlatform::findProgram(const QString &file)
+{
+    QStringList names{file};
+    if (file.endsWith(QLatin1String(".exe"), Qt::CaseInsensitive))
+        names.append(file.left(file.size() - 4));
+    for (const QString &name : names) {
+        if (name.contains(QLatin1Char('/'))) {
+            if (QFileInfo(name).isFile() && QFileInfo(name).isExecutable())
+                return name;
+            continue;
+        }
+        const QString beside = QStandardPaths::findExecutable(name, {QCoreApplication::applicationDirPath()});
+        const QString found = beside.isEmpty() ? QStandardPaths::findExecutable(name) : beside;
+        if (!found.isEmpty())
+            return found;
+    }
+    return {};
+}
+
+bool LinuxPlatform::ShellExecute(const QString &file, const QString &parameters, const QString &)
+{
+    const QUrl url(file);
+    const bool isAddress = url.scheme().size() > 1;
+    if (!isAddress) {
+        const QString program = findProgram(NativePath(file));
+        if (!program.isEmpty())
+            return QProcess::startDetached(program, QProcess::splitCommand(parameters));
+    }
+    const QString opener = QStandardPaths::findExecutable(QStringLiteral("xdg-open"));
+    if (file.isEmpty() || opener.isEmpty())
+        return false;
+    return QProcess::startDetached(opener, {isAddress ? file : NativePath(file)});
+}
+
+bool LinuxPlatform::OpenUrl(const QUrl &url)
+{
+    return QDesktopServices::openUrl(url);
+}

@@ -1,0 +1,138 @@
+#include "platform/linux/LinuxTools.h"
+
+#include "platform/tools/SystemTools.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QStandardPaths>
+
+#include <algorithm>
+#include <csignal>
+#include <unistd.h>
+
+namespace linuxtools
+{
+
+namespace
+{
+
+const QString DevicePrefix = QStringLiteral("/dev/sd");
+const QString ImageSuffix = QStringLiteral(".exe");
+
+/// The processes that /proc shows, by number.
+QStringList processFolders()
+{
+    QStringList numbers = QDir(QStringLiteral("/proc")).entryList(QDir::Dirs);
+    numbers.erase(std::remove_if(numbers.begin(), numbers.end(),
+                                 [](const QString &name) { return !name.at(0).isDigit(); }),
+                  numbers.end());
+    return numbers;
+}
+
+/// The file name of a process's program; the kernel's short name where the program cannot be seen.
+QString imageOf(const QString &processNumber)
+{
+    const QString folder = QStringLiteral("/proc/") + processNumber;
+    const QString program = QFile::symLinkTarget(folder + QStringLiteral("/exe"));
+    if (!program.isEmpty())
+        return QFileInfo(program).fileName();
+    QFile name(folder + QStringLiteral("/comm"));
+    return name.open(QIODevice::ReadOnly) ? QString::fromLocal8Bit(name.readAll()).trimmed() : QString();
+}
+
+QString findSystemTool(const QString &name)
+{
+    const QString found = QStandardPaths::findExecutable(name);
+    // Users other than root often lack these folders in their path.
+    return found.isEmpty()
+               ? QStandardPaths::findExecutable(name, {QStringLiteral("/usr/local/sbin"),
+                                                       QStringLiteral("/usr/sbin"), QStringLiteral("/sbin")})
+               : found;
+}
+
+QByteArray runTool(const QString &name, const QStringList &arguments)
+{
+    const QString program = findSystemTool(name);
+    if (program.isEmpty())
+        return {};
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));
+    process.setProcessEnvironment(environment);
+    process.setStandardInputFile(QProcess::nullDevice());
+    process.setStandardErrorFile(QProcess::nullDevice());
+    process.start(program, arguments, QIODevice::ReadOnly);
+    process.waitForFinished(-1);
+    return process.readAllStandardOutput();
+}
+
+} // namespace
+
+QStringList processes()
+{
+    QStringList images;
+    for (const QString &number : processFolders()) {
+        const QString image = imageOf(number);
+        if (!image.isEmpty())
+            images.append(image + ImageSuffix);
+    }
+    return images;
+}
+
+QStringList smartctlArguments(const inventory::Machine &machine, const QStringList &arguments)
+{
+    QStringList translated = arguments;
+    for (QString &word : translated) {
+        if (!word.startsWith(DevicePrefix))
+            continue;
+        const int number = word.size() == DevicePrefix.size() + 1 ? word.back().unicode() - 'a' : -1;
+        const auto disk = std::find_if(machine.disks.cbegin(), machine.disks.cend(),
+                                       [number](const inventory::Disk &d) { return d.number == number; });
+        if (disk == machine.disks.cend())
+            return {};
+        word = disk->node;
+    }
+    return translated;
+}
+
+QByteArray smartctl(const inventory::Machine &machine, const QStringList &arguments)
+{
+    const QStringList words = smartctlArguments(machine, arguments);
+    return words.isEmpty() ? QByteArray() : runTool(QStringLiteral("smartctl"), words);
+}
+
+QByteArray taskkill(const QStringList &arguments)
+{
+    QString image = tools::taskkillTarget(arguments);
+    if (image.isEmpty())
+        return {};
+    if (image.endsWith(ImageSuffix, Qt::CaseInsensitive))
+        image.chop(ImageSuffix.size());
+    const int signalNumber =
+        arguments.contains(QStringLiteral("/F"), Qt::CaseInsensitive) ? SIGKILL : SIGTERM;
+
+    QByteArray said;
+    for (const QString &number : processFolders()) {
+        const pid_t id = number.toInt();
+        const bool own = QFileInfo(QStringLiteral("/proc/") + number).ownerId() == geteuid();
+        if (id <= 1 || id == getpid() || !own || imageOf(number).compare(image, Qt::CaseInsensitive) != 0)
+            continue;
+        if (kill(id, signalNumber) == 0)
+            said += QStringLiteral("SUCCESS: The process \"%1\" with PID %2 has been terminated.\r\n")
+                        .arg(tools::taskkillTarget(arguments))
+                        .arg(id)
+                        .toLocal8Bit();
+    }
+    return said;
+}
+
+QByteArray shutdown(const QStringList &arguments)
+{
+    if (arguments.contains(QStringLiteral("/s"), Qt::CaseInsensitive))
+        runTool(QStringLiteral("shutdown"), {QStringLiteral("-h"), QStringLiteral("+1")});
+    return {};
+}
+
+} // namespace linuxtools

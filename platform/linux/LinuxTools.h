@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QByteArray>
+#include <QStringList>
+
+#include "platform/Inventory.h"
+
+/// The system's tools on a Linux PC, behind the names that the program calls them by.
+namespace linuxtools
+{
+
+/// The image names of the running processes, each with ".exe" behind it as the program knows its companion.
+QStringList processes();
+
+/// Runs the installed smartctl: "/dev/sda" + N becomes the node of disk number N, all other words are passed
+/// on. Gives its standard output; nothing where it is not installed or no such disk is known.
+QByteArray smartctl(const inventory::Machine &machine, const QStringList &arguments);
+
+/// The words for the installed smartctl; empty where the device named is no disk of the machine.
+QStringList smartctlArguments(const inventory::Machine &machine, const QStringList &arguments);
+
+/// Ends this user's processes of the image named, at once with /F.
+QByteArray taskkill(const QStringList &arguments);
+
+/// Powers the machine off for `/s`, after a minute in which it can be called off.
+QByteArray shutdown(const QStringList &arguments);
+
+} // namespace linuxtools

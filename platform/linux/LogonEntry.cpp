@@ -1,0 +1,65 @@
+#include "platform/linux/LogonEntry.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSaveFile>
+
+namespace logonentry
+{
+
+namespace
+{
+
+/// A value on one line.
+QString plain(QString text)
+{
+    text.replace(QLatin1Char('\\'), QLatin1String("\\\\"));
+    return text.replace(QLatin1Char('\n'), QLatin1String("\\n"));
+}
+
+/// A word of the Exec line: quoted first, then written as a value, and its percent signs are no field codes.
+QString quoted(const QString &word)
+{
+    QString inner;
+    for (const QChar c : word) {
+        if (c == QLatin1Char('"') || c == QLatin1Char('`') || c == QLatin1Char('$') || c == QLatin1Char('\\'))
+            inner += QLatin1Char('\\');
+        inner += c;
+        if (c == QLatin1Char('%'))
+            inner += c;
+    }
+    return plain(QLatin1Char('"') + inner + QLatin1Char('"'));
+}
+
+QString fileOf(const QString &folder, QString name)
+{
+    name.replace(QLatin1Char('/'), QLatin1Char('_'));
+    return folder + QLatin1Char('/') + name + QLatin1String(".desktop");
+}
+
+} // namespace
+
+QByteArray compose(const LogonTask &task)
+{
+    QString exec = quoted(task.program);
+    for (const QString &word : task.arguments.split(QLatin1Char(' '), Qt::SkipEmptyParts))
+        exec += QLatin1Char(' ') + quoted(word);
+    return QStringLiteral(
+               "[Desktop Entry]\nType=Application\nName=%1\nExec=%2\nTerminal=false\nNoDisplay=true\n")
+        .arg(plain(task.name), exec)
+        .toUtf8();
+}
+
+bool create(const QString &folder, const LogonTask &task)
+{
+    QDir().mkpath(folder);
+    QSaveFile file(fileOf(folder, task.name));
+    return file.open(QIODevice::WriteOnly) && file.write(compose(task)) >= 0 && file.commit();
+}
+
+void remove(const QString &folder, const QString &name)
+{
+    QFile::remove(fileOf(folder, name));
+}
+
+} // namespace logonentry

@@ -1,0 +1,360 @@
+#include "platform/linux/LsblkInventory.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QMap>
+
+#include <algorithm>
+#include <tuple>
+
+namespace lsblk
+{
+
+namespace
+{
+
+using inventory::Disk;
+using inventory::Extent;
+using inventory::Partition;
+using inventory::Volume;
+
+constexpr quint64 SectorSize = 512;
+const QString EfiSystemGuid = QStringLiteral("c12a7328-f81f-11d2-ba4b-00a0c93ec93b");
+const QString BasicDataGuid = QStringLiteral("ebd0a0a2-b9e5-4433-87c0-68b6b72699c7");
+const QString EfiSystemByte = QStringLiteral("0xef");
+
+/// How a bus shows in the disk table. The model's last two words are the bus and the word Device, as on every
+/// system that names a disk by its driver.
+struct Bus {
+    const char *transport;
+    const char *interface;
+    const char *word;
+};
+
+constexpr Bus Buses[] = {
+    {"sata", "IDE", "ATA"},  {"ata", "IDE", "ATA"},  {"usb", "USB", "USB"},
+    {"nvme", "SCSI", "NVM"}, {"sas", "SCSI", "SAS"}, {"mmc", "SD", "MMC"},
+};
+constexpr Bus OtherBus{"", "SCSI", "HDD"};
+
+/// File systems by the names that the program knows.
+struct FileSystemName {
+    const char *kernel;
+    const char *version;
+    const char *name;
+};
+
+constexpr FileSystemName FileSystemNames[] = {
+    {"ntfs", "", "NTFS"},     {"ntfs3", "", "NTFS"},    {"exfat", "", "exFAT"},
+    {"vfat", "FAT12", "FAT"}, {"vfat", "FAT16", "FAT"}, {"vfat", "", "FAT32"},
+};
+
+QString text(const QJsonObject &device, const char *key)
+{
+    return device.value(QLatin1String(key)).toString().simplified();
+}
+
+/// Numbers are quoted by older versions of lsblk.
+quint64 number(const QJsonObject &device, const char *key)
+{
+    const QJsonValue value = device.value(QLatin1String(key));
+    return value.isString() ? value.toString().toULongLong()
+                            : static_cast<quint64>(std::max(0.0, value.toDouble()));
+}
+
+bool flag(const QJsonObject &device, const char *key)
+{
+    const QJsonValue value = device.value(QLatin1String(key));
+    return value.isString() ? value.toString() == QLatin1String("1") : value.toBool();
+}
+
+QJsonArray children(const QJsonObject &device)
+{
+    return device.value(QLatin1String("children")).toArray();
+}
+
+/// Where a device is mounted: "/" before all others; empty where it is not in the folder tree.
+QString mountPoint(const QJsonObject &device)
+{
+    QString first;
+    for (const QJsonValue &value : device.value(QLatin1String("mountpoints")).toArray()) {
+        const QString point = value.toString();
+        if (point == QLatin1String("/"))
+            return point;
+        if (first.isEmpty() && point.startsWith(QLatin1Char('/')))
+            first = point;
+    }
+    return first;
+}
+
+const Bus &busOf(const QJsonObject &device)
+{
+    const QString transport = text(device, "tran");
+    const bool isCard = transport.isEmpty() && text(device, "kname").startsWith(QLatin1String("mmcblk"));
+    for (const Bus &bus : Buses) {
+        if (transport == QLatin1String(bus.transport) || (isCard && bus.transport == QLatin1String("mmc")))
+            return bus;
+    }
+    return OtherBus;
+}
+
+QString modelOf(const QJsonObject &device)
+{
+    const QString vendor = text(device, "vendor");
+    QString model = text(device, "model");
+    if (model.isEmpty())
+        model = QLatin1String("Disk ") + text(device, "kname");
+    // SATA disks bear the bus as their vendor, virtual ones a number.
+    else if (!vendor.isEmpty() && vendor != QLatin1String("ATA") && !vendor.startsWith(QLatin1String("0x")))
+        model = vendor + QLatin1Char(' ') + model;
+    return QStringLiteral("%1 %2 Device").arg(model, QLatin1String(busOf(device).word));
+}
+
+QString statusOf(const QJsonObject &device)
+{
+    const QString state = text(device, "state");
+    const bool works = state.isEmpty() || state == QLatin1String("running") || state == QLatin1String("live");
+    return works ? QStringLiteral("OK") : QStringLiteral("Error");
+}
+
+Disk toDisk(const QJsonObject &device, int diskNumber)
+{
+    Disk disk;
+    disk.number = diskNumber;
+    disk.media = flag(device, "rm") ? QStringLiteral("removable") : QStringLiteral("fixed");
+    disk.model = modelOf(device);
+    disk.interface = QLatin1String(busOf(device).interface);
+    disk.status = statusOf(device);
+    if (const quint64 sectorSize = number(device, "log-sec"); sectorSize >= SectorSize)
+        disk.bytesPerSector = static_cast<quint32>(sectorSize);
+    disk.sectors = number(device, "size") / SectorSize;
+    disk.node = text(device, "path");
+    return disk;
+}
+
+/// Kernel names ascend by class, then by length: sdz before sdaa, nvme9n1 before nvme10n1.
+bool nameBefore(const QJsonObject &left, const QJsonObject &right)
+{
+    const auto rank = [](const QString &name) { return std::make_tuple(name.left(2), name.size(), name); };
+    return rank(text(left, "kname")) < rank(text(right, "kname"));
+}
+
+bool isPhysicalDisk(const QJsonObject &device)
+{
+    const QString name = text(device, "kname");
+    return text(device, "type") == QLatin1String("disk") && !name.startsWith(QLatin1String("zram")) &&
+           !name.startsWith(QLatin1String("ram"));
+}
+
+QVector<QJsonObject> findNode(const QJsonArray &devices, const QString &node)
+{
+    for (const QJsonValue &value : devices) {
+        const QJsonObject device = value.toObject();
+        if (text(device, "path") == node)
+            return {device};
+        const QVector<QJsonObject> deeper = findNode(children(device), node);
+        if (!deeper.isEmpty())
+            return deeper;
+    }
+    return {};
+}
+
+QVector<QJsonObject> chooseDisks(const QJsonArray &devices, const QStringList &onlyNodes)
+{
+    QVector<QJsonObject> disks;
+    for (const QString &node : onlyNodes) {
+        const QVector<QJsonObject> found = findNode(devices, node);
+        const QString name = node.mid(node.lastIndexOf(QLatin1Char('/')) + 1);
+        disks.append(!found.isEmpty()
+                         ? found.first()
+                         : QJsonObject{{QStringLiteral("path"), node}, {QStringLiteral("kname"), name}});
+    }
+    if (!onlyNodes.isEmpty())
+        return disks;
+
+    for (const QJsonValue &value : devices) {
+        if (isPhysicalDisk(value.toObject()))
+            disks.append(value.toObject());
+    }
+    std::sort(disks.begin(), disks.end(), nameBefore);
+    return disks;
+}
+
+QString fileSystemName(const QJsonObject &device)
+{
+    const QString kernel = text(device, "fstype");
+    for (const FileSystemName &known : FileSystemNames) {
+        const QString version = QLatin1String(known.version);
+        if (kernel == QLatin1String(known.kernel) && (version.isEmpty() || version == text(device, "fsver")))
+            return QLatin1String(known.name);
+    }
+    return kernel;
+}
+
+/// Gathers the mounted volumes of the device trees.
+class VolumeCollector
+{
+public:
+    /// `extent` is where the device lies, `holder` the file system type of the device that it lies in.
+    void collect(const QJsonObject &device, const Extent &extent, const QString &holder, bool removable)
+    {
+        const QString point = mountPoint(device);
+        if (!point.isEmpty())
+            add(device, point, extent, holder, removable);
+        for (const QJsonValue &value : children(device)) {
+            const QJsonObject child = value.toObject();
+            Extent inner = extent;
+            if (text(child, "type") == QLatin1String("part")) {
+                inner.offset = extent.offset + number(child, "start") * SectorSize;
+                inner.length = number(child, "size");
+            }
+            collect(child, inner, text(device, "fstype"), removable);
+        }
+    }
+
+    /// The volumes with their letters.
+    void finish(Inventory &result) const
+    {
+        char letter = 'C';
+        // The map is sorted by mount point, so that "/" comes first where it is there.
+        if (!m_volumes.contains(QStringLiteral("/")))
+            ++letter;
+        for (auto it = m_volumes.cbegin(); it != m_volumes.cend() && letter <= 'Z'; ++it, ++letter) {
+            Volume volume = it.value();
+            volume.letter = QLatin1Char(letter);
+            result.volumeNodes.insert(volume.letter, m_nodes.value(it.key()));
+            result.machine.volumes.append(volume);
+        }
+    }
+
+    /// The extent that "/" begins with; a length of 0 if it is not there.
+    Extent systemExtent() const { return m_volumes.value(QStringLiteral("/")).extents.value(0); }
+
+private:
+    void add(const QJsonObject &device, const QString &point, const Extent &extent, const QString &holder,
+             bool removable)
+    {
+        Volume &volume = m_volumes[point];
+        volume.extents.append(extent);
+        if (volume.extents.size() > 1)
+            return; // a volume over several disks comes once for each of them
+        volume.mountPoint = point;
+        volume.label = text(device, "label");
+        volume.fileSystem = fileSystemName(device);
+        volume.hasBitLockerLine = true;
+        volume.bitLocker =
+            holder == QLatin1String("BitLocker") ? QStringLiteral("2.0") : QStringLiteral("None");
+        volume.type = QStringLiteral("fixed");
+        if (text(device, "type") == QLatin1String("rom"))
+            volume.type = QStringLiteral("cdrom");
+        else if (removable)
+            volume.type = QStringLiteral("removable");
+        m_nodes.insert(point, text(device, "path"));
+    }
+
+    QMap<QString, Volume> m_volumes; ///< by mount point
+    QHash<QString, QString> m_nodes;
+};
+
+bool isEfiSystem(const QJsonObject &partition)
+{
+    const QString type = text(partition, "parttype").toLower();
+    return type == EfiSystemGuid || type == EfiSystemByte;
+}
+
+QString partitionType(const QJsonObject &partition, const QString &tableType, bool system)
+{
+    if (tableType != QLatin1String("gpt"))
+        return system ? QStringLiteral("Installable File System") : QStringLiteral("Unknown");
+    if (system)
+        return QStringLiteral("GPT: System");
+    return text(partition, "parttype").toLower() == BasicDataGuid ? QStringLiteral("GPT: Basic Data")
+                                                                  : QStringLiteral("GPT: Unknown");
+}
+
+/// A partition found on a disk, or a disk that is one volume.
+struct FoundPartition {
+    QJsonObject device;
+    int disk = 0;
+    int index = 0;
+    quint64 offset = 0;
+    QString tableType;
+};
+
+QVector<FoundPartition> findPartitions(const QVector<QJsonObject> &disks)
+{
+    QVector<FoundPartition> found;
+    for (int disk = 0; disk < disks.size(); ++disk) {
+        const QJsonObject &device = disks.at(disk);
+        QVector<FoundPartition> ofDisk;
+        for (const QJsonValue &value : children(device)) {
+            const QJsonObject child = value.toObject();
+            if (text(child, "type") == QLatin1String("part"))
+                ofDisk.append({child, disk, 0, number(child, "start") * SectorSize, text(device, "pttype")});
+        }
+        if (ofDisk.isEmpty() && !mountPoint(device).isEmpty())
+            ofDisk.append({device, disk, 0, 0, QString()});
+        std::sort(ofDisk.begin(), ofDisk.end(),
+                  [](const auto &left, const auto &right) { return left.offset < right.offset; });
+        for (int i = 0; i < ofDisk.size(); ++i)
+            ofDisk[i].index = i;
+        found += ofDisk;
+    }
+    return found;
+}
+
+/// The system partition is the one that the machine starts from, else the one that "/" lies on.
+void addPartitions(const QVector<QJsonObject> &disks, const Extent &systemExtent, Inventory &result)
+{
+    const QVector<FoundPartition> found = findPartitions(disks);
+    const bool hasEfi = std::any_of(found.cbegin(), found.cend(),
+                                    [](const FoundPartition &item) { return isEfiSystem(item.device); });
+    for (const FoundPartition &item : found) {
+        const bool holdsRoot =
+            systemExtent.length > 0 && item.disk == systemExtent.disk && item.offset == systemExtent.offset;
+        const bool system = hasEfi ? isEfiSystem(item.device) : holdsRoot;
+        Partition partition;
+        partition.name = QStringLiteral("Disk #%1, Partition #%2").arg(item.disk).arg(item.index);
+        partition.type = partitionType(item.device, item.tableType, system);
+        partition.size = number(item.device, "size");
+        partition.disk = item.disk;
+        result.machine.partitions.append(partition);
+    }
+}
+
+} // namespace
+
+QStringList arguments()
+{
+    return {QStringLiteral("--json"), QStringLiteral("--bytes"), QStringLiteral("--output"),
+            QStringLiteral(
+                "NAME,KNAME,PATH,TYPE,SIZE,START,LOG-SEC,RM,TRAN,VENDOR,MODEL,STATE,FSTYPE,FSVER,LABEL,"
+                "MOUNTPOINTS,PTTYPE,PARTTYPE")};
+}
+
+Inventory parse(const QByteArray &json, const QStringList &onlyNodes)
+{
+    const QJsonArray devices =
+        QJsonDocument::fromJson(json).object().value(QLatin1String("blockdevices")).toArray();
+    const QVector<QJsonObject> disks = chooseDisks(devices, onlyNodes);
+
+    Inventory result;
+    VolumeCollector volumes;
+    for (int i = 0; i < disks.size(); ++i) {
+        result.machine.disks.append(toDisk(disks.at(i), i));
+        volumes.collect(disks.at(i), {i, 0, number(disks.at(i), "size")}, QString(), flag(disks.at(i), "rm"));
+    }
+    if (onlyNodes.isEmpty()) {
+        // A disc lies on no disk of the list.
+        for (const QJsonValue &value : devices) {
+            if (text(value.toObject(), "type") == QLatin1String("rom"))
+                volumes.collect(value.toObject(), {-1, 0, 0}, QString(), true);
+        }
+    }
+    volumes.finish(result);
+    addPartitions(disks, volumes.systemExtent(), result);
+    return result;
+}
+
+} // namespace lsblk
