@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QVector>
 
 /// A PC as plain records: what the tools of platform/tools/ speak about. Linux fills it from the kernel, the

@@ -1,0 +1,172 @@
+#include "platform/simulated/DeviceControl.h"
+
+#include "platform/IoControl.h"
+
+#include <QtEndian>
+
+#include <algorithm>
+#include <cstddef>
+#include <cstring>
+
+namespace simulated
+{
+namespace
+{
+
+constexpr quint32 headsOfGeometry = 255;
+constexpr quint32 sectorsOfGeometry = 63;
+constexpr int smartBytes = 512;
+
+constexpr quint8 commandIdentify = 0xEC;
+constexpr quint8 commandSmart = 0xB0;
+constexpr quint8 smartReadData = 0xD0;
+constexpr quint8 smartEnable = 0xD8;
+
+template<typename Record>
+QByteArray bytesOf(const Record &record)
+{
+    return QByteArray(reinterpret_cast<const char *>(&record), static_cast<int>(sizeof(record)));
+}
+
+io::DiskGeometry geometryOf(const inventory::Disk &disk)
+{
+    io::DiskGeometry geometry{};
+    const quint64 cylinder = quint64(headsOfGeometry) * sectorsOfGeometry * disk.bytesPerSector;
+    geometry.cylinders = static_cast<qint64>(disk.sectors * 512 / cylinder);
+    geometry.mediaType = disk.media == QLatin1String("fixed")       ? io::MediaFixed
+                         : disk.media == QLatin1String("removable") ? io::MediaRemovable
+                                                                    : io::MediaUnknown;
+    geometry.tracksPerCylinder = headsOfGeometry;
+    geometry.sectorsPerTrack = sectorsOfGeometry;
+    geometry.bytesPerSector = disk.bytesPerSector;
+    return geometry;
+}
+
+std::optional<QByteArray> geometryAnswer(const inventory::Disk &disk, quint32 code)
+{
+    if (code == io::DiskGetDriveGeometry) {
+        return bytesOf(geometryOf(disk));
+    }
+    if (code == io::DiskGetDriveGeometryEx) {
+        io::DiskGeometryEx record{};
+        record.geometry = geometryOf(disk);
+        record.diskSize = static_cast<qint64>(disk.sectors * 512);
+        return bytesOf(record);
+    }
+    return std::nullopt;
+}
+
+void putWord(QByteArray &data, int word, quint32 value)
+{
+    qToLittleEndian(static_cast<quint16>(value), data.data() + word * 2);
+}
+
+/// Drives keep their texts padded with blanks and with the two bytes of each word swapped.
+void putText(QByteArray &data, int word, int bytes, const QString &text)
+{
+    const QByteArray padded = text.toLatin1().leftJustified(bytes, ' ', true);
+    for (int i = 0; i < bytes; i += 2) {
+        data[word * 2 + i] = padded.at(i + 1);
+        data[word * 2 + i + 1] = padded.at(i);
+    }
+}
+
+QByteArray identifyData(const Disk &disk)
+{
+    const quint64 sectors = disk.record.sectors;
+    QByteArray data(smartBytes, '\0');
+    putWord(data, 0, 0x0040);
+    putWord(data, 1, static_cast<quint32>(std::min<quint64>(16383, sectors / (16 * 63))));
+    putWord(data, 3, 16);
+    putWord(data, 6, 63);
+    putText(data, 10, 20, disk.identity->serial);
+    putText(data, 23, 8, disk.identity->firmware);
+    putText(data, 27, 40, disk.identity->model);
+    putWord(data, 49, 0x0300); // LBA and DMA
+    // The old count has 28 bits; larger drives fill it up and tell the rest in words 100 to 103.
+    const quint32 lba28 = static_cast<quint32>(std::min<quint64>(0x0FFFFFFF, sectors));
+    putWord(data, 60, lba28 & 0xFFFF);
+    putWord(data, 61, lba28 >> 16);
+    putWord(data, 82, 0x0001); // SMART supported
+    putWord(data, 85, 0x0001); // SMART enabled
+    for (int i = 0; i < 4; ++i) {
+        putWord(data, 100 + i, static_cast<quint32>((sectors >> (16 * i)) & 0xFFFF));
+    }
+    return data;
+}
+
+QByteArray driveAnswer(const QByteArray &data)
+{
+    io::SendCmdOutHeader head{};
+    head.bufferSize = static_cast<quint32>(data.size());
+    return bytesOf(head) + data;
+}
+
+std::optional<QByteArray> smartCommand(const Disk &disk, quint32 code, const QByteArray &request)
+{
+    // The one byte of data at the record's end may be left out.
+    io::SendCmdInParams in{};
+    if (static_cast<std::size_t>(request.size()) < offsetof(io::SendCmdInParams, buffer)) {
+        return std::nullopt;
+    }
+    std::memcpy(&in, request.constData(), std::min(sizeof(in), static_cast<std::size_t>(request.size())));
+    if (in.driveNumber != 0) {
+        return std::nullopt;
+    }
+    const bool smart = in.regs.command == commandSmart;
+    if (code == io::SmartSendDriveCommand) {
+        return smart && in.regs.features == smartEnable ? std::optional(driveAnswer(QByteArray()))
+                                                        : std::nullopt;
+    }
+    if (in.regs.command == commandIdentify) {
+        return driveAnswer(identifyData(disk));
+    }
+    if (smart && in.regs.features == smartReadData) {
+        return driveAnswer(disk.identity->smart.leftJustified(smartBytes, '\0', true));
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+std::optional<QByteArray> controlDisk(const Disk &disk, quint32 code, const QByteArray &request)
+{
+    if (const std::optional<QByteArray> geometry = geometryAnswer(disk.record, code)) {
+        return geometry;
+    }
+    if (!disk.identity) {
+        return std::nullopt;
+    }
+    if (code == io::SmartGetVersion) {
+        io::GetVersionInParams version{};
+        version.version = 1;
+        version.revision = 1;
+        version.ideDeviceMap = 1;
+        version.capabilities = 7;
+        return bytesOf(version);
+    }
+    if (code == io::SmartSendDriveCommand || code == io::SmartRcvDriveData) {
+        return smartCommand(disk, code, request);
+    }
+    return std::nullopt;
+}
+
+std::optional<QByteArray> controlVolume(const inventory::Volume &volume, const Disk &firstDisk, quint32 code)
+{
+    if (code != io::VolumeGetVolumeDiskExtents) {
+        return geometryAnswer(firstDisk.record, code);
+    }
+    io::VolumeDiskExtents head{};
+    head.numberOfDiskExtents = static_cast<quint32>(volume.extents.size());
+    QByteArray answer = bytesOf(head).left(static_cast<int>(offsetof(io::VolumeDiskExtents, extents)));
+    for (const inventory::Extent &extent : volume.extents) {
+        io::DiskExtent record{};
+        record.diskNumber = static_cast<quint32>(extent.disk);
+        record.startingOffset = static_cast<qint64>(extent.offset);
+        record.extentLength = static_cast<qint64>(extent.length);
+        answer += bytesOf(record);
+    }
+    return answer;
+}
+
+} // namespace simulated

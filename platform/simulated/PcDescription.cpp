@@ -1,0 +1,328 @@
+#include "platform/simulated/PcDescription.h"
+
+#include "platform/simulated/JsonReader.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QSet>
+
+#include <limits>
+
+namespace simulated
+{
+namespace
+{
+
+constexpr qint64 most = 9007199254740992; // what a JSON number tells exactly
+constexpr qint64 mostSectors = most / 512;
+
+/// The ends of a self-test; the place is the drive's own number of it.
+const QStringList &selfTestResults()
+{
+    static const QStringList words{
+        QStringLiteral("completed"),   QStringLiteral("aborted"),         QStringLiteral("interrupted"),
+        QStringLiteral("fatal error"), QStringLiteral("unknown failure"), QStringLiteral("electrical"),
+        QStringLiteral("servo"),       QStringLiteral("read failure"),    QStringLiteral("handling")};
+    return words;
+}
+
+SelfTestEnd readSelfTestEnd(const JsonReader &in, const SelfTestEnd &fallback)
+{
+    SelfTestEnd end = fallback;
+    if (in.has(QStringLiteral("result"))) {
+        end.status = in.word(QStringLiteral("result"), 0, selfTestResults());
+        end.remainingTenths = end.status == 0 ? 0 : 1;
+    }
+    end.remainingTenths =
+        static_cast<int>(in.whole(QStringLiteral("remaining"), end.remainingTenths * 10, 0, 90)) / 10;
+    return end;
+}
+
+/// The full path of a file that the description names; it has to exist.
+QString existingFile(const JsonReader &in, const QString &keyPath, const QString &name, const QString &folder)
+{
+    const QString file = QDir(folder).absoluteFilePath(name);
+    if (!QFileInfo(file).isFile() || !QFileInfo(file).isReadable()) {
+        in.fail(keyPath, file + QLatin1String(": no such file"));
+    }
+    return file;
+}
+
+QString readFileName(const JsonReader &in, const QString &key, const QString &folder)
+{
+    return in.has(key) ? existingFile(in, in.path(key), in.text(key), folder) : QString();
+}
+
+/// A text or a list of texts.
+QStringList readReports(const JsonReader &in, const QString &folder)
+{
+    const QString key = QStringLiteral("report");
+    if (!in.value(key).isArray()) {
+        const QString file = readFileName(in, key, folder);
+        return file.isEmpty() ? QStringList() : QStringList(file);
+    }
+    QStringList files;
+    const QStringList names = in.texts(key);
+    for (int i = 0; i < names.size(); ++i) {
+        files.append(
+            existingFile(in, QStringLiteral("%1[%2]").arg(in.path(key)).arg(i), names.at(i), folder));
+    }
+    return files;
+}
+
+SectorRanges readRanges(const JsonReader &in, const QString &key)
+{
+    SectorRanges ranges;
+    const QJsonArray array = in.list(key);
+    for (int i = 0; i < array.size(); ++i) {
+        const QString place = QStringLiteral("%1[%2]").arg(in.path(key)).arg(i);
+        const QJsonValue value = array.at(i);
+        if (!value.isArray()) {
+            if (value.isDouble()) {
+                ranges.add(in.wholeValue(value, place, 0, mostSectors), 1);
+            } else {
+                in.fail(place, QStringLiteral("a sector or [first, count] is wanted"));
+            }
+            continue;
+        }
+        const QJsonArray pair = value.toArray();
+        if (pair.size() != 2) {
+            in.fail(place, QStringLiteral("a sector or [first, count] is wanted"));
+            continue;
+        }
+        const qint64 first = in.wholeValue(pair.at(0), place + QLatin1String("[0]"), 0, mostSectors);
+        ranges.add(first, in.wholeValue(pair.at(1), place + QLatin1String("[1]"), 1, mostSectors));
+    }
+    return ranges;
+}
+
+std::optional<Identity> readIdentity(const JsonReader &disk)
+{
+    const QString key = QStringLiteral("identity");
+    if (!disk.has(key)) {
+        return std::nullopt;
+    }
+    const JsonReader in = disk.below(key);
+    Identity identity;
+    identity.model = in.text(QStringLiteral("model"));
+    identity.serial = in.text(QStringLiteral("serial"));
+    identity.firmware = in.text(QStringLiteral("firmware"));
+    QString hex = in.text(QStringLiteral("smart"));
+    hex.remove(QLatin1Char(' '));
+    identity.smart = QByteArray::fromHex(hex.toLatin1());
+    if (identity.smart.toHex() != hex.toLower().toLatin1() || identity.smart.size() > 512) {
+        in.fail(in.path(QStringLiteral("smart")),
+                QStringLiteral("at most 512 bytes in hexadecimal are wanted"));
+    }
+    return identity;
+}
+
+Disk readDisk(const JsonReader &in, const PcDescription &pc, const SelfTestEnd &end)
+{
+    Disk disk;
+    inventory::Disk &record = disk.record;
+    if (!in.has(QStringLiteral("number"))) {
+        in.fail(in.path(QStringLiteral("number")), QStringLiteral("a whole number is wanted"));
+    }
+    record.number = static_cast<int>(in.whole(QStringLiteral("number"), 0, 0, 127));
+    if (pc.disk(record.number) != nullptr) {
+        in.fail(in.path(QStringLiteral("number")),
+                QStringLiteral("there is a disk %1 already").arg(record.number));
+    }
+    record.media = in.text(QStringLiteral("media"), QStringLiteral("fixed"));
+    record.model = in.text(QStringLiteral("model"));
+    record.interface = in.text(QStringLiteral("interface"), QStringLiteral("SCSI"));
+    record.status = in.text(QStringLiteral("status"), QStringLiteral("OK"));
+    record.bytesPerSector = static_cast<quint32>(in.whole(QStringLiteral("bytesPerSector"), 512, 512, 65536));
+    if (record.bytesPerSector % 512 != 0) {
+        in.fail(in.path(QStringLiteral("bytesPerSector")), QStringLiteral("a multiple of 512 is wanted"));
+    }
+    record.sectors = static_cast<quint64>(in.whole(QStringLiteral("sectors"), 0, 0, mostSectors));
+    const QString image = in.text(QStringLiteral("image"));
+    record.node = image.isEmpty() ? QString() : QDir(pc.folder).absoluteFilePath(image);
+    disk.opens = in.truth(QStringLiteral("opens"), true);
+    disk.bad = readRanges(in, QStringLiteral("badSectors"));
+    disk.unwritable = readRanges(in, QStringLiteral("unwritable"));
+    disk.bytesPerSecond = static_cast<quint64>(in.whole(QStringLiteral("bytesPerSecond"), 0, 0, most));
+    disk.failsPastEnd =
+        in.word(QStringLiteral("pastEnd"), 0, {QStringLiteral("short"), QStringLiteral("fail")}) == 1;
+    disk.reports = readReports(in, pc.folder);
+    disk.capabilities = readFileName(in, QStringLiteral("capabilities"), pc.folder);
+    disk.selfTestLog = readFileName(in, QStringLiteral("selfTestLog"), pc.folder);
+    disk.identity = readIdentity(in);
+    disk.selfTestEnd = readSelfTestEnd(in.below(QStringLiteral("selfTest")), end);
+    return disk;
+}
+
+inventory::Volume readVolume(const JsonReader &in, const PcDescription &pc)
+{
+    static const QStringList types{QStringLiteral("fixed"),   QStringLiteral("removable"),
+                                   QStringLiteral("cdrom"),   QStringLiteral("remote"),
+                                   QStringLiteral("ramdisk"), QStringLiteral("noroot"),
+                                   QStringLiteral("unknown")};
+    inventory::Volume volume;
+    const QString letter = in.text(QStringLiteral("letter")).toUpper();
+    if (letter.size() != 1 || letter.at(0) < QLatin1Char('A') || letter.at(0) > QLatin1Char('Z')) {
+        in.fail(in.path(QStringLiteral("letter")), QStringLiteral("a letter from A to Z is wanted"));
+        return volume;
+    }
+    volume.letter = letter.at(0);
+    if (pc.volume(volume.letter) != nullptr) {
+        in.fail(in.path(QStringLiteral("letter")),
+                QStringLiteral("there is a volume %1 already").arg(letter));
+    }
+    volume.label = in.text(QStringLiteral("label"));
+    volume.type = types.value(in.word(QStringLiteral("type"), 0, types));
+    volume.fileSystem = in.text(QStringLiteral("fileSystem"));
+    volume.size = static_cast<quint64>(in.whole(QStringLiteral("size"), 0, 0, most));
+    volume.free = static_cast<quint64>(in.whole(QStringLiteral("free"), 0, 0, most));
+    volume.hasBitLockerLine = in.has(QStringLiteral("bitLocker"));
+    volume.bitLocker = in.text(QStringLiteral("bitLocker"));
+    in.each(QStringLiteral("extents"), [&volume](const JsonReader &from) {
+        inventory::Extent extent;
+        extent.disk = static_cast<int>(from.whole(QStringLiteral("disk"), 0, 0, 127));
+        extent.offset = static_cast<quint64>(from.whole(QStringLiteral("offset"), 0, 0, most / 2));
+        extent.length = static_cast<quint64>(from.whole(QStringLiteral("length"), 0, 0, most / 2));
+        volume.extents.append(extent);
+    });
+    return volume;
+}
+
+inventory::Partition readPartition(const JsonReader &in)
+{
+    inventory::Partition partition;
+    partition.name = in.text(QStringLiteral("name"));
+    partition.type = in.text(QStringLiteral("type"));
+    partition.size = static_cast<quint64>(in.whole(QStringLiteral("size"), 0, 0, most));
+    partition.disk = static_cast<int>(in.whole(QStringLiteral("disk"), 0, 0, 127));
+    return partition;
+}
+
+QJsonObject readSettings(const JsonReader &in)
+{
+    const QString key = QStringLiteral("settings");
+    const QJsonObject values = in.object(key);
+    for (auto it = values.begin(); it != values.end(); ++it) {
+        if (!it.value().isString() && !it.value().isDouble() && !it.value().isBool()) {
+            in.fail(QStringLiteral("%1[\"%2\"]").arg(in.path(key), it.key()),
+                    QStringLiteral("a text, a number, true or false is wanted"));
+        }
+    }
+    return values;
+}
+
+QString readHistory(const JsonReader &in, const QString &folder)
+{
+    const QString key = QStringLiteral("history");
+    const QString path = QDir(folder).absoluteFilePath(in.text(key, key));
+    if (QFileInfo(path).isDir()) {
+        return path;
+    }
+    if (in.has(key)) {
+        in.fail(key, path + QLatin1String(": no such folder"));
+    }
+    return QString();
+}
+
+void readParts(const JsonReader &in, const SelfTestEnd &end, PcDescription *pc)
+{
+    in.each(QStringLiteral("disks"),
+            [&](const JsonReader &disk) { pc->disks.append(readDisk(disk, *pc, end)); });
+    in.each(QStringLiteral("volumes"),
+            [&](const JsonReader &volume) { pc->volumes.append(readVolume(volume, *pc)); });
+    in.each(QStringLiteral("partitions"),
+            [&](const JsonReader &partition) { pc->partitions.append(readPartition(partition)); });
+}
+
+PcDescription readObject(const QJsonObject &object, const QString &folder, QString *error)
+{
+    const JsonReader in(object, QString(), error);
+    PcDescription pc;
+    pc.folder = folder;
+    pc.name = in.text(QStringLiteral("name"), QStringLiteral("PC"));
+    pc.user = in.text(QStringLiteral("user"), QStringLiteral("user"));
+    pc.operatingSystem =
+        in.text(QStringLiteral("operatingSystem"), QStringLiteral("Microsoft Windows 10 10.0.19045 x64"));
+    pc.dpi = static_cast<int>(in.whole(QStringLiteral("dpi"), 96, 48, 960));
+    pc.pauses = in.truth(QStringLiteral("pauses"), true);
+    pc.hasSmartctl = in.truth(QStringLiteral("smartctl"), true);
+    pc.processes = in.texts(QStringLiteral("processes"));
+    pc.installed = in.texts(QStringLiteral("installed"));
+    pc.settings = readSettings(in);
+    pc.history = readHistory(in, folder);
+    pc.tour = in.object(QStringLiteral("tour"));
+    const JsonReader test = in.below(QStringLiteral("selfTest"));
+    pc.secondsPerMinute = test.number(QStringLiteral("secondsPerMinute"), 1.0, 0.0, 3600.0);
+    readParts(in, readSelfTestEnd(test, SelfTestEnd()), &pc);
+    return pc;
+}
+
+/// The object of the file; on failure the error names the line.
+std::optional<QJsonObject> parseFile(const QString &path, QString *error)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        *error = QLatin1String("no such file");
+        return std::nullopt;
+    }
+    const QByteArray bytes = file.readAll();
+    QJsonParseError syntax{};
+    const QJsonDocument document = QJsonDocument::fromJson(bytes, &syntax);
+    if (syntax.error != QJsonParseError::NoError) {
+        *error = QStringLiteral("line %1: %2")
+                     .arg(bytes.left(syntax.offset).count('\n') + 1)
+                     .arg(syntax.errorString());
+        return std::nullopt;
+    }
+    if (!document.isObject()) {
+        *error = QLatin1String("an object is wanted");
+        return std::nullopt;
+    }
+    return document.object();
+}
+
+} // namespace
+
+const Disk *PcDescription::disk(int number) const
+{
+    for (const Disk &each : disks) {
+        if (each.record.number == number) {
+            return &each;
+        }
+    }
+    return nullptr;
+}
+
+const inventory::Volume *PcDescription::volume(QChar letter) const
+{
+    for (const inventory::Volume &each : volumes) {
+        if (each.letter == letter.toUpper()) {
+            return &each;
+        }
+    }
+    return nullptr;
+}
+
+std::optional<PcDescription> readPc(const QString &folder, QString *error)
+{
+    const QString path = QDir(folder).absolutePath();
+    if (!QFileInfo(path).isDir()) {
+        *error = path + QLatin1String(": no such folder");
+        return std::nullopt;
+    }
+    const QString file = path + QLatin1String("/pc.json");
+    QString wrong;
+    std::optional<PcDescription> pc;
+    if (const std::optional<QJsonObject> object = parseFile(file, &wrong)) {
+        pc = readObject(*object, path, &wrong);
+    }
+    if (!wrong.isEmpty()) {
+        *error = file + QLatin1String(": ") + wrong;
+        return std::nullopt;
+    }
+    return pc;
+}
+
+} // namespace simulated

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "platform/Inventory.h"
+#include "platform/simulated/SectorRanges.h"
+
+#include <QByteArray>
+#include <QJsonObject>
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+#include <optional>
+
+/// A PC as its folder describes it; docs/described-pc.md is the manual of the format. Plain values.
+namespace simulated
+{
+
+/// What a disk says of itself through the drive's own interface.
+struct Identity {
+    QString model;
+    QString serial;
+    QString firmware;
+    QByteArray smart; ///< SMART data, at most 512 bytes
+};
+
+/// How a self-test of a drive ends.
+struct SelfTestEnd {
+    int status = 0;          ///< 0 completed … 8 handling damage, as the drive numbers it
+    int remainingTenths = 0; ///< how much of the test is left then
+};
+
+struct Disk {
+    inventory::Disk record; ///< its node is the image in the described folder, which may be missing
+    bool opens = true;
+    SectorRanges bad;
+    SectorRanges unwritable;
+    quint64 bytesPerSecond = 0; ///< 0: no limit
+    bool failsPastEnd = false;
+    QStringList reports; ///< full paths; the n-th run gets the n-th
+    QString capabilities;
+    QString selfTestLog;
+    std::optional<Identity> identity;
+    SelfTestEnd selfTestEnd;
+};
+
+struct PcDescription {
+    QString folder; ///< full path
+    QString name;
+    QString user;
+    QString operatingSystem;
+    int dpi = 96;
+    bool pauses = true;
+    bool hasSmartctl = true;
+    QVector<Disk> disks;
+    QVector<inventory::Volume> volumes;
+    QVector<inventory::Partition> partitions;
+    QStringList processes;
+    QStringList installed; ///< programs that can be started
+    QJsonObject settings;  ///< first values of the settings store
+    double secondsPerMinute = 1.0;
+    QString history; ///< full path of the folder of history files; empty if there is none
+    QJsonObject tour;
+
+    /// Null if there is no such disk.
+    const Disk *disk(int number) const;
+    /// Null if there is no such volume. Any letter case.
+    const inventory::Volume *volume(QChar letter) const;
+};
+
+/// Reads `folder`/pc.json. On failure empty, with one line in `error` that names the file and the key.
+std::optional<PcDescription> readPc(const QString &folder, QString *error);
+
+} // namespace simulated

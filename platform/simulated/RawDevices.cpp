@@ -1,0 +1,266 @@
+#include "platform/simulated/RawDevices.h"
+
+#include "platform/IoControl.h"
+#include "platform/SparseFile.h"
+#include "platform/simulated/DeviceControl.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileInfo>
+#include <QMutexLocker>
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <chrono>
+#include <thread>
+
+namespace simulated
+{
+namespace
+{
+
+constexpr qint64 sectorBytes = 512;
+
+qint64 bytesOf(const Disk &disk)
+{
+    return static_cast<qint64>(disk.record.sectors) * sectorBytes;
+}
+
+/// Makes a transfer take the time that the disk needs for it.
+class Throttle
+{
+public:
+    Throttle(const Disk &disk, qint64 bytes) : m_bytesPerSecond(disk.bytesPerSecond), m_bytes(bytes)
+    {
+        m_clock.start();
+    }
+    Throttle(const Throttle &) = delete;
+    Throttle &operator=(const Throttle &) = delete;
+    ~Throttle()
+    {
+        if (m_bytesPerSecond > 0) {
+            const double wanted = 1e9 * static_cast<double>(m_bytes) / static_cast<double>(m_bytesPerSecond);
+            const qint64 left = static_cast<qint64>(wanted) - m_clock.nsecsElapsed();
+            std::this_thread::sleep_for(std::chrono::nanoseconds(std::max<qint64>(0, left)));
+        }
+    }
+
+private:
+    QElapsedTimer m_clock;
+    quint64 m_bytesPerSecond;
+    qint64 m_bytes;
+};
+
+} // namespace
+
+RawDevices::RawDevices(const PcDescription &pc, const QString &imageFolder)
+    : m_pc(pc), m_imageFolder(imageFolder)
+{
+}
+
+RawDevices::~RawDevices() = default;
+
+QString RawDevices::imageFile(int disk) const
+{
+    return QStringLiteral("%1/disk%2.img").arg(m_imageFolder).arg(disk);
+}
+
+bool RawDevices::prepareImage(const Disk &disk)
+{
+    const QString file = imageFile(disk.record.number);
+    const qint64 size = bytesOf(disk);
+    if (QFileInfo::exists(file)) {
+        return QFileInfo(file).size() == size || sparse::resize(file, size);
+    }
+    if (!QDir().mkpath(m_imageFolder)) {
+        return false;
+    }
+    const QString described = disk.record.node;
+    return !described.isEmpty() && QFileInfo::exists(described) ? sparse::copy(described, file, size)
+                                                                : sparse::resize(file, size);
+}
+
+bool RawDevices::addPiece(Device &device, int number, qint64 start, qint64 length)
+{
+    const Disk *disk = m_pc.disk(number);
+    if (disk == nullptr || !prepareImage(*disk)) {
+        return false;
+    }
+    // Each handle has a file of its own, so that threads do not meet at a file position.
+    auto file = std::make_shared<QFile>(imageFile(number));
+    const bool writes = (device.access & io::GenericWrite) != 0;
+    if (!file->open((writes ? QIODevice::ReadWrite : QIODevice::ReadOnly) | QIODevice::Unbuffered)) {
+        return false;
+    }
+    device.pieces.append({disk, file, start, length});
+    device.length += length;
+    return true;
+}
+
+Platform::RawHandle RawDevices::open(const QString &name, quint32 access, quint32 disposition)
+{
+    static const QRegularExpression physical(QStringLiteral("^\\\\\\\\\\.\\\\PHYSICALDRIVE([0-9]{1,9})$"),
+                                             QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression letter(QStringLiteral("^\\\\\\\\\\.\\\\([A-Za-z]):$"));
+    if (disposition != io::OpenExisting) {
+        return Platform::InvalidHandle;
+    }
+    const QMutexLocker lock(&m_mutex);
+    auto device = std::make_shared<Device>();
+    device->access = access;
+    bool opened = false;
+    const QRegularExpressionMatch diskName = physical.match(name);
+    const QRegularExpressionMatch volumeName = letter.match(name);
+    if (diskName.hasMatch()) {
+        const Disk *disk = m_pc.disk(diskName.captured(1).toInt());
+        opened = disk != nullptr && disk->opens && addPiece(*device, disk->record.number, 0, bytesOf(*disk));
+    } else if (volumeName.hasMatch()) {
+        device->volume = m_pc.volume(volumeName.captured(1).at(0));
+        opened = device->volume != nullptr && !device->volume->extents.isEmpty();
+        for (int i = 0; opened && i < device->volume->extents.size(); ++i) {
+            const inventory::Extent &extent = device->volume->extents.at(i);
+            opened = addPiece(*device, extent.disk, static_cast<qint64>(extent.offset),
+                              static_cast<qint64>(extent.length));
+        }
+    }
+    if (!opened) {
+        return Platform::InvalidHandle;
+    }
+    const Platform::RawHandle handle = m_next++;
+    m_devices.insert(handle, device);
+    return handle;
+}
+
+std::shared_ptr<RawDevices::Device> RawDevices::find(Platform::RawHandle handle)
+{
+    const QMutexLocker lock(&m_mutex);
+    return m_devices.value(handle);
+}
+
+void RawDevices::close(Platform::RawHandle handle)
+{
+    const QMutexLocker lock(&m_mutex);
+    m_devices.remove(handle);
+}
+
+void RawDevices::closeAll()
+{
+    const QMutexLocker lock(&m_mutex);
+    m_devices.clear();
+}
+
+bool RawDevices::seek(Platform::RawHandle handle, qint64 byteOffset)
+{
+    const std::shared_ptr<Device> device = find(handle);
+    if (!device || byteOffset < 0) {
+        return false;
+    }
+    device->position = byteOffset;
+    return true;
+}
+
+bool RawDevices::read(Platform::RawHandle handle, void *buffer, quint32 bytes, quint32 *transferred)
+{
+    return transfer(handle, Direction::Read, static_cast<char *>(buffer), bytes, transferred);
+}
+
+bool RawDevices::write(Platform::RawHandle handle, const void *buffer, quint32 bytes, quint32 *transferred)
+{
+    // The buffer is only read from in this direction.
+    return transfer(handle, Direction::Write, static_cast<char *>(const_cast<void *>(buffer)), bytes,
+                    transferred);
+}
+
+bool RawDevices::transfer(Platform::RawHandle handle, Direction direction, char *buffer, quint32 bytes,
+                          quint32 *transferred)
+{
+    if (transferred != nullptr) {
+        *transferred = 0;
+    }
+    const std::shared_ptr<Device> device = find(handle);
+    const quint32 right = direction == Direction::Read ? io::GenericRead : io::GenericWrite;
+    if (!device || (device->access & right) == 0 || device->position >= device->length) {
+        return false;
+    }
+    const qint64 room = device->length - device->position;
+    if (bytes > room && device->pieces.first().disk->failsPastEnd) {
+        return false;
+    }
+    const qint64 accepted = std::min<qint64>(bytes, room);
+    if (!transferPieces(*device, direction, buffer, accepted)) {
+        return false;
+    }
+    device->position += accepted;
+    if (transferred != nullptr) {
+        *transferred = static_cast<quint32>(accepted);
+    }
+    return true;
+}
+
+bool RawDevices::transferPieces(const Device &device, Direction direction, char *buffer, qint64 bytes)
+{
+    qint64 from = device.position;
+    for (const Piece &piece : device.pieces) {
+        if (from >= piece.length) {
+            from -= piece.length;
+            continue;
+        }
+        const qint64 part = std::min(bytes, piece.length - from);
+        if (!transferPiece(piece, direction, piece.start + from, buffer, part)) {
+            return false;
+        }
+        buffer += part;
+        bytes -= part;
+        from = 0;
+        if (bytes == 0) {
+            break;
+        }
+    }
+    return bytes == 0;
+}
+
+bool RawDevices::transferPiece(const Piece &piece, Direction direction, qint64 offset, char *buffer,
+                               qint64 bytes)
+{
+    const Throttle throttle(*piece.disk, bytes);
+    if (offset + bytes > bytesOf(*piece.disk)) {
+        return false;
+    }
+    const qint64 first = offset / sectorBytes;
+    const qint64 count = (offset + bytes + sectorBytes - 1) / sectorBytes - first;
+    const bool reads = direction == Direction::Read;
+    if ((reads ? piece.disk->bad : piece.disk->unwritable).touches(first, count)) {
+        return false;
+    }
+    if (!reads) {
+        return sparse::write(*piece.file, offset, buffer, bytes);
+    }
+    return piece.file->seek(offset) && piece.file->read(buffer, bytes) == bytes;
+}
+
+bool RawDevices::control(Platform::RawHandle handle, quint32 code, const void *in, quint32 inSize, void *out,
+                         quint32 outSize, quint32 *returned)
+{
+    const std::shared_ptr<Device> device = find(handle);
+    if (!device) {
+        return false;
+    }
+    const QByteArray request(static_cast<const char *>(in), in == nullptr ? 0 : static_cast<int>(inSize));
+    const std::optional<QByteArray> answer =
+        device->volume != nullptr ? controlVolume(*device->volume, *device->pieces.first().disk, code)
+                                  : controlDisk(*device->pieces.first().disk, code, request);
+    if (returned != nullptr) {
+        *returned = 0;
+    }
+    if (!answer || static_cast<quint32>(answer->size()) > outSize || (out == nullptr && !answer->isEmpty())) {
+        return false;
+    }
+    std::copy(answer->cbegin(), answer->cend(), static_cast<char *>(out));
+    if (returned != nullptr) {
+        *returned = static_cast<quint32>(answer->size());
+    }
+    return true;
+}
+
+} // namespace simulated

@@ -1,0 +1,378 @@
+#include "platform/simulated/SimulatedPlatform.h"
+
+#include "platform/HttpDownload.h"
+#include "platform/IoControl.h"
+#include "platform/JsonSettings.h"
+#include "platform/simulated/StateFolder.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QFileSystemWatcher>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QMutexLocker>
+#include <QRegularExpression>
+#include <QThread>
+
+#include <algorithm>
+#include <cstdio>
+
+namespace
+{
+
+const QLatin1String logonTaskFile("/logon-task.json");
+const QLatin1String volumesChanged("/volumes-changed");
+
+/// The paths of the product's own settings, whichever branch of the registry they are in.
+bool isProductPath(const QString &registryPath)
+{
+    return registryPath.endsWith(QLatin1String("Velmora Halvane for Windows")) ||
+           registryPath.endsWith(QLatin1String("Korvane Halvane for Windows"));
+}
+
+QString imageNameOf(const QString &file)
+{
+    return file.mid(std::max(file.lastIndexOf(QLatin1Char('\\')), file.lastIndexOf(QLatin1Char('/'))) + 1);
+}
+
+/// Whether a drive-letter path means the described PC. In a build for a system that has drive letters itself,
+/// real paths come along too.
+bool isDescribedPath(const QString &path)
+{
+#ifdef Q_OS_WIN
+    return !QFileInfo::exists(path.section(QLatin1Char('/'), 0, 1));
+#else
+    (void)path;
+    return true;
+#endif
+}
+
+bool makeStateFolder(const QString &folder, QString *error)
+{
+    for (const char *part : {"temp", "images", "registry", "volumes-changed", "drives/C"}) {
+        if (!QDir().mkpath(folder + QLatin1Char('/') + QLatin1String(part))) {
+            *error = folder + QLatin1String(": the state of the PC cannot be kept there");
+            return false;
+        }
+    }
+    return true;
+}
+
+} // namespace
+
+std::unique_ptr<SimulatedPlatform> SimulatedPlatform::open(const QString &folder, const QString &stateFolder,
+                                                           QString *error, simulated::Clock clock)
+{
+    std::optional<simulated::PcDescription> pc = simulated::readPc(folder, error);
+    if (!pc) {
+        return nullptr;
+    }
+    const bool ownsState = stateFolder.isEmpty();
+    const QString state = ownsState ? simulated::makePrivateFolder() : QDir(stateFolder).absolutePath();
+    if (state.isEmpty()) {
+        *error = QLatin1String("no private temp folder can be made for the state of the PC");
+        return nullptr;
+    }
+    if (!makeStateFolder(state, error)) {
+        return nullptr;
+    }
+    if (!clock) {
+        clock = &QDateTime::currentMSecsSinceEpoch;
+    }
+    return std::unique_ptr<SimulatedPlatform>(new SimulatedPlatform(std::move(*pc), state, ownsState, clock));
+}
+
+SimulatedPlatform::SimulatedPlatform(simulated::PcDescription pc, const QString &stateFolder, bool ownsState,
+                                     simulated::Clock clock)
+    : m_pc(std::move(pc)), m_state(stateFolder), m_ownsState(ownsState),
+      m_devices(m_pc, stateFolder + QLatin1String("/images")),
+      m_smartctl(m_pc, stateFolder + QLatin1String("/self-tests.json"), std::move(clock)),
+      m_processes(m_pc.processes)
+{
+    addTools();
+}
+
+SimulatedPlatform::~SimulatedPlatform()
+{
+    delete m_notifier.data();
+    if (m_ownsState) {
+        m_devices.closeAll(); // an open image could not be removed everywhere
+        QDir(m_state).removeRecursively();
+    }
+}
+
+Platform::RawHandle SimulatedPlatform::CreateFileW(const QString &name, quint32 access, quint32,
+                                                   quint32 disposition)
+{
+    return m_devices.open(name, access, disposition);
+}
+
+bool SimulatedPlatform::SetFilePointer(RawHandle handle, qint64 byteOffset)
+{
+    return m_devices.seek(handle, byteOffset);
+}
+
+bool SimulatedPlatform::ReadFile(RawHandle handle, void *buffer, quint32 bytes, quint32 *transferred)
+{
+    return m_devices.read(handle, buffer, bytes, transferred);
+}
+
+bool SimulatedPlatform::WriteFile(RawHandle handle, const void *buffer, quint32 bytes, quint32 *transferred)
+{
+    return m_devices.write(handle, buffer, bytes, transferred);
+}
+
+bool SimulatedPlatform::DeviceIoControl(RawHandle handle, quint32 code, const void *in, quint32 inSize,
+                                        void *out, quint32 outSize, quint32 *returned)
+{
+    return m_devices.control(handle, code, in, inSize, out, outSize, returned);
+}
+
+void SimulatedPlatform::CloseHandle(RawHandle handle)
+{
+    m_devices.close(handle);
+}
+
+const inventory::Volume *SimulatedPlatform::volumeOf(const QString &root) const
+{
+    return root.isEmpty() ? nullptr : m_pc.volume(root.at(0));
+}
+
+QStringList SimulatedPlatform::GetLogicalDriveStringsW()
+{
+    QStringList roots;
+    for (const inventory::Volume &volume : m_pc.volumes) {
+        roots.append(QString(volume.letter) + QLatin1String(":\\"));
+    }
+    roots.sort();
+    return roots;
+}
+
+bool SimulatedPlatform::GetVolumeInformationW(const QString &root, QString *label, QString *fileSystem)
+{
+    const inventory::Volume *volume = volumeOf(root);
+    const bool readable = volume != nullptr && volume->type != QLatin1String("noroot") &&
+                          !(volume->type == QLatin1String("cdrom") && volume->size == 0) &&
+                          !(volume->label.isEmpty() && volume->fileSystem.isEmpty());
+    if (label != nullptr) {
+        *label = readable ? volume->label : QString();
+    }
+    if (fileSystem != nullptr) {
+        *fileSystem = readable ? volume->fileSystem : QString();
+    }
+    return readable;
+}
+
+quint32 SimulatedPlatform::GetDriveTypeW(const QString &root)
+{
+    static const QStringList types{QStringLiteral("unknown"),   QStringLiteral("noroot"),
+                                   QStringLiteral("removable"), QStringLiteral("fixed"),
+                                   QStringLiteral("remote"),    QStringLiteral("cdrom"),
+                                   QStringLiteral("ramdisk")};
+    const inventory::Volume *volume = volumeOf(root);
+    return volume != nullptr ? static_cast<quint32>(types.indexOf(volume->type))
+                             : quint32(io::DriveNoRootDir);
+}
+
+bool SimulatedPlatform::GetDiskFreeSpaceExW(const QString &root, quint64 *totalBytes, quint64 *freeBytes)
+{
+    const inventory::Volume *volume = volumeOf(root);
+    const bool readable = volume != nullptr && volume->size != 0 && volume->type != QLatin1String("noroot");
+    if (totalBytes != nullptr) {
+        *totalBytes = readable ? volume->size : 0;
+    }
+    if (freeBytes != nullptr) {
+        *freeBytes = readable ? volume->free : 0;
+    }
+    return readable;
+}
+
+void SimulatedPlatform::record(const QString &fileName, const QByteArray &line)
+{
+    const QMutexLocker lock(&m_mutex);
+    QFile file(m_state + QLatin1Char('/') + fileName);
+    if (file.open(QIODevice::WriteOnly | QIODevice::Append)) {
+        file.write(line + '\n');
+    }
+}
+
+bool SimulatedPlatform::CreateProcessAndWait(const std::wstring &line, bool)
+{
+    // The program widens its lines byte by byte; narrowed again they show what it composed.
+    record(QStringLiteral("commands.log"), QString::fromStdWString(line).toLatin1());
+    return m_interpreter.run(line, [this](const QString &path) { return NativePath(path); });
+}
+
+bool SimulatedPlatform::ShellExecute(const QString &file, const QString &parameters, const QString &verb)
+{
+    record(QStringLiteral("opened.log"),
+           QStringList{verb, file, parameters}.join(QLatin1Char('\t')).toUtf8());
+    const QString name = imageNameOf(file);
+    if (!name.endsWith(QLatin1String(".exe"), Qt::CaseInsensitive)) {
+        return true;
+    }
+    if (!m_pc.installed.contains(name, Qt::CaseInsensitive)) {
+        return false;
+    }
+    const QMutexLocker lock(&m_mutex);
+    if (!m_processes.contains(name, Qt::CaseInsensitive)) {
+        m_processes.append(name);
+    }
+    return true;
+}
+
+bool SimulatedPlatform::OpenUrl(const QUrl &url)
+{
+    record(QStringLiteral("opened.log"), "url\t" + url.toEncoded() + '\t');
+    return true;
+}
+
+QString SimulatedPlatform::GetTempPathW()
+{
+    return m_state + QLatin1String("/temp/");
+}
+
+QString SimulatedPlatform::GetSystemDirectoryW()
+{
+    return QStringLiteral("C:\\Windows\\system32");
+}
+
+QString SimulatedPlatform::GetUserNameW()
+{
+    return m_pc.user;
+}
+
+QString SimulatedPlatform::HistoryFolder(const QString &)
+{
+    const QString folder = m_state + QLatin1String("/history");
+    const QMutexLocker lock(&m_mutex);
+    if (!QFileInfo::exists(folder)) {
+        QDir().mkpath(folder);
+        if (!m_pc.history.isEmpty()) {
+            simulated::copyFolder(m_pc.history, folder);
+        }
+    }
+    return folder;
+}
+
+QString SimulatedPlatform::NativePath(const QString &path) const
+{
+    static const QRegularExpression doubled(QStringLiteral("/{2,}"));
+    QString native = path;
+    native.replace(QLatin1Char('\\'), QLatin1Char('/'));
+    native.replace(doubled, QStringLiteral("/"));
+    const bool hasLetter = native.size() >= 3 && native.at(0).isLetter() && native.at(0).unicode() < 128 &&
+                           native.midRef(1, 2) == QLatin1String(":/");
+    if (hasLetter && isDescribedPath(native)) {
+        return m_state + QLatin1String("/drives/") + native.at(0).toUpper() + native.mid(2);
+    }
+    return native;
+}
+
+QByteArray SimulatedPlatform::CommandInterpreter()
+{
+    return qgetenv("COMSPEC");
+}
+
+QString SimulatedPlatform::OperatingSystemName()
+{
+    return m_pc.operatingSystem;
+}
+
+void SimulatedPlatform::SetThreadExecutionState(quint32 flags)
+{
+    record(QStringLiteral("execution-state.log"),
+           "0x" + QByteArray::number(flags, 16).rightJustified(8, '0'));
+}
+
+int SimulatedPlatform::LogPixelsX()
+{
+    return m_pc.dpi;
+}
+
+qint32 SimulatedPlatform::URLDownloadToFileW(const QString &url, const QString &path)
+{
+    return httpDownload(url, NativePath(path));
+}
+
+void SimulatedPlatform::Sleep(quint32 milliseconds)
+{
+    if (m_pc.pauses) {
+        QThread::msleep(milliseconds);
+    }
+}
+
+DeviceNotifier *SimulatedPlatform::deviceNotifier()
+{
+    if (m_notifier.isNull()) {
+        m_notifier = new DeviceNotifier;
+        const QString folder = m_state + volumesChanged;
+        for (const QString &old : QDir(folder).entryList(QDir::Files)) {
+            QFile::remove(folder + QLatin1Char('/') + old);
+        }
+        auto *watcher = new QFileSystemWatcher({folder}, m_notifier);
+        QObject::connect(watcher, &QFileSystemWatcher::directoryChanged, m_notifier,
+                         [this] { tellVolumeChanges(); });
+    }
+    return m_notifier;
+}
+
+void SimulatedPlatform::tellVolumeChanges()
+{
+    const struct {
+        const char *file;
+        quint32 event;
+    } changes[] = {{"remove", DeviceChange::RemoveComplete}, {"arrive", DeviceChange::Arrival}};
+    for (const auto &change : changes) {
+        // Taking the file away makes the next touch a new one.
+        if (QFile::remove(m_state + volumesChanged + QLatin1Char('/') + QLatin1String(change.file))) {
+            emit m_notifier->deviceChange(change.event, DeviceChange::Volume);
+        }
+    }
+}
+
+std::optional<DeviceChange> SimulatedPlatform::decodeDeviceMessage(const QByteArray &, void *)
+{
+    return std::nullopt;
+}
+
+void SimulatedPlatform::InitializeCom() {}
+
+void SimulatedPlatform::CreateLogonTask(const LogonTask &task)
+{
+    const QJsonObject object{{QStringLiteral("name"), task.name},
+                             {QStringLiteral("author"), task.author},
+                             {QStringLiteral("program"), task.program},
+                             {QStringLiteral("arguments"), task.arguments}};
+    const QMutexLocker lock(&m_mutex);
+    QFile file(m_state + logonTaskFile);
+    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
+        file.write(QJsonDocument(object).toJson());
+        std::printf("\n Success! Task successfully registered. ");
+    }
+}
+
+void SimulatedPlatform::DeleteLogonTask(const QString &name)
+{
+    const QMutexLocker lock(&m_mutex);
+    QFile file(m_state + logonTaskFile);
+    if (file.open(QIODevice::ReadOnly) &&
+        QJsonDocument::fromJson(file.readAll()).object().value(QLatin1String("name")).toString() == name) {
+        file.remove();
+    }
+}
+
+std::unique_ptr<QSettings> SimulatedPlatform::OpenSettings(const QString &registryPath)
+{
+    if (registryPath.isEmpty()) {
+        return jsonsettings::openNothing();
+    }
+    const QString file = jsonsettings::fileOf(m_state + QLatin1String("/registry"), registryPath);
+    if (isProductPath(registryPath)) {
+        const QMutexLocker lock(&m_mutex);
+        jsonsettings::seed(file, m_pc.settings);
+    }
+    return jsonsettings::open(file);
+}

@@ -1,0 +1,73 @@
+#include "platform/HttpDownload.h"
+#include "platform/simulated/SimulatedPlatform.h"
+#include "platform/tools/SystemTools.h"
+
+#include <QMutexLocker>
+
+// The tools that a described PC has behind its command interpreter.
+
+inventory::Machine SimulatedPlatform::machine()
+{
+    inventory::Machine machine;
+    for (const simulated::Disk &disk : m_pc.disks) {
+        machine.disks.append(disk.record);
+    }
+    machine.volumes = m_pc.volumes;
+    machine.partitions = m_pc.partitions;
+    const QMutexLocker lock(&m_mutex);
+    machine.processes = m_processes;
+    return machine;
+}
+
+void SimulatedPlatform::stopProcess(const QString &imageName)
+{
+    const QMutexLocker lock(&m_mutex);
+    for (int i = m_processes.size() - 1; i >= 0; --i) {
+        if (m_processes.at(i).compare(imageName, Qt::CaseInsensitive) == 0) {
+            m_processes.removeAt(i);
+        }
+    }
+}
+
+void SimulatedPlatform::addTools()
+{
+    addSystemTools();
+    if (m_pc.hasSmartctl) {
+        const tools::Tool smartctl = [this](const QStringList &arguments, const QByteArray &) {
+            return m_smartctl.run(arguments);
+        };
+        m_interpreter.addTool(QStringLiteral("smartctl"), smartctl);
+        m_interpreter.addTool(QStringLiteral("smartctl64bit"), smartctl);
+    }
+    m_interpreter.addTool(QStringLiteral("bitsadmin"), [this](const QStringList &arguments,
+                                                              const QByteArray &) {
+        const int last = arguments.size() - 1;
+        const bool loaded = last >= 1 &&
+                            arguments.contains(QStringLiteral("/transfer"), Qt::CaseInsensitive) &&
+                            URLDownloadToFileW(arguments.at(last - 1), arguments.at(last)) == 0;
+        return loaded ? QByteArray("Transfer complete.\r\n") : QByteArray("Unable to complete transfer.\r\n");
+    });
+    // Every command line is recorded; that is all that switching this PC off does.
+    m_interpreter.addTool(QStringLiteral("shutdown"),
+                          [](const QStringList &, const QByteArray &) { return QByteArray(); });
+}
+
+void SimulatedPlatform::addSystemTools()
+{
+    m_interpreter.addTool(QStringLiteral("wmic"), [this](const QStringList &arguments, const QByteArray &) {
+        return tools::wmic(machine(), arguments);
+    });
+    m_interpreter.addTool(QStringLiteral("manage-bde"),
+                          [this](const QStringList &arguments, const QByteArray &) {
+                              return tools::manageBde(machine(), arguments);
+                          });
+    m_interpreter.addTool(QStringLiteral("tasklist"), [this](const QStringList &, const QByteArray &) {
+        return tools::tasklist(machine());
+    });
+    m_interpreter.addTool(QStringLiteral("findstr"), &tools::findstr);
+    m_interpreter.addTool(QStringLiteral("taskkill"),
+                          [this](const QStringList &arguments, const QByteArray &) {
+                              stopProcess(tools::taskkillTarget(arguments));
+                              return QByteArray();
+                          });
+}
