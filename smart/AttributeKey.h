@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QString>
+
+/// The name under which an attribute stands in history and graph: the report's name with blanks for
+/// underscores. Never translated.
+inline QString keyOf(const QString &reportName)
+{
+    QString key = reportName;
+    return key.replace(QLatin1Char('_'), QLatin1Char(' '));
+}

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "smart/SmartRecords.h"
+
+#include <QString>
+
+/// The disk's temperature and how it is shown.
+
+/// Temperature of the disk whose report was read last, whole °C; 0 if it is not known. Main thread only.
+int GetDiskTemperature();
+
+/// The same of a given list: the first temperature row decides.
+int ataTemperature(const SmartAttributeRecord *head);
+int nvmeTemperature(const NvmeAttributeRecord *head);
+
+/// The number shown for a temperature in °C. 0 stays 0 in Fahrenheit, as it stands for "not known".
+int displayTemperature(int celsius, bool fahrenheit);
+
+/// Text of the tile after a load; a `unit` other than "F" means Celsius.
+QString loadTemperatureText(int celsius, const QString &unit);
+
+/// Text of the tile after a poll; empty for a `unit` that is neither "C" nor "F".
+QString pollTemperatureText(int celsius, const QString &unit);
+
+/// Text of the tile while a disk loads: "0" with the unit; the bare number for a `unit` that is neither.
+QString waitingTemperatureText(const QString &unit);
+
+/// File name of the tile's picture after a load.
+QString loadTemperatureImage(int celsius);
+
+/// File name of the tile's picture after a poll; empty means that the picture stays.
+QString pollTemperatureImage(int celsius);

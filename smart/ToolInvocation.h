@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QString>
+
+/// How a disk is named to the report tool, and every command line that the tool is run with.
+
+/// What the tool is run for.
+enum class ToolPurpose {
+    FullReport,
+    Capabilities,
+    TestProgress,
+    StartShortTest,
+    StartExtendedTest,
+    AbortTest,
+    SelfTestLog
+};
+constexpr int ToolPurposeCount = 7;
+
+/// "/dev/sda" to "/dev/sdn" for the indexes 0 to 13, else empty.
+QString deviceName(int diskIndex);
+
+/// The device name, behind " -d sat,12 " where the interface is exactly "USB".
+QString deviceString(int diskIndex, const QString &interfaceText);
+
+/// The interface of the disk in the system's disk table; empty if it is not there.
+QString interfaceOfDisk(int diskIndex);
+
+/// The device name for self-test commands. The row of "/dev/sdk" goes by the combo index, all others by the
+/// disk index; the first row that fits decides.
+QString selfTestDevice(int diskIndex, int comboIndex);
+
+/// Name of the temp file that a purpose writes.
+QString toolFileName(ToolPurpose purpose);
+
+/// The stored device string that a self-test purpose is run with: the one of the latest report for the log,
+/// else the self-test's own. Empty for the full report, whose device the caller composes.
+QString storedDevice(ToolPurpose purpose);
+
+/// The whole command line, redirection into `file` (a full path) included. A process that the scheduler
+/// started runs full reports with the tool's copy in the temp folder, as it has no useful current directory.
+QString commandLine(ToolPurpose purpose, const QString &device, const QString &file);
+
+/// Runs the full report of a disk and leaves it at g_strSmartReportPath. Blocks; any thread, one at a time.
+void LoadSmartReport(int diskIndex);
+
+/// Runs the full report of a disk and takes it in. Blocks; main thread only.
+void RefreshTemperatureReport(int diskIndex);
+
+/// Runs the full report of a disk of that interface and reads g_strModelName, g_strSerialNumber and
+/// g_strFirmware from it; what it does not name is empty. Blocks; device-load threads only.
+void ProbeDiskIdentity(int diskIndex, const QString &interfaceText);
