@@ -1,0 +1,202 @@
+#include "inventory/AtaIdentity.h"
+
+#include "inventory/RawAccess.h"
+#include "platform/IoControl.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace
+{
+
+constexpr int SectorBytes = 512;
+constexpr int AttributeBytes = 12;
+constexpr int TemperatureAttribute = 194;
+constexpr int DeviceCount = 4; ///< devices that the map of the drive interface tells of
+
+constexpr std::uint8_t IdentifyCommand = 0xEC;
+constexpr std::uint8_t IdentifyPacketCommand = 0xA1;
+constexpr std::uint8_t SmartCommand = 0xB0;
+constexpr std::uint8_t SmartEnable = 0xD8;
+constexpr std::uint8_t SmartReadData = 0xD0;
+
+/// The data behind the head of an answer.
+struct CommandOutput {
+    io::SendCmdOutHeader head;
+    char data[SectorBytes];
+};
+static_assert(sizeof(CommandOutput) == 528, "layout of SENDCMDOUTPARAMS with one sector");
+
+std::uint8_t byteAt(const QByteArray &data, int offset)
+{
+    return offset < data.size() ? static_cast<std::uint8_t>(data.at(offset)) : std::uint8_t(0);
+}
+
+/// Little-endian word of the identify data.
+std::uint16_t wordAt(const QByteArray &data, int word)
+{
+    return static_cast<std::uint16_t>(byteAt(data, 2 * word) | byteAt(data, 2 * word + 1) << 8);
+}
+
+template<std::size_t Width>
+void takeText(const QByteArray &data, int firstWord, int lastWord, FixedText<Width> *text)
+{
+    const QByteArray field = data.mid(2 * firstWord, 2 * (lastWord - firstWord + 1));
+    text->assign(QString::fromLatin1(ata::identifyText(field).left(static_cast<int>(Width) - 1)));
+}
+
+io::SendCmdInParams makeCommand(int device, std::uint8_t command, std::uint8_t features, std::uint32_t bytes)
+{
+    io::SendCmdInParams in{};
+    in.bufferSize = bytes;
+    in.regs.features = features;
+    in.regs.sectorCount = 1;
+    in.regs.sectorNumber = 1;
+    if (command == SmartCommand) {
+        in.regs.cylinderLow = 0x4F;
+        in.regs.cylinderHigh = 0xC2;
+    }
+    in.regs.driveHead = (device & 1) != 0 ? 0xB0 : 0xA0;
+    in.regs.command = command;
+    in.driveNumber = static_cast<std::uint8_t>(device);
+    return in;
+}
+
+bool send(Platform::RawHandle handle, std::uint32_t code, const io::SendCmdInParams &in, QByteArray *data)
+{
+    CommandOutput out{};
+    quint32 returned = 0;
+    if (!Platform::current().DeviceIoControl(handle, code, &in, sizeof in, &out, sizeof out, &returned))
+        return false;
+    *data = QByteArray(out.data, SectorBytes);
+    return true;
+}
+
+/// Asks one device of the map; true if it takes SMART commands.
+bool readDevice(Platform::RawHandle handle, int device, bool atapi, DiskIdentity *identity)
+{
+    QByteArray data;
+    const bool enabled = !atapi && send(handle, io::SmartSendDriveCommand,
+                                        makeCommand(device, SmartCommand, SmartEnable, 0), &data);
+    if (enabled)
+        identity->bSmartEnabled = 1;
+    const std::uint8_t command = atapi ? IdentifyPacketCommand : IdentifyCommand;
+    if (send(handle, io::SmartRcvDriveData, makeCommand(device, command, 0, SectorBytes), &data))
+        ata::decodeIdentify(data, atapi, identity);
+    return enabled;
+}
+
+} // namespace
+
+namespace ata
+{
+
+QByteArray identifyText(const QByteArray &field)
+{
+    if (field.isEmpty())
+        return {};
+    const bool trimFront = field.at(0) == ' ';
+    QByteArray text = field;
+    char *bytes = text.data();
+    for (int i = 0; i + 1 < text.size(); i += 2)
+        std::swap(bytes[i], bytes[i + 1]);
+    text.truncate(static_cast<int>(qstrnlen(text.constData(), static_cast<uint>(text.size()))));
+    if (trimFront)
+        std::reverse(text.begin(), text.end());
+    const int blank = text.indexOf(' ');
+    if (blank >= 0)
+        text.truncate(blank);
+    if (trimFront)
+        std::reverse(text.begin(), text.end());
+    return text;
+}
+
+void decodeIdentify(const QByteArray &data, bool atapi, DiskIdentity *identity)
+{
+    identity->nTotalLba = static_cast<std::uint32_t>(wordAt(data, 61)) << 16 | wordAt(data, 60);
+    if (!atapi) {
+        identity->nCylinders = wordAt(data, 1);
+        identity->nHeads = wordAt(data, 3);
+        identity->nSectors = wordAt(data, 6);
+    }
+    takeText(data, 27, 46, &identity->szModel);
+    takeText(data, 10, 19, &identity->szSerial);
+    takeText(data, 23, 26, &identity->szFirmware);
+}
+
+int nameIndex(int attributeId)
+{
+    if (attributeId <= 12)
+        return attributeId + 155;
+    if (attributeId >= 191 && attributeId <= 209)
+        return attributeId - 23;
+    return 187;
+}
+
+std::uint8_t attributeState(std::uint32_t threshold, std::uint32_t current)
+{
+    if (threshold < current)
+        return 1;
+    return threshold == current ? 2 : 3;
+}
+
+void decodeAttributes(const QByteArray &data, DiskIdentity *identity, const ThresholdTable &thresholds)
+{
+    IdentityAttribute *tail = identity->pAttributes;
+    while (tail && tail->pNext)
+        tail = tail->pNext;
+    bool temperatureSeen = false;
+    for (int slot = 0; slot < AttributeSlots; ++slot) {
+        const int entry = 2 + slot * AttributeBytes;
+        const std::uint8_t id = byteAt(data, entry);
+        if (id == 0)
+            continue;
+        if (id == TemperatureAttribute && !temperatureSeen) {
+            temperatureSeen = true;
+            identity->nTemperature = byteAt(data, entry + 5);
+            identity->nTemperatureCopy = static_cast<std::uint16_t>(identity->nTemperature);
+        }
+        auto *attribute = new IdentityAttribute;
+        attribute->nAttrId = id;
+        attribute->szNameIndex = QString::number(nameIndex(id));
+        attribute->nCurrent = byteAt(data, entry + 3);
+        attribute->nWorst = byteAt(data, entry + 4);
+        attribute->nThreshold = thresholds[static_cast<std::size_t>(slot)];
+        attribute->nState = attributeState(attribute->nThreshold, attribute->nCurrent);
+        appendToList(identity->pAttributes, tail, attribute);
+        ++identity->nAttributeCount;
+        identity->nThresholdState = std::max(identity->nThresholdState, attribute->nState);
+    }
+}
+
+} // namespace ata
+
+bool ReadAtaIdentity(int driveCode, DiskIdentity *identity)
+{
+    Platform &platform = Platform::current();
+    const Platform::RawHandle handle =
+        platform.CreateFileW(diskName(driveCode), io::GenericRead | io::GenericWrite,
+                             io::ShareRead | io::ShareWrite, io::OpenExisting);
+    if (handle == Platform::InvalidHandle)
+        return false;
+    io::GetVersionInParams version{};
+    quint32 returned = 0;
+    // A disk that refuses leaves the map empty, and that alone decides.
+    platform.DeviceIoControl(handle, io::SmartGetVersion, nullptr, 0, &version, sizeof version, &returned);
+    std::array<bool, DeviceCount> enabled{};
+    for (int device = 0; device < DeviceCount; ++device) {
+        if (version.ideDeviceMap >> device & 1) {
+            const bool atapi = (version.ideDeviceMap >> (device + 4) & 1) != 0;
+            enabled[static_cast<std::size_t>(device)] = readDevice(handle, device, atapi, identity);
+        }
+    }
+    for (int device = 0; device < DeviceCount; ++device) {
+        QByteArray data;
+        if (enabled[static_cast<std::size_t>(device)] &&
+            send(handle, io::SmartRcvDriveData, makeCommand(device, SmartCommand, SmartReadData, SectorBytes),
+                 &data))
+            ata::decodeAttributes(data, identity);
+    }
+    platform.CloseHandle(handle);
+    return true;
+}

@@ -1,0 +1,70 @@
+#include "inventory/Companion.h"
+
+#include "app/state/GlobalApp.h"
+#include "inventory/CommandRunner.h"
+#include "platform/Platform.h"
+
+#include <QTextStream>
+
+namespace companion
+{
+
+namespace
+{
+const QString TaskListFile = QStringLiteral("\\tmpFile");
+const QString FirstBrand = QStringLiteral("VelmoraSMART.exe");
+} // namespace
+
+QString fileName()
+{
+    return g_App.m_bKorvaneBrand ? QStringLiteral("KorvaneSMART.exe") : FirstBrand;
+}
+
+QString fullPath()
+{
+    return g_App.m_strApplicationFolder + QLatin1Char('\\') + fileName();
+}
+
+State check()
+{
+    const QString system = g_App.m_strSystemFolder;
+    const QString command = system + QStringLiteral("\\tasklist.exe | ") + system +
+                            QStringLiteral("\\findstr.exe ") + fileName() + QStringLiteral(" >> ") +
+                            tempFile(TaskListFile);
+    State state = State::NotRunning;
+    const bool read = runner::runAndRead(command, TaskListFile, [&state](QTextStream &stream) {
+        while (!stream.atEnd()) {
+            if (stream.readLine().contains(fileName(), Qt::CaseInsensitive)) {
+                state = State::Running;
+                return;
+            }
+        }
+    });
+    return read ? state : State::Unknown;
+}
+
+void start(StartBy form)
+{
+    Platform::current().ShellExecute(form == StartBy::Name ? fileName() : fullPath(), QString(), QString());
+}
+
+bool ensureRunning(StartBy form)
+{
+    const State state = check();
+    if (state == State::NotRunning)
+        start(form);
+    return state != State::Unknown;
+}
+
+void kill()
+{
+    RunSilent(g_App.m_strSystemFolder + QStringLiteral("\\Taskkill.exe /IM ") + fileName() +
+              QStringLiteral(" /F"));
+}
+
+void killAfterRead()
+{
+    RunSilent(g_App.m_strSystemFolder + QStringLiteral("\\TASKKILL.exe /F /IM ") + FirstBrand);
+}
+
+} // namespace companion

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QString>
+
+/// The tray companion as the application sees it: a process of its own that is found in the task list,
+/// started and killed. Nothing here reports a failure. Main thread only; each call blocks for its tools.
+namespace companion
+{
+
+/// File name of the companion, by brand.
+QString fileName();
+
+/// The companion beside the application.
+QString fullPath();
+
+enum class State {
+    Unknown, ///< the task list could not be read
+    Running,
+    NotRunning
+};
+
+/// Looks through the task list; the letter case of the name does not matter.
+State check();
+
+enum class StartBy { Name, FullPath };
+
+/// Starts the companion.
+void start(StartBy form);
+
+/// check(), and start() where it does not run. False where the task list could not be read.
+bool ensureRunning(StartBy form);
+
+/// The kill command of the settings and of a language change.
+void kill();
+
+/// The kill command that follows a read with the tray option off; it names the first brand's companion.
+void killAfterRead();
+
+} // namespace companion

@@ -1,0 +1,201 @@
+#include "inventory/WmicInventory.h"
+
+#include "app/state/GlobalApp.h"
+#include "app/state/Globals.h"
+#include "inventory/CommandRunner.h"
+
+#include <QStringList>
+#include <QTextStream>
+
+namespace
+{
+
+const QString DiskInfoFile = QStringLiteral("DiskInfo.txt");
+const QString BitLockerFile = QStringLiteral("File.txt");
+const QString PartitionFile = QStringLiteral("SMART1.txt");
+
+QStringList fieldsOf(const QString &line)
+{
+    return line.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+}
+
+/// Calls `take` for each line of the stream that does not hold `headerWord`.
+template<typename Take>
+void eachDataLine(QTextStream &stream, const QLatin1String &headerWord, Take take)
+{
+    while (!stream.atEnd()) {
+        const QString line = stream.readLine();
+        if (!line.contains(headerWord))
+            take(line);
+    }
+}
+
+QString wmicCommand(const char *question)
+{
+    return g_App.m_strSystemFolder + QLatin1String("\\wbem\\WMIC.exe ") + QLatin1String(question);
+}
+
+WmicDiskRecord *makeDiskRecord(const wmic::DiskDriveLine &line)
+{
+    auto *record = new WmicDiskRecord;
+    record->nIndex = line.index;
+    record->szInterface.assign(line.interfaceText);
+    record->nDiskId = line.index + PhysicalDriveBase;
+    if (!line.model.isEmpty())
+        record->szModel.assign(line.model);
+    record->szStatus.assign(line.status);
+    return record;
+}
+
+LogicalDiskRecord *makeLogicalRecord(const wmic::LogicalDiskLine &line)
+{
+    auto *record = new LogicalDiskRecord;
+    if (line.fileSystem.isEmpty())
+        return record;
+    record->szCaption.assign(line.caption);
+    record->nFreeBytes = line.freeBytes;
+    record->nSizeBytes = line.sizeBytes;
+    record->szFileSystem.assign(line.fileSystem);
+    return record;
+}
+
+/// Asks whether a volume is protected. False if the tool could not be run.
+bool readBitLocker(const QString &caption, LogicalDiskRecord *record)
+{
+    const QString command = g_App.m_strSystemFolder + QLatin1String("\\manage-bde.exe -status ") + caption;
+    return runner::runAndRead(command, BitLockerFile, [record](QTextStream &stream) {
+        while (!stream.atEnd()) {
+            const QString line = stream.readLine();
+            if (wmic::isBitLockerLine(line)) {
+                record->szBitLocker.assign(wmic::bitLockerState(line));
+                return;
+            }
+        }
+    });
+}
+
+/// Appends a record for each line of the volume table. False if the walk was broken off.
+bool readLogicalDisks(QTextStream &stream)
+{
+    freeList(g_pLogicalDiskListHead, g_pLogicalDiskListTail);
+    bool complete = true;
+    eachDataLine(stream, QLatin1String("FileSystem"), [&complete](const QString &text) {
+        if (!complete)
+            return;
+        const wmic::LogicalDiskLine line = wmic::parseLogicalDisk(text);
+        LogicalDiskRecord *record = makeLogicalRecord(line);
+        appendToList(g_pLogicalDiskListHead, g_pLogicalDiskListTail, record);
+        complete = readBitLocker(line.caption, record);
+    });
+    return complete;
+}
+
+} // namespace
+
+void LoadDiskDrives(const IdentityProbe &probe)
+{
+    const QString command = wmicCommand("diskdrive get Model,InterfaceType,Status,Index");
+    runner::runAndRead(command, DiskInfoFile, [&probe](QTextStream &stream) {
+        freeList(g_pWmicDiskListHead, g_pWmicDiskListTail);
+        // A blank line makes a record too: lists that go by the table's lines count it.
+        eachDataLine(stream, QLatin1String("Index"), [&probe](const QString &text) {
+            const wmic::DiskDriveLine line = wmic::parseDiskDrive(text);
+            WmicDiskRecord *record = makeDiskRecord(line);
+            appendToList(g_pWmicDiskListHead, g_pWmicDiskListTail, record);
+            probe(static_cast<int>(line.index), line.interfaceText);
+            record->szSmartSerial.assign(g_strSerialNumber);
+            record->szSmartFirmware.assign(g_strFirmware);
+            record->szSmartModel.assign(g_strModelName);
+        });
+    });
+}
+
+void LoadLogicalDisks()
+{
+    runner::freshTempFile(BitLockerFile);
+    bool complete = false;
+    runner::runAndRead(wmicCommand("logicaldisk get size,caption,freespace,filesystem"), DiskInfoFile,
+                       [&complete](QTextStream &stream) { complete = readLogicalDisks(stream); });
+    if (!complete)
+        return;
+    QVector<int> diskIndexes;
+    const auto collect = [&diskIndexes](QTextStream &stream) {
+        eachDataLine(stream, QLatin1String("DiskIndex"),
+                     [&diskIndexes](const QString &line) { diskIndexes << line.trimmed().toInt(); });
+    };
+    if (runner::runAndRead(wmicCommand("partition get diskindex"), DiskInfoFile, collect,
+                           runner::After::Keep))
+        wmic::pairDiskIndexes(g_pLogicalDiskListHead, diskIndexes);
+}
+
+QString GetSystemDiskIndex()
+{
+    QString number;
+    const auto find = [&number](QTextStream &stream) {
+        number = QLatin1String("");
+        while (!stream.atEnd()) {
+            const QString line = stream.readLine();
+            if (line.contains(QLatin1String("System"))) {
+                number = wmic::partitionDisk(line);
+                return;
+            }
+        }
+    };
+    runner::runAndRead(wmicCommand("partition get name,size,type"), PartitionFile, find);
+    return number;
+}
+
+namespace wmic
+{
+
+DiskDriveLine parseDiskDrive(const QString &line)
+{
+    const QStringList fields = fieldsOf(line);
+    const int count = fields.size();
+    DiskDriveLine result;
+    result.index = static_cast<quint32>(fields.value(0).toInt());
+    if (count >= 3)
+        result.status = fields.at(count - 1);
+    for (int i = 2; i <= count - 3; ++i)
+        result.model += fields.at(i) + QLatin1Char(' ');
+    result.model.chop(4);
+    if (count > 1)
+        result.interfaceText = fields.at(1);
+    return result;
+}
+
+LogicalDiskLine parseLogicalDisk(const QString &line)
+{
+    const QStringList fields = fieldsOf(line);
+    return {fields.value(0).trimmed(), fields.value(1).trimmed(), fields.value(2).toLongLong(),
+            fields.value(3).toLongLong()};
+}
+
+bool isBitLockerLine(const QString &line)
+{
+    return line.contains(QLatin1String("BitLocker Version:"));
+}
+
+QString bitLockerState(const QString &line)
+{
+    return line.contains(QLatin1String("BitLocker Version:    None")) ? QStringLiteral("NO")
+                                                                      : QStringLiteral("YES");
+}
+
+QString partitionDisk(const QString &line)
+{
+    QString number = line.split(QLatin1Char(','), Qt::SkipEmptyParts).value(0);
+    return number.remove(QLatin1String("Disk #")).trimmed();
+}
+
+void pairDiskIndexes(LogicalDiskRecord *head, const QVector<int> &diskIndexes)
+{
+    for (const int diskIndex : diskIndexes) {
+        if (!head)
+            return;
+        head->nDiskIndex = diskIndex;
+        head = head->pNext;
+    }
+}
+
+} // namespace wmic

@@ -1,0 +1,190 @@
+#include "inventory/CommandRunner.h"
+#include "tests/support/FakePlatform.h"
+
+#include <QTest>
+#include <QTextStream>
+
+class CommandRunnerTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { fake = FakePlatform::install(); }
+
+    void composesLine_data();
+    void composesLine();
+    void widensByteByByte();
+    void runsThroughTheInterpreter();
+    void leavesOutLinesThatDoNotFit();
+    void removesLeftover();
+    void decodesBothKindsOfTool_data();
+    void decodesBothKindsOfTool();
+    void keepsFileIfAsked();
+    void reportsMissingFile_data();
+    void reportsMissingFile();
+    void opensNameWithBackslash();
+
+private:
+    FakePlatform *fake = nullptr;
+};
+
+namespace
+{
+
+QStringList linesOf(QTextStream &stream)
+{
+    QStringList lines;
+    while (!stream.atEnd())
+        lines << stream.readLine();
+    return lines;
+}
+
+QByteArray utf16(const QString &text)
+{
+    return QByteArray("\xFF\xFE", 2) +
+           QByteArray(reinterpret_cast<const char *>(text.utf16()), 2 * text.size());
+}
+
+} // namespace
+
+void CommandRunnerTest::composesLine_data()
+{
+    QTest::addColumn<QByteArray>("interpreter");
+    QTest::addColumn<QByteArray>("funct");
+    QTest::addColumn<QByteArray>("params");
+    QTest::addColumn<QByteArray>("line");
+    QTest::newRow("usual: ends in a blank")
+        << QByteArray("C:\\cmd.exe") << QByteArray("tool.exe -a >> C:\\T\\F.txt") << QByteArray()
+        << QByteArray("C:\\cmd.exe /c tool.exe -a >> C:\\T\\F.txt ");
+    QTest::newRow("parameters") << QByteArray("C:\\cmd.exe") << QByteArray("shutdown /s") << QByteArray("/f")
+                                << QByteArray("C:\\cmd.exe /c shutdown /s /f");
+    QTest::newRow("interpreter unset")
+        << QByteArray() << QByteArray("x") << QByteArray() << QByteArray("CMD.EXE /c x ");
+    QTest::newRow("nothing is quoted") << QByteArray("C:\\My Tools\\c.exe") << QByteArray("a b")
+                                       << QByteArray() << QByteArray("C:\\My Tools\\c.exe /c a b ");
+}
+
+void CommandRunnerTest::composesLine()
+{
+    QFETCH(QByteArray, interpreter);
+    QFETCH(QByteArray, funct);
+    QFETCH(QByteArray, params);
+    QTEST(runner::composeLine(interpreter, funct, params), "line");
+}
+
+void CommandRunnerTest::widensByteByByte()
+{
+    const std::wstring wide = runner::widen(QByteArray("a\xC3\xBC\xFF"));
+    const std::wstring expected{L'a', wchar_t(0xC3), wchar_t(0xBC), wchar_t(0xFF)};
+    QVERIFY(wide == expected);
+}
+
+void CommandRunnerTest::runsThroughTheInterpreter()
+{
+    RunSilent("tool.exe", "-x");
+    fake->interpreter.clear();
+    RunSilent(QStringLiteral("tool \u00FC"));
+    QCOMPARE(fake->commands(), QStringList({QStringLiteral("C:\\Windows\\system32\\cmd.exe /c tool.exe -x"),
+                                            QStringLiteral("CMD.EXE /c tool \u00C3\u00BC ")}));
+}
+
+void CommandRunnerTest::leavesOutLinesThatDoNotFit()
+{
+    fake->interpreter.clear();
+    const int frame = runner::composeLine({}, {}, {}).size();
+    const QString longest(runner::WideBuffer - 1 - frame, QLatin1Char('x'));
+    RunSilent(longest);
+    QCOMPARE(fake->commands().size(), 1);
+    QCOMPARE(fake->commands().first().size(), runner::WideBuffer - 1);
+    RunSilent(longest + QLatin1Char('x'));
+    RunSilent(QString(runner::NarrowBuffer * 2, QLatin1Char('x')));
+    QCOMPARE(fake->commands().size(), 1);
+}
+
+void CommandRunnerTest::removesLeftover()
+{
+    const QString path = nativePath(tempFile(QStringLiteral("Left.txt")));
+    QFile old(path);
+    QVERIFY(old.open(QIODevice::WriteOnly));
+    old.write("old\n");
+    old.close();
+
+    fake->onCommand = [](const QString &line) { return FakePlatform::answer(line, "new\n"); };
+    QStringList lines;
+    QVERIFY(runner::runAndRead(QStringLiteral("tool"), QStringLiteral("Left.txt"),
+                               [&lines](QTextStream &stream) { lines = linesOf(stream); }));
+    QCOMPARE(lines, QStringList(QStringLiteral("new")));
+    QVERIFY(!QFile::exists(path));
+    QCOMPARE(fake->commands().first(), QStringLiteral("C:\\Windows\\system32\\cmd.exe /c tool >> ") +
+                                           tempFile(QStringLiteral("Left.txt")) + QLatin1Char(' '));
+}
+
+void CommandRunnerTest::decodesBothKindsOfTool_data()
+{
+    QTest::addColumn<QByteArray>("output");
+    QTest::newRow("UTF-16, CRLF") << utf16(QStringLiteral("Name  n\u00B0\r\nC:    7\r\n\r\n"));
+    QTest::newRow("UTF-16, CR CR LF") << utf16(QStringLiteral("Name  n\u00B0\r\r\nC:    7\r\r\n\r\r\n"));
+    QTest::newRow("no mark, CRLF") << QByteArray("Name  n\xC2\xB0\r\nC:    7\r\n\r\n");
+    QTest::newRow("no mark, LF") << QByteArray("Name  n\xC2\xB0\nC:    7\n\n");
+}
+
+void CommandRunnerTest::decodesBothKindsOfTool()
+{
+    QFETCH(QByteArray, output);
+    fake->onCommand = [output](const QString &line) { return FakePlatform::answer(line, output); };
+    QStringList lines;
+    QVERIFY(runner::runAndRead(QStringLiteral("tool"), QStringLiteral("F.txt"),
+                               [&lines](QTextStream &stream) { lines = linesOf(stream); }));
+    QCOMPARE(lines, QStringList({QStringLiteral("Name  n\u00B0"), QStringLiteral("C:    7"), QString()}));
+}
+
+void CommandRunnerTest::keepsFileIfAsked()
+{
+    fake->onCommand = [](const QString &line) { return FakePlatform::answer(line, "kept\n"); };
+    QVERIFY(runner::runAndRead(
+        QStringLiteral("tool"), QStringLiteral("F.txt"), [](QTextStream &) {}, runner::After::Keep));
+    const QString path = tempFile(QStringLiteral("F.txt"));
+    QVERIFY(QFile::exists(path));
+    QStringList lines;
+    QVERIFY(runner::readOutput(path, [&lines](QTextStream &stream) { lines = linesOf(stream); }));
+    QCOMPARE(lines, QStringList(QStringLiteral("kept")));
+    QVERIFY(!QFile::exists(path));
+}
+
+void CommandRunnerTest::reportsMissingFile_data()
+{
+    QTest::addColumn<QString>("folder");
+    QTest::addColumn<bool>("starts");
+    QTest::addColumn<bool>("opened");
+    QTest::newRow("all well") << QStringLiteral("temp") << true << true;
+    QTest::newRow("interpreter does not start") << QStringLiteral("temp") << false << false;
+    QTest::newRow("blank in the folder") << QStringLiteral("my temp") << true << false;
+    QTest::newRow("folder beyond ASCII") << QStringLiteral("t\u00E9mp") << true << false;
+}
+
+void CommandRunnerTest::reportsMissingFile()
+{
+    QFETCH(QString, folder);
+    QFETCH(bool, starts);
+    fake->useTempFolder(folder);
+    fake->onCommand = [starts](const QString &line) {
+        if (starts)
+            FakePlatform::answer(line, "text\n");
+        return starts;
+    };
+    bool read = false;
+    const bool opened = runner::runAndRead(QStringLiteral("tool"), QStringLiteral("F.txt"),
+                                           [&read](QTextStream &) { read = true; });
+    QTEST(opened, "opened");
+    QCOMPARE(read, opened);
+}
+
+void CommandRunnerTest::opensNameWithBackslash()
+{
+    fake->onCommand = [](const QString &line) { return FakePlatform::answer(line, "task\n"); };
+    QVERIFY(runner::runAndRead(QStringLiteral("tool"), QStringLiteral("\\tmpFile"), [](QTextStream &) {}));
+    QVERIFY(fake->commands().first().contains(QLatin1String("/\\tmpFile ")));
+}
+
+QTEST_GUILESS_MAIN(CommandRunnerTest)
+#include "tst_CommandRunner.moc"
