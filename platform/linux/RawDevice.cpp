@@ -4,28 +4,63 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstring>
 #include <fcntl.h>
 #include <linux/fs.h>
 #include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+namespace
+{
+
+constexpr qint64 BufferSize = 1024 * 1024;
+constexpr size_t BufferAlignment = 4096;
+
+/// Repeats pread or pwrite until all is done.
+template<typename Call, typename Byte>
+bool transferAll(Call call, int descriptor, Byte *bytes, qint64 count, qint64 offset)
+{
+    for (qint64 done = 0; done < count;) {
+        const ssize_t moved =
+            call(descriptor, bytes + done, static_cast<size_t>(count - done), offset + done);
+        if (moved < 0 && errno == EINTR)
+            continue;
+        if (moved <= 0)
+            return false;
+        done += moved;
+    }
+    return true;
+}
+
+int openNode(const QByteArray &path, int flags)
+{
+    return ::open(path.constData(), flags | O_CLOEXEC | O_NOCTTY | O_NONBLOCK);
+}
+
+} // namespace
+
 std::unique_ptr<RawDevice> RawDevice::open(const QString &node, bool writable)
 {
     const QByteArray path = QFile::encodeName(node);
-    const int descriptor =
-        ::open(path.constData(), (writable ? O_RDWR : O_RDONLY) | O_CLOEXEC | O_NOCTTY | O_NONBLOCK);
+    const int access = writable ? O_RDWR : O_RDONLY;
+    struct stat status = {};
+    const bool isBlock = stat(path.constData(), &status) == 0 && S_ISBLK(status.st_mode);
+    int descriptor = openNode(path, isBlock ? access | O_DIRECT : access);
+    const bool direct = isBlock && descriptor >= 0;
+    if (isBlock && descriptor < 0 && errno == EINVAL)
+        descriptor = openNode(path, access);
     if (descriptor < 0)
         return nullptr;
-    struct stat status = {};
-    if (fstat(descriptor, &status) != 0 || !(S_ISBLK(status.st_mode) || S_ISREG(status.st_mode))) {
+    // The node may have changed under the name.
+    if (fstat(descriptor, &status) != 0 || !(isBlock ? S_ISBLK(status.st_mode) : S_ISREG(status.st_mode))) {
         ::close(descriptor);
         return nullptr;
     }
-    return std::unique_ptr<RawDevice>(new RawDevice(descriptor));
+    return std::unique_ptr<RawDevice>(new RawDevice(descriptor, direct));
 }
 
-RawDevice::RawDevice(int descriptor) : m_descriptor(descriptor)
+RawDevice::RawDevice(int descriptor, bool direct) : m_descriptor(descriptor), m_direct(direct)
 {
     struct stat status = {};
     fstat(m_descriptor, &status);
@@ -43,6 +78,9 @@ RawDevice::RawDevice(int descriptor) : m_descriptor(descriptor)
 
 RawDevice::~RawDevice()
 {
+    // What the drive itself holds back is out before the program says that it is done.
+    if (m_written)
+        fdatasync(m_descriptor);
     ::close(m_descriptor);
 }
 
@@ -59,23 +97,66 @@ qint64 RawDevice::bytesToEnd(quint32 bytes) const
     return std::min<qint64>(bytes, m_size - m_position);
 }
 
+bool RawDevice::passes(const void *buffer, qint64 bytes) const
+{
+    const auto address = reinterpret_cast<std::uintptr_t>(buffer);
+    return !m_direct || (address % BufferAlignment == 0 && m_position % m_bytesPerSector == 0 &&
+                         bytes % m_bytesPerSector == 0);
+}
+
+char *RawDevice::alignedBuffer()
+{
+    void *memory = nullptr;
+    if (!m_buffer && posix_memalign(&memory, BufferAlignment, BufferSize) == 0)
+        m_buffer.reset(static_cast<char *>(memory));
+    return m_buffer.get();
+}
+
+bool RawDevice::readThroughBuffer(char *out, qint64 bytes)
+{
+    char *buffer = alignedBuffer();
+    const qint64 sector = m_bytesPerSector;
+    const qint64 end = m_position + bytes;
+    for (qint64 at = m_position; buffer && at < end;) {
+        const qint64 first = at / sector * sector;
+        const qint64 last = std::min((end + sector - 1) / sector * sector, first + BufferSize);
+        if (!transferAll(pread, m_descriptor, buffer, last - first, first))
+            return false;
+        const qint64 useful = std::min(last, end) - at;
+        std::memcpy(out, buffer + (at - first), static_cast<size_t>(useful));
+        out += useful;
+        at += useful;
+    }
+    return buffer != nullptr;
+}
+
+bool RawDevice::writeThroughBuffer(const char *in, qint64 bytes)
+{
+    char *buffer = alignedBuffer();
+    if (!buffer || m_position % m_bytesPerSector != 0 || bytes % m_bytesPerSector != 0)
+        return false;
+    for (qint64 done = 0; done < bytes;) {
+        const qint64 count = std::min(bytes - done, BufferSize);
+        std::memcpy(buffer, in + done, static_cast<size_t>(count));
+        if (!transferAll(pwrite, m_descriptor, buffer, count, m_position + done))
+            return false;
+        done += count;
+    }
+    return true;
+}
+
 qint64 RawDevice::read(void *buffer, quint32 bytes)
 {
     const qint64 wanted = bytesToEnd(bytes);
     if (wanted <= 0)
         return -1;
-    qint64 done = 0;
-    while (done < wanted) {
-        const ssize_t got = pread(m_descriptor, static_cast<char *>(buffer) + done,
-                                  static_cast<size_t>(wanted - done), m_position + done);
-        if (got < 0 && errno == EINTR)
-            continue;
-        if (got <= 0)
-            return -1;
-        done += got;
-    }
-    m_position += done;
-    return done;
+    auto *out = static_cast<char *>(buffer);
+    const bool done = passes(buffer, wanted) ? transferAll(pread, m_descriptor, out, wanted, m_position)
+                                             : readThroughBuffer(out, wanted);
+    if (!done)
+        return -1;
+    m_position += wanted;
+    return wanted;
 }
 
 qint64 RawDevice::write(const void *buffer, quint32 bytes)
@@ -83,16 +164,12 @@ qint64 RawDevice::write(const void *buffer, quint32 bytes)
     const qint64 wanted = bytesToEnd(bytes);
     if (wanted <= 0)
         return -1;
-    qint64 done = 0;
-    while (done < wanted) {
-        const ssize_t put = pwrite(m_descriptor, static_cast<const char *>(buffer) + done,
-                                   static_cast<size_t>(wanted - done), m_position + done);
-        if (put < 0 && errno == EINTR)
-            continue;
-        if (put <= 0)
-            return -1;
-        done += put;
-    }
-    m_position += done;
-    return done;
+    m_written = true;
+    const auto *in = static_cast<const char *>(buffer);
+    const bool done = passes(buffer, wanted) ? transferAll(pwrite, m_descriptor, in, wanted, m_position)
+                                             : writeThroughBuffer(in, wanted);
+    if (!done)
+        return -1;
+    m_position += wanted;
+    return wanted;
 }

@@ -2,9 +2,12 @@
 
 #include <QString>
 
+#include <cstdlib>
 #include <memory>
 
-/// An open block device or image file. Never makes a file and never writes by itself. One thread at a time.
+/// An open block device or image file. Never makes a file and never writes by itself. Block devices are read
+/// and written past the page cache, so that a read comes from the medium and a failed write is told at once.
+/// One thread at a time.
 class RawDevice
 {
 public:
@@ -25,10 +28,22 @@ public:
     qint64 write(const void *buffer, quint32 bytes);
 
 private:
-    explicit RawDevice(int descriptor);
+    struct Free {
+        void operator()(char *memory) const { std::free(memory); }
+    };
+
+    RawDevice(int descriptor, bool direct);
     qint64 bytesToEnd(quint32 bytes) const;
+    /// Whether a transfer can go without the aligned buffer.
+    bool passes(const void *buffer, qint64 bytes) const;
+    bool readThroughBuffer(char *out, qint64 bytes);
+    bool writeThroughBuffer(const char *in, qint64 bytes);
+    char *alignedBuffer();
 
     int m_descriptor;
+    bool m_direct; ///< past the page cache: memory, offsets and lengths are multiples of a sector
+    bool m_written = false;
+    std::unique_ptr<char, Free> m_buffer;
     qint64 m_size = 0;
     quint32 m_bytesPerSector = 512;
     qint64 m_position = 0;
