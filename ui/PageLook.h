@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QString>
+
+#include <initializer_list>
+
+class QAbstractScrollArea;
+class QFrame;
+class QLabel;
+class QWidget;
+
+/// What the pages of the main window treat alike.
+namespace pagelook
+{
+
+/// Makes a widget with a set-up form a page: white, 764 by 452 design pixels, its form scaled to the display.
+/// Call right after setupUi().
+void makePage(QWidget *page);
+
+void styleHeadings(std::initializer_list<QLabel *> labels); ///< 13 point, black
+void styleNames(std::initializer_list<QLabel *> labels);    ///< semibold 10 point, grey
+/// 10 point, grey; plain text that can be wider than its room without pushing its neighbours away.
+void styleValues(std::initializer_list<QLabel *> labels);
+
+/// A white card with a hairline border and round corners.
+void styleCard(QFrame *frame);
+
+/// The vertical bar of a view or scroll area.
+void styleVerticalScrollBar(QAbstractScrollArea *area);
+
+} // namespace pagelook
