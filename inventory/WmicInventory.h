@@ -30,7 +30,8 @@ namespace wmic
 struct DiskDriveLine {
     quint32 index = 0;
     QString interfaceText;
-    QString model; ///< without its last two words, roughly
+    /// Without its last word and the four characters before that: "NW500 ATA Device" gives "NW500 ".
+    QString model;
     QString status;
 };
 
