@@ -1,0 +1,27 @@
+#pragma once
+
+#include "ui/DialogFrame.h"
+
+#include <QDialog>
+
+#include "ui_InfoDialogClass.h"
+
+/// The message box for the outcome of a scan or a clone.
+class InfoDialogClass : public QDialog, public Ui::InfoDialog
+{
+    Q_OBJECT
+
+public:
+    explicit InfoDialogClass(QWidget *parent = nullptr);
+
+    void SetTexts(const QString &title, const QString &text, const QString &second);
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    DialogFrame m_Frame;
+    void translateTexts();
+
+    bool m_bTextsSet = false;
+};
