@@ -35,9 +35,9 @@ void RateHealth();
 /// The same for g_nPerformancePercent and g_strPerformanceText.
 void RatePerformance();
 
-/// File name of the tile's picture; an empty text means that the picture stays.
-QString healthImage(int percent, float scale);
-QString performanceImage(int percent, float scale);
+/// File name of the tile's picture at a display scale; an empty text means that the picture stays.
+QString healthImage(int percent, float factor);
+QString performanceImage(int percent, float factor);
 
 enum class OverallResult { Passed, NotSupported, Failed };
 /// `temperature` in °C, 0 if it is not known.

@@ -33,12 +33,12 @@ struct Markers {
 };
 Markers translatedMarkers();
 
-/// What the head of a report says. A text is null where its line is missing.
+/// What the head of a report says; nothing where the line is missing.
 struct Identity {
-    QString model;
-    QString serial;
-    QString firmware;
-    QString ataVersion;
+    std::optional<QString> model;
+    std::optional<QString> serial;
+    std::optional<QString> firmware;
+    std::optional<QString> ataVersion;
 };
 
 /// True for NVMe, false for ATA by the last section line of the text; nothing where there is none.

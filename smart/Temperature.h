@@ -22,7 +22,7 @@ QString loadTemperatureText(int celsius, const QString &unit);
 /// Text of the tile after a poll; empty for a `unit` that is neither "C" nor "F".
 QString pollTemperatureText(int celsius, const QString &unit);
 
-/// Text of the tile while a disk loads: "0" with the unit; the bare number for a `unit` that is neither.
+/// Text of the tile while a disk loads: "0°" and the letter of the unit, none for a unit that is neither.
 QString waitingTemperatureText(const QString &unit);
 
 /// File name of the tile's picture after a load.

@@ -1,0 +1,272 @@
+#include "smart/Rating.h"
+
+#include "app/state/GlobalApp.h"
+#include "app/state/Globals.h"
+#include "app/state/Scale.h"
+#include "smart/AttributeKey.h"
+#include "smart/SmartGlobals.h"
+
+#include <QCoreApplication>
+
+#include <array>
+#include <cmath>
+#include <limits>
+
+namespace
+{
+
+constexpr int FullPercent = 100;
+constexpr std::uint32_t ExpectedLifeDays = 5 * 365;
+
+/// 32-bit arithmetic that wraps, as a raw value may hold any number.
+qint32 minusWrapped(qint32 left, qint32 right)
+{
+    return static_cast<qint32>(static_cast<quint32>(left) - static_cast<quint32>(right));
+}
+
+qint32 timesWrapped(qint32 left, qint32 right)
+{
+    return static_cast<qint32>(static_cast<quint32>(left) * static_cast<quint32>(right));
+}
+
+/// Truncates; what is out of range goes to its end, no number to 0.
+template<typename Integer>
+Integer truncated(double value)
+{
+    using Limits = std::numeric_limits<Integer>;
+    if (std::isnan(value))
+        return 0;
+    if (value <= static_cast<double>(Limits::min()))
+        return Limits::min();
+    if (value >= static_cast<double>(Limits::max()))
+        return Limits::max();
+    return static_cast<Integer>(value);
+}
+
+float scaledBy(float health, float percent)
+{
+    return health * percent / 100.0F;
+}
+
+float byReallocatedSectors(float, qint32 raw)
+{
+    return raw <= 70 ? static_cast<float>(minusWrapped(FullPercent, raw)) : 30.0F;
+}
+
+float bySpinRetries(float health, qint32 raw)
+{
+    const qint32 damage = timesWrapped(raw, 3);
+    return scaledBy(health, damage <= 60 ? static_cast<float>(minusWrapped(FullPercent, damage)) : 40.0F);
+}
+
+float byEvents(float health, qint32 raw, int limit, float floorPercent)
+{
+    const float damage = static_cast<float>(raw) * 0.6F;
+    return scaledBy(health,
+                    truncated<qint32>(static_cast<double>(damage)) <= limit ? 100.0F - damage : floorPercent);
+}
+
+float byReallocationEvents(float health, qint32 raw)
+{
+    return byEvents(health, raw, 30, 70.0F);
+}
+
+float byPendingSectors(float health, qint32 raw)
+{
+    return byEvents(health, raw, 48, 52.0F);
+}
+
+float byUncorrectable(float health, qint32 raw)
+{
+    return scaledBy(health, raw <= 70 ? static_cast<float>(minusWrapped(FullPercent, raw)) : 30.0F);
+}
+
+struct HealthRule {
+    const char *name;
+    float (*apply)(float health, qint32 raw);
+};
+
+/// The first name that an attribute contains decides.
+constexpr std::array<HealthRule, 6> HealthRules = {{
+    {"Reallocated_Sector_Ct", byReallocatedSectors},
+    {"Reallocated_Sector_Count", byReallocatedSectors},
+    {"Spin_Retry_Count", bySpinRetries},
+    {"Reallocated_Event_Count", byReallocationEvents},
+    {"Current_Pending_Sector", byPendingSectors},
+    {"Offline_Uncorrectable", byUncorrectable},
+}};
+
+bool containsAny(const QString &text, std::initializer_list<const char *> words)
+{
+    for (const char *word : words) {
+        if (text.contains(QLatin1String(word)))
+            return true;
+    }
+    return false;
+}
+
+QString percentText(int percent)
+{
+    return QString::number(percent) + QLatin1Char('%');
+}
+
+} // namespace
+
+int healthOfAta(const SmartAttributeRecord *head)
+{
+    if (!head)
+        return 0;
+    float health = 0.0F;
+    for (const SmartAttributeRecord *row = head; row; row = row->Next) {
+        const QString name = row->AttributeName.text();
+        // A number that does not fit 32 bits reads as 0, a perfect one.
+        const qint32 raw = row->RawValue.text().toInt();
+        for (const HealthRule &rule : HealthRules) {
+            if (name.contains(QLatin1String(rule.name))) {
+                health = rule.apply(health, raw);
+                break;
+            }
+        }
+    }
+    return qMin(truncated<int>(static_cast<double>(health) + 0.5), FullPercent);
+}
+
+int healthOfNvme(const NvmeAttributeRecord *head)
+{
+    for (const NvmeAttributeRecord *row = head; row; row = row->Next) {
+        if (!row->Name.text().contains(QLatin1String("Percentage Used")))
+            continue;
+        const int used = row->Value.text().trimmed().remove(QLatin1Char('%')).toInt();
+        return used == 1 ? FullPercent : qMin(minusWrapped(FullPercent, used), FullPercent);
+    }
+    return 0;
+}
+
+int performanceOf(const QString &ataVersion)
+{
+    if (containsAny(ataVersion, {"ATA8", "ATA7", "ATA6", "ATA5", "ATA4", "ATA3"}))
+        return 100;
+    return containsAny(ataVersion, {"ATA2", "ATA1"}) ? 50 : 100;
+}
+
+void RateHealth()
+{
+    if (!g_bSmartAvailable)
+        g_nHealthPercent = FullPercent;
+    else if (g_App.m_bNVMe)
+        g_nHealthPercent = healthOfNvme(g_pNvmeAttributeHead);
+    else
+        g_nHealthPercent = healthOfAta(g_pSmartAttributeHead);
+    g_strHealthText = percentText(g_nHealthPercent);
+}
+
+void RatePerformance()
+{
+    const bool byVersion = !g_App.m_bNVMe && g_bSmartAvailable;
+    g_nPerformancePercent = byVersion ? performanceOf(g_strAtaVersion) : 100;
+    g_strPerformanceText = percentText(g_nPerformancePercent);
+}
+
+QString healthImage(int percent, float factor)
+{
+    const scale::ImageSet set = scale::imageSet(factor);
+    if (set == scale::ImageSet::None)
+        return QString();
+    if (percent > 75)
+        return QStringLiteral("img_Health.png");
+    // The middle set alone has a picture for 65.
+    const int averageFrom = set == scale::ImageSet::Dpi120 ? 65 : 66;
+    if (percent >= averageFrom)
+        return QStringLiteral("img_HealthAverage.png");
+    return percent < 65 ? QStringLiteral("img_HealthHigh.png") : QString();
+}
+
+QString performanceImage(int percent, float factor)
+{
+    const scale::ImageSet set = scale::imageSet(factor);
+    if (set == scale::ImageSet::None)
+        return QString();
+    const bool plain = set == scale::ImageSet::Dpi96;
+    if (percent >= (plain ? 80 : 81))
+        return QStringLiteral("img_Performance.png");
+    if (percent < 65)
+        return QStringLiteral("img_PerformanceHigh.png");
+    return plain ? QStringLiteral("img_PerformanceAve.png") : QString();
+}
+
+OverallResult overallResult(bool available, int temperature)
+{
+    if (temperature == 0)
+        return OverallResult::NotSupported;
+    return available ? OverallResult::Passed : OverallResult::Failed;
+}
+
+std::uint32_t diskLifeDays(int powerOnDays, int healthPercent)
+{
+    const float factor = static_cast<float>(healthPercent) / 100.0F;
+    const float rest = static_cast<float>(ExpectedLifeDays - static_cast<std::uint32_t>(powerOnDays));
+    return truncated<std::uint32_t>(static_cast<double>(rest * factor * factor));
+}
+
+void takeLifeRow(LifeFigures &figures, const SmartAttributeRecord &row, int healthPercent)
+{
+    const QString key = keyOf(row.AttributeName.text());
+    const QString raw = row.RawValue.text();
+    if (containsAny(key, {"Power On Hours", "Power On Half Minutes"})) {
+        const int hours = raw.left(raw.indexOf(QLatin1Char('h'))).toInt();
+        figures.nPowerOnRestHours = hours % 24;
+        figures.nPowerOnDays = hours / 24;
+        figures.nDiskLifeDays = diskLifeDays(figures.nPowerOnDays, healthPercent);
+    }
+    if (key.contains(QLatin1String("Start Stop Count")))
+        figures.nStartStopCount = raw.toInt();
+}
+
+LifeFigures storedLifeFigures()
+{
+    return {g_nDiskLifeDays, g_nPowerOnDays, g_nPowerOnRestHours, g_nStartStopCount};
+}
+
+void UpdateLifeFigures()
+{
+    LifeFigures figures = storedLifeFigures();
+    for (const SmartAttributeRecord *row = g_pSmartAttributeHead; row; row = row->Next)
+        takeLifeRow(figures, *row, g_nHealthPercent);
+    g_nDiskLifeDays = figures.nDiskLifeDays;
+    g_nPowerOnDays = figures.nPowerOnDays;
+    g_nPowerOnRestHours = figures.nPowerOnRestHours;
+    g_nStartStopCount = figures.nStartStopCount;
+}
+
+LifeKind lifeKind(bool nvme, bool removable, const SmartAttributeRecord *head)
+{
+    if (nvme)
+        return LifeKind::Nvme;
+    if (removable)
+        return LifeKind::Removable;
+    return head ? LifeKind::Known : LifeKind::NoRows;
+}
+
+LifeTexts lifeTexts(LifeKind kind, const LifeFigures &figures, const QString &separator)
+{
+    const auto same = [](const QString &text) { return LifeTexts{text, text, text}; };
+    switch (kind) {
+    case LifeKind::Nvme:
+        return same(QCoreApplication::translate("MainWindow", "Not available"));
+    case LifeKind::Removable:
+        return same(QCoreApplication::translate("MainWindow", "Not Available"));
+    case LifeKind::NoRows:
+        return {};
+    case LifeKind::Known:
+        break;
+    }
+    const QString days = QCoreApplication::translate("MainWindow", " days");
+    const QString hours = QCoreApplication::translate("MainWindow", " hours");
+    const QString life = figures.nDiskLifeDays >= 1000
+                             ? QCoreApplication::translate("MainWindow", "More than 1000")
+                             : QString::number(figures.nDiskLifeDays);
+    return {life + days,
+            QString::number(figures.nPowerOnDays) + days + separator +
+                QString::number(figures.nPowerOnRestHours) + hours,
+            QString::number(figures.nStartStopCount)};
+}

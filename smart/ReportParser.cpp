@@ -1,0 +1,360 @@
+#include "smart/ReportParser.h"
+
+#include "app/state/GlobalApp.h"
+#include "app/state/Globals.h"
+#include "inventory/CommandRunner.h"
+#include "smart/SmartGlobals.h"
+#include "smart/TextCuts.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QTextStream>
+
+namespace report
+{
+
+namespace
+{
+
+const QString AtaSection = QStringLiteral("START OF READ SMART DATA SECTION");
+const QString NvmeSection = QStringLiteral("SMART/Health Information (NVMe Log");
+const QString Passed = QStringLiteral("PASSED");
+
+/// A line that a report is searched for, and what becomes of it in the record that collects a drive's
+/// identity.
+template<typename Record>
+struct LineRule {
+    enum Place { Anywhere, AtStart };
+    Place place;
+    QStringList markers; ///< one of them is enough
+    void (*take)(Record &seen, const QString &line);
+
+    bool holds(const QString &line) const
+    {
+        for (const QString &marker : markers) {
+            if (place == AtStart ? line.startsWith(marker) : line.contains(marker))
+                return true;
+        }
+        return false;
+    }
+};
+
+/// The first rule that holds decides.
+template<typename Record>
+void applyRules(const QVector<LineRule<Record>> &rules, Record &seen, const QString &line)
+{
+    for (const LineRule<Record> &rule : rules) {
+        if (rule.holds(line)) {
+            rule.take(seen, line);
+            return;
+        }
+    }
+}
+
+/// The value behind the line's last colon, into a field.
+template<auto Field, typename Record>
+void takeValue(Record &seen, const QString &line)
+{
+    (seen.*Field).assign(cuts::lastPart(line, QStringLiteral(":")));
+}
+
+/// The amount in brackets, into a field.
+template<auto Field, typename Record>
+void takeBracketed(Record &seen, const QString &line)
+{
+    (seen.*Field).assign(cuts::lastPart(line, QStringLiteral("[")).remove(QLatin1Char(']')));
+}
+
+/// The time keeps its colons.
+template<typename Record>
+void takeLocalTime(Record &seen, const QString &line)
+{
+    seen.LocalTime.assign(cuts::lastPart(line, QStringLiteral("Local Time is:")));
+}
+
+template<typename Record>
+void takeNothing(Record &, const QString &)
+{
+}
+
+void takeSectorSize(SmartAttributeRecord &seen, const QString &line)
+{
+    const QString sizes = cuts::lastPart(line, QStringLiteral(":"));
+    seen.SectorSize.assign(
+        cuts::firstParts(sizes, QLatin1Char(','), 1).value(0).remove(QLatin1String("logical")));
+}
+
+void takeSataVersion(SmartAttributeRecord &seen, const QString &line)
+{
+    seen.SataVersion.assign(cuts::lastPart(line, QStringLiteral(":")).remove(QLatin1Char(')')));
+}
+
+void takeSelfTestStatus(SmartAttributeRecord &seen, const QString &line)
+{
+    if (cuts::lastPart(line, QStringLiteral(":")).contains(QLatin1String("completed")))
+        seen.SelfTestStatus.assign(QStringLiteral("Successfully Completed"));
+}
+
+void takeOfflineTime(SmartAttributeRecord &seen, const QString &line)
+{
+    seen.OfflineTotalTime.assign(
+        cuts::without(cuts::lastPart(line, QStringLiteral("data collection:")), {"(  ", ")", "."}));
+}
+
+/// The three lines look alike and go by their order. Each field strips literals of its own.
+void takePollTime(SmartAttributeRecord &seen, const QString &line)
+{
+    const QString value = cuts::lastPart(line, QStringLiteral(":"));
+    if (seen.ShortPollTime.isEmpty())
+        seen.ShortPollTime.assign(cuts::without(value, {"(   ", "(  ", "( ", "(", ")", "."}));
+    else if (seen.ExtendedPollTime.isEmpty())
+        seen.ExtendedPollTime.assign(cuts::without(value, {"(  ", "( ", "(", ")", "."}));
+    else if (seen.ConveyancePollTime.isEmpty())
+        seen.ConveyancePollTime.assign(cuts::without(value, {"(   ", ")", "."}));
+}
+
+const QVector<LineRule<SmartAttributeRecord>> &ataRules()
+{
+    using R = SmartAttributeRecord;
+    using Rule = LineRule<R>;
+    static const QVector<Rule> rules = {
+        {Rule::Anywhere, {"Model Family:"}, takeValue<&R::ModelFamily>},
+        {Rule::Anywhere, {"Device Model:", "Model Number:"}, takeValue<&R::DeviceModel>},
+        {Rule::Anywhere, {"Serial Number:"}, takeValue<&R::SerialNumber>},
+        {Rule::Anywhere, {"LU WWN Device Id:"}, takeValue<&R::Wwn>},
+        {Rule::Anywhere, {"Firmware Version:"}, takeValue<&R::Firmware>},
+        {Rule::Anywhere, {"User Capacity:"}, takeBracketed<&R::UserCapacity>},
+        {Rule::Anywhere, {"Sector Size:", "Sector Sizes:"}, takeSectorSize},
+        {Rule::Anywhere, {"Rotation Rate:"}, takeValue<&R::RotationRate>},
+        {Rule::AtStart, {"ATA Version is:"}, takeValue<&R::AtaVersion>},
+        {Rule::AtStart, {"SATA Version is:"}, takeSataVersion},
+        {Rule::AtStart, {"Local Time is:"}, takeLocalTime<R>},
+        // Comes twice; the later one, "Enabled", stays.
+        {Rule::Anywhere, {"SMART support is:"}, takeValue<&R::SmartSupport>},
+        {Rule::Anywhere, {"Self-test supported."}, takeNothing<R>},
+        {Rule::Anywhere, {"Offline data collection status:"}, takeNothing<R>},
+        {Rule::Anywhere,
+         {"was never started."},
+         [](R &seen, const QString &) { seen.OfflineStatus.assign(QStringLiteral("Never Started")); }},
+        {Rule::Anywhere,
+         {"was completed without error."},
+         [](R &seen, const QString &) {
+             seen.OfflineStatus.assign(QStringLiteral("Successfully Completed"));
+         }},
+        {Rule::Anywhere, {"Self-test execution status:"}, takeSelfTestStatus},
+        {Rule::Anywhere, {"data collection:"}, takeOfflineTime},
+        {Rule::Anywhere, {"recommended polling time:"}, takePollTime},
+    };
+    return rules;
+}
+
+const QVector<LineRule<NvmeAttributeRecord>> &nvmeRules()
+{
+    using R = NvmeAttributeRecord;
+    using Rule = LineRule<R>;
+    static const QVector<Rule> rules = {
+        {Rule::Anywhere, {"Model Number:"}, takeValue<&R::ModelNumber>},
+        {Rule::Anywhere, {"Serial Number:"}, takeValue<&R::SerialNumber>},
+        {Rule::Anywhere, {"Firmware Version:"}, takeValue<&R::Firmware>},
+        {Rule::Anywhere, {"Size/Capacity:"}, takeBracketed<&R::Capacity>},
+        {Rule::Anywhere,
+         {"Formatted LBA Size:"},
+         [](R &seen, const QString &line) {
+             seen.LbaSize.assign(cuts::lastPart(line, QStringLiteral(":")) + QLatin1String(" bytes"));
+         }},
+        {Rule::AtStart, {"Local Time is:"}, takeLocalTime<R>},
+        {Rule::Anywhere, {"Maximum Data Transfer Size:"}, takeValue<&R::MaxTransferSize>},
+    };
+    return rules;
+}
+
+/// False if the line holds nothing but blanks.
+bool fillRow(SmartAttributeRecord &row, const QString &line)
+{
+    const QStringList parts = cuts::firstParts(line, QLatin1Char(' '), 10);
+    if (parts.isEmpty())
+        return false;
+    if (row.DeviceModel.isEmpty())
+        row.Wwn.clear();
+    row.Id = parts.at(0).toUInt();
+    row.AttributeName.assign(parts.value(1));
+    row.Flag.assign(parts.value(2));
+    row.Value = parts.value(3).toUInt();
+    row.Worst = parts.value(4).toUInt();
+    row.Threshold = parts.value(5).toUInt();
+    row.Type.assign(parts.value(6));
+    row.Updated.assign(parts.value(7));
+    row.WhenFailed.assign(parts.value(8));
+    row.RawValue.assign(parts.value(9));
+    return true;
+}
+
+/// False if the line holds nothing but colons.
+bool fillRow(NvmeAttributeRecord &row, const QString &line)
+{
+    const QStringList parts = cuts::firstParts(line, QLatin1Char(':'), 2);
+    if (parts.isEmpty())
+        return false;
+    row.Name.assign(parts.at(0).trimmed());
+    row.Value.assign(parts.value(1).trimmed());
+    return true;
+}
+
+bool containsAny(const QString &line, const QStringList &markers)
+{
+    for (const QString &marker : markers) {
+        if (line.contains(marker))
+            return true;
+    }
+    return false;
+}
+
+/// A report's second reading, the same for both kinds.
+template<typename Record>
+bool readTable(QTextStream &stream, const QVector<LineRule<Record>> &rules, const QStringList &headers,
+               Record *&head, Record *&tail)
+{
+    Record seen;
+    bool inTable = false;
+    bool passed = false;
+    int rows = 0;
+    while (!stream.atEnd() && rows < MaxRows) {
+        const QString line = stream.readLine();
+        applyRules(rules, seen, line);
+        if (inTable) {
+            if (line.isEmpty())
+                break;
+            Record row = seen;
+            if (fillRow(row, line)) {
+                appendRecord(head, tail, row);
+                ++rows;
+            }
+        } else if (containsAny(line, headers)) {
+            inTable = true;
+        } else if (line.contains(Passed)) {
+            passed = true;
+        }
+    }
+    return passed;
+}
+
+QString valueOf(const QString &line)
+{
+    return cuts::lastPart(line, QStringLiteral(":"));
+}
+
+/// The three lines that both readings of the head know, in the order in which they are looked for. The member
+/// that was set, null where the line is another one.
+std::optional<QString> *takeIdentityLine(Identity &identity, const QString &line)
+{
+    std::optional<QString> *target = nullptr;
+    if (line.contains(QLatin1String("Device Model:")) || line.contains(QLatin1String("Model Number:")))
+        target = &identity.model;
+    else if (line.contains(QLatin1String("Serial Number:")))
+        target = &identity.serial;
+    else if (line.contains(QLatin1String("Firmware Version:")))
+        target = &identity.firmware;
+    if (target)
+        *target = valueOf(line);
+    return target;
+}
+
+} // namespace
+
+Markers translatedMarkers()
+{
+    return {{QCoreApplication::translate("MainWindow", "ID#"),
+             QCoreApplication::translate("MainWindow", "ATTRIBUTE_NAME"),
+             QCoreApplication::translate("MainWindow", "FLAG"),
+             QCoreApplication::translate("MainWindow", "VALUE")},
+            QCoreApplication::translate("MainWindow", "SMART/Health Information (NVMe Log")};
+}
+
+std::optional<bool> detectKind(QTextStream &stream)
+{
+    std::optional<bool> nvme;
+    while (!stream.atEnd()) {
+        const QString line = stream.readLine();
+        if (line.contains(AtaSection))
+            nvme = false;
+        else if (line.contains(NvmeSection))
+            nvme = true;
+    }
+    return nvme;
+}
+
+Identity readIdentity(QTextStream &stream)
+{
+    Identity identity;
+    while (!stream.atEnd()) {
+        const QString line = stream.readLine();
+        if (line.contains(AtaSection))
+            break;
+        if (takeIdentityLine(identity, line))
+            continue;
+        // The SATA line would do too, but it comes behind this one.
+        if (line.contains(QLatin1String("ATA Version is:"))) {
+            identity.ataVersion = valueOf(line);
+            break;
+        }
+    }
+    return identity;
+}
+
+Identity readProbedIdentity(QTextStream &stream)
+{
+    Identity identity;
+    while (!stream.atEnd()) {
+        const QString line = stream.readLine();
+        if (line.contains(AtaSection) || takeIdentityLine(identity, line) == &identity.firmware)
+            break;
+    }
+    return identity;
+}
+
+bool readAtaTable(QTextStream &stream, const Markers &markers, SmartAttributeRecord *&head,
+                  SmartAttributeRecord *&tail)
+{
+    return readTable(stream, ataRules(), markers.ataHeaders, head, tail);
+}
+
+bool readNvmeLog(QTextStream &stream, const Markers &markers, NvmeAttributeRecord *&head,
+                 NvmeAttributeRecord *&tail)
+{
+    return readTable(stream, nvmeRules(), {markers.nvmeHeader}, head, tail);
+}
+
+} // namespace report
+
+void DetectReportKind(const QString &path)
+{
+    runner::readOutput(
+        path, [](QTextStream &stream) { g_App.m_bNVMe = report::detectKind(stream).value_or(g_App.m_bNVMe); },
+        runner::After::Keep);
+}
+
+void ParseSmartReport(const QString &path)
+{
+    report::Identity identity;
+    const auto readHead = [&identity](QTextStream &stream) { identity = report::readIdentity(stream); };
+    if (!runner::readOutput(path, readHead, runner::After::Keep))
+        return;
+    g_strModelName = identity.model.value_or(g_strModelName);
+    g_strSerialNumber = identity.serial.value_or(g_strSerialNumber);
+    g_strFirmware = identity.firmware.value_or(g_strFirmware);
+    g_strAtaVersion = identity.ataVersion.value_or(g_strAtaVersion);
+    g_bSmartAvailable = false;
+
+    runner::readOutput(path, [](QTextStream &stream) {
+        const report::Markers markers = report::translatedMarkers();
+        if (g_App.m_bNVMe) {
+            freeRecords(g_pNvmeAttributeHead, g_pNvmeAttributeTail);
+            g_bSmartAvailable =
+                report::readNvmeLog(stream, markers, g_pNvmeAttributeHead, g_pNvmeAttributeTail);
+        } else {
+            freeRecords(g_pSmartAttributeHead, g_pSmartAttributeTail);
+            g_bSmartAvailable =
+                report::readAtaTable(stream, markers, g_pSmartAttributeHead, g_pSmartAttributeTail);
+        }
+    });
+}

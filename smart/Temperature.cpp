@@ -1,0 +1,79 @@
+#include "smart/Temperature.h"
+
+#include "app/state/GlobalApp.h"
+#include "smart/SmartGlobals.h"
+
+namespace
+{
+
+constexpr QChar DegreeSign(0xB0);
+
+QString withUnit(int celsius, bool fahrenheit)
+{
+    return QString::number(displayTemperature(celsius, fahrenheit)) + DegreeSign +
+           QLatin1Char(fahrenheit ? 'F' : 'C');
+}
+
+} // namespace
+
+int GetDiskTemperature()
+{
+    return g_App.m_bNVMe ? nvmeTemperature(g_pNvmeAttributeHead) : ataTemperature(g_pSmartAttributeHead);
+}
+
+int ataTemperature(const SmartAttributeRecord *head)
+{
+    for (const SmartAttributeRecord *row = head; row; row = row->Next) {
+        const QString name = row->AttributeName.text();
+        if (name.contains(QLatin1String("Temperature_Celsius")) ||
+            name.contains(QLatin1String("Airflow_Temperature_Cel")))
+            return row->RawValue.text().toInt();
+    }
+    return 0;
+}
+
+int nvmeTemperature(const NvmeAttributeRecord *head)
+{
+    for (const NvmeAttributeRecord *row = head; row; row = row->Next) {
+        if (row->Name.text().contains(QLatin1String("Temperature")))
+            return row->Value.text().remove(QLatin1String("Celsius")).toInt();
+    }
+    return 0;
+}
+
+int displayTemperature(int celsius, bool fahrenheit)
+{
+    if (!fahrenheit || celsius == 0)
+        return celsius;
+    // A row may hold any number: the product is formed wide and the result cut to 32 bits.
+    return static_cast<int>(32 + static_cast<qint64>(celsius) * 9 / 5);
+}
+
+QString loadTemperatureText(int celsius, const QString &unit)
+{
+    return withUnit(celsius, unit == QLatin1String("F"));
+}
+
+QString pollTemperatureText(int celsius, const QString &unit)
+{
+    const bool known = unit == QLatin1String("C") || unit == QLatin1String("F");
+    return known ? loadTemperatureText(celsius, unit) : QString();
+}
+
+QString waitingTemperatureText(const QString &unit)
+{
+    const QString text = pollTemperatureText(0, unit);
+    return text.isEmpty() ? QString(QLatin1Char('0')) + DegreeSign : text;
+}
+
+QString loadTemperatureImage(int celsius)
+{
+    if (celsius < 50)
+        return QStringLiteral("img_temprature.png");
+    return celsius <= 65 ? QStringLiteral("img_temAverage.png") : QStringLiteral("img_HighTemp96.png");
+}
+
+QString pollTemperatureImage(int celsius)
+{
+    return celsius >= 50 ? QStringLiteral("img_temprature.png") : QString();
+}

@@ -1,0 +1,37 @@
+#include "smart/TextCuts.h"
+
+namespace cuts
+{
+
+QString lastPart(const QString &line, const QString &separator)
+{
+    QStringRef rest(&line);
+    while (rest.endsWith(separator))
+        rest.chop(separator.size());
+    const int before = rest.lastIndexOf(separator);
+    return (before < 0 ? rest : rest.mid(before + separator.size())).toString().trimmed();
+}
+
+QStringList firstParts(const QString &line, QChar separator, int count)
+{
+    QStringList parts;
+    int start = 0;
+    while (start < line.size() && parts.size() < count) {
+        int end = line.indexOf(separator, start);
+        if (end < 0)
+            end = line.size();
+        if (end > start)
+            parts << line.mid(start, end - start);
+        start = end + 1;
+    }
+    return parts;
+}
+
+QString without(QString text, std::initializer_list<const char *> literals)
+{
+    for (const char *literal : literals)
+        text.remove(QLatin1String(literal));
+    return text;
+}
+
+} // namespace cuts

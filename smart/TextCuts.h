@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <initializer_list>
+
+/// The ways in which a line of a tool is cut. Empty parts do not count. They look at no more of a line than
+/// they need, so that a line of any length costs one pass.
+namespace cuts
+{
+
+/// The last part of a line split on `separator`, trimmed; empty where there is none.
+QString lastPart(const QString &line, const QString &separator);
+
+/// The first parts of a line split on `separator`, at most `count`, untrimmed.
+QStringList firstParts(const QString &line, QChar separator, int count);
+
+/// The text without the literals, taken out one after the other wherever they stand.
+QString without(QString text, std::initializer_list<const char *> literals);
+
+} // namespace cuts

@@ -1,0 +1,134 @@
+#include "smart/ToolInvocation.h"
+
+#include "app/state/GlobalApp.h"
+#include "app/state/Globals.h"
+#include "inventory/CommandRunner.h"
+#include "smart/ReportParser.h"
+#include "smart/SmartGlobals.h"
+
+#include <QTextStream>
+
+#include <array>
+
+namespace
+{
+
+constexpr int NamedDevices = 14;
+constexpr int ComboRow = 10; ///< the self-test table's row that goes by the combo index
+
+struct ToolCommand {
+    const char *arguments;
+    const char *file;
+};
+
+/// In the order of ToolPurpose.
+constexpr std::array<ToolCommand, ToolPurposeCount> Commands = {{
+    {" -a ", "SMART.txt"},
+    {" -c ", "SMART1234.txt"},
+    {" -c ", "ShortTestStatus.txt"},
+    {" -t short ", "ShortTest.txt"},
+    {" -t long ", "ShortTest.txt"},
+    {" -X ", "SMART1234.txt"},
+    {" -l selftest ", "PreviousResult.txt"},
+}};
+
+const ToolCommand &commandOf(ToolPurpose purpose)
+{
+    return Commands.at(static_cast<std::size_t>(purpose));
+}
+
+QString toolProgram(ToolPurpose purpose)
+{
+    if (purpose == ToolPurpose::FullReport && g_strRunMode == QLatin1String("Schedular"))
+        return g_App.m_strSmartctlPath;
+    return g_App.m_bUse64BitTool ? QStringLiteral("smartctl64Bit.exe") : QStringLiteral("smartctl.exe");
+}
+
+/// Runs the full report into a fresh file, whose path comes back.
+QString runFullReport(const QString &device)
+{
+    const QString path = runner::freshTempFile(toolFileName(ToolPurpose::FullReport));
+    RunSilent(commandLine(ToolPurpose::FullReport, device, path));
+    return path;
+}
+
+} // namespace
+
+QString deviceName(int diskIndex)
+{
+    if (diskIndex < 0 || diskIndex >= NamedDevices)
+        return QString();
+    return QStringLiteral("/dev/sd") + QLatin1Char(static_cast<char>('a' + diskIndex));
+}
+
+QString deviceString(int diskIndex, const QString &interfaceText)
+{
+    const QString name = deviceName(diskIndex);
+    return interfaceText == QLatin1String("USB") ? QStringLiteral(" -d sat,12 ") + name : name;
+}
+
+QString interfaceOfDisk(int diskIndex)
+{
+    const WmicDiskRecord *record = findWmicDisk(static_cast<std::uint32_t>(diskIndex + PhysicalDriveBase));
+    return record ? record->szInterface.text() : QString();
+}
+
+QString selfTestDevice(int diskIndex, int comboIndex)
+{
+    for (int row = 0; row < NamedDevices; ++row) {
+        const int compared = row == ComboRow ? comboIndex : diskIndex;
+        if (compared == row)
+            return deviceName(row);
+    }
+    return QString();
+}
+
+QString toolFileName(ToolPurpose purpose)
+{
+    return QLatin1String(commandOf(purpose).file);
+}
+
+QString storedDevice(ToolPurpose purpose)
+{
+    switch (purpose) {
+    case ToolPurpose::FullReport:
+        return QString();
+    case ToolPurpose::SelfTestLog:
+        return g_strSmartDevice;
+    default:
+        return g_strSelfTestDevice;
+    }
+}
+
+QString commandLine(ToolPurpose purpose, const QString &device, const QString &file)
+{
+    return toolProgram(purpose) + QLatin1String(commandOf(purpose).arguments) + device +
+           QLatin1String(" >> ") + file;
+}
+
+void LoadSmartReport(int diskIndex)
+{
+    const QString path = runner::freshTempFile(toolFileName(ToolPurpose::FullReport));
+    g_strSmartReportPath = path;
+    const QString device = deviceString(diskIndex, interfaceOfDisk(diskIndex));
+    g_strSmartDevice = device;
+    RunSilent(commandLine(ToolPurpose::FullReport, device, path));
+}
+
+void RefreshTemperatureReport(int diskIndex)
+{
+    const QString path = runFullReport(deviceString(diskIndex, interfaceOfDisk(diskIndex)));
+    DetectReportKind(path);
+    ParseSmartReport(path);
+}
+
+void ProbeDiskIdentity(int diskIndex, const QString &interfaceText)
+{
+    const QString path = runFullReport(deviceString(diskIndex, interfaceText));
+    report::Identity identity;
+    runner::readOutput(path,
+                       [&identity](QTextStream &stream) { identity = report::readProbedIdentity(stream); });
+    g_strModelName = identity.model.value_or(QString());
+    g_strSerialNumber = identity.serial.value_or(QString());
+    g_strFirmware = identity.firmware.value_or(QString());
+}
