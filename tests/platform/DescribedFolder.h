@@ -1,0 +1,56 @@
+#pragma once
+
+#include "platform/simulated/SimulatedPlatform.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+/// A folder with the description of a PC, made by a test, and one for its state.
+class DescribedFolder
+{
+public:
+    QString path() const { return m_folder.path(); }
+    QString state() const { return m_state.path() + QLatin1String("/state"); }
+
+    void add(const QString &name, const QByteArray &contents) const
+    {
+        const QString file = path() + QLatin1Char('/') + name;
+        QDir().mkpath(QFileInfo(file).absolutePath());
+        QFile out(file);
+        if (!out.open(QIODevice::WriteOnly) || out.write(contents) != contents.size())
+            qFatal("a test file cannot be written");
+    }
+
+    /// The PC of `json`; ends the test program if that is no description.
+    std::unique_ptr<SimulatedPlatform> open(const QByteArray &json, simulated::Clock clock = {}) const
+    {
+        add(QStringLiteral("pc.json"), json);
+        QString error;
+        auto pc = SimulatedPlatform::open(path(), state(), &error, std::move(clock));
+        if (!pc)
+            qFatal("%s", qPrintable(error));
+        return pc;
+    }
+
+    static QByteArray contents(const QString &file)
+    {
+        QFile in(file);
+        return in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray();
+    }
+
+private:
+    QTemporaryDir m_folder;
+    QTemporaryDir m_state;
+};
+
+/// What a command of the PC leaves in a file.
+inline QByteArray outputOf(Platform &pc, const QString &command)
+{
+    const QString file = pc.GetTempPathW() + QLatin1String("out.txt");
+    QFile::remove(file);
+    pc.CreateProcessAndWait(
+        (QLatin1String("CMD.EXE /c ") + command + QLatin1String(" >> ") + file).toStdWString(), true);
+    return DescribedFolder::contents(file);
+}
