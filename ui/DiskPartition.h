@@ -16,8 +16,7 @@ public:
     explicit DiskPartition(QWidget *parent = nullptr);
     ~DiskPartition() override;
 
-    /// Shows serial number, interface and capacity of the selected disk. A field whose record is missing
-    /// keeps what it showed.
+    /// Shows serial number, interface and capacity of the selected disk; empty where there is no record.
     void FillPartitionHeader();
 
     QScrollArea *m_pScrollArea;

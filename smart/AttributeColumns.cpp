@@ -1,0 +1,64 @@
+#include "smart/AttributeColumns.h"
+
+#include "app/state/Scale.h"
+
+#include <QtGlobal>
+
+namespace attributecolumns
+{
+
+const std::vector<Column> &columns(bool nvme)
+{
+    static const std::vector<Column> ata = {
+        {QT_TRANSLATE_NOOP("SmartStatus", "     ID"), 55, false},
+        {QT_TRANSLATE_NOOP("SmartStatus", "Attribute Name"), 150, false},
+        {QT_TRANSLATE_NOOP("SmartStatus", "Status"), 90, false},
+        {QT_TRANSLATE_NOOP("SmartStatus", "Value"), 90, false},
+        {QT_TRANSLATE_NOOP("SmartStatus", "Worst"), 70, false},
+        {QT_TRANSLATE_NOOP("SmartStatus", "Threshold"), 90, false},
+        {QT_TRANSLATE_NOOP("SmartStatus", "Raw Value"), 90, false},
+        // The last five hold what the program looks up in a row; nobody sees their headers.
+        {QT_TRANSLATE_NOOP("SmartStatus", "Updated"), 100, true},
+        {QT_TRANSLATE_NOOP("SmartStatus", "Failed"), 100, true},
+        {QT_TRANSLATE_NOOP("SmartStatus", "Raw Value"), 100, true},
+        {QT_TRANSLATE_NOOP("SmartStatus", "Better"), 100, true},
+        {QT_TRANSLATE_NOOP("SmartStatus", "Overall Status"), 0, true},
+    };
+    static const std::vector<Column> nvmeColumns = {
+        {QT_TRANSLATE_NOOP("SmartStatus", "     ID"), 55, false},
+        {QT_TRANSLATE_NOOP("SmartStatus", "Attribute Name"), 300, false},
+        {QT_TRANSLATE_NOOP("SmartStatus", "Values"), 90, false},
+        {QT_TRANSLATE_NOOP("SmartStatus", "AttName"), 0, true},
+        {nullptr, 0, true},
+        {nullptr, 0, true},
+        {nullptr, 0, true},
+        {nullptr, 0, true},
+        {nullptr, 0, true},
+        {nullptr, 0, true},
+        {nullptr, 0, true},
+        {nullptr, 0, true},
+    };
+    return nvme ? nvmeColumns : ata;
+}
+
+int width(const Column &column, bool nvme, float scaleFactor)
+{
+    return nvme ? column.width : scale::scaled(column.width, scaleFactor);
+}
+
+int headerFontPixels(float scaleFactor, bool wideLanguage)
+{
+    switch (scale::imageSet(scaleFactor)) {
+    case scale::ImageSet::None:
+        break;
+    case scale::ImageSet::Dpi96:
+        return 14;
+    case scale::ImageSet::Dpi120:
+        return wideLanguage ? 17 : 18;
+    case scale::ImageSet::Dpi144:
+        return wideLanguage ? 21 : 22;
+    }
+    return 0;
+}
+
+} // namespace attributecolumns

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <vector>
+
+/// The columns of the attribute tree.
+namespace attributecolumns
+{
+
+constexpr int Count = 12;
+
+struct Column {
+    const char *header; ///< context SmartStatus; null: keeps what it has
+    int width;          ///< 0: as it comes
+    bool hidden;
+};
+
+/// All columns for the reports of NVMe disks or those of all others.
+const std::vector<Column> &columns(bool nvme);
+
+/// Width of a column in pixels, 0 where it has none of its own. Those of NVMe disks do not follow the scale.
+int width(const Column &column, bool nvme, float scaleFactor);
+
+/// Font size of the header in pixels, 0 where the scale has none. Languages with wide header words take a
+/// smaller one.
+int headerFontPixels(float scaleFactor, bool wideLanguage);
+
+} // namespace attributecolumns

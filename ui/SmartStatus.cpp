@@ -1,0 +1,174 @@
+#include "ui/SmartStatus.h"
+
+#include "app/state/GlobalApp.h"
+#include "app/state/Globals.h"
+#include "smart/AttributeColumns.h"
+#include "ui/PageLook.h"
+#include "ui/Style.h"
+
+#include <QEvent>
+#include <QHeaderView>
+#include <QTreeWidget>
+
+namespace
+{
+
+const QString BlueGreyLabel = QStringLiteral("QLabel {color : #64778b;}");
+
+/// An empty label that keeps rows apart.
+QLabel *newSpacer(QWidget *parent)
+{
+    auto *spacer = new QLabel(parent);
+    spacer->setFixedHeight(style::px(2));
+    return spacer;
+}
+
+} // namespace
+
+SmartStatus::SmartStatus(QWidget *parent) : QWidget(parent)
+{
+    setupUi(this);
+    pagelook::makePage(this);
+    pagelook::styleHeadings({TreeStringLbl, GraphLabel});
+    SmartResultLabel->setFont(style::font(13));
+    for (QLabel *name : {SerialNumberLbl, InterfaceLbl, CapacityLbl}) {
+        name->setFont(style::semiBold(10));
+        name->setStyleSheet(BlueGreyLabel);
+    }
+    for (QLabel *value : {SerialNunValueLbl, InterfaceValLbl, CapcityValLbl}) {
+        value->setFont(style::font(10));
+        value->setStyleSheet(BlueGreyLabel);
+        value->setTextFormat(Qt::PlainText);
+    }
+    makeTree();
+    makeHeading();
+    layOutPage();
+    setFixedTexts();
+    FormatSmartTable();
+}
+
+void SmartStatus::makeTree()
+{
+    m_pAttributeTree = new QTreeWidget(DitaledFrame);
+    m_pAttributeTree->setObjectName(QStringLiteral("m_pAttributeTree"));
+    m_pAttributeTree->setAlternatingRowColors(true);
+    m_pAttributeTree->setRootIsDecorated(false);
+    m_pAttributeTree->setFixedHeight(style::px(126));
+    m_pAttributeTree->setFocusPolicy(Qt::NoFocus);
+    m_pAttributeTree->setFrameShape(QFrame::NoFrame);
+    m_pAttributeTree->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_pAttributeTree->setFont(style::font(10));
+    m_pAttributeTree->setColumnCount(attributecolumns::Count);
+    m_pAttributeTree->setStyleSheet(QStringLiteral(".QTreeWidget{ border: 1px solid #e0d0e0;}"));
+    pagelook::styleVerticalScrollBar(m_pAttributeTree);
+
+    QPalette palette = m_pAttributeTree->palette();
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::AlternateBase, QColor(0xf5, 0xf5, 0xf5));
+    palette.setColor(QPalette::Highlight, QColor(0xe4, 0xf0, 0xfd));
+    palette.setColor(QPalette::HighlightedText, Qt::black);
+    m_pAttributeTree->setPalette(palette);
+}
+
+void SmartStatus::makeHeading()
+{
+    m_pHeadingLabel = new QLabel(ImageLabel);
+    m_pHeadingLabel->setObjectName(QStringLiteral("m_pHeadingLabel"));
+    m_pHeadingLabel->setFixedHeight(style::px(20));
+    m_pHeadingResultLabel = new QLabel(ImageLabel);
+    m_pHeadingResultLabel->setObjectName(QStringLiteral("m_pHeadingResultLabel"));
+    m_pHeadingResultLabel->setFixedHeight(style::px(28));
+    HeadingGrid->addWidget(m_pHeadingLabel, 0, 0, 1, 2);
+    HeadingGrid->addWidget(m_pHeadingResultLabel, 1, 0, 1, 2);
+}
+
+void SmartStatus::layOutPage()
+{
+    SmartResultLabel->setFixedHeight(static_cast<int>(23.5F * g_App.m_fScale));
+    AttributeColumn->setSpacing(5);
+    AttributeColumn->insertWidget(0, newSpacer(DitaledFrame));
+    AttributeColumn->insertWidget(1, m_pAttributeTree);
+    AttributeColumn->insertWidget(2, newSpacer(DitaledFrame));
+}
+
+void SmartStatus::setFixedTexts()
+{
+    TreeStringLbl->setText(tr("SMART Status : "));
+    SerialNumberLbl->setText(tr("Serial Number"));
+    CapacityLbl->setText(tr("Capacity"));
+    InterfaceLbl->setText(tr("Interface Type"));
+    SaveReportButton->setText(tr("Save Report"));
+    m_pHeadingLabel->setText(tr("Smart Status"));
+}
+
+void SmartStatus::FormatSmartTable()
+{
+    const bool nvme = g_App.m_bNVMe;
+    QTreeWidgetItem *header = m_pAttributeTree->headerItem();
+    int index = 0;
+    for (const attributecolumns::Column &column : attributecolumns::columns(nvme)) {
+        if (column.header) {
+            const QString text = tr(column.header);
+            header->setText(index, text);
+            header->setToolTip(index, text.trimmed());
+        }
+        const int width = attributecolumns::width(column, nvme, g_App.m_fScale);
+        if (width > 0)
+            m_pAttributeTree->setColumnWidth(index, width);
+        m_pAttributeTree->setColumnHidden(index, column.hidden);
+        ++index;
+    }
+
+    QHeaderView *view = m_pAttributeTree->header();
+    view->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    view->setFixedHeight(style::px(28));
+    view->setSectionsMovable(false);
+    QString sheet = QStringLiteral("QHeaderView::section{color : #000000}");
+    const int pixels =
+        attributecolumns::headerFontPixels(g_App.m_fScale, g_App.m_bItalian || g_App.m_bKorean);
+    if (pixels > 0)
+        sheet += QStringLiteral("QHeaderView{font-size : %1px}").arg(pixels);
+    sheet += QStringLiteral("QHeaderView{background : #f8fafc}"
+                            "QHeaderView::section{background : #f8fafc; border : none; "
+                            "border-bottom : 1px solid #e0d0e0; padding-left : %1px}")
+                 .arg(style::px(4));
+    view->setStyleSheet(sheet);
+}
+
+void SmartStatus::showOverallResult()
+{
+    if (g_bSmartAvailable) {
+        m_pHeadingResultLabel->setText(tr("PASSED"));
+        SmartResultLabel->setText(tr("Passed"));
+        SmartResultLabel->setStyleSheet(style::PassedLabel);
+        GraphLabel->setText(tr("Graph"));
+    } else {
+        m_pHeadingResultLabel->setText(tr("FAIELD"));
+        SmartResultLabel->setText(tr("Failed"));
+        SmartResultLabel->setStyleSheet(style::FailedLabel);
+        GraphLabel->clear();
+    }
+}
+
+void SmartStatus::showSelectedDisk()
+{
+    const DiskNode *node = findPhysicalDisk(PhysicalDriveBase + g_nCurrentDiskIndex);
+    if (!node)
+        return;
+    CapcityValLbl->setText(node->szSize.text());
+    const WmicDiskRecord *record = findWmicDisk(node->nId);
+    const bool named = record && !record->szInterface.isEmpty();
+    InterfaceValLbl->setText(named ? record->szInterface.text() : tr("ATA Disk"));
+}
+
+void SmartStatus::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        retranslateUi(this);
+        setFixedTexts();
+        showOverallResult();
+        showSelectedDisk();
+        FormatSmartTable();
+    }
+    QWidget::changeEvent(event);
+}
