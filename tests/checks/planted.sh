@@ -1,0 +1,71 @@
+#!/usr/bin/env bash
+# planted.sh <root> <folder of widget headers…>: each check finds the fault that is planted in a small tree for it, and
+# passes the same tree without the fault.
+set -euo pipefail
+checks=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+root=$1
+headers=("${@:2}")
+tree=$(mktemp -d)
+trap 'rm -rf "$tree"' EXIT
+failures=0
+
+# A tree in which nothing is wrong.
+sound() {
+    rm -rf "${tree:?}"/*
+    mkdir -p "$tree"/{platform,app/state,smart,ui/forms,demo,tests/checks,tests/data}
+    cp "$root/.clang-format" "$tree"
+    cp "$checks/long-files.txt" "$tree/tests/checks"
+    sed -i '/^[^#]/d' "$tree/tests/checks/long-files.txt"
+    printf '#ifdef Q_OS_WIN\n#endif\n' >"$tree/platform/Seam.h"
+    printf '#include "platform/Seam.h"\n' >"$tree/app/state/State.h"
+    printf '#include "app/state/State.h"\n\n#include <QString>\n' >"$tree/smart/Rating.cpp"
+    printf '#include "smart/Rating.h"\n#include "ui_Page.h"\n\n#include <QWidget>\n' >"$tree/ui/Page.h"
+    printf '<ui version="4.0"><class>Page</class></ui>\n' >"$tree/ui/forms/Page.ui"
+    printf '{ "disks": [ 1.5, true, null ] }\n' >"$tree/demo/pc.json"
+    printf '{ broken\n' >"$tree/tests/data/broken.json"
+}
+
+# finds <check> <what the complaint has to name> <file> <contents>
+finds() {
+    local check=$1 named=$2 output status=0
+    sound
+    "$checks/$check.sh" "$tree" "${headers[@]}" >/dev/null 2>&1 || {
+        echo "$check complains about a sound tree"
+        failures=$((failures + 1))
+    }
+    mkdir -p "$(dirname "$tree/$3")"
+    printf '%b' "$4" >"$tree/$3"
+    output=$("$checks/$check.sh" "$tree" "${headers[@]}" 2>&1) || status=$?
+    if [ "$status" -ne 1 ] || ! grep -qF "$named" <<<"$output"; then
+        printf '%s does not find %s in %s (status %d)\n%s\n' "$check" "$named" "$3" "$status" "$output"
+        failures=$((failures + 1))
+    fi
+}
+
+long=$(printf '// line\n%.0s' {1..501})
+finds includes 'points upwards' platform/Up.cpp '#include "app/state/State.h"\n'
+finds includes 'points upwards' smart/Up.h '#  include <ui/Page.h>\n'
+finds includes 'points upwards' reports/Up.cpp '#include "ui_Page.h"\n'
+finds includes 'points upwards' ui/Up.cpp '#include "app/Splash.h"\n'
+finds includes 'a widget' smart/Widget.cpp '#include <QPushButton>\n'
+finds includes 'a widget' app/state/Widget.h '#include <QtWidgets/QLabel>\n'
+finds includes 'a widget' inventory/Chart.cpp '#include <QtCharts/QChart>\n'
+finds includes 'begin at the root' ui/Near.cpp '#include "Page.h"\n'
+finds platforms 'smart/Os.cpp:1' smart/Os.cpp '#ifdef Q_OS_LINUX\n#endif\n'
+finds platforms 'ui/Os.cpp:1' ui/Os.cpp '#if defined(_WIN32)\n#endif\n'
+finds platforms 'tests/Os.cpp:1' tests/Os.cpp '#if defined(__linux__)\n#endif\n'
+finds format 'smart/Ugly.cpp:1' smart/Ugly.cpp 'int  main( ) {return 0;}\n'
+finds words 'smart/Words.cpp:1' smart/Words.cpp '// see the s''pec\n'
+finds words 'README.md:2' README.md 'A line\nas in P''art 3.2\n'
+finds words 'README.md:1' README.md 'The C''EO asks\n'
+finds well-formed 'ui/forms/Torn.ui:2' ui/forms/Torn.ui '<ui><class>\n'
+finds well-formed 'a.svg:1' resources/a.svg '<svg width=1/>\n'
+finds well-formed 'demo/comma.json' demo/comma.json '{ "a": [ 1, ] }\n'
+finds well-formed 'demo/comment.json' demo/comment.json '{ "a": 1 } // why\n'
+finds well-formed 'demo/two.json' demo/two.json '{} {}\n'
+finds well-formed 'demo/nan.json' demo/nan.json '{ "a": nan }\n'
+finds well-formed 'demo/empty.json' demo/empty.json ''
+finds lengths 'smart/Long.cpp: 501' smart/Long.cpp "$long\n"
+finds lengths 'no reason' tests/checks/long-files.txt 'smart/Rating.cpp\n'
+finds lengths 'is not above' tests/checks/long-files.txt 'smart/Rating.cpp a table\n'
+[ "$failures" -eq 0 ]

@@ -1,0 +1,9 @@
+#!/usr/bin/env bash
+# Only platform/ and its tests know the operating system that they are compiled for.
+. "$(dirname "${BASH_SOURCE[0]}")/files.sh"
+
+list=$(files '*.cpp' '*.h' | grep -vE '^(tests/)?platform/')
+pattern='^[[:space:]]*#.*\b(Q_OS_[A-Z0-9_]+|Q_CC_[A-Z0-9_]+|_?_?(WIN32|WIN64|linux|unix|APPLE|MINGW32|MINGW64|MSC_VER)(__)?)\b'
+# shellcheck disable=SC2086
+{ grep -nE "$pattern" /dev/null $list || [ $? -eq 1 ]; } |
+    verdict "The operating system is tested for outside platform/:"

@@ -1,0 +1,9 @@
+#!/usr/bin/env bash
+# The tree explains itself: it refers to its own code and documents, never to papers that a reader does not have.
+. "$(dirname "${BASH_SOURCE[0]}")/files.sh"
+
+list=$(files '*' | grep -vE '^LICENSE')
+# The brackets keep the pattern from finding itself.
+pattern='\b(the |this )?s[p]ec(ification)?\b|\bp[a]rts? [1-8]\.[1-9]\b|a[s] specified|\bC[E]O\b'
+{ tr '\n' '\0' <<<"$list" | xargs -0 grep -nIiE "$pattern" /dev/null || [ $? -eq 123 ]; } |
+    verdict "These lines refer to something outside the tree:"
