@@ -20,6 +20,11 @@ QString fileName()
     return g_App.m_bKorvaneBrand ? QStringLiteral("KorvaneSMART.exe") : FirstBrand;
 }
 
+QString taskName()
+{
+    return g_App.m_bKorvaneBrand ? QStringLiteral("KorvaneSMART") : QStringLiteral("VelmoraSMART");
+}
+
 QString fullPath()
 {
     return g_App.m_strApplicationFolder + QLatin1Char('\\') + fileName();
@@ -29,8 +34,7 @@ State check()
 {
     const QString system = g_App.m_strSystemFolder;
     const QString command = system + QStringLiteral("\\tasklist.exe | ") + system +
-                            QStringLiteral("\\findstr.exe ") + fileName() + QStringLiteral(" >> ") +
-                            tempFile(TaskListFile);
+                            QStringLiteral("\\findstr.exe ") + fileName();
     State state = State::NotRunning;
     const bool read = runner::runAndRead(command, TaskListFile, [&state](QTextStream &stream) {
         while (!stream.atEnd()) {

@@ -10,6 +10,9 @@ namespace companion
 /// File name of the companion, by brand.
 QString fileName();
 
+/// Name of its logon task, by brand.
+QString taskName();
+
 /// The companion beside the application.
 QString fullPath();
 

@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <QStringList>
 #include <QVector>
 
 /// A PC as plain records: what the tools of platform/tools/ speak about. Linux fills it from the kernel, the

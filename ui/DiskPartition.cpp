@@ -8,6 +8,11 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
+namespace
+{
+constexpr int HeaderHeight = 143;
+}
+
 DiskPartition::DiskPartition(QWidget *parent) : QWidget(parent)
 {
     setupUi(this);
@@ -16,6 +21,7 @@ DiskPartition::DiskPartition(QWidget *parent) : QWidget(parent)
     pagelook::styleNames({SerialNumberLbl, CapacityLbl, InterfaceLbl});
     pagelook::styleValues({SerialNunValueLbl, CapcityValLbl, InterfaceValLbl});
     DetailGrid->setColumnMinimumWidth(0, style::px(115));
+    HeaderRow->addStrut(style::px(HeaderHeight));
     makeScrollArea();
     setFixedTexts();
 }

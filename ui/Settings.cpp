@@ -12,6 +12,8 @@
 #include <QFileDialog>
 #include <QMenu>
 
+#include <algorithm>
+
 namespace
 {
 
@@ -24,17 +26,22 @@ bool leftOutByBrand(int type)
     return g_App.m_bKorvaneBrand && (type == 7 || type == 10);
 }
 
+/// Path of a picture for a style sheet; the nearest set where the scale has none of its own.
+QString picture(const QString &file)
+{
+    const QString path = scale::imagePath(file, g_App.m_fScale);
+    return path.isEmpty() ? QStringLiteral(":/images/") + file : path;
+}
+
 /// A flat picture button of the title strip.
 void styleTitleButton(QPushButton *button, const QString &file)
 {
-    const QString path = scale::imagePath(file, g_App.m_fScale);
-    const QString image = path.isEmpty() ? QStringLiteral(":/images/") + file : path;
     button->setStyleSheet(QStringLiteral("QPushButton{border: none; border-radius: %1px; background: "
                                          "transparent; image: url(%2);}"
                                          "QPushButton:hover, QPushButton:focus{background: #e4f0fd;}"
                                          "QPushButton::menu-indicator{image: none; width: 0px;}")
                               .arg(style::px(4))
-                              .arg(image));
+                              .arg(picture(file)));
     button->setCursor(Qt::PointingHandCursor);
 }
 
@@ -102,6 +109,12 @@ void Settings::styleFields()
     styleTitleButton(m_pHelpButton, QStringLiteral("img_Help.png"));
     styleTitleButton(m_pLanguageButton, QStringLiteral("img_Language.png"));
     styleTitleButton(CloseButton, QStringLiteral("img_Close.png"));
+    m_pLanguageMenu->setFont(style::font(10));
+    m_pLanguageMenu->setStyleSheet(QStringLiteral("QMenu::indicator{left: %1px; width: %2px; height: %2px;}"
+                                                  "QMenu::indicator:checked{image: url(%3);}")
+                                       .arg(style::px(8))
+                                       .arg(style::px(14))
+                                       .arg(picture(QStringLiteral("img_CheckOn.png"))));
     m_pUpdateButton->hide();
     m_pHelpButton->hide();
     m_pLanguageButton->setVisible(g_App.m_bShowLanguageMenu);
@@ -147,6 +160,17 @@ void Settings::translateTexts()
     for (const languages::Language &language : languages::table)
         m_apLanguageActions[static_cast<std::size_t>(language.type)]->setText(
             QCoreApplication::translate("MainWindow", language.text));
+    widenUnitCombo();
+}
+
+void Settings::widenUnitCombo()
+{
+    // What the style sheet adds to the text: padding, border and the arrow.
+    int widest = 0;
+    for (int item = 0; item < degreeComboBox->count(); ++item)
+        widest =
+            std::max(widest, degreeComboBox->fontMetrics().horizontalAdvance(degreeComboBox->itemText(item)));
+    degreeComboBox->setFixedWidth(std::max(style::px(130), widest + style::px(60)));
 }
 
 void Settings::setAlarmEnabled(bool enabled)

@@ -32,14 +32,11 @@ public:
     /// Stores units, alarm, thresholds (as shown, in the shown unit) and log path.
     void SaveToStore();
 
-    /// Fills the language button's menu with the languages on offer and checks the current one.
-    void BuildLanguageMenu();
-
     /// By LanguageType. All eleven are there, also those that the menu leaves out.
     std::array<QAction *, LanguageCount> m_apLanguageActions{};
-    QPushButton *m_pUpdateButton;
-    QPushButton *m_pHelpButton;
-    QPushButton *m_pLanguageButton;
+    QPushButton *m_pUpdateButton = nullptr;
+    QPushButton *m_pHelpButton = nullptr;
+    QPushButton *m_pLanguageButton = nullptr;
 
 public slots:
     void CloseWindow();
@@ -55,10 +52,13 @@ protected:
 
 private:
     void addHeaderButtons();
+    /// Fills the language button's menu with the languages on offer and checks the current one.
+    void BuildLanguageMenu();
     void fillFields();
     void styleFields();
     void connectFields();
     void translateTexts();
+    void widenUnitCombo();
     void setAlarmEnabled(bool enabled);
     void setThresholds(int warning, int shutDown);
 

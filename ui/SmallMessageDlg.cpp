@@ -2,7 +2,9 @@
 
 #include "ui/Style.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QEvent>
+#include <QTextBlock>
 
 SmallMessageDlg::SmallMessageDlg(QWidget *parent) : QDialog(parent), m_Frame(this)
 {
@@ -30,14 +32,18 @@ void SmallMessageDlg::SetText(const QString &text, int leadingBlankLines)
     if (leadingBlankLines < 2)
         cursor.insertBlock();
     cursor.setBlockCharFormat(body);
+    const int textBlock = cursor.blockNumber();
     cursor.insertText(text, body);
 
-    // As high as the text, so that nothing scrolls.
+    // As high as the text, so that nothing scrolls, and with as much room below as the empty blocks take
+    // above, so that the text stands beside the picture.
     m_Frame.fit();
     layout()->activate();
     QTextDocument *document = textEdit->document();
     document->setTextWidth(textEdit->viewport()->width());
-    textEdit->setFixedHeight(static_cast<int>(document->size().height()) + style::px(8));
+    const QRectF first =
+        document->documentLayout()->blockBoundingRect(document->findBlockByNumber(textBlock));
+    textEdit->setFixedHeight(static_cast<int>(document->size().height() + first.top()) + style::px(2));
     m_Frame.fit();
 }
 

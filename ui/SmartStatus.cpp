@@ -120,9 +120,11 @@ void SmartStatus::FormatSmartTable()
     }
 
     QHeaderView *view = m_pAttributeTree->header();
+    view->setFont(style::font(10));
     view->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     view->setFixedHeight(style::px(28));
     view->setSectionsMovable(false);
+    view->setTextElideMode(Qt::ElideRight);
     QString sheet = QStringLiteral("QHeaderView::section{color : #000000}");
     const int pixels =
         attributecolumns::headerFontPixels(g_App.m_fScale, g_App.m_bItalian || g_App.m_bKorean);

@@ -13,8 +13,8 @@ struct ComboTexts {
     QString source; ///< item of the clone source combo
 };
 
-/// The texts of a physical node. `record` is its line of the system's disk table, null if there is none; `size` is
-/// the disk's size text.
+/// The texts of a physical node. `record` is its line of the system's disk table, null if there is none;
+/// `size` is the disk's size text.
 ComboTexts comboTexts(const DiskNode &node, const WmicDiskRecord *record, const QString &size);
 
 /// The node's own display name: identity model and serial, or "Removable Drive".

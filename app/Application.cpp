@@ -1,0 +1,152 @@
+#include "app/Application.h"
+
+#include "app/QWaitClass.h"
+#include "app/state/GlobalApp.h"
+#include "app/state/Globals.h"
+#include "app/state/Languages.h"
+#include "app/state/SettingsStore.h"
+#include "platform/Platform.h"
+
+#include <QApplication>
+#include <QFont>
+#include <QMessageBox>
+#include <QSharedMemory>
+
+#include <cstdlib>
+
+// A resource of a static library has to be asked for from outside any namespace.
+static void initialiseResources()
+{
+    Q_INIT_RESOURCE(images);
+}
+
+namespace
+{
+
+const QString InstanceKey = QStringLiteral("7c41e9d2-a06b-4f37-66mm-d3f02a91c5b8");
+constexpr int InstanceSegment = 512; ///< bytes
+
+void substituteFonts()
+{
+    // Only where the asked family is not installed does the substitution come into play.
+    QFont::insertSubstitution(QStringLiteral("Segoe UI"), QStringLiteral("Open Sans"));
+    QFont::insertSubstitution(QStringLiteral("Segoe UI SemiBold"), QStringLiteral("Open Sans SemiBold"));
+}
+
+void setDefaults()
+{
+    languages::setFlag(-1);
+    g_strApplicationFolder = QCoreApplication::applicationDirPath();
+    g_App.m_bStandalone = true;
+    g_App.m_bKorvaneBrand = false;
+    g_App.m_bHelpOnline = true;
+    g_App.m_bShowLanguageMenu = true;
+    g_App.m_bWriteSiblingLanguage = true;
+    g_App.m_strSibling1 = QStringLiteral("VelmoraDataRescue.exe");
+    g_App.m_strSibling2 = QStringLiteral("VelmoraFilmMender.exe");
+    g_App.m_strSibling3 = QStringLiteral("VelmoraSnapshotMender.exe");
+}
+
+/// The registry paths by packaging and brand. Every settings object opens the one with the redirection node.
+void chooseRegistryPaths()
+{
+    struct Paths {
+        const char *redirected;
+        const char *native;
+    };
+    static const Paths standalone = {
+        "HKEY_LOCAL_MACHINE\\Software\\Wow6432Node\\Velmora Data Rescue\\Velmora Halvane "
+        "for Windows",
+        "HKEY_LOCAL_MACHINE\\SOFTWARE\\Velmora Data Rescue\\Velmora Halvane for Windows"};
+    static const Paths korvane = {
+        "HKEY_LOCAL_MACHINE\\Software\\Wow6432Node\\Kestrin Korvane\\EasyMend\\Korvane "
+        "Halvane for Windows",
+        "HKEY_LOCAL_MACHINE\\Software\\Kestrin Korvane\\EasyMend\\Korvane Halvane for Windows"};
+    static const Paths bundled = {
+        "HKEY_LOCAL_MACHINE\\Software\\Wow6432Node\\Velmora Data Rescue\\Data "
+        "Rescue\\Velmora Halvane for Windows",
+        "HKEY_LOCAL_MACHINE\\SOFTWARE\\Velmora Data Rescue\\Data Rescue\\Velmora Halvane for "
+        "Windows"};
+    const Paths &paths = g_App.m_bStandalone ? standalone : g_App.m_bKorvaneBrand ? korvane : bundled;
+    g_App.m_strSettingsPath = QLatin1String(paths.redirected);
+    g_App.m_strNativeSettingsPath = QLatin1String(paths.native);
+    if (g_App.m_bStandalone)
+        return;
+    const QString root =
+        g_App.m_bKorvaneBrand
+            ? QStringLiteral("HKEY_LOCAL_MACHINE\\Software\\Wow6432Node\\Kestrin Korvane\\EasyMend\\")
+            : QStringLiteral("HKEY_LOCAL_MACHINE\\Software\\Wow6432Node\\Velmora Data Rescue\\Data Rescue\\");
+    const QString brand = g_App.m_bKorvaneBrand ? QStringLiteral("Korvane ") : QStringLiteral("Velmora ");
+    g_App.m_strSiblingKey1 = root + brand + QStringLiteral("Data Rescue for Windows");
+    g_App.m_strSiblingKey2 = root + brand + QStringLiteral("Film Mender for Windows");
+    g_App.m_strSiblingKey3 = root + brand + QStringLiteral("Snapshot Mender for Windows");
+}
+
+void readStartSettings(int *languageType)
+{
+    const SettingsStore store;
+    *languageType = store.number(key::LanguageType);
+    const QString scheduled = QStringLiteral("Schedular");
+    g_strRunMode = store.text(key::TaskName) == scheduled ? scheduled : QString();
+}
+
+/// Takes the segment that tells other instances of this one.
+bool takeInstance(QSharedMemory &guard)
+{
+    // A segment outlives a process that was killed: the last one to let go of it removes it.
+    if (guard.attach())
+        guard.detach();
+    return guard.create(InstanceSegment, QSharedMemory::ReadWrite);
+}
+
+[[noreturn]] void refuseSecondInstance()
+{
+    QMessageBox::information(
+        nullptr, QString(),
+        QCoreApplication::translate(
+            "QObject",
+            "Velmora Halvane already running. Cannot start more than one instance of the application."),
+        QMessageBox::Ok);
+    std::exit(0);
+}
+
+void readMachine()
+{
+    Platform &platform = Platform::current();
+    g_App.m_strUserName = platform.GetUserNameW();
+    g_App.m_bUse64BitTool = true;
+    g_App.m_strApplicationFolder = g_strApplicationFolder;
+    g_App.m_strAppFolderCopy = g_strApplicationFolder;
+    g_App.m_strSystemFolder = platform.GetSystemDirectoryW();
+}
+
+} // namespace
+
+int runApplication(int argc, char **argv)
+{
+    Platform &platform = Platform::current();
+    QApplication application(argc, argv);
+    initialiseResources();
+    substituteFonts();
+    // Windows hide and come back while the splash lives on; only the close question ends the program.
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    g_strStartArgument = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QString();
+    g_strRunMode = g_strStartArgument;
+    setDefaults();
+    chooseRegistryPaths();
+    int languageType = 0;
+    readStartSettings(&languageType);
+    languages::setFlag(languageType);
+    languages::setOffered();
+    languages::loadAtStart();
+
+    QSharedMemory guard(InstanceKey + platform.InstanceScope());
+    if (!takeInstance(guard))
+        refuseSecondInstance();
+    readMachine();
+
+    auto *splash = new QWaitClass;
+    splash->show();
+    return QApplication::exec();
+}

@@ -1,0 +1,211 @@
+#include "app/QWaitClass.h"
+
+#include "app/state/GlobalApp.h"
+#include "app/state/Globals.h"
+#include "app/state/Languages.h"
+#include "app/state/Scale.h"
+#include "app/state/SettingsStore.h"
+#include "platform/Platform.h"
+#include "ui/Images.h"
+#include "ui/MainWindow.h"
+#include "ui/Style.h"
+
+#include <QLinearGradient>
+#include <QMovie>
+#include <QPainter>
+#include <QPainterPath>
+#include <QRegion>
+#include <QTimer>
+
+namespace
+{
+
+constexpr int FadeTick = 50; ///< milliseconds
+constexpr double FadeStep = 0.1;
+constexpr float FadeInEnd = 4.0F;
+constexpr float FadeOutStart = 3.0F;
+/// Continuous, system required, away mode required: the machine must not sleep while the program runs.
+constexpr quint32 StayAwake = 0x80000041u;
+
+/// A step is taken in double precision and kept in single.
+float stepped(float value, double step)
+{
+    return static_cast<float>(static_cast<double>(value) + step);
+}
+
+} // namespace
+
+QWaitClass::QWaitClass()
+{
+    setupUi(this);
+    m_pWaitDialog = this;
+    setWindowFlags(Qt::FramelessWindowHint);
+    style::setWhiteBackground(this);
+    g_App.m_fScale = scale::factorForDpi(Platform::current().LogPixelsX());
+    setTextRectangle();
+    setSideImage();
+    scaleWidgets();
+    styleBrand();
+    InitTextLabel->setText(tr("Initializing Velmora Halvane..."));
+    InitTextLabel->setStyleSheet(QStringLiteral("QLabel { color : black;}"));
+    InitTextLabel->setFont(style::font(10));
+    startFadeIn();
+    if (DeviceNotifier *notifier = Platform::current().deviceNotifier())
+        connect(notifier, &DeviceNotifier::deviceChange, this, &QWaitClass::onDeviceChange);
+}
+
+QWaitClass::~QWaitClass() = default;
+
+void QWaitClass::setTextRectangle()
+{
+    m_rcText = {65, 218, 110, 21};
+    if (g_App.m_bFrench || g_App.m_bSpanish)
+        m_rcText.x = 85;
+    else if (g_App.m_bItalian)
+        m_rcText.x = 75;
+    else if (g_App.m_bEnglish)
+        m_rcText = {60, 218, 86, 21};
+}
+
+void QWaitClass::setSideImage()
+{
+    QString file = QStringLiteral("img_SideImage.png");
+    if (g_App.m_bKorvaneBrand)
+        file = QStringLiteral("img_SideImageKorvane.png");
+    else if (g_App.m_bKorean && g_App.m_bKoreanImages)
+        file = QStringLiteral("img_SideImage_KO.png");
+    images::setLabelImage(label_3, file, scale::Family::Folder);
+}
+
+void QWaitClass::scaleWidgets()
+{
+    setFixedSize(style::px(width()), style::px(height()));
+    for (QLabel *child : {label_3, InitTextLabel, ProgressLabel, SplaceCoptLabel})
+        style::scaleWidget(child);
+}
+
+void QWaitClass::styleBrand()
+{
+    if (!g_App.m_bKorvaneBrand) {
+        SplaceCoptLabel->hide();
+        return;
+    }
+    SplaceCoptLabel->setGeometry(style::px(1), style::px(212), style::px(448), style::px(20));
+    SplaceCoptLabel->setText(SettingsStore().text(key::SCopyrightText));
+    SplaceCoptLabel->setFont(style::font(8));
+    InitTextLabel->setGeometry(1, 177, 448, 20);
+}
+
+void QWaitClass::startFadeIn()
+{
+    m_pFadeInTimer = new QTimer(this);
+    setWindowFlags(Qt::SplashScreen);
+    setWindowOpacity(0.0);
+    m_fFadeIn = 0.0F;
+    m_fFadeOut = 0.0F;
+    Platform::current().SetThreadExecutionState(StayAwake);
+    m_pFadeInTimer->start(FadeTick);
+    connect(&m_loadThread, &QThreadDevicesLoad::OnLoadingDevices, this, &QWaitClass::OnInitialize);
+    connect(m_pFadeInTimer, &QTimer::timeout, this, &QWaitClass::OnTimerLoadSlot);
+}
+
+void QWaitClass::OnTimerLoadSlot()
+{
+    setWindowOpacity(static_cast<qreal>(m_fFadeIn));
+    m_fFadeIn = stepped(m_fFadeIn, FadeStep);
+    if (m_fFadeIn >= FadeInEnd)
+        startLoading();
+}
+
+void QWaitClass::startLoading()
+{
+    m_pMovie = images::newMovie(QStringLiteral("img_InitProgress.gif"), this);
+    if (g_App.m_bKorvaneBrand)
+        ProgressLabel->setGeometry(1, 160, 448, 16);
+    ProgressLabel->setMovie(m_pMovie);
+    m_pMovie->start();
+    m_fFadeOut = FadeOutStart;
+    m_pFadeOutTimer = new QTimer(this);
+    m_pFadeInTimer->stop();
+    emit WidgetDisable();
+    m_loadThread.start(QThread::InheritPriority);
+}
+
+void QWaitClass::OnInitialize()
+{
+    if (m_pMovie)
+        m_pMovie->stop();
+    m_pFadeOutTimer->start(FadeTick);
+    connect(m_pFadeOutTimer, &QTimer::timeout, this, &QWaitClass::OnTimerSlot);
+}
+
+void QWaitClass::OnTimerSlot()
+{
+    setWindowOpacity(static_cast<qreal>(m_fFadeOut));
+    m_fFadeOut = stepped(m_fFadeOut, -FadeStep);
+    if (m_fFadeOut > 0.0F)
+        return;
+    m_rcSplash = geometry();
+    hide();
+    showMainWindow();
+    m_fFadeOut = 0.0F;
+    m_pFadeOutTimer->stop();
+}
+
+void QWaitClass::showMainWindow()
+{
+    if (m_bMainWindowCreated)
+        return;
+    m_pMain = new MainWindow;
+    connect(this, &QWaitClass::DriveArrived, m_pMain, &MainWindow::OnRefresh);
+    connect(this, &QWaitClass::DriveRemoved, m_pMain, &MainWindow::OnRefresh);
+    style::centreOn(m_pMain, m_rcSplash);
+    m_pMain->raise();
+    m_bMainWindowCreated = true;
+    m_pMain->show();
+}
+
+void QWaitClass::GetDriveRefresh()
+{
+    emit WidgetDisable();
+    m_loadThread.start(QThread::InheritPriority);
+}
+
+void QWaitClass::onDeviceChange(quint32 event, quint32 deviceType)
+{
+    if (deviceType != DeviceChange::Volume)
+        return;
+    if (event != DeviceChange::Arrival && event != DeviceChange::RemoveComplete)
+        return;
+    m_bDeviceChanged = true;
+    if (g_bJobRunning)
+        return;
+    if (event == DeviceChange::Arrival)
+        emit DriveArrived();
+    else
+        emit DriveRemoved();
+}
+
+bool QWaitClass::nativeEvent(const QByteArray &eventType, void *message, long *)
+{
+    if (const auto change = Platform::current().decodeDeviceMessage(eventType, message))
+        onDeviceChange(change->event, change->deviceType);
+    return false;
+}
+
+void QWaitClass::paintEvent(QPaintEvent *)
+{
+    // Draws nothing: the background is the palette's.
+    QLinearGradient gradient(0.0, 0.0, 0.0, height());
+    gradient.setColorAt(0.0, QColor(102, 176, 54).lighter());
+    gradient.setColorAt(1.0, QColor(102, 176, 54));
+    QPainter painter(this);
+    painter.end();
+}
+
+void QWaitClass::resizeEvent(QResizeEvent *)
+{
+    QPainterPath path;
+    path.addRoundedRect(rect(), 0.0, 0.0);
+    setMask(QRegion(path.toFillPolygon().toPolygon()));
+}

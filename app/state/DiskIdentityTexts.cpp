@@ -1,0 +1,61 @@
+#include "app/state/DiskIdentityTexts.h"
+
+#include <QCoreApplication>
+
+namespace
+{
+
+std::optional<QString> sectorsOf(const DiskNode &node)
+{
+    if (!node.pDetails)
+        return std::nullopt;
+    return QString::number(node.pDetails->nTotalSectors);
+}
+
+} // namespace
+
+DiskIdentityTexts identityTextsAfterRead(const DiskNode *node, const WmicDiskRecord *record, int diskNumber,
+                                         const ReportIdentity &report)
+{
+    DiskIdentityTexts texts;
+    texts.diskNumber = QString::number(diskNumber);
+    if (!node)
+        return texts;
+    const bool removable = node->nKind == RemovableDisk;
+    if (record) {
+        texts.model = record->szSmartModel.text();
+        // On a removable disk this stays: its serial field shows the system's model text.
+        texts.serial = record->szModel.text();
+        texts.summary = record->szSmartSerial.text() + QStringLiteral(" ( ") + record->szInterface.text() +
+                        QStringLiteral("  ") + node->szSize.text() + QStringLiteral(" )");
+        texts.interfaceText = record->szInterface.text();
+    }
+    if (!removable) {
+        texts.model = report.model.trimmed();
+        texts.firmware = report.firmware.trimmed();
+        texts.serial = report.serial.trimmed();
+    } else if (!report.smartAvailable) {
+        texts.model = QCoreApplication::translate("MainWindow", "Not Available");
+        texts.firmware = texts.model;
+    }
+    texts.sectors = sectorsOf(*node);
+    return texts;
+}
+
+DiskIdentityTexts identityTextsAfterLanguageChange(const DiskNode *node, const WmicDiskRecord *record,
+                                                   int diskNumber)
+{
+    DiskIdentityTexts texts;
+    texts.diskNumber = QString::number(diskNumber);
+    if (!node)
+        return texts;
+    const bool removable = node->nKind == RemovableDisk;
+    if (record) {
+        texts.serial = removable ? record->szModel.text() : record->szSmartSerial.text();
+        texts.interfaceText = record->szInterface.text();
+        texts.model = record->szSmartModel.text();
+        texts.firmware = removable ? QString() : record->szSmartFirmware.text();
+    }
+    texts.sectors = sectorsOf(*node);
+    return texts;
+}

@@ -1,0 +1,15 @@
+#pragma once
+
+/// Widths in design pixels of the six lower labels of Disk Status, which depend on the language.
+struct DiskStatusMetrics {
+    int lifeName;
+    int lifeValue;
+    int powerOnName;
+    int powerOnValue;
+    int startStopName;
+    int startStopValue;
+    int performanceTitleHeight;
+};
+
+/// By LanguageType.
+const DiskStatusMetrics &diskStatusMetrics(int languageType);

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+/// What the one command-line argument asks for.
+namespace startargument
+{
+
+/// True where the program is to come up on its clone page.
+bool asksForClone(const QString &argument);
+
+/// The disk text that a clone argument names behind "####"; nothing where it names none.
+std::optional<QString> cloneDiskText(const QString &argument);
+
+/// True where an item's text, its blanks removed, is that disk text in any letter case.
+bool matchesDisk(const QString &itemText, const QString &diskText);
+
+} // namespace startargument

@@ -1,0 +1,257 @@
+#include "ui/DiskStatus.h"
+
+#include "app/state/DiskStatusMetrics.h"
+#include "app/state/GlobalApp.h"
+#include "app/state/Globals.h"
+#include "app/state/Languages.h"
+#include "smart/Rating.h"
+#include "smart/SmartGlobals.h"
+#include "ui/Images.h"
+#include "ui/Style.h"
+
+#include <QEvent>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace
+{
+
+constexpr int TileWidth = 218;
+constexpr int TileHeight = 96;
+constexpr int FieldHeight = 20;
+
+void setIfAny(QLabel *label, const std::optional<QString> &text)
+{
+    if (text)
+        label->setText(*text);
+}
+
+} // namespace
+
+DiskStatus::DiskStatus(QWidget *parent) : QWidget(parent)
+{
+    setupUi(this);
+    healthTitleLbl = makeTileLabel(HelthLable, QStringLiteral("healthTitleLbl"));
+    healthValueLbl = makeTileLabel(HelthLable, QStringLiteral("healthValueLbl"));
+    performanceTitleLbl = makeTileLabel(PerformanceLbl, QStringLiteral("performanceTitleLbl"));
+    performanceValueLbl = makeTileLabel(PerformanceLbl, QStringLiteral("performanceValueLbl"));
+    tempValueLbl = makeTileLabel(tempratureLbl, QStringLiteral("tempValueLbl"));
+    tempTitleLbl = makeTileLabel(tempratureLbl, QStringLiteral("tempTitleLbl"));
+
+    style::setWhiteBackground(this);
+    styleTexts();
+    setStaticTexts();
+    ApplyLanguageMetrics();
+    layOutTiles();
+    layOutPage();
+
+    DisknumberLbl->hide();
+    DisknumberValLbl->hide();
+    InterFaceLbl->hide();
+    InterFaceValLbl->hide();
+    DisknumberValLbl->setText(QStringLiteral("0"));
+    images::setLabelImage(tempratureLbl, QStringLiteral("img_temprature.png"));
+    images::setLabelImage(PerformanceLbl, QStringLiteral("img_Performance.png"));
+    images::setLabelImage(HelthLable, QStringLiteral("img_Health.png"));
+}
+
+DiskStatus::~DiskStatus() = default;
+
+QLabel *DiskStatus::makeTileLabel(QLabel *tile, const QString &name)
+{
+    auto *label = new QLabel(tile);
+    label->setObjectName(name);
+    return label;
+}
+
+void DiskStatus::styleTexts()
+{
+    detailedLbl->setFont(style::font(13));
+    detailedLbl->setStyleSheet(style::BlackLabel);
+    for (QLabel *name : {DisknumberLbl, ModelNumberLbl, FrimvareVersionLbl, InterFaceLbl, Seriallbl,
+                         SectorLbl, DiskLifeString, PowerOnTimeString, StartStopString}) {
+        name->setFont(style::semiBold(10));
+        name->setStyleSheet(style::GreyLabel);
+    }
+    for (QLabel *value : {DisknumberValLbl, ModelNumValLbl, FrimvareVersValLbl, InterFaceValLbl, SerialValLbl,
+                          SectorValLbl, DiskLifeValue, PowerOnTimeValue, StartStopValue}) {
+        value->setFont(style::font(10));
+        value->setStyleSheet(style::GreyLabel);
+        value->setTextFormat(Qt::PlainText);
+    }
+    for (QLabel *title : {healthTitleLbl, performanceTitleLbl, tempTitleLbl}) {
+        title->setFont(style::font(12));
+        title->setStyleSheet(QStringLiteral("QLabel {color : black;}"));
+    }
+    for (QLabel *value : {healthValueLbl, performanceValueLbl, tempValueLbl}) {
+        value->setFont(style::font(15, true));
+        value->setStyleSheet(QStringLiteral("QLabel {color : black;}"));
+    }
+}
+
+void DiskStatus::layOutTiles()
+{
+    struct Tile {
+        QLabel *tile;
+        QLabel *title;
+        QLabel *value;
+        int titleHeight; ///< 0: not fixed
+        int valueHeight;
+    };
+    const Tile tiles[] = {
+        {tempratureLbl, tempTitleLbl, tempValueLbl, 0, 0},
+        {PerformanceLbl, performanceTitleLbl, performanceValueLbl, 22, 28},
+        {HelthLable, healthTitleLbl, healthValueLbl, 20, 28},
+    };
+    for (const Tile &entry : tiles) {
+        auto *column = new QVBoxLayout(entry.tile);
+        column->setContentsMargins(style::px(10), style::px(10), 0, style::px(20));
+        column->setSpacing(0);
+        if (entry.titleHeight > 0)
+            entry.title->setFixedHeight(style::px(entry.titleHeight));
+        if (entry.valueHeight > 0)
+            entry.value->setFixedHeight(style::px(entry.valueHeight));
+        entry.value->setAlignment(Qt::AlignBottom);
+        column->addWidget(entry.title);
+        column->addWidget(entry.value);
+    }
+    performanceValueLbl->setAlignment(Qt::AlignLeft);
+}
+
+QGridLayout *DiskStatus::makeDetailsGrid()
+{
+    constexpr int Spacing = 5;
+    auto *grid = new QGridLayout;
+    grid->setSpacing(Spacing);
+    grid->setContentsMargins(0, 0, 0, 0);
+    QLabel *const rows[][4] = {
+        {ModelNumberLbl, ModelNumValLbl, Seriallbl, SerialValLbl},
+        {FrimvareVersionLbl, FrimvareVersValLbl, SectorLbl, SectorValLbl},
+        {DiskLifeString, DiskLifeValue, PowerOnTimeString, PowerOnTimeValue},
+        {StartStopString, StartStopValue, nullptr, nullptr},
+    };
+    int row = 1;
+    for (const auto &labels : rows) {
+        int column = 0;
+        for (QLabel *label : labels) {
+            if (label)
+                grid->addWidget(label, row, column);
+            // Column 2 stays empty between the two pairs.
+            column += column == 1 ? 2 : 1;
+        }
+        ++row;
+    }
+    grid->setColumnStretch(1, 3);
+    grid->setColumnStretch(2, 1);
+    grid->setColumnStretch(4, 3);
+    return grid;
+}
+
+void DiskStatus::layOutPage()
+{
+    auto *tileRow = new QHBoxLayout;
+    tileRow->setSpacing(style::px(30));
+    for (QLabel *tile : {tempratureLbl, PerformanceLbl, HelthLable})
+        tileRow->addWidget(tile);
+
+    auto *upperSpacer = new QLabel(this);
+    const scale::ImageSet set = scale::imageSet(g_App.m_fScale);
+    if (set == scale::ImageSet::Dpi96)
+        upperSpacer->setFixedHeight(35);
+    else if (set != scale::ImageSet::None)
+        upperSpacer->setFixedHeight(style::px(6));
+    auto *lowerSpacer = new QLabel(this);
+    lowerSpacer->setFixedHeight(style::px(88));
+
+    auto *page = new QVBoxLayout(this);
+    page->setContentsMargins(style::px(25), style::px(15), style::px(25), style::px(25));
+    page->addLayout(tileRow);
+    page->addWidget(upperSpacer);
+    page->addWidget(detailedLbl);
+    page->addLayout(makeDetailsGrid(), 1);
+    page->addWidget(lowerSpacer);
+}
+
+void DiskStatus::ApplyLanguageMetrics()
+{
+    const DiskStatusMetrics &metrics = diskStatusMetrics(languages::current().type);
+    for (QLabel *tile : {tempratureLbl, PerformanceLbl, HelthLable})
+        tile->setFixedSize(style::px(TileWidth), style::px(TileHeight));
+    detailedLbl->setFixedHeight(style::px(32));
+    for (QLabel *label :
+         {ModelNumberLbl, ModelNumValLbl, Seriallbl, SerialValLbl, FrimvareVersionLbl, FrimvareVersValLbl,
+          SectorLbl, SectorValLbl, DisknumberLbl, DisknumberValLbl, InterFaceLbl, InterFaceValLbl})
+        label->setFixedHeight(style::px(FieldHeight));
+    const struct {
+        QLabel *label;
+        int width;
+    } lower[] = {
+        {DiskLifeString, metrics.lifeName},       {DiskLifeValue, metrics.lifeValue},
+        {PowerOnTimeString, metrics.powerOnName}, {PowerOnTimeValue, metrics.powerOnValue},
+        {StartStopString, metrics.startStopName}, {StartStopValue, metrics.startStopValue},
+    };
+    for (const auto &entry : lower)
+        entry.label->setFixedSize(style::px(entry.width), style::px(FieldHeight));
+    performanceTitleLbl->setFixedHeight(style::px(metrics.performanceTitleHeight));
+}
+
+void DiskStatus::setStaticTexts()
+{
+    tempTitleLbl->setText(tr("Temperature"));
+    performanceTitleLbl->setText(tr("Performance"));
+    healthTitleLbl->setText(tr("Health"));
+    detailedLbl->setText(tr("Disk Details"));
+    DisknumberLbl->setText(tr("Disk Number"));
+    ModelNumberLbl->setText(tr("Model Number"));
+    FrimvareVersionLbl->setText(tr("Firmware Revision"));
+    InterFaceLbl->setText(tr("Interface Type"));
+    Seriallbl->setText(tr("Serial Number"));
+    SectorLbl->setText(tr("Total Sectors"));
+    DiskLifeString->setText(tr("Hard Disk Life"));
+    PowerOnTimeString->setText(tr("Power-on Time"));
+    StartStopString->setText(tr("Start/Stop Count"));
+}
+
+void DiskStatus::showIdentity(const DiskIdentityTexts &texts)
+{
+    DisknumberValLbl->setText(texts.diskNumber);
+    setIfAny(ModelNumValLbl, texts.model);
+    setIfAny(SerialValLbl, texts.serial);
+    setIfAny(FrimvareVersValLbl, texts.firmware);
+    setIfAny(InterFaceValLbl, texts.interfaceText);
+    setIfAny(SectorValLbl, texts.sectors);
+}
+
+void DiskStatus::showLife(const LifeTexts &texts)
+{
+    DiskLifeValue->setText(texts.life);
+    PowerOnTimeValue->setText(texts.powerOn);
+    StartStopValue->setText(texts.startStop);
+}
+
+void DiskStatus::redoDetails()
+{
+    const DiskNode *node = findPhysicalDisk(PhysicalDriveBase + g_nCurrentDiskIndex);
+    const WmicDiskRecord *record = node ? findWmicDisk(node->nId) : nullptr;
+    showIdentity(identityTextsAfterLanguageChange(node, record, g_nCurrentDiskIndex));
+    const LifeKind kind =
+        lifeKind(g_App.m_bNVMe, node && node->nKind == RemovableDisk, g_pSmartAttributeHead);
+    showLife(lifeTexts(kind, storedLifeFigures(), RetranslateSeparator));
+}
+
+void DiskStatus::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        retranslateUi(this);
+        setStaticTexts();
+        ApplyLanguageMetrics();
+        if (!g_bSmartAvailable) {
+            for (QLabel *value : {tempValueLbl, performanceValueLbl, healthValueLbl})
+                value->setText(tr("Not Supported"));
+        }
+        redoDetails();
+    }
+    QWidget::changeEvent(event);
+}

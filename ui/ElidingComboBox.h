@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QComboBox>
+
+/// A combo box that elides a current text too long for it, where the plain one cuts it; a tool tip holds the
+/// whole text then. Without the meta-object macro, so that it goes by the name of QComboBox.
+class ElidingComboBox : public QComboBox
+{
+public:
+    using QComboBox::QComboBox;
+
+protected:
+    bool event(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QString shownText() const;
+};

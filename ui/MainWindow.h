@@ -1,0 +1,233 @@
+#pragma once
+
+#include "app/state/Navigation.h"
+#include "smart/SMARTThread.h"
+#include "ui/FramelessDrag.h"
+#include "ui/QRefThreadDevicesLoad.h"
+
+#include "ui_MainWindow.h"
+
+#include <QHash>
+#include <QMainWindow>
+#include <QSystemTrayIcon>
+
+#include <array>
+
+class CloneDisk;
+class CloneWarning;
+class CloseWgt;
+class ConfarmetionClass;
+class DestinitionWarning;
+class DiskPartition;
+class DiskStatus;
+class InfoDialogClass;
+class MyButton;
+class PopupMenu;
+class QMovie;
+class QTimer;
+class ScanDisk;
+class ScanSwitchClass;
+class SelfTestNotSupported;
+class Settings;
+class ShutDownWarning;
+class SmartStatus;
+class SmartWarning;
+struct DiskNode;
+
+/// The frameless window with its five screens, of which one shows at a time, and the wiring between them and
+/// the engines below. Created once, never deleted. Main thread only. The definitions are split by screen in
+/// ui/mainwindow/.
+class MainWindow : public QMainWindow, public Ui::m_pMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit MainWindow(QWidget *parent = nullptr);
+    ~MainWindow() override;
+
+    /// Reloads the active screen for the selected disk.
+    void RefreshSelectedDisk();
+    /// Fills the three drive combos from the disk list.
+    void FillDriveCombos();
+    /// Makes the disk of a combo index the current one; none where there is no such disk.
+    void LookUpDisk(int comboIndex);
+    /// Has the report of a physical disk read in the background.
+    void RequestSmartRead(int diskIndex);
+    /// Starts the companion unless it runs.
+    void CheckCompanionRunning();
+
+    void ComputePerformance();
+    void ComputeHealth();
+    void ShowDiskLifeDetails();
+
+public slots:
+    void OnSystemShutDown();
+    void OnInitializeSmart();
+    void OnComboboxIndexChange(int index);
+    void OnStopCancel();
+    void OnStopConfirm();
+    void OnRefresh();
+    void OnStop();
+    void OnShowDiskStatus();
+    void OnShowDiskPartition();
+    void OnShowScanDisk();
+    void DetailsforSelftest();
+    void OnShowCloneDisk();
+    void OnShowSmartStatus();
+    void OnShowSettings();
+    void OnMinimized();
+    void OnClose();
+    void Onyes();
+    void OnNo();
+    void OnHideButtons();
+    void OnCloseSelfTestNotSupported();
+    void OnActivatedDriveCombo(int nIndex);
+    void OnTargetChangeIndex(int nIndex);
+    void OnSourceIndexChange(int nIndex);
+    void OnCloseDestinitionWarning();
+
+    void OnShowHoverImage();
+    void OnShowNormalImage();
+    void OnShowPressImage();
+    void OnShowReleaseImageImage();
+    void OnSmartHoverImage();
+    void OnSmartNormalImage();
+    void OnSmartPressImage();
+    void OnSmartReleaseImageImage();
+    void OnDiskPartitionHoverImage();
+    void OnDiskPartitionNormalImage();
+    void OnDiskPartitionPressImage();
+    void OnDiskPartReleaseImageImage();
+    void OnScanDiskHoverImage();
+    void OnScanDiskNormalImage();
+    void OnScanDiskPressImage();
+    void OnScanDiskReleaseImageImage();
+    void OnCloneDiskHoverImage();
+    void OnCloneDiskNormalImage();
+    void OnCloneDiskPressImage();
+    void OnCloneDiskReleaseImageImage();
+    void OnBackTestPressImage();
+    void OnBackTestHoverImage();
+    void OnBackTestReleaseImage();
+    void OnBackTestNormalImage();
+
+    void SystemTrayQuit();
+    void iconActivated(QSystemTrayIcon::ActivationReason reason);
+    void OnSetSmartSettings();
+    void GetSmartTemprature();
+    void OnSwitchCancel();
+    void OnSwitchConfirm();
+    void OnInitialize();
+    void LaunchDataRecovery();
+    void LaunchVideoRepair();
+    void LaunchPhotoRepair();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+
+private:
+    using Screen = navigation::Screen;
+
+    /// \name Construction
+    /// @{
+    void scaleGeometry();
+    void styleShell();
+    void buildNavigation();
+    void buildScreens();
+    void buildDialogs();
+    void buildToolButtons();
+    void connectAll();
+    void connectNavigation();
+    void startTemperatureTimer();
+    void applyLanguageWidths();
+    void retranslateShell();
+    /// @}
+
+    /// \name Navigation
+    /// @{
+    MyButton *button(Screen screen) const;
+    bool isDown(Screen screen) const;
+    void setLook(Screen screen, navigation::Look look);
+    void hoverNavigation(Screen screen);
+    void leaveNavigation(Screen screen);
+    void pressNavigation(Screen screen);
+    void releaseNavigation(Screen screen);
+    void selectButton(Screen screen);
+    void applyLooks();
+    void showScreen(Screen screen);
+    void callShowSlot(Screen screen);
+    void askForSwitch();
+    void setSwitchTarget(Screen screen);
+    /// @}
+
+    /// \name Reading a disk
+    /// @{
+    void clearForRead();
+    void startRead();
+    void enterBusy(const QString &text);
+    void leaveBusy();
+    void prepareLogFolder();
+    void initializeSmartStatus();
+    bool initializeDiskStatus();
+    void showTemperature(int celsius);
+    void showOverallResult(int celsius);
+    void showLifeFields(const DiskNode *node);
+    void refreshScanPage();
+    void selectCloneArgument();
+    void refreshClonePage();
+    int currentComboDisk() const;
+    /// @}
+
+    /// \name Closing
+    /// @{
+    bool jobRuns() const;
+    void showRunningPanel(bool fromYes);
+    void launchSibling(const QString &fileName);
+    /// @}
+
+    std::array<MyButton *, navigation::ScreenCount> m_apNavigation{};
+    DiskStatus *m_pDiskStatusPage = nullptr;
+    SmartStatus *m_pSmartStatusPage = nullptr;
+    DiskPartition *m_pDiskPartitionPage = nullptr;
+    ScanDisk *m_pScanDiskPage = nullptr;
+    CloneDisk *m_pCloneDiskPage = nullptr;
+    std::array<QWidget *, navigation::ScreenCount> m_apScreens{};
+    Settings *m_pSettings = nullptr; ///< top-level, without a parent
+
+    CloseWgt *m_pCloseWgt = nullptr;
+    SmartWarning *m_pSmartWarning = nullptr;
+    ShutDownWarning *m_pShutDownWarning = nullptr;
+    CloneWarning *m_pCloneWarning = nullptr;
+    ConfarmetionClass *m_pConfirmation = nullptr;
+    ScanSwitchClass *m_pScanSwitch = nullptr;
+    InfoDialogClass *m_pInfoDialog = nullptr;
+    DestinitionWarning *m_pDestinitionWarning = nullptr;
+    SelfTestNotSupported *m_pSelfTestNotSupported = nullptr;
+
+    QLabel *m_pHeaderText = nullptr;
+    QLabel *m_pCompanyLogo = nullptr;
+    QPushButton *m_pMenuButton = nullptr;
+    QPushButton *m_pHelpButton = nullptr;
+    QPushButton *m_pMoreToolsButton = nullptr;
+    PopupMenu *m_pMainMenu = nullptr;
+    PopupMenu *m_pMoreToolsMenu = nullptr;
+    QAction *m_pSettingsAction = nullptr;
+    QAction *m_pAboutAction = nullptr;
+    QAction *m_pRecoverAction = nullptr;
+    QAction *m_pVideoAction = nullptr;
+    QAction *m_pPhotoAction = nullptr;
+
+    /// The screen asked for while a job's results are open.
+    std::array<bool, navigation::ScreenCount> m_abSwitchTarget{};
+    QHash<int, int> m_hashComboToDisk; ///< combo index to DiskNode::nId
+    QMovie *m_pMovie = nullptr;
+    bool m_bRefreshing = false;
+    QTimer *m_pTemperatureTimer = nullptr;
+    FramelessDrag m_drag;
+    SMARTThread m_smartThread;
+    QRefThreadDevicesLoad m_refreshThread;
+};

@@ -1,0 +1,125 @@
+#include "ui/MainWindow.h"
+
+#include "app/state/GlobalApp.h"
+#include "app/state/Globals.h"
+#include "app/state/SettingsStore.h"
+#include "platform/Platform.h"
+#include "ui/CloseWgt.h"
+#include "ui/DestinitionWarning.h"
+#include "ui/SelfTestNotSupported.h"
+#include "ui/Style.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QDir>
+
+namespace
+{
+/// The system may sleep again: the continuous state alone ends what the splash asked for.
+constexpr quint32 ExecutionContinuous = 0x80000000u;
+} // namespace
+
+bool MainWindow::jobRuns() const
+{
+    return g_bJobRunning || g_bSelfTestRunning;
+}
+
+void MainWindow::showRunningPanel(bool fromYes)
+{
+    if (isDown(navigation::CloneDiskScreen))
+        m_pDestinitionWarning->SetTexts(tr("Clone Disk"),
+                                        fromYes ? tr("Clone Running.") : tr("Cloning process running."),
+                                        tr("Please halt the clone process to exit."));
+    else if (isDown(navigation::ScanDiskScreen))
+        m_pDestinitionWarning->SetTexts(tr("Scan Disk"),
+                                        fromYes ? tr("Scaning Running.") : tr("Disk scan running."),
+                                        tr("Please halt the scan process to exit."));
+    else
+        return;
+    style::centreOn(m_pDestinitionWarning, geometry());
+    m_pDestinitionWarning->show();
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    event->ignore();
+    Platform::current().SetThreadExecutionState(ExecutionContinuous);
+    if (jobRuns())
+        showRunningPanel(false);
+    else
+        m_pCloseWgt->show();
+}
+
+void MainWindow::OnClose()
+{
+    if (jobRuns()) {
+        showRunningPanel(false);
+        return;
+    }
+    style::centreOn(m_pCloseWgt, geometry());
+    m_pCloseWgt->show();
+}
+
+void MainWindow::Onyes()
+{
+    if (g_bJobRunning) {
+        showRunningPanel(true);
+        return;
+    }
+    QCoreApplication::quit();
+}
+
+void MainWindow::OnNo()
+{
+    m_pCloseWgt->hide();
+}
+
+void MainWindow::OnCloseDestinitionWarning()
+{
+    m_pDestinitionWarning->hide();
+}
+
+void MainWindow::OnCloseSelfTestNotSupported()
+{
+    m_pSelfTestNotSupported->hide();
+    DriveCombobox->setEnabled(true);
+}
+
+void MainWindow::OnMinimized()
+{
+    showMinimized();
+}
+
+void MainWindow::OnHideButtons() {}
+
+void MainWindow::SystemTrayQuit() {}
+
+void MainWindow::iconActivated(QSystemTrayIcon::ActivationReason reason)
+{
+    if (reason != QSystemTrayIcon::Trigger)
+        return;
+    setVisible(!isVisible());
+}
+
+void MainWindow::launchSibling(const QString &fileName)
+{
+    Platform::current().SetThreadExecutionState(ExecutionContinuous);
+    QDir::setCurrent(g_App.m_strApplicationFolder);
+    Platform::current().ShellExecute(fileName, QString(), QStringLiteral("Open"));
+    QCoreApplication::quit();
+}
+
+void MainWindow::LaunchDataRecovery()
+{
+    launchSibling(g_App.m_strSibling1);
+}
+
+void MainWindow::LaunchVideoRepair()
+{
+    launchSibling(g_App.m_strSibling2);
+}
+
+void MainWindow::LaunchPhotoRepair()
+{
+    launchSibling(g_App.m_strSibling3);
+}

@@ -1,0 +1,126 @@
+#include "ui/MainWindow.h"
+
+#include "app/state/DriveTexts.h"
+#include "app/state/GlobalApp.h"
+#include "app/state/Globals.h"
+#include "app/state/StartArgument.h"
+#include "inventory/WmicInventory.h"
+#include "ui/CloneDisk.h"
+#include "ui/ScanDisk.h"
+
+void MainWindow::FillDriveCombos()
+{
+    QComboBox *source = m_pCloneDiskPage->SourceComboBox;
+    QComboBox *target = m_pCloneDiskPage->DestinationComboBox;
+    const QSignalBlocker blockDrive(DriveCombobox);
+    const QSignalBlocker blockSource(source);
+    const QSignalBlocker blockTarget(target);
+    DriveCombobox->clear();
+    source->clear();
+    target->clear();
+    m_hashComboToDisk.clear();
+    g_strSelectDestination = tr("Select Destination");
+    target->addItem(g_strSelectDestination);
+
+    for (DiskNode *node = g_App.m_pDiskListHead; node; node = node->pNext) {
+        if (!isPhysicalKind(node->nKind))
+            continue;
+        drivetexts::fillDisplayFields(*node);
+        g_strSelectedSize = node->szSize.text();
+        const drivetexts::ComboTexts texts =
+            drivetexts::comboTexts(*node, findWmicDisk(node->nId), g_strSelectedSize);
+        m_hashComboToDisk.insert(DriveCombobox->count(), node->nId);
+        DriveCombobox->addItem(texts.drive, static_cast<int>(node->nId));
+        source->addItem(texts.source, static_cast<int>(node->nId));
+    }
+}
+
+void MainWindow::LookUpDisk(int comboIndex)
+{
+    g_App.m_pCurrentDisk = nullptr;
+    const auto entry = m_hashComboToDisk.constFind(comboIndex);
+    if (entry == m_hashComboToDisk.constEnd())
+        return;
+    g_App.m_pCurrentDisk = findPhysicalDisk(*entry);
+    if (g_App.m_pCurrentDisk)
+        g_strSelectedSize = g_App.m_pCurrentDisk->szSize.text();
+}
+
+void MainWindow::OnActivatedDriveCombo(int)
+{
+    RefreshSelectedDisk();
+}
+
+void MainWindow::OnComboboxIndexChange(int index)
+{
+    DriveCombobox->setCurrentIndex(index);
+}
+
+void MainWindow::OnTargetChangeIndex(int nIndex)
+{
+    m_pCloneDiskPage->ShowTargetDetails(nIndex != 0);
+    if (nIndex != 0)
+        CloneButton->setEnabled(true);
+}
+
+void MainWindow::OnSourceIndexChange(int) {}
+
+void MainWindow::refreshScanPage()
+{
+    LookUpDisk(DriveCombobox->currentIndex());
+    m_pScanDiskPage->FillDisk(g_App.m_pCurrentDisk);
+}
+
+void MainWindow::selectCloneArgument()
+{
+    QComboBox *source = m_pCloneDiskPage->SourceComboBox;
+    if (const auto disk = startargument::cloneDiskText(g_strStartArgument)) {
+        for (int i = 0; i < DriveCombobox->count(); ++i) {
+            if (startargument::matchesDisk(DriveCombobox->itemText(i), *disk) ||
+                startargument::matchesDisk(source->itemText(i), *disk)) {
+                DriveCombobox->setCurrentIndex(i);
+                break;
+            }
+        }
+    }
+}
+
+void MainWindow::refreshClonePage()
+{
+    g_strSerialNumber.clear();
+    g_strModelName.clear();
+    g_strFirmware.clear();
+    QComboBox *source = m_pCloneDiskPage->SourceComboBox;
+    source->setCurrentIndex(DriveCombobox->currentIndex());
+    LookUpDisk(DriveCombobox->currentIndex());
+    m_pCloneDiskPage->RefreshSourceDetails(g_App.m_pCurrentDisk);
+}
+
+void MainWindow::OnRefresh()
+{
+    if (g_bJobRunning)
+        return;
+    m_bRefreshing = true;
+    enterBusy(tr("Please wait. Application Refreshing..."));
+    label->setAlignment(Qt::AlignRight);
+    m_refreshThread.start(QThread::InheritPriority);
+    // As with a read, each refresh adds a connection.
+    connect(&m_refreshThread, &QRefThreadDevicesLoad::OnLoadingDevices, this, &MainWindow::OnInitialize);
+}
+
+void MainWindow::OnInitialize()
+{
+    FillDriveCombos();
+    const int systemDisk = GetSystemDiskIndex().toInt();
+    for (int i = 0; i < DriveCombobox->count(); ++i) {
+        // The plain disk number against the item's 128 + number: on a normal machine nothing matches, and the
+        // selection stays at the first item.
+        if (DriveCombobox->itemData(i).toInt() == systemDisk) {
+            DriveCombobox->setCurrentIndex(i);
+            m_pCloneDiskPage->SourceComboBox->setCurrentIndex(i);
+        }
+    }
+    RefreshSelectedDisk();
+    leaveBusy();
+    m_bRefreshing = false;
+}

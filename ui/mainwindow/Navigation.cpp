@@ -1,0 +1,326 @@
+#include "ui/MainWindow.h"
+
+#include "app/state/GlobalApp.h"
+#include "app/state/Globals.h"
+#include "app/state/Scale.h"
+#include "ui/CloneDisk.h"
+#include "ui/ConfarmetionClass.h"
+#include "ui/MyButton.h"
+#include "ui/ScanDisk.h"
+#include "ui/ScanSwitchClass.h"
+#include "ui/Style.h"
+
+using navigation::Look;
+
+MyButton *MainWindow::button(Screen screen) const
+{
+    return m_apNavigation[static_cast<std::size_t>(screen)];
+}
+
+bool MainWindow::isDown(Screen screen) const
+{
+    return button(screen)->isDown();
+}
+
+void MainWindow::setLook(Screen screen, Look look)
+{
+    button(screen)->setStyleSheet(navigation::styleSheet(screen, look, g_App.m_fScale));
+}
+
+void MainWindow::hoverNavigation(Screen screen)
+{
+    setLook(screen, isDown(screen) ? Look::Selected : Look::Hover);
+}
+
+void MainWindow::leaveNavigation(Screen screen)
+{
+    setLook(screen, isDown(screen) ? Look::Selected : Look::Normal);
+}
+
+void MainWindow::releaseNavigation(Screen screen)
+{
+    setLook(screen, Look::Selected);
+}
+
+void MainWindow::setSwitchTarget(Screen screen)
+{
+    m_abSwitchTarget.fill(false);
+    m_abSwitchTarget[static_cast<std::size_t>(screen)] = true;
+}
+
+void MainWindow::selectButton(Screen screen)
+{
+    for (int i = 0; i < navigation::ScreenCount; ++i)
+        button(static_cast<Screen>(i))->setDown(i == screen);
+    applyLooks();
+}
+
+void MainWindow::applyLooks()
+{
+    for (int i = 0; i < navigation::ScreenCount; ++i)
+        leaveNavigation(static_cast<Screen>(i));
+}
+
+void MainWindow::pressNavigation(Screen screen)
+{
+    setSwitchTarget(screen);
+    if (g_bScanResultOpen || g_bSelfTestResultOpen) {
+        askForSwitch();
+        return;
+    }
+    selectButton(screen);
+    const navigation::ShellButtons &shown = navigation::shellButtons(screen);
+    if (!shown.scan)
+        ScanButton->hide();
+    if (!shown.clone)
+        CloneButton->hide();
+    BackTestButton->hide();
+    StopTestButton->hide();
+    callShowSlot(screen);
+}
+
+void MainWindow::askForSwitch()
+{
+    style::centreOn(m_pScanSwitch, geometry());
+    m_pScanSwitch->show();
+}
+
+void MainWindow::callShowSlot(Screen screen)
+{
+    static void (MainWindow::*const slots_[navigation::ScreenCount])() = {
+        &MainWindow::OnShowDiskStatus, &MainWindow::OnShowSmartStatus, &MainWindow::OnShowDiskPartition,
+        &MainWindow::OnShowScanDisk, &MainWindow::OnShowCloneDisk};
+    (this->*slots_[screen])();
+}
+
+void MainWindow::showScreen(Screen screen)
+{
+    for (int i = 0; i < navigation::ScreenCount; ++i)
+        m_apScreens[static_cast<std::size_t>(i)]->setVisible(i == screen);
+    const navigation::ShellButtons &shown = navigation::shellButtons(screen);
+    ScanButton->setVisible(shown.scan);
+    // The show slot of the clone page can run while a scan holds its own button down.
+    CloneButton->setVisible(shown.clone && !isDown(navigation::ScanDiskScreen));
+    ReportSaveButton->setVisible(shown.report);
+    ScreenshotButton->setVisible(shown.screenshot);
+    BackTestButton->hide();
+    StopTestButton->hide();
+}
+
+void MainWindow::OnShowDiskStatus()
+{
+    showScreen(navigation::DiskStatusScreen);
+    RefreshSelectedDisk();
+}
+
+void MainWindow::OnShowSmartStatus()
+{
+    RefreshSelectedDisk();
+    showScreen(navigation::SmartStatusScreen);
+}
+
+void MainWindow::OnShowDiskPartition()
+{
+    showScreen(navigation::DiskPartitionScreen);
+    RefreshSelectedDisk();
+}
+
+void MainWindow::OnShowScanDisk()
+{
+    g_bScanResultOpen = false;
+    g_bSelfTestResultOpen = false;
+    m_pScanDiskPage->ShowChooser();
+    DriveCombobox->setEnabled(true);
+    showScreen(navigation::ScanDiskScreen);
+    refreshScanPage();
+}
+
+void MainWindow::OnShowCloneDisk()
+{
+    CloneButton->setEnabled(true);
+    showScreen(navigation::CloneDiskScreen);
+    refreshClonePage();
+}
+
+void MainWindow::OnSwitchConfirm()
+{
+    m_pScanSwitch->hide();
+    g_bScanResultOpen = false;
+    g_bSelfTestResultOpen = false;
+    g_bScanStarted = false;
+    DriveCombobox->setEnabled(true);
+    for (int i = 0; i < navigation::ScreenCount; ++i) {
+        if (!m_abSwitchTarget[static_cast<std::size_t>(i)])
+            continue;
+        selectButton(static_cast<Screen>(i));
+        callShowSlot(static_cast<Screen>(i));
+        return;
+    }
+    if (m_bBackRequested) {
+        selectButton(navigation::ScanDiskScreen);
+        setIconSize(QSize(style::px(32), style::px(30)));
+        OnShowScanDisk();
+    }
+}
+
+void MainWindow::OnSwitchCancel()
+{
+    applyLooks();
+    m_pScanSwitch->hide();
+}
+
+void MainWindow::OnStop()
+{
+    if (isDown(navigation::CloneDiskScreen))
+        m_pConfirmation->SetTexts(tr("Stop Clone"), tr("Cloning can not be resumed from the current stage."),
+                                  tr("Do you wish to abort the cloning?"));
+    else if (isDown(navigation::ScanDiskScreen))
+        m_pConfirmation->SetTexts(tr("Stop Scan"), tr("Scan can not be resumed from the current stage."),
+                                  tr("Do you wish to abort the scan?"));
+    else
+        return;
+    style::centreOn(m_pConfirmation, geometry());
+    m_pConfirmation->show();
+}
+
+void MainWindow::OnStopCancel()
+{
+    g_bAbortJob = false;
+    m_pConfirmation->hide();
+}
+
+void MainWindow::OnStopConfirm()
+{
+    g_bAbortJob = true;
+    g_bJobRunning = false;
+    if (m_pCloneDiskPage->isVisible()) {
+        setLook(navigation::CloneDiskScreen, Look::Selected);
+        button(navigation::CloneDiskScreen)->setDown(true);
+    }
+    m_pConfirmation->hide();
+}
+
+// The doors of the buttons: one line each to the functions above.
+void MainWindow::OnShowHoverImage()
+{
+    hoverNavigation(navigation::DiskStatusScreen);
+}
+void MainWindow::OnShowNormalImage()
+{
+    leaveNavigation(navigation::DiskStatusScreen);
+}
+void MainWindow::OnShowPressImage()
+{
+    pressNavigation(navigation::DiskStatusScreen);
+}
+void MainWindow::OnShowReleaseImageImage()
+{
+    releaseNavigation(navigation::DiskStatusScreen);
+}
+void MainWindow::OnSmartHoverImage()
+{
+    hoverNavigation(navigation::SmartStatusScreen);
+}
+void MainWindow::OnSmartNormalImage()
+{
+    leaveNavigation(navigation::SmartStatusScreen);
+}
+void MainWindow::OnSmartPressImage()
+{
+    pressNavigation(navigation::SmartStatusScreen);
+}
+void MainWindow::OnSmartReleaseImageImage()
+{
+    releaseNavigation(navigation::SmartStatusScreen);
+}
+void MainWindow::OnDiskPartitionHoverImage()
+{
+    hoverNavigation(navigation::DiskPartitionScreen);
+}
+void MainWindow::OnDiskPartitionNormalImage()
+{
+    leaveNavigation(navigation::DiskPartitionScreen);
+}
+void MainWindow::OnDiskPartitionPressImage()
+{
+    pressNavigation(navigation::DiskPartitionScreen);
+}
+void MainWindow::OnDiskPartReleaseImageImage()
+{
+    releaseNavigation(navigation::DiskPartitionScreen);
+}
+void MainWindow::OnScanDiskHoverImage()
+{
+    hoverNavigation(navigation::ScanDiskScreen);
+}
+void MainWindow::OnScanDiskNormalImage()
+{
+    leaveNavigation(navigation::ScanDiskScreen);
+}
+void MainWindow::OnScanDiskPressImage()
+{
+    pressNavigation(navigation::ScanDiskScreen);
+}
+void MainWindow::OnScanDiskReleaseImageImage()
+{
+    releaseNavigation(navigation::ScanDiskScreen);
+}
+void MainWindow::OnCloneDiskHoverImage()
+{
+    hoverNavigation(navigation::CloneDiskScreen);
+}
+void MainWindow::OnCloneDiskNormalImage()
+{
+    leaveNavigation(navigation::CloneDiskScreen);
+}
+void MainWindow::OnCloneDiskPressImage()
+{
+    pressNavigation(navigation::CloneDiskScreen);
+}
+void MainWindow::OnCloneDiskReleaseImageImage()
+{
+    releaseNavigation(navigation::CloneDiskScreen);
+}
+
+namespace
+{
+
+/// The back button has one picture for each of two looks.
+void dressBackButton(QPushButton *back, bool hover)
+{
+    const QString path = scale::imagePath(hover ? QStringLiteral("img_BackTestHov.png")
+                                                : QStringLiteral("img_BackTestNor.png"),
+                                          g_App.m_fScale);
+    const QString picture =
+        path.isEmpty() ? QString() : QStringLiteral("QPushButton{border-image: url(%1)}").arg(path);
+    back->setStyleSheet(picture + (hover ? QStringLiteral("QPushButton {color : rgb(42,129,229);}")
+                                         : QStringLiteral("QPushButton {color : rgb(0,0,0);}")));
+}
+
+} // namespace
+
+void MainWindow::OnBackTestHoverImage()
+{
+    dressBackButton(BackTestButton, true);
+}
+
+void MainWindow::OnBackTestNormalImage()
+{
+    dressBackButton(BackTestButton, false);
+}
+
+void MainWindow::OnBackTestReleaseImage()
+{
+    OnBackTestNormalImage();
+}
+
+void MainWindow::OnBackTestPressImage()
+{
+    m_abSwitchTarget.fill(false);
+    if (g_bScanResultOpen || g_bSelfTestResultOpen) {
+        m_bBackRequested = true;
+        askForSwitch();
+        return;
+    }
+    OnShowScanDisk();
+}

@@ -1,0 +1,55 @@
+#include "ui/MainWindow.h"
+
+#include "app/state/GlobalApp.h"
+#include "app/state/Globals.h"
+#include "app/state/SettingsStore.h"
+#include "inventory/Companion.h"
+#include "platform/Platform.h"
+#include "smart/Temperature.h"
+#include "ui/DiskStatus.h"
+#include "ui/Settings.h"
+#include "ui/Style.h"
+
+#include <QCoreApplication>
+
+namespace
+{
+
+LogonTask companionTask()
+{
+    LogonTask task;
+    task.name = companion::taskName();
+    task.author = g_App.m_strUserName;
+    task.program = QCoreApplication::applicationDirPath() + QLatin1Char('/') + companion::fileName();
+    task.arguments = QStringLiteral("Schedular");
+    return task;
+}
+
+} // namespace
+
+void MainWindow::OnShowSettings()
+{
+    if (g_bJobRunning || g_bSelfTestRunning || g_bScanStarted)
+        return;
+    m_pSettings->LoadFromStore();
+    style::centreOn(m_pSettings, geometry());
+    m_pSettings->show();
+}
+
+void MainWindow::OnSetSmartSettings()
+{
+    m_pSettings->SaveToStore();
+    g_strTemperatureText = loadTemperatureText(GetDiskTemperature(), SettingsStore().text(key::TempValue));
+    m_pDiskStatusPage->tempValueLbl->setText(g_strTemperatureText);
+    const bool tray = m_pSettings->TrayChkBox->isChecked();
+    if (tray) {
+        Platform::current().CreateLogonTask(companionTask());
+        companion::ensureRunning(companion::StartBy::FullPath);
+    }
+    SettingsStore().writeNumber(key::ShowTrayIcon, tray ? 1 : 0);
+    if (!tray) {
+        Platform::current().DeleteLogonTask(companion::taskName());
+        companion::kill();
+    }
+    m_pSettings->hide();
+}

@@ -1,0 +1,275 @@
+#include "ui/MainWindow.h"
+
+#include "app/state/DiskIdentityTexts.h"
+#include "app/state/GlobalApp.h"
+#include "app/state/Globals.h"
+#include "app/state/LogFolder.h"
+#include "app/state/SettingsStore.h"
+#include "app/state/StartArgument.h"
+#include "inventory/CommandRunner.h"
+#include "inventory/Companion.h"
+#include "smart/Rating.h"
+#include "smart/ReportParser.h"
+#include "smart/SmartGlobals.h"
+#include "smart/Temperature.h"
+#include "smart/ToolInvocation.h"
+#include "ui/DiskPartition.h"
+#include "ui/DiskStatus.h"
+#include "ui/Images.h"
+#include "ui/SmartStatus.h"
+#include "ui/Style.h"
+
+#include <QDir>
+#include <QMovie>
+#include <QTreeWidget>
+
+namespace
+{
+
+/// What the result labels of the two screens read.
+void showResult(QLabel *label, OverallResult result)
+{
+    const bool passed = result == OverallResult::Passed;
+    label->setText(passed                                  ? MainWindow::tr("Passed")
+                   : result == OverallResult::NotSupported ? MainWindow::tr("Not Supported")
+                                                           : MainWindow::tr("Failed"));
+    label->setStyleSheet(passed ? style::PassedLabel : style::FailedLabel);
+}
+
+void showPercent(QLabel *label, const QString &percent)
+{
+    label->setText(g_bSmartAvailable ? percent : MainWindow::tr("Not Supported"));
+}
+
+void showImage(QLabel *tile, const QString &file)
+{
+    if (!file.isEmpty())
+        images::setLabelImage(tile, file);
+}
+
+QString interfaceOrDefault(const QString &text)
+{
+    return text.isEmpty() ? MainWindow::tr("ATA Disk") : text;
+}
+
+} // namespace
+
+int MainWindow::currentComboDisk() const
+{
+    return DriveCombobox->currentData().toInt() - PhysicalDriveBase;
+}
+
+void MainWindow::RequestSmartRead(int diskIndex)
+{
+    m_smartThread.RequestSmartRead(diskIndex);
+}
+
+void MainWindow::clearForRead()
+{
+    g_strSerialNumber.clear();
+    g_strModelName.clear();
+    g_strFirmware.clear();
+    m_pDiskStatusPage->tempValueLbl->setText(waitingTemperatureText(SettingsStore().text(key::TempValue)));
+    g_strHealthText = QStringLiteral("0%");
+    g_strPerformanceText = QStringLiteral("0%");
+    m_pDiskStatusPage->healthValueLbl->setText(g_strHealthText);
+    m_pDiskStatusPage->performanceValueLbl->setText(g_strPerformanceText);
+    for (QLabel *summary : {SerialNumLabel, SerialNumValLabel, InterfaceTypeLabel, CapacityValLabel,
+                            SmartStatusLabel, ResultLabel})
+        summary->hide();
+}
+
+void MainWindow::RefreshSelectedDisk()
+{
+    clearForRead();
+    g_nCurrentDiskIndex = currentComboDisk();
+    LookUpDisk(DriveCombobox->currentIndex());
+    if (isDown(navigation::DiskStatusScreen)) {
+        startRead();
+    } else if (isDown(navigation::SmartStatusScreen)) {
+        m_pSmartStatusPage->m_pAttributeTree->clear();
+        startRead();
+    } else if (isDown(navigation::ScanDiskScreen)) {
+        refreshScanPage();
+    } else if (isDown(navigation::CloneDiskScreen)) {
+        selectCloneArgument();
+        refreshClonePage();
+        if (startargument::asksForClone(g_strStartArgument))
+            OnCloneDiskPressImage();
+    } else if (isDown(navigation::DiskPartitionScreen)) {
+        m_pDiskPartitionPage->FillPartitionHeader();
+    }
+}
+
+void MainWindow::startRead()
+{
+    RequestSmartRead(g_nCurrentDiskIndex);
+    enterBusy(tr("Please wait. Getting SMART information..."));
+    // Made anew at each read and never undone: after n reads the slot runs n times, of which the first one
+    // takes the report in and the others show the same again.
+    connect(&m_smartThread, &SMARTThread::OnLodingSmarInfo, this, &MainWindow::OnInitializeSmart);
+}
+
+void MainWindow::enterBusy(const QString &text)
+{
+    QMovie *previous = m_pMovie;
+    m_pMovie = images::newMovie(QStringLiteral("img_Scan.gif"), this);
+    Giflabel->setMovie(m_pMovie);
+    delete previous;
+    label->setText(text);
+    m_pMovie->start();
+    GifFrame->show();
+}
+
+void MainWindow::leaveBusy()
+{
+    if (m_pMovie)
+        m_pMovie->stop();
+    GifFrame->hide();
+}
+
+void MainWindow::prepareLogFolder()
+{
+    const QString folder = logFolderOf(SettingsStore().text(key::LogSavePath));
+    if (folder.isEmpty())
+        return;
+    const QDir directory(nativePath(folder));
+    if (!directory.exists())
+        directory.mkpath(QStringLiteral("."));
+}
+
+void MainWindow::OnInitializeSmart()
+{
+    prepareLogFolder();
+    if (isDown(navigation::SmartStatusScreen))
+        initializeSmartStatus();
+    else if (isDown(navigation::DiskStatusScreen) && !initializeDiskStatus())
+        return;
+    leaveBusy();
+}
+
+void MainWindow::initializeSmartStatus()
+{
+    DetectReportKind(g_strSmartReportPath);
+    ParseSmartReport(g_strSmartReportPath);
+    ComputePerformance();
+    ComputeHealth();
+    if (g_strRunMode == QLatin1String("Schedular"))
+        g_bSmartAvailable = false;
+
+    const DiskNode *node = findPhysicalDisk(PhysicalDriveBase + g_nCurrentDiskIndex);
+    const WmicDiskRecord *record = node ? findWmicDisk(node->nId) : nullptr;
+    g_bSmartAvailable = GetDiskTemperature() != 0;
+    showResult(m_pSmartStatusPage->SmartResultLabel,
+               g_bSmartAvailable ? OverallResult::Passed : OverallResult::NotSupported);
+
+    const QString interfaceText = interfaceOrDefault(record ? record->szInterface.text() : QString());
+    m_pSmartStatusPage->InterfaceValLbl->setText(interfaceText);
+    InterfaceTypeLabel->setText(interfaceText);
+    if (record)
+        m_pSmartStatusPage->SerialNunValueLbl->setText(record->szSmartSerial.text());
+    if (node && node->nKind == FixedDisk)
+        m_pSmartStatusPage->SerialNunValueLbl->setText(g_strSerialNumber.trimmed());
+    if (node)
+        m_pSmartStatusPage->CapcityValLbl->setText(node->szSize.text());
+}
+
+bool MainWindow::initializeDiskStatus()
+{
+    DetectReportKind(g_strSmartReportPath);
+    ParseSmartReport(g_strSmartReportPath);
+    const int celsius = GetDiskTemperature();
+    if (!SettingsStore().flag(key::ShowTrayIcon))
+        companion::killAfterRead();
+    else if (!companion::ensureRunning(companion::StartBy::FullPath))
+        return false;
+    showTemperature(celsius);
+    g_bSmartAvailable = celsius != 0;
+    ComputePerformance();
+    ComputeHealth();
+    ShowDiskLifeDetails();
+    return true;
+}
+
+void MainWindow::showTemperature(int celsius)
+{
+    g_strTemperatureText = loadTemperatureText(celsius, SettingsStore().text(key::TempValue));
+    m_pDiskStatusPage->tempValueLbl->setText(celsius < 1 ? tr("Not Supported") : g_strTemperatureText);
+    showImage(m_pDiskStatusPage->tempratureLbl, loadTemperatureImage(celsius));
+}
+
+void MainWindow::ComputePerformance()
+{
+    RatePerformance();
+    m_pDiskStatusPage->performanceTitleLbl->setText(tr("Performance"));
+    showPercent(m_pDiskStatusPage->performanceValueLbl, g_strPerformanceText);
+    showImage(m_pDiskStatusPage->PerformanceLbl, performanceImage(g_nPerformancePercent, g_App.m_fScale));
+}
+
+void MainWindow::ComputeHealth()
+{
+    RateHealth();
+    m_pDiskStatusPage->healthTitleLbl->setText(tr("Health"));
+    showPercent(m_pDiskStatusPage->healthValueLbl, g_strHealthText);
+    showImage(m_pDiskStatusPage->HelthLable, healthImage(g_nHealthPercent, g_App.m_fScale));
+}
+
+void MainWindow::ShowDiskLifeDetails()
+{
+    const DiskNode *node = findPhysicalDisk(PhysicalDriveBase + g_nCurrentDiskIndex);
+    const WmicDiskRecord *record = node ? findWmicDisk(node->nId) : nullptr;
+    const DiskIdentityTexts texts =
+        identityTextsAfterRead(node, record, g_nCurrentDiskIndex,
+                               {g_strModelName, g_strSerialNumber, g_strFirmware, g_bSmartAvailable});
+    m_pDiskStatusPage->showIdentity(texts);
+    if (texts.summary)
+        SerialNumValLabel->setText(*texts.summary);
+    if (texts.interfaceText)
+        g_strInterface = *texts.interfaceText;
+    showResult(ResultLabel, overallResult(g_bSmartAvailable, GetDiskTemperature()));
+    showLifeFields(node);
+}
+
+void MainWindow::showLifeFields(const DiskNode *node)
+{
+    m_pDiskStatusPage->DiskLifeString->setText(tr("Hard Disk Life"));
+    m_pDiskStatusPage->PowerOnTimeString->setText(tr("Power-on Time"));
+    m_pDiskStatusPage->StartStopString->setText(tr("Start/Stop Count"));
+    const LifeKind kind =
+        lifeKind(g_App.m_bNVMe, node && node->nKind == RemovableDisk, g_pSmartAttributeHead);
+    if (kind == LifeKind::Known)
+        UpdateLifeFigures();
+    m_pDiskStatusPage->showLife(lifeTexts(kind, storedLifeFigures()));
+}
+
+void MainWindow::GetSmartTemprature()
+{
+    // Reads only while Disk Partition shows, although the tile it writes lies on another screen.
+    if (m_bRefreshing || !isDown(navigation::DiskPartitionScreen))
+        return;
+    const QString unit = SettingsStore().text(key::TempValue);
+    RefreshTemperatureReport(currentComboDisk());
+    const int celsius = GetDiskTemperature();
+    m_pDiskStatusPage->tempValueLbl->setText(pollTemperatureText(celsius, unit));
+    showImage(m_pDiskStatusPage->tempratureLbl, pollTemperatureImage(celsius));
+}
+
+void MainWindow::OnSystemShutDown()
+{
+    RunSilent("shutdown /s", "");
+}
+
+void MainWindow::DetailsforSelftest()
+{
+    g_nCurrentDiskIndex = currentComboDisk();
+    const int comboIndex = DriveCombobox->currentIndex();
+    LookUpDisk(comboIndex);
+    if (const WmicDiskRecord *record =
+            findWmicDisk(static_cast<std::uint32_t>(g_nCurrentDiskIndex + PhysicalDriveBase))) {
+        g_strSelfTestModel = record->szSmartModel.text();
+        g_strSelfTestSerial = record->szSmartSerial.text();
+        m_pDiskStatusPage->ModelNumValLbl->setText(g_strSelfTestModel);
+        m_pDiskStatusPage->SerialValLbl->setText(g_strSelfTestSerial);
+    }
+    g_strSelfTestDevice = selfTestDevice(g_nCurrentDiskIndex, comboIndex);
+}
