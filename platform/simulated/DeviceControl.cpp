@@ -2,8 +2,6 @@
 
 #include "platform/IoControl.h"
 
-#include <QtEndian>
-
 #include <algorithm>
 #include <cstddef>
 #include <cstring>
@@ -58,7 +56,8 @@ std::optional<QByteArray> geometryAnswer(const inventory::Disk &disk, quint32 co
 
 void putWord(QByteArray &data, int word, quint32 value)
 {
-    qToLittleEndian(static_cast<quint16>(value), data.data() + word * 2);
+    data[word * 2] = static_cast<char>(value & 0xFF);
+    data[word * 2 + 1] = static_cast<char>(value >> 8 & 0xFF);
 }
 
 /// Drives keep their texts padded with blanks and with the two bytes of each word swapped.
