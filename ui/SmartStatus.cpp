@@ -130,10 +130,10 @@ void SmartStatus::FormatSmartTable()
         attributecolumns::headerFontPixels(g_App.m_fScale, g_App.m_bItalian || g_App.m_bKorean);
     if (pixels > 0)
         sheet += QStringLiteral("QHeaderView{font-size : %1px}").arg(pixels);
+    // The padding is the margin that the cells below leave.
     sheet += QStringLiteral("QHeaderView{background : #f8fafc}"
                             "QHeaderView::section{background : #f8fafc; border : none; "
-                            "border-bottom : 1px solid #e0d0e0; padding-left : %1px}")
-                 .arg(style::px(4));
+                            "border-bottom : 1px solid #e0d0e0; padding-left : 3px; padding-right : 0px}");
     view->setStyleSheet(sheet);
 }
 
