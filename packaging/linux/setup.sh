@@ -53,6 +53,6 @@ build() {
         # The tree was moved or copied together with its build.
         (cd "$root" && quietly "The build could not be configured." cmake --fresh --preset "$preset") || exit 1
     fi
-    quietly "The build failed." ninja -C "$folder" "$@"
+    quietly "The build failed." ninja --quiet -C "$folder" "$@"
     exec {lock}>&-
 }
