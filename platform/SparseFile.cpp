@@ -161,6 +161,18 @@ bool copy(const QString &source, const QString &target, qint64 size)
     return done;
 }
 
+bool read(QFile &file, qint64 offset, char *data, qint64 bytes)
+{
+    qint64 begin = 0;
+    qint64 end = 0;
+    if (offset + bytes <= file.size() &&
+        (!nextData(file, offset, file.size(), &begin, &end) || begin >= offset + bytes)) {
+        std::memset(data, 0, static_cast<std::size_t>(bytes));
+        return true;
+    }
+    return file.seek(offset) && file.read(data, bytes) == bytes;
+}
+
 bool write(QFile &file, qint64 offset, const char *data, qint64 bytes)
 {
     const qint64 end = offset + bytes;

@@ -14,6 +14,10 @@ bool resize(const QString &path, qint64 size);
 /// target appears only when the copy is whole.
 bool copy(const QString &source, const QString &target, qint64 size);
 
+/// Reads exactly `bytes` at an offset. A stretch without data is not read, only told: holes cost next to
+/// nothing.
+bool read(QFile &file, qint64 offset, char *data, qint64 bytes);
+
 /// Writes at an offset; long runs of zeros become holes where the file system can do that. The file must be
 /// open for reading and writing, unbuffered.
 bool write(QFile &file, qint64 offset, const char *data, qint64 bytes);

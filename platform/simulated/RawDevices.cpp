@@ -236,7 +236,7 @@ bool RawDevices::transferPiece(const Piece &piece, Direction direction, qint64 o
     if (!reads) {
         return sparse::write(*piece.file, offset, buffer, bytes);
     }
-    return piece.file->seek(offset) && piece.file->read(buffer, bytes) == bytes;
+    return sparse::read(*piece.file, offset, buffer, bytes);
 }
 
 bool RawDevices::control(Platform::RawHandle handle, quint32 code, const void *in, quint32 inSize, void *out,
