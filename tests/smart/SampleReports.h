@@ -1,0 +1,129 @@
+#pragma once
+
+#include "app/state/GlobalApp.h"
+#include "app/state/Globals.h"
+#include "inventory/CommandRunner.h"
+#include "smart/Rating.h"
+#include "smart/SmartGlobals.h"
+
+#include <QFile>
+#include <QStringList>
+#include <QTextStream>
+#include <QVector>
+
+/// The real reports of tests/data/smart and what a person makes of them: expected.tsv was worked out from the
+/// reports' texts by other means than the code under test.
+namespace samples
+{
+
+struct Sample {
+    QString file;
+    QString kind; ///< "ata", "nvme", "-" where no section line tells
+    int rows = 0;
+    bool passed = false;
+    QString model;
+    QString serial;
+    QString firmware;
+    QString ataVersion;
+    int celsius = 0;
+    int health = 0; ///< by the rows
+    int performance = 0;
+    LifeFigures life;
+    QString lastRow; ///< "id|name|value|threshold|raw", of NVMe "name|value"
+};
+
+inline QByteArray bytesOf(const QString &file)
+{
+    QFile in(QStringLiteral(HALVANE_TEST_DATA "/smart/") + file);
+    return in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray();
+}
+
+inline QVector<Sample> all()
+{
+    QVector<Sample> found;
+    const QStringList lines =
+        QString::fromUtf8(bytesOf(QStringLiteral("expected.tsv"))).split(QLatin1Char('\n'));
+    for (const QString &line : lines) {
+        const QStringList f = line.split(QLatin1Char('\t'));
+        if (f.size() != 16 || line.startsWith(QLatin1Char('#')))
+            continue;
+        const LifeFigures life{f[11].toUInt(), f[12].toInt(), f[13].toInt(), f[14].toInt()};
+        found.append({f[0], f[1], f[2].toInt(), f[3] == QLatin1String("1"), f[4], f[5], f[6], f[7],
+                      f[8].toInt(), f[9].toInt(), f[10].toInt(), life, f[15]});
+    }
+    return found;
+}
+
+/// Lays a report where the tool would leave it.
+inline QString stage(const QByteArray &bytes)
+{
+    const QString path = tempFile(QStringLiteral("SMART.txt"));
+    QFile out(nativePath(path));
+    if (!out.open(QIODevice::WriteOnly) || out.write(bytes) != bytes.size())
+        qFatal("no temp file");
+    return path;
+}
+
+/// As if no report had been read yet.
+inline void forget()
+{
+    freeRecords(g_pSmartAttributeHead, g_pSmartAttributeTail);
+    freeRecords(g_pNvmeAttributeHead, g_pNvmeAttributeTail);
+    g_App.m_bNVMe = false;
+    g_bSmartAvailable = false;
+    g_strModelName.clear();
+    g_strSerialNumber.clear();
+    g_strFirmware.clear();
+    g_strAtaVersion.clear();
+    g_nDiskLifeDays = 0;
+    g_nHealthPercent = g_nPowerOnDays = g_nPowerOnRestHours = g_nStartStopCount = 0;
+}
+
+template<typename Record>
+int length(const Record *head)
+{
+    int count = 0;
+    for (; head; head = head->Next)
+        ++count;
+    return count;
+}
+
+/// A list that frees itself, built row by row.
+template<typename Record>
+struct List {
+    Record *head = nullptr;
+    Record *tail = nullptr;
+
+    List() = default;
+    List(const List &) = delete;
+    List &operator=(const List &) = delete;
+    ~List() { freeRecords(head, tail); }
+};
+
+struct AtaList : List<SmartAttributeRecord> {
+    void add(const QString &name, const QString &raw)
+    {
+        SmartAttributeRecord row;
+        row.AttributeName.assign(name);
+        row.RawValue.assign(raw);
+        appendRecord(head, tail, row);
+    }
+    /// "name=raw name=raw"
+    void addAll(const QString &rows)
+    {
+        for (const QString &row : rows.split(QLatin1Char(' '), Qt::SkipEmptyParts))
+            add(row.section(QLatin1Char('='), 0, 0), row.section(QLatin1Char('='), 1));
+    }
+};
+
+struct NvmeList : List<NvmeAttributeRecord> {
+    void add(const QString &name, const QString &value)
+    {
+        NvmeAttributeRecord row;
+        row.Name.assign(name);
+        row.Value.assign(value);
+        appendRecord(head, tail, row);
+    }
+};
+
+} // namespace samples

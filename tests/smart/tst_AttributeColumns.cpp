@@ -1,0 +1,68 @@
+#include "smart/AttributeColumns.h"
+
+#include <QList>
+#include <QTest>
+
+class AttributeColumnsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void widthsFollowTheScaleButForNvme_data()
+    {
+        QTest::addColumn<bool>("nvme");
+        QTest::addColumn<float>("scaleFactor");
+        QTest::addColumn<QList<int>>("widths");
+        QTest::newRow("as designed") << false << 1.0F << QList<int>{55, 150, 90, 90, 70, 90, 90};
+        QTest::newRow("truncated") << false << 1.25F << QList<int>{68, 187, 112, 112, 87, 112, 112};
+        QTest::newRow("NVMe") << true << 1.0F << QList<int>{55, 300, 90};
+        QTest::newRow("NVMe, unscaled") << true << 1.5F << QList<int>{55, 300, 90};
+    }
+
+    void widthsFollowTheScaleButForNvme()
+    {
+        QFETCH(bool, nvme);
+        QFETCH(float, scaleFactor);
+        QFETCH(QList<int>, widths);
+        QList<int> visible;
+        for (const attributecolumns::Column &column : attributecolumns::columns(nvme)) {
+            if (!column.hidden)
+                visible.append(attributecolumns::width(column, nvme, scaleFactor));
+        }
+        QCOMPARE(visible, widths);
+    }
+
+    void bothKindsSetEveryColumn()
+    {
+        // A column that one kind left out would keep the other kind's visibility.
+        for (bool nvme : {false, true})
+            QCOMPARE(attributecolumns::columns(nvme).size(), std::size_t{attributecolumns::Count});
+        for (const attributecolumns::Column &column : attributecolumns::columns(false))
+            QVERIFY(column.header);
+    }
+
+    void headerFont_data()
+    {
+        QTest::addColumn<float>("scaleFactor");
+        QTest::addColumn<bool>("wideLanguage");
+        QTest::addColumn<int>("pixels");
+        QTest::newRow("1.0") << 1.0F << false << 14;
+        QTest::newRow("1.0, wide words") << 1.0F << true << 14;
+        QTest::newRow("1.25") << 1.25F << false << 18;
+        QTest::newRow("1.25, wide words") << 1.25F << true << 17;
+        QTest::newRow("1.5") << 1.5F << false << 22;
+        QTest::newRow("2.0, wide words") << 2.0F << true << 21;
+        QTest::newRow("below the sets") << 0.75F << false << 0;
+    }
+
+    void headerFont()
+    {
+        QFETCH(float, scaleFactor);
+        QFETCH(bool, wideLanguage);
+        QFETCH(int, pixels);
+        QCOMPARE(attributecolumns::headerFontPixels(scaleFactor, wideLanguage), pixels);
+    }
+};
+
+QTEST_GUILESS_MAIN(AttributeColumnsTest)
+#include "tst_AttributeColumns.moc"

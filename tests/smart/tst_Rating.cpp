@@ -1,0 +1,420 @@
+#include "smart/Rating.h"
+
+#include "smart/AttributeKey.h"
+#include "smart/ReportParser.h"
+#include "tests/smart/SampleReports.h"
+#include "tests/support/FakePlatform.h"
+
+#include <QtTest>
+
+#include <limits>
+
+using samples::AtaList;
+using samples::NvmeList;
+
+class tst_Rating : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { FakePlatform::install(); }
+    void init() { samples::forget(); }
+    void cleanup() { samples::forget(); }
+
+    void realReports_data();
+    void realReports();
+    void ataHealth_data();
+    void ataHealth();
+    void nvmeHealth_data();
+    void nvmeHealth();
+    void performance_data();
+    void performance();
+    void availability_data();
+    void availability();
+    void lifeDays_data();
+    void lifeDays();
+    void lifeRows_data();
+    void lifeRows();
+    void figuresOutliveTheDisk();
+    void lifeLabels_data();
+    void lifeLabels();
+    void lifeKinds();
+    void healthImages_data();
+    void healthImages();
+    void performanceImages_data();
+    void performanceImages();
+    void overall();
+    void keys();
+};
+
+void tst_Rating::realReports_data()
+{
+    QTest::addColumn<int>("index");
+    const QVector<samples::Sample> all = samples::all();
+    QVERIFY(!all.isEmpty());
+    for (int i = 0; i < all.size(); ++i)
+        QTest::newRow(all.at(i).file.toUtf8().constData()) << i;
+}
+
+void tst_Rating::realReports()
+{
+    QFETCH(int, index);
+    const samples::Sample sample = samples::all().at(index);
+    const QString path = samples::stage(samples::bytesOf(sample.file));
+    DetectReportKind(path);
+    ParseSmartReport(path);
+    g_bSmartAvailable = true;
+    RateHealth();
+    RatePerformance();
+    QCOMPARE(g_nHealthPercent, sample.health);
+    QCOMPARE(g_strHealthText, QString::number(sample.health) + '%');
+    QCOMPARE(g_nPerformancePercent, sample.performance);
+    QCOMPARE(g_strPerformanceText, QString::number(sample.performance) + '%');
+    if (!g_App.m_bNVMe)
+        UpdateLifeFigures();
+    QCOMPARE(g_nDiskLifeDays, sample.life.nDiskLifeDays);
+    QCOMPARE(g_nPowerOnDays, sample.life.nPowerOnDays);
+    QCOMPARE(g_nPowerOnRestHours, sample.life.nPowerOnRestHours);
+    QCOMPARE(g_nStartStopCount, sample.life.nStartStopCount);
+}
+
+void tst_Rating::ataHealth_data()
+{
+    QTest::addColumn<QString>("rows");
+    QTest::addColumn<int>("health");
+    const auto row = [](const char *name, const char *rows, int health) {
+        QTest::newRow(name) << rows << health;
+    };
+    const auto based = [](const char *name, const QString &rows, int health) {
+        QTest::newRow(name) << "Reallocated_Sector_Ct=0 " + rows << health;
+    };
+    row("no rows", "", 0);
+    row("no base", "Power_On_Hours=1", 0);
+    row("base alone", "Reallocated_Sector_Ct=0", 100);
+    row("base by its long name", "Reallocated_Sector_Count=10", 90);
+    row("base 70", "Reallocated_Sector_Ct=70", 30);
+    row("base 71", "Reallocated_Sector_Ct=71", 30);
+    row("base 4095", "Reallocated_Sector_Ct=4095", 30);
+    row("base unreadable", "Reallocated_Sector_Ct=0x12", 100);
+    row("base beyond 32 bits", "Reallocated_Sector_Ct=2147483648", 100);
+    row("base below zero is capped", "Reallocated_Sector_Ct=-5", 100);
+    row("rows ahead of the base count for nothing", "Current_Pending_Sector=50 Reallocated_Sector_Ct=10", 90);
+    row("the later base wins", "Reallocated_Sector_Ct=60 Current_Pending_Sector=50 Reallocated_Sector_Ct=2",
+        98);
+    row("the rest without a base", "Current_Pending_Sector=1 Offline_Uncorrectable=1", 0);
+    row("10 and pending 5", "Reallocated_Sector_Ct=10 Current_Pending_Sector=5", 87);
+    based("spin 20", "Spin_Retry_Count=20", 40);
+    based("spin 21", "Spin_Retry_Count=21", 40);
+    based("spin 1", "Spin_Retry_Count=1", 97);
+    based("spin wraps", "Spin_Retry_Count=1431655766", 98);
+    based("events 51, truncated 30", "Reallocated_Event_Count=51", 69);
+    based("events 52", "Reallocated_Event_Count=52", 70);
+    based("events 3", "Reallocated_Event_Count=3", 98);
+    based("pending 81", "Current_Pending_Sector=81", 51);
+    based("pending 82", "Current_Pending_Sector=82", 52);
+    based("pending beyond 32 bits", "Current_Pending_Sector=9999999999", 100);
+    based("uncorrectable 70", "Offline_Uncorrectable=70", 30);
+    based("uncorrectable 71", "Offline_Uncorrectable=71", 30);
+    based("rounds half up", "Offline_Uncorrectable=50 Offline_Uncorrectable=1", 50);
+    based("rounds down", "Current_Pending_Sector=1 Current_Pending_Sector=1", 99);
+    based("all at their worst",
+          "Spin_Retry_Count=99 Reallocated_Event_Count=99 Current_Pending_Sector=99 "
+          "Offline_Uncorrectable=99",
+          4);
+    based("row by part of its name", "Current_Pending_Sector_Count=10", 94);
+    based("other rows", "Reported_Uncorrect=50 Runtime_Bad_Block=9", 100);
+    based("negative without end", QString("Offline_Uncorrectable=-2147483548 ").repeated(20), 100);
+    // 100 - raw wraps to -2147483548, in single precision -2147483520.
+    based("lowest number wraps", "Offline_Uncorrectable=-2147483648", -2147483519);
+}
+
+void tst_Rating::ataHealth()
+{
+    QFETCH(QString, rows);
+    AtaList list;
+    list.addAll(rows);
+    QTEST(healthOfAta(list.head), "health");
+}
+
+void tst_Rating::nvmeHealth_data()
+{
+    QTest::addColumn<QString>("used");
+    QTest::addColumn<int>("health");
+    QTest::newRow("0") << "0%" << 100;
+    QTest::newRow("1") << "1%" << 100;
+    QTest::newRow("2") << "2%" << 98;
+    QTest::newRow("100") << "100%" << 0;
+    QTest::newRow("120") << "120%" << -20;
+    QTest::newRow("blank before the sign") << " 13 %" << 87;
+    QTest::newRow("unreadable") << "-" << 100;
+    QTest::newRow("negative") << "-7%" << 100;
+    QTest::newRow("lowest") << "-2147483648%" << -2147483548;
+}
+
+void tst_Rating::nvmeHealth()
+{
+    QFETCH(QString, used);
+    QFETCH(int, health);
+    NvmeList list;
+    QCOMPARE(healthOfNvme(list.head), 0);
+    list.add("Available Spare", "50%");
+    QCOMPARE(healthOfNvme(list.head), 0);
+    list.add("Percentage Used", used);
+    list.add("Percentage Used", "33%");
+    QCOMPARE(healthOfNvme(list.head), health);
+}
+
+void tst_Rating::performance_data()
+{
+    QTest::addColumn<QString>("version");
+    QTest::addColumn<int>("percent");
+    QTest::newRow("empty") << "" << 100;
+    QTest::newRow("ATA8") << "ATA8-ACS T13/1699-D revision 4" << 100;
+    QTest::newRow("within") << "ACS-2, ATA8-ACS T13/1699-D revision 4" << 100;
+    QTest::newRow("ATA3") << "ATA3" << 100;
+    QTest::newRow("ATA2") << "ATA2 rev 3" << 50;
+    QTest::newRow("ATA1") << "ATA1" << 50;
+    QTest::newRow("newer word wins") << "ATA1 ATA4" << 100;
+    QTest::newRow("case") << "ata1" << 100;
+    QTest::newRow("dash") << "ATA/ATAPI-2" << 100;
+    QTest::newRow("number alone") << "1" << 100;
+}
+
+void tst_Rating::performance()
+{
+    QFETCH(QString, version);
+    QTEST(performanceOf(version), "percent");
+}
+
+void tst_Rating::availability_data()
+{
+    QTest::addColumn<bool>("nvme");
+    QTest::addColumn<bool>("available");
+    QTest::addColumn<int>("health");
+    QTest::addColumn<int>("performance");
+    QTest::newRow("ATA") << false << true << 90 << 50;
+    QTest::newRow("ATA, not available") << false << false << 100 << 100;
+    QTest::newRow("NVMe") << true << true << 80 << 100;
+    QTest::newRow("NVMe, not available") << true << false << 100 << 100;
+}
+
+void tst_Rating::availability()
+{
+    QFETCH(bool, nvme);
+    QFETCH(bool, available);
+    SmartAttributeRecord ata;
+    ata.AttributeName.assign("Reallocated_Sector_Ct");
+    ata.RawValue.assign("10");
+    appendRecord(g_pSmartAttributeHead, g_pSmartAttributeTail, ata);
+    NvmeAttributeRecord log;
+    log.Name.assign("Percentage Used");
+    log.Value.assign("20%");
+    appendRecord(g_pNvmeAttributeHead, g_pNvmeAttributeTail, log);
+    g_strAtaVersion = "ATA2";
+    g_App.m_bNVMe = nvme;
+    g_bSmartAvailable = available;
+    RateHealth();
+    RatePerformance();
+    QTEST(g_nHealthPercent, "health");
+    QTEST(g_nPerformancePercent, "performance");
+}
+
+void tst_Rating::lifeDays_data()
+{
+    QTest::addColumn<int>("days");
+    QTest::addColumn<int>("health");
+    QTest::addColumn<quint32>("life");
+    QTest::newRow("new") << 0 << 100 << 1825u;
+    QTest::newRow("1000 days") << 1000 << 100 << 825u;
+    QTest::newRow("1000 days at 90") << 1000 << 90 << 668u;
+    QTest::newRow("1000 days at 30") << 1000 << 30 << 74u;
+    QTest::newRow("health 0") << 1000 << 0 << 0u;
+    QTest::newRow("last day") << 1825 << 100 << 0u;
+    QTest::newRow("a day later the number no longer fits") << 1826 << 100 << 4294967295u;
+    QTest::newRow("long after") << 2733 << 100 << 4294966272u;
+    QTest::newRow("long after, ill") << 2733 << 0 << 0u;
+    QTest::newRow("negative health counts squared") << 1825 - 100 << -50 << 25u;
+    QTest::newRow("beyond any number") << 1826 << std::numeric_limits<int>::min() << 4294967295u;
+}
+
+void tst_Rating::lifeDays()
+{
+    QFETCH(int, days);
+    QFETCH(int, health);
+    QTEST(diskLifeDays(days, health), "life");
+}
+
+void tst_Rating::lifeRows_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("raw");
+    QTest::addColumn<QString>("figures"); // life days|days|hours|starts, before: 1|2|3|4
+    QTest::newRow("hours") << "Power_On_Hours"
+                           << "24025"
+                           << "824|1001|1|4";
+    QTest::newRow("hours and msec") << "Power_On_Hours_and_Msec"
+                                    << "50h+10m+20.000s"
+                                    << "1823|2|2|4";
+    QTest::newRow("half minutes are taken for hours") << "Power_On_Half_Minutes"
+                                                      << "48"
+                                                      << "1823|2|0|4";
+    QTest::newRow("unreadable hours") << "Power_On_Hours"
+                                      << "-"
+                                      << "1825|0|0|4";
+    QTest::newRow("hours beyond 32 bits") << "Power_On_Hours"
+                                          << "30000000000"
+                                          << "1825|0|0|4";
+    QTest::newRow("minutes") << "Power_On_Minutes"
+                             << "50"
+                             << "1|2|3|4";
+    QTest::newRow("starts") << "Start_Stop_Count"
+                            << "89"
+                            << "1|2|3|89";
+    QTest::newRow("unreadable starts") << "Start_Stop_Count"
+                                       << "x"
+                                       << "1|2|3|0";
+    QTest::newRow("other") << "Power_Cycle_Count"
+                           << "89"
+                           << "1|2|3|4";
+}
+
+void tst_Rating::lifeRows()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, raw);
+    SmartAttributeRecord row;
+    row.AttributeName.assign(name);
+    row.RawValue.assign(raw);
+    LifeFigures f{1, 2, 3, 4};
+    takeLifeRow(f, row, 100);
+    QTEST(QString("%1|%2|%3|%4")
+              .arg(f.nDiskLifeDays)
+              .arg(f.nPowerOnDays)
+              .arg(f.nPowerOnRestHours)
+              .arg(f.nStartStopCount),
+          "figures");
+}
+
+void tst_Rating::figuresOutliveTheDisk()
+{
+    g_nHealthPercent = 100;
+    AtaList first;
+    first.addAll("Power_On_Hours=24 Start_Stop_Count=9");
+    g_pSmartAttributeHead = first.head;
+    UpdateLifeFigures();
+    AtaList second;
+    second.addAll("Start_Stop_Count=10");
+    g_pSmartAttributeHead = second.head;
+    UpdateLifeFigures();
+    g_pSmartAttributeHead = nullptr;
+    QCOMPARE(g_nPowerOnDays, 1);
+    QCOMPARE(g_nDiskLifeDays, 1824u);
+    QCOMPARE(g_nStartStopCount, 10);
+}
+
+void tst_Rating::lifeLabels_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<quint32>("days");
+    QTest::addColumn<QString>("separator");
+    QTest::addColumn<QString>("texts");
+    const auto known = int(LifeKind::Known);
+    QTest::newRow("999") << known << 999u << LoadSeparator << "999 days|41 days, 7 hours|12";
+    QTest::newRow("1000") << known << 1000u << LoadSeparator << "More than 1000 days|41 days, 7 hours|12";
+    QTest::newRow("wrapped") << known << 4294967040u << LoadSeparator
+                             << "More than 1000 days|41 days, 7 hours|12";
+    QTest::newRow("after a change of language")
+        << known << 0u << RetranslateSeparator << "0 days|41 days , 7 hours|12";
+    QTest::newRow("NVMe") << int(LifeKind::Nvme) << 5u << LoadSeparator
+                          << "Not available|Not available|Not available";
+    QTest::newRow("removable") << int(LifeKind::Removable) << 5u << LoadSeparator
+                               << "Not Available|Not Available|Not Available";
+    QTest::newRow("no rows") << int(LifeKind::NoRows) << 5u << LoadSeparator << "||";
+}
+
+void tst_Rating::lifeLabels()
+{
+    QFETCH(int, kind);
+    QFETCH(quint32, days);
+    QFETCH(QString, separator);
+    const LifeTexts texts = lifeTexts(static_cast<LifeKind>(kind), {days, 41, 7, 12}, separator);
+    QTEST(texts.life + '|' + texts.powerOn + '|' + texts.startStop, "texts");
+}
+
+void tst_Rating::lifeKinds()
+{
+    SmartAttributeRecord row;
+    QVERIFY(lifeKind(true, true, &row) == LifeKind::Nvme);
+    QVERIFY(lifeKind(false, true, nullptr) == LifeKind::Removable);
+    QVERIFY(lifeKind(false, false, nullptr) == LifeKind::NoRows);
+    QVERIFY(lifeKind(false, false, &row) == LifeKind::Known);
+}
+
+void tst_Rating::healthImages_data()
+{
+    QTest::addColumn<int>("percent");
+    QTest::addColumn<QString>("plain"); // at 1.0 and from 1.5
+    QTest::addColumn<QString>("middle");
+    const QString good = "img_Health.png";
+    const QString average = "img_HealthAverage.png";
+    const QString bad = "img_HealthHigh.png";
+    QTest::newRow("100") << 100 << good << good;
+    QTest::newRow("76") << 76 << good << good;
+    QTest::newRow("75") << 75 << average << average;
+    QTest::newRow("66") << 66 << average << average;
+    QTest::newRow("65") << 65 << "" << average;
+    QTest::newRow("64") << 64 << bad << bad;
+    QTest::newRow("-20") << -20 << bad << bad;
+}
+
+void tst_Rating::healthImages()
+{
+    QFETCH(int, percent);
+    QTEST(healthImage(percent, 1.0F), "plain");
+    QTEST(healthImage(percent, 1.25F), "middle");
+    QTEST(healthImage(percent, 1.5F), "plain");
+    QTEST(healthImage(percent, 2.0F), "plain");
+    QCOMPARE(healthImage(percent, 1.3F), QString());
+}
+
+void tst_Rating::performanceImages_data()
+{
+    QTest::addColumn<int>("percent");
+    QTest::addColumn<QString>("plain");
+    QTest::addColumn<QString>("larger"); // at 1.25 and from 1.5
+    const QString good = "img_Performance.png";
+    const QString bad = "img_PerformanceHigh.png";
+    QTest::newRow("81") << 81 << good << good;
+    QTest::newRow("80") << 80 << good << "";
+    QTest::newRow("79") << 79 << "img_PerformanceAve.png"
+                        << "";
+    QTest::newRow("65") << 65 << "img_PerformanceAve.png"
+                        << "";
+    QTest::newRow("64") << 64 << bad << bad;
+}
+
+void tst_Rating::performanceImages()
+{
+    QFETCH(int, percent);
+    QTEST(performanceImage(percent, 1.0F), "plain");
+    QTEST(performanceImage(percent, 1.25F), "larger");
+    QTEST(performanceImage(percent, 1.5F), "larger");
+    QCOMPARE(performanceImage(percent, 1.1F), QString());
+}
+
+void tst_Rating::overall()
+{
+    QVERIFY(overallResult(true, 36) == OverallResult::Passed);
+    QVERIFY(overallResult(true, 0) == OverallResult::NotSupported);
+    QVERIFY(overallResult(false, 0) == OverallResult::NotSupported);
+    QVERIFY(overallResult(false, 36) == OverallResult::Failed);
+}
+
+void tst_Rating::keys()
+{
+    QCOMPARE(keyOf("Reallocated_Sector_Ct"), QString("Reallocated Sector Ct"));
+    QCOMPARE(keyOf("_a__b_"), QString(" a  b "));
+}
+
+QTEST_GUILESS_MAIN(tst_Rating)
+#include "tst_Rating.moc"

@@ -1,0 +1,104 @@
+#include "smart/SMARTThread.h"
+
+#include "tests/smart/SampleReports.h"
+#include "tests/support/FakePlatform.h"
+
+#include <QSemaphore>
+#include <QSignalSpy>
+#include <QtTest>
+
+#include <atomic>
+
+class tst_SMARTThread : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup() { g_bAbortJob = false; }
+
+    void readsAndReports();
+    void runsAgainForTheNextRequest();
+    void requestWaitsForTheReadUnderWay();
+    void destructorWaits();
+
+private:
+    /// Makes the tool slow; `m_entered` tells of its start, `m_ended` is set at its end.
+    void slowTool(unsigned long milliseconds);
+
+    FakePlatform *m_fake = nullptr;
+    QSemaphore m_entered;
+    std::atomic<bool> m_ended{false};
+};
+
+void tst_SMARTThread::init()
+{
+    m_fake = FakePlatform::install();
+    g_App.m_bUse64BitTool = true;
+    g_bAbortJob = false;
+    m_ended = false;
+}
+
+void tst_SMARTThread::slowTool(unsigned long milliseconds)
+{
+    m_fake->onCommand = [this, milliseconds](const QString &) {
+        m_entered.release();
+        QThread::msleep(milliseconds);
+        m_ended = true;
+        return true;
+    };
+}
+
+void tst_SMARTThread::readsAndReports()
+{
+    m_fake->onCommand = [](const QString &line) { return FakePlatform::answer(line, "report"); };
+    SMARTThread thread;
+    QSignalSpy told(&thread, &SMARTThread::OnLodingSmarInfo);
+    thread.RequestSmartRead(3);
+    QVERIFY(told.wait());
+    QCOMPARE(told.count(), 1);
+    QCOMPARE(m_fake->commands().size(), 1);
+    QVERIFY(m_fake->commands().at(0).contains(" -a /dev/sdd >> "));
+    QVERIFY(QFile::exists(nativePath(g_strSmartReportPath)));
+    QVERIFY(!g_bAbortJob);
+}
+
+void tst_SMARTThread::runsAgainForTheNextRequest()
+{
+    SMARTThread thread;
+    for (const int index : {0, 1}) {
+        thread.RequestSmartRead(index);
+        QVERIFY(thread.wait(10000));
+    }
+    QCOMPARE(m_fake->commands().size(), 2);
+    QVERIFY(m_fake->commands().at(1).contains(" -a /dev/sdb >> "));
+}
+
+void tst_SMARTThread::requestWaitsForTheReadUnderWay()
+{
+    slowTool(200);
+    SMARTThread thread;
+    thread.RequestSmartRead(0);
+    QVERIFY(m_entered.tryAcquire(1, 10000));
+    QVERIFY(!m_ended);
+    thread.RequestSmartRead(5);
+    QVERIFY(m_ended);
+    QVERIFY(thread.wait(10000));
+    // Whether the thread still counted as running decides between a lost request and a second read.
+    QCOMPARE(m_fake->commands().size(), g_bAbortJob ? 1 : 2);
+    QVERIFY(m_fake->commands().at(0).contains("/dev/sda"));
+}
+
+void tst_SMARTThread::destructorWaits()
+{
+    slowTool(200);
+    {
+        SMARTThread thread;
+        thread.RequestSmartRead(0);
+        QVERIFY(m_entered.tryAcquire(1, 10000));
+    }
+    QVERIFY(m_ended);
+}
+
+QTEST_GUILESS_MAIN(tst_SMARTThread)
+#include "tst_SMARTThread.moc"
