@@ -124,7 +124,9 @@ void SmartStatus::FormatSmartTable()
     view->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     view->setFixedHeight(style::px(28));
     view->setSectionsMovable(false);
-    view->setTextElideMode(Qt::ElideRight);
+    // The unscaled ID column of NVMe disks has room for its blanks and the two letters, but not for an
+    // ellipsis.
+    view->setTextElideMode(nvme ? Qt::ElideNone : Qt::ElideRight);
     QString sheet = QStringLiteral("QHeaderView::section{color : #000000}");
     const int pixels =
         attributecolumns::headerFontPixels(g_App.m_fScale, g_App.m_bItalian || g_App.m_bKorean);
