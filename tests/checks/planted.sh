@@ -23,6 +23,7 @@ sound() {
     printf '<ui version="4.0"><class>Page</class></ui>\n' >"$tree/ui/forms/Page.ui"
     printf '{ "disks": [ 1.5, true, null ] }\n' >"$tree/demo/pc.json"
     printf '{ broken\n' >"$tree/tests/data/broken.json"
+    printf 'the A''TA s''pec\n' >"$tree/tests/data/report.txt"
 }
 
 # finds <check> <what the complaint has to name> <file> <contents>
