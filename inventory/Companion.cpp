@@ -49,7 +49,7 @@ State check()
 
 void start(StartBy form)
 {
-    Platform::current().ShellExecute(form == StartBy::Name ? fileName() : fullPath(), QString(), QString());
+    Platform::current().ShellExecuteW(form == StartBy::Name ? fileName() : fullPath(), QString(), QString());
 }
 
 bool ensureRunning(StartBy form)

@@ -82,7 +82,7 @@ public:
     /// could not be started; the command's own exit code is not told.
     virtual bool CreateProcessAndWait(const std::wstring &line, bool hidden) = 0;
     /// Opens a file, program, page or mail address with what the desktop has for it. Returns at once.
-    virtual bool ShellExecute(const QString &file, const QString &parameters, const QString &verb) = 0;
+    virtual bool ShellExecuteW(const QString &file, const QString &parameters, const QString &verb) = 0;
     /// Opens a page or document. Main thread only.
     virtual bool OpenUrl(const QUrl &url) = 0;
     /// @}
@@ -101,9 +101,11 @@ public:
     virtual QString NativePath(const QString &path) const = 0;
     /// The value of COMSPEC, empty if unset.
     virtual QByteArray CommandInterpreter() = 0;
-    /// What sets this PC apart from others that the same user may run the program for: one instance may run per
-    /// scope. Empty where the machine is the only one.
+    /// What sets this PC apart from others that the same user may run the program for: one instance may run
+    /// per scope. Empty where the machine is the only one.
     virtual QString InstanceScope() { return QString(); }
+    /// The process is about to end without running destructors: what must not stay behind goes now.
+    virtual void Leave() {}
     /// The operating system's own name, version and machine word for the About box.
     virtual QString OperatingSystemName() = 0;
     /// @}

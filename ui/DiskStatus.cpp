@@ -115,6 +115,7 @@ void DiskStatus::layOutTiles()
             entry.value->setFixedHeight(style::px(entry.valueHeight));
         entry.value->setAlignment(Qt::AlignBottom);
         column->addWidget(entry.title);
+        column->addStretch(1);
         column->addWidget(entry.value);
     }
     performanceValueLbl->setAlignment(Qt::AlignLeft);
@@ -123,6 +124,7 @@ void DiskStatus::layOutTiles()
 QGridLayout *DiskStatus::makeDetailsGrid()
 {
     constexpr int Spacing = 5;
+    constexpr int RowHeight = 27; // a field of 20 stands in the middle of its row
     auto *grid = new QGridLayout;
     grid->setSpacing(Spacing);
     grid->setContentsMargins(0, 0, 0, 0);
@@ -137,15 +139,16 @@ QGridLayout *DiskStatus::makeDetailsGrid()
         int column = 0;
         for (QLabel *label : labels) {
             if (label)
-                grid->addWidget(label, row, column);
+                grid->addWidget(label, row, column, Qt::AlignVCenter);
             // Column 2 stays empty between the two pairs.
             column += column == 1 ? 2 : 1;
         }
+        grid->setRowMinimumHeight(row, style::px(RowHeight));
         ++row;
     }
-    grid->setColumnStretch(1, 3);
-    grid->setColumnStretch(2, 1);
-    grid->setColumnStretch(4, 3);
+    grid->setColumnMinimumWidth(2, style::px(20));
+    grid->setColumnStretch(1, 1);
+    grid->setColumnStretch(4, 1);
     return grid;
 }
 
@@ -165,12 +168,21 @@ void DiskStatus::layOutPage()
     auto *lowerSpacer = new QLabel(this);
     lowerSpacer->setFixedHeight(style::px(88));
 
+    auto *headingLine = new QFrame(this);
+    headingLine->setFixedHeight(1);
+    headingLine->setStyleSheet(QStringLiteral("QFrame{background: #e3e6e9; border: none;}"));
+
     auto *page = new QVBoxLayout(this);
     page->setContentsMargins(style::px(25), style::px(15), style::px(25), style::px(25));
+    page->setSpacing(0);
     page->addLayout(tileRow);
     page->addWidget(upperSpacer);
     page->addWidget(detailedLbl);
-    page->addLayout(makeDetailsGrid(), 1);
+    page->addSpacing(style::px(6));
+    page->addWidget(headingLine);
+    page->addSpacing(style::px(9));
+    page->addLayout(makeDetailsGrid());
+    page->addStretch(1);
     page->addWidget(lowerSpacer);
 }
 

@@ -32,7 +32,7 @@ public:
     bool GetDiskFreeSpaceExW(const QString &root, quint64 *totalBytes, quint64 *freeBytes) override;
 
     bool CreateProcessAndWait(const std::wstring &line, bool hidden) override;
-    bool ShellExecute(const QString &file, const QString &parameters, const QString &verb) override;
+    bool ShellExecuteW(const QString &file, const QString &parameters, const QString &verb) override;
     bool OpenUrl(const QUrl &url) override;
 
     QString GetTempPathW() override;

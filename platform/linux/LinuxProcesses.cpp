@@ -113,7 +113,7 @@ QString LinuxPlatform::findProgram(const QString &file)
     return {};
 }
 
-bool LinuxPlatform::ShellExecute(const QString &file, const QString &parameters, const QString &)
+bool LinuxPlatform::ShellExecuteW(const QString &file, const QString &parameters, const QString &)
 {
     const QUrl url(file);
     const bool isAddress = url.scheme().size() > 1;

@@ -28,7 +28,7 @@ const QString EfiSystemByte = QStringLiteral("0xef");
 /// system that names a disk by its driver.
 struct Bus {
     const char *transport;
-    const char *interface;
+    const char *interfaceType;
     const char *word;
 };
 
@@ -124,7 +124,7 @@ Disk toDisk(const QJsonObject &device, int diskNumber)
     disk.number = diskNumber;
     disk.media = flag(device, "rm") ? QStringLiteral("removable") : QStringLiteral("fixed");
     disk.model = modelOf(device);
-    disk.interface = QLatin1String(busOf(device).interface);
+    disk.interfaceType = QLatin1String(busOf(device).interfaceType);
     disk.status = statusOf(device);
     if (const quint64 sectorSize = number(device, "log-sec"); sectorSize >= SectorSize)
         disk.bytesPerSector = static_cast<quint32>(sectorSize);

@@ -133,7 +133,7 @@ Disk readDisk(const JsonReader &in, const PcDescription &pc, const SelfTestEnd &
     }
     record.media = in.text(QStringLiteral("media"), QStringLiteral("fixed"));
     record.model = in.text(QStringLiteral("model"));
-    record.interface = in.text(QStringLiteral("interface"), QStringLiteral("SCSI"));
+    record.interfaceType = in.text(QStringLiteral("interface"), QStringLiteral("SCSI"));
     record.status = in.text(QStringLiteral("status"), QStringLiteral("OK"));
     record.bytesPerSector = static_cast<quint32>(in.whole(QStringLiteral("bytesPerSector"), 512, 512, 65536));
     if (record.bytesPerSector % 512 != 0) {

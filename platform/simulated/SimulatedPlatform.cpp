@@ -5,6 +5,7 @@
 #include "platform/JsonSettings.h"
 #include "platform/simulated/StateFolder.h"
 
+#include <QCryptographicHash>
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
@@ -205,7 +206,7 @@ bool SimulatedPlatform::CreateProcessAndWait(const std::wstring &line, bool)
     return m_interpreter.run(line, [this](const QString &path) { return NativePath(path); });
 }
 
-bool SimulatedPlatform::ShellExecute(const QString &file, const QString &parameters, const QString &verb)
+bool SimulatedPlatform::ShellExecuteW(const QString &file, const QString &parameters, const QString &verb)
 {
     record(QStringLiteral("opened.log"),
            QStringList{verb, file, parameters}.join(QLatin1Char('\t')).toUtf8());
@@ -274,6 +275,21 @@ QString SimulatedPlatform::NativePath(const QString &path) const
 QByteArray SimulatedPlatform::CommandInterpreter()
 {
     return qgetenv("COMSPEC");
+}
+
+QString SimulatedPlatform::InstanceScope()
+{
+    // A state folder that was asked for makes another PC of the same description.
+    const QString scope = m_pc.folder + (m_ownsState ? QString() : QLatin1Char('\n') + m_state);
+    const QByteArray hash = QCryptographicHash::hash(scope.toUtf8(), QCryptographicHash::Sha1).toHex();
+    return QLatin1Char('-') + QString::fromLatin1(hash);
+}
+
+void SimulatedPlatform::Leave()
+{
+    if (m_ownsState) {
+        QDir(m_state).removeRecursively();
+    }
 }
 
 QString SimulatedPlatform::OperatingSystemName()

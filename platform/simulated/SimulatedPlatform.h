@@ -43,7 +43,7 @@ public:
     bool GetDiskFreeSpaceExW(const QString &root, quint64 *totalBytes, quint64 *freeBytes) override;
 
     bool CreateProcessAndWait(const std::wstring &line, bool hidden) override;
-    bool ShellExecute(const QString &file, const QString &parameters, const QString &verb) override;
+    bool ShellExecuteW(const QString &file, const QString &parameters, const QString &verb) override;
     bool OpenUrl(const QUrl &url) override;
 
     QString GetTempPathW() override;
@@ -52,6 +52,9 @@ public:
     QString HistoryFolder(const QString &applicationFolder) override;
     QString NativePath(const QString &path) const override;
     QByteArray CommandInterpreter() override;
+    /// Each described folder is a PC of its own, and with a state folder that was asked for each of these.
+    QString InstanceScope() override;
+    void Leave() override;
     QString OperatingSystemName() override;
 
     void SetThreadExecutionState(quint32 flags) override;

@@ -103,7 +103,7 @@ const QVector<Table> &tables()
           {"Caption", [](const Machine &m, int i) { return m.disks.at(i).model; }},
           {"DeviceID", deviceName},
           {"Index", [](const Machine &m, int i) { return QString::number(m.disks.at(i).number); }},
-          {"InterfaceType", [](const Machine &m, int i) { return m.disks.at(i).interface; }},
+          {"InterfaceType", [](const Machine &m, int i) { return m.disks.at(i).interfaceType; }},
           {"MediaType", diskMedia},
           {"Model", [](const Machine &m, int i) { return m.disks.at(i).model; }},
           {"Name", deviceName},

@@ -21,7 +21,7 @@ QString describe(const Disk &disk)
 {
     return QStringLiteral("%1 %2 %3 [%4] %5 %6 %7 %8")
         .arg(disk.number)
-        .arg(disk.media, disk.model, disk.interface, disk.status)
+        .arg(disk.media, disk.model, disk.interfaceType, disk.status)
         .arg(disk.bytesPerSector)
         .arg(disk.sectors)
         .arg(disk.node);

@@ -58,7 +58,7 @@ void TestPcDescription::readsEveryKey()
 
     const Disk &disk = *pc->disk(7);
     QCOMPARE(disk.record.media, QStringLiteral("removable"));
-    QCOMPARE(disk.record.interface, QStringLiteral("USB"));
+    QCOMPARE(disk.record.interfaceType, QStringLiteral("USB"));
     QCOMPARE(disk.record.status, QStringLiteral("Pred Fail"));
     QCOMPARE(disk.record.bytesPerSector, 4096u);
     QCOMPARE(disk.record.sectors, quint64(5000000000));

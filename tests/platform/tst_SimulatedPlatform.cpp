@@ -147,10 +147,10 @@ void TestSimulatedPlatform::companion()
     const auto pc = folder.open(R"({"processes": ["one.exe"], "installed": ["VelmoraSMART.exe"]})");
     const QString running = QStringLiteral("\\tasklist.exe | \\findstr.exe VelmoraSMART.exe");
     QCOMPARE(outputOf(*pc, running), QByteArray());
-    QVERIFY(!pc->ShellExecute(QStringLiteral("Other.exe"), QString(), QString()));
+    QVERIFY(!pc->ShellExecuteW(QStringLiteral("Other.exe"), QString(), QString()));
     QVERIFY(
-        pc->ShellExecute(QStringLiteral("C:\\x/VelmoraSMART.exe"), QStringLiteral("Schedular"), QString()));
-    QVERIFY(pc->ShellExecute(QStringLiteral("VelmoraSMART.exe"), QString(), QString()));
+        pc->ShellExecuteW(QStringLiteral("C:\\x/VelmoraSMART.exe"), QStringLiteral("Schedular"), QString()));
+    QVERIFY(pc->ShellExecuteW(QStringLiteral("VelmoraSMART.exe"), QString(), QString()));
     QCOMPARE(outputOf(*pc, running).count("VelmoraSMART.exe"), 1);
     QVERIFY(pc->OpenUrl(QUrl(QStringLiteral("http://velmora.example/a b"))));
     outputOf(*pc, QStringLiteral("\\TASKKILL.exe /F /IM velmorasmart.exe"));

@@ -47,7 +47,7 @@ Disk disk(int number, const char *model, const char *bus, const char *media, qui
     Disk d;
     d.number = number;
     d.model = QLatin1String(model);
-    d.interface = QLatin1String(bus);
+    d.interfaceType = QLatin1String(bus);
     d.media = QLatin1String(media);
     d.status = QStringLiteral("OK");
     d.sectors = sectors;

@@ -73,7 +73,7 @@ public:
         return m_commands;
     }
     QStringList openedNames; ///< of CreateFileW
-    QStringList executed;    ///< "<verb> <file> <parameters>" of ShellExecute, and pages opened
+    QStringList executed;    ///< "<verb> <file> <parameters>" of ShellExecuteW, and pages opened
     QVector<quint32> executionStates;
     QVector<LogonTask> tasks;
     quint64 slept = 0; ///< ms
@@ -190,7 +190,7 @@ public:
         }
         return !onCommand || onCommand(text);
     }
-    bool ShellExecute(const QString &file, const QString &parameters, const QString &verb) override
+    bool ShellExecuteW(const QString &file, const QString &parameters, const QString &verb) override
     {
         executed << verb + QLatin1Char(' ') + file + QLatin1Char(' ') + parameters;
         return true;

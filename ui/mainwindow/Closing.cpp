@@ -105,7 +105,7 @@ void MainWindow::launchSibling(const QString &fileName)
 {
     Platform::current().SetThreadExecutionState(ExecutionContinuous);
     QDir::setCurrent(g_App.m_strApplicationFolder);
-    Platform::current().ShellExecute(fileName, QString(), QStringLiteral("Open"));
+    Platform::current().ShellExecuteW(fileName, QString(), QStringLiteral("Open"));
     QCoreApplication::quit();
 }
 

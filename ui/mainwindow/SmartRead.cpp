@@ -163,6 +163,7 @@ void MainWindow::initializeSmartStatus()
     showResult(m_pSmartStatusPage->SmartResultLabel,
                g_bSmartAvailable ? OverallResult::Passed : OverallResult::NotSupported);
 
+    m_pSmartStatusPage->FormatSmartTable();
     const QString interfaceText = interfaceOrDefault(record ? record->szInterface.text() : QString());
     m_pSmartStatusPage->InterfaceValLbl->setText(interfaceText);
     InterfaceTypeLabel->setText(interfaceText);
