@@ -33,16 +33,19 @@ QByteArray noiseBytes()
     return noise;
 }
 
-/// Milliseconds per run, the best of three rounds.
-double measure(int runs, const std::function<void()> &work)
+/// Milliseconds of `work` per run, the best of three rounds; what `prepare` takes is not counted.
+double measure(int runs, const std::function<void()> &prepare, const std::function<void()> &work)
 {
     qint64 best = -1;
     for (int round = 0; round < 3; ++round) {
-        QElapsedTimer timer;
-        timer.start();
-        for (int i = 0; i < runs; ++i)
+        qint64 spent = 0;
+        for (int i = 0; i < runs; ++i) {
+            prepare();
+            QElapsedTimer timer;
+            timer.start();
             work();
-        const qint64 spent = timer.nsecsElapsed();
+            spent += timer.nsecsElapsed();
+        }
         best = best < 0 ? spent : std::min(best, spent);
     }
     return static_cast<double>(best) / 1e6 / runs;
@@ -58,22 +61,19 @@ void print(const char *what, double milliseconds)
 void benchReport(const char *what, const QByteArray &bytes, int runs)
 {
     const QString path = tempFile(QStringLiteral("bench_parse.txt"));
-    // Reading removes the file, so each run writes it anew; what that costs is measured apart.
+    // Reading removes the file, so each run gets it anew.
     const auto write = [&] {
         QFile file(nativePath(path));
         if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
             qFatal("cannot write the report");
     };
-    const double writing = measure(runs, write);
-    const double all = measure(runs, [&] {
-        write();
-        DetectReportKind(path);
-        ParseSmartReport(path);
-        RateHealth();
-        RatePerformance();
-        UpdateLifeFigures();
-    });
-    print(what, std::max(0.0, all - writing));
+    print(what, measure(runs, write, [&] {
+              DetectReportKind(path);
+              ParseSmartReport(path);
+              RateHealth();
+              RatePerformance();
+              UpdateLifeFigures();
+          }));
 }
 
 /// What a person without the program does: starts a tool that reads the same.
@@ -84,12 +84,14 @@ void benchAlternative(const QString &program, const QStringList &arguments)
         std::printf("%-44s not installed\n", what.constData());
         return;
     }
-    print(what.constData(), measure(20, [&] {
-              QProcess process;
-              process.setStandardOutputFile(QProcess::nullDevice());
-              process.start(program, arguments);
-              process.waitForFinished();
-          }));
+    print(what.constData(), measure(
+                                20, [] {},
+                                [&] {
+                                    QProcess process;
+                                    process.setStandardOutputFile(QProcess::nullDevice());
+                                    process.start(program, arguments);
+                                    process.waitForFinished();
+                                }));
 }
 
 } // namespace

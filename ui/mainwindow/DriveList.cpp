@@ -103,9 +103,9 @@ void MainWindow::OnRefresh()
     m_bRefreshing = true;
     enterBusy(tr("Please wait. Application Refreshing..."));
     label->setAlignment(Qt::AlignRight);
-    m_refreshThread.start(QThread::InheritPriority);
     // As with a read, each refresh adds a connection.
     connect(&m_refreshThread, &QRefThreadDevicesLoad::OnLoadingDevices, this, &MainWindow::OnInitialize);
+    m_refreshThread.start(QThread::InheritPriority);
 }
 
 void MainWindow::OnInitialize()

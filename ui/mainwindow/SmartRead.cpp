@@ -103,11 +103,12 @@ void MainWindow::RefreshSelectedDisk()
 
 void MainWindow::startRead()
 {
+    // Made anew at each read and never undone: after n reads the slot runs n times, of which the first one
+    // takes the report in and the others show the same again. It stands before the request, as a quick tool
+    // may be done before the next line.
+    connect(&m_smartThread, &SMARTThread::OnLodingSmarInfo, this, &MainWindow::OnInitializeSmart);
     RequestSmartRead(g_nCurrentDiskIndex);
     enterBusy(tr("Please wait. Getting SMART information..."));
-    // Made anew at each read and never undone: after n reads the slot runs n times, of which the first one
-    // takes the report in and the others show the same again.
-    connect(&m_smartThread, &SMARTThread::OnLodingSmarInfo, this, &MainWindow::OnInitializeSmart);
 }
 
 void MainWindow::enterBusy(const QString &text)
