@@ -1,0 +1,279 @@
+#include "app/state/GlobalApp.h"
+#include "app/state/SettingsStore.h"
+#include "tests/support/FakePlatform.h"
+#include "ui/CloneWarning.h"
+#include "ui/CloseWgt.h"
+#include "ui/ConfarmetionClass.h"
+#include "ui/DestinitionWarning.h"
+#include "ui/InfoDialogClass.h"
+#include "ui/ScanSwitchClass.h"
+#include "ui/SelfTestNotSupported.h"
+#include "ui/ShutDownWarning.h"
+#include "ui/SmallMessageDlg.h"
+#include "ui/SmartWarning.h"
+
+#include <QScrollBar>
+#include <QTextBlock>
+#include <QTranslator>
+#include <QtTest>
+
+#include <functional>
+
+namespace
+{
+
+using Maker = std::function<QWidget *()>;
+
+/// A language in which every text is as long again.
+class LongLanguage : public QTranslator
+{
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char *, const char *source, const char *, int) const override
+    {
+        const QString text = QString::fromUtf8(source);
+        return text + QLatin1Char(' ') + text;
+    }
+};
+
+template<typename Dialog>
+Maker maker()
+{
+    return [] { return new Dialog; };
+}
+
+/// The name of a widget whose text has too little room; empty where all have enough.
+QString cutText(const QWidget &dialog)
+{
+    const auto labels = dialog.findChildren<QLabel *>();
+    for (const QLabel *label : labels) {
+        if (!label->isVisible() || label->text().isEmpty())
+            continue;
+        const QSize needed =
+            label->wordWrap() ? QSize(0, label->heightForWidth(label->width())) : label->sizeHint();
+        if (needed.width() > label->width() || needed.height() > label->height())
+            return label->objectName();
+    }
+    const auto buttons = dialog.findChildren<QPushButton *>();
+    for (const QPushButton *button : buttons) {
+        const QRect place(button->mapTo(&dialog, QPoint()), button->size());
+        if (button->fontMetrics().horizontalAdvance(button->text()) >= button->width() ||
+            !dialog.rect().contains(place))
+            return button->objectName();
+    }
+    return QString();
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Maker)
+
+/// What all dialogs have from their frame, and what single ones add.
+class DialogsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void longTextsAreNotCut_data();
+    void longTextsAreNotCut();
+    void leavingPressesTheDismissingButton_data();
+    void leavingPressesTheDismissingButton();
+    void enterStartsNoDestruction();
+    void growsAboutItsCentre();
+    void outcomeTitleSurvivesALanguage();
+    void temperatureWarningsRemember();
+    void dragMovesTheWindow();
+    void updateMessageBlocks_data();
+    void updateMessageBlocks();
+};
+
+void DialogsTest::init()
+{
+    FakePlatform::install();
+    g_App.m_strSettingsPath = QStringLiteral("HKEY_LOCAL_MACHINE\\Software\\Test");
+    g_App.m_fScale = 1.0F;
+}
+
+void DialogsTest::longTextsAreNotCut_data()
+{
+    QTest::addColumn<Maker>("make");
+    QTest::addColumn<float>("scale");
+    for (const float scale : {1.0F, 1.5F, 2.0F}) {
+        const auto row = [scale](const char *name, const Maker &make) {
+            QTest::addRow("%s at %.1f", name, static_cast<double>(scale)) << make << scale;
+        };
+        row("CloseWgt", maker<CloseWgt>());
+        row("SmartWarning", maker<SmartWarning>());
+        row("ShutDownWarning", maker<ShutDownWarning>());
+        row("CloneWarning", maker<CloneWarning>());
+        row("ScanSwitchClass", maker<ScanSwitchClass>());
+        row("DestinitionWarning", maker<DestinitionWarning>());
+        row("SelfTestNotSupported", maker<SelfTestNotSupported>());
+    }
+}
+
+void DialogsTest::longTextsAreNotCut()
+{
+    QFETCH(Maker, make);
+    QFETCH(float, scale);
+    g_App.m_fScale = scale;
+    const std::unique_ptr<QWidget> dialog(make());
+    LongLanguage language;
+    QCoreApplication::installTranslator(&language);
+    dialog->show();
+    // The texts change after the window was sized, so that it has to follow them.
+    QTRY_COMPARE(dialog->windowTitle(), QStringLiteral("Velmora Halvane Velmora Halvane"));
+    QTRY_COMPARE(cutText(*dialog), QString());
+}
+
+void DialogsTest::leavingPressesTheDismissingButton_data()
+{
+    QTest::addColumn<Maker>("make");
+    QTest::addColumn<QString>("button");
+    QTest::newRow("CloseWgt") << maker<CloseWgt>() << "NoButton";
+    QTest::newRow("SmartWarning") << maker<SmartWarning>() << "OkButton";
+    QTest::newRow("ShutDownWarning") << maker<ShutDownWarning>() << "OkButton";
+    QTest::newRow("CloneWarning") << maker<CloneWarning>() << "CancelButton";
+    QTest::newRow("ConfarmetionClass") << maker<ConfarmetionClass>() << "NoButton";
+    QTest::newRow("ScanSwitchClass") << maker<ScanSwitchClass>() << "NoButton";
+    QTest::newRow("InfoDialogClass") << maker<InfoDialogClass>() << "OkButton";
+    QTest::newRow("DestinitionWarning") << maker<DestinitionWarning>() << "CloseButton";
+    QTest::newRow("SelfTestNotSupported") << maker<SelfTestNotSupported>() << "CloseButton";
+}
+
+void DialogsTest::leavingPressesTheDismissingButton()
+{
+    QFETCH(Maker, make);
+    QFETCH(QString, button);
+    const std::unique_ptr<QWidget> dialog(make());
+    auto *dismiss = dialog->findChild<QPushButton *>(button);
+    QVERIFY(dismiss);
+    QSignalSpy pressed(dismiss, &QPushButton::clicked);
+    connect(dismiss, &QPushButton::clicked, dialog.get(), &QWidget::hide);
+    dialog->show();
+    QTest::keyClick(dialog.get(), Qt::Key_Escape);
+    QCOMPARE(pressed.count(), 1);
+    dialog->show();
+    dialog->close();
+    QCOMPARE(pressed.count(), 2);
+    QVERIFY(!dialog->isVisible());
+}
+
+void DialogsTest::enterStartsNoDestruction()
+{
+    CloneWarning clone;
+    ShutDownWarning shutDown;
+    QSignalSpy started(clone.StartButton, &QPushButton::clicked);
+    QSignalSpy cancelled(clone.CancelButton, &QPushButton::clicked);
+    QSignalSpy off(shutDown.ShutDownButton, &QPushButton::clicked);
+    for (QWidget *dialog : {static_cast<QWidget *>(&clone), static_cast<QWidget *>(&shutDown)}) {
+        dialog->show();
+        dialog->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(dialog));
+        QTest::keyClick(dialog, Qt::Key_Return);
+    }
+    QCOMPARE(started.count(), 0);
+    QCOMPARE(cancelled.count(), 1);
+    QCOMPARE(off.count(), 0);
+    QVERIFY(!shutDown.isVisible());
+}
+
+void DialogsTest::growsAboutItsCentre()
+{
+    InfoDialogClass box;
+    box.SetTexts(QStringLiteral("Scan Completed"), QStringLiteral("Scan Completed."), QString());
+    QVERIFY(box.label_2->isHidden());
+    box.move(300, 300);
+    box.show();
+    const QPoint centre = box.geometry().center();
+    const int height = box.height();
+    box.SetTexts(QStringLiteral("Clone Disk"),
+                 QString(600, QLatin1Char('x')).replace(QLatin1String("xxxxx"), "word "),
+                 QStringLiteral("Second"));
+    QVERIFY(box.height() > height);
+    QVERIFY(!box.label_2->isHidden());
+    QVERIFY((box.geometry().center() - centre).manhattanLength() <= 2);
+    // A text that is set past the frame is noticed too.
+    box.label->setText(QStringLiteral("Short."));
+    QTRY_VERIFY(box.height() < height + 60);
+}
+
+void DialogsTest::outcomeTitleSurvivesALanguage()
+{
+    InfoDialogClass fresh;
+    InfoDialogClass filled;
+    QCOMPARE(fresh.HeaderLabel->text(), QStringLiteral("Information"));
+    filled.SetTexts(QStringLiteral("Scan Failed"), QStringLiteral("Scan Failed."), QString());
+    LongLanguage language;
+    QCoreApplication::installTranslator(&language);
+    QCoreApplication::sendPostedEvents();
+    QCOMPARE(fresh.HeaderLabel->text(), QStringLiteral("Information Information"));
+    QCOMPARE(filled.HeaderLabel->text(), QStringLiteral("Scan Failed"));
+}
+
+void DialogsTest::temperatureWarningsRemember()
+{
+    SmartWarning warning;
+    ShutDownWarning shutDown;
+    warning.show();
+    shutDown.show();
+    warning.OkButton->click();
+    QVERIFY(!warning.isVisible());
+    QVERIFY(!SettingsStore().flag(key::DontShow));
+    warning.show();
+    warning.DontShowButton->click();
+    QVERIFY(!warning.isVisible());
+    QVERIFY(SettingsStore().flag(key::DontShow));
+    QVERIFY(!SettingsStore().flag(key::ShutDownDontShow));
+    shutDown.ShutDownButton->click();
+    QVERIFY(shutDown.isVisible());
+    shutDown.OnDontShowClicked();
+    QVERIFY(!shutDown.isVisible());
+    QVERIFY(SettingsStore().flag(key::ShutDownDontShow));
+}
+
+void DialogsTest::dragMovesTheWindow()
+{
+    CloseWgt dialog;
+    dialog.move(100, 100);
+    dialog.show();
+    QTest::mousePress(dialog.label, Qt::LeftButton, {}, QPoint(3, 3));
+    const QPoint to(13, 8);
+    QMouseEvent move(QEvent::MouseMove, to, dialog.label->mapToGlobal(to), Qt::NoButton, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(dialog.label, &move);
+    QCOMPARE(dialog.pos(), QPoint(110, 105));
+    QTest::mouseRelease(dialog.label, Qt::LeftButton);
+    QCoreApplication::sendEvent(dialog.label, &move);
+    QCOMPARE(dialog.pos(), QPoint(110, 105));
+}
+
+void DialogsTest::updateMessageBlocks_data()
+{
+    QTest::addColumn<int>("blankLines");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("one line") << 1 << "\n\nNo update available.";
+    QTest::newRow("two lines") << 2 << "\nNo update available.";
+}
+
+void DialogsTest::updateMessageBlocks()
+{
+    QFETCH(int, blankLines);
+    SmallMessageDlg dialog;
+    dialog.SetText(QStringLiteral("Old"), 1);
+    dialog.SetText(QStringLiteral("No update available."), blankLines);
+    QTEST(dialog.textEdit->toPlainText(), "text");
+    const QTextBlock first = dialog.textEdit->document()->firstBlock();
+    const QTextBlock last = dialog.textEdit->document()->lastBlock();
+    QCOMPARE(first.charFormat().fontPointSize(), 11.0);
+    QCOMPARE(first.charFormat().fontWeight(), 75);
+    QCOMPARE(last.begin().fragment().charFormat().fontPointSize(), 10.0);
+    QCOMPARE(last.begin().fragment().charFormat().fontWeight(), 50);
+    QCOMPARE(last.blockFormat().alignment() & Qt::AlignHCenter, Qt::AlignHCenter);
+    dialog.show();
+    QVERIFY(dialog.textEdit->verticalScrollBar()->maximum() == 0);
+}
+
+QTEST_MAIN(DialogsTest)
+
+#include "tst_Dialogs.moc"
