@@ -125,6 +125,9 @@ QGridLayout *DiskStatus::makeDetailsGrid()
 {
     constexpr int Spacing = 5;
     constexpr int RowHeight = 27; // a field of 20 stands in the middle of its row
+    constexpr int FirstFixedRow =
+        3; // from here the labels have widths of their own, which the columns must not take
+    constexpr Qt::Alignment fills = Qt::AlignVCenter;
     auto *grid = new QGridLayout;
     grid->setSpacing(Spacing);
     grid->setContentsMargins(0, 0, 0, 0);
@@ -139,7 +142,7 @@ QGridLayout *DiskStatus::makeDetailsGrid()
         int column = 0;
         for (QLabel *label : labels) {
             if (label)
-                grid->addWidget(label, row, column, Qt::AlignVCenter);
+                grid->addWidget(label, row, column, row < FirstFixedRow ? fills : Qt::AlignLeft | fills);
             // Column 2 stays empty between the two pairs.
             column += column == 1 ? 2 : 1;
         }
