@@ -1,0 +1,11 @@
+#include "tests/tour/Steps.h"
+
+const std::vector<Chapter> &chapters()
+{
+    static const std::vector<Chapter> all{
+        {QStringLiteral("start"), startSteps}, {QStringLiteral("screens"), screenSteps},
+        {QStringLiteral("menus"), menuSteps},  {QStringLiteral("settings"), settingsSteps, true},
+        {QStringLiteral("close"), closeSteps},
+    };
+    return all;
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QJsonArray>
+
+class QWidget;
+
+/// The graphs of a window as data. GUI thread only.
+namespace chartrecorder
+{
+
+/// The charts that show below `window`: title, points of each series, axes.
+QJsonArray charts(const QWidget *window);
+
+} // namespace chartrecorder

@@ -1,0 +1,60 @@
+#include "tests/tour/Hand.h"
+
+#include <QApplication>
+#include <QPointer>
+#include <QTest>
+#include <QWidget>
+#include <QWindow>
+
+namespace
+{
+
+/// The native window of a top-level widget, if that still is one and is shown: its address may be stale by
+/// now.
+QWindow *nativeWindow(QWidget *widget)
+{
+    if (!QApplication::topLevelWidgets().contains(widget) || !widget->isVisible())
+        return nullptr;
+    return widget->windowHandle();
+}
+
+} // namespace
+
+namespace hand
+{
+
+Place at(QWidget *widget, const QPoint &point)
+{
+    return {widget->window(), widget->mapTo(widget->window(), point)};
+}
+
+Place middleOf(QWidget *widget)
+{
+    return at(widget, widget->rect().center());
+}
+
+void move(const Place &place)
+{
+    if (QWindow *window = nativeWindow(place.window))
+        QTest::mouseMove(window, place.point);
+}
+
+void press(const Place &place)
+{
+    if (QWindow *window = nativeWindow(place.window))
+        QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, place.point);
+}
+
+void release(const Place &place)
+{
+    if (QWindow *window = nativeWindow(place.window))
+        QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, place.point);
+}
+
+void key(QWidget *window, Qt::Key key)
+{
+    if (QWindow *native = nativeWindow(window))
+        QTest::keyClick(native, key);
+}
+
+} // namespace hand

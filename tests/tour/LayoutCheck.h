@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QJsonArray>
+#include <QString>
+
+class QWidget;
+
+/// What looks wrong in a window whatever its contents are. GUI thread only.
+namespace layoutcheck
+{
+
+/// The visible labels and buttons of `window` whose text does not fit into them, and all widgets with a text
+/// that reach out of what their parents show: {step, name, text, need, have}, the last two as [width, height]
+/// in pixels.
+QJsonArray clipped(const QWidget *window, const QString &step);
+
+/// The pairs of visible siblings with text that cover each other by more than a pixel:
+/// {step, names, texts, rectangle}, the last as [x, y, width, height] in their parent.
+QJsonArray overlaps(const QWidget *window, const QString &step);
+
+} // namespace layoutcheck

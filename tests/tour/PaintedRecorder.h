@@ -1,0 +1,14 @@
+#pragma once
+
+class QJsonObject;
+class QWidget;
+
+/// What the self-drawn views of a window show, as data. A view is known by its class name and tells its
+/// values in its properties; a new kind of view is a new row of the table. GUI thread only.
+namespace paintedrecorder
+{
+
+/// Adds to `record` one key for each view that shows below `window`.
+void addTo(QJsonObject *record, const QWidget *window);
+
+} // namespace paintedrecorder

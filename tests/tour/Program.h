@@ -1,0 +1,82 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+#include <chrono>
+#include <condition_variable>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <stdexcept>
+#include <type_traits>
+
+/// A step that cannot go on; what() says why.
+class StepFailed : public std::runtime_error
+{
+public:
+    explicit StepFailed(const QString &reason) : std::runtime_error(reason.toStdString()) {}
+};
+
+/// The program ended, or its event loop no longer turns: no step can follow.
+class ProgramGone : public StepFailed
+{
+public:
+    using StepFailed::StepFailed;
+};
+
+/// The running program as the tour's own thread reaches it. Everything that looks at a widget or sends it an
+/// event is carried to the GUI thread as an event there, so it also gets through while the program sits in an
+/// event loop of a menu or a modal message.
+class Program
+{
+public:
+    using Clock = std::chrono::steady_clock;
+
+    /// GUI thread, once the application object is being made.
+    void attach();
+
+    /// The program ended; wakes whoever waits. Any thread.
+    void markEnded();
+    bool hasEnded() const;
+
+    /// Until when ask() and the waits of the present step may take. Tour thread.
+    void setDeadline(Clock::time_point deadline) { m_deadline = deadline; }
+    bool isLate() const { return Clock::now() >= m_deadline; }
+
+    /// Runs `call` on the GUI thread and gives what it returns. Throws ProgramGone when the program does not
+    /// get to it before the deadline, or in the few seconds that a late step is given.
+    template<typename Call>
+    auto ask(Call call) -> std::invoke_result_t<Call>
+    {
+        using Result = std::invoke_result_t<Call>;
+        if constexpr (std::is_void_v<Result>) {
+            runInGui(call);
+        } else {
+            const auto result = std::make_shared<Result>();
+            runInGui([result, call]() { *result = call(); });
+            return *result;
+        }
+    }
+
+    /// Runs `call` on the GUI thread and does not wait: what it starts may run an event loop of its own.
+    void act(std::function<void()> call);
+
+    /// Lets the program run for so long, or to its end.
+    void pause(int milliseconds);
+
+private:
+    struct Request {
+        std::function<void()> call;
+        bool done = false;
+        bool abandoned = false;
+    };
+
+    void runInGui(std::function<void()> call);
+
+    std::unique_ptr<QObject> m_pGate; ///< lives in the GUI thread
+    mutable std::mutex m_mutex;
+    std::condition_variable m_changed;
+    bool m_bEnded = false;
+    Clock::time_point m_deadline = Clock::time_point::max();
+};

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QJsonArray>
+#include <QJsonObject>
+
+class QWidget;
+
+/// Turns what a window shows into plain data. Looks only; GUI thread.
+namespace screenrecorder
+{
+
+/// The window as one step of screens.json, without the step's own name, disk and picture: its widgets,
+/// combos, trees and charts, and what the self-drawn views in it show.
+QJsonObject describe(const QWidget *window);
+
+} // namespace screenrecorder

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+#include <vector>
+
+class Walk;
+
+/// One thing that the tour does, with a time limit of its own.
+struct Step {
+    QString name; ///< as a failure of it is named
+    std::function<void(Walk &)> run;
+    bool essential = false; ///< nothing can follow where it fails
+};
+
+using StepList = std::vector<Step>;
+
+/// A stretch of the walk. Its steps are asked for when it begins, so they may depend on what the program
+/// shows.
+struct Chapter {
+    QString name;
+    std::function<StepList(Walk &)> steps;
+    bool onWish = false; ///< walked only where "tour" of the described PC asks for it under this name
+};
+
+/// \name Chapters, each in a file of its own
+/// @{
+StepList startSteps(Walk &walk);
+StepList screenSteps(Walk &walk);
+StepList menuSteps(Walk &walk);
+StepList settingsSteps(Walk &walk);
+StepList closeSteps(Walk &walk);
+/// @}
+
+/// The whole walk in its order.
+const std::vector<Chapter> &chapters();

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QJsonObject>
+#include <QString>
+
+/// What a tour is to do: its command line, its environment and what the described PC asks for.
+struct TourPlan {
+    QString out;      ///< folder for pictures and data, full path
+    QString pcFolder; ///< full path
+    QString pcName;
+    int dpi = 96;
+    QJsonObject wishes; ///< "tour" of the described PC
+    int stepLimit = 30; ///< seconds
+
+    /// Whether the described PC asks for what `key` names: true, or a list that is not empty.
+    bool wants(const QString &key) const;
+};
+
+namespace tourplan
+{
+
+/// Reads `halvane_tour [--pc DIR] OUT` and the described PC. False, with one line in `error`, where they make
+/// no sense. Needs no application object.
+bool read(int argc, char **argv, TourPlan *plan, QString *error);
+
+/// Sets the environment that the program is to run in. `stateFolder` is used where none is named already.
+void setEnvironment(const TourPlan &plan, const QString &stateFolder);
+
+} // namespace tourplan

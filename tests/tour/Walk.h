@@ -1,0 +1,80 @@
+#pragma once
+
+#include "tests/tour/Hand.h"
+#include "tests/tour/Program.h"
+#include "tests/tour/TourPlan.h"
+#include "tests/tour/TourReport.h"
+
+#include <QSet>
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+
+class QWidget;
+
+/// The verbs that the steps of the tour are told in: what a person does at the program, sees and waits for.
+/// Windows and pages are named by their class, what is in them by object name or text. A verb that cannot be
+/// done before the step's time is up throws StepFailed. Tour thread only.
+class Walk
+{
+public:
+    Walk(Program *program, TourReport *report, const TourPlan *plan);
+
+    const TourPlan &plan() const { return *m_pPlan; }
+    Program &program() { return *m_pProgram; }
+
+    /// Begins a step: its time starts now.
+    void beginStep();
+
+    /// Waits until `condition`, asked on the GUI thread, holds. `what` says in the log what was waited for.
+    void waitFor(const QString &what, const std::function<bool()> &condition);
+    void waitForWindow(const QString &className);
+    void waitForNoWindow(const QString &className);
+    /// Waits until no report is being read and the reader has come to rest.
+    void waitIdle();
+    /// Waits until the program has ended.
+    void waitForEnd();
+
+    /// Presses and releases the mouse on the button of that window.
+    void press(const QString &windowClass, const QStringList &buttonNames);
+    /// Presses a navigation button and waits for its page.
+    void goTo(const QString &buttonName, const QString &pageClass);
+    /// Chooses an item of the drive combo with the mouse and waits until the disk has been read.
+    void selectDrive(int index);
+    /// Opens the menu of a button of the main window.
+    void openMenu(const QString &buttonName);
+    void chooseInMenu(const QString &actionName);
+    void closeMenu();
+
+    /// Number of items in the drive combo.
+    int driveCount();
+
+    /// Records what a window shows as `step`.
+    void record(const QString &step, const QString &windowClass = QStringLiteral("MainWindow"));
+    void recordMenu(const QString &step);
+    /// Records a window that a step expects as `dialog:<class>`, unless it was recorded with the same texts.
+    void recordDialog(const QString &windowClass);
+
+    /// A window of that class belongs to the walk from now on: it is not sent away as a surprise.
+    void expect(const QString &windowClass) { m_expected.insert(windowClass); }
+    void noLongerExpect(const QString &windowClass) { m_expected.remove(windowClass); }
+
+    /// Records and sends away the dialogs that nobody expects.
+    void sweepDialogs();
+
+private:
+    using Finder = std::function<QWidget *()>;
+
+    TourReport::Screen look(const QString &step, const Finder &find);
+    void recordOnce(const QString &className, const Finder &find);
+    void dismiss(const QString &className, const Finder &find);
+    void click(const QString &what, const std::function<hand::Place()> &find);
+
+    Program *m_pProgram;
+    TourReport *m_pReport;
+    const TourPlan *m_pPlan;
+    QSet<QString> m_expected;
+    QSet<QString> m_seenDialogs; ///< class and texts
+    QSet<quintptr> m_dismissed;  ///< windows that were told to go and may not have gone yet
+};

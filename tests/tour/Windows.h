@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+class QAction;
+class QComboBox;
+class QMenu;
+class QWidget;
+
+/// How the tour finds its way about the program: by class names and object names, as nothing in the program
+/// knows of it. GUI thread only; what is not there is null.
+namespace windows
+{
+
+/// The visible window or page of that class.
+QWidget *byClass(const QString &className);
+
+/// The visible child of `window` with that object name.
+QWidget *child(QWidget *window, const QString &name);
+
+/// The visible and enabled button of `window` whose object name or text is the first of `names` that there
+/// is.
+QWidget *button(QWidget *window, const QStringList &names);
+
+/// The combo of that name below `window`, visible or not.
+QComboBox *combo(QWidget *window, const QString &name);
+
+/// The menu that is open on top.
+QMenu *openMenu();
+
+/// The visible action of `menu` with that object name or that text.
+QAction *action(const QMenu *menu, const QString &name);
+
+/// Whatever is open beside the main window, the splash, menus and tool tips.
+QVector<QWidget *> dialogs();
+
+/// Physical number of the disk that the drive combo selects; -1 if none.
+int selectedDisk();
+
+} // namespace windows
