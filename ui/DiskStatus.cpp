@@ -21,6 +21,7 @@ namespace
 constexpr int TileWidth = 218;
 constexpr int TileHeight = 96;
 constexpr int FieldHeight = 20;
+constexpr int HighestTitle = 22;
 
 void setIfAny(QLabel *label, const std::optional<QString> &text)
 {
@@ -109,8 +110,11 @@ void DiskStatus::layOutTiles()
         auto *column = new QVBoxLayout(entry.tile);
         column->setContentsMargins(style::px(10), style::px(10), 0, style::px(20));
         column->setSpacing(0);
-        if (entry.titleHeight > 0)
+        // A lower title stands in the middle of the highest one's place, so that the three are on one line.
+        if (entry.titleHeight > 0) {
+            column->addSpacing(style::px(HighestTitle - entry.titleHeight) / 2);
             entry.title->setFixedHeight(style::px(entry.titleHeight));
+        }
         if (entry.valueHeight > 0)
             entry.value->setFixedHeight(style::px(entry.valueHeight));
         entry.value->setAlignment(Qt::AlignBottom);
@@ -149,6 +153,7 @@ QGridLayout *DiskStatus::makeDetailsGrid()
         grid->setRowMinimumHeight(row, style::px(RowHeight));
         ++row;
     }
+    grid->setColumnMinimumWidth(0, style::px(126));
     grid->setColumnMinimumWidth(2, style::px(20));
     grid->setColumnStretch(1, 1);
     grid->setColumnStretch(4, 1);
@@ -180,6 +185,7 @@ void DiskStatus::layOutPage()
     page->setSpacing(0);
     page->addLayout(tileRow);
     page->addWidget(upperSpacer);
+    page->addStretch(1);
     page->addWidget(detailedLbl);
     page->addSpacing(style::px(6));
     page->addWidget(headingLine);
