@@ -217,6 +217,8 @@ void MainWindow::buildScreens()
         screen->hide();
     }
     m_pSettings = new Settings;
+    // The menu behind this button has no effect yet, so nobody is led to it.
+    m_pSettings->m_pLanguageButton->hide();
     GifFrame->raise();
     DriveCombobox->raise();
 }

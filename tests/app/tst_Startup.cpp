@@ -1,0 +1,130 @@
+#include "tests/platform/DescribedFolder.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QtTest>
+
+#include <csignal>
+
+/// The program as a process: its single instance, and how long it takes to the first screen.
+class tst_Startup : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void secondInstanceIsRefused();
+    void startsAgainAfterAKill();
+    void anotherPcRunsBesideIt();
+    void brokenDescriptionEndsTheProgram();
+
+private:
+    static QProcessEnvironment environment(const DescribedFolder &folder);
+    /// Starts the program and waits until its splash stands.
+    static void startProgram(QProcess &process, const DescribedFolder &folder, int expectedStarts);
+    static int starts(const DescribedFolder &folder);
+};
+
+namespace
+{
+const QByteArray Description =
+    R"({"name": "Start PC", "pauses": false, "disks": [], "volumes": [], "settings": {"TempValue": "C"}})";
+const QString Program = QStringLiteral(HALVANE_BIN "/VelmoraHalvane");
+const QString Tour = QStringLiteral(HALVANE_BIN "/halvane_tour");
+} // namespace
+
+QProcessEnvironment tst_Startup::environment(const DescribedFolder &folder)
+{
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.insert(QStringLiteral("HALVANE_PC"), folder.path());
+    env.insert(QStringLiteral("HALVANE_PC_STATE"), folder.state());
+    env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+    return env;
+}
+
+int tst_Startup::starts(const DescribedFolder &folder)
+{
+    // The splash is the one that asks the machine to stay awake.
+    return DescribedFolder::contents(folder.state() + QStringLiteral("/execution-state.log"))
+        .count("0x80000041");
+}
+
+void tst_Startup::startProgram(QProcess &process, const DescribedFolder &folder, int expectedStarts)
+{
+    process.setProcessEnvironment(environment(folder));
+    process.start(Program, QStringList());
+    QVERIFY(process.waitForStarted());
+    QTRY_COMPARE_WITH_TIMEOUT(starts(folder), expectedStarts, 20000);
+}
+
+void tst_Startup::secondInstanceIsRefused()
+{
+    DescribedFolder folder;
+    folder.add(QStringLiteral("pc.json"), Description);
+    QProcess first;
+    startProgram(first, folder, 1);
+
+    QTemporaryDir out;
+    QProcess second;
+    second.setProcessEnvironment(environment(folder));
+    second.start(Tour, {out.path() + QStringLiteral("/out")});
+    QVERIFY(second.waitForFinished(60000));
+    const QByteArray screens = DescribedFolder::contents(out.path() + QStringLiteral("/out/screens.json"));
+    QVERIFY(screens.contains("dialog:QMessageBox"));
+    QVERIFY(screens.contains(
+        "Velmora Halvane already running. Cannot start more than one instance of the application."));
+    QCOMPARE(starts(folder), 1);
+    QCOMPARE(first.state(), QProcess::Running);
+    first.kill();
+    first.waitForFinished();
+}
+
+void tst_Startup::startsAgainAfterAKill()
+{
+    DescribedFolder folder;
+    folder.add(QStringLiteral("pc.json"), Description);
+    QProcess first;
+    startProgram(first, folder, 1);
+    ::kill(static_cast<pid_t>(first.processId()), SIGKILL);
+    QVERIFY(first.waitForFinished());
+    QProcess second;
+    startProgram(second, folder, 2);
+    second.kill();
+    second.waitForFinished();
+}
+
+void tst_Startup::anotherPcRunsBesideIt()
+{
+    DescribedFolder one;
+    DescribedFolder two;
+    one.add(QStringLiteral("pc.json"), Description);
+    two.add(QStringLiteral("pc.json"), Description);
+    QProcess first;
+    QProcess second;
+    startProgram(first, one, 1);
+    startProgram(second, two, 1);
+    for (QProcess *process : {&first, &second}) {
+        QCOMPARE(process->state(), QProcess::Running);
+        process->kill();
+        process->waitForFinished();
+    }
+}
+
+void tst_Startup::brokenDescriptionEndsTheProgram()
+{
+    DescribedFolder folder;
+    folder.add(QStringLiteral("pc.json"), R"({"disks": [{"number": 0, "sectors": "many"}]})");
+    QProcess process;
+    process.setProcessEnvironment(environment(folder));
+    process.start(Program, QStringList());
+    QVERIFY(process.waitForFinished(20000));
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.exitCode(), 2);
+    const QByteArray error = process.readAllStandardError();
+    QCOMPARE(error.count('\n'), 1);
+    QVERIFY2(error.contains("pc.json") && error.contains("disks[0].sectors"), error.constData());
+}
+
+QTEST_GUILESS_MAIN(tst_Startup)
+#include "tst_Startup.moc"

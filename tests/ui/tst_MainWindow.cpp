@@ -1,0 +1,424 @@
+#include "app/state/GlobalApp.h"
+#include "app/state/Globals.h"
+#include "app/state/Languages.h"
+#include "app/state/SettingsStore.h"
+#include "smart/DeviceLoad.h"
+#include "tests/platform/DescribedFolder.h"
+#include "ui/CloseWgt.h"
+#include "ui/ConfarmetionClass.h"
+#include "ui/DestinitionWarning.h"
+#include "ui/DiskPartition.h"
+#include "ui/DiskStatus.h"
+#include "ui/Images.h"
+#include "ui/MainWindow.h"
+#include "ui/MyButton.h"
+#include "ui/ScanDisk.h"
+#include "ui/ScanSwitchClass.h"
+#include "ui/SmartStatus.h"
+
+#include <QtTest>
+
+/// The real window on a described PC with an ATA disk, an NVMe disk and a stick without SMART.
+class tst_MainWindow : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void combosListTheDisks();
+    void firstReadShowsTheReport();
+    void eachDiskShowsItsOwn_data();
+    void eachDiskShowsItsOwn();
+    void fahrenheit();
+    void navigationShowsOneScreen_data();
+    void navigationShowsOneScreen();
+    void hoverFollowsTheDownState();
+    void openResultsAskFirst();
+    void readsRepeatBySelection();
+    void refreshGoesBackToTheFirstDisk();
+    void refreshWaitsForNoJob();
+    void pollActsOnDiskPartitionOnly();
+    void languageChangeRedoesTheDetails();
+    void closingAsks();
+    void closingIsRefusedDuringAJob_data();
+    void closingIsRefusedDuringAJob();
+    void startsOnTheClonePage();
+
+private:
+    void makeWindow();
+    void select(int index);
+    void press(const char *button);
+    void waitForRead();
+    template<typename Widget>
+    Widget *child(const char *name = "") const
+    {
+        return m_pWindow->findChild<Widget *>(QLatin1String(name));
+    }
+    QString text(const char *label) const { return child<QLabel>(label)->text(); }
+    QString image(const char *label) const { return images::labelImage(child<QLabel>(label)); }
+    int commands(const QByteArray &part) const;
+    QByteArray description() const;
+
+    std::unique_ptr<DescribedFolder> m_pFolder;
+    std::unique_ptr<MainWindow> m_pWindow;
+    QString m_strState;
+};
+
+QByteArray tst_MainWindow::description() const
+{
+    return R"({
+      "name": "Test PC", "user": "tester", "dpi": 96, "pauses": false,
+      "disks": [
+        {"number": 0, "media": "fixed", "model": "Alpha One ATA Device", "interface": "IDE", "status": "OK",
+         "sectors": 1953525168, "report": "ata.txt"},
+        {"number": 2, "media": "fixed", "model": "Beta Two NVMe Device", "interface": "SCSI", "status": "OK",
+         "sectors": 976773168, "report": "nvme.txt"},
+        {"number": 3, "media": "removable", "model": "Gamma Stick USB Device", "interface": "USB", "status": "OK",
+         "sectors": 1001472, "report": "usb.txt"}
+      ],
+      "volumes": [], "partitions": [], "processes": ["explorer.exe"],
+      "settings": {"TempValue": "C", "FirstTimeLaunch": 1}
+    })";
+}
+
+void tst_MainWindow::initTestCase()
+{
+    Q_INIT_RESOURCE(images);
+    g_App.m_fScale = 1.0F;
+    g_App.m_bUse64BitTool = true;
+    languages::setFlag(0);
+}
+
+void tst_MainWindow::init()
+{
+    m_pFolder = std::make_unique<DescribedFolder>();
+    const QString samples = QStringLiteral(HALVANE_TEST_DATA "/smart/");
+    const struct {
+        const char *name;
+        const char *sample;
+    } reports[] = {{"ata.txt", "ata-wdc-wd10ezex-readfail.txt"},
+                   {"nvme.txt", "nvme-samsung-970evoplus-500gb.txt"},
+                   {"usb.txt", "err-unknown-usb-bridge.txt"}};
+    for (const auto &report : reports) {
+        const QByteArray contents = DescribedFolder::contents(samples + QLatin1String(report.sample));
+        QVERIFY2(!contents.isEmpty(), report.sample);
+        m_pFolder->add(QLatin1String(report.name), contents);
+    }
+    auto pc = m_pFolder->open(description());
+    m_strState = pc->stateFolder();
+    g_App.m_strSystemFolder = pc->GetSystemDirectoryW();
+    Platform::install(std::move(pc));
+    g_App.m_strSettingsPath = QStringLiteral("HKEY_LOCAL_MACHINE\\Software\\Velmora Halvane for Windows");
+    g_strStartArgument.clear();
+    deviceload::loadLists();
+    makeWindow();
+    waitForRead();
+}
+
+void tst_MainWindow::cleanup()
+{
+    g_bJobRunning = false;
+    g_bSelfTestRunning = false;
+    g_bScanResultOpen = false;
+    g_bSelfTestResultOpen = false;
+    m_pWindow.reset();
+    m_pFolder.reset();
+}
+
+void tst_MainWindow::makeWindow()
+{
+    m_pWindow = std::make_unique<MainWindow>();
+    m_pWindow->show();
+}
+
+void tst_MainWindow::waitForRead()
+{
+    QTRY_VERIFY_WITH_TIMEOUT(!child<QFrame>("GifFrame")->isVisible(), 10000);
+    // The signal comes a moment before the thread has ended, and a request that meets it running is lost.
+    QTest::qWait(30);
+}
+
+void tst_MainWindow::select(int index)
+{
+    auto *combo = child<QComboBox>("DriveCombobox");
+    combo->setCurrentIndex(index);
+    emit combo->activated(index);
+    if (child<MyButton>("DiskStatusButton")->isDown() || child<MyButton>("SmartStatusButton")->isDown())
+        waitForRead();
+}
+
+void tst_MainWindow::press(const char *button)
+{
+    QTest::mousePress(child<MyButton>(button), Qt::LeftButton);
+    QTest::mouseRelease(child<MyButton>(button), Qt::LeftButton);
+}
+
+int tst_MainWindow::commands(const QByteArray &part) const
+{
+    int count = 0;
+    const QByteArray log = DescribedFolder::contents(m_strState + QStringLiteral("/commands.log"));
+    for (const QByteArray &line : log.split('\n'))
+        count += line.contains(part) ? 1 : 0;
+    return count;
+}
+
+void tst_MainWindow::combosListTheDisks()
+{
+    const auto *combo = child<QComboBox>("DriveCombobox");
+    QCOMPARE(combo->count(), 3);
+    QCOMPARE(combo->itemText(0), QStringLiteral("WDC WD10EZEX-00RKKA0 | WD-WUG7R5732226 | 931.51 GB"));
+    QCOMPARE(combo->itemData(0).toInt(), 128);
+    QCOMPARE(combo->itemData(1).toInt(), 130);
+    QCOMPARE(combo->itemText(2), QStringLiteral("Gamma Stick  "));
+    QCOMPARE(combo->itemData(2).toInt(), 131);
+    QCOMPARE(child<QComboBox>("SourceComboBox")->itemText(0), QStringLiteral("WDC WD10EZEX-00RKKA0"));
+}
+
+void tst_MainWindow::firstReadShowsTheReport()
+{
+    QCOMPARE(text("ModelNumValLbl"), QStringLiteral("WDC WD10EZEX-00RKKA0"));
+    QCOMPARE(text("SectorValLbl"), QStringLiteral("1953525168"));
+    QVERIFY(text("tempValueLbl").endsWith(QStringLiteral("\u00B0C")));
+    // 30 for 874 sectors, of which 874 events leave 70 %: 21; one pending sector takes 0.6 % of it: 20.87.
+    QCOMPARE(text("healthValueLbl"), QStringLiteral("21%"));
+    QCOMPARE(image("HelthLable"), QStringLiteral(":/images/img_HealthHigh.png"));
+    QCOMPARE(text("performanceValueLbl"), QStringLiteral("100%"));
+    QVERIFY(text("PowerOnTimeValue").contains(QStringLiteral(" days, ")));
+    QVERIFY(child<QLabel>("DisknumberLbl")->isHidden());
+}
+
+void tst_MainWindow::eachDiskShowsItsOwn_data()
+{
+    QTest::addColumn<int>("index");
+    QTest::addColumn<QString>("model");
+    QTest::addColumn<QString>("serial");
+    QTest::addColumn<QString>("health");
+    QTest::addColumn<QString>("life");
+    QTest::addColumn<QString>("number");
+    QTest::newRow("NVMe") << 1 << "Samsung SSD 970 EVO Plus 500GB"
+                          << ""
+                          << ""
+                          << "Not available"
+                          << "2";
+    QTest::newRow("stick") << 2 << "Not Available"
+                           << "Gamma Stick "
+                           << "Not Supported"
+                           << "Not Available"
+                           << "3";
+}
+
+void tst_MainWindow::eachDiskShowsItsOwn()
+{
+    QFETCH(int, index);
+    QFETCH(QString, serial);
+    QFETCH(QString, health);
+    select(index);
+    QTEST(text("ModelNumValLbl"), "model");
+    if (!serial.isEmpty())
+        QCOMPARE(text("SerialValLbl"), serial);
+    if (!health.isEmpty())
+        QCOMPARE(text("healthValueLbl"), health);
+    QTEST(text("DiskLifeValue"), "life");
+    QTEST(text("DisknumberValLbl"), "number");
+    // Back on the first disk nothing of the other is left.
+    select(0);
+    QCOMPARE(text("ModelNumValLbl"), QStringLiteral("WDC WD10EZEX-00RKKA0"));
+    QVERIFY(text("DiskLifeValue").endsWith(QStringLiteral(" days")));
+}
+
+void tst_MainWindow::fahrenheit()
+{
+    const int celsius = text("tempValueLbl").chopped(2).toInt();
+    QVERIFY(celsius > 0);
+    SettingsStore().writeText(key::TempValue, QStringLiteral("F"));
+    select(0);
+    QCOMPARE(text("tempValueLbl"), QString::number(32 + celsius * 9 / 5) + QStringLiteral("\u00B0F"));
+}
+
+void tst_MainWindow::navigationShowsOneScreen_data()
+{
+    QTest::addColumn<QByteArray>("button");
+    QTest::addColumn<QString>("page");
+    QTest::addColumn<QStringList>("buttons");
+    QTest::newRow("Disk Status") << QByteArray("DiskStatusButton") << "DiskStatus" << QStringList();
+    QTest::newRow("SMART Status") << QByteArray("SmartStatusButton") << "SmartStatus"
+                                  << QStringList{"ReportSaveButton", "ScreenshotButton"};
+    QTest::newRow("Disk Partition") << QByteArray("DiskPartitionButton") << "DiskPartition" << QStringList();
+    QTest::newRow("Scan Disk") << QByteArray("ScanDiskButton") << "ScanDisk" << QStringList{"ScanButton"};
+    QTest::newRow("Clone Disk") << QByteArray("CloneDiskButton") << "CloneDisk" << QStringList{"CloneButton"};
+}
+
+void tst_MainWindow::navigationShowsOneScreen()
+{
+    QFETCH(QByteArray, button);
+    QFETCH(QString, page);
+    QFETCH(QStringList, buttons);
+    press("CloneDiskButton");
+    press(button.constData());
+    QStringList down;
+    for (const MyButton *entry : m_pWindow->findChildren<MyButton *>()) {
+        if (entry->isDown())
+            down << entry->objectName();
+    }
+    QCOMPARE(down, QStringList(QString::fromLatin1(button)));
+    for (const QWidget *screen : {static_cast<QWidget *>(m_pWindow->findChild<DiskStatus *>()),
+                                  static_cast<QWidget *>(m_pWindow->findChild<SmartStatus *>()),
+                                  static_cast<QWidget *>(m_pWindow->findChild<DiskPartition *>()),
+                                  static_cast<QWidget *>(m_pWindow->findChild<ScanDisk *>())})
+        QCOMPARE(screen->isVisible(), QLatin1String(screen->metaObject()->className()) == page);
+    QStringList shown;
+    for (const char *name : {"ScanButton", "CloneButton", "ReportSaveButton", "ScreenshotButton",
+                             "StopButton", "StopTestButton"}) {
+        if (child<QPushButton>(name)->isVisible())
+            shown << QLatin1String(name);
+    }
+    QCOMPARE(shown, buttons);
+    waitForRead();
+}
+
+void tst_MainWindow::hoverFollowsTheDownState()
+{
+    auto *status = child<MyButton>("DiskStatusButton");
+    auto *scan = child<MyButton>("ScanDiskButton");
+    emit status->ChangePixmap();
+    emit scan->ChangePixmap();
+    QVERIFY(status->styleSheet().contains(QLatin1String("img_DiskStatusSel")));
+    QVERIFY(scan->styleSheet().contains(QLatin1String("img_ScanDiskHov")));
+    emit scan->OnUpdatePixmap();
+    QVERIFY(scan->styleSheet().contains(QLatin1String("img_ScanDiskNo.png")));
+}
+
+void tst_MainWindow::openResultsAskFirst()
+{
+    press("ScanDiskButton");
+    g_bScanResultOpen = true;
+    press("DiskPartitionButton");
+    auto *question = m_pWindow->findChild<ScanSwitchClass *>();
+    QVERIFY(question->isVisible());
+    QVERIFY(m_pWindow->findChild<ScanDisk *>()->isVisible());
+    question->NoButton->click();
+    QVERIFY(!question->isVisible());
+    QVERIFY(child<MyButton>("ScanDiskButton")->styleSheet().contains(QLatin1String("Sel")));
+    QVERIFY(!child<MyButton>("DiskPartitionButton")->styleSheet().contains(QLatin1String("Sel")));
+
+    // The last press counts.
+    press("DiskPartitionButton");
+    press("SmartStatusButton");
+    question->YesButton->click();
+    QVERIFY(m_pWindow->findChild<SmartStatus *>()->isVisible());
+    QVERIFY(!g_bScanResultOpen);
+    waitForRead();
+}
+
+void tst_MainWindow::readsRepeatBySelection()
+{
+    // Each selection adds a connection: the kill command of a read runs once, then twice, then three times.
+    const int before = commands("TASKKILL.exe");
+    QCOMPARE(before, 1);
+    select(1);
+    QCOMPARE(commands("TASKKILL.exe") - before, 2);
+    select(0);
+    QCOMPARE(commands("TASKKILL.exe") - before, 5);
+}
+
+void tst_MainWindow::refreshGoesBackToTheFirstDisk()
+{
+    select(1);
+    m_pWindow->OnRefresh();
+    QVERIFY(child<QFrame>("GifFrame")->isVisible());
+    QTRY_COMPARE_WITH_TIMEOUT(child<QComboBox>("DriveCombobox")->currentIndex(), 0, 10000);
+    waitForRead();
+    QTRY_COMPARE(text("ModelNumValLbl"), QStringLiteral("WDC WD10EZEX-00RKKA0"));
+}
+
+void tst_MainWindow::refreshWaitsForNoJob()
+{
+    const int before = commands("WMIC.exe");
+    g_bJobRunning = true;
+    m_pWindow->OnRefresh();
+    QTest::qWait(100);
+    QVERIFY(!child<QFrame>("GifFrame")->isVisible());
+    QCOMPARE(commands("WMIC.exe"), before);
+}
+
+void tst_MainWindow::pollActsOnDiskPartitionOnly()
+{
+    const int before = commands("smartctl64Bit.exe -a");
+    m_pWindow->GetSmartTemprature();
+    QCOMPARE(commands("smartctl64Bit.exe -a"), before);
+    press("DiskPartitionButton");
+    m_pWindow->GetSmartTemprature();
+    QCOMPARE(commands("smartctl64Bit.exe -a"), before + 1);
+    QVERIFY(text("tempValueLbl").endsWith(QStringLiteral("\u00B0C")));
+}
+
+void tst_MainWindow::languageChangeRedoesTheDetails()
+{
+    const QString before = text("PowerOnTimeValue");
+    QEvent change(QEvent::LanguageChange);
+    QCoreApplication::sendEvent(m_pWindow->findChild<DiskStatus *>(), &change);
+    QString after = before;
+    QCOMPARE(text("PowerOnTimeValue"), after.replace(QStringLiteral(", "), QStringLiteral(" , ")));
+    QCOMPARE(text("ModelNumValLbl"), QStringLiteral("WDC WD10EZEX-00RKKA0"));
+    QCOMPARE(child<QLabel>("performanceTitleLbl")->height(), 20);
+}
+
+void tst_MainWindow::closingAsks()
+{
+    QVERIFY(!m_pWindow->close());
+    QVERIFY(m_pWindow->isVisible());
+    CloseWgt *question = nullptr;
+    for (QWidget *widget : QApplication::topLevelWidgets()) {
+        if (auto *found = qobject_cast<CloseWgt *>(widget); found && found->isVisible())
+            question = found;
+    }
+    QVERIFY(question);
+    question->NoButton->click();
+    QVERIFY(!question->isVisible());
+}
+
+void tst_MainWindow::closingIsRefusedDuringAJob_data()
+{
+    QTest::addColumn<QByteArray>("screen");
+    QTest::addColumn<QString>("closing"); // empty: no panel
+    QTest::addColumn<QString>("yes");
+    QTest::newRow("scan") << QByteArray("ScanDiskButton") << "Disk scan running."
+                          << "Scaning Running.";
+    QTest::newRow("clone") << QByteArray("CloneDiskButton") << "Cloning process running."
+                           << "Clone Running.";
+    QTest::newRow("elsewhere") << QByteArray("DiskPartitionButton") << ""
+                               << "";
+}
+
+void tst_MainWindow::closingIsRefusedDuringAJob()
+{
+    QFETCH(QByteArray, screen);
+    QFETCH(QString, closing);
+    QFETCH(QString, yes);
+    press(screen.constData());
+    g_bJobRunning = true;
+    auto *panel = m_pWindow->findChild<DestinitionWarning *>();
+    m_pWindow->close();
+    QCOMPARE(panel->isVisible(), !closing.isEmpty());
+    if (!closing.isEmpty())
+        QCOMPARE(panel->WarningTxtLbl->text(), closing);
+    m_pWindow->Onyes();
+    if (!yes.isEmpty())
+        QCOMPARE(panel->WarningTxtLbl->text(), yes);
+}
+
+void tst_MainWindow::startsOnTheClonePage()
+{
+    m_pWindow.reset();
+    g_strStartArgument = QStringLiteral("CloneDisk####wdcwd10ezex-00rkka0");
+    makeWindow();
+    QVERIFY(child<MyButton>("CloneDiskButton")->isDown());
+    QCOMPARE(child<QComboBox>("SourceComboBox")->currentIndex(), 0);
+    QCOMPARE(child<QComboBox>("DestinationComboBox")->count(), 3); // the placeholder and the two other disks
+}
+
+QTEST_MAIN(tst_MainWindow)
+#include "tst_MainWindow.moc"
