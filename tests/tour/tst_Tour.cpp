@@ -1,0 +1,270 @@
+#include <QFile>
+#include <QImage>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+/// The tour as a program: started on a PC that is made up here, judged by its exit status and what it leaves.
+class tst_Tour : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void walksEveryScreenOfEveryDisk();
+    void recordsWhatADiskShows_data();
+    void recordsWhatADiskShows();
+    void scalesWithTheDisplay();
+    void namesAStepThatHangs();
+    void recordsTheRefusalOfASecondInstance();
+    void refusesWrongArguments();
+
+private:
+    QString path(const QString &name) const { return m_folder->filePath(name); }
+    void describePc(int dpi, bool pauses) const;
+    std::unique_ptr<QProcess> startTour(const QString &out, int limit = 30) const;
+    int tour(const QString &out, int limit = 30) const;
+    QJsonObject screens(const QString &out) const;
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+namespace
+{
+
+constexpr int FirstDisk = 0;
+constexpr int SecondDisk = 3; ///< the numbers of a PC may have gaps
+constexpr int TourTime = 110000;
+
+QJsonObject disk(int number, const QString &interface, double sectors, const QString &report)
+{
+    return {{QStringLiteral("number"), number},
+            {QStringLiteral("media"), QStringLiteral("fixed")},
+            {QStringLiteral("model"), QStringLiteral("Disk Device")},
+            {QStringLiteral("interface"), interface},
+            {QStringLiteral("status"), QStringLiteral("OK")},
+            {QStringLiteral("bytesPerSector"), 512},
+            {QStringLiteral("sectors"), sectors},
+            {QStringLiteral("image"), QStringLiteral("disk%1.img").arg(number)},
+            {QStringLiteral("report"), report}};
+}
+
+QStringList stepNames(const QJsonObject &data)
+{
+    QStringList names;
+    const QJsonArray steps = data[QStringLiteral("steps")].toArray();
+    for (const QJsonValue &step : steps) {
+        const int number = step.toObject()[QStringLiteral("disk")].toInt();
+        names.append(
+            QStringLiteral("%1 %2").arg(step.toObject()[QStringLiteral("step")].toString()).arg(number));
+    }
+    return names;
+}
+
+QJsonObject stepOf(const QJsonObject &data, const QString &name)
+{
+    return data[QStringLiteral("steps")].toArray().at(stepNames(data).indexOf(name)).toObject();
+}
+
+/// A widget of a step; empty if it was not seen.
+QJsonObject widgetOf(const QJsonObject &step, const QString &name)
+{
+    const QJsonArray widgets = step[QStringLiteral("widgets")].toArray();
+    for (const QJsonValue &widget : widgets) {
+        if (widget.toObject()[QStringLiteral("name")] == name)
+            return widget.toObject();
+    }
+    return {};
+}
+
+} // namespace
+
+void tst_Tour::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_folder->isValid());
+}
+
+void tst_Tour::describePc(int dpi, bool pauses) const
+{
+    const QString smart = QStringLiteral(HALVANE_TEST_DATA) + QStringLiteral("/smart/");
+    QVERIFY(
+        QFile::copy(smart + QStringLiteral("ata-toshiba-mq01abd050.txt"), path(QStringLiteral("ata.txt"))));
+    QVERIFY(
+        QFile::copy(smart + QStringLiteral("nvme-swissbit-sfpc020.txt"), path(QStringLiteral("nvme.txt"))));
+    const QJsonObject pc{
+        {QStringLiteral("name"), QStringLiteral("Two disks")},
+        {QStringLiteral("dpi"), dpi},
+        {QStringLiteral("pauses"), pauses},
+        {QStringLiteral("disks"),
+         QJsonArray{disk(FirstDisk, QStringLiteral("IDE"), 976773168, QStringLiteral("ata.txt")),
+                    disk(SecondDisk, QStringLiteral("SCSI"), 39091248, QStringLiteral("nvme.txt"))}},
+        {QStringLiteral("tour"), QJsonObject{{QStringLiteral("settings"), true}}}};
+    QFile file(path(QStringLiteral("pc.json")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QVERIFY(file.write(QJsonDocument(pc).toJson()) > 0);
+}
+
+std::unique_ptr<QProcess> tst_Tour::startTour(const QString &out, int limit) const
+{
+    auto process = std::make_unique<QProcess>();
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+    environment.insert(QStringLiteral("HALVANE_PC_STATE"), path(QStringLiteral("state")));
+    environment.insert(QStringLiteral("HALVANE_TOUR_LIMIT"), QString::number(limit));
+    process->setProcessEnvironment(environment);
+    process->setProcessChannelMode(QProcess::ForwardedChannels);
+    process->start(QStringLiteral(HALVANE_TOUR), {QStringLiteral("--pc"), m_folder->path(), path(out)});
+    return process;
+}
+
+int tst_Tour::tour(const QString &out, int limit) const
+{
+    const std::unique_ptr<QProcess> process = startTour(out, limit);
+    if (!process->waitForFinished(TourTime) || process->exitStatus() != QProcess::NormalExit)
+        return -1;
+    return process->exitCode();
+}
+
+QJsonObject tst_Tour::screens(const QString &out) const
+{
+    QFile file(path(out) + QStringLiteral("/screens.json"));
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    return QJsonDocument::fromJson(file.readAll()).object();
+}
+
+void tst_Tour::walksEveryScreenOfEveryDisk()
+{
+    describePc(96, false);
+    QCOMPARE(tour(QStringLiteral("out")), 0);
+    const QJsonObject data = screens(QStringLiteral("out"));
+
+    QCOMPARE(data[QStringLiteral("pc")].toString(), QStringLiteral("Two disks"));
+    QCOMPARE(data[QStringLiteral("language")].toString(), QStringLiteral("English"));
+    QCOMPARE(data[QStringLiteral("scale")].toDouble(), 1.0);
+    QCOMPARE(data[QStringLiteral("failed")].toArray(), QJsonArray());
+    QStringList expected{QStringLiteral("splash -1")};
+    for (const int number : {FirstDisk, SecondDisk}) {
+        for (const char *step :
+             {"disk-status", "smart-status", "disk-partition", "scan-chooser", "clone-select"})
+            expected.append(QStringLiteral("%1 %2").arg(QLatin1String(step)).arg(number));
+    }
+    for (const char *step : {"menu", "more-tools", "settings", "dialog:CloseWgt"})
+        expected.append(QStringLiteral("%1 %2").arg(QLatin1String(step)).arg(SecondDisk));
+    QCOMPARE(stepNames(data), expected);
+
+    const QJsonArray steps = data[QStringLiteral("steps")].toArray();
+    for (const QJsonValue &step : steps) {
+        const QString picture = step.toObject()[QStringLiteral("picture")].toString();
+        QVERIFY2(!QImage(path(QStringLiteral("out/") + picture)).isNull(), qPrintable(picture));
+    }
+    QCOMPARE(steps.at(1).toObject()[QStringLiteral("picture")].toString(),
+             QStringLiteral("02-disk-status-disk0.png"));
+    QCOMPARE(QImage(path(QStringLiteral("out/02-disk-status-disk0.png"))).size(), QSize(905, 600));
+}
+
+void tst_Tour::recordsWhatADiskShows_data()
+{
+    QTest::addColumn<QString>("step");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("ATA model") << "disk-status 0"
+                               << "ModelNumValLbl"
+                               << "TOSHIBA MQ01ABD050";
+    QTest::newRow("ATA temperature") << "disk-status 0"
+                                     << "tempValueLbl" << QStringLiteral("32\u00b0C");
+    QTest::newRow("NVMe serial") << "disk-status 3"
+                                 << "SerialValLbl"
+                                 << "M4544535495561979168";
+    QTest::newRow("NVMe life") << "disk-status 3"
+                               << "DiskLifeValue"
+                               << "Not available";
+    QTest::newRow("leading blanks stay") << "scan-chooser 3"
+                                         << "ScanDiskButton"
+                                         << "   Scan Disk";
+    QTest::newRow("result") << "smart-status 0"
+                            << "SmartResultLabel"
+                            << "Passed";
+    QTest::newRow("button of the page") << "clone-select 3"
+                                        << "CloneButton"
+                                        << "Clone";
+    QTest::newRow("question") << "dialog:CloseWgt 3"
+                              << "HeaderLabel"
+                              << "Exit";
+}
+
+void tst_Tour::recordsWhatADiskShows()
+{
+    // All rows look at one tour.
+    static QJsonObject data;
+    if (data.isEmpty()) {
+        describePc(96, false);
+        QCOMPARE(tour(QStringLiteral("out")), 0);
+        data = screens(QStringLiteral("out"));
+    }
+    QFETCH(QString, step);
+    QFETCH(QString, name);
+    QFETCH(QString, text);
+    QVERIFY(stepNames(data).contains(step));
+    QCOMPARE(widgetOf(stepOf(data, step), name)[QStringLiteral("text")].toString(), text);
+}
+
+void tst_Tour::scalesWithTheDisplay()
+{
+    describePc(144, false);
+    QCOMPARE(tour(QStringLiteral("out")), 0);
+    const QJsonObject data = screens(QStringLiteral("out"));
+    QCOMPARE(data[QStringLiteral("scale")].toDouble(), 1.5);
+    const QJsonObject logo =
+        widgetOf(stepOf(data, QStringLiteral("disk-status 0")), QStringLiteral("PixmapLabel"));
+    QVERIFY(logo[QStringLiteral("image")].toString().contains(QStringLiteral("144-DPI")));
+    QCOMPARE(QImage(path(QStringLiteral("out/02-disk-status-disk0.png"))).width(), 1357);
+}
+
+void tst_Tour::namesAStepThatHangs()
+{
+    // With the pauses the main window comes after more than four seconds.
+    describePc(96, true);
+    QVERIFY(tour(QStringLiteral("out"), 2) > 0);
+    const QJsonObject data = screens(QStringLiteral("out"));
+    QVERIFY(data[QStringLiteral("failed")].toArray().contains(QStringLiteral("main-window")));
+}
+
+void tst_Tour::recordsTheRefusalOfASecondInstance()
+{
+    describePc(96, true);
+    const std::unique_ptr<QProcess> first = startTour(QStringLiteral("first"));
+    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(path(QStringLiteral("first/screens.json"))), 30000);
+
+    QVERIFY(tour(QStringLiteral("second")) > 0);
+    const QJsonObject second = screens(QStringLiteral("second"));
+    QCOMPARE(stepNames(second), QStringList{QStringLiteral("dialog:QMessageBox -1")});
+    const QJsonObject text =
+        widgetOf(stepOf(second, QStringLiteral("dialog:QMessageBox -1")), QStringLiteral("qt_msgbox_label"));
+    QCOMPARE(text[QStringLiteral("text")].toString(),
+             QStringLiteral("Velmora Halvane already running. Cannot start more than one instance of the "
+                            "application."));
+
+    QVERIFY(first->waitForFinished(TourTime));
+    QCOMPARE(first->exitCode(), 0);
+}
+
+void tst_Tour::refusesWrongArguments()
+{
+    const auto status = [](const QStringList &arguments) {
+        return QProcess::execute(QStringLiteral(HALVANE_TOUR), arguments);
+    };
+    QCOMPARE(status({}), 64);
+    QCOMPARE(status({QStringLiteral("--fast"), path(QStringLiteral("out"))}), 64);
+    QCOMPARE(status({QStringLiteral("--pc"), path(QStringLiteral("none")), path(QStringLiteral("out"))}), 64);
+    QVERIFY(!QFile::exists(path(QStringLiteral("out"))));
+}
+
+QTEST_GUILESS_MAIN(tst_Tour)
+#include "tst_Tour.moc"
