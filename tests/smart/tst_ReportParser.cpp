@@ -280,6 +280,8 @@ void tst_ReportParser::identity_data()
                              << "-|-|-|-";
     QTest::newRow("model keeps the last piece") << "Device Model: A:B: C \n"
                                                 << "C|-|-|-";
+    QTest::newRow("empty parts do not count") << "Device Model: A:::\n"
+                                              << "A|-|-|-";
     QTest::newRow("no value yields the caption") << "Serial Number:\n"
                                                  << "-|Serial Number|-|-";
     QTest::newRow("blank value") << "Serial Number:   \n"

@@ -55,7 +55,7 @@ void tst_SMARTThread::readsAndReports()
     SMARTThread thread;
     QSignalSpy told(&thread, &SMARTThread::OnLodingSmarInfo);
     thread.RequestSmartRead(3);
-    QVERIFY(told.wait());
+    QVERIFY(thread.wait(10000));
     QCOMPARE(told.count(), 1);
     QCOMPARE(m_fake->commands().size(), 1);
     QVERIFY(m_fake->commands().at(0).contains(" -a /dev/sdd >> "));
