@@ -212,8 +212,8 @@ void MainWindow::buildScreens()
     m_apScreens[navigation::ScanDiskScreen] = m_pScanDiskPage = new ScanDisk(WidgetFrame);
     m_apScreens[navigation::CloneDiskScreen] = m_pCloneDiskPage = new CloneDisk(WidgetFrame);
     for (QWidget *screen : m_apScreens) {
-        screen->setGeometry(PageGeometry);
-        style::scaleWidget(screen);
+        screen->setFixedSize(style::px(PageGeometry.width()), style::px(PageGeometry.height()));
+        screen->move(style::px(PageGeometry.x()), style::px(PageGeometry.y()));
         screen->hide();
     }
     m_pSettings = new Settings;
@@ -282,6 +282,16 @@ void MainWindow::buildToolButtons()
     m_pMoreToolsMenu->addSeparator();
     m_pPhotoAction = m_pMoreToolsMenu->addAction(QString());
     m_pMoreToolsButton->setMenu(m_pMoreToolsMenu);
+    const struct {
+        QAction *action;
+        const char *name;
+    } names[] = {{m_pSettingsAction, "m_pSettingsAction"},
+                 {m_pAboutAction, "m_pAboutAction"},
+                 {m_pRecoverAction, "m_pRecoverAction"},
+                 {m_pVideoAction, "m_pVideoAction"},
+                 {m_pPhotoAction, "m_pPhotoAction"}};
+    for (const auto &entry : names)
+        entry.action->setObjectName(QLatin1String(entry.name));
     const struct {
         QAction *action;
         const char *image;

@@ -102,7 +102,7 @@ void MainWindow::OnRefresh()
         return;
     m_bRefreshing = true;
     enterBusy(tr("Please wait. Application Refreshing..."));
-    label->setAlignment(Qt::AlignRight);
+    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     // As with a read, each refresh adds a connection.
     connect(&m_refreshThread, &QRefThreadDevicesLoad::OnLoadingDevices, this, &MainWindow::OnInitialize);
     m_refreshThread.start(QThread::InheritPriority);

@@ -118,6 +118,7 @@ void MainWindow::enterBusy(const QString &text)
     Giflabel->setMovie(m_pMovie);
     delete previous;
     label->setText(text);
+    label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_pMovie->start();
     GifFrame->show();
 }
