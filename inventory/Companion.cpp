@@ -33,8 +33,8 @@ QString fullPath()
 State check()
 {
     const QString system = g_App.m_strSystemFolder;
-    const QString command = system + QStringLiteral("\\tasklist.exe | ") + system +
-                            QStringLiteral("\\findstr.exe ") + fileName();
+    const QString command =
+        system + QStringLiteral("\\tasklist.exe | ") + system + QStringLiteral("\\findstr.exe ") + fileName();
     State state = State::NotRunning;
     const bool read = runner::runAndRead(command, TaskListFile, [&state](QTextStream &stream) {
         while (!stream.atEnd()) {

@@ -2,7 +2,6 @@
 
 #include <QString>
 #include <QStringList>
-#include <QStringList>
 #include <QVector>
 
 /// A PC as plain records: what the tools of platform/tools/ speak about. Linux fills it from the kernel, the
@@ -13,10 +12,10 @@ namespace inventory
 /// One physical disk. Sectors are of 512 bytes.
 struct Disk {
     int number = 0;
-    QString media;     ///< "fixed", "removable", or another word for neither
-    QString model;     ///< as the system's disk table shows it
+    QString media;         ///< "fixed", "removable", or another word for neither
+    QString model;         ///< as the system's disk table shows it
     QString interfaceType; ///< IDE, SCSI, USB, …
-    QString status;    ///< OK, Pred Fail, …
+    QString status;        ///< OK, Pred Fail, …
     quint32 bytesPerSector = 512;
     quint64 sectors = 0;
     QString node; ///< device node or image file
