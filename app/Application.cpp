@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QFont>
+#include <QIcon>
 #include <QMessageBox>
 #include <QSharedMemory>
 
@@ -128,10 +129,11 @@ int runApplication(int argc, char **argv)
     QApplication application(argc, argv);
     initialiseResources();
     substituteFonts();
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/images/img_AppIcon.png")));
     // Windows hide and come back while the splash lives on; only the close question ends the program.
     QApplication::setQuitOnLastWindowClosed(false);
 
-    g_strStartArgument = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QString();
+    g_strStartArgument = QCoreApplication::arguments().value(1);
     g_strRunMode = g_strStartArgument;
     setDefaults();
     chooseRegistryPaths();

@@ -33,6 +33,13 @@ float stepped(float value, double step)
     return static_cast<float>(static_cast<double>(value) + step);
 }
 
+/// Puts a label at a design place. Its size is fixed, so a new geometry alone would not do.
+void place(QLabel *label, const QRect &design)
+{
+    label->setFixedSize(style::px(design.width()), style::px(design.height()));
+    label->move(style::px(design.x()), style::px(design.y()));
+}
+
 } // namespace
 
 QWaitClass::QWaitClass()
@@ -90,10 +97,10 @@ void QWaitClass::styleBrand()
         SplaceCoptLabel->hide();
         return;
     }
-    SplaceCoptLabel->setGeometry(style::px(1), style::px(212), style::px(448), style::px(20));
+    place(SplaceCoptLabel, QRect(1, 212, 448, 20));
     SplaceCoptLabel->setText(SettingsStore().text(key::SCopyrightText));
     SplaceCoptLabel->setFont(style::font(8));
-    InitTextLabel->setGeometry(1, 177, 448, 20);
+    place(InitTextLabel, QRect(1, 177, 448, 20));
 }
 
 void QWaitClass::startFadeIn()
@@ -121,7 +128,7 @@ void QWaitClass::startLoading()
 {
     m_pMovie = images::newMovie(QStringLiteral("img_InitProgress.gif"), this);
     if (g_App.m_bKorvaneBrand)
-        ProgressLabel->setGeometry(1, 160, 448, 16);
+        place(ProgressLabel, QRect(1, 160, 448, 16));
     ProgressLabel->setMovie(m_pMovie);
     m_pMovie->start();
     m_fFadeOut = FadeOutStart;

@@ -163,14 +163,15 @@ bool copy(const QString &source, const QString &target, qint64 size)
 
 bool read(QFile &file, qint64 offset, char *data, qint64 bytes)
 {
+    const qint64 inFile = std::clamp<qint64>(file.size() - offset, 0, bytes);
+    std::memset(data + inFile, 0, static_cast<std::size_t>(bytes - inFile));
     qint64 begin = 0;
     qint64 end = 0;
-    if (offset + bytes <= file.size() &&
-        (!nextData(file, offset, file.size(), &begin, &end) || begin >= offset + bytes)) {
-        std::memset(data, 0, static_cast<std::size_t>(bytes));
+    if (inFile == 0 || !nextData(file, offset, file.size(), &begin, &end) || begin >= offset + inFile) {
+        std::memset(data, 0, static_cast<std::size_t>(inFile));
         return true;
     }
-    return file.seek(offset) && file.read(data, bytes) == bytes;
+    return file.seek(offset) && file.read(data, inFile) == inFile;
 }
 
 bool write(QFile &file, qint64 offset, const char *data, qint64 bytes)

@@ -15,7 +15,7 @@ bool resize(const QString &path, qint64 size);
 bool copy(const QString &source, const QString &target, qint64 size);
 
 /// Reads exactly `bytes` at an offset. A stretch without data is not read, only told: holes cost next to
-/// nothing.
+/// nothing. What lies behind the end of the file reads as a hole, too.
 bool read(QFile &file, qint64 offset, char *data, qint64 bytes);
 
 /// Writes at an offset; long runs of zeros become holes where the file system can do that. The file must be

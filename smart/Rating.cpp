@@ -18,15 +18,11 @@ namespace
 constexpr int FullPercent = 100;
 constexpr std::uint32_t ExpectedLifeDays = 5 * 365;
 
-/// 32-bit arithmetic that wraps, as a raw value may hold any number.
-qint32 minusWrapped(qint32 left, qint32 right)
+/// 100 less the damage. A raw value is of 32 bits; differences and products are taken in 64, as a huge count
+/// must not wrap to a good rating.
+float rest(qint64 damage)
 {
-    return static_cast<qint32>(static_cast<quint32>(left) - static_cast<quint32>(right));
-}
-
-qint32 timesWrapped(qint32 left, qint32 right)
-{
-    return static_cast<qint32>(static_cast<quint32>(left) * static_cast<quint32>(right));
+    return static_cast<float>(FullPercent - damage);
 }
 
 /// Truncates; what is out of range goes to its end, no number to 0.
@@ -50,13 +46,13 @@ float scaledBy(float health, float percent)
 
 float byReallocatedSectors(float, qint32 raw)
 {
-    return raw <= 70 ? static_cast<float>(minusWrapped(FullPercent, raw)) : 30.0F;
+    return raw <= 70 ? rest(raw) : 30.0F;
 }
 
 float bySpinRetries(float health, qint32 raw)
 {
-    const qint32 damage = timesWrapped(raw, 3);
-    return scaledBy(health, damage <= 60 ? static_cast<float>(minusWrapped(FullPercent, damage)) : 40.0F);
+    const qint64 damage = qint64(raw) * 3;
+    return scaledBy(health, damage <= 60 ? rest(damage) : 40.0F);
 }
 
 float byEvents(float health, qint32 raw, int limit, float floorPercent)
@@ -78,7 +74,7 @@ float byPendingSectors(float health, qint32 raw)
 
 float byUncorrectable(float health, qint32 raw)
 {
-    return scaledBy(health, raw <= 70 ? static_cast<float>(minusWrapped(FullPercent, raw)) : 30.0F);
+    return scaledBy(health, raw <= 70 ? rest(raw) : 30.0F);
 }
 
 struct HealthRule {
@@ -137,7 +133,8 @@ int healthOfNvme(const NvmeAttributeRecord *head)
         if (!row->Name.text().contains(QLatin1String("Percentage Used")))
             continue;
         const int used = row->Value.text().trimmed().remove(QLatin1Char('%')).toInt();
-        return used == 1 ? FullPercent : qMin(minusWrapped(FullPercent, used), FullPercent);
+        return used == 1 ? FullPercent
+                         : static_cast<int>(qMin<qint64>(FullPercent - qint64(used), FullPercent));
     }
     return 0;
 }

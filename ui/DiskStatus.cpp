@@ -71,13 +71,15 @@ void DiskStatus::styleTexts()
 {
     detailedLbl->setFont(style::font(13));
     detailedLbl->setStyleSheet(style::BlackLabel);
-    for (QLabel *name : {DisknumberLbl, ModelNumberLbl, FrimvareVersionLbl, InterFaceLbl, Seriallbl,
-                         SectorLbl, DiskLifeString, PowerOnTimeString, StartStopString}) {
+    for (QLabel *name : std::initializer_list<QLabel *>{DisknumberLbl, ModelNumberLbl, FrimvareVersionLbl,
+                                                        InterFaceLbl, Seriallbl, SectorLbl, DiskLifeString,
+                                                        PowerOnTimeString, StartStopString}) {
         name->setFont(style::semiBold(10));
         name->setStyleSheet(style::GreyLabel);
     }
-    for (QLabel *value : {DisknumberValLbl, ModelNumValLbl, FrimvareVersValLbl, InterFaceValLbl, SerialValLbl,
-                          SectorValLbl, DiskLifeValue, PowerOnTimeValue, StartStopValue}) {
+    for (QLabel *value : std::initializer_list<QLabel *>{DisknumberValLbl, ModelNumValLbl, FrimvareVersValLbl,
+                                                         InterFaceValLbl, SerialValLbl, SectorValLbl,
+                                                         DiskLifeValue, PowerOnTimeValue, StartStopValue}) {
         value->setFont(style::font(10));
         value->setStyleSheet(style::GreyLabel);
         value->setTextFormat(Qt::PlainText);
@@ -154,9 +156,9 @@ QGridLayout *DiskStatus::makeDetailsGrid()
         ++row;
     }
     grid->setColumnMinimumWidth(0, style::px(126));
-    grid->setColumnMinimumWidth(2, style::px(20));
-    grid->setColumnStretch(1, 1);
-    grid->setColumnStretch(4, 1);
+    grid->setColumnMinimumWidth(2, style::px(10));
+    grid->setColumnStretch(1, 5);
+    grid->setColumnStretch(4, 3);
     return grid;
 }
 
@@ -201,9 +203,9 @@ void DiskStatus::ApplyLanguageMetrics()
     for (QLabel *tile : {tempratureLbl, PerformanceLbl, HelthLable})
         tile->setFixedSize(style::px(TileWidth), style::px(TileHeight));
     detailedLbl->setFixedHeight(style::px(32));
-    for (QLabel *label :
-         {ModelNumberLbl, ModelNumValLbl, Seriallbl, SerialValLbl, FrimvareVersionLbl, FrimvareVersValLbl,
-          SectorLbl, SectorValLbl, DisknumberLbl, DisknumberValLbl, InterFaceLbl, InterFaceValLbl})
+    for (QLabel *label : std::initializer_list<QLabel *>{
+             ModelNumberLbl, ModelNumValLbl, Seriallbl, SerialValLbl, FrimvareVersionLbl, FrimvareVersValLbl,
+             SectorLbl, SectorValLbl, DisknumberLbl, DisknumberValLbl, InterFaceLbl, InterFaceValLbl})
         label->setFixedHeight(style::px(FieldHeight));
     const struct {
         QLabel *label;

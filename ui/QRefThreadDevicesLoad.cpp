@@ -9,9 +9,19 @@ QRefThreadDevicesLoad::~QRefThreadDevicesLoad()
     wait();
 }
 
+void QRefThreadDevicesLoad::startBehind(QThread &reader)
+{
+    if (isRunning())
+        return;
+    m_pReader = &reader;
+    start(QThread::InheritPriority);
+}
+
 void QRefThreadDevicesLoad::run()
 {
     QMutexLocker lock(&m_mutex);
+    if (m_pReader)
+        m_pReader->wait();
     // A newly attached volume needs a moment to appear.
     Platform::current().Sleep(deviceload::PauseMilliseconds);
     deviceload::loadLists();

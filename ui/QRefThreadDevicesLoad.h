@@ -4,8 +4,8 @@
 #include <QThread>
 #include <QWaitCondition>
 
-/// Reads the disk lists anew behind the main window's busy state. Its owner must not touch the lists while it
-/// runs.
+/// Reads the disk lists anew behind the main window's busy state. From the start to the signal the lists are
+/// its own (g_bListsLoading).
 class QRefThreadDevicesLoad : public QThread
 {
     Q_OBJECT
@@ -14,6 +14,10 @@ public:
     using QThread::QThread;
     /// Waits for a run without a time limit.
     ~QRefThreadDevicesLoad() override;
+
+    /// Starts a run that waits for the end of `reader` before it loads. Does nothing while a run is under
+    /// way.
+    void startBehind(QThread &reader);
 
 signals:
     /// The lists are complete.
@@ -26,6 +30,7 @@ protected:
     void run() override;
 
 private:
+    QThread *m_pReader = nullptr;
     QMutex m_mutex;
     QWaitCondition m_condition;
 };

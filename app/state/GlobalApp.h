@@ -21,7 +21,8 @@ public:
     GlobalApp();
     ~GlobalApp() override;
 
-    /// Frees the disk list and resets what is counted with it.
+    /// Frees the disk list. The nodes that were chosen from it go with it; whoever counts them resets its
+    /// counts.
     void freeDiskList();
 
     DiskNode *m_pDiskListTail = nullptr;

@@ -11,7 +11,9 @@ class MainWindow;
 class QWaitClass;
 
 /// The plain globals that several screens share. Empty or zero at start; written on the main thread unless
-/// said otherwise. What two threads touch is atomic.
+/// said otherwise. Flags that two threads touch are atomic. The lists and the three identity texts have no
+/// lock: a device-load thread writes them, and until it has ended the main thread leaves them alone
+/// (g_bListsLoading).
 
 inline QString g_strStartArgument; ///< first command-line argument
 inline QString g_strRunMode;       ///< "Schedular" or empty
@@ -29,7 +31,7 @@ inline LogicalDiskRecord *g_pLogicalDiskListHead = nullptr;
 inline LogicalDiskRecord *g_pLogicalDiskListTail = nullptr;
 
 inline int g_nCurrentDiskIndex = 0; ///< physical number of the selected disk
-inline QString g_strSerialNumber;   ///< of the latest report read
+inline QString g_strSerialNumber; ///< of the latest report read; a device-load thread uses the three as well
 inline QString g_strModelName;
 inline QString g_strFirmware;
 inline QString g_strInterface;
@@ -40,8 +42,9 @@ inline QString g_strPerformanceText;
 inline QString g_strSelectDestination;
 inline bool g_bSmartAvailable = false;
 
-inline std::atomic<bool> g_bAbortJob{false};   ///< stop request, polled by the workers
-inline std::atomic<bool> g_bJobRunning{false}; ///< set and cleared by the workers too
+inline std::atomic<bool> g_bListsLoading{false}; ///< a refresh rebuilds the lists: nobody else walks them now
+inline std::atomic<bool> g_bAbortJob{false};     ///< stop request, polled by the workers
+inline std::atomic<bool> g_bJobRunning{false};   ///< set and cleared by the workers too
 inline std::atomic<bool> g_bSelfTestRunning{false};
 inline bool g_bScanResultOpen = false;
 inline bool g_bSelfTestResultOpen = false;
@@ -50,8 +53,9 @@ inline bool g_bStopRequested = false; ///< the stop button of a self-test was us
 inline bool m_bBackRequested = false; ///< the back button was pressed while results were open
 inline bool g_bDragging = false;      ///< a frameless window is being dragged
 
-/// The record whose nDiskId is `diskId`, the first one; null if there is none.
+/// The record whose nDiskId is `diskId`, the first one; null if there is none, and while the lists are
+/// rebuilt.
 const WmicDiskRecord *findWmicDisk(std::uint32_t diskId);
 
-/// The physical node with that id; null if there is none.
+/// The physical node with that id; null if there is none, and while the lists are rebuilt.
 DiskNode *findPhysicalDisk(int diskId);

@@ -26,12 +26,12 @@ const std::array<Button, ScreenCount> buttons = {{
      "img_CloneDiskHo", "img_CLoneDiskSel"},
 }};
 
-QString styleSheet(Screen screen, Look look, float scaleFactor)
+namespace
 {
-    const Button &button = buttons[static_cast<std::size_t>(screen)];
-    const char *image = look == Look::Normal  ? button.normalImage
-                        : look == Look::Hover ? button.hoverImage
-                                              : button.selectedImage;
+
+/// Picture, alignment and text colour of a button.
+QString sheet(const char *image, Look look, float scaleFactor)
+{
     const QString path = scale::imagePath(QLatin1String(image) + QStringLiteral(".png"), scaleFactor);
     // At a scale without an image set the button is left with its text.
     const QString picture =
@@ -39,6 +39,22 @@ QString styleSheet(Screen screen, Look look, float scaleFactor)
     const QString colour = look == Look::Normal ? QStringLiteral("QPushButton {color : rgb(0,0,0);}")
                                                 : QStringLiteral("QPushButton {color : rgb(42,129,229);}");
     return picture + QStringLiteral("QPushButton{Text-align:left}") + colour;
+}
+
+} // namespace
+
+QString styleSheet(Screen screen, Look look, float scaleFactor)
+{
+    const Button &button = buttons[static_cast<std::size_t>(screen)];
+    const char *image = look == Look::Normal  ? button.normalImage
+                        : look == Look::Hover ? button.hoverImage
+                                              : button.selectedImage;
+    return sheet(image, look, scaleFactor);
+}
+
+QString backButtonSheet(Look look, float scaleFactor)
+{
+    return sheet(look == Look::Normal ? "img_BackTestNor" : "img_BackTestHov", look, scaleFactor);
 }
 
 const ShellButtons &shellButtons(Screen screen)

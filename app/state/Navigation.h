@@ -26,6 +26,9 @@ extern const std::array<Button, ScreenCount> buttons;
 /// The style sheet of a navigation button in one look at a scale.
 QString styleSheet(Screen screen, Look look, float scaleFactor);
 
+/// The same for the back button of the self-test page; its release look is the normal one.
+QString backButtonSheet(Look look, float scaleFactor);
+
 /// Which of the shell's job buttons a screen shows.
 struct ShellButtons {
     bool scan;

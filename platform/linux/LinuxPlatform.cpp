@@ -282,7 +282,13 @@ QString LinuxPlatform::HistoryFolder(const QString &applicationFolder)
 QString LinuxPlatform::NativePath(const QString &path) const
 {
     QString native = path;
-    return native.replace(QLatin1Char('\\'), QLatin1Char('/'));
+    native.replace(QLatin1Char('\\'), QLatin1Char('/'));
+    // "C:" stands for the root of this machine, where what the settings name by letter is looked for.
+    const bool onDriveC = native.startsWith(QLatin1String("C:"), Qt::CaseInsensitive) &&
+                          (native.size() == 2 || native.at(2) == QLatin1Char('/'));
+    if (onDriveC)
+        native.remove(0, 2);
+    return native.isEmpty() && onDriveC ? QStringLiteral("/") : native;
 }
 
 QByteArray LinuxPlatform::CommandInterpreter()

@@ -20,6 +20,8 @@ namespace simulated
 namespace
 {
 
+constexpr qint64 LongestImage = qint64(15) << 40; ///< 15 TiB
+
 constexpr qint64 sectorBytes = 512;
 
 qint64 bytesOf(const Disk &disk)
@@ -69,7 +71,9 @@ QString RawDevices::imageFile(int disk) const
 bool RawDevices::prepareImage(const Disk &disk)
 {
     const QString file = imageFile(disk.record.number);
-    const qint64 size = bytesOf(disk);
+    // The largest file of common file systems ends before the largest disk: the rest of such a disk reads as
+    // zeros and cannot be written.
+    const qint64 size = std::min(bytesOf(disk), LongestImage);
     if (QFileInfo::exists(file)) {
         return QFileInfo(file).size() == size || sparse::resize(file, size);
     }

@@ -264,8 +264,10 @@ QString SimulatedPlatform::NativePath(const QString &path) const
     QString native = path;
     native.replace(QLatin1Char('\\'), QLatin1Char('/'));
     native.replace(doubled, QStringLiteral("/"));
-    const bool hasLetter = native.size() >= 3 && native.at(0).isLetter() && native.at(0).unicode() < 128 &&
-                           native.midRef(1, 2) == QLatin1String(":/");
+    // The root of a drive comes with and without its separator.
+    const bool hasLetter =
+        native.size() >= 2 && native.at(0).isLetter() && native.at(0).unicode() < 128 &&
+        (native.midRef(1) == QLatin1String(":") || native.midRef(1, 2) == QLatin1String(":/"));
     if (hasLetter && isDescribedPath(native)) {
         return m_state + QLatin1String("/drives/") + native.at(0).toUpper() + native.mid(2);
     }

@@ -29,12 +29,15 @@ void goTo(Walk &walk, const Page &page)
     walk.goTo(QLatin1String(page.button), QLatin1String(page.className));
 }
 
+constexpr int NoDrive = -1;
+
 /// The first screen with a disk chosen in its combo. At the very start that screen is there already.
 void seeDiskStatus(Walk &walk, int drive)
 {
     if (drive > 0)
         goTo(walk, diskStatus);
-    walk.selectDrive(drive);
+    if (drive != NoDrive)
+        walk.selectDrive(drive);
     walk.record(QLatin1String(diskStatus.step));
 }
 
@@ -50,7 +53,8 @@ StepList screenSteps(Walk &walk)
 {
     StepList steps;
     const int drives = walk.driveCount();
-    for (int drive = 0; drive < drives; ++drive) {
+    // A PC without a disk shows its screens all the same.
+    for (int drive = drives > 0 ? 0 : NoDrive; drive < drives; ++drive) {
         steps.push_back(
             {stepName(diskStatus, drive), [drive](Walk &person) { seeDiskStatus(person, drive); }});
         for (const Page &page : otherPages)

@@ -17,6 +17,15 @@ namespace
 {
 /// The system may sleep again: the continuous state alone ends what the splash asked for.
 constexpr quint32 ExecutionContinuous = 0x80000000u;
+
+/// A window without a parent may lie behind the main window, where showing it again would change nothing.
+void bringUp(QWidget *window)
+{
+    window->show();
+    window->raise();
+    window->activateWindow();
+}
+
 } // namespace
 
 bool MainWindow::jobRuns() const
@@ -47,7 +56,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
     if (jobRuns())
         showRunningPanel(false);
     else
-        m_pCloseWgt->show();
+        bringUp(m_pCloseWgt);
 }
 
 void MainWindow::OnClose()
@@ -57,7 +66,7 @@ void MainWindow::OnClose()
         return;
     }
     style::centreOn(m_pCloseWgt, geometry());
-    m_pCloseWgt->show();
+    bringUp(m_pCloseWgt);
 }
 
 void MainWindow::Onyes()

@@ -173,7 +173,8 @@ void MainWindow::styleShell()
     SideButtonLabel->setStyleSheet(QStringLiteral("QLabel#SideButtonLabel{%1}MyButton{padding-left: %2px;}")
                                        .arg(PaleBackground)
                                        .arg(style::px(34)));
-    BottamLabel->setStyleSheet(QStringLiteral("QLabel#BottamLabel{%1}").arg(PaleBackground));
+    BottamLabel->setStyleSheet(QStringLiteral("QLabel#BottamLabel{%1}").arg(PaleBackground) +
+                               QStringLiteral("MyButton1{padding-left: %1px;}").arg(style::px(32)));
 
     label->setFont(style::font(8));
     label->setStyleSheet(style::BlackLabel);
@@ -250,6 +251,7 @@ void MainWindow::buildNavigation()
     }
     BackTestButton->setFont(style::font(10));
     BackTestButton->setIconSize(QSize(style::px(32), style::px(30)));
+    OnBackTestNormalImage();
 }
 
 void MainWindow::buildToolButtons()

@@ -105,11 +105,19 @@ void MainWindow::OnRefresh()
     label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     // As with a read, each refresh adds a connection.
     connect(&m_refreshThread, &QRefThreadDevicesLoad::OnLoadingDevices, this, &MainWindow::OnInitialize);
-    m_refreshThread.start(QThread::InheritPriority);
+    // From here to OnInitialize() the lists are the thread's. A read that is under way ends first: both use
+    // one file.
+    if (g_bListsLoading)
+        return;
+    g_bListsLoading = true;
+    g_App.m_pCurrentDisk = nullptr;
+    g_App.m_pCloneDisk = nullptr;
+    m_refreshThread.startBehind(m_smartThread);
 }
 
 void MainWindow::OnInitialize()
 {
+    g_bListsLoading = false;
     FillDriveCombos();
     const int systemDisk = GetSystemDiskIndex().toInt();
     for (int i = 0; i < DriveCombobox->count(); ++i) {

@@ -87,10 +87,12 @@ void MainWindow::askForSwitch()
 
 void MainWindow::callShowSlot(Screen screen)
 {
-    static void (MainWindow::*const slots_[navigation::ScreenCount])() = {
+    using Slot = void (MainWindow::*)();
+    static const std::array<Slot, navigation::ScreenCount> table = {
         &MainWindow::OnShowDiskStatus, &MainWindow::OnShowSmartStatus, &MainWindow::OnShowDiskPartition,
         &MainWindow::OnShowScanDisk, &MainWindow::OnShowCloneDisk};
-    (this->*slots_[screen])();
+    const Slot showSlot = table[static_cast<std::size_t>(screen)];
+    (this->*showSlot)();
 }
 
 void MainWindow::showScreen(Screen screen)
@@ -282,31 +284,14 @@ void MainWindow::OnCloneDiskReleaseImageImage()
     releaseNavigation(navigation::CloneDiskScreen);
 }
 
-namespace
-{
-
-/// The back button has one picture for each of two looks.
-void dressBackButton(QPushButton *back, bool hover)
-{
-    const QString path = scale::imagePath(hover ? QStringLiteral("img_BackTestHov.png")
-                                                : QStringLiteral("img_BackTestNor.png"),
-                                          g_App.m_fScale);
-    const QString picture =
-        path.isEmpty() ? QString() : QStringLiteral("QPushButton{border-image: url(%1)}").arg(path);
-    back->setStyleSheet(picture + (hover ? QStringLiteral("QPushButton {color : rgb(42,129,229);}")
-                                         : QStringLiteral("QPushButton {color : rgb(0,0,0);}")));
-}
-
-} // namespace
-
 void MainWindow::OnBackTestHoverImage()
 {
-    dressBackButton(BackTestButton, true);
+    BackTestButton->setStyleSheet(navigation::backButtonSheet(navigation::Look::Hover, g_App.m_fScale));
 }
 
 void MainWindow::OnBackTestNormalImage()
 {
-    dressBackButton(BackTestButton, false);
+    BackTestButton->setStyleSheet(navigation::backButtonSheet(navigation::Look::Normal, g_App.m_fScale));
 }
 
 void MainWindow::OnBackTestReleaseImage()

@@ -34,6 +34,8 @@ void MainWindow::OnShowSettings()
     m_pSettings->LoadFromStore();
     style::centreOn(m_pSettings, geometry());
     m_pSettings->show();
+    m_pSettings->raise();
+    m_pSettings->activateWindow();
 }
 
 void MainWindow::OnSetSmartSettings()

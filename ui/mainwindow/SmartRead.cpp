@@ -81,6 +81,9 @@ void MainWindow::clearForRead()
 
 void MainWindow::RefreshSelectedDisk()
 {
+    // Its end reloads the screen that shows then.
+    if (g_bListsLoading)
+        return;
     clearForRead();
     g_nCurrentDiskIndex = currentComboDisk();
     LookUpDisk(DriveCombobox->currentIndex());
@@ -142,6 +145,10 @@ void MainWindow::prepareLogFolder()
 
 void MainWindow::OnInitializeSmart()
 {
+    // A read from before a refresh: the report's file belongs to the load by now, and each disk is read anew
+    // behind it.
+    if (g_bListsLoading)
+        return;
     prepareLogFolder();
     if (isDown(navigation::SmartStatusScreen))
         initializeSmartStatus();
@@ -159,12 +166,19 @@ void MainWindow::initializeSmartStatus()
     if (g_strRunMode == QLatin1String("Schedular"))
         g_bSmartAvailable = false;
 
-    const DiskNode *node = findPhysicalDisk(PhysicalDriveBase + g_nCurrentDiskIndex);
+    LookUpDisk(DriveCombobox->currentIndex());
+    const DiskNode *node = g_App.m_pCurrentDisk;
     const WmicDiskRecord *record = node ? findWmicDisk(node->nId) : nullptr;
     g_bSmartAvailable = GetDiskTemperature() != 0;
     showResult(m_pSmartStatusPage->SmartResultLabel,
                g_bSmartAvailable ? OverallResult::Passed : OverallResult::NotSupported);
 
+    m_pSmartStatusPage->m_pHeadingLabel->setText(tr("SMART Status"));
+    m_pSmartStatusPage->m_pHeadingLabel->setFont(style::semiBold(12));
+    m_pSmartStatusPage->m_pHeadingLabel->setStyleSheet(QStringLiteral("QLabel {color : white;}"));
+    m_pSmartStatusPage->m_pHeadingResultLabel->setFont(style::semiBold(13, true));
+    m_pSmartStatusPage->m_pHeadingResultLabel->setStyleSheet(QStringLiteral("QLabel {color : white;}"));
+    m_pSmartStatusPage->GraphLabel->clear();
     m_pSmartStatusPage->FormatSmartTable();
     const QString interfaceText = interfaceOrDefault(record ? record->szInterface.text() : QString());
     m_pSmartStatusPage->InterfaceValLbl->setText(interfaceText);

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QLabel>
+
+/// A label of one plain line that elides a text too long for it, where the plain one cuts it; a tool tip
+/// holds the whole text then. It asks for the text's width and makes do with less. Without the meta-object
+/// macro, so that it goes by the name of QLabel.
+class ElidingLabel : public QLabel
+{
+public:
+    using QLabel::QLabel;
+
+    QSize minimumSizeHint() const override;
+
+protected:
+    bool event(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QString shownText() const;
+};
