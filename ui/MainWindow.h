@@ -142,6 +142,7 @@ private:
     void buildToolButtons();
     void connectAll();
     void connectNavigation();
+    void greyOutIdle();
     void startTemperatureTimer();
     void applyLanguageWidths();
     void retranslateShell();

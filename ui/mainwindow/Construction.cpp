@@ -95,6 +95,7 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent), m_drag(this, Titl
     retranslateShell();
     FillDriveCombos();
     connectAll();
+    greyOutIdle();
     selectButton(startsOnClonePage() ? navigation::CloneDiskScreen : navigation::DiskStatusScreen);
     showScreen(startsOnClonePage() ? navigation::CloneDiskScreen : navigation::DiskStatusScreen);
 
@@ -218,8 +219,6 @@ void MainWindow::buildScreens()
         screen->hide();
     }
     m_pSettings = new Settings;
-    // The menu behind this button has no effect yet, so nobody is led to it.
-    m_pSettings->m_pLanguageButton->hide();
     GifFrame->raise();
     DriveCombobox->raise();
 }
@@ -415,6 +414,15 @@ void MainWindow::connectAll()
             &MainWindow::OnSourceIndexChange);
     connect(m_pCloneDiskPage->DestinationComboBox, QOverload<int>::of(&QComboBox::activated), this,
             &MainWindow::OnTargetChangeIndex);
+}
+
+void MainWindow::greyOutIdle()
+{
+    // Nothing stands behind these, so they do not look as if.
+    for (QPushButton *idle : {ScanButton, ReportSaveButton, ScreenshotButton, m_pHelpButton})
+        idle->setEnabled(false);
+    m_pAboutAction->setEnabled(false);
+    m_pSettings->m_pLanguageButton->hide();
 }
 
 void MainWindow::startTemperatureTimer()
