@@ -96,8 +96,9 @@ bool writeAt(QFile &file, qint64 offset, const char *data, qint64 bytes)
     return file.seek(offset) && file.write(data, bytes) == bytes;
 }
 
-/// Copies one stretch; blocks of zeros are left out, as the target is one hole.
-bool copyStretch(QFile &from, QFile &to, qint64 begin, qint64 end)
+/// Copies one stretch to where it is in the source plus `shift`; blocks of zeros are left out, as the target
+/// is one hole.
+bool copyStretch(QFile &from, QFile &to, qint64 begin, qint64 end, qint64 shift)
 {
     QByteArray buffer(static_cast<int>(granule * 16), Qt::Uninitialized);
     for (qint64 offset = begin; offset < end;) {
@@ -109,7 +110,7 @@ bool copyStretch(QFile &from, QFile &to, qint64 begin, qint64 end)
         if (got <= 0) {
             return got == 0;
         }
-        if (!isZero(buffer.constData(), got) && !writeAt(to, offset, buffer.constData(), got)) {
+        if (!isZero(buffer.constData(), got) && !writeAt(to, offset + shift, buffer.constData(), got)) {
             return false;
         }
         offset += got;
@@ -117,13 +118,13 @@ bool copyStretch(QFile &from, QFile &to, qint64 begin, qint64 end)
     return true;
 }
 
-bool copyData(QFile &from, QFile &to, qint64 size)
+bool copyData(QFile &from, QFile &to, qint64 size, qint64 shift)
 {
     const qint64 end = std::min(size, from.size());
     qint64 begin = 0;
     qint64 stop = 0;
     for (qint64 offset = 0; nextData(from, offset, end, &begin, &stop); offset = stop) {
-        if (!copyStretch(from, to, begin, stop)) {
+        if (!copyStretch(from, to, begin, stop, shift)) {
             return false;
         }
     }
@@ -152,13 +153,21 @@ bool copy(const QString &source, const QString &target, qint64 size)
     QFile from(source);
     QFile to(partial);
     bool done = from.open(QIODevice::ReadOnly | QIODevice::Unbuffered) && resize(partial, size) &&
-                to.open(QIODevice::ReadWrite | QIODevice::Unbuffered) && copyData(from, to, size);
+                to.open(QIODevice::ReadWrite | QIODevice::Unbuffered) && copyData(from, to, size, 0);
     to.close();
     done = done && QFile::rename(partial, target);
     if (!done) {
         QFile::remove(partial);
     }
     return done;
+}
+
+bool copyInto(const QString &source, const QString &target, qint64 offset)
+{
+    QFile from(source);
+    QFile to(target);
+    return from.open(QIODevice::ReadOnly | QIODevice::Unbuffered) &&
+           to.open(QIODevice::ReadWrite | QIODevice::Unbuffered) && copyData(from, to, from.size(), offset);
 }
 
 bool read(QFile &file, qint64 offset, char *data, qint64 bytes)

@@ -14,6 +14,9 @@ bool resize(const QString &path, qint64 size);
 /// target appears only when the copy is whole.
 bool copy(const QString &source, const QString &target, qint64 size);
 
+/// Copies a whole file to an offset of another, where that must be a hole; holes stay holes.
+bool copyInto(const QString &source, const QString &target, qint64 offset);
+
 /// Reads exactly `bytes` at an offset. A stretch without data is not read, only told: holes cost next to
 /// nothing. What lies behind the end of the file reads as a hole, too.
 bool read(QFile &file, qint64 offset, char *data, qint64 bytes);

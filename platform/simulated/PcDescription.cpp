@@ -6,9 +6,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
-#include <QSet>
-
-#include <limits>
 
 namespace simulated
 {
@@ -119,6 +116,57 @@ std::optional<Identity> readIdentity(const JsonReader &disk)
     return identity;
 }
 
+FileSystem readFileSystem(const JsonReader &in, const Layout &layout)
+{
+    FileSystem system;
+    const QString partition = QStringLiteral("partition");
+    const QString lastMounted = QStringLiteral("lastMounted");
+    const QString label = QStringLiteral("label");
+    if (!in.has(partition)) {
+        in.fail(in.path(partition), QStringLiteral("a whole number is wanted"));
+    }
+    system.partition = static_cast<int>(in.whole(partition, 0, 1, 128));
+    for (const FileSystem &other : layout.fileSystems) {
+        if (other.partition == system.partition) {
+            in.fail(in.path(partition), QStringLiteral("partition %1 has one already").arg(other.partition));
+        }
+    }
+    const int ext4 = fileSystemTypes().indexOf(QStringLiteral("ext4"));
+    system.type = fileSystemTypes().value(in.word(QStringLiteral("type"), ext4, fileSystemTypes()));
+    system.label = in.text(label);
+    system.lastMounted = in.text(lastMounted);
+    const bool ext = isExt(system.type);
+    const int length = ext ? system.label.toUtf8().size() : system.label.size();
+    if (length > longestLabel(system.type)) {
+        in.fail(in.path(label),
+                QStringLiteral("at most %1 characters are wanted").arg(longestLabel(system.type)));
+    }
+    if (!system.lastMounted.isEmpty() && (!ext || system.lastMounted.toUtf8().size() > 63)) {
+        in.fail(in.path(lastMounted), ext ? QStringLiteral("at most 63 characters are wanted")
+                                          : QStringLiteral("only an ext file system has that"));
+    }
+    return system;
+}
+
+Layout readLayout(const JsonReader &disk, const QString &folder)
+{
+    const QString key = QStringLiteral("layout");
+    const QString table = QStringLiteral("table");
+    Layout layout;
+    if (!disk.has(key)) {
+        return layout;
+    }
+    const JsonReader in = disk.below(key);
+    if (!in.has(table)) {
+        in.fail(in.path(table), QStringLiteral("a text is wanted"));
+    }
+    layout.table = existingFile(in, in.path(table), in.text(table), folder);
+    in.each(QStringLiteral("fileSystems"), [&layout](const JsonReader &system) {
+        layout.fileSystems.append(readFileSystem(system, layout));
+    });
+    return layout;
+}
+
 Disk readDisk(const JsonReader &in, const PcDescription &pc, const SelfTestEnd &end)
 {
     Disk disk;
@@ -142,6 +190,8 @@ Disk readDisk(const JsonReader &in, const PcDescription &pc, const SelfTestEnd &
     record.sectors = static_cast<quint64>(in.whole(QStringLiteral("sectors"), 0, 0, mostSectors));
     const QString image = in.text(QStringLiteral("image"));
     record.node = image.isEmpty() ? QString() : QDir(pc.folder).absoluteFilePath(image);
+    disk.layout = readLayout(in, pc.folder);
+    disk.layoutKey = pc.folder + QLatin1String("/pc.json: ") + in.path(QStringLiteral("layout"));
     disk.opens = in.truth(QStringLiteral("opens"), true);
     disk.bad = readRanges(in, QStringLiteral("badSectors"));
     disk.unwritable = readRanges(in, QStringLiteral("unwritable"));
@@ -228,10 +278,19 @@ QString readHistory(const JsonReader &in, const QString &folder)
 
 void readParts(const JsonReader &in, const SelfTestEnd &end, PcDescription *pc)
 {
-    in.each(QStringLiteral("disks"),
-            [&](const JsonReader &disk) { pc->disks.append(readDisk(disk, *pc, end)); });
-    in.each(QStringLiteral("volumes"),
-            [&](const JsonReader &volume) { pc->volumes.append(readVolume(volume, *pc)); });
+    const QString present = QStringLiteral("present");
+    in.each(QStringLiteral("disks"), [&](const JsonReader &disk) {
+        pc->disks.append(readDisk(disk, *pc, end));
+        if (!disk.truth(present, true)) {
+            pc->absentDisks.insert(pc->disks.last().record.number);
+        }
+    });
+    in.each(QStringLiteral("volumes"), [&](const JsonReader &volume) {
+        pc->volumes.append(readVolume(volume, *pc));
+        if (!volume.truth(present, true)) {
+            pc->absentVolumes.insert(pc->volumes.last().letter);
+        }
+    });
     in.each(QStringLiteral("partitions"),
             [&](const JsonReader &partition) { pc->partitions.append(readPartition(partition)); });
 }

@@ -1,10 +1,12 @@
 #pragma once
 
 #include "platform/Inventory.h"
+#include "platform/simulated/ImageLayout.h"
 #include "platform/simulated/SectorRanges.h"
 
 #include <QByteArray>
 #include <QJsonObject>
+#include <QSet>
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -31,6 +33,8 @@ struct SelfTestEnd {
 
 struct Disk {
     inventory::Disk record; ///< its node is the image in the described folder, which may be missing
+    Layout layout;          ///< of an image that the described folder has not
+    QString layoutKey;      ///< file and key of the layout, for messages
     bool opens = true;
     SectorRanges bad;
     SectorRanges unwritable;
@@ -53,6 +57,8 @@ struct PcDescription {
     bool hasSmartctl = true;
     QVector<Disk> disks;
     QVector<inventory::Volume> volumes;
+    QSet<int> absentDisks; ///< not plugged in at first
+    QSet<QChar> absentVolumes;
     QVector<inventory::Partition> partitions;
     QStringList processes;
     QStringList installed; ///< programs that can be started

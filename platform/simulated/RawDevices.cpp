@@ -56,8 +56,8 @@ private:
 
 } // namespace
 
-RawDevices::RawDevices(const PcDescription &pc, const QString &imageFolder)
-    : m_pc(pc), m_imageFolder(imageFolder)
+RawDevices::RawDevices(const PcDescription &pc, const Presence &presence, const QString &imageFolder)
+    : m_pc(pc), m_presence(presence), m_imageFolder(imageFolder)
 {
 }
 
@@ -77,12 +77,29 @@ bool RawDevices::prepareImage(const Disk &disk)
     if (QFileInfo::exists(file)) {
         return QFileInfo(file).size() == size || sparse::resize(file, size);
     }
-    if (!QDir().mkpath(m_imageFolder)) {
+    return QDir().mkpath(m_imageFolder) && makeImage(disk, file, size);
+}
+
+bool RawDevices::makeImage(const Disk &disk, const QString &file, qint64 size)
+{
+    const QString described = disk.record.node;
+    if (!described.isEmpty() && QFileInfo::exists(described)) {
+        return sparse::copy(described, file, size);
+    }
+    // The image appears when it is whole, so that one whose making was broken off is made again.
+    const QString partial = file + QLatin1String(".part");
+    QFile::remove(partial);
+    if (!sparse::resize(partial, size)) {
         return false;
     }
-    const QString described = disk.record.node;
-    return !described.isEmpty() && QFileInfo::exists(described) ? sparse::copy(described, file, size)
-                                                                : sparse::resize(file, size);
+    layOut(disk.layout, partial, disk.layoutKey);
+    return QFile::rename(partial, file);
+}
+
+bool RawDevices::isThere(const Device &device) const
+{
+    return device.volume != nullptr ? m_presence.has(*device.volume)
+                                    : m_presence.hasDisk(device.pieces.first().disk->record.number);
 }
 
 bool RawDevices::addPiece(Device &device, int number, qint64 start, qint64 length)
@@ -118,10 +135,12 @@ Platform::RawHandle RawDevices::open(const QString &name, quint32 access, quint3
     const QRegularExpressionMatch volumeName = letter.match(name);
     if (diskName.hasMatch()) {
         const Disk *disk = m_pc.disk(diskName.captured(1).toInt());
-        opened = disk != nullptr && disk->opens && addPiece(*device, disk->record.number, 0, bytesOf(*disk));
+        opened = disk != nullptr && disk->opens && m_presence.hasDisk(disk->record.number) &&
+                 addPiece(*device, disk->record.number, 0, bytesOf(*disk));
     } else if (volumeName.hasMatch()) {
         device->volume = m_pc.volume(volumeName.captured(1).at(0));
-        opened = device->volume != nullptr && !device->volume->extents.isEmpty();
+        opened = device->volume != nullptr && m_presence.has(*device->volume) &&
+                 !device->volume->extents.isEmpty();
         for (int i = 0; opened && i < device->volume->extents.size(); ++i) {
             const inventory::Extent &extent = device->volume->extents.at(i);
             opened = addPiece(*device, extent.disk, static_cast<qint64>(extent.offset),
@@ -184,7 +203,7 @@ bool RawDevices::transfer(Platform::RawHandle handle, Direction direction, char 
     }
     const std::shared_ptr<Device> device = find(handle);
     const quint32 right = direction == Direction::Read ? io::GenericRead : io::GenericWrite;
-    if (!device || (device->access & right) == 0 || device->position >= device->length) {
+    if (!device || (device->access & right) == 0 || device->position >= device->length || !isThere(*device)) {
         return false;
     }
     const qint64 room = device->length - device->position;
@@ -247,7 +266,7 @@ bool RawDevices::control(Platform::RawHandle handle, quint32 code, const void *i
                          quint32 outSize, quint32 *returned)
 {
     const std::shared_ptr<Device> device = find(handle);
-    if (!device) {
+    if (!device || !isThere(*device)) {
         return false;
     }
     const QByteArray request(static_cast<const char *>(in), in == nullptr ? 0 : static_cast<int>(inSize));

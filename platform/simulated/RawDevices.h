@@ -2,6 +2,7 @@
 
 #include "platform/Platform.h"
 #include "platform/simulated/PcDescription.h"
+#include "platform/simulated/Presence.h"
 
 #include <QHash>
 #include <QMutex>
@@ -19,9 +20,9 @@ namespace simulated
 class RawDevices
 {
 public:
-    /// Images are made in `imageFolder` when a disk is first opened. The description has to outlive this
-    /// object.
-    RawDevices(const PcDescription &pc, const QString &imageFolder);
+    /// Images are made in `imageFolder` when a disk is first opened. The description and what is present have
+    /// to outlive this object.
+    RawDevices(const PcDescription &pc, const Presence &presence, const QString &imageFolder);
     RawDevices(const RawDevices &) = delete;
     RawDevices &operator=(const RawDevices &) = delete;
     ~RawDevices();
@@ -58,6 +59,9 @@ private:
 
     std::shared_ptr<Device> find(Platform::RawHandle handle);
     bool prepareImage(const Disk &disk);
+    bool makeImage(const Disk &disk, const QString &file, qint64 size);
+    /// Whether the device is still plugged in.
+    bool isThere(const Device &device) const;
     bool addPiece(Device &device, int number, qint64 start, qint64 length);
     bool transfer(Platform::RawHandle handle, Direction direction, char *buffer, quint32 bytes,
                   quint32 *transferred);
@@ -66,6 +70,7 @@ private:
                               qint64 bytes);
 
     const PcDescription &m_pc;
+    const Presence &m_presence;
     QString m_imageFolder;
     QMutex m_mutex; ///< guards the table of handles and the making of images
     QHash<Platform::RawHandle, std::shared_ptr<Device>> m_devices;

@@ -87,9 +87,9 @@ std::unique_ptr<SimulatedPlatform> SimulatedPlatform::open(const QString &folder
 
 SimulatedPlatform::SimulatedPlatform(simulated::PcDescription pc, const QString &stateFolder, bool ownsState,
                                      simulated::Clock clock)
-    : m_pc(std::move(pc)), m_state(stateFolder), m_ownsState(ownsState),
-      m_devices(m_pc, stateFolder + QLatin1String("/images")),
-      m_smartctl(m_pc, stateFolder + QLatin1String("/self-tests.json"), std::move(clock)),
+    : m_pc(std::move(pc)), m_presence(m_pc), m_state(stateFolder), m_ownsState(ownsState),
+      m_devices(m_pc, m_presence, stateFolder + QLatin1String("/images")),
+      m_smartctl(m_pc, m_presence, stateFolder + QLatin1String("/self-tests.json"), std::move(clock)),
       m_processes(m_pc.processes)
 {
     addTools();
@@ -138,14 +138,17 @@ void SimulatedPlatform::CloseHandle(RawHandle handle)
 
 const inventory::Volume *SimulatedPlatform::volumeOf(const QString &root) const
 {
-    return root.isEmpty() ? nullptr : m_pc.volume(root.at(0));
+    const inventory::Volume *volume = root.isEmpty() ? nullptr : m_pc.volume(root.at(0));
+    return volume != nullptr && m_presence.has(*volume) ? volume : nullptr;
 }
 
 QStringList SimulatedPlatform::GetLogicalDriveStringsW()
 {
     QStringList roots;
     for (const inventory::Volume &volume : m_pc.volumes) {
-        roots.append(QString(volume.letter) + QLatin1String(":\\"));
+        if (m_presence.has(volume)) {
+            roots.append(QString(volume.letter) + QLatin1String(":\\"));
+        }
     }
     roots.sort();
     return roots;
@@ -339,14 +342,15 @@ DeviceNotifier *SimulatedPlatform::deviceNotifier()
 
 void SimulatedPlatform::tellVolumeChanges()
 {
-    const struct {
-        const char *file;
-        quint32 event;
-    } changes[] = {{"remove", DeviceChange::RemoveComplete}, {"arrive", DeviceChange::Arrival}};
-    for (const auto &change : changes) {
+    const QDir folder(m_state + volumesChanged);
+    // Backwards by name: of touches that come together, removals count first.
+    for (const QString &name : folder.entryList(QDir::Files, QDir::Name | QDir::Reversed)) {
+        const auto notices = m_presence.touch(name);
         // Taking the file away makes the next touch a new one.
-        if (QFile::remove(m_state + volumesChanged + QLatin1Char('/') + QLatin1String(change.file))) {
-            emit m_notifier->deviceChange(change.event, DeviceChange::Volume);
+        if (notices && QFile::remove(folder.filePath(name))) {
+            for (const DeviceChange &notice : *notices) {
+                emit m_notifier->deviceChange(notice.event, notice.deviceType);
+            }
         }
     }
 }

@@ -2,6 +2,7 @@
 
 #include "platform/Platform.h"
 #include "platform/simulated/PcDescription.h"
+#include "platform/simulated/Presence.h"
 #include "platform/simulated/RawDevices.h"
 #include "platform/simulated/SimulatedSmartctl.h"
 #include "platform/tools/CommandInterpreter.h"
@@ -82,9 +83,11 @@ private:
     /// Adds a line to a record of what the program did.
     void record(const QString &fileName, const QByteArray &line);
     void tellVolumeChanges();
+    /// Null where no such volume is plugged in.
     const inventory::Volume *volumeOf(const QString &root) const;
 
     const simulated::PcDescription m_pc;
+    simulated::Presence m_presence;
     const QString m_state;
     const bool m_ownsState;
     simulated::RawDevices m_devices;

@@ -38,8 +38,9 @@ QString reportFile(const Disk &disk, int run)
 
 } // namespace
 
-SimulatedSmartctl::SimulatedSmartctl(const PcDescription &pc, const QString &stateFile, Clock clock)
-    : m_pc(pc), m_tests(stateFile, clock), m_clock(std::move(clock))
+SimulatedSmartctl::SimulatedSmartctl(const PcDescription &pc, const Presence &presence,
+                                     const QString &stateFile, Clock clock)
+    : m_pc(pc), m_presence(presence), m_tests(stateFile, clock), m_clock(std::move(clock))
 {
 }
 
@@ -83,7 +84,8 @@ const Disk *SimulatedSmartctl::diskOf(const QString &device) const
 {
     static const QRegularExpression name(QStringLiteral("^/dev/sd([a-z])$"));
     const QRegularExpressionMatch match = name.match(device);
-    return match.hasMatch() ? m_pc.disk(match.captured(1).at(0).unicode() - u'a') : nullptr;
+    const int number = match.hasMatch() ? match.captured(1).at(0).unicode() - u'a' : -1;
+    return m_presence.hasDisk(number) ? m_pc.disk(number) : nullptr;
 }
 
 QByteArray SimulatedSmartctl::run(const QStringList &arguments)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/simulated/PcDescription.h"
+#include "platform/simulated/Presence.h"
 #include "platform/simulated/SelfTests.h"
 
 #include <QByteArray>
@@ -16,8 +17,10 @@ namespace simulated
 class SimulatedSmartctl
 {
 public:
-    /// The description has to outlive this object. The state of the tests is kept in `stateFile`.
-    SimulatedSmartctl(const PcDescription &pc, const QString &stateFile, Clock clock);
+    /// The description and what is present have to outlive this object. The state of the tests is kept in
+    /// `stateFile`.
+    SimulatedSmartctl(const PcDescription &pc, const Presence &presence, const QString &stateFile,
+                      Clock clock);
 
     /// The standard output of one run.
     QByteArray run(const QStringList &arguments);
@@ -41,6 +44,7 @@ private:
     QByteArray abortTest(const Disk &disk);
 
     const PcDescription &m_pc;
+    const Presence &m_presence;
     QMutex m_mutex;
     SelfTests m_tests;
     Clock m_clock;

@@ -4,16 +4,23 @@
 
 #include <QMutexLocker>
 
+#include <algorithm>
+#include <iterator>
+
 // The tools that a described PC has behind its command interpreter.
 
 inventory::Machine SimulatedPlatform::machine()
 {
     inventory::Machine machine;
     for (const simulated::Disk &disk : m_pc.disks) {
-        machine.disks.append(disk.record);
+        if (m_presence.hasDisk(disk.record.number)) {
+            machine.disks.append(disk.record);
+        }
     }
-    machine.volumes = m_pc.volumes;
-    machine.partitions = m_pc.partitions;
+    std::copy_if(m_pc.volumes.cbegin(), m_pc.volumes.cend(), std::back_inserter(machine.volumes),
+                 [this](const inventory::Volume &volume) { return m_presence.has(volume); });
+    std::copy_if(m_pc.partitions.cbegin(), m_pc.partitions.cend(), std::back_inserter(machine.partitions),
+                 [this](const inventory::Partition &row) { return m_presence.hasDisk(row.disk); });
     const QMutexLocker lock(&m_mutex);
     machine.processes = m_processes;
     return machine;

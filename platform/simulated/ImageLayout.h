@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+/// What a fresh disk image bears: a partition table and file systems, made by the system's own tools.
+namespace simulated
+{
+
+/// A file system in a partition.
+struct FileSystem {
+    int partition = 0;   ///< its number in the table, from 1
+    QString type;        ///< one of fileSystemTypes()
+    QString label;       ///< empty: none
+    QString lastMounted; ///< where it was last mounted, ext only; empty: nowhere
+};
+
+/// The content of an image; without a table there is none.
+struct Layout {
+    QString table; ///< full path of a script for sfdisk
+    QVector<FileSystem> fileSystems;
+};
+
+const QStringList &fileSystemTypes();
+bool isExt(const QString &type);
+/// How long a label of that type may be: bytes of UTF-8 for ext, else characters.
+int longestLabel(const QString &type);
+
+/// Puts table and file systems on `image`, a regular file that is all zeros. What the machine has no tool
+/// for is left out without a word; a tool that fails is told of on standard error, with `place`, the key of
+/// the layout in the description. Blocking; any thread. Linux only, elsewhere it does nothing.
+void layOut(const Layout &layout, const QString &image, const QString &place);
+
+} // namespace simulated

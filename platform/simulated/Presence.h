@@ -1,0 +1,40 @@
+#pragma once
+
+#include "platform/DeviceNotifier.h"
+#include "platform/simulated/PcDescription.h"
+
+#include <QMutex>
+#include <QSet>
+#include <QVector>
+
+#include <optional>
+
+namespace simulated
+{
+
+/// What of a described PC is plugged in at the moment. Any thread.
+class Presence
+{
+public:
+    /// The description has to outlive this object; it tells what is there at first.
+    explicit Presence(const PcDescription &pc);
+
+    bool hasDisk(int number) const;
+    /// Whether neither the volume itself nor a disk below it has been taken away.
+    bool has(const inventory::Volume &volume) const;
+
+    /// Acts on a touch ("remove-L", "arrive-disk4", "remove", …). The notices that the system gives of it,
+    /// one for each volume that came or went; nothing where there is no such touch.
+    std::optional<QVector<DeviceChange>> touch(const QString &name);
+
+private:
+    bool hasLocked(const inventory::Volume &volume) const;
+    int volumesLocked() const;
+
+    const PcDescription &m_pc;
+    mutable QMutex m_mutex;
+    QSet<int> m_absentDisks;
+    QSet<QChar> m_absentVolumes;
+};
+
+} // namespace simulated
