@@ -51,6 +51,10 @@ public:
     void FillDriveCombos();
     /// Makes the disk of a combo index the current one; none where there is no such disk.
     void LookUpDisk(int comboIndex);
+    /// How the mark of an encrypted volume reads.
+    enum class BitLockerMark { AsWritten, Translated };
+    /// Shows the volumes of the selected disk on Disk Partition: the ring and a frame for each.
+    void ShowPartitions(BitLockerMark mark);
     /// Has the report of a physical disk read in the background.
     void RequestSmartRead(int diskIndex);
     /// Starts the companion unless it runs.
@@ -181,6 +185,9 @@ private:
     void selectCloneArgument();
     void refreshClonePage();
     int currentComboDisk() const;
+    void clearPartitions();
+    void addVolumeFrames(const QString &letter, const QString &mark);
+    void retranslatePartitions();
     /// @}
 
     /// \name Closing
@@ -226,6 +233,9 @@ private:
     std::array<bool, navigation::ScreenCount> m_abSwitchTarget{};
     QHash<int, int> m_hashComboToDisk; ///< combo index to DiskNode::nId
     QMovie *m_pMovie = nullptr;
+    int m_nFrameCount = 0;         ///< frames of the letter shown last
+    QList<QFrame *> m_listFrames;  ///< all frames on Disk Partition
+    QList<QLabel *> m_listNotices; ///< the line that stands there instead of frames
     bool m_bRefreshing = false;
     QTimer *m_pTemperatureTimer = nullptr;
     FramelessDrag m_drag;

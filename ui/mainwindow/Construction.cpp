@@ -444,6 +444,7 @@ void MainWindow::changeEvent(QEvent *event)
     if (event->type() == QEvent::LanguageChange) {
         retranslateUi(this);
         retranslateShell();
+        retranslatePartitions();
         if (SettingsStore().flag(key::ShowTrayIcon)) {
             companion::kill();
             companion::start(companion::StartBy::FullPath);

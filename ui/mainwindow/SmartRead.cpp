@@ -101,6 +101,7 @@ void MainWindow::RefreshSelectedDisk()
             OnCloneDiskPressImage();
     } else if (isDown(navigation::DiskPartitionScreen)) {
         m_pDiskPartitionPage->FillPartitionHeader();
+        ShowPartitions(BitLockerMark::AsWritten);
     }
 }
 
