@@ -3,45 +3,24 @@
 #include "app/state/GlobalApp.h"
 #include "inventory/AtaIdentity.h"
 #include "inventory/Capacity.h"
+#include "inventory/LinuxNodes.h"
+#include "inventory/PartitionWalk.h"
 #include "inventory/RawAccess.h"
+#include "inventory/VolumeExtents.h"
+#include "inventory/VolumeNodes.h"
 #include "platform/IoControl.h"
 
 namespace
 {
 
 constexpr int SectorSize = 512;
-constexpr std::size_t ExtentBytes = 1024;
-
-/// Extents of a volume in the room that the system call gets; further ones lie behind the first.
-union ExtentBuffer {
-    io::VolumeDiskExtents extents;
-    std::uint8_t bytes[ExtentBytes];
-};
-
-/// The drive code of the disk that holds the first extent of a volume, -1 if that cannot be told.
-int firstDiskOfVolume(QChar letter)
-{
-    Platform &platform = Platform::current();
-    const Platform::RawHandle handle =
-        platform.CreateFileW(QStringLiteral("\\\\.\\%1:").arg(letter), io::GenericRead,
-                             io::ShareRead | io::ShareWrite, io::OpenExisting);
-    if (handle == Platform::InvalidHandle)
-        return -1;
-    ExtentBuffer buffer{};
-    quint32 returned = 0;
-    const bool answered = platform.DeviceIoControl(handle, io::VolumeGetVolumeDiskExtents, nullptr, 0,
-                                                   &buffer, sizeof buffer, &returned);
-    platform.CloseHandle(handle);
-    if (!answered || buffer.extents.numberOfDiskExtents == 0)
-        return -1;
-    return static_cast<int>(buffer.extents.extents[0].diskNumber) + PhysicalDriveBase;
-}
 
 } // namespace
 
 CCreateDiskDriveList::CCreateDiskDriveList()
 {
     g_App.freeDiskList();
+    FreeLinuxPartitions();
     g_App.m_nNextLogicalId = FirstLogicalId;
 }
 
@@ -51,6 +30,10 @@ void CCreateDiskDriveList::BuildDriveList()
     probeDisks();
     appendPhysicalNodes(m_fixed, FixedDisk);
     appendPhysicalNodes(m_removable, RemovableDisk);
+    appendVolumeNodes();
+    for (DiskNode *node = g_App.m_pDiskListHead; node; node = node->pNext)
+        tieVolumeToDisk(node);
+    appendLinuxNodes();
 }
 
 void CCreateDiskDriveList::probeDisks()
@@ -117,8 +100,48 @@ QString CCreateDiskDriveList::driveLetters(int driveCode) const
     QString letters;
     for (const QString &root : m_driveStrings) {
         // The first extent alone counts, so that a spanned volume stands with one disk.
-        if (!root.isEmpty() && firstDiskOfVolume(root.at(0)) == driveCode)
+        if (root.isEmpty())
+            continue;
+        const std::optional<VolumeExtents> extents = readVolumeExtents(root.at(0));
+        if (extents && extents->diskNumber + PhysicalDriveBase == static_cast<quint32>(driveCode))
             letters += root.left(2) + QLatin1Char(' ');
     }
     return letters;
+}
+
+void CCreateDiskDriveList::appendVolumeNodes()
+{
+    RemovableDisks removable;
+    removable.count = g_App.m_nRemovableDisks;
+    for (const DiskNode *node = g_App.m_pDiskListHead; node && !removable.first; node = node->pNext) {
+        if (node->nKind == RemovableDisk)
+            removable.first = node;
+    }
+    for (const QString &root : m_driveStrings.mid(0, Letters)) {
+        if (root.isEmpty())
+            return;
+        appendLogicalNode(makeVolumeNode(root, removable));
+    }
+}
+
+void CCreateDiskDriveList::appendLinuxNodes()
+{
+    // The nodes that come are none of physical disks, so the list may grow under the loop.
+    int number = 0;
+    for (const DiskNode *disk = g_App.m_pDiskListHead; disk; disk = disk->pNext) {
+        if (!isPhysicalKind(disk->nKind))
+            continue;
+        ResetPartitionWalk();
+        ScanPartitionTable(disk->nId, 0);
+        for (const LinuxPartitionEntry *entry = g_pLinuxPartitionHead; entry; entry = entry->pNext)
+            appendLogicalNode(makeLinuxNode(*entry, ++number));
+    }
+}
+
+void CCreateDiskDriveList::appendLogicalNode(std::unique_ptr<DiskNode> node)
+{
+    if (!node)
+        return;
+    node->nId = g_App.m_nNextLogicalId++;
+    appendToList(g_App.m_pDiskListHead, g_App.m_pDiskListTail, node.release());
 }

@@ -6,6 +6,7 @@
 #include <QStringList>
 
 #include <array>
+#include <memory>
 
 /// Builds the list of storage objects in g_App from the operating system's answers alone. Made on the stack,
 /// used once and dropped; the list outlives it. Runs on a device-load thread, one at a time.
@@ -14,15 +15,17 @@ class CCreateDiskDriveList
 public:
     static constexpr int ProbedDisks = 128; ///< disk numbers that are tried
     static constexpr int ListedDisks = 24;  ///< disk numbers that can become nodes
+    static constexpr int Letters = 26;      ///< volumes that can become nodes
     static constexpr std::uint16_t FirstLogicalId = 257;
 
-    /// Frees the previous list.
+    /// Frees the previous list, and the Linux partitions that the last walk found.
     CCreateDiskDriveList();
     virtual ~CCreateDiskDriveList() = default;
     CCreateDiskDriveList(const CCreateDiskDriveList &) = delete;
     CCreateDiskDriveList &operator=(const CCreateDiskDriveList &) = delete;
 
-    /// Fills the list. What does not open or answer is left out silently.
+    /// Fills the list: fixed disks, removable disks, volumes, Linux partitions. What does not open or answer
+    /// is left out silently.
     void BuildDriveList();
 
 private:
@@ -36,6 +39,9 @@ private:
     void appendPhysicalNodes(const ProbeTable &table, DiskKind kind);
     DiskNode *makePhysicalNode(int number, DiskKind kind, int bytesPerSector) const;
     QString driveLetters(int driveCode) const;
+    void appendVolumeNodes();
+    void appendLinuxNodes();
+    void appendLogicalNode(std::unique_ptr<DiskNode> node);
 
     QStringList m_driveStrings;
     ProbeTable m_fixed;

@@ -22,6 +22,7 @@ FakePlatform::Disk diskOf(qint64 size, quint32 mediaType = io::MediaFixed, quint
 FakePlatform::Volume volumeOn(const QVector<quint32> &disks)
 {
     FakePlatform::Volume volume;
+    volume.fileSystem = QStringLiteral("NTFS");
     for (const quint32 disk : disks)
         volume.extents << io::DiskExtent{disk, 0, 1048576, 1048576};
     return volume;
@@ -186,7 +187,7 @@ void CCreateDiskDriveListTest::listsLettersByFirstExtent()
     fake->volumes[QLatin1Char('G')].raw.opens = false;
     build();
     QCOMPARE(g_App.m_pDiskListHead->pDetails->szDrives, QStringLiteral("Drive: C: F: "));
-    QCOMPARE(g_App.m_pDiskListTail->pDetails->szDrives, QStringLiteral("Drive: D: "));
+    QCOMPARE(g_App.m_pDiskListHead->pNext->pDetails->szDrives, QStringLiteral("Drive: D: "));
     QCOMPARE(fake->openHandles(), 0);
 }
 

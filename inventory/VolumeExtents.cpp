@@ -1,0 +1,39 @@
+#include "inventory/VolumeExtents.h"
+
+#include "platform/IoControl.h"
+#include "platform/Platform.h"
+
+namespace
+{
+
+constexpr quint64 SectorSize = 512;
+constexpr std::size_t ExtentBytes = 1024;
+
+/// Extents of a volume in the room that the system call gets; further ones lie behind the first.
+union ExtentBuffer {
+    io::VolumeDiskExtents extents;
+    std::uint8_t bytes[ExtentBytes];
+};
+
+} // namespace
+
+std::optional<VolumeExtents> readVolumeExtents(QChar letter)
+{
+    Platform &platform = Platform::current();
+    const Platform::RawHandle handle =
+        platform.CreateFileW(QStringLiteral("\\\\.\\%1:").arg(letter), io::GenericRead,
+                             io::ShareRead | io::ShareWrite, io::OpenExisting);
+    if (handle == Platform::InvalidHandle)
+        return std::nullopt;
+    ExtentBuffer buffer{};
+    quint32 returned = 0;
+    const bool answered = platform.DeviceIoControl(handle, io::VolumeGetVolumeDiskExtents, nullptr, 0,
+                                                   &buffer, sizeof buffer, &returned);
+    platform.CloseHandle(handle);
+    if (!answered || buffer.extents.numberOfDiskExtents == 0)
+        return std::nullopt;
+    const io::DiskExtent &first = buffer.extents.extents[0];
+    const auto start = static_cast<quint64>(first.startingOffset);
+    return VolumeExtents{buffer.extents.numberOfDiskExtents, first.diskNumber, start / SectorSize,
+                         (start + static_cast<quint64>(first.extentLength)) / SectorSize};
+}

@@ -1,0 +1,188 @@
+#include "inventory/VolumeNodes.h"
+
+#include "inventory/BootSector.h"
+#include "inventory/Capacity.h"
+#include "inventory/VolumeExtents.h"
+#include "platform/IoControl.h"
+#include "platform/Platform.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+
+namespace
+{
+
+using bootsector::SectorSize;
+
+const QString Fixed = QStringLiteral("FIXED");
+const QString Removable = QStringLiteral("REMOVABLE");
+
+/// A file system by its name, and the two numbers it is known by.
+struct FileSystemCode {
+    QLatin1String name;
+    quint8 code;
+    quint8 fileSystemClass;
+};
+
+constexpr quint8 Fat12Code = 0;
+constexpr quint8 Fat16Code = 1;
+constexpr quint8 FatClass = 2;
+const FileSystemCode NtfsCode{QLatin1String("NTFS"), 7, 4};
+const std::array<FileSystemCode, 4> FileSystemCodes{{
+    {QLatin1String("RAW"), 4, 0},
+    {QLatin1String("exFAT"), 3, 3},
+    NtfsCode,
+    {QLatin1String("FAT32"), 2, 2},
+}};
+
+/// The type as nodes have it; null for drives that get no node.
+QString typeText(quint32 driveType)
+{
+    switch (driveType) {
+    case io::DriveNoRootDir:
+        return QStringLiteral("DRIVE_NO_ROOT_DIR");
+    case io::DriveRemovable:
+        return Removable;
+    case io::DriveFixed:
+        return Fixed;
+    case io::DriveRamDisk:
+        return QStringLiteral("RAMDISK");
+    default:
+        return QString();
+    }
+}
+
+QString volumeCapacity(quint64 bytes)
+{
+    // Below 1 MiB the kilobytes of a volume bear this unit, too.
+    return capacityText(bytes, QStringLiteral("MB"));
+}
+
+/// A lone removable disk gives its size to the volume that cannot tell its own. Without a medium there is
+/// none to give.
+quint64 borrowedSize(const RemovableDisks &removable)
+{
+    if (removable.count != 1 || !removable.first)
+        return 0;
+    const quint64 bytes = removable.first->pDetails->nTotalSectors * SectorSize;
+    return bytes == 0 ? 0 : bytes - 1;
+}
+
+/// Takes the sizes of the volume. False if it has none and needs one to be listed.
+bool readSizes(LogicalDetails *volume, const RemovableDisks &removable)
+{
+    quint64 total = 0;
+    quint64 free = 0;
+    Platform::current().GetDiskFreeSpaceExW(volume->szRoot, &total, &free);
+    if (total == 0 && volume->szType != Fixed && volume->szType != Removable)
+        return false;
+    volume->nTotalBytes = total;
+    volume->nFreeBytes = free;
+    if (total == 0 && free == 0 && volume->szType == Removable)
+        volume->nTotalBytes = borrowedSize(removable);
+    return true;
+}
+
+/// Takes the name of the file system from the system, else from the boot sector. False if there is no volume.
+bool readFileSystem(LogicalDetails *volume)
+{
+    Platform::current().GetVolumeInformationW(volume->szRoot, nullptr, &volume->szFileSystem);
+    if (!volume->szFileSystem.isEmpty())
+        return true;
+    const std::optional<bootsector::Sniffed> sniffed =
+        bootsector::sniffFileSystem(volume->nLetter, volume->szType == Removable, volume->nTotalBytes);
+    if (!sniffed)
+        return false;
+    volume->szFileSystem = sniffed->fileSystem;
+    volume->nTotalBytes = sniffed->totalBytes;
+    return true;
+}
+
+void setFileSystemCode(LogicalDetails *volume, const FileSystemCode &code)
+{
+    volume->nFsCode = code.code;
+    volume->nFsClass = code.fileSystemClass;
+}
+
+void readFileSystemCode(LogicalDetails *volume)
+{
+    if (volume->szFileSystem == QLatin1String("FAT")) {
+        volume->nFsCode =
+            bootsector::isFat16(bootsector::readSector(volume->nLetter, 0)) ? Fat16Code : Fat12Code;
+        volume->nFsClass = FatClass;
+        return;
+    }
+    for (const FileSystemCode &code : FileSystemCodes) {
+        if (volume->szFileSystem == code.name)
+            setFileSystemCode(volume, code);
+    }
+}
+
+/// The size of a volume that lies on a disk but did not tell it, and another look for its file system.
+void takeSizeFromExtents(LogicalDetails *volume)
+{
+    volume->nSectorCount = volume->nEndSector - volume->nStartSector;
+    volume->nTotalBytes = volume->nSectorCount * SectorSize;
+    volume->szCapacity = volumeCapacity(volume->nTotalBytes);
+    static const std::array<QLatin1String, 5> known{QLatin1String("NTFS"), QLatin1String("FAT32"),
+                                                    QLatin1String("FAT12"), QLatin1String("FAT16"),
+                                                    QLatin1String("exFAT")};
+    const bool isKnown = std::any_of(known.cbegin(), known.cend(), [volume](const QLatin1String &name) {
+        return volume->szFileSystem == name;
+    });
+    if (!isKnown && bootsector::isNtfs(bootsector::readSector(volume->nLetter, 0))) {
+        volume->szFileSystem = NtfsCode.name;
+        setFileSystemCode(volume, NtfsCode);
+    }
+}
+
+} // namespace
+
+std::unique_ptr<DiskNode> makeVolumeNode(const QString &root, const RemovableDisks &removable)
+{
+    auto volume = std::make_unique<LogicalDetails>();
+    volume->nLetter = static_cast<quint8>(root.at(0).toUpper().unicode() - u'A');
+    volume->szRoot = root;
+    Platform &platform = Platform::current();
+    platform.GetVolumeInformationW(root, &volume->szLabel, nullptr);
+    if (volume->szLabel.isEmpty())
+        volume->szLabel = QStringLiteral("Local Disk");
+    volume->szType = typeText(platform.GetDriveTypeW(root));
+    if (volume->szType.isNull())
+        return nullptr;
+    if (volume->szType == Removable)
+        volume->nParentId = volume->nLetter;
+    if (!readSizes(volume.get(), removable) || !readFileSystem(volume.get()))
+        return nullptr;
+    volume->szCapacity = volumeCapacity(volume->nTotalBytes);
+    volume->nSectorCount = volume->nTotalBytes / SectorSize;
+    volume->nEndSector = volume->nSectorCount;
+    readFileSystemCode(volume.get());
+    auto node = std::make_unique<DiskNode>();
+    node->nKind = volume->szFileSystem == QLatin1String("RAW") ? RawVolume : VolumeNode;
+    node->pLogical = std::move(volume);
+    return node;
+}
+
+void tieVolumeToDisk(DiskNode *node)
+{
+    if ((node->nKind != VolumeNode && node->nKind != RawVolume) || node->pLogical->szType != Fixed)
+        return;
+    LogicalDetails &volume = *node->pLogical;
+    const std::optional<VolumeExtents> extents = readVolumeExtents(QChar(u'A' + volume.nLetter));
+    if (!extents)
+        return;
+    volume.bSpanned = extents->count > 1 ? 1 : 0;
+    if (volume.bSpanned) {
+        volume.nStartSector = 0;
+        volume.nEndSector = volume.nSectorCount;
+        volume.nParentId = volume.nLetter;
+    } else {
+        volume.nStartSector = extents->startSector;
+        volume.nEndSector = extents->endSector;
+        volume.nParentId = static_cast<quint8>(extents->diskNumber + PhysicalDriveBase);
+    }
+    if (volume.nSectorCount == 0)
+        takeSizeFromExtents(&volume);
+}
