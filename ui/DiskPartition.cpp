@@ -256,6 +256,7 @@ QFrame *DiskPartition::AddFrame(int place, const VolumeTexts &texts)
         m_apSeparator[static_cast<std::size_t>(place)] = separator;
     }
     m_pFrameColumn->addWidget(frame);
+    frame->show();
     return frame;
 }
 
@@ -266,6 +267,7 @@ QLabel *DiskPartition::AddNotice(const QString &text)
     notice->setFont(style::font(13));
     notice->setStyleSheet(style::BlackLabel);
     m_pFrameColumn->addWidget(notice);
+    notice->show();
     return notice;
 }
 
@@ -280,6 +282,7 @@ void DiskPartition::ForgetFrames()
 void DiskPartition::LayOutFrames(int minimumHeight)
 {
     m_pFrameHost->setMinimumHeight(minimumHeight);
+    m_pFrameHost->layout()->activate();
     m_pScrollArea->verticalScrollBar()->setValue(0);
 }
 

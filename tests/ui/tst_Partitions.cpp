@@ -1,0 +1,419 @@
+#include "app/state/GlobalApp.h"
+#include "app/state/Globals.h"
+#include "app/state/Languages.h"
+#include "smart/DeviceLoad.h"
+#include "tests/platform/DescribedFolder.h"
+#include "ui/DiskPartition.h"
+#include "ui/DonutChartView.h"
+#include "ui/MainWindow.h"
+#include "ui/MyButton.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTranslator>
+#include <QtTest>
+
+#include <cmath>
+
+namespace
+{
+
+/// Marks every text, so that one that went through translation shows.
+class MarkingTranslator : public QTranslator
+{
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char *, const char *source, const char *, int) const override
+    {
+        return QStringLiteral("~") + QString::fromUtf8(source);
+    }
+};
+
+/// Counts the paintings of a widget.
+class PaintCounter : public QObject
+{
+public:
+    explicit PaintCounter(QWidget *widget) { widget->installEventFilter(this); }
+    int count = 0;
+
+protected:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+};
+
+constexpr double VolumeSize = 100.0 * 1024 * 1024 * 1024;
+
+/// The number of volumes on each disk; the last one is removable.
+const QList<int> volumeCounts = {3, 0, 4, 7, 1};
+
+QJsonObject disk(int number)
+{
+    return {{"number", number},
+            {"media", number == volumeCounts.size() - 1 ? "removable" : "fixed"},
+            {"model", "Alpha One ATA Device"},
+            {"interface", "IDE"},
+            {"status", number == 2 ? "Error" : "OK"},
+            {"sectors", 1953525168.0}};
+}
+
+QByteArray description()
+{
+    QJsonArray disks;
+    QJsonArray volumes;
+    QJsonArray partitions;
+    QChar letter = QLatin1Char('C');
+    for (int number = 0; number < volumeCounts.size(); ++number) {
+        disks.append(disk(number));
+        for (int i = 0; i < volumeCounts.at(number); ++i) {
+            const double size = std::floor(VolumeSize / (i + 1) / 4096) * 4096;
+            volumes.append(QJsonObject{
+                {"letter", QString(letter)},
+                {"type", "fixed"},
+                {"fileSystem", "NTFS"},
+                {"size", size},
+                {"free", size / 4},
+                {"bitLocker", i == 0 ? "2.0" : "None"},
+                {"extents", QJsonArray{QJsonObject{
+                                {"disk", number}, {"offset", 1048576.0 * (i + 1)}, {"length", size}}}}});
+            // One partition without a letter on disk 3: from there on the volumes are paired with the line
+            // before their own.
+            if (number == 3 && i == 0)
+                partitions.append(QJsonObject{{"name", "Recovery"}, {"type", "x"}, {"size", 1}, {"disk", 2}});
+            partitions.append(
+                QJsonObject{{"name", "Partition"}, {"type", "x"}, {"size", size}, {"disk", number}});
+            letter = QChar(letter.unicode() + 1);
+        }
+    }
+    const QJsonObject pc{{"name", "Test PC"},
+                         {"user", "tester"},
+                         {"dpi", 96},
+                         {"pauses", false},
+                         {"disks", disks},
+                         {"volumes", volumes},
+                         {"partitions", partitions},
+                         {"processes", QJsonArray{"explorer.exe"}},
+                         {"settings", QJsonObject{{"TempValue", "C"}, {"FirstTimeLaunch", 1}}}};
+    return QJsonDocument(pc).toJson();
+}
+
+} // namespace
+
+/// Disk Partition in the real window, on a PC with disks of all numbers of volumes.
+class tst_Partitions : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void everyDisk_data();
+    void everyDisk();
+    void frames();
+    void shiftedPairing();
+    void nothingStaysOfTheLastDisk();
+    void allFramesCanBeScrolledTo_data();
+    void allFramesCanBeScrolledTo();
+    void framesBeyondTheArrays();
+    void language();
+    void korean();
+    void theRing();
+    void onlyWhatShowsIsPainted();
+
+private:
+    void makeWindow();
+    void select(int number);
+    void press(const char *button);
+    void setLanguageChange();
+    QStringList texts(const char *label) const;
+    DiskPartition *page() const { return m_pWindow->findChild<DiskPartition *>(); }
+
+    std::unique_ptr<DescribedFolder> m_pFolder;
+    std::unique_ptr<MainWindow> m_pWindow;
+    MarkingTranslator m_translator;
+};
+
+void tst_Partitions::initTestCase()
+{
+    Q_INIT_RESOURCE(images);
+    g_App.m_bUse64BitTool = true;
+}
+
+void tst_Partitions::init()
+{
+    g_App.m_fScale = 1.0F;
+    languages::setFlag(0);
+    m_pFolder = std::make_unique<DescribedFolder>();
+    auto pc = m_pFolder->open(description());
+    g_App.m_strSystemFolder = pc->GetSystemDirectoryW();
+    Platform::install(std::move(pc));
+    g_App.m_strSettingsPath = QStringLiteral("HKEY_LOCAL_MACHINE\\Software\\Velmora Halvane for Windows");
+    g_strStartArgument.clear();
+    deviceload::loadLists();
+    makeWindow();
+}
+
+void tst_Partitions::cleanup()
+{
+    QCoreApplication::removeTranslator(&m_translator);
+    m_pWindow.reset();
+    m_pFolder.reset();
+}
+
+void tst_Partitions::makeWindow()
+{
+    m_pWindow = std::make_unique<MainWindow>();
+    m_pWindow->show();
+    auto *busy = m_pWindow->findChild<QFrame *>(QStringLiteral("GifFrame"));
+    QTRY_VERIFY_WITH_TIMEOUT(!busy->isVisible(), 10000);
+    press("DiskPartitionButton");
+}
+
+void tst_Partitions::select(int number)
+{
+    auto *combo = m_pWindow->findChild<QComboBox *>(QStringLiteral("DriveCombobox"));
+    const int index = combo->findData(PhysicalDriveBase + number);
+    QVERIFY(index >= 0);
+    combo->setCurrentIndex(index);
+    emit combo->activated(index);
+    QCoreApplication::processEvents();
+}
+
+void tst_Partitions::press(const char *button)
+{
+    auto *pressed = m_pWindow->findChild<MyButton *>(QLatin1String(button));
+    QTest::mousePress(pressed, Qt::LeftButton);
+    QTest::mouseRelease(pressed, Qt::LeftButton);
+}
+
+QStringList tst_Partitions::texts(const char *label) const
+{
+    QStringList found;
+    for (const QFrame *frame : page()->m_pFrameHost->findChildren<QFrame *>(QStringLiteral("m_apFrame"))) {
+        const auto *child = frame->findChild<QLabel *>(QLatin1String(label));
+        found.append(child ? child->text() : QString());
+    }
+    return found;
+}
+
+void tst_Partitions::everyDisk_data()
+{
+    QTest::addColumn<int>("number");
+    for (int number = 0; number < volumeCounts.size(); ++number)
+        QTest::addRow("%d volumes", volumeCounts.at(number)) << number;
+}
+
+void tst_Partitions::everyDisk()
+{
+    QFETCH(int, number);
+    const int count = volumeCounts.at(number);
+    // Both ways past the disk, so that it does not rest on what showed before.
+    select(3);
+    select(number);
+    QCOMPARE(texts("m_apVolumeName").size(), count);
+    QCOMPARE(page()->m_listSizes.size(), count);
+
+    QVariantList values;
+    for (const qint64 size : qAsConst(page()->m_listSizes))
+        values.append(static_cast<double>(size));
+    QCOMPARE(page()->m_pDonutView->sliceValues(), count > 0 ? values : QVariantList{12.0});
+    QCOMPARE(g_bNoPartitions, count == 0);
+    const auto *notice = page()->findChild<QLabel *>(QStringLiteral("m_pNoPartition"));
+    QCOMPARE(notice != nullptr, count == 0);
+    if (notice)
+        QCOMPARE(notice->text(), QStringLiteral("No Partition Found"));
+
+    const QScrollBar *bar = page()->m_pScrollArea->verticalScrollBar();
+    QCOMPARE(bar->isVisible(), count >= 4);
+    QCOMPARE(bar->isEnabled(), count >= 4);
+    QCOMPARE(page()->m_pFrameHost->minimumHeight(), 300);
+}
+
+void tst_Partitions::frames()
+{
+    select(0);
+    QCOMPARE(texts("m_apPartitionTitle"), (QStringList{"Partition", "Partition", "Partition"}));
+    QCOMPARE(texts("m_apVolumeName"), (QStringList{"C: (NTFS)(BitLocker)", "D: (NTFS)", "E: (NTFS)"}));
+    QCOMPARE(texts("m_apSpaceValue"),
+             (QStringList{"25 GB Free of 100 GB", "12.5 GB Free of 50 GB", "8.3 GB Free of 33.3 GB"}));
+    QCOMPARE(texts("m_apPercentage").first(), QStringLiteral("25% Free"));
+    QCOMPARE(texts("m_apSpaceTitle").first(), QStringLiteral("Space"));
+    QCOMPARE(texts("m_apBlankLabel").first(), QString());
+    // Each letter begins at the first place again.
+    QVERIFY(page()->m_apFrame[0]);
+    QVERIFY(!page()->m_apFrame[1]);
+    QCOMPARE(page()->m_apVolumeName[0]->text(), QStringLiteral("E: (NTFS)"));
+    QCOMPARE(page()->m_apSeparator[0]->size(), QSize(1, 32));
+    for (const QFrame *frame : page()->m_pFrameHost->findChildren<QFrame *>(QStringLiteral("m_apFrame"))) {
+        QCOMPARE(frame->height(), 50);
+        QCOMPARE(frame->styleSheet(), QStringLiteral(".QFrame{ border: 1px solid #e0d0e0;}"));
+    }
+}
+
+void tst_Partitions::shiftedPairing()
+{
+    select(2);
+    QCOMPARE(texts("m_apStatusValue").first(), QStringLiteral("Not Healthy"));
+    // Its first volume is paired with a partition of the disk before, which is not healthy.
+    select(3);
+    QStringList words{"Not Healthy"};
+    for (int i = 1; i < volumeCounts.at(3); ++i)
+        words.append(QStringLiteral("Healthy"));
+    QCOMPARE(texts("m_apStatusValue"), words);
+    // The list of a disk's volumes does not rest on the pairing.
+    select(4);
+    QCOMPARE(texts("m_apVolumeName"), QStringList{"Q: (NTFS)(BitLocker)"});
+}
+
+void tst_Partitions::nothingStaysOfTheLastDisk()
+{
+    select(3);
+    QScrollBar *bar = page()->m_pScrollArea->verticalScrollBar();
+    bar->setValue(bar->maximum());
+    QVERIFY(bar->value() > 0);
+    select(0);
+    QCOMPARE(bar->value(), 0);
+    QVERIFY(page()->m_pFrameHost->visibleRegion().boundingRect().top() == 0);
+    select(1);
+    QVERIFY(!page()->m_apFrame[0]);
+    QVERIFY(!page()->m_apPercentage[0]);
+    QVERIFY(!page()->m_apSeparator[0]);
+}
+
+void tst_Partitions::allFramesCanBeScrolledTo_data()
+{
+    QTest::addColumn<float>("scaleFactor");
+    QTest::newRow("1.0") << 1.0F;
+    QTest::newRow("1.25") << 1.25F;
+    QTest::newRow("1.5") << 1.5F;
+}
+
+void tst_Partitions::allFramesCanBeScrolledTo()
+{
+    QFETCH(float, scaleFactor);
+    m_pWindow.reset();
+    g_App.m_fScale = scaleFactor;
+    makeWindow();
+    select(3);
+    int bottom = 0;
+    for (const QFrame *frame : page()->m_pFrameHost->findChildren<QFrame *>(QStringLiteral("m_apFrame"))) {
+        QVERIFY(frame->y() > bottom);
+        QCOMPARE(frame->height(), static_cast<int>(50 * scaleFactor));
+        bottom = frame->geometry().bottom();
+    }
+    QVERIFY(bottom < page()->m_pFrameHost->height());
+    // The wheel reaches the last one, but moves nothing where there is no bar.
+    QScrollBar *bar = page()->m_pScrollArea->verticalScrollBar();
+    const auto turn = [this] {
+        QWidget *viewport = page()->m_pScrollArea->viewport();
+        for (int i = 0; i < 20; ++i) {
+            QWheelEvent event(QPointF(5, 5), viewport->mapToGlobal(QPoint(5, 5)), QPoint(), QPoint(0, -120),
+                              Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+            QCoreApplication::sendEvent(viewport, &event);
+        }
+    };
+    turn();
+    QCOMPARE(bar->value(), bar->maximum());
+    select(0);
+    turn();
+    QCOMPARE(bar->value(), 0);
+    // All three show without it.
+    const auto *last = page()->m_pFrameHost->findChildren<QFrame *>(QStringLiteral("m_apFrame")).last();
+    QCOMPARE(last->visibleRegion().boundingRect(), last->rect());
+}
+
+void tst_Partitions::framesBeyondTheArrays()
+{
+    QList<QFrame *> made;
+    for (const int place : {-1, 0, 39, 40, 1000})
+        made.append(page()->AddFrame(place, {}));
+    QCOMPARE(page()->m_apFrame[39], made.at(2));
+    page()->ForgetFrames();
+    qDeleteAll(made);
+}
+
+void tst_Partitions::setLanguageChange()
+{
+    QCoreApplication::installTranslator(&m_translator);
+    QCoreApplication::processEvents();
+}
+
+void tst_Partitions::language()
+{
+    setLanguageChange();
+    QCOMPARE(texts("m_apVolumeName").first(), QStringLiteral("C: (NTFS)~(BitLocker)"));
+    QCOMPARE(texts("m_apSpaceValue").first(), QStringLiteral("25 GB~ Free of 100 GB"));
+    QCOMPARE(texts("m_apPercentage").first(), QStringLiteral("25~% Free"));
+    QCOMPARE(texts("m_apSpaceTitle").first(), QStringLiteral("~Space"));
+    // A selection writes the mark as it is.
+    select(0);
+    QCOMPARE(texts("m_apVolumeName").first(), QStringLiteral("C: (NTFS)(BitLocker)"));
+
+    // On another screen the frames stay as they are until the screen shows again.
+    press("ScanDiskButton");
+    QCoreApplication::removeTranslator(&m_translator);
+    QCoreApplication::processEvents();
+    QCOMPARE(texts("m_apSpaceTitle").first(), QStringLiteral("~Space"));
+    press("DiskPartitionButton");
+    QCOMPARE(texts("m_apSpaceTitle").first(), QStringLiteral("Space"));
+}
+
+void tst_Partitions::korean()
+{
+    languages::setFlag(7);
+    select(0);
+    QCOMPARE(texts("m_apSpaceValue").first(), QStringLiteral("25 GB Free of 100 GB Available"));
+    languages::setFlag(0);
+}
+
+void tst_Partitions::theRing()
+{
+    select(0);
+    DonutChartView *view = page()->m_pDonutView;
+    QCOMPARE(view->m_listRegions.size(), 3);
+    const int side = std::min(view->width() / 2, view->height());
+    QVERIFY(view->width() >= 300);
+    QVERIFY(view->height() >= 143);
+    const QPoint centre(view->width() / 4 + 10, view->height() / 2);
+    const int middle = (side / 4 + side / 2 - 20) / 2; // between the hole and the edge
+    // Counter-clockwise from the right: 100 : 50 : 33.
+    QCOMPARE(view->m_pImage->pixelColor(centre + QPoint(0, -middle)), QColor(29, 207, 250));
+    QCOMPARE(view->m_pImage->pixelColor(centre + QPoint(-middle, middle / 2)), QColor(0, 140, 249));
+    QCOMPARE(view->m_pImage->pixelColor(centre + QPoint(middle, middle / 4)), QColor(16, 164, 193));
+    QCOMPARE(view->m_pImage->pixelColor(centre), QColor(Qt::white));
+    QCOMPARE(view->m_pImage->pixelColor(0, 0), QColor(Qt::white));
+
+    page()->m_listSizes.clear();
+    for (int i = 0; i < 14; ++i)
+        page()->m_listSizes.append(1);
+    page()->ShowSizes();
+    const double last = 13.5 / 14 * 2 * M_PI;
+    const QPointF place(middle * std::cos(last), -middle * std::sin(last));
+    QCOMPARE(view->m_pImage->pixelColor(centre + place.toPoint()), QColor(29, 207, 250));
+
+    page()->m_listSizes.clear();
+    page()->ShowSizes();
+    for (const QPoint &direction : {QPoint(1, 0), QPoint(0, -1), QPoint(-1, 0), QPoint(0, 1)})
+        QCOMPARE(view->m_pImage->pixelColor(centre + direction * middle), QColor(188, 188, 188));
+}
+
+void tst_Partitions::onlyWhatShowsIsPainted()
+{
+    PaintCounter counter(page()->m_pDonutView);
+    QTRY_VERIFY(counter.count > 5);
+    press("ScanDiskButton");
+    QCoreApplication::processEvents();
+    const int before = counter.count;
+    QTest::qWait(100);
+    QCOMPARE(counter.count, before);
+}
+
+QTEST_MAIN(tst_Partitions)
+#include "tst_Partitions.moc"
