@@ -143,6 +143,8 @@ void DonutChartView::paintEvent(QPaintEvent *event)
         painter.setPen(QColor(47, 47, 47));
         painter.drawText(rect, Qt::AlignCenter, tr("Disk ") + QString::number(g_nCurrentDiskIndex));
     }
-    // While it shows it is painted anew without end; a hidden widget takes no notice of this.
-    update();
+    // While it shows it is painted anew without end. A hidden widget takes no notice of this by itself, one
+    // in a minimised window might.
+    if (!window()->isMinimized())
+        update();
 }

@@ -408,6 +408,13 @@ void tst_Partitions::onlyWhatShowsIsPainted()
 {
     PaintCounter counter(page()->m_pDonutView);
     QTRY_VERIFY(counter.count > 5);
+    m_pWindow->showMinimized();
+    QTest::qWait(50);
+    const int minimised = counter.count;
+    QTest::qWait(100);
+    QCOMPARE(counter.count, minimised);
+    m_pWindow->showNormal();
+    QTRY_VERIFY(counter.count > minimised + 5);
     press("ScanDiskButton");
     QCoreApplication::processEvents();
     const int before = counter.count;

@@ -15,6 +15,7 @@
 #include "ui/DestinitionWarning.h"
 #include "ui/DiskPartition.h"
 #include "ui/DiskStatus.h"
+#include "ui/DonutChartView.h"
 #include "ui/Images.h"
 #include "ui/InfoDialogClass.h"
 #include "ui/MyButton.h"
@@ -450,6 +451,9 @@ void MainWindow::changeEvent(QEvent *event)
             companion::start(companion::StartBy::FullPath);
         }
     }
+    // A minimised window's ring rests.
+    if (event->type() == QEvent::WindowStateChange && m_pDiskPartitionPage)
+        m_pDiskPartitionPage->m_pDonutView->update();
     QMainWindow::changeEvent(event);
 }
 
