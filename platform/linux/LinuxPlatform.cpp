@@ -335,7 +335,10 @@ void LinuxPlatform::Sleep(quint32 milliseconds)
 
 DeviceNotifier *LinuxPlatform::deviceNotifier()
 {
-    return &m_notifier;
+    if (!m_watch)
+        m_watch = std::make_unique<VolumeWatch>(onlyNodes());
+    m_watch->start();
+    return m_watch.get();
 }
 
 std::optional<DeviceChange> LinuxPlatform::decodeDeviceMessage(const QByteArray &, void *)

@@ -4,6 +4,7 @@
 #include "platform/linux/LsblkInventory.h"
 #include "platform/linux/RawDevice.h"
 #include "platform/linux/SleepInhibitor.h"
+#include "platform/linux/VolumeWatch.h"
 #include "platform/tools/CommandInterpreter.h"
 
 #include <QHash>
@@ -66,6 +67,8 @@ private:
     };
 
     void addTools();
+    /// The nodes of HALVANE_DISKS by their real names; empty where the disks are those of the machine.
+    static QStringList onlyNodes();
     /// The program that a file name stands for, with or without ".exe": a path, or a name beside the program
     /// or in the search path. Empty if there is none.
     static QString findProgram(const QString &file);
@@ -82,5 +85,6 @@ private:
     RawHandle m_nextHandle = 1;
     tools::CommandInterpreter m_interpreter;
     SleepInhibitor m_inhibitor;
-    DeviceNotifier m_notifier;
+    std::unique_ptr<VolumeWatch>
+        m_watch; ///< made when it is first asked for, as it belongs to the main thread
 };

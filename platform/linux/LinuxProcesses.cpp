@@ -8,6 +8,7 @@
 #include <QDesktopServices>
 #include <QFileInfo>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QStandardPaths>
 #include <QStorageInfo>
 #include <QUrl>
@@ -15,8 +16,41 @@
 namespace
 {
 
-/// The nodes of HALVANE_DISKS by their real names.
-QStringList onlyNodes()
+QByteArray outputOf(const QString &tool, const QStringList &arguments)
+{
+    const QString program = linuxtools::find(tool);
+    if (program.isEmpty())
+        return {};
+    QProcess process;
+    process.setStandardErrorFile(QProcess::nullDevice());
+    process.start(program, arguments, QIODevice::ReadOnly);
+    process.waitForFinished(-1);
+    return process.readAllStandardOutput();
+}
+
+/// lsblk knows file systems from udev alone. Where none runs, the volume itself is asked, and where it may
+/// not be read, the mount.
+void identifyFileSystem(inventory::Volume &volume, const QString &node, const QStorageInfo &storage)
+{
+    static const QRegularExpression escape(QStringLiteral("\\\\(.)"));
+    QHash<QString, QString> found;
+    const QString told =
+        QString::fromUtf8(outputOf(QStringLiteral("blkid"), {QStringLiteral("-p"), QStringLiteral("-o"),
+                                                             QStringLiteral("export"), node}));
+    for (QString line : told.split(QLatin1Char('\n'))) {
+        line.replace(escape, QStringLiteral("\\1"));
+        found.insert(line.section(QLatin1Char('='), 0, 0), line.section(QLatin1Char('='), 1));
+    }
+    const QString type =
+        found.value(QStringLiteral("TYPE"), QString::fromLocal8Bit(storage.fileSystemType()));
+    volume.fileSystem = lsblk::fileSystemName(type, found.value(QStringLiteral("VERSION")));
+    if (volume.label.isEmpty())
+        volume.label = found.value(QStringLiteral("LABEL"));
+}
+
+} // namespace
+
+QStringList LinuxPlatform::onlyNodes()
 {
     QStringList nodes;
     for (const QString &node :
@@ -27,26 +61,21 @@ QStringList onlyNodes()
     return nodes;
 }
 
-QByteArray runLsblk()
-{
-    QProcess process;
-    process.setStandardErrorFile(QProcess::nullDevice());
-    process.start(QStringLiteral("lsblk"), lsblk::arguments(), QIODevice::ReadOnly);
-    process.waitForFinished(-1);
-    return process.readAllStandardOutput();
-}
-
-} // namespace
-
 lsblk::Inventory LinuxPlatform::readPc()
 {
-    lsblk::Inventory read = lsblk::parse(runLsblk(), onlyNodes());
+    lsblk::Inventory previous;
+    {
+        const std::lock_guard<std::mutex> guard(m_mutex);
+        previous = m_pc.value_or(lsblk::Inventory());
+    }
+    lsblk::Inventory read =
+        lsblk::parse(outputOf(QStringLiteral("lsblk"), lsblk::arguments()), onlyNodes(), previous);
     for (inventory::Volume &volume : read.machine.volumes) {
         const QStorageInfo storage(volume.mountPoint);
         volume.size = static_cast<quint64>(std::max<qint64>(0, storage.bytesTotal()));
         volume.free = static_cast<quint64>(std::max<qint64>(0, storage.bytesFree()));
         if (volume.fileSystem.isEmpty())
-            volume.fileSystem = QString::fromLocal8Bit(storage.fileSystemType());
+            identifyFileSystem(volume, read.volumeNodes.value(volume.letter), storage);
     }
     for (inventory::Disk &disk : read.machine.disks) {
         if (disk.sectors != 0)

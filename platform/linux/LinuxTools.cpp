@@ -42,19 +42,9 @@ QString imageOf(const QString &processNumber)
     return name.open(QIODevice::ReadOnly) ? QString::fromLocal8Bit(name.readAll()).trimmed() : QString();
 }
 
-QString findSystemTool(const QString &name)
-{
-    const QString found = QStandardPaths::findExecutable(name);
-    // Users other than root often lack these folders in their path.
-    return found.isEmpty()
-               ? QStandardPaths::findExecutable(name, {QStringLiteral("/usr/local/sbin"),
-                                                       QStringLiteral("/usr/sbin"), QStringLiteral("/sbin")})
-               : found;
-}
-
 QByteArray runTool(const QString &name, const QStringList &arguments)
 {
-    const QString program = findSystemTool(name);
+    const QString program = find(name);
     if (program.isEmpty())
         return {};
     QProcess process;
@@ -69,6 +59,16 @@ QByteArray runTool(const QString &name, const QStringList &arguments)
 }
 
 } // namespace
+
+QString find(const QString &name)
+{
+    const QString found = QStandardPaths::findExecutable(name);
+    // Users other than root often lack these folders in their path.
+    return found.isEmpty()
+               ? QStandardPaths::findExecutable(name, {QStringLiteral("/usr/local/sbin"),
+                                                       QStringLiteral("/usr/sbin"), QStringLiteral("/sbin")})
+               : found;
+}
 
 QStringList processes()
 {

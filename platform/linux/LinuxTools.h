@@ -9,6 +9,10 @@
 namespace linuxtools
 {
 
+/// The path of an installed tool, in the search path or where the system keeps those of root; empty if it is
+/// not installed.
+QString find(const QString &name);
+
 /// The image names of the running processes, each with ".exe" behind it as the program knows its companion.
 QStringList processes();
 

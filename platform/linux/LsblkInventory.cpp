@@ -181,15 +181,23 @@ QVector<QJsonObject> chooseDisks(const QJsonArray &devices, const QStringList &o
     return disks;
 }
 
-QString fileSystemName(const QJsonObject &device)
+/// Numbers for disks that stand in the order of a first look.
+QVector<int> numbersOf(const QVector<QJsonObject> &disks, const QVector<Disk> &previous)
 {
-    const QString kernel = text(device, "fstype");
-    for (const FileSystemName &known : FileSystemNames) {
-        const QString version = QLatin1String(known.version);
-        if (kernel == QLatin1String(known.kernel) && (version.isEmpty() || version == text(device, "fsver")))
-            return QLatin1String(known.name);
+    QHash<QString, int> known;
+    for (const Disk &disk : previous)
+        known.insert(disk.node, disk.number);
+    QVector<int> numbers;
+    for (const QJsonObject &device : disks)
+        numbers.append(known.value(text(device, "path"), -1));
+    int next = 0;
+    for (int &number : numbers) {
+        while (number < 0 && numbers.contains(next))
+            ++next;
+        if (number < 0)
+            number = next;
     }
-    return kernel;
+    return numbers;
 }
 
 /// Gathers the mounted volumes of the device trees.
@@ -214,15 +222,27 @@ public:
     }
 
     /// The volumes with their letters.
-    void finish(Inventory &result) const
+    void finish(const Inventory &previous, Inventory &result) const
     {
-        char letter = 'C';
-        // The map is sorted by mount point, so that "/" comes first where it is there.
-        if (!m_volumes.contains(QStringLiteral("/")))
-            ++letter;
-        for (auto it = m_volumes.cbegin(); it != m_volumes.cend() && letter <= 'Z'; ++it, ++letter) {
+        QMap<QString, QChar> letters; // by mount point
+        for (const Volume &volume : previous.machine.volumes) {
+            const QString node = previous.volumeNodes.value(volume.letter);
+            if (m_volumes.contains(volume.mountPoint) && m_nodes.value(volume.mountPoint) == node)
+                letters.insert(volume.mountPoint, volume.letter);
+        }
+        if (m_volumes.contains(QStringLiteral("/")))
+            letters.insert(QStringLiteral("/"), QLatin1Char('C'));
+        const QList<QChar> kept = letters.values();
+        char next = 'D';
+        for (auto it = m_volumes.cbegin(); it != m_volumes.cend(); ++it) {
+            while (next <= 'Z' && kept.contains(QLatin1Char(next)))
+                ++next;
+            if (!letters.contains(it.key()) && next <= 'Z')
+                letters.insert(it.key(), QLatin1Char(next++));
+            if (!letters.contains(it.key()))
+                continue;
             Volume volume = it.value();
-            volume.letter = QLatin1Char(letter);
+            volume.letter = letters.value(it.key());
             result.volumeNodes.insert(volume.letter, m_nodes.value(it.key()));
             result.machine.volumes.append(volume);
         }
@@ -235,13 +255,16 @@ private:
     void add(const QJsonObject &device, const QString &point, const Extent &extent, const QString &holder,
              bool removable)
     {
+        const QString node = text(device, "path");
+        if (m_nodes.value(point, node) != node)
+            return; // one folder bears one volume
         Volume &volume = m_volumes[point];
         volume.extents.append(extent);
         if (volume.extents.size() > 1)
             return; // a volume over several disks comes once for each of them
         volume.mountPoint = point;
         volume.label = text(device, "label");
-        volume.fileSystem = fileSystemName(device);
+        volume.fileSystem = fileSystemName(text(device, "fstype"), text(device, "fsver"));
         volume.hasBitLockerLine = true;
         volume.bitLocker =
             holder == QLatin1String("BitLocker") ? QStringLiteral("2.0") : QStringLiteral("None");
@@ -250,7 +273,7 @@ private:
             volume.type = QStringLiteral("cdrom");
         else if (removable)
             volume.type = QStringLiteral("removable");
-        m_nodes.insert(point, text(device, "path"));
+        m_nodes.insert(point, node);
     }
 
     QMap<QString, Volume> m_volumes; ///< by mount point
@@ -282,11 +305,12 @@ struct FoundPartition {
     QString tableType;
 };
 
-QVector<FoundPartition> findPartitions(const QVector<QJsonObject> &disks)
+QVector<FoundPartition> findPartitions(const QVector<QJsonObject> &disks, const QVector<int> &numbers)
 {
     QVector<FoundPartition> found;
-    for (int disk = 0; disk < disks.size(); ++disk) {
-        const QJsonObject &device = disks.at(disk);
+    for (int i = 0; i < disks.size(); ++i) {
+        const QJsonObject &device = disks.at(i);
+        const int disk = numbers.at(i);
         QVector<FoundPartition> ofDisk;
         for (const QJsonValue &value : children(device)) {
             const QJsonObject child = value.toObject();
@@ -297,17 +321,16 @@ QVector<FoundPartition> findPartitions(const QVector<QJsonObject> &disks)
             ofDisk.append({device, disk, 0, 0, QString()});
         std::sort(ofDisk.begin(), ofDisk.end(),
                   [](const auto &left, const auto &right) { return left.offset < right.offset; });
-        for (int i = 0; i < ofDisk.size(); ++i)
-            ofDisk[i].index = i;
+        for (int index = 0; index < ofDisk.size(); ++index)
+            ofDisk[index].index = index;
         found += ofDisk;
     }
     return found;
 }
 
 /// The system partition is the one that the machine starts from, else the one that "/" lies on.
-void addPartitions(const QVector<QJsonObject> &disks, const Extent &systemExtent, Inventory &result)
+void addPartitions(const QVector<FoundPartition> &found, const Extent &systemExtent, Inventory &result)
 {
-    const QVector<FoundPartition> found = findPartitions(disks);
     const bool hasEfi = std::any_of(found.cbegin(), found.cend(),
                                     [](const FoundPartition &item) { return isEfiSystem(item.device); });
     for (const FoundPartition &item : found) {
@@ -333,18 +356,34 @@ QStringList arguments()
                 "MOUNTPOINTS,PTTYPE,PARTTYPE")};
 }
 
-Inventory parse(const QByteArray &json, const QStringList &onlyNodes)
+QString fileSystemName(const QString &kernelName, const QString &version)
+{
+    for (const FileSystemName &known : FileSystemNames) {
+        const QString knownVersion = QLatin1String(known.version);
+        if (kernelName == QLatin1String(known.kernel) && (knownVersion.isEmpty() || knownVersion == version))
+            return QLatin1String(known.name);
+    }
+    return kernelName;
+}
+
+Inventory parse(const QByteArray &json, const QStringList &onlyNodes, const Inventory &previous)
 {
     const QJsonArray devices =
         QJsonDocument::fromJson(json).object().value(QLatin1String("blockdevices")).toArray();
     const QVector<QJsonObject> disks = chooseDisks(devices, onlyNodes);
+    // A list of nodes tells the numbers itself.
+    const QVector<int> numbers =
+        numbersOf(disks, onlyNodes.isEmpty() ? previous.machine.disks : QVector<Disk>());
 
     Inventory result;
     VolumeCollector volumes;
     for (int i = 0; i < disks.size(); ++i) {
-        result.machine.disks.append(toDisk(disks.at(i), i));
-        volumes.collect(disks.at(i), {i, 0, number(disks.at(i), "size")}, QString(), flag(disks.at(i), "rm"));
+        const QJsonObject &device = disks.at(i);
+        result.machine.disks.append(toDisk(device, numbers.at(i)));
+        volumes.collect(device, {numbers.at(i), 0, number(device, "size")}, QString(), flag(device, "rm"));
     }
+    std::sort(result.machine.disks.begin(), result.machine.disks.end(),
+              [](const Disk &left, const Disk &right) { return left.number < right.number; });
     if (onlyNodes.isEmpty()) {
         // A disc lies on no disk of the list.
         for (const QJsonValue &value : devices) {
@@ -352,8 +391,8 @@ Inventory parse(const QByteArray &json, const QStringList &onlyNodes)
                 volumes.collect(value.toObject(), {-1, 0, 0}, QString(), true);
         }
     }
-    volumes.finish(result);
-    addPartitions(disks, volumes.systemExtent(), result);
+    volumes.finish(previous, result);
+    addPartitions(findPartitions(disks, numbers), volumes.systemExtent(), result);
     return result;
 }
 

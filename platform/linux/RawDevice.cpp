@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdint>
 #include <cstring>
 #include <fcntl.h>
 #include <linux/fs.h>
@@ -33,6 +34,31 @@ bool transferAll(Call call, int descriptor, Byte *bytes, qint64 count, qint64 of
     return true;
 }
 
+#ifndef BLKGETDISKSEQ
+constexpr unsigned long DiskSequence = _IOR(0x12, 128, std::uint64_t);
+#else
+constexpr unsigned long DiskSequence = BLKGETDISKSEQ;
+#endif
+
+/// Whether both descriptors are of one medium: a node can be taken over by another disk while it is open.
+bool isSameMedium(int left, int right)
+{
+    std::uint64_t numbers[2] = {};
+    if (ioctl(left, DiskSequence, &numbers[0]) == 0 && ioctl(right, DiskSequence, &numbers[1]) == 0)
+        return numbers[0] == numbers[1];
+    std::uint64_t sizes[2] = {};
+    return ioctl(left, BLKGETSIZE64, &sizes[0]) == 0 && ioctl(right, BLKGETSIZE64, &sizes[1]) == 0 &&
+           sizes[0] == sizes[1];
+}
+
+bool mayWrite(int descriptor, const QByteArray &path, bool isBlock)
+{
+    int readOnly = 0;
+    if (isBlock && ioctl(descriptor, BLKROGET, &readOnly) == 0 && readOnly != 0)
+        return false;
+    return faccessat(AT_FDCWD, path.constData(), W_OK, AT_EACCESS) == 0;
+}
+
 int openNode(const QByteArray &path, int flags)
 {
     return ::open(path.constData(), flags | O_CLOEXEC | O_NOCTTY | O_NONBLOCK);
@@ -43,24 +69,25 @@ int openNode(const QByteArray &path, int flags)
 std::unique_ptr<RawDevice> RawDevice::open(const QString &node, bool writable)
 {
     const QByteArray path = QFile::encodeName(node);
-    const int access = writable ? O_RDWR : O_RDONLY;
     struct stat status = {};
     const bool isBlock = stat(path.constData(), &status) == 0 && S_ISBLK(status.st_mode);
-    int descriptor = openNode(path, isBlock ? access | O_DIRECT : access);
+    int descriptor = openNode(path, isBlock ? O_RDONLY | O_DIRECT : O_RDONLY);
     const bool direct = isBlock && descriptor >= 0;
     if (isBlock && descriptor < 0 && errno == EINVAL)
-        descriptor = openNode(path, access);
+        descriptor = openNode(path, O_RDONLY);
     if (descriptor < 0)
         return nullptr;
     // The node may have changed under the name.
-    if (fstat(descriptor, &status) != 0 || !(isBlock ? S_ISBLK(status.st_mode) : S_ISREG(status.st_mode))) {
+    if (fstat(descriptor, &status) != 0 || !(isBlock ? S_ISBLK(status.st_mode) : S_ISREG(status.st_mode)) ||
+        (writable && !mayWrite(descriptor, path, isBlock))) {
         ::close(descriptor);
         return nullptr;
     }
-    return std::unique_ptr<RawDevice>(new RawDevice(descriptor, direct));
+    return std::unique_ptr<RawDevice>(new RawDevice(descriptor, direct, writable));
 }
 
-RawDevice::RawDevice(int descriptor, bool direct) : m_descriptor(descriptor), m_direct(direct)
+RawDevice::RawDevice(int descriptor, bool direct, bool writable)
+    : m_descriptor(descriptor), m_direct(direct), m_mayWrite(writable)
 {
     struct stat status = {};
     fstat(m_descriptor, &status);
@@ -159,12 +186,31 @@ qint64 RawDevice::read(void *buffer, quint32 bytes)
     return wanted;
 }
 
+bool RawDevice::openForWriting()
+{
+    if (m_written || !m_mayWrite)
+        return m_written;
+    // By the open descriptor: the name may lead elsewhere by now.
+    const QByteArray node = "/proc/self/fd/" + QByteArray::number(m_descriptor);
+    const int descriptor = openNode(node, m_direct ? O_RDWR | O_DIRECT : O_RDWR);
+    struct stat status = {};
+    const bool isBlock = descriptor >= 0 && fstat(descriptor, &status) == 0 && S_ISBLK(status.st_mode);
+    if (descriptor < 0 || (isBlock && !isSameMedium(m_descriptor, descriptor))) {
+        if (descriptor >= 0)
+            ::close(descriptor);
+        return false;
+    }
+    ::close(m_descriptor);
+    m_descriptor = descriptor;
+    m_written = true;
+    return true;
+}
+
 qint64 RawDevice::write(const void *buffer, quint32 bytes)
 {
     const qint64 wanted = bytesToEnd(bytes);
-    if (wanted <= 0)
+    if (wanted <= 0 || !openForWriting())
         return -1;
-    m_written = true;
     const auto *in = static_cast<const char *>(buffer);
     const bool done = passes(buffer, wanted) ? transferAll(pwrite, m_descriptor, in, wanted, m_position)
                                              : writeThroughBuffer(in, wanted);

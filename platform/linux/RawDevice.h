@@ -7,11 +7,14 @@
 
 /// An open block device or image file. Never makes a file and never writes by itself. Block devices are read
 /// and written past the page cache, so that a read comes from the medium and a failed write is told at once.
+/// The node is open for reading only until the first write(): closing a node that was open for writing makes
+/// the system look at its partitions and file systems anew, which looking at a disk must not set off.
 /// One thread at a time.
 class RawDevice
 {
 public:
-    /// Null if the node cannot be opened as asked.
+    /// Null if the node cannot be opened for reading, or with `writable` if this process may not write it or
+    /// the kernel holds it read-only.
     static std::unique_ptr<RawDevice> open(const QString &node, bool writable);
     ~RawDevice();
     RawDevice(const RawDevice &) = delete;
@@ -25,6 +28,8 @@ public:
     /// Transfers up to `bytes`, cut at the end of the device; -1 on failure or at the end. Moves the position
     /// by what was transferred.
     qint64 read(void *buffer, quint32 bytes);
+    /// The first call opens the node for writing; -1 too where that fails, or where another device stands
+    /// behind the node by now.
     qint64 write(const void *buffer, quint32 bytes);
 
 private:
@@ -32,7 +37,8 @@ private:
         void operator()(char *memory) const { std::free(memory); }
     };
 
-    RawDevice(int descriptor, bool direct);
+    RawDevice(int descriptor, bool direct, bool writable);
+    bool openForWriting();
     qint64 bytesToEnd(quint32 bytes) const;
     /// Whether a transfer can go without the aligned buffer.
     bool passes(const void *buffer, qint64 bytes) const;
@@ -42,7 +48,8 @@ private:
 
     int m_descriptor;
     bool m_direct; ///< past the page cache: memory, offsets and lengths are multiples of a sector
-    bool m_written = false;
+    bool m_mayWrite;
+    bool m_written = false; ///< the descriptor is one for writing
     std::unique_ptr<char, Free> m_buffer;
     qint64 m_size = 0;
     quint32 m_bytesPerSector = 512;

@@ -1,6 +1,7 @@
 #include "platform/IoControl.h"
 #include "platform/NativePlatform.h"
 #include "platform/linux/LinuxTools.h"
+#include "tests/support/LoopDevice.h"
 
 #include <QDir>
 #include <QFile>
@@ -17,44 +18,6 @@ namespace
 constexpr int Sectors = 2049;
 constexpr int SectorSize = 512;
 const QString FirstDisk = QStringLiteral("\\\\.\\PHYSICALDRIVE0");
-
-bool runs(const QString &program, const QStringList &arguments, QByteArray *output = nullptr)
-{
-    QProcess process;
-    process.start(program, arguments);
-    const bool ended = process.waitForFinished() && process.exitStatus() == QProcess::NormalExit;
-    if (output)
-        *output = process.readAllStandardOutput().trimmed();
-    return ended && process.exitCode() == 0;
-}
-
-/// A loop device on an image of the test's own.
-class LoopDevice
-{
-public:
-    explicit LoopDevice(const QString &image, const QStringList &options = {})
-    {
-        QByteArray node;
-        const QStringList arguments =
-            options + QStringList{QStringLiteral("-f"), QStringLiteral("--show"), image};
-        // Another program may take the free device first.
-        for (int attempt = 0; attempt < 5 && m_node.isEmpty() && geteuid() == 0; ++attempt) {
-            if (runs(QStringLiteral("losetup"), arguments, &node))
-                m_node = QString::fromLatin1(node);
-        }
-    }
-    ~LoopDevice()
-    {
-        if (!m_node.isEmpty())
-            runs(QStringLiteral("losetup"), {QStringLiteral("-d"), m_node});
-    }
-    LoopDevice(const LoopDevice &) = delete;
-    LoopDevice &operator=(const LoopDevice &) = delete;
-    QString node() const { return m_node; }
-
-private:
-    QString m_node;
-};
 
 QByteArray pattern()
 {

@@ -72,6 +72,7 @@ private slots:
     void systemPartitionWithoutFirmwarePartition();
     void quotedNumbers();
     void lettersEnd();
+    void keptNumbersAndLetters();
     void brokenText_data();
     void brokenText();
 };
@@ -206,6 +207,44 @@ void tst_LsblkInventory::lettersEnd()
     const QVector<Volume> volumes = lsblk::parse(json + "]}]}").machine.volumes;
     QCOMPARE(volumes.size(), 23);
     QCOMPARE(volumes.last().letter, QChar(QLatin1Char('Z')));
+}
+
+/// A machine of disks that are mounted as a whole: "name:folder".
+static QByteArray wholeDisks(const QByteArrayList &disks)
+{
+    QByteArray json;
+    for (const QByteArray &disk : disks) {
+        const QByteArray name = disk.left(disk.indexOf(':'));
+        json += (json.isEmpty() ? "" : ",") + QByteArray(R"({"kname":")") + name + R"(","path":"/dev/)" +
+                name + R"(","type":"disk","size":1048576,"mountpoints":[")" +
+                disk.mid(disk.indexOf(':') + 1) + "\"]}";
+    }
+    return R"({"blockdevices":[)" + json + "]}";
+}
+
+static QStringList placesOf(const lsblk::Inventory &pc)
+{
+    QStringList places;
+    for (const Disk &disk : pc.machine.disks)
+        places.append(QStringLiteral("%1=%2").arg(disk.number).arg(disk.node));
+    for (const Volume &volume : pc.machine.volumes)
+        places.append(QStringLiteral("%1=%2 on %3")
+                          .arg(volume.letter)
+                          .arg(volume.mountPoint)
+                          .arg(volume.extents.first().disk));
+    return places;
+}
+
+void tst_LsblkInventory::keptNumbersAndLetters()
+{
+    const auto before = lsblk::parse(wholeDisks({"sda:/", "sdb:/b", "sdc:/c"}));
+    QCOMPARE(placesOf(before),
+             QStringList({"0=/dev/sda", "1=/dev/sdb", "2=/dev/sdc", "C=/ on 0", "D=/b on 1", "E=/c on 2"}));
+    const auto without = lsblk::parse(wholeDisks({"sda:/", "sdc:/c"}), {}, before);
+    QCOMPARE(placesOf(without), QStringList({"0=/dev/sda", "2=/dev/sdc", "C=/ on 0", "E=/c on 2"}));
+    const auto after = lsblk::parse(wholeDisks({"nvme0n1:/a", "sda:/", "sdc:/c", "sdd:/d"}), {}, without);
+    QCOMPARE(placesOf(after), QStringList({"0=/dev/sda", "1=/dev/nvme0n1", "2=/dev/sdc", "3=/dev/sdd",
+                                           "C=/ on 0", "D=/a on 1", "E=/c on 2", "F=/d on 3"}));
 }
 
 void tst_LsblkInventory::brokenText_data()

@@ -1,0 +1,106 @@
+#pragma once
+
+#include <QFile>
+#include <QProcess>
+#include <QStringList>
+
+#include <fcntl.h>
+#include <linux/loop.h>
+#include <sched.h>
+#include <sys/ioctl.h>
+#include <sys/mount.h>
+#include <unistd.h>
+
+/// Runs a tool to its end; true if it ended with 0.
+inline bool runs(const QString &program, const QStringList &arguments, QByteArray *output = nullptr)
+{
+    QProcess process;
+    process.start(program, arguments);
+    const bool ended = process.waitForFinished() && process.exitStatus() == QProcess::NormalExit;
+    if (output)
+        *output = process.readAllStandardOutput().trimmed();
+    return ended && process.exitCode() == 0;
+}
+
+/// Gives the process a mount table of its own, so that its mounts end with it, however it ends. Before any
+/// thread is started. False without the rights for it.
+inline bool keepMountsToOurselves()
+{
+    return unshare(CLONE_NEWNS) == 0 && mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
+}
+
+/// A loop device on an image of the test's own. The kernel takes it away when the process ends, however it
+/// ends. Without root or loop devices node() is empty.
+class LoopDevice
+{
+public:
+    explicit LoopDevice(const QString &image, const QStringList &options = {})
+    {
+        const QStringList arguments =
+            options + QStringList{QStringLiteral("-f"), QStringLiteral("--show"), image};
+        QByteArray node;
+        // Another program may take the free device first.
+        for (int attempt = 0; attempt < 5 && m_node.isEmpty() && geteuid() == 0; ++attempt) {
+            if (runs(QStringLiteral("losetup"), arguments, &node))
+                m_node = QString::fromLatin1(node);
+        }
+        if (!m_node.isEmpty())
+            hold();
+    }
+    ~LoopDevice()
+    {
+        if (m_node.isEmpty())
+            return;
+        runs(QStringLiteral("partx"), {QStringLiteral("-d"), m_node});
+        if (m_held >= 0)
+            ::close(m_held);
+        else
+            runs(QStringLiteral("losetup"), {QStringLiteral("-d"), m_node});
+    }
+    LoopDevice(const LoopDevice &) = delete;
+    LoopDevice &operator=(const LoopDevice &) = delete;
+
+    QString node() const { return m_node; }
+    QString partition(int number) const { return QStringLiteral("%1p%2").arg(m_node).arg(number); }
+    /// Makes the kernel know the partitions of the image's table, also one that cannot read tables itself.
+    bool showPartitions() const { return runs(QStringLiteral("partx"), {QStringLiteral("-u"), m_node}); }
+
+private:
+    void hold()
+    {
+        m_held = ::open(QFile::encodeName(m_node).constData(), O_RDONLY | O_CLOEXEC);
+        loop_info64 status = {};
+        if (m_held < 0 || ioctl(m_held, LOOP_GET_STATUS64, &status) != 0)
+            return;
+        status.lo_flags |= LO_FLAGS_AUTOCLEAR;
+        ioctl(m_held, LOOP_SET_STATUS64, &status);
+    }
+
+    QString m_node;
+    int m_held = -1;
+};
+
+/// A mounted file system; unmounted again by unmount() or when it goes.
+class Mount
+{
+public:
+    Mount(const QString &node, const QString &folder)
+        : m_folder(folder), m_mounted(runs(QStringLiteral("mount"), {node, folder}))
+    {
+    }
+    ~Mount() { unmount(); }
+    Mount(const Mount &) = delete;
+    Mount &operator=(const Mount &) = delete;
+
+    bool isMounted() const { return m_mounted; }
+    bool unmount()
+    {
+        const bool done = m_mounted && runs(QStringLiteral("umount"), {m_folder});
+        m_mounted = m_mounted && !done;
+        return done;
+    }
+
+private:
+    QString m_folder;
+    bool m_mounted;
+};
