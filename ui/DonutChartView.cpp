@@ -141,10 +141,22 @@ void DonutChartView::paintEvent(QPaintEvent *event)
             painter.drawImage(0, 0, *m_pImage);
         painter.setFont(style::font(8));
         painter.setPen(QColor(47, 47, 47));
-        painter.drawText(rect, Qt::AlignCenter, tr("Disk ") + QString::number(g_nCurrentDiskIndex));
+        // Without a disk there is nothing to name.
+        if (g_nCurrentDiskIndex >= 0)
+            painter.drawText(rect, Qt::AlignCenter, tr("Disk ") + QString::number(g_nCurrentDiskIndex));
     }
-    // While it shows it is painted anew without end. A hidden widget takes no notice of this by itself, one
-    // in a minimised window might.
-    if (!window()->isMinimized())
-        update();
+    // While it shows it is painted anew without end, but no faster than a display shows: at the event loop's
+    // own pace this took half a core. A hidden widget takes no notice of it by itself, one in a minimised
+    // window might.
+    constexpr int FrameMilliseconds = 16;
+    if (!window()->isMinimized() && !m_nextPaint.isActive())
+        m_nextPaint.start(FrameMilliseconds, this);
+}
+
+void DonutChartView::timerEvent(QTimerEvent *event)
+{
+    if (event->timerId() != m_nextPaint.timerId())
+        return;
+    m_nextPaint.stop();
+    update();
 }

@@ -2,6 +2,7 @@
 
 #include "ui/DonutSeries.h"
 
+#include <QBasicTimer>
 #include <QImage>
 #include <QList>
 #include <QPainterPath>
@@ -33,11 +34,13 @@ public:
     DonutLegend *m_pLegend;
     QImage *m_pImage = nullptr; ///< owned
     void *m_pSpare = nullptr;
+    QBasicTimer m_nextPaint;
     int m_nExplodedSlice = -1;         ///< the slice that is drawn without the inset
     QList<QPainterPath> m_listRegions; ///< the ring shape of each slice
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void timerEvent(QTimerEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:

@@ -237,6 +237,7 @@ private:
     QList<QFrame *> m_listFrames;  ///< all frames on Disk Partition
     QList<QLabel *> m_listNotices; ///< the line that stands there instead of frames
     bool m_bRefreshing = false;
+    bool m_bRefreshAgain = false; ///< a volume came or went during a refresh
     QTimer *m_pTemperatureTimer = nullptr;
     FramelessDrag m_drag;
     SMARTThread m_smartThread;

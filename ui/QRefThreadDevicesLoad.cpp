@@ -11,8 +11,9 @@ QRefThreadDevicesLoad::~QRefThreadDevicesLoad()
 
 void QRefThreadDevicesLoad::startBehind(QThread &reader)
 {
-    if (isRunning())
-        return;
+    // A run that has signalled still takes a moment to end, and a start in that moment would be lost.
+    wait();
+    m_bComplete = false;
     m_pReader = &reader;
     start(QThread::InheritPriority);
 }
@@ -25,5 +26,6 @@ void QRefThreadDevicesLoad::run()
     // A newly attached volume needs a moment to appear.
     Platform::current().Sleep(deviceload::PauseMilliseconds);
     deviceload::loadLists();
+    m_bComplete = true;
     emit OnLoadingDevices();
 }

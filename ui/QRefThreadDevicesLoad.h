@@ -4,6 +4,8 @@
 #include <QThread>
 #include <QWaitCondition>
 
+#include <atomic>
+
 /// Reads the disk lists anew behind the main window's busy state. From the start to the signal the lists are
 /// its own (g_bListsLoading).
 class QRefThreadDevicesLoad : public QThread
@@ -15,9 +17,11 @@ public:
     /// Waits for a run without a time limit.
     ~QRefThreadDevicesLoad() override;
 
-    /// Starts a run that waits for the end of `reader` before it loads. Does nothing while a run is under
-    /// way.
+    /// Starts a run that waits for the end of `reader` before it loads. Not to be called while a run is under
+    /// way, that is from here to its signal.
     void startBehind(QThread &reader);
+    /// The lists of the latest run are complete.
+    bool isComplete() const { return m_bComplete; }
 
 signals:
     /// The lists are complete.
@@ -31,6 +35,7 @@ protected:
 
 private:
     QThread *m_pReader = nullptr;
+    std::atomic<bool> m_bComplete{false};
     QMutex m_mutex;
     QWaitCondition m_condition;
 };

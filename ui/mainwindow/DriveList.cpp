@@ -107,6 +107,7 @@ void MainWindow::OnRefresh()
     connect(&m_refreshThread, &QRefThreadDevicesLoad::OnLoadingDevices, this, &MainWindow::OnInitialize);
     // From here to OnInitialize() the lists are the thread's. A read that is under way ends first: both use
     // one file.
+    m_bRefreshAgain = g_bListsLoading;
     if (g_bListsLoading)
         return;
     g_bListsLoading = true;
@@ -117,6 +118,10 @@ void MainWindow::OnRefresh()
 
 void MainWindow::OnInitialize()
 {
+    // One signal runs this once for each refresh so far. A refresh that began meanwhile has the lists
+    // already.
+    if (!m_refreshThread.isComplete())
+        return;
     g_bListsLoading = false;
     FillDriveCombos();
     const int systemDisk = GetSystemDiskIndex().toInt();
@@ -131,4 +136,7 @@ void MainWindow::OnInitialize()
     RefreshSelectedDisk();
     leaveBusy();
     m_bRefreshing = false;
+    // What came or went during the load may be missing in the lists.
+    if (m_bRefreshAgain)
+        OnRefresh();
 }
