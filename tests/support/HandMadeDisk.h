@@ -51,8 +51,17 @@ public:
     template<typename Number>
     HandMadeDisk &put(int at, Number value)
     {
-        qToLittleEndian(value, bytes.data() + at);
+        putNumber(&bytes, at, value);
         return *this;
+    }
+
+    /// Writes a number little-endian into bytes that are there.
+    template<typename Number>
+    static void putNumber(QByteArray *into, int at, Number value)
+    {
+        char digits[sizeof value];
+        qToLittleEndian(value, digits);
+        into->replace(at, int(sizeof value), digits, int(sizeof value));
     }
 
     static QByteArray linuxData() { return QByteArray::fromHex("af3dc60f838472478e793d69d8477de4"); }

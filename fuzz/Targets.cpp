@@ -1,0 +1,148 @@
+#include "fuzz/Targets.h"
+
+#include "fuzz/ReferenceWalk.h"
+#include "inventory/BootSector.h"
+#include "inventory/LinuxNodes.h"
+#include "inventory/PartitionWalk.h"
+#include "inventory/VolumeNodes.h"
+#include "inventory/WmicInventory.h"
+#include "smart/ReportParser.h"
+#include "tests/support/FakePlatform.h"
+
+#include <QTextStream>
+
+namespace
+{
+
+constexpr int NamedPartitions = 16; ///< whose superblocks are read
+
+FakePlatform *machine = nullptr;
+
+QString runDisk(const QByteArray &input, Mutator &)
+{
+    machine->disks[0].bytes = input;
+    ResetPartitionWalk();
+    ScanPartitionTable(PhysicalDriveBase, 0);
+    QVector<ReferenceWalk::Partition> found;
+    for (const LinuxPartitionEntry *entry = g_pLinuxPartitionHead; entry; entry = entry->pNext) {
+        found << ReferenceWalk::Partition{entry->nStartSector, entry->nSectorCount, entry->nEndSector};
+        if (found.size() > NamedPartitions)
+            continue;
+        const std::unique_ptr<DiskNode> node = makeLinuxNode(*entry, found.size());
+        if (node->pLogical->szRoot.isEmpty() || node->pLogical->szRoot.size() > 16)
+            return QStringLiteral("a partition's name does not fit");
+    }
+    if (found != ReferenceWalk(input).found())
+        return QStringLiteral("other partitions than the plain walk");
+    if (g_partitionWalk.currentBase != 0 || g_partitionWalk.walkDepth != 0 ||
+        g_partitionWalk.partitionCount != quint32(found.size()))
+        return QStringLiteral("the state is not what it was");
+    return machine->openHandles() == 0 ? QString() : QStringLiteral("a handle stays open");
+}
+
+QString runVolume(const QByteArray &input, Mutator &mutator)
+{
+    static const QStringList names{QString(),
+                                   QString(),
+                                   QString(),
+                                   QStringLiteral("RAW"),
+                                   QStringLiteral("FAT"),
+                                   QStringLiteral("EXFAT"),
+                                   QStringLiteral("NTFS")};
+    FakePlatform::Volume &volume = machine->volumes[QLatin1Char('E')];
+    volume.raw.bytes = input;
+    volume.type = quint32(mutator.below(7));
+    volume.fileSystem = names.at(int(mutator.below(quint64(names.size()))));
+    volume.total = mutator.below(2) ? mutator.below(quint64(input.size()) + 1024) : 0;
+    if (!mutator.below(16))
+        volume.total = quint64(-1);
+    volume.extents.fill({quint32(mutator.below(200)), 0, qint64(mutator.below(quint64(-1))),
+                         qint64(mutator.below(quint64(-1)))},
+                        int(mutator.below(4)));
+    const std::unique_ptr<DiskNode> node = makeVolumeNode(QStringLiteral("E:\\"), RemovableDisks());
+    if (node)
+        tieVolumeToDisk(node.get());
+    if (node && node->pLogical->szFileSystem.isEmpty())
+        return QStringLiteral("a volume without a file system");
+    const bool listed = volume.type == io::DriveFixed || volume.type == io::DriveRemovable;
+    if (listed != (node != nullptr) && (listed || volume.total == 0))
+        return QStringLiteral("a volume is listed that should not be, or the other way about");
+    return machine->openHandles() == 0 ? QString() : QStringLiteral("a handle stays open");
+}
+
+QString runTable(const QByteArray &input, Mutator &)
+{
+    QTextStream stream(input);
+    QVector<int> numbers;
+    LogicalDiskRecord *head = nullptr;
+    LogicalDiskRecord *tail = nullptr;
+    QString complaint;
+    while (!stream.atEnd()) {
+        const QString line = stream.readLine();
+        const wmic::DiskDriveLine drive = wmic::parseDiskDrive(line);
+        const wmic::LogicalDiskLine volume = wmic::parseLogicalDisk(line);
+        if (drive.model.size() > line.size() || volume.caption.contains(QLatin1Char(' ')))
+            complaint = QStringLiteral("a field is no piece of its line");
+        if (wmic::bitLockerState(line) == QLatin1String("NO") && !wmic::isBitLockerLine(line))
+            complaint = QStringLiteral("a state out of nowhere");
+        numbers << wmic::partitionDisk(line).toInt();
+        auto *record = new LogicalDiskRecord;
+        record->szCaption.assign(volume.caption);
+        record->szFileSystem.assign(volume.fileSystem);
+        record->nSizeBytes = volume.sizeBytes;
+        appendToList(head, tail, record);
+        WmicDiskRecord disk;
+        disk.szModel.assign(drive.model);
+        disk.szInterface.assign(drive.interfaceText);
+        disk.szStatus.assign(drive.status);
+    }
+    numbers.resize(numbers.size() / 2 * 3);
+    wmic::pairDiskIndexes(head, numbers);
+    freeList(head, tail);
+    return complaint;
+}
+
+template<typename Record, typename Read>
+QString readRows(const QByteArray &input, Read read)
+{
+    QTextStream stream(input);
+    Record *head = nullptr;
+    Record *tail = nullptr;
+    read(stream, report::translatedMarkers(), head, tail);
+    int rows = 0;
+    while (head) {
+        Record *next = head->Next;
+        delete head;
+        head = next;
+        ++rows;
+    }
+    return rows > report::MaxRows ? QStringLiteral("more rows than are kept") : QString();
+}
+
+QString runReport(const QByteArray &input, Mutator &mutator)
+{
+    QTextStream kind(input);
+    report::detectKind(kind);
+    QTextStream whole(input);
+    report::readIdentity(whole);
+    QTextStream shortened(input);
+    report::readProbedIdentity(shortened);
+    return mutator.below(2) ? readRows<SmartAttributeRecord>(input, report::readAtaTable)
+                            : readRows<NvmeAttributeRecord>(input, report::readNvmeLog);
+}
+
+} // namespace
+
+const QVector<Target> &allTargets()
+{
+    static const QVector<Target> targets{{"disks", &Mutator::disk, runDisk},
+                                         {"volumes", &Mutator::volume, runVolume},
+                                         {"tables", &Mutator::text, runTable},
+                                         {"reports", &Mutator::text, runReport}};
+    return targets;
+}
+
+void freshMachine()
+{
+    machine = FakePlatform::install();
+}
