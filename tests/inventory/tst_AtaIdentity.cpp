@@ -49,6 +49,18 @@ QByteArray smartData()
     return data;
 }
 
+/// "features count number low high head command reserved buffer drive", in hexadecimal but for the buffer.
+QString textOf(const io::SendCmdInParams &params)
+{
+    const io::IdeRegs &regs = params.regs;
+    QStringList parts;
+    for (const quint8 value : {regs.features, regs.sectorCount, regs.sectorNumber, regs.cylinderLow,
+                               regs.cylinderHigh, regs.driveHead, regs.command, regs.reserved})
+        parts << QString::number(value, 16).toUpper();
+    parts << QString::number(params.bufferSize) << QString::number(params.driveNumber);
+    return parts.join(QLatin1Char(' '));
+}
+
 /// The drive interface of a disk with the devices of a map; keeps what it was asked.
 struct Drive {
     quint8 map = 1;
@@ -200,13 +212,13 @@ void AtaIdentityTest::readsDisk()
     QCOMPARE(int(attribute->nState), 2);
     QVERIFY(!attribute->pNext);
 
-    QCOMPARE(drive.asked.size(), 3);
-    QCOMPARE(int(drive.asked.at(0).regs.features), 0xD8);
-    QCOMPARE(int(drive.asked.at(0).regs.cylinderLow), 0x4F);
-    QCOMPARE(int(drive.asked.at(0).regs.cylinderHigh), 0xC2);
-    QCOMPARE(int(drive.asked.at(1).regs.command), 0xEC);
-    QCOMPARE(drive.asked.at(1).bufferSize, 512u);
-    QCOMPARE(int(drive.asked.at(2).regs.features), 0xD0);
+    QStringList asked;
+    for (const io::SendCmdInParams &params : qAsConst(drive.asked))
+        asked << textOf(params);
+    QCOMPARE(asked, QStringList({"D8 1 1 4F C2 A0 B0 0 0 0", "0 1 1 0 0 A0 EC 0 512 0",
+                                 "D0 1 1 4F C2 A0 B0 0 512 0"}));
+    QCOMPARE(fake->openings,
+             QVector<FakePlatform::Opening>({{QStringLiteral("\\\\.\\PHYSICALDRIVE3"), 0xC0000000u, 3, 3}}));
     QCOMPARE(fake->openHandles(), 0);
 }
 

@@ -75,6 +75,17 @@ void CCreateDiskDriveListTest::writesCapacity_data()
     QTest::newRow("1 MiB") << quint64(MiB) << kb << QStringLiteral("1.00 MB");
     QTest::newRow("small disk") << quint64(512 * 1024) << kb << QStringLiteral("512.00 KB");
     QTest::newRow("small volume") << quint64(512 * 1024) << mb << QStringLiteral("512.00 MB");
+    // Half a hundredth goes to the even digit.
+    const struct {
+        const char *name;
+        quint64 eighths; // of a GiB
+        const char *text;
+    } ties[] = {{"1.125 GiB", 9, "1.12 GB"},
+                {"1.375 GiB", 11, "1.38 GB"},
+                {"1.625 GiB", 13, "1.62 GB"},
+                {"500.125 GiB", 4001, "500.12 GB"}};
+    for (const auto &tie : ties)
+        QTest::newRow(tie.name) << tie.eighths * 128 * MiB << kb << QString::fromLatin1(tie.text);
     QTest::newRow("nothing") << quint64(0) << kb << QStringLiteral("0.00 KB");
     QTest::newRow("all bits") << ~quint64(0) << kb << QStringLiteral("17179869184.00 GB");
 }
@@ -188,6 +199,14 @@ void CCreateDiskDriveListTest::listsLettersByFirstExtent()
     build();
     QCOMPARE(g_App.m_pDiskListHead->pDetails->szDrives, QStringLiteral("Drive: C: F: "));
     QCOMPARE(g_App.m_pDiskListHead->pNext->pDetails->szDrives, QStringLiteral("Drive: D: "));
+    bool anyVolume = false;
+    for (const FakePlatform::Opening &opening : qAsConst(fake->openings)) {
+        if (opening.name.size() != 6)
+            continue;
+        anyVolume = true;
+        QCOMPARE(opening, (FakePlatform::Opening{opening.name, 0x80000000u, 3, 3}));
+    }
+    QVERIFY(anyVolume);
     QCOMPARE(fake->openHandles(), 0);
 }
 

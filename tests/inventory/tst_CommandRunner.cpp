@@ -86,6 +86,7 @@ void CommandRunnerTest::runsThroughTheInterpreter()
     RunSilent(QStringLiteral("tool \u00FC"));
     QCOMPARE(fake->commands(), QStringList({QStringLiteral("C:\\Windows\\system32\\cmd.exe /c tool.exe -x"),
                                             QStringLiteral("CMD.EXE /c tool \u00C3\u00BC ")}));
+    QCOMPARE(fake->hiddenFlags, QVector<bool>({true, true}));
 }
 
 void CommandRunnerTest::leavesOutLinesThatDoNotFit()

@@ -76,6 +76,7 @@ private slots:
     void keepsOrEmptiesOldVolumes();
     void pairsByPosition_data();
     void pairsByPosition();
+    void blankRowsOfPartitionsCountAsDisk0();
     void findsSystemDisk_data();
     void findsSystemDisk();
 
@@ -363,6 +364,19 @@ void WmicInventoryTest::pairsByPosition()
     for (const LogicalDiskRecord *record = g_pLogicalDiskListHead; record; record = record->pNext)
         paired << record->nDiskIndex;
     QTEST(paired, "paired");
+}
+
+void WmicInventoryTest::blankRowsOfPartitionsCountAsDisk0()
+{
+    outputs = {{QStringLiteral("logicaldisk"),
+                "Caption  FileSystem  FreeSpace  Size\nC:  NTFS  1  2\nD:  NTFS  1  2\nE:  NTFS  1  2\n"},
+               {QStringLiteral("manage-bde"), {}},
+               {QStringLiteral("partition get diskindex"), "DiskIndex\n0\n\n1\n"}};
+    LoadLogicalDisks();
+    QVector<int> paired;
+    for (const LogicalDiskRecord *record = g_pLogicalDiskListHead; record; record = record->pNext)
+        paired << record->nDiskIndex;
+    QCOMPARE(paired, QVector<int>({0, 0, 1}));
 }
 
 void WmicInventoryTest::findsSystemDisk_data()

@@ -108,6 +108,7 @@ void tst_Rating::ataHealth_data()
     based("spin 1", "Spin_Retry_Count=1", 97);
     // Three times the count does not fit 32 bits, and must not come out as a small damage.
     based("spin beyond 32 bits", "Spin_Retry_Count=1431655766", 40);
+    based("spin 1000000000", "Spin_Retry_Count=1000000000", 40);
     based("events 51, truncated 30", "Reallocated_Event_Count=51", 69);
     based("events 52", "Reallocated_Event_Count=52", 70);
     based("events 3", "Reallocated_Event_Count=3", 98);
@@ -116,6 +117,7 @@ void tst_Rating::ataHealth_data()
     based("pending beyond 32 bits", "Current_Pending_Sector=9999999999", 100);
     based("uncorrectable 70", "Offline_Uncorrectable=70", 30);
     based("uncorrectable 71", "Offline_Uncorrectable=71", 30);
+    based("uncorrectable 2147483647", "Offline_Uncorrectable=2147483647", 30);
     based("rounds half up", "Offline_Uncorrectable=50 Offline_Uncorrectable=1", 50);
     based("rounds down", "Current_Pending_Sector=1 Current_Pending_Sector=1", 99);
     based("all at their worst",

@@ -107,6 +107,7 @@ private slots:
     void ataField();
     void ataRow_data();
     void ataRow();
+    void headLineInTheTable();
     void tableBounds_data();
     void tableBounds();
     void nvmeField_data();
@@ -232,6 +233,18 @@ void tst_ReportLines::ataRow()
                              "WhenFailed", "RawValue"})
         got << fields.value(name).toString();
     QTEST(got.join('|'), "fields");
+}
+
+// The lines of the head are looked for in the table too: such a row gives itself and those below it the
+// value.
+void tst_ReportLines::headLineInTheTable()
+{
+    const AtaTable table("Serial Number: S\n" + AtaHeader + AtaRow + "9 Serial Number: X\n" + AtaRow +
+                         AtaRow);
+    QStringList serials;
+    for (const SmartAttributeRecord *row = table.head; row; row = row->Next)
+        serials << row->SerialNumber.text();
+    QCOMPARE(serials, QStringList({"S", "X", "X", "X"}));
 }
 
 void tst_ReportLines::tableBounds_data()

@@ -118,6 +118,7 @@ void tst_ToolInvocation::selfTestDevices_data()
     QTest::newRow("13 at place 10") << 13 << 10 << "/dev/sdk";
     QTest::newRow("13 elsewhere") << 13 << 0 << "/dev/sdn";
     QTest::newRow("14") << 14 << 14 << "";
+    QTest::newRow("20 at place 10") << 20 << 10 << "/dev/sdk";
 }
 
 void tst_ToolInvocation::selfTestDevices()

@@ -47,6 +47,19 @@ public:
         Disk raw; ///< the volume's own bytes
     };
 
+    /// What CreateFileW was asked for.
+    struct Opening {
+        QString name;
+        quint32 access;
+        quint32 share;
+        quint32 disposition;
+        bool operator==(const Opening &other) const
+        {
+            return name == other.name && access == other.access && share == other.share &&
+                   disposition == other.disposition;
+        }
+    };
+
     /// Makes one, installs it and gives it to the test to fill. Owned by the seam.
     static FakePlatform *install()
     {
@@ -72,8 +85,10 @@ public:
         const QMutexLocker lock(&m_mutex);
         return m_commands;
     }
-    QStringList openedNames; ///< of CreateFileW
-    QStringList executed;    ///< "<verb> <file> <parameters>" of ShellExecuteW, and pages opened
+    QStringList openedNames;   ///< of CreateFileW
+    QVector<Opening> openings; ///< the same calls, with all that was asked for
+    QVector<bool> hiddenFlags; ///< of the commands
+    QStringList executed;      ///< "<verb> <file> <parameters>" of ShellExecuteW, and pages opened
     QVector<quint32> executionStates;
     QVector<LogonTask> tasks;
     quint64 slept = 0; ///< ms
@@ -95,9 +110,10 @@ public:
         return file.open(QIODevice::WriteOnly | QIODevice::Append) && file.write(output) == output.size();
     }
 
-    RawHandle CreateFileW(const QString &name, quint32, quint32, quint32) override
+    RawHandle CreateFileW(const QString &name, quint32 access, quint32 share, quint32 disposition) override
     {
         openedNames << name;
+        openings << Opening{name, access, share, disposition};
         const Disk *disk = find(name);
         if (!disk || !disk->opens)
             return InvalidHandle;
@@ -181,12 +197,13 @@ public:
         return volume.total != 0;
     }
 
-    bool CreateProcessAndWait(const std::wstring &line, bool) override
+    bool CreateProcessAndWait(const std::wstring &line, bool hidden) override
     {
         const QString text = QString::fromStdWString(line);
         {
             const QMutexLocker lock(&m_mutex);
             m_commands << text;
+            hiddenFlags << hidden;
         }
         return !onCommand || onCommand(text);
     }

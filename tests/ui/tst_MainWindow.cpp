@@ -1,32 +1,23 @@
-#include "app/state/GlobalApp.h"
-#include "app/state/Globals.h"
-#include "app/state/Languages.h"
 #include "app/state/SettingsStore.h"
-#include "smart/DeviceLoad.h"
-#include "tests/platform/DescribedFolder.h"
+#include "tests/ui/WindowFixture.h"
 #include "ui/CloseWgt.h"
 #include "ui/ConfarmetionClass.h"
 #include "ui/DestinitionWarning.h"
 #include "ui/DiskPartition.h"
 #include "ui/DiskStatus.h"
-#include "ui/Images.h"
-#include "ui/MainWindow.h"
-#include "ui/MyButton.h"
 #include "ui/ScanDisk.h"
 #include "ui/ScanSwitchClass.h"
 #include "ui/SmartStatus.h"
 
-#include <QtTest>
-
 /// The real window on a described PC with an ATA disk, an NVMe disk and a stick without SMART.
-class tst_MainWindow : public QObject
+class tst_MainWindow : public QObject, private WindowFixture
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase();
+    void initTestCase() { setUpProgram(); }
     void init();
-    void cleanup();
+    void cleanup() { tearDown(); }
 
     void combosListTheDisks();
     void firstReadShowsTheReport();
@@ -41,6 +32,8 @@ private slots:
     void refreshGoesBackToTheFirstDisk();
     void refreshWaitsForNoJob();
     void pollActsOnDiskPartitionOnly();
+    void pollShowsOnTheTileAlone();
+    void shutsTheSystemDown();
     void languageChangeRedoesTheDetails();
     void closingAsks();
     void closingIsRefusedDuringAJob_data();
@@ -48,26 +41,10 @@ private slots:
     void startsOnTheClonePage();
 
 private:
-    void makeWindow();
-    void select(int index);
-    void press(const char *button);
-    void waitForRead();
-    template<typename Widget>
-    Widget *child(const char *name = "") const
-    {
-        return m_pWindow->findChild<Widget *>(QLatin1String(name));
-    }
-    QString text(const char *label) const { return child<QLabel>(label)->text(); }
-    QString image(const char *label) const { return images::labelImage(child<QLabel>(label)); }
-    int commands(const QByteArray &part) const;
-    QByteArray description() const;
-
-    std::unique_ptr<DescribedFolder> m_pFolder;
-    std::unique_ptr<MainWindow> m_pWindow;
-    QString m_strState;
+    static QByteArray description();
 };
 
-QByteArray tst_MainWindow::description() const
+QByteArray tst_MainWindow::description()
 {
     return R"({
       "name": "Test PC", "user": "tester", "dpi": 96, "pauses": false,
@@ -84,85 +61,14 @@ QByteArray tst_MainWindow::description() const
     })";
 }
 
-void tst_MainWindow::initTestCase()
-{
-    Q_INIT_RESOURCE(images);
-    g_App.m_fScale = 1.0F;
-    g_App.m_bUse64BitTool = true;
-    languages::setFlag(0);
-}
-
 void tst_MainWindow::init()
 {
-    m_pFolder = std::make_unique<DescribedFolder>();
-    const QString samples = QStringLiteral(HALVANE_TEST_DATA "/smart/");
-    const struct {
-        const char *name;
-        const char *sample;
-    } reports[] = {{"ata.txt", "ata-wdc-wd10ezex-readfail.txt"},
-                   {"nvme.txt", "nvme-samsung-970evoplus-500gb.txt"},
-                   {"usb.txt", "err-unknown-usb-bridge.txt"}};
-    for (const auto &report : reports) {
-        const QByteArray contents = DescribedFolder::contents(samples + QLatin1String(report.sample));
-        QVERIFY2(!contents.isEmpty(), report.sample);
-        m_pFolder->add(QLatin1String(report.name), contents);
-    }
-    auto pc = m_pFolder->open(description());
-    m_strState = pc->stateFolder();
-    g_App.m_strSystemFolder = pc->GetSystemDirectoryW();
-    Platform::install(std::move(pc));
-    g_App.m_strSettingsPath = QStringLiteral("HKEY_LOCAL_MACHINE\\Software\\Velmora Halvane for Windows");
-    g_strStartArgument.clear();
-    deviceload::loadLists();
+    addReport("ata.txt", sample("ata-wdc-wd10ezex-readfail.txt"));
+    addReport("nvme.txt", sample("nvme-samsung-970evoplus-500gb.txt"));
+    addReport("usb.txt", sample("err-unknown-usb-bridge.txt"));
+    startPc(description());
     makeWindow();
     waitForRead();
-}
-
-void tst_MainWindow::cleanup()
-{
-    g_bJobRunning = false;
-    g_bSelfTestRunning = false;
-    g_bScanResultOpen = false;
-    g_bSelfTestResultOpen = false;
-    m_pWindow.reset();
-    m_pFolder.reset();
-}
-
-void tst_MainWindow::makeWindow()
-{
-    m_pWindow = std::make_unique<MainWindow>();
-    m_pWindow->show();
-}
-
-void tst_MainWindow::waitForRead()
-{
-    QTRY_VERIFY_WITH_TIMEOUT(!child<QFrame>("GifFrame")->isVisible(), 10000);
-    // The signal comes a moment before the thread has ended, and a request that meets it running is lost.
-    QTest::qWait(30);
-}
-
-void tst_MainWindow::select(int index)
-{
-    auto *combo = child<QComboBox>("DriveCombobox");
-    combo->setCurrentIndex(index);
-    emit combo->activated(index);
-    if (child<MyButton>("DiskStatusButton")->isDown() || child<MyButton>("SmartStatusButton")->isDown())
-        waitForRead();
-}
-
-void tst_MainWindow::press(const char *button)
-{
-    QTest::mousePress(child<MyButton>(button), Qt::LeftButton);
-    QTest::mouseRelease(child<MyButton>(button), Qt::LeftButton);
-}
-
-int tst_MainWindow::commands(const QByteArray &part) const
-{
-    int count = 0;
-    const QByteArray log = DescribedFolder::contents(m_strState + QStringLiteral("/commands.log"));
-    for (const QByteArray &line : log.split('\n'))
-        count += line.contains(part) ? 1 : 0;
-    return count;
 }
 
 void tst_MainWindow::combosListTheDisks()
@@ -353,6 +259,30 @@ void tst_MainWindow::pollActsOnDiskPartitionOnly()
     m_pWindow->GetSmartTemprature();
     QCOMPARE(commands("smartctl64Bit.exe -a"), before + 1);
     QVERIFY(text("tempValueLbl").endsWith(QStringLiteral("\u00B0C")));
+}
+
+void tst_MainWindow::pollShowsOnTheTileAlone()
+{
+    const QString shown = text("tempValueLbl");
+    press("DiskPartitionButton");
+    auto *tile = child<QLabel>("tempValueLbl");
+    tile->setText(QStringLiteral("before"));
+    g_strTemperatureText = QStringLiteral("kept");
+    m_pWindow->OnRefresh();
+    m_pWindow->GetSmartTemprature();
+    QCOMPARE(tile->text(), QStringLiteral("before")); // a refresh runs
+    waitForRead();
+    tile->setText(QStringLiteral("before"));
+    m_pWindow->GetSmartTemprature();
+    QCOMPARE(tile->text(), shown);
+    QCOMPARE(g_strTemperatureText, QStringLiteral("kept"));
+}
+
+void tst_MainWindow::shutsTheSystemDown()
+{
+    QCOMPARE(commands("shutdown"), 0);
+    m_pWindow->OnSystemShutDown();
+    QVERIFY(logLines("commands.log").last().endsWith(" /c shutdown /s "));
 }
 
 void tst_MainWindow::languageChangeRedoesTheDetails()

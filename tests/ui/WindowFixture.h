@@ -1,0 +1,115 @@
+#pragma once
+
+#include "app/state/GlobalApp.h"
+#include "app/state/Globals.h"
+#include "app/state/Languages.h"
+#include "smart/DeviceLoad.h"
+#include "tests/platform/DescribedFolder.h"
+#include "ui/Images.h"
+#include "ui/MainWindow.h"
+#include "ui/MyButton.h"
+
+#include <QtTest>
+
+/// The real window on a described PC of its own for each test.
+class WindowFixture
+{
+protected:
+    static void setUpProgram()
+    {
+        Q_INIT_RESOURCE(images);
+        g_App.m_fScale = 1.0F;
+        g_App.m_bUse64BitTool = true;
+        languages::setFlag(0);
+    }
+
+    void addReport(const char *name, const QByteArray &contents) const
+    {
+        if (contents.isEmpty())
+            qFatal("no report: %s", name);
+        m_pFolder->add(QLatin1String(name), contents);
+    }
+
+    static QByteArray sample(const char *name)
+    {
+        return DescribedFolder::contents(QStringLiteral(HALVANE_TEST_DATA "/smart/") + QLatin1String(name));
+    }
+
+    /// Installs the PC of `json` and loads its disks; the reports have to lie there by now.
+    void startPc(const QByteArray &json)
+    {
+        auto pc = m_pFolder->open(json);
+        m_strState = pc->stateFolder();
+        g_App.m_strSystemFolder = pc->GetSystemDirectoryW();
+        Platform::install(std::move(pc));
+        g_App.m_strSettingsPath = QStringLiteral("HKEY_LOCAL_MACHINE\\Software\\Velmora Halvane for Windows");
+        g_strStartArgument.clear();
+        deviceload::loadLists();
+    }
+
+    void makeWindow()
+    {
+        m_pWindow = std::make_unique<MainWindow>();
+        m_pWindow->show();
+    }
+
+    void tearDown()
+    {
+        g_bJobRunning = false;
+        g_bSelfTestRunning = false;
+        g_bScanResultOpen = false;
+        g_bSelfTestResultOpen = false;
+        m_pWindow.reset();
+        m_pFolder = std::make_unique<DescribedFolder>();
+    }
+
+    void waitForRead()
+    {
+        QTRY_VERIFY_WITH_TIMEOUT(!child<QFrame>("GifFrame")->isVisible(), 10000);
+        // The signal comes a moment before the thread has ended, and a request that meets it running is lost.
+        QTest::qWait(30);
+    }
+
+    void select(int index)
+    {
+        auto *combo = child<QComboBox>("DriveCombobox");
+        combo->setCurrentIndex(index);
+        emit combo->activated(index);
+        if (child<MyButton>("DiskStatusButton")->isDown() || child<MyButton>("SmartStatusButton")->isDown())
+            waitForRead();
+    }
+
+    void press(const char *button)
+    {
+        QTest::mousePress(child<MyButton>(button), Qt::LeftButton);
+        QTest::mouseRelease(child<MyButton>(button), Qt::LeftButton);
+    }
+
+    template<typename Widget>
+    Widget *child(const char *name = "") const
+    {
+        return m_pWindow->findChild<Widget *>(QLatin1String(name));
+    }
+    QString text(const char *label) const { return child<QLabel>(label)->text(); }
+    QString image(const char *label) const { return images::labelImage(child<QLabel>(label)); }
+
+    /// The lines of a log of the PC, without the last, empty one.
+    QList<QByteArray> logLines(const char *file) const
+    {
+        QList<QByteArray> lines =
+            DescribedFolder::contents(m_strState + QLatin1Char('/') + QLatin1String(file)).split('\n');
+        lines.removeLast();
+        return lines;
+    }
+    int commands(const QByteArray &part) const
+    {
+        int count = 0;
+        for (const QByteArray &line : logLines("commands.log"))
+            count += line.contains(part) ? 1 : 0;
+        return count;
+    }
+
+    std::unique_ptr<DescribedFolder> m_pFolder = std::make_unique<DescribedFolder>();
+    std::unique_ptr<MainWindow> m_pWindow;
+    QString m_strState;
+};

@@ -1,0 +1,225 @@
+#include "app/state/SettingsStore.h"
+#include "smart/Rating.h"
+#include "smart/SmartGlobals.h"
+#include "tests/ui/WindowFixture.h"
+
+/// What a read leaves on the screens, by what the report says and whether the companion is wanted.
+class tst_DiskStatusRead : public QObject, private WindowFixture
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup() { tearDown(); }
+
+    void diskStatus_data();
+    void diskStatus();
+    void smartStatus_data();
+    void smartStatus();
+    void noIdentityShowsNoTexts();
+    void companion_data();
+    void companion();
+    void unreadableTaskListKeepsTheReadBusy();
+    void selfTestDeviceByComboPlace();
+
+private:
+    static QByteArray report(const QByteArray &identity, const char *verdict, const char *rows);
+    /// Disk 10 fails and tells its temperature, 12 passed and does not, 13 says nothing of itself.
+    void startWith(const QByteArray &settings, const QByteArray &lists = QByteArray());
+    void startAndRead();
+};
+
+QByteArray tst_DiskStatusRead::report(const QByteArray &identity, const char *verdict, const char *rows)
+{
+    return identity +
+           "\n=== START OF READ SMART DATA SECTION ===\n"
+           "SMART overall-health self-assessment test result: " +
+           verdict +
+           "\n\nID# ATTRIBUTE_NAME FLAG VALUE WORST THRESH TYPE UPDATED WHEN_FAILED RAW_VALUE\n"
+           "  5 Reallocated_Sector_Ct 0x0033 090 090 036 Pre-fail Always - 10\n" +
+           rows;
+}
+
+void tst_DiskStatusRead::initTestCase()
+{
+    setUpProgram();
+    g_App.m_strApplicationFolder = QStringLiteral("C:\\Halvane");
+}
+
+void tst_DiskStatusRead::init()
+{
+    const auto identity = [](const QByteArray &mark) {
+        return "Device Model:     NW" + mark + "\nSerial Number:    SN" + mark + "\nFirmware Version: FW" +
+               mark + "\nATA Version is:   ATA2\n";
+    };
+    addReport("failed.txt",
+              report(identity("1"), "FAILED!", "194 Temperature_Celsius 0x22 36 45 0 Old_age Always - 36\n"));
+    addReport("passed.txt", report(identity("2"), "PASSED", ""));
+    addReport("nameless.txt",
+              report("", "PASSED", "194 Temperature_Celsius 0x22 36 45 0 Old_age Always - 40\n"));
+}
+
+void tst_DiskStatusRead::startWith(const QByteArray &settings, const QByteArray &lists)
+{
+    QByteArray disks;
+    const struct {
+        int number;
+        const char *report;
+    } described[] = {{10, "failed.txt"}, {12, "passed.txt"}, {13, "nameless.txt"}};
+    for (const auto &disk : described)
+        disks += QByteArray(disks.isEmpty() ? "" : ", ") + R"({"number": )" +
+                 QByteArray::number(disk.number) +
+                 R"(, "model": "X Y ATA Device", "interface": "IDE", "sectors": 2097152, "report": ")" +
+                 disk.report + "\"}";
+    startPc(R"({"pauses": false, "disks": [)" + disks + R"(], "settings": {"TempValue": "C", )" +
+            R"("FirstTimeLaunch": 1)" + settings + "}" + lists + "}");
+}
+
+void tst_DiskStatusRead::startAndRead()
+{
+    makeWindow();
+    waitForRead();
+}
+
+void tst_DiskStatusRead::diskStatus_data()
+{
+    QTest::addColumn<int>("disk");
+    QTest::addColumn<QString>("temperature");
+    QTest::addColumn<QString>("health");
+    QTest::addColumn<QString>("performance");
+    QTest::addColumn<QString>("result");
+    QTest::addColumn<QString>("style");
+    // The temperature alone tells whether there is SMART: the drive's own verdict counts for nothing.
+    QTest::newRow("failed, with a temperature") << 0 << "36\u00B0C"
+                                                << "90%"
+                                                << "50%"
+                                                << "Passed"
+                                                << "QLabel {color : #32CD32;}";
+    QTest::newRow("passed, without") << 1 << "Not Supported"
+                                     << "Not Supported"
+                                     << "Not Supported"
+                                     << "Not Supported"
+                                     << "QLabel {color : #FF0000;}";
+}
+
+void tst_DiskStatusRead::diskStatus()
+{
+    QFETCH(int, disk);
+    startWith("");
+    startAndRead();
+    select(disk);
+    QTEST(text("tempValueLbl"), "temperature");
+    QTEST(text("healthValueLbl"), "health");
+    QTEST(text("performanceValueLbl"), "performance");
+    QTEST(text("ResultLabel"), "result");
+    QTEST(child<QLabel>("ResultLabel")->styleSheet(), "style");
+}
+
+void tst_DiskStatusRead::smartStatus_data()
+{
+    QTest::addColumn<QString>("disk");
+    QTest::addColumn<int>("health");
+    QTest::addColumn<QString>("result");
+    QTest::addColumn<QString>("style");
+    // The rating goes by the drive's verdict, the label by the temperature.
+    QTest::newRow("failed, with a temperature") << "NW1" << 100 << "Passed"
+                                                << "QLabel {color : #32CD32;}";
+    QTest::newRow("passed, without") << "NW2" << 90 << "Not Supported"
+                                     << "QLabel {color : #FF0000;}";
+}
+
+void tst_DiskStatusRead::smartStatus()
+{
+    QFETCH(QString, disk);
+    startWith("");
+    // Without a read before it: the first one alone shows the report once.
+    g_strStartArgument = QStringLiteral("CloneDisk####") + disk;
+    makeWindow();
+    g_strStartArgument.clear();
+    QCOMPARE(commands("TASKKILL.exe"), 0);
+    press("SmartStatusButton");
+    waitForRead();
+    QCOMPARE(g_strModelName, disk);
+    QTEST(g_nHealthPercent, "health");
+    QTEST(text("SmartResultLabel"), "result");
+    QTEST(child<QLabel>("SmartResultLabel")->styleSheet(), "style");
+}
+
+void tst_DiskStatusRead::noIdentityShowsNoTexts()
+{
+    startWith("");
+    startAndRead();
+    const auto texts = [this] {
+        return QStringList({text("ModelNumValLbl"), text("SerialValLbl"), text("FrimvareVersValLbl")});
+    };
+    QCOMPARE(texts(), QStringList({"NW1", "SN1", "FW1"}));
+    select(2);
+    QCOMPARE(text("tempValueLbl"), QStringLiteral("40\u00B0C"));
+    QCOMPARE(texts(), QStringList({"", "", ""}));
+}
+
+void tst_DiskStatusRead::companion_data()
+{
+    QTest::addColumn<QByteArray>("lists");
+    QTest::addColumn<QStringList>("opened");
+    const QString byName = QStringLiteral("\tVelmoraSMART.exe\t");
+    // The window starts it by its name, the read behind that by its path.
+    QTest::newRow("runs") << QByteArray(R"(, "processes": ["VelmoraSMART.exe"])") << QStringList();
+    QTest::newRow("starts") << QByteArray(R"(, "installed": ["VelmoraSMART.exe"])") << QStringList(byName);
+    QTest::newRow("does not start") << QByteArray()
+                                    << QStringList({byName, "\tC:\\Halvane\\VelmoraSMART.exe\t"});
+}
+
+void tst_DiskStatusRead::companion()
+{
+    QFETCH(QByteArray, lists);
+    startWith(R"(, "ShowTrayIcon": 1)", lists);
+    startAndRead();
+    QStringList opened;
+    for (const QByteArray &line : logLines("opened.log"))
+        opened << QString::fromUtf8(line);
+    QTEST(opened, "opened");
+    QCOMPARE(commands("C:\\Windows\\system32\\tasklist.exe | C:\\Windows\\system32\\findstr.exe "
+                      "VelmoraSMART.exe >> "),
+             2);
+    QCOMPARE(commands("TASKKILL.exe"), 0);
+    QCOMPARE(text("tempValueLbl"), QStringLiteral("36\u00B0C"));
+}
+
+void tst_DiskStatusRead::unreadableTaskListKeepsTheReadBusy()
+{
+    startWith("");
+    startAndRead();
+    const int killed = commands("TASKKILL.exe");
+    SettingsStore().writeNumber(key::ShowTrayIcon, 1);
+    QVERIFY(QDir(m_strState).mkpath(QStringLiteral("temp/tmpFile"))); // a folder in the file's place
+    auto *combo = child<QComboBox>("DriveCombobox");
+    combo->setCurrentIndex(1);
+    emit combo->activated(1);
+    QTRY_COMPARE_WITH_TIMEOUT(commands("tasklist.exe"), 2, 10000); // the second read shows the report twice
+    QTest::qWait(30);
+    QVERIFY(child<QFrame>("GifFrame")->isVisible());
+    QCOMPARE(text("tempValueLbl"), QStringLiteral("0\u00B0C"));
+    QCOMPARE(text("ModelNumValLbl"), QStringLiteral("NW1"));
+    QCOMPARE(logLines("opened.log").size(), 0);
+    QCOMPARE(commands("TASKKILL.exe"), killed);
+}
+
+void tst_DiskStatusRead::selfTestDeviceByComboPlace()
+{
+    startWith("");
+    startAndRead();
+    // The eleventh device goes by the place in the combo, so disk 10 has none at place 0.
+    g_strSelfTestDevice = QStringLiteral("before");
+    m_pWindow->DetailsforSelftest();
+    QCOMPARE(g_strSelfTestDevice, QString());
+    QCOMPARE(g_strSelfTestModel + g_strSelfTestSerial, QStringLiteral("NW1SN1"));
+    select(1);
+    m_pWindow->DetailsforSelftest();
+    QCOMPARE(g_strSelfTestDevice, QStringLiteral("/dev/sdm"));
+    QCOMPARE(g_strSelfTestModel + g_strSelfTestSerial, QStringLiteral("NW2SN2"));
+}
+
+QTEST_MAIN(tst_DiskStatusRead)
+#include "tst_DiskStatusRead.moc"
