@@ -1,7 +1,7 @@
 #include "platform/IoControl.h"
 #include "platform/NativePlatform.h"
 #include "platform/linux/LinuxTools.h"
-#include "tests/support/LoopDevice.h"
+#include "tests/platform/LoopDevice.h"
 
 #include <QDir>
 #include <QFile>

@@ -3,7 +3,7 @@
 #include "app/state/GlobalApp.h"
 #include "platform/IoControl.h"
 #include "platform/NativePlatform.h"
-#include "tests/support/LoopDevice.h"
+#include "tests/platform/LoopDevice.h"
 
 #include <QDir>
 #include <QSignalSpy>
