@@ -30,6 +30,7 @@ private slots:
     void openResultsAskFirst();
     void readsRepeatBySelection();
     void refreshGoesBackToTheFirstDisk();
+    void aNoticeDuringARefreshIsNotLost();
     void refreshWaitsForNoJob();
     void pollActsOnDiskPartitionOnly();
     void pollShowsOnTheTileAlone();
@@ -236,6 +237,25 @@ void tst_MainWindow::refreshGoesBackToTheFirstDisk()
     m_pWindow->OnRefresh();
     QVERIFY(child<QFrame>("GifFrame")->isVisible());
     QTRY_COMPARE_WITH_TIMEOUT(child<QComboBox>("DriveCombobox")->currentIndex(), 0, 10000);
+    waitForRead();
+    QTRY_COMPARE(text("ModelNumValLbl"), QStringLiteral("WDC WD10EZEX-00RKKA0"));
+}
+
+void tst_MainWindow::aNoticeDuringARefreshIsNotLost()
+{
+    const int before = commands("diskdrive get");
+    m_pWindow->OnRefresh();
+    m_pWindow->OnRefresh();
+    // Until the lists stand they are the loader's, whatever the user does.
+    QVERIFY(!findPhysicalDisk(128));
+    auto *combo = child<QComboBox>("DriveCombobox");
+    combo->setCurrentIndex(1);
+    emit combo->activated(1);
+    press("ScanDiskButton");
+    press("CloneDiskButton");
+    press("DiskStatusButton");
+    QTRY_COMPARE_WITH_TIMEOUT(commands("diskdrive get"), before + 2, 10000);
+    QTRY_VERIFY_WITH_TIMEOUT(findPhysicalDisk(128), 10000);
     waitForRead();
     QTRY_COMPARE(text("ModelNumValLbl"), QStringLiteral("WDC WD10EZEX-00RKKA0"));
 }
