@@ -1,0 +1,309 @@
+#include "platform/windows/WindowsPlatform.h"
+
+#include "platform/JsonSettings.h"
+#include "platform/NativePlatform.h"
+#include "platform/windows/LogonTaskScheduler.h"
+
+#include <QDesktopServices>
+#include <QDir>
+#include <QSettings>
+#include <QStandardPaths>
+#include <QTemporaryFile>
+#include <QUrl>
+
+#include <array>
+#include <vector>
+
+#include <windows.h>
+
+#include <dbt.h>
+#include <shellapi.h>
+#include <urlmon.h>
+
+namespace
+{
+
+/// Characters of the buffers that folders are read into.
+constexpr DWORD PathCharacters = 512;
+
+const wchar_t *wide(const QString &text)
+{
+    return reinterpret_cast<const wchar_t *>(text.utf16());
+}
+
+bool canWriteInto(const QString &folder)
+{
+    // Attributes do not tell what the access rights allow.
+    QTemporaryFile probe(folder + QLatin1String("/XXXXXX.tmp"));
+    return probe.open();
+}
+
+} // namespace
+
+// Raw devices
+
+Platform::RawHandle WindowsPlatform::CreateFileW(const QString &name, quint32 access, quint32 shareMode,
+                                                 quint32 disposition)
+{
+    return m_devices.open(name, access, shareMode, disposition);
+}
+
+bool WindowsPlatform::SetFilePointer(RawHandle handle, qint64 byteOffset)
+{
+    return m_devices.seek(handle, byteOffset);
+}
+
+bool WindowsPlatform::ReadFile(RawHandle handle, void *buffer, quint32 bytes, quint32 *transferred)
+{
+    return m_devices.read(handle, buffer, bytes, transferred);
+}
+
+bool WindowsPlatform::WriteFile(RawHandle handle, const void *buffer, quint32 bytes, quint32 *transferred)
+{
+    return m_devices.write(handle, buffer, bytes, transferred);
+}
+
+bool WindowsPlatform::DeviceIoControl(RawHandle handle, quint32 code, const void *in, quint32 inSize,
+                                      void *out, quint32 outSize, quint32 *returned)
+{
+    return m_devices.control(handle, code, in, inSize, out, outSize, returned);
+}
+
+void WindowsPlatform::CloseHandle(RawHandle handle)
+{
+    m_devices.close(handle);
+}
+
+// Volumes
+
+QStringList WindowsPlatform::GetLogicalDriveStringsW()
+{
+    const DWORD needed = ::GetLogicalDriveStringsW(0, nullptr);
+    std::vector<wchar_t> buffer(needed + 1, L'\0');
+    const DWORD length = ::GetLogicalDriveStringsW(needed, buffer.data());
+    if (length == 0 || length > needed)
+        return {};
+    return QString::fromWCharArray(buffer.data(), static_cast<int>(length))
+        .split(QChar(u'\0'), Qt::SkipEmptyParts);
+}
+
+bool WindowsPlatform::GetVolumeInformationW(const QString &root, QString *label, QString *fileSystem)
+{
+    std::array<wchar_t, MAX_PATH + 1> name{};
+    std::array<wchar_t, MAX_PATH + 1> system{};
+    const BOOL done =
+        ::GetVolumeInformationW(wide(root), name.data(), static_cast<DWORD>(name.size()), nullptr, nullptr,
+                                nullptr, system.data(), static_cast<DWORD>(system.size()));
+    if (label)
+        *label = done ? QString::fromWCharArray(name.data()) : QString();
+    if (fileSystem)
+        *fileSystem = done ? QString::fromWCharArray(system.data()) : QString();
+    return done != FALSE;
+}
+
+quint32 WindowsPlatform::GetDriveTypeW(const QString &root)
+{
+    return ::GetDriveTypeW(wide(root));
+}
+
+bool WindowsPlatform::GetDiskFreeSpaceExW(const QString &root, quint64 *totalBytes, quint64 *freeBytes)
+{
+    ULARGE_INTEGER available{};
+    ULARGE_INTEGER total{};
+    ULARGE_INTEGER free{};
+    const BOOL done = ::GetDiskFreeSpaceExW(wide(root), &available, &total, &free);
+    if (totalBytes)
+        *totalBytes = done ? total.QuadPart : 0;
+    if (freeBytes)
+        *freeBytes = done ? free.QuadPart : 0;
+    return done != FALSE;
+}
+
+// Processes
+
+bool WindowsPlatform::CreateProcessAndWait(const std::wstring &line, bool hidden)
+{
+    STARTUPINFOW startup{};
+    startup.cb = sizeof(startup);
+    if (hidden) {
+        startup.dwFlags = STARTF_USESHOWWINDOW;
+        startup.wShowWindow = SW_HIDE;
+    }
+    PROCESS_INFORMATION process{};
+    // The system may write into the line.
+    std::vector<wchar_t> buffer(line.begin(), line.end());
+    buffer.push_back(L'\0');
+    if (!::CreateProcessW(nullptr, buffer.data(), nullptr, nullptr, FALSE, CREATE_NEW_CONSOLE, nullptr,
+                          nullptr, &startup, &process))
+        return false;
+    ::WaitForSingleObject(process.hProcess, INFINITE);
+    ::CloseHandle(process.hThread);
+    ::CloseHandle(process.hProcess);
+    return true;
+}
+
+bool WindowsPlatform::ShellExecuteW(const QString &file, const QString &parameters, const QString &verb)
+{
+    constexpr INT_PTR LastError = 32;
+    const HINSTANCE result =
+        ::ShellExecuteW(nullptr, verb.isEmpty() ? nullptr : wide(verb), wide(file),
+                        parameters.isEmpty() ? nullptr : wide(parameters), nullptr, SW_SHOWNORMAL);
+    return reinterpret_cast<INT_PTR>(result) > LastError;
+}
+
+bool WindowsPlatform::OpenUrl(const QUrl &url)
+{
+    return QDesktopServices::openUrl(url);
+}
+
+// Folders and names
+
+QString WindowsPlatform::GetTempPathW()
+{
+    std::array<wchar_t, PathCharacters> buffer{};
+    const DWORD length = ::GetTempPathW(PathCharacters, buffer.data());
+    return length < PathCharacters ? QString::fromWCharArray(buffer.data(), static_cast<int>(length))
+                                   : QString();
+}
+
+QString WindowsPlatform::GetSystemDirectoryW()
+{
+    std::array<wchar_t, PathCharacters> buffer{};
+    const UINT length = ::GetSystemDirectoryW(buffer.data(), PathCharacters);
+    return length < PathCharacters ? QString::fromWCharArray(buffer.data(), static_cast<int>(length))
+                                   : QString();
+}
+
+QString WindowsPlatform::GetUserNameW()
+{
+    std::array<wchar_t, PathCharacters> buffer{};
+    DWORD length = PathCharacters;
+    return ::GetUserNameW(buffer.data(), &length) ? QString::fromWCharArray(buffer.data()) : QString();
+}
+
+QString WindowsPlatform::HistoryFolder(const QString &applicationFolder)
+{
+    if (QDir(applicationFolder).exists() && canWriteInto(applicationFolder))
+        return applicationFolder;
+    const QString own = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
+                        QLatin1String("/VelmoraHalvane/history");
+    QDir().mkpath(own);
+    return own;
+}
+
+QString WindowsPlatform::NativePath(const QString &path) const
+{
+    return QDir::toNativeSeparators(path);
+}
+
+QByteArray WindowsPlatform::CommandInterpreter()
+{
+    return qgetenv("COMSPEC");
+}
+
+QString WindowsPlatform::OperatingSystemName()
+{
+    const QSettings current(
+        QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion"),
+        QSettings::NativeFormat);
+    QString name = current.value(QStringLiteral("ProductName")).toString();
+    if (!name.startsWith(QLatin1String("Microsoft")))
+        name.prepend(QLatin1String("Microsoft "));
+    QString release = current.value(QStringLiteral("DisplayVersion")).toString();
+    if (release.isEmpty())
+        release = current.value(QStringLiteral("ReleaseId")).toString();
+    if (!release.isEmpty())
+        name += QLatin1Char(' ') + release;
+
+    OSVERSIONINFOW version{};
+    version.dwOSVersionInfoSize = sizeof(version);
+    ::GetVersionExW(&version);
+    SYSTEM_INFO system{};
+    ::GetNativeSystemInfo(&system);
+    const bool wordOf64 = system.wProcessorArchitecture == PROCESSOR_ARCHITECTURE_AMD64;
+    return QString::asprintf("%s (%lu.%lu.%lu)", name.toUtf8().constData(), version.dwMajorVersion,
+                             version.dwMinorVersion, version.dwBuildNumber) +
+           (wordOf64 ? QStringLiteral(" x64") : QString());
+}
+
+// Power, display, network, time
+
+void WindowsPlatform::SetThreadExecutionState(quint32 flags)
+{
+    ::SetThreadExecutionState(flags);
+}
+
+int WindowsPlatform::LogPixelsX()
+{
+    const HDC screen = ::GetDC(nullptr);
+    const int dots = screen ? ::GetDeviceCaps(screen, LOGPIXELSX) : 0;
+    if (screen)
+        ::ReleaseDC(nullptr, screen);
+    return dots > 0 ? dots : 96;
+}
+
+qint32 WindowsPlatform::URLDownloadToFileW(const QString &url, const QString &path)
+{
+    return static_cast<qint32>(::URLDownloadToFileW(nullptr, wide(url), wide(NativePath(path)), 0, nullptr));
+}
+
+void WindowsPlatform::Sleep(quint32 milliseconds)
+{
+    ::Sleep(milliseconds);
+}
+
+// Volume arrival and removal
+
+DeviceNotifier *WindowsPlatform::deviceNotifier()
+{
+    return nullptr;
+}
+
+std::optional<DeviceChange> WindowsPlatform::decodeDeviceMessage(const QByteArray &eventType, void *message)
+{
+    if (eventType != "windows_generic_MSG" || !message)
+        return std::nullopt;
+    const auto *native = static_cast<const MSG *>(message);
+    if (native->message != WM_DEVICECHANGE)
+        return std::nullopt;
+    DeviceChange change;
+    change.event = static_cast<quint32>(native->wParam);
+    // Other events bring no record, or one of another kind.
+    const bool hasRecord = change.event == DBT_DEVICEARRIVAL || change.event == DBT_DEVICEREMOVECOMPLETE;
+    if (hasRecord && native->lParam)
+        change.deviceType = reinterpret_cast<const DEV_BROADCAST_HDR *>(native->lParam)->dbch_devicetype;
+    return change;
+}
+
+// Logon task
+
+void WindowsPlatform::InitializeCom()
+{
+    windows::initializeCom();
+}
+
+void WindowsPlatform::CreateLogonTask(const LogonTask &task)
+{
+    LogonTask native = task;
+    native.program = NativePath(task.program);
+    windows::createLogonTask(native);
+}
+
+void WindowsPlatform::DeleteLogonTask(const QString &name)
+{
+    windows::deleteLogonTask(name);
+}
+
+// Settings
+
+std::unique_ptr<QSettings> WindowsPlatform::OpenSettings(const QString &registryPath)
+{
+    if (registryPath.isEmpty())
+        return jsonsettings::openNothing();
+    return std::make_unique<QSettings>(registryPath, QSettings::NativeFormat);
+}
+
+std::unique_ptr<Platform> makeNativePlatform()
+{
+    return std::make_unique<WindowsPlatform>();
+}

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "platform/Platform.h"
+#include "platform/windows/RawDevices.h"
+
+/// A Windows PC.
+class WindowsPlatform : public Platform
+{
+public:
+    RawHandle CreateFileW(const QString &name, quint32 access, quint32 shareMode,
+                          quint32 disposition) override;
+    bool SetFilePointer(RawHandle handle, qint64 byteOffset) override;
+    bool ReadFile(RawHandle handle, void *buffer, quint32 bytes, quint32 *transferred) override;
+    bool WriteFile(RawHandle handle, const void *buffer, quint32 bytes, quint32 *transferred) override;
+    bool DeviceIoControl(RawHandle handle, quint32 code, const void *in, quint32 inSize, void *out,
+                         quint32 outSize, quint32 *returned) override;
+    void CloseHandle(RawHandle handle) override;
+
+    QStringList GetLogicalDriveStringsW() override;
+    bool GetVolumeInformationW(const QString &root, QString *label, QString *fileSystem) override;
+    quint32 GetDriveTypeW(const QString &root) override;
+    bool GetDiskFreeSpaceExW(const QString &root, quint64 *totalBytes, quint64 *freeBytes) override;
+
+    bool CreateProcessAndWait(const std::wstring &line, bool hidden) override;
+    bool ShellExecuteW(const QString &file, const QString &parameters, const QString &verb) override;
+    bool OpenUrl(const QUrl &url) override;
+
+    QString GetTempPathW() override;
+    QString GetSystemDirectoryW() override;
+    QString GetUserNameW() override;
+    QString HistoryFolder(const QString &applicationFolder) override;
+    QString NativePath(const QString &path) const override;
+    QByteArray CommandInterpreter() override;
+    QString OperatingSystemName() override;
+
+    void SetThreadExecutionState(quint32 flags) override;
+    int LogPixelsX() override;
+    qint32 URLDownloadToFileW(const QString &url, const QString &path) override;
+    void Sleep(quint32 milliseconds) override;
+
+    DeviceNotifier *deviceNotifier() override;
+    std::optional<DeviceChange> decodeDeviceMessage(const QByteArray &eventType, void *message) override;
+
+    void InitializeCom() override;
+    void CreateLogonTask(const LogonTask &task) override;
+    void DeleteLogonTask(const QString &name) override;
+
+    std::unique_ptr<QSettings> OpenSettings(const QString &registryPath) override;
+
+private:
+    windows::RawDevices m_devices;
+};
