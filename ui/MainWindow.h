@@ -71,11 +71,13 @@ public slots:
     void OnStopCancel();
     void OnStopConfirm();
     void OnRefresh();
+    void SavePDFReport();
     void OnStop();
     void OnShowDiskStatus();
     void OnShowDiskPartition();
     void OnShowScanDisk();
     void DetailsforSelftest();
+    void OnCheckPreviousTestResult();
     void OnShowCloneDisk();
     void OnShowSmartStatus();
     void OnShowSettings();
@@ -122,6 +124,7 @@ public slots:
     void OnSwitchCancel();
     void OnSwitchConfirm();
     void OnInitialize();
+    void TakeScreenshot();
     void LaunchDataRecovery();
     void LaunchVideoRepair();
     void LaunchPhotoRepair();

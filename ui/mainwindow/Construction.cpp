@@ -392,6 +392,8 @@ void MainWindow::connectAll()
     connect(minimizeButton, &QPushButton::clicked, this, &MainWindow::OnMinimized);
     connect(CloseButton, &QPushButton::clicked, this, &MainWindow::OnClose);
     connect(StopButton, &QPushButton::clicked, this, &MainWindow::OnStop);
+    connect(ReportSaveButton, &QPushButton::clicked, this, &MainWindow::SavePDFReport);
+    connect(ScreenshotButton, &QPushButton::clicked, this, &MainWindow::TakeScreenshot);
     connect(m_pMenuButton, &QPushButton::clicked, this, &MainWindow::OnHideButtons);
     connect(m_pSettingsAction, &QAction::triggered, this, &MainWindow::OnShowSettings);
     connect(m_pRecoverAction, &QAction::triggered, this, &MainWindow::LaunchDataRecovery);
@@ -420,7 +422,7 @@ void MainWindow::connectAll()
 void MainWindow::greyOutIdle()
 {
     // Nothing stands behind these, so they do not look as if.
-    for (QPushButton *idle : {ScanButton, ReportSaveButton, ScreenshotButton, m_pHelpButton})
+    for (QPushButton *idle : {ScanButton, m_pHelpButton})
         idle->setEnabled(false);
     m_pAboutAction->setEnabled(false);
     m_pSettings->m_pLanguageButton->hide();

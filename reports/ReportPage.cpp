@@ -1,0 +1,329 @@
+#include "reports/ReportPage.h"
+
+#include "app/state/Scale.h"
+#include "reports/SmartReport.h"
+
+#include <QCoreApplication>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QPixmap>
+
+namespace
+{
+
+constexpr int Left = Qt::AlignLeft;
+constexpr int Centred = Qt::AlignCenter;
+constexpr int RegularWeight = QFont::Normal;
+constexpr int BoldWeight = QFont::Bold;
+constexpr int RowStep = 250;
+constexpr int ImageDensity = 4; ///< the images for print are that many times their design size
+
+enum class Ink { Black, Red, Green };
+
+struct Value {
+    QString text;
+    Ink ink = Ink::Black;
+    int shift = 0; ///< from the value column
+};
+
+struct Field {
+    int y;
+    const char *label;
+    Value (*value)(const SmartReport &report);
+    int height = 300;
+};
+
+struct Heading {
+    QRect place;
+    const char *text;
+};
+
+struct Column {
+    int x;
+    int width;
+    const char *text;
+};
+
+/// What sets one layout apart from the other.
+struct Layout {
+    int watermarkRise; ///< above the middle of the page
+    int valueX;
+    std::vector<Heading> headings;
+    std::vector<Field> fields;
+    int tableY;
+    std::vector<Column> columns;
+    int firstRowY;
+};
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("MainWindow", text);
+}
+
+template<QString SmartReport::*Text>
+Value plain(const SmartReport &report)
+{
+    return {report.*Text};
+}
+
+template<QString SmartReport::*Text>
+Value orNotAvailable(const SmartReport &report)
+{
+    return {(report.*Text).isEmpty() ? tr("Not Available") : report.*Text};
+}
+
+Value status(const SmartReport &report)
+{
+    return {report.smartStatus, Ink::Green};
+}
+
+/// A rating of exactly 40 is neither, and stays without a value.
+Value rated(int percent, const QString &good, const QString &bad, int badShift)
+{
+    constexpr int Limit = 40;
+    if (percent == Limit)
+        return {};
+    return percent > Limit ? Value{good, Ink::Green} : Value{bad, Ink::Red, badShift};
+}
+
+Value performance(const SmartReport &report)
+{
+    return rated(report.performance, report.performanceText, report.performanceText, 0);
+}
+
+Value health(const SmartReport &report)
+{
+    constexpr int NvmeBadShift = -500;
+    return rated(report.health, tr("Good"), tr("Bad"), report.nvme ? NvmeBadShift : 0);
+}
+
+template<QString SmartReport::*Time>
+Value supported(const SmartReport &report)
+{
+    return (report.*Time).isEmpty() ? Value{tr("Not Supported"), Ink::Red}
+                                    : Value{tr("Supported"), Ink::Green};
+}
+
+template<QString SmartReport::*Time>
+Value completionTime(const SmartReport &report)
+{
+    return {(report.*Time).isEmpty() ? tr("NA") : report.*Time};
+}
+
+const Layout &nvmeLayout()
+{
+    using R = SmartReport;
+    static const Layout layout = {
+        3000,
+        4500,
+        {{{0, 1500, 5000, 500}, QT_TRANSLATE_NOOP("MainWindow", "Disk Information:")},
+         {{0, 4300, 5000, 500}, QT_TRANSLATE_NOOP("MainWindow", "S.M.A.R.T. Details:")}},
+        {{1800, QT_TRANSLATE_NOOP("MainWindow", "Model Number:"), plain<&R::model>, 400},
+         {2000, QT_TRANSLATE_NOOP("MainWindow", "Serial Number:"), plain<&R::serial>},
+         {2200, QT_TRANSLATE_NOOP("MainWindow", "Firmware Version:"), plain<&R::firmware>},
+         {2400, QT_TRANSLATE_NOOP("MainWindow", "Capacity:"), plain<&R::capacity>},
+         {2600, QT_TRANSLATE_NOOP("MainWindow", "Sector Size:"), plain<&R::sectorSize>},
+         {2800, QT_TRANSLATE_NOOP("MainWindow", "Local  Time:"), plain<&R::localTime>},
+         {3000, QT_TRANSLATE_NOOP("MainWindow", "Maximum Data Transfer Size:"), plain<&R::maxTransferSize>},
+         {3200, QT_TRANSLATE_NOOP("MainWindow", "SMART Status:"), status},
+         {3400, QT_TRANSLATE_NOOP("MainWindow", "Current Temperature:"), plain<&R::temperature>},
+         {3600, QT_TRANSLATE_NOOP("MainWindow", "Performance:"), performance},
+         {3800, QT_TRANSLATE_NOOP("MainWindow", "Health:"), health}},
+        4600,
+        {{0, 300, QT_TRANSLATE_NOOP("MainWindow", "ID")},
+         {500, 2500, QT_TRANSLATE_NOOP("MainWindow", "Attribute Name")},
+         {4500, 2000, QT_TRANSLATE_NOOP("MainWindow", "Values")}},
+        4850};
+    return layout;
+}
+
+const Layout &ataLayout()
+{
+    using R = SmartReport;
+    static const Layout layout = {
+        2600,
+        3100,
+        {{{0, 1500, 5000, 300}, QT_TRANSLATE_NOOP("MainWindow", "Disk Information:")},
+         {{0, 4900, 5000, 800}, QT_TRANSLATE_NOOP("MainWindow", "Self Test Details:")},
+         {{0, 6700, 5000, 800}, QT_TRANSLATE_NOOP("MainWindow", "S.M.A.R.T. Details")}},
+        {{1800, QT_TRANSLATE_NOOP("MainWindow", "Make:"), plain<&R::make>},
+         {2000, QT_TRANSLATE_NOOP("MainWindow", "Model Number:"), plain<&R::model>},
+         {2200, QT_TRANSLATE_NOOP("MainWindow", "Serial Number:"), plain<&R::serial>},
+         {2400, QT_TRANSLATE_NOOP("MainWindow", "Firmware Version:"), plain<&R::firmware>},
+         {2600, QT_TRANSLATE_NOOP("MainWindow", "Capacity:"), plain<&R::capacity>},
+         {2800, QT_TRANSLATE_NOOP("MainWindow", "Sector Size:"), plain<&R::sectorSize>},
+         {3000, QT_TRANSLATE_NOOP("MainWindow", "Rotation Rate:"), plain<&R::rotationRate>},
+         {3200, QT_TRANSLATE_NOOP("MainWindow", "ATA Version:"), plain<&R::ataVersion>},
+         {3400, QT_TRANSLATE_NOOP("MainWindow", "SATA Version:"), plain<&R::sataVersion>},
+         {3600, QT_TRANSLATE_NOOP("MainWindow", "Local  Time:"), plain<&R::localTime>},
+         {3800, QT_TRANSLATE_NOOP("MainWindow", "SMART Status:"), status},
+         {4000, QT_TRANSLATE_NOOP("MainWindow", "Current Temperature:"), plain<&R::temperature>},
+         {4200, QT_TRANSLATE_NOOP("MainWindow", "Performance:"), performance},
+         {4400, QT_TRANSLATE_NOOP("MainWindow", "Health:"), health},
+         {5200, QT_TRANSLATE_NOOP("MainWindow", "Short Self-test:"), supported<&R::shortTestTime>},
+         {5400, QT_TRANSLATE_NOOP("MainWindow", "Estimated Completion Time:"),
+          completionTime<&R::shortTestTime>},
+         {5600, QT_TRANSLATE_NOOP("MainWindow", "Extended Self-test:"), supported<&R::extendedTestTime>},
+         {5800, QT_TRANSLATE_NOOP("MainWindow", "Estimated Completion Time:"),
+          completionTime<&R::extendedTestTime>},
+         {6000, QT_TRANSLATE_NOOP("MainWindow", "Last Run Self-test:"), orNotAvailable<&R::lastTestType>},
+         {6200, QT_TRANSLATE_NOOP("MainWindow", "Last Self-Test Result:"),
+          orNotAvailable<&R::lastTestResult>}},
+        7000,
+        {{0, 300, QT_TRANSLATE_NOOP("MainWindow", "ID")},
+         {500, 2500, QT_TRANSLATE_NOOP("MainWindow", "Attribute Name")},
+         {3100, 500, QT_TRANSLATE_NOOP("MainWindow", "Status")},
+         {4000, 500, QT_TRANSLATE_NOOP("MainWindow", "Value")},
+         {4900, 500, QT_TRANSLATE_NOOP("MainWindow", "Worst")},
+         {5800, 800, QT_TRANSLATE_NOOP("MainWindow", "Threshold")},
+         {7000, 2000, QT_TRANSLATE_NOOP("MainWindow", "Raw Value")}},
+        7250};
+    return layout;
+}
+
+/// One painting of a report.
+class PagePainter
+{
+public:
+    PagePainter(QPainter &painter, const SmartReport &report)
+        : m_painter(painter), m_report(report), m_layout(report.nvme ? nvmeLayout() : ataLayout()),
+          m_logo(imageOfSet(report.secondBrand ? QStringLiteral("img_Korvane.png")
+                                               : QStringLiteral("img_Velmora.png")))
+    {
+    }
+
+    void paint()
+    {
+        paintWatermark();
+        for (std::size_t i = 0; i < m_report.rows.size(); ++i) {
+            paintFrame();
+            if (i == 0)
+                paintFixedParts();
+            paintRow(m_report.rows[i], m_layout.firstRowY + static_cast<int>(i) * RowStep);
+        }
+    }
+
+private:
+    QString imageOfSet(const QString &file) const
+    {
+        return scale::imagePath(file, m_report.scaleFactor, scale::Family::Folder);
+    }
+
+    /// `source` in pixels of the design size.
+    void drawImage(const QRect &target, const QPixmap &image, const QRect &source)
+    {
+        m_painter.drawPixmap(target, image,
+                             QRect(source.topLeft() * ImageDensity, source.size() * ImageDensity));
+    }
+
+    void setInk(Ink ink)
+    {
+        if (ink == Ink::Black)
+            m_painter.setPen(QPen(Qt::black, 6.0, Qt::SolidLine, Qt::RoundCap, Qt::BevelJoin));
+        else
+            m_painter.setPen(ink == Ink::Red ? Qt::red : Qt::darkGreen);
+    }
+
+    void setFont(int points, int weight)
+    {
+        m_painter.setFont(QFont(QStringLiteral("Segoe UI"), points, weight));
+    }
+
+    void paintWatermark()
+    {
+        const QString path = imageOfSet(QStringLiteral("img_WaterMark.png"));
+        if (path.isEmpty())
+            return;
+        const QRect page = m_painter.viewport();
+        drawImage({page.width() / 2 - 1500, page.height() / 2 - m_layout.watermarkRise, 3500, 4500},
+                  QPixmap(path), {0, 0, 250, 300});
+    }
+
+    void paintFrame()
+    {
+        setInk(Ink::Black);
+        const int right = m_painter.viewport().width() - 24;
+        m_painter.drawLine(0, 800, right, 800);
+        m_painter.drawLine(0, 13150, right, 13150);
+        if (!m_logo.isNull())
+            drawImage({-100, 13220, 1700, 500}, m_logo, {0, 0, 170, 48});
+    }
+
+    void paintFixedParts()
+    {
+        setFont(14, RegularWeight);
+        m_painter.drawText(QRect(350, 4, m_report.secondBrand ? 2620 : 2400, 750), Centred,
+                           tr("Velmora Halvane"));
+        drawImage({-120, 4, 1650, 580}, QPixmap(QStringLiteral(":/images/Halvane48.png")), {0, -8, 160, 45});
+        m_painter.drawText(QRect(2000, 1100, 5000, 300), Centred, tr("S.M.A.R.T. Report"));
+
+        setFont(8, RegularWeight);
+        m_painter.drawText(QRect(1700, 13380, 8000, 7000), Left,
+                           tr("The information contained in this report has been generated by the "
+                              "Velmora Halvane profiling process."));
+        m_painter.drawText(QRect(1700, 13560, 8000, 7000), Left,
+                           m_report.secondBrand ? tr("Velmora Halvane is a product of Korvane.")
+                                                : tr("Velmora Halvane is a product of Velmora."));
+
+        setFont(10, BoldWeight);
+        for (const Heading &heading : m_layout.headings)
+            m_painter.drawText(heading.place, Left, tr(heading.text));
+
+        setFont(8, RegularWeight);
+        for (const Field &field : m_layout.fields)
+            paintField(field);
+
+        setFont(8, BoldWeight);
+        for (const Column &column : m_layout.columns)
+            m_painter.drawText(QRect(column.x, m_layout.tableY, column.width, 200), Left, tr(column.text));
+        setFont(8, RegularWeight);
+    }
+
+    void paintField(const Field &field)
+    {
+        m_painter.drawText(QRect(0, field.y, 5000, field.height), Left, tr(field.label));
+        const Value value = field.value(m_report);
+        setInk(value.ink);
+        m_painter.drawText(QRect(m_layout.valueX + value.shift, field.y, 10000, field.height), Left,
+                           value.text);
+        setInk(Ink::Black);
+    }
+
+    void paintRow(const SmartReport::Row &row, int y)
+    {
+        for (std::size_t i = 0; i < row.size(); ++i) {
+            const Column &column = m_layout.columns[i];
+            setInk(row[i].red ? Ink::Red : Ink::Black);
+            m_painter.drawText(QRect(column.x, y, column.width, RowStep), Left, row[i].text);
+        }
+    }
+
+    QPainter &m_painter;
+    const SmartReport &m_report;
+    const Layout &m_layout;
+    const QPixmap m_logo; ///< one object, so that the file holds it once
+};
+
+} // namespace
+
+void paintReport(QPainter &painter, const SmartReport &report)
+{
+    PagePainter(painter, report).paint();
+}
+
+bool writeReport(const QString &path, const SmartReport &report)
+{
+    QPdfWriter writer(path);
+    writer.setTitle(suggestedReportName(report));
+    writer.setCreator(QStringLiteral("Velmora Halvane"));
+    writer.setPageSize(QPageSize(QPageSize::A4));
+    // In the layout's own unit. The rows of the footer are set for a page with margins as narrow as these.
+    writer.setPageMargins(QMarginsF(20, 10, 20, 10));
+    QPainter painter;
+    if (!painter.begin(&writer))
+        return false;
+    painter.setRenderHint(QPainter::LosslessImageRendering);
+    paintReport(painter, report);
+    painter.end();
+    return true;
+}

@@ -1,0 +1,123 @@
+#include "reports/SmartReport.h"
+
+#include "app/state/GlobalApp.h"
+#include "app/state/Globals.h"
+#include "smart/AttributeCatalogue.h"
+#include "smart/AttributeKey.h"
+#include "smart/AttributeRows.h"
+#include "smart/PreviousTest.h"
+#include "smart/Rating.h"
+#include "smart/SmartGlobals.h"
+
+#include <QCoreApplication>
+
+namespace
+{
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("MainWindow", text);
+}
+
+/// Sectors that are bad or about to be: any count of them is printed in red. Goes by the key, so that it
+/// does so in every language.
+bool countsBadSectors(const QString &key)
+{
+    for (const char *word : {"Current Pending Sector", "Reallocated Sector Count", "Reallocated Sector Ct"}) {
+        if (key.contains(QLatin1String(word), Qt::CaseInsensitive))
+            return true;
+    }
+    return false;
+}
+
+SmartReport::Row ataRow(const SmartAttributeRecord &record)
+{
+    const QString key = keyOf(record.AttributeName.text());
+    const QString raw = record.RawValue.text();
+    const bool failed = reportStatusFailed(record);
+    // Red begins behind the word itself, and the raw value has a rule of its own.
+    return {{QString::number(record.Id)},
+            {ataReportName(key, record.Id)},
+            {failed ? tr("Failed") : tr("OK")},
+            {QString::number(record.Value), failed},
+            {QString::number(record.Worst), failed},
+            {QString::number(record.Threshold), failed},
+            {raw, countsBadSectors(key) && raw.toLongLong() > 0}};
+}
+
+void takeAta(SmartReport &report, const SmartAttributeRecord *head)
+{
+    if (head) {
+        report.make = head->ModelFamily.text();
+        report.model = head->DeviceModel.text();
+        report.serial = head->SerialNumber.text();
+        report.firmware = head->Firmware.text();
+        report.capacity = head->UserCapacity.text();
+        report.sectorSize = head->SectorSize.text();
+        report.rotationRate = head->RotationRate.text();
+        report.ataVersion = head->AtaVersion.text();
+        report.sataVersion = head->SataVersion.text();
+        report.localTime = head->LocalTime.text();
+        const QString support = head->SmartSupport.text();
+        report.smartStatus = support.contains(QLatin1String("Enabled")) ? tr("Passed") : support;
+        report.shortTestTime = head->ShortPollTime.text();
+        report.extendedTestTime = head->ExtendedPollTime.text();
+    }
+    for (; head; head = head->Next)
+        report.rows.push_back(ataRow(*head));
+}
+
+void takeNvme(SmartReport &report, const NvmeAttributeRecord *head)
+{
+    if (head) {
+        report.model = head->ModelNumber.text();
+        report.serial = head->SerialNumber.text();
+        report.firmware = head->Firmware.text();
+        report.capacity = head->Capacity.text();
+        report.sectorSize = head->LbaSize.text();
+        report.localTime = head->LocalTime.text();
+        report.maxTransferSize = head->MaxTransferSize.text();
+        report.smartStatus = tr("Passed"); // there is no report of a disk whose SMART is not available
+    }
+    for (; head; head = head->Next)
+        report.rows.push_back({{QString::number(report.rows.size())},
+                               {nvmeReportName(head->Name.text())},
+                               {head->Value.text().trimmed()}});
+}
+
+} // namespace
+
+SmartReport gatherSmartReport()
+{
+    SmartReport report;
+    report.nvme = g_App.m_bNVMe;
+    report.secondBrand = g_App.m_bKorvaneBrand;
+    report.scaleFactor = g_App.m_fScale;
+    if (report.nvme)
+        takeNvme(report, g_pNvmeAttributeHead);
+    else
+        takeAta(report, g_pSmartAttributeHead);
+    report.temperature = g_strTemperatureText;
+    report.performance = g_nPerformancePercent;
+    report.performanceText = g_strPerformanceText;
+    report.health = g_nHealthPercent;
+    report.lastTestType = g_strLastTestType;
+    report.lastTestResult = g_strLastTestResult;
+    return report;
+}
+
+QString suggestedReportName(const SmartReport &report)
+{
+    const QString brand = report.secondBrand ? QStringLiteral("Korvane Smart Report ")
+                                             : QStringLiteral("Velmora Smart Report ");
+    return brand + fileNamePart(report.model);
+}
+
+QString fileNamePart(QString text)
+{
+    for (QChar &character : text) {
+        if (character < QLatin1Char(' ') || QStringLiteral("\\/:*?\"<>|").contains(character))
+            character = QLatin1Char('-');
+    }
+    return text;
+}

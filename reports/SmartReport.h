@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QString>
+
+#include <vector>
+
+/// All that the printed report says of a disk, as plain values: a list that is read anew does not change it.
+struct SmartReport {
+    struct Cell {
+        QString text;
+        bool red = false;
+    };
+    using Row = std::vector<Cell>; ///< by column of the layout
+
+    bool nvme = false; ///< which of the two layouts
+    bool secondBrand = false;
+    float scaleFactor = 1.0F; ///< of the display; picks the set of images
+
+    QString make;
+    QString model;
+    QString serial;
+    QString firmware;
+    QString capacity;
+    QString sectorSize;
+    QString rotationRate;
+    QString ataVersion;
+    QString sataVersion;
+    QString localTime;
+    QString maxTransferSize;
+    QString smartStatus; ///< "Passed", or the drive's own words
+    QString temperature;
+    QString performanceText;
+    int performance = 0; ///< percent
+    int health = 0;      ///< percent
+    QString shortTestTime;
+    QString extendedTestTime;
+    QString lastTestType;
+    QString lastTestResult;
+    std::vector<Row> rows; ///< none: only the watermark is painted
+};
+
+/// What is known of the disk whose report was read last. Translated; main thread only.
+SmartReport gatherSmartReport();
+
+/// The name offered for the file, without an ending.
+QString suggestedReportName(const SmartReport &report);
+
+/// A text as part of a file name: what a file system refuses becomes "-".
+QString fileNamePart(QString text);

@@ -1,0 +1,62 @@
+#include "smart/PreviousTest.h"
+
+#include "inventory/CommandRunner.h"
+#include "smart/ToolInvocation.h"
+
+#include <QCoreApplication>
+#include <QTextStream>
+
+namespace
+{
+
+struct Phrase {
+    const char *inLog;
+    const char *shown;
+};
+
+constexpr Phrase Types[] = {
+    {"Extended offline", QT_TRANSLATE_NOOP("MainWindow", "Extended Self-test")},
+    {"Short offline", QT_TRANSLATE_NOOP("MainWindow", "Short Self-test")},
+};
+
+constexpr Phrase Results[] = {
+    {"Aborted by host", QT_TRANSLATE_NOOP("MainWindow", "Aborted by User")},
+    {"Completed without error", QT_TRANSLATE_NOOP("MainWindow", "Successfully Completed")},
+    {"Completed: read failure", QT_TRANSLATE_NOOP("MainWindow", "Failed by Read Element")},
+    {"", QT_TRANSLATE_NOOP("MainWindow", "Not Available")}, // any other line
+};
+
+/// The text shown for the first phrase that the line holds; null if it holds none.
+template<std::size_t N>
+const char *shownFor(const QString &line, const Phrase (&phrases)[N])
+{
+    for (const Phrase &phrase : phrases) {
+        if (line.contains(QLatin1String(phrase.inLog)))
+            return phrase.shown;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+void takePreviousTest(QTextStream &log)
+{
+    while (!log.atEnd()) {
+        const QString line = log.readLine();
+        const char *type = shownFor(line, Types);
+        if (!type)
+            continue;
+        g_strLastTestType = QCoreApplication::translate("MainWindow", type);
+        if (!log.atEnd())
+            g_strLastTestResult = QCoreApplication::translate("MainWindow", shownFor(line, Results));
+        return;
+    }
+}
+
+void ReadPreviousTest()
+{
+    const ToolPurpose purpose = ToolPurpose::SelfTestLog;
+    const QString path = runner::freshTempFile(toolFileName(purpose));
+    RunSilent(commandLine(purpose, storedDevice(purpose), path));
+    runner::readOutput(path, takePreviousTest);
+}
