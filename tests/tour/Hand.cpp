@@ -1,6 +1,7 @@
 #include "tests/tour/Hand.h"
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QPointer>
 #include <QTest>
 #include <QWidget>
@@ -55,6 +56,14 @@ void key(QWidget *window, Qt::Key key)
 {
     if (QWindow *native = nativeWindow(window))
         QTest::keyClick(native, key);
+}
+
+void fill(QWidget *field, const QString &text)
+{
+    if (auto *line = qobject_cast<QLineEdit *>(field)) {
+        line->setFocus();
+        line->setText(text); // typing would bring up a list of completions that eats the next key
+    }
 }
 
 } // namespace hand

@@ -3,6 +3,7 @@
 #include <QPoint>
 #include <Qt>
 
+class QString;
 class QWidget;
 
 /// Mouse and keyboard. The events enter where those of the display do, so modal windows, open menus and
@@ -24,5 +25,8 @@ void move(const Place &place);
 void press(const Place &place);
 void release(const Place &place);
 void key(QWidget *window, Qt::Key key);
+
+/// Makes `text` all that a field holds, as a paste over what it held.
+void fill(QWidget *field, const QString &text);
 
 } // namespace hand

@@ -57,8 +57,13 @@ StepList screenSteps(Walk &walk)
     for (int drive = drives > 0 ? 0 : NoDrive; drive < drives; ++drive) {
         steps.push_back(
             {stepName(diskStatus, drive), [drive](Walk &person) { seeDiskStatus(person, drive); }});
-        for (const Page &page : otherPages)
+        for (const Page &page : otherPages) {
             steps.push_back({stepName(page, drive), [page](Walk &person) { seePage(person, page); }});
+            if (QLatin1String(page.step) == QLatin1String("smart-status") && drive != NoDrive) {
+                const StepList more = smartSteps(drive);
+                steps.insert(steps.end(), more.begin(), more.end());
+            }
+        }
     }
     return steps;
 }

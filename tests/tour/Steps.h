@@ -30,8 +30,13 @@ StepList startSteps(Walk &walk);
 StepList screenSteps(Walk &walk);
 StepList menuSteps(Walk &walk);
 StepList settingsSteps(Walk &walk);
+StepList scanSteps(Walk &walk);
+StepList selfTestSteps(Walk &walk);
 StepList closeSteps(Walk &walk);
 /// @}
+
+/// Graphs, report and screenshot of a drive, for when its SMART Status shows. By its place in the combo.
+StepList smartSteps(int drive);
 
 /// The whole walk in its order.
 const std::vector<Chapter> &chapters();

@@ -37,7 +37,8 @@ TourReport::TourReport(const QString &folder, const QString &pcName)
 {
     QDir dir(folder);
     dir.mkpath(QStringLiteral("."));
-    static const QRegularExpression ours(QStringLiteral("^\\d\\d+-.*\\.png$"));
+    static const QRegularExpression ours(
+        QStringLiteral("^(\\d\\d+-.*\\.png|report-disk\\d+\\.pdf|screenshot-disk\\d+\\.jpg)$"));
     const QStringList old = dir.entryList(QDir::Files).filter(ours);
     for (const QString &name : old)
         dir.remove(name);

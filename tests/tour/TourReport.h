@@ -10,7 +10,7 @@
 class TourReport
 {
 public:
-    /// `folder` is made; the pictures and data of an earlier tour in it are removed.
+    /// `folder` is made; what an earlier tour left in it is removed.
     TourReport(const QString &folder, const QString &pcName);
 
     /// What one window showed.

@@ -9,7 +9,11 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
+#include <QDir>
+#include <QFileInfo>
+#include <QHeaderView>
 #include <QMenu>
+#include <QTreeView>
 
 #include <algorithm>
 
@@ -20,6 +24,8 @@ constexpr int PollInterval = 25;     ///< ms
 constexpr int SettleTime = 300;      ///< ms that the program must be idle before the next press
 constexpr int DialogPatience = 3000; ///< ms that a dialog may take to go
 const QString MainWindowClass = QStringLiteral("MainWindow");
+const QString SwitchQuestionClass = QStringLiteral("ScanSwitchClass");
+const QString FileDialogClass = QStringLiteral("QFileDialog");
 
 /// What sends a dialog away without doing what it asks, best first.
 const QStringList &dismissals()
@@ -77,16 +83,19 @@ void Walk::beginStep()
     m_pProgram->setDeadline(Program::Clock::now() + std::chrono::seconds(m_pPlan->stepLimit));
 }
 
+/// One round of waiting is over and was in vain.
+void Walk::endRound(const QString &what)
+{
+    if (m_pProgram->isLate())
+        throw StepFailed(QStringLiteral("waited in vain for ") + what);
+    sweepDialogs();
+    m_pProgram->pause(PollInterval);
+}
+
 void Walk::waitFor(const QString &what, const std::function<bool()> &condition)
 {
-    for (;;) {
-        if (m_pProgram->ask(condition))
-            return;
-        if (m_pProgram->isLate())
-            throw StepFailed(QStringLiteral("waited in vain for ") + what);
-        sweepDialogs();
-        m_pProgram->pause(PollInterval);
-    }
+    while (!m_pProgram->ask(condition))
+        endRound(what);
 }
 
 void Walk::waitForWindow(const QString &windowClass)
@@ -125,6 +134,25 @@ void Walk::waitForEnd()
     }
 }
 
+void Walk::waitWhileRising(const QString &what, const std::function<double()> &progress,
+                           const std::function<bool()> &condition)
+{
+    double highest = m_pProgram->ask(progress);
+    while (!m_pProgram->ask(condition)) {
+        const double now = m_pProgram->ask(progress);
+        if (now > highest) {
+            highest = now;
+            beginStep();
+        }
+        endRound(what);
+    }
+}
+
+bool Walk::sees(const QString &windowClass)
+{
+    return m_pProgram->ask([windowClass]() { return windows::byClass(windowClass) != nullptr; });
+}
+
 void Walk::click(const QString &what, const std::function<hand::Place()> &find)
 {
     waitFor(what, [find]() { return find().window != nullptr; });
@@ -145,9 +173,39 @@ void Walk::press(const QString &windowClass, const QStringList &buttonNames)
     });
 }
 
+void Walk::answer(const QString &windowClass, const QString &buttonName)
+{
+    const Expectation dialog(this, windowClass);
+    waitForWindow(windowClass);
+    recordDialog(windowClass);
+    press(windowClass, {buttonName});
+    waitForNoWindow(windowClass);
+}
+
+void Walk::saveAs(const QString &buttonName, const QString &name)
+{
+    const Expectation dialog(this, FileDialogClass);
+    const QString path = QDir(m_pPlan->out).filePath(name);
+    press(MainWindowClass, {buttonName});
+    waitForWindow(FileDialogClass);
+    m_pProgram->ask([path]() {
+        if (auto *field = windows::child(windows::byClass(FileDialogClass), QStringLiteral("fileNameEdit")))
+            hand::fill(field, QDir::toNativeSeparators(path));
+    });
+    m_pProgram->act([]() { hand::key(windows::byClass(FileDialogClass), Qt::Key_Return); });
+    waitForNoWindow(FileDialogClass);
+    waitFor(name, [path]() { return QFileInfo(path).size() > 0; });
+    TourReport::log(name);
+}
+
 void Walk::goTo(const QString &buttonName, const QString &pageClass)
 {
+    const Expectation question(this, SwitchQuestionClass);
     press(MainWindowClass, {buttonName});
+    waitFor(pageClass,
+            [pageClass]() { return windows::byClass(SwitchQuestionClass) || windows::byClass(pageClass); });
+    if (sees(SwitchQuestionClass))
+        answer(SwitchQuestionClass, QStringLiteral("YesButton"));
     waitForWindow(pageClass);
     waitIdle();
 }
@@ -184,6 +242,34 @@ void Walk::selectDrive(int index)
         return drives() && !drives()->view()->isVisible() && drives()->currentIndex() == index;
     });
     waitIdle();
+}
+
+void Walk::selectDisk(int number)
+{
+    const int index = m_pProgram->ask([number]() { return windows::driveIndex(number); });
+    if (index < 0)
+        throw StepFailed(QStringLiteral("the list of drives has no disk %1").arg(number));
+    selectDrive(index);
+}
+
+void Walk::clickRow(const QString &treeName, int row)
+{
+    const auto rowOf = [treeName, row](QTreeView **tree) {
+        *tree = qobject_cast<QTreeView *>(windows::child(mainWindow(), treeName));
+        return *tree ? (*tree)->model()->index(row, (*tree)->header()->logicalIndexAt(0)) : QModelIndex();
+    };
+    click(QStringLiteral("row %1 of %2").arg(row).arg(treeName), [rowOf]() {
+        QTreeView *tree = nullptr;
+        const QModelIndex cell = rowOf(&tree);
+        if (!cell.isValid())
+            return hand::Place();
+        tree->scrollTo(cell);
+        return hand::at(tree->viewport(), tree->visualRect(cell).center());
+    });
+    waitFor(QStringLiteral("the choice of row %1 of %2").arg(row).arg(treeName), [rowOf, row]() {
+        QTreeView *tree = nullptr;
+        return rowOf(&tree).isValid() && tree->currentIndex().row() == row;
+    });
 }
 
 void Walk::openMenu(const QString &buttonName)
@@ -281,7 +367,8 @@ void Walk::sweepDialogs()
             continue;
         const quintptr id = dialog.id;
         const Finder find = [id]() { return openDialog(id); };
-        recordOnce(dialog.className, find);
+        if (dialog.className != FileDialogClass)
+            recordOnce(dialog.className, find);
         dismiss(dialog.className, find);
     }
     m_dismissed = stillThere;

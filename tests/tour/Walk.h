@@ -35,13 +35,28 @@ public:
     void waitIdle();
     /// Waits until the program has ended.
     void waitForEnd();
+    /// Like waitFor, for work that takes as long as it takes: the step's time begins anew whenever
+    /// `progress`, asked on the GUI thread, has risen.
+    void waitWhileRising(const QString &what, const std::function<double()> &progress,
+                         const std::function<bool()> &condition);
+    /// Whether any visible window or page is of that class.
+    bool sees(const QString &windowClass);
 
     /// Presses and releases the mouse on the button of that window.
     void press(const QString &windowClass, const QStringList &buttonNames);
-    /// Presses a navigation button and waits for its page.
+    /// Answers a dialog that the step expects: waits for it, records it, presses a button of it, sees it go.
+    void answer(const QString &windowClass, const QString &buttonName);
+    /// Presses a button that asks for a file name and gives it `name` in the folder of the tour. The dialog
+    /// is not recorded, as it shows the machine's own folders. Waits for the file.
+    void saveAs(const QString &buttonName, const QString &name);
+    /// Presses a navigation button and waits for its page; gives up the results of a test if it is asked to.
     void goTo(const QString &buttonName, const QString &pageClass);
     /// Chooses an item of the drive combo with the mouse and waits until the disk has been read.
     void selectDrive(int index);
+    /// The same by the physical number of the disk.
+    void selectDisk(int number);
+    /// Clicks a row of a tree after scrolling to it.
+    void clickRow(const QString &treeName, int row);
     /// Opens the menu of a button of the main window.
     void openMenu(const QString &buttonName);
     void chooseInMenu(const QString &actionName);
@@ -66,6 +81,7 @@ public:
 private:
     using Finder = std::function<QWidget *()>;
 
+    void endRound(const QString &what);
     TourReport::Screen look(const QString &step, const Finder &find);
     void recordOnce(const QString &className, const Finder &find);
     void dismiss(const QString &className, const Finder &find);
@@ -77,4 +93,21 @@ private:
     QSet<QString> m_expected;
     QSet<QString> m_seenDialogs; ///< class and texts
     QSet<quintptr> m_dismissed;  ///< windows that were told to go and may not have gone yet
+};
+
+/// Expects windows of a class for as long as it lives.
+class Expectation
+{
+public:
+    Expectation(Walk *walk, const QString &windowClass) : m_pWalk(walk), m_strClass(windowClass)
+    {
+        walk->expect(windowClass);
+    }
+    ~Expectation() { m_pWalk->noLongerExpect(m_strClass); }
+    Expectation(const Expectation &) = delete;
+    Expectation &operator=(const Expectation &) = delete;
+
+private:
+    Walk *m_pWalk;
+    QString m_strClass;
 };

@@ -27,6 +27,11 @@ bool isOfClass(const QWidget *widget, const QString &className)
     return className == QLatin1String(widget->metaObject()->className());
 }
 
+const QComboBox *driveCombo()
+{
+    return windows::combo(windows::byClass(QStringLiteral("MainWindow")), QStringLiteral("DriveCombobox"));
+}
+
 QString plainText(QString text)
 {
     return text.remove(QLatin1Char('&')).trimmed();
@@ -107,9 +112,15 @@ QVector<QWidget *> dialogs()
     return found;
 }
 
+int driveIndex(int disk)
+{
+    const QComboBox *drives = driveCombo();
+    return drives ? drives->findData(disk + DiskIdBase) : -1;
+}
+
 int selectedDisk()
 {
-    const QComboBox *drives = combo(byClass(QStringLiteral("MainWindow")), QStringLiteral("DriveCombobox"));
+    const QComboBox *drives = driveCombo();
     if (!drives || drives->currentIndex() < 0 || !drives->currentData().isValid())
         return -1;
     return drives->currentData().toInt() - DiskIdBase;

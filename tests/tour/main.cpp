@@ -74,6 +74,8 @@ int main(int argc, char **argv)
     std::atexit(finishEarly);
     qInstallMessageHandler(message);
 
+    // A file dialog of the system's own is out of the tour's reach.
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     // The program gets no argument: what the command line says is for the tour.
     char *arguments[] = {argv[0], nullptr};
     return finish(runApplication(1, arguments));

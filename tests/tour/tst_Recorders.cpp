@@ -1,6 +1,7 @@
 #include "tests/tour/LayoutCheck.h"
 #include "tests/tour/ScreenRecorder.h"
 
+#include <QBarCategoryAxis>
 #include <QCategoryAxis>
 #include <QChartView>
 #include <QComboBox>
@@ -197,43 +198,60 @@ void tst_Recorders::tellsTrees()
                                                 {QStringLiteral("color"), QStringLiteral("#ff0000")}}));
 }
 
+/// A graph as SMART Status makes it: its title on a label, one series on a shown and on a hidden axis, and
+/// the days as names of either kind of axis.
 void tst_Recorders::tellsCharts()
 {
     using namespace QtCharts;
+    label(QStringLiteral("GraphLabel"), QStringLiteral("Graph : Temperature"), {0, 0, 200, 20});
     auto *view = new QChartView(m_window.get());
+    QChart *chart = view->chart();
     auto *series = new QLineSeries;
     series->append(0, 36);
-    series->append(1, 37.5);
-    view->chart()->addSeries(series);
-    view->chart()->setTitle(QStringLiteral("Temperature"));
+    series->append(10, 37.5);
+    chart->addSeries(series);
     auto *left = new QValueAxis;
     left->setRange(0, 38);
     left->setTickCount(6);
-    view->chart()->addAxis(left, Qt::AlignLeft);
-    auto *bottom = new QCategoryAxis;
-    bottom->append(QStringLiteral("15-Nov"), 1);
-    view->chart()->addAxis(bottom, Qt::AlignBottom);
-    bottom->setVisible(false);
+    chart->addAxis(left, Qt::AlignLeft);
+    auto *hidden = new QValueAxis;
+    chart->addAxis(hidden, Qt::AlignBottom);
+    auto *day = new QCategoryAxis;
+    day->append(QStringLiteral("15-Nov"), 80);
+    chart->addAxis(day, Qt::AlignBottom);
+    auto *days = new QBarCategoryAxis;
+    days->append(QStringList{QStringLiteral("15-Nov"), QStringLiteral("16-Nov")});
+    chart->addAxis(days, Qt::AlignBottom);
+    for (QAbstractAxis *axis : {left, hidden})
+        series->attachAxis(axis);
+    left->setRange(0, 38);
+    hidden->setVisible(false);
     m_window->show();
 
     const QJsonObject found =
         screenrecorder::describe(m_window.get())[QStringLiteral("charts")].toArray().at(0).toObject();
-    QCOMPARE(found[QStringLiteral("title")].toString(), QStringLiteral("Temperature"));
+    QCOMPARE(found[QStringLiteral("title")].toString(), QStringLiteral("Graph : Temperature"));
     QCOMPARE(found[QStringLiteral("series")].toArray(),
              QJsonArray{(QJsonObject{
-                 {QStringLiteral("points"), QJsonArray{QJsonArray{0, 36}, QJsonArray{1, 37.5}}}})});
+                 {QStringLiteral("points"), QJsonArray{QJsonArray{0, 36}, QJsonArray{10, 37.5}}}})});
     const QJsonArray axes = found[QStringLiteral("axes")].toArray();
+    QCOMPARE(axes.size(), 4);
     QCOMPARE(axes.at(0).toObject(), (QJsonObject{{QStringLiteral("kind"), QStringLiteral("value")},
                                                  {QStringLiteral("side"), QStringLiteral("left")},
                                                  {QStringLiteral("visible"), true},
                                                  {QStringLiteral("min"), 0},
                                                  {QStringLiteral("max"), 38},
                                                  {QStringLiteral("ticks"), 6}}));
-    const QJsonObject category = axes.at(1).toObject();
-    QCOMPARE(category[QStringLiteral("kind")].toString(), QStringLiteral("category"));
-    QCOMPARE(category[QStringLiteral("side")].toString(), QStringLiteral("bottom"));
-    QCOMPARE(category[QStringLiteral("visible")].toBool(true), false);
-    QCOMPARE(category[QStringLiteral("labels")].toArray(), QJsonArray{QStringLiteral("15-Nov")});
+    QCOMPARE(axes.at(1).toObject()[QStringLiteral("visible")].toBool(true), false);
+    const QJsonArray labels[] = {{QStringLiteral("15-Nov")},
+                                 {QStringLiteral("15-Nov"), QStringLiteral("16-Nov")}};
+    for (int i = 0; i < 2; ++i) {
+        const QJsonObject category = axes.at(i + 2).toObject();
+        QCOMPARE(category[QStringLiteral("kind")].toString(), QStringLiteral("category"));
+        QCOMPARE(category[QStringLiteral("side")].toString(), QStringLiteral("bottom"));
+        QCOMPARE(category[QStringLiteral("visible")].toBool(), true);
+        QCOMPARE(category[QStringLiteral("labels")].toArray(), labels[i]);
+    }
 }
 
 void tst_Recorders::tellsPaintedViews()

@@ -1,0 +1,116 @@
+#include "app/state/Globals.h"
+#include "tests/tour/Steps.h"
+#include "tests/tour/Walk.h"
+#include "tests/tour/Windows.h"
+
+#include <QAbstractItemModel>
+#include <QLabel>
+#include <QTreeView>
+#include <QVector>
+#include <QtCharts/QChartView>
+
+#include <algorithm>
+
+namespace
+{
+
+const QString TreeName = QStringLiteral("m_pAttributeTree");
+constexpr int NameColumn = 1;
+constexpr int Reluctance = 500; ///< ms in which a dialog that must not come would have come
+
+struct Row {
+    int number = 0;
+    QString name;
+};
+
+/// Whose graphs are worth a picture: for each line the first name that a row has.
+const QVector<QStringList> &wanted()
+{
+    static const QVector<QStringList> names{
+        {QStringLiteral("Temperature Celsius"), QStringLiteral("Airflow Temperature"),
+         QStringLiteral("Temperature")},
+        {QStringLiteral("Reallocated Sector")},
+        {QStringLiteral("Total LBAs Written"), QStringLiteral("Data Units Written")}};
+    return names;
+}
+
+const QWidget *page()
+{
+    return windows::byClass(QStringLiteral("SmartStatus"));
+}
+
+/// The rows that the tree shows; none where no graph can be seen beside it. GUI thread.
+QVector<Row> shownRows()
+{
+    QVector<Row> rows;
+    const QtCharts::QChartView *graph = page() ? page()->findChild<QtCharts::QChartView *>() : nullptr;
+    const QTreeView *tree = page() ? page()->findChild<QTreeView *>(TreeName) : nullptr;
+    if (!graph || !graph->isVisible() || !tree || !tree->isVisible())
+        return rows;
+    for (int row = 0; row < tree->model()->rowCount(); ++row)
+        rows.append({row, tree->model()->index(row, NameColumn).data().toString()});
+    return rows;
+}
+
+QVector<Row> chosenRows(const QVector<Row> &rows)
+{
+    QVector<Row> chosen;
+    for (const QStringList &names : wanted()) {
+        for (const QString &name : names) {
+            const auto found = std::find_if(rows.cbegin(), rows.cend(),
+                                            [&name](const Row &row) { return row.name.contains(name); });
+            if (found == rows.cend())
+                continue;
+            chosen.append(*found);
+            break;
+        }
+    }
+    return chosen;
+}
+
+/// The first row's graph stands there when the disk has been read; it is part of the page's own picture.
+void seeGraphs(Walk &walk)
+{
+    const QVector<Row> rows = chosenRows(walk.program().ask(shownRows));
+    for (const Row &row : rows) {
+        walk.clickRow(TreeName, row.number);
+        walk.waitFor(QStringLiteral("the graph of ") + row.name, [row]() {
+            const QLabel *title =
+                page() ? page()->findChild<QLabel *>(QStringLiteral("GraphLabel")) : nullptr;
+            return title && title->text().endsWith(row.name);
+        });
+        walk.record(QStringLiteral("smart-status"));
+    }
+}
+
+/// Saves what a button of the page makes. Without SMART the button has to do nothing.
+void save(Walk &walk, const QString &button, const QString &pattern)
+{
+    if (walk.program().ask([]() { return g_bSmartAvailable; })) {
+        walk.saveAs(button, pattern.arg(walk.program().ask(windows::selectedDisk)));
+        return;
+    }
+    const QString fileDialog = QStringLiteral("QFileDialog");
+    const Expectation dialog(&walk, fileDialog);
+    walk.press(QStringLiteral("MainWindow"), {button});
+    walk.program().pause(Reluctance);
+    if (walk.sees(fileDialog))
+        throw StepFailed(QStringLiteral("a file is asked for where there is nothing to save"));
+}
+
+Step saveStep(const QString &what, int drive, const QString &button, const QString &pattern)
+{
+    return {QStringLiteral("%1 of drive %2").arg(what).arg(drive),
+            [button, pattern](Walk &walk) { save(walk, button, pattern); }};
+}
+
+} // namespace
+
+StepList smartSteps(int drive)
+{
+    return {{QStringLiteral("graphs of drive %1").arg(drive), seeGraphs},
+            saveStep(QStringLiteral("report"), drive, QStringLiteral("ReportSaveButton"),
+                     QStringLiteral("report-disk%1.pdf")),
+            saveStep(QStringLiteral("screenshot"), drive, QStringLiteral("ScreenshotButton"),
+                     QStringLiteral("screenshot-disk%1.jpg"))};
+}
