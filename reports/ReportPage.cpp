@@ -4,9 +4,11 @@
 #include "reports/SmartReport.h"
 
 #include <QCoreApplication>
+#include <QImage>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QPixmap>
+
+#include <algorithm>
 
 namespace
 {
@@ -181,14 +183,28 @@ const Layout &ataLayout()
     return layout;
 }
 
+/// An image for paper. What is transparent in it is white below: viewers that shrink the picture mix the two
+/// at its edges, and black would give it an outline.
+QImage printImage(const QString &path)
+{
+    QImage image = QImage(path).convertToFormat(QImage::Format_ARGB32);
+    for (int y = 0; y < image.height(); ++y) {
+        auto *line = reinterpret_cast<QRgb *>(image.scanLine(y));
+        std::replace_if(
+            line, line + image.width(), [](QRgb pixel) { return qAlpha(pixel) == 0; },
+            qRgba(255, 255, 255, 0));
+    }
+    return image;
+}
+
 /// One painting of a report.
 class PagePainter
 {
 public:
     PagePainter(QPainter &painter, const SmartReport &report)
         : m_painter(painter), m_report(report), m_layout(report.nvme ? nvmeLayout() : ataLayout()),
-          m_logo(imageOfSet(report.secondBrand ? QStringLiteral("img_Korvane.png")
-                                               : QStringLiteral("img_Velmora.png")))
+          m_logo(ofSet(report.secondBrand ? QStringLiteral("img_Korvane.png")
+                                          : QStringLiteral("img_Velmora.png")))
     {
     }
 
@@ -204,16 +220,19 @@ public:
     }
 
 private:
-    QString imageOfSet(const QString &file) const
+    /// Null where the display scale has no set.
+    QImage ofSet(const QString &file) const
     {
-        return scale::imagePath(file, m_report.scaleFactor, scale::Family::Folder);
+        const QString path = scale::imagePath(file, m_report.scaleFactor, scale::Family::Folder);
+        return path.isEmpty() ? QImage() : printImage(path);
     }
 
     /// `source` in pixels of the design size.
-    void drawImage(const QRect &target, const QPixmap &image, const QRect &source)
+    void drawImage(const QRect &target, const QImage &image, const QRect &source)
     {
-        m_painter.drawPixmap(target, image,
-                             QRect(source.topLeft() * ImageDensity, source.size() * ImageDensity));
+        if (!image.isNull())
+            m_painter.drawImage(target, image,
+                                QRect(source.topLeft() * ImageDensity, source.size() * ImageDensity));
     }
 
     void setInk(Ink ink)
@@ -226,17 +245,18 @@ private:
 
     void setFont(int points, int weight)
     {
-        m_painter.setFont(QFont(QStringLiteral("Segoe UI"), points, weight));
+        QFont face(QStringLiteral("Segoe UI"), points, weight);
+        // Too little to be seen, but with it the letters are not tied into ligatures, and a text that is
+        // searched or copied out of the file is the one that was written.
+        face.setLetterSpacing(QFont::AbsoluteSpacing, 0.02);
+        m_painter.setFont(face);
     }
 
     void paintWatermark()
     {
-        const QString path = imageOfSet(QStringLiteral("img_WaterMark.png"));
-        if (path.isEmpty())
-            return;
         const QRect page = m_painter.viewport();
         drawImage({page.width() / 2 - 1500, page.height() / 2 - m_layout.watermarkRise, 3500, 4500},
-                  QPixmap(path), {0, 0, 250, 300});
+                  ofSet(QStringLiteral("img_WaterMark.png")), {0, 0, 250, 300});
     }
 
     void paintFrame()
@@ -245,8 +265,7 @@ private:
         const int right = m_painter.viewport().width() - 24;
         m_painter.drawLine(0, 800, right, 800);
         m_painter.drawLine(0, 13150, right, 13150);
-        if (!m_logo.isNull())
-            drawImage({-100, 13220, 1700, 500}, m_logo, {0, 0, 170, 48});
+        drawImage({-100, 13220, 1700, 500}, m_logo, {0, 0, 170, 48});
     }
 
     void paintFixedParts()
@@ -254,7 +273,8 @@ private:
         setFont(14, RegularWeight);
         m_painter.drawText(QRect(350, 4, m_report.secondBrand ? 2620 : 2400, 750), Centred,
                            tr("Velmora Halvane"));
-        drawImage({-120, 4, 1650, 580}, QPixmap(QStringLiteral(":/images/Halvane48.png")), {0, -8, 160, 45});
+        drawImage({-120, 4, 1650, 580}, printImage(QStringLiteral(":/images/Halvane48.png")),
+                  {0, -8, 160, 45});
         m_painter.drawText(QRect(2000, 1100, 5000, 300), Centred, tr("S.M.A.R.T. Report"));
 
         setFont(8, RegularWeight);
@@ -301,7 +321,7 @@ private:
     QPainter &m_painter;
     const SmartReport &m_report;
     const Layout &m_layout;
-    const QPixmap m_logo; ///< one object, so that the file holds it once
+    const QImage m_logo; ///< one object, so that the file holds it once
 };
 
 } // namespace
