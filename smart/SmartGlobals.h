@@ -13,8 +13,7 @@ inline SmartAttributeRecord *g_pSmartAttributeTail = nullptr;
 inline NvmeAttributeRecord *g_pNvmeAttributeHead = nullptr;
 inline NvmeAttributeRecord *g_pNvmeAttributeTail = nullptr;
 
-inline QString
-    g_strGraphTitle; ///< title of the graph on show, empty before the first; offered as a file name
+inline QString g_strGraphTitle; ///< of the graph drawn last, empty before the first; offered as a file name
 inline QString g_strAtaVersion; ///< stays as it was where a report names no version
 
 inline SharedText g_strSmartReportPath; ///< where the latest SMARTThread run left its report
