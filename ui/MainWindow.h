@@ -76,6 +76,13 @@ public slots:
     void OnShowDiskStatus();
     void OnShowDiskPartition();
     void OnShowScanDisk();
+    void OnCheckRadioButton();
+    void ChooseScanType();
+    void OnClickStopTestButton();
+    void StopConfirm();
+    void OnCheckShortTest1();
+    void OnStartShortSelfTest();
+    void CheckShortTestStatus1();
     void DetailsforSelftest();
     void OnCheckPreviousTestResult();
     void OnShowCloneDisk();
@@ -193,6 +200,18 @@ private:
     void retranslatePartitions();
     /// @}
 
+    /// \name Self-test
+    /// @{
+    void showTestScreen();
+    void showTestButtons(bool running);
+    void setNavigationEnabled(Screen screen, bool enabled);
+    void enableNavigation();
+    void showTestProgress(int remainingPercent);
+    void endSelfTest(bool passed);
+    void reportTestAbort();
+    void abandonTestStart();
+    /// @}
+
     /// \name Closing
     /// @{
     bool jobRuns() const;
@@ -242,6 +261,7 @@ private:
     bool m_bRefreshing = false;
     bool m_bRefreshAgain = false; ///< a volume came or went during a refresh
     QTimer *m_pTemperatureTimer = nullptr;
+    QTimer *m_pTestTimer = nullptr; ///< made at the first self-test
     FramelessDrag m_drag;
     SMARTThread m_smartThread;
     QRefThreadDevicesLoad m_refreshThread;

@@ -3,10 +3,12 @@
 #include "app/state/Globals.h"
 #include "ui/Images.h"
 #include "ui/PageLook.h"
+#include "ui/SelfTestPanel.h"
 #include "ui/Style.h"
 
 #include <QButtonGroup>
 #include <QEvent>
+#include <QVBoxLayout>
 
 namespace
 {
@@ -33,6 +35,10 @@ ScanDisk::ScanDisk(QWidget *parent) : QWidget(parent)
 {
     setupUi(this);
     pagelook::makePage(this);
+    m_pSelfTestPanel = new SelfTestPanel(frame_3);
+    auto *testColumn = new QVBoxLayout(frame_3);
+    testColumn->setContentsMargins(0, 0, 0, 0);
+    testColumn->addWidget(m_pSelfTestPanel);
     styleChooser();
     styleCounters();
     for (QLabel *count : {BlockSizeValLbl, ProcessedVal, BadBlkValLbl})
@@ -111,16 +117,30 @@ void ScanDisk::setFixedTexts()
                         "This test may take up to few hours to complete."));
 }
 
-void ScanDisk::ShowChooser()
+void ScanDisk::hideParts()
 {
     for (QWidget *part : std::initializer_list<QWidget *>{
              ScanDiskLbl, TestHeadingLabel, frame, frame_3, frame_4, BlueClrLbl, ProcessesLbl, ProcessedVal,
              RedClrLBl, BadBlkLbl, BadBlkValLbl, ProcesClrLl, ProcessNameLbl})
         part->hide();
+}
+
+void ScanDisk::ShowChooser()
+{
+    hideParts();
     frame_2->setWindowModality(Qt::WindowModal);
     frame_2->raise();
     frame_2->show();
     radioButton->setChecked(true);
+}
+
+void ScanDisk::ShowSelfTest()
+{
+    hideParts();
+    frame_2->hide();
+    m_pSelfTestPanel->ShowProgress(true);
+    m_pSelfTestPanel->ShowTimes(true);
+    frame_3->show();
 }
 
 void ScanDisk::FillDisk(const DiskNode *pNode)

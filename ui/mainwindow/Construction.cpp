@@ -392,6 +392,7 @@ void MainWindow::connectAll()
     connect(minimizeButton, &QPushButton::clicked, this, &MainWindow::OnMinimized);
     connect(CloseButton, &QPushButton::clicked, this, &MainWindow::OnClose);
     connect(StopButton, &QPushButton::clicked, this, &MainWindow::OnStop);
+    connect(StopTestButton, &QPushButton::clicked, this, &MainWindow::OnClickStopTestButton);
     connect(ReportSaveButton, &QPushButton::clicked, this, &MainWindow::SavePDFReport);
     connect(ScreenshotButton, &QPushButton::clicked, this, &MainWindow::TakeScreenshot);
     connect(m_pMenuButton, &QPushButton::clicked, this, &MainWindow::OnHideButtons);

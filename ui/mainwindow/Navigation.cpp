@@ -198,6 +198,8 @@ void MainWindow::OnStopConfirm()
     if (m_pCloneDiskPage->isVisible()) {
         setLook(navigation::CloneDiskScreen, Look::Selected);
         button(navigation::CloneDiskScreen)->setDown(true);
+    } else if (g_bStopRequested) {
+        StopConfirm();
     }
     m_pConfirmation->hide();
 }

@@ -1,0 +1,48 @@
+#include "smart/SelfTestClock.h"
+
+namespace selftest
+{
+
+namespace
+{
+
+std::size_t current()
+{
+    return static_cast<std::size_t>(currentSelfTest());
+}
+
+} // namespace
+
+void restartClock()
+{
+    g_nMinuteTicks = 0;
+    g_nElapsedSeconds = 0;
+    g_timeElapsed = QTime(0, 0);
+}
+
+void setElapsedLimit()
+{
+    g_nElapsedLimit[current()] = static_cast<qint32>(static_cast<quint32>(currentPollingMinutes()) * 60u);
+}
+
+bool takeMinute()
+{
+    if (g_nMinuteTicks != 60)
+        return false;
+    g_nMinuteTicks = 0;
+    --g_nRemainingMinutes[current()];
+    return true;
+}
+
+void tickClock()
+{
+    if (g_nElapsedSeconds < g_nElapsedLimit[current()]) {
+        ++g_nElapsedSeconds;
+        ++g_nMinuteTicks;
+    } else {
+        g_nMinuteTicks = 0;
+    }
+    g_timeElapsed = g_timeElapsed.addSecs(1);
+}
+
+} // namespace selftest

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "smart/SelfTestGlobals.h"
+
+/// The clock of a self-test: counts ticks, meant to come once a second, in the globals of SelfTestGlobals.h.
+namespace selftest
+{
+
+/// Sets the counts and the elapsed time to zero.
+void restartClock();
+
+/// The seconds that the remaining minutes may fall: the polling time of the current kind, in 32 bits.
+void setElapsedLimit();
+
+/// Takes a minute off the remaining ones if 60 ticks have gone since the last; false if it is not time yet.
+bool takeMinute();
+
+/// One tick. Behind the limit only the elapsed time runs on. It starts again at 24 hours.
+void tickClock();
+
+} // namespace selftest

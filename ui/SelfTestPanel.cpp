@@ -1,0 +1,145 @@
+#include "ui/SelfTestPanel.h"
+
+#include "ui/DialogFrame.h"
+#include "ui/PageLook.h"
+#include "ui/Style.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+
+namespace
+{
+
+constexpr char Context[] = "MainWindow";
+
+struct StatusLook {
+    const char *text;
+    const char *sheet;
+};
+
+/// In the order of SelfTestPanel::Status.
+constexpr StatusLook StatusLooks[] = {
+    {"", "QLabel {color : Black;}"},
+    {QT_TRANSLATE_NOOP("MainWindow", "Running, no problems found"), "QLabel {color : Black;}"},
+    {QT_TRANSLATE_NOOP("MainWindow", "Successfully Completed"), "QLabel {color : Green;}"},
+    {QT_TRANSLATE_NOOP("MainWindow", "Test failed by Read Element"), "QLabel {color : Red;}"},
+    {QT_TRANSLATE_NOOP("MainWindow", "Test Aborted by User"), "QLabel {color : Red;}"},
+};
+
+QString translated(const char *text)
+{
+    return *text ? QCoreApplication::translate(Context, text) : QString();
+}
+
+QString minutesText(std::optional<int> minutes)
+{
+    return minutes ? QString::number(*minutes) + QCoreApplication::translate(Context, " minutes") : QString();
+}
+
+QString nameOf(std::optional<SelfTestKind> kind)
+{
+    if (!kind)
+        return QString();
+    return *kind == SelfTestKind::Extended ? QCoreApplication::translate(Context, "Extended Self-test")
+                                           : QCoreApplication::translate(Context, "Short Self-test");
+}
+
+} // namespace
+
+SelfTestPanel::SelfTestPanel(QWidget *parent) : QWidget(parent)
+{
+    setupUi(this);
+    DialogFrame::scaleForm(this);
+    pagelook::styleHeadings({TestNameLbl});
+    pagelook::styleNames({TestModelLbl, TestSerialLbl, TestBarLbl, TestStatusLbl, PollingTimeLbl,
+                          TestRemainingLbl, TestElapsedLbl});
+    pagelook::styleValues({TestModelValLbl, TestSerialValLbl, TestPercentLbl, TestStatusValLbl,
+                           PollingTimeValLbl, TestRemainingValLbl, TestElapsedValLbl});
+    for (QLabel *identity : {TestModelValLbl, TestSerialValLbl})
+        identity->setStyleSheet(style::BlackLabel);
+    for (QFrame *card : {DiskCard, TestCard, PollingCard, RemainingCard, ElapsedCard})
+        pagelook::styleCard(card);
+    for (QLabel *time : {PollingTimeValLbl, TestRemainingValLbl, TestElapsedValLbl})
+        time->setFont(style::font(13));
+    TestProgressBar->setStyleSheet(
+        QStringLiteral("QProgressBar{background: #e9eef3; border: none; border-radius: %1px;}"
+                       "QProgressBar::chunk{background: #2a81e5; border-radius: %1px;}")
+            .arg(style::px(4)));
+    SetProgress(0);
+    showTexts();
+}
+
+void SelfTestPanel::showTexts()
+{
+    TestNameLbl->setText(nameOf(m_kind));
+    TestBarLbl->setText(nameOf(m_kind));
+    const StatusLook &look = StatusLooks[static_cast<std::size_t>(m_status)];
+    TestStatusValLbl->setStyleSheet(QLatin1String(look.sheet));
+    TestStatusValLbl->setText(translated(look.text));
+    PollingTimeValLbl->setText(minutesText(m_pollingMinutes));
+    TestRemainingValLbl->setText(minutesText(m_remainingMinutes));
+}
+
+void SelfTestPanel::SetTestName(std::optional<SelfTestKind> kind)
+{
+    m_kind = kind;
+    showTexts();
+}
+
+void SelfTestPanel::SetDisk(const QString &model, const QString &serial)
+{
+    TestModelValLbl->setText(model);
+    TestSerialValLbl->setText(serial);
+}
+
+void SelfTestPanel::ShowProgress(bool shown)
+{
+    TestProgressBar->setVisible(shown);
+    TestPercentLbl->setVisible(shown);
+}
+
+void SelfTestPanel::ShowTimes(bool shown)
+{
+    for (QFrame *card : {PollingCard, RemainingCard, ElapsedCard})
+        card->setVisible(shown);
+}
+
+void SelfTestPanel::SetProgress(int percent)
+{
+    if (percent < 0 || percent > 100)
+        return;
+    TestProgressBar->setValue(percent);
+    TestPercentLbl->setText(QString::number(percent) + QLatin1Char('%'));
+}
+
+void SelfTestPanel::SetStatus(Status status)
+{
+    m_status = status;
+    showTexts();
+}
+
+void SelfTestPanel::SetPollingMinutes(std::optional<int> minutes)
+{
+    m_pollingMinutes = minutes;
+    showTexts();
+}
+
+void SelfTestPanel::SetRemainingMinutes(std::optional<int> minutes)
+{
+    m_remainingMinutes = minutes;
+    showTexts();
+}
+
+void SelfTestPanel::SetElapsed(const QString &text)
+{
+    TestElapsedValLbl->setText(text);
+}
+
+void SelfTestPanel::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        retranslateUi(this);
+        showTexts();
+    }
+    QWidget::changeEvent(event);
+}
