@@ -6,10 +6,15 @@ fail() {
     exit 1
 }
 
-# Installs what is missing of packages.txt; without a way to do so names it and ends with 1.
+# install_packages [system…]: installs what is missing of the packages.txt of these systems (linux); without a way
+# to do so names it and ends with 1.
 install_packages() {
-    local wanted missing as_root=()
-    wanted=$(sed -e 's/#.*//' -e '/^[[:space:]]*$/d' "$root/packaging/linux/packages.txt")
+    local wanted missing as_root=() lists=()
+    local system
+    for system in "${@:-linux}"; do
+        lists+=("$root/packaging/$system/packages.txt")
+    done
+    wanted=$(sed -e 's/#.*//' -e '/^[[:space:]]*$/d' "${lists[@]}")
     missing=$(comm -23 <(sort -u <<<"$wanted") \
         <(dpkg-query -W -f '${db:Status-Status} ${Package}\n' 2>/dev/null | sed -n 's/^installed //p' | sort -u) |
         tr '\n' ' ')

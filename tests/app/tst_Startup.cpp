@@ -6,8 +6,6 @@
 #include <QProcess>
 #include <QtTest>
 
-#include <csignal>
-
 /// The program as a process: its single instance, and how long it takes to the first screen.
 class tst_Startup : public QObject
 {
@@ -86,7 +84,7 @@ void tst_Startup::startsAgainAfterAKill()
     folder.add(QStringLiteral("pc.json"), Description);
     QProcess first;
     startProgram(first, folder, 1);
-    ::kill(static_cast<pid_t>(first.processId()), SIGKILL);
+    first.kill();
     QVERIFY(first.waitForFinished());
     QProcess second;
     startProgram(second, folder, 2);

@@ -1,0 +1,45 @@
+# shellcheck shell=bash disable=SC2154
+# Sourced by the scripts beside it. Expects the root of the tree in $root.
+. "$root/packaging/linux/setup.sh"
+
+host=x86_64-w64-mingw32
+build_folder=$root/build-windows
+dist_folder=$root/dist/windows
+
+# fetch_source <package> <folder>: unpacks Debian's source of a package below the folder and names its tree in
+# $source_tree.
+fetch_source() {
+    local package=$1 folder=$2 uri release
+    local -a apt
+    mkdir -p "$folder/lists/partial"
+    # The mirror that the machine installs from has the sources too, though its list may not say so.
+    read -r uri release < <(apt-get indextargets --format '$(REPO_URI) $(CODENAME) $(COMPONENT)' \
+        'Created-By: Packages' | awk '$3 == "main" && $2 !~ /-/ { print $1, $2; exit }') ||
+        fail "No list of Debian packages is set up."
+    printf 'deb-src %s %s main\n' "$uri" "$release" >"$folder/sources.list"
+    apt=(-o Dir::Etc::sourcelist="$folder/sources.list" -o Dir::Etc::sourceparts=-
+        -o Dir::State::lists="$folder/lists" -o Dir::Cache::srcpkgcache= -o Dir::Cache::pkgcache=
+        -o APT::Sandbox::User=root)
+    quietly "The list of source packages could not be read." apt-get "${apt[@]}" update
+    (cd "$folder" && quietly "The source of $package could not be fetched." apt-get "${apt[@]}" source "$package") ||
+        exit 1
+    source_tree=$(find "$folder" -mindepth 1 -maxdepth 1 -type d -name "*-*" -newer "$folder/sources.list" | head -n 1)
+    [ -d "$source_tree" ] || fail "The source of $package did not unpack."
+}
+
+# Names the folder of the Qt for Windows in $qt_folder: the one unpacked last time, the ready-made one beside the
+# tree, or one made now.
+provide_qt() {
+    local ready
+    qt_folder=$build_folder/qt
+    [ ! -f "$qt_folder/lib/cmake/Qt5Charts/Qt5ChartsConfig.cmake" ] || return 0
+    for ready in "$root"/../shared/windows-sdk/qt-5.15*-mingw64.tar.xz; do
+        [ -f "$ready" ] || continue
+        rm -rf "$qt_folder" "$qt_folder.part"
+        mkdir -p "$qt_folder.part"
+        quietly "$ready could not be unpacked." tar -xJf "$ready" -C "$qt_folder.part" --strip-components=1
+        mv "$qt_folder.part" "$qt_folder"
+        return 0
+    done
+    "$root/packaging/windows/build-sdk" "$qt_folder"
+}
