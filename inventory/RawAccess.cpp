@@ -11,16 +11,16 @@ namespace
 constexpr int SectorSize = 512;
 constexpr int TransferAttempts = 1; ///< for physical disks; a volume always gets one
 
-bool transferOnce(Platform::RawHandle handle, quint64 sector, void *buffer, quint32 byteCount, bool write)
+bool transferOnce(Platform::RawHandle handle, quint64 sector, void *buffer, quint32 byteCount, bool write,
+                  quint32 *transferred)
 {
     Platform &platform = Platform::current();
     if (sector > static_cast<quint64>(std::numeric_limits<qint64>::max()) / SectorSize)
         return false;
     if (!platform.SetFilePointer(handle, static_cast<qint64>(sector * SectorSize)))
         return false;
-    quint32 transferred = 0;
-    return write ? platform.WriteFile(handle, buffer, byteCount, &transferred)
-                 : platform.ReadFile(handle, buffer, byteCount, &transferred);
+    return write ? platform.WriteFile(handle, buffer, byteCount, transferred)
+                 : platform.ReadFile(handle, buffer, byteCount, transferred);
 }
 
 } // namespace
@@ -40,8 +40,9 @@ Platform::RawHandle OpenDisk(int driveCode)
 }
 
 bool ReadWriteSectors(int driveCode, quint64 sector, void *buffer, quint32 byteCount,
-                      Platform::RawHandle handle, bool write)
+                      Platform::RawHandle handle, bool write, quint32 *transferred)
 {
+    quint32 moved = 0;
     const bool ownHandle = handle == NoDiskHandle;
     if (ownHandle)
         handle = OpenDisk(driveCode);
@@ -50,9 +51,11 @@ bool ReadWriteSectors(int driveCode, quint64 sector, void *buffer, quint32 byteC
     const int attempts = driveCode >= PhysicalDriveBase ? TransferAttempts : 1;
     bool done = false;
     for (int attempt = 0; attempt < attempts && !done; ++attempt)
-        done = transferOnce(handle, sector, buffer, byteCount, write);
+        done = transferOnce(handle, sector, buffer, byteCount, write, &moved);
     if (ownHandle)
         Platform::current().CloseHandle(handle);
+    if (transferred)
+        *transferred = moved;
     return done;
 }
 

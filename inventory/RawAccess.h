@@ -19,9 +19,10 @@ Platform::RawHandle OpenDisk(int driveCode);
 /// Transfers `byteCount` bytes from or to sector `sector`. Works on `handle` and leaves it open; with
 /// NoDiskHandle the call opens and closes the target itself. False if the target does not open, the place
 /// cannot be sought or the transfer fails. A transfer that crosses the target's end is cut there and
-/// succeeds: the rest of `buffer` keeps what it held.
+/// succeeds: the rest of `buffer` keeps what it held. `transferred`, which may be null, gets the bytes moved.
 bool ReadWriteSectors(int driveCode, quint64 sector, void *buffer, quint32 byteCount,
-                      Platform::RawHandle handle = NoDiskHandle, bool write = false);
+                      Platform::RawHandle handle = NoDiskHandle, bool write = false,
+                      quint32 *transferred = nullptr);
 
 /// Count of sectors of the target in `result`, 0 on failure.
 void GetDiskSectorCount(int driveCode, quint64 *result);
