@@ -1,0 +1,209 @@
+#include "smart/SelfTestGlobals.h"
+#include "tests/ui/WindowFixture.h"
+#include "ui/ConfarmetionClass.h"
+#include "ui/DestinitionWarning.h"
+#include "ui/SelfTestNotSupported.h"
+
+#include <QComboBox>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QRadioButton>
+
+/// Self-tests through the real window, on a PC whose drives run them by themselves.
+class tst_SelfTestFlow : public QObject, private WindowFixture
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { setUpProgram(); }
+    void cleanup() { tearDown(); }
+
+    void runsToItsEnd_data();
+    void runsToItsEnd();
+    void aborted();
+    void refused_data();
+    void refused();
+    void extendedWithoutTime();
+    void anyOtherEndGoesOn();
+
+private:
+    static QByteArray capabilities(const char *name)
+    {
+        return DescribedFolder::contents(QStringLiteral(HALVANE_TEST_DATA "/selftest/") +
+                                         QLatin1String(name));
+    }
+    /// A PC with one disk; `more` are further keys of the PC, `report` and `text` what its tool tells.
+    void startOn(const QByteArray &text, const QByteArray &more,
+                 const QByteArray &report = sample("ata-seagate-st3250318as.txt"));
+    void start(const char *radio);
+    bool shown(const char *name) const { return child<QWidget>(name)->isVisible(); }
+    bool navigationIs(bool enabled) const;
+    QString sheet(const char *label) const { return child<QLabel>(label)->styleSheet(); }
+};
+
+void tst_SelfTestFlow::startOn(const QByteArray &text, const QByteArray &more, const QByteArray &report)
+{
+    addReport("a.txt", report);
+    addReport("c.txt", text);
+    startPc(R"({"pauses": false, "settings": {"FirstTimeLaunch": 1}, "disks": [{"number": 1, "model": "M",
+        "interface": "IDE", "sectors": 2048, "report": "a.txt", "capabilities": "c.txt"}])" +
+            more + "}");
+    makeWindow();
+    waitForRead();
+}
+
+void tst_SelfTestFlow::start(const char *radio)
+{
+    press("ScanDiskButton");
+    child<QRadioButton>(radio)->click();
+    m_pWindow->OnCheckRadioButton();
+    m_pWindow->OnStartShortSelfTest();
+    g_bTestPending = false;
+}
+
+/// The four buttons that a running test locks.
+bool tst_SelfTestFlow::navigationIs(bool enabled) const
+{
+    for (const char *name :
+         {"DiskStatusButton", "SmartStatusButton", "DiskPartitionButton", "CloneDiskButton"})
+        if (child<MyButton>(name)->isEnabled() != enabled)
+            return false;
+    return child<MyButton>("ScanDiskButton")->isDown();
+}
+
+void tst_SelfTestFlow::runsToItsEnd_data()
+{
+    QTest::addColumn<QByteArray>("result");
+    QTest::addColumn<QString>("status");
+    QTest::addColumn<QString>("colour");
+    QTest::newRow("completed") << QByteArray("completed") << "Successfully Completed"
+                               << "QLabel {color : Green;}";
+    QTest::newRow("read failure") << QByteArray("read failure") << "Test failed by Read Element"
+                                  << "QLabel {color : Red;}";
+}
+
+void tst_SelfTestFlow::runsToItsEnd()
+{
+    QFETCH(QByteArray, result);
+    startOn(capabilities("caps-idle-72.txt"),
+            R"(, "selfTest": {"secondsPerMinute": 0.5, "result": ")" + result + "\"}");
+    start("radioButton_2");
+    QVERIFY(g_bSelfTestRunning);
+    QCOMPARE(commands("smartctl64Bit.exe -t short /dev/sdb >> "), 1);
+    QVERIFY(shown("StopTestButton") && shown("TestProgressBar") && shown("TestElapsedValLbl"));
+    QVERIFY(!shown("ScanButton") && !shown("frame_2") && !shown("BackTestButton"));
+    QVERIFY(navigationIs(false));
+    QVERIFY(!child<MyButton>("ScanDiskButton")->isEnabled());
+    QVERIFY(!child<QComboBox>("DriveCombobox")->isEnabled());
+    QCOMPARE(child<QProgressBar>("TestProgressBar")->value(), 10);
+    QCOMPARE(text("TestNameLbl"), QStringLiteral("Short Self-test"));
+    QCOMPARE(text("TestModelValLbl") + text("TestSerialValLbl"), QStringLiteral("ST3250318AS4XTPG87X"));
+    QCOMPARE(text("TestStatusValLbl"), QStringLiteral("Running, no problems found"));
+    QCOMPARE(text("PollingTimeValLbl"), QStringLiteral("1 minutes"));
+    QCOMPARE(text("TestElapsedValLbl"), QStringLiteral("00:00:01"));
+    m_pWindow->OnClose();
+    QVERIFY(m_pWindow->findChild<DestinitionWarning *>()->isVisible());
+
+    QTRY_VERIFY_WITH_TIMEOUT(!g_bSelfTestRunning, 5000);
+    QTEST(text("TestStatusValLbl"), "status");
+    QTEST(sheet("TestStatusValLbl"), "colour");
+    QCOMPARE(text("TestRemainingValLbl"), QStringLiteral("0 minutes"));
+    QVERIFY(shown("ScanButton") && shown("BackTestButton") && shown("TestStatusValLbl"));
+    QVERIFY(!shown("StopTestButton") && !shown("TestProgressBar") && !shown("TestElapsedValLbl"));
+    QVERIFY(navigationIs(true));
+    const int ticks = commands("ShortTestStatus.txt");
+    QTest::qWait(1200); // the clock has stopped
+    QCOMPARE(commands("ShortTestStatus.txt"), ticks);
+
+    // The result would be lost, so the way back asks.
+    QTest::mousePress(child<MyButton1>("BackTestButton"), Qt::LeftButton);
+    QVERIFY(shown("frame_3"));
+    m_pWindow->OnSwitchConfirm();
+    QVERIFY(shown("frame_2") && !shown("frame_3") && !shown("BackTestButton"));
+    QVERIFY(child<QComboBox>("DriveCombobox")->isEnabled());
+}
+
+void tst_SelfTestFlow::aborted()
+{
+    startOn(capabilities("caps-idle-62.txt"), R"(, "selfTest": {"secondsPerMinute": 3600})");
+    start("radioButton_3");
+    QCOMPARE(commands("-t long /dev/sdb"), 1);
+    QCOMPARE(text("TestNameLbl"), QStringLiteral("Extended Self-test"));
+    for (int reading = 0; reading < 60; ++reading)
+        m_pWindow->CheckShortTestStatus1();
+    QCOMPARE(text("TestRemainingValLbl"), QStringLiteral("190 minutes"));
+    QCOMPARE(text("PollingTimeValLbl"), QStringLiteral("191 minutes"));
+
+    child<QPushButton>("StopTestButton")->click();
+    const auto *question = m_pWindow->findChild<ConfarmetionClass *>();
+    QVERIFY(question->isVisible());
+    m_pWindow->OnStopCancel();
+    QVERIFY(!g_bAbortSent && g_bSelfTestRunning && !question->isVisible());
+    child<QPushButton>("StopTestButton")->click();
+    m_pWindow->OnStopConfirm();
+    QCOMPARE(commands("smartctl64Bit.exe -X /dev/sdb >> "), 1);
+    QVERIFY(g_bSelfTestRunning);
+    const int readings = commands("ShortTestStatus.txt");
+    QTRY_VERIFY_WITH_TIMEOUT(!g_bSelfTestRunning, 3000);
+    QCOMPARE(commands("ShortTestStatus.txt"), readings + 1); // the tick that tells of it reads all the same
+    QCOMPARE(text("TestStatusValLbl"), QStringLiteral("Test Aborted by User"));
+    QCOMPARE(sheet("TestStatusValLbl"), QStringLiteral("QLabel {color : Red;}"));
+    QVERIFY(navigationIs(true));
+    QVERIFY(shown("ScanButton") && !shown("StopTestButton") && !shown("TestProgressBar"));
+    QTest::qWait(1200);
+    QCOMPARE(commands("ShortTestStatus.txt"), readings + 1);
+}
+
+void tst_SelfTestFlow::refused_data()
+{
+    QTest::addColumn<QByteArray>("report");
+    QTest::addColumn<QByteArray>("text");
+    const QByteArray ata = sample("ata-seagate-st3250318as.txt");
+    QTest::newRow("without the mark") << ata << QByteArray("nothing of the kind\n");
+    QTest::newRow("NVMe, whatever the text says")
+        << sample("nvme-samsung-970evoplus-500gb.txt") << capabilities("caps-idle-72.txt");
+}
+
+void tst_SelfTestFlow::refused()
+{
+    QFETCH(QByteArray, report);
+    QFETCH(QByteArray, text);
+    startOn(text, QByteArray(), report);
+    start("radioButton_2");
+    const auto *dialog = m_pWindow->findChild<SelfTestNotSupported *>();
+    QVERIFY(dialog && dialog->isVisible());
+    QCOMPARE(commands(" -t "), 0);
+    QVERIFY(!g_bSelfTestRunning && !g_bSelfTestResultOpen);
+    dialog->CloseButton->click();
+    QVERIFY(!dialog->isVisible());
+    QVERIFY(child<QComboBox>("DriveCombobox")->isEnabled());
+    QVERIFY(navigationIs(true) && child<MyButton>("ScanDiskButton")->isEnabled());
+    QTest::mousePress(child<MyButton1>("BackTestButton"), Qt::LeftButton);
+    QVERIFY(shown("frame_2"));
+}
+
+void tst_SelfTestFlow::extendedWithoutTime()
+{
+    QByteArray text = capabilities("caps-idle-72.txt");
+    startOn(text.replace("Extended self-test", "Other self-test"), QByteArray());
+    start("radioButton_3");
+    QCOMPARE(this->text("TestNameLbl"), QStringLiteral("Short Self-test"));
+    QCOMPARE(this->text("PollingTimeValLbl"), QStringLiteral("0 minutes"));
+    QCOMPARE(commands("-t short"), 1);
+    QCOMPARE(commands("-t long"), 0);
+}
+
+void tst_SelfTestFlow::anyOtherEndGoesOn()
+{
+    startOn(capabilities("caps-idle-72.txt"),
+            R"(, "selfTest": {"secondsPerMinute": 0, "result": "electrical"})");
+    start("radioButton_2");
+    m_pWindow->CheckShortTestStatus1();
+    QVERIFY(g_bSelfTestRunning);
+    QCOMPARE(text("TestStatusValLbl"), QString());
+    QCOMPARE(text("TestElapsedValLbl"), QStringLiteral("00:00:02"));
+    QVERIFY(shown("TestProgressBar") && !shown("StopTestButton"));
+}
+
+QTEST_MAIN(tst_SelfTestFlow)
+#include "tst_SelfTestFlow.moc"
