@@ -9,9 +9,9 @@
 #include <QEvent>
 #include <QMutexLocker>
 
-#include <cstdlib>
 #include <cstring>
 #include <memory>
+#include <new>
 
 namespace
 {
@@ -33,10 +33,22 @@ QEvent::Type followedEvent()
     return static_cast<QEvent::Type>(type);
 }
 
+// Memory that the system can let a drive write into, without a copy on the way.
+constexpr std::align_val_t PageSize{4096};
+
 struct Free {
-    void operator()(char *memory) const { std::free(memory); }
+    void operator()(char *memory) const { ::operator delete(memory, PageSize); }
 };
 using Buffer = std::unique_ptr<char, Free>;
+
+/// Zeroed; null where there is no memory.
+Buffer allocate(quint32 bytes)
+{
+    Buffer buffer(static_cast<char *>(::operator new(bytes, PageSize, std::nothrow)));
+    if (buffer)
+        std::memset(buffer.get(), 0, bytes);
+    return buffer;
+}
 
 /// A difference that wraps instead of being undefined.
 qint64 difference(qint64 end, qint64 start)
@@ -127,7 +139,7 @@ void QScanDriveThread::scan()
     g_BadSectors.clear();
     DiskDetails *const disk = selectedDisk();
     m_nBadBlocks = 0;
-    const Buffer buffer(static_cast<char *>(std::calloc(ChunkBytes, 1)));
+    const Buffer buffer = allocate(ChunkBytes);
     if (!buffer)
         return;
     m_nBadSectors = 0;
@@ -186,7 +198,7 @@ void QScanDriveThread::readChunks(char *buffer)
 
 void QScanDriveThread::narrowDown(qint64 position, qint64 sectors)
 {
-    char probe[SectorSize];
+    alignas(static_cast<std::size_t>(PageSize)) char probe[SectorSize];
     // The bound belongs to the range: the sector behind the chunk is probed too, and a bad one there is found
     // again with its own chunk.
     for (qint64 sector = position; sector <= position + sectors && !g_bAbortJob; ++sector) {

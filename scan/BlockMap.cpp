@@ -1,0 +1,111 @@
+#include "scan/BlockMap.h"
+
+#include "app/state/Scale.h"
+#include "scan/BadSectorList.h"
+#include "scan/ScanGlobals.h"
+
+#include <QCoreApplication>
+
+namespace blockmap
+{
+
+namespace
+{
+
+QString text(const char *source)
+{
+    return QCoreApplication::translate("QGridView", source);
+}
+
+/// Cells by number; those that lie beside or below the map are not kept.
+class Picture
+{
+public:
+    explicit Picture(int count) : m_cells(count, Cell::Empty) {}
+
+    void set(qint64 cell, Cell state)
+    {
+        if (cell >= 0 && cell < m_cells.size())
+            m_cells[static_cast<int>(cell)] = state;
+    }
+    /// From `first` up to and without `end`.
+    void fill(qint64 first, qint64 end, Cell state)
+    {
+        const qint64 last = qMin<qint64>(end, m_cells.size());
+        for (qint64 cell = qMax<qint64>(first, 0); cell < last; ++cell)
+            m_cells[static_cast<int>(cell)] = state;
+    }
+    QVector<Cell> take() { return std::move(m_cells); }
+
+private:
+    QVector<Cell> m_cells;
+};
+
+qint64 roundedUp(qint64 value, qint64 unit)
+{
+    return (value + unit - 1) / unit * unit;
+}
+
+} // namespace
+
+Metrics metrics(float scaleFactor)
+{
+    // One cell has room even on a display that is told to have next to no dots.
+    const auto px = [scaleFactor](int length) { return qMax(1, scale::scaled(length, scaleFactor)); };
+    return {px(20), px(500), px(320), px(20), px(25)};
+}
+
+qint64 cellCount(const Metrics &sizes, qint64 total)
+{
+    const qint64 room = static_cast<qint64>(sizes.width) * sizes.height / (sizes.cell * sizes.cell);
+    return room < total ? room : total;
+}
+
+qint64 sectorsPerCell(const Metrics &sizes, qint64 total)
+{
+    return total > 0 ? total / cellCount(sizes, total) : 0;
+}
+
+QVector<Cell> cells(const Metrics &sizes, qint64 total, qint64 position, const BadSectorList &badSectors)
+{
+    Picture picture(sizes.columns() * sizes.rowsInSight());
+    const qint64 perCell = sectorsPerCell(sizes, total);
+    if (perCell == 0)
+        return picture.take();
+
+    const qint64 processed = position / perCell;
+    picture.fill(0, processed, Cell::Processed);
+    // The last row of a disk whose cells do not fill it is closed.
+    if (position == total)
+        picture.fill(processed, roundedUp(processed, sizes.columns()), Cell::Processed);
+    else
+        picture.set(processed - 1, Cell::Working);
+
+    qint64 lastBad = 0;
+    badSectors.forEachRun([&](qint64 first, qint64 count) {
+        lastBad = first + count - 1;
+        const qint64 cell = badCell(first, perCell);
+        picture.fill(cell, (count == 1 ? cell : badCell(lastBad, perCell)) + 1, Cell::Bad);
+    });
+    // The newest bad cell stays grey until the scan has passed it.
+    if (position != 0 && lastBad >= position)
+        picture.set(badCell(lastBad, perCell), Cell::Working);
+    return picture.take();
+}
+
+QString toolTip(const Metrics &sizes, const QPoint &place, qint64 start, qint64 end, qint64 blockStep)
+{
+    const qint64 block = static_cast<qint64>(place.y() / sizes.toolTipCell) * sizes.toolTipColumns +
+                         place.x() / sizes.toolTipCell;
+    if (block < 0 || block > ScanBlockCount)
+        return QString();
+    const qint64 from = start + block * blockStep;
+    if (block == ScanBlockCount)
+        return QString::number(from) + text(" to ") + QString::number(end);
+    const qint64 to = block == ScanBlockCount - 1 ? end : from + blockStep;
+    return text("Start Sector of current block: ") + QString::number(from) + QLatin1Char('\n') +
+           text("End Sector of current block: ") + QString::number(to) + QLatin1Char('\n') +
+           text("Current Block Size : ") + QString::number(blockStep) + text(" MB");
+}
+
+} // namespace blockmap
