@@ -4,6 +4,7 @@
 #include "platform/IoControl.h"
 #include "platform/JsonSettings.h"
 #include "platform/NativePlatform.h"
+#include "platform/linux/LinuxDisks.h"
 #include "platform/linux/LogonEntry.h"
 #include "platform/linux/UserFolders.h"
 
@@ -115,6 +116,7 @@ Platform::RawHandle LinuxPlatform::CreateFileW(const QString &name, quint32 acce
                 open->extents = volume.extents;
         }
     }
+    open->node = node;
     if (!node.isEmpty())
         open->device = RawDevice::open(node, (access & io::GenericWrite) != 0);
     if (!open->device)
@@ -150,7 +152,10 @@ bool LinuxPlatform::ReadFile(RawHandle handle, void *buffer, quint32 bytes, quin
 bool LinuxPlatform::WriteFile(RawHandle handle, const void *buffer, quint32 bytes, quint32 *transferred)
 {
     const auto open = find(handle);
-    const qint64 put = open ? open->device->write(buffer, bytes) : -1;
+    // Nothing else in this system keeps root from writing over the disk that it runs from.
+    if (open && !open->isProtected)
+        open->isProtected = linuxdisks::isProtected(open->node);
+    const qint64 put = open && !*open->isProtected ? open->device->write(buffer, bytes) : -1;
     if (transferred)
         *transferred = put < 0 ? 0 : static_cast<quint32>(put);
     return put >= 0;

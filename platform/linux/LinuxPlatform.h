@@ -10,6 +10,7 @@
 #include <QHash>
 
 #include <mutex>
+#include <optional>
 
 /// A Linux PC. HALVANE_DISKS, nodes with colons between them, limits it to those disks, in that order.
 class LinuxPlatform : public Platform
@@ -62,6 +63,8 @@ private:
     /// An open handle: the device, and what it was opened as.
     struct OpenDevice {
         std::unique_ptr<RawDevice> device;
+        QString node;
+        std::optional<bool> isProtected; ///< takes no writes; looked up at the first
         quint32 mediaType = 0;
         QVector<inventory::Extent> extents; ///< of a volume
     };

@@ -1,5 +1,6 @@
 // The part of LinuxPlatform that starts other programs and asks them about the PC.
 
+#include "platform/linux/LinuxDisks.h"
 #include "platform/linux/LinuxPlatform.h"
 #include "platform/linux/LinuxTools.h"
 #include "platform/tools/SystemTools.h"
@@ -103,6 +104,12 @@ void LinuxPlatform::addTools()
     m_interpreter.addTool(QStringLiteral("manage-bde"),
                           [this](const QStringList &arguments, const QByteArray &) {
                               return tools::manageBde(pc().machine, arguments);
+                          });
+    m_interpreter.addTool(QStringLiteral("diskpart"),
+                          [this](const QStringList &arguments, const QByteArray &) {
+                              linuxdisks::Scripts disks(pc().machine, [this] { readPc(); });
+                              const auto native = [this](const QString &path) { return NativePath(path); };
+                              return tools::diskpart(arguments, native, disks);
                           });
     m_interpreter.addTool(QStringLiteral("tasklist"), [](const QStringList &, const QByteArray &) {
         inventory::Machine machine;

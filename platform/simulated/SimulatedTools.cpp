@@ -1,4 +1,5 @@
 #include "platform/HttpDownload.h"
+#include "platform/simulated/DiskScripts.h"
 #include "platform/simulated/SimulatedPlatform.h"
 #include "platform/tools/SystemTools.h"
 
@@ -72,6 +73,12 @@ void SimulatedPlatform::addSystemTools()
         return tools::tasklist(machine());
     });
     m_interpreter.addTool(QStringLiteral("findstr"), &tools::findstr);
+    m_interpreter.addTool(QStringLiteral("diskpart"),
+                          [this](const QStringList &arguments, const QByteArray &) {
+                              simulated::DiskScripts disks(m_pc, m_presence, m_devices);
+                              const auto native = [this](const QString &path) { return NativePath(path); };
+                              return tools::diskpart(arguments, native, disks);
+                          });
     m_interpreter.addTool(QStringLiteral("taskkill"),
                           [this](const QStringList &arguments, const QByteArray &) {
                               stopProcess(tools::taskkillTarget(arguments));

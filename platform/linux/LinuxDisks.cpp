@@ -1,0 +1,222 @@
+#include "platform/linux/LinuxDisks.h"
+
+#include "platform/linux/LinuxTools.h"
+#include "platform/linux/RawDevice.h"
+#include "platform/tools/MasterBootRecord.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+
+#include <algorithm>
+#include <cerrno>
+#include <fcntl.h>
+#include <functional>
+#include <iterator>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace linuxdisks
+{
+
+namespace
+{
+
+using tools::DiskAction;
+using tools::DiskOutcome;
+
+const QString SwapPlace = QStringLiteral("[SWAP]");
+
+/// What the system runs from, itself or anything below.
+const char *const SystemFolders[] = {"/boot", "/efi", "/etc", "/nix", "/usr", "/var"};
+
+struct Ended {
+    bool well = false;
+    QByteArray output;
+};
+
+Ended runTool(const QString &name, const QStringList &arguments, const QByteArray &input = {})
+{
+    const QString program = linuxtools::find(name);
+    if (program.isEmpty())
+        return {};
+    QProcess process;
+    process.setStandardErrorFile(QProcess::nullDevice());
+    process.start(program, arguments);
+    process.write(input);
+    process.closeWriteChannel();
+    const bool ended = process.waitForFinished(-1) && process.exitStatus() == QProcess::NormalExit;
+    return {ended && process.exitCode() == 0, process.readAllStandardOutput()};
+}
+
+void collect(const QJsonArray &devices, QStringList &places)
+{
+    for (const QJsonValue &value : devices) {
+        const QJsonObject device = value.toObject();
+        for (const QJsonValue &place : device.value(QLatin1String("mountpoints")).toArray()) {
+            if (!place.toString().isEmpty())
+                places.append(place.toString());
+        }
+        collect(device.value(QLatin1String("children")).toArray(), places);
+    }
+}
+
+QByteArray treeOf(const QString &node)
+{
+    return runTool(QStringLiteral("lsblk"), {QStringLiteral("--json"), QStringLiteral("--output"),
+                                             QStringLiteral("PATH,MOUNTPOINTS"), node})
+        .output;
+}
+
+/// Whether the kernel itself uses the disk or a part of it.
+bool isHeld(const QString &node)
+{
+    const int descriptor =
+        ::open(QFile::encodeName(node).constData(), O_RDONLY | O_EXCL | O_CLOEXEC | O_NONBLOCK);
+    if (descriptor < 0)
+        return errno == EBUSY;
+    ::close(descriptor);
+    return false;
+}
+
+bool isBlockDevice(const QString &node)
+{
+    struct stat status = {};
+    return stat(QFile::encodeName(node).constData(), &status) == 0 && S_ISBLK(status.st_mode);
+}
+
+/// Makes the kernel forget the partitions that it knows of, or read the table anew, as far as it can read
+/// any.
+void tellKernel(const QString &node, bool forget)
+{
+    if (!isBlockDevice(node))
+        return;
+    runTool(QStringLiteral("blockdev"), {QStringLiteral("--rereadpt"), node});
+    runTool(QStringLiteral("partx"), {forget ? QStringLiteral("-d") : QStringLiteral("-u"), node});
+}
+
+QByteArray firstRecord(const QString &node)
+{
+    const auto device = RawDevice::open(node, false);
+    QByteArray record(mbr::RecordSize, '\0');
+    return device && device->read(record.data(), mbr::RecordSize) == mbr::RecordSize ? record : QByteArray();
+}
+
+DiskOutcome clean(const QString &node)
+{
+    QStringList places = mountPoints(treeOf(node));
+    // Inner ones first.
+    std::sort(places.begin(), places.end(), std::greater<>());
+    for (const QString &place : qAsConst(places))
+        runTool(QStringLiteral("umount"), {place});
+    const bool done =
+        runTool(QStringLiteral("wipefs"), {QStringLiteral("--all"), QStringLiteral("--force"), node}).well;
+    if (done)
+        tellKernel(node, true);
+    return done ? DiskOutcome::Done : DiskOutcome::DeviceError;
+}
+
+bool partition(const QString &node, const QStringList &options, const QByteArray &script)
+{
+    const QStringList always{QStringLiteral("--quiet"), QStringLiteral("--force"),
+                             QStringLiteral("--no-reread"), QStringLiteral("--no-tell-kernel")};
+    return runTool(QStringLiteral("sfdisk"), always + options + QStringList{node}, script).well;
+}
+
+DiskOutcome convertToMbr(const QString &node)
+{
+    const QByteArray record = firstRecord(node);
+    if (record.isEmpty())
+        return DiskOutcome::DeviceError;
+    if (mbr::hasPartitions(record))
+        return DiskOutcome::NotEmpty;
+    return partition(node, {}, "label: dos\n") ? DiskOutcome::Done : DiskOutcome::DeviceError;
+}
+
+DiskOutcome createPrimary(const QString &node)
+{
+    const QByteArray record = firstRecord(node);
+    const bool done = mbr::hasTable(record) && !mbr::hasPartitions(record) &&
+                      partition(node, {QStringLiteral("--append")}, "start=1MiB, type=7\n");
+    if (done)
+        tellKernel(node, false);
+    return done ? DiskOutcome::Done : DiskOutcome::NoRoom;
+}
+
+} // namespace
+
+QStringList mountPoints(const QByteArray &lsblkJson)
+{
+    QStringList places;
+    collect(QJsonDocument::fromJson(lsblkJson).object().value(QLatin1String("blockdevices")).toArray(),
+            places);
+    return places;
+}
+
+bool bearsSystem(const QStringList &mountPoints)
+{
+    const auto isSystemPlace = [](const QString &place) {
+        const auto holds = [&place](const char *folder) {
+            const QString name = QLatin1String(folder);
+            return place == name || place.startsWith(name + QLatin1Char('/'));
+        };
+        return place == QLatin1String("/") || place == SwapPlace ||
+               std::any_of(std::begin(SystemFolders), std::end(SystemFolders), holds);
+    };
+    return std::any_of(mountPoints.cbegin(), mountPoints.cend(), isSystemPlace);
+}
+
+bool isProtected(const QString &node)
+{
+    if (QFileInfo(node).isFile())
+        return false;
+    const QByteArray tree = treeOf(node);
+    const QStringList places = mountPoints(tree);
+    // A disk of a pool shows no mount of its own.
+    return tree.isEmpty() || bearsSystem(places) || (places.isEmpty() && isHeld(node));
+}
+
+Scripts::Scripts(const inventory::Machine &machine, std::function<void()> rescanned)
+    : m_machine(machine), m_rescanned(std::move(rescanned))
+{
+}
+
+QString Scripts::nodeOf(int disk) const
+{
+    for (const inventory::Disk &known : m_machine.disks) {
+        if (known.number == disk)
+            return known.node;
+    }
+    return {};
+}
+
+bool Scripts::has(int disk)
+{
+    return !nodeOf(disk).isEmpty();
+}
+
+DiskOutcome Scripts::act(DiskAction action, int disk)
+{
+    const QString node = nodeOf(disk);
+    if (action == DiskAction::Online)
+        return DiskOutcome::AlreadyOnline;
+    const bool untouchable = isProtected(node);
+    if (action == DiskAction::Rescan) {
+        if (!untouchable)
+            tellKernel(node, false);
+        m_rescanned();
+        return DiskOutcome::Done;
+    }
+    if (untouchable)
+        return DiskOutcome::SystemDisk;
+    if (!RawDevice::open(node, true))
+        return DiskOutcome::AccessDenied;
+    if (action == DiskAction::Clean)
+        return clean(node);
+    return action == DiskAction::ConvertMbr ? convertToMbr(node) : createPrimary(node);
+}
+
+} // namespace linuxdisks

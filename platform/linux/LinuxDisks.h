@@ -1,0 +1,42 @@
+#pragma once
+
+#include "platform/Inventory.h"
+#include "platform/tools/Diskpart.h"
+
+#include <QStringList>
+
+#include <functional>
+
+/// The disks of a Linux PC as they may be overwritten.
+namespace linuxdisks
+{
+
+/// Where the devices of lsblk's JSON text are mounted, those below them included; "[SWAP]" among them.
+QStringList mountPoints(const QByteArray &lsblkJson);
+
+/// Whether the running system needs what is mounted at one of these places.
+bool bearsSystem(const QStringList &mountPoints);
+
+/// Whether the disk behind a node must not be written: it bears the running system, or it is held by
+/// something that shows no mount, or nothing can be learned of it. A regular file may always be written.
+bool isProtected(const QString &node);
+
+/// Empties and partitions disks of an inventory with wipefs and sfdisk, and no other disk. Volumes that are
+/// mounted from such a disk are unmounted first where they are not busy.
+class Scripts : public tools::ScriptedDisks
+{
+public:
+    /// `rescanned` is called when a script has asked to look at the disks anew.
+    Scripts(const inventory::Machine &machine, std::function<void()> rescanned);
+
+    bool has(int disk) override;
+    tools::DiskOutcome act(tools::DiskAction action, int disk) override;
+
+private:
+    QString nodeOf(int disk) const;
+
+    const inventory::Machine m_machine;
+    const std::function<void()> m_rescanned;
+};
+
+} // namespace linuxdisks
