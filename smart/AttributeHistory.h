@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QString>
+
+#include <vector>
+
+class QDateTime;
+
+/// One set of attribute values per disk and calendar day, of the last ten days: a list of dates and an INI
+/// file with a section per date. Both are only ever replaced as a whole, flushed, so that a crash or a power
+/// cut at any point leaves a readable file with the days of before or after. Nothing here reports an error:
+/// where the folder cannot be written, there is no history. Main thread only.
+
+/// The two files of a disk, as this machine opens them.
+struct HistoryPaths {
+    QString dates;  ///< one date per line, oldest first
+    QString values; ///< QSettings::IniFormat, no extension
+};
+
+/// One attribute of a day: AttributeRow::key and AttributeRow::historyValue.
+struct HistoryValue {
+    QString key;
+    QString value;
+};
+
+/// The files in the platform's history folder, named after the serial number. They never lie elsewhere:
+/// characters that a file name must not have become "_", and so do the dots of a name of dots alone; the name
+/// of a device gets a "_" in front.
+HistoryPaths historyPaths(const QString &serial);
+
+/// "dd-MM-yyyy", as the day stands in both files.
+QString historyDate(const QDateTime &moment);
+
+/// Adds the date to the list, unless it is the last line. An older equal line does not count.
+void AppendHistoryDate(const QString &datePath, const QString &date);
+
+/// With eleven dates or more the oldest one goes, wherever it stands, and with it its section of values. One
+/// date per call.
+void PruneHistory(const QString &datePath, const QString &valuePath);
+
+/// Takes the section of the date out of the value file. Whatever line has both brackets counts as a header.
+void RemoveHistoryGroup(const QString &date, const QString &valuePath);
+
+/// Enters the rows as the values of the day of `now`: the date, the pruning, the values. A second visit on
+/// one day overwrites its values.
+void recordHistory(const QString &serial, const QDateTime &now, const std::vector<HistoryValue> &rows);
+
+/// The lines of the list. The file is opened for writing, too, and so made if it is missing; `opened` (may be
+/// null) tells whether that went well.
+std::vector<QString> readHistoryDates(const QString &datePath, bool *opened);
+
+/// The values of `key` on the dates, in their order; 0 where it is missing or no whole number.
+std::vector<qint64> readHistoryValues(const QString &valuePath, const std::vector<QString> &dates,
+                                      const QString &key);
