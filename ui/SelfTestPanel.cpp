@@ -7,10 +7,10 @@
 #include <QCoreApplication>
 #include <QEvent>
 
+#include <algorithm>
+
 namespace
 {
-
-constexpr char Context[] = "MainWindow";
 
 struct StatusLook {
     const char *text;
@@ -28,20 +28,21 @@ constexpr StatusLook StatusLooks[] = {
 
 QString translated(const char *text)
 {
-    return *text ? QCoreApplication::translate(Context, text) : QString();
+    return *text ? QCoreApplication::translate("MainWindow", text) : QString();
 }
 
 QString minutesText(std::optional<int> minutes)
 {
-    return minutes ? QString::number(*minutes) + QCoreApplication::translate(Context, " minutes") : QString();
+    return minutes ? QString::number(*minutes) + QCoreApplication::translate("MainWindow", " minutes")
+                   : QString();
 }
 
 QString nameOf(std::optional<SelfTestKind> kind)
 {
     if (!kind)
         return QString();
-    return *kind == SelfTestKind::Extended ? QCoreApplication::translate(Context, "Extended Self-test")
-                                           : QCoreApplication::translate(Context, "Short Self-test");
+    return *kind == SelfTestKind::Extended ? QCoreApplication::translate("MainWindow", "Extended Self-test")
+                                           : QCoreApplication::translate("MainWindow", "Short Self-test");
 }
 
 } // namespace
@@ -69,13 +70,28 @@ SelfTestPanel::SelfTestPanel(QWidget *parent) : QWidget(parent)
     showTexts();
 }
 
+/// The names of the two cards share a column.
+void SelfTestPanel::alignNames()
+{
+    const auto names = {TestModelLbl, TestSerialLbl, TestStatusLbl};
+    int widest = 0;
+    for (QLabel *name : names) {
+        name->ensurePolished();
+        widest = std::max(widest, name->sizeHint().width());
+    }
+    for (QLabel *name : names)
+        name->setMinimumWidth(widest);
+}
+
 void SelfTestPanel::showTexts()
 {
+    alignNames();
     TestNameLbl->setText(nameOf(m_kind));
     TestBarLbl->setText(nameOf(m_kind));
     const StatusLook &look = StatusLooks[static_cast<std::size_t>(m_status)];
     TestStatusValLbl->setStyleSheet(QLatin1String(look.sheet));
     TestStatusValLbl->setText(translated(look.text));
+    TestStatusLbl->setVisible(m_status != Status::None);
     PollingTimeValLbl->setText(minutesText(m_pollingMinutes));
     TestRemainingValLbl->setText(minutesText(m_remainingMinutes));
 }

@@ -35,6 +35,7 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    void alignNames();
     void showTexts();
 
     std::optional<SelfTestKind> m_kind;
