@@ -193,6 +193,27 @@ void TestSimulatedSmartctl::failedTest_data()
         << QByteArray(R"("result": "servo", "remaining": 0)")
         << "( 96) The previous self-test completed having the servo (and/or seek) element of the test failed."
         << QByteArray("Completed: servo/seek failure 00%         0         -\n");
+    QTest::newRow("aborted") << QByteArray(R"("result": "aborted")")
+                             << "( 17) The self-test routine was aborted by the host."
+                             << QByteArray("Aborted by host               10%         0         -\n");
+    QTest::newRow("fatal error")
+        << QByteArray(R"("result": "fatal error")")
+        << "( 49) A fatal error or unknown test error occurred while the device was executing its self-test "
+           "routine and the device was unable to complete the self-test routine."
+        << QByteArray("Fatal or unknown error        10%         0         -\n");
+    const QString element = QStringLiteral("( %1) The previous self-test completed having %2.");
+    QTest::newRow("unknown failure")
+        << QByteArray(R"("result": "unknown failure")")
+        << element.arg(65).arg("a test element that failed and the test element that failed is not known")
+        << QByteArray("Completed: unknown failure    10%         0         -\n");
+    QTest::newRow("electrical") << QByteArray(R"("result": "electrical")")
+                                << element.arg(81).arg("the electrical element of the test failed")
+                                << QByteArray("Completed: electrical failure 10%         0         -\n");
+    QTest::newRow("handling")
+        << QByteArray(R"("result": "handling")")
+        << element.arg(129).arg("a test element that failed and the device is suspected of having handling "
+                                "damage")
+        << QByteArray("Completed: handling damage??  10%         0         -\n");
 }
 
 void TestSimulatedSmartctl::failedTest()
