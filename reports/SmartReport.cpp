@@ -14,10 +14,10 @@
 namespace
 {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("MainWindow", text);
-}
+/// The texts stand among those of the window that the report is saved from.
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(MainWindow)
+};
 
 /// Sectors that are bad or about to be: any count of them is printed in red. Goes by the key, so that it
 /// does so in every language.
@@ -38,7 +38,7 @@ SmartReport::Row ataRow(const SmartAttributeRecord &record)
     // Red begins behind the word itself, and the raw value has a rule of its own.
     return {{QString::number(record.Id)},
             {ataReportName(key, record.Id)},
-            {failed ? tr("Failed") : tr("OK")},
+            {failed ? Texts::tr("Failed") : Texts::tr("OK")},
             {QString::number(record.Value), failed},
             {QString::number(record.Worst), failed},
             {QString::number(record.Threshold), failed},
@@ -59,7 +59,7 @@ void takeAta(SmartReport &report, const SmartAttributeRecord *head)
         report.sataVersion = head->SataVersion.text();
         report.localTime = head->LocalTime.text();
         const QString support = head->SmartSupport.text();
-        report.smartStatus = support.contains(QLatin1String("Enabled")) ? tr("Passed") : support;
+        report.smartStatus = support.contains(QLatin1String("Enabled")) ? Texts::tr("Passed") : support;
         report.shortTestTime = head->ShortPollTime.text();
         report.extendedTestTime = head->ExtendedPollTime.text();
     }
@@ -77,7 +77,7 @@ void takeNvme(SmartReport &report, const NvmeAttributeRecord *head)
         report.sectorSize = head->LbaSize.text();
         report.localTime = head->LocalTime.text();
         report.maxTransferSize = head->MaxTransferSize.text();
-        report.smartStatus = tr("Passed"); // there is no report of a disk whose SMART is not available
+        report.smartStatus = Texts::tr("Passed"); // there is no report of a disk whose SMART is not available
     }
     for (; head; head = head->Next)
         report.rows.push_back({{QString::number(report.rows.size())},
