@@ -64,6 +64,11 @@ void collect(const QJsonArray &devices, QStringList &places)
     }
 }
 
+QJsonArray devicesOf(const QByteArray &lsblkJson)
+{
+    return QJsonDocument::fromJson(lsblkJson).object().value(QLatin1String("blockdevices")).toArray();
+}
+
 QByteArray treeOf(const QString &node)
 {
     return runTool(QStringLiteral("lsblk"), {QStringLiteral("--json"), QStringLiteral("--output"),
@@ -151,8 +156,7 @@ DiskOutcome createPrimary(const QString &node)
 QStringList mountPoints(const QByteArray &lsblkJson)
 {
     QStringList places;
-    collect(QJsonDocument::fromJson(lsblkJson).object().value(QLatin1String("blockdevices")).toArray(),
-            places);
+    collect(devicesOf(lsblkJson), places);
     return places;
 }
 
@@ -176,7 +180,7 @@ bool isProtected(const QString &node)
     const QByteArray tree = treeOf(node);
     const QStringList places = mountPoints(tree);
     // A disk of a pool shows no mount of its own.
-    return tree.isEmpty() || bearsSystem(places) || (places.isEmpty() && isHeld(node));
+    return devicesOf(tree).isEmpty() || bearsSystem(places) || (places.isEmpty() && isHeld(node));
 }
 
 Scripts::Scripts(const inventory::Machine &machine, std::function<void()> rescanned)

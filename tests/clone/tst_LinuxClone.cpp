@@ -1,0 +1,96 @@
+#include "platform/NativePlatform.h"
+#include "tests/clone/CloneDisks.h"
+#include "tests/platform/LoopDevice.h"
+#include "tests/support/DiskImage.h"
+#include "tests/support/WatchedPlatform.h"
+
+#include <QDir>
+#include <QtTest>
+
+namespace
+{
+
+constexpr qint64 MiB = 1024 * 1024;
+constexpr int FirstOffset = 1 << 20;
+constexpr int SecondOffset = 13 << 20;
+constexpr int PartitionBytes = 8 << 20;
+const QByteArray Table = "label: gpt\nstart=1MiB, size=8MiB\nstart=13MiB, size=8MiB\n";
+
+} // namespace
+
+/// A clone between real block devices, made for the test.
+class tst_LinuxClone : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void clonesPartitionsAndFileSystems_data();
+    void clonesPartitionsAndFileSystems();
+
+private:
+    QTemporaryDir m_home;
+};
+
+void tst_LinuxClone::clonesPartitionsAndFileSystems_data()
+{
+    QTest::addColumn<qint64>("sourceBytes");
+    QTest::addColumn<qint64>("destinationBytes");
+    QTest::newRow("equal, with a part of a block") << 22 * MiB << 22 * MiB;
+    QTest::newRow("whole blocks") << 32 * MiB << 32 * MiB;
+    QTest::newRow("odd size onto a larger one") << 22 * MiB + 512 << 41 * MiB + 1024;
+}
+
+void tst_LinuxClone::clonesPartitionsAndFileSystems()
+{
+    QFETCH(qint64, sourceBytes);
+    QFETCH(qint64, destinationBytes);
+    qputenv("XDG_RUNTIME_DIR", m_home.path().toUtf8());
+    if (!DiskImage::missingTool().isEmpty())
+        QSKIP("a tool for disk images is missing");
+    const DiskImage source(sourceBytes);
+    source.partition(Table);
+    source.put(FirstOffset, madeBy(QStringLiteral("mke2fs -q -t ext4"), PartitionBytes));
+    source.put(SecondOffset, madeBy(QStringLiteral("mkfs.vfat"), PartitionBytes));
+    const DiskImage destination(destinationBytes);
+    destination.put(0, noise(destinationBytes / SectorBytes, 2));
+    const DiskImage bystander(sourceBytes);
+    bystander.put(0, noise(sourceBytes / SectorBytes, 3));
+    const LoopDevice loops[] = {LoopDevice(bystander.path()), LoopDevice(source.path()),
+                                LoopDevice(destination.path())};
+    QStringList nodes;
+    for (const LoopDevice &loop : loops)
+        nodes << loop.node();
+    if (nodes.contains(QString()))
+        QSKIP("no loop devices here");
+    qputenv("HALVANE_DISKS", nodes.join(QLatin1Char(':')).toUtf8());
+    auto watched = std::make_unique<WatchedPlatform>(makeNativePlatform());
+    watched->pauses = false;
+    Platform::install(std::move(watched));
+
+    const QByteArray original = source.contents();
+    CloneDisks disks(1, sourceBytes / SectorBytes, 2);
+    ThreadDriveClone thread;
+    disks.listen(thread);
+    thread.start(QThread::InheritPriority);
+    QVERIFY(thread.wait(60000));
+    QCOMPARE(disks.events, QStringList{QStringLiteral("finish (running)")});
+
+    QVERIFY(source.contents() == original);
+    QVERIFY(bystander.contents() == noise(sourceBytes / SectorBytes, 3));
+    const QByteArray copy = destination.contents();
+    QVERIFY(copy.left(original.size()) == original);
+    // Zeros to the end of the last block, from there on what was there.
+    const auto copied = static_cast<int>(
+        qMin<qint64>((sourceBytes + BlockBytes - 1) / BlockBytes * BlockBytes, destinationBytes));
+    QCOMPARE(copy.mid(original.size(), copied - original.size()).count('\0'), copied - original.size());
+
+    // The kernel knows the partitions that came along.
+    QVERIFY(QFile::exists(loops[2].partition(1)));
+    QVERIFY(QFile::exists(loops[2].partition(2)));
+    QVERIFY(
+        runs(QStringLiteral("e2fsck"), {QStringLiteral("-f"), QStringLiteral("-n"), loops[2].partition(1)}));
+    QVERIFY(runs(QStringLiteral("fsck.vfat"), {QStringLiteral("-n"), loops[2].partition(2)}));
+}
+
+QTEST_GUILESS_MAIN(tst_LinuxClone)
+#include "tst_LinuxClone.moc"

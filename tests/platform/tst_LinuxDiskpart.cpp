@@ -1,0 +1,190 @@
+#include "platform/IoControl.h"
+#include "platform/NativePlatform.h"
+#include "platform/linux/LinuxDisks.h"
+#include "tests/platform/DescribedFolder.h"
+#include "tests/platform/LoopDevice.h"
+
+#include <QStorageInfo>
+#include <QtTest>
+
+namespace
+{
+
+constexpr int ImageBytes = 8 * 1024 * 1024;
+
+} // namespace
+
+/// The partition tool on loop devices of the test's own. Skipped where there are none.
+class tst_LinuxDiskpart : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void systemPlaces_data();
+    void systemPlaces();
+    void machineIsProtected();
+    void partitionsOneDiskOnly();
+    void cleansADiskInUse();
+    void sparesTheRunningSystem();
+
+private:
+    QByteArray run(const QByteArray &script);
+    QByteArray image(int number) const { return DescribedFolder::contents(path(number)); }
+    QString path(int number) const { return m_folder->filePath(QStringLiteral("%1.img").arg(number)); }
+
+    QTemporaryDir m_home;
+    bool m_ownMounts = false;
+    QScopedPointer<QTemporaryDir> m_folder;
+    std::vector<std::unique_ptr<LoopDevice>> m_loops; ///< three; disk 1 is the second
+    std::unique_ptr<Platform> m_pc;
+};
+
+void tst_LinuxDiskpart::initTestCase()
+{
+    qputenv("XDG_RUNTIME_DIR", m_home.path().toUtf8());
+    m_ownMounts = keepMountsToOurselves();
+}
+
+void tst_LinuxDiskpart::init()
+{
+    m_pc.reset();
+    m_loops.clear();
+    m_folder.reset(new QTemporaryDir);
+    QStringList nodes;
+    for (int number = 0; number < 3; ++number) {
+        QFile file(path(number));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(QByteArray(ImageBytes, 'o')) == ImageBytes);
+        file.close();
+        m_loops.push_back(std::make_unique<LoopDevice>(path(number)));
+        nodes << m_loops.back()->node();
+    }
+    if (nodes.contains(QString()))
+        return;
+    qputenv("HALVANE_DISKS", nodes.join(QLatin1Char(':')).toUtf8());
+    m_pc = makeNativePlatform();
+}
+
+QByteArray tst_LinuxDiskpart::run(const QByteArray &script)
+{
+    const QString file = m_pc->GetTempPathW() + QStringLiteral("script.txt");
+    QFile out(file);
+    if (!out.open(QIODevice::WriteOnly) || out.write(script) != script.size())
+        qFatal("a script cannot be written");
+    out.close();
+    return outputOf(*m_pc, QStringLiteral("C:\\Windows\\system32\\diskpart.exe /s ") + file);
+}
+
+void tst_LinuxDiskpart::systemPlaces_data()
+{
+    QTest::addColumn<QByteArray>("places");
+    QTest::addColumn<bool>("system");
+    QTest::newRow("root") << QByteArray(R"("/")") << true;
+    QTest::newRow("swap") << QByteArray(R"(null,"[SWAP]")") << true;
+    QTest::newRow("firmware's own") << QByteArray(R"("/boot/efi")") << true;
+    QTest::newRow("programs") << QByteArray(R"("/media/a","/usr")") << true;
+    QTest::newRow("data") << QByteArray(R"("/media/stick")") << false;
+    QTest::newRow("a name that only begins so") << QByteArray(R"("/variety")") << false;
+    QTest::newRow("nowhere") << QByteArray("null") << false;
+}
+
+void tst_LinuxDiskpart::systemPlaces()
+{
+    QFETCH(QByteArray, places);
+    QFETCH(bool, system);
+    const QByteArray json =
+        R"({"blockdevices":[{"path":"/dev/x","mountpoints":[null],"children":[{"path":"/dev/x1",)"
+        R"("mountpoints":[null],"children":[{"path":"/dev/mapper/y","mountpoints":[)" +
+        places + "]}]}]}]}";
+    QCOMPARE(linuxdisks::bearsSystem(linuxdisks::mountPoints(json)), system);
+}
+
+void tst_LinuxDiskpart::machineIsProtected()
+{
+    const QString root = QString::fromLocal8Bit(QStorageInfo::root().device());
+    if (!root.startsWith(QLatin1String("/dev/")) || !QFile::exists(root))
+        QSKIP("the root of this machine is on no disk of its own");
+    QVERIFY(linuxdisks::isProtected(root));
+    QVERIFY(linuxdisks::isProtected(QStringLiteral("/dev/no-such-disk")));
+}
+
+void tst_LinuxDiskpart::partitionsOneDiskOnly()
+{
+    if (!m_pc)
+        QSKIP("no loop devices here");
+    const QString node = m_loops[1]->node();
+    QProcess sfdisk;
+    sfdisk.start(QStringLiteral("sfdisk"), {QStringLiteral("-q"), node});
+    sfdisk.write("label: gpt\nsize=2MiB\nsize=2MiB\n");
+    sfdisk.closeWriteChannel();
+    QVERIFY(sfdisk.waitForFinished());
+    QVERIFY(m_loops[1]->showPartitions());
+    const QByteArray before = image(1);
+
+    QVERIFY(run("SELECT DISK 1\nonline disk\nEXIT").contains("This disk is already online."));
+    QVERIFY(run("SELECT DISK 1\nconvert MBR\nEXIT").contains("The disk is not empty."));
+    QVERIFY(run("SELECT DISK 3\nclean\nEXIT").contains("There is no disk selected."));
+    QVERIFY(run("SELECT DISK 1\nclean\n").contains("Reached the end of the file."));
+    QVERIFY(image(1) == before);
+
+    const QByteArray cleaned = run("SELECT DISK 1\nclean\nEXIT");
+    QVERIFY2(cleaned.contains("DiskPart succeeded in cleaning the disk."), cleaned.constData());
+    QByteArray signatures;
+    QVERIFY(runs(QStringLiteral("wipefs"), {node}, &signatures));
+    QCOMPARE(signatures, QByteArray());
+    QVERIFY(!QFile::exists(m_loops[1]->partition(1)));
+
+    const QByteArray made = run("SELECT DISK 1\nconvert MBR\ncreate partition primary\nEXIT");
+    QVERIFY2(made.contains("succeeded in creating the specified partition."), made.constData());
+    QByteArray table;
+    QVERIFY(runs(QStringLiteral("sfdisk"), {QStringLiteral("--dump"), node}, &table));
+    QCOMPARE(table.count("start="), 1);
+    QVERIFY2(table.contains("start=        2048, size=       14336, type=7"), table.constData());
+    QVERIFY(run("SELECT DISK 1\nRESCAN\nEXIT").contains("DiskPart has finished scanning"));
+    QVERIFY(QFile::exists(m_loops[1]->partition(1)));
+    QVERIFY(image(0) == QByteArray(ImageBytes, 'o'));
+    QVERIFY(image(2) == QByteArray(ImageBytes, 'o'));
+}
+
+void tst_LinuxDiskpart::cleansADiskInUse()
+{
+    if (!m_pc || !m_ownMounts)
+        QSKIP("no loop devices or mounts here");
+    QVERIFY(runs(QStringLiteral("mke2fs"), {QStringLiteral("-q"), QStringLiteral("-F"), m_loops[1]->node()}));
+    QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("mount")));
+    Mount mount(m_loops[1]->node(), m_folder->filePath(QStringLiteral("mount")));
+    if (!mount.isMounted())
+        QSKIP("this kernel mounts no such file system");
+    const QByteArray cleaned = run("SELECT DISK 1\nclean\nEXIT");
+    QVERIFY2(cleaned.contains("DiskPart succeeded in cleaning the disk."), cleaned.constData());
+    QVERIFY(!mount.unmount()); // it no longer is
+}
+
+void tst_LinuxDiskpart::sparesTheRunningSystem()
+{
+    if (!m_pc || !m_ownMounts)
+        QSKIP("no loop devices or mounts here");
+    QVERIFY(runs(QStringLiteral("mke2fs"), {QStringLiteral("-q"), QStringLiteral("-F"), m_loops[1]->node()}));
+    // In this process's own table of mounts alone.
+    Mount mount(m_loops[1]->node(), QStringLiteral("/boot"));
+    if (!mount.isMounted())
+        QSKIP("this kernel mounts no such file system");
+    for (const char *script : {"SELECT DISK 1\nclean\nEXIT", "SELECT DISK 1\nconvert MBR\nEXIT",
+                               "SELECT DISK 1\ncreate partition primary\nEXIT"})
+        QVERIFY(run(script).contains("Clean is not allowed on the disk containing the current boot,"));
+    const auto handle = m_pc->CreateFileW(QStringLiteral("\\\\.\\PHYSICALDRIVE1"),
+                                          io::GenericRead | io::GenericWrite, 0, io::OpenExisting);
+    QVERIFY(handle != Platform::InvalidHandle);
+    QByteArray sector(512, 'x');
+    QVERIFY(!m_pc->WriteFile(handle, sector.constData(), 512, nullptr));
+    QVERIFY(m_pc->ReadFile(handle, sector.data(), 512, nullptr));
+    m_pc->CloseHandle(handle);
+    QVERIFY(mount.unmount());
+    QByteArray signatures;
+    QVERIFY(runs(QStringLiteral("wipefs"), {m_loops[1]->node()}, &signatures));
+    QVERIFY(signatures.contains("ext2"));
+}
+
+QTEST_GUILESS_MAIN(tst_LinuxDiskpart)
+#include "tst_LinuxDiskpart.moc"
