@@ -1,0 +1,108 @@
+#pragma once
+
+#include "app/state/GlobalApp.h"
+#include "app/state/Globals.h"
+#include "scan/QScanDriveThread.h"
+#include "scan/ScanGlobals.h"
+
+#include <QStringList>
+
+#include <functional>
+
+/// Makes a disk the selected one for as long as it lives.
+class SelectedDisk
+{
+public:
+    SelectedDisk(int number, qint64 sectors)
+    {
+        m_node.nId = static_cast<std::uint16_t>(PhysicalDriveBase + number);
+        m_node.pDetails = std::make_unique<DiskDetails>();
+        m_node.pDetails->nDevice = static_cast<std::uint8_t>(PhysicalDriveBase + number);
+        m_node.pDetails->nTotalSectors = static_cast<std::uint64_t>(sectors);
+        g_App.m_pCurrentDisk = &m_node;
+    }
+    ~SelectedDisk() { g_App.m_pCurrentDisk = nullptr; }
+    SelectedDisk(const SelectedDisk &) = delete;
+    SelectedDisk &operator=(const SelectedDisk &) = delete;
+
+    DiskNode &node() { return m_node; }
+
+private:
+    DiskNode m_node;
+};
+
+/// Writes down what a scan thread says, in the order of saying it.
+class ScanRecorder
+{
+public:
+    /// `hear`, called on the scan's own thread with each line, may act in the middle of the scan.
+    explicit ScanRecorder(QScanDriveThread &thread, std::function<void(const QString &)> hear = {})
+        : m_hear(std::move(hear))
+    {
+        using T = QScanDriveThread;
+        on(thread, &T::ExactBadSectorCount, "bad");
+        on(thread, &T::MaximumBadBlockScanProgress, "begin");
+        on(thread, &T::AllBlockProcessed, "all");
+        on(thread, &T::ScanProgressValue, "progress");
+        on(thread, &T::OnFinish, "finish");
+        on(thread, &T::BadBockCount, "blocks");
+        on(thread, &T::TotalBlockCount, "chunk");
+        on(thread, &T::setRemainingTime, "first");
+        on(thread, &T::WrtiteText, "never");
+        on(thread, &T::SetLogItemData, "never");
+        on(thread, &T::SetMaximumRangeVal, "never");
+        on(thread, &T::CurrentProgressVal, "never");
+        on(thread, &T::CurrentProgressText, "never");
+        on(thread, &T::CreateImageSectorRead, "never");
+        on(thread, &T::CreateImageProgressReset, "never");
+        on(thread, &T::ScanForBadBlockProgressValue, "never");
+        on(thread, &T::BadSectorFound, "never");
+        on(thread, &T::CloningFailed, "never");
+    }
+
+    QStringList lines;
+
+private:
+    static QString text(qlonglong number) { return QString::number(number); }
+    static QString text(const QString &string) { return string; }
+
+    template<typename... Args>
+    void on(QScanDriveThread &thread, void (QScanDriveThread::*sign)(Args...), const char *name)
+    {
+        QObject::connect(
+            &thread, sign, &thread,
+            [this, name](Args... args) {
+                QStringList words{QLatin1String(name)};
+                (words.append(text(static_cast<Printed<Args>>(args))), ...);
+                lines.append(words.join(QLatin1Char(' ')));
+                if (m_hear)
+                    m_hear(lines.last());
+            },
+            Qt::DirectConnection);
+    }
+
+    template<typename Arg>
+    using Printed = std::conditional_t<std::is_arithmetic_v<Arg>, qlonglong, QString>;
+
+    std::function<void(const QString &)> m_hear;
+};
+
+/// Scans the selected disk to the end of the thread, without an event loop.
+inline QStringList scanned(qint64 total, const std::function<void(const QString &)> &hear = {})
+{
+    QScanDriveThread thread;
+    ScanRecorder recorder(thread, hear);
+    thread.SetRange(0, total);
+    thread.StartScan(nullptr, 3);
+    thread.wait();
+    return recorder.lines;
+}
+
+/// What the counters of the process are before the first scan.
+inline void forgetScans()
+{
+    g_BadSectors.clear();
+    g_bScanFailed = false;
+    g_bAbortJob = false;
+    g_nBlockStep = 0;
+}

@@ -1,0 +1,460 @@
+#include "tests/platform/DescribedFolder.h"
+#include "tests/scan/ScanRecorder.h"
+#include "tests/support/FakePlatform.h"
+
+#include <QMetaMethod>
+#include <QtTest>
+
+#include <algorithm>
+#include <set>
+
+namespace
+{
+
+using Sectors = QVector<qint64>;
+constexpr qint64 Chunk = 16384;
+
+/// What a scan says and finds, by another road: all from one set of bad sectors, without reading.
+struct Expectation {
+    QStringList lines;
+    Sectors found;
+
+    Expectation(qint64 total, std::set<qint64> bad)
+    {
+        bad.insert(total); // what lies behind the end cannot be read
+        const qint64 step = (total + 399) / 400;
+        lines << QStringLiteral("begin") << QStringLiteral("progress 2") << QStringLiteral("progress 1");
+        qint64 progress = 2;
+        for (qint64 first = 0; first < total; first += Chunk) {
+            const qint64 next = std::min(first + Chunk, total);
+            lines << QStringLiteral("chunk %1 %2 %3").arg(first).arg(total).arg(step);
+            // A chunk with a bad sector of its own gives all of its range, which ends with the next one's
+            // first.
+            const auto own = bad.lower_bound(first);
+            if (own != bad.end() && *own < next) {
+                for (auto sector = own; sector != bad.end() && *sector <= next; ++sector) {
+                    found.append(*sector);
+                    lines << QStringLiteral("bad %1").arg(found.size());
+                }
+            }
+            if (first == 0)
+                lines << QStringLiteral("first %1 %2").arg(next).arg(total);
+            progress = first < step ? 1 : first / step;
+            lines << QStringLiteral("progress %1").arg(progress);
+        }
+        lines << QStringLiteral("all %1").arg(total) << QStringLiteral("progress %1").arg(progress + 2)
+              << QStringLiteral("blocks 0") << QStringLiteral("bad %1").arg(found.size())
+              << QStringLiteral("finish Pass");
+    }
+};
+
+/// A disk of any size that costs no time: reads leave the buffer as it is, and those fail that touch a sector
+/// that is bad or behind the end.
+class QuickDisk : public FakePlatform
+{
+public:
+    qint64 sectors = 0;
+    std::set<qint64> bad;
+    std::atomic<bool> gone{false};
+    std::function<void()> onFailedProbe;
+
+    RawHandle CreateFileW(const QString &, quint32, quint32, quint32) override
+    {
+        return gone ? InvalidHandle : 1;
+    }
+    bool SetFilePointer(RawHandle, qint64 byteOffset) override
+    {
+        m_sector = byteOffset / 512;
+        return true;
+    }
+    bool ReadFile(RawHandle, void *, quint32 bytes, quint32 *transferred) override
+    {
+        const auto next = bad.lower_bound(m_sector);
+        *transferred = bytes;
+        if (!gone && m_sector < sectors && (next == bad.end() || *next >= m_sector + bytes / 512))
+            return true;
+        *transferred = 0;
+        if (bytes == 512 && onFailedProbe)
+            onFailedProbe();
+        return false;
+    }
+    void CloseHandle(RawHandle) override {}
+
+private:
+    qint64 m_sector = 0;
+};
+
+QuickDisk *installQuickDisk(qint64 sectors, const std::set<qint64> &bad = {})
+{
+    auto disk = std::make_unique<QuickDisk>();
+    QuickDisk *const installed = disk.get();
+    installed->sectors = sectors;
+    installed->bad = bad;
+    Platform::install(std::move(disk));
+    return installed;
+}
+
+QStringList words(const char *lines)
+{
+    return QString::fromLatin1(lines).split(QStringLiteral(", "));
+}
+
+} // namespace
+
+class tst_QScanDriveThread : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { forgetScans(); }
+    void keepsItsInterface();
+    void findsEveryBadSector_data();
+    void findsEveryBadSector();
+    void saysWordByWord_data();
+    void saysWordByWord();
+    void goesBeyond32Bits();
+    void stops_data();
+    void stops();
+    void leavesOutTheCountOfAStop();
+    void failsForGood_data();
+    void failsForGood();
+    void outlivesItsDisk();
+    void keepsItsFlags();
+    void waitsForWhoListens();
+    void startsAndStopsUnderAReader();
+};
+
+void tst_QScanDriveThread::keepsItsInterface()
+{
+    const QMetaObject &meta = QScanDriveThread::staticMetaObject;
+    QByteArrayList signatures;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+        QCOMPARE(meta.method(i).methodType(), QMetaMethod::Signal);
+        signatures << meta.method(i).methodSignature();
+    }
+    QCOMPARE(
+        signatures.join(' '),
+        QByteArray("WrtiteText(qlonglong) SetLogItemData(QString,QString,QString) "
+                   "ExactBadSectorCount(qlonglong) SetMaximumRangeVal(qlonglong) "
+                   "CurrentProgressVal(ulong) CurrentProgressText(QString) MaximumBadBlockScanProgress() "
+                   "AllBlockProcessed(qlonglong) ScanProgressValue(qlonglong) "
+                   "CreateImageSectorRead(QString,QString) OnFinish(QString) CreateImageProgressReset() "
+                   "BadBockCount(qlonglong) TotalBlockCount(qlonglong,qlonglong,qlonglong) "
+                   "ScanForBadBlockProgressValue(uint) setRemainingTime(qlonglong,qlonglong) "
+                   "BadSectorFound() CloningFailed()"));
+}
+
+void tst_QScanDriveThread::findsEveryBadSector_data()
+{
+    QTest::addColumn<qint64>("total");
+    QTest::addColumn<Sectors>("stretches"); // first and count in turn
+    const auto row = [](const char *name, qint64 total, const Sectors &stretches) {
+        QTest::newRow(name) << total << stretches;
+    };
+    row("healthy", 40000, {});
+    row("a multiple of the chunk", 2 * Chunk, {});
+    row("400 k", 400 * 125, {7, 1});
+    row("400 k + 1", 400 * 125 + 1, {7, 1});
+    row("below 400", 399, {398, 1});
+    row("one sector, bad", 1, {0, 1});
+    row("the first sector", 40000, {0, 1});
+    row("the last sector", 40000, {39999, 1});
+    row("the last sector of a multiple", 2 * Chunk, {2 * Chunk - 1, 1});
+    row("the last sector of a chunk", 40000, {Chunk - 1, 1});
+    row("the first sector of a chunk", 40000, {Chunk, 1});
+    row("both sides of a boundary", 40000, {Chunk - 1, 2});
+    row("the first of a chunk behind a bad one", 40000, {5, 1, Chunk, 1});
+    row("a whole chunk", 3 * Chunk, {Chunk, Chunk});
+    row("across two boundaries", 4 * Chunk, {Chunk - 1, Chunk + 2});
+    row("every sector", 2 * Chunk + 100, {0, 2 * Chunk + 100});
+    row("every sector of a multiple", 2 * Chunk, {0, 2 * Chunk});
+    Sectors scattered;
+    for (qint64 sector = 3; sector < 5 * Chunk; sector += 97)
+        scattered << sector << 1 + sector % 3;
+    row("here and there", 5 * Chunk + 1, scattered);
+}
+
+void tst_QScanDriveThread::findsEveryBadSector()
+{
+    QFETCH(qint64, total);
+    QFETCH(Sectors, stretches);
+    std::set<qint64> bad;
+    QStringList described;
+    for (int i = 0; i < stretches.size(); i += 2) {
+        described << QStringLiteral("[%1, %2]").arg(stretches[i]).arg(stretches[i + 1]);
+        for (qint64 sector = stretches[i]; sector < stretches[i] + stretches[i + 1]; ++sector)
+            bad.insert(sector);
+    }
+    const DescribedFolder folder;
+    Platform::install(
+        folder.open(QStringLiteral("{\"disks\": [{\"number\": 3, \"sectors\": %1, \"badSectors\": [%2]}]}")
+                        .arg(total)
+                        .arg(described.join(QStringLiteral(", ")))
+                        .toLatin1()));
+    SelectedDisk disk(3, total);
+    const Expectation expected(total, bad);
+    // A second scan begins with an empty list.
+    for (int run = 0; run < 2; ++run) {
+        QCOMPARE(scanned(total), expected.lines);
+        QCOMPARE(g_BadSectors.toVector(), expected.found);
+        QCOMPARE(g_BadSectors.count(), qint64(expected.found.size()));
+        QCOMPARE(g_nBlockStep.load(), (total + 399) / 400);
+    }
+    QCOMPARE(disk.node().pDetails->hDisk, std::int64_t(0));
+}
+
+void tst_QScanDriveThread::saysWordByWord_data()
+{
+    QTest::addColumn<qint64>("total");
+    QTest::addColumn<Sectors>("bad");
+    QTest::addColumn<QStringList>("lines");
+    QTest::addColumn<Sectors>("found");
+    QTest::newRow("nothing to scan")
+        << qint64(0) << Sectors()
+        << words("begin, progress 2, progress 1, all 0, progress 4, blocks 0, bad 0, finish Pass")
+        << Sectors();
+    QTest::newRow("400 k") << qint64(40000) << Sectors()
+                           << words("begin, progress 2, progress 1, chunk 0 40000 100, first 16384 40000, "
+                                    "progress 1, chunk 16384 40000 100, progress 163, chunk 32768 40000 100, "
+                                    "progress 327, all 40000, progress 329, blocks 0, bad 0, finish Pass")
+                           << Sectors();
+    QTest::newRow("400 k + 1") << qint64(40001) << Sectors()
+                               << words(
+                                      "begin, progress 2, progress 1, chunk 0 40001 101, first 16384 40001, "
+                                      "progress 1, chunk 16384 40001 101, progress 162, "
+                                      "chunk 32768 40001 101, progress 324, all 40001, progress 326, "
+                                      "blocks 0, bad 0, finish Pass")
+                               << Sectors();
+    QTest::newRow("small") << qint64(399) << Sectors{0, 398}
+                           << words("begin, progress 2, progress 1, chunk 0 399 1, bad 1, bad 2, bad 3, "
+                                    "first 399 399, progress 1, all 399, progress 3, blocks 0, bad 3, "
+                                    "finish Pass")
+                           << Sectors{0, 398, 399};
+    QTest::newRow("found twice") << qint64(32768) << Sectors{5, 16384}
+                                 << words(
+                                        "begin, progress 2, progress 1, chunk 0 32768 82, bad 1, bad 2, "
+                                        "first 16384 32768, progress 1, chunk 16384 32768 82, bad 3, bad 4, "
+                                        "progress 199, all 32768, progress 201, blocks 0, bad 4, finish Pass")
+                                 << Sectors{5, 16384, 16384, 32768};
+}
+
+void tst_QScanDriveThread::saysWordByWord()
+{
+    QFETCH(qint64, total);
+    QFETCH(Sectors, bad);
+    installQuickDisk(total, {bad.cbegin(), bad.cend()});
+    const SelectedDisk disk(0, total);
+    QTEST(scanned(total), "lines");
+    QTEST(g_BadSectors.toVector(), "found");
+}
+
+void tst_QScanDriveThread::goesBeyond32Bits()
+{
+    const qint64 total = (qint64(1) << 32) + Chunk + 7;
+    // The sectors at which a byte offset, a signed and an unsigned sector number would leave 32 bits.
+    const std::set<qint64> bad{qint64(1) << 23, qint64(1) << 31, qint64(1) << 32, total - 1};
+    installQuickDisk(total, bad);
+    const SelectedDisk disk(0, total);
+    const Expectation expected(total, bad);
+    QVERIFY(scanned(total) == expected.lines);
+    QCOMPARE(g_BadSectors.toVector(), expected.found);
+    QCOMPARE(expected.found.size(), 5);
+}
+
+void tst_QScanDriveThread::stops_data()
+{
+    QTest::addColumn<QString>("at");
+    QTest::addColumn<QString>("rest");
+    QTest::addColumn<Sectors>("found");
+    const auto row = [](const char *at, const char *rest, const Sectors &found) {
+        QTest::newRow(at) << QString::fromLatin1(at) << QString::fromLatin1(rest) << found;
+    };
+    row("progress 1", "progress 2, blocks 0, bad 0, finish Pass", {});
+    row("chunk 16384 40000 100", "progress 163, progress 163, blocks 0, bad 0, finish Pass", {});
+    row("bad 2", "first 16384 40000, progress 1, progress 1, blocks 0, bad 2, finish Pass", {10, 20});
+}
+
+void tst_QScanDriveThread::stops()
+{
+    QFETCH(QString, at);
+    QFETCH(Sectors, found);
+    const bool badBegin = !found.isEmpty();
+    installQuickDisk(40000, badBegin ? std::set<qint64>{10, 20, 30} : std::set<qint64>{});
+    const SelectedDisk disk(0, 40000);
+    QStringList lines = scanned(40000, [&at](const QString &line) {
+        if (line == at)
+            g_bAbortJob = true;
+    });
+    lines = lines.mid(lines.indexOf(at) + 1);
+    QTEST(lines.join(QStringLiteral(", ")), "rest");
+    QCOMPARE(g_BadSectors.toVector(), found);
+    QVERIFY(!g_bJobRunning);
+}
+
+void tst_QScanDriveThread::leavesOutTheCountOfAStop()
+{
+    int failures = 0;
+    installQuickDisk(40000, {10, 20, 30})->onFailedProbe = [&failures] { g_bAbortJob = ++failures == 2; };
+    const SelectedDisk disk(0, 40000);
+    const QStringList lines = scanned(40000);
+    QCOMPARE(lines.mid(lines.indexOf(QStringLiteral("bad 1")) + 1),
+             words("first 16384 40000, progress 1, progress 1, blocks 0, bad 1, finish Pass"));
+    QCOMPARE(g_BadSectors.toVector(), (Sectors{10, 20}));
+}
+
+void tst_QScanDriveThread::failsForGood_data()
+{
+    QTest::addColumn<bool>("selected");
+    QTest::addColumn<int>("total");
+    QTest::newRow("a disk that does not open") << true << 40000;
+    QTest::newRow("no disk") << false << 0;
+}
+
+void tst_QScanDriveThread::failsForGood()
+{
+    QFETCH(bool, selected);
+    QFETCH(int, total);
+    QuickDisk *const quick = installQuickDisk(40000);
+    quick->gone = true;
+    const SelectedDisk disk(0, 40000);
+    if (!selected)
+        g_App.m_pCurrentDisk = nullptr;
+    QCOMPARE(scanned(40000), words("begin, progress 2") << QStringLiteral("all %1").arg(total)
+                                                        << words("blocks 0, bad 0, finish Failed"));
+
+    // The flag stays: a disk that is read to its end has failed, too.
+    quick->gone = false;
+    SelectedDisk healthy(0, 40000);
+    QCOMPARE(scanned(40000), words("begin, progress 2, progress 1, chunk 0 40000 100, first 16384 40000, "
+                                   "progress 1, chunk 16384 40000 100, progress 163, chunk 32768 40000 100, "
+                                   "progress 327, all 40000, blocks 0, bad 0, finish Failed"));
+}
+
+void tst_QScanDriveThread::outlivesItsDisk()
+{
+    const qint64 total = 3 * Chunk + 5;
+    QuickDisk *const quick = installQuickDisk(total);
+    const SelectedDisk disk(0, total);
+    const QStringList lines = scanned(total, [quick](const QString &line) {
+        if (line.startsWith(QStringLiteral("chunk 16384 ")))
+            quick->gone = true;
+    });
+    std::set<qint64> lost;
+    for (qint64 sector = Chunk; sector < total; ++sector)
+        lost.insert(sector);
+    const Expectation expected(total, lost);
+    QCOMPARE(lines, expected.lines);
+    QCOMPARE(g_BadSectors.toVector(), expected.found);
+}
+
+void tst_QScanDriveThread::keepsItsFlags()
+{
+    installQuickDisk(40000, {3});
+    const SelectedDisk disk(0, 40000);
+    g_bAbortJob = true;
+    {
+        QScanDriveThread thread;
+        QVERIFY(!g_bAbortJob);
+        bool running = false;
+        QThread::Priority priority = QThread::InheritPriority;
+        const ScanRecorder recorder(thread, [&](const QString &) {
+            running = g_bJobRunning;
+            priority = QThread::currentThread()->priority();
+        });
+        thread.SetRange(0, 40000);
+        thread.StartScan(nullptr, 3);
+        QVERIFY(thread.wait(30000));
+        QVERIFY(running);
+        QCOMPARE(priority, QThread::LowPriority);
+        QVERIFY(!g_bJobRunning);
+        QVERIFY(g_bScanFinished);
+        QVERIFY(!g_bScanBegun);
+
+        // Stopped before it began: the picture of the last scan stays.
+        g_bAbortJob = true;
+        thread.StartScan(nullptr, 3);
+        QVERIFY(thread.wait(30000));
+        QCOMPARE(recorder.lines.filter(QStringLiteral("begin")).size(), 1);
+        QCOMPARE(recorder.lines.filter(QStringLiteral("finish Pass")).size(), 2);
+        QCOMPARE(g_BadSectors.toVector(), (Sectors{3}));
+        g_bAbortJob = false;
+    }
+    QVERIFY(g_bAbortJob);
+}
+
+void tst_QScanDriveThread::waitsForWhoListens()
+{
+    const qint64 total = 6 * Chunk;
+    QuickDisk *const quick = installQuickDisk(total);
+    quick->gone = false;
+    const SelectedDisk disk(0, total);
+    QScanDriveThread thread;
+    std::atomic<qlonglong> said{0};
+    qlonglong heard = 0;
+    qlonglong furthest = 0;
+    QEventLoop loop;
+    connect(
+        &thread, &QScanDriveThread::TotalBlockCount, &thread, [quick] { quick->gone = true; },
+        Qt::DirectConnection);
+    connect(
+        &thread, &QScanDriveThread::ExactBadSectorCount, &thread, [&said](qlonglong count) { said = count; },
+        Qt::DirectConnection);
+    connect(&thread, &QScanDriveThread::ExactBadSectorCount, &loop, [&](qlonglong count) {
+        heard = count;
+        furthest = std::max(furthest, said - heard);
+        if (count % 64 == 0)
+            QThread::usleep(100);
+    });
+    connect(&thread, &QScanDriveThread::OnFinish, &loop, [&loop] { loop.quit(); });
+    thread.SetRange(0, total);
+    thread.StartScan(nullptr, 3);
+    loop.exec();
+    QVERIFY(thread.wait(30000));
+    // Every chunk brings its own sectors and the one behind it.
+    QCOMPARE(heard, total + 6);
+    QVERIFY2(furthest <= Chunk + 4096, qPrintable(QString::number(furthest)));
+}
+
+void tst_QScanDriveThread::startsAndStopsUnderAReader()
+{
+    const qint64 total = 64 * Chunk;
+    std::set<qint64> bad;
+    for (qint64 sector = 0; sector < total; sector += 3)
+        bad.insert(sector);
+    installQuickDisk(total, bad);
+    const SelectedDisk disk(0, total);
+    std::atomic<bool> done{false};
+    std::atomic<int> wrong{0};
+    std::atomic<qint64> longest{0};
+    const std::unique_ptr<QThread> reader(QThread::create([&] {
+        while (!done) {
+            qint64 last = -1;
+            qint64 length = 0;
+            g_BadSectors.forEachRun([&](qint64 first, qint64 count) {
+                wrong += count != 1 || first % 3 != 0 || first < last;
+                last = first;
+                ++length;
+            });
+            longest = std::max(longest.load(), length);
+        }
+    }));
+    reader->start();
+    QScanDriveThread thread;
+    thread.SetRange(0, total);
+    for (int run = 0; run < 100; ++run) {
+        g_bAbortJob = false;
+        thread.StartScan(nullptr, 3);
+        QThread::usleep(static_cast<unsigned long>(run % 10) * 300);
+        g_bAbortJob = true;
+        QVERIFY(thread.wait(30000));
+        if (run % 2 == 0)
+            g_BadSectors.clear();
+    }
+    done = true;
+    QVERIFY(reader->wait(30000));
+    QCOMPARE(wrong.load(), 0);
+    QVERIFY(longest > 0);
+}
+
+QTEST_GUILESS_MAIN(tst_QScanDriveThread)
+#include "tst_QScanDriveThread.moc"
