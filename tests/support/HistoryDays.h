@@ -1,0 +1,38 @@
+#pragma once
+
+#include "smart/AttributeHistory.h"
+#include "tests/support/FakePlatform.h"
+
+#include <QDateTime>
+
+/// A machine whose history lies in a folder that a test looks into.
+class HistoryMachine : public FakePlatform
+{
+public:
+    explicit HistoryMachine(QString folder) : m_history(std::move(folder)) {}
+    QString HistoryFolder(const QString &) override { return m_history; }
+
+private:
+    QString m_history;
+};
+
+/// The days of a disk that gets older: the value of a day follows from its date.
+namespace days
+{
+
+const QString key = QStringLiteral("Power On Hours");
+
+inline qint64 valueOn(const QDate &day)
+{
+    return day.toJulianDay() * 24;
+}
+
+inline void record(const QString &serial, const QDate &first, int count)
+{
+    for (int i = 0; i < count; ++i) {
+        const QDate day = first.addDays(i);
+        recordHistory(serial, QDateTime(day, QTime(9, 30)), {{key, QString::number(valueOn(day))}});
+    }
+}
+
+} // namespace days
