@@ -12,6 +12,7 @@
 #include <QSystemTrayIcon>
 
 #include <array>
+#include <optional>
 
 class CloneDisk;
 class CloneWarning;
@@ -25,6 +26,7 @@ class MyButton;
 class PopupMenu;
 class QMovie;
 class QTimer;
+class QTreeWidgetItem;
 class ScanDisk;
 class ScanSwitchClass;
 class SelfTestNotSupported;
@@ -63,6 +65,9 @@ public:
     void ComputePerformance();
     void ComputeHealth();
     void ShowDiskLifeDetails();
+    /// Fills the attribute tree from the report that was read last, keeps its values in the history of the
+    /// day, and draws the first row's graph.
+    void FillSmartTable();
 
 public slots:
     void OnSystemShutDown();
@@ -128,6 +133,7 @@ public slots:
     void iconActivated(QSystemTrayIcon::ActivationReason reason);
     void OnSetSmartSettings();
     void GetSmartTemprature();
+    void GraphWithAttributes(QTreeWidgetItem *item, int column);
     void OnSwitchCancel();
     void OnSwitchConfirm();
     void OnInitialize();
@@ -187,6 +193,8 @@ private:
     void leaveBusy();
     void prepareLogFolder();
     void initializeSmartStatus();
+    void showSmartHeading();
+    void refillSmartTable(bool freshReport);
     bool initializeDiskStatus();
     void showTemperature(int celsius);
     void showOverallResult(int celsius);
@@ -253,6 +261,8 @@ private:
 
     /// The screen asked for while a job's results are open.
     std::array<bool, navigation::ScreenCount> m_abSwitchTarget{};
+    /// Serial number under which the attribute tree was filled last; none since a read was asked for.
+    std::optional<QString> m_tableSerial;
     QHash<int, int> m_hashComboToDisk; ///< combo index to DiskNode::nId
     QMovie *m_pMovie = nullptr;
     int m_nFrameCount = 0;         ///< frames of the letter shown last

@@ -3,11 +3,15 @@
 #include "app/state/GlobalApp.h"
 #include "app/state/Globals.h"
 #include "smart/AttributeColumns.h"
+#include "smart/AttributeRows.h"
+#include "smart/SmartGlobals.h"
 #include "ui/PageLook.h"
+#include "ui/SmartChartView.h"
 #include "ui/Style.h"
 
 #include <QEvent>
 #include <QHeaderView>
+#include <QStyledItemDelegate>
 #include <QTreeWidget>
 
 namespace
@@ -21,6 +25,34 @@ QLabel *newSpacer(QWidget *parent)
     auto *spacer = new QLabel(parent);
     spacer->setFixedHeight(style::px(2));
     return spacer;
+}
+
+/// Keeps a cell's own colour where its row is selected.
+class CellDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->palette.setBrush(QPalette::HighlightedText, option->palette.brush(QPalette::Text));
+    }
+};
+
+/// One cell after the other, up to and with the hidden key.
+void fillItem(QTreeWidgetItem *item, const AttributeRow &row)
+{
+    int column = 0;
+    for (const QString &text : row.cells) {
+        item->setText(column, text);
+        item->setToolTip(column, text);
+        item->setTextAlignment(column, Qt::AlignLeft | Qt::AlignVCenter);
+        item->setForeground(column, QBrush(column == row.redCell ? QColor(255, 0, 0) : QColor(0, 0, 0)));
+        item->setSizeHint(column, QSize(style::px(12), style::px(20)));
+        ++column;
+    }
 }
 
 } // namespace
@@ -58,6 +90,8 @@ void SmartStatus::makeTree()
     m_pAttributeTree->setFrameShape(QFrame::NoFrame);
     m_pAttributeTree->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_pAttributeTree->setFont(style::font(10));
+    m_pAttributeTree->setIconSize(QSize(style::px(12), style::px(12)));
+    m_pAttributeTree->setItemDelegate(new CellDelegate(m_pAttributeTree));
     m_pAttributeTree->setColumnCount(attributecolumns::Count);
     m_pAttributeTree->setStyleSheet(QStringLiteral(".QTreeWidget{ border: 1px solid #e0d0e0;}"));
     pagelook::styleVerticalScrollBar(m_pAttributeTree);
@@ -89,6 +123,8 @@ void SmartStatus::layOutPage()
     AttributeColumn->insertWidget(0, newSpacer(DitaledFrame));
     AttributeColumn->insertWidget(1, m_pAttributeTree);
     AttributeColumn->insertWidget(2, newSpacer(DitaledFrame));
+    m_pChartView = new SmartChartView(DitaledFrame);
+    AttributeColumn->addWidget(m_pChartView);
 }
 
 void SmartStatus::setFixedTexts()
@@ -139,6 +175,28 @@ void SmartStatus::FormatSmartTable()
     view->setStyleSheet(sheet);
 }
 
+std::vector<AttributeRow> SmartStatus::CurrentRows()
+{
+    return g_App.m_bNVMe ? nvmeRows(g_pNvmeAttributeHead) : ataRows(g_pSmartAttributeHead);
+}
+
+void SmartStatus::ShowRows(const std::vector<AttributeRow> &rows)
+{
+    FormatSmartTable();
+    m_pAttributeTree->clear();
+    for (const AttributeRow &row : rows)
+        fillItem(new QTreeWidgetItem(m_pAttributeTree), row);
+    m_pAttributeTree->scrollToTop();
+    m_pAttributeTree->setCurrentItem(m_pAttributeTree->topLevelItem(0));
+}
+
+void SmartStatus::RetranslateSmartTable()
+{
+    // None are there while a disk is being read.
+    if (m_pAttributeTree->topLevelItemCount() > 0)
+        ShowRows(CurrentRows());
+}
+
 void SmartStatus::showOverallResult()
 {
     if (g_bSmartAvailable) {
@@ -171,6 +229,7 @@ void SmartStatus::changeEvent(QEvent *event)
         retranslateUi(this);
         setFixedTexts();
         showOverallResult();
+        RetranslateSmartTable();
         showSelectedDisk();
         FormatSmartTable();
     }

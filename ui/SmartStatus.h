@@ -4,10 +4,14 @@
 
 #include <QWidget>
 
-class QTreeWidget;
+#include <vector>
 
-/// The SMART Status screen: the overall result, one row per attribute of the selected disk, and room for the
-/// graph of one of them. The main window fills it.
+class QTreeWidget;
+class SmartChartView;
+struct AttributeRow;
+
+/// The SMART Status screen: the overall result, one row per attribute of the selected disk, and the graph of
+/// one of them. The main window fills it.
 class SmartStatus : public QWidget, public Ui::m_pSmartWgt
 {
     Q_OBJECT
@@ -19,7 +23,15 @@ public:
     /// header's style by scale and language. The rows stay.
     void FormatSmartTable();
 
+    /// The rows of the report that was read last, of its kind.
+    static std::vector<AttributeRow> CurrentRows();
+    /// Puts rows in the place of those that show, and selects the first.
+    void ShowRows(const std::vector<AttributeRow> &rows);
+    /// Writes the rows anew, in the language that is loaded. Neither history nor graph change.
+    void RetranslateSmartTable();
+
     QTreeWidget *m_pAttributeTree;
+    SmartChartView *m_pChartView;
     QLabel *m_pHeadingLabel;       ///< in ImageLabel, hidden with it
     QLabel *m_pHeadingResultLabel; ///< in ImageLabel, hidden with it
 

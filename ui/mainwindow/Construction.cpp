@@ -33,6 +33,7 @@
 #include <QEvent>
 #include <QMouseEvent>
 #include <QTimer>
+#include <QTreeWidget>
 
 namespace
 {
@@ -413,6 +414,8 @@ void MainWindow::connectAll()
     connect(m_pSettings->OkButton, &QPushButton::clicked, this, &MainWindow::OnSetSmartSettings);
     connect(m_pSettings->CloseButton, &QPushButton::clicked, this, &MainWindow::OnSetSmartSettings);
 
+    connect(m_pSmartStatusPage->m_pAttributeTree, &QTreeWidget::itemClicked, this,
+            &MainWindow::GraphWithAttributes);
     connect(m_pCloneDiskPage, &CloneDisk::ComboboxIndexChange, this, &MainWindow::OnComboboxIndexChange);
     connect(m_pCloneDiskPage->SourceComboBox, QOverload<int>::of(&QComboBox::activated), this,
             &MainWindow::OnSourceIndexChange);

@@ -16,10 +16,12 @@
 #include "ui/DiskPartition.h"
 #include "ui/DiskStatus.h"
 #include "ui/Images.h"
+#include "ui/SmartChartView.h"
 #include "ui/SmartStatus.h"
 #include "ui/Style.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QMovie>
 #include <QTreeWidget>
 
@@ -91,6 +93,7 @@ void MainWindow::RefreshSelectedDisk()
         startRead();
     } else if (isDown(navigation::SmartStatusScreen)) {
         m_pSmartStatusPage->m_pAttributeTree->clear();
+        m_tableSerial.reset();
         startRead();
     } else if (isDown(navigation::ScanDiskScreen)) {
         refreshScanPage();
@@ -160,6 +163,7 @@ void MainWindow::OnInitializeSmart()
 
 void MainWindow::initializeSmartStatus()
 {
+    const bool freshReport = QFileInfo::exists(nativePath(g_strSmartReportPath));
     DetectReportKind(g_strSmartReportPath);
     ParseSmartReport(g_strSmartReportPath);
     ComputePerformance();
@@ -171,16 +175,11 @@ void MainWindow::initializeSmartStatus()
     const DiskNode *node = g_App.m_pCurrentDisk;
     const WmicDiskRecord *record = node ? findWmicDisk(node->nId) : nullptr;
     g_bSmartAvailable = GetDiskTemperature() != 0;
+    m_pSmartStatusPage->m_pChartView->setVisible(g_bSmartAvailable);
     showResult(m_pSmartStatusPage->SmartResultLabel,
                g_bSmartAvailable ? OverallResult::Passed : OverallResult::NotSupported);
 
-    m_pSmartStatusPage->m_pHeadingLabel->setText(tr("SMART Status"));
-    m_pSmartStatusPage->m_pHeadingLabel->setFont(style::semiBold(12));
-    m_pSmartStatusPage->m_pHeadingLabel->setStyleSheet(QStringLiteral("QLabel {color : white;}"));
-    m_pSmartStatusPage->m_pHeadingResultLabel->setFont(style::semiBold(13, true));
-    m_pSmartStatusPage->m_pHeadingResultLabel->setStyleSheet(QStringLiteral("QLabel {color : white;}"));
-    m_pSmartStatusPage->GraphLabel->clear();
-    m_pSmartStatusPage->FormatSmartTable();
+    showSmartHeading();
     const QString interfaceText = interfaceOrDefault(record ? record->szInterface.text() : QString());
     m_pSmartStatusPage->InterfaceValLbl->setText(interfaceText);
     InterfaceTypeLabel->setText(interfaceText);
@@ -190,6 +189,16 @@ void MainWindow::initializeSmartStatus()
         m_pSmartStatusPage->SerialNunValueLbl->setText(g_strSerialNumber.trimmed());
     if (node)
         m_pSmartStatusPage->CapcityValLbl->setText(node->szSize.text());
+    refillSmartTable(freshReport);
+}
+
+void MainWindow::showSmartHeading()
+{
+    m_pSmartStatusPage->m_pHeadingLabel->setText(tr("SMART Status"));
+    m_pSmartStatusPage->m_pHeadingLabel->setFont(style::semiBold(12));
+    m_pSmartStatusPage->m_pHeadingLabel->setStyleSheet(QStringLiteral("QLabel {color : white;}"));
+    m_pSmartStatusPage->m_pHeadingResultLabel->setFont(style::semiBold(13, true));
+    m_pSmartStatusPage->m_pHeadingResultLabel->setStyleSheet(QStringLiteral("QLabel {color : white;}"));
 }
 
 bool MainWindow::initializeDiskStatus()

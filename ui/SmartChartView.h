@@ -1,0 +1,37 @@
+#pragma once
+
+#include "smart/AttributeGraph.h"
+
+#include <QtCharts/QChartView>
+
+namespace QtCharts
+{
+class QLineSeries;
+class QValueAxis;
+} // namespace QtCharts
+
+/// The graph of one attribute, 700 by 220 design pixels. Main thread only.
+class SmartChartView : public QtCharts::QChartView
+{
+    Q_OBJECT
+
+public:
+    explicit SmartChartView(QWidget *parent = nullptr);
+    ~SmartChartView() override;
+
+    /// Shows a new chart of the model; the one before is freed with its series and axes.
+    void ShowGraph(const GraphModel &model);
+
+protected:
+    void drawForeground(QPainter *painter, const QRectF &rect) override;
+
+private:
+    void drawScale(QPainter *painter, const QtCharts::QValueAxis &axis) const;
+    void drawLine(QPainter *painter, const QtCharts::QLineSeries &line) const;
+
+    const QtCharts::QLineSeries *m_pLine = nullptr;     ///< of many days; its points are drawn as rings
+    const QtCharts::QValueAxis *m_pDenseAxis = nullptr; ///< has more ticks than room for their labels
+};
+
+/// The one of the SMART Status screen; null before the first is made.
+extern SmartChartView *g_pSmartChartView;
