@@ -6,7 +6,8 @@
 
 class BadSectorList;
 
-/// The arithmetic of the block map: which cell of it shows what. Sectors are of 512 bytes, lengths are pixels.
+/// The arithmetic of the block map: which cell of it shows what. Sectors are of 512 bytes, lengths are
+/// pixels.
 namespace blockmap
 {
 

@@ -6,6 +6,7 @@ InfoDialogClass::InfoDialogClass(QWidget *parent) : QDialog(parent), m_Frame(thi
 {
     setupUi(this);
     m_Frame.dress({HeaderLabel, InageLbl, QStringLiteral("img_Information.png"), OkButton, OkButton, label});
+    connect(OkButton, &QPushButton::clicked, this, &InfoDialogClass::hide);
 }
 
 void InfoDialogClass::SetTexts(const QString &title, const QString &text, const QString &second)

@@ -77,7 +77,9 @@ public slots:
     void OnStopConfirm();
     void OnRefresh();
     void SavePDFReport();
+    void OnFinishScanDisk();
     void OnStop();
+    void OnScanStart();
     void OnShowDiskStatus();
     void OnShowDiskPartition();
     void OnShowScanDisk();
@@ -143,6 +145,7 @@ public slots:
     void LaunchPhotoRepair();
 
 protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void changeEvent(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
@@ -199,13 +202,20 @@ private:
     void showTemperature(int celsius);
     void showOverallResult(int celsius);
     void showLifeFields(const DiskNode *node);
-    void refreshScanPage();
     void selectCloneArgument();
     void refreshClonePage();
     int currentComboDisk() const;
     void clearPartitions();
     void addVolumeFrames(const QString &letter, const QString &mark);
     void retranslatePartitions();
+    /// @}
+
+    /// \name Surface scan
+    /// @{
+    void refreshScanPage();
+    void startSurfaceScan();
+    void setMenuEntriesEnabled(bool enabled);
+    void dropScanResults();
     /// @}
 
     /// \name Self-test
@@ -263,7 +273,8 @@ private:
     std::array<bool, navigation::ScreenCount> m_abSwitchTarget{};
     /// Serial number under which the attribute tree was filled last; none since a read was asked for.
     std::optional<QString> m_tableSerial;
-    QHash<int, int> m_hashComboToDisk; ///< combo index to DiskNode::nId
+    QHash<int, int> m_hashComboToDisk;  ///< combo index to DiskNode::nId
+    QList<QAction *> m_listHeldEntries; ///< menu entries that a scan made grey
     QMovie *m_pMovie = nullptr;
     int m_nFrameCount = 0;         ///< frames of the letter shown last
     QList<QFrame *> m_listFrames;  ///< all frames on Disk Partition

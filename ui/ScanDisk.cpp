@@ -1,13 +1,18 @@
 #include "ui/ScanDisk.h"
 
+#include "app/state/GlobalApp.h"
 #include "app/state/Globals.h"
+#include "scan/ScanGlobals.h"
 #include "ui/Images.h"
+#include "ui/InfoDialogClass.h"
 #include "ui/PageLook.h"
+#include "ui/QGridView.h"
 #include "ui/SelfTestPanel.h"
 #include "ui/Style.h"
 
 #include <QButtonGroup>
 #include <QEvent>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace
@@ -39,15 +44,37 @@ ScanDisk::ScanDisk(QWidget *parent) : QWidget(parent)
     auto *testColumn = new QVBoxLayout(frame_3);
     testColumn->setContentsMargins(0, 0, 0, 0);
     testColumn->addWidget(m_pSelfTestPanel);
+    m_pGridView = new QGridView(frame);
+    m_pGridView->setObjectName(QStringLiteral("m_pGridView"));
+    m_pGridView->setGeometry(QRect(QPoint(0, 0), frame->minimumSize()));
+    // Below the window, where the page's style sheets do not reach.
+    m_pResultBox = new InfoDialogClass(window());
+    m_pResultBox->setObjectName(QStringLiteral("m_pResultBox"));
+    connectThread();
     styleChooser();
     styleCounters();
-    for (QLabel *count : {BlockSizeValLbl, ProcessedVal, BadBlkValLbl})
-        count->setText(QStringLiteral("0"));
+    BlockSizeValLbl->setText(QStringLiteral("0"));
+    showCounts();
     setFixedTexts();
-    TimeReLbl->setText(tr("Time Remaining"));
-    TimeElapsedLbl->setText(tr("Time Elapsed"));
+    setTimeCaptions();
     FillDisk(nullptr);
     ShowChooser();
+}
+
+void ScanDisk::connectThread()
+{
+    connect(&m_scanThread, &QScanDriveThread::WrtiteText, this, &ScanDisk::onWrtiteText);
+    connect(&m_scanThread, &QScanDriveThread::ExactBadSectorCount, this, &ScanDisk::OnExactBadSectorCount);
+    connect(&m_scanThread, &QScanDriveThread::MaximumBadBlockScanProgress, this,
+            &ScanDisk::ScanMaxProgressForDisk);
+    connect(&m_scanThread, &QScanDriveThread::AllBlockProcessed, this, &ScanDisk::OnAllBlockProcessed);
+    connect(&m_scanThread, &QScanDriveThread::ScanProgressValue, this, &ScanDisk::ScanProgValForDisk);
+    connect(&m_scanThread, &QScanDriveThread::OnFinish, this, &ScanDisk::OnScanFinish);
+    connect(&m_scanThread, &QScanDriveThread::BadBockCount, this, &ScanDisk::OnBadBlockCount);
+    connect(&m_scanThread, &QScanDriveThread::TotalBlockCount, this, &ScanDisk::OnTotalBlockCount);
+    connect(&m_scanThread, &QScanDriveThread::ScanForBadBlockProgressValue, this,
+            &ScanDisk::BadSectorProgressDisk);
+    connect(&m_scanThread, &QScanDriveThread::setRemainingTime, this, &ScanDisk::OnSetRemainingTime);
 }
 
 void ScanDisk::styleChooser()
@@ -117,6 +144,18 @@ void ScanDisk::setFixedTexts()
                         "This test may take up to few hours to complete."));
 }
 
+void ScanDisk::setTimeCaptions()
+{
+    TimeReLbl->setText(tr("Time Remaining"));
+    TimeElapsedLbl->setText(tr("Time Elapsed"));
+}
+
+void ScanDisk::showCounts()
+{
+    BadBlkValLbl->setText(QString::number(m_i64BadSectors));
+    ProcessedVal->setText(QString::number(m_i64Processed));
+}
+
 void ScanDisk::hideParts()
 {
     for (QWidget *part : std::initializer_list<QWidget *>{
@@ -132,6 +171,16 @@ void ScanDisk::ShowChooser()
     frame_2->raise();
     frame_2->show();
     radioButton->setChecked(true);
+}
+
+void ScanDisk::ShowCounters()
+{
+    hideParts();
+    frame_2->hide();
+    for (QWidget *part :
+         std::initializer_list<QWidget *>{ScanDiskLbl, BlueClrLbl, ProcessesLbl, ProcessedVal, RedClrLBl,
+                                          BadBlkLbl, BadBlkValLbl, ProcesClrLl, ProcessNameLbl})
+        part->show();
 }
 
 void ScanDisk::ShowSelfTest()
@@ -150,16 +199,156 @@ void ScanDisk::FillDisk(const DiskNode *pNode)
     TotalBlkValLbl->setText(QString::number(sectors));
 }
 
+void ScanDisk::PrepareMap(qint64 totalSectors)
+{
+    constexpr int MapSizeHint = 1439;
+    g_nMapTotalSectors = totalSectors;
+    m_pGridView->SetHint(MapSizeHint);
+    m_pGridView->Reset();
+    g_nMapStep = 0;
+    m_pGridView->show();
+    m_pGridView->SetRange(0, totalSectors);
+}
+
+void ScanDisk::StartScan(qint64 totalSectors)
+{
+    constexpr int UpdateInterval = 2000;
+    constexpr int ScanMode = 3;
+    frame_4->show();
+    frame->show();
+    // The result of the scan before comes a moment before its thread has ended.
+    m_scanThread.wait();
+    g_bAbortJob = false;
+    g_BadSectors.clear();
+    RemTimeValLbl->clear();
+    ElapsedValLbl->clear();
+    // The timer of the scan before ticks on; it has the same to do.
+    m_pUpdateTimer = new QTimer(this);
+    connect(m_pUpdateTimer, &QTimer::timeout, this, &ScanDisk::OnUpdateTime);
+    m_pUpdateTimer->start(UpdateInterval);
+    m_clock.start(QTime::currentTime());
+    setTimeCaptions();
+    PrepareMap(totalSectors);
+    if (totalSectors > ScanBlockCount)
+        g_nMapStep = totalSectors / ScanBlockCount;
+    m_bScanning = true;
+    m_bDropped = false;
+    m_scanThread.SetRange(0, totalSectors);
+    m_scanThread.StartScan(g_App.m_pCurrentDisk, ScanMode);
+    m_i64BadSectors = 0;
+    showCounts();
+}
+
+void ScanDisk::DropResults()
+{
+    clearTimes();
+    m_pGridView->Reset();
+    m_bDropped = m_bScanning;
+    if (m_bScanning)
+        g_bAbortJob = true;
+    else
+        g_BadSectors.clear();
+}
+
+void ScanDisk::clearTimes()
+{
+    for (QLabel *time : {ElapsedValLbl, RemTimeValLbl, TimeElapsedLbl, TimeReLbl})
+        time->clear();
+}
+
+void ScanDisk::CentreResult()
+{
+    style::centreOn(m_pResultBox, window()->geometry());
+}
+
+void ScanDisk::onWrtiteText(qlonglong) {}
+
+void ScanDisk::ScanMaxProgressForDisk()
+{
+    m_pGridView->Reset();
+    m_pGridView->show();
+}
+
+void ScanDisk::ScanProgValForDisk(qlonglong value)
+{
+    m_pGridView->m_i64Position = g_nMapStep * value;
+    m_pGridView->update();
+}
+
+void ScanDisk::BadSectorProgressDisk(uint) {}
+
+void ScanDisk::OnBadBlockCount(qlonglong) {}
+
+void ScanDisk::OnTotalBlockCount(qlonglong position, qlonglong, qlonglong step)
+{
+    constexpr qlonglong SectorSize = 512;
+    constexpr qlonglong Megabyte = 1048576;
+    BlockSizeValLbl->setText(QString::number(step * SectorSize / Megabyte) + tr(" MB"));
+    m_i64Processed = position;
+    showCounts();
+}
+
+void ScanDisk::OnExactBadSectorCount(qlonglong count)
+{
+    m_i64BadSectors = count;
+    showCounts();
+}
+
+void ScanDisk::OnAllBlockProcessed(qlonglong i64ProcessedBlocks)
+{
+    m_i64Processed = i64ProcessedBlocks;
+    showCounts();
+}
+
+void ScanDisk::OnSetRemainingTime(qlonglong sectors, qlonglong endSector)
+{
+    m_clock.takeFirstChunk(sectors, endSector, QTime::currentTime());
+}
+
+void ScanDisk::OnUpdateTime()
+{
+    if (!g_bJobRunning)
+        return;
+    const QTime now = QTime::currentTime();
+    if (const auto remaining = m_clock.remainingText(now))
+        RemTimeValLbl->setText(*remaining);
+    ElapsedValLbl->setText(m_clock.elapsedText(now));
+}
+
+void ScanDisk::OnScanFinish(QString verdict)
+{
+    clearTimes();
+    showResult(verdict);
+    m_clock.forgetEstimate();
+    m_bScanning = false;
+    if (m_bDropped)
+        DropResults();
+    emit OnScanFinished();
+}
+
+void ScanDisk::showResult(const QString &verdict)
+{
+    if (g_bAbortJob)
+        m_pResultBox->SetTexts(tr("Disk Scan"), tr("Disk scan aborted."), tr("Disk scan aborted by user."));
+    else if (verdict == QLatin1String("Pass"))
+        m_pResultBox->SetTexts(tr("Scan Completed"), tr("Scan Completed."), QString());
+    else if (verdict == QLatin1String("Failed"))
+        m_pResultBox->SetTexts(tr("Scan Failed"), tr("Scan Failed."), QString());
+    else
+        return;
+    CentreResult();
+    m_pResultBox->show();
+}
+
 void ScanDisk::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange) {
         retranslateUi(this);
         setFixedTexts();
         // A finished scan leaves the times empty, captions included.
-        if (g_bJobRunning) {
-            TimeReLbl->setText(tr("Time Remaining"));
-            TimeElapsedLbl->setText(tr("Time Elapsed"));
-        }
+        if (g_bJobRunning)
+            setTimeCaptions();
+        showCounts();
         FillDisk(findPhysicalDisk(PhysicalDriveBase + g_nCurrentDiskIndex));
     }
     QWidget::changeEvent(event);

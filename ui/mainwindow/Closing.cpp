@@ -4,8 +4,10 @@
 #include "app/state/Globals.h"
 #include "app/state/SettingsStore.h"
 #include "platform/Platform.h"
+#include "ui/CloneDisk.h"
 #include "ui/CloseWgt.h"
 #include "ui/DestinitionWarning.h"
+#include "ui/ScanDisk.h"
 #include "ui/SelfTestNotSupported.h"
 #include "ui/Style.h"
 
@@ -30,7 +32,10 @@ void bringUp(QWidget *window)
 
 bool MainWindow::jobRuns() const
 {
-    return g_bJobRunning || g_bSelfTestRunning;
+    // A scan that was stopped goes on until the drive has answered, a clone until its disk is back in the
+    // system.
+    return g_bJobRunning || g_bSelfTestRunning || m_pScanDiskPage->IsScanning() ||
+           m_pCloneDiskPage->IsCloning();
 }
 
 void MainWindow::showRunningPanel(bool fromYes)
@@ -71,7 +76,7 @@ void MainWindow::OnClose()
 
 void MainWindow::Onyes()
 {
-    if (g_bJobRunning) {
+    if (g_bJobRunning || m_pScanDiskPage->IsScanning() || m_pCloneDiskPage->IsCloning()) {
         showRunningPanel(true);
         return;
     }

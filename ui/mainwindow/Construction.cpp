@@ -378,6 +378,7 @@ void MainWindow::connectNavigation()
         connect(m_apNavigation[i], &MyButton::OnUpdatePixmap, this, table[i].normal);
         connect(m_apNavigation[i], &MyButton::OnPressPixmap, this, table[i].press);
         connect(m_apNavigation[i], &MyButton::OnReleasePixmap, this, table[i].release);
+        m_apNavigation[i]->installEventFilter(this);
     }
     connect(BackTestButton, &MyButton1::ChangePixmap1, this, &MainWindow::OnBackTestHoverImage);
     connect(BackTestButton, &MyButton1::OnUpdatePixmap1, this, &MainWindow::OnBackTestNormalImage);
@@ -394,6 +395,8 @@ void MainWindow::connectAll()
     connect(CloseButton, &QPushButton::clicked, this, &MainWindow::OnClose);
     connect(StopButton, &QPushButton::clicked, this, &MainWindow::OnStop);
     connect(StopTestButton, &QPushButton::clicked, this, &MainWindow::OnClickStopTestButton);
+    connect(ScanButton, &QPushButton::clicked, this, &MainWindow::OnScanStart);
+    connect(m_pScanDiskPage, &ScanDisk::OnScanFinished, this, &MainWindow::OnFinishScanDisk);
     connect(ReportSaveButton, &QPushButton::clicked, this, &MainWindow::SavePDFReport);
     connect(ScreenshotButton, &QPushButton::clicked, this, &MainWindow::TakeScreenshot);
     connect(m_pMenuButton, &QPushButton::clicked, this, &MainWindow::OnHideButtons);
@@ -426,8 +429,7 @@ void MainWindow::connectAll()
 void MainWindow::greyOutIdle()
 {
     // Nothing stands behind these, so they do not look as if.
-    for (QPushButton *idle : {ScanButton, m_pHelpButton})
-        idle->setEnabled(false);
+    m_pHelpButton->setEnabled(false);
     m_pAboutAction->setEnabled(false);
     m_pSettings->m_pLanguageButton->hide();
 }

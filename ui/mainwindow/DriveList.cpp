@@ -6,7 +6,7 @@
 #include "app/state/StartArgument.h"
 #include "inventory/WmicInventory.h"
 #include "ui/CloneDisk.h"
-#include "ui/ScanDisk.h"
+#include "ui/CloneWarning.h"
 
 void MainWindow::FillDriveCombos()
 {
@@ -19,6 +19,7 @@ void MainWindow::FillDriveCombos()
     source->clear();
     target->clear();
     m_hashComboToDisk.clear();
+    m_pCloneDiskPage->ForgetDestination();
     g_strSelectDestination = tr("Select Destination");
     target->addItem(g_strSelectDestination);
 
@@ -65,12 +66,6 @@ void MainWindow::OnTargetChangeIndex(int nIndex)
 
 void MainWindow::OnSourceIndexChange(int) {}
 
-void MainWindow::refreshScanPage()
-{
-    LookUpDisk(DriveCombobox->currentIndex());
-    m_pScanDiskPage->FillDisk(g_App.m_pCurrentDisk);
-}
-
 void MainWindow::selectCloneArgument()
 {
     QComboBox *source = m_pCloneDiskPage->SourceComboBox;
@@ -98,9 +93,12 @@ void MainWindow::refreshClonePage()
 
 void MainWindow::OnRefresh()
 {
-    if (g_bJobRunning)
+    // A clone holds nodes of the lists until its thread is at rest, also before and behind that flag.
+    if (g_bJobRunning || m_pCloneDiskPage->IsCloning())
         return;
     m_bRefreshing = true;
+    // The disks that it names may be others in the new lists.
+    m_pCloneWarning->hide();
     enterBusy(tr("Please wait. Application Refreshing..."));
     label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     // As with a read, each refresh adds a connection.

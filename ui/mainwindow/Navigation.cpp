@@ -127,16 +127,6 @@ void MainWindow::OnShowDiskPartition()
     RefreshSelectedDisk();
 }
 
-void MainWindow::OnShowScanDisk()
-{
-    g_bScanResultOpen = false;
-    g_bSelfTestResultOpen = false;
-    m_pScanDiskPage->ShowChooser();
-    DriveCombobox->setEnabled(true);
-    showScreen(navigation::ScanDiskScreen);
-    refreshScanPage();
-}
-
 void MainWindow::OnShowCloneDisk()
 {
     CloneButton->setEnabled(true);
@@ -147,6 +137,7 @@ void MainWindow::OnShowCloneDisk()
 void MainWindow::OnSwitchConfirm()
 {
     m_pScanSwitch->hide();
+    dropScanResults();
     g_bScanResultOpen = false;
     g_bSelfTestResultOpen = false;
     g_bScanStarted = false;
@@ -193,6 +184,7 @@ void MainWindow::OnStopCancel()
 
 void MainWindow::OnStopConfirm()
 {
+    m_pScanDiskPage->ForgetEstimate();
     g_bAbortJob = true;
     g_bJobRunning = false;
     if (m_pCloneDiskPage->isVisible()) {
@@ -201,6 +193,7 @@ void MainWindow::OnStopConfirm()
     } else if (g_bStopRequested) {
         StopConfirm();
     }
+    m_pScanDiskPage->CentreResult();
     m_pConfirmation->hide();
 }
 

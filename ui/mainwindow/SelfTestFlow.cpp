@@ -60,8 +60,14 @@ bool canRunSelfTest()
 void MainWindow::OnCheckRadioButton()
 {
     // The names of the disk come from the lists, which a refresh is rebuilding.
-    if (g_bListsLoading || !chosenKind(*m_pScanDiskPage))
+    if (g_bListsLoading)
         return;
+    if (!chosenKind(*m_pScanDiskPage)) {
+        g_bScanStarted = true;
+        g_bSelfTestRunning = false;
+        OnShowScanDisk();
+        return;
+    }
     g_bTestPending = true;
     m_pScanDiskPage->m_pSelfTestPanel->SetDisk(QString(), QString());
     m_pScanDiskPage->ShowSelfTest();

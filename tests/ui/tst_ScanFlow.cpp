@@ -1,0 +1,345 @@
+#include "scan/BlockMap.h"
+#include "scan/ScanGlobals.h"
+#include "tests/ui/WindowFixture.h"
+#include "ui/ConfarmetionClass.h"
+#include "ui/DestinitionWarning.h"
+#include "ui/InfoDialogClass.h"
+#include "ui/QGridView.h"
+#include "ui/ScanDisk.h"
+#include "ui/ScanSwitchClass.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QToolTip>
+
+/// Surface scans through the real window, on a PC with a quick disk, a slow one and one that does not open.
+class tst_ScanFlow : public QObject, private WindowFixture
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { setUpProgram(); }
+    void init();
+    void cleanup();
+
+    void finished();
+    void paintsItsCells();
+    void stopped();
+    void leftInMidRun_data();
+    void leftInMidRun();
+    void closingAndRefreshing();
+    void startsNothingDuringARefresh();
+    void selfTestsGoTheirWay();
+    void anotherDisk();
+    void failed();
+    void languageChange();
+    void overAndOver();
+
+private:
+    static constexpr qint64 QuickSectors = 163840; // ten chunks
+    static constexpr qint64 SlowSectors = 16384000;
+
+    void startOn(int index);
+    void waitForResult() const { QTRY_VERIFY_WITH_TIMEOUT(result()->isVisible(), 20000); }
+    void closeResult() const
+    {
+        result()->OkButton->click();
+        QVERIFY(!result()->isVisible());
+    }
+    ScanDisk *page() const { return m_pWindow->findChild<ScanDisk *>(); }
+    QGridView *map() const { return page()->m_pGridView; }
+    InfoDialogClass *result() const { return child<InfoDialogClass>("m_pResultBox"); }
+    QString resultTexts() const
+    {
+        return result()->HeaderLabel->text() + QLatin1Char('|') + result()->label->text() + QLatin1Char('|') +
+               result()->label_2->text();
+    }
+    bool shown(const char *name) const { return child<QWidget>(name)->isVisible(); }
+    bool idle() const;
+    bool scanning() const;
+    QString toolTipAt(const QPoint &place) const
+    {
+        QMouseEvent move(QEvent::MouseMove, place, map()->mapToGlobal(place), Qt::NoButton, Qt::NoButton,
+                         Qt::NoModifier);
+        QCoreApplication::sendEvent(map(), &move);
+        return QToolTip::text();
+    }
+};
+
+void tst_ScanFlow::init()
+{
+    addReport("a.txt", sample("ata-seagate-st3250318as.txt"));
+    const QByteArray disk =
+        R"("model": "M", "interface": "IDE", "report": "a.txt", "capabilities": "c.txt", )";
+    addReport("c.txt", DescribedFolder::contents(HALVANE_TEST_DATA "/selftest/caps-idle-72.txt"));
+    startPc(R"({"pauses": false, "settings": {"FirstTimeLaunch": 1}, "disks": [
+        {"number": 0, )" +
+            disk + R"("sectors": 163840, "badSectors": [100, 819, [16384, 2], 163839]},
+        {"number": 1, )" +
+            disk + R"("sectors": 16384000, "bytesPerSecond": 200000000},
+        {"number": 2, )" +
+            disk + R"("sectors": 2048, "opens": false}]})");
+    makeWindow();
+    waitForRead();
+}
+
+void tst_ScanFlow::cleanup()
+{
+    tearDown();
+    g_BadSectors.clear();
+    g_bScanFailed = false; // is for the life of the process
+}
+
+void tst_ScanFlow::startOn(int index)
+{
+    press("ScanDiskButton");
+    select(index);
+    child<QPushButton>("ScanButton")->click();
+}
+
+bool tst_ScanFlow::scanning() const
+{
+    bool locked = !child<QComboBox>("DriveCombobox")->isEnabled() && g_bScanResultOpen;
+    for (const MyButton *entry : m_pWindow->findChildren<MyButton *>())
+        locked = locked && !entry->isEnabled();
+    return locked && child<MyButton>("ScanDiskButton")->isDown() && shown("StopButton") &&
+           !shown("ScanButton") && !shown("BackTestButton") && !shown("frame_2") &&
+           !child<QAction>("m_pSettingsAction")->isEnabled() && shown("frame") && shown("frame_4") &&
+           shown("ProcessedVal");
+}
+
+bool tst_ScanFlow::idle() const
+{
+    bool free =
+        child<QComboBox>("DriveCombobox")->isEnabled() && child<QPushButton>("ScanButton")->isEnabled();
+    for (const MyButton *entry : m_pWindow->findChildren<MyButton *>())
+        free = free && entry->isEnabled();
+    return free && !shown("StopButton") && child<QAction>("m_pSettingsAction")->isEnabled();
+}
+
+void tst_ScanFlow::finished()
+{
+    press("ScanDiskButton");
+    QVERIFY(shown("frame_2") && !shown("frame") && child<QRadioButton>("radioButton")->isChecked());
+    QCOMPARE(toolTipAt(QPoint(0, 0)).section(QLatin1Char('\n'), 2),
+             QStringLiteral("Current Block Size : 0 MB"));
+    child<QPushButton>("ScanButton")->click();
+    QVERIFY(scanning());
+    QCOMPARE(text("TimeElapsedLbl") + text("TimeReLbl"), QStringLiteral("Time ElapsedTime Remaining"));
+    waitForResult();
+    QCOMPARE(resultTexts(), QStringLiteral("Scan Completed|Scan Completed.|"));
+    QVERIFY(idle() && shown("ScanButton") && shown("BackTestButton") && shown("frame"));
+    // The sector at the begin of the second chunk is found twice, as is what lies behind the last one.
+    QCOMPARE(text("BadBlkValLbl"), QStringLiteral("7"));
+    QCOMPARE(text("ProcessedVal"), QString::number(QuickSectors));
+    QCOMPARE(text("TotalBlkValLbl"), QString::number(QuickSectors));
+    QCOMPARE(text("BlockSizeValLbl"), QStringLiteral("0 MB"));
+    for (const char *time : {"TimeElapsedLbl", "TimeReLbl", "ElapsedValLbl", "RemTimeValLbl"})
+        QCOMPARE(text(time), QString());
+    QCOMPARE(map()->property("totalSectors").toLongLong(), QuickSectors);
+    // 410 sectors a block, 147456 before the last chunk: 359, and 2 at the end; 409 sectors a step.
+    QCOMPARE(map()->property("position").toLongLong(), qlonglong{361 * 409});
+    QCOMPARE(map()->property("badSectors").toList(),
+             (QVariantList{100, 819, 16384, 16384, 16385, 163839, 163840}));
+    QCOMPARE(toolTipAt(QPoint(499, 319)),
+             QStringLiteral("Start Sector of current block: 163590\nEnd Sector of current block: 163840\n"
+                            "Current Block Size : 410 MB"));
+
+    // The way back asks, and takes the results along.
+    closeResult();
+    QTest::mousePress(child<MyButton1>("BackTestButton"), Qt::LeftButton);
+    QVERIFY(shown("frame") && !g_BadSectors.isEmpty());
+    m_pWindow->findChild<ScanSwitchClass *>()->YesButton->click();
+    QVERIFY(shown("frame_2") && !shown("frame") && idle() && g_BadSectors.isEmpty());
+}
+
+void tst_ScanFlow::paintsItsCells()
+{
+    startOn(0);
+    waitForResult();
+    const QImage image = map()->grab().toImage();
+    const auto colourAt = [&image](int cell) {
+        return image.pixel(cell % 25 * 20 + 10, cell / 25 * 20 + 10);
+    };
+    QCOMPARE(image.size(), QSize(501, 321));
+    QCOMPARE(colourAt(0), blockmap::ProcessedColour);
+    QCOMPARE(colourAt(1), blockmap::BadColour);       // sector 819 lies in the third cell
+    QCOMPARE(colourAt(360), blockmap::WorkingColour); // the last of 361
+    QCOMPARE(colourAt(361), blockmap::BackgroundColour);
+    QCOMPARE(colourAt(399), blockmap::WorkingColour); // the last bad one, which the progress has not passed
+    QCOMPARE(image.pixel(40, 10), blockmap::GridColour);
+    QCOMPARE(image.pixel(500, 320), blockmap::GridColour);
+}
+
+void tst_ScanFlow::stopped()
+{
+    startOn(1);
+    QTRY_COMPARE_WITH_TIMEOUT(text("ProcessedVal"), QStringLiteral("32768"), 5000);
+    child<QPushButton>("StopButton")->click();
+    auto *question = m_pWindow->findChild<ConfarmetionClass *>();
+    QCOMPARE(question->CenterTitleLabel->text(), QStringLiteral("Stop Scan"));
+    question->NoButton->click();
+    QTRY_COMPARE_WITH_TIMEOUT(text("ProcessedVal"), QStringLiteral("65536"), 5000);
+    QVERIFY(scanning());
+    QTRY_VERIFY_WITH_TIMEOUT(text("ElapsedValLbl").endsWith(QLatin1String(" seconds")), 5000);
+    QVERIFY(text("RemTimeValLbl").endsWith(QLatin1String(" minutes")));
+    child<QPushButton>("StopButton")->click();
+    question->YesButton->click();
+    waitForResult();
+    QCOMPARE(resultTexts(), QStringLiteral("Disk Scan|Disk scan aborted.|Disk scan aborted by user."));
+    QVERIFY(idle() && shown("ScanButton") && map()->position() > 0 && shown("frame"));
+    closeResult();
+    // From here it starts anew, without the choice.
+    child<QPushButton>("ScanButton")->click();
+    QVERIFY(scanning());
+    QCOMPARE(map()->position(), qlonglong{0});
+}
+
+void tst_ScanFlow::leftInMidRun_data()
+{
+    QTest::addColumn<QByteArray>("button");
+    QTest::addColumn<bool>("onPage");
+    QTest::newRow("to another screen") << QByteArray("DiskPartitionButton") << false;
+    QTest::newRow("to the choice") << QByteArray("ScanDiskButton") << true;
+}
+
+void tst_ScanFlow::leftInMidRun()
+{
+    QFETCH(QByteArray, button);
+    startOn(1);
+    press(button.constData());
+    auto *question = m_pWindow->findChild<ScanSwitchClass *>();
+    QVERIFY(question->isVisible());
+    question->NoButton->click();
+    QVERIFY(scanning() && page()->isVisible());
+    press(button.constData());
+    question->YesButton->click();
+    QVERIFY(!shown("StopButton"));
+    waitForResult();
+    QVERIFY(resultTexts().startsWith(QLatin1String("Disk Scan|")));
+    QVERIFY(idle() && !g_bScanResultOpen && g_BadSectors.isEmpty());
+    QVERIFY(child<MyButton>(button.constData())->isDown());
+    QTEST(page()->isVisible(), "onPage");
+    QVERIFY(!shown("BackTestButton") && !shown("frame"));
+}
+
+void tst_ScanFlow::closingAndRefreshing()
+{
+    startOn(1);
+    const int before = commands("diskdrive get");
+    m_pWindow->OnRefresh();
+    QVERIFY(!m_pWindow->close());
+    auto *panel = m_pWindow->findChild<DestinitionWarning *>();
+    QVERIFY(panel->isVisible());
+    QCOMPARE(panel->WarningTxtLbl->text(), QStringLiteral("Disk scan running."));
+    m_pWindow->Onyes();
+    QCOMPARE(panel->WarningTxtLbl->text(), QStringLiteral("Scaning Running."));
+    // Until the drive has answered a stopped scan still keeps the window.
+    m_pWindow->OnStopConfirm();
+    panel->hide();
+    m_pWindow->OnClose();
+    QVERIFY(panel->isVisible());
+    child<QPushButton>("ScanButton")->click(); // hidden, and of no effect
+    waitForResult();
+    QCOMPARE(commands("diskdrive get"), before);
+    QVERIFY(idle());
+}
+
+void tst_ScanFlow::startsNothingDuringARefresh()
+{
+    press("ScanDiskButton");
+    m_pWindow->OnRefresh();
+    child<QPushButton>("ScanButton")->click();
+    QVERIFY(shown("frame_2") && !page()->IsScanning() && !g_bScanStarted);
+    waitForRead();
+    child<QPushButton>("ScanButton")->click();
+    waitForResult();
+    QCOMPARE(text("ProcessedVal"), QString::number(QuickSectors));
+}
+
+void tst_ScanFlow::selfTestsGoTheirWay()
+{
+    press("ScanDiskButton");
+    child<QRadioButton>("radioButton_3")->click();
+    child<QPushButton>("ScanButton")->click();
+    QVERIFY(g_bSelfTestRunning && !page()->IsScanning() && shown("frame_3") && !shown("frame"));
+    QCOMPARE(commands("smartctl64Bit.exe -t long"), 1);
+}
+
+void tst_ScanFlow::anotherDisk()
+{
+    startOn(0);
+    waitForResult();
+    closeResult();
+    // Other disks may be looked at; the next scan takes the one that is selected then.
+    select(2);
+    QCOMPARE(text("TotalBlkValLbl"), QStringLiteral("0"));
+    QCOMPARE(map()->totalSectors(), qlonglong{0});
+    QCOMPARE(map()->position(), qlonglong{0});
+    select(1);
+    child<QPushButton>("ScanButton")->click();
+    QCOMPARE(text("BadBlkValLbl"), QStringLiteral("0"));
+    QCOMPARE(map()->totalSectors(), SlowSectors);
+    QVERIFY(g_BadSectors.isEmpty());
+}
+
+void tst_ScanFlow::failed()
+{
+    startOn(2);
+    waitForResult();
+    QCOMPARE(resultTexts(), QStringLiteral("Scan Failed|Scan Failed.|"));
+    QVERIFY(idle());
+}
+
+void tst_ScanFlow::languageChange()
+{
+    startOn(0);
+    waitForResult();
+    QEvent change(QEvent::LanguageChange);
+    QCoreApplication::sendEvent(page(), &change);
+    QCOMPARE(text("BadBlkValLbl"), QStringLiteral("7"));
+    QCOMPARE(text("ProcessedVal"), QString::number(QuickSectors));
+    QCOMPARE(text("TimeReLbl"), QString());
+    closeResult();
+    child<QPushButton>("ScanButton")->click();
+    child<QLabel>("TimeReLbl")->clear();
+    QCoreApplication::sendEvent(page(), &change);
+    QCOMPARE(text("TimeReLbl"), QStringLiteral("Time Remaining"));
+}
+
+/// Nothing of one scan reaches into the next, whatever ends it, and the window can go in the middle of one.
+void tst_ScanFlow::overAndOver()
+{
+    press("ScanDiskButton");
+    select(1);
+    for (int round = 0; round < 40; ++round) {
+        child<QPushButton>("ScanButton")->click();
+        QVERIFY(scanning());
+        QTest::qWait(round * 7 % 60);
+        m_pWindow->OnRefresh();
+        m_pWindow->close();
+        if (round % 2 == 0) {
+            m_pWindow->OnStopConfirm();
+            if (round % 4 == 0)
+                m_pWindow->OnRefresh();
+        } else {
+            press(round % 4 == 1 ? "ScanDiskButton" : "DiskPartitionButton");
+            m_pWindow->OnSwitchConfirm();
+        }
+        waitForResult();
+        QVERIFY(resultTexts().startsWith(QLatin1String("Disk Scan|")));
+        closeResult();
+        waitForRead();
+        m_pWindow->OnSwitchConfirm();
+        press("ScanDiskButton");
+        select(1);
+        QVERIFY(idle() && shown("frame_2"));
+    }
+    child<QPushButton>("ScanButton")->click();
+    QTest::qWait(20);
+}
+
+QTEST_MAIN(tst_ScanFlow)
+#include "tst_ScanFlow.moc"

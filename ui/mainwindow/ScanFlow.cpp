@@ -1,0 +1,126 @@
+#include "ui/MainWindow.h"
+
+#include "app/state/GlobalApp.h"
+#include "app/state/Globals.h"
+#include "smart/SelfTestGlobals.h"
+#include "ui/MyButton.h"
+#include "ui/ScanDisk.h"
+
+#include <QAction>
+#include <QEvent>
+
+namespace
+{
+
+qint64 sectorsOf(const DiskNode *node)
+{
+    return node && node->pDetails ? static_cast<qint64>(node->pDetails->nTotalSectors) : 0;
+}
+
+} // namespace
+
+void MainWindow::OnShowScanDisk()
+{
+    g_bScanResultOpen = false;
+    g_bSelfTestResultOpen = false;
+    // Set on the way to the start of a scan.
+    if (m_pScanDiskPage->radioButton->isChecked() && g_bScanStarted)
+        m_pScanDiskPage->ShowCounters();
+    else
+        m_pScanDiskPage->ShowChooser();
+    DriveCombobox->setEnabled(true);
+    showScreen(navigation::ScanDiskScreen);
+    m_pScanDiskPage->radioButton->setChecked(true);
+    refreshScanPage();
+}
+
+void MainWindow::refreshScanPage()
+{
+    LookUpDisk(DriveCombobox->currentIndex());
+    m_pScanDiskPage->FillDisk(g_App.m_pCurrentDisk);
+    m_pScanDiskPage->PrepareMap(sectorsOf(g_App.m_pCurrentDisk));
+}
+
+void MainWindow::OnScanStart()
+{
+    // No disk can be looked up while the lists are rebuilt, and a scan that was stopped goes on until the
+    // drive has answered.
+    if (g_bListsLoading || m_pScanDiskPage->IsScanning())
+        return;
+    OnCheckRadioButton();
+    if (g_bTestPending) {
+        OnStartShortSelfTest();
+        g_bTestPending = false;
+    } else if (g_bScanStarted) {
+        startSurfaceScan();
+    }
+}
+
+void MainWindow::startSurfaceScan()
+{
+    setMenuEntriesEnabled(false);
+    for (QWidget *idle : std::initializer_list<QWidget *>{ScanButton, BackTestButton, StopTestButton})
+        idle->hide();
+    StopButton->show();
+    DriveCombobox->setEnabled(false);
+    for (int i = 0; i < navigation::ScreenCount; ++i)
+        setNavigationEnabled(static_cast<Screen>(i), false);
+    selectButton(navigation::ScanDiskScreen);
+    m_pScanDiskPage->StartScan(sectorsOf(g_App.m_pCurrentDisk));
+    g_bScanResultOpen = true;
+    g_bScanStarted = false;
+}
+
+void MainWindow::OnFinishScanDisk()
+{
+    setMenuEntriesEnabled(true);
+    enableNavigation();
+    StopButton->hide();
+    ScanButton->setEnabled(true);
+    DriveCombobox->setEnabled(true);
+    // Somebody who has left the page meanwhile stays where he is.
+    if (!g_bScanResultOpen)
+        return;
+    ScanButton->show();
+    BackTestButton->show();
+    selectButton(navigation::ScanDiskScreen);
+}
+
+/// The entries that lead away from a scan. Those that nothing stands behind stay grey.
+void MainWindow::setMenuEntriesEnabled(bool enabled)
+{
+    if (enabled) {
+        for (QAction *entry : qAsConst(m_listHeldEntries))
+            entry->setEnabled(true);
+        m_listHeldEntries.clear();
+        return;
+    }
+    for (QAction *entry :
+         {m_pSettingsAction, m_pAboutAction, m_pRecoverAction, m_pVideoAction, m_pPhotoAction}) {
+        if (entry->isEnabled())
+            m_listHeldEntries.append(entry);
+        entry->setEnabled(false);
+    }
+}
+
+/// The user leaves the results of a job.
+void MainWindow::dropScanResults()
+{
+    if (m_pScanDiskPage->IsScanning()) {
+        StopButton->hide();
+        ScanButton->setEnabled(false);
+    }
+    m_pScanDiskPage->DropResults();
+}
+
+bool MainWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    // A job locks the navigation. A press on it asks all the same, so that nobody takes it for dead.
+    const bool asks =
+        event->type() == QEvent::MouseButtonPress && (g_bScanResultOpen || g_bSelfTestResultOpen);
+    auto *pressed = asks ? qobject_cast<MyButton *>(watched) : nullptr;
+    if (!pressed || pressed->isEnabled())
+        return QMainWindow::eventFilter(watched, event);
+    emit pressed->OnPressPixmap();
+    return true;
+}
