@@ -3,15 +3,21 @@
 #include "app/state/CloneTexts.h"
 #include "app/state/GlobalApp.h"
 #include "app/state/Globals.h"
+#include "ui/InfoDialogClass.h"
 #include "ui/PageLook.h"
+#include "ui/QRoundProgressBar.h"
 #include "ui/Style.h"
 
 #include <QEvent>
 
 #include <algorithm>
+#include <initializer_list>
 
 namespace
 {
+
+constexpr int GaugeSide = 210;
+constexpr double GaugeStart = -135; ///< degrees, at the lower left
 
 /// Which label shows which text of a disk.
 struct DetailRow {
@@ -37,6 +43,12 @@ CloneDisk::CloneDisk(QWidget *parent) : QWidget(parent)
 {
     setupUi(this);
     pagelook::makePage(this);
+    m_pRoundProgressBar = new QRoundProgressBar(ProgressLabel);
+    m_pRoundProgressBar->setObjectName(QStringLiteral("m_pRoundProgressBar"));
+    m_pRoundProgressBar->setGeometry(0, 0, GaugeSide, GaugeSide);
+    style::scaleWidget(m_pRoundProgressBar);
+    m_pRoundProgressBar->SetDecimals(0);
+    m_pMessageBox = new InfoDialogClass(this);
     stylePage();
     setFixedTexts();
     RefreshSourceDetails(nullptr);
@@ -46,6 +58,16 @@ CloneDisk::CloneDisk(QWidget *parent) : QWidget(parent)
             &CloneDisk::OnActivatedSourceComboBox);
     connect(DestinationComboBox, QOverload<int>::of(&QComboBox::activated), this,
             &CloneDisk::OnActivatedDestinationComboBox);
+    connect(m_pMessageBox->OkButton, &QPushButton::clicked, this, &CloneDisk::OnOk);
+    connectThread();
+}
+
+void CloneDisk::connectThread()
+{
+    connect(&m_cloneThread, &ThreadDriveClone::OnCloningFinish, this, &CloneDisk::OnDriveCloneFinish);
+    connect(&m_cloneThread, &ThreadDriveClone::SetProgressValue, this, &CloneDisk::OnSetProgressValue);
+    connect(&m_cloneThread, &ThreadDriveClone::CloningFailed, this, &CloneDisk::OnCloningFailed);
+    connect(&m_cloneThread, &ThreadDriveClone::CloningAbort, this, &CloneDisk::OnCloningAbort);
 }
 
 void CloneDisk::stylePage()
@@ -110,7 +132,13 @@ void CloneDisk::rebuildDestinations(const DiskNode *pSource)
     for (const clonetexts::Destination &disk : clonetexts::destinations(g_App.m_pDiskListHead, sourceId))
         DestinationComboBox->addItem(disk.text, disk.diskId);
     m_nDestinationIndex = 0;
+}
+
+void CloneDisk::ForgetDestination()
+{
+    m_nDestinationIndex = 0;
     m_nDestinationDrive = -1;
+    g_App.m_pCloneDisk = nullptr;
 }
 
 void CloneDisk::OnActivatedSourceComboBox(int index)
@@ -140,12 +168,102 @@ void CloneDisk::OnActivatedDestinationComboBox(int index)
     ShowTargetDetails(true);
 }
 
+/// The gauge and the remaining time, or the choice of the two disks.
+void CloneDisk::showRunning(bool bRunning)
+{
+    for (QWidget *choice :
+         std::initializer_list<QWidget *>{DiskDetailLbl, ExtraLbl, SourceFrame, DesitanionFrame, SourceDisk,
+                                          TargetDiskLbl, SourceComboBox, DestinationComboBox})
+        choice->setVisible(!bRunning);
+    for (const DetailRow &row : detailRows) {
+        (this->*row.source)->setVisible(!bRunning);
+        (this->*row.target)->setVisible(!bRunning);
+    }
+    for (QWidget *progress :
+         std::initializer_list<QWidget *>{ProgressLabel, TimeLabel, TimeLabel2, TimeSpaceLbl, TimeSpaceLbl_2})
+        progress->setVisible(bRunning);
+}
+
+void CloneDisk::StartClone()
+{
+    m_bCloning = true;
+    m_pMessageBox->hide();
+    m_strLastMinutes.clear();
+    TimeLabel->clear();
+    showRunning(true);
+    m_timeStarted = QTime::currentTime();
+    m_pRoundProgressBar->SetMinimum(0.0);
+    m_pRoundProgressBar->SetMaximum(100.0);
+    m_pRoundProgressBar->SetValue(0);
+    m_pRoundProgressBar->SetNullPosition(GaugeStart);
+    m_pRoundProgressBar->SetBarStyle(QRoundProgressBar::RingStyle);
+    m_pRoundProgressBar->show();
+    m_cloneThread.start(QThread::InheritPriority);
+}
+
+void CloneDisk::OnSetProgressValue(qlonglong position, qlonglong remaining)
+{
+    m_strLastMinutes = cloneflow::remainingText(remaining);
+    OnUpdateTime();
+    m_pRoundProgressBar->SetValue(cloneflow::percentDone(position, m_nSourceSectors));
+    m_pRoundProgressBar->repaint();
+}
+
+void CloneDisk::OnUpdateTime()
+{
+    TimeLabel->setText(m_strLastMinutes);
+}
+
+void CloneDisk::ShowMessage(const cloneflow::Message &message)
+{
+    m_pMessageBox->SetTexts(message.title, message.text, message.second);
+    style::centreOn(m_pMessageBox, window()->geometry());
+    m_pMessageBox->show();
+}
+
+void CloneDisk::OnCloningFailed()
+{
+    ShowMessage(cloneflow::failed());
+    emit CloningProcesFailed();
+}
+
+void CloneDisk::OnCloningAbort()
+{
+    ShowMessage(cloneflow::aborted(m_pMessageBox->label_2->text()));
+}
+
+void CloneDisk::OnDriveCloneFinish()
+{
+    // It signals a moment before it is at rest.
+    m_cloneThread.wait();
+    m_bCloning = false;
+    const bool complete = !g_bAbortJob && !g_bCloneFailed;
+    if (complete) {
+        TimeLabel->clear();
+        m_pRoundProgressBar->SetValue(100);
+        ProgressLabel->repaint();
+    }
+    ShowMessage(cloneflow::finished(complete));
+    emit OnCloneFinish();
+}
+
+void CloneDisk::OnOk()
+{
+    m_pMessageBox->hide();
+    TimeLabel->clear();
+    if (g_bJobRunning || m_bCloning)
+        return;
+    showRunning(false);
+    emit DiskCloneFinished();
+}
+
 void CloneDisk::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange) {
         retranslateUi(this);
         setFixedTexts();
         RefreshSourceDetails(findPhysicalDisk(SourceComboBox->currentData().toInt()));
+        stylePage();
     }
     QWidget::changeEvent(event);
 }

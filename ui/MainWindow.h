@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/state/Navigation.h"
+#include "clone/CloneFlow.h"
 #include "smart/SMARTThread.h"
 #include "ui/FramelessDrag.h"
 #include "ui/QRefThreadDevicesLoad.h"
@@ -71,15 +72,19 @@ public:
 
 public slots:
     void OnSystemShutDown();
+    void OnCloningProcesFailed();
     void OnInitializeSmart();
     void OnComboboxIndexChange(int index);
+    void OnFinishDiskCloning();
     void OnStopCancel();
     void OnStopConfirm();
+    void OnCloningFinish();
     void OnRefresh();
     void SavePDFReport();
     void OnFinishScanDisk();
     void OnStop();
     void OnScanStart();
+    void OnCloneStart();
     void OnShowDiskStatus();
     void OnShowDiskPartition();
     void OnShowScanDisk();
@@ -136,6 +141,8 @@ public slots:
     void OnSetSmartSettings();
     void GetSmartTemprature();
     void GraphWithAttributes(QTreeWidgetItem *item, int column);
+    void OnCloningCancel();
+    void OnCloningStart();
     void OnSwitchCancel();
     void OnSwitchConfirm();
     void OnInitialize();
@@ -218,6 +225,27 @@ private:
     void dropScanResults();
     /// @}
 
+    /// \name Clone
+    /// @{
+    /// Two disks as a person chose them: drive codes and the names that were shown.
+    struct ClonePair {
+        int source = 0;
+        int target = 0;
+        QString sourceText;
+        QString targetText;
+
+        bool operator==(const ClonePair &other) const
+        {
+            return source == other.source && target == other.target && sourceText == other.sourceText &&
+                   targetText == other.targetText;
+        }
+    };
+    ClonePair chosenPair() const;
+    void askForTarget();
+    void refuseClone(const cloneflow::Message &reason);
+    void startClone();
+    /// @}
+
     /// \name Self-test
     /// @{
     void showTestScreen();
@@ -273,6 +301,7 @@ private:
     std::array<bool, navigation::ScreenCount> m_abSwitchTarget{};
     /// Serial number under which the attribute tree was filled last; none since a read was asked for.
     std::optional<QString> m_tableSerial;
+    ClonePair m_askedPair; ///< named in the question before a clone
     QHash<int, int> m_hashComboToDisk;  ///< combo index to DiskNode::nId
     QList<QAction *> m_listHeldEntries; ///< menu entries that a scan made grey
     QMovie *m_pMovie = nullptr;

@@ -397,6 +397,7 @@ void MainWindow::connectAll()
     connect(StopTestButton, &QPushButton::clicked, this, &MainWindow::OnClickStopTestButton);
     connect(ScanButton, &QPushButton::clicked, this, &MainWindow::OnScanStart);
     connect(m_pScanDiskPage, &ScanDisk::OnScanFinished, this, &MainWindow::OnFinishScanDisk);
+    connect(CloneButton, &QPushButton::clicked, this, &MainWindow::OnCloneStart);
     connect(ReportSaveButton, &QPushButton::clicked, this, &MainWindow::SavePDFReport);
     connect(ScreenshotButton, &QPushButton::clicked, this, &MainWindow::TakeScreenshot);
     connect(m_pMenuButton, &QPushButton::clicked, this, &MainWindow::OnHideButtons);
@@ -409,6 +410,8 @@ void MainWindow::connectAll()
     connect(m_pCloseWgt->NoButton, &QPushButton::clicked, this, &MainWindow::OnNo);
     connect(m_pConfirmation->YesButton, &QPushButton::clicked, this, &MainWindow::OnStopConfirm);
     connect(m_pConfirmation->NoButton, &QPushButton::clicked, this, &MainWindow::OnStopCancel);
+    connect(m_pCloneWarning->StartButton, &QPushButton::clicked, this, &MainWindow::OnCloningStart);
+    connect(m_pCloneWarning->CancelButton, &QPushButton::clicked, this, &MainWindow::OnCloningCancel);
     connect(m_pScanSwitch->YesButton, &QPushButton::clicked, this, &MainWindow::OnSwitchConfirm);
     connect(m_pScanSwitch->NoButton, &QPushButton::clicked, this, &MainWindow::OnSwitchCancel);
     connect(m_pDestinitionWarning->CloseButton, &QPushButton::clicked, this,
@@ -419,7 +422,10 @@ void MainWindow::connectAll()
 
     connect(m_pSmartStatusPage->m_pAttributeTree, &QTreeWidget::itemClicked, this,
             &MainWindow::GraphWithAttributes);
+    connect(m_pCloneDiskPage, &CloneDisk::OnCloneFinish, this, &MainWindow::OnCloningFinish);
+    connect(m_pCloneDiskPage, &CloneDisk::DiskCloneFinished, this, &MainWindow::OnFinishDiskCloning);
     connect(m_pCloneDiskPage, &CloneDisk::ComboboxIndexChange, this, &MainWindow::OnComboboxIndexChange);
+    connect(m_pCloneDiskPage, &CloneDisk::CloningProcesFailed, this, &MainWindow::OnCloningProcesFailed);
     connect(m_pCloneDiskPage->SourceComboBox, QOverload<int>::of(&QComboBox::activated), this,
             &MainWindow::OnSourceIndexChange);
     connect(m_pCloneDiskPage->DestinationComboBox, QOverload<int>::of(&QComboBox::activated), this,

@@ -13,6 +13,7 @@
 #include "smart/SmartGlobals.h"
 #include "smart/Temperature.h"
 #include "smart/ToolInvocation.h"
+#include "ui/CloneDisk.h"
 #include "ui/DiskPartition.h"
 #include "ui/DiskStatus.h"
 #include "ui/Images.h"
@@ -83,8 +84,8 @@ void MainWindow::clearForRead()
 
 void MainWindow::RefreshSelectedDisk()
 {
-    // Its end reloads the screen that shows then.
-    if (g_bListsLoading)
+    // Its end reloads the screen that shows then. A clone keeps the disks that it was started with.
+    if (g_bListsLoading || m_pCloneDiskPage->IsCloning())
         return;
     clearForRead();
     g_nCurrentDiskIndex = currentComboDisk();

@@ -1,0 +1,143 @@
+#include "ui/MainWindow.h"
+
+#include "app/state/GlobalApp.h"
+#include "app/state/Globals.h"
+#include "clone/CloneFlow.h"
+#include "smart/SelfTestGlobals.h"
+#include "ui/CloneDisk.h"
+#include "ui/CloneWarning.h"
+#include "ui/ConfarmetionClass.h"
+#include "ui/DestinitionWarning.h"
+#include "ui/MyButton.h"
+#include "ui/ScanDisk.h"
+#include "ui/Style.h"
+
+#include <initializer_list>
+
+namespace
+{
+
+cloneflow::Side sideOf(const DiskNode &node)
+{
+    return {node.nId - PhysicalDriveBase, node.pDetails ? node.pDetails->nTotalSectors : 0};
+}
+
+} // namespace
+
+/// The two disks as they are chosen now.
+MainWindow::ClonePair MainWindow::chosenPair() const
+{
+    const QComboBox *source = m_pCloneDiskPage->SourceComboBox;
+    const QComboBox *target = m_pCloneDiskPage->DestinationComboBox;
+    return {source->currentData().toInt(), target->currentData().toInt(), source->currentText(),
+            target->currentText()};
+}
+
+void MainWindow::OnCloneStart()
+{
+    // A refresh that is under way takes back the choice of disks.
+    if (g_bListsLoading || m_pCloneDiskPage->IsCloning())
+        return;
+    selectButton(navigation::CloneDiskScreen);
+    m_askedPair = chosenPair();
+    m_pCloneWarning->SourceNameLbl->setText(tr("Source disk:     ") + m_askedPair.sourceText);
+    m_pCloneWarning->DestinationNameLbl->setText(tr("Destination disk:    ") + m_askedPair.targetText);
+    style::centreOn(m_pCloneWarning, geometry());
+    if (m_pCloneDiskPage->m_nDestinationIndex != 0)
+        m_pCloneWarning->show();
+    else
+        askForTarget();
+}
+
+void MainWindow::askForTarget()
+{
+    m_pCloneWarning->hide();
+    // A new one, as the one from before may hold the texts of a running job.
+    delete m_pDestinitionWarning;
+    m_pDestinitionWarning = new DestinitionWarning(this);
+    connect(m_pDestinitionWarning->CloseButton, &QPushButton::clicked, this,
+            &MainWindow::OnCloseDestinitionWarning);
+    style::centreOn(m_pDestinitionWarning, geometry());
+    m_pDestinitionWarning->show();
+}
+
+void MainWindow::OnCloningCancel()
+{
+    m_pCloneWarning->hide();
+}
+
+void MainWindow::OnCloningStart()
+{
+    m_pCloneWarning->hide();
+    // The engine keeps hold of two nodes, and a scan that was stopped would take the cleared stop request for
+    // its own.
+    if (g_bListsLoading || m_pCloneDiskPage->IsCloning() || m_pScanDiskPage->IsScanning())
+        return;
+    // The question may have stayed open while another page was looked at.
+    if (!m_pCloneDiskPage->isVisible())
+        return;
+    setMenuEntriesEnabled(false);
+    LookUpDisk(m_pCloneDiskPage->SourceComboBox->currentIndex());
+    const int target = m_pCloneDiskPage->m_nDestinationDrive + PhysicalDriveBase;
+    g_App.m_pCloneDisk = findPhysicalDisk(target);
+    const bool known = g_App.m_pCurrentDisk && g_App.m_pCloneDisk;
+    if (const auto refusal =
+            known ? cloneflow::refusal(sideOf(*g_App.m_pCurrentDisk), sideOf(*g_App.m_pCloneDisk))
+                  : std::nullopt) {
+        refuseClone(*refusal);
+        return;
+    }
+    // What is erased is what was named in the question.
+    if (known && m_askedPair.target == target && chosenPair() == m_askedPair) {
+        startClone();
+        return;
+    }
+    setMenuEntriesEnabled(true);
+    OnCloneStart();
+}
+
+void MainWindow::refuseClone(const cloneflow::Message &reason)
+{
+    setMenuEntriesEnabled(true);
+    m_pCloneDiskPage->ShowMessage(reason);
+}
+
+void MainWindow::startClone()
+{
+    g_bAbortJob = false;
+    for (QWidget *idle :
+         std::initializer_list<QWidget *>{ScanButton, ScreenshotButton, StopTestButton, CloneButton})
+        idle->hide();
+    StopButton->show();
+    DriveCombobox->setEnabled(false);
+    for (int i = 0; i < navigation::ScreenCount; ++i)
+        setNavigationEnabled(static_cast<Screen>(i), false);
+    selectButton(navigation::CloneDiskScreen);
+    m_pCloneDiskPage->StartClone();
+}
+
+void MainWindow::OnCloningProcesFailed()
+{
+    DriveCombobox->setEnabled(true);
+}
+
+void MainWindow::OnCloningFinish()
+{
+    setMenuEntriesEnabled(true);
+    // There is nothing left to be stopped.
+    m_pConfirmation->hide();
+    StopButton->hide();
+    CloneButton->setVisible(!isDown(navigation::ScanDiskScreen));
+    DriveCombobox->setEnabled(true);
+    enableNavigation();
+}
+
+void MainWindow::OnFinishDiskCloning()
+{
+    StopButton->hide();
+    enableNavigation();
+    DriveCombobox->setEnabled(!g_bTestPending);
+    // Somebody who has left the page before the result was read stays where he is.
+    if (m_pCloneDiskPage->isVisible())
+        selectButton(navigation::CloneDiskScreen);
+}
