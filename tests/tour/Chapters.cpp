@@ -3,8 +3,12 @@
 const std::vector<Chapter> &chapters()
 {
     static const std::vector<Chapter> all{
-        {QStringLiteral("start"), startSteps}, {QStringLiteral("screens"), screenSteps},
-        {QStringLiteral("menus"), menuSteps},  {QStringLiteral("settings"), settingsSteps, true},
+        {QStringLiteral("start"), startSteps},
+        {QStringLiteral("screens"), screenSteps},
+        {QStringLiteral("menus"), menuSteps},
+        {QStringLiteral("scan"), scanSteps, true},
+        {QStringLiteral("selfTest"), selfTestSteps, true},
+        {QStringLiteral("settings"), settingsSteps, true},
         {QStringLiteral("close"), closeSteps},
     };
     return all;

@@ -36,8 +36,17 @@ Place middleOf(QWidget *widget)
 
 void move(const Place &place)
 {
-    if (QWindow *window = nativeWindow(place.window))
-        QTest::mouseMove(window, place.point);
+    static QPointer<QWindow> last;
+    QWindow *window = nativeWindow(place.window);
+    if (!window)
+        return;
+    // A display tells the window that the mouse leaves; without, a button in it would stay lit.
+    if (last && last != window) {
+        QEvent leave(QEvent::Leave);
+        QCoreApplication::sendEvent(last, &leave);
+    }
+    last = window;
+    QTest::mouseMove(window, place.point);
 }
 
 void press(const Place &place)

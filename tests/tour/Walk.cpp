@@ -291,6 +291,10 @@ void Walk::chooseInMenu(const QString &actionName)
 
 void Walk::closeMenu()
 {
+    m_pProgram->ask([]() {
+        if (QMenu *menu = windows::openMenu())
+            hand::move(hand::at(menu, QPoint(0, 0)));
+    });
     m_pProgram->act([]() { hand::key(windows::openMenu(), Qt::Key_Escape); });
     waitFor(QStringLiteral("the end of the menu"), []() { return windows::openMenu() == nullptr; });
 }

@@ -1,3 +1,4 @@
+#include <QDir>
 #include <QFile>
 #include <QImage>
 #include <QJsonArray>
@@ -17,6 +18,9 @@ class tst_Tour : public QObject
 private slots:
     void init();
     void walksEveryScreenOfEveryDisk();
+    void scansAndTestsDisks();
+    void savesReportAndScreenshot();
+    void recordsGraphs();
     void recordsWhatADiskShows_data();
     void recordsWhatADiskShows();
     void scalesWithTheDisplay();
@@ -26,10 +30,12 @@ private slots:
 
 private:
     QString path(const QString &name) const { return m_folder->filePath(name); }
-    void describePc(int dpi, bool pauses) const;
+    void describePc(int dpi, bool pauses,
+                    const QJsonObject &wishes = {{QStringLiteral("settings"), true}}) const;
     std::unique_ptr<QProcess> startTour(const QString &out, int limit = 30) const;
     int tour(const QString &out, int limit = 30) const;
     QJsonObject screens(const QString &out) const;
+    QJsonObject oneTour() const;
 
     std::unique_ptr<QTemporaryDir> m_folder;
 };
@@ -90,21 +96,25 @@ void tst_Tour::init()
     QVERIFY(m_folder->isValid());
 }
 
-void tst_Tour::describePc(int dpi, bool pauses) const
+void tst_Tour::describePc(int dpi, bool pauses, const QJsonObject &wishes) const
 {
     const QString smart = QStringLiteral(HALVANE_TEST_DATA) + QStringLiteral("/smart/");
     QVERIFY(
         QFile::copy(smart + QStringLiteral("ata-toshiba-mq01abd050.txt"), path(QStringLiteral("ata.txt"))));
     QVERIFY(
         QFile::copy(smart + QStringLiteral("nvme-swissbit-sfpc020.txt"), path(QStringLiteral("nvme.txt"))));
+    // A scan of the first takes two seconds, and so does its short self-test.
+    QJsonObject first = disk(FirstDisk, QStringLiteral("IDE"), 327680, QStringLiteral("ata.txt"));
+    first[QStringLiteral("bytesPerSecond")] = 80000000;
+    first[QStringLiteral("badSectors")] = QJsonArray{40000, 40001, 120000};
+    first[QStringLiteral("capabilities")] = QStringLiteral("ata.txt");
     const QJsonObject pc{
         {QStringLiteral("name"), QStringLiteral("Two disks")},
         {QStringLiteral("dpi"), dpi},
         {QStringLiteral("pauses"), pauses},
         {QStringLiteral("disks"),
-         QJsonArray{disk(FirstDisk, QStringLiteral("IDE"), 976773168, QStringLiteral("ata.txt")),
-                    disk(SecondDisk, QStringLiteral("SCSI"), 39091248, QStringLiteral("nvme.txt"))}},
-        {QStringLiteral("tour"), QJsonObject{{QStringLiteral("settings"), true}}}};
+         QJsonArray{first, disk(SecondDisk, QStringLiteral("SCSI"), 39091248, QStringLiteral("nvme.txt"))}},
+        {QStringLiteral("tour"), wishes}};
     QFile file(path(QStringLiteral("pc.json")));
     QVERIFY(file.open(QIODevice::WriteOnly));
     QVERIFY(file.write(QJsonDocument(pc).toJson()) > 0);
@@ -139,6 +149,18 @@ QJsonObject tst_Tour::screens(const QString &out) const
     return QJsonDocument::fromJson(file.readAll()).object();
 }
 
+/// What the tests see that only look: the data of a tour that the first of them takes.
+QJsonObject tst_Tour::oneTour() const
+{
+    static QJsonObject data;
+    if (data.isEmpty()) {
+        describePc(96, false);
+        if (tour(QStringLiteral("out")) == 0)
+            data = screens(QStringLiteral("out"));
+    }
+    return data;
+}
+
 void tst_Tour::walksEveryScreenOfEveryDisk()
 {
     describePc(96, false);
@@ -151,8 +173,9 @@ void tst_Tour::walksEveryScreenOfEveryDisk()
     QCOMPARE(data[QStringLiteral("failed")].toArray(), QJsonArray());
     QStringList expected{QStringLiteral("splash -1")};
     for (const int number : {FirstDisk, SecondDisk}) {
-        for (const char *step :
-             {"disk-status", "smart-status", "disk-partition", "scan-chooser", "clone-select"})
+        // The first row's graph, and those of two more.
+        for (const char *step : {"disk-status", "smart-status", "smart-status", "smart-status",
+                                 "disk-partition", "scan-chooser", "clone-select"})
             expected.append(QStringLiteral("%1 %2").arg(QLatin1String(step)).arg(number));
     }
     for (const char *step : {"menu", "more-tools", "settings", "dialog:CloseWgt"})
@@ -167,6 +190,84 @@ void tst_Tour::walksEveryScreenOfEveryDisk()
     QCOMPARE(steps.at(1).toObject()[QStringLiteral("picture")].toString(),
              QStringLiteral("02-disk-status-disk0.png"));
     QCOMPARE(QImage(path(QStringLiteral("out/02-disk-status-disk0.png"))).size(), QSize(905, 600));
+}
+
+void tst_Tour::scansAndTestsDisks()
+{
+    const QString shortTest = QStringLiteral("short");
+    describePc(96, false,
+               {{QStringLiteral("scan"), QJsonArray{FirstDisk}},
+                {QStringLiteral("selfTest"),
+                 QJsonArray{QJsonArray{FirstDisk, shortTest}, QJsonArray{SecondDisk, shortTest}}}});
+    QCOMPARE(tour(QStringLiteral("out")), 0);
+    const QJsonObject data = screens(QStringLiteral("out"));
+    const QStringList names = stepNames(data);
+    const QStringList expected{
+        QStringLiteral("scan-running 0"),           QStringLiteral("dialog:InfoDialogClass 0"),
+        QStringLiteral("scan-finished 0"),          QStringLiteral("dialog:ConfarmetionClass 0"),
+        QStringLiteral("dialog:InfoDialogClass 0"), QStringLiteral("scan-stopped 0"),
+        QStringLiteral("dialog:ScanSwitchClass 0"), QStringLiteral("self-test-running 0"),
+        QStringLiteral("self-test-finished 0"),     QStringLiteral("dialog:ConfarmetionClass 0"),
+        QStringLiteral("self-test-aborted 0"),      QStringLiteral("dialog:SelfTestNotSupported 3"),
+        QStringLiteral("dialog:CloseWgt 3")};
+    QCOMPARE(names.mid(names.indexOf(QStringLiteral("more-tools 3")) + 1), expected);
+
+    const auto map = [&data](const char *step) {
+        return stepOf(data, QLatin1String(step))[QStringLiteral("map")].toObject();
+    };
+    const QJsonObject running = map("scan-running 0");
+    QCOMPARE(running[QStringLiteral("total")].toInt(), 327680);
+    QVERIFY(running[QStringLiteral("position")].toInt() >= 327680 / 2);
+    QVERIFY(running[QStringLiteral("position")].toInt() < 327680);
+    QCOMPARE(running[QStringLiteral("badSectors")].toArray(), (QJsonArray{40000, 40001, 120000}));
+    const QJsonObject finished = stepOf(data, QStringLiteral("scan-finished 0"));
+    QCOMPARE(widgetOf(finished, QStringLiteral("BadBlkValLbl"))[QStringLiteral("text")].toString(),
+             QStringLiteral("3"));
+    QVERIFY(map("scan-stopped 0")[QStringLiteral("position")].toInt() < 327680);
+}
+
+void tst_Tour::savesReportAndScreenshot()
+{
+    describePc(96, false);
+    QVERIFY(QFile::remove(path(QStringLiteral("nvme.txt"))));
+    QFile empty(path(QStringLiteral("nvme.txt"))); // a drive without SMART
+    QVERIFY(empty.open(QIODevice::WriteOnly));
+    const QString old = path(QStringLiteral("out/report-disk3.pdf"));
+    QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("out")) && QFile::copy(empty.fileName(), old));
+
+    QCOMPARE(tour(QStringLiteral("out")), 0);
+    QFile report(path(QStringLiteral("out/report-disk0.pdf")));
+    QVERIFY(report.open(QIODevice::ReadOnly));
+    QVERIFY(report.readAll().startsWith("%PDF-"));
+    const QImage screenshot(path(QStringLiteral("out/screenshot-disk0.jpg")));
+    QVERIFY(!screenshot.isNull());
+    const QStringList names = stepNames(screens(QStringLiteral("out")));
+    QVERIFY2(names.filter(QStringLiteral("QFileDialog")).isEmpty(),
+             qPrintable(names.join(QLatin1Char('\n'))));
+
+    QCOMPARE(names.count(QStringLiteral("smart-status 3")), 1);
+    QVERIFY(!QFile::exists(old));
+    QVERIFY(!QFile::exists(path(QStringLiteral("out/screenshot-disk3.jpg"))));
+}
+
+void tst_Tour::recordsGraphs()
+{
+    QStringList titles;
+    const QJsonArray steps = oneTour()[QStringLiteral("steps")].toArray();
+    for (const QJsonValue &step : steps) {
+        const QJsonArray charts = step.toObject()[QStringLiteral("charts")].toArray();
+        for (const QJsonValue &chart : charts) {
+            titles.append(chart.toObject()[QStringLiteral("title")].toString());
+            const QJsonArray series = chart.toObject()[QStringLiteral("series")].toArray();
+            QVERIFY(!series.at(0).toObject()[QStringLiteral("points")].toArray().isEmpty());
+        }
+    }
+    QCOMPARE(titles,
+             (QStringList{QStringLiteral("Graph : Raw Read Error Rate"),
+                          QStringLiteral("Graph : Temperature Celsius"),
+                          QStringLiteral("Graph : Reallocated Sector Count"),
+                          QStringLiteral("Graph : Critical Warning"), QStringLiteral("Graph : Temperature"),
+                          QStringLiteral("Graph : Data Units Written")}));
 }
 
 void tst_Tour::recordsWhatADiskShows_data()
@@ -201,13 +302,7 @@ void tst_Tour::recordsWhatADiskShows_data()
 
 void tst_Tour::recordsWhatADiskShows()
 {
-    // All rows look at one tour.
-    static QJsonObject data;
-    if (data.isEmpty()) {
-        describePc(96, false);
-        QCOMPARE(tour(QStringLiteral("out")), 0);
-        data = screens(QStringLiteral("out"));
-    }
+    const QJsonObject data = oneTour();
     QFETCH(QString, step);
     QFETCH(QString, name);
     QFETCH(QString, text);
