@@ -54,7 +54,7 @@ SelfTestPanel::SelfTestPanel(QWidget *parent) : QWidget(parent)
     pagelook::styleHeadings({TestNameLbl});
     pagelook::styleNames({TestModelLbl, TestSerialLbl, TestBarLbl, TestStatusLbl, PollingTimeLbl,
                           TestRemainingLbl, TestElapsedLbl});
-    pagelook::styleValues({TestModelValLbl, TestSerialValLbl, TestPercentLbl, TestStatusValLbl,
+    pagelook::styleValues({TestModelValLbl, TestSerialValLbl, TestPercentValLbl, TestStatusValLbl,
                            PollingTimeValLbl, TestRemainingValLbl, TestElapsedValLbl});
     for (QLabel *identity : {TestModelValLbl, TestSerialValLbl})
         identity->setStyleSheet(style::BlackLabel);
@@ -111,7 +111,7 @@ void SelfTestPanel::SetDisk(const QString &model, const QString &serial)
 void SelfTestPanel::ShowProgress(bool shown)
 {
     TestProgressBar->setVisible(shown);
-    TestPercentLbl->setVisible(shown);
+    TestPercentValLbl->setVisible(shown);
 }
 
 void SelfTestPanel::ShowTimes(bool shown)
@@ -125,7 +125,7 @@ void SelfTestPanel::SetProgress(int percent)
     if (percent < 0 || percent > 100)
         return;
     TestProgressBar->setValue(percent);
-    TestPercentLbl->setText(QString::number(percent) + QLatin1Char('%'));
+    TestPercentValLbl->setText(QString::number(percent) + QLatin1Char('%'));
 }
 
 void SelfTestPanel::SetStatus(Status status)

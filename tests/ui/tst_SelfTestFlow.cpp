@@ -25,6 +25,7 @@ private slots:
     void refused();
     void extendedWithoutTime();
     void anyOtherEndGoesOn();
+    void notDuringARefresh();
 
 private:
     static QByteArray capabilities(const char *name)
@@ -56,9 +57,7 @@ void tst_SelfTestFlow::start(const char *radio)
 {
     press("ScanDiskButton");
     child<QRadioButton>(radio)->click();
-    m_pWindow->OnCheckRadioButton();
-    m_pWindow->OnStartShortSelfTest();
-    g_bTestPending = false;
+    child<QPushButton>("ScanButton")->click();
 }
 
 /// The four buttons that a running test locks.
@@ -203,6 +202,16 @@ void tst_SelfTestFlow::anyOtherEndGoesOn()
     QCOMPARE(text("TestStatusValLbl"), QString());
     QCOMPARE(text("TestElapsedValLbl"), QStringLiteral("00:00:02"));
     QVERIFY(shown("TestProgressBar") && !shown("StopTestButton"));
+}
+
+void tst_SelfTestFlow::notDuringARefresh()
+{
+    startOn(capabilities("caps-idle-72.txt"), QByteArray());
+    g_bListsLoading = true;
+    start("radioButton_2");
+    g_bListsLoading = false;
+    QCOMPARE(commands(" -t "), 0);
+    QVERIFY(shown("frame_2") && shown("ScanButton") && !g_bTestPending);
 }
 
 QTEST_MAIN(tst_SelfTestFlow)
