@@ -311,6 +311,8 @@ PcDescription readObject(const QJsonObject &object, const QString &folder, QStri
     pc.installed = in.texts(QStringLiteral("installed"));
     pc.settings = readSettings(in);
     pc.history = readHistory(in, folder);
+    pc.historyIsRecent = in.word(QStringLiteral("historyDays"), 0,
+                                 {QStringLiteral("as written"), QStringLiteral("recent")}) == 1;
     pc.tour = in.object(QStringLiteral("tour"));
     const JsonReader test = in.below(QStringLiteral("selfTest"));
     pc.secondsPerMinute = test.number(QStringLiteral("secondsPerMinute"), 1.0, 0.0, 3600.0);

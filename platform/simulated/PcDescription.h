@@ -64,7 +64,8 @@ struct PcDescription {
     QStringList installed; ///< programs that can be started
     QJsonObject settings;  ///< first values of the settings store
     double secondsPerMinute = 1.0;
-    QString history; ///< full path of the folder of history files; empty if there is none
+    QString history;              ///< full path of the folder of history files; empty if there is none
+    bool historyIsRecent = false; ///< its newest day becomes yesterday
     QJsonObject tour;
 
     /// Null if there is no such disk.

@@ -3,6 +3,7 @@
 #include "platform/HttpDownload.h"
 #include "platform/IoControl.h"
 #include "platform/JsonSettings.h"
+#include "platform/simulated/HistorySeed.h"
 #include "platform/simulated/StateFolder.h"
 
 #include <QCryptographicHash>
@@ -88,8 +89,8 @@ std::unique_ptr<SimulatedPlatform> SimulatedPlatform::open(const QString &folder
 SimulatedPlatform::SimulatedPlatform(simulated::PcDescription pc, const QString &stateFolder, bool ownsState,
                                      simulated::Clock clock)
     : m_pc(std::move(pc)), m_presence(m_pc), m_state(stateFolder), m_ownsState(ownsState),
-      m_devices(m_pc, m_presence, stateFolder + QLatin1String("/images")),
-      m_smartctl(m_pc, m_presence, stateFolder + QLatin1String("/self-tests.json"), std::move(clock)),
+      m_clock(std::move(clock)), m_devices(m_pc, m_presence, stateFolder + QLatin1String("/images")),
+      m_smartctl(m_pc, m_presence, stateFolder + QLatin1String("/self-tests.json"), m_clock),
       m_processes(m_pc.processes)
 {
     addTools();
@@ -253,10 +254,8 @@ QString SimulatedPlatform::HistoryFolder(const QString &)
     const QString folder = m_state + QLatin1String("/history");
     const QMutexLocker lock(&m_mutex);
     if (!QFileInfo::exists(folder)) {
-        QDir().mkpath(folder);
-        if (!m_pc.history.isEmpty()) {
-            simulated::copyFolder(m_pc.history, folder);
-        }
+        const QDate yesterday = QDateTime::fromMSecsSinceEpoch(m_clock()).date().addDays(-1);
+        simulated::seedHistory(m_pc.history, folder, m_pc.historyIsRecent ? yesterday : QDate());
     }
     return folder;
 }

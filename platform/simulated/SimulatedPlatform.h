@@ -90,6 +90,7 @@ private:
     simulated::Presence m_presence;
     const QString m_state;
     const bool m_ownsState;
+    const simulated::Clock m_clock;
     simulated::RawDevices m_devices;
     simulated::SimulatedSmartctl m_smartctl;
     tools::CommandInterpreter m_interpreter;
