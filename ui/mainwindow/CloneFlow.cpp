@@ -43,7 +43,7 @@ void MainWindow::OnCloneStart()
     m_pCloneWarning->SourceNameLbl->setText(tr("Source disk:     ") + m_askedPair.sourceText);
     m_pCloneWarning->DestinationNameLbl->setText(tr("Destination disk:    ") + m_askedPair.targetText);
     style::centreOn(m_pCloneWarning, geometry());
-    if (m_pCloneDiskPage->m_nDestinationIndex != 0)
+    if (m_pCloneDiskPage->m_nDestinationIndex > 0)
         m_pCloneWarning->show();
     else
         askForTarget();

@@ -1,0 +1,351 @@
+#include "clone/ThreadDriveClone.h"
+#include "tests/ui/WindowFixture.h"
+#include "ui/CloneDisk.h"
+#include "ui/CloneWarning.h"
+#include "ui/ConfarmetionClass.h"
+#include "ui/DestinitionWarning.h"
+#include "ui/InfoDialogClass.h"
+#include "ui/QRoundProgressBar.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QPushButton>
+#include <QRandomGenerator>
+
+namespace
+{
+
+constexpr int SourceSectors = 5 * 32768 + 100;
+
+/// Two disks of one size, slow enough to be looked at, and one of a sector less.
+const QByteArray Described = R"({"pauses": false, "settings": {"FirstTimeLaunch": 1}, "disks": [
+    {"number": 0, "model": "A", "interface": "IDE", "sectors": 163940, "bytesPerSecond": 200000000},
+    {"number": 1, "model": "B", "interface": "IDE", "sectors": 163940, "bytesPerSecond": 200000000},
+    {"number": 2, "model": "C", "interface": "IDE", "sectors": 163939}]})";
+
+QByteArray noise(int sectors, quint32 seed)
+{
+    QVector<quint32> words(sectors * 128);
+    QRandomGenerator(seed).fillRange(words.data(), words.size());
+    return QByteArray(reinterpret_cast<const char *>(words.constData()), words.size() * 4);
+}
+
+} // namespace
+
+/// A clone through the real window.
+class tst_CloneFlow : public QObject, private WindowFixture
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { setUpProgram(); }
+    void init();
+    void cleanup();
+
+    void copiesTheDisk();
+    void refuses_data();
+    void refuses();
+    void asksForATarget();
+    void asksAnewWhenTheChoiceHasGone_data();
+    void asksAnewWhenTheChoiceHasGone();
+    void stops();
+    void diskThatDoesNotOpen();
+    void startsAndStopsManyTimes();
+
+private:
+    void fill(int disk, int sectors) const;
+    static SimulatedPlatform &pc() { return dynamic_cast<SimulatedPlatform &>(Platform::current()); }
+    QByteArray image(int disk) const { return DescribedFolder::contents(pc().imageFile(disk)); }
+    void choose(int source, int target);
+    void start(int source, int target);
+    void waitForEnd();
+    bool shown(const char *name) const { return child<QWidget>(name)->isVisible(); }
+    bool selecting() const;
+    bool running() const;
+    bool locked() const;
+    QStringList boxTexts() const;
+    template<typename Dialog>
+    Dialog *dialog() const
+    {
+        const auto all = m_pWindow->findChildren<Dialog *>();
+        for (Dialog *candidate : all)
+            if (candidate->isVisible())
+                return candidate;
+        return nullptr;
+    }
+};
+
+void tst_CloneFlow::init()
+{
+    g_bAbortJob = false;
+    g_bCloneFailed = false;
+    startPc(Described);
+    makeWindow();
+    waitForRead();
+    press("CloneDiskButton");
+}
+
+void tst_CloneFlow::fill(int disk, int sectors) const
+{
+    QFile file(pc().imageFile(disk));
+    const QByteArray bytes = noise(sectors, 7U + static_cast<quint32>(disk));
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        qFatal("an image cannot be written");
+}
+
+void tst_CloneFlow::cleanup()
+{
+    g_bAbortJob = true;
+    QTRY_VERIFY_WITH_TIMEOUT(!m_pWindow->findChild<CloneDisk *>()->IsCloning(), 20000);
+    tearDown();
+}
+
+void tst_CloneFlow::choose(int source, int target)
+{
+    auto *from = child<QComboBox>("SourceComboBox");
+    from->setCurrentIndex(from->findData(128 + source));
+    auto *onto = child<QComboBox>("DestinationComboBox");
+    const int row = onto->findData(128 + target);
+    onto->setCurrentIndex(row);
+    emit onto->activated(row);
+}
+
+void tst_CloneFlow::start(int source, int target)
+{
+    choose(source, target);
+    child<QPushButton>("CloneButton")->click();
+    QVERIFY(dialog<CloneWarning>());
+    dialog<CloneWarning>()->StartButton->click();
+    QVERIFY(!dialog<CloneWarning>());
+}
+
+void tst_CloneFlow::waitForEnd()
+{
+    QTRY_VERIFY_WITH_TIMEOUT(!m_pWindow->findChild<CloneDisk *>()->IsCloning(), 20000);
+    QVERIFY(!g_bJobRunning);
+}
+
+bool tst_CloneFlow::selecting() const
+{
+    return shown("SourceComboBox") && shown("DestinationComboBox") && shown("ModelNLbl") &&
+           shown("TargetModelLbl") && !shown("ProgressLabel") && !shown("TimeLabel") &&
+           !shown("TimeLabel2") && !shown("TimeSpaceLbl");
+}
+
+bool tst_CloneFlow::running() const
+{
+    return !shown("SourceComboBox") && !shown("DestinationComboBox") && !shown("ModelNLbl") &&
+           !shown("TargetModelLbl") && shown("m_pRoundProgressBar") && shown("TimeLabel2");
+}
+
+/// As a running clone leaves the shell.
+bool tst_CloneFlow::locked() const
+{
+    for (const char *name : {"DiskStatusButton", "SmartStatusButton", "DiskPartitionButton", "ScanDiskButton",
+                             "CloneDiskButton"})
+        if (child<MyButton>(name)->isEnabled())
+            return false;
+    return child<MyButton>("CloneDiskButton")->isDown() && !child<QComboBox>("DriveCombobox")->isEnabled() &&
+           !child<QAction>("m_pSettingsAction")->isEnabled() && shown("StopButton") && !shown("CloneButton");
+}
+
+QStringList tst_CloneFlow::boxTexts() const
+{
+    const auto *box = dialog<InfoDialogClass>();
+    return box ? QStringList{box->HeaderLabel->text(), box->label->text(), box->label_2->text()}
+               : QStringList();
+}
+
+void tst_CloneFlow::copiesTheDisk()
+{
+    fill(0, SourceSectors);
+    fill(2, SourceSectors - 1);
+    const QByteArray bystander = image(2);
+    choose(0, 1);
+    child<QPushButton>("CloneButton")->click();
+    auto *warning = dialog<CloneWarning>();
+    QVERIFY(warning);
+    QCOMPARE(warning->SourceNameLbl->text(),
+             "Source disk:     " + child<QComboBox>("SourceComboBox")->currentText());
+    QCOMPARE(warning->DestinationNameLbl->text(),
+             "Destination disk:    " + child<QComboBox>("DestinationComboBox")->currentText());
+    warning->CancelButton->click();
+    QVERIFY(!warning->isVisible() && selecting());
+    QCOMPARE(commands("diskpart"), 0);
+
+    QSignalSpy progress(m_pWindow->findChild<CloneDisk *>(), &CloneDisk::OnCloneFinish);
+    start(0, 1);
+    QVERIFY(locked() && running());
+    auto *gauge = child<QRoundProgressBar>("m_pRoundProgressBar");
+    QCOMPARE(gauge->Text(), QStringLiteral("0%\nComplete"));
+    QCOMPARE(text("TimeLabel"), QString());
+
+    // Nothing ends or disturbs it.
+    m_pWindow->OnClose();
+    QCOMPARE(dialog<DestinitionWarning>()->WarningTxtLbl->text(), QStringLiteral("Cloning process running."));
+    m_pWindow->Onyes();
+    QCOMPARE(dialog<DestinitionWarning>()->WarningTxtLbl->text(), QStringLiteral("Clone Running."));
+    dialog<DestinitionWarning>()->CloseButton->click();
+    m_pWindow->OnRefresh();
+    QVERIFY(!g_bListsLoading && !shown("GifFrame"));
+    m_pWindow->RefreshSelectedDisk();
+    QVERIFY(!shown("CloneButton"));
+
+    QTRY_COMPARE_WITH_TIMEOUT(gauge->Text(), QStringLiteral("59%\nComplete"), 20000);
+    QCOMPARE(text("TimeLabel"), QStringLiteral("1 minutes"));
+    waitForEnd();
+    QCOMPARE(progress.count(), 1);
+    QCOMPARE(boxTexts(), (QStringList{"Clone Disk", "Disk Cloning complete.",
+                                      "Disk cloning process completed successfully."}));
+    QVERIFY(running() && shown("CloneButton") && !shown("StopButton"));
+    QCOMPARE(gauge->Text(), QStringLiteral("100%\nComplete"));
+    QCOMPARE(text("TimeLabel"), QString());
+    QVERIFY(image(1) == image(0));
+    QVERIFY(image(2) == bystander);
+    dialog<InfoDialogClass>()->OkButton->click();
+    QVERIFY(selecting() && !dialog<InfoDialogClass>());
+    QVERIFY(child<MyButton>("DiskStatusButton")->isEnabled() && child<MyButton>("CloneDiskButton")->isDown());
+    QVERIFY(child<QComboBox>("DriveCombobox")->isEnabled() &&
+            child<QAction>("m_pSettingsAction")->isEnabled());
+}
+
+void tst_CloneFlow::refuses_data()
+{
+    QTest::addColumn<int>("target");
+    QTest::addColumn<int>("sourceAtTheEnd");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("a sector too small") << 2 << 0 << "Destination disk size is smaller than source disk.";
+    QTest::newRow("source became the target") << 1 << 1 << "Source and destination disks are same.";
+}
+
+void tst_CloneFlow::refuses()
+{
+    QFETCH(int, target);
+    QFETCH(int, sourceAtTheEnd);
+    QFETCH(QString, reason);
+    choose(0, target);
+    child<QPushButton>("CloneButton")->click();
+    // The question leaves the page usable.
+    auto *from = child<QComboBox>("SourceComboBox");
+    from->setCurrentIndex(from->findData(128 + sourceAtTheEnd));
+    dialog<CloneWarning>()->StartButton->click();
+    QCOMPARE(boxTexts(), (QStringList{"Clone Disk", reason, "Select different destination disk."}));
+    QVERIFY(!locked() && shown("SourceComboBox") && shown("CloneButton"));
+    QVERIFY(child<QAction>("m_pSettingsAction")->isEnabled());
+    dialog<InfoDialogClass>()->OkButton->click();
+    QVERIFY(selecting());
+    QCOMPARE(commands("diskpart"), 0);
+}
+
+void tst_CloneFlow::asksForATarget()
+{
+    child<QPushButton>("CloneButton")->click();
+    QVERIFY(!dialog<CloneWarning>());
+    QCOMPARE(dialog<DestinitionWarning>()->WarningTxtLbl->text(), QStringLiteral("Select target disk."));
+    dialog<DestinitionWarning>()->CloseButton->click();
+    QVERIFY(!dialog<DestinitionWarning>());
+    // A press that comes out of nowhere starts nothing, either.
+    m_pWindow->OnCloningStart();
+    QVERIFY(!locked() && dialog<DestinitionWarning>());
+    QCOMPARE(commands("diskpart"), 0);
+}
+
+void tst_CloneFlow::asksAnewWhenTheChoiceHasGone_data()
+{
+    QTest::addColumn<bool>("refresh");
+    QTest::newRow("another source") << false;
+    QTest::newRow("new lists") << true;
+}
+
+/// The question named two disks that are not chosen any more.
+void tst_CloneFlow::asksAnewWhenTheChoiceHasGone()
+{
+    QFETCH(bool, refresh);
+    choose(0, 1);
+    child<QPushButton>("CloneButton")->click();
+    auto *warning = dialog<CloneWarning>();
+    if (refresh) {
+        m_pWindow->OnRefresh();
+        QVERIFY(!warning->isVisible());
+        warning->StartButton->click(); // while the lists are rebuilt
+        QVERIFY(!locked());
+        QTRY_VERIFY_WITH_TIMEOUT(!g_bListsLoading, 10000);
+    } else {
+        auto *from = child<QComboBox>("SourceComboBox");
+        from->setCurrentIndex(from->findData(128 + 2));
+    }
+    warning->StartButton->click();
+    QVERIFY(!locked() && dialog<DestinitionWarning>());
+    QCOMPARE(commands("diskpart"), 0);
+}
+
+void tst_CloneFlow::stops()
+{
+    start(0, 1);
+    child<QPushButton>("StopButton")->click();
+    auto *question = dialog<ConfarmetionClass>();
+    QCOMPARE(question->CenterTitleLabel->text(), QStringLiteral("Stop Clone"));
+    question->NoButton->click();
+    QVERIFY(!question->isVisible() && !g_bAbortJob);
+    child<QPushButton>("StopButton")->click();
+    QTRY_VERIFY_WITH_TIMEOUT(commands("diskpart") == 3, 10000); // prepared
+    QTest::qWait(50);
+    question->YesButton->click();
+    // It goes on until the disk is back in the system, and the lists stay for as long.
+    m_pWindow->OnRefresh();
+    m_pWindow->Onyes();
+    QVERIFY(locked() && !g_bListsLoading);
+    QCOMPARE(dialog<DestinitionWarning>()->WarningTxtLbl->text(), QStringLiteral("Clone Running."));
+    waitForEnd();
+    QCOMPARE(commands("diskpart"), 5);
+    QCOMPARE(boxTexts(),
+             (QStringList{"Clone Disk", "Cloning aborted.", "Cloning process aborted by the user."}));
+    dialog<InfoDialogClass>()->OkButton->click();
+    QVERIFY(selecting() && !shown("StopButton") && shown("CloneButton"));
+}
+
+void tst_CloneFlow::diskThatDoesNotOpen()
+{
+    QSignalSpy failed(m_pWindow->findChild<CloneDisk *>(), &CloneDisk::CloningProcesFailed);
+    choose(0, 1);
+    QVERIFY(pc().deviceNotifier()); // watches what is pulled out
+    QFile unplugged(m_strState + QStringLiteral("/volumes-changed/remove-disk1"));
+    QVERIFY(unplugged.open(QIODevice::WriteOnly));
+    QTRY_VERIFY(!unplugged.exists());
+    start(0, 1);
+    waitForEnd();
+    QCOMPARE(failed.count(), 1);
+    QCOMPARE(boxTexts(),
+             (QStringList{"Clone Disk", "Cloning aborted.", "Cloning process aborted by the user."}));
+    QVERIFY(child<QComboBox>("DriveCombobox")->isEnabled());
+    dialog<InfoDialogClass>()->OkButton->click();
+    QVERIFY(selecting());
+
+    // From now on every clone ends so.
+    start(0, 1);
+    waitForEnd();
+    QCOMPARE(boxTexts().at(1), QStringLiteral("Cloning aborted."));
+}
+
+void tst_CloneFlow::startsAndStopsManyTimes()
+{
+    bool enough = false;
+    const int rounds = qEnvironmentVariableIntValue("HALVANE_CLONE_ROUNDS", &enough);
+    for (int round = 0; round < (enough ? rounds : 3); ++round) {
+        start(0, 1);
+        QVERIFY(locked());
+        QTest::qWait(round * 7 % 60);
+        m_pWindow->OnStop();
+        m_pWindow->OnStopConfirm();
+        m_pWindow->OnRefresh();
+        waitForEnd();
+        QCOMPARE(boxTexts().at(1), QStringLiteral("Cloning aborted."));
+        dialog<InfoDialogClass>()->OkButton->click();
+        QVERIFY(selecting());
+        m_pWindow->OnRefresh();
+        QTRY_VERIFY_WITH_TIMEOUT(!g_bListsLoading && !shown("GifFrame"), 10000);
+    }
+}
+
+QTEST_MAIN(tst_CloneFlow)
+#include "tst_CloneFlow.moc"
