@@ -175,7 +175,10 @@ void MainWindow::initializeSmartStatus()
     LookUpDisk(DriveCombobox->currentIndex());
     const DiskNode *node = g_App.m_pCurrentDisk;
     const WmicDiskRecord *record = node ? findWmicDisk(node->nId) : nullptr;
-    g_bSmartAvailable = GetDiskTemperature() != 0;
+    const int celsius = GetDiskTemperature();
+    // The report that may be saved from here tells it.
+    g_strTemperatureText = loadTemperatureText(celsius, SettingsStore().text(key::TempValue));
+    g_bSmartAvailable = celsius != 0;
     m_pSmartStatusPage->m_pChartView->setVisible(g_bSmartAvailable);
     showResult(m_pSmartStatusPage->SmartResultLabel,
                g_bSmartAvailable ? OverallResult::Passed : OverallResult::NotSupported);
