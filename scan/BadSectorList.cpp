@@ -2,7 +2,7 @@
 
 void BadSectorList::append(qint64 sector)
 {
-    const QMutexLocker lock(&m_writing);
+    const std::lock_guard lock(m_writing);
     const qint64 length = m_lastRun ? m_lastRun->count.load(std::memory_order_relaxed) : 0;
     if (m_lastRun && sector == m_lastRun->first + length) {
         m_lastRun->count.store(length + 1, std::memory_order_release);
@@ -29,8 +29,7 @@ BadSectorList::Run *BadSectorList::nextRun()
 
 void BadSectorList::clear()
 {
-    const QMutexLocker walking(&m_walking);
-    const QMutexLocker writing(&m_writing);
+    const std::scoped_lock lock(m_walking, m_writing);
     m_runs.store(0, std::memory_order_release);
     m_sectors.store(0, std::memory_order_release);
     m_lastRun = nullptr;

@@ -1,12 +1,11 @@
 #pragma once
 
-#include <QMutex>
-#include <QMutexLocker>
 #include <QVector>
 
 #include <array>
 #include <atomic>
 #include <memory>
+#include <mutex>
 
 /// The bad sectors of a scan in the order of finding, a sector as often as it was found. Neighbours found one
 /// after the other are kept as one run, so that a disk that has gone costs little memory and little painting.
@@ -36,7 +35,7 @@ public:
     template<typename Visitor>
     void forEachRun(Visitor visit) const
     {
-        const QMutexLocker lock(&m_walking);
+        const std::lock_guard lock(m_walking);
         qint64 left = m_runs.load(std::memory_order_acquire);
         for (const Block *block = left > 0 ? m_head.get() : nullptr; block; block = block->next.get()) {
             for (std::size_t i = 0; i < RunsPerBlock && left > 0; ++i, --left)
@@ -63,8 +62,8 @@ private:
 
     Run *nextRun();
 
-    mutable QMutex m_walking; ///< held by a walk: the blocks stay
-    QMutex m_writing;         ///< held by who appends or empties
+    mutable std::mutex m_walking; ///< held by a walk: the blocks stay
+    std::mutex m_writing;         ///< held by who appends or empties
     std::unique_ptr<Block> m_head;
     Block *m_tail = nullptr;
     Run *m_lastRun = nullptr;

@@ -436,6 +436,7 @@ void tst_QScanDriveThread::startsAndStopsUnderAReader()
                 ++length;
             });
             longest = std::max(longest.load(), length);
+            QThread::usleep(100); // a lock has no queue: who empties the list has to get in between
         }
     }));
     reader->start();
@@ -444,7 +445,8 @@ void tst_QScanDriveThread::startsAndStopsUnderAReader()
     for (int run = 0; run < 100; ++run) {
         g_bAbortJob = false;
         thread.StartScan(nullptr, 3);
-        QThread::usleep(static_cast<unsigned long>(run % 10) * 300);
+        while (thread.isRunning() && (longest == 0 || g_BadSectors.count() < run * 20))
+            QThread::yieldCurrentThread();
         g_bAbortJob = true;
         QVERIFY(thread.wait(30000));
         if (run % 2 == 0)
