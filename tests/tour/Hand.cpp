@@ -19,6 +19,22 @@ QWindow *nativeWindow(QWidget *widget)
     return widget->windowHandle();
 }
 
+/// A display tells a window that the mouse goes to another one. Here nothing does, and a button would stay
+/// lit.
+void leave(QWidget *window)
+{
+    QList<QWidget *> all = window->findChildren<QWidget *>();
+    all.append(window);
+    for (QWidget *widget : qAsConst(all)) {
+        if (!widget->underMouse())
+            continue;
+        QEvent event(QEvent::Leave);
+        widget->setAttribute(Qt::WA_UnderMouse, false);
+        QCoreApplication::sendEvent(widget, &event);
+        widget->update();
+    }
+}
+
 } // namespace
 
 namespace hand
@@ -36,16 +52,13 @@ Place middleOf(QWidget *widget)
 
 void move(const Place &place)
 {
-    static QPointer<QWindow> last;
+    static QPointer<QWidget> last;
     QWindow *window = nativeWindow(place.window);
     if (!window)
         return;
-    // A display tells the window that the mouse leaves; without, a button in it would stay lit.
-    if (last && last != window) {
-        QEvent leave(QEvent::Leave);
-        QCoreApplication::sendEvent(last, &leave);
-    }
-    last = window;
+    if (last && last != place.window)
+        leave(last);
+    last = place.window;
     QTest::mouseMove(window, place.point);
 }
 
