@@ -4,6 +4,7 @@
 #include "tests/support/WatchedPlatform.h"
 
 #include <QElapsedTimer>
+#include <QTemporaryFile>
 #include <QtTest>
 
 #include <atomic>
@@ -22,6 +23,18 @@ QByteArray describe(const QByteArray &more, qint64 sectors, int number)
 {
     return "{\"number\":" + QByteArray::number(number) +
            ",\"media\":\"fixed\",\"sectors\":" + QByteArray::number(sectors) + more + "}";
+}
+
+/// With this machine's own line ends.
+QByteArray asText(const char *lines)
+{
+    QTemporaryFile file;
+    if (!file.open())
+        qFatal("a test file cannot be made");
+    file.setTextModeEnabled(true);
+    file.write(lines);
+    file.close();
+    return readFile(file.fileName());
 }
 
 } // namespace
@@ -205,13 +218,11 @@ void tst_ThreadDriveClone::scripts()
     CloneDisks disks(Source, Sectors, Destination);
     runClone(disks);
 
-    QVector<QByteArray> wanted{"SELECT DISK 2\nonline disk\nEXIT", "SELECT DISK 2\nclean\nEXIT",
+    QVector<QByteArray> wanted;
+    for (const char *script : {"SELECT DISK 2\nonline disk\nEXIT", "SELECT DISK 2\nclean\nEXIT",
                                "SELECT DISK 2\nconvert MBR\ncreate partition primary\nEXIT",
-                               "SELECT DISK 2\nONLINE disk\nRESCAN\nEXIT", "SELECT DISK 2\nRESCAN\nEXIT"};
-#ifdef _WIN32
-    for (QByteArray &script : wanted)
-        script.replace("\n", "\r\n");
-#endif
+                               "SELECT DISK 2\nONLINE disk\nRESCAN\nEXIT", "SELECT DISK 2\nRESCAN\nEXIT"})
+        wanted << asText(script);
     QCOMPARE(found, wanted);
     QVERIFY(!QFile::exists(file));
     const QByteArray line = "CMD.EXE /c C:\\Windows\\system32\\diskpart.exe /s " +
