@@ -43,6 +43,10 @@ private:
 
     void startOn(int index);
     void waitForResult() const { QTRY_VERIFY_WITH_TIMEOUT(result()->isVisible(), 20000); }
+    void waitForSector(qint64 sector) const
+    {
+        QTRY_VERIFY_WITH_TIMEOUT(text("ProcessedVal").toLongLong() >= sector, 10000);
+    }
     void closeResult() const
     {
         result()->OkButton->click();
@@ -176,12 +180,12 @@ void tst_ScanFlow::paintsItsCells()
 void tst_ScanFlow::stopped()
 {
     startOn(1);
-    QTRY_COMPARE_WITH_TIMEOUT(text("ProcessedVal"), QStringLiteral("32768"), 5000);
+    waitForSector(32768);
     child<QPushButton>("StopButton")->click();
     auto *question = m_pWindow->findChild<ConfarmetionClass *>();
     QCOMPARE(question->CenterTitleLabel->text(), QStringLiteral("Stop Scan"));
     question->NoButton->click();
-    QTRY_COMPARE_WITH_TIMEOUT(text("ProcessedVal"), QStringLiteral("65536"), 5000);
+    waitForSector(text("ProcessedVal").toLongLong() + 32768);
     QVERIFY(scanning());
     QTRY_VERIFY_WITH_TIMEOUT(text("ElapsedValLbl").endsWith(QLatin1String(" seconds")), 5000);
     QVERIFY(text("RemTimeValLbl").endsWith(QLatin1String(" minutes")));
@@ -208,6 +212,7 @@ void tst_ScanFlow::leftInMidRun_data()
 void tst_ScanFlow::leftInMidRun()
 {
     QFETCH(QByteArray, button);
+    QFETCH(bool, onPage);
     startOn(1);
     press(button.constData());
     auto *question = m_pWindow->findChild<ScanSwitchClass *>();
@@ -217,11 +222,14 @@ void tst_ScanFlow::leftInMidRun()
     press(button.constData());
     question->YesButton->click();
     QVERIFY(!shown("StopButton"));
+    select(0);
     waitForResult();
+    QCOMPARE(g_App.m_pCurrentDisk, findPhysicalDisk(128));
+    QCOMPARE(text("TotalBlkValLbl"), QString::number(onPage ? QuickSectors : SlowSectors));
     QVERIFY(resultTexts().startsWith(QLatin1String("Disk Scan|")));
     QVERIFY(idle() && !g_bScanResultOpen && g_BadSectors.isEmpty());
     QVERIFY(child<MyButton>(button.constData())->isDown());
-    QTEST(page()->isVisible(), "onPage");
+    QCOMPARE(page()->isVisible(), onPage);
     QVERIFY(!shown("BackTestButton") && !shown("frame"));
 }
 
@@ -314,7 +322,7 @@ void tst_ScanFlow::overAndOver()
 {
     press("ScanDiskButton");
     select(1);
-    for (int round = 0; round < 40; ++round) {
+    for (int round = 0; round < 24; ++round) {
         child<QPushButton>("ScanButton")->click();
         QVERIFY(scanning());
         QTest::qWait(round * 7 % 60);

@@ -7,6 +7,7 @@
 #include "inventory/WmicInventory.h"
 #include "ui/CloneDisk.h"
 #include "ui/CloneWarning.h"
+#include "ui/ScanDisk.h"
 
 void MainWindow::FillDriveCombos()
 {
@@ -38,6 +39,9 @@ void MainWindow::FillDriveCombos()
 
 void MainWindow::LookUpDisk(int comboIndex)
 {
+    // The thread of a scan takes the current disk by itself. Who has left the scan gets his own at its end.
+    if (m_pScanDiskPage->IsScanning())
+        return;
     g_App.m_pCurrentDisk = nullptr;
     const auto entry = m_hashComboToDisk.constFind(comboIndex);
     if (entry == m_hashComboToDisk.constEnd())
@@ -93,8 +97,8 @@ void MainWindow::refreshClonePage()
 
 void MainWindow::OnRefresh()
 {
-    // A clone holds nodes of the lists until its thread is at rest, also before and behind that flag.
-    if (g_bJobRunning || m_pCloneDiskPage->IsCloning())
+    // A job holds nodes of the lists until its thread is at rest, also before and behind that flag.
+    if (g_bJobRunning || m_pCloneDiskPage->IsCloning() || m_pScanDiskPage->IsScanning())
         return;
     m_bRefreshing = true;
     // The disks that it names may be others in the new lists.

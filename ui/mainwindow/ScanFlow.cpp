@@ -78,9 +78,12 @@ void MainWindow::OnFinishScanDisk()
     StopButton->hide();
     ScanButton->setEnabled(true);
     DriveCombobox->setEnabled(true);
-    // Somebody who has left the page meanwhile stays where he is.
-    if (!g_bScanResultOpen)
+    // Somebody who has left the scan meanwhile stays where he is.
+    if (!g_bScanResultOpen) {
+        if (!g_App.m_pCurrentDisk || g_App.m_pCurrentDisk->nId != DriveCombobox->currentData().toInt())
+            RefreshSelectedDisk();
         return;
+    }
     ScanButton->show();
     BackTestButton->show();
     selectButton(navigation::ScanDiskScreen);
