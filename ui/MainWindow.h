@@ -301,7 +301,7 @@ private:
     std::array<bool, navigation::ScreenCount> m_abSwitchTarget{};
     /// Serial number under which the attribute tree was filled last; none since a read was asked for.
     std::optional<QString> m_tableSerial;
-    ClonePair m_askedPair; ///< named in the question before a clone
+    ClonePair m_askedPair;              ///< named in the question before a clone
     QHash<int, int> m_hashComboToDisk;  ///< combo index to DiskNode::nId
     QList<QAction *> m_listHeldEntries; ///< menu entries that a scan made grey
     QMovie *m_pMovie = nullptr;
