@@ -47,6 +47,7 @@ CloneDisk::CloneDisk(QWidget *parent) : QWidget(parent)
     m_pRoundProgressBar->setObjectName(QStringLiteral("m_pRoundProgressBar"));
     m_pRoundProgressBar->setGeometry(0, 0, GaugeSide, GaugeSide);
     style::scaleWidget(m_pRoundProgressBar);
+    style::setWhiteBackground(m_pRoundProgressBar);
     m_pRoundProgressBar->SetDecimals(0);
     m_pMessageBox = new InfoDialogClass(this);
     stylePage();

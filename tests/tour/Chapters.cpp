@@ -8,6 +8,7 @@ const std::vector<Chapter> &chapters()
         {QStringLiteral("menus"), menuSteps},
         {QStringLiteral("scan"), scanSteps, true},
         {QStringLiteral("selfTest"), selfTestSteps, true},
+        {QStringLiteral("clone"), cloneSteps, true},
         {QStringLiteral("settings"), settingsSteps, true},
         {QStringLiteral("close"), closeSteps},
     };

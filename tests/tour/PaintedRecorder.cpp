@@ -30,6 +30,11 @@ QJsonValue blockMap(const QWidget *view)
                        {QStringLiteral("badSectors"), numbers(view->property("badSectors"))}};
 }
 
+QJsonValue gauge(const QWidget *view)
+{
+    return view->property("value").toDouble();
+}
+
 struct View {
     const char *className;
     const char *property; ///< the one without which it cannot be read
@@ -40,6 +45,7 @@ struct View {
 const View views[] = {
     {"DonutChartView", "sliceValues", "donut", donut},
     {"QGridView", "totalSectors", "map", blockMap},
+    {"QRoundProgressBar", "value", "gauge", gauge},
 };
 
 } // namespace

@@ -32,6 +32,7 @@ StepList menuSteps(Walk &walk);
 StepList settingsSteps(Walk &walk);
 StepList scanSteps(Walk &walk);
 StepList selfTestSteps(Walk &walk);
+StepList cloneSteps(Walk &walk);
 StepList closeSteps(Walk &walk);
 /// @}
 

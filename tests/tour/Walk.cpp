@@ -24,6 +24,7 @@ constexpr int PollInterval = 25;     ///< ms
 constexpr int SettleTime = 300;      ///< ms that the program must be idle before the next press
 constexpr int DialogPatience = 3000; ///< ms that a dialog may take to go
 const QString MainWindowClass = QStringLiteral("MainWindow");
+const QString DriveCombo = QStringLiteral("DriveCombobox");
 const QString SwitchQuestionClass = QStringLiteral("ScanSwitchClass");
 const QString FileDialogClass = QStringLiteral("QFileDialog");
 
@@ -218,38 +219,51 @@ int Walk::driveCount()
     });
 }
 
-void Walk::selectDrive(int index)
+void Walk::chooseItem(const QString &comboName, int index)
 {
-    const auto drives = []() { return windows::combo(mainWindow(), QStringLiteral("DriveCombobox")); };
-    click(QStringLiteral("DriveCombobox"), [drives]() {
-        QComboBox *combo = drives();
+    const auto find = [comboName]() { return windows::combo(mainWindow(), comboName); };
+    click(comboName, [find]() {
+        QComboBox *combo = find();
         return combo && combo->isVisible() && combo->isEnabled() ? hand::middleOf(combo) : hand::Place();
     });
-    waitFor(QStringLiteral("the list of drives"),
-            [drives]() { return drives() && drives()->view()->isVisible(); });
+    waitFor(QStringLiteral("the list of ") + comboName,
+            [find]() { return find() && find()->view()->isVisible(); });
     // A release soon after the press that opened the list counts as the end of that press.
     m_pProgram->pause(m_pProgram->ask([]() { return QApplication::doubleClickInterval(); }) + PollInterval);
-    click(QStringLiteral("drive %1").arg(index), [drives, index]() {
-        QComboBox *combo = drives();
+    const QString item = QStringLiteral("item %1 of %2").arg(index).arg(comboName);
+    click(item, [find, index]() {
+        QComboBox *combo = find();
         if (!combo || index >= combo->count())
             return hand::Place();
         QAbstractItemView *view = combo->view();
-        const QModelIndex item = combo->model()->index(index, combo->modelColumn(), combo->rootModelIndex());
-        view->scrollTo(item);
-        return hand::at(view->viewport(), view->visualRect(item).center());
+        const QModelIndex row = combo->model()->index(index, combo->modelColumn(), combo->rootModelIndex());
+        view->scrollTo(row);
+        return hand::at(view->viewport(), view->visualRect(row).center());
     });
-    waitFor(QStringLiteral("the choice of drive %1").arg(index), [drives, index]() {
-        return drives() && !drives()->view()->isVisible() && drives()->currentIndex() == index;
+    waitFor(QStringLiteral("the choice of ") + item, [find, index]() {
+        return find() && !find()->view()->isVisible() && find()->currentIndex() == index;
     });
+}
+
+void Walk::chooseDisk(const QString &comboName, int number)
+{
+    const int index =
+        m_pProgram->ask([comboName, number]() { return windows::diskIndex(comboName, number); });
+    if (index < 0)
+        throw StepFailed(QStringLiteral("%1 has no disk %2").arg(comboName).arg(number));
+    chooseItem(comboName, index);
+}
+
+void Walk::selectDrive(int index)
+{
+    chooseItem(DriveCombo, index);
     waitIdle();
 }
 
 void Walk::selectDisk(int number)
 {
-    const int index = m_pProgram->ask([number]() { return windows::driveIndex(number); });
-    if (index < 0)
-        throw StepFailed(QStringLiteral("the list of drives has no disk %1").arg(number));
-    selectDrive(index);
+    chooseDisk(DriveCombo, number);
+    waitIdle();
 }
 
 void Walk::clickRow(const QString &treeName, int row)

@@ -55,6 +55,10 @@ public:
     void selectDrive(int index);
     /// The same by the physical number of the disk.
     void selectDisk(int number);
+    /// Chooses an item of a combo of the main window with the mouse.
+    void chooseItem(const QString &comboName, int index);
+    /// The same by the physical number of the disk that the item stands for.
+    void chooseDisk(const QString &comboName, int number);
     /// Clicks a row of a tree after scrolling to it.
     void clickRow(const QString &treeName, int row);
     /// Opens the menu of a button of the main window.

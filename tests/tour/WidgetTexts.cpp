@@ -42,6 +42,7 @@ const Kind kinds[] = {
     {"QComboBox", [](const QWidget *w) { return as<QComboBox>(w)->currentText(); }},
     {"QGroupBox", [](const QWidget *w) { return as<QGroupBox>(w)->title(); }},
     {"QProgressBar", [](const QWidget *w) { return as<QProgressBar>(w)->text(); }},
+    {"QRoundProgressBar", [](const QWidget *w) { return w->property("text").toString(); }},
 };
 
 const Kind *kindOf(const QWidget *widget)

@@ -112,10 +112,10 @@ QVector<QWidget *> dialogs()
     return found;
 }
 
-int driveIndex(int disk)
+int diskIndex(const QString &comboName, int disk)
 {
-    const QComboBox *drives = driveCombo();
-    return drives ? drives->findData(disk + DiskIdBase) : -1;
+    const QComboBox *disks = combo(byClass(QStringLiteral("MainWindow")), comboName);
+    return disks ? disks->findData(disk + DiskIdBase) : -1;
 }
 
 int selectedDisk()

@@ -36,8 +36,8 @@ QAction *action(const QMenu *menu, const QString &name);
 /// Whatever is open beside the main window, the splash, menus and tool tips.
 QVector<QWidget *> dialogs();
 
-/// Where the drive combo lists the disk of that physical number; -1 if it does not.
-int driveIndex(int disk);
+/// Where a combo of the main window lists the disk of that physical number; -1 if it does not.
+int diskIndex(const QString &comboName, int disk);
 
 /// Physical number of the disk that the drive combo selects; -1 if none.
 int selectedDisk();

@@ -19,6 +19,7 @@ private slots:
     void init();
     void walksEveryScreenOfEveryDisk();
     void scansAndTestsDisks();
+    void clonesADisk();
     void savesReportAndScreenshot();
     void recordsGraphs();
     void recordsWhatADiskShows_data();
@@ -224,6 +225,32 @@ void tst_Tour::scansAndTestsDisks()
     QCOMPARE(widgetOf(finished, QStringLiteral("BadBlkValLbl"))[QStringLiteral("text")].toString(),
              QStringLiteral("3"));
     QVERIFY(map("scan-stopped 0")[QStringLiteral("position")].toInt() < 327680);
+}
+
+void tst_Tour::clonesADisk()
+{
+    describePc(96, false, {{QStringLiteral("clone"), QJsonArray{QJsonArray{FirstDisk, SecondDisk}}}});
+    QCOMPARE(tour(QStringLiteral("out")), 0);
+    const QJsonObject data = screens(QStringLiteral("out"));
+    QStringList names = stepNames(data);
+    names = names.mid(names.indexOf(QStringLiteral("more-tools 3")) + 1);
+    QVERIFY(names.removeAll(QStringLiteral("clone-running 0")) > 1);
+    QCOMPARE(names,
+             (QStringList{QStringLiteral("dialog:DestinitionWarning 0"),
+                          QStringLiteral("dialog:CloneWarning 3"), // same disk
+                          QStringLiteral("dialog:InfoDialogClass 3"),
+                          QStringLiteral("dialog:CloneWarning 3"), // too small
+                          QStringLiteral("dialog:InfoDialogClass 3"), QStringLiteral("clone-select 0"),
+                          QStringLiteral("clone-finished 0"), QStringLiteral("dialog:InfoDialogClass 0"),
+                          QStringLiteral("clone-select 0"), QStringLiteral("dialog:ConfarmetionClass 0"),
+                          QStringLiteral("clone-stopped 0"), QStringLiteral("dialog:InfoDialogClass 0"),
+                          QStringLiteral("dialog:CloseWgt 0")}));
+    const QJsonObject finished = stepOf(data, QStringLiteral("clone-finished 0"));
+    QCOMPARE(finished[QStringLiteral("gauge")].toInt(), 100);
+    QCOMPARE(widgetOf(finished, QStringLiteral("m_pRoundProgressBar"))[QStringLiteral("text")].toString(),
+             QStringLiteral("100%\nComplete"));
+    const int stopped = stepOf(data, QStringLiteral("clone-stopped 0"))[QStringLiteral("gauge")].toInt();
+    QVERIFY(stopped > 0 && stopped < 100);
 }
 
 void tst_Tour::savesReportAndScreenshot()
