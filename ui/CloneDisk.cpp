@@ -49,7 +49,9 @@ CloneDisk::CloneDisk(QWidget *parent) : QWidget(parent)
     style::scaleWidget(m_pRoundProgressBar);
     style::setWhiteBackground(m_pRoundProgressBar);
     m_pRoundProgressBar->SetDecimals(0);
-    m_pMessageBox = new InfoDialogClass(this);
+    // Below the window, where the page's style sheets do not reach.
+    m_pMessageBox = new InfoDialogClass(window());
+    m_pMessageBox->setObjectName(QStringLiteral("m_pMessageBox"));
     stylePage();
     setFixedTexts();
     RefreshSourceDetails(nullptr);
