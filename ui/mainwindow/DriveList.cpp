@@ -120,9 +120,9 @@ void MainWindow::OnRefresh()
 
 void MainWindow::OnInitialize()
 {
-    // One signal runs this once for each refresh so far. A refresh that began meanwhile has the lists
-    // already.
-    if (!m_refreshThread.isComplete())
+    // One signal runs this once for each refresh so far. A refresh or a clone that began meanwhile has the
+    // lists already.
+    if (!m_refreshThread.isComplete() || m_pCloneDiskPage->IsCloning())
         return;
     g_bListsLoading = false;
     FillDriveCombos();
