@@ -1,12 +1,13 @@
 #include "platform/HttpDownload.h"
 
 #include <QEventLoop>
+#include <QFile>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QNetworkRequest>
-#include <QSaveFile>
 #include <QThread>
 #include <QUrl>
+#include <QVariant>
 
 #include <memory>
 
@@ -17,15 +18,32 @@ constexpr qint32 resultInvalidUrl = static_cast<qint32>(0x800C0002u);
 constexpr qint32 resultNotFound = static_cast<qint32>(0x800C0005u);
 constexpr qint32 resultDownloadFailure = static_cast<qint32>(0x800C0008u);
 
+/// Not a QSaveFile: that one has no name before its end, and who waits watches the file grow.
+bool replace(QFile *partial, const QString &path)
+{
+    partial->close();
+    QFile::remove(path);
+    return partial->error() == QFileDevice::NoError && partial->rename(path);
+}
+
+/// The toolkit takes an answer that ends with its headers for complete.
+bool isWhole(const QNetworkReply &reply, qint64 size)
+{
+    const QVariant announced = reply.header(QNetworkRequest::ContentLengthHeader);
+    return !announced.isValid() || announced.toLongLong() == size;
+}
+
 qint32 load(const QUrl &url, const QString &path, int limitMs)
 {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly)) {
+    QFile file(path + QLatin1String(".part"));
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered)) {
         return resultDownloadFailure;
     }
     QNetworkRequest request(url);
     request.setTransferTimeout(limitMs);
     request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::NoLessSafeRedirectPolicy);
+    // Compressed, the announced length would be another one than that of the file.
+    request.setRawHeader("Accept-Encoding", "identity");
 
     QNetworkAccessManager manager;
     QEventLoop loop;
@@ -42,9 +60,14 @@ qint32 load(const QUrl &url, const QString &path, int limitMs)
     }
     take();
     if (reply->error() != QNetworkReply::NoError) {
+        file.remove();
         return resultNotFound;
     }
-    return written && file.commit() ? 0 : resultDownloadFailure;
+    if (!written || !isWhole(*reply, file.size()) || !replace(&file, path)) {
+        file.remove();
+        return resultDownloadFailure;
+    }
+    return 0;
 }
 
 } // namespace
