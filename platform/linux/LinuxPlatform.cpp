@@ -34,6 +34,9 @@ constexpr quint32 SectorsPerTrack = 63;
 const QString DiskPrefix = QStringLiteral("\\\\.\\PHYSICALDRIVE");
 const QString VolumePrefix = QStringLiteral("\\\\.\\");
 
+/// Where the program keeps an update that its console loads, behind "C:".
+const QString UpdateFolder = QStringLiteral("/updatetmp");
+
 template<typename Record>
 bool answer(const Record &record, void *out, quint32 outSize, quint32 *returned)
 {
@@ -293,6 +296,9 @@ QString LinuxPlatform::NativePath(const QString &path) const
                           (native.size() == 2 || native.at(2) == QLatin1Char('/'));
     if (onDriveC)
         native.remove(0, 2);
+    // The one folder that the program makes there stays out of the machine's root.
+    if (onDriveC && (native == UpdateFolder || native.startsWith(UpdateFolder + QLatin1Char('/'))))
+        return folders::privateTemp() + QLatin1String("/drives/C") + native;
     return native.isEmpty() && onDriveC ? QStringLiteral("/") : native;
 }
 
