@@ -1,0 +1,64 @@
+#include "update/UpdateLink.h"
+
+#include "app/state/GlobalApp.h"
+#include "app/state/Languages.h"
+#include "app/state/SettingsStore.h"
+#include "inventory/CommandRunner.h"
+
+namespace update
+{
+
+namespace
+{
+
+constexpr int UsualSize = 0xA00000; ///< bytes
+
+QString ofLanguage(const QString &name)
+{
+    return SettingsStore().text(key::ofLanguage(QLatin1String(languages::current().folder), name));
+}
+
+QString brand()
+{
+    return g_App.m_bKorvaneBrand ? QStringLiteral("KorvaneHalvane") : QStringLiteral("VelmoraHalvane");
+}
+
+} // namespace
+
+QString link()
+{
+    return ofLanguage(QStringLiteral("rxUpdateLink"));
+}
+
+QString page()
+{
+    return ofLanguage(QStringLiteral("rxUpdate"));
+}
+
+QString versionsName()
+{
+    return brand() + QLatin1String(".txt");
+}
+
+QString installerName()
+{
+    return brand() + QLatin1String(".exe");
+}
+
+QString folder()
+{
+    return tempFile(QStringLiteral("updatetmp"));
+}
+
+QString fallbackFolder()
+{
+    return QStringLiteral("C:\\updatetmp");
+}
+
+int expectedSize()
+{
+    const int size = SettingsStore().number(key::AverageUpdateSize);
+    return size > 0 ? size : UsualSize;
+}
+
+} // namespace update

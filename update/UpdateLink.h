@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QString>
+
+/// Where an update comes from, and where it goes. Links are settings of the language in use.
+namespace update
+{
+
+/// Address of the web folder, to which a file name is plainly joined; empty where there is none. Main thread
+/// only.
+QString link();
+
+/// Address of the page about the update; empty where there is none. Main thread only.
+QString page();
+
+/// \name Files of the web folder, by brand
+/// @{
+QString versionsName();
+QString installerName();
+/// @}
+
+/// \name Folders as the program composes paths
+/// @{
+QString folder();         ///< of this user, for what the system's own download brings
+QString fallbackFolder(); ///< for what the console brings
+/// @}
+
+/// Size of the installer in bytes as the settings tell it, 10 MiB where they do not. Main thread only.
+int expectedSize();
+
+} // namespace update
