@@ -150,7 +150,8 @@ void DialogFrame::paint() const
 bool DialogFrame::keyPressed(int key) const
 {
     if (key == Qt::Key_Escape) {
-        m_Look.dismiss->click();
+        if (m_Look.dismiss)
+            m_Look.dismiss->click();
         return true;
     }
     // A QDialog presses its default button by itself.
@@ -180,7 +181,8 @@ bool DialogFrame::eventFilter(QObject *watched, QEvent *event)
     case QEvent::Show: {
         fit();
         QPushButton *other = m_Look.confirm ? m_Look.confirm : m_Look.dismiss;
-        (m_Look.initial ? m_Look.initial : other)->setFocus();
+        if (QPushButton *first = m_Look.initial ? m_Look.initial : other)
+            first->setFocus();
         break;
     }
     case QEvent::LayoutRequest:
@@ -190,6 +192,10 @@ bool DialogFrame::eventFilter(QObject *watched, QEvent *event)
         return keyPressed(static_cast<QKeyEvent *>(event)->key());
     case QEvent::Close:
         // The button's action first: it may leave the window's pages in order.
+        if (!m_Look.dismiss) {
+            event->ignore();
+            return true;
+        }
         if (m_pWindow->isVisible())
             m_Look.dismiss->click();
         break;

@@ -10,12 +10,13 @@ class QPaintEvent;
 class QPushButton;
 class QWidget;
 
-/// The parts of a dialog that all dialogs treat alike. Only `title` and `dismiss` must be there.
+/// The parts of a dialog that all dialogs treat alike. Only `title` must be there.
 struct DialogLook {
     QLabel *title = nullptr;
     QLabel *picture = nullptr;
-    QString image;                  ///< file of the picture
-    QPushButton *dismiss = nullptr; ///< what Escape and the system's close command press
+    QString image; ///< file of the picture
+    /// What Escape and the system's close command press; without one they do nothing.
+    QPushButton *dismiss = nullptr;
     QPushButton *confirm = nullptr; ///< drawn as the main button
     QLabel *heading = nullptr;      ///< first line, where more lines follow
     QPushButton *initial = nullptr; ///< has the focus when the dialog shows; else `confirm`, else `dismiss`

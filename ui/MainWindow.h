@@ -10,6 +10,7 @@
 
 #include <QHash>
 #include <QMainWindow>
+#include <QPointer>
 #include <QSystemTrayIcon>
 
 #include <array>
@@ -25,6 +26,7 @@ class DiskStatus;
 class InfoDialogClass;
 class MyButton;
 class PopupMenu;
+class QCheckUpdate;
 class QMovie;
 class QTimer;
 class QTreeWidgetItem;
@@ -78,6 +80,7 @@ public slots:
     void OnFinishDiskCloning();
     void OnStopCancel();
     void OnStopConfirm();
+    void OnCheckUpdate();
     void OnCloningFinish();
     void OnRefresh();
     void SavePDFReport();
@@ -174,6 +177,7 @@ private:
     void connectNavigation();
     void greyOutIdle();
     void startTemperatureTimer();
+    void checkAtStart();
     void applyLanguageWidths();
     void retranslateShell();
     /// @}
@@ -192,6 +196,7 @@ private:
     void showScreen(Screen screen);
     void callShowSlot(Screen screen);
     void askForSwitch();
+    bool leavingAsks() const;
     void setSwitchTarget(Screen screen);
     /// @}
 
@@ -311,6 +316,7 @@ private:
     bool m_bRefreshing = false;
     bool m_bRefreshAgain = false; ///< a volume came or went during a refresh
     QTimer *m_pTemperatureTimer = nullptr;
+    QPointer<QCheckUpdate> m_pCheckUpdate;
     QTimer *m_pTestTimer = nullptr; ///< made at the first self-test
     FramelessDrag m_drag;
     SMARTThread m_smartThread;

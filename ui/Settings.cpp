@@ -4,7 +4,10 @@
 #include "app/state/Scale.h"
 #include "app/state/SettingsRules.h"
 #include "app/state/SettingsStore.h"
+#include "ui/ManualCheck.h"
+#include "ui/QCheckUpdate.h"
 #include "ui/Style.h"
+#include "ui/UpdateMessage.h"
 
 #include <QAction>
 #include <QCoreApplication>
@@ -115,7 +118,7 @@ void Settings::styleFields()
                                        .arg(style::px(8))
                                        .arg(style::px(14))
                                        .arg(picture(QStringLiteral("img_CheckOn.png"))));
-    m_pUpdateButton->hide();
+    m_pUpdateButton->setHidden(g_App.m_bHideUpdateButton);
     m_pHelpButton->hide();
     m_pLanguageButton->setVisible(g_App.m_bShowLanguageMenu);
 }
@@ -129,6 +132,7 @@ void Settings::connectFields()
     connect(BrowsButton_2, &QPushButton::clicked, this, &Settings::OnSelectLogPath);
     connect(degreeComboBox, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
             &Settings::ChangeWarningTemperature);
+    connect(m_pUpdateButton, &QPushButton::clicked, this, &Settings::OnCheckUpdate);
 }
 
 void Settings::BuildLanguageMenu()
@@ -299,6 +303,24 @@ void Settings::ChangeWarningTemperature()
         QStringLiteral(" °") + settings::unitText(static_cast<settings::TemperatureUnit>(unit));
     WarningSpinBox->setSuffix(suffix);
     ShutDownSpinBox->setSuffix(suffix);
+}
+
+void Settings::OnCheckUpdate()
+{
+    if (QCheckUpdate *check = checkForUpdates(this)) {
+        connect(check, &QCheckUpdate::NoUpdates, this, &Settings::OnNoUpdateAvailable);
+        check->hide();
+    }
+}
+
+void Settings::CheckUpdate()
+{
+    OnCheckUpdate();
+}
+
+void Settings::OnNoUpdateAvailable()
+{
+    ShowUpdateMessage(tr("Your Software has all latest updates installed."), 1);
 }
 
 void Settings::changeEvent(QEvent *event)

@@ -46,6 +46,9 @@ public slots:
     void OnSelectLogPath();
     /// Adapts the two thresholds and their lowest values to the unit chosen.
     void ChangeWarningTemperature();
+    void OnCheckUpdate();
+    void CheckUpdate();
+    void OnNoUpdateAvailable();
 
 protected:
     void changeEvent(QEvent *event) override;

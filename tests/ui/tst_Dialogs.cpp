@@ -6,6 +6,7 @@
 #include "ui/ConfarmetionClass.h"
 #include "ui/DestinitionWarning.h"
 #include "ui/InfoDialogClass.h"
+#include "ui/QShowUpdate.h"
 #include "ui/ScanSwitchClass.h"
 #include "ui/SelfTestNotSupported.h"
 #include "ui/ShutDownWarning.h"
@@ -110,6 +111,7 @@ void DialogsTest::longTextsAreNotCut_data()
         row("ScanSwitchClass", maker<ScanSwitchClass>());
         row("DestinitionWarning", maker<DestinitionWarning>());
         row("SelfTestNotSupported", maker<SelfTestNotSupported>());
+        row("QShowUpdate", maker<QShowUpdate>());
     }
 }
 
@@ -140,6 +142,7 @@ void DialogsTest::leavingPressesTheDismissingButton_data()
     QTest::newRow("InfoDialogClass") << maker<InfoDialogClass>() << "OkButton";
     QTest::newRow("DestinitionWarning") << maker<DestinitionWarning>() << "CloseButton";
     QTest::newRow("SelfTestNotSupported") << maker<SelfTestNotSupported>() << "CloseButton";
+    QTest::newRow("QShowUpdate") << maker<QShowUpdate>() << "CancelButton";
 }
 
 void DialogsTest::leavingPressesTheDismissingButton()

@@ -110,6 +110,7 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent), m_drag(this, Titl
         store.writeNumber(key::FirstTimeLaunch, 1);
     }
     startTemperatureTimer();
+    checkAtStart();
 }
 
 MainWindow::~MainWindow() = default;

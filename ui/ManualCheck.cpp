@@ -1,0 +1,37 @@
+#include "ui/ManualCheck.h"
+
+#include "app/state/GlobalApp.h"
+#include "app/state/Globals.h"
+#include "app/state/SettingsStore.h"
+#include "platform/Platform.h"
+#include "ui/QCheckUpdate.h"
+#include "ui/Style.h"
+#include "update/UpdateGlobals.h"
+
+namespace
+{
+
+bool opensPageInstead()
+{
+    return g_App.m_bKorvaneBrand && g_App.m_bChinese && m_bChineseUpdatePage;
+}
+
+} // namespace
+
+QCheckUpdate *checkForUpdates(QWidget *owner)
+{
+    if (g_bJobRunning || g_bSelfTestRunning)
+        return nullptr;
+    if (opensPageInstead()) {
+        const QString page =
+            SettingsStore().text(key::ofLanguage(QStringLiteral("CN"), QStringLiteral("CN_Update_Lnk")));
+        Platform::current().ShellExecuteW(page, QString(), QStringLiteral("open"));
+        return nullptr;
+    }
+    m_bManualCheck = true;
+    auto *check = new QCheckUpdate(owner);
+    style::centreOn(check, m_rcSplash);
+    if (!check->HasOffer())
+        check->deleteLater();
+    return check;
+}
