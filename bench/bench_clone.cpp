@@ -1,17 +1,9 @@
-#include "app/state/GlobalApp.h"
 #include "app/state/Globals.h"
+#include "bench/NoisyPc.h"
 #include "clone/ThreadDriveClone.h"
-#include "platform/simulated/SimulatedPlatform.h"
 
 #include <QCoreApplication>
-#include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
-#include <QFileInfo>
-#include <QProcess>
-#include <QRandomGenerator>
-#include <QStandardPaths>
-#include <QTemporaryDir>
 
 #include <algorithm>
 #include <cstdio>
@@ -19,47 +11,20 @@
 namespace
 {
 
-constexpr qint64 MiB = 1 << 20;
-constexpr int SectorSize = 512;
+using bench::MiB;
 constexpr int Rounds = 9;
 constexpr double WantedShare = 0.9;        ///< of what dd does
 constexpr qint64 WantedMemory = 40 * 1024; ///< kB above idle
 
-/// A simulated PC with two disks full of noise, so that nothing is saved on holes.
-class Pc
+/// A source and a destination.
+class Pc : public bench::NoisyPc
 {
 public:
-    explicit Pc(qint64 bytes)
+    explicit Pc(qint64 bytes) : NoisyPc(2, bytes)
     {
-        QFile description(m_folder.filePath(QStringLiteral("pc.json")));
-        if (!description.open(QIODevice::WriteOnly))
-            qFatal("no description");
-        const QByteArray sectors = QByteArray::number(bytes / SectorSize);
-        description.write("{\"pauses\": false, \"disks\": [{\"number\": 0, \"sectors\": " + sectors +
-                          "}, {\"number\": 1, \"sectors\": " + sectors + "}]}");
-        description.close();
-        QString error;
-        auto pc =
-            SimulatedPlatform::open(m_folder.path(), m_folder.filePath(QStringLiteral("state")), &error);
-        if (!pc)
-            qFatal("%s", qPrintable(error));
-        for (int number = 0; number < 2; ++number) {
-            fill(pc->imageFile(number), bytes, static_cast<quint32>(number));
-            m_images << pc->imageFile(number);
-            m_nodes[number].pDetails = std::make_unique<DiskDetails>();
-            m_nodes[number].pDetails->nDevice = static_cast<quint8>(PhysicalDriveBase + number);
-            m_nodes[number].pDetails->nTotalSectors = static_cast<quint64>(bytes / SectorSize);
-        }
-        Platform::install(std::move(pc));
-        g_App.m_strSystemFolder = Platform::current().GetSystemDirectoryW();
-        g_App.m_pCurrentDisk = &m_nodes[0];
-        g_App.m_pCloneDisk = &m_nodes[1];
+        g_App.m_pCurrentDisk = node(0);
+        g_App.m_pCloneDisk = node(1);
     }
-    ~Pc() { g_App.m_pCurrentDisk = g_App.m_pCloneDisk = nullptr; }
-    Pc(const Pc &) = delete;
-    Pc &operator=(const Pc &) = delete;
-
-    QString image(int number) const { return m_images.at(number); }
 
     /// Seconds of a whole clone, preparation and end included.
     static double clone()
@@ -71,56 +36,20 @@ public:
         thread.wait();
         if (g_bCloneFailed)
             qFatal("a disk did not open");
-        return static_cast<double>(clock.nsecsElapsed()) / 1e9;
+        return bench::seconds(clock);
     }
-
-private:
-    static void fill(const QString &image, qint64 bytes, quint32 seed)
-    {
-        QDir().mkpath(QFileInfo(image).absolutePath());
-        QFile file(image);
-        if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
-            qFatal("no image");
-        QByteArray noise(static_cast<int>(8 * MiB), Qt::Uninitialized);
-        QRandomGenerator(seed).fillRange(reinterpret_cast<quint32 *>(noise.data()), noise.size() / 4);
-        for (qint64 done = 0; done < bytes; done += noise.size()) {
-            const qint64 count = std::min<qint64>(noise.size(), bytes - done);
-            if (file.write(noise.constData(), count) != count)
-                qFatal("no room for the image");
-        }
-    }
-
-    QTemporaryDir m_folder;
-    QStringList m_images;
-    DiskNode m_nodes[2];
 };
-
-/// Seconds that a tool takes; negative where it is not installed or fails.
-double toolTime(const QString &tool, const QStringList &arguments)
-{
-    const QString program = QStandardPaths::findExecutable(tool);
-    if (program.isEmpty())
-        return -1;
-    QProcess process;
-    process.setStandardOutputFile(QProcess::nullDevice());
-    process.setStandardErrorFile(QProcess::nullDevice());
-    QElapsedTimer clock;
-    clock.start();
-    process.start(program, arguments);
-    const bool done = process.waitForFinished(-1) && process.exitCode() == 0;
-    return done ? static_cast<double>(clock.nsecsElapsed()) / 1e9 : -1;
-}
 
 double ddTime(const Pc &pc)
 {
-    return toolTime(QStringLiteral("dd"),
-                    {QStringLiteral("if=") + pc.image(0), QStringLiteral("of=") + pc.image(1),
-                     QStringLiteral("bs=16M"), QStringLiteral("conv=notrunc")});
+    return bench::toolTime(QStringLiteral("dd"),
+                           {QStringLiteral("if=") + pc.image(0), QStringLiteral("of=") + pc.image(1),
+                            QStringLiteral("bs=16M"), QStringLiteral("conv=notrunc")});
 }
 
 double ddrescueTime(const Pc &pc)
 {
-    return toolTime(QStringLiteral("ddrescue"), {QStringLiteral("--force"), pc.image(0), pc.image(1)});
+    return bench::toolTime(QStringLiteral("ddrescue"), {QStringLiteral("--force"), pc.image(0), pc.image(1)});
 }
 
 void printSpeed(const char *what, qint64 bytes, double seconds, double reference)

@@ -1,19 +1,11 @@
-#include "app/state/GlobalApp.h"
 #include "app/state/Globals.h"
-#include "platform/simulated/SimulatedPlatform.h"
+#include "bench/NoisyPc.h"
 #include "scan/QScanDriveThread.h"
 #include "scan/ScanGlobals.h"
 
 #include <QCoreApplication>
-#include <QDir>
-#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QFile>
-#include <QFileInfo>
-#include <QProcess>
-#include <QRandomGenerator>
-#include <QStandardPaths>
-#include <QTemporaryDir>
 
 #include <algorithm>
 #include <cstdio>
@@ -23,8 +15,8 @@
 namespace
 {
 
-constexpr qint64 MiB = 1 << 20;
-constexpr int SectorSize = 512;
+using bench::MiB;
+using bench::SectorSize;
 constexpr qint64 SectorsPerChunk = 16384;
 constexpr int Rounds = 5;
 
@@ -36,38 +28,14 @@ struct Times {
     qlonglong badSectors = 0;
 };
 
-/// A simulated PC with one disk, whose image is full of noise, so that nothing is saved on holes.
-class Pc
+/// A disk to scan.
+class Pc : public bench::NoisyPc
 {
 public:
-    Pc(qint64 bytes, const QByteArray &more)
-    {
-        QFile description(m_folder.filePath(QStringLiteral("pc.json")));
-        if (!description.open(QIODevice::WriteOnly))
-            qFatal("no description");
-        description.write("{\"disks\": [{\"number\": 0, \"sectors\": " +
-                          QByteArray::number(bytes / SectorSize) + more + "}]}");
-        description.close();
-        QString error;
-        auto pc =
-            SimulatedPlatform::open(m_folder.path(), m_folder.filePath(QStringLiteral("state")), &error);
-        if (!pc)
-            qFatal("%s", qPrintable(error));
-        m_image = pc->imageFile(0);
-        fill(bytes);
-        Platform::install(std::move(pc));
+    Pc(qint64 bytes, const QByteArray &more) : NoisyPc(1, bytes, more) { g_App.m_pCurrentDisk = node(0); }
 
-        m_node.nId = PhysicalDriveBase;
-        m_node.pDetails = std::make_unique<DiskDetails>();
-        m_node.pDetails->nDevice = PhysicalDriveBase;
-        m_node.pDetails->nTotalSectors = static_cast<quint64>(bytes / SectorSize);
-        g_App.m_pCurrentDisk = &m_node;
-    }
-    ~Pc() { g_App.m_pCurrentDisk = nullptr; }
-    Pc(const Pc &) = delete;
-    Pc &operator=(const Pc &) = delete;
-
-    QString image() const { return m_image; }
+    using NoisyPc::image;
+    QString image() const { return image(0); }
 
     /// Scans the disk. `heard`: an event loop hears of every bad sector, as the window's does.
     Times scan(bool heard = true) const
@@ -83,62 +51,23 @@ public:
             heard ? Qt::AutoConnection : Qt::DirectConnection);
         QObject::connect(
             &thread, &QScanDriveThread::setRemainingTime, &thread,
-            [&] { times.firstChunk = static_cast<double>(clock.nsecsElapsed()) / 1e9; },
-            Qt::DirectConnection);
-        thread.SetRange(0, static_cast<qint64>(m_node.pDetails->nTotalSectors));
+            [&] { times.firstChunk = bench::seconds(clock); }, Qt::DirectConnection);
+        thread.SetRange(0, static_cast<qint64>(node(0)->pDetails->nTotalSectors));
         const std::clock_t cpu = std::clock();
         clock.start();
         thread.StartScan(nullptr, 3);
         loop.exec();
-        times.wall = static_cast<double>(clock.nsecsElapsed()) / 1e9;
+        times.wall = bench::seconds(clock);
         times.cpu = static_cast<double>(std::clock() - cpu) / CLOCKS_PER_SEC;
         return times;
     }
-
-private:
-    void fill(qint64 bytes) const
-    {
-        QDir().mkpath(QFileInfo(m_image).absolutePath());
-        QFile file(m_image);
-        if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
-            qFatal("no image");
-        QByteArray noise(static_cast<int>(8 * MiB), Qt::Uninitialized);
-        QRandomGenerator(1).fillRange(reinterpret_cast<quint32 *>(noise.data()), noise.size() / 4);
-        for (qint64 done = 0; done < bytes; done += noise.size()) {
-            const qint64 count = std::min<qint64>(noise.size(), bytes - done);
-            if (file.write(noise.constData(), count) != count)
-                qFatal("no room for the image");
-        }
-    }
-
-    QTemporaryDir m_folder;
-    QString m_image;
-    DiskNode m_node;
 };
-
-/// Seconds that a tool takes; negative where it is not installed or fails.
-double toolTime(const QString &tool, const QStringList &arguments)
-{
-    QString program = QStandardPaths::findExecutable(tool);
-    if (program.isEmpty())
-        program =
-            QStandardPaths::findExecutable(tool, {QStringLiteral("/usr/sbin"), QStringLiteral("/sbin")});
-    if (program.isEmpty())
-        return -1;
-    QProcess process;
-    process.setStandardOutputFile(QProcess::nullDevice());
-    process.setStandardErrorFile(QProcess::nullDevice());
-    QElapsedTimer clock;
-    clock.start();
-    process.start(program, arguments);
-    const bool done = process.waitForFinished(-1) && process.exitCode() == 0;
-    return done ? static_cast<double>(clock.nsecsElapsed()) / 1e9 : -1;
-}
 
 double ddTime(const QString &image, const QStringList &arguments)
 {
-    return toolTime(QStringLiteral("dd"),
-                    QStringList{QStringLiteral("if=") + image, QStringLiteral("of=/dev/null")} + arguments);
+    return bench::toolTime(QStringLiteral("dd"),
+                           QStringList{QStringLiteral("if=") + image, QStringLiteral("of=/dev/null")} +
+                               arguments);
 }
 
 /// The best of several rounds of each, taken in turn, so that what else the machine does meets all.
@@ -171,11 +100,11 @@ void benchThroughput(qint64 bytes)
     std::printf("A healthy disk of %lld MiB, its image in the cache\n", static_cast<long long>(bytes / MiB));
     printSpeed("  dd bs=8M", bytes, best[0], best[0]);
     printSpeed("  scan", bytes, best[1], best[0]);
-    printSpeed(
-        "  badblocks, chunks of 8 MiB (past the cache)", bytes,
-        toolTime(QStringLiteral("badblocks"), {QStringLiteral("-b"), QStringLiteral("4096"),
-                                               QStringLiteral("-c"), QStringLiteral("2048"), pc.image()}),
-        best[0]);
+    printSpeed("  badblocks, chunks of 8 MiB (past the cache)", bytes,
+               bench::toolTime(QStringLiteral("badblocks"),
+                               {QStringLiteral("-b"), QStringLiteral("4096"), QStringLiteral("-c"),
+                                QStringLiteral("2048"), pc.image()}),
+               best[0]);
 }
 
 void benchNarrowing()
