@@ -10,6 +10,7 @@ const std::vector<Chapter> &chapters()
         {QStringLiteral("selfTest"), selfTestSteps, true},
         {QStringLiteral("clone"), cloneSteps, true},
         {QStringLiteral("settings"), settingsSteps, true},
+        {QStringLiteral("update"), updateSteps, true},
         {QStringLiteral("close"), closeSteps},
     };
     return all;

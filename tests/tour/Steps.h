@@ -33,6 +33,7 @@ StepList settingsSteps(Walk &walk);
 StepList scanSteps(Walk &walk);
 StepList selfTestSteps(Walk &walk);
 StepList cloneSteps(Walk &walk);
+StepList updateSteps(Walk &walk);
 StepList closeSteps(Walk &walk);
 /// @}
 
