@@ -6,6 +6,7 @@
 #include "ui/DestinitionWarning.h"
 #include "ui/InfoDialogClass.h"
 #include "ui/QRoundProgressBar.h"
+#include "ui/ScanSwitchClass.h"
 
 #include <QAction>
 #include <QComboBox>
@@ -49,6 +50,7 @@ private slots:
     void asksAnewWhenTheChoiceHasGone_data();
     void asksAnewWhenTheChoiceHasGone();
     void stops();
+    void goesOnBehindAnotherScreen();
     void diskThatDoesNotOpen();
     void startsAndStopsManyTimes();
 
@@ -302,6 +304,43 @@ void tst_CloneFlow::stops()
              (QStringList{"Clone Disk", "Cloning aborted.", "Cloning process aborted by the user."}));
     dialog<InfoDialogClass>()->OkButton->click();
     QVERIFY(selecting() && !shown("StopButton") && shown("CloneButton"));
+}
+
+void tst_CloneFlow::goesOnBehindAnotherScreen()
+{
+    fill(0, SourceSectors);
+    start(0, 1);
+    const auto leaveFor = [this](const char *button) {
+        press(button);
+        QVERIFY(dialog<ScanSwitchClass>());
+        dialog<ScanSwitchClass>()->YesButton->click();
+    };
+    press("DiskStatusButton");
+    const auto *page = m_pWindow->findChild<CloneDisk *>();
+    QVERIFY(dialog<ScanSwitchClass>());
+    dialog<ScanSwitchClass>()->NoButton->click();
+    QVERIFY(locked() && running() && !dialog<ScanSwitchClass>());
+
+    // Nothing there starts a scan, or takes the clone for one.
+    leaveFor("ScanDiskButton");
+    QVERIFY(!page->isVisible() && !shown("StopButton"));
+    QVERIFY(!child<QPushButton>("ScanButton")->isEnabled() &&
+            !child<QComboBox>("DriveCombobox")->isEnabled());
+    m_pWindow->OnScanStart();
+    QVERIFY(!shown("StopButton"));
+    m_pWindow->OnClose();
+    QCOMPARE(dialog<DestinitionWarning>()->WarningTxtLbl->text(), QStringLiteral("Cloning process running."));
+
+    leaveFor("CloneDiskButton");
+    QVERIFY(locked() && running());
+    leaveFor("ScanDiskButton");
+    waitForEnd();
+    QVERIFY(image(1) == image(0));
+    QVERIFY(!page->isVisible() && !shown("CloneButton") && child<QPushButton>("ScanButton")->isEnabled());
+    dialog<InfoDialogClass>()->OkButton->click();
+    QVERIFY(child<MyButton>("ScanDiskButton")->isDown() && child<QComboBox>("DriveCombobox")->isEnabled());
+    press("CloneDiskButton");
+    QVERIFY(!dialog<ScanSwitchClass>() && shown("CloneButton") && shown("SourceComboBox"));
 }
 
 void tst_CloneFlow::diskThatDoesNotOpen()

@@ -127,9 +127,14 @@ void MainWindow::OnCloningFinish()
     // There is nothing left to be stopped.
     m_pConfirmation->hide();
     StopButton->hide();
-    CloneButton->setVisible(!isDown(navigation::ScanDiskScreen));
+    ScanButton->setEnabled(true);
     DriveCombobox->setEnabled(true);
     enableNavigation();
+    const bool left = !m_pCloneDiskPage->isVisible();
+    CloneButton->setVisible(!left && !isDown(navigation::ScanDiskScreen));
+    // No disk was read for the screen that somebody went to meanwhile.
+    if (left)
+        RefreshSelectedDisk();
 }
 
 void MainWindow::OnFinishDiskCloning()

@@ -40,11 +40,12 @@ bool MainWindow::jobRuns() const
 
 void MainWindow::showRunningPanel(bool fromYes)
 {
-    if (isDown(navigation::CloneDiskScreen))
+    const bool scanScreen = isDown(navigation::ScanDiskScreen);
+    if (isDown(navigation::CloneDiskScreen) || (scanScreen && m_pCloneDiskPage->IsCloning()))
         m_pDestinitionWarning->SetTexts(tr("Clone Disk"),
                                         fromYes ? tr("Clone Running.") : tr("Cloning process running."),
                                         tr("Please halt the clone process to exit."));
-    else if (isDown(navigation::ScanDiskScreen))
+    else if (scanScreen)
         m_pDestinitionWarning->SetTexts(tr("Scan Disk"),
                                         fromYes ? tr("Scaning Running.") : tr("Disk scan running."),
                                         tr("Please halt the scan process to exit."));

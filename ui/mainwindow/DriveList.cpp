@@ -39,8 +39,8 @@ void MainWindow::FillDriveCombos()
 
 void MainWindow::LookUpDisk(int comboIndex)
 {
-    // The thread of a scan takes the current disk by itself. Who has left the scan gets his own at its end.
-    if (m_pScanDiskPage->IsScanning())
+    // The thread of a job takes the current disk by itself. Who has left the job gets his own at its end.
+    if (m_pScanDiskPage->IsScanning() || m_pCloneDiskPage->IsCloning())
         return;
     g_App.m_pCurrentDisk = nullptr;
     const auto entry = m_hashComboToDisk.constFind(comboIndex);
@@ -86,6 +86,9 @@ void MainWindow::selectCloneArgument()
 
 void MainWindow::refreshClonePage()
 {
+    // The choice of disks is that of the clone until it has ended.
+    if (m_pCloneDiskPage->IsCloning())
+        return;
     g_strSerialNumber.clear();
     g_strModelName.clear();
     g_strFirmware.clear();

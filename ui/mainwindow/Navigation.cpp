@@ -64,7 +64,7 @@ void MainWindow::applyLooks()
 void MainWindow::pressNavigation(Screen screen)
 {
     setSwitchTarget(screen);
-    if (g_bScanResultOpen || g_bSelfTestResultOpen) {
+    if (leavingAsks()) {
         askForSwitch();
         return;
     }
@@ -77,6 +77,12 @@ void MainWindow::pressNavigation(Screen screen)
     BackTestButton->hide();
     StopTestButton->hide();
     callShowSlot(screen);
+}
+
+/// Whether somebody who goes to another screen leaves a job or its results.
+bool MainWindow::leavingAsks() const
+{
+    return g_bScanResultOpen || g_bSelfTestResultOpen || m_pCloneDiskPage->IsCloning();
 }
 
 void MainWindow::askForSwitch()
@@ -101,8 +107,12 @@ void MainWindow::showScreen(Screen screen)
         m_apScreens[static_cast<std::size_t>(i)]->setVisible(i == screen);
     const navigation::ShellButtons &shown = navigation::shellButtons(screen);
     ScanButton->setVisible(shown.scan);
+    const bool cloning = m_pCloneDiskPage->IsCloning();
     // The show slot of the clone page can run while a scan holds its own button down.
-    CloneButton->setVisible(shown.clone && !isDown(navigation::ScanDiskScreen));
+    CloneButton->setVisible(shown.clone && !cloning && !isDown(navigation::ScanDiskScreen));
+    // A clone goes on behind another screen, where the button would ask for a scan.
+    if (cloning)
+        StopButton->setVisible(shown.clone);
     ReportSaveButton->setVisible(shown.report);
     ScreenshotButton->setVisible(shown.screenshot);
     BackTestButton->hide();
@@ -141,7 +151,7 @@ void MainWindow::OnSwitchConfirm()
     g_bScanResultOpen = false;
     g_bSelfTestResultOpen = false;
     g_bScanStarted = false;
-    DriveCombobox->setEnabled(true);
+    DriveCombobox->setEnabled(!m_pCloneDiskPage->IsCloning());
     for (int i = 0; i < navigation::ScreenCount; ++i) {
         if (!m_abSwitchTarget[static_cast<std::size_t>(i)])
             continue;

@@ -3,6 +3,7 @@
 #include "app/state/GlobalApp.h"
 #include "app/state/Globals.h"
 #include "smart/SelfTestGlobals.h"
+#include "ui/CloneDisk.h"
 #include "ui/MyButton.h"
 #include "ui/ScanDisk.h"
 
@@ -28,7 +29,7 @@ void MainWindow::OnShowScanDisk()
         m_pScanDiskPage->ShowCounters();
     else
         m_pScanDiskPage->ShowChooser();
-    DriveCombobox->setEnabled(true);
+    DriveCombobox->setEnabled(!m_pCloneDiskPage->IsCloning());
     showScreen(navigation::ScanDiskScreen);
     m_pScanDiskPage->radioButton->setChecked(true);
     refreshScanPage();
@@ -44,8 +45,8 @@ void MainWindow::refreshScanPage()
 void MainWindow::OnScanStart()
 {
     // No disk can be looked up while the lists are rebuilt, and a scan that was stopped goes on until the
-    // drive has answered.
-    if (g_bListsLoading || m_pScanDiskPage->IsScanning())
+    // drive has answered. A clone goes on behind this screen, and would take a stop for its own.
+    if (g_bListsLoading || m_pScanDiskPage->IsScanning() || m_pCloneDiskPage->IsCloning())
         return;
     OnCheckRadioButton();
     if (g_bTestPending) {
@@ -113,14 +114,15 @@ void MainWindow::dropScanResults()
         StopButton->hide();
         ScanButton->setEnabled(false);
     }
+    if (m_pCloneDiskPage->IsCloning())
+        ScanButton->setEnabled(false);
     m_pScanDiskPage->DropResults();
 }
 
 bool MainWindow::eventFilter(QObject *watched, QEvent *event)
 {
     // A job locks the navigation. A press on it asks all the same, so that nobody takes it for dead.
-    const bool asks =
-        event->type() == QEvent::MouseButtonPress && (g_bScanResultOpen || g_bSelfTestResultOpen);
+    const bool asks = event->type() == QEvent::MouseButtonPress && leavingAsks();
     auto *pressed = asks ? qobject_cast<MyButton *>(watched) : nullptr;
     if (!pressed || pressed->isEnabled())
         return QMainWindow::eventFilter(watched, event);
