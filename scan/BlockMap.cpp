@@ -101,11 +101,13 @@ QString toolTip(const Metrics &sizes, const QPoint &place, qint64 start, qint64 
         return QString();
     const qint64 from = start + block * blockStep;
     if (block == ScanBlockCount)
-        return QString::number(from) + text(" to ") + QString::number(end);
+        return QString::number(from) + text(QT_TRANSLATE_NOOP("QGridView", " to ")) + QString::number(end);
     const qint64 to = block == ScanBlockCount - 1 ? end : from + blockStep;
-    return text("Start Sector of current block: ") + QString::number(from) + QLatin1Char('\n') +
-           text("End Sector of current block: ") + QString::number(to) + QLatin1Char('\n') +
-           text("Current Block Size : ") + QString::number(blockStep) + text(" MB");
+    return text(QT_TRANSLATE_NOOP("QGridView", "Start Sector of current block: ")) + QString::number(from) +
+           QLatin1Char('\n') + text(QT_TRANSLATE_NOOP("QGridView", "End Sector of current block: ")) +
+           QString::number(to) + QLatin1Char('\n') +
+           text(QT_TRANSLATE_NOOP("QGridView", "Current Block Size : ")) + QString::number(blockStep) +
+           text(QT_TRANSLATE_NOOP("QGridView", " MB"));
 }
 
 } // namespace blockmap

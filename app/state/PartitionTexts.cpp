@@ -83,7 +83,8 @@ QString healthWord(std::int32_t diskIndex, const WmicDiskRecord *head)
         if (record->nIndex == static_cast<std::uint32_t>(diskIndex))
             status = record->szStatus.text();
     }
-    return status == QLatin1String("OK") ? translated("Healthy") : translated("Not Healthy");
+    return status == QLatin1String("OK") ? translated(QT_TRANSLATE_NOOP("MainWindow", "Healthy"))
+                                         : translated(QT_TRANSLATE_NOOP("MainWindow", "Not Healthy"));
 }
 
 qint64 freePercent(qint64 freeBytes, qint64 sizeBytes)
@@ -99,7 +100,8 @@ qint64 freePercent(qint64 freeBytes, qint64 sizeBytes)
 
 QString percentText(const LogicalDiskRecord &volume)
 {
-    return QString::number(freePercent(volume.nFreeBytes, volume.nSizeBytes)) + translated("% Free");
+    return QString::number(freePercent(volume.nFreeBytes, volume.nSizeBytes)) +
+           translated(QT_TRANSLATE_NOOP("MainWindow", "% Free"));
 }
 
 QString freeText(qint64 bytes)
@@ -114,8 +116,10 @@ QString totalText(qint64 bytes)
 
 QString spaceText(const LogicalDiskRecord &volume, bool korean)
 {
-    const QString text = freeText(volume.nFreeBytes) + translated(" Free of ") + totalText(volume.nSizeBytes);
-    return korean ? text + translated(" Available") : text;
+    const QString text = freeText(volume.nFreeBytes) +
+                         translated(QT_TRANSLATE_NOOP("MainWindow", " Free of ")) +
+                         totalText(volume.nSizeBytes);
+    return korean ? text + translated(QT_TRANSLATE_NOOP("MainWindow", " Available")) : text;
 }
 
 } // namespace partitiontexts

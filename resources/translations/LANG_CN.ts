@@ -1,0 +1,1850 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en_US">
+<context>
+    <name>AttributeCatalogue</name>
+    <message>
+        <source>Raw Read Error Rate</source>
+        <translation>底层数据读取错误率</translation>
+    </message>
+    <message>
+        <source>Spin Up Time</source>
+        <translation>主轴启动时间</translation>
+    </message>
+    <message>
+        <source>Start Stop Count</source>
+        <translation>启停次数</translation>
+    </message>
+    <message>
+        <source>Reallocated Sector Count</source>
+        <translation>重新分配扇区数</translation>
+    </message>
+    <message>
+        <source>Seek Error Rate</source>
+        <translation>寻道错误率</translation>
+    </message>
+    <message>
+        <source>Power On Hours</source>
+        <translation>通电时间</translation>
+    </message>
+    <message>
+        <source>Spin Retry Count</source>
+        <translation>主轴启动重试次数</translation>
+    </message>
+    <message>
+        <source>Calibration Retry Count</source>
+        <translation>校准重试次数</translation>
+    </message>
+    <message>
+        <source>Power Cycle Count</source>
+        <translation>通电次数</translation>
+    </message>
+    <message>
+        <source>Power-Off Retract Count</source>
+        <translation>断电磁头缩回次数</translation>
+    </message>
+    <message>
+        <source>Load Cycle Count</source>
+        <translation>磁头加载次数</translation>
+    </message>
+    <message>
+        <source>Temperature Celsius</source>
+        <translation>温度（摄氏）</translation>
+    </message>
+    <message>
+        <source>Reallocated Event Count</source>
+        <translation>重新分配事件次数</translation>
+    </message>
+    <message>
+        <source>Current Pending Sector Count</source>
+        <translation>当前待处理扇区数</translation>
+    </message>
+    <message>
+        <source>Offline Uncorrectable</source>
+        <translation>脱机无法校正扇区数</translation>
+    </message>
+    <message>
+        <source>UDMA CRC Error Count</source>
+        <translation>UDMA CRC 错误计数</translation>
+    </message>
+    <message>
+        <source>Multi Zone Error Rate</source>
+        <translation>多区域错误率</translation>
+    </message>
+    <message>
+        <source>Available Reserved Space</source>
+        <translation>可用预留空间</translation>
+    </message>
+    <message>
+        <source>SSD Program Fail Count</source>
+        <translation>SSD 编程失败次数</translation>
+    </message>
+    <message>
+        <source>SSD Erase Fail Count</source>
+        <translation>SSD 擦除失败次数</translation>
+    </message>
+    <message>
+        <source>SSD Wear Leveling Count</source>
+        <translation>SSD 磨损均衡次数</translation>
+    </message>
+    <message>
+        <source>Unexpected power loss count</source>
+        <translation>意外断电次数</translation>
+    </message>
+    <message>
+        <source>Throughput Performance</source>
+        <translation>吞吐性能</translation>
+    </message>
+    <message>
+        <source>Read Channel Margin</source>
+        <translation>读取通道余量</translation>
+    </message>
+    <message>
+        <source>Seek Time Performance</source>
+        <translation>寻道时间性能</translation>
+    </message>
+    <message>
+        <source>Soft Read Error Rate</source>
+        <translation>软读取错误率</translation>
+    </message>
+    <message>
+        <source>Runtime Bad Block</source>
+        <translation>运行时坏块</translation>
+    </message>
+    <message>
+        <source>End-to-End Error </source>
+        <translation>端到端错误 </translation>
+    </message>
+    <message>
+        <source>Reported Uncorrect</source>
+        <translation>报告的不可校正错误</translation>
+    </message>
+    <message>
+        <source>Command Timeout</source>
+        <translation>命令超时</translation>
+    </message>
+    <message>
+        <source>High Fly Writes</source>
+        <translation>磁头飞高写入</translation>
+    </message>
+    <message>
+        <source>Airflow Temperature Cel</source>
+        <translation>气流温度</translation>
+    </message>
+    <message>
+        <source>G-Sense Error Rate</source>
+        <translation>冲击错误率</translation>
+    </message>
+    <message>
+        <source>Hardware ECC Recovered</source>
+        <translation>硬件 ECC 恢复</translation>
+    </message>
+    <message>
+        <source>Multi Zone Error Rate </source>
+        <translation>多区域错误率 </translation>
+    </message>
+    <message>
+        <source>Write Error Rate</source>
+        <translation>写入错误率</translation>
+    </message>
+    <message>
+        <source>Head Flying Hours</source>
+        <translation>磁头飞行时间</translation>
+    </message>
+    <message>
+        <source>Total LBAs Written</source>
+        <translation>LBA 写入总数</translation>
+    </message>
+    <message>
+        <source>Total LBAs Read</source>
+        <translation>LBA 读取总数</translation>
+    </message>
+    <message>
+        <source>Free Fall Sensor</source>
+        <translation>自由落体传感器</translation>
+    </message>
+    <message>
+        <source>Critical Warning</source>
+        <translation>严重警告</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>温度</translation>
+    </message>
+    <message>
+        <source>Available Spare</source>
+        <translation>可用备用空间</translation>
+    </message>
+    <message>
+        <source>Available Spare Threshold</source>
+        <translation>备用空间阈值</translation>
+    </message>
+    <message>
+        <source>Percentage Used</source>
+        <translation>已用百分比</translation>
+    </message>
+    <message>
+        <source>Data Units Read</source>
+        <translation>读取数据单元</translation>
+    </message>
+    <message>
+        <source>Data Units Written</source>
+        <translation>写入数据单元</translation>
+    </message>
+    <message>
+        <source>Host Read Commands</source>
+        <translation>主机读取命令</translation>
+    </message>
+    <message>
+        <source>Host Write Commands</source>
+        <translation>主机写入命令</translation>
+    </message>
+    <message>
+        <source>Controller Busy Time</source>
+        <translation>控制器忙碌时间</translation>
+    </message>
+    <message>
+        <source>Power Cyles</source>
+        <translation>通电次数</translation>
+    </message>
+    <message>
+        <source>Unsafe Shutdowns</source>
+        <translation>不安全关机次数</translation>
+    </message>
+    <message>
+        <source>Media and Data Integrity Errors</source>
+        <translation>介质和数据完整性错误</translation>
+    </message>
+    <message>
+        <source>Error Information Log Entries</source>
+        <translation>错误日志条目数</translation>
+    </message>
+</context>
+<context>
+    <name>AttributeRows</name>
+    <message>
+        <source>FAILED</source>
+        <translation>失败</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+</context>
+<context>
+    <name>CheckUpdate</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Checking for updates...</source>
+        <translation>正在检查更新...</translation>
+    </message>
+</context>
+<context>
+    <name>CloneDisk</name>
+    <message>
+        <source>Not Available</source>
+        <translation>不可用</translation>
+    </message>
+    <message>
+        <source>Disk Number 	: </source>
+        <translation>磁盘编号 	: </translation>
+    </message>
+    <message>
+        <source>Model Number	: </source>
+        <translation>型号	: </translation>
+    </message>
+    <message>
+        <source>Serial: </source>
+        <translation>序列号: </translation>
+    </message>
+    <message>
+        <source>Firmware Revision : </source>
+        <translation>固件版本 : </translation>
+    </message>
+    <message>
+        <source>Interface Type	   : </source>
+        <translation>接口类型	   : </translation>
+    </message>
+    <message>
+        <source>Capacity	: </source>
+        <translation>容量	: </translation>
+    </message>
+    <message>
+        <source>Total Sector	   : </source>
+        <translation>扇区总数	   : </translation>
+    </message>
+    <message>
+        <source>Model Number : </source>
+        <translation>型号 : </translation>
+    </message>
+    <message>
+        <source>Capacity           : </source>
+        <translation>容量           : </translation>
+    </message>
+    <message>
+        <source>ATA Disk</source>
+        <translation>ATA 磁盘</translation>
+    </message>
+    <message>
+        <source> hours</source>
+        <translation> 小时</translation>
+    </message>
+    <message>
+        <source> minutes</source>
+        <translation> 分钟</translation>
+    </message>
+    <message>
+        <source> seconds</source>
+        <translation> 秒</translation>
+    </message>
+    <message>
+        <source>Source and destination disks are same.</source>
+        <translation>源磁盘和目标磁盘相同。</translation>
+    </message>
+    <message>
+        <source>Destination disk size is smaller than source disk.</source>
+        <translation>目标磁盘小于源磁盘。</translation>
+    </message>
+    <message>
+        <source>Clone Disk</source>
+        <translation>克隆磁盘</translation>
+    </message>
+    <message>
+        <source>Select different destination disk.</source>
+        <translation>请选择其他目标磁盘。</translation>
+    </message>
+    <message>
+        <source>Cloning Failed</source>
+        <translation>克隆失败</translation>
+    </message>
+    <message>
+        <source>Unable to write on destination disk.</source>
+        <translation>无法写入目标磁盘。</translation>
+    </message>
+    <message>
+        <source>Select other destination disk.</source>
+        <translation>请选择其他目标磁盘。</translation>
+    </message>
+    <message>
+        <source>Abort Clone</source>
+        <translation>中止克隆</translation>
+    </message>
+    <message>
+        <source>Cloning Aborted.</source>
+        <translation>克隆已中止。</translation>
+    </message>
+    <message>
+        <source>Disk Cloning complete.</source>
+        <translation>磁盘克隆完成。</translation>
+    </message>
+    <message>
+        <source>Disk cloning process completed successfully.</source>
+        <translation>磁盘克隆已成功完成。</translation>
+    </message>
+    <message>
+        <source>Cloning aborted.</source>
+        <translation>克隆已中止。</translation>
+    </message>
+    <message>
+        <source>Cloning process aborted by the user.</source>
+        <translation>用户已中止克隆过程。</translation>
+    </message>
+    <message>
+        <source>Disk Details</source>
+        <translation>磁盘详细信息</translation>
+    </message>
+    <message>
+        <source>Source Disk</source>
+        <translation>源磁盘</translation>
+    </message>
+    <message>
+        <source>Target Disk</source>
+        <translation>目标磁盘</translation>
+    </message>
+    <message>
+        <source>Remaining Time</source>
+        <translation>剩余时间</translation>
+    </message>
+    <message>
+        <source>Select Destination</source>
+        <translation>选择目标</translation>
+    </message>
+</context>
+<context>
+    <name>CloningWarningDialog</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Clone Disk</source>
+        <translation>克隆磁盘</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>This action will create a clone of the source drive on the destination drive. Make sure that source and destination disk selection is correct since this operation is irreversible.</source>
+        <translation>此操作将在目标驱动器上创建源驱动器的克隆。此操作不可撤销，请确保源磁盘和目标磁盘选择正确。</translation>
+    </message>
+    <message>
+        <source>Existing data on the destination disk will be lost.</source>
+        <translation>目标磁盘上的现有数据将会丢失。</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>开始</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>ConfarmetionDialog</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>否</translation>
+    </message>
+</context>
+<context>
+    <name>DestinitionWarningDailog</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Clone Disk</source>
+        <translation>克隆磁盘</translation>
+    </message>
+    <message>
+        <source>Select target disk.</source>
+        <translation>请选择目标磁盘。</translation>
+    </message>
+    <message>
+        <source>Select target disk to start cloning process.</source>
+        <translation>请选择目标磁盘以开始克隆。</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
+    <name>DiskPartition</name>
+    <message>
+        <source>Disk Partition</source>
+        <translation>磁盘分区</translation>
+    </message>
+    <message>
+        <source>Partition Details</source>
+        <translation>分区详细信息</translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>序列号</translation>
+    </message>
+    <message>
+        <source>Capacity</source>
+        <translation>容量</translation>
+    </message>
+    <message>
+        <source>Interface Type</source>
+        <translation>接口类型</translation>
+    </message>
+    <message>
+        <source>ATA Disk</source>
+        <translation>ATA 磁盘</translation>
+    </message>
+    <message>
+        <source>Partition</source>
+        <translation>分区</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>空间</translation>
+    </message>
+</context>
+<context>
+    <name>DiskStatus</name>
+    <message>
+        <source>Temperature</source>
+        <translation>温度</translation>
+    </message>
+    <message>
+        <source>Performance</source>
+        <translation>性能</translation>
+    </message>
+    <message>
+        <source>Health</source>
+        <translation>健康</translation>
+    </message>
+    <message>
+        <source>Disk Details</source>
+        <translation>磁盘详细信息</translation>
+    </message>
+    <message>
+        <source>Disk Number</source>
+        <translation>磁盘编号</translation>
+    </message>
+    <message>
+        <source>Model Number</source>
+        <translation>型号</translation>
+    </message>
+    <message>
+        <source>Firmware Revision</source>
+        <translation>固件版本</translation>
+    </message>
+    <message>
+        <source>Interface Type</source>
+        <translation>接口类型</translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>序列号</translation>
+    </message>
+    <message>
+        <source>Total Sectors</source>
+        <translation>扇区总数</translation>
+    </message>
+    <message>
+        <source>Hard Disk Life</source>
+        <translation>硬盘寿命</translation>
+    </message>
+    <message>
+        <source>Power-on Time</source>
+        <translation>通电时间</translation>
+    </message>
+    <message>
+        <source>Start/Stop Count</source>
+        <translation>启停次数</translation>
+    </message>
+    <message>
+        <source>Not Supported</source>
+        <translation>不支持</translation>
+    </message>
+</context>
+<context>
+    <name>DonutChartView</name>
+    <message>
+        <source>Disk </source>
+        <translation>磁盘 </translation>
+    </message>
+</context>
+<context>
+    <name>DownloadUpdate</name>
+    <message>
+        <source>Software Update</source>
+        <translation>软件更新</translation>
+    </message>
+    <message>
+        <source>Downloading Files</source>
+        <translation>正在下载文件</translation>
+    </message>
+    <message>
+        <source>Downloading under progress...</source>
+        <translation>正在下载...</translation>
+    </message>
+</context>
+<context>
+    <name>InfoDialog</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>信息</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Not Available</source>
+        <translation>不可用</translation>
+    </message>
+    <message>
+        <source>Disk Drive </source>
+        <translation>磁盘驱动器 </translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>英语</translation>
+    </message>
+    <message>
+        <source>German</source>
+        <translation>德语</translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation>法语</translation>
+    </message>
+    <message>
+        <source>Italian</source>
+        <translation>意大利语</translation>
+    </message>
+    <message>
+        <source>Spanish</source>
+        <translation>西班牙语</translation>
+    </message>
+    <message>
+        <source>Japanese</source>
+        <translation>日语</translation>
+    </message>
+    <message>
+        <source>Chinese</source>
+        <translation>中文</translation>
+    </message>
+    <message>
+        <source>Korean</source>
+        <translation>韩语</translation>
+    </message>
+    <message>
+        <source>Dutch</source>
+        <translation>荷兰语</translation>
+    </message>
+    <message>
+        <source>Brazil</source>
+        <translation>巴西</translation>
+    </message>
+    <message>
+        <source>Hindi</source>
+        <translation>印地语</translation>
+    </message>
+    <message>
+        <source>   Disk Status</source>
+        <translation>   磁盘状态</translation>
+    </message>
+    <message>
+        <source>View the health status of your hard disk</source>
+        <translation>查看硬盘的健康状态</translation>
+    </message>
+    <message>
+        <source>   SMART Status</source>
+        <translation>   SMART 状态</translation>
+    </message>
+    <message>
+        <source>Detailed SMART status of the hard disk</source>
+        <translation>硬盘的详细 SMART 状态</translation>
+    </message>
+    <message>
+        <source>   Disk Partition</source>
+        <translation>   磁盘分区</translation>
+    </message>
+    <message>
+        <source>View description of partitions in your hard disk</source>
+        <translation>查看硬盘分区的说明</translation>
+    </message>
+    <message>
+        <source>   Scan Disk</source>
+        <translation>   扫描磁盘</translation>
+    </message>
+    <message>
+        <source>Scan your hard disk for bad sectors</source>
+        <translation>扫描硬盘上的坏扇区</translation>
+    </message>
+    <message>
+        <source>   Clone Disk</source>
+        <translation>   克隆磁盘</translation>
+    </message>
+    <message>
+        <source>Clone hard disk to avoid impending disk issues</source>
+        <translation>克隆硬盘，防患于未然</translation>
+    </message>
+    <message>
+        <source>Extended Self-test</source>
+        <translation>扩展自检</translation>
+    </message>
+    <message>
+        <source>Short Self-test</source>
+        <translation>快速自检</translation>
+    </message>
+    <message>
+        <source>Aborted by User</source>
+        <translation>已被用户中止</translation>
+    </message>
+    <message>
+        <source>Successfully Completed</source>
+        <translation>已成功完成</translation>
+    </message>
+    <message>
+        <source>Failed by Read Element</source>
+        <translation>读取部件失败</translation>
+    </message>
+    <message>
+        <source>Not available</source>
+        <translation>不可用</translation>
+    </message>
+    <message>
+        <source> days</source>
+        <translation> 天</translation>
+    </message>
+    <message>
+        <source> hours</source>
+        <translation> 小时</translation>
+    </message>
+    <message>
+        <source>More than 1000</source>
+        <translation>超过 1000</translation>
+    </message>
+    <message>
+        <source>ID#</source>
+        <translation>ID#</translation>
+    </message>
+    <message>
+        <source>ATTRIBUTE_NAME</source>
+        <translation>ATTRIBUTE_NAME</translation>
+    </message>
+    <message>
+        <source>FLAG</source>
+        <translation>FLAG</translation>
+    </message>
+    <message>
+        <source>VALUE</source>
+        <translation>VALUE</translation>
+    </message>
+    <message>
+        <source>SMART/Health Information (NVMe Log</source>
+        <translation>SMART/Health Information (NVMe Log</translation>
+    </message>
+    <message>
+        <source>Good</source>
+        <translation>良好</translation>
+    </message>
+    <message>
+        <source>Bad</source>
+        <translation>不良</translation>
+    </message>
+    <message>
+        <source>Not Supported</source>
+        <translation>不支持</translation>
+    </message>
+    <message>
+        <source>Supported</source>
+        <translation>支持</translation>
+    </message>
+    <message>
+        <source>NA</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Disk Information:</source>
+        <translation>磁盘信息：</translation>
+    </message>
+    <message>
+        <source>S.M.A.R.T. Details:</source>
+        <translation>S.M.A.R.T. 详细信息：</translation>
+    </message>
+    <message>
+        <source>Model Number:</source>
+        <translation>型号：</translation>
+    </message>
+    <message>
+        <source>Serial Number:</source>
+        <translation>序列号：</translation>
+    </message>
+    <message>
+        <source>Firmware Version:</source>
+        <translation>固件版本：</translation>
+    </message>
+    <message>
+        <source>Capacity:</source>
+        <translation>容量：</translation>
+    </message>
+    <message>
+        <source>Sector Size:</source>
+        <translation>扇区大小：</translation>
+    </message>
+    <message>
+        <source>Local  Time:</source>
+        <translation>本地时间：</translation>
+    </message>
+    <message>
+        <source>Maximum Data Transfer Size:</source>
+        <translation>最大数据传输大小：</translation>
+    </message>
+    <message>
+        <source>SMART Status:</source>
+        <translation>SMART 状态：</translation>
+    </message>
+    <message>
+        <source>Current Temperature:</source>
+        <translation>当前温度：</translation>
+    </message>
+    <message>
+        <source>Performance:</source>
+        <translation>性能：</translation>
+    </message>
+    <message>
+        <source>Health:</source>
+        <translation>健康：</translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>Attribute Name</source>
+        <translation>属性名称</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>Self Test Details:</source>
+        <translation>自检详细信息：</translation>
+    </message>
+    <message>
+        <source>S.M.A.R.T. Details</source>
+        <translation>S.M.A.R.T. 详细信息</translation>
+    </message>
+    <message>
+        <source>Make:</source>
+        <translation>制造商：</translation>
+    </message>
+    <message>
+        <source>Rotation Rate:</source>
+        <translation>转速：</translation>
+    </message>
+    <message>
+        <source>ATA Version:</source>
+        <translation>ATA 版本：</translation>
+    </message>
+    <message>
+        <source>SATA Version:</source>
+        <translation>SATA 版本：</translation>
+    </message>
+    <message>
+        <source>Short Self-test:</source>
+        <translation>快速自检：</translation>
+    </message>
+    <message>
+        <source>Estimated Completion Time:</source>
+        <translation>预计完成时间：</translation>
+    </message>
+    <message>
+        <source>Extended Self-test:</source>
+        <translation>扩展自检：</translation>
+    </message>
+    <message>
+        <source>Last Run Self-test:</source>
+        <translation>上次运行的自检：</translation>
+    </message>
+    <message>
+        <source>Last Self-Test Result:</source>
+        <translation>上次自检结果：</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>当前值</translation>
+    </message>
+    <message>
+        <source>Worst</source>
+        <translation>最差值</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>阈值</translation>
+    </message>
+    <message>
+        <source>Raw Value</source>
+        <translation>原始值</translation>
+    </message>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>S.M.A.R.T. Report</source>
+        <translation>S.M.A.R.T. 报告</translation>
+    </message>
+    <message>
+        <source>The information contained in this report has been generated by the Velmora Halvane profiling process.</source>
+        <translation>本报告中的信息由 Velmora Halvane 分析过程生成。</translation>
+    </message>
+    <message>
+        <source>Velmora Halvane is a product of Korvane.</source>
+        <translation>Velmora Halvane 是 Korvane 的产品。</translation>
+    </message>
+    <message>
+        <source>Velmora Halvane is a product of Velmora.</source>
+        <translation>Velmora Halvane 是 Velmora 的产品。</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>失败</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Passed</source>
+        <translation>通过</translation>
+    </message>
+    <message>
+        <source>Source disk:     </source>
+        <translation>源磁盘：     </translation>
+    </message>
+    <message>
+        <source>Destination disk:    </source>
+        <translation>目标磁盘：    </translation>
+    </message>
+    <message>
+        <source>Clone Disk</source>
+        <translation>克隆磁盘</translation>
+    </message>
+    <message>
+        <source>Clone Running.</source>
+        <translation>正在克隆。</translation>
+    </message>
+    <message>
+        <source>Cloning process running.</source>
+        <translation>克隆过程正在运行。</translation>
+    </message>
+    <message>
+        <source>Please halt the clone process to exit.</source>
+        <translation>请先停止克隆再退出。</translation>
+    </message>
+    <message>
+        <source>Scan Disk</source>
+        <translation>扫描磁盘</translation>
+    </message>
+    <message>
+        <source>Scaning Running.</source>
+        <translation>正在扫描。</translation>
+    </message>
+    <message>
+        <source>Disk scan running.</source>
+        <translation>磁盘扫描正在运行。</translation>
+    </message>
+    <message>
+        <source>Please halt the scan process to exit.</source>
+        <translation>请先停止扫描再退出。</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>开始</translation>
+    </message>
+    <message>
+        <source>Clone</source>
+        <translation>克隆</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>返回</translation>
+    </message>
+    <message>
+        <source>Save Report</source>
+        <translation>保存报告</translation>
+    </message>
+    <message>
+        <source>Screenshot</source>
+        <translation>屏幕截图</translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>序列号</translation>
+    </message>
+    <message>
+        <source>SMART Status</source>
+        <translation>SMART 状态</translation>
+    </message>
+    <message>
+        <source>View Velmora Halvane help document</source>
+        <translation>查看 Velmora Halvane 帮助文档</translation>
+    </message>
+    <message>
+        <source>More Tools</source>
+        <translation>更多工具</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>关于</translation>
+    </message>
+    <message>
+        <source>Recover Data</source>
+        <translation>恢复数据</translation>
+    </message>
+    <message>
+        <source>Repair Video</source>
+        <translation>修复视频</translation>
+    </message>
+    <message>
+        <source>Repair Photo</source>
+        <translation>修复照片</translation>
+    </message>
+    <message>
+        <source>Select Destination</source>
+        <translation>选择目标</translation>
+    </message>
+    <message>
+        <source>Please wait. Application Refreshing...</source>
+        <translation>请稍候。正在刷新...</translation>
+    </message>
+    <message>
+        <source>Stop Clone</source>
+        <translation>停止克隆</translation>
+    </message>
+    <message>
+        <source>Cloning can not be resumed from the current stage.</source>
+        <translation>克隆无法从当前阶段继续。</translation>
+    </message>
+    <message>
+        <source>Do you wish to abort the cloning?</source>
+        <translation>要中止克隆吗？</translation>
+    </message>
+    <message>
+        <source>Stop Scan</source>
+        <translation>停止扫描</translation>
+    </message>
+    <message>
+        <source>Scan can not be resumed from the current stage.</source>
+        <translation>扫描无法从当前阶段继续。</translation>
+    </message>
+    <message>
+        <source>Do you wish to abort the scan?</source>
+        <translation>要中止扫描吗？</translation>
+    </message>
+    <message>
+        <source>(BitLocker)</source>
+        <translation>(BitLocker)</translation>
+    </message>
+    <message>
+        <source>No Partition Found</source>
+        <translation>未找到分区</translation>
+    </message>
+    <message>
+        <source>Save File</source>
+        <translation>保存文件</translation>
+    </message>
+    <message>
+        <source>Self-test can not be resumed from the current stage.</source>
+        <translation>自检无法从当前阶段继续。</translation>
+    </message>
+    <message>
+        <source>Do you wish to abort the Self-test?</source>
+        <translation>要中止自检吗？</translation>
+    </message>
+    <message>
+        <source>ATA Disk</source>
+        <translation>ATA 磁盘</translation>
+    </message>
+    <message>
+        <source>Please wait. Getting SMART information...</source>
+        <translation>请稍候。正在获取 SMART 信息...</translation>
+    </message>
+    <message>
+        <source>Performance</source>
+        <translation>性能</translation>
+    </message>
+    <message>
+        <source>Health</source>
+        <translation>健康</translation>
+    </message>
+    <message>
+        <source>Hard Disk Life</source>
+        <translation>硬盘寿命</translation>
+    </message>
+    <message>
+        <source>Power-on Time</source>
+        <translation>通电时间</translation>
+    </message>
+    <message>
+        <source>Start/Stop Count</source>
+        <translation>启停次数</translation>
+    </message>
+    <message>
+        <source>Graph : </source>
+        <translation>图表： </translation>
+    </message>
+    <message>
+        <source>Running, no problems found</source>
+        <translation>正在运行，未发现问题</translation>
+    </message>
+    <message>
+        <source>Test failed by Read Element</source>
+        <translation>测试因读取部件而失败</translation>
+    </message>
+    <message>
+        <source>Test Aborted by User</source>
+        <translation>测试已被用户中止</translation>
+    </message>
+    <message>
+        <source> minutes</source>
+        <translation> 分钟</translation>
+    </message>
+    <message>
+        <source>Healthy</source>
+        <translation>正常</translation>
+    </message>
+    <message>
+        <source>Not Healthy</source>
+        <translation>异常</translation>
+    </message>
+    <message>
+        <source>% Free</source>
+        <translation>% 可用</translation>
+    </message>
+    <message>
+        <source> Free of </source>
+        <translation> 可用，共 </translation>
+    </message>
+    <message>
+        <source> Available</source>
+        <translation> 可用</translation>
+    </message>
+</context>
+<context>
+    <name>QCheckUpdate</name>
+    <message>
+        <source>No update available.</source>
+        <translation>没有可用的更新。</translation>
+    </message>
+</context>
+<context>
+    <name>QDownloadApp</name>
+    <message>
+        <source>Downloading under progress...</source>
+        <translation>正在下载...</translation>
+    </message>
+    <message>
+        <source>Time Elapsed: </source>
+        <translation>已用时间： </translation>
+    </message>
+    <message>
+        <source> sec </source>
+        <translation> 秒 </translation>
+    </message>
+    <message>
+        <source> MB copied) </source>
+        <translation> MB 已复制) </translation>
+    </message>
+    <message>
+        <source> MB of  </source>
+        <translation> MB /  </translation>
+    </message>
+    <message>
+        <source>Transfer Rate: </source>
+        <translation>传输速率： </translation>
+    </message>
+    <message>
+        <source> KB/sec </source>
+        <translation> KB/秒 </translation>
+    </message>
+    <message>
+        <source>Software Update</source>
+        <translation>软件更新</translation>
+    </message>
+    <message>
+        <source>Update failed 
+
+Update failed due to partial download.</source>
+        <translation>更新失败 
+
+由于下载不完整，更新失败。</translation>
+    </message>
+</context>
+<context>
+    <name>QGridView</name>
+    <message>
+        <source> to </source>
+        <translation> 至 </translation>
+    </message>
+    <message>
+        <source>Start Sector of current block: </source>
+        <translation>当前块的起始扇区: </translation>
+    </message>
+    <message>
+        <source>End Sector of current block: </source>
+        <translation>当前块的结束扇区: </translation>
+    </message>
+    <message>
+        <source>Current Block Size : </source>
+        <translation>当前块大小 : </translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> MB</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Velmora Halvane already running. Cannot start more than one instance of the application.</source>
+        <translation>Velmora Halvane 已在运行。无法启动多个应用程序实例。</translation>
+    </message>
+</context>
+<context>
+    <name>QRoundProgressBar</name>
+    <message>
+        <source>Complete</source>
+        <translation>已完成</translation>
+    </message>
+</context>
+<context>
+    <name>QShowUpdate</name>
+    <message>
+        <source>A new major release </source>
+        <translation>新的主要版本 </translation>
+    </message>
+    <message>
+        <source>A new minor update </source>
+        <translation>新的次要更新 </translation>
+    </message>
+    <message>
+        <source> is available. Click Update to proceed further.</source>
+        <translation> 已发布。请单击“更新”继续。</translation>
+    </message>
+    <message>
+        <source>Visit Update Page</source>
+        <translation>访问更新页面</translation>
+    </message>
+</context>
+<context>
+    <name>QWaitClass</name>
+    <message>
+        <source>Initializing Velmora Halvane...</source>
+        <translation>正在初始化 Velmora Halvane...</translation>
+    </message>
+</context>
+<context>
+    <name>ScanDisk</name>
+    <message>
+        <source> hours</source>
+        <translation> 小时</translation>
+    </message>
+    <message>
+        <source> minutes</source>
+        <translation> 分钟</translation>
+    </message>
+    <message>
+        <source> seconds</source>
+        <translation> 秒</translation>
+    </message>
+    <message>
+        <source>Scan Disk</source>
+        <translation>扫描磁盘</translation>
+    </message>
+    <message>
+        <source>Disk Size</source>
+        <translation>磁盘大小</translation>
+    </message>
+    <message>
+        <source>Total Sectors</source>
+        <translation>扇区总数</translation>
+    </message>
+    <message>
+        <source>Block Size</source>
+        <translation>块大小</translation>
+    </message>
+    <message>
+        <source>  Processed</source>
+        <translation>  已处理</translation>
+    </message>
+    <message>
+        <source>  Bad Sectors</source>
+        <translation>  坏扇区</translation>
+    </message>
+    <message>
+        <source>  Processing</source>
+        <translation>  处理中</translation>
+    </message>
+    <message>
+        <source>Short Self-test</source>
+        <translation>快速自检</translation>
+    </message>
+    <message>
+        <source>Extended Self-test</source>
+        <translation>扩展自检</translation>
+    </message>
+    <message>
+        <source>Perform a surface scan on the selected disk to identify if the disk has bad sectors.</source>
+        <translation>对所选磁盘进行表面扫描，检查磁盘是否有坏扇区。</translation>
+    </message>
+    <message>
+        <source>Run this test to check the electrical and mechanical performance of a device along with the read/write operations on a portion of the disk. This test may take few minutes to complete.</source>
+        <translation>此测试检查设备的电气和机械性能，以及磁盘部分区域的读写操作。测试可能需要几分钟。</translation>
+    </message>
+    <message>
+        <source>This test is same as a short self-test with a complete disk surface examination. This test may take up to few hours to complete.</source>
+        <translation>此测试与快速自检相同，并会检查整个磁盘表面。测试可能需要几个小时。</translation>
+    </message>
+    <message>
+        <source>Time Remaining</source>
+        <translation>剩余时间</translation>
+    </message>
+    <message>
+        <source>Time Elapsed</source>
+        <translation>已用时间</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> MB</translation>
+    </message>
+    <message>
+        <source>Disk Scan</source>
+        <translation>磁盘扫描</translation>
+    </message>
+    <message>
+        <source>Disk scan aborted.</source>
+        <translation>磁盘扫描已中止。</translation>
+    </message>
+    <message>
+        <source>Disk scan aborted by user.</source>
+        <translation>用户已中止磁盘扫描。</translation>
+    </message>
+    <message>
+        <source>Scan Completed</source>
+        <translation>扫描完成</translation>
+    </message>
+    <message>
+        <source>Scan Completed.</source>
+        <translation>扫描已完成。</translation>
+    </message>
+    <message>
+        <source>Scan Failed</source>
+        <translation>扫描失败</translation>
+    </message>
+    <message>
+        <source>Scan Failed.</source>
+        <translation>扫描失败。</translation>
+    </message>
+</context>
+<context>
+    <name>ScanSwitchDialog</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Scan Disk</source>
+        <translation>扫描磁盘</translation>
+    </message>
+    <message>
+        <source>Scan results will be lost if you move away from this screen. </source>
+        <translation>离开此屏幕将丢失扫描结果。 </translation>
+    </message>
+    <message>
+        <source>Do you want to move away from this screen?</source>
+        <translation>要离开此屏幕吗？</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>否</translation>
+    </message>
+</context>
+<context>
+    <name>SelfTestNotSupportedDialog</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Drive Test</source>
+        <translation>驱动器测试</translation>
+    </message>
+    <message>
+        <source>Self-test not supported.</source>
+        <translation>不支持自检。</translation>
+    </message>
+    <message>
+        <source>Selected disk doesn&apos;t support self test.</source>
+        <translation>所选磁盘不支持自检。</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
+    <name>SelfTestPanelForm</name>
+    <message>
+        <source>Model</source>
+        <translation>型号</translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>序列号</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Polling Time</source>
+        <translation>预计时间</translation>
+    </message>
+    <message>
+        <source>Time Remaining</source>
+        <translation>剩余时间</translation>
+    </message>
+    <message>
+        <source>Time Elapsed</source>
+        <translation>已用时间</translation>
+    </message>
+</context>
+<context>
+    <name>Settings</name>
+    <message>
+        <source>Check for Updates</source>
+        <translation>检查更新</translation>
+    </message>
+    <message>
+        <source>View Velmora Halvane help document</source>
+        <translation>查看 Velmora Halvane 帮助文档</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>语言</translation>
+    </message>
+    <message>
+        <source>Save log file</source>
+        <translation>保存日志文件</translation>
+    </message>
+    <message>
+        <source>Your Software has all latest updates installed.</source>
+        <translation>您的软件已安装所有最新更新。</translation>
+    </message>
+</context>
+<context>
+    <name>ShowUpdateAvail</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>SmallMsg</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+</context>
+<context>
+    <name>SmartShutdownDialog</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Shutdown Warning</source>
+        <translation>关机警告</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Hard Disk&apos;s temperature has reached the shutdown value.</source>
+        <translation>硬盘温度已达到关机值。</translation>
+    </message>
+    <message>
+        <source>It is advisable to shutdown the system immediately.</source>
+        <translation>建议立即关闭系统。</translation>
+    </message>
+    <message>
+        <source>Shutdown</source>
+        <translation>关机</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+</context>
+<context>
+    <name>SmartStatus</name>
+    <message>
+        <source>     ID</source>
+        <translation>     ID</translation>
+    </message>
+    <message>
+        <source>Attribute Name</source>
+        <translation>属性名称</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>当前值</translation>
+    </message>
+    <message>
+        <source>Worst</source>
+        <translation>最差值</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>阈值</translation>
+    </message>
+    <message>
+        <source>Raw Value</source>
+        <translation>原始值</translation>
+    </message>
+    <message>
+        <source>Updated</source>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>失败</translation>
+    </message>
+    <message>
+        <source>Better</source>
+        <translation>改善</translation>
+    </message>
+    <message>
+        <source>Overall Status</source>
+        <translation>总体状态</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>AttName</source>
+        <translation>AttName</translation>
+    </message>
+    <message>
+        <source>SMART Status : </source>
+        <translation>SMART 状态 : </translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>序列号</translation>
+    </message>
+    <message>
+        <source>Capacity</source>
+        <translation>容量</translation>
+    </message>
+    <message>
+        <source>Interface Type</source>
+        <translation>接口类型</translation>
+    </message>
+    <message>
+        <source>Save Report</source>
+        <translation>保存报告</translation>
+    </message>
+    <message>
+        <source>Smart Status</source>
+        <translation>SMART 状态</translation>
+    </message>
+    <message>
+        <source>PASSED</source>
+        <translation>通过</translation>
+    </message>
+    <message>
+        <source>Passed</source>
+        <translation>通过</translation>
+    </message>
+    <message>
+        <source>Graph</source>
+        <translation>图表</translation>
+    </message>
+    <message>
+        <source>FAIELD</source>
+        <translation>失败</translation>
+    </message>
+    <message>
+        <source>ATA Disk</source>
+        <translation>ATA 磁盘</translation>
+    </message>
+</context>
+<context>
+    <name>SmartWarningDialog</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>SMART Warning</source>
+        <translation>SMART 警告</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Hard Disk&apos;s temperature exceed the threshold value.</source>
+        <translation>硬盘温度超过阈值。</translation>
+    </message>
+    <message>
+        <source>Your hard disk&apos;s temperature has exceeded threshold value. This may damage hard disk. It is advisable to shutdown the system immediately.</source>
+        <translation>硬盘温度已超过阈值，可能会损坏硬盘。建议立即关闭系统。</translation>
+    </message>
+    <message>
+        <source>Don&apos;t show again</source>
+        <translation>不再显示</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+</context>
+<context>
+    <name>m_pCloseWgt</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>退出</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to exit?</source>
+        <translation>确定要退出吗？</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>否</translation>
+    </message>
+</context>
+<context>
+    <name>m_pDiskStatus</name>
+    <message>
+        <source>Disk Details</source>
+        <translation>磁盘详细信息</translation>
+    </message>
+    <message>
+        <source>Disk Number</source>
+        <translation>磁盘编号</translation>
+    </message>
+    <message>
+        <source>Model Number</source>
+        <translation>型号</translation>
+    </message>
+    <message>
+        <source>Firmware Revision</source>
+        <translation>固件版本</translation>
+    </message>
+    <message>
+        <source>Interface Type</source>
+        <translation>接口类型</translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>序列号</translation>
+    </message>
+    <message>
+        <source>Total Sectors</source>
+        <translation>扇区总数</translation>
+    </message>
+    <message>
+        <source>Hard Disk Life</source>
+        <translation>硬盘寿命</translation>
+    </message>
+    <message>
+        <source>Power-on Time</source>
+        <translation>通电时间</translation>
+    </message>
+    <message>
+        <source>Start/Stop Count</source>
+        <translation>启停次数</translation>
+    </message>
+</context>
+<context>
+    <name>m_pMainWindow</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>序列号</translation>
+    </message>
+    <message>
+        <source>SMART Status</source>
+        <translation>SMART 状态</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>返回</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>开始</translation>
+    </message>
+    <message>
+        <source>Clone</source>
+        <translation>克隆</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Save Report</source>
+        <translation>保存报告</translation>
+    </message>
+    <message>
+        <source>Screenshot</source>
+        <translation>屏幕截图</translation>
+    </message>
+</context>
+<context>
+    <name>m_pSettingswgt</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>  Settings</source>
+        <translation>  设置</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>常规</translation>
+    </message>
+    <message>
+        <source>Show status in tray</source>
+        <translation>在托盘中显示状态</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>英语</translation>
+    </message>
+    <message>
+        <source>German</source>
+        <translation>德语</translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation>法语</translation>
+    </message>
+    <message>
+        <source>Italian</source>
+        <translation>意大利语</translation>
+    </message>
+    <message>
+        <source>Spanish</source>
+        <translation>西班牙语</translation>
+    </message>
+    <message>
+        <source>Dutch</source>
+        <translation>荷兰语</translation>
+    </message>
+    <message>
+        <source>Portuguese (Brazil)</source>
+        <translation>葡萄牙语（巴西）</translation>
+    </message>
+    <message>
+        <source>Hindi</source>
+        <translation>印地语</translation>
+    </message>
+    <message>
+        <source>LOGS</source>
+        <translation>日志</translation>
+    </message>
+    <message>
+        <source>Save log file</source>
+        <translation>保存日志文件</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>Max log size (KB)</source>
+        <translation>日志大小上限 (KB)</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>温度</translation>
+    </message>
+    <message>
+        <source>Show Temperature in</source>
+        <translation>温度显示单位</translation>
+    </message>
+    <message>
+        <source>Celsius</source>
+        <translation>摄氏度</translation>
+    </message>
+    <message>
+        <source>Fahrenheit</source>
+        <translation>华氏度</translation>
+    </message>
+    <message>
+        <source>Enable Temperature Alarm</source>
+        <translation>启用温度警报</translation>
+    </message>
+    <message>
+        <source>Warning Temperature</source>
+        <translation>警告温度</translation>
+    </message>
+    <message>
+        <source>°C</source>
+        <translation>°C</translation>
+    </message>
+    <message>
+        <source>°F</source>
+        <translation>°F</translation>
+    </message>
+    <message>
+        <source>Shutdown Temperature</source>
+        <translation>关机温度</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,1850 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="nl_NL" sourcelanguage="en_US">
+<context>
+    <name>AttributeCatalogue</name>
+    <message>
+        <source>Raw Read Error Rate</source>
+        <translation>Leesfoutfrequentie (ruw)</translation>
+    </message>
+    <message>
+        <source>Spin Up Time</source>
+        <translation>Opspintijd</translation>
+    </message>
+    <message>
+        <source>Start Stop Count</source>
+        <translation>Start-stopcycli</translation>
+    </message>
+    <message>
+        <source>Reallocated Sector Count</source>
+        <translation>Opnieuw toegewezen sectoren</translation>
+    </message>
+    <message>
+        <source>Seek Error Rate</source>
+        <translation>Zoekfoutfrequentie</translation>
+    </message>
+    <message>
+        <source>Power On Hours</source>
+        <translation>Bedrijfsuren</translation>
+    </message>
+    <message>
+        <source>Spin Retry Count</source>
+        <translation>Herhaalde opspinpogingen</translation>
+    </message>
+    <message>
+        <source>Calibration Retry Count</source>
+        <translation>Herhaalde kalibraties</translation>
+    </message>
+    <message>
+        <source>Power Cycle Count</source>
+        <translation>Aantal inschakelingen</translation>
+    </message>
+    <message>
+        <source>Power-Off Retract Count</source>
+        <translation>Koppen geparkeerd bij uitval</translation>
+    </message>
+    <message>
+        <source>Load Cycle Count</source>
+        <translation>Laadcycli van de koppen</translation>
+    </message>
+    <message>
+        <source>Temperature Celsius</source>
+        <translation>Temperatuur (Celsius)</translation>
+    </message>
+    <message>
+        <source>Reallocated Event Count</source>
+        <translation>Hertoewijzingen</translation>
+    </message>
+    <message>
+        <source>Current Pending Sector Count</source>
+        <translation>Sectoren in afwachting</translation>
+    </message>
+    <message>
+        <source>Offline Uncorrectable</source>
+        <translation>Offline niet te corrigeren</translation>
+    </message>
+    <message>
+        <source>UDMA CRC Error Count</source>
+        <translation>UDMA-CRC-fouten</translation>
+    </message>
+    <message>
+        <source>Multi Zone Error Rate</source>
+        <translation>Multizone-foutfrequentie</translation>
+    </message>
+    <message>
+        <source>Available Reserved Space</source>
+        <translation>Beschikbare reserveruimte</translation>
+    </message>
+    <message>
+        <source>SSD Program Fail Count</source>
+        <translation>SSD-programmeerfouten</translation>
+    </message>
+    <message>
+        <source>SSD Erase Fail Count</source>
+        <translation>SSD-wisfouten</translation>
+    </message>
+    <message>
+        <source>SSD Wear Leveling Count</source>
+        <translation>SSD-wear-levelingteller</translation>
+    </message>
+    <message>
+        <source>Unexpected power loss count</source>
+        <translation>Onverwachte stroomuitval</translation>
+    </message>
+    <message>
+        <source>Throughput Performance</source>
+        <translation>Doorvoerprestaties</translation>
+    </message>
+    <message>
+        <source>Read Channel Margin</source>
+        <translation>Marge leeskanaal</translation>
+    </message>
+    <message>
+        <source>Seek Time Performance</source>
+        <translation>Zoektijdprestaties</translation>
+    </message>
+    <message>
+        <source>Soft Read Error Rate</source>
+        <translation>Frequentie zachte leesfouten</translation>
+    </message>
+    <message>
+        <source>Runtime Bad Block</source>
+        <translation>Slechte blokken in gebruik</translation>
+    </message>
+    <message>
+        <source>End-to-End Error </source>
+        <translation>End-to-end-fouten </translation>
+    </message>
+    <message>
+        <source>Reported Uncorrect</source>
+        <translation>Gemeld als niet te corrigeren</translation>
+    </message>
+    <message>
+        <source>Command Timeout</source>
+        <translation>Time-outs van opdrachten</translation>
+    </message>
+    <message>
+        <source>High Fly Writes</source>
+        <translation>Schrijven bij hoge vlieghoogte</translation>
+    </message>
+    <message>
+        <source>Airflow Temperature Cel</source>
+        <translation>Luchtstroomtemperatuur (°C)</translation>
+    </message>
+    <message>
+        <source>G-Sense Error Rate</source>
+        <translation>G-sensorfoutfrequentie</translation>
+    </message>
+    <message>
+        <source>Hardware ECC Recovered</source>
+        <translation>Hardware-ECC-correcties</translation>
+    </message>
+    <message>
+        <source>Multi Zone Error Rate </source>
+        <translation>Multizone-foutfrequentie </translation>
+    </message>
+    <message>
+        <source>Write Error Rate</source>
+        <translation>Schrijffoutfrequentie</translation>
+    </message>
+    <message>
+        <source>Head Flying Hours</source>
+        <translation>Vlieguren van de koppen</translation>
+    </message>
+    <message>
+        <source>Total LBAs Written</source>
+        <translation>Totaal geschreven LBA&apos;s</translation>
+    </message>
+    <message>
+        <source>Total LBAs Read</source>
+        <translation>Totaal gelezen LBA&apos;s</translation>
+    </message>
+    <message>
+        <source>Free Fall Sensor</source>
+        <translation>Vrijevalsensor</translation>
+    </message>
+    <message>
+        <source>Critical Warning</source>
+        <translation>Kritieke waarschuwing</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperatuur</translation>
+    </message>
+    <message>
+        <source>Available Spare</source>
+        <translation>Beschikbare reserve</translation>
+    </message>
+    <message>
+        <source>Available Spare Threshold</source>
+        <translation>Drempel voor de reserve</translation>
+    </message>
+    <message>
+        <source>Percentage Used</source>
+        <translation>Verbruikte levensduur</translation>
+    </message>
+    <message>
+        <source>Data Units Read</source>
+        <translation>Gelezen gegevenseenheden</translation>
+    </message>
+    <message>
+        <source>Data Units Written</source>
+        <translation>Geschreven gegevenseenheden</translation>
+    </message>
+    <message>
+        <source>Host Read Commands</source>
+        <translation>Leesopdrachten van de host</translation>
+    </message>
+    <message>
+        <source>Host Write Commands</source>
+        <translation>Schrijfopdrachten van de host</translation>
+    </message>
+    <message>
+        <source>Controller Busy Time</source>
+        <translation>Actieve tijd van de controller</translation>
+    </message>
+    <message>
+        <source>Power Cyles</source>
+        <translation>Aantal inschakelingen</translation>
+    </message>
+    <message>
+        <source>Unsafe Shutdowns</source>
+        <translation>Onveilige afsluitingen</translation>
+    </message>
+    <message>
+        <source>Media and Data Integrity Errors</source>
+        <translation>Media- en gegevensintegriteitsfouten</translation>
+    </message>
+    <message>
+        <source>Error Information Log Entries</source>
+        <translation>Vermeldingen in het foutenlogboek</translation>
+    </message>
+</context>
+<context>
+    <name>AttributeRows</name>
+    <message>
+        <source>FAILED</source>
+        <translation>MISLUKT</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>CheckUpdate</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Checking for updates...</source>
+        <translation>Controleren op updates...</translation>
+    </message>
+</context>
+<context>
+    <name>CloneDisk</name>
+    <message>
+        <source>Not Available</source>
+        <translation>Niet beschikbaar</translation>
+    </message>
+    <message>
+        <source>Disk Number 	: </source>
+        <translation>Schijfnummer 	: </translation>
+    </message>
+    <message>
+        <source>Model Number	: </source>
+        <translation>Modelnummer	: </translation>
+    </message>
+    <message>
+        <source>Serial: </source>
+        <translation>Serienr.: </translation>
+    </message>
+    <message>
+        <source>Firmware Revision : </source>
+        <translation>Firmwareversie : </translation>
+    </message>
+    <message>
+        <source>Interface Type	   : </source>
+        <translation>Interface	   : </translation>
+    </message>
+    <message>
+        <source>Capacity	: </source>
+        <translation>Capaciteit	: </translation>
+    </message>
+    <message>
+        <source>Total Sector	   : </source>
+        <translation>Aantal sectoren	   : </translation>
+    </message>
+    <message>
+        <source>Model Number : </source>
+        <translation>Modelnummer : </translation>
+    </message>
+    <message>
+        <source>Capacity           : </source>
+        <translation>Capaciteit           : </translation>
+    </message>
+    <message>
+        <source>ATA Disk</source>
+        <translation>ATA-schijf</translation>
+    </message>
+    <message>
+        <source> hours</source>
+        <translation> uur</translation>
+    </message>
+    <message>
+        <source> minutes</source>
+        <translation> minuten</translation>
+    </message>
+    <message>
+        <source> seconds</source>
+        <translation> seconden</translation>
+    </message>
+    <message>
+        <source>Source and destination disks are same.</source>
+        <translation>De bronschijf en de doelschijf zijn dezelfde.</translation>
+    </message>
+    <message>
+        <source>Destination disk size is smaller than source disk.</source>
+        <translation>De doelschijf is kleiner dan de bronschijf.</translation>
+    </message>
+    <message>
+        <source>Clone Disk</source>
+        <translation>Schijf klonen</translation>
+    </message>
+    <message>
+        <source>Select different destination disk.</source>
+        <translation>Selecteer een andere doelschijf.</translation>
+    </message>
+    <message>
+        <source>Cloning Failed</source>
+        <translation>Klonen mislukt</translation>
+    </message>
+    <message>
+        <source>Unable to write on destination disk.</source>
+        <translation>Kan niet naar de doelschijf schrijven.</translation>
+    </message>
+    <message>
+        <source>Select other destination disk.</source>
+        <translation>Selecteer een andere doelschijf.</translation>
+    </message>
+    <message>
+        <source>Abort Clone</source>
+        <translation>Klonen afbreken</translation>
+    </message>
+    <message>
+        <source>Cloning Aborted.</source>
+        <translation>Klonen afgebroken.</translation>
+    </message>
+    <message>
+        <source>Disk Cloning complete.</source>
+        <translation>Klonen van de schijf voltooid.</translation>
+    </message>
+    <message>
+        <source>Disk cloning process completed successfully.</source>
+        <translation>De schijf is met succes gekloond.</translation>
+    </message>
+    <message>
+        <source>Cloning aborted.</source>
+        <translation>Klonen afgebroken.</translation>
+    </message>
+    <message>
+        <source>Cloning process aborted by the user.</source>
+        <translation>Het klonen is door de gebruiker afgebroken.</translation>
+    </message>
+    <message>
+        <source>Disk Details</source>
+        <translation>Schijfdetails</translation>
+    </message>
+    <message>
+        <source>Source Disk</source>
+        <translation>Bronschijf</translation>
+    </message>
+    <message>
+        <source>Target Disk</source>
+        <translation>Doelschijf</translation>
+    </message>
+    <message>
+        <source>Remaining Time</source>
+        <translation>Resterende tijd</translation>
+    </message>
+    <message>
+        <source>Select Destination</source>
+        <translation>Doel selecteren</translation>
+    </message>
+</context>
+<context>
+    <name>CloningWarningDialog</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Clone Disk</source>
+        <translation>Schijf klonen</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Waarschuwing</translation>
+    </message>
+    <message>
+        <source>This action will create a clone of the source drive on the destination drive. Make sure that source and destination disk selection is correct since this operation is irreversible.</source>
+        <translation>Met deze bewerking wordt een kloon van de bronschijf op de doelschijf gemaakt. Controleer of de bronschijf en de doelschijf juist zijn geselecteerd, want deze bewerking kan niet ongedaan worden gemaakt.</translation>
+    </message>
+    <message>
+        <source>Existing data on the destination disk will be lost.</source>
+        <translation>Bestaande gegevens op de doelschijf gaan verloren.</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+</context>
+<context>
+    <name>ConfarmetionDialog</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nee</translation>
+    </message>
+</context>
+<context>
+    <name>DestinitionWarningDailog</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Clone Disk</source>
+        <translation>Schijf klonen</translation>
+    </message>
+    <message>
+        <source>Select target disk.</source>
+        <translation>Selecteer de doelschijf.</translation>
+    </message>
+    <message>
+        <source>Select target disk to start cloning process.</source>
+        <translation>Selecteer de doelschijf om het klonen te starten.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+</context>
+<context>
+    <name>DiskPartition</name>
+    <message>
+        <source>Disk Partition</source>
+        <translation>Partities</translation>
+    </message>
+    <message>
+        <source>Partition Details</source>
+        <translation>Partitiedetails</translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>Serienummer</translation>
+    </message>
+    <message>
+        <source>Capacity</source>
+        <translation>Capaciteit</translation>
+    </message>
+    <message>
+        <source>Interface Type</source>
+        <translation>Interfacetype</translation>
+    </message>
+    <message>
+        <source>ATA Disk</source>
+        <translation>ATA-schijf</translation>
+    </message>
+    <message>
+        <source>Partition</source>
+        <translation>Partitie</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Ruimte</translation>
+    </message>
+</context>
+<context>
+    <name>DiskStatus</name>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperatuur</translation>
+    </message>
+    <message>
+        <source>Performance</source>
+        <translation>Prestaties</translation>
+    </message>
+    <message>
+        <source>Health</source>
+        <translation>Conditie</translation>
+    </message>
+    <message>
+        <source>Disk Details</source>
+        <translation>Schijfdetails</translation>
+    </message>
+    <message>
+        <source>Disk Number</source>
+        <translation>Schijfnummer</translation>
+    </message>
+    <message>
+        <source>Model Number</source>
+        <translation>Modelnummer</translation>
+    </message>
+    <message>
+        <source>Firmware Revision</source>
+        <translation>Firmwareversie</translation>
+    </message>
+    <message>
+        <source>Interface Type</source>
+        <translation>Interfacetype</translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>Serienummer</translation>
+    </message>
+    <message>
+        <source>Total Sectors</source>
+        <translation>Aantal sectoren</translation>
+    </message>
+    <message>
+        <source>Hard Disk Life</source>
+        <translation>Resterende levensduur</translation>
+    </message>
+    <message>
+        <source>Power-on Time</source>
+        <translation>Bedrijfstijd</translation>
+    </message>
+    <message>
+        <source>Start/Stop Count</source>
+        <translation>Start-stopcycli</translation>
+    </message>
+    <message>
+        <source>Not Supported</source>
+        <translation>Niet ondersteund</translation>
+    </message>
+</context>
+<context>
+    <name>DonutChartView</name>
+    <message>
+        <source>Disk </source>
+        <translation>Schijf </translation>
+    </message>
+</context>
+<context>
+    <name>DownloadUpdate</name>
+    <message>
+        <source>Software Update</source>
+        <translation>Software-update</translation>
+    </message>
+    <message>
+        <source>Downloading Files</source>
+        <translation>Bestanden downloaden</translation>
+    </message>
+    <message>
+        <source>Downloading under progress...</source>
+        <translation>Bezig met downloaden...</translation>
+    </message>
+</context>
+<context>
+    <name>InfoDialog</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Informatie</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Not Available</source>
+        <translation>Niet beschikbaar</translation>
+    </message>
+    <message>
+        <source>Disk Drive </source>
+        <translation>Schijf </translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>Engels</translation>
+    </message>
+    <message>
+        <source>German</source>
+        <translation>Duits</translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation>Frans</translation>
+    </message>
+    <message>
+        <source>Italian</source>
+        <translation>Italiaans</translation>
+    </message>
+    <message>
+        <source>Spanish</source>
+        <translation>Spaans</translation>
+    </message>
+    <message>
+        <source>Japanese</source>
+        <translation>Japans</translation>
+    </message>
+    <message>
+        <source>Chinese</source>
+        <translation>Chinees</translation>
+    </message>
+    <message>
+        <source>Korean</source>
+        <translation>Koreaans</translation>
+    </message>
+    <message>
+        <source>Dutch</source>
+        <translation>Nederlands</translation>
+    </message>
+    <message>
+        <source>Brazil</source>
+        <translation>Brazilië</translation>
+    </message>
+    <message>
+        <source>Hindi</source>
+        <translation>Hindi</translation>
+    </message>
+    <message>
+        <source>   Disk Status</source>
+        <translation>   Schijfstatus</translation>
+    </message>
+    <message>
+        <source>View the health status of your hard disk</source>
+        <translation>De conditie van uw harde schijf weergeven</translation>
+    </message>
+    <message>
+        <source>   SMART Status</source>
+        <translation>   SMART-status</translation>
+    </message>
+    <message>
+        <source>Detailed SMART status of the hard disk</source>
+        <translation>Gedetailleerde SMART-status van de harde schijf</translation>
+    </message>
+    <message>
+        <source>   Disk Partition</source>
+        <translation>   Partities</translation>
+    </message>
+    <message>
+        <source>View description of partitions in your hard disk</source>
+        <translation>Beschrijving van de partities op uw harde schijf weergeven</translation>
+    </message>
+    <message>
+        <source>   Scan Disk</source>
+        <translation>   Schijf scannen</translation>
+    </message>
+    <message>
+        <source>Scan your hard disk for bad sectors</source>
+        <translation>Uw harde schijf op slechte sectoren scannen</translation>
+    </message>
+    <message>
+        <source>   Clone Disk</source>
+        <translation>   Schijf klonen</translation>
+    </message>
+    <message>
+        <source>Clone hard disk to avoid impending disk issues</source>
+        <translation>Harde schijf klonen om dreigende schijfproblemen voor te zijn</translation>
+    </message>
+    <message>
+        <source>Extended Self-test</source>
+        <translation>Uitgebreide zelftest</translation>
+    </message>
+    <message>
+        <source>Short Self-test</source>
+        <translation>Korte zelftest</translation>
+    </message>
+    <message>
+        <source>Aborted by User</source>
+        <translation>Afgebroken door gebruiker</translation>
+    </message>
+    <message>
+        <source>Successfully Completed</source>
+        <translation>Met succes voltooid</translation>
+    </message>
+    <message>
+        <source>Failed by Read Element</source>
+        <translation>Mislukt door leesfout</translation>
+    </message>
+    <message>
+        <source>Not available</source>
+        <translation>Niet beschikbaar</translation>
+    </message>
+    <message>
+        <source> days</source>
+        <translation> dagen</translation>
+    </message>
+    <message>
+        <source> hours</source>
+        <translation> uur</translation>
+    </message>
+    <message>
+        <source>More than 1000</source>
+        <translation>Meer dan 1000</translation>
+    </message>
+    <message>
+        <source>ID#</source>
+        <translation>ID#</translation>
+    </message>
+    <message>
+        <source>ATTRIBUTE_NAME</source>
+        <translation>ATTRIBUTE_NAME</translation>
+    </message>
+    <message>
+        <source>FLAG</source>
+        <translation>FLAG</translation>
+    </message>
+    <message>
+        <source>VALUE</source>
+        <translation>VALUE</translation>
+    </message>
+    <message>
+        <source>SMART/Health Information (NVMe Log</source>
+        <translation>SMART/Health Information (NVMe Log</translation>
+    </message>
+    <message>
+        <source>Good</source>
+        <translation>Goed</translation>
+    </message>
+    <message>
+        <source>Bad</source>
+        <translation>Slecht</translation>
+    </message>
+    <message>
+        <source>Not Supported</source>
+        <translation>Niet ondersteund</translation>
+    </message>
+    <message>
+        <source>Supported</source>
+        <translation>Ondersteund</translation>
+    </message>
+    <message>
+        <source>NA</source>
+        <translation>NA</translation>
+    </message>
+    <message>
+        <source>Disk Information:</source>
+        <translation>Schijfgegevens:</translation>
+    </message>
+    <message>
+        <source>S.M.A.R.T. Details:</source>
+        <translation>S.M.A.R.T.-details:</translation>
+    </message>
+    <message>
+        <source>Model Number:</source>
+        <translation>Modelnummer:</translation>
+    </message>
+    <message>
+        <source>Serial Number:</source>
+        <translation>Serienummer:</translation>
+    </message>
+    <message>
+        <source>Firmware Version:</source>
+        <translation>Firmwareversie:</translation>
+    </message>
+    <message>
+        <source>Capacity:</source>
+        <translation>Capaciteit:</translation>
+    </message>
+    <message>
+        <source>Sector Size:</source>
+        <translation>Sectorgrootte:</translation>
+    </message>
+    <message>
+        <source>Local  Time:</source>
+        <translation>Lokale tijd:</translation>
+    </message>
+    <message>
+        <source>Maximum Data Transfer Size:</source>
+        <translation>Maximale overdrachtsgrootte:</translation>
+    </message>
+    <message>
+        <source>SMART Status:</source>
+        <translation>SMART-status:</translation>
+    </message>
+    <message>
+        <source>Current Temperature:</source>
+        <translation>Huidige temperatuur:</translation>
+    </message>
+    <message>
+        <source>Performance:</source>
+        <translation>Prestaties:</translation>
+    </message>
+    <message>
+        <source>Health:</source>
+        <translation>Conditie:</translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>Attribute Name</source>
+        <translation>Attribuutnaam</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>Waarden</translation>
+    </message>
+    <message>
+        <source>Self Test Details:</source>
+        <translation>Details van de zelftest:</translation>
+    </message>
+    <message>
+        <source>S.M.A.R.T. Details</source>
+        <translation>S.M.A.R.T.-details</translation>
+    </message>
+    <message>
+        <source>Make:</source>
+        <translation>Merk:</translation>
+    </message>
+    <message>
+        <source>Rotation Rate:</source>
+        <translation>Toerental:</translation>
+    </message>
+    <message>
+        <source>ATA Version:</source>
+        <translation>ATA-versie:</translation>
+    </message>
+    <message>
+        <source>SATA Version:</source>
+        <translation>SATA-versie:</translation>
+    </message>
+    <message>
+        <source>Short Self-test:</source>
+        <translation>Korte zelftest:</translation>
+    </message>
+    <message>
+        <source>Estimated Completion Time:</source>
+        <translation>Geschatte duur:</translation>
+    </message>
+    <message>
+        <source>Extended Self-test:</source>
+        <translation>Uitgebreide zelftest:</translation>
+    </message>
+    <message>
+        <source>Last Run Self-test:</source>
+        <translation>Laatste zelftest:</translation>
+    </message>
+    <message>
+        <source>Last Self-Test Result:</source>
+        <translation>Resultaat van laatste zelftest:</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Waarde</translation>
+    </message>
+    <message>
+        <source>Worst</source>
+        <translation>Laagst</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Drempel</translation>
+    </message>
+    <message>
+        <source>Raw Value</source>
+        <translation>Ruwe waarde</translation>
+    </message>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>S.M.A.R.T. Report</source>
+        <translation>S.M.A.R.T.-rapport</translation>
+    </message>
+    <message>
+        <source>The information contained in this report has been generated by the Velmora Halvane profiling process.</source>
+        <translation>De gegevens in dit rapport zijn gegenereerd door het analyseproces van Velmora Halvane.</translation>
+    </message>
+    <message>
+        <source>Velmora Halvane is a product of Korvane.</source>
+        <translation>Velmora Halvane is een product van Korvane.</translation>
+    </message>
+    <message>
+        <source>Velmora Halvane is a product of Velmora.</source>
+        <translation>Velmora Halvane is een product van Velmora.</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Mislukt</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Passed</source>
+        <translation>Geslaagd</translation>
+    </message>
+    <message>
+        <source>Source disk:     </source>
+        <translation>Bronschijf:     </translation>
+    </message>
+    <message>
+        <source>Destination disk:    </source>
+        <translation>Doelschijf:    </translation>
+    </message>
+    <message>
+        <source>Clone Disk</source>
+        <translation>Schijf klonen</translation>
+    </message>
+    <message>
+        <source>Clone Running.</source>
+        <translation>Bezig met klonen.</translation>
+    </message>
+    <message>
+        <source>Cloning process running.</source>
+        <translation>De schijf wordt gekloond.</translation>
+    </message>
+    <message>
+        <source>Please halt the clone process to exit.</source>
+        <translation>Stop het klonen om af te sluiten.</translation>
+    </message>
+    <message>
+        <source>Scan Disk</source>
+        <translation>Schijf scannen</translation>
+    </message>
+    <message>
+        <source>Scaning Running.</source>
+        <translation>Bezig met scannen.</translation>
+    </message>
+    <message>
+        <source>Disk scan running.</source>
+        <translation>De schijf wordt gescand.</translation>
+    </message>
+    <message>
+        <source>Please halt the scan process to exit.</source>
+        <translation>Stop de scan om af te sluiten.</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Clone</source>
+        <translation>Klonen</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stop</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Terug</translation>
+    </message>
+    <message>
+        <source>Save Report</source>
+        <translation>Rapport opslaan</translation>
+    </message>
+    <message>
+        <source>Screenshot</source>
+        <translation>Schermafdruk</translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>Serienummer</translation>
+    </message>
+    <message>
+        <source>SMART Status</source>
+        <translation>SMART-status</translation>
+    </message>
+    <message>
+        <source>View Velmora Halvane help document</source>
+        <translation>Helpdocument van Velmora Halvane weergeven</translation>
+    </message>
+    <message>
+        <source>More Tools</source>
+        <translation>Meer hulpprogramma&apos;s</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Instellingen</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Over</translation>
+    </message>
+    <message>
+        <source>Recover Data</source>
+        <translation>Gegevens herstellen</translation>
+    </message>
+    <message>
+        <source>Repair Video</source>
+        <translation>Video herstellen</translation>
+    </message>
+    <message>
+        <source>Repair Photo</source>
+        <translation>Foto herstellen</translation>
+    </message>
+    <message>
+        <source>Select Destination</source>
+        <translation>Doel selecteren</translation>
+    </message>
+    <message>
+        <source>Please wait. Application Refreshing...</source>
+        <translation>Een ogenblik geduld. De toepassing wordt vernieuwd...</translation>
+    </message>
+    <message>
+        <source>Stop Clone</source>
+        <translation>Klonen stoppen</translation>
+    </message>
+    <message>
+        <source>Cloning can not be resumed from the current stage.</source>
+        <translation>Het klonen kan later niet vanaf dit punt worden hervat.</translation>
+    </message>
+    <message>
+        <source>Do you wish to abort the cloning?</source>
+        <translation>Wilt u het klonen afbreken?</translation>
+    </message>
+    <message>
+        <source>Stop Scan</source>
+        <translation>Scan stoppen</translation>
+    </message>
+    <message>
+        <source>Scan can not be resumed from the current stage.</source>
+        <translation>De scan kan later niet vanaf dit punt worden hervat.</translation>
+    </message>
+    <message>
+        <source>Do you wish to abort the scan?</source>
+        <translation>Wilt u de scan afbreken?</translation>
+    </message>
+    <message>
+        <source>(BitLocker)</source>
+        <translation>(BitLocker)</translation>
+    </message>
+    <message>
+        <source>No Partition Found</source>
+        <translation>Geen partitie gevonden</translation>
+    </message>
+    <message>
+        <source>Save File</source>
+        <translation>Bestand opslaan</translation>
+    </message>
+    <message>
+        <source>Self-test can not be resumed from the current stage.</source>
+        <translation>De zelftest kan later niet vanaf dit punt worden hervat.</translation>
+    </message>
+    <message>
+        <source>Do you wish to abort the Self-test?</source>
+        <translation>Wilt u de zelftest afbreken?</translation>
+    </message>
+    <message>
+        <source>ATA Disk</source>
+        <translation>ATA-schijf</translation>
+    </message>
+    <message>
+        <source>Please wait. Getting SMART information...</source>
+        <translation>Een ogenblik geduld. SMART-gegevens worden opgehaald...</translation>
+    </message>
+    <message>
+        <source>Performance</source>
+        <translation>Prestaties</translation>
+    </message>
+    <message>
+        <source>Health</source>
+        <translation>Conditie</translation>
+    </message>
+    <message>
+        <source>Hard Disk Life</source>
+        <translation>Resterende levensduur</translation>
+    </message>
+    <message>
+        <source>Power-on Time</source>
+        <translation>Bedrijfstijd</translation>
+    </message>
+    <message>
+        <source>Start/Stop Count</source>
+        <translation>Start-stopcycli</translation>
+    </message>
+    <message>
+        <source>Graph : </source>
+        <translation>Grafiek : </translation>
+    </message>
+    <message>
+        <source>Running, no problems found</source>
+        <translation>Bezig, geen problemen gevonden</translation>
+    </message>
+    <message>
+        <source>Test failed by Read Element</source>
+        <translation>Test mislukt door leesfout</translation>
+    </message>
+    <message>
+        <source>Test Aborted by User</source>
+        <translation>Test afgebroken door gebruiker</translation>
+    </message>
+    <message>
+        <source> minutes</source>
+        <translation> minuten</translation>
+    </message>
+    <message>
+        <source>Healthy</source>
+        <translation>In orde</translation>
+    </message>
+    <message>
+        <source>Not Healthy</source>
+        <translation>Niet in orde</translation>
+    </message>
+    <message>
+        <source>% Free</source>
+        <translation>% vrij</translation>
+    </message>
+    <message>
+        <source> Free of </source>
+        <translation> vrij van </translation>
+    </message>
+    <message>
+        <source> Available</source>
+        <translation> beschikbaar</translation>
+    </message>
+</context>
+<context>
+    <name>QCheckUpdate</name>
+    <message>
+        <source>No update available.</source>
+        <translation>Geen update beschikbaar.</translation>
+    </message>
+</context>
+<context>
+    <name>QDownloadApp</name>
+    <message>
+        <source>Downloading under progress...</source>
+        <translation>Bezig met downloaden...</translation>
+    </message>
+    <message>
+        <source>Time Elapsed: </source>
+        <translation>Verstreken tijd: </translation>
+    </message>
+    <message>
+        <source> sec </source>
+        <translation> s </translation>
+    </message>
+    <message>
+        <source> MB copied) </source>
+        <translation> MB gekopieerd) </translation>
+    </message>
+    <message>
+        <source> MB of  </source>
+        <translation> MB van  </translation>
+    </message>
+    <message>
+        <source>Transfer Rate: </source>
+        <translation>Overdrachtssnelheid: </translation>
+    </message>
+    <message>
+        <source> KB/sec </source>
+        <translation> KB/s </translation>
+    </message>
+    <message>
+        <source>Software Update</source>
+        <translation>Software-update</translation>
+    </message>
+    <message>
+        <source>Update failed 
+
+Update failed due to partial download.</source>
+        <translation>Update mislukt 
+
+De update is mislukt doordat de download onvolledig was.</translation>
+    </message>
+</context>
+<context>
+    <name>QGridView</name>
+    <message>
+        <source> to </source>
+        <translation> tot </translation>
+    </message>
+    <message>
+        <source>Start Sector of current block: </source>
+        <translation>Eerste sector van dit blok: </translation>
+    </message>
+    <message>
+        <source>End Sector of current block: </source>
+        <translation>Laatste sector van dit blok: </translation>
+    </message>
+    <message>
+        <source>Current Block Size : </source>
+        <translation>Grootte van dit blok : </translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> MB</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Velmora Halvane already running. Cannot start more than one instance of the application.</source>
+        <translation>Velmora Halvane is al geopend. Er kan maar één exemplaar van de toepassing worden gestart.</translation>
+    </message>
+</context>
+<context>
+    <name>QRoundProgressBar</name>
+    <message>
+        <source>Complete</source>
+        <translation>Voltooid</translation>
+    </message>
+</context>
+<context>
+    <name>QShowUpdate</name>
+    <message>
+        <source>A new major release </source>
+        <translation>De nieuwe hoofdversie </translation>
+    </message>
+    <message>
+        <source>A new minor update </source>
+        <translation>De nieuwe tussenversie </translation>
+    </message>
+    <message>
+        <source> is available. Click Update to proceed further.</source>
+        <translation> is beschikbaar. Klik op Bijwerken om door te gaan.</translation>
+    </message>
+    <message>
+        <source>Visit Update Page</source>
+        <translation>Updatepagina bezoeken</translation>
+    </message>
+</context>
+<context>
+    <name>QWaitClass</name>
+    <message>
+        <source>Initializing Velmora Halvane...</source>
+        <translation>Velmora Halvane wordt geïnitialiseerd...</translation>
+    </message>
+</context>
+<context>
+    <name>ScanDisk</name>
+    <message>
+        <source> hours</source>
+        <translation> uur</translation>
+    </message>
+    <message>
+        <source> minutes</source>
+        <translation> minuten</translation>
+    </message>
+    <message>
+        <source> seconds</source>
+        <translation> seconden</translation>
+    </message>
+    <message>
+        <source>Scan Disk</source>
+        <translation>Schijf scannen</translation>
+    </message>
+    <message>
+        <source>Disk Size</source>
+        <translation>Schijfgrootte</translation>
+    </message>
+    <message>
+        <source>Total Sectors</source>
+        <translation>Aantal sectoren</translation>
+    </message>
+    <message>
+        <source>Block Size</source>
+        <translation>Blokgrootte</translation>
+    </message>
+    <message>
+        <source>  Processed</source>
+        <translation>  Gescand</translation>
+    </message>
+    <message>
+        <source>  Bad Sectors</source>
+        <translation>  Slechte sectoren</translation>
+    </message>
+    <message>
+        <source>  Processing</source>
+        <translation>  Bezig</translation>
+    </message>
+    <message>
+        <source>Short Self-test</source>
+        <translation>Korte zelftest</translation>
+    </message>
+    <message>
+        <source>Extended Self-test</source>
+        <translation>Uitgebreide zelftest</translation>
+    </message>
+    <message>
+        <source>Perform a surface scan on the selected disk to identify if the disk has bad sectors.</source>
+        <translation>Voer een oppervlaktescan uit op de geselecteerde schijf om na te gaan of de schijf slechte sectoren heeft.</translation>
+    </message>
+    <message>
+        <source>Run this test to check the electrical and mechanical performance of a device along with the read/write operations on a portion of the disk. This test may take few minutes to complete.</source>
+        <translation>Voer deze test uit om de elektrische en mechanische prestaties van een apparaat en de lees- en schrijfbewerkingen op een deel van de schijf te controleren. Deze test kan enkele minuten duren.</translation>
+    </message>
+    <message>
+        <source>This test is same as a short self-test with a complete disk surface examination. This test may take up to few hours to complete.</source>
+        <translation>Deze test is gelijk aan een korte zelftest, maar controleert ook het volledige schijfoppervlak. Deze test kan enkele uren duren.</translation>
+    </message>
+    <message>
+        <source>Time Remaining</source>
+        <translation>Resterende tijd</translation>
+    </message>
+    <message>
+        <source>Time Elapsed</source>
+        <translation>Verstreken tijd</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> MB</translation>
+    </message>
+    <message>
+        <source>Disk Scan</source>
+        <translation>Schijfscan</translation>
+    </message>
+    <message>
+        <source>Disk scan aborted.</source>
+        <translation>Schijfscan afgebroken.</translation>
+    </message>
+    <message>
+        <source>Disk scan aborted by user.</source>
+        <translation>De schijfscan is door de gebruiker afgebroken.</translation>
+    </message>
+    <message>
+        <source>Scan Completed</source>
+        <translation>Scan voltooid</translation>
+    </message>
+    <message>
+        <source>Scan Completed.</source>
+        <translation>Scan voltooid.</translation>
+    </message>
+    <message>
+        <source>Scan Failed</source>
+        <translation>Scan mislukt</translation>
+    </message>
+    <message>
+        <source>Scan Failed.</source>
+        <translation>Scan mislukt.</translation>
+    </message>
+</context>
+<context>
+    <name>ScanSwitchDialog</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Scan Disk</source>
+        <translation>Schijf scannen</translation>
+    </message>
+    <message>
+        <source>Scan results will be lost if you move away from this screen. </source>
+        <translation>De scanresultaten gaan verloren als u dit scherm verlaat. </translation>
+    </message>
+    <message>
+        <source>Do you want to move away from this screen?</source>
+        <translation>Wilt u dit scherm verlaten?</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nee</translation>
+    </message>
+</context>
+<context>
+    <name>SelfTestNotSupportedDialog</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Drive Test</source>
+        <translation>Schijftest</translation>
+    </message>
+    <message>
+        <source>Self-test not supported.</source>
+        <translation>Zelftest niet ondersteund.</translation>
+    </message>
+    <message>
+        <source>Selected disk doesn&apos;t support self test.</source>
+        <translation>De geselecteerde schijf ondersteunt geen zelftest.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+</context>
+<context>
+    <name>SelfTestPanelForm</name>
+    <message>
+        <source>Model</source>
+        <translation>Model</translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>Serienummer</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Polling Time</source>
+        <translation>Geschatte duur</translation>
+    </message>
+    <message>
+        <source>Time Remaining</source>
+        <translation>Resterende tijd</translation>
+    </message>
+    <message>
+        <source>Time Elapsed</source>
+        <translation>Verstreken tijd</translation>
+    </message>
+</context>
+<context>
+    <name>Settings</name>
+    <message>
+        <source>Check for Updates</source>
+        <translation>Controleren op updates</translation>
+    </message>
+    <message>
+        <source>View Velmora Halvane help document</source>
+        <translation>Helpdocument van Velmora Halvane weergeven</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>Talen</translation>
+    </message>
+    <message>
+        <source>Save log file</source>
+        <translation>Logboekbestand opslaan</translation>
+    </message>
+    <message>
+        <source>Your Software has all latest updates installed.</source>
+        <translation>De nieuwste updates van uw software zijn geïnstalleerd.</translation>
+    </message>
+</context>
+<context>
+    <name>ShowUpdateAvail</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Bijwerken</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+</context>
+<context>
+    <name>SmallMsg</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>SmartShutdownDialog</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Shutdown Warning</source>
+        <translation>Afsluitwaarschuwing</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Waarschuwing</translation>
+    </message>
+    <message>
+        <source>Hard Disk&apos;s temperature has reached the shutdown value.</source>
+        <translation>De temperatuur van de harde schijf heeft de afsluitwaarde bereikt.</translation>
+    </message>
+    <message>
+        <source>It is advisable to shutdown the system immediately.</source>
+        <translation>Het is raadzaam het systeem onmiddellijk af te sluiten.</translation>
+    </message>
+    <message>
+        <source>Shutdown</source>
+        <translation>Afsluiten</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>SmartStatus</name>
+    <message>
+        <source>     ID</source>
+        <translation>     ID</translation>
+    </message>
+    <message>
+        <source>Attribute Name</source>
+        <translation>Attribuutnaam</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Waarde</translation>
+    </message>
+    <message>
+        <source>Worst</source>
+        <translation>Laagste</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Drempel</translation>
+    </message>
+    <message>
+        <source>Raw Value</source>
+        <translation>Ruwe waarde</translation>
+    </message>
+    <message>
+        <source>Updated</source>
+        <translation>Bijgewerkt</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Mislukt</translation>
+    </message>
+    <message>
+        <source>Better</source>
+        <translation>Beter</translation>
+    </message>
+    <message>
+        <source>Overall Status</source>
+        <translation>Algemene status</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>Waarden</translation>
+    </message>
+    <message>
+        <source>AttName</source>
+        <translation>AttName</translation>
+    </message>
+    <message>
+        <source>SMART Status : </source>
+        <translation>SMART-status : </translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>Serienummer</translation>
+    </message>
+    <message>
+        <source>Capacity</source>
+        <translation>Capaciteit</translation>
+    </message>
+    <message>
+        <source>Interface Type</source>
+        <translation>Interfacetype</translation>
+    </message>
+    <message>
+        <source>Save Report</source>
+        <translation>Rapport opslaan</translation>
+    </message>
+    <message>
+        <source>Smart Status</source>
+        <translation>SMART-status</translation>
+    </message>
+    <message>
+        <source>PASSED</source>
+        <translation>GESLAAGD</translation>
+    </message>
+    <message>
+        <source>Passed</source>
+        <translation>Geslaagd</translation>
+    </message>
+    <message>
+        <source>Graph</source>
+        <translation>Grafiek</translation>
+    </message>
+    <message>
+        <source>FAIELD</source>
+        <translation>MISLUKT</translation>
+    </message>
+    <message>
+        <source>ATA Disk</source>
+        <translation>ATA-schijf</translation>
+    </message>
+</context>
+<context>
+    <name>SmartWarningDialog</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>SMART Warning</source>
+        <translation>SMART-waarschuwing</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Waarschuwing</translation>
+    </message>
+    <message>
+        <source>Hard Disk&apos;s temperature exceed the threshold value.</source>
+        <translation>De temperatuur van de harde schijf overschrijdt de drempelwaarde.</translation>
+    </message>
+    <message>
+        <source>Your hard disk&apos;s temperature has exceeded threshold value. This may damage hard disk. It is advisable to shutdown the system immediately.</source>
+        <translation>De temperatuur van uw harde schijf heeft de drempelwaarde overschreden. Hierdoor kan de harde schijf beschadigd raken. Het is raadzaam het systeem onmiddellijk af te sluiten.</translation>
+    </message>
+    <message>
+        <source>Don&apos;t show again</source>
+        <translation>Niet meer weergeven</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>m_pCloseWgt</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Afsluiten</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to exit?</source>
+        <translation>Weet u zeker dat u wilt afsluiten?</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nee</translation>
+    </message>
+</context>
+<context>
+    <name>m_pDiskStatus</name>
+    <message>
+        <source>Disk Details</source>
+        <translation>Schijfdetails</translation>
+    </message>
+    <message>
+        <source>Disk Number</source>
+        <translation>Schijfnummer</translation>
+    </message>
+    <message>
+        <source>Model Number</source>
+        <translation>Modelnummer</translation>
+    </message>
+    <message>
+        <source>Firmware Revision</source>
+        <translation>Firmwareversie</translation>
+    </message>
+    <message>
+        <source>Interface Type</source>
+        <translation>Interfacetype</translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>Serienummer</translation>
+    </message>
+    <message>
+        <source>Total Sectors</source>
+        <translation>Aantal sectoren</translation>
+    </message>
+    <message>
+        <source>Hard Disk Life</source>
+        <translation>Resterende levensduur</translation>
+    </message>
+    <message>
+        <source>Power-on Time</source>
+        <translation>Bedrijfstijd</translation>
+    </message>
+    <message>
+        <source>Start/Stop Count</source>
+        <translation>Start-stopcycli</translation>
+    </message>
+</context>
+<context>
+    <name>m_pMainWindow</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>Serienummer</translation>
+    </message>
+    <message>
+        <source>SMART Status</source>
+        <translation>SMART-status</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Terug</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Clone</source>
+        <translation>Klonen</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stop</translation>
+    </message>
+    <message>
+        <source>Save Report</source>
+        <translation>Rapport opslaan</translation>
+    </message>
+    <message>
+        <source>Screenshot</source>
+        <translation>Schermafdruk</translation>
+    </message>
+</context>
+<context>
+    <name>m_pSettingswgt</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>  Settings</source>
+        <translation>  Instellingen</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Instellingen</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Algemeen</translation>
+    </message>
+    <message>
+        <source>Show status in tray</source>
+        <translation>Status in systeemvak weergeven</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>Engels</translation>
+    </message>
+    <message>
+        <source>German</source>
+        <translation>Duits</translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation>Frans</translation>
+    </message>
+    <message>
+        <source>Italian</source>
+        <translation>Italiaans</translation>
+    </message>
+    <message>
+        <source>Spanish</source>
+        <translation>Spaans</translation>
+    </message>
+    <message>
+        <source>Dutch</source>
+        <translation>Nederlands</translation>
+    </message>
+    <message>
+        <source>Portuguese (Brazil)</source>
+        <translation>Portugees (Brazilië)</translation>
+    </message>
+    <message>
+        <source>Hindi</source>
+        <translation>Hindi</translation>
+    </message>
+    <message>
+        <source>LOGS</source>
+        <translation>LOGBOEKEN</translation>
+    </message>
+    <message>
+        <source>Save log file</source>
+        <translation>Logboekbestand opslaan</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>Max log size (KB)</source>
+        <translation>Max. logboekgrootte (KB)</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperatuur</translation>
+    </message>
+    <message>
+        <source>Show Temperature in</source>
+        <translation>Temperatuur weergeven in</translation>
+    </message>
+    <message>
+        <source>Celsius</source>
+        <translation>Celsius</translation>
+    </message>
+    <message>
+        <source>Fahrenheit</source>
+        <translation>Fahrenheit</translation>
+    </message>
+    <message>
+        <source>Enable Temperature Alarm</source>
+        <translation>Temperatuuralarm inschakelen</translation>
+    </message>
+    <message>
+        <source>Warning Temperature</source>
+        <translation>Waarschuwingstemperatuur</translation>
+    </message>
+    <message>
+        <source>°C</source>
+        <translation>°C</translation>
+    </message>
+    <message>
+        <source>°F</source>
+        <translation>°F</translation>
+    </message>
+    <message>
+        <source>Shutdown Temperature</source>
+        <translation>Afsluittemperatuur</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,1850 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr_FR" sourcelanguage="en_US">
+<context>
+    <name>AttributeCatalogue</name>
+    <message>
+        <source>Raw Read Error Rate</source>
+        <translation>Taux d&apos;erreurs de lecture</translation>
+    </message>
+    <message>
+        <source>Spin Up Time</source>
+        <translation>Temps de lancement</translation>
+    </message>
+    <message>
+        <source>Start Stop Count</source>
+        <translation>Démarrages/arrêts</translation>
+    </message>
+    <message>
+        <source>Reallocated Sector Count</source>
+        <translation>Secteurs réalloués</translation>
+    </message>
+    <message>
+        <source>Seek Error Rate</source>
+        <translation>Taux d&apos;erreurs de recherche</translation>
+    </message>
+    <message>
+        <source>Power On Hours</source>
+        <translation>Heures de fonctionnement</translation>
+    </message>
+    <message>
+        <source>Spin Retry Count</source>
+        <translation>Reprises de lancement</translation>
+    </message>
+    <message>
+        <source>Calibration Retry Count</source>
+        <translation>Reprises de calibrage</translation>
+    </message>
+    <message>
+        <source>Power Cycle Count</source>
+        <translation>Cycles d&apos;alimentation</translation>
+    </message>
+    <message>
+        <source>Power-Off Retract Count</source>
+        <translation>Retraits à l&apos;extinction</translation>
+    </message>
+    <message>
+        <source>Load Cycle Count</source>
+        <translation>Cycles de chargement</translation>
+    </message>
+    <message>
+        <source>Temperature Celsius</source>
+        <translation>Température Celsius</translation>
+    </message>
+    <message>
+        <source>Reallocated Event Count</source>
+        <translation>Événements de réallocation</translation>
+    </message>
+    <message>
+        <source>Current Pending Sector Count</source>
+        <translation>Secteurs instables</translation>
+    </message>
+    <message>
+        <source>Offline Uncorrectable</source>
+        <translation>Secteurs incorrigibles</translation>
+    </message>
+    <message>
+        <source>UDMA CRC Error Count</source>
+        <translation>Erreurs CRC UDMA</translation>
+    </message>
+    <message>
+        <source>Multi Zone Error Rate</source>
+        <translation>Taux d&apos;erreurs multizone</translation>
+    </message>
+    <message>
+        <source>Available Reserved Space</source>
+        <translation>Espace de réserve</translation>
+    </message>
+    <message>
+        <source>SSD Program Fail Count</source>
+        <translation>Échecs de programmation SSD</translation>
+    </message>
+    <message>
+        <source>SSD Erase Fail Count</source>
+        <translation>Échecs d&apos;effacement SSD</translation>
+    </message>
+    <message>
+        <source>SSD Wear Leveling Count</source>
+        <translation>Nivellement d&apos;usure SSD</translation>
+    </message>
+    <message>
+        <source>Unexpected power loss count</source>
+        <translation>Pertes d&apos;alimentation</translation>
+    </message>
+    <message>
+        <source>Throughput Performance</source>
+        <translation>Débit global</translation>
+    </message>
+    <message>
+        <source>Read Channel Margin</source>
+        <translation>Marge du canal de lecture</translation>
+    </message>
+    <message>
+        <source>Seek Time Performance</source>
+        <translation>Performance de recherche</translation>
+    </message>
+    <message>
+        <source>Soft Read Error Rate</source>
+        <translation>Taux d&apos;erreurs logicielles</translation>
+    </message>
+    <message>
+        <source>Runtime Bad Block</source>
+        <translation>Blocs défectueux apparus</translation>
+    </message>
+    <message>
+        <source>End-to-End Error </source>
+        <translation>Erreurs de bout en bout </translation>
+    </message>
+    <message>
+        <source>Reported Uncorrect</source>
+        <translation>Erreurs signalées</translation>
+    </message>
+    <message>
+        <source>Command Timeout</source>
+        <translation>Délais dépassés</translation>
+    </message>
+    <message>
+        <source>High Fly Writes</source>
+        <translation>Écritures à haute altitude</translation>
+    </message>
+    <message>
+        <source>Airflow Temperature Cel</source>
+        <translation>Température de l&apos;air</translation>
+    </message>
+    <message>
+        <source>G-Sense Error Rate</source>
+        <translation>Taux d&apos;erreurs de choc</translation>
+    </message>
+    <message>
+        <source>Hardware ECC Recovered</source>
+        <translation>Corrections ECC</translation>
+    </message>
+    <message>
+        <source>Multi Zone Error Rate </source>
+        <translation>Taux d&apos;erreurs multizone </translation>
+    </message>
+    <message>
+        <source>Write Error Rate</source>
+        <translation>Taux d&apos;erreurs d&apos;écriture</translation>
+    </message>
+    <message>
+        <source>Head Flying Hours</source>
+        <translation>Heures de vol des têtes</translation>
+    </message>
+    <message>
+        <source>Total LBAs Written</source>
+        <translation>Total des LBA écrits</translation>
+    </message>
+    <message>
+        <source>Total LBAs Read</source>
+        <translation>Total des LBA lus</translation>
+    </message>
+    <message>
+        <source>Free Fall Sensor</source>
+        <translation>Capteur de chute libre</translation>
+    </message>
+    <message>
+        <source>Critical Warning</source>
+        <translation>Alerte critique</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Température</translation>
+    </message>
+    <message>
+        <source>Available Spare</source>
+        <translation>Réserve disponible</translation>
+    </message>
+    <message>
+        <source>Available Spare Threshold</source>
+        <translation>Seuil de réserve</translation>
+    </message>
+    <message>
+        <source>Percentage Used</source>
+        <translation>Pourcentage utilisé</translation>
+    </message>
+    <message>
+        <source>Data Units Read</source>
+        <translation>Unités de données lues</translation>
+    </message>
+    <message>
+        <source>Data Units Written</source>
+        <translation>Unités de données écrites</translation>
+    </message>
+    <message>
+        <source>Host Read Commands</source>
+        <translation>Commandes de lecture</translation>
+    </message>
+    <message>
+        <source>Host Write Commands</source>
+        <translation>Commandes d&apos;écriture</translation>
+    </message>
+    <message>
+        <source>Controller Busy Time</source>
+        <translation>Temps d&apos;occupation</translation>
+    </message>
+    <message>
+        <source>Power Cyles</source>
+        <translation>Cycles d&apos;alimentation</translation>
+    </message>
+    <message>
+        <source>Unsafe Shutdowns</source>
+        <translation>Arrêts brutaux</translation>
+    </message>
+    <message>
+        <source>Media and Data Integrity Errors</source>
+        <translation>Erreurs d&apos;intégrité</translation>
+    </message>
+    <message>
+        <source>Error Information Log Entries</source>
+        <translation>Entrées du journal d&apos;erreurs</translation>
+    </message>
+</context>
+<context>
+    <name>AttributeRows</name>
+    <message>
+        <source>FAILED</source>
+        <translation>ÉCHEC</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>CheckUpdate</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Checking for updates...</source>
+        <translation>Recherche de mises à jour...</translation>
+    </message>
+</context>
+<context>
+    <name>CloneDisk</name>
+    <message>
+        <source>Not Available</source>
+        <translation>Non disponible</translation>
+    </message>
+    <message>
+        <source>Disk Number 	: </source>
+        <translation>Numéro du disque 	: </translation>
+    </message>
+    <message>
+        <source>Model Number	: </source>
+        <translation>Numéro de modèle	: </translation>
+    </message>
+    <message>
+        <source>Serial: </source>
+        <translation>Série : </translation>
+    </message>
+    <message>
+        <source>Firmware Revision : </source>
+        <translation>Révision du firmware : </translation>
+    </message>
+    <message>
+        <source>Interface Type	   : </source>
+        <translation>Type d&apos;interface	   : </translation>
+    </message>
+    <message>
+        <source>Capacity	: </source>
+        <translation>Capacité	: </translation>
+    </message>
+    <message>
+        <source>Total Sector	   : </source>
+        <translation>Total des secteurs	   : </translation>
+    </message>
+    <message>
+        <source>Model Number : </source>
+        <translation>Numéro de modèle : </translation>
+    </message>
+    <message>
+        <source>Capacity           : </source>
+        <translation>Capacité           : </translation>
+    </message>
+    <message>
+        <source>ATA Disk</source>
+        <translation>Disque ATA</translation>
+    </message>
+    <message>
+        <source> hours</source>
+        <translation> heures</translation>
+    </message>
+    <message>
+        <source> minutes</source>
+        <translation> minutes</translation>
+    </message>
+    <message>
+        <source> seconds</source>
+        <translation> secondes</translation>
+    </message>
+    <message>
+        <source>Source and destination disks are same.</source>
+        <translation>Les disques source et cible sont identiques.</translation>
+    </message>
+    <message>
+        <source>Destination disk size is smaller than source disk.</source>
+        <translation>Le disque cible est plus petit que le disque source.</translation>
+    </message>
+    <message>
+        <source>Clone Disk</source>
+        <translation>Cloner le disque</translation>
+    </message>
+    <message>
+        <source>Select different destination disk.</source>
+        <translation>Sélectionnez un autre disque cible.</translation>
+    </message>
+    <message>
+        <source>Cloning Failed</source>
+        <translation>Échec du clonage</translation>
+    </message>
+    <message>
+        <source>Unable to write on destination disk.</source>
+        <translation>Impossible d&apos;écrire sur le disque cible.</translation>
+    </message>
+    <message>
+        <source>Select other destination disk.</source>
+        <translation>Sélectionnez un autre disque cible.</translation>
+    </message>
+    <message>
+        <source>Abort Clone</source>
+        <translation>Abandonner le clonage</translation>
+    </message>
+    <message>
+        <source>Cloning Aborted.</source>
+        <translation>Clonage abandonné.</translation>
+    </message>
+    <message>
+        <source>Disk Cloning complete.</source>
+        <translation>Clonage du disque terminé.</translation>
+    </message>
+    <message>
+        <source>Disk cloning process completed successfully.</source>
+        <translation>Le clonage du disque s&apos;est terminé avec succès.</translation>
+    </message>
+    <message>
+        <source>Cloning aborted.</source>
+        <translation>Clonage abandonné.</translation>
+    </message>
+    <message>
+        <source>Cloning process aborted by the user.</source>
+        <translation>Le clonage a été abandonné par l&apos;utilisateur.</translation>
+    </message>
+    <message>
+        <source>Disk Details</source>
+        <translation>Détails du disque</translation>
+    </message>
+    <message>
+        <source>Source Disk</source>
+        <translation>Disque source</translation>
+    </message>
+    <message>
+        <source>Target Disk</source>
+        <translation>Disque cible</translation>
+    </message>
+    <message>
+        <source>Remaining Time</source>
+        <translation>Temps restant</translation>
+    </message>
+    <message>
+        <source>Select Destination</source>
+        <translation>Sélectionnez la cible</translation>
+    </message>
+</context>
+<context>
+    <name>CloningWarningDialog</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Clone Disk</source>
+        <translation>Cloner le disque</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Avertissement</translation>
+    </message>
+    <message>
+        <source>This action will create a clone of the source drive on the destination drive. Make sure that source and destination disk selection is correct since this operation is irreversible.</source>
+        <translation>Cette action crée un clone du disque source sur le disque cible. Vérifiez que les disques source et cible sont correctement sélectionnés, car cette opération est irréversible.</translation>
+    </message>
+    <message>
+        <source>Existing data on the destination disk will be lost.</source>
+        <translation>Les données présentes sur le disque cible seront perdues.</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Démarrer</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>ConfarmetionDialog</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Oui</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Non</translation>
+    </message>
+</context>
+<context>
+    <name>DestinitionWarningDailog</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Clone Disk</source>
+        <translation>Cloner le disque</translation>
+    </message>
+    <message>
+        <source>Select target disk.</source>
+        <translation>Sélectionnez le disque cible.</translation>
+    </message>
+    <message>
+        <source>Select target disk to start cloning process.</source>
+        <translation>Sélectionnez le disque cible pour lancer le clonage.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>DiskPartition</name>
+    <message>
+        <source>Disk Partition</source>
+        <translation>Partitions du disque</translation>
+    </message>
+    <message>
+        <source>Partition Details</source>
+        <translation>Détails des partitions</translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>Numéro de série</translation>
+    </message>
+    <message>
+        <source>Capacity</source>
+        <translation>Capacité</translation>
+    </message>
+    <message>
+        <source>Interface Type</source>
+        <translation>Type d&apos;interface</translation>
+    </message>
+    <message>
+        <source>ATA Disk</source>
+        <translation>Disque ATA</translation>
+    </message>
+    <message>
+        <source>Partition</source>
+        <translation>Partition</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Espace</translation>
+    </message>
+</context>
+<context>
+    <name>DiskStatus</name>
+    <message>
+        <source>Temperature</source>
+        <translation>Température</translation>
+    </message>
+    <message>
+        <source>Performance</source>
+        <translation>Performance</translation>
+    </message>
+    <message>
+        <source>Health</source>
+        <translation>Santé</translation>
+    </message>
+    <message>
+        <source>Disk Details</source>
+        <translation>Détails du disque</translation>
+    </message>
+    <message>
+        <source>Disk Number</source>
+        <translation>Numéro du disque</translation>
+    </message>
+    <message>
+        <source>Model Number</source>
+        <translation>Numéro de modèle</translation>
+    </message>
+    <message>
+        <source>Firmware Revision</source>
+        <translation>Révision du firmware</translation>
+    </message>
+    <message>
+        <source>Interface Type</source>
+        <translation>Type d&apos;interface</translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>Numéro de série</translation>
+    </message>
+    <message>
+        <source>Total Sectors</source>
+        <translation>Total des secteurs</translation>
+    </message>
+    <message>
+        <source>Hard Disk Life</source>
+        <translation>Durée de vie</translation>
+    </message>
+    <message>
+        <source>Power-on Time</source>
+        <translation>Temps d&apos;activité</translation>
+    </message>
+    <message>
+        <source>Start/Stop Count</source>
+        <translation>Démarrages/arrêts</translation>
+    </message>
+    <message>
+        <source>Not Supported</source>
+        <translation>Non pris en charge</translation>
+    </message>
+</context>
+<context>
+    <name>DonutChartView</name>
+    <message>
+        <source>Disk </source>
+        <translation>Disque </translation>
+    </message>
+</context>
+<context>
+    <name>DownloadUpdate</name>
+    <message>
+        <source>Software Update</source>
+        <translation>Mise à jour du logiciel</translation>
+    </message>
+    <message>
+        <source>Downloading Files</source>
+        <translation>Téléchargement des fichiers</translation>
+    </message>
+    <message>
+        <source>Downloading under progress...</source>
+        <translation>Téléchargement en cours...</translation>
+    </message>
+</context>
+<context>
+    <name>InfoDialog</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Informations</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Not Available</source>
+        <translation>Non disponible</translation>
+    </message>
+    <message>
+        <source>Disk Drive </source>
+        <translation>Disque </translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>Anglais</translation>
+    </message>
+    <message>
+        <source>German</source>
+        <translation>Allemand</translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation>Français</translation>
+    </message>
+    <message>
+        <source>Italian</source>
+        <translation>Italien</translation>
+    </message>
+    <message>
+        <source>Spanish</source>
+        <translation>Espagnol</translation>
+    </message>
+    <message>
+        <source>Japanese</source>
+        <translation>Japonais</translation>
+    </message>
+    <message>
+        <source>Chinese</source>
+        <translation>Chinois</translation>
+    </message>
+    <message>
+        <source>Korean</source>
+        <translation>Coréen</translation>
+    </message>
+    <message>
+        <source>Dutch</source>
+        <translation>Néerlandais</translation>
+    </message>
+    <message>
+        <source>Brazil</source>
+        <translation>Brésil</translation>
+    </message>
+    <message>
+        <source>Hindi</source>
+        <translation>Hindi</translation>
+    </message>
+    <message>
+        <source>   Disk Status</source>
+        <translation>   État du disque</translation>
+    </message>
+    <message>
+        <source>View the health status of your hard disk</source>
+        <translation>Affiche l&apos;état de santé de votre disque dur</translation>
+    </message>
+    <message>
+        <source>   SMART Status</source>
+        <translation>   État SMART</translation>
+    </message>
+    <message>
+        <source>Detailed SMART status of the hard disk</source>
+        <translation>État SMART détaillé du disque dur</translation>
+    </message>
+    <message>
+        <source>   Disk Partition</source>
+        <translation>   Partitions</translation>
+    </message>
+    <message>
+        <source>View description of partitions in your hard disk</source>
+        <translation>Affiche la description des partitions de votre disque dur</translation>
+    </message>
+    <message>
+        <source>   Scan Disk</source>
+        <translation>   Analyser</translation>
+    </message>
+    <message>
+        <source>Scan your hard disk for bad sectors</source>
+        <translation>Recherche les secteurs défectueux de votre disque dur</translation>
+    </message>
+    <message>
+        <source>   Clone Disk</source>
+        <translation>   Cloner le disque</translation>
+    </message>
+    <message>
+        <source>Clone hard disk to avoid impending disk issues</source>
+        <translation>Clonez le disque dur pour prévenir les problèmes à venir</translation>
+    </message>
+    <message>
+        <source>Extended Self-test</source>
+        <translation>Autotest étendu</translation>
+    </message>
+    <message>
+        <source>Short Self-test</source>
+        <translation>Autotest court</translation>
+    </message>
+    <message>
+        <source>Aborted by User</source>
+        <translation>Abandonné par l&apos;utilisateur</translation>
+    </message>
+    <message>
+        <source>Successfully Completed</source>
+        <translation>Terminé avec succès</translation>
+    </message>
+    <message>
+        <source>Failed by Read Element</source>
+        <translation>Échec de l&apos;élément de lecture</translation>
+    </message>
+    <message>
+        <source>Not available</source>
+        <translation>Non disponible</translation>
+    </message>
+    <message>
+        <source> days</source>
+        <translation> jours</translation>
+    </message>
+    <message>
+        <source> hours</source>
+        <translation> heures</translation>
+    </message>
+    <message>
+        <source>More than 1000</source>
+        <translation>Plus de 1000</translation>
+    </message>
+    <message>
+        <source>ID#</source>
+        <translation>ID#</translation>
+    </message>
+    <message>
+        <source>ATTRIBUTE_NAME</source>
+        <translation>ATTRIBUTE_NAME</translation>
+    </message>
+    <message>
+        <source>FLAG</source>
+        <translation>FLAG</translation>
+    </message>
+    <message>
+        <source>VALUE</source>
+        <translation>VALUE</translation>
+    </message>
+    <message>
+        <source>SMART/Health Information (NVMe Log</source>
+        <translation>SMART/Health Information (NVMe Log</translation>
+    </message>
+    <message>
+        <source>Good</source>
+        <translation>Bonne</translation>
+    </message>
+    <message>
+        <source>Bad</source>
+        <translation>Mauvaise</translation>
+    </message>
+    <message>
+        <source>Not Supported</source>
+        <translation>Non pris en charge</translation>
+    </message>
+    <message>
+        <source>Supported</source>
+        <translation>Pris en charge</translation>
+    </message>
+    <message>
+        <source>NA</source>
+        <translation>N/D</translation>
+    </message>
+    <message>
+        <source>Disk Information:</source>
+        <translation>Informations sur le disque :</translation>
+    </message>
+    <message>
+        <source>S.M.A.R.T. Details:</source>
+        <translation>Détails S.M.A.R.T. :</translation>
+    </message>
+    <message>
+        <source>Model Number:</source>
+        <translation>Numéro de modèle :</translation>
+    </message>
+    <message>
+        <source>Serial Number:</source>
+        <translation>Numéro de série :</translation>
+    </message>
+    <message>
+        <source>Firmware Version:</source>
+        <translation>Version du firmware :</translation>
+    </message>
+    <message>
+        <source>Capacity:</source>
+        <translation>Capacité :</translation>
+    </message>
+    <message>
+        <source>Sector Size:</source>
+        <translation>Taille de secteur :</translation>
+    </message>
+    <message>
+        <source>Local  Time:</source>
+        <translation>Heure locale :</translation>
+    </message>
+    <message>
+        <source>Maximum Data Transfer Size:</source>
+        <translation>Taille maximale de transfert :</translation>
+    </message>
+    <message>
+        <source>SMART Status:</source>
+        <translation>État SMART :</translation>
+    </message>
+    <message>
+        <source>Current Temperature:</source>
+        <translation>Température actuelle :</translation>
+    </message>
+    <message>
+        <source>Performance:</source>
+        <translation>Performance :</translation>
+    </message>
+    <message>
+        <source>Health:</source>
+        <translation>Santé :</translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>Attribute Name</source>
+        <translation>Nom de l&apos;attribut</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>Valeurs</translation>
+    </message>
+    <message>
+        <source>Self Test Details:</source>
+        <translation>Détails des autotests :</translation>
+    </message>
+    <message>
+        <source>S.M.A.R.T. Details</source>
+        <translation>Détails S.M.A.R.T.</translation>
+    </message>
+    <message>
+        <source>Make:</source>
+        <translation>Fabricant :</translation>
+    </message>
+    <message>
+        <source>Rotation Rate:</source>
+        <translation>Vitesse de rotation :</translation>
+    </message>
+    <message>
+        <source>ATA Version:</source>
+        <translation>Version ATA :</translation>
+    </message>
+    <message>
+        <source>SATA Version:</source>
+        <translation>Version SATA :</translation>
+    </message>
+    <message>
+        <source>Short Self-test:</source>
+        <translation>Autotest court :</translation>
+    </message>
+    <message>
+        <source>Estimated Completion Time:</source>
+        <translation>Durée estimée :</translation>
+    </message>
+    <message>
+        <source>Extended Self-test:</source>
+        <translation>Autotest étendu :</translation>
+    </message>
+    <message>
+        <source>Last Run Self-test:</source>
+        <translation>Dernier autotest exécuté :</translation>
+    </message>
+    <message>
+        <source>Last Self-Test Result:</source>
+        <translation>Résultat du dernier autotest :</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
+    </message>
+    <message>
+        <source>Worst</source>
+        <translation>Pire</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Seuil</translation>
+    </message>
+    <message>
+        <source>Raw Value</source>
+        <translation>Brute</translation>
+    </message>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>S.M.A.R.T. Report</source>
+        <translation>Rapport S.M.A.R.T.</translation>
+    </message>
+    <message>
+        <source>The information contained in this report has been generated by the Velmora Halvane profiling process.</source>
+        <translation>Les informations de ce rapport ont été produites par l&apos;analyse de profil de Velmora Halvane.</translation>
+    </message>
+    <message>
+        <source>Velmora Halvane is a product of Korvane.</source>
+        <translation>Velmora Halvane est un produit de Korvane.</translation>
+    </message>
+    <message>
+        <source>Velmora Halvane is a product of Velmora.</source>
+        <translation>Velmora Halvane est un produit de Velmora.</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Échec</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Passed</source>
+        <translation>Réussi</translation>
+    </message>
+    <message>
+        <source>Source disk:     </source>
+        <translation>Disque source :     </translation>
+    </message>
+    <message>
+        <source>Destination disk:    </source>
+        <translation>Disque cible :    </translation>
+    </message>
+    <message>
+        <source>Clone Disk</source>
+        <translation>Cloner le disque</translation>
+    </message>
+    <message>
+        <source>Clone Running.</source>
+        <translation>Clonage en cours.</translation>
+    </message>
+    <message>
+        <source>Cloning process running.</source>
+        <translation>Un clonage est en cours.</translation>
+    </message>
+    <message>
+        <source>Please halt the clone process to exit.</source>
+        <translation>Arrêtez le clonage avant de quitter.</translation>
+    </message>
+    <message>
+        <source>Scan Disk</source>
+        <translation>Analyser le disque</translation>
+    </message>
+    <message>
+        <source>Scaning Running.</source>
+        <translation>Analyse en cours.</translation>
+    </message>
+    <message>
+        <source>Disk scan running.</source>
+        <translation>L&apos;analyse du disque est en cours.</translation>
+    </message>
+    <message>
+        <source>Please halt the scan process to exit.</source>
+        <translation>Arrêtez l&apos;analyse avant de quitter.</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Démarrer</translation>
+    </message>
+    <message>
+        <source>Clone</source>
+        <translation>Cloner</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+    <message>
+        <source>Save Report</source>
+        <translation>Enregistrer rapport</translation>
+    </message>
+    <message>
+        <source>Screenshot</source>
+        <translation>Capture d&apos;écran</translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>Numéro de série</translation>
+    </message>
+    <message>
+        <source>SMART Status</source>
+        <translation>État SMART</translation>
+    </message>
+    <message>
+        <source>View Velmora Halvane help document</source>
+        <translation>Consulter l&apos;aide de Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>More Tools</source>
+        <translation>Autres outils</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Paramètres</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>À propos</translation>
+    </message>
+    <message>
+        <source>Recover Data</source>
+        <translation>Récupérer des données</translation>
+    </message>
+    <message>
+        <source>Repair Video</source>
+        <translation>Réparer une vidéo</translation>
+    </message>
+    <message>
+        <source>Repair Photo</source>
+        <translation>Réparer une photo</translation>
+    </message>
+    <message>
+        <source>Select Destination</source>
+        <translation>Sélectionnez la cible</translation>
+    </message>
+    <message>
+        <source>Please wait. Application Refreshing...</source>
+        <translation>Veuillez patienter. Actualisation en cours...</translation>
+    </message>
+    <message>
+        <source>Stop Clone</source>
+        <translation>Arrêter le clonage</translation>
+    </message>
+    <message>
+        <source>Cloning can not be resumed from the current stage.</source>
+        <translation>Le clonage ne pourra pas être repris là où il s&apos;est arrêté.</translation>
+    </message>
+    <message>
+        <source>Do you wish to abort the cloning?</source>
+        <translation>Voulez-vous abandonner le clonage ?</translation>
+    </message>
+    <message>
+        <source>Stop Scan</source>
+        <translation>Arrêter l&apos;analyse</translation>
+    </message>
+    <message>
+        <source>Scan can not be resumed from the current stage.</source>
+        <translation>L&apos;analyse ne pourra pas être reprise là où elle s&apos;est arrêtée.</translation>
+    </message>
+    <message>
+        <source>Do you wish to abort the scan?</source>
+        <translation>Voulez-vous abandonner l&apos;analyse ?</translation>
+    </message>
+    <message>
+        <source>(BitLocker)</source>
+        <translation>(BitLocker)</translation>
+    </message>
+    <message>
+        <source>No Partition Found</source>
+        <translation>Aucune partition trouvée</translation>
+    </message>
+    <message>
+        <source>Save File</source>
+        <translation>Enregistrer le fichier</translation>
+    </message>
+    <message>
+        <source>Self-test can not be resumed from the current stage.</source>
+        <translation>L&apos;autotest ne pourra pas être repris là où il s&apos;est arrêté.</translation>
+    </message>
+    <message>
+        <source>Do you wish to abort the Self-test?</source>
+        <translation>Voulez-vous abandonner l&apos;autotest ?</translation>
+    </message>
+    <message>
+        <source>ATA Disk</source>
+        <translation>Disque ATA</translation>
+    </message>
+    <message>
+        <source>Please wait. Getting SMART information...</source>
+        <translation>Veuillez patienter. Lecture des informations SMART...</translation>
+    </message>
+    <message>
+        <source>Performance</source>
+        <translation>Performance</translation>
+    </message>
+    <message>
+        <source>Health</source>
+        <translation>Santé</translation>
+    </message>
+    <message>
+        <source>Hard Disk Life</source>
+        <translation>Durée de vie</translation>
+    </message>
+    <message>
+        <source>Power-on Time</source>
+        <translation>Temps d&apos;activité</translation>
+    </message>
+    <message>
+        <source>Start/Stop Count</source>
+        <translation>Démarrages/arrêts</translation>
+    </message>
+    <message>
+        <source>Graph : </source>
+        <translation>Graphique : </translation>
+    </message>
+    <message>
+        <source>Running, no problems found</source>
+        <translation>En cours, aucun problème détecté</translation>
+    </message>
+    <message>
+        <source>Test failed by Read Element</source>
+        <translation>Échec du test : élément de lecture</translation>
+    </message>
+    <message>
+        <source>Test Aborted by User</source>
+        <translation>Test abandonné par l&apos;utilisateur</translation>
+    </message>
+    <message>
+        <source> minutes</source>
+        <translation> minutes</translation>
+    </message>
+    <message>
+        <source>Healthy</source>
+        <translation>En bon état</translation>
+    </message>
+    <message>
+        <source>Not Healthy</source>
+        <translation>En mauvais état</translation>
+    </message>
+    <message>
+        <source>% Free</source>
+        <translation>% libres</translation>
+    </message>
+    <message>
+        <source> Free of </source>
+        <translation> libres sur </translation>
+    </message>
+    <message>
+        <source> Available</source>
+        <translation> disponibles</translation>
+    </message>
+</context>
+<context>
+    <name>QCheckUpdate</name>
+    <message>
+        <source>No update available.</source>
+        <translation>Aucune mise à jour disponible.</translation>
+    </message>
+</context>
+<context>
+    <name>QDownloadApp</name>
+    <message>
+        <source>Downloading under progress...</source>
+        <translation>Téléchargement en cours...</translation>
+    </message>
+    <message>
+        <source>Time Elapsed: </source>
+        <translation>Temps écoulé : </translation>
+    </message>
+    <message>
+        <source> sec </source>
+        <translation> s </translation>
+    </message>
+    <message>
+        <source> MB copied) </source>
+        <translation> Mo copiés) </translation>
+    </message>
+    <message>
+        <source> MB of  </source>
+        <translation> Mo sur  </translation>
+    </message>
+    <message>
+        <source>Transfer Rate: </source>
+        <translation>Débit : </translation>
+    </message>
+    <message>
+        <source> KB/sec </source>
+        <translation> Ko/s </translation>
+    </message>
+    <message>
+        <source>Software Update</source>
+        <translation>Mise à jour du logiciel</translation>
+    </message>
+    <message>
+        <source>Update failed 
+
+Update failed due to partial download.</source>
+        <translation>Échec de la mise à jour 
+
+La mise à jour a échoué : le téléchargement est incomplet.</translation>
+    </message>
+</context>
+<context>
+    <name>QGridView</name>
+    <message>
+        <source> to </source>
+        <translation> à </translation>
+    </message>
+    <message>
+        <source>Start Sector of current block: </source>
+        <translation>Premier secteur du bloc : </translation>
+    </message>
+    <message>
+        <source>End Sector of current block: </source>
+        <translation>Dernier secteur du bloc : </translation>
+    </message>
+    <message>
+        <source>Current Block Size : </source>
+        <translation>Taille du bloc : </translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> Mo</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Velmora Halvane already running. Cannot start more than one instance of the application.</source>
+        <translation>Velmora Halvane est déjà en cours d&apos;exécution. Une seule instance de l&apos;application peut être lancée.</translation>
+    </message>
+</context>
+<context>
+    <name>QRoundProgressBar</name>
+    <message>
+        <source>Complete</source>
+        <translation>Terminé</translation>
+    </message>
+</context>
+<context>
+    <name>QShowUpdate</name>
+    <message>
+        <source>A new major release </source>
+        <translation>Une nouvelle version majeure </translation>
+    </message>
+    <message>
+        <source>A new minor update </source>
+        <translation>Une nouvelle mise à jour mineure </translation>
+    </message>
+    <message>
+        <source> is available. Click Update to proceed further.</source>
+        <translation> est disponible. Cliquez sur Mettre à jour pour continuer.</translation>
+    </message>
+    <message>
+        <source>Visit Update Page</source>
+        <translation>Page des mises à jour</translation>
+    </message>
+</context>
+<context>
+    <name>QWaitClass</name>
+    <message>
+        <source>Initializing Velmora Halvane...</source>
+        <translation>Initialisation de Velmora Halvane...</translation>
+    </message>
+</context>
+<context>
+    <name>ScanDisk</name>
+    <message>
+        <source> hours</source>
+        <translation> heures</translation>
+    </message>
+    <message>
+        <source> minutes</source>
+        <translation> minutes</translation>
+    </message>
+    <message>
+        <source> seconds</source>
+        <translation> secondes</translation>
+    </message>
+    <message>
+        <source>Scan Disk</source>
+        <translation>Analyser le disque</translation>
+    </message>
+    <message>
+        <source>Disk Size</source>
+        <translation>Taille du disque</translation>
+    </message>
+    <message>
+        <source>Total Sectors</source>
+        <translation>Total des secteurs</translation>
+    </message>
+    <message>
+        <source>Block Size</source>
+        <translation>Taille de bloc</translation>
+    </message>
+    <message>
+        <source>  Processed</source>
+        <translation>  Traités</translation>
+    </message>
+    <message>
+        <source>  Bad Sectors</source>
+        <translation>  Secteurs défectueux</translation>
+    </message>
+    <message>
+        <source>  Processing</source>
+        <translation>  En traitement</translation>
+    </message>
+    <message>
+        <source>Short Self-test</source>
+        <translation>Autotest court</translation>
+    </message>
+    <message>
+        <source>Extended Self-test</source>
+        <translation>Autotest étendu</translation>
+    </message>
+    <message>
+        <source>Perform a surface scan on the selected disk to identify if the disk has bad sectors.</source>
+        <translation>Effectue une analyse de la surface du disque sélectionné pour savoir s&apos;il contient des secteurs défectueux.</translation>
+    </message>
+    <message>
+        <source>Run this test to check the electrical and mechanical performance of a device along with the read/write operations on a portion of the disk. This test may take few minutes to complete.</source>
+        <translation>Ce test vérifie le fonctionnement électrique et mécanique du disque ainsi que la lecture et l&apos;écriture sur une partie du disque. Il peut durer quelques minutes.</translation>
+    </message>
+    <message>
+        <source>This test is same as a short self-test with a complete disk surface examination. This test may take up to few hours to complete.</source>
+        <translation>Ce test est identique à l&apos;autotest court, avec un examen complet de la surface du disque. Il peut durer plusieurs heures.</translation>
+    </message>
+    <message>
+        <source>Time Remaining</source>
+        <translation>Temps restant</translation>
+    </message>
+    <message>
+        <source>Time Elapsed</source>
+        <translation>Temps écoulé</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> Mo</translation>
+    </message>
+    <message>
+        <source>Disk Scan</source>
+        <translation>Analyse du disque</translation>
+    </message>
+    <message>
+        <source>Disk scan aborted.</source>
+        <translation>Analyse du disque abandonnée.</translation>
+    </message>
+    <message>
+        <source>Disk scan aborted by user.</source>
+        <translation>Analyse du disque abandonnée par l&apos;utilisateur.</translation>
+    </message>
+    <message>
+        <source>Scan Completed</source>
+        <translation>Analyse terminée</translation>
+    </message>
+    <message>
+        <source>Scan Completed.</source>
+        <translation>Analyse terminée.</translation>
+    </message>
+    <message>
+        <source>Scan Failed</source>
+        <translation>Échec de l&apos;analyse</translation>
+    </message>
+    <message>
+        <source>Scan Failed.</source>
+        <translation>Échec de l&apos;analyse.</translation>
+    </message>
+</context>
+<context>
+    <name>ScanSwitchDialog</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Scan Disk</source>
+        <translation>Analyser le disque</translation>
+    </message>
+    <message>
+        <source>Scan results will be lost if you move away from this screen. </source>
+        <translation>Les résultats de l&apos;analyse seront perdus si vous quittez cet écran. </translation>
+    </message>
+    <message>
+        <source>Do you want to move away from this screen?</source>
+        <translation>Voulez-vous quitter cet écran ?</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Oui</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Non</translation>
+    </message>
+</context>
+<context>
+    <name>SelfTestNotSupportedDialog</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Drive Test</source>
+        <translation>Test du disque</translation>
+    </message>
+    <message>
+        <source>Self-test not supported.</source>
+        <translation>Autotest non pris en charge.</translation>
+    </message>
+    <message>
+        <source>Selected disk doesn&apos;t support self test.</source>
+        <translation>Le disque sélectionné ne prend pas en charge l&apos;autotest.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>SelfTestPanelForm</name>
+    <message>
+        <source>Model</source>
+        <translation>Modèle</translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>Numéro de série</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>Polling Time</source>
+        <translation>Durée prévue</translation>
+    </message>
+    <message>
+        <source>Time Remaining</source>
+        <translation>Temps restant</translation>
+    </message>
+    <message>
+        <source>Time Elapsed</source>
+        <translation>Temps écoulé</translation>
+    </message>
+</context>
+<context>
+    <name>Settings</name>
+    <message>
+        <source>Check for Updates</source>
+        <translation>Rechercher des mises à jour</translation>
+    </message>
+    <message>
+        <source>View Velmora Halvane help document</source>
+        <translation>Consulter l&apos;aide de Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>Langues</translation>
+    </message>
+    <message>
+        <source>Save log file</source>
+        <translation>Enregistrer le fichier journal</translation>
+    </message>
+    <message>
+        <source>Your Software has all latest updates installed.</source>
+        <translation>Toutes les dernières mises à jour de votre logiciel sont installées.</translation>
+    </message>
+</context>
+<context>
+    <name>ShowUpdateAvail</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Mettre à jour</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>SmallMsg</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>SmartShutdownDialog</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Shutdown Warning</source>
+        <translation>Avertissement d&apos;arrêt</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Avertissement</translation>
+    </message>
+    <message>
+        <source>Hard Disk&apos;s temperature has reached the shutdown value.</source>
+        <translation>La température du disque dur a atteint la valeur d&apos;arrêt.</translation>
+    </message>
+    <message>
+        <source>It is advisable to shutdown the system immediately.</source>
+        <translation>Il est conseillé d&apos;arrêter immédiatement le système.</translation>
+    </message>
+    <message>
+        <source>Shutdown</source>
+        <translation>Arrêter le système</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>SmartStatus</name>
+    <message>
+        <source>     ID</source>
+        <translation>     ID</translation>
+    </message>
+    <message>
+        <source>Attribute Name</source>
+        <translation>Nom de l&apos;attribut</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
+    </message>
+    <message>
+        <source>Worst</source>
+        <translation>Pire</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Seuil</translation>
+    </message>
+    <message>
+        <source>Raw Value</source>
+        <translation>Brute</translation>
+    </message>
+    <message>
+        <source>Updated</source>
+        <translation>Mis à jour</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Échec</translation>
+    </message>
+    <message>
+        <source>Better</source>
+        <translation>Mieux</translation>
+    </message>
+    <message>
+        <source>Overall Status</source>
+        <translation>État général</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>Valeurs</translation>
+    </message>
+    <message>
+        <source>AttName</source>
+        <translation>AttName</translation>
+    </message>
+    <message>
+        <source>SMART Status : </source>
+        <translation>État SMART : </translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>Numéro de série</translation>
+    </message>
+    <message>
+        <source>Capacity</source>
+        <translation>Capacité</translation>
+    </message>
+    <message>
+        <source>Interface Type</source>
+        <translation>Type d&apos;interface</translation>
+    </message>
+    <message>
+        <source>Save Report</source>
+        <translation>Enregistrer rapport</translation>
+    </message>
+    <message>
+        <source>Smart Status</source>
+        <translation>État SMART</translation>
+    </message>
+    <message>
+        <source>PASSED</source>
+        <translation>RÉUSSI</translation>
+    </message>
+    <message>
+        <source>Passed</source>
+        <translation>Réussi</translation>
+    </message>
+    <message>
+        <source>Graph</source>
+        <translation>Graphique</translation>
+    </message>
+    <message>
+        <source>FAIELD</source>
+        <translation>ÉCHEC</translation>
+    </message>
+    <message>
+        <source>ATA Disk</source>
+        <translation>Disque ATA</translation>
+    </message>
+</context>
+<context>
+    <name>SmartWarningDialog</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>SMART Warning</source>
+        <translation>Alerte SMART</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Avertissement</translation>
+    </message>
+    <message>
+        <source>Hard Disk&apos;s temperature exceed the threshold value.</source>
+        <translation>La température du disque dur dépasse le seuil.</translation>
+    </message>
+    <message>
+        <source>Your hard disk&apos;s temperature has exceeded threshold value. This may damage hard disk. It is advisable to shutdown the system immediately.</source>
+        <translation>La température de votre disque dur a dépassé le seuil. Cela peut endommager le disque dur. Il est conseillé d&apos;arrêter immédiatement le système.</translation>
+    </message>
+    <message>
+        <source>Don&apos;t show again</source>
+        <translation>Ne plus afficher</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>m_pCloseWgt</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to exit?</source>
+        <translation>Voulez-vous vraiment quitter ?</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Oui</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Non</translation>
+    </message>
+</context>
+<context>
+    <name>m_pDiskStatus</name>
+    <message>
+        <source>Disk Details</source>
+        <translation>Détails du disque</translation>
+    </message>
+    <message>
+        <source>Disk Number</source>
+        <translation>Numéro du disque</translation>
+    </message>
+    <message>
+        <source>Model Number</source>
+        <translation>Numéro de modèle</translation>
+    </message>
+    <message>
+        <source>Firmware Revision</source>
+        <translation>Révision du firmware</translation>
+    </message>
+    <message>
+        <source>Interface Type</source>
+        <translation>Type d&apos;interface</translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>Numéro de série</translation>
+    </message>
+    <message>
+        <source>Total Sectors</source>
+        <translation>Total des secteurs</translation>
+    </message>
+    <message>
+        <source>Hard Disk Life</source>
+        <translation>Durée de vie</translation>
+    </message>
+    <message>
+        <source>Power-on Time</source>
+        <translation>Temps d&apos;activité</translation>
+    </message>
+    <message>
+        <source>Start/Stop Count</source>
+        <translation>Démarrages/arrêts</translation>
+    </message>
+</context>
+<context>
+    <name>m_pMainWindow</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>Numéro de série</translation>
+    </message>
+    <message>
+        <source>SMART Status</source>
+        <translation>État SMART</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Démarrer</translation>
+    </message>
+    <message>
+        <source>Clone</source>
+        <translation>Cloner</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>Save Report</source>
+        <translation>Enregistrer rapport</translation>
+    </message>
+    <message>
+        <source>Screenshot</source>
+        <translation>Capture d&apos;écran</translation>
+    </message>
+</context>
+<context>
+    <name>m_pSettingswgt</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>  Settings</source>
+        <translation>  Paramètres</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Paramètres</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Général</translation>
+    </message>
+    <message>
+        <source>Show status in tray</source>
+        <translation>Afficher l&apos;état dans la zone de notification</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>Anglais</translation>
+    </message>
+    <message>
+        <source>German</source>
+        <translation>Allemand</translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation>Français</translation>
+    </message>
+    <message>
+        <source>Italian</source>
+        <translation>Italien</translation>
+    </message>
+    <message>
+        <source>Spanish</source>
+        <translation>Espagnol</translation>
+    </message>
+    <message>
+        <source>Dutch</source>
+        <translation>Néerlandais</translation>
+    </message>
+    <message>
+        <source>Portuguese (Brazil)</source>
+        <translation>Portugais (Brésil)</translation>
+    </message>
+    <message>
+        <source>Hindi</source>
+        <translation>Hindi</translation>
+    </message>
+    <message>
+        <source>LOGS</source>
+        <translation>JOURNAUX</translation>
+    </message>
+    <message>
+        <source>Save log file</source>
+        <translation>Enregistrer le fichier journal</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>Max log size (KB)</source>
+        <translation>Taille max. du journal (Ko)</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Température</translation>
+    </message>
+    <message>
+        <source>Show Temperature in</source>
+        <translation>Afficher la température en</translation>
+    </message>
+    <message>
+        <source>Celsius</source>
+        <translation>Celsius</translation>
+    </message>
+    <message>
+        <source>Fahrenheit</source>
+        <translation>Fahrenheit</translation>
+    </message>
+    <message>
+        <source>Enable Temperature Alarm</source>
+        <translation>Activer l&apos;alarme de température</translation>
+    </message>
+    <message>
+        <source>Warning Temperature</source>
+        <translation>Température d&apos;alerte</translation>
+    </message>
+    <message>
+        <source>°C</source>
+        <translation>°C</translation>
+    </message>
+    <message>
+        <source>°F</source>
+        <translation>°F</translation>
+    </message>
+    <message>
+        <source>Shutdown Temperature</source>
+        <translation>Température d&apos;arrêt</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,1850 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="it_IT" sourcelanguage="en_US">
+<context>
+    <name>AttributeCatalogue</name>
+    <message>
+        <source>Raw Read Error Rate</source>
+        <translation>Errori di lettura</translation>
+    </message>
+    <message>
+        <source>Spin Up Time</source>
+        <translation>Tempo di avvio rotazione</translation>
+    </message>
+    <message>
+        <source>Start Stop Count</source>
+        <translation>Avvii e arresti</translation>
+    </message>
+    <message>
+        <source>Reallocated Sector Count</source>
+        <translation>Settori riallocati</translation>
+    </message>
+    <message>
+        <source>Seek Error Rate</source>
+        <translation>Errori di ricerca</translation>
+    </message>
+    <message>
+        <source>Power On Hours</source>
+        <translation>Ore di accensione</translation>
+    </message>
+    <message>
+        <source>Spin Retry Count</source>
+        <translation>Tentativi di rotazione</translation>
+    </message>
+    <message>
+        <source>Calibration Retry Count</source>
+        <translation>Tentativi di calibrazione</translation>
+    </message>
+    <message>
+        <source>Power Cycle Count</source>
+        <translation>Cicli di accensione</translation>
+    </message>
+    <message>
+        <source>Power-Off Retract Count</source>
+        <translation>Ritrazioni allo spegnimento</translation>
+    </message>
+    <message>
+        <source>Load Cycle Count</source>
+        <translation>Cicli di caricamento</translation>
+    </message>
+    <message>
+        <source>Temperature Celsius</source>
+        <translation>Temperatura Celsius</translation>
+    </message>
+    <message>
+        <source>Reallocated Event Count</source>
+        <translation>Eventi di riallocazione</translation>
+    </message>
+    <message>
+        <source>Current Pending Sector Count</source>
+        <translation>Settori in attesa</translation>
+    </message>
+    <message>
+        <source>Offline Uncorrectable</source>
+        <translation>Non correggibili offline</translation>
+    </message>
+    <message>
+        <source>UDMA CRC Error Count</source>
+        <translation>Errori CRC UDMA</translation>
+    </message>
+    <message>
+        <source>Multi Zone Error Rate</source>
+        <translation>Errori multizona</translation>
+    </message>
+    <message>
+        <source>Available Reserved Space</source>
+        <translation>Spazio di riserva</translation>
+    </message>
+    <message>
+        <source>SSD Program Fail Count</source>
+        <translation>Errori di programmazione SSD</translation>
+    </message>
+    <message>
+        <source>SSD Erase Fail Count</source>
+        <translation>Errori di cancellazione SSD</translation>
+    </message>
+    <message>
+        <source>SSD Wear Leveling Count</source>
+        <translation>Livellamento usura SSD</translation>
+    </message>
+    <message>
+        <source>Unexpected power loss count</source>
+        <translation>Perdite di alimentazione</translation>
+    </message>
+    <message>
+        <source>Throughput Performance</source>
+        <translation>Prestazioni di trasferimento</translation>
+    </message>
+    <message>
+        <source>Read Channel Margin</source>
+        <translation>Margine del canale di lettura</translation>
+    </message>
+    <message>
+        <source>Seek Time Performance</source>
+        <translation>Prestazioni di ricerca</translation>
+    </message>
+    <message>
+        <source>Soft Read Error Rate</source>
+        <translation>Errori di lettura soft</translation>
+    </message>
+    <message>
+        <source>Runtime Bad Block</source>
+        <translation>Blocchi difettosi in uso</translation>
+    </message>
+    <message>
+        <source>End-to-End Error </source>
+        <translation>Errori end-to-end </translation>
+    </message>
+    <message>
+        <source>Reported Uncorrect</source>
+        <translation>Errori non corretti</translation>
+    </message>
+    <message>
+        <source>Command Timeout</source>
+        <translation>Comandi scaduti</translation>
+    </message>
+    <message>
+        <source>High Fly Writes</source>
+        <translation>Scritture in quota</translation>
+    </message>
+    <message>
+        <source>Airflow Temperature Cel</source>
+        <translation>Temperatura dell&apos;aria</translation>
+    </message>
+    <message>
+        <source>G-Sense Error Rate</source>
+        <translation>Errori da urto</translation>
+    </message>
+    <message>
+        <source>Hardware ECC Recovered</source>
+        <translation>Correzioni ECC</translation>
+    </message>
+    <message>
+        <source>Multi Zone Error Rate </source>
+        <translation>Errori multizona </translation>
+    </message>
+    <message>
+        <source>Write Error Rate</source>
+        <translation>Errori di scrittura</translation>
+    </message>
+    <message>
+        <source>Head Flying Hours</source>
+        <translation>Ore di volo delle testine</translation>
+    </message>
+    <message>
+        <source>Total LBAs Written</source>
+        <translation>LBA totali scritti</translation>
+    </message>
+    <message>
+        <source>Total LBAs Read</source>
+        <translation>LBA totali letti</translation>
+    </message>
+    <message>
+        <source>Free Fall Sensor</source>
+        <translation>Sensore di caduta libera</translation>
+    </message>
+    <message>
+        <source>Critical Warning</source>
+        <translation>Avviso critico</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperatura</translation>
+    </message>
+    <message>
+        <source>Available Spare</source>
+        <translation>Riserva disponibile</translation>
+    </message>
+    <message>
+        <source>Available Spare Threshold</source>
+        <translation>Soglia di riserva</translation>
+    </message>
+    <message>
+        <source>Percentage Used</source>
+        <translation>Percentuale usata</translation>
+    </message>
+    <message>
+        <source>Data Units Read</source>
+        <translation>Unità di dati lette</translation>
+    </message>
+    <message>
+        <source>Data Units Written</source>
+        <translation>Unità di dati scritte</translation>
+    </message>
+    <message>
+        <source>Host Read Commands</source>
+        <translation>Comandi di lettura</translation>
+    </message>
+    <message>
+        <source>Host Write Commands</source>
+        <translation>Comandi di scrittura</translation>
+    </message>
+    <message>
+        <source>Controller Busy Time</source>
+        <translation>Tempo di occupazione</translation>
+    </message>
+    <message>
+        <source>Power Cyles</source>
+        <translation>Cicli di accensione</translation>
+    </message>
+    <message>
+        <source>Unsafe Shutdowns</source>
+        <translation>Arresti non sicuri</translation>
+    </message>
+    <message>
+        <source>Media and Data Integrity Errors</source>
+        <translation>Errori di integrità</translation>
+    </message>
+    <message>
+        <source>Error Information Log Entries</source>
+        <translation>Voci del registro errori</translation>
+    </message>
+</context>
+<context>
+    <name>AttributeRows</name>
+    <message>
+        <source>FAILED</source>
+        <translation>FALLITO</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>CheckUpdate</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Checking for updates...</source>
+        <translation>Ricerca di aggiornamenti...</translation>
+    </message>
+</context>
+<context>
+    <name>CloneDisk</name>
+    <message>
+        <source>Not Available</source>
+        <translation>Non disponibile</translation>
+    </message>
+    <message>
+        <source>Disk Number 	: </source>
+        <translation>Numero disco 	: </translation>
+    </message>
+    <message>
+        <source>Model Number	: </source>
+        <translation>Numero di modello	: </translation>
+    </message>
+    <message>
+        <source>Serial: </source>
+        <translation>Serie: </translation>
+    </message>
+    <message>
+        <source>Firmware Revision : </source>
+        <translation>Revisione firmware : </translation>
+    </message>
+    <message>
+        <source>Interface Type	   : </source>
+        <translation>Tipo di interfaccia	   : </translation>
+    </message>
+    <message>
+        <source>Capacity	: </source>
+        <translation>Capacità	: </translation>
+    </message>
+    <message>
+        <source>Total Sector	   : </source>
+        <translation>Totale settori	   : </translation>
+    </message>
+    <message>
+        <source>Model Number : </source>
+        <translation>Numero di modello : </translation>
+    </message>
+    <message>
+        <source>Capacity           : </source>
+        <translation>Capacità           : </translation>
+    </message>
+    <message>
+        <source>ATA Disk</source>
+        <translation>Disco ATA</translation>
+    </message>
+    <message>
+        <source> hours</source>
+        <translation> ore</translation>
+    </message>
+    <message>
+        <source> minutes</source>
+        <translation> minuti</translation>
+    </message>
+    <message>
+        <source> seconds</source>
+        <translation> secondi</translation>
+    </message>
+    <message>
+        <source>Source and destination disks are same.</source>
+        <translation>Il disco di origine e quello di destinazione coincidono.</translation>
+    </message>
+    <message>
+        <source>Destination disk size is smaller than source disk.</source>
+        <translation>Il disco di destinazione è più piccolo di quello di origine.</translation>
+    </message>
+    <message>
+        <source>Clone Disk</source>
+        <translation>Clona disco</translation>
+    </message>
+    <message>
+        <source>Select different destination disk.</source>
+        <translation>Selezionare un altro disco di destinazione.</translation>
+    </message>
+    <message>
+        <source>Cloning Failed</source>
+        <translation>Clonazione non riuscita</translation>
+    </message>
+    <message>
+        <source>Unable to write on destination disk.</source>
+        <translation>Impossibile scrivere sul disco di destinazione.</translation>
+    </message>
+    <message>
+        <source>Select other destination disk.</source>
+        <translation>Selezionare un altro disco di destinazione.</translation>
+    </message>
+    <message>
+        <source>Abort Clone</source>
+        <translation>Interrompi clonazione</translation>
+    </message>
+    <message>
+        <source>Cloning Aborted.</source>
+        <translation>Clonazione interrotta.</translation>
+    </message>
+    <message>
+        <source>Disk Cloning complete.</source>
+        <translation>Clonazione del disco completata.</translation>
+    </message>
+    <message>
+        <source>Disk cloning process completed successfully.</source>
+        <translation>La clonazione del disco è stata completata correttamente.</translation>
+    </message>
+    <message>
+        <source>Cloning aborted.</source>
+        <translation>Clonazione interrotta.</translation>
+    </message>
+    <message>
+        <source>Cloning process aborted by the user.</source>
+        <translation>Clonazione interrotta dall&apos;utente.</translation>
+    </message>
+    <message>
+        <source>Disk Details</source>
+        <translation>Dettagli del disco</translation>
+    </message>
+    <message>
+        <source>Source Disk</source>
+        <translation>Disco di origine</translation>
+    </message>
+    <message>
+        <source>Target Disk</source>
+        <translation>Disco di destinazione</translation>
+    </message>
+    <message>
+        <source>Remaining Time</source>
+        <translation>Tempo rimanente</translation>
+    </message>
+    <message>
+        <source>Select Destination</source>
+        <translation>Seleziona destinazione</translation>
+    </message>
+</context>
+<context>
+    <name>CloningWarningDialog</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Clone Disk</source>
+        <translation>Clona disco</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Avviso</translation>
+    </message>
+    <message>
+        <source>This action will create a clone of the source drive on the destination drive. Make sure that source and destination disk selection is correct since this operation is irreversible.</source>
+        <translation>Questa operazione crea un clone dell&apos;unità di origine sull&apos;unità di destinazione. Verificare che i dischi di origine e di destinazione siano quelli corretti, perché l&apos;operazione è irreversibile.</translation>
+    </message>
+    <message>
+        <source>Existing data on the destination disk will be lost.</source>
+        <translation>I dati presenti sul disco di destinazione andranno persi.</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Avvia</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+</context>
+<context>
+    <name>ConfarmetionDialog</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Sì</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>No</translation>
+    </message>
+</context>
+<context>
+    <name>DestinitionWarningDailog</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Clone Disk</source>
+        <translation>Clona disco</translation>
+    </message>
+    <message>
+        <source>Select target disk.</source>
+        <translation>Selezionare il disco di destinazione.</translation>
+    </message>
+    <message>
+        <source>Select target disk to start cloning process.</source>
+        <translation>Selezionare il disco di destinazione per avviare la clonazione.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+</context>
+<context>
+    <name>DiskPartition</name>
+    <message>
+        <source>Disk Partition</source>
+        <translation>Partizioni del disco</translation>
+    </message>
+    <message>
+        <source>Partition Details</source>
+        <translation>Dettagli delle partizioni</translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>Numero di serie</translation>
+    </message>
+    <message>
+        <source>Capacity</source>
+        <translation>Capacità</translation>
+    </message>
+    <message>
+        <source>Interface Type</source>
+        <translation>Tipo di interfaccia</translation>
+    </message>
+    <message>
+        <source>ATA Disk</source>
+        <translation>Disco ATA</translation>
+    </message>
+    <message>
+        <source>Partition</source>
+        <translation>Partizione</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Stato</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Spazio</translation>
+    </message>
+</context>
+<context>
+    <name>DiskStatus</name>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperatura</translation>
+    </message>
+    <message>
+        <source>Performance</source>
+        <translation>Prestazioni</translation>
+    </message>
+    <message>
+        <source>Health</source>
+        <translation>Salute</translation>
+    </message>
+    <message>
+        <source>Disk Details</source>
+        <translation>Dettagli del disco</translation>
+    </message>
+    <message>
+        <source>Disk Number</source>
+        <translation>Numero disco</translation>
+    </message>
+    <message>
+        <source>Model Number</source>
+        <translation>Numero di modello</translation>
+    </message>
+    <message>
+        <source>Firmware Revision</source>
+        <translation>Revisione firmware</translation>
+    </message>
+    <message>
+        <source>Interface Type</source>
+        <translation>Tipo di interfaccia</translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>Numero di serie</translation>
+    </message>
+    <message>
+        <source>Total Sectors</source>
+        <translation>Totale settori</translation>
+    </message>
+    <message>
+        <source>Hard Disk Life</source>
+        <translation>Vita del disco</translation>
+    </message>
+    <message>
+        <source>Power-on Time</source>
+        <translation>Tempo di accensione</translation>
+    </message>
+    <message>
+        <source>Start/Stop Count</source>
+        <translation>Avvii/arresti</translation>
+    </message>
+    <message>
+        <source>Not Supported</source>
+        <translation>Non supportato</translation>
+    </message>
+</context>
+<context>
+    <name>DonutChartView</name>
+    <message>
+        <source>Disk </source>
+        <translation>Disco </translation>
+    </message>
+</context>
+<context>
+    <name>DownloadUpdate</name>
+    <message>
+        <source>Software Update</source>
+        <translation>Aggiornamento software</translation>
+    </message>
+    <message>
+        <source>Downloading Files</source>
+        <translation>Download dei file</translation>
+    </message>
+    <message>
+        <source>Downloading under progress...</source>
+        <translation>Download in corso...</translation>
+    </message>
+</context>
+<context>
+    <name>InfoDialog</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Informazioni</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Not Available</source>
+        <translation>Non disponibile</translation>
+    </message>
+    <message>
+        <source>Disk Drive </source>
+        <translation>Disco </translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>Inglese</translation>
+    </message>
+    <message>
+        <source>German</source>
+        <translation>Tedesco</translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation>Francese</translation>
+    </message>
+    <message>
+        <source>Italian</source>
+        <translation>Italiano</translation>
+    </message>
+    <message>
+        <source>Spanish</source>
+        <translation>Spagnolo</translation>
+    </message>
+    <message>
+        <source>Japanese</source>
+        <translation>Giapponese</translation>
+    </message>
+    <message>
+        <source>Chinese</source>
+        <translation>Cinese</translation>
+    </message>
+    <message>
+        <source>Korean</source>
+        <translation>Coreano</translation>
+    </message>
+    <message>
+        <source>Dutch</source>
+        <translation>Olandese</translation>
+    </message>
+    <message>
+        <source>Brazil</source>
+        <translation>Brasile</translation>
+    </message>
+    <message>
+        <source>Hindi</source>
+        <translation>Hindi</translation>
+    </message>
+    <message>
+        <source>   Disk Status</source>
+        <translation>   Stato disco</translation>
+    </message>
+    <message>
+        <source>View the health status of your hard disk</source>
+        <translation>Mostra lo stato di salute del disco rigido</translation>
+    </message>
+    <message>
+        <source>   SMART Status</source>
+        <translation>   Stato SMART</translation>
+    </message>
+    <message>
+        <source>Detailed SMART status of the hard disk</source>
+        <translation>Stato SMART dettagliato del disco rigido</translation>
+    </message>
+    <message>
+        <source>   Disk Partition</source>
+        <translation>   Partizioni</translation>
+    </message>
+    <message>
+        <source>View description of partitions in your hard disk</source>
+        <translation>Mostra la descrizione delle partizioni del disco rigido</translation>
+    </message>
+    <message>
+        <source>   Scan Disk</source>
+        <translation>   Scansione disco</translation>
+    </message>
+    <message>
+        <source>Scan your hard disk for bad sectors</source>
+        <translation>Cerca settori danneggiati nel disco rigido</translation>
+    </message>
+    <message>
+        <source>   Clone Disk</source>
+        <translation>   Clona disco</translation>
+    </message>
+    <message>
+        <source>Clone hard disk to avoid impending disk issues</source>
+        <translation>Clona il disco rigido per prevenire problemi imminenti</translation>
+    </message>
+    <message>
+        <source>Extended Self-test</source>
+        <translation>Autotest esteso</translation>
+    </message>
+    <message>
+        <source>Short Self-test</source>
+        <translation>Autotest breve</translation>
+    </message>
+    <message>
+        <source>Aborted by User</source>
+        <translation>Interrotto dall&apos;utente</translation>
+    </message>
+    <message>
+        <source>Successfully Completed</source>
+        <translation>Completato correttamente</translation>
+    </message>
+    <message>
+        <source>Failed by Read Element</source>
+        <translation>Errore dell&apos;elemento di lettura</translation>
+    </message>
+    <message>
+        <source>Not available</source>
+        <translation>Non disponibile</translation>
+    </message>
+    <message>
+        <source> days</source>
+        <translation> giorni</translation>
+    </message>
+    <message>
+        <source> hours</source>
+        <translation> ore</translation>
+    </message>
+    <message>
+        <source>More than 1000</source>
+        <translation>Più di 1000</translation>
+    </message>
+    <message>
+        <source>ID#</source>
+        <translation>ID#</translation>
+    </message>
+    <message>
+        <source>ATTRIBUTE_NAME</source>
+        <translation>ATTRIBUTE_NAME</translation>
+    </message>
+    <message>
+        <source>FLAG</source>
+        <translation>FLAG</translation>
+    </message>
+    <message>
+        <source>VALUE</source>
+        <translation>VALUE</translation>
+    </message>
+    <message>
+        <source>SMART/Health Information (NVMe Log</source>
+        <translation>SMART/Health Information (NVMe Log</translation>
+    </message>
+    <message>
+        <source>Good</source>
+        <translation>Buona</translation>
+    </message>
+    <message>
+        <source>Bad</source>
+        <translation>Cattiva</translation>
+    </message>
+    <message>
+        <source>Not Supported</source>
+        <translation>Non supportato</translation>
+    </message>
+    <message>
+        <source>Supported</source>
+        <translation>Supportato</translation>
+    </message>
+    <message>
+        <source>NA</source>
+        <translation>N/D</translation>
+    </message>
+    <message>
+        <source>Disk Information:</source>
+        <translation>Informazioni sul disco:</translation>
+    </message>
+    <message>
+        <source>S.M.A.R.T. Details:</source>
+        <translation>Dettagli S.M.A.R.T.:</translation>
+    </message>
+    <message>
+        <source>Model Number:</source>
+        <translation>Numero di modello:</translation>
+    </message>
+    <message>
+        <source>Serial Number:</source>
+        <translation>Numero di serie:</translation>
+    </message>
+    <message>
+        <source>Firmware Version:</source>
+        <translation>Versione firmware:</translation>
+    </message>
+    <message>
+        <source>Capacity:</source>
+        <translation>Capacità:</translation>
+    </message>
+    <message>
+        <source>Sector Size:</source>
+        <translation>Dimensione settore:</translation>
+    </message>
+    <message>
+        <source>Local  Time:</source>
+        <translation>Ora locale:</translation>
+    </message>
+    <message>
+        <source>Maximum Data Transfer Size:</source>
+        <translation>Dimensione massima di trasferimento:</translation>
+    </message>
+    <message>
+        <source>SMART Status:</source>
+        <translation>Stato SMART:</translation>
+    </message>
+    <message>
+        <source>Current Temperature:</source>
+        <translation>Temperatura attuale:</translation>
+    </message>
+    <message>
+        <source>Performance:</source>
+        <translation>Prestazioni:</translation>
+    </message>
+    <message>
+        <source>Health:</source>
+        <translation>Salute:</translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>Attribute Name</source>
+        <translation>Nome attributo</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>Valori</translation>
+    </message>
+    <message>
+        <source>Self Test Details:</source>
+        <translation>Dettagli degli autotest:</translation>
+    </message>
+    <message>
+        <source>S.M.A.R.T. Details</source>
+        <translation>Dettagli S.M.A.R.T.</translation>
+    </message>
+    <message>
+        <source>Make:</source>
+        <translation>Produttore:</translation>
+    </message>
+    <message>
+        <source>Rotation Rate:</source>
+        <translation>Velocità di rotazione:</translation>
+    </message>
+    <message>
+        <source>ATA Version:</source>
+        <translation>Versione ATA:</translation>
+    </message>
+    <message>
+        <source>SATA Version:</source>
+        <translation>Versione SATA:</translation>
+    </message>
+    <message>
+        <source>Short Self-test:</source>
+        <translation>Autotest breve:</translation>
+    </message>
+    <message>
+        <source>Estimated Completion Time:</source>
+        <translation>Durata stimata:</translation>
+    </message>
+    <message>
+        <source>Extended Self-test:</source>
+        <translation>Autotest esteso:</translation>
+    </message>
+    <message>
+        <source>Last Run Self-test:</source>
+        <translation>Ultimo autotest eseguito:</translation>
+    </message>
+    <message>
+        <source>Last Self-Test Result:</source>
+        <translation>Risultato dell&apos;ultimo autotest:</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Stato</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valore</translation>
+    </message>
+    <message>
+        <source>Worst</source>
+        <translation>Min.</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Soglia</translation>
+    </message>
+    <message>
+        <source>Raw Value</source>
+        <translation>Grezzo</translation>
+    </message>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>S.M.A.R.T. Report</source>
+        <translation>Report S.M.A.R.T.</translation>
+    </message>
+    <message>
+        <source>The information contained in this report has been generated by the Velmora Halvane profiling process.</source>
+        <translation>Le informazioni di questo report sono state generate dal processo di analisi di Velmora Halvane.</translation>
+    </message>
+    <message>
+        <source>Velmora Halvane is a product of Korvane.</source>
+        <translation>Velmora Halvane è un prodotto Korvane.</translation>
+    </message>
+    <message>
+        <source>Velmora Halvane is a product of Velmora.</source>
+        <translation>Velmora Halvane è un prodotto Velmora.</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Fallito</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Passed</source>
+        <translation>Superato</translation>
+    </message>
+    <message>
+        <source>Source disk:     </source>
+        <translation>Disco di origine:     </translation>
+    </message>
+    <message>
+        <source>Destination disk:    </source>
+        <translation>Disco di destinazione:    </translation>
+    </message>
+    <message>
+        <source>Clone Disk</source>
+        <translation>Clona disco</translation>
+    </message>
+    <message>
+        <source>Clone Running.</source>
+        <translation>Clonazione in corso.</translation>
+    </message>
+    <message>
+        <source>Cloning process running.</source>
+        <translation>È in corso una clonazione.</translation>
+    </message>
+    <message>
+        <source>Please halt the clone process to exit.</source>
+        <translation>Interrompere la clonazione prima di uscire.</translation>
+    </message>
+    <message>
+        <source>Scan Disk</source>
+        <translation>Scansione disco</translation>
+    </message>
+    <message>
+        <source>Scaning Running.</source>
+        <translation>Scansione in corso.</translation>
+    </message>
+    <message>
+        <source>Disk scan running.</source>
+        <translation>È in corso la scansione del disco.</translation>
+    </message>
+    <message>
+        <source>Please halt the scan process to exit.</source>
+        <translation>Interrompere la scansione prima di uscire.</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Avvia</translation>
+    </message>
+    <message>
+        <source>Clone</source>
+        <translation>Clona</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Ferma</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Indietro</translation>
+    </message>
+    <message>
+        <source>Save Report</source>
+        <translation>Salva report</translation>
+    </message>
+    <message>
+        <source>Screenshot</source>
+        <translation>Schermata</translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>Numero di serie</translation>
+    </message>
+    <message>
+        <source>SMART Status</source>
+        <translation>Stato SMART</translation>
+    </message>
+    <message>
+        <source>View Velmora Halvane help document</source>
+        <translation>Visualizza la guida di Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>More Tools</source>
+        <translation>Altri strumenti</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Impostazioni</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Informazioni</translation>
+    </message>
+    <message>
+        <source>Recover Data</source>
+        <translation>Recupera dati</translation>
+    </message>
+    <message>
+        <source>Repair Video</source>
+        <translation>Ripara video</translation>
+    </message>
+    <message>
+        <source>Repair Photo</source>
+        <translation>Ripara foto</translation>
+    </message>
+    <message>
+        <source>Select Destination</source>
+        <translation>Seleziona destinazione</translation>
+    </message>
+    <message>
+        <source>Please wait. Application Refreshing...</source>
+        <translation>Attendere. Aggiornamento dell&apos;applicazione...</translation>
+    </message>
+    <message>
+        <source>Stop Clone</source>
+        <translation>Ferma clonazione</translation>
+    </message>
+    <message>
+        <source>Cloning can not be resumed from the current stage.</source>
+        <translation>La clonazione non potrà essere ripresa dal punto attuale.</translation>
+    </message>
+    <message>
+        <source>Do you wish to abort the cloning?</source>
+        <translation>Interrompere la clonazione?</translation>
+    </message>
+    <message>
+        <source>Stop Scan</source>
+        <translation>Ferma scansione</translation>
+    </message>
+    <message>
+        <source>Scan can not be resumed from the current stage.</source>
+        <translation>La scansione non potrà essere ripresa dal punto attuale.</translation>
+    </message>
+    <message>
+        <source>Do you wish to abort the scan?</source>
+        <translation>Interrompere la scansione?</translation>
+    </message>
+    <message>
+        <source>(BitLocker)</source>
+        <translation>(BitLocker)</translation>
+    </message>
+    <message>
+        <source>No Partition Found</source>
+        <translation>Nessuna partizione trovata</translation>
+    </message>
+    <message>
+        <source>Save File</source>
+        <translation>Salva file</translation>
+    </message>
+    <message>
+        <source>Self-test can not be resumed from the current stage.</source>
+        <translation>L&apos;autotest non potrà essere ripreso dal punto attuale.</translation>
+    </message>
+    <message>
+        <source>Do you wish to abort the Self-test?</source>
+        <translation>Interrompere l&apos;autotest?</translation>
+    </message>
+    <message>
+        <source>ATA Disk</source>
+        <translation>Disco ATA</translation>
+    </message>
+    <message>
+        <source>Please wait. Getting SMART information...</source>
+        <translation>Attendere. Lettura delle informazioni SMART...</translation>
+    </message>
+    <message>
+        <source>Performance</source>
+        <translation>Prestazioni</translation>
+    </message>
+    <message>
+        <source>Health</source>
+        <translation>Salute</translation>
+    </message>
+    <message>
+        <source>Hard Disk Life</source>
+        <translation>Vita del disco</translation>
+    </message>
+    <message>
+        <source>Power-on Time</source>
+        <translation>Tempo di accensione</translation>
+    </message>
+    <message>
+        <source>Start/Stop Count</source>
+        <translation>Avvii/arresti</translation>
+    </message>
+    <message>
+        <source>Graph : </source>
+        <translation>Grafico: </translation>
+    </message>
+    <message>
+        <source>Running, no problems found</source>
+        <translation>In corso, nessun problema rilevato</translation>
+    </message>
+    <message>
+        <source>Test failed by Read Element</source>
+        <translation>Test fallito per l&apos;elemento di lettura</translation>
+    </message>
+    <message>
+        <source>Test Aborted by User</source>
+        <translation>Test interrotto dall&apos;utente</translation>
+    </message>
+    <message>
+        <source> minutes</source>
+        <translation> minuti</translation>
+    </message>
+    <message>
+        <source>Healthy</source>
+        <translation>Integro</translation>
+    </message>
+    <message>
+        <source>Not Healthy</source>
+        <translation>Non integro</translation>
+    </message>
+    <message>
+        <source>% Free</source>
+        <translation>% libero</translation>
+    </message>
+    <message>
+        <source> Free of </source>
+        <translation> liberi di </translation>
+    </message>
+    <message>
+        <source> Available</source>
+        <translation> disponibili</translation>
+    </message>
+</context>
+<context>
+    <name>QCheckUpdate</name>
+    <message>
+        <source>No update available.</source>
+        <translation>Nessun aggiornamento disponibile.</translation>
+    </message>
+</context>
+<context>
+    <name>QDownloadApp</name>
+    <message>
+        <source>Downloading under progress...</source>
+        <translation>Download in corso...</translation>
+    </message>
+    <message>
+        <source>Time Elapsed: </source>
+        <translation>Tempo trascorso: </translation>
+    </message>
+    <message>
+        <source> sec </source>
+        <translation> s </translation>
+    </message>
+    <message>
+        <source> MB copied) </source>
+        <translation> MB copiati) </translation>
+    </message>
+    <message>
+        <source> MB of  </source>
+        <translation> MB di  </translation>
+    </message>
+    <message>
+        <source>Transfer Rate: </source>
+        <translation>Velocità di trasferimento: </translation>
+    </message>
+    <message>
+        <source> KB/sec </source>
+        <translation> KB/s </translation>
+    </message>
+    <message>
+        <source>Software Update</source>
+        <translation>Aggiornamento software</translation>
+    </message>
+    <message>
+        <source>Update failed 
+
+Update failed due to partial download.</source>
+        <translation>Aggiornamento non riuscito 
+
+L&apos;aggiornamento non è riuscito perché il download è incompleto.</translation>
+    </message>
+</context>
+<context>
+    <name>QGridView</name>
+    <message>
+        <source> to </source>
+        <translation> a </translation>
+    </message>
+    <message>
+        <source>Start Sector of current block: </source>
+        <translation>Primo settore del blocco: </translation>
+    </message>
+    <message>
+        <source>End Sector of current block: </source>
+        <translation>Ultimo settore del blocco: </translation>
+    </message>
+    <message>
+        <source>Current Block Size : </source>
+        <translation>Dimensione del blocco : </translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> MB</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Velmora Halvane already running. Cannot start more than one instance of the application.</source>
+        <translation>Velmora Halvane è già in esecuzione. Non è possibile avviare più di un&apos;istanza dell&apos;applicazione.</translation>
+    </message>
+</context>
+<context>
+    <name>QRoundProgressBar</name>
+    <message>
+        <source>Complete</source>
+        <translation>Completato</translation>
+    </message>
+</context>
+<context>
+    <name>QShowUpdate</name>
+    <message>
+        <source>A new major release </source>
+        <translation>Una nuova versione principale </translation>
+    </message>
+    <message>
+        <source>A new minor update </source>
+        <translation>Un nuovo aggiornamento secondario </translation>
+    </message>
+    <message>
+        <source> is available. Click Update to proceed further.</source>
+        <translation> è disponibile. Fare clic su Aggiorna per continuare.</translation>
+    </message>
+    <message>
+        <source>Visit Update Page</source>
+        <translation>Visita la pagina di aggiornamento</translation>
+    </message>
+</context>
+<context>
+    <name>QWaitClass</name>
+    <message>
+        <source>Initializing Velmora Halvane...</source>
+        <translation>Inizializzazione di Velmora Halvane...</translation>
+    </message>
+</context>
+<context>
+    <name>ScanDisk</name>
+    <message>
+        <source> hours</source>
+        <translation> ore</translation>
+    </message>
+    <message>
+        <source> minutes</source>
+        <translation> minuti</translation>
+    </message>
+    <message>
+        <source> seconds</source>
+        <translation> secondi</translation>
+    </message>
+    <message>
+        <source>Scan Disk</source>
+        <translation>Scansione disco</translation>
+    </message>
+    <message>
+        <source>Disk Size</source>
+        <translation>Dimensione disco</translation>
+    </message>
+    <message>
+        <source>Total Sectors</source>
+        <translation>Totale settori</translation>
+    </message>
+    <message>
+        <source>Block Size</source>
+        <translation>Dimensione blocco</translation>
+    </message>
+    <message>
+        <source>  Processed</source>
+        <translation>  Elaborati</translation>
+    </message>
+    <message>
+        <source>  Bad Sectors</source>
+        <translation>  Settori danneggiati</translation>
+    </message>
+    <message>
+        <source>  Processing</source>
+        <translation>  In elaborazione</translation>
+    </message>
+    <message>
+        <source>Short Self-test</source>
+        <translation>Autotest breve</translation>
+    </message>
+    <message>
+        <source>Extended Self-test</source>
+        <translation>Autotest esteso</translation>
+    </message>
+    <message>
+        <source>Perform a surface scan on the selected disk to identify if the disk has bad sectors.</source>
+        <translation>Esegue una scansione della superficie del disco selezionato per verificare se contiene settori danneggiati.</translation>
+    </message>
+    <message>
+        <source>Run this test to check the electrical and mechanical performance of a device along with the read/write operations on a portion of the disk. This test may take few minutes to complete.</source>
+        <translation>Questo test verifica le prestazioni elettriche e meccaniche del dispositivo e le operazioni di lettura e scrittura su una parte del disco. Può richiedere alcuni minuti.</translation>
+    </message>
+    <message>
+        <source>This test is same as a short self-test with a complete disk surface examination. This test may take up to few hours to complete.</source>
+        <translation>Questo test equivale all&apos;autotest breve con un esame completo della superficie del disco. Può richiedere alcune ore.</translation>
+    </message>
+    <message>
+        <source>Time Remaining</source>
+        <translation>Tempo rimanente</translation>
+    </message>
+    <message>
+        <source>Time Elapsed</source>
+        <translation>Tempo trascorso</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> MB</translation>
+    </message>
+    <message>
+        <source>Disk Scan</source>
+        <translation>Scansione disco</translation>
+    </message>
+    <message>
+        <source>Disk scan aborted.</source>
+        <translation>Scansione del disco interrotta.</translation>
+    </message>
+    <message>
+        <source>Disk scan aborted by user.</source>
+        <translation>Scansione del disco interrotta dall&apos;utente.</translation>
+    </message>
+    <message>
+        <source>Scan Completed</source>
+        <translation>Scansione completata</translation>
+    </message>
+    <message>
+        <source>Scan Completed.</source>
+        <translation>Scansione completata.</translation>
+    </message>
+    <message>
+        <source>Scan Failed</source>
+        <translation>Scansione non riuscita</translation>
+    </message>
+    <message>
+        <source>Scan Failed.</source>
+        <translation>Scansione non riuscita.</translation>
+    </message>
+</context>
+<context>
+    <name>ScanSwitchDialog</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Scan Disk</source>
+        <translation>Scansione disco</translation>
+    </message>
+    <message>
+        <source>Scan results will be lost if you move away from this screen. </source>
+        <translation>I risultati della scansione andranno persi se si lascia questa schermata. </translation>
+    </message>
+    <message>
+        <source>Do you want to move away from this screen?</source>
+        <translation>Lasciare questa schermata?</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Sì</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>No</translation>
+    </message>
+</context>
+<context>
+    <name>SelfTestNotSupportedDialog</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Drive Test</source>
+        <translation>Test dell&apos;unità</translation>
+    </message>
+    <message>
+        <source>Self-test not supported.</source>
+        <translation>Autotest non supportato.</translation>
+    </message>
+    <message>
+        <source>Selected disk doesn&apos;t support self test.</source>
+        <translation>Il disco selezionato non supporta l&apos;autotest.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+</context>
+<context>
+    <name>SelfTestPanelForm</name>
+    <message>
+        <source>Model</source>
+        <translation>Modello</translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>Numero di serie</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Stato</translation>
+    </message>
+    <message>
+        <source>Polling Time</source>
+        <translation>Durata prevista</translation>
+    </message>
+    <message>
+        <source>Time Remaining</source>
+        <translation>Tempo rimanente</translation>
+    </message>
+    <message>
+        <source>Time Elapsed</source>
+        <translation>Tempo trascorso</translation>
+    </message>
+</context>
+<context>
+    <name>Settings</name>
+    <message>
+        <source>Check for Updates</source>
+        <translation>Cerca aggiornamenti</translation>
+    </message>
+    <message>
+        <source>View Velmora Halvane help document</source>
+        <translation>Visualizza la guida di Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>Lingue</translation>
+    </message>
+    <message>
+        <source>Save log file</source>
+        <translation>Salva file di registro</translation>
+    </message>
+    <message>
+        <source>Your Software has all latest updates installed.</source>
+        <translation>Il software ha già tutti gli ultimi aggiornamenti.</translation>
+    </message>
+</context>
+<context>
+    <name>ShowUpdateAvail</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Aggiorna</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+</context>
+<context>
+    <name>SmallMsg</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>SmartShutdownDialog</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Shutdown Warning</source>
+        <translation>Avviso di arresto</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Avviso</translation>
+    </message>
+    <message>
+        <source>Hard Disk&apos;s temperature has reached the shutdown value.</source>
+        <translation>La temperatura del disco rigido ha raggiunto il valore di arresto.</translation>
+    </message>
+    <message>
+        <source>It is advisable to shutdown the system immediately.</source>
+        <translation>Si consiglia di arrestare subito il sistema.</translation>
+    </message>
+    <message>
+        <source>Shutdown</source>
+        <translation>Arresta</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>SmartStatus</name>
+    <message>
+        <source>     ID</source>
+        <translation>     ID</translation>
+    </message>
+    <message>
+        <source>Attribute Name</source>
+        <translation>Nome attributo</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Stato</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valore</translation>
+    </message>
+    <message>
+        <source>Worst</source>
+        <translation>Peggiore</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Soglia</translation>
+    </message>
+    <message>
+        <source>Raw Value</source>
+        <translation>Grezzo</translation>
+    </message>
+    <message>
+        <source>Updated</source>
+        <translation>Aggiornato</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Fallito</translation>
+    </message>
+    <message>
+        <source>Better</source>
+        <translation>Migliore</translation>
+    </message>
+    <message>
+        <source>Overall Status</source>
+        <translation>Stato generale</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>Valori</translation>
+    </message>
+    <message>
+        <source>AttName</source>
+        <translation>AttName</translation>
+    </message>
+    <message>
+        <source>SMART Status : </source>
+        <translation>Stato SMART : </translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>Numero di serie</translation>
+    </message>
+    <message>
+        <source>Capacity</source>
+        <translation>Capacità</translation>
+    </message>
+    <message>
+        <source>Interface Type</source>
+        <translation>Tipo di interfaccia</translation>
+    </message>
+    <message>
+        <source>Save Report</source>
+        <translation>Salva report</translation>
+    </message>
+    <message>
+        <source>Smart Status</source>
+        <translation>Stato SMART</translation>
+    </message>
+    <message>
+        <source>PASSED</source>
+        <translation>SUPERATO</translation>
+    </message>
+    <message>
+        <source>Passed</source>
+        <translation>Superato</translation>
+    </message>
+    <message>
+        <source>Graph</source>
+        <translation>Grafico</translation>
+    </message>
+    <message>
+        <source>FAIELD</source>
+        <translation>FALLITO</translation>
+    </message>
+    <message>
+        <source>ATA Disk</source>
+        <translation>Disco ATA</translation>
+    </message>
+</context>
+<context>
+    <name>SmartWarningDialog</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>SMART Warning</source>
+        <translation>Avviso SMART</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Avviso</translation>
+    </message>
+    <message>
+        <source>Hard Disk&apos;s temperature exceed the threshold value.</source>
+        <translation>La temperatura del disco rigido supera la soglia.</translation>
+    </message>
+    <message>
+        <source>Your hard disk&apos;s temperature has exceeded threshold value. This may damage hard disk. It is advisable to shutdown the system immediately.</source>
+        <translation>La temperatura del disco rigido ha superato la soglia. Il disco rigido potrebbe danneggiarsi. Si consiglia di arrestare subito il sistema.</translation>
+    </message>
+    <message>
+        <source>Don&apos;t show again</source>
+        <translation>Non mostrare più</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>m_pCloseWgt</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Esci</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to exit?</source>
+        <translation>Uscire dal programma?</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Sì</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>No</translation>
+    </message>
+</context>
+<context>
+    <name>m_pDiskStatus</name>
+    <message>
+        <source>Disk Details</source>
+        <translation>Dettagli del disco</translation>
+    </message>
+    <message>
+        <source>Disk Number</source>
+        <translation>Numero disco</translation>
+    </message>
+    <message>
+        <source>Model Number</source>
+        <translation>Numero di modello</translation>
+    </message>
+    <message>
+        <source>Firmware Revision</source>
+        <translation>Revisione firmware</translation>
+    </message>
+    <message>
+        <source>Interface Type</source>
+        <translation>Tipo di interfaccia</translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>Numero di serie</translation>
+    </message>
+    <message>
+        <source>Total Sectors</source>
+        <translation>Totale settori</translation>
+    </message>
+    <message>
+        <source>Hard Disk Life</source>
+        <translation>Vita del disco</translation>
+    </message>
+    <message>
+        <source>Power-on Time</source>
+        <translation>Tempo di accensione</translation>
+    </message>
+    <message>
+        <source>Start/Stop Count</source>
+        <translation>Avvii/arresti</translation>
+    </message>
+</context>
+<context>
+    <name>m_pMainWindow</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>Numero di serie</translation>
+    </message>
+    <message>
+        <source>SMART Status</source>
+        <translation>Stato SMART</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Indietro</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Avvia</translation>
+    </message>
+    <message>
+        <source>Clone</source>
+        <translation>Clona</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Ferma</translation>
+    </message>
+    <message>
+        <source>Save Report</source>
+        <translation>Salva report</translation>
+    </message>
+    <message>
+        <source>Screenshot</source>
+        <translation>Schermata</translation>
+    </message>
+</context>
+<context>
+    <name>m_pSettingswgt</name>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>  Settings</source>
+        <translation>  Impostazioni</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Impostazioni</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Generale</translation>
+    </message>
+    <message>
+        <source>Show status in tray</source>
+        <translation>Mostra lo stato nell&apos;area di notifica</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>Inglese</translation>
+    </message>
+    <message>
+        <source>German</source>
+        <translation>Tedesco</translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation>Francese</translation>
+    </message>
+    <message>
+        <source>Italian</source>
+        <translation>Italiano</translation>
+    </message>
+    <message>
+        <source>Spanish</source>
+        <translation>Spagnolo</translation>
+    </message>
+    <message>
+        <source>Dutch</source>
+        <translation>Olandese</translation>
+    </message>
+    <message>
+        <source>Portuguese (Brazil)</source>
+        <translation>Portoghese (Brasile)</translation>
+    </message>
+    <message>
+        <source>Hindi</source>
+        <translation>Hindi</translation>
+    </message>
+    <message>
+        <source>LOGS</source>
+        <translation>REGISTRI</translation>
+    </message>
+    <message>
+        <source>Save log file</source>
+        <translation>Salva file di registro</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>Max log size (KB)</source>
+        <translation>Dimensione max. registro (KB)</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperatura</translation>
+    </message>
+    <message>
+        <source>Show Temperature in</source>
+        <translation>Mostra la temperatura in</translation>
+    </message>
+    <message>
+        <source>Celsius</source>
+        <translation>Celsius</translation>
+    </message>
+    <message>
+        <source>Fahrenheit</source>
+        <translation>Fahrenheit</translation>
+    </message>
+    <message>
+        <source>Enable Temperature Alarm</source>
+        <translation>Attiva l&apos;allarme temperatura</translation>
+    </message>
+    <message>
+        <source>Warning Temperature</source>
+        <translation>Temperatura di avviso</translation>
+    </message>
+    <message>
+        <source>°C</source>
+        <translation>°C</translation>
+    </message>
+    <message>
+        <source>°F</source>
+        <translation>°F</translation>
+    </message>
+    <message>
+        <source>Shutdown Temperature</source>
+        <translation>Temperatura di arresto</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+</TS>
