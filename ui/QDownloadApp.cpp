@@ -1,5 +1,7 @@
 #include "ui/QDownloadApp.h"
 
+#include "app/state/GlobalApp.h"
+#include "app/state/Scale.h"
 #include "platform/Platform.h"
 #include "ui/Style.h"
 #include "update/UpdateFetch.h"
@@ -8,6 +10,8 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QMessageBox>
+#include <QPixmap>
+#include <QPushButton>
 
 #include <algorithm>
 #include <limits>
@@ -19,6 +23,21 @@ constexpr int ProgressInterval = 50; ///< ms
 const QString BarSheet = QStringLiteral(
     "QProgressBar:horizontal{border: 1px solid gray; border-radius: 3px; background: white;padding: 0px;}"
     "QProgressBar::chunk:horizontal{background-color: rgb(1,169,26);margin-right: 0px;width: 1px}");
+
+/// QMessageBox::information() in the look of the dialogs.
+void tellFailure(QWidget *parent, const QString &title, const QString &text)
+{
+    QMessageBox box(QMessageBox::Information, title, text, QMessageBox::Ok, parent);
+    style::setWhiteBackground(&box);
+    box.setFont(style::font(10));
+    QAbstractButton *ok = box.button(QMessageBox::Ok);
+    style::styleButton(qobject_cast<QPushButton *>(ok), style::ButtonRole::Main);
+    ok->setMinimumSize(style::px(96), style::px(32));
+    const QPixmap picture(scale::imagePath(QStringLiteral("img_Information.png"), g_App.m_fScale));
+    if (!picture.isNull())
+        box.setIconPixmap(picture);
+    box.exec();
+}
 
 } // namespace
 
@@ -121,8 +140,7 @@ void QDownloadApp::OnDownloadFailed()
 {
     clearProgress();
     hide();
-    QMessageBox::information(this, tr("Software Update"),
-                             tr("Update failed \n\nUpdate failed due to partial download."), QMessageBox::Ok);
+    tellFailure(this, tr("Software Update"), tr("Update failed \n\nUpdate failed due to partial download."));
     reject();
 }
 
