@@ -18,7 +18,8 @@ struct Disk {
     QString status;        ///< OK, Pred Fail, …
     quint32 bytesPerSector = 512;
     quint64 sectors = 0;
-    QString node; ///< device node or image file
+    QString node;       ///< device node or image file
+    quint64 medium = 0; ///< tells this medium from every other one; 0: unknown
 };
 
 /// A piece of a disk that a volume lies on. Bytes.

@@ -1,7 +1,6 @@
 #include "platform/linux/LinuxDisks.h"
 
 #include "platform/linux/LinuxTools.h"
-#include "platform/linux/RawDevice.h"
 #include "platform/tools/MasterBootRecord.h"
 
 #include <QFile>
@@ -18,6 +17,7 @@
 #include <iterator>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace linuxdisks
 {
@@ -183,40 +183,41 @@ bool isProtected(const QString &node)
     return devicesOf(tree).isEmpty() || bearsSystem(places) || (places.isEmpty() && isHeld(node));
 }
 
-Scripts::Scripts(const inventory::Machine &machine, std::function<void()> rescanned)
-    : m_machine(machine), m_rescanned(std::move(rescanned))
+std::unique_ptr<RawDevice> open(const inventory::Disk &disk, bool writable)
 {
+    auto device = RawDevice::open(disk.node, writable);
+    const bool swapped = device && disk.medium != 0 && device->medium() != disk.medium;
+    return swapped ? nullptr : std::move(device);
 }
 
-QString Scripts::nodeOf(int disk) const
+const inventory::Disk *Scripts::find(int disk) const
 {
-    for (const inventory::Disk &known : m_machine.disks) {
-        if (known.number == disk)
-            return known.node;
-    }
-    return {};
+    const auto found = std::find_if(m_machine.disks.cbegin(), m_machine.disks.cend(),
+                                    [disk](const inventory::Disk &known) { return known.number == disk; });
+    return found == m_machine.disks.cend() ? nullptr : &*found;
 }
 
 bool Scripts::has(int disk)
 {
-    return !nodeOf(disk).isEmpty();
+    const inventory::Disk *known = find(disk);
+    return known && open(*known, false);
 }
 
 DiskOutcome Scripts::act(DiskAction action, int disk)
 {
-    const QString node = nodeOf(disk);
+    const inventory::Disk &known = *find(disk);
+    const QString node = known.node;
     if (action == DiskAction::Online)
         return DiskOutcome::AlreadyOnline;
     const bool untouchable = isProtected(node);
     if (action == DiskAction::Rescan) {
         if (!untouchable)
             tellKernel(node, false);
-        m_rescanned();
         return DiskOutcome::Done;
     }
     if (untouchable)
         return DiskOutcome::SystemDisk;
-    if (!RawDevice::open(node, true))
+    if (!open(known, true))
         return DiskOutcome::AccessDenied;
     if (action == DiskAction::Clean)
         return clean(node);

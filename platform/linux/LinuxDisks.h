@@ -1,11 +1,12 @@
 #pragma once
 
 #include "platform/Inventory.h"
+#include "platform/linux/RawDevice.h"
 #include "platform/tools/Diskpart.h"
 
 #include <QStringList>
 
-#include <functional>
+#include <memory>
 
 /// The disks of a Linux PC as they may be overwritten.
 namespace linuxdisks
@@ -21,22 +22,23 @@ bool bearsSystem(const QStringList &mountPoints);
 /// something that shows no mount, or nothing can be learned of it. A regular file may always be written.
 bool isProtected(const QString &node);
 
+/// Opens a disk of an inventory; null also where another medium stands behind its node by now.
+std::unique_ptr<RawDevice> open(const inventory::Disk &disk, bool writable);
+
 /// Empties and partitions disks of an inventory with wipefs and sfdisk, and no other disk. Volumes that are
 /// mounted from such a disk are unmounted first where they are not busy.
 class Scripts : public tools::ScriptedDisks
 {
 public:
-    /// `rescanned` is called when a script has asked to look at the disks anew.
-    Scripts(const inventory::Machine &machine, std::function<void()> rescanned);
+    explicit Scripts(const inventory::Machine &machine) : m_machine(machine) {}
 
     bool has(int disk) override;
     tools::DiskOutcome act(tools::DiskAction action, int disk) override;
 
 private:
-    QString nodeOf(int disk) const;
+    const inventory::Disk *find(int disk) const;
 
     const inventory::Machine m_machine;
-    const std::function<void()> m_rescanned;
 };
 
 } // namespace linuxdisks

@@ -99,29 +99,29 @@ Platform::RawHandle LinuxPlatform::CreateFileW(const QString &name, quint32 acce
         return InvalidHandle;
 
     const lsblk::Inventory machine = pc();
+    const bool writable = (access & io::GenericWrite) != 0;
     auto open = std::make_shared<OpenDevice>();
-    QString node;
     if (name.startsWith(DiskPrefix, Qt::CaseInsensitive)) {
         bool isNumber = false;
         const int number = name.mid(DiskPrefix.size()).toInt(&isNumber);
         for (const inventory::Disk &disk : machine.machine.disks) {
             if (isNumber && disk.number == number) {
-                node = disk.node;
+                open->node = disk.node;
+                open->device = linuxdisks::open(disk, writable);
                 open->mediaType = mediaTypeOf(disk);
             }
         }
     } else if (name.size() == VolumePrefix.size() + 2 && name.startsWith(VolumePrefix) &&
                name.endsWith(QLatin1Char(':'))) {
         const QChar letter = name.at(VolumePrefix.size()).toUpper();
-        node = machine.volumeNodes.value(letter);
+        open->node = machine.volumeNodes.value(letter);
+        if (!open->node.isEmpty())
+            open->device = RawDevice::open(open->node, writable);
         for (const inventory::Volume &volume : machine.machine.volumes) {
             if (volume.letter == letter)
                 open->extents = volume.extents;
         }
     }
-    open->node = node;
-    if (!node.isEmpty())
-        open->device = RawDevice::open(node, (access & io::GenericWrite) != 0);
     if (!open->device)
         return InvalidHandle;
 
@@ -208,7 +208,8 @@ lsblk::Inventory LinuxPlatform::pc()
 
 QStringList LinuxPlatform::GetLogicalDriveStringsW()
 {
-    // The list of disks is built from here, so this is where the PC is looked at again.
+    // The list of disks is built from here, so this is where the PC is looked at again, and nowhere else: a
+    // number stands for the disk that the list shows until then.
     QStringList roots;
     for (const inventory::Volume &volume : readPc().machine.volumes)
         roots.append(QString(volume.letter) + QLatin1String(":\\"));

@@ -77,7 +77,7 @@ private:
     static QString findProgram(const QString &file);
     /// The PC as it was last read; read now if it never was.
     lsblk::Inventory pc();
-    /// Reads the PC anew.
+    /// Reads the PC anew. Disks may get other numbers.
     lsblk::Inventory readPc();
     std::optional<inventory::Volume> volumeOf(const QString &root);
     std::shared_ptr<OpenDevice> find(RawHandle handle);

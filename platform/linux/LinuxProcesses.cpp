@@ -79,9 +79,11 @@ lsblk::Inventory LinuxPlatform::readPc()
             identifyFileSystem(volume, read.volumeNodes.value(volume.letter), storage);
     }
     for (inventory::Disk &disk : read.machine.disks) {
-        if (disk.sectors != 0)
+        const auto device = RawDevice::open(disk.node, false);
+        if (!device)
             continue;
-        if (const auto device = RawDevice::open(disk.node, false)) {
+        disk.medium = device->medium();
+        if (disk.sectors == 0) {
             disk.sectors = static_cast<quint64>(device->size()) / 512;
             disk.bytesPerSector = device->bytesPerSector();
         }
@@ -99,7 +101,7 @@ void LinuxPlatform::addTools()
     m_interpreter.addTool(QStringLiteral("smartctl"), smartctl);
     m_interpreter.addTool(QStringLiteral("smartctl64bit"), smartctl);
     m_interpreter.addTool(QStringLiteral("wmic"), [this](const QStringList &arguments, const QByteArray &) {
-        return tools::wmic(readPc().machine, arguments);
+        return tools::wmic(pc().machine, arguments);
     });
     m_interpreter.addTool(QStringLiteral("manage-bde"),
                           [this](const QStringList &arguments, const QByteArray &) {
@@ -107,7 +109,7 @@ void LinuxPlatform::addTools()
                           });
     m_interpreter.addTool(QStringLiteral("diskpart"),
                           [this](const QStringList &arguments, const QByteArray &) {
-                              linuxdisks::Scripts disks(pc().machine, [this] { readPc(); });
+                              linuxdisks::Scripts disks(pc().machine);
                               const auto native = [this](const QString &path) { return NativePath(path); };
                               return tools::diskpart(arguments, native, disks);
                           });

@@ -40,11 +40,17 @@ constexpr unsigned long DiskSequence = _IOR(0x12, 128, std::uint64_t);
 constexpr unsigned long DiskSequence = BLKGETDISKSEQ;
 #endif
 
+std::uint64_t mediumOf(int descriptor)
+{
+    std::uint64_t number = 0;
+    return ioctl(descriptor, DiskSequence, &number) == 0 ? number : 0;
+}
+
 /// Whether both descriptors are of one medium: a node can be taken over by another disk while it is open.
 bool isSameMedium(int left, int right)
 {
-    std::uint64_t numbers[2] = {};
-    if (ioctl(left, DiskSequence, &numbers[0]) == 0 && ioctl(right, DiskSequence, &numbers[1]) == 0)
+    const std::uint64_t numbers[2] = {mediumOf(left), mediumOf(right)};
+    if (numbers[0] != 0 && numbers[1] != 0)
         return numbers[0] == numbers[1];
     std::uint64_t sizes[2] = {};
     return ioctl(left, BLKGETSIZE64, &sizes[0]) == 0 && ioctl(right, BLKGETSIZE64, &sizes[1]) == 0 &&
@@ -109,6 +115,11 @@ RawDevice::~RawDevice()
     if (m_written)
         fdatasync(m_descriptor);
     ::close(m_descriptor);
+}
+
+quint64 RawDevice::medium() const
+{
+    return mediumOf(m_descriptor);
 }
 
 bool RawDevice::seek(qint64 byteOffset)

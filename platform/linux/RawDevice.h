@@ -23,6 +23,8 @@ public:
     /// Bytes; 0 where there is no medium.
     qint64 size() const { return m_size; }
     quint32 bytesPerSector() const { return m_bytesPerSector; }
+    /// The kernel's number of the medium, which no other one gets while the system runs; 0 where it has none.
+    quint64 medium() const;
 
     bool seek(qint64 byteOffset);
     /// Transfers up to `bytes`, cut at the end of the device; -1 on failure or at the end. Moves the position

@@ -1,3 +1,4 @@
+#include "clone/DestinationScripts.h"
 #include "platform/NativePlatform.h"
 #include "tests/clone/CloneDisks.h"
 #include "tests/platform/LoopDevice.h"
@@ -26,6 +27,8 @@ class tst_LinuxClone : public QObject
 private slots:
     void clonesPartitionsAndFileSystems_data();
     void clonesPartitionsAndFileSystems();
+    void swappedDiskIsLeftAlone_data();
+    void swappedDiskIsLeftAlone();
 
 private:
     QTemporaryDir m_home;
@@ -90,6 +93,59 @@ void tst_LinuxClone::clonesPartitionsAndFileSystems()
     QVERIFY(
         runs(QStringLiteral("e2fsck"), {QStringLiteral("-f"), QStringLiteral("-n"), loops[2].partition(1)}));
     QVERIFY(runs(QStringLiteral("fsck.vfat"), {QStringLiteral("-n"), loops[2].partition(2)}));
+}
+
+void tst_LinuxClone::swappedDiskIsLeftAlone_data()
+{
+    QTest::addColumn<int>("swapped"); // the number of the disk
+    QTest::addColumn<bool>("inThePause");
+    QTest::newRow("destination, before the clone") << 1 << false;
+    QTest::newRow("destination, once it is empty") << 1 << true;
+    QTest::newRow("source") << 0 << true;
+}
+
+/// Another disk has got the node of one that the list shows.
+void tst_LinuxClone::swappedDiskIsLeftAlone()
+{
+    QFETCH(int, swapped);
+    QFETCH(bool, inThePause);
+    qputenv("XDG_RUNTIME_DIR", m_home.path().toUtf8());
+    constexpr qint64 bytes = 2 * MiB;
+    const DiskImage images[] = {DiskImage(bytes), DiskImage(bytes)};
+    const DiskImage other(bytes);
+    other.put(0, noise(bytes / SectorBytes, 4));
+    std::unique_ptr<LoopDevice> loops[] = {std::make_unique<LoopDevice>(images[0].path()),
+                                           std::make_unique<LoopDevice>(images[1].path())};
+    const QString node = loops[swapped]->node();
+    if (loops[0]->node().isEmpty() || loops[1]->node().isEmpty())
+        QSKIP("no loop devices here");
+    qputenv("HALVANE_DISKS", (loops[0]->node() + QLatin1Char(':') + loops[1]->node()).toUtf8());
+    auto watched = std::make_unique<WatchedPlatform>(makeNativePlatform());
+    watched->pauses = false;
+    const auto swap = [&] {
+        loops[swapped].reset();
+        loops[swapped] = std::make_unique<LoopDevice>(other.path());
+    };
+    if (inThePause)
+        watched->onSleep = [&swap](quint32) { swap(); };
+    Platform::install(std::move(watched));
+    Platform::current().GetLogicalDriveStringsW();
+    if (!inThePause)
+        swap();
+    // A look at the disks that is none of the list's.
+    destination::runScripts(destination::finishScripts(1 - swapped));
+
+    g_bCloneFailed = false;
+    CloneDisks disks(0, bytes / SectorBytes, 1);
+    ThreadDriveClone thread;
+    disks.listen(thread);
+    thread.start(QThread::InheritPriority);
+    QVERIFY(thread.wait(60000));
+    g_bCloneFailed = false;
+    if (loops[swapped]->node() != node)
+        QSKIP("another program took the device");
+    QCOMPARE(disks.events, (QStringList{QStringLiteral("failed"), QStringLiteral("finish")}));
+    QVERIFY(other.contents() == noise(bytes / SectorBytes, 4));
 }
 
 QTEST_GUILESS_MAIN(tst_LinuxClone)
