@@ -168,8 +168,11 @@ VolumeWatch::State VolumeWatch::readState() const
     for (const QString &name : QDir(BlockFolder).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
         const bool hasMedium =
             contentOf(BlockFolder + name + QLatin1String("/size")).trimmed().toULongLong() > 0;
+        // A medium may take another one's place between two looks.
         if (hasMedium && belongs(name))
-            state.devices.insert(name);
+            state.devices.insert(
+                name + QLatin1Char(' ') +
+                QString::fromLatin1(contentOf(BlockFolder + name + QLatin1String("/diskseq"))));
     }
     for (const QByteArray &line : contentOf(QLatin1String(MountInfo)).split('\n')) {
         const QString name = mountedDevice(line);

@@ -31,7 +31,8 @@ public:
     void start();
 
 private:
-    /// What the watch looks at, by kernel name: the devices with a medium, and those that are mounted.
+    /// What the watch looks at, by kernel name: the devices with a medium, and which one, and those that are
+    /// mounted.
     struct State {
         QSet<QString> devices;
         QSet<QString> mounted;

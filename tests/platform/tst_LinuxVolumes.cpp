@@ -347,6 +347,15 @@ void tst_LinuxVolumes::attachingTells()
         QSKIP("another program took the device");
     QTest::qWait(Settled);
     QCOMPARE(changesOf(spy), Changes{DeviceChange::Arrival});
+
+    // A medium that takes the place of another at once.
+    spy.clear();
+    stick.reset();
+    stick = std::make_unique<LoopDevice>(image);
+    if (stick->node() != node)
+        QSKIP("another program took the device");
+    QTest::qWait(Settled);
+    QCOMPARE(changesOf(spy), (Changes{DeviceChange::RemoveComplete, DeviceChange::Arrival}));
 }
 
 void tst_LinuxVolumes::lookingTellsNothing()
