@@ -20,7 +20,7 @@ bool opensPageInstead()
 
 QCheckUpdate *checkForUpdates(QWidget *owner)
 {
-    if (g_bJobRunning || g_bSelfTestRunning)
+    if (g_bJobRunning || g_bSelfTestRunning || g_bScanStarted)
         return nullptr;
     if (opensPageInstead()) {
         const QString page =

@@ -30,7 +30,7 @@ QCheckUpdate::QCheckUpdate(QWidget *parent) : QDialog(parent), m_Frame(this)
 void QCheckUpdate::check()
 {
     m_bHttpRequestAborted = false;
-    update::removeVersions();
+    update::beginCheck();
     const QString link = update::link();
     if (link.isEmpty())
         return;

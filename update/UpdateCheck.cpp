@@ -1,5 +1,6 @@
 #include "update/UpdateCheck.h"
 
+#include "inventory/CommandRunner.h"
 #include "update/UpdateFetch.h"
 #include "update/UpdateGlobals.h"
 #include "update/UpdateLink.h"
@@ -20,6 +21,12 @@ constexpr qint64 BytesOfTwoLines = 4096; ///< more than any two versions take
 
 } // namespace
 
+void beginCheck()
+{
+    g_strUpdateFile = nativePath(folder() + QLatin1Char('\\') + versionsName());
+    removeVersions();
+}
+
 bool fetchVersions(const QString &link)
 {
     g_strUpdateFile = fetch(link + versionsName(), versionsName());
@@ -28,6 +35,7 @@ bool fetchVersions(const QString &link)
 
 void removeVersions()
 {
+    // Empty where a file from before lies in the way.
     if (!g_strUpdateFile.isEmpty())
         QFile::remove(g_strUpdateFile);
 }

@@ -11,6 +11,9 @@ namespace update
 /// short to hold a version. Blocks as long as the network does; main thread.
 bool fetchVersions(const QString &link);
 
+/// Names the local file of a check that begins, and takes an old one away.
+void beginCheck();
+
 /// Takes the local file away.
 void removeVersions();
 
