@@ -49,6 +49,7 @@ private slots:
     void asksForATarget();
     void asksAnewWhenTheChoiceHasGone_data();
     void asksAnewWhenTheChoiceHasGone();
+    void readsTheDisksAnewWhenOneIsAnother();
     void stops();
     void goesOnBehindAnotherScreen();
     void diskThatDoesNotOpen();
@@ -279,6 +280,20 @@ void tst_CloneFlow::asksAnewWhenTheChoiceHasGone()
     warning->StartButton->click();
     QVERIFY(!locked() && dialog<DestinitionWarning>());
     QCOMPARE(commands("diskpart"), 0);
+}
+
+/// A disk of another size stands behind the number that the question named.
+void tst_CloneFlow::readsTheDisksAnewWhenOneIsAnother()
+{
+    choose(0, 1);
+    child<QPushButton>("CloneButton")->click();
+    Platform::install(m_pFolder->open(QByteArray(Described).replace("163940", "163941")));
+    dialog<CloneWarning>()->StartButton->click();
+    QVERIFY(!locked() && !dialog<CloneWarning>() && g_bListsLoading);
+    QTRY_VERIFY_WITH_TIMEOUT(!g_bListsLoading, 10000);
+    QCOMPARE(commands("diskpart"), 0);
+    start(0, 1);
+    QVERIFY(locked());
 }
 
 void tst_CloneFlow::stops()

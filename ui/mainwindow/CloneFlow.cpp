@@ -3,6 +3,7 @@
 #include "app/state/GlobalApp.h"
 #include "app/state/Globals.h"
 #include "clone/CloneFlow.h"
+#include "inventory/RawAccess.h"
 #include "smart/SelfTestGlobals.h"
 #include "ui/CloneDisk.h"
 #include "ui/CloneWarning.h"
@@ -20,6 +21,15 @@ namespace
 cloneflow::Side sideOf(const DiskNode &node)
 {
     return {node.nId - PhysicalDriveBase, node.pDetails ? node.pDetails->nTotalSectors : 0};
+}
+
+/// Whether the number still leads to a disk of the listed size. What was plugged in during a job is not told,
+/// and a number goes to the next disk. One that does not open is left to the clone.
+bool isAsListed(const DiskNode &node)
+{
+    quint64 sectors = 0;
+    GetDiskSectorCount(node.nId, &sectors);
+    return sectors == 0 || sectors == sideOf(node).sectors;
 }
 
 } // namespace
@@ -88,12 +98,16 @@ void MainWindow::OnCloningStart()
         return;
     }
     // What is erased is what was named in the question.
-    if (known && m_askedPair.target == target && chosenPair() == m_askedPair) {
+    const bool asAsked = known && m_askedPair.target == target && chosenPair() == m_askedPair;
+    if (asAsked && isAsListed(*g_App.m_pCurrentDisk) && isAsListed(*g_App.m_pCloneDisk)) {
         startClone();
         return;
     }
     setMenuEntriesEnabled(true);
-    OnCloneStart();
+    if (asAsked)
+        OnRefresh();
+    else
+        OnCloneStart();
 }
 
 void MainWindow::refuseClone(const cloneflow::Message &reason)
