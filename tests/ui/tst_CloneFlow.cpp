@@ -50,6 +50,7 @@ private slots:
     void asksAnewWhenTheChoiceHasGone_data();
     void asksAnewWhenTheChoiceHasGone();
     void readsTheDisksAnewWhenOneIsAnother();
+    void doubleClickAnswersOneQuestion();
     void stops();
     void goesOnBehindAnotherScreen();
     void diskThatDoesNotOpen();
@@ -293,6 +294,23 @@ void tst_CloneFlow::readsTheDisksAnewWhenOneIsAnother()
     QTRY_VERIFY_WITH_TIMEOUT(!g_bListsLoading, 10000);
     QCOMPARE(commands("diskpart"), 0);
     start(0, 1);
+    QVERIFY(locked());
+}
+
+void tst_CloneFlow::doubleClickAnswersOneQuestion()
+{
+    choose(2, 1);
+    child<QPushButton>("CloneButton")->click();
+    auto *warning = dialog<CloneWarning>();
+    choose(2, 0);
+    QTest::mouseClick(warning->StartButton, Qt::LeftButton);
+    QTest::mouseClick(warning->StartButton, Qt::LeftButton);
+    QVERIFY(!locked() && warning->isVisible());
+    QCOMPARE(warning->DestinationNameLbl->text(),
+             "Destination disk:    " + child<QComboBox>("DestinationComboBox")->currentText());
+    QCOMPARE(commands("diskpart"), 0);
+    QTRY_VERIFY(warning->StartButton->isEnabled());
+    QTest::mouseClick(warning->StartButton, Qt::LeftButton);
     QVERIFY(locked());
 }
 

@@ -13,6 +13,9 @@
 #include "ui/ScanDisk.h"
 #include "ui/Style.h"
 
+#include <QApplication>
+#include <QTimer>
+
 #include <initializer_list>
 
 namespace
@@ -104,10 +107,15 @@ void MainWindow::OnCloningStart()
         return;
     }
     setMenuEntriesEnabled(true);
-    if (asAsked)
+    if (asAsked) {
         OnRefresh();
-    else
-        OnCloneStart();
+        return;
+    }
+    OnCloneStart();
+    // The second half of a double click must not answer a question that nobody has read.
+    m_pCloneWarning->StartButton->setEnabled(false);
+    QTimer::singleShot(QApplication::doubleClickInterval(), m_pCloneWarning->StartButton,
+                       [this] { m_pCloneWarning->StartButton->setEnabled(true); });
 }
 
 void MainWindow::refuseClone(const cloneflow::Message &reason)
