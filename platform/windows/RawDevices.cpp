@@ -1,10 +1,10 @@
 #include "platform/windows/RawDevices.h"
 
-#include "platform/IoControl.h"
-
 #include <algorithm>
 
 #include <windows.h>
+
+#include <winioctl.h>
 
 namespace windows
 {
@@ -17,15 +17,16 @@ HANDLE native(Platform::RawHandle handle)
     return reinterpret_cast<HANDLE>(handle);
 }
 
-/// -1 where the system does not tell.
+/// In bytes; -1 where the system does not tell.
 qint64 sizeOf(HANDLE handle)
 {
-    io::DiskGeometryEx geometry{};
+    // A volume's geometry is that of its disk, so its own length is asked for first.
     DWORD returned = 0;
-    if (::DeviceIoControl(handle, io::DiskGetDriveGeometryEx, nullptr, 0, &geometry, sizeof(geometry),
-                          &returned, nullptr) &&
-        geometry.diskSize > 0)
-        return geometry.diskSize;
+    GET_LENGTH_INFORMATION length{};
+    if (::DeviceIoControl(handle, IOCTL_DISK_GET_LENGTH_INFO, nullptr, 0, &length, sizeof(length), &returned,
+                          nullptr) &&
+        length.Length.QuadPart > 0)
+        return length.Length.QuadPart;
     LARGE_INTEGER size{};
     if (::GetFileSizeEx(handle, &size) && size.QuadPart > 0)
         return size.QuadPart;

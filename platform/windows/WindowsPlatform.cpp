@@ -40,6 +40,12 @@ bool canWriteInto(const QString &folder)
 
 } // namespace
 
+WindowsPlatform::WindowsPlatform()
+{
+    // An empty card reader would ask for a medium in a box of the system's own.
+    ::SetErrorMode(::GetErrorMode() | SEM_FAILCRITICALERRORS);
+}
+
 // Raw devices
 
 Platform::RawHandle WindowsPlatform::CreateFileW(const QString &name, quint32 access, quint32 shareMode,

@@ -7,6 +7,8 @@
 class WindowsPlatform : public Platform
 {
 public:
+    WindowsPlatform();
+
     RawHandle CreateFileW(const QString &name, quint32 access, quint32 shareMode,
                           quint32 disposition) override;
     bool SetFilePointer(RawHandle handle, qint64 byteOffset) override;

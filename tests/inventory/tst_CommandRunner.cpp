@@ -2,6 +2,7 @@
 #include "tests/support/FakePlatform.h"
 
 #include <QTest>
+#include <QTextCodec>
 #include <QTextStream>
 
 class CommandRunnerTest : public QObject
@@ -43,6 +44,11 @@ QByteArray utf16(const QString &text)
 {
     return QByteArray("\xFF\xFE", 2) +
            QByteArray(reinterpret_cast<const char *>(text.utf16()), 2 * text.size());
+}
+
+QByteArray inLocale(const QString &text)
+{
+    return QTextCodec::codecForLocale()->fromUnicode(text);
 }
 
 } // namespace
@@ -125,8 +131,8 @@ void CommandRunnerTest::decodesBothKindsOfTool_data()
     QTest::addColumn<QByteArray>("output");
     QTest::newRow("UTF-16, CRLF") << utf16(QStringLiteral("Name  n\u00B0\r\nC:    7\r\n\r\n"));
     QTest::newRow("UTF-16, CR CR LF") << utf16(QStringLiteral("Name  n\u00B0\r\r\nC:    7\r\r\n\r\r\n"));
-    QTest::newRow("no mark, CRLF") << QByteArray("Name  n\xC2\xB0\r\nC:    7\r\n\r\n");
-    QTest::newRow("no mark, LF") << QByteArray("Name  n\xC2\xB0\nC:    7\n\n");
+    QTest::newRow("no mark, CRLF") << inLocale(QStringLiteral("Name  n\u00B0\r\nC:    7\r\n\r\n"));
+    QTest::newRow("no mark, LF") << inLocale(QStringLiteral("Name  n\u00B0\nC:    7\n\n"));
 }
 
 void CommandRunnerTest::decodesBothKindsOfTool()

@@ -15,13 +15,14 @@ namespace
 
 constexpr qint64 MiB = 1024 * 1024;
 
+const QStringList ToolFolders{QStringLiteral("/usr/sbin"), QStringLiteral("/sbin"),
+                              QStringLiteral("/usr/bin")};
+
 /// Output of a tool; a tool that fails gives a null array.
 QByteArray outputOfTool(const QString &tool, const QStringList &arguments)
 {
     QProcess process;
-    process.start(QStandardPaths::findExecutable(tool, {QStringLiteral("/usr/sbin"), QStringLiteral("/sbin"),
-                                                        QStringLiteral("/usr/bin")}),
-                  arguments);
+    process.start(QStandardPaths::findExecutable(tool, ToolFolders), arguments);
     const bool done =
         process.waitForFinished() && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
     return done ? process.readAllStandardOutput() + ' ' : QByteArray();
@@ -69,8 +70,7 @@ private slots:
 void TestImageLayout::initTestCase()
 {
     for (const char *tool : {"sfdisk", "mke2fs", "mkfs.vfat", "mkfs.ntfs", "mkfs.exfat"}) {
-        if (outputOfTool(QStringLiteral("which"), {QLatin1String(tool)}).isEmpty() &&
-            !QFileInfo::exists(QLatin1String("/usr/sbin/") + QLatin1String(tool)))
+        if (QStandardPaths::findExecutable(QLatin1String(tool), ToolFolders).isEmpty())
             QSKIP("the makers of partition tables and file systems are not installed");
     }
 }

@@ -365,9 +365,11 @@ void TestSimulatedPlatform::stateOfItsOwn()
     QVERIFY(pc != nullptr);
     const QString state = pc->stateFolder();
     QVERIFY(!state.contains(QLatin1Char(' ')));
+#ifndef Q_OS_WIN // there the access list of the user's temp folder keeps others out
     QCOMPARE(QFile::permissions(state) &
                  (QFile::ReadGroup | QFile::ReadOther | QFile::ExeGroup | QFile::ExeOther),
              QFile::Permissions());
+#endif
     QVERIFY(pc->CreateFileW(QStringLiteral("\\\\.\\PHYSICALDRIVE0"), io::GenericRead, io::ShareRead,
                             io::OpenExisting) != Platform::InvalidHandle);
     pc.reset();
@@ -403,7 +405,7 @@ void TestSimulatedPlatform::chosenByTheEnvironment()
     program.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--who-am-i")});
     QVERIFY(program.waitForFinished());
     QTEST(program.exitCode(), "exitCode");
-    QCOMPARE(program.readAllStandardError(),
+    QCOMPARE(program.readAllStandardError().replace("\r\n", "\n"),
              error.isEmpty() ? QByteArray() : "VelmoraHalvane: " + folder.path().toLocal8Bit() + error);
     QCOMPARE(program.readAllStandardOutput(), error.isEmpty() ? QByteArray("eve") : QByteArray());
 }

@@ -179,7 +179,7 @@ void tst_Recorders::tellsTrees()
     auto *tree = new QTreeWidget(m_window.get());
     tree->setHeaderLabels(
         {QStringLiteral("     ID"), QStringLiteral("Raw Value"), QStringLiteral("Updated")});
-    tree->setColumnWidth(0, 55);
+    tree->setColumnWidth(0, 155);
     tree->setColumnHidden(2, true);
     auto *item =
         new QTreeWidgetItem(tree, {QStringLiteral("5"), QStringLiteral("12"), QStringLiteral("key")});
@@ -191,7 +191,7 @@ void tst_Recorders::tellsTrees()
     QCOMPARE(found[QStringLiteral("headers")].toArray(),
              (QJsonArray{QStringLiteral("     ID"), QStringLiteral("Raw Value"), QStringLiteral("Updated")}));
     QCOMPARE(found[QStringLiteral("hidden")].toArray(), QJsonArray{2});
-    QCOMPARE(found[QStringLiteral("widths")].toArray().at(0).toInt(), 55);
+    QCOMPARE(found[QStringLiteral("widths")].toArray().at(0).toInt(), 155);
     const QJsonArray row = found[QStringLiteral("rows")].toArray().at(0).toArray();
     QCOMPARE(row.size(), 3);
     QCOMPARE(row.at(1).toObject(), (QJsonObject{{QStringLiteral("text"), QStringLiteral("12")},

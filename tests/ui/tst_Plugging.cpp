@@ -112,6 +112,8 @@ void tst_Plugging::touch(const QString &name)
     const QString path = m_strState + QStringLiteral("/volumes-changed/") + name;
     QFile file(path);
     QVERIFY(file.open(QIODevice::WriteOnly));
+    // A file that is open stays where it is on Windows.
+    file.close();
     QTRY_VERIFY(!QFileInfo::exists(path));
     QCoreApplication::processEvents();
 }

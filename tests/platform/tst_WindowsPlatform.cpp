@@ -1,0 +1,349 @@
+#include "platform/IoControl.h"
+#include "platform/NativePlatform.h"
+
+#include <QDir>
+#include <QFile>
+#include <QScopeGuard>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <windows.h>
+
+#include <dbt.h>
+
+/// The Windows platform on the machine itself. packaging/windows/wine-test prepares what some cases need and
+/// names it: HALVANE_TEST_IMAGE is a file that stands behind \\.\PHYSICALDRIVE0, HALVANE_TEST_URL a web
+/// folder with "page.txt".
+class tst_WindowsPlatform : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void readsRawDisk();
+    void writesRawDisk();
+    void opensOnlyWhatIsThere();
+    void handlesThatAreNone();
+    void tellsOfVolumes();
+    void foldersAndNames();
+    void settingsByKind();
+    void downloads();
+    void decodesMessages_data();
+    void decodesMessages();
+
+private:
+    QString path(const QString &name) const { return m_folder->filePath(name); }
+    /// A handle on the first disk, once it is sure that nothing but the image stands behind it.
+    Platform::RawHandle openImage(quint32 access);
+
+    QScopedPointer<QTemporaryDir> m_folder;
+    QString m_strImage;
+};
+
+namespace
+{
+
+constexpr int Sectors = 2049;
+constexpr int SectorSize = 512;
+const QString FirstDisk = QStringLiteral("\\\\.\\PHYSICALDRIVE0");
+const QString RegistryPath =
+    QStringLiteral("HKEY_LOCAL_MACHINE\\Software\\Wow6432Node\\Velmora Data Rescue\\Velmora Halvane Test");
+
+QByteArray pattern()
+{
+    QByteArray bytes(Sectors * SectorSize, '\0');
+    for (int i = 0; i < bytes.size(); ++i)
+        bytes[i] = static_cast<char>((i * 31 + i / SectorSize) & 0xFF);
+    return bytes;
+}
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+bool writeFile(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+}
+
+const wchar_t *wide(const QString &text)
+{
+    return reinterpret_cast<const wchar_t *>(text.utf16());
+}
+
+/// The type of a registry value; REG_NONE where there is none.
+DWORD registryType(const QString &subKey, const QString &name)
+{
+    DWORD type = REG_NONE;
+    const QString key = RegistryPath.section(QLatin1Char('\\'), 1) +
+                        (subKey.isEmpty() ? QString() : QLatin1Char('\\') + subKey);
+    ::RegGetValueW(HKEY_LOCAL_MACHINE, wide(key), wide(name), RRF_RT_ANY, &type, nullptr, nullptr);
+    return type;
+}
+
+} // namespace
+
+void tst_WindowsPlatform::initTestCase()
+{
+    m_strImage = qEnvironmentVariable("HALVANE_TEST_IMAGE");
+    Platform::install(makeNativePlatform());
+}
+
+void tst_WindowsPlatform::init()
+{
+    m_folder.reset(new QTemporaryDir);
+    QVERIFY(m_folder->isValid());
+}
+
+Platform::RawHandle tst_WindowsPlatform::openImage(quint32 access)
+{
+    Platform &pc = Platform::current();
+    const auto handle =
+        pc.CreateFileW(FirstDisk, access, io::ShareRead | io::ShareWrite | io::ShareDelete, io::OpenExisting);
+    // A disk of the machine holds no such thing.
+    QByteArray start(SectorSize, '\0');
+    if (pc.ReadFile(handle, start.data(), SectorSize, nullptr) && start == pattern().left(SectorSize) &&
+        pc.SetFilePointer(handle, 0))
+        return handle;
+    pc.CloseHandle(handle);
+    return Platform::InvalidHandle;
+}
+
+void tst_WindowsPlatform::readsRawDisk()
+{
+    if (m_strImage.isEmpty())
+        QSKIP("no image stands behind the first disk");
+    QVERIFY(writeFile(m_strImage, pattern()));
+    Platform &pc = Platform::current();
+    const auto handle = openImage(io::GenericRead);
+    QVERIFY(handle != Platform::InvalidHandle);
+    const auto close = qScopeGuard([&] { pc.CloseHandle(handle); });
+    const QByteArray content = pattern();
+    QByteArray buffer(content.size() + SectorSize, 'x');
+    quint32 got = 0;
+
+    // Whole, over the end; then from the end.
+    QVERIFY(pc.ReadFile(handle, buffer.data(), quint32(buffer.size()), &got));
+    QCOMPARE(got, quint32(content.size()));
+    QCOMPARE(buffer.left(content.size()), content);
+    QVERIFY(!pc.ReadFile(handle, buffer.data(), SectorSize, &got));
+    QCOMPARE(got, 0u);
+
+    // The last sector of four asked for; then two in a row from a place within the disk.
+    QVERIFY(pc.SetFilePointer(handle, (Sectors - 1) * SectorSize));
+    QVERIFY(pc.ReadFile(handle, buffer.data(), 4 * SectorSize, &got));
+    QCOMPARE(got, quint32(SectorSize));
+    QCOMPARE(buffer.left(SectorSize), content.right(SectorSize));
+    QVERIFY(pc.SetFilePointer(handle, 7 * SectorSize));
+    QVERIFY(pc.ReadFile(handle, buffer.data(), SectorSize, nullptr));
+    QVERIFY(pc.ReadFile(handle, buffer.data() + SectorSize, SectorSize, &got));
+    QCOMPARE(buffer.left(2 * SectorSize), content.mid(7 * SectorSize, 2 * SectorSize));
+
+    QVERIFY(!pc.SetFilePointer(handle, -1));
+    QVERIFY(pc.SetFilePointer(handle, qint64(Sectors + 9) * SectorSize));
+    QVERIFY(!pc.ReadFile(handle, buffer.data(), SectorSize, &got));
+    QVERIFY(pc.SetFilePointer(handle, 0));
+    QVERIFY(!pc.WriteFile(handle, content.constData(), SectorSize, &got));
+    QCOMPARE(got, 0u);
+    QCOMPARE(contentOf(m_strImage), content);
+}
+
+void tst_WindowsPlatform::writesRawDisk()
+{
+    if (m_strImage.isEmpty())
+        QSKIP("no image stands behind the first disk");
+    // Large enough that an offset needs its high half.
+    constexpr qint64 Far = (qint64{1} << 32) + 5 * SectorSize;
+    QVERIFY(writeFile(m_strImage, pattern()));
+    QVERIFY(QFile::resize(m_strImage, Far + SectorSize));
+    Platform &pc = Platform::current();
+    const auto handle = openImage(io::GenericRead | io::GenericWrite);
+    QVERIFY(handle != Platform::InvalidHandle);
+    const QByteArray data(4 * SectorSize, 'w');
+    quint32 put = 0;
+    QVERIFY(pc.SetFilePointer(handle, 3 * SectorSize));
+    QVERIFY(pc.WriteFile(handle, data.constData(), 2 * SectorSize, &put));
+    QCOMPARE(put, quint32(2 * SectorSize));
+    QVERIFY(pc.SetFilePointer(handle, Far));
+    QVERIFY(pc.WriteFile(handle, data.constData(), 4 * SectorSize, &put));
+    QCOMPARE(put, quint32(SectorSize));
+    QVERIFY(!pc.WriteFile(handle, data.constData(), SectorSize, &put));
+    QCOMPARE(put, 0u);
+    pc.CloseHandle(handle);
+
+    QByteArray expected = pattern();
+    expected.replace(3 * SectorSize, 2 * SectorSize, data.left(2 * SectorSize));
+    QFile image(m_strImage);
+    QVERIFY(image.open(QIODevice::ReadWrite));
+    QCOMPARE(image.size(), Far + SectorSize);
+    QCOMPARE(image.read(expected.size()), expected);
+    QVERIFY(image.seek(Far));
+    QCOMPARE(image.readAll(), data.left(SectorSize));
+    QVERIFY(image.resize(0));
+}
+
+void tst_WindowsPlatform::opensOnlyWhatIsThere()
+{
+    Platform &pc = Platform::current();
+    for (const char *name : {"\\\\.\\PHYSICALDRIVE77", "\\\\.\\PHYSICALDRIVE", "\\\\.\\Q:", ""})
+        QCOMPARE(pc.CreateFileW(QLatin1String(name), io::GenericRead, io::ShareRead | io::ShareWrite,
+                                io::OpenExisting),
+                 Platform::InvalidHandle);
+}
+
+void tst_WindowsPlatform::handlesThatAreNone()
+{
+    QVERIFY(writeFile(path(QStringLiteral("file")), "text"));
+    Platform &pc = Platform::current();
+    const auto handle =
+        pc.CreateFileW(path(QStringLiteral("file")), io::GenericRead, io::ShareRead, io::OpenExisting);
+    QVERIFY(handle != Platform::InvalidHandle);
+    pc.CloseHandle(handle);
+    pc.CloseHandle(handle);
+    char octet = 0;
+    quint32 moved = 9;
+    for (const Platform::RawHandle none : {handle, Platform::InvalidHandle, Platform::RawHandle(0)}) {
+        QVERIFY(!pc.SetFilePointer(none, 0));
+        QVERIFY(!pc.ReadFile(none, &octet, 1, &moved));
+        QCOMPARE(moved, 0u);
+        QVERIFY(!pc.WriteFile(none, &octet, 1, nullptr));
+        QVERIFY(!pc.DeviceIoControl(none, io::DiskGetDriveGeometry, nullptr, 0, &octet, 1, nullptr));
+        pc.CloseHandle(none);
+    }
+}
+
+void tst_WindowsPlatform::tellsOfVolumes()
+{
+    Platform &pc = Platform::current();
+    const QString system = pc.GetSystemDirectoryW().left(3);
+    QVERIFY(pc.GetLogicalDriveStringsW().contains(system));
+    QVERIFY(!pc.GetLogicalDriveStringsW().contains(QString()));
+    QCOMPARE(pc.GetDriveTypeW(system), quint32(io::DriveFixed));
+    QString label;
+    QString fileSystem;
+    QVERIFY(pc.GetVolumeInformationW(system, &label, &fileSystem));
+    QVERIFY(!fileSystem.isEmpty());
+    quint64 total = 0;
+    quint64 free = 0;
+    QVERIFY(pc.GetDiskFreeSpaceExW(system, &total, &free));
+    QVERIFY(free > 0 && free < total);
+
+    const QString none = QStringLiteral("Q:\\");
+    QCOMPARE(pc.GetDriveTypeW(none), quint32(io::DriveNoRootDir));
+    QVERIFY(!pc.GetVolumeInformationW(none, &label, &fileSystem));
+    QVERIFY(label.isEmpty() && fileSystem.isEmpty());
+    QVERIFY(!pc.GetDiskFreeSpaceExW(none, &total, &free));
+    QVERIFY(total == 0 && free == 0);
+}
+
+void tst_WindowsPlatform::foldersAndNames()
+{
+    Platform &pc = Platform::current();
+    QVERIFY(pc.GetTempPathW().endsWith(QLatin1Char('\\')));
+    QVERIFY(QDir(pc.GetTempPathW()).exists());
+    QVERIFY(QFile::exists(pc.GetSystemDirectoryW() + QStringLiteral("\\cmd.exe")));
+    QCOMPARE(pc.GetUserNameW(), qEnvironmentVariable("USERNAME"));
+    QCOMPARE(pc.NativePath(QStringLiteral("C:/a b\\c/d.txt")), QStringLiteral("C:\\a b\\c\\d.txt"));
+    QVERIFY(pc.CommandInterpreter().endsWith("cmd.exe"));
+    const QRegularExpression system(
+        QStringLiteral("^Microsoft Windows .+ \\([1-9]\\d*\\.\\d+\\.\\d+\\) x64$"));
+    QVERIFY2(system.match(pc.OperatingSystemName()).hasMatch(), qPrintable(pc.OperatingSystemName()));
+    QVERIFY(pc.LogPixelsX() >= 96);
+    QVERIFY(!pc.deviceNotifier());
+
+    QCOMPARE(pc.HistoryFolder(m_folder->path()), m_folder->path());
+    QVERIFY(QDir(m_folder->path()).isEmpty());
+    const QString other = pc.HistoryFolder(path(QStringLiteral("missing")));
+    QVERIFY(QDir(other).exists() && !other.startsWith(m_folder->path()));
+}
+
+void tst_WindowsPlatform::settingsByKind()
+{
+    Platform &pc = Platform::current();
+    const QString address = QStringLiteral("EN/rxUpdateLink");
+    const auto clear = qScopeGuard([&pc] { pc.OpenSettings(RegistryPath)->clear(); });
+    {
+        const auto settings = pc.OpenSettings(RegistryPath);
+        settings->setValue(QStringLiteral("LanguageType"), QStringLiteral("7"));
+        settings->setValue(QStringLiteral("ShowTrayIcon"), 1);
+        settings->setValue(QStringLiteral("WarningValue"), 45);
+        settings->setValue(address, QStringLiteral("http://127.0.0.1/"));
+    }
+    QCOMPARE(registryType(QString(), QStringLiteral("LanguageType")), DWORD(REG_SZ));
+    QCOMPARE(registryType(QString(), QStringLiteral("ShowTrayIcon")), DWORD(REG_DWORD));
+    QCOMPARE(registryType(QString(), QStringLiteral("WarningValue")), DWORD(REG_DWORD));
+    QCOMPARE(registryType(QStringLiteral("EN"), QStringLiteral("rxUpdateLink")), DWORD(REG_SZ));
+    QCOMPARE(registryType(QString(), QStringLiteral("TempValue")), DWORD(REG_NONE));
+
+    const auto settings = pc.OpenSettings(RegistryPath);
+    QCOMPARE(settings->value(QStringLiteral("LanguageType")).toString(), QStringLiteral("7"));
+    QVERIFY(settings->value(QStringLiteral("ShowTrayIcon")).toBool());
+    QCOMPARE(settings->value(QStringLiteral("WarningValue")).toInt(), 45);
+    QCOMPARE(settings->value(address).toString(), QStringLiteral("http://127.0.0.1/"));
+    QVERIFY(!settings->value(QStringLiteral("TempValue")).isValid());
+
+    pc.OpenSettings(QString())->setValue(QStringLiteral("LanguageType"), 1);
+    QVERIFY(!pc.OpenSettings(QString())->value(QStringLiteral("LanguageType")).isValid());
+}
+
+void tst_WindowsPlatform::downloads()
+{
+    const QString folder = qEnvironmentVariable("HALVANE_TEST_URL");
+    if (folder.isEmpty())
+        QSKIP("no web folder is served");
+    Platform &pc = Platform::current();
+    const QString target = path(QStringLiteral("got.txt"));
+    QCOMPARE(pc.URLDownloadToFileW(folder + QStringLiteral("page.txt"), target), 0);
+    QCOMPARE(contentOf(target), QByteArray("11.0.0.9\r\nvelmora-halvane.exe\r\n"));
+    QVERIFY(pc.URLDownloadToFileW(QStringLiteral("http://127.0.0.1:9/none.txt"),
+                                  path(QStringLiteral("none.txt"))) != 0);
+    QVERIFY(!QFile::exists(path(QStringLiteral("none.txt"))));
+}
+
+void tst_WindowsPlatform::decodesMessages_data()
+{
+    QTest::addColumn<QByteArray>("eventType");
+    QTest::addColumn<uint>("message");
+    QTest::addColumn<quint32>("event");
+    QTest::addColumn<bool>("record");
+    QTest::addColumn<int>("deviceType"); // -1: no device message
+    const QByteArray usual("windows_generic_MSG");
+    QTest::newRow("arrival") << usual << uint(WM_DEVICECHANGE) << quint32(0x8000) << true << 2;
+    QTest::newRow("removal") << usual << uint(WM_DEVICECHANGE) << quint32(0x8004) << true << 2;
+    QTest::newRow("arrival without record")
+        << usual << uint(WM_DEVICECHANGE) << quint32(0x8000) << false << 0;
+    QTest::newRow("another event's record is not looked at")
+        << usual << uint(WM_DEVICECHANGE) << quint32(0x8006) << true << 0;
+    QTest::newRow("nodes changed") << usual << uint(WM_DEVICECHANGE) << quint32(7) << false << 0;
+    QTest::newRow("another message") << usual << uint(WM_PAINT) << quint32(0x8000) << false << -1;
+    QTest::newRow("another kind") << QByteArray("xcb_generic_event_t") << uint(WM_DEVICECHANGE)
+                                  << quint32(0x8000) << true << -1;
+}
+
+void tst_WindowsPlatform::decodesMessages()
+{
+    QFETCH(QByteArray, eventType);
+    QFETCH(uint, message);
+    QFETCH(quint32, event);
+    QFETCH(bool, record);
+    QFETCH(int, deviceType);
+    DEV_BROADCAST_VOLUME volume{};
+    volume.dbcv_size = sizeof(volume);
+    volume.dbcv_devicetype = DBT_DEVTYP_VOLUME;
+    MSG msg{};
+    msg.message = message;
+    msg.wParam = event;
+    msg.lParam = record ? reinterpret_cast<LPARAM>(&volume) : 0;
+    const auto change = Platform::current().decodeDeviceMessage(eventType, &msg);
+    QCOMPARE(change.has_value(), deviceType >= 0);
+    QVERIFY(!change || (change->event == event && change->deviceType == quint32(deviceType)));
+    QVERIFY(!Platform::current().decodeDeviceMessage(eventType, nullptr));
+}
+
+QTEST_GUILESS_MAIN(tst_WindowsPlatform)
+#include "tst_WindowsPlatform.moc"

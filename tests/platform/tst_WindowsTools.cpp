@@ -1,0 +1,327 @@
+#include "app/state/GlobalApp.h"
+#include "app/state/Globals.h"
+#include "inventory/CommandRunner.h"
+#include "inventory/Companion.h"
+#include "inventory/WmicInventory.h"
+#include "platform/NativePlatform.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QScopeGuard>
+#include <QTemporaryDir>
+#include <QTextStream>
+#include <QtTest>
+
+#include <cstdio>
+
+#include <windows.h>
+
+#include <taskschd.h>
+
+/// The tools of Windows as the program runs and reads them, its other programs, and the task at logon. What
+/// Wine is known not to do is expected to fail there, and only there.
+class tst_WindowsTools : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void runsToolsHidden();
+    void interpreterThatIsMissing();
+    void volumeTable();
+    void diskTable();
+    void seesTheCompanion();
+    void killsTheCompanion();
+    void opensPrograms();
+    void registersTheLogonTask();
+    void deletesTheLogonTask();
+
+private:
+    QString path(const QString &name) const { return m_folder->filePath(name); }
+    /// Starts a copy of this program under another name, which waits for its end.
+    bool startAs(const QString &name, QProcess *process) const;
+
+    QScopedPointer<QTemporaryDir> m_folder;
+    bool m_bWine = false;
+};
+
+namespace
+{
+
+const QString Companion = QStringLiteral("VelmoraSMART.exe");
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+bool writeFile(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+}
+
+const wchar_t *wide(const QString &text)
+{
+    return reinterpret_cast<const wchar_t *>(text.utf16());
+}
+
+QString ownProgram()
+{
+    return QDir::toNativeSeparators(QCoreApplication::applicationFilePath());
+}
+
+/// The root folder of the task scheduler, past the platform. COM has to be up.
+class TaskFolder
+{
+public:
+    TaskFolder()
+    {
+        const BSTR root = ::SysAllocString(L"\\");
+        if (SUCCEEDED(::CoCreateInstance(CLSID_TaskScheduler, nullptr, CLSCTX_INPROC_SERVER, IID_ITaskService,
+                                         reinterpret_cast<void **>(&m_service))) &&
+            SUCCEEDED(m_service->Connect(m_none, m_none, m_none, m_none)))
+            m_service->GetFolder(root, &m_folder);
+        ::SysFreeString(root);
+    }
+    TaskFolder(const TaskFolder &) = delete;
+    TaskFolder &operator=(const TaskFolder &) = delete;
+    ~TaskFolder()
+    {
+        if (m_folder)
+            m_folder->Release();
+        if (m_service)
+            m_service->Release();
+    }
+
+    /// The definition of a task; empty where there is none.
+    QString xmlOf(const QString &name) const
+    {
+        const BSTR wanted = ::SysAllocString(wide(name));
+        IRegisteredTask *task = nullptr;
+        BSTR text = nullptr;
+        QString xml;
+        if (m_folder && SUCCEEDED(m_folder->GetTask(wanted, &task))) {
+            if (SUCCEEDED(task->get_Xml(&text)))
+                xml = QString::fromWCharArray(text);
+            task->Release();
+        }
+        ::SysFreeString(text);
+        ::SysFreeString(wanted);
+        return xml;
+    }
+
+    bool registerXml(const QString &name, const QString &xml) const
+    {
+        const BSTR wanted = ::SysAllocString(wide(name));
+        const BSTR text = ::SysAllocString(wide(xml));
+        IRegisteredTask *task = nullptr;
+        const bool done =
+            m_folder && SUCCEEDED(m_folder->RegisterTask(wanted, text, TASK_CREATE_OR_UPDATE, m_none, m_none,
+                                                         TASK_LOGON_INTERACTIVE_TOKEN, m_none, &task));
+        if (task)
+            task->Release();
+        ::SysFreeString(text);
+        ::SysFreeString(wanted);
+        return done;
+    }
+
+private:
+    const VARIANT m_none{};
+    ITaskService *m_service = nullptr;
+    ITaskFolder *m_folder = nullptr;
+};
+
+/// What copies of this program do for the cases; -1 where the arguments are not for one.
+int actAsTool(int argc, char **argv)
+{
+    const QByteArray what = argc > 1 ? argv[1] : "";
+    if (what == "--wait") {
+        ::Sleep(30000);
+        return 0;
+    }
+    if (what == "--console") {
+        ::Sleep(400);
+        const HWND console = ::GetConsoleWindow();
+        std::printf("console %s\n", console && ::IsWindowVisible(console) ? "seen" : "hidden");
+        return 7;
+    }
+    if (what == "--touch" && argc == 3)
+        return writeFile(QString::fromLocal8Bit(argv[2]), "touched") ? 0 : 1;
+    return -1;
+}
+
+} // namespace
+
+void tst_WindowsTools::initTestCase()
+{
+    m_bWine = ::GetProcAddress(::GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
+    Platform::install(makeNativePlatform());
+    g_App.m_strSystemFolder = Platform::current().GetSystemDirectoryW();
+}
+
+void tst_WindowsTools::init()
+{
+    m_folder.reset(new QTemporaryDir);
+    QVERIFY(m_folder->isValid());
+}
+
+void tst_WindowsTools::runsToolsHidden()
+{
+    // The tool takes its time, has no console that shows, and its exit code tells nothing.
+    QStringList lines;
+    QVERIFY(runner::runAndRead(
+        ownProgram() + QStringLiteral(" --console"), QStringLiteral("HalvaneRun.txt"),
+        [&lines](QTextStream &stream) { lines = stream.readAll().split(QLatin1Char('\n')); }));
+    QCOMPARE(lines, QStringList({QStringLiteral("console hidden"), QString()}));
+    QVERIFY(!QFile::exists(tempFile(QStringLiteral("HalvaneRun.txt"))));
+
+    // A tool that is missing still leaves its file, which is empty.
+    bool read = false;
+    QVERIFY(runner::runAndRead(QStringLiteral("no-such-tool.exe -a"), QStringLiteral("HalvaneRun.txt"),
+                               [&read](QTextStream &stream) { read = stream.atEnd(); }));
+    QVERIFY(read);
+}
+
+void tst_WindowsTools::interpreterThatIsMissing()
+{
+    QVERIFY(!Platform::current().CreateProcessAndWait(L"C:\\no-such-folder\\cmd.exe /c echo ", true));
+    const QByteArray before = qgetenv("COMSPEC");
+    const auto restore = qScopeGuard([&before] { qputenv("COMSPEC", before); });
+    qunsetenv("COMSPEC");
+    QVERIFY(Platform::current().CommandInterpreter().isEmpty());
+    QString text;
+    QVERIFY(runner::runAndRead(QStringLiteral("echo found"), QStringLiteral("HalvaneRun.txt"),
+                               [&text](QTextStream &stream) { text = stream.readLine(); }));
+    QCOMPARE(text.trimmed(), QStringLiteral("found"));
+}
+
+void tst_WindowsTools::volumeTable()
+{
+    LoadLogicalDisks();
+    const QString system = Platform::current().GetSystemDirectoryW().left(2);
+    const LogicalDiskRecord *record = g_pLogicalDiskListHead;
+    while (record && record->szCaption.text() != system)
+        record = record->pNext;
+    QVERIFY(record);
+    quint64 total = 0;
+    QString fileSystem;
+    QVERIFY(Platform::current().GetDiskFreeSpaceExW(system + QLatin1Char('\\'), &total, nullptr));
+    QVERIFY(Platform::current().GetVolumeInformationW(system + QLatin1Char('\\'), nullptr, &fileSystem));
+    QVERIFY(record->nFreeBytes > 0 && record->nFreeBytes < record->nSizeBytes);
+    QCOMPARE(record->szFileSystem.text(), fileSystem);
+    if (m_bWine)
+        QEXPECT_FAIL("", "Wine's table of volumes gives every volume the size of a disk that it makes up",
+                     Abort);
+    QCOMPARE(record->nSizeBytes, qint64(total));
+}
+
+void tst_WindowsTools::diskTable()
+{
+    int probed = 0;
+    LoadDiskDrives([&probed](int, const QString &) { ++probed; });
+    if (m_bWine)
+        QEXPECT_FAIL("", "Wine's table of disks has no column Status, and the whole question is refused",
+                     Abort);
+    QVERIFY(g_pWmicDiskListHead);
+    QVERIFY(probed > 0);
+    QVERIFY(!g_pWmicDiskListHead->szModel.text().isEmpty());
+    QCOMPARE(g_pWmicDiskListHead->szStatus.text(), QStringLiteral("OK"));
+}
+
+bool tst_WindowsTools::startAs(const QString &name, QProcess *process) const
+{
+    const QString copy = path(name);
+    // The libraries are beside the program itself or on the path.
+    process->setWorkingDirectory(QCoreApplication::applicationDirPath());
+    process->start(QFile::copy(ownProgram(), copy) ? copy : QString(), {QStringLiteral("--wait")});
+    return process->waitForStarted();
+}
+
+void tst_WindowsTools::seesTheCompanion()
+{
+    QProcess process;
+    QVERIFY(companion::check() == companion::State::NotRunning);
+    QVERIFY(startAs(Companion, &process));
+    const auto end = qScopeGuard([&process] {
+        process.kill();
+        process.waitForFinished();
+    });
+    if (m_bWine)
+        QEXPECT_FAIL("", "Wine's tasklist and findstr print nothing", Abort);
+    QVERIFY(companion::check() == companion::State::Running);
+}
+
+void tst_WindowsTools::killsTheCompanion()
+{
+    for (const auto kill : {companion::kill, companion::killAfterRead}) {
+        QProcess process;
+        QFile::remove(path(Companion));
+        QVERIFY(startAs(Companion, &process));
+        kill();
+        QVERIFY(process.waitForFinished(5000));
+    }
+}
+
+void tst_WindowsTools::opensPrograms()
+{
+    Platform &pc = Platform::current();
+    const QString touched = path(QStringLiteral("touched"));
+    QVERIFY(pc.ShellExecuteW(ownProgram(), QStringLiteral("--touch ") + QDir::toNativeSeparators(touched),
+                             QString()));
+    QTRY_COMPARE(contentOf(touched), QByteArray("touched"));
+    QVERIFY(!pc.ShellExecuteW(path(QStringLiteral("missing.exe")), QString(), QStringLiteral("open")));
+}
+
+void tst_WindowsTools::registersTheLogonTask()
+{
+    Platform &pc = Platform::current();
+    pc.InitializeCom();
+    const LogonTask task{QStringLiteral("HalvaneTest"), pc.GetUserNameW(),
+                         QStringLiteral("C:/Program Files/Halvane/VelmoraSMART.exe"),
+                         QStringLiteral("Schedular")};
+    const auto clear = qScopeGuard([&] { pc.DeleteLogonTask(task.name); });
+    pc.CreateLogonTask(task);
+    const QString xml = TaskFolder().xmlOf(task.name);
+    if (m_bWine)
+        QEXPECT_FAIL("", "Wine's task scheduler takes no kind of logon for a task", Abort);
+    QVERIFY(!xml.isEmpty());
+    for (const char *part :
+         {"<LogonTrigger id=\"Trigger1\">", "<Command>C:\\Program Files\\Halvane\\VelmoraSMART.exe<",
+          "<Arguments>Schedular<", "HighestAvailable", "InteractiveToken", "<StartWhenAvailable>true<"})
+        QVERIFY2(xml.contains(QLatin1String(part)), part);
+}
+
+void tst_WindowsTools::deletesTheLogonTask()
+{
+    const QString name = QStringLiteral("HalvaneTest");
+    const QString xml =
+        QStringLiteral("<Task version=\"1.2\" xmlns=\"http://schemas.microsoft.com/windows/2004/02/"
+                       "mit/task\"><Actions><Exec><Command>cmd.exe</Command></Exec></Actions></Task>");
+    // What failed before may have let COM go.
+    QVERIFY(SUCCEEDED(::CoInitialize(nullptr)));
+    const auto leave = qScopeGuard([] { ::CoUninitialize(); });
+    QVERIFY(TaskFolder().registerXml(name, xml));
+    const QString found = TaskFolder().xmlOf(name);
+    QVERIFY2(found.contains(QLatin1String("<Exec")), qPrintable(found));
+    Platform::current().DeleteLogonTask(name);
+    QVERIFY(TaskFolder().xmlOf(name).isEmpty());
+    // Nothing is said of a task that is not there.
+    Platform::current().DeleteLogonTask(name);
+    QVERIFY(TaskFolder().xmlOf(name).isEmpty());
+}
+
+int main(int argc, char **argv)
+{
+    const int status = actAsTool(argc, argv);
+    if (status >= 0)
+        return status;
+    QCoreApplication application(argc, argv);
+    tst_WindowsTools test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "tst_WindowsTools.moc"
