@@ -103,6 +103,20 @@ public slots:
     void OnShowCloneDisk();
     void OnShowSmartStatus();
     void OnShowSettings();
+    /// \name One door for each language, in the order of LanguageType
+    /// @{
+    void OnChangeEnglishLanguage();
+    void OnChangeGermanLanguage();
+    void OnChangeFrenchLanguage();
+    void OnChangeItalianLanguage();
+    void OnChangeSpanishLanguage();
+    void OnChangeJapneaseLanguage();
+    void OnChangeChineaseLanguage();
+    void OnChangeKoreanLanguage();
+    void OnChangeDutchLanguage();
+    void OnChangeBrazilLanguage();
+    void OnChangeHindiLanguage();
+    /// @}
     void OnMinimized();
     void OnClose();
     void Onyes();

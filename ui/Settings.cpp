@@ -133,6 +133,15 @@ void Settings::connectFields()
     connect(degreeComboBox, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
             &Settings::ChangeWarningTemperature);
     connect(m_pUpdateButton, &QPushButton::clicked, this, &Settings::OnCheckUpdate);
+    constexpr std::array<void (Settings::*)(), LanguageCount> changes = {
+        &Settings::OnChangeEnglishLanguage,  &Settings::OnChangeGermanLanguage,
+        &Settings::OnChangeFrenchLanguage,   &Settings::OnChangeItalianLanguage,
+        &Settings::OnChangeSpanishLanguage,  &Settings::OnChangeJapneaseLanguage,
+        &Settings::OnChangeChineaseLanguage, &Settings::OnChangeKoreanLanguage,
+        &Settings::OnChangeDutchLanguage,    &Settings::OnChangeBrazilLanguage,
+        &Settings::OnChangeHindiLanguage};
+    for (std::size_t type = 0; type < changes.size(); ++type)
+        connect(m_apLanguageActions[type], &QAction::triggered, this, changes[type]);
 }
 
 void Settings::BuildLanguageMenu()
@@ -140,7 +149,7 @@ void Settings::BuildLanguageMenu()
     for (const languages::Language &language : languages::table) {
         auto *action = new QAction(this);
         action->setCheckable(true);
-        action->setChecked(&language == &languages::current());
+        action->setObjectName(QLatin1String(language.text));
         m_apLanguageActions[static_cast<std::size_t>(language.type)] = action;
     }
     for (const int type : MenuOrder) {
@@ -149,8 +158,77 @@ void Settings::BuildLanguageMenu()
             !leftOutByBrand(type))
             m_pLanguageMenu->addAction(m_apLanguageActions[static_cast<std::size_t>(type)]);
     }
+    checkCurrentLanguage();
     if (g_App.m_bShowLanguageMenu)
         m_pLanguageButton->setMenu(m_pLanguageMenu);
+}
+
+void Settings::checkCurrentLanguage()
+{
+    for (const languages::Language &language : languages::table)
+        m_apLanguageActions[static_cast<std::size_t>(language.type)]->setChecked(&language ==
+                                                                                 &languages::current());
+}
+
+void Settings::changeLanguage(int type)
+{
+    languages::change(type);
+    checkCurrentLanguage();
+}
+
+void Settings::OnChangeEnglishLanguage()
+{
+    changeLanguage(0);
+}
+
+void Settings::OnChangeGermanLanguage()
+{
+    changeLanguage(1);
+}
+
+void Settings::OnChangeFrenchLanguage()
+{
+    changeLanguage(2);
+}
+
+void Settings::OnChangeItalianLanguage()
+{
+    changeLanguage(3);
+}
+
+void Settings::OnChangeSpanishLanguage()
+{
+    changeLanguage(4);
+}
+
+void Settings::OnChangeJapneaseLanguage()
+{
+    changeLanguage(5);
+}
+
+void Settings::OnChangeChineaseLanguage()
+{
+    changeLanguage(6);
+}
+
+void Settings::OnChangeKoreanLanguage()
+{
+    changeLanguage(7);
+}
+
+void Settings::OnChangeDutchLanguage()
+{
+    changeLanguage(8);
+}
+
+void Settings::OnChangeBrazilLanguage()
+{
+    changeLanguage(9);
+}
+
+void Settings::OnChangeHindiLanguage()
+{
+    changeLanguage(10);
 }
 
 void Settings::translateTexts()

@@ -49,6 +49,20 @@ public slots:
     void OnCheckUpdate();
     void CheckUpdate();
     void OnNoUpdateAvailable();
+    /// \name One door for each language, in the order of LanguageType
+    /// @{
+    void OnChangeEnglishLanguage();
+    void OnChangeGermanLanguage();
+    void OnChangeFrenchLanguage();
+    void OnChangeItalianLanguage();
+    void OnChangeSpanishLanguage();
+    void OnChangeJapneaseLanguage();
+    void OnChangeChineaseLanguage();
+    void OnChangeKoreanLanguage();
+    void OnChangeDutchLanguage();
+    void OnChangeBrazilLanguage();
+    void OnChangeHindiLanguage();
+    /// @}
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -57,6 +71,8 @@ private:
     void addHeaderButtons();
     /// Fills the language button's menu with the languages on offer and checks the current one.
     void BuildLanguageMenu();
+    void changeLanguage(int type);
+    void checkCurrentLanguage();
     void fillFields();
     void styleFields();
     void connectFields();

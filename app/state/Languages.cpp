@@ -1,6 +1,7 @@
 #include "app/state/Languages.h"
 
 #include "app/state/Globals.h"
+#include "app/state/SettingsStore.h"
 #include "platform/Platform.h"
 
 #include <QCoreApplication>
@@ -88,6 +89,22 @@ void loadAtStart()
             loadTranslators(language);
     }
     loadTranslators(current());
+    QCoreApplication::installTranslator(&qtTranslator(current()));
+    QCoreApplication::installTranslator(&appTranslator(current()));
+}
+
+void change(int type)
+{
+    setFlag(type);
+    for (const QString &path :
+         {g_App.m_strSettingsPath, g_App.m_strSiblingKey1, g_App.m_strSiblingKey2, g_App.m_strSiblingKey3})
+        SettingsStore(path).writeText(key::LanguageType, QString::number(type));
+    for (const Language &language : table) {
+        if (language.type == type)
+            continue;
+        QCoreApplication::removeTranslator(&qtTranslator(language));
+        QCoreApplication::removeTranslator(&appTranslator(language));
+    }
     QCoreApplication::installTranslator(&qtTranslator(current()));
     QCoreApplication::installTranslator(&appTranslator(current()));
 }

@@ -41,4 +41,9 @@ void loadTranslators(const Language &language, bool withQt = true);
 /// Loads all languages but the selected one, then loads and installs the selected one's translators.
 void loadAtStart();
 
+/// Changes the language while the program runs: sets its flag, stores the choice as text here and for the
+/// three sibling programs, and swaps the installed translators, which sends every window a LanguageChange.
+/// Choosing the current language again does no harm.
+void change(int type);
+
 } // namespace languages

@@ -3,6 +3,7 @@
 #include "app/state/Languages.h"
 #include "app/state/LogFolder.h"
 #include "app/state/Navigation.h"
+#include "app/state/SettingsStore.h"
 #include "tests/support/FakePlatform.h"
 
 #include <QtTest>
@@ -21,6 +22,7 @@ private slots:
     void offered();
     void folders();
     void missingFilesLeaveEnglish();
+    void changeIsKept();
     void navigationSheets();
     void widths();
     void logFolder();
@@ -91,6 +93,23 @@ void tst_Languages::missingFilesLeaveEnglish()
     QVERIFY(g_strTranslationFolder.endsWith(QLatin1String("DE"))); // the selected one is loaded last
     QCOMPARE(QCoreApplication::translate("MainWindow", "Passed"), QStringLiteral("Passed"));
     languages::setFlag(0);
+}
+
+void tst_Languages::changeIsKept()
+{
+    FakePlatform::install();
+    g_App.m_strSettingsPath = QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\Own");
+    g_App.m_strSiblingKey2 = QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\Sibling");
+    for (const int type : {7, 7, 0, 10}) {
+        languages::change(type);
+        QCOMPARE(languages::current().type, type);
+        for (const QString &path : {g_App.m_strSettingsPath, g_App.m_strSiblingKey2}) {
+            const QVariant stored = Platform::current().OpenSettings(path)->value(key::LanguageType);
+            QCOMPARE(stored.type(), QVariant::String);
+            QCOMPARE(stored.toString(), QString::number(type));
+        }
+    }
+    g_App.m_strSiblingKey2.clear();
 }
 
 void tst_Languages::navigationSheets()

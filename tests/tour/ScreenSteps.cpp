@@ -67,3 +67,12 @@ StepList screenSteps(Walk &walk)
     }
     return steps;
 }
+
+StepList pageSteps()
+{
+    StepList steps;
+    steps.push_back({QLatin1String(diskStatus.step), [](Walk &person) { seePage(person, diskStatus); }});
+    for (const Page &page : otherPages)
+        steps.push_back({QLatin1String(page.step), [page](Walk &person) { seePage(person, page); }});
+    return steps;
+}

@@ -10,7 +10,7 @@ void seeSettings(Walk &walk)
 {
     walk.expect(SettingsClass);
     walk.openMenu(QStringLiteral("m_pMenuButton"));
-    walk.chooseInMenu(QStringLiteral("Settings"));
+    walk.chooseInMenu(QStringLiteral("m_pSettingsAction"));
     walk.waitForWindow(SettingsClass);
     walk.record(QStringLiteral("settings"), SettingsClass);
     walk.press(SettingsClass, {QStringLiteral("CloseButton")});

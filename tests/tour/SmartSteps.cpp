@@ -16,11 +16,13 @@ namespace
 
 const QString TreeName = QStringLiteral("m_pAttributeTree");
 constexpr int NameColumn = 1;
-constexpr int Reluctance = 500; ///< ms in which a dialog that must not come would have come
+constexpr int KeyColumns[] = {7, 3}; ///< of ATA, of NVMe; the other one is empty or of another meaning
+constexpr int Reluctance = 500;      ///< ms in which a dialog that must not come would have come
 
 struct Row {
     int number = 0;
     QString name;
+    QString key; ///< the name in no language
 };
 
 /// Whose graphs are worth a picture: for each line the first name that a row has.
@@ -47,8 +49,15 @@ QVector<Row> shownRows()
     const QTreeView *tree = page() ? page()->findChild<QTreeView *>(TreeName) : nullptr;
     if (!graph || !graph->isVisible() || !tree || !tree->isVisible())
         return rows;
+    const auto textAt = [tree](int row, int column) {
+        return tree->model()->index(row, column).data().toString();
+    };
+    const auto keyAt = [&textAt](int row) {
+        const QString ata = textAt(row, KeyColumns[0]);
+        return ata.isEmpty() ? textAt(row, KeyColumns[1]) : ata;
+    };
     for (int row = 0; row < tree->model()->rowCount(); ++row)
-        rows.append({row, tree->model()->index(row, NameColumn).data().toString()});
+        rows.append({row, textAt(row, NameColumn), keyAt(row)});
     return rows;
 }
 
@@ -58,7 +67,7 @@ QVector<Row> chosenRows(const QVector<Row> &rows)
     for (const QStringList &names : wanted()) {
         for (const QString &name : names) {
             const auto found = std::find_if(rows.cbegin(), rows.cend(),
-                                            [&name](const Row &row) { return row.name.contains(name); });
+                                            [&name](const Row &row) { return row.key.contains(name); });
             if (found == rows.cend())
                 continue;
             chosen.append(*found);

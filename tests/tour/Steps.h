@@ -34,11 +34,15 @@ StepList scanSteps(Walk &walk);
 StepList selfTestSteps(Walk &walk);
 StepList cloneSteps(Walk &walk);
 StepList updateSteps(Walk &walk);
+StepList languageSteps(Walk &walk);
 StepList closeSteps(Walk &walk);
 /// @}
 
 /// Graphs, report and screenshot of a drive, for when its SMART Status shows. By its place in the combo.
 StepList smartSteps(int drive);
+
+/// The five screens once, for the disk that is chosen.
+StepList pageSteps();
 
 /// The whole walk in its order.
 const std::vector<Chapter> &chapters();

@@ -17,7 +17,7 @@ void askForUpdate(Walk &walk)
     const Expectation message(&walk, MessageClass);
     const Expectation offer(&walk, OfferClass);
     walk.openMenu(QStringLiteral("m_pMenuButton"));
-    walk.chooseInMenu(QStringLiteral("Settings"));
+    walk.chooseInMenu(QStringLiteral("m_pSettingsAction"));
     walk.waitForWindow(SettingsClass);
     walk.press(SettingsClass, {QStringLiteral("m_pUpdateButton")});
     walk.waitFor(QStringLiteral("the outcome of the check"),

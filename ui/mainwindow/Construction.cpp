@@ -438,7 +438,6 @@ void MainWindow::greyOutIdle()
     // Nothing stands behind these, so they do not look as if.
     m_pHelpButton->setEnabled(false);
     m_pAboutAction->setEnabled(false);
-    m_pSettings->m_pLanguageButton->hide();
 }
 
 void MainWindow::startTemperatureTimer()
