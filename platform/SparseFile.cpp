@@ -27,6 +27,13 @@ HANDLE handleOf(const QFile &file)
     return reinterpret_cast<HANDLE>(_get_osfhandle(file.handle()));
 }
 
+/// QFile::size() asks for all that the system knows of the file and its volume, at every transfer.
+qint64 sizeOf(const QFile &file)
+{
+    LARGE_INTEGER size{};
+    return GetFileSizeEx(handleOf(file), &size) ? size.QuadPart : 0;
+}
+
 void allowHoles(const QFile &file)
 {
     DWORD returned = 0;
@@ -52,6 +59,11 @@ bool nextData(const QFile &, qint64 from, qint64 size, qint64 *begin, qint64 *en
 }
 
 #else
+
+qint64 sizeOf(const QFile &file)
+{
+    return file.size();
+}
 
 void allowHoles(const QFile &) {}
 
@@ -172,11 +184,12 @@ bool copyInto(const QString &source, const QString &target, qint64 offset)
 
 bool read(QFile &file, qint64 offset, char *data, qint64 bytes)
 {
-    const qint64 inFile = std::clamp<qint64>(file.size() - offset, 0, bytes);
+    const qint64 size = sizeOf(file);
+    const qint64 inFile = std::clamp<qint64>(size - offset, 0, bytes);
     std::memset(data + inFile, 0, static_cast<std::size_t>(bytes - inFile));
     qint64 begin = 0;
     qint64 end = 0;
-    if (inFile == 0 || !nextData(file, offset, file.size(), &begin, &end) || begin >= offset + inFile) {
+    if (inFile == 0 || !nextData(file, offset, size, &begin, &end) || begin >= offset + inFile) {
         std::memset(data, 0, static_cast<std::size_t>(inFile));
         return true;
     }
