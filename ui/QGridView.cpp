@@ -69,9 +69,11 @@ qlonglong QGridView::totalSectors() const
 QVariantList QGridView::badSectors() const
 {
     QVariantList sectors;
-    const QVector<qint64> found = g_BadSectors.toVector();
-    for (const qint64 sector : found)
-        sectors.append(sector);
+    g_BadSectors.forEachRun([&sectors](qint64 first, qint64 count) {
+        const qint64 room = qMin<qint64>(count, MostBadSectors - sectors.size());
+        for (qint64 i = 0; i < room; ++i)
+            sectors.append(first + i);
+    });
     return sectors;
 }
 

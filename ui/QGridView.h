@@ -26,7 +26,9 @@ public:
 
     qlonglong totalSectors() const;
     qlonglong position() const { return m_i64Position; }
+    /// The first ones that were found.
     QVariantList badSectors() const;
+    static constexpr int MostBadSectors = 10000; ///< in badSectors(); a disk that has gone has millions
 
     QSize sizeHint() const override;
 
