@@ -216,8 +216,6 @@ void ScanDisk::StartScan(qint64 totalSectors)
     constexpr int ScanMode = 3;
     frame_4->show();
     frame->show();
-    // The result of the scan before comes a moment before its thread has ended.
-    m_scanThread.wait();
     g_bAbortJob = false;
     g_BadSectors.clear();
     RemTimeValLbl->clear();
@@ -317,6 +315,8 @@ void ScanDisk::OnUpdateTime()
 
 void ScanDisk::OnScanFinish(QString verdict)
 {
+    // It signals a moment before it is at rest, and would take g_bJobRunning from the next job.
+    m_scanThread.wait();
     clearTimes();
     showResult(verdict);
     m_clock.forgetEstimate();
