@@ -14,7 +14,7 @@
 #include <QRadioButton>
 #include <QToolTip>
 
-/// Surface scans through the real window, on a PC with a quick disk, a slow one and one that does not open.
+/// Surface scans through the real window, on a PC with a quick disk, a slow one and one that is not listed.
 class tst_ScanFlow : public QObject, private WindowFixture
 {
     Q_OBJECT
@@ -31,6 +31,8 @@ private slots:
     void leftInMidRun();
     void closingAndRefreshing();
     void startsNothingDuringARefresh();
+    void startsNothingWithoutADisk();
+    void questionGoesWithTheScan();
     void selfTestsGoTheirWay();
     void anotherDisk();
     void failed();
@@ -175,6 +177,9 @@ void tst_ScanFlow::paintsItsCells()
     QCOMPARE(colourAt(399), blockmap::WorkingColour); // the last bad one, which the progress has not passed
     QCOMPARE(image.pixel(40, 10), blockmap::GridColour);
     QCOMPARE(image.pixel(500, 320), blockmap::GridColour);
+    for (qint64 sector = QuickSectors; sector < 10 * QuickSectors; ++sector)
+        g_BadSectors.append(sector);
+    QCOMPARE(map()->badSectors().size(), QGridView::MostBadSectors);
 }
 
 void tst_ScanFlow::stopped()
@@ -219,8 +224,10 @@ void tst_ScanFlow::leftInMidRun()
     QVERIFY(question->isVisible());
     question->NoButton->click();
     QVERIFY(scanning() && page()->isVisible());
+    child<QPushButton>("StopButton")->click();
     press(button.constData());
     question->YesButton->click();
+    QVERIFY(!m_pWindow->findChild<ConfarmetionClass *>()->isVisible());
     QVERIFY(!shown("StopButton"));
     select(0);
     waitForResult();
@@ -267,6 +274,26 @@ void tst_ScanFlow::startsNothingDuringARefresh()
     QCOMPARE(text("ProcessedVal"), QString::number(QuickSectors));
 }
 
+void tst_ScanFlow::startsNothingWithoutADisk()
+{
+    tearDown();
+    startPc(R"({"pauses": false, "settings": {"FirstTimeLaunch": 1}, "disks": []})");
+    makeWindow();
+    press("ScanDiskButton");
+    child<QPushButton>("ScanButton")->click();
+    QVERIFY(!page()->IsScanning() && !g_bJobRunning && !g_bScanFailed && shown("frame_2"));
+}
+
+void tst_ScanFlow::questionGoesWithTheScan()
+{
+    startOn(0);
+    child<QPushButton>("StopButton")->click();
+    auto *question = m_pWindow->findChild<ConfarmetionClass *>();
+    QVERIFY(question->isVisible());
+    waitForResult();
+    QVERIFY(!question->isVisible());
+}
+
 void tst_ScanFlow::selfTestsGoTheirWay()
 {
     press("ScanDiskButton");
@@ -295,7 +322,13 @@ void tst_ScanFlow::anotherDisk()
 
 void tst_ScanFlow::failed()
 {
-    startOn(2);
+    // A disk without a volume goes without a notice.
+    QVERIFY(Platform::current().deviceNotifier()); // watches what is pulled out
+    QFile unplugged(m_strState + QStringLiteral("/volumes-changed/remove-disk0"));
+    QVERIFY(unplugged.open(QIODevice::WriteOnly));
+    unplugged.close();
+    QTRY_VERIFY_WITH_TIMEOUT(!unplugged.exists(), 5000);
+    startOn(0);
     waitForResult();
     QCOMPARE(resultTexts(), QStringLiteral("Scan Failed|Scan Failed.|"));
     QVERIFY(idle());
@@ -337,6 +370,7 @@ void tst_ScanFlow::overAndOver()
             m_pWindow->OnSwitchConfirm();
         }
         waitForResult();
+        QVERIFY(!g_bJobRunning);
         QVERIFY(resultTexts().startsWith(QLatin1String("Disk Scan|")));
         closeResult();
         waitForRead();

@@ -26,6 +26,7 @@ private slots:
     void extendedWithoutTime();
     void anyOtherEndGoesOn();
     void notDuringARefresh();
+    void leftRunning();
 
 private:
     static QByteArray capabilities(const char *name)
@@ -212,6 +213,27 @@ void tst_SelfTestFlow::notDuringARefresh()
     g_bListsLoading = false;
     QCOMPARE(commands(" -t "), 0);
     QVERIFY(shown("frame_2") && shown("ScanButton") && !g_bTestPending);
+}
+
+/// Its ticks lock the navigation of the other screens too, but nobody is caught there.
+void tst_SelfTestFlow::leftRunning()
+{
+    startOn(capabilities("caps-idle-62.txt"), R"(, "selfTest": {"secondsPerMinute": 3600})");
+    start("radioButton_3");
+    press("DiskPartitionButton");
+    m_pWindow->OnSwitchConfirm();
+    m_pWindow->CheckShortTestStatus1();
+    QVERIFY(!child<MyButton>("DiskStatusButton")->isEnabled());
+    press("DiskStatusButton");
+    QVERIFY(child<MyButton>("DiskStatusButton")->isDown());
+    waitForRead();
+    press("ScanDiskButton");
+    QVERIFY(shown("frame_2"));
+    child<QPushButton>("ScanButton")->click();
+    QTest::qWait(1200);
+    QVERIFY(!g_bSelfTestRunning && !shown("StopTestButton"));
+    QTRY_VERIFY(child<QWidget>("m_pResultBox")->isVisible());
+    QVERIFY(navigationIs(true));
 }
 
 QTEST_MAIN(tst_SelfTestFlow)

@@ -4,11 +4,13 @@
 #include "app/state/Globals.h"
 #include "smart/SelfTestGlobals.h"
 #include "ui/CloneDisk.h"
+#include "ui/ConfarmetionClass.h"
 #include "ui/MyButton.h"
 #include "ui/ScanDisk.h"
 
 #include <QAction>
 #include <QEvent>
+#include <QTimer>
 
 namespace
 {
@@ -48,6 +50,10 @@ void MainWindow::OnScanStart()
     // drive has answered. A clone goes on behind this screen, and would take a stop for its own.
     if (g_bListsLoading || m_pScanDiskPage->IsScanning() || m_pCloneDiskPage->IsCloning())
         return;
+    // Without a disk the engine would fail, and every scan of this process with it.
+    LookUpDisk(DriveCombobox->currentIndex());
+    if (m_pScanDiskPage->radioButton->isChecked() && !g_App.m_pCurrentDisk)
+        return;
     OnCheckRadioButton();
     if (g_bTestPending) {
         OnStartShortSelfTest();
@@ -59,6 +65,9 @@ void MainWindow::OnScanStart()
 
 void MainWindow::startSurfaceScan()
 {
+    // The drive goes on by itself with a self-test that was left, but its buttons are not for this scan.
+    if (m_pTestTimer)
+        m_pTestTimer->stop();
     setMenuEntriesEnabled(false);
     for (QWidget *idle : std::initializer_list<QWidget *>{ScanButton, BackTestButton, StopTestButton})
         idle->hide();
@@ -76,6 +85,8 @@ void MainWindow::OnFinishScanDisk()
 {
     setMenuEntriesEnabled(true);
     enableNavigation();
+    // There is nothing left to be stopped.
+    m_pConfirmation->hide();
     StopButton->hide();
     ScanButton->setEnabled(true);
     DriveCombobox->setEnabled(true);
@@ -110,6 +121,8 @@ void MainWindow::setMenuEntriesEnabled(bool enabled)
 /// The user leaves the results of a job.
 void MainWindow::dropScanResults()
 {
+    // A No to the question that is still open would let the scan go on where nobody can stop it.
+    m_pConfirmation->hide();
     if (m_pScanDiskPage->IsScanning()) {
         StopButton->hide();
         ScanButton->setEnabled(false);
@@ -121,9 +134,10 @@ void MainWindow::dropScanResults()
 
 bool MainWindow::eventFilter(QObject *watched, QEvent *event)
 {
-    // A job locks the navigation. A press on it asks all the same, so that nobody takes it for dead.
-    const bool asks = event->type() == QEvent::MouseButtonPress && leavingAsks();
-    auto *pressed = asks ? qobject_cast<MyButton *>(watched) : nullptr;
+    // A job locks the navigation. A press on it asks all the same, so that nobody takes it for dead, and one
+    // who has left the job, which locks on, gets about.
+    const bool press = event->type() == QEvent::MouseButtonPress && isEnabled();
+    auto *pressed = press ? qobject_cast<MyButton *>(watched) : nullptr;
     if (!pressed || pressed->isEnabled())
         return QMainWindow::eventFilter(watched, event);
     emit pressed->OnPressPixmap();

@@ -230,6 +230,7 @@ void MainWindow::endSelfTest(bool passed)
     g_bTestPending = false;
     g_bSelfTestRunning = false;
     enableNavigation();
+    m_pConfirmation->hide();
     panel->SetProgress(100);
     panel->SetRemainingMinutes(0);
     showTestButtons(false);
