@@ -81,8 +81,11 @@ public:
     /// Each element of `line` is one character as the process creation would get it. False if the interpreter
     /// could not be started; the command's own exit code is not told.
     virtual bool CreateProcessAndWait(const std::wstring &line, bool hidden) = 0;
+    /// How the window of what is opened shows. Only Windows tells it to programs.
+    enum class Show { Normal, Maximised };
     /// Opens a file, program, page or mail address with what the desktop has for it. Returns at once.
-    virtual bool ShellExecuteW(const QString &file, const QString &parameters, const QString &verb) = 0;
+    virtual bool ShellExecuteW(const QString &file, const QString &parameters, const QString &verb,
+                               Show show = Show::Normal) = 0;
     /// Opens a page or document. Main thread only.
     virtual bool OpenUrl(const QUrl &url) = 0;
     /// @}

@@ -5,6 +5,7 @@
 #include "smart/SMARTThread.h"
 #include "ui/FramelessDrag.h"
 #include "ui/QRefThreadDevicesLoad.h"
+#include "update/HelpLinks.h"
 
 #include "ui_MainWindow.h"
 
@@ -82,6 +83,7 @@ public slots:
     void OnStopConfirm();
     void OnCheckUpdate();
     void OnCloningFinish();
+    void OnShowAbout();
     void OnRefresh();
     void SavePDFReport();
     void OnFinishScanDisk();
@@ -117,6 +119,7 @@ public slots:
     void OnChangeBrazilLanguage();
     void OnChangeHindiLanguage();
     /// @}
+    void OnOpenHelp();
     void OnMinimized();
     void OnClose();
     void Onyes();
@@ -189,7 +192,6 @@ private:
     void buildToolButtons();
     void connectAll();
     void connectNavigation();
-    void greyOutIdle();
     void startTemperatureTimer();
     void checkAtStart();
     void applyLanguageWidths();
@@ -212,6 +214,7 @@ private:
     void askForSwitch();
     bool leavingAsks() const;
     void setSwitchTarget(Screen screen);
+    links::Topic helpTopic() const;
     /// @}
 
     /// \name Reading a disk

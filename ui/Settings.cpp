@@ -8,6 +8,7 @@
 #include "ui/QCheckUpdate.h"
 #include "ui/Style.h"
 #include "ui/UpdateMessage.h"
+#include "update/HelpLinks.h"
 
 #include <QAction>
 #include <QCoreApplication>
@@ -119,7 +120,6 @@ void Settings::styleFields()
                                        .arg(style::px(14))
                                        .arg(picture(QStringLiteral("img_CheckOn.png"))));
     m_pUpdateButton->setHidden(g_App.m_bHideUpdateButton);
-    m_pHelpButton->hide();
     m_pLanguageButton->setVisible(g_App.m_bShowLanguageMenu);
 }
 
@@ -133,6 +133,7 @@ void Settings::connectFields()
     connect(degreeComboBox, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
             &Settings::ChangeWarningTemperature);
     connect(m_pUpdateButton, &QPushButton::clicked, this, &Settings::OnCheckUpdate);
+    connect(m_pHelpButton, &QPushButton::clicked, this, &Settings::OnOpenSettingsHelp);
     constexpr std::array<void (Settings::*)(), LanguageCount> changes = {
         &Settings::OnChangeEnglishLanguage,  &Settings::OnChangeGermanLanguage,
         &Settings::OnChangeFrenchLanguage,   &Settings::OnChangeItalianLanguage,
@@ -381,6 +382,11 @@ void Settings::ChangeWarningTemperature()
         QStringLiteral(" °") + settings::unitText(static_cast<settings::TemperatureUnit>(unit));
     WarningSpinBox->setSuffix(suffix);
     ShutDownSpinBox->setSuffix(suffix);
+}
+
+void Settings::OnOpenSettingsHelp()
+{
+    links::openHelp(links::Topic::Settings);
 }
 
 void Settings::OnCheckUpdate()

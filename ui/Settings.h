@@ -47,6 +47,8 @@ public slots:
     /// Adapts the two thresholds and their lowest values to the unit chosen.
     void ChangeWarningTemperature();
     void OnCheckUpdate();
+    /// Opens the help on the settings.
+    void OnOpenSettingsHelp();
     void CheckUpdate();
     void OnNoUpdateAvailable();
     /// \name One door for each language, in the order of LanguageType

@@ -54,6 +54,7 @@ HALVANE_SETTING(SCopyrightText);
 HALVANE_SETTING(rxVersion);
 HALVANE_SETTING(AverageUpdateSize);
 HALVANE_SETTING(CopyrightText);
+HALVANE_SETTING(HelpEndpoint);
 #undef HALVANE_SETTING
 
 /// Keys that exist once per language, behind the language's prefix and a slash.

@@ -34,7 +34,8 @@ public:
     bool GetDiskFreeSpaceExW(const QString &root, quint64 *totalBytes, quint64 *freeBytes) override;
 
     bool CreateProcessAndWait(const std::wstring &line, bool hidden) override;
-    bool ShellExecuteW(const QString &file, const QString &parameters, const QString &verb) override;
+    bool ShellExecuteW(const QString &file, const QString &parameters, const QString &verb,
+                       Show show) override;
     bool OpenUrl(const QUrl &url) override;
 
     QString GetTempPathW() override;

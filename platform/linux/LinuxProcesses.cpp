@@ -151,7 +151,7 @@ QString LinuxPlatform::findProgram(const QString &file)
     return {};
 }
 
-bool LinuxPlatform::ShellExecuteW(const QString &file, const QString &parameters, const QString &)
+bool LinuxPlatform::ShellExecuteW(const QString &file, const QString &parameters, const QString &, Show)
 {
     const QUrl url(file);
     const bool isAddress = url.scheme().size() > 1;

@@ -210,7 +210,8 @@ bool SimulatedPlatform::CreateProcessAndWait(const std::wstring &line, bool)
     return m_interpreter.run(line, [this](const QString &path) { return NativePath(path); });
 }
 
-bool SimulatedPlatform::ShellExecuteW(const QString &file, const QString &parameters, const QString &verb)
+bool SimulatedPlatform::ShellExecuteW(const QString &file, const QString &parameters, const QString &verb,
+                                      Show)
 {
     record(QStringLiteral("opened.log"),
            QStringList{verb, file, parameters}.join(QLatin1Char('\t')).toUtf8());

@@ -148,12 +148,13 @@ bool WindowsPlatform::CreateProcessAndWait(const std::wstring &line, bool hidden
     return true;
 }
 
-bool WindowsPlatform::ShellExecuteW(const QString &file, const QString &parameters, const QString &verb)
+bool WindowsPlatform::ShellExecuteW(const QString &file, const QString &parameters, const QString &verb,
+                                    Show show)
 {
     constexpr INT_PTR LastError = 32;
-    const HINSTANCE result =
-        ::ShellExecuteW(nullptr, verb.isEmpty() ? nullptr : wide(verb), wide(file),
-                        parameters.isEmpty() ? nullptr : wide(parameters), nullptr, SW_SHOWNORMAL);
+    const HINSTANCE result = ::ShellExecuteW(nullptr, verb.isEmpty() ? nullptr : wide(verb), wide(file),
+                                             parameters.isEmpty() ? nullptr : wide(parameters), nullptr,
+                                             show == Show::Maximised ? SW_SHOWMAXIMIZED : SW_SHOWNORMAL);
     return reinterpret_cast<INT_PTR>(result) > LastError;
 }
 

@@ -2,6 +2,32 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en_US">
 <context>
+    <name>AboutDialog</name>
+    <message>
+        <source>About Velmora Halvane</source>
+        <translation>关于 Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>License Agreement</source>
+        <translation>许可协议</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+</context>
+<context>
+    <name>AboutDlg</name>
+    <message>
+        <source>Version </source>
+        <translation>版本 </translation>
+    </message>
+</context>
+<context>
     <name>AttributeCatalogue</name>
     <message>
         <source>Raw Read Error Rate</source>

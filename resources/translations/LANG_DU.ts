@@ -2,6 +2,32 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="nl_NL" sourcelanguage="en_US">
 <context>
+    <name>AboutDialog</name>
+    <message>
+        <source>About Velmora Halvane</source>
+        <translation>Over Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>License Agreement</source>
+        <translation>Licentieovereenkomst</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>AboutDlg</name>
+    <message>
+        <source>Version </source>
+        <translation>Versie </translation>
+    </message>
+</context>
+<context>
     <name>AttributeCatalogue</name>
     <message>
         <source>Raw Read Error Rate</source>

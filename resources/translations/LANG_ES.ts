@@ -2,6 +2,32 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es_ES" sourcelanguage="en_US">
 <context>
+    <name>AboutDialog</name>
+    <message>
+        <source>About Velmora Halvane</source>
+        <translation>Acerca de Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>License Agreement</source>
+        <translation>Contrato de licencia</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>AboutDlg</name>
+    <message>
+        <source>Version </source>
+        <translation>Versión </translation>
+    </message>
+</context>
+<context>
     <name>AttributeCatalogue</name>
     <message>
         <source>Raw Read Error Rate</source>

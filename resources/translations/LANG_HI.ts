@@ -2,6 +2,32 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="hi_IN" sourcelanguage="en_US">
 <context>
+    <name>AboutDialog</name>
+    <message>
+        <source>About Velmora Halvane</source>
+        <translation>Velmora Halvane के बारे में</translation>
+    </message>
+    <message>
+        <source>Velmora Halvane</source>
+        <translation>Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>License Agreement</source>
+        <translation>लाइसेंस अनुबंध</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>ठीक</translation>
+    </message>
+</context>
+<context>
+    <name>AboutDlg</name>
+    <message>
+        <source>Version </source>
+        <translation>संस्करण </translation>
+    </message>
+</context>
+<context>
     <name>AttributeCatalogue</name>
     <message>
         <source>Raw Read Error Rate</source>

@@ -148,10 +148,11 @@ void TestSimulatedPlatform::companion()
     const auto pc = folder.open(R"({"processes": ["one.exe"], "installed": ["VelmoraSMART.exe"]})");
     const QString running = QStringLiteral("\\tasklist.exe | \\findstr.exe VelmoraSMART.exe");
     QCOMPARE(outputOf(*pc, running), QByteArray());
-    QVERIFY(!pc->ShellExecuteW(QStringLiteral("Other.exe"), QString(), QString()));
-    QVERIFY(
-        pc->ShellExecuteW(QStringLiteral("C:\\x/VelmoraSMART.exe"), QStringLiteral("Schedular"), QString()));
-    QVERIFY(pc->ShellExecuteW(QStringLiteral("VelmoraSMART.exe"), QString(), QString()));
+    constexpr auto shown = Platform::Show::Normal;
+    QVERIFY(!pc->ShellExecuteW(QStringLiteral("Other.exe"), QString(), QString(), shown));
+    QVERIFY(pc->ShellExecuteW(QStringLiteral("C:\\x/VelmoraSMART.exe"), QStringLiteral("Schedular"),
+                              QString(), shown));
+    QVERIFY(pc->ShellExecuteW(QStringLiteral("VelmoraSMART.exe"), QString(), QString(), shown));
     QCOMPARE(outputOf(*pc, running).count("VelmoraSMART.exe"), 1);
     QVERIFY(pc->OpenUrl(QUrl(QStringLiteral("http://velmora.example/a b"))));
     outputOf(*pc, QStringLiteral("\\TASKKILL.exe /F /IM velmorasmart.exe"));

@@ -207,9 +207,11 @@ public:
         }
         return !onCommand || onCommand(text);
     }
-    bool ShellExecuteW(const QString &file, const QString &parameters, const QString &verb) override
+    bool ShellExecuteW(const QString &file, const QString &parameters, const QString &verb,
+                       Show window) override
     {
-        executed << verb + QLatin1Char(' ') + file + QLatin1Char(' ') + parameters;
+        executed << verb + QLatin1Char(' ') + file + QLatin1Char(' ') + parameters +
+                        (window == Show::Maximised ? QStringLiteral(" maximised") : QString());
         return true;
     }
     bool OpenUrl(const QUrl &url) override

@@ -88,9 +88,10 @@ public:
     {
         return m_inner->GetDiskFreeSpaceExW(root, total, unused);
     }
-    bool ShellExecuteW(const QString &file, const QString &parameters, const QString &verb) override
+    bool ShellExecuteW(const QString &file, const QString &parameters, const QString &verb,
+                       Show window) override
     {
-        return m_inner->ShellExecuteW(file, parameters, verb);
+        return m_inner->ShellExecuteW(file, parameters, verb, window);
     }
     bool OpenUrl(const QUrl &url) override { return m_inner->OpenUrl(url); }
     QString GetTempPathW() override { return m_inner->GetTempPathW(); }

@@ -11,6 +11,7 @@ const std::vector<Chapter> &chapters()
         {QStringLiteral("clone"), cloneSteps, true},
         {QStringLiteral("settings"), settingsSteps, true},
         {QStringLiteral("update"), updateSteps, true},
+        {QStringLiteral("about"), aboutSteps, true},
         {QStringLiteral("languages"), languageSteps, true},
         {QStringLiteral("close"), closeSteps},
     };

@@ -41,6 +41,10 @@ StepList languageSteps(Walk &walk)
             step.name += QStringLiteral(" in ") + language;
             steps.push_back(step);
         }
+        for (Step step : aboutSteps(walk)) {
+            step.name += QStringLiteral(" in ") + language;
+            steps.push_back(step);
+        }
     }
     return steps;
 }

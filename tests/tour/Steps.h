@@ -35,6 +35,7 @@ StepList selfTestSteps(Walk &walk);
 StepList cloneSteps(Walk &walk);
 StepList updateSteps(Walk &walk);
 StepList languageSteps(Walk &walk);
+StepList aboutSteps(Walk &walk);
 StepList closeSteps(Walk &walk);
 /// @}
 

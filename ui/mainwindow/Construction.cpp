@@ -97,7 +97,6 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent), m_drag(this, Titl
     retranslateShell();
     FillDriveCombos();
     connectAll();
-    greyOutIdle();
     selectButton(startsOnClonePage() ? navigation::CloneDiskScreen : navigation::DiskStatusScreen);
     showScreen(startsOnClonePage() ? navigation::CloneDiskScreen : navigation::DiskStatusScreen);
 
@@ -403,6 +402,8 @@ void MainWindow::connectAll()
     connect(ScreenshotButton, &QPushButton::clicked, this, &MainWindow::TakeScreenshot);
     connect(m_pMenuButton, &QPushButton::clicked, this, &MainWindow::OnHideButtons);
     connect(m_pSettingsAction, &QAction::triggered, this, &MainWindow::OnShowSettings);
+    connect(m_pAboutAction, &QAction::triggered, this, &MainWindow::OnShowAbout);
+    connect(m_pHelpButton, &QPushButton::clicked, this, &MainWindow::OnOpenHelp);
     connect(m_pRecoverAction, &QAction::triggered, this, &MainWindow::LaunchDataRecovery);
     connect(m_pVideoAction, &QAction::triggered, this, &MainWindow::LaunchVideoRepair);
     connect(m_pPhotoAction, &QAction::triggered, this, &MainWindow::LaunchPhotoRepair);
@@ -431,13 +432,6 @@ void MainWindow::connectAll()
             &MainWindow::OnSourceIndexChange);
     connect(m_pCloneDiskPage->DestinationComboBox, QOverload<int>::of(&QComboBox::activated), this,
             &MainWindow::OnTargetChangeIndex);
-}
-
-void MainWindow::greyOutIdle()
-{
-    // Nothing stands behind these, so they do not look as if.
-    m_pHelpButton->setEnabled(false);
-    m_pAboutAction->setEnabled(false);
 }
 
 void MainWindow::startTemperatureTimer()

@@ -1,0 +1,97 @@
+#include "update/HelpLinks.h"
+
+#include "app/state/GlobalApp.h"
+#include "app/state/Languages.h"
+#include "app/state/SettingsStore.h"
+#include "platform/Platform.h"
+
+#include <QUrl>
+
+namespace links
+{
+
+namespace
+{
+
+const QString DefaultEndpoint = QStringLiteral("https://velmora.example/");
+
+/// What the help calls the languages, by LanguageType; Chinese has no help.
+constexpr std::array<const char *, LanguageCount> HelpCodes{"en", "de", "fr", "it", "es", "jp",
+                                                            "",   "ko", "nl", "pt", "hi"};
+
+/// The pages by topic.
+constexpr std::array<const char *, 7> Pages{"about-velmora-halvane",
+                                            "about-smart-status",
+                                            "about-disk-partition",
+                                            "performing-scan-disk",
+                                            "performing-clone-disk",
+                                            "getting-familiar-with-settings",
+                                            "getting-familiar-with-user-interface"};
+
+QString ofLanguage(const char *name)
+{
+    return SettingsStore().text(
+        key::ofLanguage(QLatin1String(languages::current().folder), QLatin1String(name)));
+}
+
+QString endpoint()
+{
+    const QString own = SettingsStore().text(key::HelpEndpoint);
+    return own.isEmpty() ? DefaultEndpoint : own;
+}
+
+} // namespace
+
+QString helpPage(Topic topic)
+{
+    if (!g_App.m_bStandalone) {
+        if (g_App.m_bJapanese)
+            return ofLanguage("HelpLink_JA");
+        if (g_App.m_bKorean)
+            return ofLanguage("HelpLink_KO");
+    }
+    const QLatin1String code(HelpCodes[static_cast<size_t>(languages::current().type)]);
+    if (code.isEmpty())
+        return {};
+    const Topic shown = g_App.m_bStandalone ? Topic::DiskStatus : topic;
+    return endpoint() + QStringLiteral("help/velmora-halvane-11-windows-standard-%1-%2.html")
+                            .arg(code, QLatin1String(Pages[static_cast<size_t>(shown)]));
+}
+
+QString helpFile()
+{
+    return g_App.m_strAppFolderCopy +
+           QStringLiteral("/qrx_%1.chm").arg(QLatin1String(languages::current().folder));
+}
+
+QString supportAddress()
+{
+    return ofLanguage("SupportLink");
+}
+
+QString supportName()
+{
+    return ofLanguage("SupportName");
+}
+
+QString agreement()
+{
+    if (g_App.m_bJapanese)
+        return ofLanguage("EulaLink_JA");
+    return g_App.m_strAppFolderCopy +
+           QStringLiteral("/VelmoraHalvane_License_%1.pdf").arg(QLatin1String(languages::current().folder));
+}
+
+void openHelp(Topic topic)
+{
+    if (!g_App.m_bHelpOnline) {
+        Platform::current().ShellExecuteW(helpFile(), QString(), QStringLiteral("open"),
+                                          Platform::Show::Maximised);
+        return;
+    }
+    const QString page = helpPage(topic);
+    if (!page.isEmpty())
+        Platform::current().OpenUrl(QUrl(page));
+}
+
+} // namespace links
