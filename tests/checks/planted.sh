@@ -9,10 +9,20 @@ tree=$(mktemp -d)
 trap 'rm -rf "$tree"' EXIT
 failures=0
 
+# translation <name> [what becomes which other text]: the translations of the small tree, with one fault at most.
+translation() {
+    local text
+    text='<TS version="2.1"><context><name>MainWindow</name><message><source>ID#</source>'
+    text+='<translation>ID#</translation></message></context><context><name>Page</name><message>'
+    text+='<source> %1 of %n</source><translation> %n: %1</translation></message></context></TS>'
+    printf '%s\n' "${text/"${2-}"/"${3-}"}" >"$tree/resources/translations/$1.ts"
+}
+
 # A tree in which nothing is wrong.
 sound() {
     rm -rf "${tree:?}"/*
-    mkdir -p "$tree"/{platform,app/state,smart,ui/forms,demo,tests/checks,tests/data}
+    mkdir -p "$tree"/{platform,app/state,inventory,smart,scan,clone,update,reports,ui/forms,demo,resources/translations}
+    mkdir -p "$tree"/tests/{checks,data}
     cp "$root/.clang-format" "$tree"
     cp "$checks/long-files.txt" "$tree/tests/checks"
     sed -i '/^[^#]/d' "$tree/tests/checks/long-files.txt"
@@ -21,6 +31,12 @@ sound() {
     printf '#include "app/state/State.h"\n\n#include <QString>\n' >"$tree/smart/Rating.cpp"
     printf '#include "smart/Rating.h"\n#include "ui_Page.h"\n\n#include <QWidget>\n' >"$tree/ui/Page.h"
     printf '<ui version="4.0"><class>Page</class></ui>\n' >"$tree/ui/forms/Page.ui"
+    printf 'auto a = QCoreApplication::translate("MainWindow", "ID#");\n' >"$tree/smart/ReportParser.cpp"
+    printf 'auto b = QCoreApplication::translate("Page", " %%1 of %%n");\n' >"$tree/ui/Page.cpp"
+    cp "$root/resources/translations/update" "$tree/resources/translations"
+    for path in "$root"/resources/translations/LANG_*.ts; do
+        translation "$(basename "$path" .ts)"
+    done
     printf '{ "disks": [ 1.5, true, null ] }\n' >"$tree/demo/pc.json"
     printf '{ broken\n' >"$tree/tests/data/broken.json"
     printf 'the A''TA s''pec\n' >"$tree/tests/data/report.txt"
@@ -69,4 +85,27 @@ finds well-formed 'demo/empty.json' demo/empty.json ''
 finds lengths 'smart/Long.cpp: 501' smart/Long.cpp "$long\n"
 finds lengths 'no reason' tests/checks/long-files.txt 'smart/Rating.cpp\n'
 finds lengths 'is not above' tests/checks/long-files.txt 'smart/Rating.cpp a table\n'
+
+# mistranslates <what the complaint has to name> <what becomes> <which other text>
+mistranslates() {
+    sound
+    translation LANG_DE "$2" "$3"
+    finds translations "$1" resources/translations/LANG_DE.ts "$(cat "$tree/resources/translations/LANG_DE.ts")\n"
+}
+sound
+status=0
+"$checks/translations.sh" "$tree" >/dev/null 2>&1 || status=$?
+if [ "$status" -ne 77 ]; then
+    mistranslates 'unfinished' '<translation> ' '<translation type="unfinished"> '
+    mistranslates 'vanished' '<translation> ' '<translation type="vanished"> '
+    mistranslates 'empty' ' %n: %1<' '<'
+    mistranslates 'placeholders' ' %n: %1<' ' %1: %1<'
+    mistranslates 'placeholders' ' %n: %1<' ' %n<'
+    mistranslates 'blanks' ' %n: %1<' '%n: %1<'
+    mistranslates 'blanks' ' %n: %1<' ' %n: %1\n<'
+    mistranslates 'stays English' 'n>ID#<' 'n>Nr.<'
+    mistranslates "'Old': not in the code" '<message>' '<message><source>Old</source><translation>Alt</translation></message><message>'
+    finds translations "'New': missing" ui/New.cpp 'auto c = QCoreApplication::translate("Page", "New");\n'
+    finds translations 'no word of the reports' smart/ReportParser.cpp ''
+fi
 [ "$failures" -eq 0 ]
