@@ -31,7 +31,7 @@
     <name>AttributeCatalogue</name>
     <message>
         <source>Raw Read Error Rate</source>
-        <translation>Lesefehlerrate (roh)</translation>
+        <translation>Lesefehlerrate</translation>
     </message>
     <message>
         <source>Spin Up Time</source>
@@ -47,7 +47,7 @@
     </message>
     <message>
         <source>Seek Error Rate</source>
-        <translation>Suchfehlerrate</translation>
+        <translation>Positionierfehlerrate</translation>
     </message>
     <message>
         <source>Power On Hours</source>
@@ -87,7 +87,7 @@
     </message>
     <message>
         <source>Offline Uncorrectable</source>
-        <translation>Offline unkorrigierbar</translation>
+        <translation>Offline nicht korrigierbar</translation>
     </message>
     <message>
         <source>UDMA CRC Error Count</source>
@@ -127,7 +127,7 @@
     </message>
     <message>
         <source>Seek Time Performance</source>
-        <translation>Suchzeitleistung</translation>
+        <translation>Positionierleistung</translation>
     </message>
     <message>
         <source>Soft Read Error Rate</source>
@@ -143,7 +143,7 @@
     </message>
     <message>
         <source>Reported Uncorrect</source>
-        <translation>Gemeldet unkorrigierbar</translation>
+        <translation>Nicht korrigierte Fehler</translation>
     </message>
     <message>
         <source>Command Timeout</source>
@@ -276,7 +276,7 @@
     </message>
     <message>
         <source>Disk Number 	: </source>
-        <translation>Laufwerksnr. 	: </translation>
+        <translation>Laufwerksnummer 	: </translation>
     </message>
     <message>
         <source>Model Number	: </source>
@@ -284,7 +284,7 @@
     </message>
     <message>
         <source>Serial: </source>
-        <translation>Seriennr.: </translation>
+        <translation>Seriennummer: </translation>
     </message>
     <message>
         <source>Firmware Revision : </source>
@@ -651,7 +651,7 @@
     </message>
     <message>
         <source>Brazil</source>
-        <translation>Brasilien</translation>
+        <translation>Portugiesisch (Brasilien)</translation>
     </message>
     <message>
         <source>Hindi</source>
@@ -771,7 +771,7 @@
     </message>
     <message>
         <source>NA</source>
-        <translation>NA</translation>
+        <translation>k. A.</translation>
     </message>
     <message>
         <source>Disk Information:</source>
@@ -955,7 +955,7 @@
     </message>
     <message>
         <source>Please halt the clone process to exit.</source>
-        <translation>Bitte halten Sie zum Beenden zuerst den Klonvorgang an.</translation>
+        <translation>Bitte stoppen Sie vor dem Beenden den Klonvorgang.</translation>
     </message>
     <message>
         <source>Scan Disk</source>
@@ -971,7 +971,7 @@
     </message>
     <message>
         <source>Please halt the scan process to exit.</source>
-        <translation>Bitte halten Sie zum Beenden zuerst den Scan an.</translation>
+        <translation>Bitte stoppen Sie vor dem Beenden den Scan.</translation>
     </message>
     <message>
         <source>Start</source>
@@ -991,7 +991,7 @@
     </message>
     <message>
         <source>Save Report</source>
-        <translation>Bericht sichern</translation>
+        <translation>Bericht speichern</translation>
     </message>
     <message>
         <source>Screenshot</source>
@@ -1115,7 +1115,7 @@
     </message>
     <message>
         <source>Graph : </source>
-        <translation>Diagramm : </translation>
+        <translation>Diagramm: </translation>
     </message>
     <message>
         <source>Running, no problems found</source>
@@ -1220,7 +1220,7 @@ Das Update ist fehlgeschlagen, weil der Download unvollständig war.</translatio
     </message>
     <message>
         <source>Current Block Size : </source>
-        <translation>Größe des Blocks : </translation>
+        <translation>Größe des Blocks: </translation>
     </message>
     <message>
         <source> MB</source>
@@ -1547,7 +1547,7 @@ Das Update ist fehlgeschlagen, weil der Download unvollständig war.</translatio
     </message>
     <message>
         <source>Worst</source>
-        <translation>Tiefstwert</translation>
+        <translation>Min.</translation>
     </message>
     <message>
         <source>Threshold</source>
@@ -1583,7 +1583,7 @@ Das Update ist fehlgeschlagen, weil der Download unvollständig war.</translatio
     </message>
     <message>
         <source>SMART Status : </source>
-        <translation>SMART-Status : </translation>
+        <translation>SMART-Status: </translation>
     </message>
     <message>
         <source>Serial Number</source>
@@ -1599,7 +1599,7 @@ Das Update ist fehlgeschlagen, weil der Download unvollständig war.</translatio
     </message>
     <message>
         <source>Save Report</source>
-        <translation>Bericht sichern</translation>
+        <translation>Bericht speichern</translation>
     </message>
     <message>
         <source>Smart Status</source>
@@ -1755,7 +1755,7 @@ Das Update ist fehlgeschlagen, weil der Download unvollständig war.</translatio
     </message>
     <message>
         <source>Save Report</source>
-        <translation>Bericht sichern</translation>
+        <translation>Bericht speichern</translation>
     </message>
     <message>
         <source>Screenshot</source>
