@@ -35,7 +35,7 @@
     </message>
     <message>
         <source>Spin Up Time</source>
-        <translation>Temps de lancement</translation>
+        <translation>Temps de démarrage</translation>
     </message>
     <message>
         <source>Start Stop Count</source>
@@ -55,7 +55,7 @@
     </message>
     <message>
         <source>Spin Retry Count</source>
-        <translation>Reprises de lancement</translation>
+        <translation>Reprises de démarrage</translation>
     </message>
     <message>
         <source>Calibration Retry Count</source>
@@ -75,7 +75,7 @@
     </message>
     <message>
         <source>Temperature Celsius</source>
-        <translation>Température Celsius</translation>
+        <translation>Température (Celsius)</translation>
     </message>
     <message>
         <source>Reallocated Event Count</source>
@@ -83,11 +83,11 @@
     </message>
     <message>
         <source>Current Pending Sector Count</source>
-        <translation>Secteurs instables</translation>
+        <translation>Secteurs en attente</translation>
     </message>
     <message>
         <source>Offline Uncorrectable</source>
-        <translation>Secteurs incorrigibles</translation>
+        <translation>Secteurs non corrigibles</translation>
     </message>
     <message>
         <source>UDMA CRC Error Count</source>
@@ -119,7 +119,7 @@
     </message>
     <message>
         <source>Throughput Performance</source>
-        <translation>Débit global</translation>
+        <translation>Performance du débit</translation>
     </message>
     <message>
         <source>Read Channel Margin</source>
@@ -131,7 +131,7 @@
     </message>
     <message>
         <source>Soft Read Error Rate</source>
-        <translation>Taux d&apos;erreurs logicielles</translation>
+        <translation>Taux d&apos;erreurs légères</translation>
     </message>
     <message>
         <source>Runtime Bad Block</source>
@@ -143,7 +143,7 @@
     </message>
     <message>
         <source>Reported Uncorrect</source>
-        <translation>Erreurs signalées</translation>
+        <translation>Erreurs non corrigées</translation>
     </message>
     <message>
         <source>Command Timeout</source>
@@ -151,7 +151,7 @@
     </message>
     <message>
         <source>High Fly Writes</source>
-        <translation>Écritures à haute altitude</translation>
+        <translation>Écritures tête trop haute</translation>
     </message>
     <message>
         <source>Airflow Temperature Cel</source>
@@ -207,7 +207,7 @@
     </message>
     <message>
         <source>Percentage Used</source>
-        <translation>Pourcentage utilisé</translation>
+        <translation>Usure (pourcentage)</translation>
     </message>
     <message>
         <source>Data Units Read</source>
@@ -284,7 +284,7 @@
     </message>
     <message>
         <source>Serial: </source>
-        <translation>Série : </translation>
+        <translation>Numéro de série : </translation>
     </message>
     <message>
         <source>Firmware Revision : </source>
@@ -555,7 +555,7 @@
     </message>
     <message>
         <source>Power-on Time</source>
-        <translation>Temps d&apos;activité</translation>
+        <translation>Temps de fonctionnement</translation>
     </message>
     <message>
         <source>Start/Stop Count</source>
@@ -563,7 +563,7 @@
     </message>
     <message>
         <source>Not Supported</source>
-        <translation>Non pris en charge</translation>
+        <translation>Non géré</translation>
     </message>
 </context>
 <context>
@@ -651,7 +651,7 @@
     </message>
     <message>
         <source>Brazil</source>
-        <translation>Brésil</translation>
+        <translation>Portugais (Brésil)</translation>
     </message>
     <message>
         <source>Hindi</source>
@@ -763,11 +763,11 @@
     </message>
     <message>
         <source>Not Supported</source>
-        <translation>Non pris en charge</translation>
+        <translation>Non géré</translation>
     </message>
     <message>
         <source>Supported</source>
-        <translation>Pris en charge</translation>
+        <translation>Géré</translation>
     </message>
     <message>
         <source>NA</source>
@@ -899,7 +899,7 @@
     </message>
     <message>
         <source>Raw Value</source>
-        <translation>Brute</translation>
+        <translation>Val. brute</translation>
     </message>
     <message>
         <source>Velmora Halvane</source>
@@ -991,7 +991,7 @@
     </message>
     <message>
         <source>Save Report</source>
-        <translation>Enregistrer rapport</translation>
+        <translation>Enregistrer le rapport</translation>
     </message>
     <message>
         <source>Screenshot</source>
@@ -1107,7 +1107,7 @@
     </message>
     <message>
         <source>Power-on Time</source>
-        <translation>Temps d&apos;activité</translation>
+        <translation>Temps de fonctionnement</translation>
     </message>
     <message>
         <source>Start/Stop Count</source>
@@ -1177,11 +1177,11 @@
     </message>
     <message>
         <source> MB copied) </source>
-        <translation> Mo copiés) </translation>
+        <translation> MB copiés) </translation>
     </message>
     <message>
         <source> MB of  </source>
-        <translation> Mo sur  </translation>
+        <translation> MB sur  </translation>
     </message>
     <message>
         <source>Transfer Rate: </source>
@@ -1189,7 +1189,7 @@
     </message>
     <message>
         <source> KB/sec </source>
-        <translation> Ko/s </translation>
+        <translation> KB/s </translation>
     </message>
     <message>
         <source>Software Update</source>
@@ -1224,7 +1224,7 @@ La mise à jour a échoué : le téléchargement est incomplet.</translation>
     </message>
     <message>
         <source> MB</source>
-        <translation> Mo</translation>
+        <translation> MB</translation>
     </message>
 </context>
 <context>
@@ -1319,7 +1319,7 @@ La mise à jour a échoué : le téléchargement est incomplet.</translation>
     </message>
     <message>
         <source>Perform a surface scan on the selected disk to identify if the disk has bad sectors.</source>
-        <translation>Effectue une analyse de la surface du disque sélectionné pour savoir s&apos;il contient des secteurs défectueux.</translation>
+        <translation>Analyse la surface du disque sélectionné pour savoir s&apos;il contient des secteurs défectueux.</translation>
     </message>
     <message>
         <source>Run this test to check the electrical and mechanical performance of a device along with the read/write operations on a portion of the disk. This test may take few minutes to complete.</source>
@@ -1339,7 +1339,7 @@ La mise à jour a échoué : le téléchargement est incomplet.</translation>
     </message>
     <message>
         <source> MB</source>
-        <translation> Mo</translation>
+        <translation> MB</translation>
     </message>
     <message>
         <source>Disk Scan</source>
@@ -1409,11 +1409,11 @@ La mise à jour a échoué : le téléchargement est incomplet.</translation>
     </message>
     <message>
         <source>Self-test not supported.</source>
-        <translation>Autotest non pris en charge.</translation>
+        <translation>Autotest non géré.</translation>
     </message>
     <message>
         <source>Selected disk doesn&apos;t support self test.</source>
-        <translation>Le disque sélectionné ne prend pas en charge l&apos;autotest.</translation>
+        <translation>Le disque sélectionné ne gère pas l&apos;autotest.</translation>
     </message>
     <message>
         <source>Close</source>
@@ -1555,7 +1555,7 @@ La mise à jour a échoué : le téléchargement est incomplet.</translation>
     </message>
     <message>
         <source>Raw Value</source>
-        <translation>Brute</translation>
+        <translation>Val. brute</translation>
     </message>
     <message>
         <source>Updated</source>
@@ -1599,7 +1599,7 @@ La mise à jour a échoué : le téléchargement est incomplet.</translation>
     </message>
     <message>
         <source>Save Report</source>
-        <translation>Enregistrer rapport</translation>
+        <translation>Enregistrer le rapport</translation>
     </message>
     <message>
         <source>Smart Status</source>
@@ -1716,7 +1716,7 @@ La mise à jour a échoué : le téléchargement est incomplet.</translation>
     </message>
     <message>
         <source>Power-on Time</source>
-        <translation>Temps d&apos;activité</translation>
+        <translation>Temps de fonctionnement</translation>
     </message>
     <message>
         <source>Start/Stop Count</source>
@@ -1755,7 +1755,7 @@ La mise à jour a échoué : le téléchargement est incomplet.</translation>
     </message>
     <message>
         <source>Save Report</source>
-        <translation>Enregistrer rapport</translation>
+        <translation>Enregistrer le rapport</translation>
     </message>
     <message>
         <source>Screenshot</source>
@@ -1830,7 +1830,7 @@ La mise à jour a échoué : le téléchargement est incomplet.</translation>
     </message>
     <message>
         <source>Max log size (KB)</source>
-        <translation>Taille max. du journal (Ko)</translation>
+        <translation>Taille max. du journal (KB)</translation>
     </message>
     <message>
         <source>Temperature</source>
