@@ -31,11 +31,11 @@
     <name>AttributeCatalogue</name>
     <message>
         <source>Raw Read Error Rate</source>
-        <translation>Errori di lettura</translation>
+        <translation>Tasso errori di lettura</translation>
     </message>
     <message>
         <source>Spin Up Time</source>
-        <translation>Tempo di avvio rotazione</translation>
+        <translation>Tempo di avvio</translation>
     </message>
     <message>
         <source>Start Stop Count</source>
@@ -47,7 +47,7 @@
     </message>
     <message>
         <source>Seek Error Rate</source>
-        <translation>Errori di ricerca</translation>
+        <translation>Tasso errori di ricerca</translation>
     </message>
     <message>
         <source>Power On Hours</source>
@@ -55,7 +55,7 @@
     </message>
     <message>
         <source>Spin Retry Count</source>
-        <translation>Tentativi di rotazione</translation>
+        <translation>Tentativi di avvio</translation>
     </message>
     <message>
         <source>Calibration Retry Count</source>
@@ -75,7 +75,7 @@
     </message>
     <message>
         <source>Temperature Celsius</source>
-        <translation>Temperatura Celsius</translation>
+        <translation>Temperatura (Celsius)</translation>
     </message>
     <message>
         <source>Reallocated Event Count</source>
@@ -95,7 +95,7 @@
     </message>
     <message>
         <source>Multi Zone Error Rate</source>
-        <translation>Errori multizona</translation>
+        <translation>Tasso errori multizona</translation>
     </message>
     <message>
         <source>Available Reserved Space</source>
@@ -115,7 +115,7 @@
     </message>
     <message>
         <source>Unexpected power loss count</source>
-        <translation>Perdite di alimentazione</translation>
+        <translation>Interruzioni di corrente</translation>
     </message>
     <message>
         <source>Throughput Performance</source>
@@ -131,7 +131,7 @@
     </message>
     <message>
         <source>Soft Read Error Rate</source>
-        <translation>Errori di lettura soft</translation>
+        <translation>Tasso errori di lettura soft</translation>
     </message>
     <message>
         <source>Runtime Bad Block</source>
@@ -147,11 +147,11 @@
     </message>
     <message>
         <source>Command Timeout</source>
-        <translation>Comandi scaduti</translation>
+        <translation>Timeout dei comandi</translation>
     </message>
     <message>
         <source>High Fly Writes</source>
-        <translation>Scritture in quota</translation>
+        <translation>Scritture testina alta</translation>
     </message>
     <message>
         <source>Airflow Temperature Cel</source>
@@ -159,7 +159,7 @@
     </message>
     <message>
         <source>G-Sense Error Rate</source>
-        <translation>Errori da urto</translation>
+        <translation>Tasso errori da urto</translation>
     </message>
     <message>
         <source>Hardware ECC Recovered</source>
@@ -167,11 +167,11 @@
     </message>
     <message>
         <source>Multi Zone Error Rate </source>
-        <translation>Errori multizona </translation>
+        <translation>Tasso errori multizona </translation>
     </message>
     <message>
         <source>Write Error Rate</source>
-        <translation>Errori di scrittura</translation>
+        <translation>Tasso errori di scrittura</translation>
     </message>
     <message>
         <source>Head Flying Hours</source>
@@ -207,7 +207,7 @@
     </message>
     <message>
         <source>Percentage Used</source>
-        <translation>Percentuale usata</translation>
+        <translation>Percentuale di usura</translation>
     </message>
     <message>
         <source>Data Units Read</source>
@@ -276,7 +276,7 @@
     </message>
     <message>
         <source>Disk Number 	: </source>
-        <translation>Numero disco 	: </translation>
+        <translation>Numero del disco 	: </translation>
     </message>
     <message>
         <source>Model Number	: </source>
@@ -284,7 +284,7 @@
     </message>
     <message>
         <source>Serial: </source>
-        <translation>Serie: </translation>
+        <translation>Numero di serie: </translation>
     </message>
     <message>
         <source>Firmware Revision : </source>
@@ -300,7 +300,7 @@
     </message>
     <message>
         <source>Total Sector	   : </source>
-        <translation>Totale settori	   : </translation>
+        <translation>Settori totali	   : </translation>
     </message>
     <message>
         <source>Model Number : </source>
@@ -527,7 +527,7 @@
     </message>
     <message>
         <source>Disk Number</source>
-        <translation>Numero disco</translation>
+        <translation>Numero del disco</translation>
     </message>
     <message>
         <source>Model Number</source>
@@ -547,7 +547,7 @@
     </message>
     <message>
         <source>Total Sectors</source>
-        <translation>Totale settori</translation>
+        <translation>Settori totali</translation>
     </message>
     <message>
         <source>Hard Disk Life</source>
@@ -651,7 +651,7 @@
     </message>
     <message>
         <source>Brazil</source>
-        <translation>Brasile</translation>
+        <translation>Portoghese (Brasile)</translation>
     </message>
     <message>
         <source>Hindi</source>
@@ -899,7 +899,7 @@
     </message>
     <message>
         <source>Raw Value</source>
-        <translation>Grezzo</translation>
+        <translation>Val. grezzo</translation>
     </message>
     <message>
         <source>Velmora Halvane</source>
@@ -1220,7 +1220,7 @@ L&apos;aggiornamento non è riuscito perché il download è incompleto.</transla
     </message>
     <message>
         <source>Current Block Size : </source>
-        <translation>Dimensione del blocco : </translation>
+        <translation>Dimensione del blocco: </translation>
     </message>
     <message>
         <source> MB</source>
@@ -1291,7 +1291,7 @@ L&apos;aggiornamento non è riuscito perché il download è incompleto.</transla
     </message>
     <message>
         <source>Total Sectors</source>
-        <translation>Totale settori</translation>
+        <translation>Settori totali</translation>
     </message>
     <message>
         <source>Block Size</source>
@@ -1547,7 +1547,7 @@ L&apos;aggiornamento non è riuscito perché il download è incompleto.</transla
     </message>
     <message>
         <source>Worst</source>
-        <translation>Peggiore</translation>
+        <translation>Min.</translation>
     </message>
     <message>
         <source>Threshold</source>
@@ -1555,7 +1555,7 @@ L&apos;aggiornamento non è riuscito perché il download è incompleto.</transla
     </message>
     <message>
         <source>Raw Value</source>
-        <translation>Grezzo</translation>
+        <translation>Val. grezzo</translation>
     </message>
     <message>
         <source>Updated</source>
@@ -1583,7 +1583,7 @@ L&apos;aggiornamento non è riuscito perché il download è incompleto.</transla
     </message>
     <message>
         <source>SMART Status : </source>
-        <translation>Stato SMART : </translation>
+        <translation>Stato SMART: </translation>
     </message>
     <message>
         <source>Serial Number</source>
@@ -1688,7 +1688,7 @@ L&apos;aggiornamento non è riuscito perché il download è incompleto.</transla
     </message>
     <message>
         <source>Disk Number</source>
-        <translation>Numero disco</translation>
+        <translation>Numero del disco</translation>
     </message>
     <message>
         <source>Model Number</source>
@@ -1708,7 +1708,7 @@ L&apos;aggiornamento non è riuscito perché il download è incompleto.</transla
     </message>
     <message>
         <source>Total Sectors</source>
-        <translation>Totale settori</translation>
+        <translation>Settori totali</translation>
     </message>
     <message>
         <source>Hard Disk Life</source>
