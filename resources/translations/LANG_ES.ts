@@ -31,7 +31,7 @@
     <name>AttributeCatalogue</name>
     <message>
         <source>Raw Read Error Rate</source>
-        <translation>Errores de lectura</translation>
+        <translation>Tasa de error de lectura</translation>
     </message>
     <message>
         <source>Spin Up Time</source>
@@ -47,7 +47,7 @@
     </message>
     <message>
         <source>Seek Error Rate</source>
-        <translation>Errores de búsqueda</translation>
+        <translation>Tasa de error de búsqueda</translation>
     </message>
     <message>
         <source>Power On Hours</source>
@@ -75,7 +75,7 @@
     </message>
     <message>
         <source>Temperature Celsius</source>
-        <translation>Temperatura Celsius</translation>
+        <translation>Temperatura (Celsius)</translation>
     </message>
     <message>
         <source>Reallocated Event Count</source>
@@ -87,7 +87,7 @@
     </message>
     <message>
         <source>Offline Uncorrectable</source>
-        <translation>Incorregibles fuera de línea</translation>
+        <translation>Sectores incorregibles</translation>
     </message>
     <message>
         <source>UDMA CRC Error Count</source>
@@ -95,7 +95,7 @@
     </message>
     <message>
         <source>Multi Zone Error Rate</source>
-        <translation>Errores multizona</translation>
+        <translation>Tasa de error multizona</translation>
     </message>
     <message>
         <source>Available Reserved Space</source>
@@ -115,7 +115,7 @@
     </message>
     <message>
         <source>Unexpected power loss count</source>
-        <translation>Pérdidas de alimentación</translation>
+        <translation>Cortes de alimentación</translation>
     </message>
     <message>
         <source>Throughput Performance</source>
@@ -131,7 +131,7 @@
     </message>
     <message>
         <source>Soft Read Error Rate</source>
-        <translation>Errores de lectura leves</translation>
+        <translation>Tasa de error leve de lectura</translation>
     </message>
     <message>
         <source>Runtime Bad Block</source>
@@ -147,7 +147,7 @@
     </message>
     <message>
         <source>Command Timeout</source>
-        <translation>Comandos caducados</translation>
+        <translation>Comandos sin respuesta</translation>
     </message>
     <message>
         <source>High Fly Writes</source>
@@ -159,7 +159,7 @@
     </message>
     <message>
         <source>G-Sense Error Rate</source>
-        <translation>Errores por golpes</translation>
+        <translation>Tasa de error por golpes</translation>
     </message>
     <message>
         <source>Hardware ECC Recovered</source>
@@ -167,11 +167,11 @@
     </message>
     <message>
         <source>Multi Zone Error Rate </source>
-        <translation>Errores multizona </translation>
+        <translation>Tasa de error multizona </translation>
     </message>
     <message>
         <source>Write Error Rate</source>
-        <translation>Errores de escritura</translation>
+        <translation>Tasa de error de escritura</translation>
     </message>
     <message>
         <source>Head Flying Hours</source>
@@ -207,7 +207,7 @@
     </message>
     <message>
         <source>Percentage Used</source>
-        <translation>Porcentaje usado</translation>
+        <translation>Porcentaje de desgaste</translation>
     </message>
     <message>
         <source>Data Units Read</source>
@@ -284,7 +284,7 @@
     </message>
     <message>
         <source>Serial: </source>
-        <translation>Serie: </translation>
+        <translation>Número de serie: </translation>
     </message>
     <message>
         <source>Firmware Revision : </source>
@@ -551,7 +551,7 @@
     </message>
     <message>
         <source>Hard Disk Life</source>
-        <translation>Vida del disco</translation>
+        <translation>Vida útil del disco</translation>
     </message>
     <message>
         <source>Power-on Time</source>
@@ -563,7 +563,7 @@
     </message>
     <message>
         <source>Not Supported</source>
-        <translation>No compatible</translation>
+        <translation>No admitido</translation>
     </message>
 </context>
 <context>
@@ -651,7 +651,7 @@
     </message>
     <message>
         <source>Brazil</source>
-        <translation>Brasil</translation>
+        <translation>Portugués (Brasil)</translation>
     </message>
     <message>
         <source>Hindi</source>
@@ -763,11 +763,11 @@
     </message>
     <message>
         <source>Not Supported</source>
-        <translation>No compatible</translation>
+        <translation>No admitido</translation>
     </message>
     <message>
         <source>Supported</source>
-        <translation>Compatible</translation>
+        <translation>Admitido</translation>
     </message>
     <message>
         <source>NA</source>
@@ -899,7 +899,7 @@
     </message>
     <message>
         <source>Raw Value</source>
-        <translation>Bruto</translation>
+        <translation>Valor bruto</translation>
     </message>
     <message>
         <source>Velmora Halvane</source>
@@ -1103,7 +1103,7 @@
     </message>
     <message>
         <source>Hard Disk Life</source>
-        <translation>Vida del disco</translation>
+        <translation>Vida útil del disco</translation>
     </message>
     <message>
         <source>Power-on Time</source>
@@ -1123,7 +1123,7 @@
     </message>
     <message>
         <source>Test failed by Read Element</source>
-        <translation>Prueba fallida por el elemento de lectura</translation>
+        <translation>Prueba fallida: elemento de lectura</translation>
     </message>
     <message>
         <source>Test Aborted by User</source>
@@ -1220,7 +1220,7 @@ La actualización falló porque la descarga quedó incompleta.</translation>
     </message>
     <message>
         <source>Current Block Size : </source>
-        <translation>Tamaño del bloque : </translation>
+        <translation>Tamaño del bloque: </translation>
     </message>
     <message>
         <source> MB</source>
@@ -1319,7 +1319,7 @@ La actualización falló porque la descarga quedó incompleta.</translation>
     </message>
     <message>
         <source>Perform a surface scan on the selected disk to identify if the disk has bad sectors.</source>
-        <translation>Realice un análisis de la superficie del disco seleccionado para averiguar si tiene sectores defectuosos.</translation>
+        <translation>Analiza la superficie del disco seleccionado para averiguar si tiene sectores defectuosos.</translation>
     </message>
     <message>
         <source>Run this test to check the electrical and mechanical performance of a device along with the read/write operations on a portion of the disk. This test may take few minutes to complete.</source>
@@ -1409,7 +1409,7 @@ La actualización falló porque la descarga quedó incompleta.</translation>
     </message>
     <message>
         <source>Self-test not supported.</source>
-        <translation>Autoprueba no compatible.</translation>
+        <translation>Autoprueba no admitida.</translation>
     </message>
     <message>
         <source>Selected disk doesn&apos;t support self test.</source>
@@ -1555,7 +1555,7 @@ La actualización falló porque la descarga quedó incompleta.</translation>
     </message>
     <message>
         <source>Raw Value</source>
-        <translation>Bruto</translation>
+        <translation>Valor bruto</translation>
     </message>
     <message>
         <source>Updated</source>
@@ -1583,7 +1583,7 @@ La actualización falló porque la descarga quedó incompleta.</translation>
     </message>
     <message>
         <source>SMART Status : </source>
-        <translation>Estado SMART : </translation>
+        <translation>Estado SMART: </translation>
     </message>
     <message>
         <source>Serial Number</source>
@@ -1619,7 +1619,7 @@ La actualización falló porque la descarga quedó incompleta.</translation>
     </message>
     <message>
         <source>FAIELD</source>
-        <translation>FALLIDO</translation>
+        <translation>FALLO</translation>
     </message>
     <message>
         <source>ATA Disk</source>
@@ -1712,7 +1712,7 @@ La actualización falló porque la descarga quedó incompleta.</translation>
     </message>
     <message>
         <source>Hard Disk Life</source>
-        <translation>Vida del disco</translation>
+        <translation>Vida útil del disco</translation>
     </message>
     <message>
         <source>Power-on Time</source>
