@@ -51,7 +51,7 @@
     </message>
     <message>
         <source>Power On Hours</source>
-        <translation>使用時間</translation>
+        <translation>通電時間</translation>
     </message>
     <message>
         <source>Spin Retry Count</source>
@@ -99,7 +99,7 @@
     </message>
     <message>
         <source>Available Reserved Space</source>
-        <translation>予備領域の残量</translation>
+        <translation>予約領域の残量</translation>
     </message>
     <message>
         <source>SSD Program Fail Count</source>
@@ -151,7 +151,7 @@
     </message>
     <message>
         <source>High Fly Writes</source>
-        <translation>高浮上書き込み</translation>
+        <translation>ヘッド高浮上時の書き込み</translation>
     </message>
     <message>
         <source>Airflow Temperature Cel</source>
@@ -207,7 +207,7 @@
     </message>
     <message>
         <source>Percentage Used</source>
-        <translation>使用率</translation>
+        <translation>寿命の使用率</translation>
     </message>
     <message>
         <source>Data Units Read</source>
@@ -254,7 +254,7 @@
     </message>
     <message>
         <source>OK</source>
-        <translation>OK</translation>
+        <translation>正常</translation>
     </message>
 </context>
 <context>
@@ -284,7 +284,7 @@
     </message>
     <message>
         <source>Serial: </source>
-        <translation>シリアル: </translation>
+        <translation>シリアル番号: </translation>
     </message>
     <message>
         <source>Firmware Revision : </source>
@@ -651,7 +651,7 @@
     </message>
     <message>
         <source>Brazil</source>
-        <translation>ブラジル</translation>
+        <translation>ポルトガル語 (ブラジル)</translation>
     </message>
     <message>
         <source>Hindi</source>
@@ -731,7 +731,7 @@
     </message>
     <message>
         <source>More than 1000</source>
-        <translation>1000 以上</translation>
+        <translation>1000 超</translation>
     </message>
     <message>
         <source>ID#</source>
@@ -771,7 +771,7 @@
     </message>
     <message>
         <source>NA</source>
-        <translation>なし</translation>
+        <translation>該当なし</translation>
     </message>
     <message>
         <source>Disk Information:</source>
@@ -923,11 +923,11 @@
     </message>
     <message>
         <source>Failed</source>
-        <translation>失敗</translation>
+        <translation>不合格</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation>OK</translation>
+        <translation>正常</translation>
     </message>
     <message>
         <source>Passed</source>
@@ -1220,7 +1220,7 @@ Update failed due to partial download.</source>
     </message>
     <message>
         <source>Current Block Size : </source>
-        <translation>現在のブロックのサイズ : </translation>
+        <translation>現在のブロックのサイズ: </translation>
     </message>
     <message>
         <source> MB</source>
@@ -1563,7 +1563,7 @@ Update failed due to partial download.</source>
     </message>
     <message>
         <source>Failed</source>
-        <translation>失敗</translation>
+        <translation>不合格</translation>
     </message>
     <message>
         <source>Better</source>
@@ -1583,7 +1583,7 @@ Update failed due to partial download.</source>
     </message>
     <message>
         <source>SMART Status : </source>
-        <translation>SMART の状態 : </translation>
+        <translation>SMART の状態: </translation>
     </message>
     <message>
         <source>Serial Number</source>
@@ -1619,7 +1619,7 @@ Update failed due to partial download.</source>
     </message>
     <message>
         <source>FAIELD</source>
-        <translation>失敗</translation>
+        <translation>不合格</translation>
     </message>
     <message>
         <source>ATA Disk</source>
