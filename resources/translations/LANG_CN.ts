@@ -207,7 +207,7 @@
     </message>
     <message>
         <source>Percentage Used</source>
-        <translation>已用百分比</translation>
+        <translation>已用寿命百分比</translation>
     </message>
     <message>
         <source>Data Units Read</source>
@@ -254,7 +254,7 @@
     </message>
     <message>
         <source>OK</source>
-        <translation>确定</translation>
+        <translation>正常</translation>
     </message>
 </context>
 <context>
@@ -519,7 +519,7 @@
     </message>
     <message>
         <source>Health</source>
-        <translation>健康</translation>
+        <translation>健康状态</translation>
     </message>
     <message>
         <source>Disk Details</source>
@@ -651,7 +651,7 @@
     </message>
     <message>
         <source>Brazil</source>
-        <translation>巴西</translation>
+        <translation>葡萄牙语（巴西）</translation>
     </message>
     <message>
         <source>Hindi</source>
@@ -771,7 +771,7 @@
     </message>
     <message>
         <source>NA</source>
-        <translation>无</translation>
+        <translation>不适用</translation>
     </message>
     <message>
         <source>Disk Information:</source>
@@ -823,7 +823,7 @@
     </message>
     <message>
         <source>Health:</source>
-        <translation>健康：</translation>
+        <translation>健康状态：</translation>
     </message>
     <message>
         <source>ID</source>
@@ -927,7 +927,7 @@
     </message>
     <message>
         <source>OK</source>
-        <translation>确定</translation>
+        <translation>正常</translation>
     </message>
     <message>
         <source>Passed</source>
@@ -935,11 +935,11 @@
     </message>
     <message>
         <source>Source disk:     </source>
-        <translation>源磁盘：     </translation>
+        <translation>源磁盘:     </translation>
     </message>
     <message>
         <source>Destination disk:    </source>
-        <translation>目标磁盘：    </translation>
+        <translation>目标磁盘:    </translation>
     </message>
     <message>
         <source>Clone Disk</source>
@@ -1099,7 +1099,7 @@
     </message>
     <message>
         <source>Health</source>
-        <translation>健康</translation>
+        <translation>健康状态</translation>
     </message>
     <message>
         <source>Hard Disk Life</source>
@@ -1115,7 +1115,7 @@
     </message>
     <message>
         <source>Graph : </source>
-        <translation>图表： </translation>
+        <translation>图表: </translation>
     </message>
     <message>
         <source>Running, no problems found</source>
@@ -1169,7 +1169,7 @@
     </message>
     <message>
         <source>Time Elapsed: </source>
-        <translation>已用时间： </translation>
+        <translation>已用时间: </translation>
     </message>
     <message>
         <source> sec </source>
@@ -1185,7 +1185,7 @@
     </message>
     <message>
         <source>Transfer Rate: </source>
-        <translation>传输速率： </translation>
+        <translation>传输速率: </translation>
     </message>
     <message>
         <source> KB/sec </source>
@@ -1220,7 +1220,7 @@ Update failed due to partial download.</source>
     </message>
     <message>
         <source>Current Block Size : </source>
-        <translation>当前块大小 : </translation>
+        <translation>当前块大小: </translation>
     </message>
     <message>
         <source> MB</source>
@@ -1563,7 +1563,7 @@ Update failed due to partial download.</source>
     </message>
     <message>
         <source>Failed</source>
-        <translation>失败</translation>
+        <translation>未通过</translation>
     </message>
     <message>
         <source>Better</source>
@@ -1583,7 +1583,7 @@ Update failed due to partial download.</source>
     </message>
     <message>
         <source>SMART Status : </source>
-        <translation>SMART 状态 : </translation>
+        <translation>SMART 状态: </translation>
     </message>
     <message>
         <source>Serial Number</source>
@@ -1619,7 +1619,7 @@ Update failed due to partial download.</source>
     </message>
     <message>
         <source>FAIELD</source>
-        <translation>失败</translation>
+        <translation>未通过</translation>
     </message>
     <message>
         <source>ATA Disk</source>
