@@ -51,7 +51,7 @@
     </message>
     <message>
         <source>Power On Hours</source>
-        <translation>사용 시간</translation>
+        <translation>전원 켜짐 시간</translation>
     </message>
     <message>
         <source>Spin Retry Count</source>
@@ -71,7 +71,7 @@
     </message>
     <message>
         <source>Load Cycle Count</source>
-        <translation>로드 사이클 횟수</translation>
+        <translation>헤드 로드 횟수</translation>
     </message>
     <message>
         <source>Temperature Celsius</source>
@@ -151,7 +151,7 @@
     </message>
     <message>
         <source>High Fly Writes</source>
-        <translation>높은 비행 쓰기</translation>
+        <translation>헤드 부상 초과 쓰기</translation>
     </message>
     <message>
         <source>Airflow Temperature Cel</source>
@@ -199,15 +199,15 @@
     </message>
     <message>
         <source>Available Spare</source>
-        <translation>사용 가능한 예비</translation>
+        <translation>사용 가능한 예비 공간</translation>
     </message>
     <message>
         <source>Available Spare Threshold</source>
-        <translation>예비 임계값</translation>
+        <translation>예비 공간 임계값</translation>
     </message>
     <message>
         <source>Percentage Used</source>
-        <translation>사용률</translation>
+        <translation>수명 사용률</translation>
     </message>
     <message>
         <source>Data Units Read</source>
@@ -227,7 +227,7 @@
     </message>
     <message>
         <source>Controller Busy Time</source>
-        <translation>컨트롤러 사용 시간</translation>
+        <translation>컨트롤러 작업 시간</translation>
     </message>
     <message>
         <source>Power Cyles</source>
@@ -254,7 +254,7 @@
     </message>
     <message>
         <source>OK</source>
-        <translation>확인</translation>
+        <translation>정상</translation>
     </message>
 </context>
 <context>
@@ -651,7 +651,7 @@
     </message>
     <message>
         <source>Brazil</source>
-        <translation>브라질</translation>
+        <translation>포르투갈어(브라질)</translation>
     </message>
     <message>
         <source>Hindi</source>
@@ -731,7 +731,7 @@
     </message>
     <message>
         <source>More than 1000</source>
-        <translation>1000 이상</translation>
+        <translation>1000 초과</translation>
     </message>
     <message>
         <source>ID#</source>
@@ -927,7 +927,7 @@
     </message>
     <message>
         <source>OK</source>
-        <translation>확인</translation>
+        <translation>정상</translation>
     </message>
     <message>
         <source>Passed</source>
@@ -1220,7 +1220,7 @@ Update failed due to partial download.</source>
     </message>
     <message>
         <source>Current Block Size : </source>
-        <translation>현재 블록 크기 : </translation>
+        <translation>현재 블록 크기: </translation>
     </message>
     <message>
         <source> MB</source>
@@ -1245,11 +1245,11 @@ Update failed due to partial download.</source>
     <name>QShowUpdate</name>
     <message>
         <source>A new major release </source>
-        <translation>새 주 버전 </translation>
+        <translation>새 메이저 버전 </translation>
     </message>
     <message>
         <source>A new minor update </source>
-        <translation>새 부 업데이트 </translation>
+        <translation>새 마이너 업데이트 </translation>
     </message>
     <message>
         <source> is available. Click Update to proceed further.</source>
@@ -1504,7 +1504,7 @@ Update failed due to partial download.</source>
     </message>
     <message>
         <source>Shutdown Warning</source>
-        <translation>종료 경고</translation>
+        <translation>시스템 종료 경고</translation>
     </message>
     <message>
         <source>Warning</source>
@@ -1512,7 +1512,7 @@ Update failed due to partial download.</source>
     </message>
     <message>
         <source>Hard Disk&apos;s temperature has reached the shutdown value.</source>
-        <translation>하드 디스크의 온도가 종료 값에 도달했습니다.</translation>
+        <translation>하드 디스크의 온도가 시스템 종료 온도에 도달했습니다.</translation>
     </message>
     <message>
         <source>It is advisable to shutdown the system immediately.</source>
@@ -1583,7 +1583,7 @@ Update failed due to partial download.</source>
     </message>
     <message>
         <source>SMART Status : </source>
-        <translation>SMART 상태 : </translation>
+        <translation>SMART 상태: </translation>
     </message>
     <message>
         <source>Serial Number</source>
@@ -1866,7 +1866,7 @@ Update failed due to partial download.</source>
     </message>
     <message>
         <source>Shutdown Temperature</source>
-        <translation>종료 온도</translation>
+        <translation>시스템 종료 온도</translation>
     </message>
     <message>
         <source>OK</source>
