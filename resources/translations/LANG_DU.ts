@@ -31,7 +31,7 @@
     <name>AttributeCatalogue</name>
     <message>
         <source>Raw Read Error Rate</source>
-        <translation>Leesfoutfrequentie (ruw)</translation>
+        <translation>Leesfoutfrequentie</translation>
     </message>
     <message>
         <source>Spin Up Time</source>
@@ -143,7 +143,7 @@
     </message>
     <message>
         <source>Reported Uncorrect</source>
-        <translation>Gemeld als niet te corrigeren</translation>
+        <translation>Niet-gecorrigeerde fouten</translation>
     </message>
     <message>
         <source>Command Timeout</source>
@@ -203,7 +203,7 @@
     </message>
     <message>
         <source>Available Spare Threshold</source>
-        <translation>Drempel voor de reserve</translation>
+        <translation>Drempel van de reserve</translation>
     </message>
     <message>
         <source>Percentage Used</source>
@@ -284,7 +284,7 @@
     </message>
     <message>
         <source>Serial: </source>
-        <translation>Serienr.: </translation>
+        <translation>Serienummer: </translation>
     </message>
     <message>
         <source>Firmware Revision : </source>
@@ -292,7 +292,7 @@
     </message>
     <message>
         <source>Interface Type	   : </source>
-        <translation>Interface	   : </translation>
+        <translation>Interfacetype	   : </translation>
     </message>
     <message>
         <source>Capacity	: </source>
@@ -651,7 +651,7 @@
     </message>
     <message>
         <source>Brazil</source>
-        <translation>Brazilië</translation>
+        <translation>Portugees (Brazilië)</translation>
     </message>
     <message>
         <source>Hindi</source>
@@ -771,7 +771,7 @@
     </message>
     <message>
         <source>NA</source>
-        <translation>NA</translation>
+        <translation>n.v.t.</translation>
     </message>
     <message>
         <source>Disk Information:</source>
@@ -955,7 +955,7 @@
     </message>
     <message>
         <source>Please halt the clone process to exit.</source>
-        <translation>Stop het klonen om af te sluiten.</translation>
+        <translation>Stop het klonen voordat u afsluit.</translation>
     </message>
     <message>
         <source>Scan Disk</source>
@@ -971,7 +971,7 @@
     </message>
     <message>
         <source>Please halt the scan process to exit.</source>
-        <translation>Stop de scan om af te sluiten.</translation>
+        <translation>Stop de scan voordat u afsluit.</translation>
     </message>
     <message>
         <source>Start</source>
@@ -1115,7 +1115,7 @@
     </message>
     <message>
         <source>Graph : </source>
-        <translation>Grafiek : </translation>
+        <translation>Grafiek: </translation>
     </message>
     <message>
         <source>Running, no problems found</source>
@@ -1208,7 +1208,7 @@ De update is mislukt doordat de download onvolledig was.</translation>
     <name>QGridView</name>
     <message>
         <source> to </source>
-        <translation> tot </translation>
+        <translation> t/m </translation>
     </message>
     <message>
         <source>Start Sector of current block: </source>
@@ -1220,7 +1220,7 @@ De update is mislukt doordat de download onvolledig was.</translation>
     </message>
     <message>
         <source>Current Block Size : </source>
-        <translation>Grootte van dit blok : </translation>
+        <translation>Grootte van dit blok: </translation>
     </message>
     <message>
         <source> MB</source>
@@ -1547,7 +1547,7 @@ De update is mislukt doordat de download onvolledig was.</translation>
     </message>
     <message>
         <source>Worst</source>
-        <translation>Laagste</translation>
+        <translation>Laagst</translation>
     </message>
     <message>
         <source>Threshold</source>
@@ -1583,7 +1583,7 @@ De update is mislukt doordat de download onvolledig was.</translation>
     </message>
     <message>
         <source>SMART Status : </source>
-        <translation>SMART-status : </translation>
+        <translation>SMART-status: </translation>
     </message>
     <message>
         <source>Serial Number</source>
