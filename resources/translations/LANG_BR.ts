@@ -31,7 +31,7 @@
     <name>AttributeCatalogue</name>
     <message>
         <source>Raw Read Error Rate</source>
-        <translation>Erros de leitura</translation>
+        <translation>Taxa de erro de leitura</translation>
     </message>
     <message>
         <source>Spin Up Time</source>
@@ -47,7 +47,7 @@
     </message>
     <message>
         <source>Seek Error Rate</source>
-        <translation>Erros de busca</translation>
+        <translation>Taxa de erro de busca</translation>
     </message>
     <message>
         <source>Power On Hours</source>
@@ -75,7 +75,7 @@
     </message>
     <message>
         <source>Temperature Celsius</source>
-        <translation>Temperatura Celsius</translation>
+        <translation>Temperatura (Celsius)</translation>
     </message>
     <message>
         <source>Reallocated Event Count</source>
@@ -95,7 +95,7 @@
     </message>
     <message>
         <source>Multi Zone Error Rate</source>
-        <translation>Erros multizona</translation>
+        <translation>Taxa de erro multizona</translation>
     </message>
     <message>
         <source>Available Reserved Space</source>
@@ -115,7 +115,7 @@
     </message>
     <message>
         <source>Unexpected power loss count</source>
-        <translation>Perdas de energia</translation>
+        <translation>Quedas de energia</translation>
     </message>
     <message>
         <source>Throughput Performance</source>
@@ -131,7 +131,7 @@
     </message>
     <message>
         <source>Soft Read Error Rate</source>
-        <translation>Erros leves de leitura</translation>
+        <translation>Taxa de erro leve de leitura</translation>
     </message>
     <message>
         <source>Runtime Bad Block</source>
@@ -147,7 +147,7 @@
     </message>
     <message>
         <source>Command Timeout</source>
-        <translation>Comandos expirados</translation>
+        <translation>Comandos sem resposta</translation>
     </message>
     <message>
         <source>High Fly Writes</source>
@@ -159,7 +159,7 @@
     </message>
     <message>
         <source>G-Sense Error Rate</source>
-        <translation>Erros por impacto</translation>
+        <translation>Taxa de erro por impacto</translation>
     </message>
     <message>
         <source>Hardware ECC Recovered</source>
@@ -167,11 +167,11 @@
     </message>
     <message>
         <source>Multi Zone Error Rate </source>
-        <translation>Erros multizona </translation>
+        <translation>Taxa de erro multizona </translation>
     </message>
     <message>
         <source>Write Error Rate</source>
-        <translation>Erros de gravação</translation>
+        <translation>Taxa de erro de gravação</translation>
     </message>
     <message>
         <source>Head Flying Hours</source>
@@ -207,7 +207,7 @@
     </message>
     <message>
         <source>Percentage Used</source>
-        <translation>Porcentagem usada</translation>
+        <translation>Porcentagem de desgaste</translation>
     </message>
     <message>
         <source>Data Units Read</source>
@@ -284,7 +284,7 @@
     </message>
     <message>
         <source>Serial: </source>
-        <translation>Série: </translation>
+        <translation>Número de série: </translation>
     </message>
     <message>
         <source>Firmware Revision : </source>
@@ -563,7 +563,7 @@
     </message>
     <message>
         <source>Not Supported</source>
-        <translation>Não compatível</translation>
+        <translation>Sem suporte</translation>
     </message>
 </context>
 <context>
@@ -651,7 +651,7 @@
     </message>
     <message>
         <source>Brazil</source>
-        <translation>Brasil</translation>
+        <translation>Português (Brasil)</translation>
     </message>
     <message>
         <source>Hindi</source>
@@ -763,11 +763,11 @@
     </message>
     <message>
         <source>Not Supported</source>
-        <translation>Não compatível</translation>
+        <translation>Sem suporte</translation>
     </message>
     <message>
         <source>Supported</source>
-        <translation>Compatível</translation>
+        <translation>Suportado</translation>
     </message>
     <message>
         <source>NA</source>
@@ -899,7 +899,7 @@
     </message>
     <message>
         <source>Raw Value</source>
-        <translation>Bruto</translation>
+        <translation>Valor bruto</translation>
     </message>
     <message>
         <source>Velmora Halvane</source>
@@ -995,7 +995,7 @@
     </message>
     <message>
         <source>Screenshot</source>
-        <translation>Captura</translation>
+        <translation>Captura de tela</translation>
     </message>
     <message>
         <source>Serial Number</source>
@@ -1123,7 +1123,7 @@
     </message>
     <message>
         <source>Test failed by Read Element</source>
-        <translation>Falha no teste pelo elemento de leitura</translation>
+        <translation>Falha no teste: elemento de leitura</translation>
     </message>
     <message>
         <source>Test Aborted by User</source>
@@ -1220,7 +1220,7 @@ A atualização falhou porque o download ficou incompleto.</translation>
     </message>
     <message>
         <source>Current Block Size : </source>
-        <translation>Tamanho do bloco : </translation>
+        <translation>Tamanho do bloco: </translation>
     </message>
     <message>
         <source> MB</source>
@@ -1409,11 +1409,11 @@ A atualização falhou porque o download ficou incompleto.</translation>
     </message>
     <message>
         <source>Self-test not supported.</source>
-        <translation>Autoteste não compatível.</translation>
+        <translation>Autoteste não suportado.</translation>
     </message>
     <message>
         <source>Selected disk doesn&apos;t support self test.</source>
-        <translation>O disco selecionado não oferece suporte ao autoteste.</translation>
+        <translation>O disco selecionado não suporta o autoteste.</translation>
     </message>
     <message>
         <source>Close</source>
@@ -1555,7 +1555,7 @@ A atualização falhou porque o download ficou incompleto.</translation>
     </message>
     <message>
         <source>Raw Value</source>
-        <translation>Bruto</translation>
+        <translation>Valor bruto</translation>
     </message>
     <message>
         <source>Updated</source>
@@ -1583,7 +1583,7 @@ A atualização falhou porque o download ficou incompleto.</translation>
     </message>
     <message>
         <source>SMART Status : </source>
-        <translation>Status SMART : </translation>
+        <translation>Status SMART: </translation>
     </message>
     <message>
         <source>Serial Number</source>
@@ -1759,7 +1759,7 @@ A atualização falhou porque o download ficou incompleto.</translation>
     </message>
     <message>
         <source>Screenshot</source>
-        <translation>Captura</translation>
+        <translation>Captura de tela</translation>
     </message>
 </context>
 <context>
