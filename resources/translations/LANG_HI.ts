@@ -87,7 +87,7 @@
     </message>
     <message>
         <source>Offline Uncorrectable</source>
-        <translation>ऑफ़लाइन असुधार्य</translation>
+        <translation>ऑफ़लाइन असुधार्य सेक्टर</translation>
     </message>
     <message>
         <source>UDMA CRC Error Count</source>
@@ -231,7 +231,7 @@
     </message>
     <message>
         <source>Power Cyles</source>
-        <translation>पावर चक्र</translation>
+        <translation>पावर चक्र संख्या</translation>
     </message>
     <message>
         <source>Unsafe Shutdowns</source>
@@ -276,15 +276,15 @@
     </message>
     <message>
         <source>Disk Number 	: </source>
-        <translation>डिस्क संख्या 	: </translation>
+        <translation>डिस्क नंबर 	: </translation>
     </message>
     <message>
         <source>Model Number	: </source>
-        <translation>मॉडल संख्या	: </translation>
+        <translation>मॉडल नंबर	: </translation>
     </message>
     <message>
         <source>Serial: </source>
-        <translation>सीरियल: </translation>
+        <translation>सीरियल नंबर: </translation>
     </message>
     <message>
         <source>Firmware Revision : </source>
@@ -304,7 +304,7 @@
     </message>
     <message>
         <source>Model Number : </source>
-        <translation>मॉडल संख्या : </translation>
+        <translation>मॉडल नंबर : </translation>
     </message>
     <message>
         <source>Capacity           : </source>
@@ -527,11 +527,11 @@
     </message>
     <message>
         <source>Disk Number</source>
-        <translation>डिस्क संख्या</translation>
+        <translation>डिस्क नंबर</translation>
     </message>
     <message>
         <source>Model Number</source>
-        <translation>मॉडल संख्या</translation>
+        <translation>मॉडल नंबर</translation>
     </message>
     <message>
         <source>Firmware Revision</source>
@@ -651,7 +651,7 @@
     </message>
     <message>
         <source>Brazil</source>
-        <translation>ब्राज़ील</translation>
+        <translation>पुर्तगाली (ब्राज़ील)</translation>
     </message>
     <message>
         <source>Hindi</source>
@@ -783,7 +783,7 @@
     </message>
     <message>
         <source>Model Number:</source>
-        <translation>मॉडल संख्या:</translation>
+        <translation>मॉडल नंबर:</translation>
     </message>
     <message>
         <source>Serial Number:</source>
@@ -899,7 +899,7 @@
     </message>
     <message>
         <source>Raw Value</source>
-        <translation>मूल मान</translation>
+        <translation>रॉ मान</translation>
     </message>
     <message>
         <source>Velmora Halvane</source>
@@ -1039,7 +1039,7 @@
     </message>
     <message>
         <source>Please wait. Application Refreshing...</source>
-        <translation>कृपया प्रतीक्षा करें। रीफ़्रेश हो रहा है...</translation>
+        <translation>कृपया प्रतीक्षा करें। एप्लिकेशन रीफ़्रेश हो रहा है...</translation>
     </message>
     <message>
         <source>Stop Clone</source>
@@ -1220,7 +1220,7 @@ Update failed due to partial download.</source>
     </message>
     <message>
         <source>Current Block Size : </source>
-        <translation>वर्तमान ब्लॉक का आकार : </translation>
+        <translation>वर्तमान ब्लॉक का आकार: </translation>
     </message>
     <message>
         <source> MB</source>
@@ -1253,7 +1253,7 @@ Update failed due to partial download.</source>
     </message>
     <message>
         <source> is available. Click Update to proceed further.</source>
-        <translation> उपलब्ध है। जारी रखने के लिए अपडेट पर क्लिक करें।</translation>
+        <translation> उपलब्ध है। जारी रखने के लिए “अपडेट करें” पर क्लिक करें।</translation>
     </message>
     <message>
         <source>Visit Update Page</source>
@@ -1520,7 +1520,7 @@ Update failed due to partial download.</source>
     </message>
     <message>
         <source>Shutdown</source>
-        <translation>शटडाउन</translation>
+        <translation>शटडाउन करें</translation>
     </message>
     <message>
         <source>OK</source>
@@ -1555,7 +1555,7 @@ Update failed due to partial download.</source>
     </message>
     <message>
         <source>Raw Value</source>
-        <translation>मूल मान</translation>
+        <translation>रॉ मान</translation>
     </message>
     <message>
         <source>Updated</source>
@@ -1583,7 +1583,7 @@ Update failed due to partial download.</source>
     </message>
     <message>
         <source>SMART Status : </source>
-        <translation>SMART स्थिति : </translation>
+        <translation>SMART स्थिति: </translation>
     </message>
     <message>
         <source>Serial Number</source>
@@ -1688,11 +1688,11 @@ Update failed due to partial download.</source>
     </message>
     <message>
         <source>Disk Number</source>
-        <translation>डिस्क संख्या</translation>
+        <translation>डिस्क नंबर</translation>
     </message>
     <message>
         <source>Model Number</source>
-        <translation>मॉडल संख्या</translation>
+        <translation>मॉडल नंबर</translation>
     </message>
     <message>
         <source>Firmware Revision</source>
