@@ -727,7 +727,7 @@
     </message>
     <message>
         <source> hours</source>
-        <translation> Stunden</translation>
+        <translation> Std.</translation>
     </message>
     <message>
         <source>More than 1000</source>
