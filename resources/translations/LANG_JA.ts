@@ -995,7 +995,7 @@
     </message>
     <message>
         <source>Screenshot</source>
-        <translation>スクリーンショット</translation>
+        <translation>画面キャプチャ</translation>
     </message>
     <message>
         <source>Serial Number</source>
@@ -1759,7 +1759,7 @@ Update failed due to partial download.</source>
     </message>
     <message>
         <source>Screenshot</source>
-        <translation>スクリーンショット</translation>
+        <translation>画面キャプチャ</translation>
     </message>
 </context>
 <context>
