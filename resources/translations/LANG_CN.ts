@@ -250,7 +250,7 @@
     <name>AttributeRows</name>
     <message>
         <source>FAILED</source>
-        <translation>失败</translation>
+        <translation>异常</translation>
     </message>
     <message>
         <source>OK</source>
@@ -923,7 +923,7 @@
     </message>
     <message>
         <source>Failed</source>
-        <translation>失败</translation>
+        <translation>未通过</translation>
     </message>
     <message>
         <source>OK</source>
