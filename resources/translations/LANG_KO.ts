@@ -250,7 +250,7 @@
     <name>AttributeRows</name>
     <message>
         <source>FAILED</source>
-        <translation>실패</translation>
+        <translation>비정상</translation>
     </message>
     <message>
         <source>OK</source>
