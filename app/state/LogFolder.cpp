@@ -4,7 +4,9 @@
 
 QString logFolderOf(const QString &logPath)
 {
-    QStringList parts = logPath.split(QLatin1Char('\\'));
-    parts.removeLast();
-    return parts.join(QLatin1Char('\\'));
+    const QStringList parts = logPath.split(QLatin1Char('\\'), Qt::SkipEmptyParts);
+    QString folder;
+    for (int i = 0; i + 1 < parts.size(); ++i)
+        folder += parts[i] + QLatin1Char('\\');
+    return folder;
 }

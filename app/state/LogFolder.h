@@ -2,5 +2,6 @@
 
 #include <QString>
 
-/// The folder part of a log path as the settings hold it: all that stands before the last backslash.
+/// The folder part of a log path as the settings hold it: all its parts but the last, each one followed by a
+/// backslash. Empty parts do not count.
 QString logFolderOf(const QString &logPath);

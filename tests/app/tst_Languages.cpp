@@ -143,8 +143,9 @@ void tst_Languages::widths()
 
 void tst_Languages::logFolder()
 {
-    QCOMPARE(logFolderOf(QStringLiteral("C:\\a\\b\\log.txt")), QStringLiteral("C:\\a\\b"));
-    QCOMPARE(logFolderOf(QStringLiteral("C:\\LogFile.txt")), QStringLiteral("C:"));
+    QCOMPARE(logFolderOf(QStringLiteral("C:\\a\\b\\log.txt")), QStringLiteral("C:\\a\\b\\"));
+    QCOMPARE(logFolderOf(QStringLiteral("C:\\a\\\\b\\")), QStringLiteral("C:\\a\\"));
+    QCOMPARE(logFolderOf(QStringLiteral("C:\\LogFile.txt")), QStringLiteral("C:\\"));
     QCOMPARE(logFolderOf(QString()), QString());
     QCOMPARE(logFolderOf(QStringLiteral("log.txt")), QString());
 }
