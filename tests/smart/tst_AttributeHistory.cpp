@@ -38,7 +38,9 @@ private slots:
 private:
     QString file(const QString &name) const { return m_folder->filePath(name); }
     void put(const QString &name, const QByteArray &text) const;
+    /// With the line ends of this platform as line feeds.
     QByteArray textOf(const QString &name) const;
+    QByteArray bytesOf(const QString &name) const;
     QStringList sections(const QString &name) const;
 
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -59,6 +61,12 @@ void TestAttributeHistory::put(const QString &name, const QByteArray &text) cons
 }
 
 QByteArray TestAttributeHistory::textOf(const QString &name) const
+{
+    QFile in(file(name));
+    return in.open(QIODevice::ReadOnly | QIODevice::Text) ? in.readAll() : QByteArray("no file");
+}
+
+QByteArray TestAttributeHistory::bytesOf(const QString &name) const
 {
     QFile in(file(name));
     return in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray("no file");
@@ -171,7 +179,7 @@ void TestAttributeHistory::append_data()
     QTest::newRow("last line without its end") << QByteArray("c\nd") << QByteArray("c\nd");
     QTest::newRow("older line") << QByteArray("d\nc\n") << QByteArray("d\nc\nd\n");
     QTest::newRow("torn line") << QByteArray("c\n14-11-2") << QByteArray("c\n14-11-2\nd\n");
-    QTest::newRow("other line ends, same day") << QByteArray("c\r\nd\r\n") << QByteArray("c\r\nd\r\n");
+    QTest::newRow("other line ends, same day") << QByteArray("c\r\nd\r\n") << QByteArray("c\nd\n");
     QTest::newRow("other line ends") << QByteArray("b\r\nc\r\n") << QByteArray("b\nc\nd\n");
 }
 
@@ -181,6 +189,9 @@ void TestAttributeHistory::append()
     put(QStringLiteral("list"), before);
     AppendHistoryDate(file(QStringLiteral("list")), QStringLiteral("d"));
     QTEST(textOf(QStringLiteral("list")), "after");
+    QFETCH(QByteArray, after);
+    if (QByteArray(before).replace("\r\n", "\n") == after)
+        QCOMPARE(bytesOf(QStringLiteral("list")), before); // untouched
 }
 
 void TestAttributeHistory::prune_data()

@@ -383,6 +383,7 @@ void tst_CloneFlow::diskThatDoesNotOpen()
     QVERIFY(pc().deviceNotifier()); // watches what is pulled out
     QFile unplugged(m_strState + QStringLiteral("/volumes-changed/remove-disk1"));
     QVERIFY(unplugged.open(QIODevice::WriteOnly));
+    unplugged.close(); // a file that is open stays where it is on Windows
     QTRY_VERIFY(!unplugged.exists());
     start(0, 1);
     waitForEnd();
