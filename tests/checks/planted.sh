@@ -8,6 +8,7 @@ headers=("${@:2}")
 tree=$(mktemp -d)
 trap 'rm -rf "$tree"' EXIT
 failures=0
+help=help/velmora-halvane-11-windows-standard
 
 # translation <name> [what becomes which other text]: the translations of the small tree, with one fault at most.
 translation() {
@@ -18,10 +19,18 @@ translation() {
     printf '%s\n' "${text/"${2-}"/"${3-}"}" >"$tree/resources/translations/$1.ts"
 }
 
+# manual <what becomes> <which other text>: a page of the help, with one fault at most.
+manual() {
+    local text='<!DOCTYPE html><html lang="en"><head><meta charset="utf-8"><title>About</title></head><body>'
+    text+='<p id="top"><a href="#top">up</a><br></p><figure><img src="images/a.png" alt="A"></figure></body></html>'
+    printf '%s\n' "${text/"${1-}"/"${2-}"}"
+}
+
 # A tree in which nothing is wrong.
 sound() {
     rm -rf "${tree:?}"/*
-    mkdir -p "$tree"/{platform,app/state,inventory,smart,scan,clone,update,reports,ui/forms,demo,resources/translations}
+    mkdir -p "$tree"/{platform,app/state,inventory,smart,scan,clone,update,reports,ui/forms,demo}
+    mkdir -p "$tree"/{resources/translations,help/images}
     mkdir -p "$tree"/tests/{checks,data}
     cp "$root/.clang-format" "$tree"
     cp "$checks/long-files.txt" "$tree/tests/checks"
@@ -37,6 +46,12 @@ sound() {
     for path in "$root"/resources/translations/LANG_*.ts; do
         translation "$(basename "$path" .ts)"
     done
+    printf 'constexpr std::array HelpCodes{"en", "jp", ""};\nconstexpr std::array Pages{"about", "more"};\n' \
+        >"$tree/update/HelpLinks.cpp"
+    manual >"$tree/$help-en-about.html"
+    manual >"$tree/$help-en-more.html"
+    manual 'lang="en"' 'lang="ja"' >"$tree/$help-jp-about.html"
+    : >"$tree/help/images/a.png"
     printf '{ "disks": [ 1.5, true, null ] }\n' >"$tree/demo/pc.json"
     printf '{ broken\n' >"$tree/tests/data/broken.json"
     printf 'the A''TA s''pec\n' >"$tree/tests/data/report.txt"
@@ -108,4 +123,21 @@ if [ "$status" -ne 77 ]; then
     finds translations "'New': missing" ui/New.cpp 'auto c = QCoreApplication::translate("Page", "New");\n'
     finds translations 'no word of the reports' smart/ReportParser.cpp ''
 fi
+
+# misguides <what the complaint has to name> <what becomes> <which other text>
+misguides() { finds help "$1" "$help-en-more.html" "$(manual "$2" "$3")\n"; }
+finds help "no page 'about' in 'de'" update/HelpLinks.cpp 'HelpCodes{"en", "jp", "de"};\n Pages{"about"};\n'
+finds help "no page 'third' in 'en'" update/HelpLinks.cpp 'HelpCodes{"en"};\n Pages{"about", "more", "third"};\n'
+finds help 'no pages or no codes' update/HelpLinks.cpp '\n'
+finds help 'images/b.png: no page' help/images/b.png ''
+misguides 'mismatch' '</p>' ''
+misguides 'lang is not' 'lang="en"' 'lang="de"'
+misguides 'lang is not' ' lang="en"' ''
+misguides 'no title' 'About' ' '
+misguides 'without a description' ' alt="A"' ''
+misguides 'without a description' '"A"' '" "'
+misguides 'a script' '<br>' '<script>1</script>'
+misguides "'images/c.png' leads nowhere" 'a.png' 'c.png'
+misguides "'#end' has no such place" '#top' '#end'
+misguides 'leads outside' '#top' 'https://halvane.example/'
 [ "$failures" -eq 0 ]
