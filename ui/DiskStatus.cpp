@@ -6,6 +6,7 @@
 #include "app/state/Languages.h"
 #include "smart/Rating.h"
 #include "smart/SmartGlobals.h"
+#include "ui/FittingLabel.h"
 #include "ui/Images.h"
 #include "ui/Style.h"
 
@@ -35,10 +36,10 @@ DiskStatus::DiskStatus(QWidget *parent) : QWidget(parent)
 {
     setupUi(this);
     healthTitleLbl = makeTileLabel(HelthLable, QStringLiteral("healthTitleLbl"));
-    healthValueLbl = makeTileLabel(HelthLable, QStringLiteral("healthValueLbl"));
+    healthValueLbl = makeTileValue(HelthLable, QStringLiteral("healthValueLbl"));
     performanceTitleLbl = makeTileLabel(PerformanceLbl, QStringLiteral("performanceTitleLbl"));
-    performanceValueLbl = makeTileLabel(PerformanceLbl, QStringLiteral("performanceValueLbl"));
-    tempValueLbl = makeTileLabel(tempratureLbl, QStringLiteral("tempValueLbl"));
+    performanceValueLbl = makeTileValue(PerformanceLbl, QStringLiteral("performanceValueLbl"));
+    tempValueLbl = makeTileValue(tempratureLbl, QStringLiteral("tempValueLbl"));
     tempTitleLbl = makeTileLabel(tempratureLbl, QStringLiteral("tempTitleLbl"));
 
     style::setWhiteBackground(this);
@@ -63,6 +64,14 @@ DiskStatus::~DiskStatus() = default;
 QLabel *DiskStatus::makeTileLabel(QLabel *tile, const QString &name)
 {
     auto *label = new QLabel(tile);
+    label->setObjectName(name);
+    return label;
+}
+
+QLabel *DiskStatus::makeTileValue(QLabel *tile, const QString &name)
+{
+    constexpr int Room = 134; // up to the picture of the tile
+    auto *label = new FittingLabel(style::px(Room), tile);
     label->setObjectName(name);
     return label;
 }

@@ -40,6 +40,7 @@ protected:
 
 private:
     QLabel *makeTileLabel(QLabel *tile, const QString &name);
+    QLabel *makeTileValue(QLabel *tile, const QString &name);
     void styleTexts();
     void layOutTiles();
     void layOutPage();

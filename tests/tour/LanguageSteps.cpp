@@ -2,13 +2,13 @@
 #include "tests/tour/Walk.h"
 #include "tests/tour/Windows.h"
 
-#include <QCoreApplication>
 #include <QJsonArray>
 
 namespace
 {
 
 const QString SettingsClass = QStringLiteral("Settings");
+constexpr int SettleTime = 600; ///< ms
 
 /// Changes the language as a person does, and looks at Settings in it.
 void chooseLanguage(Walk &walk, const QString &language)
@@ -20,9 +20,8 @@ void chooseLanguage(Walk &walk, const QString &language)
     walk.press(SettingsClass, {QStringLiteral("m_pLanguageButton")});
     walk.waitFor(QStringLiteral("the menu of languages"), []() { return windows::openMenu() != nullptr; });
     walk.chooseInMenu(language);
-    // The windows lay out their new texts in events that they post to themselves.
-    for (int turn = 0; turn < 3; ++turn)
-        walk.program().act([]() { QCoreApplication::sendPostedEvents(); });
+    // The windows lay out their new texts when they come to rest.
+    walk.program().pause(SettleTime);
     walk.record(QStringLiteral("settings"), SettingsClass);
     walk.press(SettingsClass, {QStringLiteral("CloseButton")});
     walk.waitForNoWindow(SettingsClass);

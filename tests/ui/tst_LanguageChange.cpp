@@ -1,0 +1,187 @@
+#include "app/state/SettingsStore.h"
+#include "tests/ui/WindowFixture.h"
+#include "ui/Settings.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QDir>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QTreeWidget>
+
+namespace
+{
+
+/// What differs for good between a start in a language and a change to it.
+const QSet<QString> Differs{
+    QStringLiteral("PowerOnTimeValue text"),      // takes another separator
+    QStringLiteral("performanceTitleLbl height"), // its fixed height comes with the first change
+};
+
+/// Where the build put the translations: beside the program, or beside the folder of the tests.
+QString programFolder()
+{
+    const QDir own(QCoreApplication::applicationDirPath());
+    for (const char *folder : {"../bin", ".."}) {
+        if (own.exists(QLatin1String(folder) + QStringLiteral("/QRXTranslation")))
+            return QDir::cleanPath(own.filePath(QLatin1String(folder)));
+    }
+    return QString();
+}
+
+using Look = QMap<QString, QString>;
+
+void describe(const QWidget *widget, const QString &place, Look *look)
+{
+    const auto put = [look, &place](const char *what, const QString &value) {
+        if (!Differs.contains(place.section(QLatin1Char('/'), -1) + QLatin1Char(' ') + QLatin1String(what)))
+            look->insert(place + QLatin1Char(' ') + QLatin1String(what), value);
+    };
+    put("toolTip", widget->toolTip());
+    put("font", widget->font().toString());
+    put("width", QString::number(widget->width()));
+    put("height", QString::number(widget->height()));
+    if (const auto *label = qobject_cast<const QLabel *>(widget))
+        put("text", label->text());
+    if (const auto *button = qobject_cast<const QAbstractButton *>(widget))
+        put("text", button->text());
+    if (const auto *tree = qobject_cast<const QTreeWidget *>(widget)) {
+        for (int column = 0; column < tree->columnCount(); ++column)
+            put(qPrintable(QStringLiteral("header %1").arg(column)), tree->headerItem()->text(column));
+    }
+    if (const auto *combo = qobject_cast<const QComboBox *>(widget)) {
+        for (int index = 0; index < combo->count(); ++index)
+            put(qPrintable(QStringLiteral("item %1").arg(index)), combo->itemText(index));
+    }
+}
+
+Look lookOf(const QWidget *window)
+{
+    Look look;
+    const auto widgets = window->findChildren<QWidget *>();
+    for (const QWidget *widget : widgets) {
+        if (!widget->isVisible() || widget->objectName().isEmpty() ||
+            widget->objectName().startsWith(QLatin1String("qt_")))
+            continue;
+        QString place;
+        for (const QWidget *part = widget; part && part != window; part = part->parentWidget())
+            place.prepend(QLatin1Char('/') + part->objectName());
+        describe(widget, place, &look);
+    }
+    const auto actions = window->findChildren<QAction *>();
+    for (const QAction *action : actions) {
+        if (!action->objectName().isEmpty())
+            look.insert(action->objectName() + QStringLiteral(" action"), action->text());
+    }
+    return look;
+}
+
+} // namespace
+
+/// The window after many changes of the language beside one that was started in it.
+class tst_LanguageChange : public QObject, private WindowFixture
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void looksLikeAStartInIt_data();
+    void looksLikeAStartInIt();
+    void cleanup();
+
+private:
+    void start(int type);
+    /// All five screens and Settings, as they show one after the other.
+    Look walk();
+};
+
+void tst_LanguageChange::initTestCase()
+{
+    setUpProgram();
+    QVERIFY(!programFolder().isEmpty());
+}
+
+void tst_LanguageChange::start(int type)
+{
+    m_pFolder = std::make_unique<DescribedFolder>();
+    addReport("ata.txt", sample("ata-seagate-st31500341as.txt"));
+    startPc(R"({"pauses": false, "settings": {"TempValue": "C", "FirstTimeLaunch": 1}, "disks": [
+        {"number": 0, "model": "A ATA Device", "interface": "IDE", "sectors": 2097152, "report": "ata.txt"}],
+        "partitions": [{"disk": 0, "index": 0, "letter": "C:"}],
+        "volumes": [{"letter": "C", "fileSystem": "NTFS", "total": 900000000, "free": 300000000}]})");
+    g_strApplicationFolder = programFolder();
+    languages::setFlag(type);
+    languages::loadAtStart();
+    makeWindow();
+    waitForRead();
+}
+
+void tst_LanguageChange::cleanup()
+{
+    for (QTranslator &translator : g_App.m_aTranslators)
+        QCoreApplication::removeTranslator(&translator);
+    tearDown();
+}
+
+Look tst_LanguageChange::walk()
+{
+    Look all;
+    const auto add = [&all](const QString &screen, const Look &look) {
+        for (auto entry = look.cbegin(); entry != look.cend(); ++entry)
+            all.insert(screen + entry.key(), entry.value());
+    };
+    add(QStringLiteral("as it stands"), lookOf(m_pWindow.get()));
+    for (const char *button : {"SmartStatusButton", "DiskPartitionButton", "ScanDiskButton",
+                               "CloneDiskButton", "DiskStatusButton"}) {
+        press(button);
+        waitForRead();
+        add(QLatin1String(button), lookOf(m_pWindow.get()));
+    }
+    m_pWindow->OnShowSettings();
+    const auto windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        if (qobject_cast<Settings *>(window) && window->isVisible()) {
+            QTest::qWait(50);
+            add(QStringLiteral("Settings"), lookOf(window));
+            window->hide();
+        }
+    }
+    return all;
+}
+
+void tst_LanguageChange::looksLikeAStartInIt_data()
+{
+    QTest::addColumn<int>("type");
+    for (const languages::Language &language : languages::table)
+        QTest::newRow(language.text) << language.type;
+}
+
+void tst_LanguageChange::looksLikeAStartInIt()
+{
+    QFETCH(int, type);
+    start(type);
+    const Look started = walk();
+    QVERIFY(started.size() > 300);
+    cleanup();
+
+    start((type + 3) % LanguageCount);
+    walk();
+    for (int change = 1; change <= 20; ++change)
+        languages::change((type + change * 7 + 3) % LanguageCount);
+    languages::change(type);
+    QTest::qWait(100);
+    const Look changed = walk();
+    QStringList differences;
+    for (const QString &place : (QSet<QString>(started.keyBegin(), started.keyEnd()) +
+                                 QSet<QString>(changed.keyBegin(), changed.keyEnd()))) {
+        if (started[place] != changed[place])
+            differences << place + QStringLiteral(": ") + started[place] + QStringLiteral(" | ") +
+                               changed[place];
+    }
+    differences.sort();
+    QVERIFY2(differences.isEmpty(), qPrintable(QLatin1Char('\n') + differences.join(QLatin1Char('\n'))));
+}
+
+QTEST_MAIN(tst_LanguageChange)
+#include "tst_LanguageChange.moc"
