@@ -85,6 +85,13 @@ protected:
         QTest::mouseRelease(child<MyButton>(button), Qt::LeftButton);
     }
 
+    /// How often a test that repeats itself does so; HALVANE_ROUNDS asks for another number.
+    static int rounds()
+    {
+        const int asked = qEnvironmentVariableIntValue("HALVANE_ROUNDS");
+        return asked > 0 ? asked : 24;
+    }
+
     template<typename Widget>
     Widget *child(const char *name = "") const
     {

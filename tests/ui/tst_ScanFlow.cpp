@@ -355,10 +355,11 @@ void tst_ScanFlow::overAndOver()
 {
     press("ScanDiskButton");
     select(1);
-    for (int round = 0; round < 24; ++round) {
+    for (int round = 0; round < rounds(); ++round) {
         child<QPushButton>("ScanButton")->click();
         QVERIFY(scanning());
         QTest::qWait(round * 7 % 60);
+        QVERIFY(!toolTipAt(QPoint(30, 30)).isEmpty());
         m_pWindow->OnRefresh();
         m_pWindow->close();
         if (round % 2 == 0) {

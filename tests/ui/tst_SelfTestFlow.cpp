@@ -27,6 +27,7 @@ private slots:
     void anyOtherEndGoesOn();
     void notDuringARefresh();
     void leftRunning();
+    void overAndOver();
 
 private:
     static QByteArray capabilities(const char *name)
@@ -234,6 +235,37 @@ void tst_SelfTestFlow::leftRunning()
     QVERIFY(!g_bSelfTestRunning && !shown("StopTestButton"));
     QTRY_VERIFY(child<QWidget>("m_pResultBox")->isVisible());
     QVERIFY(navigationIs(true));
+}
+
+/// Nothing of one test reaches into the next, whatever ends it, and the window can go in the middle of one.
+void tst_SelfTestFlow::overAndOver()
+{
+    startOn(capabilities("caps-idle-62.txt"), R"(, "selfTest": {"secondsPerMinute": 3600})");
+    for (int round = 0; round < rounds(); ++round) {
+        start(round % 3 == 0 ? "radioButton_3" : "radioButton_2");
+        QCOMPARE(commands(" -t "), round + 1);
+        QVERIFY(g_bSelfTestRunning && navigationIs(false) && shown("StopTestButton"));
+        QTest::qWait(round * 7 % 60);
+        m_pWindow->close();
+        QVERIFY(m_pWindow->isVisible());
+        m_pWindow->findChild<DestinitionWarning *>()->hide();
+        m_pWindow->OnRefresh();
+        if (round % 2 == 0) {
+            child<QPushButton>("StopTestButton")->click();
+            m_pWindow->OnStopConfirm();
+            m_pWindow->CheckShortTestStatus1();
+            QCOMPARE(text("TestStatusValLbl"), QStringLiteral("Test Aborted by User"));
+            QVERIFY(!g_bSelfTestRunning && navigationIs(true) && !shown("StopTestButton"));
+        }
+        waitForRead();
+        press(round % 4 < 2 ? "DiskPartitionButton" : "ScanDiskButton");
+        m_pWindow->OnSwitchConfirm();
+        m_pWindow->CheckShortTestStatus1();
+        waitForRead();
+        press("ScanDiskButton");
+        QVERIFY(shown("frame_2") && !shown("frame_3") && child<QComboBox>("DriveCombobox")->isEnabled());
+    }
+    start("radioButton_2");
 }
 
 QTEST_MAIN(tst_SelfTestFlow)
