@@ -1,6 +1,8 @@
 #include "platform/windows/RawDevices.h"
 
 #include <algorithm>
+#include <cstring>
+#include <vector>
 
 #include <windows.h>
 
@@ -33,6 +35,25 @@ qint64 sizeOf(HANDLE handle)
     return -1;
 }
 
+/// In bytes; 1 where the system does not tell.
+qint64 sectorOf(HANDLE handle)
+{
+    DWORD returned = 0;
+    DISK_GEOMETRY geometry{};
+    const BOOL told = ::DeviceIoControl(handle, IOCTL_DISK_GET_DRIVE_GEOMETRY, nullptr, 0, &geometry,
+                                        sizeof(geometry), &returned, nullptr);
+    return told && geometry.BytesPerSector > 0 ? static_cast<qint64>(geometry.BytesPerSector) : 1;
+}
+
+bool seekTo(HANDLE handle, qint64 byteOffset)
+{
+    LONG high = static_cast<LONG>(byteOffset >> 32);
+    const auto low = static_cast<LONG>(byteOffset & 0xFFFFFFFF);
+    ::SetLastError(NO_ERROR);
+    return ::SetFilePointer(handle, low, &high, FILE_BEGIN) != INVALID_SET_FILE_POINTER ||
+           ::GetLastError() == NO_ERROR;
+}
+
 } // namespace
 
 Platform::RawHandle RawDevices::open(const QString &name, quint32 access, quint32 shareMode,
@@ -44,6 +65,7 @@ Platform::RawHandle RawDevices::open(const QString &name, quint32 access, quint3
         return Platform::InvalidHandle;
     auto device = std::make_shared<Device>();
     device->size = sizeOf(handle);
+    device->sector = sectorOf(handle);
     const auto key = reinterpret_cast<Platform::RawHandle>(handle);
     const std::lock_guard<std::mutex> guard(m_mutex);
     m_open.insert(key, device);
@@ -59,13 +81,8 @@ std::shared_ptr<RawDevices::Device> RawDevices::find(Platform::RawHandle handle)
 bool RawDevices::seek(Platform::RawHandle handle, qint64 byteOffset)
 {
     const auto device = find(handle);
-    if (!device || byteOffset < 0)
-        return false;
-    LONG high = static_cast<LONG>(byteOffset >> 32);
-    const auto low = static_cast<LONG>(byteOffset & 0xFFFFFFFF);
-    ::SetLastError(NO_ERROR);
-    if (::SetFilePointer(native(handle), low, &high, FILE_BEGIN) == INVALID_SET_FILE_POINTER &&
-        ::GetLastError() != NO_ERROR)
+    // A volume takes no place within a sector.
+    if (!device || byteOffset < 0 || !seekTo(native(handle), byteOffset / device->sector * device->sector))
         return false;
     device->position = byteOffset;
     return true;
@@ -79,12 +96,45 @@ quint32 RawDevices::cut(const Device &device, quint32 bytes)
     return static_cast<quint32>(std::min<qint64>(left, bytes));
 }
 
+bool RawDevices::readWithinSectors(Platform::RawHandle handle, Device *device, char *out, quint32 bytes)
+{
+    constexpr qint64 SectorsAtOnce = 16;
+    const qint64 end = device->position + bytes;
+    std::vector<char> whole(static_cast<std::size_t>(SectorsAtOnce * device->sector));
+    qint64 at = device->position;
+    qint64 first = device->sectorStart();
+    bool done = true;
+    while (done && at < end) {
+        const qint64 sectors = std::min((end - first + device->sector - 1) / device->sector, SectorsAtOnce);
+        const auto wanted = static_cast<DWORD>(sectors * device->sector);
+        DWORD got = 0;
+        done = ::ReadFile(native(handle), whole.data(), wanted, &got, nullptr) && got == wanted;
+        if (done) {
+            const qint64 useful = std::min(first + wanted, end) - at;
+            std::memcpy(out, whole.data() + (at - first), static_cast<std::size_t>(useful));
+            out += useful;
+            at += useful;
+            first += wanted;
+        }
+    }
+    if (done)
+        device->position = end;
+    seekTo(native(handle), device->sectorStart());
+    return done;
+}
+
 bool RawDevices::read(Platform::RawHandle handle, void *buffer, quint32 bytes, quint32 *transferred)
 {
     if (transferred)
         *transferred = 0;
     const auto device = find(handle);
     const quint32 wanted = device ? cut(*device, bytes) : 0;
+    if (wanted != 0 && !device->isWhole(wanted)) {
+        const bool done = readWithinSectors(handle, device.get(), static_cast<char *>(buffer), wanted);
+        if (done && transferred)
+            *transferred = wanted;
+        return done;
+    }
     DWORD got = 0;
     // A file that stands for a disk succeeds with nothing at its end.
     if (wanted == 0 || !::ReadFile(native(handle), buffer, wanted, &got, nullptr) || got == 0)
@@ -102,7 +152,8 @@ bool RawDevices::write(Platform::RawHandle handle, const void *buffer, quint32 b
     const auto device = find(handle);
     const quint32 wanted = device ? cut(*device, bytes) : 0;
     DWORD put = 0;
-    if (wanted == 0 || !::WriteFile(native(handle), buffer, wanted, &put, nullptr))
+    if (wanted == 0 || !device->isWhole(wanted) ||
+        !::WriteFile(native(handle), buffer, wanted, &put, nullptr))
         return false;
     device->position += put;
     if (transferred)
