@@ -8,7 +8,8 @@
 #include <comdef.h>
 #include <taskschd.h>
 
-// The headers of mingw-w64 lack this interface of the system.
+// The headers of mingw-w64 lack this interface of the system; later ones may have it.
+#ifndef __ILogonTrigger_INTERFACE_DEFINED__
 DEFINE_GUID(IID_ILogonTrigger, 0x72dade38, 0xfae4, 0x4b3e, 0xba, 0xf4, 0x5d, 0x00, 0x9a, 0xf0, 0x2b, 0x1c);
 
 struct ILogonTrigger : public ITrigger {
@@ -17,6 +18,7 @@ struct ILogonTrigger : public ITrigger {
     virtual HRESULT STDMETHODCALLTYPE get_UserId(BSTR *user) = 0;
     virtual HRESULT STDMETHODCALLTYPE put_UserId(BSTR user) = 0;
 };
+#endif
 
 namespace windows
 {
@@ -174,8 +176,8 @@ bool create(const LogonTask &task)
 
 void initializeCom()
 {
-    if (!succeeded(::CoInitialize(nullptr), "\nCoInitializeEx failed: %x"))
-        return;
+    // A thread that has COM in another mode still gets the security.
+    succeeded(::CoInitialize(nullptr), "\nCoInitializeEx failed: %x");
     if (!succeeded(::CoInitializeSecurity(nullptr, -1, nullptr, nullptr, RPC_C_AUTHN_LEVEL_PKT_PRIVACY,
                                           RPC_C_IMP_LEVEL_IMPERSONATE, nullptr, 0, nullptr),
                    "\nCoInitializeSecurity failed: %x"))
