@@ -25,6 +25,8 @@ namespace
 
 /// Characters of the buffers that folders are read into.
 constexpr DWORD PathCharacters = 512;
+constexpr DWORD UserNameCharacters = 257;
+constexpr DWORD DriveStringCharacters = 260;
 
 const wchar_t *wide(const QString &text)
 {
@@ -84,10 +86,10 @@ void WindowsPlatform::CloseHandle(RawHandle handle)
 
 QStringList WindowsPlatform::GetLogicalDriveStringsW()
 {
-    const DWORD needed = ::GetLogicalDriveStringsW(0, nullptr);
-    std::vector<wchar_t> buffer(needed + 1, L'\0');
-    const DWORD length = ::GetLogicalDriveStringsW(needed, buffer.data());
-    if (length == 0 || length > needed)
+    // Room for all letters: a list that is measured first may have grown by a volume that just came.
+    std::array<wchar_t, DriveStringCharacters> buffer{};
+    const DWORD length = ::GetLogicalDriveStringsW(DriveStringCharacters, buffer.data());
+    if (length == 0 || length >= DriveStringCharacters)
         return {};
     return QString::fromWCharArray(buffer.data(), static_cast<int>(length))
         .split(QChar(u'\0'), Qt::SkipEmptyParts);
@@ -152,7 +154,9 @@ bool WindowsPlatform::ShellExecuteW(const QString &file, const QString &paramete
                                     Show show)
 {
     constexpr INT_PTR LastError = 32;
-    const HINSTANCE result = ::ShellExecuteW(nullptr, verb.isEmpty() ? nullptr : wide(verb), wide(file),
+    // Not every program that opens a document takes slashes; an address keeps its own.
+    const QString target = QDir::isAbsolutePath(file) ? NativePath(file) : file;
+    const HINSTANCE result = ::ShellExecuteW(nullptr, verb.isEmpty() ? nullptr : wide(verb), wide(target),
                                              parameters.isEmpty() ? nullptr : wide(parameters), nullptr,
                                              show == Show::Maximised ? SW_SHOWMAXIMIZED : SW_SHOWNORMAL);
     return reinterpret_cast<INT_PTR>(result) > LastError;
@@ -183,8 +187,8 @@ QString WindowsPlatform::GetSystemDirectoryW()
 
 QString WindowsPlatform::GetUserNameW()
 {
-    std::array<wchar_t, PathCharacters> buffer{};
-    DWORD length = PathCharacters;
+    std::array<wchar_t, UserNameCharacters> buffer{};
+    DWORD length = UserNameCharacters;
     return ::GetUserNameW(buffer.data(), &length) ? QString::fromWCharArray(buffer.data()) : QString();
 }
 
