@@ -25,7 +25,7 @@ QCheckUpdate *checkForUpdates(QWidget *owner)
     if (opensPageInstead()) {
         const QString page =
             SettingsStore().text(key::ofLanguage(QStringLiteral("CN"), QStringLiteral("CN_Update_Lnk")));
-        Platform::current().ShellExecuteW(page, QString(), QStringLiteral("open"));
+        Platform::current().ShellExecuteW(page, QString(), QStringLiteral("open"), Platform::Show::Maximised);
         return nullptr;
     }
     m_bManualCheck = true;
