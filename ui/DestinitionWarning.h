@@ -20,5 +20,8 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    void translateTexts();
+
     DialogFrame m_Frame;
+    bool m_bTextsSet = false;
 };

@@ -249,6 +249,9 @@ void tst_ScanFlow::closingAndRefreshing()
     auto *panel = m_pWindow->findChild<DestinitionWarning *>();
     QVERIFY(panel->isVisible());
     QCOMPARE(panel->WarningTxtLbl->text(), QStringLiteral("Disk scan running."));
+    QEvent change(QEvent::LanguageChange);
+    QCoreApplication::sendEvent(panel, &change);
+    QCOMPARE(panel->WarningTxtLbl->text(), QStringLiteral("Disk scan running."));
     m_pWindow->Onyes();
     QCOMPARE(panel->WarningTxtLbl->text(), QStringLiteral("Scaning Running."));
     // Until the drive has answered a stopped scan still keeps the window.
