@@ -63,6 +63,8 @@ public:
     void ShowPartitions(BitLockerMark mark);
     /// Has the report of a physical disk read in the background.
     void RequestSmartRead(int diskIndex);
+    /// Whether a scan, a clone or a self-test runs or has yet to come to its end: the program must not end.
+    bool jobRuns() const;
     /// Starts the companion unless it runs.
     void CheckCompanionRunning();
 
@@ -282,7 +284,6 @@ private:
 
     /// \name Closing
     /// @{
-    bool jobRuns() const;
     void showRunningPanel(bool fromYes);
     void launchSibling(const QString &fileName);
     /// @}

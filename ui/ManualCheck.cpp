@@ -4,6 +4,7 @@
 #include "app/state/Globals.h"
 #include "app/state/SettingsStore.h"
 #include "platform/Platform.h"
+#include "ui/MainWindow.h"
 #include "ui/QCheckUpdate.h"
 #include "ui/Style.h"
 #include "update/UpdateGlobals.h"
@@ -20,7 +21,9 @@ bool opensPageInstead()
 
 QCheckUpdate *checkForUpdates(QWidget *owner)
 {
-    if (g_bJobRunning || g_bSelfTestRunning || g_bScanStarted)
+    // An update that is taken ends the program.
+    if (g_bJobRunning || g_bSelfTestRunning || g_bScanStarted ||
+        (::m_pMainWindow && ::m_pMainWindow->jobRuns()))
         return nullptr;
     if (opensPageInstead()) {
         const QString page =

@@ -77,6 +77,8 @@ void SelfTestPanel::alignNames()
     int widest = 0;
     for (QLabel *name : names) {
         name->ensurePolished();
+        // The hint of a label is never below the width that the language before asked for.
+        name->setMinimumWidth(0);
         widest = std::max(widest, name->sizeHint().width());
     }
     for (QLabel *name : names)

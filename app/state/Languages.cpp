@@ -96,8 +96,10 @@ void loadAtStart()
 void change(int type)
 {
     setFlag(type);
-    for (const QString &path :
-         {g_App.m_strSettingsPath, g_App.m_strSiblingKey1, g_App.m_strSiblingKey2, g_App.m_strSiblingKey3})
+    QStringList stores{g_App.m_strSettingsPath};
+    if (g_App.m_bWriteSiblingLanguage)
+        stores << g_App.m_strSiblingKey1 << g_App.m_strSiblingKey2 << g_App.m_strSiblingKey3;
+    for (const QString &path : stores)
         SettingsStore(path).writeText(key::LanguageType, QString::number(type));
     for (const Language &language : table) {
         if (language.type == type)

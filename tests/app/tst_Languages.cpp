@@ -100,6 +100,7 @@ void tst_Languages::changeIsKept()
     FakePlatform::install();
     g_App.m_strSettingsPath = QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\Own");
     g_App.m_strSiblingKey2 = QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\Sibling");
+    g_App.m_bWriteSiblingLanguage = true;
     for (const int type : {7, 7, 0, 10}) {
         languages::change(type);
         QCOMPARE(languages::current().type, type);
@@ -109,6 +110,10 @@ void tst_Languages::changeIsKept()
             QCOMPARE(stored.toString(), QString::number(type));
         }
     }
+    g_App.m_bWriteSiblingLanguage = false;
+    languages::change(1);
+    QCOMPARE(Platform::current().OpenSettings(g_App.m_strSiblingKey2)->value(key::LanguageType).toString(),
+             QStringLiteral("10"));
     g_App.m_strSiblingKey2.clear();
 }
 

@@ -5,6 +5,7 @@
 #include "ui/ConfarmetionClass.h"
 #include "ui/DestinitionWarning.h"
 #include "ui/InfoDialogClass.h"
+#include "ui/ManualCheck.h"
 #include "ui/QRoundProgressBar.h"
 #include "ui/ScanSwitchClass.h"
 
@@ -330,6 +331,7 @@ void tst_CloneFlow::stops()
     m_pWindow->OnRefresh();
     m_pWindow->Onyes();
     QVERIFY(locked() && !g_bListsLoading);
+    QVERIFY(!checkForUpdates(m_pWindow.get()));
     QCOMPARE(dialog<DestinitionWarning>()->WarningTxtLbl->text(), QStringLiteral("Clone Running."));
     waitForEnd();
     QCOMPARE(commands("diskpart"), 5);

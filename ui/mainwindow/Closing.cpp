@@ -2,7 +2,6 @@
 
 #include "app/state/GlobalApp.h"
 #include "app/state/Globals.h"
-#include "app/state/SettingsStore.h"
 #include "platform/Platform.h"
 #include "ui/CloneDisk.h"
 #include "ui/CloseWgt.h"

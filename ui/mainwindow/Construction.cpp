@@ -112,7 +112,11 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent), m_drag(this, Titl
     checkAtStart();
 }
 
-MainWindow::~MainWindow() = default;
+MainWindow::~MainWindow()
+{
+    if (::m_pMainWindow == this)
+        ::m_pMainWindow = nullptr;
+}
 
 void MainWindow::scaleGeometry()
 {
