@@ -10,7 +10,6 @@
 
 #include <QEvent>
 
-#include <algorithm>
 #include <initializer_list>
 
 namespace
@@ -95,12 +94,7 @@ void CloneDisk::setFixedTexts()
     SourceDisk->setText(tr("Source Disk"));
     TargetDiskLbl->setText(tr("Target Disk"));
     TimeLabel2->setText(tr("Remaining Time"));
-    // The hint of a label is never below the width that the language before asked for.
-    SourceDisk->setMinimumWidth(0);
-    TargetDiskLbl->setMinimumWidth(0);
-    const int widest = std::max(SourceDisk->sizeHint().width(), TargetDiskLbl->sizeHint().width());
-    SourceDisk->setMinimumWidth(widest);
-    TargetDiskLbl->setMinimumWidth(widest);
+    pagelook::alignNames({SourceDisk, TargetDiskLbl});
 }
 
 void CloneDisk::RefreshSourceDetails(const DiskNode *pNode)

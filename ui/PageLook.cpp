@@ -8,6 +8,8 @@
 #include <QLabel>
 #include <QScrollBar>
 
+#include <algorithm>
+
 namespace pagelook
 {
 
@@ -52,6 +54,19 @@ void styleValues(std::initializer_list<QLabel *> labels)
         // Set by hand it takes the place of the text's own width.
         label->setMinimumWidth(1);
     }
+}
+
+void alignNames(std::initializer_list<QLabel *> labels)
+{
+    int widest = 0;
+    for (QLabel *label : labels) {
+        label->ensurePolished();
+        // The hint of a label is never below the width that the texts before asked for.
+        label->setMinimumWidth(0);
+        widest = std::max(widest, label->sizeHint().width());
+    }
+    for (QLabel *label : labels)
+        label->setMinimumWidth(widest);
 }
 
 void styleCard(QFrame *frame)

@@ -22,6 +22,10 @@ void styleNames(std::initializer_list<QLabel *> labels);    ///< semibold 10 poi
 /// 10 point, grey; plain text that can be wider than its room without pushing its neighbours away.
 void styleValues(std::initializer_list<QLabel *> labels);
 
+/// Gives the labels the width of the widest, so that what stands behind them is aligned. Call it again when
+/// their texts change.
+void alignNames(std::initializer_list<QLabel *> labels);
+
 /// A white card with a hairline border and round corners.
 void styleCard(QFrame *frame);
 

@@ -7,8 +7,6 @@
 #include <QCoreApplication>
 #include <QEvent>
 
-#include <algorithm>
-
 namespace
 {
 
@@ -70,24 +68,10 @@ SelfTestPanel::SelfTestPanel(QWidget *parent) : QWidget(parent)
     showTexts();
 }
 
-/// The names of the two cards share a column.
-void SelfTestPanel::alignNames()
-{
-    const auto names = {TestModelLbl, TestSerialLbl, TestStatusLbl};
-    int widest = 0;
-    for (QLabel *name : names) {
-        name->ensurePolished();
-        // The hint of a label is never below the width that the language before asked for.
-        name->setMinimumWidth(0);
-        widest = std::max(widest, name->sizeHint().width());
-    }
-    for (QLabel *name : names)
-        name->setMinimumWidth(widest);
-}
-
 void SelfTestPanel::showTexts()
 {
-    alignNames();
+    // The names of the two cards share a column.
+    pagelook::alignNames({TestModelLbl, TestSerialLbl, TestStatusLbl});
     TestNameLbl->setText(nameOf(m_kind));
     TestBarLbl->setText(nameOf(m_kind));
     const StatusLook &look = StatusLooks[static_cast<std::size_t>(m_status)];

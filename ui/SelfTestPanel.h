@@ -35,7 +35,6 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    void alignNames();
     void showTexts();
 
     std::optional<SelfTestKind> m_kind;

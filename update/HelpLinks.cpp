@@ -28,12 +28,6 @@ constexpr std::array<const char *, 7> Pages{"about-velmora-halvane",
                                             "getting-familiar-with-settings",
                                             "getting-familiar-with-user-interface"};
 
-QString ofLanguage(const char *name)
-{
-    return SettingsStore().text(
-        key::ofLanguage(QLatin1String(languages::current().folder), QLatin1String(name)));
-}
-
 QString endpoint()
 {
     const QString own = SettingsStore().text(key::HelpEndpoint);
@@ -46,9 +40,9 @@ QString helpPage(Topic topic)
 {
     if (!g_App.m_bStandalone) {
         if (g_App.m_bJapanese)
-            return ofLanguage("HelpLink_JA");
+            return languages::storedText(QStringLiteral("HelpLink_JA"));
         if (g_App.m_bKorean)
-            return ofLanguage("HelpLink_KO");
+            return languages::storedText(QStringLiteral("HelpLink_KO"));
     }
     const QLatin1String code(HelpCodes[static_cast<size_t>(languages::current().type)]);
     if (code.isEmpty())
@@ -66,18 +60,18 @@ QString helpFile()
 
 QString supportAddress()
 {
-    return ofLanguage("SupportLink");
+    return languages::storedText(QStringLiteral("SupportLink"));
 }
 
 QString supportName()
 {
-    return ofLanguage("SupportName");
+    return languages::storedText(QStringLiteral("SupportName"));
 }
 
 QString agreement()
 {
     if (g_App.m_bJapanese)
-        return ofLanguage("EulaLink_JA");
+        return languages::storedText(QStringLiteral("EulaLink_JA"));
     return g_App.m_strAppFolderCopy +
            QStringLiteral("/VelmoraHalvane_License_%1.pdf").arg(QLatin1String(languages::current().folder));
 }

@@ -13,11 +13,6 @@ namespace
 
 constexpr int UsualSize = 0xA00000; ///< bytes
 
-QString ofLanguage(const QString &name)
-{
-    return SettingsStore().text(key::ofLanguage(QLatin1String(languages::current().folder), name));
-}
-
 QString brand()
 {
     return g_App.m_bKorvaneBrand ? QStringLiteral("KorvaneHalvane") : QStringLiteral("VelmoraHalvane");
@@ -27,12 +22,12 @@ QString brand()
 
 QString link()
 {
-    return ofLanguage(QStringLiteral("rxUpdateLink"));
+    return languages::storedText(QStringLiteral("rxUpdateLink"));
 }
 
 QString page()
 {
-    return ofLanguage(QStringLiteral("rxUpdate"));
+    return languages::storedText(QStringLiteral("rxUpdate"));
 }
 
 QString versionsName()

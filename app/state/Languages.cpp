@@ -47,6 +47,11 @@ const Language &current()
     return table.front();
 }
 
+QString storedText(const QString &name)
+{
+    return SettingsStore().text(key::ofLanguage(QLatin1String(current().folder), name));
+}
+
 void setFlag(int type)
 {
     for (const Language &language : table)

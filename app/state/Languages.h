@@ -25,6 +25,10 @@ extern const std::array<Language, LanguageCount> table;
 /// The language whose flag is set; English where none is.
 const Language &current();
 
+/// A setting that exists once for each language, such as "rxUpdateLink", in the language in use. Main thread
+/// only.
+QString storedText(const QString &name);
+
 /// Clears all flags and sets that of `type`; none for a value outside the table.
 void setFlag(int type);
 
