@@ -60,6 +60,11 @@ public:
     /// The codes and records of platform/IoControl.h.
     virtual bool DeviceIoControl(RawHandle handle, quint32 code, const void *in, quint32 inSize, void *out,
                                  quint32 outSize, quint32 *returned) = 0;
+    /// Returns when all that was written lies on the medium. False where the device does not confirm that.
+    virtual bool FlushFileBuffers(RawHandle handle) = 0;
+    /// Whether the device or its medium is no longer there: pulled out, switched off, or another one by now.
+    /// Asks the system, not the medium, so that it takes no time; to be asked behind a transfer that failed.
+    virtual bool IsGone(RawHandle handle) = 0;
     virtual void CloseHandle(RawHandle handle) = 0;
     /// @}
 

@@ -186,6 +186,18 @@ bool LinuxPlatform::DeviceIoControl(RawHandle handle, quint32 code, const void *
     }
 }
 
+bool LinuxPlatform::FlushFileBuffers(RawHandle handle)
+{
+    const auto open = find(handle);
+    return open && open->device->flush();
+}
+
+bool LinuxPlatform::IsGone(RawHandle handle)
+{
+    const auto open = find(handle);
+    return !open || open->device->isGone();
+}
+
 void LinuxPlatform::CloseHandle(RawHandle handle)
 {
     std::shared_ptr<OpenDevice>

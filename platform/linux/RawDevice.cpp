@@ -101,6 +101,7 @@ RawDevice::RawDevice(int descriptor, bool direct, bool writable)
         m_size = status.st_size;
         return;
     }
+    m_medium = mediumOf(m_descriptor);
     quint64 bytes = 0;
     if (ioctl(m_descriptor, BLKGETSIZE64, &bytes) == 0)
         m_size = static_cast<qint64>(bytes);
@@ -111,10 +112,32 @@ RawDevice::RawDevice(int descriptor, bool direct, bool writable)
 
 RawDevice::~RawDevice()
 {
-    // What the drive itself holds back is out before the program says that it is done.
-    if (m_written)
-        fdatasync(m_descriptor);
+    flush();
     ::close(m_descriptor);
+}
+
+bool RawDevice::flush()
+{
+    return !m_written || fdatasync(m_descriptor) == 0;
+}
+
+bool RawDevice::isGone() const
+{
+    quint64 bytes = 0;
+    struct stat status = {};
+    if (fstat(m_descriptor, &status) != 0)
+        return true;
+    if (!S_ISBLK(status.st_mode))
+        return status.st_size == 0 && m_size != 0;
+    if (ioctl(m_descriptor, BLKGETSIZE64, &bytes) != 0 || (bytes == 0 && m_size != 0) ||
+        mediumOf(m_descriptor) != m_medium)
+        return true;
+    // A disk that was pulled out keeps its size where the kernel is old, but opens no more.
+    const int again = openNode("/proc/self/fd/" + QByteArray::number(m_descriptor), O_RDONLY);
+    const bool gone = again < 0 && (errno == ENXIO || errno == ENODEV || errno == ENOMEDIUM);
+    if (again >= 0)
+        ::close(again);
+    return gone;
 }
 
 quint64 RawDevice::medium() const

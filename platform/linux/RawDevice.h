@@ -33,6 +33,10 @@ public:
     /// The first call opens the node for writing; -1 too where that fails, or where another device stands
     /// behind the node by now.
     qint64 write(const void *buffer, quint32 bytes);
+    /// Returns when all that was written lies on the medium; false where the device does not confirm that.
+    bool flush();
+    /// Whether the device or the medium that was opened is no longer there.
+    bool isGone() const;
 
 private:
     struct Free {
@@ -54,6 +58,7 @@ private:
     bool m_written = false; ///< the descriptor is one for writing
     std::unique_ptr<char, Free> m_buffer;
     qint64 m_size = 0;
+    quint64 m_medium = 0; ///< as it was opened
     quint32 m_bytesPerSector = 512;
     qint64 m_position = 0;
 };

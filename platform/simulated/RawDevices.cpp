@@ -161,6 +161,12 @@ std::shared_ptr<RawDevices::Device> RawDevices::find(Platform::RawHandle handle)
     return m_devices.value(handle);
 }
 
+bool RawDevices::isGone(Platform::RawHandle handle)
+{
+    const std::shared_ptr<Device> device = find(handle);
+    return !device || !isThere(*device);
+}
+
 void RawDevices::close(Platform::RawHandle handle)
 {
     const QMutexLocker lock(&m_mutex);

@@ -132,6 +132,16 @@ bool SimulatedPlatform::DeviceIoControl(RawHandle handle, quint32 code, const vo
     return m_devices.control(handle, code, in, inSize, out, outSize, returned);
 }
 
+bool SimulatedPlatform::FlushFileBuffers(RawHandle handle)
+{
+    return !m_devices.isGone(handle); // transfers go to the image at once
+}
+
+bool SimulatedPlatform::IsGone(RawHandle handle)
+{
+    return m_devices.isGone(handle);
+}
+
 void SimulatedPlatform::CloseHandle(RawHandle handle)
 {
     m_devices.close(handle);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <iterator>
 #include <vector>
 
 #include <windows.h>
@@ -43,6 +44,24 @@ qint64 sectorOf(HANDLE handle)
     const BOOL told = ::DeviceIoControl(handle, IOCTL_DISK_GET_DRIVE_GEOMETRY, nullptr, 0, &geometry,
                                         sizeof(geometry), &returned, nullptr);
     return told && geometry.BytesPerSector > 0 ? static_cast<qint64>(geometry.BytesPerSector) : 1;
+}
+
+/// Whether an error tells that the device or its medium is not there.
+bool isOfMissingDevice(DWORD error)
+{
+    constexpr DWORD Missing[] = {
+        ERROR_BAD_UNIT,
+        ERROR_NOT_READY,
+        ERROR_DEV_NOT_EXIST,
+        ERROR_NO_SUCH_DEVICE,
+        ERROR_FILE_INVALID,
+        ERROR_MEDIA_CHANGED,
+        ERROR_NO_MEDIA_IN_DRIVE,
+        ERROR_DEVICE_REMOVED,
+        ERROR_DEVICE_NOT_CONNECTED,
+        ERROR_DEVICE_NOT_AVAILABLE,
+    };
+    return std::find(std::begin(Missing), std::end(Missing), error) != std::end(Missing);
 }
 
 bool seekTo(HANDLE handle, qint64 byteOffset)
@@ -171,6 +190,20 @@ bool RawDevices::control(Platform::RawHandle handle, quint32 code, const void *i
     if (returned)
         *returned = static_cast<quint32>(count);
     return done != FALSE;
+}
+
+bool RawDevices::flush(Platform::RawHandle handle)
+{
+    // A driver that has no such request keeps nothing back.
+    return find(handle) && (::FlushFileBuffers(native(handle)) || ::GetLastError() == ERROR_INVALID_FUNCTION);
+}
+
+bool RawDevices::isGone(Platform::RawHandle handle)
+{
+    DWORD returned = 0;
+    return !find(handle) || (!::DeviceIoControl(native(handle), IOCTL_STORAGE_CHECK_VERIFY, nullptr, 0,
+                                                nullptr, 0, &returned, nullptr) &&
+                             isOfMissingDevice(::GetLastError()));
 }
 
 void RawDevices::close(Platform::RawHandle handle)

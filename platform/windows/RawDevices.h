@@ -23,6 +23,8 @@ public:
     bool write(Platform::RawHandle handle, const void *buffer, quint32 bytes, quint32 *transferred);
     bool control(Platform::RawHandle handle, quint32 code, const void *in, quint32 inSize, void *out,
                  quint32 outSize, quint32 *returned);
+    bool flush(Platform::RawHandle handle);
+    bool isGone(Platform::RawHandle handle);
     void close(Platform::RawHandle handle);
 
 private:

@@ -77,6 +77,16 @@ bool WindowsPlatform::DeviceIoControl(RawHandle handle, quint32 code, const void
     return m_devices.control(handle, code, in, inSize, out, outSize, returned);
 }
 
+bool WindowsPlatform::FlushFileBuffers(RawHandle handle)
+{
+    return m_devices.flush(handle);
+}
+
+bool WindowsPlatform::IsGone(RawHandle handle)
+{
+    return m_devices.isGone(handle);
+}
+
 void WindowsPlatform::CloseHandle(RawHandle handle)
 {
     m_devices.close(handle);

@@ -16,6 +16,8 @@ public:
     bool WriteFile(RawHandle handle, const void *buffer, quint32 bytes, quint32 *transferred) override;
     bool DeviceIoControl(RawHandle handle, quint32 code, const void *in, quint32 inSize, void *out,
                          quint32 outSize, quint32 *returned) override;
+    bool FlushFileBuffers(RawHandle handle) override;
+    bool IsGone(RawHandle handle) override;
     void CloseHandle(RawHandle handle) override;
 
     QStringList GetLogicalDriveStringsW() override;

@@ -134,13 +134,20 @@ void tst_LinuxPlatform::rawDisk()
     checkReads(*pc, handle);
     QCOMPARE(contentOf(image), pattern());
     checkWrites(*pc, handle);
-    pc->CloseHandle(handle);
+    QVERIFY(pc->FlushFileBuffers(handle));
 
     QByteArray expected = pattern();
     expected.replace(3 * SectorSize, 2 * SectorSize, QByteArray(2 * SectorSize, 'w'));
     expected.replace((Sectors - 1) * SectorSize, SectorSize, QByteArray(SectorSize, 'w'));
     QCOMPARE(contentOf(image).size(), expected.size());
     QCOMPARE(contentOf(image), expected);
+
+    QVERIFY(!pc->IsGone(handle));
+    QVERIFY(QFile::resize(image, 0));
+    if (loop)
+        QVERIFY(runs(QStringLiteral("losetup"), {QStringLiteral("-c"), device->node()}));
+    QVERIFY(pc->IsGone(handle));
+    pc->CloseHandle(handle);
 }
 
 void tst_LinuxPlatform::checkReads(Platform &pc, Platform::RawHandle handle)

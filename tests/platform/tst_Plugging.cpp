@@ -203,6 +203,7 @@ void TestPlugging::openHandlesFail()
     QCOMPARE(transfers(), QVector<bool>(3, true));
     touch({touched});
     QCOMPARE(transfers(), QVector<bool>(3, !fails));
+    QCOMPARE(m_pc->IsGone(handle), fails);
     m_pc->CloseHandle(handle);
 }
 

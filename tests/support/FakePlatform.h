@@ -28,6 +28,7 @@ public:
         quint32 bytesPerSector = 512;
         qint64 size = -1; ///< in bytes; -1: as long as `bytes`
         bool opens = true;
+        bool gone = false;       ///< pulled out: refuses every transfer
         bool hasSize = true;     ///< false: the extended geometry is refused
         QSet<qint64> badSectors; ///< reads that touch one fail
         QSet<qint64> unwritable; ///< writes that touch one fail
@@ -167,6 +168,11 @@ public:
         return true;
     }
 
+    bool FlushFileBuffers(RawHandle handle) override { return !IsGone(handle); }
+    bool IsGone(RawHandle handle) override
+    {
+        return !m_handles.contains(handle) || find(m_handles[handle].name)->gone;
+    }
     void CloseHandle(RawHandle handle) override { m_handles.remove(handle); }
 
     QStringList GetLogicalDriveStringsW() override
@@ -297,7 +303,7 @@ private:
         Handle &open = m_handles[handle];
         Disk *disk = find(open.name);
         const qint64 length = qMin<qint64>(bytes, disk->length() - open.position);
-        if (length <= 0 || !copy(disk, open.position, int(length)))
+        if (disk->gone || length <= 0 || !copy(disk, open.position, int(length)))
             return false;
         open.position += length;
         if (transferred)

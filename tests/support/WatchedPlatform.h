@@ -20,6 +20,7 @@ public:
     std::function<void(const QString &line)> onCommand;
     /// `sector` of the device, `bytes` as they were asked for.
     std::function<void(bool isWrite, qint64 sector, quint32 bytes)> onTransfer;
+    std::function<bool()> onFlush; ///< false: what was written is not confirmed
 
     bool pauses = true; ///< false: Sleep() takes no time
 
@@ -58,6 +59,11 @@ public:
     {
         return m_inner->DeviceIoControl(handle, code, in, inSize, out, outSize, returned);
     }
+    bool FlushFileBuffers(RawHandle handle) override
+    {
+        return m_inner->FlushFileBuffers(handle) && (!onFlush || onFlush());
+    }
+    bool IsGone(RawHandle handle) override { return m_inner->IsGone(handle); }
     void CloseHandle(RawHandle handle) override
     {
         const QMutexLocker lock(&m_mutex);
