@@ -49,11 +49,12 @@ qint64 sectorOf(HANDLE handle)
 /// Whether an error tells that the device or its medium is not there.
 bool isOfMissingDevice(DWORD error)
 {
+    constexpr DWORD NoSuchDevice = 433; // which older headers lack
     constexpr DWORD Missing[] = {
         ERROR_BAD_UNIT,
         ERROR_NOT_READY,
         ERROR_DEV_NOT_EXIST,
-        ERROR_NO_SUCH_DEVICE,
+        NoSuchDevice,
         ERROR_FILE_INVALID,
         ERROR_MEDIA_CHANGED,
         ERROR_NO_MEDIA_IN_DRIVE,
