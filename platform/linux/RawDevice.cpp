@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdint>
-#include <cstring>
 #include <fcntl.h>
 #include <linux/fs.h>
 #include <sys/ioctl.h>
@@ -14,9 +13,6 @@
 
 namespace
 {
-
-constexpr qint64 BufferSize = 1024 * 1024;
-constexpr size_t BufferAlignment = 4096;
 
 /// Repeats pread or pwrite until all is done.
 template<typename Call, typename Byte>
@@ -160,50 +156,7 @@ qint64 RawDevice::bytesToEnd(quint32 bytes) const
 
 bool RawDevice::passes(const void *buffer, qint64 bytes) const
 {
-    const auto address = reinterpret_cast<std::uintptr_t>(buffer);
-    return !m_direct || (address % BufferAlignment == 0 && m_position % m_bytesPerSector == 0 &&
-                         bytes % m_bytesPerSector == 0);
-}
-
-char *RawDevice::alignedBuffer()
-{
-    void *memory = nullptr;
-    if (!m_buffer && posix_memalign(&memory, BufferAlignment, BufferSize) == 0)
-        m_buffer.reset(static_cast<char *>(memory));
-    return m_buffer.get();
-}
-
-bool RawDevice::readThroughBuffer(char *out, qint64 bytes)
-{
-    char *buffer = alignedBuffer();
-    const qint64 sector = m_bytesPerSector;
-    const qint64 end = m_position + bytes;
-    for (qint64 at = m_position; buffer && at < end;) {
-        const qint64 first = at / sector * sector;
-        const qint64 last = std::min((end + sector - 1) / sector * sector, first + BufferSize);
-        if (!transferAll(pread, m_descriptor, buffer, last - first, first))
-            return false;
-        const qint64 useful = std::min(last, end) - at;
-        std::memcpy(out, buffer + (at - first), static_cast<size_t>(useful));
-        out += useful;
-        at += useful;
-    }
-    return buffer != nullptr;
-}
-
-bool RawDevice::writeThroughBuffer(const char *in, qint64 bytes)
-{
-    char *buffer = alignedBuffer();
-    if (!buffer || m_position % m_bytesPerSector != 0 || bytes % m_bytesPerSector != 0)
-        return false;
-    for (qint64 done = 0; done < bytes;) {
-        const qint64 count = std::min(bytes - done, BufferSize);
-        std::memcpy(buffer, in + done, static_cast<size_t>(count));
-        if (!transferAll(pwrite, m_descriptor, buffer, count, m_position + done))
-            return false;
-        done += count;
-    }
-    return true;
+    return !m_direct || AlignedBuffer::takes(buffer, m_position, bytes, m_bytesPerSector);
 }
 
 qint64 RawDevice::read(void *buffer, quint32 bytes)
@@ -212,8 +165,11 @@ qint64 RawDevice::read(void *buffer, quint32 bytes)
     if (wanted <= 0)
         return -1;
     auto *out = static_cast<char *>(buffer);
-    const bool done = passes(buffer, wanted) ? transferAll(pread, m_descriptor, out, wanted, m_position)
-                                             : readThroughBuffer(out, wanted);
+    const auto move = [this](char *memory, qint64 offset, qint64 count) {
+        return transferAll(pread, m_descriptor, memory, count, offset);
+    };
+    const bool done = passes(buffer, wanted) ? move(out, m_position, wanted)
+                                             : m_buffer.read(out, m_position, wanted, m_bytesPerSector, move);
     if (!done)
         return -1;
     m_position += wanted;
@@ -246,8 +202,11 @@ qint64 RawDevice::write(const void *buffer, quint32 bytes)
     if (wanted <= 0 || !openForWriting())
         return -1;
     const auto *in = static_cast<const char *>(buffer);
-    const bool done = passes(buffer, wanted) ? transferAll(pwrite, m_descriptor, in, wanted, m_position)
-                                             : writeThroughBuffer(in, wanted);
+    const auto move = [this](const char *memory, qint64 offset, qint64 count) {
+        return transferAll(pwrite, m_descriptor, memory, count, offset);
+    };
+    const bool done = passes(buffer, wanted) ? move(in, m_position, wanted)
+                                             : m_buffer.write(in, m_position, wanted, m_bytesPerSector, move);
     if (!done)
         return -1;
     m_position += wanted;

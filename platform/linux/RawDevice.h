@@ -1,8 +1,9 @@
 #pragma once
 
+#include "platform/AlignedBuffer.h"
+
 #include <QString>
 
-#include <cstdlib>
 #include <memory>
 
 /// An open block device or image file. Never makes a file and never writes by itself. Block devices are read
@@ -39,24 +40,17 @@ public:
     bool isGone() const;
 
 private:
-    struct Free {
-        void operator()(char *memory) const { std::free(memory); }
-    };
-
     RawDevice(int descriptor, bool direct, bool writable);
     bool openForWriting();
     qint64 bytesToEnd(quint32 bytes) const;
     /// Whether a transfer can go without the aligned buffer.
     bool passes(const void *buffer, qint64 bytes) const;
-    bool readThroughBuffer(char *out, qint64 bytes);
-    bool writeThroughBuffer(const char *in, qint64 bytes);
-    char *alignedBuffer();
 
     int m_descriptor;
     bool m_direct; ///< past the page cache: memory, offsets and lengths are multiples of a sector
     bool m_mayWrite;
     bool m_written = false; ///< the descriptor is one for writing
-    std::unique_ptr<char, Free> m_buffer;
+    AlignedBuffer m_buffer;
     qint64 m_size = 0;
     quint64 m_medium = 0; ///< as it was opened
     quint32 m_bytesPerSector = 512;

@@ -1,9 +1,7 @@
 #include "platform/windows/RawDevices.h"
 
 #include <algorithm>
-#include <cstring>
 #include <iterator>
-#include <vector>
 
 #include <windows.h>
 
@@ -65,13 +63,18 @@ bool isOfMissingDevice(DWORD error)
     return std::find(std::begin(Missing), std::end(Missing), error) != std::end(Missing);
 }
 
-bool seekTo(HANDLE handle, qint64 byteOffset)
+/// ReadFile or WriteFile of whole sectors.
+template<typename Call, typename Byte>
+bool transferAt(Call call, HANDLE handle, Byte *memory, qint64 byteOffset, qint64 bytes)
 {
     LONG high = static_cast<LONG>(byteOffset >> 32);
     const auto low = static_cast<LONG>(byteOffset & 0xFFFFFFFF);
     ::SetLastError(NO_ERROR);
-    return ::SetFilePointer(handle, low, &high, FILE_BEGIN) != INVALID_SET_FILE_POINTER ||
-           ::GetLastError() == NO_ERROR;
+    if (::SetFilePointer(handle, low, &high, FILE_BEGIN) == INVALID_SET_FILE_POINTER &&
+        ::GetLastError() != NO_ERROR)
+        return false;
+    DWORD moved = 0;
+    return call(handle, memory, static_cast<DWORD>(bytes), &moved, nullptr) && moved == bytes;
 }
 
 } // namespace
@@ -101,11 +104,19 @@ std::shared_ptr<RawDevices::Device> RawDevices::find(Platform::RawHandle handle)
 bool RawDevices::seek(Platform::RawHandle handle, qint64 byteOffset)
 {
     const auto device = find(handle);
-    // A volume takes no place within a sector.
-    if (!device || byteOffset < 0 || !seekTo(native(handle), byteOffset / device->sector * device->sector))
+    if (!device || byteOffset < 0)
         return false;
     device->position = byteOffset;
     return true;
+}
+
+bool RawDevices::finish(Device *device, quint32 moved, quint32 *transferred)
+{
+    if (transferred)
+        *transferred = moved;
+    if (device)
+        device->position += moved;
+    return moved != 0;
 }
 
 quint32 RawDevices::cut(const Device &device, quint32 bytes)
@@ -116,69 +127,34 @@ quint32 RawDevices::cut(const Device &device, quint32 bytes)
     return static_cast<quint32>(std::min<qint64>(left, bytes));
 }
 
-bool RawDevices::readWithinSectors(Platform::RawHandle handle, Device *device, char *out, quint32 bytes)
-{
-    constexpr qint64 SectorsAtOnce = 16;
-    const qint64 end = device->position + bytes;
-    std::vector<char> whole(static_cast<std::size_t>(SectorsAtOnce * device->sector));
-    qint64 at = device->position;
-    qint64 first = device->sectorStart();
-    bool done = true;
-    while (done && at < end) {
-        const qint64 sectors = std::min((end - first + device->sector - 1) / device->sector, SectorsAtOnce);
-        const auto wanted = static_cast<DWORD>(sectors * device->sector);
-        DWORD got = 0;
-        done = ::ReadFile(native(handle), whole.data(), wanted, &got, nullptr) && got == wanted;
-        if (done) {
-            const qint64 useful = std::min(first + wanted, end) - at;
-            std::memcpy(out, whole.data() + (at - first), static_cast<std::size_t>(useful));
-            out += useful;
-            at += useful;
-            first += wanted;
-        }
-    }
-    if (done)
-        device->position = end;
-    seekTo(native(handle), device->sectorStart());
-    return done;
-}
-
 bool RawDevices::read(Platform::RawHandle handle, void *buffer, quint32 bytes, quint32 *transferred)
 {
-    if (transferred)
-        *transferred = 0;
     const auto device = find(handle);
     const quint32 wanted = device ? cut(*device, bytes) : 0;
-    if (wanted != 0 && !device->isWhole(wanted)) {
-        const bool done = readWithinSectors(handle, device.get(), static_cast<char *>(buffer), wanted);
-        if (done && transferred)
-            *transferred = wanted;
-        return done;
-    }
-    DWORD got = 0;
-    // A file that stands for a disk succeeds with nothing at its end.
-    if (wanted == 0 || !::ReadFile(native(handle), buffer, wanted, &got, nullptr) || got == 0)
-        return false;
-    device->position += got;
-    if (transferred)
-        *transferred = static_cast<quint32>(got);
-    return true;
+    auto *out = static_cast<char *>(buffer);
+    const auto move = [handle](char *memory, qint64 offset, qint64 count) {
+        return transferAt(::ReadFile, native(handle), memory, offset, count);
+    };
+    const bool done =
+        wanted != 0 && (device->takes(buffer, wanted)
+                            ? move(out, device->position, wanted)
+                            : device->buffer.read(out, device->position, wanted, device->sector, move));
+    return finish(device.get(), done ? wanted : 0, transferred);
 }
 
 bool RawDevices::write(Platform::RawHandle handle, const void *buffer, quint32 bytes, quint32 *transferred)
 {
-    if (transferred)
-        *transferred = 0;
     const auto device = find(handle);
     const quint32 wanted = device ? cut(*device, bytes) : 0;
-    DWORD put = 0;
-    if (wanted == 0 || !device->isWhole(wanted) ||
-        !::WriteFile(native(handle), buffer, wanted, &put, nullptr))
-        return false;
-    device->position += put;
-    if (transferred)
-        *transferred = static_cast<quint32>(put);
-    return true;
+    const auto *in = static_cast<const char *>(buffer);
+    const auto move = [handle](const char *memory, qint64 offset, qint64 count) {
+        return transferAt(::WriteFile, native(handle), memory, offset, count);
+    };
+    const bool done =
+        wanted != 0 && (device->takes(buffer, wanted)
+                            ? move(in, device->position, wanted)
+                            : device->buffer.write(in, device->position, wanted, device->sector, move));
+    return finish(device.get(), done ? wanted : 0, transferred);
 }
 
 bool RawDevices::control(Platform::RawHandle handle, quint32 code, const void *in, quint32 inSize, void *out,

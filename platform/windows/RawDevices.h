@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/AlignedBuffer.h"
 #include "platform/Platform.h"
 
 #include <QHash>
@@ -11,9 +12,9 @@ namespace windows
 {
 
 /// The open raw devices. The system refuses a transfer that crosses the end of a disk; it is cut there by the
-/// disk's size instead, and one that begins at or behind the end fails. It also moves whole sectors only:
-/// what lies within larger ones than 512 bytes is read by way of whole ones, and is not written. Where the
-/// system does not tell the sizes, transfers go through as they are.
+/// disk's size instead, and one that begins at or behind the end fails. It also moves whole sectors only, and
+/// file systems want aligned memory for those of a volume: what is not so goes by way of a buffer, and parts
+/// of a sector are not written. Where the system does not tell the sizes, transfers go through as they are.
 class RawDevices
 {
 public:
@@ -33,16 +34,20 @@ private:
     struct Device {
         qint64 size = UnknownSize; ///< bytes
         qint64 sector = 1;         ///< bytes
-        qint64 position = 0;       ///< bytes; the system's own stands at the start of that sector
+        qint64 position = 0;       ///< bytes
+        AlignedBuffer buffer;
 
-        qint64 sectorStart() const { return position / sector * sector; }
-        bool isWhole(quint32 bytes) const { return position % sector == 0 && bytes % sector == 0; }
+        bool takes(const void *memory, quint32 bytes) const
+        {
+            return AlignedBuffer::takes(memory, position, bytes, sector);
+        }
     };
 
     std::shared_ptr<Device> find(Platform::RawHandle handle);
     /// How much of a transfer lies on the device; 0 fails it.
     static quint32 cut(const Device &device, quint32 bytes);
-    static bool readWithinSectors(Platform::RawHandle handle, Device *device, char *out, quint32 bytes);
+    /// Ends a transfer of which `moved` bytes were done.
+    static bool finish(Device *device, quint32 moved, quint32 *transferred);
 
     std::mutex m_mutex;
     QHash<Platform::RawHandle, std::shared_ptr<Device>> m_open;

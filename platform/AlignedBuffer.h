@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QtGlobal>
+
+#include <functional>
+#include <memory>
+#include <new>
+
+/// Memory on a page boundary for transfers that a raw device does not take as they are: it moves whole
+/// sectors, and only from and to such memory. One thread at a time.
+class AlignedBuffer
+{
+public:
+    static constexpr qint64 Size = 1024 * 1024; ///< bytes; a multiple of every sector
+
+    /// Moves `bytes` at `offset` of the device. Both are whole sectors.
+    using Move = std::function<bool(char *memory, qint64 offset, qint64 bytes)>;
+
+    /// Whether the device takes the transfer as it is. `sector` is its size in bytes.
+    static bool takes(const void *buffer, qint64 position, qint64 bytes, qint64 sector);
+
+    /// Reads any range into any memory by way of whole sectors. False where a `move` fails or memory is
+    /// short.
+    bool read(char *out, qint64 position, qint64 bytes, qint64 sector, const Move &move);
+    /// Writes from any memory. False too where the range is not one of whole sectors.
+    bool write(const char *in, qint64 position, qint64 bytes, qint64 sector, const Move &move);
+
+private:
+    static constexpr std::align_val_t Boundary{4096};
+    struct Free {
+        void operator()(char *memory) const { ::operator delete[](memory, Boundary); }
+    };
+
+    char *memory();
+
+    std::unique_ptr<char, Free> m_memory;
+};
