@@ -32,7 +32,7 @@ void CCreateDiskDriveList::BuildDriveList()
     appendPhysicalNodes(m_removable, RemovableDisk);
     appendVolumeNodes();
     for (DiskNode *node = g_App.m_pDiskListHead; node; node = node->pNext)
-        tieVolumeToDisk(node);
+        tieVolumeToDisk(node, &m_extents);
     appendLinuxNodes();
 }
 
@@ -73,7 +73,7 @@ void CCreateDiskDriveList::appendPhysicalNodes(const ProbeTable &table, DiskKind
     }
 }
 
-DiskNode *CCreateDiskDriveList::makePhysicalNode(int number, DiskKind kind, int bytesPerSector) const
+DiskNode *CCreateDiskDriveList::makePhysicalNode(int number, DiskKind kind, int bytesPerSector)
 {
     const int driveCode = PhysicalDriveBase + number;
     auto *node = new DiskNode;
@@ -95,14 +95,14 @@ DiskNode *CCreateDiskDriveList::makePhysicalNode(int number, DiskKind kind, int 
     return node;
 }
 
-QString CCreateDiskDriveList::driveLetters(int driveCode) const
+QString CCreateDiskDriveList::driveLetters(int driveCode)
 {
     QString letters;
     for (const QString &root : m_driveStrings) {
         // The first extent alone counts, so that a spanned volume stands with one disk.
         if (root.isEmpty())
             continue;
-        const std::optional<VolumeExtents> extents = readVolumeExtents(root.at(0));
+        const std::optional<VolumeExtents> extents = m_extents.of(root.at(0).toUpper());
         if (extents && extents->diskNumber + PhysicalDriveBase == static_cast<quint32>(driveCode))
             letters += root.left(2) + QLatin1Char(' ');
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/state/DiskRecords.h"
+#include "inventory/VolumeExtents.h"
 
 #include <QHash>
 #include <QStringList>
@@ -37,13 +38,14 @@ private:
 
     void probeDisks();
     void appendPhysicalNodes(const ProbeTable &table, DiskKind kind);
-    DiskNode *makePhysicalNode(int number, DiskKind kind, int bytesPerSector) const;
-    QString driveLetters(int driveCode) const;
+    DiskNode *makePhysicalNode(int number, DiskKind kind, int bytesPerSector);
+    QString driveLetters(int driveCode);
     void appendVolumeNodes();
     void appendLinuxNodes();
     void appendLogicalNode(std::unique_ptr<DiskNode> node);
 
     QStringList m_driveStrings;
+    KnownExtents m_extents;
     ProbeTable m_fixed;
     ProbeTable m_removable;
 };

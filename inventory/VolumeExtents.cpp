@@ -15,11 +15,11 @@ union ExtentBuffer {
     std::uint8_t bytes[ExtentBytes];
 };
 
-} // namespace
-
 std::optional<VolumeExtents> readVolumeExtents(QChar letter)
 {
     Platform &platform = Platform::current();
+    if (platform.GetDriveTypeW(letter + QLatin1String(":\\")) == io::DriveRemote)
+        return std::nullopt;
     const Platform::RawHandle handle =
         platform.CreateFileW(QStringLiteral("\\\\.\\%1:").arg(letter), io::GenericRead,
                              io::ShareRead | io::ShareWrite, io::OpenExisting);
@@ -36,4 +36,12 @@ std::optional<VolumeExtents> readVolumeExtents(QChar letter)
     const auto start = static_cast<quint64>(first.startingOffset);
     return VolumeExtents{buffer.extents.numberOfDiskExtents, first.diskNumber, start / SectorSize,
                          (start + static_cast<quint64>(first.extentLength)) / SectorSize};
+}
+
+} // namespace
+
+std::optional<VolumeExtents> KnownExtents::of(QChar letter)
+{
+    const auto known = m_known.constFind(letter);
+    return known != m_known.constEnd() ? *known : *m_known.insert(letter, readVolumeExtents(letter));
 }

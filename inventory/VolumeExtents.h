@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QChar>
+#include <QHash>
 
 #include <optional>
 
@@ -12,5 +13,14 @@ struct VolumeExtents {
     quint64 endSector = 0;   ///< behind the last sector
 };
 
-/// Asks for the extents of the volume with this letter. Nothing if it does not open or answer.
-std::optional<VolumeExtents> readVolumeExtents(QChar letter);
+/// The extents of the volumes. Each letter is opened once, when it is first asked for; a network share, which
+/// may be long dead, never. Device-load threads only; lives for one load.
+class KnownExtents
+{
+public:
+    /// Nothing for a volume that does not open or answer.
+    std::optional<VolumeExtents> of(QChar letter);
+
+private:
+    QHash<QChar, std::optional<VolumeExtents>> m_known;
+};

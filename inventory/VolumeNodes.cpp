@@ -2,7 +2,6 @@
 
 #include "inventory/BootSector.h"
 #include "inventory/Capacity.h"
-#include "inventory/VolumeExtents.h"
 #include "platform/IoControl.h"
 #include "platform/Platform.h"
 
@@ -84,10 +83,13 @@ bool readSizes(LogicalDetails *volume, const RemovableDisks &removable)
     return true;
 }
 
-/// Takes the name of the file system from the system, else from the boot sector. False if there is no volume.
-bool readFileSystem(LogicalDetails *volume)
+/// Takes label and file system from the system, else the latter from the boot sector. False if there is no
+/// volume.
+bool readNames(LogicalDetails *volume)
 {
-    Platform::current().GetVolumeInformationW(volume->szRoot, nullptr, &volume->szFileSystem);
+    Platform::current().GetVolumeInformationW(volume->szRoot, &volume->szLabel, &volume->szFileSystem);
+    if (volume->szLabel.isEmpty())
+        volume->szLabel = QStringLiteral("Local Disk");
     if (!volume->szFileSystem.isEmpty())
         return true;
     const std::optional<bootsector::Sniffed> sniffed =
@@ -144,16 +146,13 @@ std::unique_ptr<DiskNode> makeVolumeNode(const QString &root, const RemovableDis
     auto volume = std::make_unique<LogicalDetails>();
     volume->nLetter = static_cast<quint8>(root.at(0).toUpper().unicode() - u'A');
     volume->szRoot = root;
-    Platform &platform = Platform::current();
-    platform.GetVolumeInformationW(root, &volume->szLabel, nullptr);
-    if (volume->szLabel.isEmpty())
-        volume->szLabel = QStringLiteral("Local Disk");
-    volume->szType = typeText(platform.GetDriveTypeW(root));
+    // The type comes first: a network share that is gone would keep the label waiting.
+    volume->szType = typeText(Platform::current().GetDriveTypeW(root));
     if (volume->szType.isNull())
         return nullptr;
     if (volume->szType == Removable)
         volume->nParentId = volume->nLetter;
-    if (!readSizes(volume.get(), removable) || !readFileSystem(volume.get()))
+    if (!readSizes(volume.get(), removable) || !readNames(volume.get()))
         return nullptr;
     volume->szCapacity = volumeCapacity(volume->nTotalBytes);
     volume->nSectorCount = volume->nTotalBytes / SectorSize;
@@ -165,12 +164,12 @@ std::unique_ptr<DiskNode> makeVolumeNode(const QString &root, const RemovableDis
     return node;
 }
 
-void tieVolumeToDisk(DiskNode *node)
+void tieVolumeToDisk(DiskNode *node, KnownExtents *known)
 {
     if ((node->nKind != VolumeNode && node->nKind != RawVolume) || node->pLogical->szType != Fixed)
         return;
     LogicalDetails &volume = *node->pLogical;
-    const std::optional<VolumeExtents> extents = readVolumeExtents(QChar(u'A' + volume.nLetter));
+    const std::optional<VolumeExtents> extents = known->of(QChar(u'A' + volume.nLetter));
     if (!extents)
         return;
     volume.bSpanned = extents->count > 1 ? 1 : 0;

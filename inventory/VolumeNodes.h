@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/state/DiskRecords.h"
+#include "inventory/VolumeExtents.h"
 
 #include <QString>
 
@@ -21,4 +22,4 @@ std::unique_ptr<DiskNode> makeVolumeNode(const QString &root, const RemovableDis
 
 /// Tells a fixed volume by its extents which disk it lies on and where. Any other node, and one whose extents
 /// cannot be had, stays as it is.
-void tieVolumeToDisk(DiskNode *node);
+void tieVolumeToDisk(DiskNode *node, KnownExtents *extents);

@@ -88,6 +88,7 @@ public:
     }
     QStringList openedNames;   ///< of CreateFileW
     QVector<Opening> openings; ///< the same calls, with all that was asked for
+    QStringList labelsAsked;   ///< roots given to GetVolumeInformationW
     QVector<bool> hiddenFlags; ///< of the commands
     QStringList executed;      ///< "<verb> <file> <parameters>" of ShellExecuteW, and pages opened
     QVector<quint32> executionStates;
@@ -184,6 +185,7 @@ public:
     }
     bool GetVolumeInformationW(const QString &root, QString *label, QString *fileSystem) override
     {
+        labelsAsked << root;
         const Volume volume = volumes.value(root.at(0));
         if (label)
             *label = volume.label;
