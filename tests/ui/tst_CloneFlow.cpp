@@ -151,7 +151,8 @@ bool tst_CloneFlow::locked() const
         if (child<MyButton>(name)->isEnabled())
             return false;
     return child<MyButton>("CloneDiskButton")->isDown() && !child<QComboBox>("DriveCombobox")->isEnabled() &&
-           !child<QAction>("m_pSettingsAction")->isEnabled() && shown("StopButton") && !shown("CloneButton");
+           !child<QAction>("m_pSettingsAction")->isEnabled() && shown("StopButton") != g_bAbortJob &&
+           !shown("CloneButton");
 }
 
 QStringList tst_CloneFlow::boxTexts() const

@@ -256,6 +256,7 @@ void tst_ScanFlow::closingAndRefreshing()
     QCOMPARE(panel->WarningTxtLbl->text(), QStringLiteral("Scaning Running."));
     // Until the drive has answered a stopped scan still keeps the window.
     m_pWindow->OnStopConfirm();
+    QVERIFY(!shown("StopButton"));
     panel->hide();
     m_pWindow->OnClose();
     QVERIFY(panel->isVisible());

@@ -112,7 +112,7 @@ void MainWindow::showScreen(Screen screen)
     CloneButton->setVisible(shown.clone && !cloning && !isDown(navigation::ScanDiskScreen));
     // A clone goes on behind another screen, where the button would ask for a scan.
     if (cloning)
-        StopButton->setVisible(shown.clone);
+        StopButton->setVisible(shown.clone && !g_bAbortJob);
     ReportSaveButton->setVisible(shown.report);
     ScreenshotButton->setVisible(shown.screenshot);
     BackTestButton->hide();
@@ -195,6 +195,9 @@ void MainWindow::OnStopCancel()
 void MainWindow::OnStopConfirm()
 {
     m_pScanDiskPage->ForgetEstimate();
+    // Until the job is at rest: the No to a second question would take this answer back.
+    StopButton->hide();
+    StopTestButton->hide();
     g_bAbortJob = true;
     g_bJobRunning = false;
     if (m_pCloneDiskPage->isVisible()) {
