@@ -23,6 +23,12 @@ constexpr Phrase Results[] = {
     {"Aborted by host", QT_TRANSLATE_NOOP("MainWindow", "Aborted by User")},
     {"Completed without error", QT_TRANSLATE_NOOP("MainWindow", "Successfully Completed")},
     {"Completed: read failure", QT_TRANSLATE_NOOP("MainWindow", "Failed by Read Element")},
+    {"Interrupted (host reset)", QT_TRANSLATE_NOOP("MainWindow", "Test Interrupted by the Host")},
+    {"Fatal or unknown error", QT_TRANSLATE_NOOP("MainWindow", "Test ended by Fatal or Unknown Error")},
+    {"Completed: unknown failure", QT_TRANSLATE_NOOP("MainWindow", "Test failed by Unknown Element")},
+    {"Completed: electrical failure", QT_TRANSLATE_NOOP("MainWindow", "Test failed by Electrical Element")},
+    {"Completed: servo/seek failure", QT_TRANSLATE_NOOP("MainWindow", "Test failed by Servo Element")},
+    {"Completed: handling damage", QT_TRANSLATE_NOOP("MainWindow", "Test failed, Handling Damage suspected")},
     {"", QT_TRANSLATE_NOOP("MainWindow", "Not Available")}, // any other line
 };
 

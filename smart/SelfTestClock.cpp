@@ -6,6 +6,8 @@ namespace selftest
 namespace
 {
 
+constexpr int MostSilentTicks = 10;
+
 std::size_t current()
 {
     return static_cast<std::size_t>(currentSelfTest());
@@ -17,6 +19,7 @@ void restartClock()
 {
     g_nMinuteTicks = 0;
     g_nElapsedSeconds = 0;
+    g_nSilentTicks = 0;
     g_timeElapsed = QTime(0, 0);
 }
 
@@ -32,6 +35,12 @@ bool takeMinute()
     g_nMinuteTicks = 0;
     --g_nRemainingMinutes[current()];
     return true;
+}
+
+bool passesOver(bool found)
+{
+    g_nSilentTicks = found ? 0 : g_nSilentTicks + 1;
+    return !found && g_nSilentTicks < MostSilentTicks;
 }
 
 void tickClock()

@@ -15,6 +15,10 @@ void setElapsedLimit();
 /// Takes a minute off the remaining ones if 60 ticks have gone since the last; false if it is not time yet.
 bool takeMinute();
 
+/// Counts a tick by whether it found a status. True while one without is passed over: a drive that is busy or
+/// was reset answers again, one that keeps silent has gone.
+bool passesOver(bool found);
+
 /// One tick. Behind the limit only the elapsed time runs on. It starts again at 24 hours.
 void tickClock();
 

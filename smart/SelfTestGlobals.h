@@ -20,6 +20,7 @@ inline int g_nMinuteTicks = 0;      ///< ticks since the remaining minutes last 
 inline QTime g_timeElapsed;         ///< elapsed time on display
 inline bool g_bTestPending = false; ///< the self-test path was entered and the test has not been started
 inline bool g_bOnTestScreen = false;
+inline int g_nSilentTicks = 0;    ///< ticks in a row that found no status
 inline bool g_bAbortSent = false; ///< the drive was told to abort; the next tick reports it
 
 /// The kind that is prepared or runs: an extended test without a polling time counts as a short one.

@@ -2,6 +2,9 @@
 
 #include "smart/TextCuts.h"
 
+#include <QCoreApplication>
+#include <QRegularExpression>
+#include <QStringList>
 #include <QTextStream>
 
 namespace selftest
@@ -29,15 +32,121 @@ int numberOf(const QString &line, std::initializer_list<const char *> around)
 
 struct StatusPhrase {
     const char *first;
-    const char *then;
+    const char *then; ///< in a later line
     Told told;
 };
+
+constexpr char Having[] = "The previous self-test completed having";
 
 constexpr StatusPhrase StatusPhrases[] = {
     {"Self-test routine in progress...", "of test remaining", Told::InProgress},
     {"The previous self-test routine completed", "without error or no self-test has ever", Told::Completed},
-    {"The previous self-test completed having", "the read element of the test failed.", Told::ReadFailure},
+    {Having, "the read element of the test failed.", Told::ReadFailure},
+    {"The self-test routine was aborted by", "the host", Told::Aborted},
+    {"The self-test routine was interrupted", "by the host with a hard or soft reset", Told::Interrupted},
+    {"A fatal error or unknown test error", "occurred while the device was executing", Told::FatalError},
+    {Having, "a test element that failed and the test", Told::UnknownElement},
+    {Having, "the electrical element of the test", Told::Electrical},
+    {Having, "the servo (and/or seek) element of the", Told::Servo},
+    {Having, "device is suspected of having handling", Told::Handling},
 };
+
+/// The results of an NVMe drive's log. What another command of the host ended was interrupted by it.
+struct NvmeResult {
+    const char *words;
+    Told told;
+};
+
+constexpr NvmeResult NvmeResults[] = {
+    {"Completed without error", Told::Completed},
+    {"Aborted: Self-test command", Told::Aborted},
+    {"Aborted: Controller Reset", Told::Interrupted},
+    {"Aborted: Namespace removed", Told::Interrupted},
+    {"Aborted: Format NVM command", Told::Interrupted},
+    {"Aborted: sanitize operation", Told::Interrupted},
+    {"Fatal or unknown test error", Told::FatalError},
+    {"Aborted: unknown reason", Told::FatalError},
+    {"Completed: unknown failed segment", Told::UnknownElement},
+    {"Completed: failed segments", Told::UnknownElement},
+};
+
+/// In the order of Told.
+constexpr const char *ShownWords[] = {
+    QT_TRANSLATE_NOOP("MainWindow", "Successfully Completed"),
+    QT_TRANSLATE_NOOP("MainWindow", "Test Aborted by User"),
+    QT_TRANSLATE_NOOP("MainWindow", "Test Interrupted by the Host"),
+    QT_TRANSLATE_NOOP("MainWindow", "Test ended by Fatal or Unknown Error"),
+    QT_TRANSLATE_NOOP("MainWindow", "Test failed by Unknown Element"),
+    QT_TRANSLATE_NOOP("MainWindow", "Test failed by Electrical Element"),
+    QT_TRANSLATE_NOOP("MainWindow", "Test failed by Servo Element"),
+    QT_TRANSLATE_NOOP("MainWindow", "Test failed by Read Element"),
+    QT_TRANSLATE_NOOP("MainWindow", "Test failed, Handling Damage suspected"),
+    QT_TRANSLATE_NOOP("MainWindow", "Test ended with Unknown Status"),
+    QT_TRANSLATE_NOOP("MainWindow", "No Status from the Drive"),
+    QT_TRANSLATE_NOOP("MainWindow", "Running, no problems found"),
+};
+
+QVector<StatusEvent> readPhrases(const QStringList &lines)
+{
+    QVector<StatusEvent> events;
+    const StatusPhrase *begun = nullptr;
+    for (const QString &line : lines) {
+        for (const StatusPhrase &phrase : StatusPhrases) {
+            if (!begun && line.contains(QLatin1String(phrase.first))) {
+                begun = &phrase;
+                break;
+            }
+            if (!begun || qstrcmp(begun->first, phrase.first) != 0 ||
+                !line.contains(QLatin1String(phrase.then)))
+                continue;
+            events.append({phrase.told, phrase.told == Told::InProgress
+                                            ? numberOf(line, {"of test remaining.", "%"})
+                                            : 0});
+            begun = nullptr;
+            break;
+        }
+    }
+    return events;
+}
+
+/// The code of an ATA drive: the status in its upper half, the tenths that are left in the lower one.
+std::optional<StatusEvent> readCode(const QStringList &lines)
+{
+    static const QRegularExpression pattern(
+        QStringLiteral("Self-test execution status:\\s*\\(\\s*([0-9]+)\\)"));
+    for (const QString &line : lines) {
+        const QRegularExpressionMatch match = pattern.match(line);
+        if (!match.hasMatch())
+            continue;
+        const int code = match.captured(1).toInt();
+        const int status = code >> 4;
+        if (status == 15)
+            return StatusEvent{Told::InProgress, (code & 15) * 10};
+        return StatusEvent{status <= static_cast<int>(Told::Handling) ? static_cast<Told>(status)
+                                                                      : Told::UnknownStatus};
+    }
+    return std::nullopt;
+}
+
+std::optional<StatusEvent> readNvme(const QStringList &lines)
+{
+    static const QRegularExpression running(
+        QStringLiteral("self-test in progress \\(([0-9]+)% completed\\)"));
+    static const QRegularExpression newest(QStringLiteral("^ *0  +[A-Z]"));
+    for (const QString &line : lines) {
+        const QRegularExpressionMatch match = running.match(line);
+        if (match.hasMatch())
+            return StatusEvent{Told::InProgress, 100 - match.captured(1).toInt()};
+        if (!newest.match(line).hasMatch())
+            continue;
+        for (const NvmeResult &result : NvmeResults) {
+            if (line.contains(QLatin1String(result.words)))
+                return StatusEvent{result.told};
+        }
+        return StatusEvent{Told::UnknownStatus};
+    }
+    return std::nullopt;
+}
 
 } // namespace
 
@@ -55,20 +164,25 @@ Capabilities readCapabilities(QTextStream &text, std::optional<SelfTestKind> kin
 
 QVector<StatusEvent> readStatus(QTextStream &text)
 {
-    QVector<StatusEvent> events;
-    while (!text.atEnd()) {
-        const QString line = text.readLine();
-        for (const StatusPhrase &phrase : StatusPhrases) {
-            if (!line.contains(QLatin1String(phrase.first)))
-                continue;
-            if (const auto rest = readOnTo(text, phrase.then))
-                events.append({phrase.told, phrase.told == Told::InProgress
-                                                ? numberOf(*rest, {"of test remaining.", "%"})
-                                                : 0});
-            break;
-        }
+    const QStringList lines = text.readAll().split(QLatin1Char('\n'));
+    QVector<StatusEvent> events = readPhrases(lines);
+    for (const auto &read : {readCode, readNvme}) {
+        if (const auto event = events.isEmpty() ? read(lines) : std::nullopt)
+            events.append(*event);
     }
+    if (events.isEmpty())
+        events.append({Told::NoStatus});
     return events;
+}
+
+const char *shownWords(Told told)
+{
+    return ShownWords[static_cast<std::size_t>(told)];
+}
+
+bool isResult(Told told)
+{
+    return told == Told::Completed || (told >= Told::FatalError && told <= Told::Handling);
 }
 
 int percentDone(int remaining)

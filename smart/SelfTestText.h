@@ -21,15 +21,37 @@ struct Capabilities {
 /// Reads up to the polling time of `kind`, or only up to the mark of self-tests where no kind is asked for.
 Capabilities readCapabilities(QTextStream &text, std::optional<SelfTestKind> kind);
 
-enum class Told { InProgress, Completed, ReadFailure };
+/// How a self-test stands. All but InProgress are an end of it; the first ones are the drive's own codes 0
+/// to 8.
+enum class Told {
+    Completed,
+    Aborted,
+    Interrupted,
+    FatalError,
+    UnknownElement,
+    Electrical,
+    Servo,
+    ReadFailure,
+    Handling,
+    UnknownStatus, ///< a code that no standard names
+    NoStatus,      ///< the text tells none: the tool or the drive has gone
+    InProgress
+};
 
 struct StatusEvent {
     Told told;
     int remaining = 0; ///< percent, of InProgress alone; 0 where the drive tells no number
 };
 
-/// What a status text tells, in its order. Any other end of a test is not told.
+/// What a status text tells, in its order; at least one. The words of the tool decide, and the drive's number
+/// where they tell nothing. The results of an NVMe drive's log count too.
 QVector<StatusEvent> readStatus(QTextStream &text);
+
+/// The words that a status is shown with: English, of the context MainWindow.
+const char *shownWords(Told told);
+
+/// Whether the drive itself tells how its test went, which counts more than that somebody aborted it.
+bool isResult(Told told);
 
 /// The percent that are done, wrapping as 32 bits do.
 int percentDone(int remaining);

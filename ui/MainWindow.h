@@ -3,6 +3,7 @@
 #include "app/state/Navigation.h"
 #include "clone/CloneFlow.h"
 #include "smart/SMARTThread.h"
+#include "smart/SelfTestText.h"
 #include "ui/FramelessDrag.h"
 #include "ui/QRefThreadDevicesLoad.h"
 #include "update/HelpLinks.h"
@@ -277,9 +278,8 @@ private:
     void setNavigationEnabled(Screen screen, bool enabled);
     void enableNavigation();
     void showTestProgress(int remainingPercent);
-    void endSelfTest(bool passed);
+    void endSelfTest(selftest::Told how);
     void reportTestAbort();
-    void abandonTestStart();
     /// @}
 
     /// \name Closing

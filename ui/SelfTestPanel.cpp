@@ -10,23 +10,12 @@
 namespace
 {
 
-struct StatusLook {
-    const char *text;
-    const char *sheet;
-};
-
-/// In the order of SelfTestPanel::Status.
-constexpr StatusLook StatusLooks[] = {
-    {"", "QLabel {color : Black;}"},
-    {QT_TRANSLATE_NOOP("MainWindow", "Running, no problems found"), "QLabel {color : Black;}"},
-    {QT_TRANSLATE_NOOP("MainWindow", "Successfully Completed"), "QLabel {color : Green;}"},
-    {QT_TRANSLATE_NOOP("MainWindow", "Test failed by Read Element"), "QLabel {color : Red;}"},
-    {QT_TRANSLATE_NOOP("MainWindow", "Test Aborted by User"), "QLabel {color : Red;}"},
-};
-
-QString translated(const char *text)
+QString sheetOf(selftest::Told status)
 {
-    return *text ? QCoreApplication::translate("MainWindow", text) : QString();
+    const char *colour = status == selftest::Told::InProgress  ? "Black"
+                         : status == selftest::Told::Completed ? "Green"
+                                                               : "Red";
+    return QStringLiteral("QLabel {color : %1;}").arg(QLatin1String(colour));
 }
 
 QString minutesText(std::optional<int> minutes)
@@ -74,10 +63,10 @@ void SelfTestPanel::showTexts()
     pagelook::alignNames({TestModelLbl, TestSerialLbl, TestStatusLbl});
     TestNameLbl->setText(nameOf(m_kind));
     TestBarLbl->setText(nameOf(m_kind));
-    const StatusLook &look = StatusLooks[static_cast<std::size_t>(m_status)];
-    TestStatusValLbl->setStyleSheet(QLatin1String(look.sheet));
-    TestStatusValLbl->setText(translated(look.text));
-    TestStatusLbl->setVisible(m_status != Status::None);
+    TestStatusValLbl->setStyleSheet(sheetOf(m_status.value_or(selftest::Told::InProgress)));
+    TestStatusValLbl->setText(
+        m_status ? QCoreApplication::translate("MainWindow", selftest::shownWords(*m_status)) : QString());
+    TestStatusLbl->setVisible(m_status.has_value());
     PollingTimeValLbl->setText(minutesText(m_pollingMinutes));
     TestRemainingValLbl->setText(minutesText(m_remainingMinutes));
 }
@@ -114,7 +103,7 @@ void SelfTestPanel::SetProgress(int percent)
     TestPercentValLbl->setText(QString::number(percent) + QLatin1Char('%'));
 }
 
-void SelfTestPanel::SetStatus(Status status)
+void SelfTestPanel::SetStatus(std::optional<selftest::Told> status)
 {
     m_status = status;
     showTexts();

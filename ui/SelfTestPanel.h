@@ -1,6 +1,7 @@
 #pragma once
 
 #include "smart/SelfTestGlobals.h"
+#include "smart/SelfTestText.h"
 
 #include "ui_SelfTestPanel.h"
 
@@ -15,8 +16,6 @@ class SelfTestPanel : public QWidget, public Ui::SelfTestPanelForm
     Q_OBJECT
 
 public:
-    enum class Status { None, Running, Completed, ReadFailure, Aborted };
-
     explicit SelfTestPanel(QWidget *parent = nullptr);
 
     void SetTestName(std::optional<SelfTestKind> kind); ///< empty without a kind
@@ -26,7 +25,7 @@ public:
     void ShowTimes(bool shown);
     /// Percent, 0 to 100; any other number is not shown.
     void SetProgress(int percent);
-    void SetStatus(Status status);
+    void SetStatus(std::optional<selftest::Told> status); ///< empty without one
     void SetPollingMinutes(std::optional<int> minutes);
     void SetRemainingMinutes(std::optional<int> minutes);
     void SetElapsed(const QString &text);
@@ -40,5 +39,5 @@ private:
     std::optional<SelfTestKind> m_kind;
     std::optional<int> m_pollingMinutes;
     std::optional<int> m_remainingMinutes;
-    Status m_status = Status::None;
+    std::optional<selftest::Told> m_status;
 };

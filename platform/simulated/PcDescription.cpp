@@ -18,10 +18,11 @@ constexpr qint64 mostSectors = most / 512;
 /// The ends of a self-test; the place is the drive's own number of it.
 const QStringList &selfTestResults()
 {
-    static const QStringList words{
-        QStringLiteral("completed"),   QStringLiteral("aborted"),         QStringLiteral("interrupted"),
-        QStringLiteral("fatal error"), QStringLiteral("unknown failure"), QStringLiteral("electrical"),
-        QStringLiteral("servo"),       QStringLiteral("read failure"),    QStringLiteral("handling")};
+    static const QStringList words{QStringLiteral("completed"),       QStringLiteral("aborted"),
+                                   QStringLiteral("interrupted"),     QStringLiteral("fatal error"),
+                                   QStringLiteral("unknown failure"), QStringLiteral("electrical"),
+                                   QStringLiteral("servo"),           QStringLiteral("read failure"),
+                                   QStringLiteral("handling"),        QStringLiteral("reserved")};
     return words;
 }
 

@@ -18,7 +18,7 @@ struct Wording {
     const char *log;    ///< the log's column
 };
 
-constexpr std::array<Wording, 9> wordings{{
+constexpr std::array<Wording, 10> wordings{{
     {"The previous self-test routine completed\nwithout error or no self-test has ever \nbeen run.",
      "Completed without error"},
     {"The self-test routine was aborted by\nthe host.", "Aborted by host"},
@@ -42,6 +42,7 @@ constexpr std::array<Wording, 9> wordings{{
      "having "
      "handling\ndamage.",
      "Completed: handling damage??"},
+    {"Reserved.", "Unknown status (0x9)"},
 }};
 
 Wording wordingOf(int status)

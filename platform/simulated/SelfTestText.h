@@ -6,7 +6,7 @@
 
 #include <optional>
 
-/// How `smartctl` tells of a drive's self-tests. Statuses are the drive's own numbers, 0 to 8 and 15.
+/// How `smartctl` tells of a drive's self-tests. Statuses are the drive's own numbers, 0 to 9 and 15.
 namespace simulated::selftext
 {
 

@@ -1126,6 +1126,38 @@
         <translation>Falha no teste: elemento de leitura</translation>
     </message>
     <message>
+        <source>Test Interrupted by the Host</source>
+        <translation>Teste interrompido pelo PC</translation>
+    </message>
+    <message>
+        <source>Test ended by Fatal or Unknown Error</source>
+        <translation>Erro de teste fatal ou desconhecido</translation>
+    </message>
+    <message>
+        <source>Test failed by Unknown Element</source>
+        <translation>Falha no teste: elemento desconhecido</translation>
+    </message>
+    <message>
+        <source>Test failed by Electrical Element</source>
+        <translation>Falha no teste: elemento elétrico</translation>
+    </message>
+    <message>
+        <source>Test failed by Servo Element</source>
+        <translation>Falha no teste: elemento servo</translation>
+    </message>
+    <message>
+        <source>Test failed, Handling Damage suspected</source>
+        <translation>Falha no teste: possível dano por impacto</translation>
+    </message>
+    <message>
+        <source>Test ended with Unknown Status</source>
+        <translation>Teste encerrado, estado desconhecido</translation>
+    </message>
+    <message>
+        <source>No Status from the Drive</source>
+        <translation>Nenhum estado recebido do disco</translation>
+    </message>
+    <message>
         <source>Test Aborted by User</source>
         <translation>Teste cancelado pelo usuário</translation>
     </message>

@@ -1126,6 +1126,38 @@
         <translation>测试因读取部件而失败</translation>
     </message>
     <message>
+        <source>Test Interrupted by the Host</source>
+        <translation>测试被主机中断</translation>
+    </message>
+    <message>
+        <source>Test ended by Fatal or Unknown Error</source>
+        <translation>因致命或未知错误而终止</translation>
+    </message>
+    <message>
+        <source>Test failed by Unknown Element</source>
+        <translation>测试因未知部件而失败</translation>
+    </message>
+    <message>
+        <source>Test failed by Electrical Element</source>
+        <translation>测试因电气部件而失败</translation>
+    </message>
+    <message>
+        <source>Test failed by Servo Element</source>
+        <translation>测试因伺服部件而失败</translation>
+    </message>
+    <message>
+        <source>Test failed, Handling Damage suspected</source>
+        <translation>测试失败，疑似搬运损坏</translation>
+    </message>
+    <message>
+        <source>Test ended with Unknown Status</source>
+        <translation>测试以未知状态结束</translation>
+    </message>
+    <message>
+        <source>No Status from the Drive</source>
+        <translation>磁盘未返回状态</translation>
+    </message>
+    <message>
         <source>Test Aborted by User</source>
         <translation>测试已被用户中止</translation>
     </message>

@@ -1126,6 +1126,38 @@
         <translation>Test wegen Lesefehler fehlgeschlagen</translation>
     </message>
     <message>
+        <source>Test Interrupted by the Host</source>
+        <translation>Test vom PC unterbrochen</translation>
+    </message>
+    <message>
+        <source>Test ended by Fatal or Unknown Error</source>
+        <translation>Schwerer oder unbekannter Testfehler</translation>
+    </message>
+    <message>
+        <source>Test failed by Unknown Element</source>
+        <translation>Test fehlgeschlagen, Ursache unbekannt</translation>
+    </message>
+    <message>
+        <source>Test failed by Electrical Element</source>
+        <translation>Test wegen Elektrikfehler fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Test failed by Servo Element</source>
+        <translation>Test wegen Servofehler fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Test failed, Handling Damage suspected</source>
+        <translation>Test fehlgeschlagen, Stoßschaden vermutet</translation>
+    </message>
+    <message>
+        <source>Test ended with Unknown Status</source>
+        <translation>Test mit unbekanntem Status beendet</translation>
+    </message>
+    <message>
+        <source>No Status from the Drive</source>
+        <translation>Kein Status vom Laufwerk</translation>
+    </message>
+    <message>
         <source>Test Aborted by User</source>
         <translation>Test vom Benutzer abgebrochen</translation>
     </message>

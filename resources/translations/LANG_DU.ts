@@ -1126,6 +1126,38 @@
         <translation>Test mislukt door leesfout</translation>
     </message>
     <message>
+        <source>Test Interrupted by the Host</source>
+        <translation>Test onderbroken door de pc</translation>
+    </message>
+    <message>
+        <source>Test ended by Fatal or Unknown Error</source>
+        <translation>Ernstige of onbekende testfout</translation>
+    </message>
+    <message>
+        <source>Test failed by Unknown Element</source>
+        <translation>Test mislukt door onbekend onderdeel</translation>
+    </message>
+    <message>
+        <source>Test failed by Electrical Element</source>
+        <translation>Test mislukt door elektrische fout</translation>
+    </message>
+    <message>
+        <source>Test failed by Servo Element</source>
+        <translation>Test mislukt door servofout</translation>
+    </message>
+    <message>
+        <source>Test failed, Handling Damage suspected</source>
+        <translation>Test mislukt, vermoedelijk stootschade</translation>
+    </message>
+    <message>
+        <source>Test ended with Unknown Status</source>
+        <translation>Test beëindigd met onbekende status</translation>
+    </message>
+    <message>
+        <source>No Status from the Drive</source>
+        <translation>Geen status van de schijf</translation>
+    </message>
+    <message>
         <source>Test Aborted by User</source>
         <translation>Test afgebroken door gebruiker</translation>
     </message>

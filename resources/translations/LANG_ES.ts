@@ -1126,6 +1126,38 @@
         <translation>Prueba fallida: elemento de lectura</translation>
     </message>
     <message>
+        <source>Test Interrupted by the Host</source>
+        <translation>Prueba interrumpida por el PC</translation>
+    </message>
+    <message>
+        <source>Test ended by Fatal or Unknown Error</source>
+        <translation>Error de prueba grave o desconocido</translation>
+    </message>
+    <message>
+        <source>Test failed by Unknown Element</source>
+        <translation>Prueba fallida: elemento desconocido</translation>
+    </message>
+    <message>
+        <source>Test failed by Electrical Element</source>
+        <translation>Prueba fallida: elemento eléctrico</translation>
+    </message>
+    <message>
+        <source>Test failed by Servo Element</source>
+        <translation>Prueba fallida: elemento servo</translation>
+    </message>
+    <message>
+        <source>Test failed, Handling Damage suspected</source>
+        <translation>Prueba fallida: posible daño por golpe</translation>
+    </message>
+    <message>
+        <source>Test ended with Unknown Status</source>
+        <translation>Prueba terminada, estado desconocido</translation>
+    </message>
+    <message>
+        <source>No Status from the Drive</source>
+        <translation>El disco no indica su estado</translation>
+    </message>
+    <message>
         <source>Test Aborted by User</source>
         <translation>Prueba anulada por el usuario</translation>
     </message>

@@ -1126,6 +1126,38 @@
         <translation>Échec du test : élément de lecture</translation>
     </message>
     <message>
+        <source>Test Interrupted by the Host</source>
+        <translation>Test interrompu par le PC</translation>
+    </message>
+    <message>
+        <source>Test ended by Fatal or Unknown Error</source>
+        <translation>Erreur de test fatale ou inconnue</translation>
+    </message>
+    <message>
+        <source>Test failed by Unknown Element</source>
+        <translation>Échec du test : élément inconnu</translation>
+    </message>
+    <message>
+        <source>Test failed by Electrical Element</source>
+        <translation>Échec du test : élément électrique</translation>
+    </message>
+    <message>
+        <source>Test failed by Servo Element</source>
+        <translation>Échec du test : élément servo</translation>
+    </message>
+    <message>
+        <source>Test failed, Handling Damage suspected</source>
+        <translation>Échec du test : choc supposé</translation>
+    </message>
+    <message>
+        <source>Test ended with Unknown Status</source>
+        <translation>Test terminé, état inconnu</translation>
+    </message>
+    <message>
+        <source>No Status from the Drive</source>
+        <translation>Aucun état reçu du disque</translation>
+    </message>
+    <message>
         <source>Test Aborted by User</source>
         <translation>Test abandonné par l&apos;utilisateur</translation>
     </message>

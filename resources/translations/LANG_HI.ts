@@ -1126,6 +1126,38 @@
         <translation>रीड एलिमेंट के कारण परीक्षण विफल</translation>
     </message>
     <message>
+        <source>Test Interrupted by the Host</source>
+        <translation>होस्ट ने परीक्षण रोक दिया</translation>
+    </message>
+    <message>
+        <source>Test ended by Fatal or Unknown Error</source>
+        <translation>घातक या अज्ञात त्रुटि से समाप्त</translation>
+    </message>
+    <message>
+        <source>Test failed by Unknown Element</source>
+        <translation>अज्ञात एलिमेंट के कारण परीक्षण विफल</translation>
+    </message>
+    <message>
+        <source>Test failed by Electrical Element</source>
+        <translation>विद्युत एलिमेंट के कारण परीक्षण विफल</translation>
+    </message>
+    <message>
+        <source>Test failed by Servo Element</source>
+        <translation>सर्वो एलिमेंट के कारण परीक्षण विफल</translation>
+    </message>
+    <message>
+        <source>Test failed, Handling Damage suspected</source>
+        <translation>परीक्षण विफल, रखरखाव से क्षति की आशंका</translation>
+    </message>
+    <message>
+        <source>Test ended with Unknown Status</source>
+        <translation>परीक्षण अज्ञात स्थिति में समाप्त</translation>
+    </message>
+    <message>
+        <source>No Status from the Drive</source>
+        <translation>डिस्क से कोई स्थिति नहीं मिली</translation>
+    </message>
+    <message>
         <source>Test Aborted by User</source>
         <translation>उपयोगकर्ता ने परीक्षण रद्द किया</translation>
     </message>

@@ -1126,6 +1126,38 @@
         <translation>Test fallito per l&apos;elemento di lettura</translation>
     </message>
     <message>
+        <source>Test Interrupted by the Host</source>
+        <translation>Test interrotto dal PC</translation>
+    </message>
+    <message>
+        <source>Test ended by Fatal or Unknown Error</source>
+        <translation>Errore di test grave o sconosciuto</translation>
+    </message>
+    <message>
+        <source>Test failed by Unknown Element</source>
+        <translation>Test fallito: elemento sconosciuto</translation>
+    </message>
+    <message>
+        <source>Test failed by Electrical Element</source>
+        <translation>Test fallito: elemento elettrico</translation>
+    </message>
+    <message>
+        <source>Test failed by Servo Element</source>
+        <translation>Test fallito: elemento servo</translation>
+    </message>
+    <message>
+        <source>Test failed, Handling Damage suspected</source>
+        <translation>Test fallito: probabile danno da urto</translation>
+    </message>
+    <message>
+        <source>Test ended with Unknown Status</source>
+        <translation>Test terminato, stato sconosciuto</translation>
+    </message>
+    <message>
+        <source>No Status from the Drive</source>
+        <translation>Nessuno stato dal disco</translation>
+    </message>
+    <message>
         <source>Test Aborted by User</source>
         <translation>Test interrotto dall&apos;utente</translation>
     </message>

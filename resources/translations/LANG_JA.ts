@@ -1126,6 +1126,38 @@
         <translation>読み取り要素の異常によりテスト失敗</translation>
     </message>
     <message>
+        <source>Test Interrupted by the Host</source>
+        <translation>PC によりテスト中断</translation>
+    </message>
+    <message>
+        <source>Test ended by Fatal or Unknown Error</source>
+        <translation>致命的または不明なエラーで終了</translation>
+    </message>
+    <message>
+        <source>Test failed by Unknown Element</source>
+        <translation>不明な要素の異常によりテスト失敗</translation>
+    </message>
+    <message>
+        <source>Test failed by Electrical Element</source>
+        <translation>電気要素の異常によりテスト失敗</translation>
+    </message>
+    <message>
+        <source>Test failed by Servo Element</source>
+        <translation>サーボ要素の異常によりテスト失敗</translation>
+    </message>
+    <message>
+        <source>Test failed, Handling Damage suspected</source>
+        <translation>テスト失敗、取り扱いによる損傷の疑い</translation>
+    </message>
+    <message>
+        <source>Test ended with Unknown Status</source>
+        <translation>不明な状態でテスト終了</translation>
+    </message>
+    <message>
+        <source>No Status from the Drive</source>
+        <translation>ディスクから状態の応答なし</translation>
+    </message>
+    <message>
         <source>Test Aborted by User</source>
         <translation>テストはユーザーにより中止</translation>
     </message>

@@ -1126,6 +1126,38 @@
         <translation>읽기 요소로 인해 진단 실패</translation>
     </message>
     <message>
+        <source>Test Interrupted by the Host</source>
+        <translation>호스트가 진단을 중단함</translation>
+    </message>
+    <message>
+        <source>Test ended by Fatal or Unknown Error</source>
+        <translation>치명적 또는 알 수 없는 오류로 종료</translation>
+    </message>
+    <message>
+        <source>Test failed by Unknown Element</source>
+        <translation>알 수 없는 요소로 인해 진단 실패</translation>
+    </message>
+    <message>
+        <source>Test failed by Electrical Element</source>
+        <translation>전기 요소로 인해 진단 실패</translation>
+    </message>
+    <message>
+        <source>Test failed by Servo Element</source>
+        <translation>서보 요소로 인해 진단 실패</translation>
+    </message>
+    <message>
+        <source>Test failed, Handling Damage suspected</source>
+        <translation>진단 실패, 취급 손상 의심</translation>
+    </message>
+    <message>
+        <source>Test ended with Unknown Status</source>
+        <translation>알 수 없는 상태로 진단 종료</translation>
+    </message>
+    <message>
+        <source>No Status from the Drive</source>
+        <translation>디스크에서 상태 응답 없음</translation>
+    </message>
+    <message>
         <source>Test Aborted by User</source>
         <translation>사용자가 진단을 중단함</translation>
     </message>

@@ -161,7 +161,7 @@ void TestPcDescription::errors_data()
     row("result", R"({"selfTest": {"result": "fine"}})",
         "selfTest.result: one of \"completed\", \"aborted\", \"interrupted\", \"fatal error\", \"unknown "
         "failure\", "
-        "\"electrical\", \"servo\", \"read failure\", \"handling\" is wanted");
+        "\"electrical\", \"servo\", \"read failure\", \"handling\", \"reserved\" is wanted");
     row("letter", R"({"volumes": [{"letter": "CD"}]})", "volumes[0].letter: a letter from A to Z is wanted");
     row("letter twice", R"({"volumes": [{"letter": "C"}, {"letter": "c"}]})",
         "volumes[1].letter: there is a volume C already");

@@ -22,10 +22,16 @@ QString told(const QVector<StatusEvent> &events)
 {
     QStringList words;
     for (const StatusEvent &event : events)
-        words << (event.told == Told::InProgress  ? QStringLiteral("running %1").arg(event.remaining)
-                  : event.told == Told::Completed ? QStringLiteral("completed")
-                                                  : QStringLiteral("read failure"));
+        words << (event.told == Told::InProgress ? QStringLiteral("running %1").arg(event.remaining)
+                                                 : QLatin1String(selftest::shownWords(event.told)));
     return words.join(QLatin1String(", "));
+}
+
+/// The status of the code and the words, set as the tool does it.
+QByteArray coded(int code, QByteArray words)
+{
+    return "Self-test execution status:      (" + QByteArray::number(code).rightJustified(4) + ")\t" +
+           words.replace("\n", "\n\t\t\t\t\t") + "\nTotal time to complete Offline \n";
 }
 
 const QByteArray Supported = "\t\t\tSelf-test supported.\n";
@@ -86,22 +92,73 @@ void tst_SelfTestText::status_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QString>("events");
-    QTest::newRow("completed") << sample("caps-idle-72.txt") << "completed";
+    QTest::newRow("completed") << sample("caps-idle-72.txt") << "Successfully Completed";
     QTest::newRow("running") << sample("caps-inprogress-90.txt") << "running 90";
-    QTest::newRow("read failure") << sample("caps-read-failure-121-wd.txt") << "read failure";
-    QTest::newRow("empty") << QByteArray() << "";
-    QTest::newRow("aborted") << QByteArray("\tThe self-test routine was aborted by\n\tthe host.\n") << "";
-    QTest::newRow("another element")
-        << QByteArray("\tThe previous self-test completed having\n\tthe electrical element of the test\n")
-        << "";
+    QTest::newRow("read failure") << sample("caps-read-failure-121-wd.txt") << "Test failed by Read Element";
+    QTest::newRow("empty") << QByteArray() << "No Status from the Drive";
+    const struct {
+        int code;
+        const char *words;
+        const char *shown;
+    } ends[] = {
+        {25, "The self-test routine was aborted by\nthe host.", "Test Aborted by User"},
+        {41, "The self-test routine was interrupted\nby the host with a hard or soft reset.",
+         "Test Interrupted by the Host"},
+        {57,
+         "A fatal error or unknown test error\noccurred while the device was executing\nits self-test "
+         "routine "
+         "and the device \nwas unable to complete the self-test \nroutine.",
+         "Test ended by Fatal or Unknown Error"},
+        {73,
+         "The previous self-test completed having\na test element that failed and the test\nelement that "
+         "failed "
+         "is not known.",
+         "Test failed by Unknown Element"},
+        {89, "The previous self-test completed having\nthe electrical element of the test\nfailed.",
+         "Test failed by Electrical Element"},
+        {105,
+         "The previous self-test completed having\nthe servo (and/or seek) element of the \ntest failed.",
+         "Test failed by Servo Element"},
+        {137,
+         "The previous self-test completed having\na test element that failed and the\ndevice is suspected "
+         "of "
+         "having handling\ndamage.",
+         "Test failed, Handling Damage suspected"},
+    };
+    for (const auto &end : ends) {
+        QTest::newRow(end.shown) << coded(end.code, end.words) << end.shown;
+        QTest::addRow("%d alone", end.code) << coded(end.code, "In other words.") << end.shown;
+    }
+    for (const int reserved : {144, 233})
+        QTest::addRow("reserved %d", reserved)
+            << coded(reserved, "Reserved.") << "Test ended with Unknown Status";
+    QTest::newRow("running by number") << coded(243, "In other words.") << "running 30";
+    const auto nvme = [](const char *result, const char *shown) {
+        QTest::newRow(result) << "Self-test status: No self-test in progress\nNum  Test_Description  Status\n"
+                                 " 0   Short             " +
+                                     QByteArray(result) +
+                                     "    2650   -   -   -   -    -\n"
+                                     " 1   Extended          Completed without error\n"
+                              << shown;
+    };
+    nvme("Completed without error", "Successfully Completed");
+    nvme("Aborted: Self-test command", "Test Aborted by User");
+    nvme("Aborted: Controller Reset", "Test Interrupted by the Host");
+    nvme("Fatal or unknown test error", "Test ended by Fatal or Unknown Error");
+    nvme("Completed: failed segments", "Test failed by Unknown Element");
+    nvme("Unknown result (0xe)", "Test ended with Unknown Status");
+    QTest::newRow("NVMe running") << QByteArray(
+                                         "Self-test status: Short self-test in progress (12% completed)\n")
+                                  << "running 88";
     QTest::newRow("no number") << QByteArray("Self-test routine in progress...\n?% of test remaining.\n")
                                << "running 0";
-    QTest::newRow("number not told") << QByteArray("Self-test routine in progress...\n") << "";
+    QTest::newRow("number not told") << QByteArray("Self-test routine in progress...\n")
+                                     << "No Status from the Drive";
     QTest::newRow("rest further down, then another")
         << QByteArray("Self-test routine in progress...\nThe previous self-test routine completed\n\n"
                       "\t10% of test remaining.\n") +
                sample("caps-read-failure-121-wd.txt")
-        << "running 10, read failure";
+        << "running 10, Test failed by Read Element";
 }
 
 void tst_SelfTestText::status()

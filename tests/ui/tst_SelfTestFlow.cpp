@@ -1,4 +1,5 @@
 #include "smart/SelfTestGlobals.h"
+#include "smart/SmartGlobals.h"
 #include "tests/ui/WindowFixture.h"
 #include "ui/ConfarmetionClass.h"
 #include "ui/DestinitionWarning.h"
@@ -24,7 +25,9 @@ private slots:
     void refused_data();
     void refused();
     void extendedWithoutTime();
-    void anyOtherEndGoesOn();
+    void everyOtherEnd_data();
+    void everyOtherEnd();
+    void silence();
     void notDuringARefresh();
     void leftRunning();
     void overAndOver();
@@ -143,7 +146,7 @@ void tst_SelfTestFlow::aborted()
     child<QPushButton>("StopTestButton")->click();
     m_pWindow->OnStopConfirm();
     QCOMPARE(commands("smartctl64Bit.exe -X /dev/sdb >> "), 1);
-    QVERIFY(g_bSelfTestRunning);
+    QVERIFY(g_bSelfTestRunning && !shown("StopTestButton"));
     const int readings = commands("ShortTestStatus.txt");
     QTRY_VERIFY_WITH_TIMEOUT(!g_bSelfTestRunning, 3000);
     QCOMPARE(commands("ShortTestStatus.txt"), readings + 1); // the tick that tells of it reads all the same
@@ -194,16 +197,36 @@ void tst_SelfTestFlow::extendedWithoutTime()
     QCOMPARE(commands("-t long"), 0);
 }
 
-void tst_SelfTestFlow::anyOtherEndGoesOn()
+void tst_SelfTestFlow::everyOtherEnd_data()
 {
-    startOn(capabilities("caps-idle-72.txt"),
-            R"(, "selfTest": {"secondsPerMinute": 0, "result": "electrical"})");
+    QTest::addColumn<QString>("status");
+    QTest::newRow("interrupted") << "Test Interrupted by the Host";
+    QTest::newRow("electrical") << "Test failed by Electrical Element";
+    QTest::newRow("reserved") << "Test ended with Unknown Status";
+}
+
+void tst_SelfTestFlow::everyOtherEnd()
+{
+    startOn(capabilities("caps-idle-72.txt"), R"(, "selfTest": {"secondsPerMinute": 0, "result": ")" +
+                                                  QByteArray(QTest::currentDataTag()) + "\"}");
     start("radioButton_2");
-    m_pWindow->CheckShortTestStatus1();
+    QTEST(text("TestStatusValLbl"), "status");
+    QCOMPARE(sheet("TestStatusValLbl"), QStringLiteral("QLabel {color : Red;}"));
+    QVERIFY(!g_bSelfTestRunning && navigationIs(true) && shown("ScanButton") && shown("BackTestButton"));
+}
+
+/// A drive that answers no more has its test end, but not at the first time.
+void tst_SelfTestFlow::silence()
+{
+    startOn(capabilities("caps-idle-62.txt"), R"(, "selfTest": {"secondsPerMinute": 3600})");
+    start("radioButton_3");
+    g_strSelfTestDevice = QStringLiteral("/dev/sdn"); // where there is none
+    for (int reading = 0; reading < 9; ++reading)
+        m_pWindow->CheckShortTestStatus1();
     QVERIFY(g_bSelfTestRunning);
-    QCOMPARE(text("TestStatusValLbl"), QString());
-    QCOMPARE(text("TestElapsedValLbl"), QStringLiteral("00:00:02"));
-    QVERIFY(shown("TestProgressBar") && !shown("StopTestButton"));
+    m_pWindow->CheckShortTestStatus1();
+    QCOMPARE(text("TestStatusValLbl"), QStringLiteral("No Status from the Drive"));
+    QVERIFY(!g_bSelfTestRunning && shown("ScanButton") && !shown("StopTestButton"));
 }
 
 void tst_SelfTestFlow::notDuringARefresh()

@@ -88,10 +88,11 @@ void MainWindow::OnCheckShortTest1()
     panel->SetDisk(g_strSelfTestModel, g_strSelfTestSerial);
 
     const std::optional<SelfTestKind> kind = chosenKind(*m_pScanDiskPage);
-    if (!runner::readOutput(runFor(ToolPurpose::Capabilities), [kind](QTextStream &text) {
-            takeCapabilities(selftest::readCapabilities(text, kind), kind);
-        }))
-        return;
+    // A drive whose capabilities cannot be had runs no test, whatever the disk before could do.
+    g_bSelfTestSupported = false;
+    runner::readOutput(runFor(ToolPurpose::Capabilities), [kind](QTextStream &text) {
+        takeCapabilities(selftest::readCapabilities(text, kind), kind);
+    });
     panel->SetTestName(currentSelfTest());
     if (canRunSelfTest()) {
         showTestScreen();
@@ -149,7 +150,7 @@ void MainWindow::OnStartShortSelfTest()
     g_bSelfTestResultOpen = canRun;
     setNavigationEnabled(navigation::ScanDiskScreen, !canRun);
     selftest::restartClock();
-    panel->SetStatus(SelfTestPanel::Status::None);
+    panel->SetStatus(std::nullopt);
     panel->SetElapsed(QString());
     panel->SetPollingMinutes(std::nullopt);
     panel->SetRemainingMinutes(std::nullopt);
@@ -165,12 +166,14 @@ void MainWindow::OnStartShortSelfTest()
     }
     // That there is a file is enough: what the drive makes of the start its status tells.
     if (!runner::readOutput(runFor(purpose), [](QTextStream &) {})) {
-        abandonTestStart();
+        endSelfTest(selftest::Told::NoStatus);
         return;
     }
     panel->SetPollingMinutes(currentPollingMinutes());
     panel->SetRemainingMinutes(currentPollingMinutes());
     CheckShortTestStatus1();
+    if (!g_bSelfTestRunning)
+        return;
     if (!m_pTestTimer) {
         m_pTestTimer = new QTimer(this);
         connect(m_pTestTimer, &QTimer::timeout, this, &MainWindow::CheckShortTestStatus1);
@@ -178,30 +181,30 @@ void MainWindow::OnStartShortSelfTest()
     m_pTestTimer->start(TickInterval);
 }
 
-/// The tool could not be run at all. A test that counted as running would keep the window from closing.
-void MainWindow::abandonTestStart()
-{
-    g_bTestPending = false;
-    g_bSelfTestRunning = false;
-    enableNavigation();
-    showTestButtons(false);
-}
-
 void MainWindow::CheckShortTestStatus1()
 {
-    if (g_bAbortSent)
+    const bool aborted = g_bAbortSent;
+    if (aborted)
         reportTestAbort();
     selftest::setElapsedLimit();
     QVector<selftest::StatusEvent> events;
-    if (!runner::readOutput(runFor(ToolPurpose::TestProgress),
-                            [&events](QTextStream &text) { events = selftest::readStatus(text); }))
-        return;
-    for (const selftest::StatusEvent &event : events) {
+    const bool opened = runner::readOutput(runFor(ToolPurpose::TestProgress), [&events](QTextStream &text) {
+        events = selftest::readStatus(text);
+    });
+    if (!opened)
+        events = {{selftest::Told::NoStatus}};
+    for (const selftest::StatusEvent &event : qAsConst(events)) {
+        const bool silent = event.told == selftest::Told::NoStatus;
+        // Behind an abort a drive may still be on its way to the end: only what its test found is told then.
+        if (selftest::passesOver(!silent) || (aborted && !selftest::isResult(event.told)))
+            continue;
         if (event.told == selftest::Told::InProgress)
             showTestProgress(event.remaining);
         else
-            endSelfTest(event.told == selftest::Told::Completed);
+            endSelfTest(event.told);
     }
+    if (!opened)
+        return;
     selftest::tickClock();
     m_pScanDiskPage->m_pSelfTestPanel->SetElapsed(g_timeElapsed.toString(QStringLiteral("HH:mm:ss")));
 }
@@ -217,12 +220,12 @@ void MainWindow::showTestProgress(int remainingPercent)
     if (selftest::takeMinute())
         panel->SetRemainingMinutes(g_nRemainingMinutes[static_cast<std::size_t>(currentSelfTest())]);
     if (selftest::isOver(remainingPercent))
-        endSelfTest(true);
+        endSelfTest(selftest::Told::Completed);
     else
-        panel->SetStatus(SelfTestPanel::Status::Running);
+        panel->SetStatus(selftest::Told::InProgress);
 }
 
-void MainWindow::endSelfTest(bool passed)
+void MainWindow::endSelfTest(selftest::Told how)
 {
     SelfTestPanel *panel = m_pScanDiskPage->m_pSelfTestPanel;
     if (m_pTestTimer)
@@ -236,7 +239,7 @@ void MainWindow::endSelfTest(bool passed)
     showTestButtons(false);
     panel->ShowProgress(false);
     panel->ShowTimes(false);
-    panel->SetStatus(passed ? SelfTestPanel::Status::Completed : SelfTestPanel::Status::ReadFailure);
+    panel->SetStatus(how);
 }
 
 void MainWindow::reportTestAbort()
@@ -249,7 +252,7 @@ void MainWindow::reportTestAbort()
     m_pScanDiskPage->m_pSelfTestPanel->ShowProgress(false);
     enableNavigation();
     showTestButtons(false);
-    m_pScanDiskPage->m_pSelfTestPanel->SetStatus(SelfTestPanel::Status::Aborted);
+    m_pScanDiskPage->m_pSelfTestPanel->SetStatus(selftest::Told::Aborted);
     g_bAbortSent = false;
 }
 
