@@ -3,6 +3,7 @@
 #include "platform/Platform.h"
 
 #include <QFile>
+#include <QTextCodec>
 #include <QTextStream>
 
 void RunSilent(const char *strFunct, const char *strstrParams)
@@ -29,6 +30,30 @@ QString nativePath(const QString &path)
 {
     return Platform::current().NativePath(path);
 }
+
+namespace
+{
+
+/// A byte-order mark tells UTF-16, else the locale decides: so one reader serves both kinds of tool. One byte
+/// is the same in any locale: 0xA0 behind an ASCII character is the no-break blank that groups digits on some
+/// systems, and no part of a longer sequence.
+QString decoded(const QByteArray &bytes)
+{
+    if (const QTextCodec *marked = QTextCodec::codecForUtfText(bytes, nullptr))
+        return marked->toUnicode(bytes);
+    const QTextCodec *locale = QTextCodec::codecForLocale();
+    QString text;
+    int start = 0;
+    for (int at = bytes.indexOf('\xA0'); at >= 0; at = bytes.indexOf('\xA0', at + 1)) {
+        if (at > start && static_cast<unsigned char>(bytes.at(at - 1)) >= 0x80)
+            continue;
+        text += locale->toUnicode(bytes.constData() + start, at - start) + QChar(QChar::Nbsp);
+        start = at + 1;
+    }
+    return text + locale->toUnicode(bytes.constData() + start, bytes.size() - start);
+}
+
+} // namespace
 
 namespace runner
 {
@@ -64,12 +89,12 @@ void runInto(const QString &command, const QString &path)
 bool readOutput(const QString &path, const OutputReader &read, After after)
 {
     QFile file(nativePath(path));
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+    if (!file.open(QIODevice::ReadOnly))
         return false;
-    // No codec is set: the byte-order mark alone tells the two kinds of tool apart.
-    QTextStream stream(&file);
-    read(stream);
+    QString text = decoded(file.readAll()).replace(QLatin1String("\r\n"), QLatin1String("\n"));
     file.close();
+    QTextStream stream(&text, QIODevice::ReadOnly);
+    read(stream);
     if (after == After::Remove && file.exists())
         file.remove();
     return true;

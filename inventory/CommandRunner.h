@@ -41,7 +41,8 @@ std::wstring widen(const QByteArray &bytes);
 /// What becomes of a temp file once it has been read.
 enum class After { Remove, Keep };
 
-/// Takes the text of a tool. The stream decodes UTF-16 by its byte-order mark, else by the locale.
+/// Takes the text of a tool: of UTF-16 by its byte-order mark, else of the locale, in which a lone byte 0xA0
+/// is the no-break blank.
 using OutputReader = std::function<void(QTextStream &stream)>;
 
 /// tempFile() with a left-over of that name removed, as commands append to their file.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <limits>
 
 namespace
@@ -137,30 +138,59 @@ bool isDivided(GraphKind kind, const QString &key)
                                       key.contains(QLatin1String("Total LBAs Read")));
 }
 
+/// The chart takes ends for equal that differ by no more of their size, and draws nothing then.
+bool tooCloseToDraw(qint64 low, qint64 high)
+{
+    constexpr double Least = 2e-12;
+    const double width = std::max(static_cast<double>(high) - static_cast<double>(low), 2.0);
+    return width < Least * std::max(std::abs(static_cast<double>(low)), std::abs(static_cast<double>(high)));
+}
+
+/// value + step, also where the sum does not fit a number of 64 bits. Steps are small, and the value is not.
+QString sumText(qint64 value, qint64 step)
+{
+    const quint64 by = static_cast<quint64>(step);
+    if (value >= 0)
+        return QString::number(static_cast<quint64>(value) + by);
+    const quint64 magnitude = ~static_cast<quint64>(value) + 1;
+    return QLatin1Char('-') + QString::number(magnitude - by);
+}
+
+/// From base + first to base + last. Three have room for as many digits.
+std::vector<QString> labelsBetween(qint64 base, qint64 first, qint64 last)
+{
+    return {sumText(base, first), sumText(base, first + (last - first) / 2), sumText(base, last)};
+}
+
 int cappedTicks(std::size_t ticks)
 {
     return static_cast<int>(std::min(ticks, MaxTicks));
 }
 
-GraphModel singleDay(double value, const QDate &today)
+GraphModel singleDay(qint64 value, const QDate &today)
 {
     constexpr double middle = SingleDayWidth / 2;
     GraphModel model;
     model.singleDay = true;
-    model.series = {{{{middle, value}, {middle, value}, {middle, value - 1}}, true, true},
-                    {{{middle, value}, {middle, value + 1}}, true, false},
-                    {{{0, value}, {SingleDayWidth, value}}, true, false}};
+    const bool large = tooCloseToDraw(value, value);
+    const double y = large ? 0 : static_cast<double>(value);
+    model.series = {{{{middle, y}, {middle, y}, {middle, y - 1}}, true, true},
+                    {{{middle, y}, {middle, y + 1}}, true, false},
+                    {{{0, y}, {SingleDayWidth, y}}, true, false}};
     model.xMax = SingleDayWidth;
     model.xTicks = 2;
-    model.yMin = value - 1;
-    model.yMax = value + 1;
-    model.yTicks = 3;
+    model.yMin = y - 1;
+    model.yMax = y + 1;
+    model.yTicks = EqualTicks;
+    if (large)
+        model.yLabels = labelsBetween(value, -1, 1);
     model.labels = {today.toString(QStringLiteral("dd-MMM"))};
     model.labelEnd = SingleDayWidth;
     return model;
 }
 
-void setYAxis(GraphModel &model, GraphKind kind, const QString &key, const std::vector<qint64> &values)
+/// Returns the number that stands at 0 of the axis.
+qint64 setYAxis(GraphModel &model, GraphKind kind, const QString &key, const std::vector<qint64> &values)
 {
     const auto [lowest, highest] = std::minmax_element(values.begin(), values.end());
     const bool small = digitsOf(*highest) <= SmallDigits;
@@ -168,14 +198,17 @@ void setYAxis(GraphModel &model, GraphKind kind, const QString &key, const std::
                                              : axisOf(NvmeRules, NvmeOther, key, small);
     const qint64 low = lowered(*lowest, axis.low);
     const qint64 high = axis.divideHigh ? *highest / Divisor : *highest;
-    model.yMin = static_cast<double>(low);
-    model.yMax = static_cast<double>(high);
+    const int margin = low == high ? 1 : 0;
     model.yTicks = axis.ticks == TicksByDays ? cappedTicks(10 * values.size()) : axis.ticks;
-    if (low == high) {
+    if (low == high)
         model.yTicks = EqualTicks;
-        model.yMin -= 1;
-        model.yMax += 1;
-    }
+    const bool close = tooCloseToDraw(low, high);
+    const qint64 base = close ? low : 0;
+    model.yMin = static_cast<double>(low - base) - margin;
+    model.yMax = static_cast<double>(high - base) + margin;
+    if (close)
+        model.yLabels = labelsBetween(base, -margin, high - base + margin);
+    return base;
 }
 
 GraphModel manyDays(GraphKind kind, const QString &key, const std::vector<QString> &dates,
@@ -183,12 +216,13 @@ GraphModel manyDays(GraphKind kind, const QString &key, const std::vector<QStrin
 {
     GraphModel model;
     const bool divided = isDivided(kind, key);
+    const qint64 base = setYAxis(model, kind, key, values);
     GraphSeries line;
     line.pointsVisible = true;
     double x = 0;
     for (const qint64 value : values) {
         const bool large = digitsOf(value) > SmallDigits;
-        line.points.push_back({x, static_cast<double>(divided && large ? value / Divisor : value)});
+        line.points.push_back({x, static_cast<double>(divided && large ? value / Divisor : value - base)});
         x += DayStep;
     }
     // Holds the line out to the right edge.
@@ -196,7 +230,6 @@ GraphModel manyDays(GraphKind kind, const QString &key, const std::vector<QStrin
     model.series = {line};
     model.xMax = 100;
     model.xTicks = cappedTicks(values.size());
-    setYAxis(model, kind, key, values);
     for (const QString &date : dates)
         model.labels.push_back(dayLabel(date));
     return model;
@@ -228,5 +261,5 @@ std::optional<GraphModel> graphModel(GraphKind kind, const QString &key, const s
     if (all.size() > 1)
         return manyDays(kind, key, dates, all);
     const bool divide = isDivided(kind, key) && digitsOf(all.front()) > UndividedDigits;
-    return singleDay(static_cast<double>(divide ? all.front() / Divisor : all.front()), today);
+    return singleDay(divide ? all.front() / Divisor : all.front(), today);
 }

@@ -2,6 +2,7 @@
 
 #include "inventory/CommandRunner.h"
 #include "platform/Platform.h"
+#include "smart/TextCuts.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -196,7 +197,9 @@ std::vector<qint64> readHistoryValues(const QString &valuePath, const std::vecto
     std::vector<qint64> values;
     for (const QString &date : dates) {
         stored.beginGroup(date);
-        values.push_back(key.isEmpty() ? 0 : stored.value(key).toString().toLongLong(nullptr, 10));
+        // Days of earlier versions may hold grouped digits.
+        const QString number = key.isEmpty() ? QString() : cuts::withoutGroups(stored.value(key).toString());
+        values.push_back(number.toLongLong(nullptr, 10));
         stored.endGroup();
     }
     return values;

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/// The name under which an attribute stands in history and graph: the report's name with blanks for
+/// The name by which an attribute goes in catalogue, history and graph: the report's name with blanks for
 /// underscores. Never translated.
 inline QString keyOf(const QString &reportName)
 {

@@ -2,8 +2,10 @@
 
 #include "smart/AttributeCatalogue.h"
 #include "smart/AttributeKey.h"
+#include "smart/TextCuts.h"
 
 #include <QCoreApplication>
+#include <QSet>
 
 namespace
 {
@@ -30,12 +32,29 @@ bool countsBadSectors(const QString &displayName)
            displayName.contains(QLatin1String("Sector Count"));
 }
 
-AttributeRow ataRow(const SmartAttributeRecord &record)
+/// The keys of one table, each once: of rows with one name the later ones have their ID behind it.
+class Keys
+{
+public:
+    QString own(QString key, const QString &id)
+    {
+        while (m_taken.contains(key))
+            key += QLatin1Char(' ') + id;
+        m_taken.insert(key);
+        return key;
+    }
+
+private:
+    QSet<QString> m_taken;
+};
+
+AttributeRow ataRow(const SmartAttributeRecord &record, Keys &keys)
 {
     AttributeRow row;
-    row.key = keyOf(record.AttributeName.text());
+    const QString name = keyOf(record.AttributeName.text());
+    row.key = keys.own(name, QString::number(record.Id));
     row.historyValue = record.RawValue.text();
-    const QString display = ataDisplayName(row.key, record.Id);
+    const QString display = ataDisplayName(name, record.Id);
     row.cells = {QString::number(record.Id),
                  display,
                  statusText(attributeFailed(record)),
@@ -49,13 +68,14 @@ AttributeRow ataRow(const SmartAttributeRecord &record)
     return row;
 }
 
-AttributeRow nvmeRow(const NvmeAttributeRecord &record, std::size_t number)
+AttributeRow nvmeRow(const NvmeAttributeRecord &record, const QString &number, Keys &keys)
 {
     AttributeRow row;
-    row.key = record.Name.text();
+    const QString name = record.Name.text();
+    row.key = keys.own(name, number);
     const QString value = record.Value.text().trimmed();
     row.historyValue = cleanedNvmeValue(value);
-    row.cells = {QString::number(number), nvmeDisplayName(row.key), value, row.key};
+    row.cells = {number, nvmeDisplayName(name), value, row.key};
     return row;
 }
 
@@ -64,16 +84,18 @@ AttributeRow nvmeRow(const NvmeAttributeRecord &record, std::size_t number)
 std::vector<AttributeRow> ataRows(const SmartAttributeRecord *head)
 {
     std::vector<AttributeRow> rows;
+    Keys keys;
     for (const SmartAttributeRecord *record = head; record; record = record->Next)
-        rows.push_back(ataRow(*record));
+        rows.push_back(ataRow(*record, keys));
     return rows;
 }
 
 std::vector<AttributeRow> nvmeRows(const NvmeAttributeRecord *head)
 {
     std::vector<AttributeRow> rows;
+    Keys keys;
     for (const NvmeAttributeRecord *record = head; record; record = record->Next)
-        rows.push_back(nvmeRow(*record, rows.size()));
+        rows.push_back(nvmeRow(*record, QString::number(rows.size()), keys));
     return rows;
 }
 
@@ -94,10 +116,12 @@ QString cleanedNvmeValue(const QString &value)
         return QStringLiteral("0");
     const int remark = copy.indexOf(QLatin1String(" ["));
     if (remark >= 0)
-        return copy.left(remark).remove(QLatin1Char(',')).remove(QLatin1Char('"'));
+        return cuts::withoutGroups(copy.left(remark).remove(QLatin1Char(',')).remove(QLatin1Char('"')));
     for (const char *word : {" Celsius", "%", ",", "\""}) {
-        if (copy.contains(QLatin1String(word)))
-            return copy.remove(QLatin1String(word));
+        if (copy.contains(QLatin1String(word))) {
+            copy.remove(QLatin1String(word));
+            break;
+        }
     }
-    return copy;
+    return cuts::withoutGroups(copy);
 }

@@ -10,7 +10,7 @@
 
 /// One row of the tree.
 struct AttributeRow {
-    QString key;                ///< names the row in history and graph, never translated
+    QString key;                ///< names the row in history and graph; never translated, once per table
     QString historyValue;       ///< what the history keeps of the row
     std::vector<QString> cells; ///< by tree column, up to and with the hidden one of the key
     int redCell = -1;           ///< column whose text is red, -1: none
@@ -27,5 +27,6 @@ bool attributeFailed(const SmartAttributeRecord &record);
 /// Status in the printed report, which differs: a value equal to its threshold is still good.
 bool reportStatusFailed(const SmartAttributeRecord &record);
 
-/// The number of an NVMe value without grouping, unit and remarks: "1,234,567 [632 GB]" gives "1234567".
+/// The number of an NVMe value without grouping, unit and remarks: "1,234,567 [632 GB]" gives "1234567", with
+/// whatever stands between the groups.
 QString cleanedNvmeValue(const QString &value);

@@ -1,5 +1,7 @@
 #include "smart/TextCuts.h"
 
+#include <QRegularExpression>
+
 namespace cuts
 {
 
@@ -32,6 +34,14 @@ QString without(QString text, std::initializer_list<const char *> literals)
     for (const char *literal : literals)
         text.remove(QLatin1String(literal));
     return text;
+}
+
+QString withoutGroups(const QString &number)
+{
+    static const QRegularExpression grouped(
+        QStringLiteral("^[0-9]{1,3}([^\\p{L}\\p{N}])[0-9]{3}(\\1[0-9]{3})*$"));
+    const QRegularExpressionMatch match = grouped.match(number);
+    return match.hasMatch() ? QString(number).remove(match.captured(1)) : number;
 }
 
 } // namespace cuts

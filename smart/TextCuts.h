@@ -19,4 +19,8 @@ QStringList firstParts(const QString &line, QChar separator, int count);
 /// The text without the literals, taken out one after the other wherever they stand.
 QString without(QString text, std::initializer_list<const char *> literals);
 
+/// A number without what groups its digits by three, which each country writes in its own way: "18.250.344"
+/// gives "18250344". Whatever else, "1.5" among them, stays as it is.
+QString withoutGroups(const QString &number);
+
 } // namespace cuts

@@ -46,24 +46,12 @@ void dressAxis(QAbstractAxis *axis)
     axis->setGridLinePen(QPen(GridColour, 1));
 }
 
-double magnitude(double low, double high)
-{
-    return std::max(std::abs(low), std::abs(high));
-}
-
 /// Whole numbers. The library takes those of a plain "%i" for 32 bits wide.
 QString numberFormat(double low, double high)
 {
-    return magnitude(low, high) > std::numeric_limits<qint32>::max() ? QStringLiteral("%lli")
-                                                                     : QStringLiteral("%i");
-}
-
-/// The library draws nothing at all on an axis whose ends it takes for equal, such as 14 digits and two more.
-void setDrawableRange(QValueAxis *axis, double low, double high)
-{
-    const double half = magnitude(low, high) * 1e-12;
-    const double middle = low + (high - low) / 2;
-    axis->setRange(std::min(low, middle - half), std::max(high, middle + half));
+    return std::max(std::abs(low), std::abs(high)) > std::numeric_limits<qint32>::max()
+               ? QStringLiteral("%lli")
+               : QStringLiteral("%i");
 }
 
 std::unique_ptr<QChart> newChart()
@@ -98,11 +86,29 @@ QValueAxis *addHiddenAxis(QChart *chart, const GraphModel &model)
     return axis;
 }
 
+/// Numbers as texts, for those that the library cannot tell apart.
+QValueAxis *addNamedAxis(QChart *chart, const GraphModel &model)
+{
+    auto *axis = new QCategoryAxis;
+    axis->setLabelsPosition(QCategoryAxis::AxisLabelsPositionOnValue);
+    axis->setStartValue(model.yMin);
+    const double steps = static_cast<double>(model.yLabels.size() - 1);
+    double number = 0;
+    for (const QString &label : model.yLabels)
+        axis->append(label, model.yMin + (model.yMax - model.yMin) * number++ / steps);
+    axis->setRange(model.yMin, model.yMax);
+    dressAxis(axis);
+    chart->addAxis(axis, Qt::AlignLeft);
+    return axis;
+}
+
 QValueAxis *addValueAxis(QChart *chart, const GraphModel &model)
 {
+    if (!model.yLabels.empty())
+        return addNamedAxis(chart, model);
     auto *axis = new QValueAxis;
     axis->setLabelFormat(numberFormat(model.yMin, model.yMax));
-    setDrawableRange(axis, model.yMin, model.yMax);
+    axis->setRange(model.yMin, model.yMax);
     if (model.yTicks > 0)
         axis->setTickCount(model.yTicks);
     dressAxis(axis);

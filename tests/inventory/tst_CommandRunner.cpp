@@ -20,6 +20,7 @@ private slots:
     void removesLeftover();
     void decodesBothKindsOfTool_data();
     void decodesBothKindsOfTool();
+    void readsNoBreakBlanks();
     void keepsFileIfAsked();
     void reportsMissingFile_data();
     void reportsMissingFile();
@@ -143,6 +144,20 @@ void CommandRunnerTest::decodesBothKindsOfTool()
     QVERIFY(runner::runAndRead(QStringLiteral("tool"), QStringLiteral("F.txt"),
                                [&lines](QTextStream &stream) { lines = linesOf(stream); }));
     QCOMPARE(lines, QStringList({QStringLiteral("Name  n\u00B0"), QStringLiteral("C:    7"), QString()}));
+}
+
+void CommandRunnerTest::readsNoBreakBlanks()
+{
+    // Where a byte ahead of it is beyond ASCII it is a part of a letter.
+    const QByteArray output = "18\xA0"
+                              "250\xA0"
+                              "344\r\n" +
+                              inLocale(QStringLiteral("\u00E0\n"));
+    fake->onCommand = [&output](const QString &line) { return FakePlatform::answer(line, output); };
+    QStringList lines;
+    QVERIFY(runner::runAndRead(QStringLiteral("tool"), QStringLiteral("F.txt"),
+                               [&lines](QTextStream &stream) { lines = linesOf(stream); }));
+    QCOMPARE(lines, QStringList({QStringLiteral("18\u00A0250\u00A0344"), QStringLiteral("\u00E0")}));
 }
 
 void CommandRunnerTest::keepsFileIfAsked()

@@ -24,9 +24,11 @@ std::optional<GraphModel> graphOf(GraphKind kind, const QString &key, const Valu
 QString axisText(const GraphModel &model)
 {
     return QStringLiteral("%1: %2 to %3")
-        .arg(model.yTicks)
-        .arg(model.yMin, 0, 'f', 0)
-        .arg(model.yMax, 0, 'f', 0);
+               .arg(model.yTicks)
+               .arg(model.yMin, 0, 'f', 0)
+               .arg(model.yMax, 0, 'f', 0) +
+           (model.yLabels.empty() ? QString() : QStringLiteral(", ")) +
+           QStringList(model.yLabels.begin(), model.yLabels.end()).join(' ');
 }
 
 /// "x,y x,y …"
@@ -142,6 +144,10 @@ void AttributeGraphTest::axis_data()
     row("digits without the sign", "Spin Up Time", {-2000000, -1000000}, "6: -2000000 to -1000000");
     row("load cycles of six", "Load Cycle Count", {6, 9}, "6: 6 to 9");
     row("load cycles of seven", "Load Cycle Count", {7, 9}, "6: 1 to 9");
+    row("same values of 16 digits", "Another", {9007199254740993, 9007199254740993},
+        "3: -1 to 1, 9007199254740992 9007199254740993 9007199254740994");
+    row("close values of 14 digits", "Spin Up Time", {10000000000000, 10000000000010},
+        "6: 0 to 10, 10000000000000 10000000000005 10000000000010");
     row("sectors written", "Total LBAs Written", {1000, 2000000000}, "6: 0 to 1953125");
     row("sectors without a difference", "Total LBAs Read", {2000000, 2000000}, "6: 0 to 1953");
     row("least number", "Power Cycle Count", {Lowest, 5}, "3: -9223372036854775808 to 5");
@@ -221,6 +227,13 @@ void AttributeGraphTest::singleDay_data()
     QTest::newRow("NVMe stays") << GraphKind::Nvme << "Total LBAs Read" << qint64(10000000)
                                 << "40,10000000 40,10000000 40,9999999"
                                 << "3: 9999999 to 10000001";
+    QTest::newRow("twelve digits") << GraphKind::Ata << "Another" << qint64(999999999999)
+                                   << "40,999999999999 40,999999999999 40,999999999998"
+                                   << "3: 999999999998 to 1000000000000";
+    QTest::newRow("highest") << GraphKind::Ata << "Another" << Highest << "40,0 40,0 40,-1"
+                             << "3: -1 to 1, 9223372036854775806 9223372036854775807 9223372036854775808";
+    QTest::newRow("lowest") << GraphKind::Ata << "Another" << Lowest << "40,0 40,0 40,-1"
+                            << "3: -1 to 1, -9223372036854775809 -9223372036854775808 -9223372036854775807";
 }
 
 void AttributeGraphTest::singleDay()

@@ -312,13 +312,12 @@ void TestAttributeHistory::programOfThatName()
 
 void TestAttributeHistory::values()
 {
-    put(m_serial, "[a]\nBig%20One=31288407551\nText=5 5 9\nHex=0x10\nBelow=-4\n[b]\nText=7\n");
+    put(m_serial,
+        "[a]\nBig%20One=31288407551\nText=5 5 9\nHex=0x10\nBelow=-4\nGroups=18.250.344\n[b]\nText=7\n");
     const Dates dates{"a", "b", "missing"};
-    const QVector<QPair<QString, std::vector<qint64>>> rows{{"Big One", {31288407551, 0, 0}},
-                                                            {"Text", {0, 7, 0}},
-                                                            {"Hex", {0, 0, 0}},
-                                                            {"Below", {-4, 0, 0}},
-                                                            {"", {0, 0, 0}}};
+    const QVector<QPair<QString, std::vector<qint64>>> rows{
+        {"Big One", {31288407551, 0, 0}}, {"Text", {0, 7, 0}}, {"Hex", {0, 0, 0}}, {"Below", {-4, 0, 0}},
+        {"Groups", {18250344, 0, 0}},     {"", {0, 0, 0}}};
     for (const auto &row : rows)
         QCOMPARE(readHistoryValues(file(m_serial), dates, row.first), row.second);
 }
