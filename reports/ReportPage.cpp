@@ -77,7 +77,7 @@ Value orNotAvailable(const SmartReport &report)
 
 Value status(const SmartReport &report)
 {
-    return {report.smartStatus, Ink::Green};
+    return {report.smartStatus, report.smartFailed ? Ink::Red : Ink::Green};
 }
 
 /// A rating of exactly 40 is neither, and stays without a value.

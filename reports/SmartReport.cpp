@@ -97,6 +97,9 @@ SmartReport gatherSmartReport()
         takeNvme(report, g_pNvmeAttributeHead);
     else
         takeAta(report, g_pSmartAttributeHead);
+    report.smartFailed = g_driveVerdict == DriveVerdict::Failed;
+    if (report.smartFailed)
+        report.smartStatus = Texts::tr("Failed");
     report.temperature = g_strTemperatureText;
     report.performance = g_nPerformancePercent;
     report.performanceText = g_strPerformanceText;

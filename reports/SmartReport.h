@@ -27,7 +27,8 @@ struct SmartReport {
     QString sataVersion;
     QString localTime;
     QString maxTransferSize;
-    QString smartStatus; ///< "Passed", or the drive's own words
+    QString smartStatus; ///< "Passed", "Failed" or the drive's own words
+    bool smartFailed = false;
     QString temperature;
     QString performanceText;
     int performance = 0; ///< percent

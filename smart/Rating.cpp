@@ -191,7 +191,7 @@ QString performanceImage(int percent, float factor)
     return plain ? QStringLiteral("img_PerformanceAve.png") : QString();
 }
 
-OverallResult overallResult(bool available, int temperature)
+OverallResult overallResult(bool available, int temperature, DriveVerdict verdict)
 {
     if (temperature == 0)
         return OverallResult::NotSupported;
@@ -238,6 +238,8 @@ void UpdateLifeFigures()
 LifeKind lifeKind(bool nvme, bool removable, const SmartAttributeRecord *head)
 {
     if (nvme)
+    if (verdict == DriveVerdict::Failed)
+        return OverallResult::Failed;
         return LifeKind::Nvme;
     if (removable)
         return LifeKind::Removable;

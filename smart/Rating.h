@@ -1,5 +1,6 @@
 #pragma once
 
+#include "smart/DriveVerdict.h"
 #include "smart/SmartRecords.h"
 
 #include <QString>
@@ -40,8 +41,9 @@ QString healthImage(int percent, float factor);
 QString performanceImage(int percent, float factor);
 
 enum class OverallResult { Passed, NotSupported, Failed };
-/// `temperature` in °C, 0 if it is not known.
-OverallResult overallResult(bool available, int temperature);
+/// `temperature` in °C, 0 if it is not known. A drive that gives itself up has failed, whatever else is
+/// known.
+OverallResult overallResult(bool available, int temperature, DriveVerdict verdict);
 
 /// The figures of a disk's life.
 struct LifeFigures {

@@ -3,6 +3,7 @@
 #include "app/state/GlobalApp.h"
 #include "app/state/Globals.h"
 #include "inventory/CommandRunner.h"
+#include "smart/DriveVerdict.h"
 #include "smart/SmartGlobals.h"
 #include "smart/TextCuts.h"
 
@@ -336,7 +337,12 @@ void DetectReportKind(const QString &path)
 void ParseSmartReport(const QString &path)
 {
     report::Identity identity;
-    const auto readHead = [&identity](QTextStream &stream) { identity = report::readIdentity(stream); };
+    DriveVerdict verdict = DriveVerdict::NotTold;
+    const auto readHead = [&identity, &verdict](QTextStream &stream) {
+        identity = report::readIdentity(stream);
+        stream.seek(0);
+        verdict = readVerdictLine(stream);
+    };
     if (!runner::readOutput(path, readHead, runner::After::Keep))
         return;
     g_strModelName = identity.model.value_or(g_strModelName);
@@ -345,16 +351,18 @@ void ParseSmartReport(const QString &path)
     g_strAtaVersion = identity.ataVersion.value_or(g_strAtaVersion);
     g_bSmartAvailable = false;
 
-    runner::readOutput(path, [](QTextStream &stream) {
+    runner::readOutput(path, [verdict](QTextStream &stream) {
         const report::Markers markers = report::translatedMarkers();
         if (g_App.m_bNVMe) {
             freeRecords(g_pNvmeAttributeHead, g_pNvmeAttributeTail);
             g_bSmartAvailable =
                 report::readNvmeLog(stream, markers, g_pNvmeAttributeHead, g_pNvmeAttributeTail);
+            g_driveVerdict = nvmeVerdict(verdict, g_pNvmeAttributeHead);
         } else {
             freeRecords(g_pSmartAttributeHead, g_pSmartAttributeTail);
             g_bSmartAvailable =
                 report::readAtaTable(stream, markers, g_pSmartAttributeHead, g_pSmartAttributeTail);
+            g_driveVerdict = ataVerdict(verdict, g_pSmartAttributeHead);
         }
     });
 }

@@ -15,7 +15,8 @@ void DetectReportKind(const QString &path);
 
 /// Takes in the report at `path` by the kind that DetectReportKind() found: fills the list of that kind,
 /// g_strModelName, g_strSerialNumber, g_strFirmware, g_strAtaVersion (those that the report names) and
-/// g_bSmartAvailable, and removes the file. A file that does not open changes nothing. Main thread only.
+/// g_bSmartAvailable and g_driveVerdict, and removes the file. A file that does not open changes nothing.
+/// Main thread only.
 void ParseSmartReport(const QString &path);
 
 /// The steps of reading a report: text in, records out. Linear in the text's size; nothing in a text is an

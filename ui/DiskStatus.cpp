@@ -80,15 +80,15 @@ void DiskStatus::styleTexts()
 {
     detailedLbl->setFont(style::font(13));
     detailedLbl->setStyleSheet(style::BlackLabel);
-    for (QLabel *name : std::initializer_list<QLabel *>{DisknumberLbl, ModelNumberLbl, FrimvareVersionLbl,
-                                                        InterFaceLbl, Seriallbl, SectorLbl, DiskLifeString,
-                                                        PowerOnTimeString, StartStopString}) {
+    for (QLabel *name : std::initializer_list<QLabel *>{
+             DisknumberLbl, ModelNumberLbl, FrimvareVersionLbl, InterFaceLbl, Seriallbl, SectorLbl,
+             DiskLifeString, PowerOnTimeString, StartStopString, DriveVerdictString}) {
         name->setFont(style::semiBold(10));
         name->setStyleSheet(style::GreyLabel);
     }
-    for (QLabel *value : std::initializer_list<QLabel *>{DisknumberValLbl, ModelNumValLbl, FrimvareVersValLbl,
-                                                         InterFaceValLbl, SerialValLbl, SectorValLbl,
-                                                         DiskLifeValue, PowerOnTimeValue, StartStopValue}) {
+    for (QLabel *value : std::initializer_list<QLabel *>{
+             DisknumberValLbl, ModelNumValLbl, FrimvareVersValLbl, InterFaceValLbl, SerialValLbl,
+             SectorValLbl, DiskLifeValue, PowerOnTimeValue, StartStopValue, DriveVerdictValue}) {
         value->setFont(style::font(10));
         value->setStyleSheet(style::GreyLabel);
         value->setTextFormat(Qt::PlainText);
@@ -150,14 +150,13 @@ QGridLayout *DiskStatus::makeDetailsGrid()
         {ModelNumberLbl, ModelNumValLbl, Seriallbl, SerialValLbl},
         {FrimvareVersionLbl, FrimvareVersValLbl, SectorLbl, SectorValLbl},
         {DiskLifeString, DiskLifeValue, PowerOnTimeString, PowerOnTimeValue},
-        {StartStopString, StartStopValue, nullptr, nullptr},
+        {StartStopString, StartStopValue, DriveVerdictString, DriveVerdictValue},
     };
     int row = 1;
     for (const auto &labels : rows) {
         int column = 0;
         for (QLabel *label : labels) {
-            if (label)
-                grid->addWidget(label, row, column, row < FirstFixedRow ? fills : Qt::AlignLeft | fills);
+            grid->addWidget(label, row, column, row < FirstFixedRow ? fills : Qt::AlignLeft | fills);
             // Column 2 stays empty between the two pairs.
             column += column == 1 ? 2 : 1;
         }
@@ -220,9 +219,10 @@ void DiskStatus::ApplyLanguageMetrics()
         QLabel *label;
         int width;
     } lower[] = {
-        {DiskLifeString, metrics.lifeName},       {DiskLifeValue, metrics.lifeValue},
-        {PowerOnTimeString, metrics.powerOnName}, {PowerOnTimeValue, metrics.powerOnValue},
-        {StartStopString, metrics.startStopName}, {StartStopValue, metrics.startStopValue},
+        {DiskLifeString, metrics.lifeName},        {DiskLifeValue, metrics.lifeValue},
+        {PowerOnTimeString, metrics.powerOnName},  {PowerOnTimeValue, metrics.powerOnValue},
+        {StartStopString, metrics.startStopName},  {StartStopValue, metrics.startStopValue},
+        {DriveVerdictString, metrics.verdictName}, {DriveVerdictValue, metrics.verdictValue},
     };
     for (const auto &entry : lower)
         entry.label->setFixedSize(style::px(entry.width), style::px(FieldHeight));
@@ -244,6 +244,7 @@ void DiskStatus::setStaticTexts()
     DiskLifeString->setText(tr("Hard Disk Life"));
     PowerOnTimeString->setText(tr("Power-on Time"));
     StartStopString->setText(tr("Start/Stop Count"));
+    DriveVerdictString->setText(tr("Drive's verdict"));
 }
 
 void DiskStatus::showIdentity(const DiskIdentityTexts &texts)
@@ -263,6 +264,15 @@ void DiskStatus::showLife(const LifeTexts &texts)
     StartStopValue->setText(texts.startStop);
 }
 
+void DiskStatus::showVerdict(DriveVerdict verdict)
+{
+    const bool failed = verdict == DriveVerdict::Failed;
+    DriveVerdictValue->setText(failed                            ? tr("Failed: back up your data")
+                               : verdict == DriveVerdict::Passed ? tr("Passed")
+                                                                 : tr("Not told"));
+    DriveVerdictValue->setStyleSheet(failed ? style::FailedLabel : style::GreyLabel);
+}
+
 void DiskStatus::redoDetails()
 {
     const DiskNode *node = findPhysicalDisk(PhysicalDriveBase + g_nCurrentDiskIndex);
@@ -271,6 +281,7 @@ void DiskStatus::redoDetails()
     const LifeKind kind =
         lifeKind(g_App.m_bNVMe, node && node->nKind == RemovableDisk, g_pSmartAttributeHead);
     showLife(lifeTexts(kind, storedLifeFigures(), RetranslateSeparator));
+    showVerdict(g_driveVerdict);
 }
 
 void DiskStatus::changeEvent(QEvent *event)

@@ -7,6 +7,7 @@
 #include <QWidget>
 
 class QGridLayout;
+enum class DriveVerdict;
 struct LifeTexts;
 
 /// The first screen: three tiles with temperature, performance and health of the selected disk and a block of
@@ -27,6 +28,9 @@ public:
 
     /// Shows the three life fields.
     void showLife(const LifeTexts &texts);
+
+    /// Shows what the drive says of itself, a failure in red.
+    void showVerdict(DriveVerdict verdict);
 
     QLabel *healthTitleLbl;
     QLabel *healthValueLbl;

@@ -232,7 +232,7 @@ private:
     void refillSmartTable(bool freshReport);
     bool initializeDiskStatus();
     void showTemperature(int celsius);
-    void showOverallResult(int celsius);
+    void showOverallResult();
     void showLifeFields(const DiskNode *node);
     void selectCloneArgument();
     void refreshClonePage();

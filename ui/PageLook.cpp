@@ -1,9 +1,11 @@
 #include "ui/PageLook.h"
 
+#include "smart/Rating.h"
 #include "ui/DialogFrame.h"
 #include "ui/Style.h"
 
 #include <QAbstractScrollArea>
+#include <QCoreApplication>
 #include <QFrame>
 #include <QLabel>
 #include <QScrollBar>
@@ -67,6 +69,16 @@ void alignNames(std::initializer_list<QLabel *> labels)
     }
     for (QLabel *label : labels)
         label->setMinimumWidth(widest);
+}
+
+void showResult(QLabel *label, OverallResult result)
+{
+    const bool passed = result == OverallResult::Passed;
+    label->setText(passed ? QCoreApplication::translate("MainWindow", "Passed")
+                   : result == OverallResult::NotSupported
+                       ? QCoreApplication::translate("MainWindow", "Not Supported")
+                       : QCoreApplication::translate("MainWindow", "Failed"));
+    label->setStyleSheet(passed ? style::PassedLabel : style::FailedLabel);
 }
 
 void styleCard(QFrame *frame)

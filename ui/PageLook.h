@@ -8,6 +8,7 @@ class QAbstractScrollArea;
 class QFrame;
 class QLabel;
 class QWidget;
+enum class OverallResult;
 
 /// What the pages of the main window treat alike.
 namespace pagelook
@@ -25,6 +26,9 @@ void styleValues(std::initializer_list<QLabel *> labels);
 /// Gives the labels the width of the widest, so that what stands behind them is aligned. Call it again when
 /// their texts change.
 void alignNames(std::initializer_list<QLabel *> labels);
+
+/// What a result label reads, in the language that is loaded: green where the disk passed, else red.
+void showResult(QLabel *label, OverallResult result);
 
 /// A white card with a hairline border and round corners.
 void styleCard(QFrame *frame);

@@ -4,7 +4,9 @@
 #include "app/state/Globals.h"
 #include "smart/AttributeColumns.h"
 #include "smart/AttributeRows.h"
+#include "smart/Rating.h"
 #include "smart/SmartGlobals.h"
+#include "smart/Temperature.h"
 #include "ui/PageLook.h"
 #include "ui/SmartChartView.h"
 #include "ui/Style.h"
@@ -199,17 +201,12 @@ void SmartStatus::RetranslateSmartTable()
 
 void SmartStatus::showOverallResult()
 {
-    if (g_bSmartAvailable) {
-        m_pHeadingResultLabel->setText(tr("PASSED"));
-        SmartResultLabel->setText(tr("Passed"));
-        SmartResultLabel->setStyleSheet(style::PassedLabel);
-        GraphLabel->setText(tr("Graph"));
-    } else {
-        m_pHeadingResultLabel->setText(tr("FAIELD"));
-        SmartResultLabel->setText(tr("Failed"));
-        SmartResultLabel->setStyleSheet(style::FailedLabel);
-        GraphLabel->clear();
-    }
+    const bool passed = g_bSmartAvailable && g_driveVerdict != DriveVerdict::Failed;
+    pagelook::showResult(SmartResultLabel, passed
+                                               ? OverallResult::Passed
+                                               : overallResult(false, GetDiskTemperature(), g_driveVerdict));
+    m_pHeadingResultLabel->setText(passed ? tr("PASSED") : tr("FAIELD"));
+    GraphLabel->setText(g_bSmartAvailable ? tr("Graph") : QString());
 }
 
 void SmartStatus::showSelectedDisk()

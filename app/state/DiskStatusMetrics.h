@@ -1,6 +1,6 @@
 #pragma once
 
-/// Widths in design pixels of the six lower labels of Disk Status, which depend on the language.
+/// Widths in design pixels of the eight lower labels of Disk Status, which depend on the language.
 struct DiskStatusMetrics {
     int lifeName;
     int lifeValue;
@@ -8,6 +8,8 @@ struct DiskStatusMetrics {
     int powerOnValue;
     int startStopName;
     int startStopValue;
+    int verdictName;
+    int verdictValue;
     int performanceTitleHeight;
 };
 

@@ -565,6 +565,22 @@
         <source>Not Supported</source>
         <translation>Sem suporte</translation>
     </message>
+    <message>
+        <source>Drive&apos;s verdict</source>
+        <translation>Veredito do disco</translation>
+    </message>
+    <message>
+        <source>Failed: back up your data</source>
+        <translation>Falha: faça backup</translation>
+    </message>
+    <message>
+        <source>Passed</source>
+        <translation>Aprovado</translation>
+    </message>
+    <message>
+        <source>Not told</source>
+        <translation>Não informado</translation>
+    </message>
 </context>
 <context>
     <name>DonutChartView</name>
@@ -1642,10 +1658,6 @@ A atualização falhou porque o download ficou incompleto.</translation>
         <translation>APROVADO</translation>
     </message>
     <message>
-        <source>Passed</source>
-        <translation>Aprovado</translation>
-    </message>
-    <message>
         <source>Graph</source>
         <translation>Gráfico</translation>
     </message>
@@ -1753,6 +1765,10 @@ A atualização falhou porque o download ficou incompleto.</translation>
     <message>
         <source>Start/Stop Count</source>
         <translation>Partidas/paradas</translation>
+    </message>
+    <message>
+        <source>Drive&apos;s verdict</source>
+        <translation>Veredito do disco</translation>
     </message>
 </context>
 <context>

@@ -565,6 +565,22 @@
         <source>Not Supported</source>
         <translation>不支持</translation>
     </message>
+    <message>
+        <source>Drive&apos;s verdict</source>
+        <translation>硬盘自身结论</translation>
+    </message>
+    <message>
+        <source>Failed: back up your data</source>
+        <translation>未通过: 请备份数据</translation>
+    </message>
+    <message>
+        <source>Passed</source>
+        <translation>通过</translation>
+    </message>
+    <message>
+        <source>Not told</source>
+        <translation>未告知</translation>
+    </message>
 </context>
 <context>
     <name>DonutChartView</name>
@@ -1642,10 +1658,6 @@ Update failed due to partial download.</source>
         <translation>通过</translation>
     </message>
     <message>
-        <source>Passed</source>
-        <translation>通过</translation>
-    </message>
-    <message>
         <source>Graph</source>
         <translation>图表</translation>
     </message>
@@ -1753,6 +1765,10 @@ Update failed due to partial download.</source>
     <message>
         <source>Start/Stop Count</source>
         <translation>启停次数</translation>
+    </message>
+    <message>
+        <source>Drive&apos;s verdict</source>
+        <translation>硬盘自身结论</translation>
     </message>
 </context>
 <context>

@@ -565,6 +565,22 @@
         <source>Not Supported</source>
         <translation>Nicht unterstützt</translation>
     </message>
+    <message>
+        <source>Drive&apos;s verdict</source>
+        <translation>Laufwerksurteil</translation>
+    </message>
+    <message>
+        <source>Failed: back up your data</source>
+        <translation>Fehler: Daten sichern</translation>
+    </message>
+    <message>
+        <source>Passed</source>
+        <translation>Bestanden</translation>
+    </message>
+    <message>
+        <source>Not told</source>
+        <translation>Nicht mitgeteilt</translation>
+    </message>
 </context>
 <context>
     <name>DonutChartView</name>
@@ -1642,10 +1658,6 @@ Das Update ist fehlgeschlagen, weil der Download unvollständig war.</translatio
         <translation>BESTANDEN</translation>
     </message>
     <message>
-        <source>Passed</source>
-        <translation>Bestanden</translation>
-    </message>
-    <message>
         <source>Graph</source>
         <translation>Diagramm</translation>
     </message>
@@ -1753,6 +1765,10 @@ Das Update ist fehlgeschlagen, weil der Download unvollständig war.</translatio
     <message>
         <source>Start/Stop Count</source>
         <translation>Start-Stopp-Zyklen</translation>
+    </message>
+    <message>
+        <source>Drive&apos;s verdict</source>
+        <translation>Laufwerksurteil</translation>
     </message>
 </context>
 <context>

@@ -565,6 +565,22 @@
         <source>Not Supported</source>
         <translation>Niet ondersteund</translation>
     </message>
+    <message>
+        <source>Drive&apos;s verdict</source>
+        <translation>Oordeel van schijf</translation>
+    </message>
+    <message>
+        <source>Failed: back up your data</source>
+        <translation>Mislukt: maak een back-up</translation>
+    </message>
+    <message>
+        <source>Passed</source>
+        <translation>Geslaagd</translation>
+    </message>
+    <message>
+        <source>Not told</source>
+        <translation>Niet gemeld</translation>
+    </message>
 </context>
 <context>
     <name>DonutChartView</name>
@@ -1642,10 +1658,6 @@ De update is mislukt doordat de download onvolledig was.</translation>
         <translation>GESLAAGD</translation>
     </message>
     <message>
-        <source>Passed</source>
-        <translation>Geslaagd</translation>
-    </message>
-    <message>
         <source>Graph</source>
         <translation>Grafiek</translation>
     </message>
@@ -1753,6 +1765,10 @@ De update is mislukt doordat de download onvolledig was.</translation>
     <message>
         <source>Start/Stop Count</source>
         <translation>Start-stopcycli</translation>
+    </message>
+    <message>
+        <source>Drive&apos;s verdict</source>
+        <translation>Oordeel van schijf</translation>
     </message>
 </context>
 <context>

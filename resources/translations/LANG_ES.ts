@@ -565,6 +565,22 @@
         <source>Not Supported</source>
         <translation>No admitido</translation>
     </message>
+    <message>
+        <source>Drive&apos;s verdict</source>
+        <translation>Veredicto del disco</translation>
+    </message>
+    <message>
+        <source>Failed: back up your data</source>
+        <translation>Fallo: copie sus datos</translation>
+    </message>
+    <message>
+        <source>Passed</source>
+        <translation>Superado</translation>
+    </message>
+    <message>
+        <source>Not told</source>
+        <translation>No indicado</translation>
+    </message>
 </context>
 <context>
     <name>DonutChartView</name>
@@ -1642,10 +1658,6 @@ La actualización falló porque la descarga quedó incompleta.</translation>
         <translation>SUPERADO</translation>
     </message>
     <message>
-        <source>Passed</source>
-        <translation>Superado</translation>
-    </message>
-    <message>
         <source>Graph</source>
         <translation>Gráfico</translation>
     </message>
@@ -1753,6 +1765,10 @@ La actualización falló porque la descarga quedó incompleta.</translation>
     <message>
         <source>Start/Stop Count</source>
         <translation>Arranques/paradas</translation>
+    </message>
+    <message>
+        <source>Drive&apos;s verdict</source>
+        <translation>Veredicto del disco</translation>
     </message>
 </context>
 <context>

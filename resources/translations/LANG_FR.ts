@@ -565,6 +565,22 @@
         <source>Not Supported</source>
         <translation>Non géré</translation>
     </message>
+    <message>
+        <source>Drive&apos;s verdict</source>
+        <translation>Verdict du disque</translation>
+    </message>
+    <message>
+        <source>Failed: back up your data</source>
+        <translation>Échec : sauvegardez</translation>
+    </message>
+    <message>
+        <source>Passed</source>
+        <translation>Réussi</translation>
+    </message>
+    <message>
+        <source>Not told</source>
+        <translation>Non indiqué</translation>
+    </message>
 </context>
 <context>
     <name>DonutChartView</name>
@@ -1642,10 +1658,6 @@ La mise à jour a échoué : le téléchargement est incomplet.</translation>
         <translation>RÉUSSI</translation>
     </message>
     <message>
-        <source>Passed</source>
-        <translation>Réussi</translation>
-    </message>
-    <message>
         <source>Graph</source>
         <translation>Graphique</translation>
     </message>
@@ -1753,6 +1765,10 @@ La mise à jour a échoué : le téléchargement est incomplet.</translation>
     <message>
         <source>Start/Stop Count</source>
         <translation>Démarrages/arrêts</translation>
+    </message>
+    <message>
+        <source>Drive&apos;s verdict</source>
+        <translation>Verdict du disque</translation>
     </message>
 </context>
 <context>

@@ -565,6 +565,22 @@
         <source>Not Supported</source>
         <translation>समर्थित नहीं</translation>
     </message>
+    <message>
+        <source>Drive&apos;s verdict</source>
+        <translation>ड्राइव का निर्णय</translation>
+    </message>
+    <message>
+        <source>Failed: back up your data</source>
+        <translation>विफल: डेटा का बैकअप लें</translation>
+    </message>
+    <message>
+        <source>Passed</source>
+        <translation>सफल</translation>
+    </message>
+    <message>
+        <source>Not told</source>
+        <translation>नहीं बताया</translation>
+    </message>
 </context>
 <context>
     <name>DonutChartView</name>
@@ -1642,10 +1658,6 @@ Update failed due to partial download.</source>
         <translation>सफल</translation>
     </message>
     <message>
-        <source>Passed</source>
-        <translation>सफल</translation>
-    </message>
-    <message>
         <source>Graph</source>
         <translation>ग्राफ़</translation>
     </message>
@@ -1753,6 +1765,10 @@ Update failed due to partial download.</source>
     <message>
         <source>Start/Stop Count</source>
         <translation>चालू/बंद संख्या</translation>
+    </message>
+    <message>
+        <source>Drive&apos;s verdict</source>
+        <translation>ड्राइव का निर्णय</translation>
     </message>
 </context>
 <context>

@@ -565,6 +565,22 @@
         <source>Not Supported</source>
         <translation>Non supportato</translation>
     </message>
+    <message>
+        <source>Drive&apos;s verdict</source>
+        <translation>Verdetto del disco</translation>
+    </message>
+    <message>
+        <source>Failed: back up your data</source>
+        <translation>Fallito: salva i tuoi dati</translation>
+    </message>
+    <message>
+        <source>Passed</source>
+        <translation>Superato</translation>
+    </message>
+    <message>
+        <source>Not told</source>
+        <translation>Non indicato</translation>
+    </message>
 </context>
 <context>
     <name>DonutChartView</name>
@@ -1642,10 +1658,6 @@ L&apos;aggiornamento non è riuscito perché il download è incompleto.</transla
         <translation>SUPERATO</translation>
     </message>
     <message>
-        <source>Passed</source>
-        <translation>Superato</translation>
-    </message>
-    <message>
         <source>Graph</source>
         <translation>Grafico</translation>
     </message>
@@ -1753,6 +1765,10 @@ L&apos;aggiornamento non è riuscito perché il download è incompleto.</transla
     <message>
         <source>Start/Stop Count</source>
         <translation>Avvii/arresti</translation>
+    </message>
+    <message>
+        <source>Drive&apos;s verdict</source>
+        <translation>Verdetto del disco</translation>
     </message>
 </context>
 <context>

@@ -565,6 +565,22 @@
         <source>Not Supported</source>
         <translation>非対応</translation>
     </message>
+    <message>
+        <source>Drive&apos;s verdict</source>
+        <translation>ドライブの判定</translation>
+    </message>
+    <message>
+        <source>Failed: back up your data</source>
+        <translation>不合格: データを保存</translation>
+    </message>
+    <message>
+        <source>Passed</source>
+        <translation>合格</translation>
+    </message>
+    <message>
+        <source>Not told</source>
+        <translation>通知なし</translation>
+    </message>
 </context>
 <context>
     <name>DonutChartView</name>
@@ -1642,10 +1658,6 @@ Update failed due to partial download.</source>
         <translation>合格</translation>
     </message>
     <message>
-        <source>Passed</source>
-        <translation>合格</translation>
-    </message>
-    <message>
         <source>Graph</source>
         <translation>グラフ</translation>
     </message>
@@ -1753,6 +1765,10 @@ Update failed due to partial download.</source>
     <message>
         <source>Start/Stop Count</source>
         <translation>起動/停止回数</translation>
+    </message>
+    <message>
+        <source>Drive&apos;s verdict</source>
+        <translation>ドライブの判定</translation>
     </message>
 </context>
 <context>

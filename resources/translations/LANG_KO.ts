@@ -565,6 +565,22 @@
         <source>Not Supported</source>
         <translation>지원되지 않음</translation>
     </message>
+    <message>
+        <source>Drive&apos;s verdict</source>
+        <translation>드라이브 자체 판정</translation>
+    </message>
+    <message>
+        <source>Failed: back up your data</source>
+        <translation>실패: 데이터를 백업하세요</translation>
+    </message>
+    <message>
+        <source>Passed</source>
+        <translation>통과</translation>
+    </message>
+    <message>
+        <source>Not told</source>
+        <translation>알려 주지 않음</translation>
+    </message>
 </context>
 <context>
     <name>DonutChartView</name>
@@ -1642,10 +1658,6 @@ Update failed due to partial download.</source>
         <translation>통과</translation>
     </message>
     <message>
-        <source>Passed</source>
-        <translation>통과</translation>
-    </message>
-    <message>
         <source>Graph</source>
         <translation>그래프</translation>
     </message>
@@ -1753,6 +1765,10 @@ Update failed due to partial download.</source>
     <message>
         <source>Start/Stop Count</source>
         <translation>시작/정지 횟수</translation>
+    </message>
+    <message>
+        <source>Drive&apos;s verdict</source>
+        <translation>드라이브 자체 판정</translation>
     </message>
 </context>
 <context>

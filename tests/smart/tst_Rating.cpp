@@ -406,10 +406,14 @@ void tst_Rating::performanceImages()
 
 void tst_Rating::overall()
 {
-    QVERIFY(overallResult(true, 36) == OverallResult::Passed);
-    QVERIFY(overallResult(true, 0) == OverallResult::NotSupported);
-    QVERIFY(overallResult(false, 0) == OverallResult::NotSupported);
-    QVERIFY(overallResult(false, 36) == OverallResult::Failed);
+    for (const DriveVerdict verdict : {DriveVerdict::Passed, DriveVerdict::NotTold}) {
+        QVERIFY(overallResult(true, 36, verdict) == OverallResult::Passed);
+        QVERIFY(overallResult(true, 0, verdict) == OverallResult::NotSupported);
+        QVERIFY(overallResult(false, 0, verdict) == OverallResult::NotSupported);
+        QVERIFY(overallResult(false, 36, verdict) == OverallResult::Failed);
+    }
+    QVERIFY(overallResult(true, 36, DriveVerdict::Failed) == OverallResult::Failed);
+    QVERIFY(overallResult(false, 0, DriveVerdict::Failed) == OverallResult::Failed);
 }
 
 void tst_Rating::keys()

@@ -1,5 +1,6 @@
 #include "smart/ReportParser.h"
 
+#include "smart/DriveVerdict.h"
 #include "tests/smart/SampleReports.h"
 #include "tests/support/FakePlatform.h"
 
@@ -65,6 +66,8 @@ private slots:
 
     void realReports_data();
     void realReports();
+    void verdict_data();
+    void verdict();
     void tornReports_data();
     void tornReports();
     void kind_data();
@@ -130,6 +133,44 @@ void tst_ReportParser::realReports()
         QCOMPARE(row->Firmware.text(), sample.firmware);
     }
     QCOMPARE(lastRow, sample.lastRow);
+}
+
+void tst_ReportParser::verdict_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QString>("changes"); // "what stands there>what in its place|..."
+    QTest::addColumn<int>("verdict");
+    const auto row = [](const char *name, const char *file, const char *changes, DriveVerdict verdict) {
+        QTest::newRow(name) << file << changes << int(verdict);
+    };
+    using V = DriveVerdict;
+    const char *ata = "ata-seagate-st31500341as-failed.txt";
+    const char *nvme = "nvme-wdc-sn850-1tb.txt";
+    const char *sas = "sas-hgst-hus726040al5210.txt";
+    row("ATA fails", ata, "FAILING_NOW>-", V::Failed);
+    row("ATA, by its attribute alone", ata, "FAILED!>PASSED", V::Failed);
+    row("ATA, of the past", ata, "FAILED!>PASSED|FAILING_NOW>In_the_past", V::Passed);
+    row("ATA, of old age", "ata-marginal-attribute-H-only.txt", "", V::Passed);
+    row("ATA does not know", ata, "FAILED!>UNKNOWN!|FAILING_NOW>-", V::NotTold);
+    row("NVMe fails", nvme, "PASSED>FAILED!", V::Failed);
+    row("NVMe is hot alone", nvme, "PASSED>FAILED!|0x00>0x02", V::Passed);
+    row("NVMe, by its warning alone", nvme, "0x00>0x06", V::Failed);
+    row("NVMe without the line", "nvme-win-toshiba-thnsn5512.txt", "", V::Passed);
+    row("SCSI passes", sas, "", V::Passed);
+    row("SCSI fails", sas, "Status: OK>Status: FAILURE PREDICTION THRESHOLD EXCEEDED [asc=5d]", V::Failed);
+    row("SCSI is hot", sas, "Status: OK>Status: WARNING - SPECIFIED TEMPERATURE EXCEEDED", V::Passed);
+    row("no SMART", "err-lacks-smart-capability.txt", "", V::NotTold);
+}
+
+void tst_ReportParser::verdict()
+{
+    QFETCH(QString, file);
+    QFETCH(QString, changes);
+    QByteArray report = samples::bytesOf(file);
+    for (const QString &change : changes.split('|', Qt::SkipEmptyParts))
+        report.replace(change.section('>', 0, 0).toUtf8(), change.section('>', 1).toUtf8());
+    readReport(report);
+    QTEST(int(g_driveVerdict), "verdict");
 }
 
 void tst_ReportParser::tornReports_data()

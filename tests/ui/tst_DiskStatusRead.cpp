@@ -28,6 +28,7 @@ private:
     /// Disk 10 fails and tells its temperature, 12 passed and does not, 13 says nothing of itself.
     void startWith(const QByteArray &settings, const QByteArray &lists = QByteArray());
     void startAndRead();
+    void changeLanguage() const;
 };
 
 QByteArray tst_DiskStatusRead::report(const QByteArray &identity, const char *verdict, const char *rows)
@@ -82,6 +83,15 @@ void tst_DiskStatusRead::startAndRead()
     waitForRead();
 }
 
+void tst_DiskStatusRead::changeLanguage() const
+{
+    for (QWidget *widget :
+         std::initializer_list<QWidget *>{m_pWindow.get(), child<QWidget>("m_pDiskStatus")}) {
+        QEvent change(QEvent::LanguageChange);
+        QCoreApplication::sendEvent(widget, &change);
+    }
+}
+
 void tst_DiskStatusRead::diskStatus_data()
 {
     QTest::addColumn<int>("disk");
@@ -90,17 +100,21 @@ void tst_DiskStatusRead::diskStatus_data()
     QTest::addColumn<QString>("performance");
     QTest::addColumn<QString>("result");
     QTest::addColumn<QString>("style");
-    // The temperature alone tells whether there is SMART: the drive's own verdict counts for nothing.
+    QTest::addColumn<QString>("verdict");
+    // The temperature alone tells whether there is SMART; a drive that gives itself up has failed all the
+    // same.
     QTest::newRow("failed, with a temperature") << 0 << "36\u00B0C"
                                                 << "90%"
                                                 << "50%"
-                                                << "Passed"
-                                                << "QLabel {color : #32CD32;}";
+                                                << "Failed"
+                                                << "QLabel {color : #FF0000;}"
+                                                << "Failed: back up your data";
     QTest::newRow("passed, without") << 1 << "Not Supported"
                                      << "Not Supported"
                                      << "Not Supported"
                                      << "Not Supported"
-                                     << "QLabel {color : #FF0000;}";
+                                     << "QLabel {color : #FF0000;}"
+                                     << "Passed";
 }
 
 void tst_DiskStatusRead::diskStatus()
@@ -114,6 +128,12 @@ void tst_DiskStatusRead::diskStatus()
     QTEST(text("performanceValueLbl"), "performance");
     QTEST(text("ResultLabel"), "result");
     QTEST(child<QLabel>("ResultLabel")->styleSheet(), "style");
+    QTEST(text("DriveVerdictValue"), "verdict");
+    for (const char *label : {"ResultLabel", "DriveVerdictValue"})
+        child<QLabel>(label)->setText(QStringLiteral("other language"));
+    changeLanguage();
+    QTEST(text("ResultLabel"), "result");
+    QTEST(text("DriveVerdictValue"), "verdict");
 }
 
 void tst_DiskStatusRead::smartStatus_data()
@@ -123,8 +143,8 @@ void tst_DiskStatusRead::smartStatus_data()
     QTest::addColumn<QString>("result");
     QTest::addColumn<QString>("style");
     // The rating goes by the drive's verdict, the label by the temperature.
-    QTest::newRow("failed, with a temperature") << "NW1" << 100 << "Passed"
-                                                << "QLabel {color : #32CD32;}";
+    QTest::newRow("failed, with a temperature") << "NW1" << 100 << "Failed"
+                                                << "QLabel {color : #FF0000;}";
     QTest::newRow("passed, without") << "NW2" << 90 << "Not Supported"
                                      << "QLabel {color : #FF0000;}";
 }

@@ -458,6 +458,8 @@ void MainWindow::changeEvent(QEvent *event)
         retranslateUi(this);
         retranslateShell();
         retranslatePartitions();
+        if (!ResultLabel->text().isEmpty())
+            showOverallResult();
         if (SettingsStore().flag(key::ShowTrayIcon)) {
             companion::kill();
             companion::start(companion::StartBy::FullPath);

@@ -17,6 +17,7 @@
 #include "ui/DiskPartition.h"
 #include "ui/DiskStatus.h"
 #include "ui/Images.h"
+#include "ui/PageLook.h"
 #include "ui/SmartChartView.h"
 #include "ui/SmartStatus.h"
 #include "ui/Style.h"
@@ -28,16 +29,6 @@
 
 namespace
 {
-
-/// What the result labels of the two screens read.
-void showResult(QLabel *label, OverallResult result)
-{
-    const bool passed = result == OverallResult::Passed;
-    label->setText(passed                                  ? MainWindow::tr("Passed")
-                   : result == OverallResult::NotSupported ? MainWindow::tr("Not Supported")
-                                                           : MainWindow::tr("Failed"));
-    label->setStyleSheet(passed ? style::PassedLabel : style::FailedLabel);
-}
 
 void showPercent(QLabel *label, const QString &percent)
 {
@@ -180,8 +171,8 @@ void MainWindow::initializeSmartStatus()
     g_strTemperatureText = loadTemperatureText(celsius, SettingsStore().text(key::TempValue));
     g_bSmartAvailable = celsius != 0;
     m_pSmartStatusPage->m_pChartView->setVisible(g_bSmartAvailable);
-    showResult(m_pSmartStatusPage->SmartResultLabel,
-               g_bSmartAvailable ? OverallResult::Passed : OverallResult::NotSupported);
+    pagelook::showResult(m_pSmartStatusPage->SmartResultLabel,
+                         overallResult(g_bSmartAvailable, celsius, g_driveVerdict));
 
     showSmartHeading();
     const QString interfaceText = interfaceOrDefault(record ? record->szInterface.text() : QString());
@@ -257,8 +248,13 @@ void MainWindow::ShowDiskLifeDetails()
         SerialNumValLabel->setText(*texts.summary);
     if (texts.interfaceText)
         g_strInterface = *texts.interfaceText;
-    showResult(ResultLabel, overallResult(g_bSmartAvailable, GetDiskTemperature()));
+    showOverallResult();
     showLifeFields(node);
+}
+
+void MainWindow::showOverallResult()
+{
+    pagelook::showResult(ResultLabel, overallResult(g_bSmartAvailable, GetDiskTemperature(), g_driveVerdict));
 }
 
 void MainWindow::showLifeFields(const DiskNode *node)
@@ -271,6 +267,7 @@ void MainWindow::showLifeFields(const DiskNode *node)
     if (kind == LifeKind::Known)
         UpdateLifeFigures();
     m_pDiskStatusPage->showLife(lifeTexts(kind, storedLifeFigures()));
+    m_pDiskStatusPage->showVerdict(g_driveVerdict);
 }
 
 void MainWindow::GetSmartTemprature()

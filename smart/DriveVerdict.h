@@ -1,0 +1,22 @@
+#pragma once
+
+#include "smart/SmartRecords.h"
+
+class QTextStream;
+
+/// What a drive says of itself.
+enum class DriveVerdict { NotTold, Passed, Failed };
+
+/// Of the drive whose report was read last. Main thread only.
+inline DriveVerdict g_driveVerdict = DriveVerdict::NotTold;
+
+/// The verdict in a report's own line, of ATA and NVMe or of SCSI, where only heat is no failure. NotTold
+/// where the line is missing or says neither.
+DriveVerdict readVerdictLine(QTextStream &stream);
+
+/// `line` is what readVerdictLine() found. An attribute that is failing now and by which the drive foretells
+/// its end makes it Failed as well; one of old age, or one that failed in the past, does not.
+DriveVerdict ataVerdict(DriveVerdict line, const SmartAttributeRecord *head);
+
+/// Any bit of the critical warning but that of heat is a failure. The line says "FAILED!" of heat, too.
+DriveVerdict nvmeVerdict(DriveVerdict line, const NvmeAttributeRecord *head);
