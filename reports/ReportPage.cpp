@@ -97,6 +97,8 @@ Value performance(const SmartReport &report)
 Value health(const SmartReport &report)
 {
     constexpr int NvmeBadShift = -500;
+    if (!report.healthKnown)
+        return {Texts::tr("Not Available")};
     return rated(report.health, Texts::tr("Good"), Texts::tr("Bad"), report.nvme ? NvmeBadShift : 0);
 }
 

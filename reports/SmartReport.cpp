@@ -104,6 +104,7 @@ SmartReport gatherSmartReport()
     report.performance = g_nPerformancePercent;
     report.performanceText = g_strPerformanceText;
     report.health = g_nHealthPercent;
+    report.healthKnown = g_bHealthKnown;
     report.lastTestType = g_strLastTestType;
     report.lastTestResult = g_strLastTestResult;
     return report;

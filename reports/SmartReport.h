@@ -33,6 +33,7 @@ struct SmartReport {
     QString performanceText;
     int performance = 0; ///< percent
     int health = 0;      ///< percent
+    bool healthKnown = true;
     QString shortTestTime;
     QString extendedTestTime;
     QString lastTestType;

@@ -4,6 +4,7 @@
 #include "app/state/Globals.h"
 #include "app/state/Scale.h"
 #include "smart/AttributeKey.h"
+#include "smart/HealthCatalogue.h"
 #include "smart/SmartGlobals.h"
 
 #include <QCoreApplication>
@@ -92,6 +93,17 @@ constexpr std::array<HealthRule, 6> HealthRules = {{
     {"Offline_Uncorrectable", byUncorrectable},
 }};
 
+/// Null for a row without a rule.
+const HealthRule *ruleOf(const SmartAttributeRecord &row)
+{
+    const QString name = row.AttributeName.text();
+    for (const HealthRule &rule : HealthRules) {
+        if (name.contains(QLatin1String(rule.name)))
+            return &rule;
+    }
+    return nullptr;
+}
+
 bool containsAny(const QString &text, std::initializer_list<const char *> words)
 {
     for (const char *word : words) {
@@ -101,6 +113,40 @@ bool containsAny(const QString &text, std::initializer_list<const char *> words)
     return false;
 }
 
+/// A number that does not fit 32 bits reads as 0, a perfect one.
+qint32 rawOf(const SmartAttributeRecord &row)
+{
+    return row.RawValue.text().toInt();
+}
+
+/// The row whose name comes first in the list of names.
+template<typename Names>
+const SmartAttributeRecord *firstNamed(const SmartAttributeRecord *head, const Names &names)
+{
+    for (const char *name : names) {
+        for (const SmartAttributeRecord *row = head; row; row = row->Next) {
+            if (row->AttributeName.text() == QLatin1String(name))
+                return row;
+        }
+    }
+    return nullptr;
+}
+
+/// What the rules begin with: nothing ahead of the base, which assigns, else the row that stands for it.
+std::optional<float> startOfHealth(const SmartAttributeRecord *head)
+{
+    for (const SmartAttributeRecord *row = head; row; row = row->Next) {
+        const HealthRule *rule = ruleOf(*row);
+        if (rule && rule->apply == byReallocatedSectors)
+            return 0.0F;
+    }
+    if (const SmartAttributeRecord *blocks = firstNamed(head, healthcatalogue::BlockRows))
+        return byReallocatedSectors(0.0F, rawOf(*blocks));
+    if (const SmartAttributeRecord *life = firstNamed(head, healthcatalogue::LifeRows))
+        return static_cast<float>(qMin<std::uint32_t>(life->Value, FullPercent));
+    return std::nullopt;
+}
+
 QString percentText(int percent)
 {
     return QString::number(percent) + QLatin1Char('%');
@@ -108,27 +154,25 @@ QString percentText(int percent)
 
 } // namespace
 
-int healthOfAta(const SmartAttributeRecord *head)
+std::optional<int> healthOfAta(const SmartAttributeRecord *head)
 {
     if (!head)
         return 0;
-    float health = 0.0F;
+    const std::optional<float> start = startOfHealth(head);
+    if (!start)
+        return std::nullopt;
+    float health = *start;
     for (const SmartAttributeRecord *row = head; row; row = row->Next) {
-        const QString name = row->AttributeName.text();
-        // A number that does not fit 32 bits reads as 0, a perfect one.
-        const qint32 raw = row->RawValue.text().toInt();
-        for (const HealthRule &rule : HealthRules) {
-            if (name.contains(QLatin1String(rule.name))) {
-                health = rule.apply(health, raw);
-                break;
-            }
-        }
+        if (const HealthRule *rule = ruleOf(*row))
+            health = rule->apply(health, rawOf(*row));
     }
     return qMin(truncated<int>(static_cast<double>(health) + 0.5), FullPercent);
 }
 
-int healthOfNvme(const NvmeAttributeRecord *head)
+std::optional<int> healthOfNvme(const NvmeAttributeRecord *head)
 {
+    if (!head)
+        return 0;
     for (const NvmeAttributeRecord *row = head; row; row = row->Next) {
         if (!row->Name.text().contains(QLatin1String("Percentage Used")))
             continue;
@@ -136,7 +180,7 @@ int healthOfNvme(const NvmeAttributeRecord *head)
         return used == 1 ? FullPercent
                          : static_cast<int>(qMin<qint64>(FullPercent - qint64(used), FullPercent));
     }
-    return 0;
+    return std::nullopt;
 }
 
 int performanceOf(const QString &ataVersion)
@@ -148,12 +192,11 @@ int performanceOf(const QString &ataVersion)
 
 void RateHealth()
 {
-    if (!g_bSmartAvailable)
-        g_nHealthPercent = FullPercent;
-    else if (g_App.m_bNVMe)
-        g_nHealthPercent = healthOfNvme(g_pNvmeAttributeHead);
-    else
-        g_nHealthPercent = healthOfAta(g_pSmartAttributeHead);
+    std::optional<int> health = FullPercent;
+    if (g_bSmartAvailable)
+        health = g_App.m_bNVMe ? healthOfNvme(g_pNvmeAttributeHead) : healthOfAta(g_pSmartAttributeHead);
+    g_bHealthKnown = health.has_value();
+    g_nHealthPercent = health.value_or(FullPercent);
     g_strHealthText = percentText(g_nHealthPercent);
 }
 
@@ -164,18 +207,20 @@ void RatePerformance()
     g_strPerformanceText = percentText(g_nPerformancePercent);
 }
 
-QString healthImage(int percent, float factor)
+QString healthImage(std::optional<int> percent, float factor)
 {
     const scale::ImageSet set = scale::imageSet(factor);
     if (set == scale::ImageSet::None)
         return QString();
-    if (percent > 75)
+    if (!percent)
+        return QStringLiteral("img_HealthUnknown.png");
+    if (*percent > 75)
         return QStringLiteral("img_Health.png");
     // The middle set alone has a picture for 65.
     const int averageFrom = set == scale::ImageSet::Dpi120 ? 65 : 66;
-    if (percent >= averageFrom)
+    if (*percent >= averageFrom)
         return QStringLiteral("img_HealthAverage.png");
-    return percent < 65 ? QStringLiteral("img_HealthHigh.png") : QString();
+    return *percent < 65 ? QStringLiteral("img_HealthHigh.png") : QString();
 }
 
 QString performanceImage(int percent, float factor)
@@ -193,6 +238,8 @@ QString performanceImage(int percent, float factor)
 
 OverallResult overallResult(bool available, int temperature, DriveVerdict verdict)
 {
+    if (verdict == DriveVerdict::Failed)
+        return OverallResult::Failed;
     if (temperature == 0)
         return OverallResult::NotSupported;
     return available ? OverallResult::Passed : OverallResult::Failed;
@@ -221,7 +268,7 @@ void takeLifeRow(LifeFigures &figures, const SmartAttributeRecord &row, int heal
 
 LifeFigures storedLifeFigures()
 {
-    return {g_nDiskLifeDays, g_nPowerOnDays, g_nPowerOnRestHours, g_nStartStopCount};
+    return {g_nDiskLifeDays, g_nPowerOnDays, g_nPowerOnRestHours, g_nStartStopCount, g_bHealthKnown};
 }
 
 void UpdateLifeFigures()
@@ -238,8 +285,6 @@ void UpdateLifeFigures()
 LifeKind lifeKind(bool nvme, bool removable, const SmartAttributeRecord *head)
 {
     if (nvme)
-    if (verdict == DriveVerdict::Failed)
-        return OverallResult::Failed;
         return LifeKind::Nvme;
     if (removable)
         return LifeKind::Removable;
@@ -264,7 +309,7 @@ LifeTexts lifeTexts(LifeKind kind, const LifeFigures &figures, const QString &se
     const QString life = figures.nDiskLifeDays >= 1000
                              ? QCoreApplication::translate("MainWindow", "More than 1000")
                              : QString::number(figures.nDiskLifeDays);
-    return {life + days,
+    return {figures.bLifeKnown ? life + days : QCoreApplication::translate("MainWindow", "Not Available"),
             QString::number(figures.nPowerOnDays) + days + separator +
                 QString::number(figures.nPowerOnRestHours) + hours,
             QString::number(figures.nStartStopCount)};

@@ -6,11 +6,13 @@
 #include <QString>
 
 #include <cstdint>
+#include <optional>
 
 /// Health, performance and life of a disk. What was rated last is kept in the globals below, main thread
 /// only.
 
 inline int g_nHealthPercent = 0;
+inline bool g_bHealthKnown = true; ///< false: the report holds nothing to rate, and the percentage is 100
 inline int g_nPerformancePercent = 0;
 /// The four life figures are never reset: a disk without the row shows those of the disk before it.
 inline std::uint32_t g_nDiskLifeDays = 0;
@@ -18,13 +20,14 @@ inline int g_nPowerOnDays = 0;
 inline int g_nPowerOnRestHours = 0;
 inline int g_nStartStopCount = 0;
 
-/// Health in percent by the rows of the table, at most 100. Without a row of reallocated sectors, the base of
-/// the rating, it is 0.
-int healthOfAta(const SmartAttributeRecord *head);
+/// Health in percent by the rows of the table, at most 100. The row of reallocated sectors is the base of the
+/// rating, and rows ahead of it do not count; without one HealthCatalogue.h tells what the rating begins
+/// with. Nothing where there is neither, 0 without any row.
+std::optional<int> healthOfAta(const SmartAttributeRecord *head);
 
 /// Health in percent by the wear that the drive reports, at most 100; negative where the wear is above 100 %.
-/// 0 where the drive reports none.
-int healthOfNvme(const NvmeAttributeRecord *head);
+/// Nothing where the drive reports none, 0 without any row.
+std::optional<int> healthOfNvme(const NvmeAttributeRecord *head);
 
 /// Performance in percent by the text of the ATA version line.
 int performanceOf(const QString &ataVersion);
@@ -37,7 +40,7 @@ void RateHealth();
 void RatePerformance();
 
 /// File name of the tile's picture at a display scale; an empty text means that the picture stays.
-QString healthImage(int percent, float factor);
+QString healthImage(std::optional<int> percent, float factor);
 QString performanceImage(int percent, float factor);
 
 enum class OverallResult { Passed, NotSupported, Failed };
@@ -51,6 +54,7 @@ struct LifeFigures {
     int nPowerOnDays = 0;
     int nPowerOnRestHours = 0;
     int nStartStopCount = 0;
+    bool bLifeKnown = true; ///< the estimate takes a health
 };
 
 /// Takes one row into the figures; a row of another attribute leaves them.

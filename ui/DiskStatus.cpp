@@ -291,9 +291,11 @@ void DiskStatus::changeEvent(QEvent *event)
         setStaticTexts();
         ApplyLanguageMetrics();
         if (!g_bSmartAvailable) {
-            for (QLabel *value : {tempValueLbl, performanceValueLbl, healthValueLbl})
+            for (QLabel *value : {tempValueLbl, performanceValueLbl})
                 value->setText(tr("Not Supported"));
         }
+        if (!g_bSmartAvailable || !g_bHealthKnown)
+            healthValueLbl->setText(tr("Not Supported"));
         redoDetails();
     }
     QWidget::changeEvent(event);

@@ -372,6 +372,16 @@ void tst_ReportPage::statusOfTheDrive()
     QCOMPARE(gatherSmartReport().smartStatus, QStringLiteral("Disabled"));
     g_pSmartAttributeHead->SmartSupport.assign(QStringLiteral("Enabled, in part"));
     QCOMPARE(gatherSmartReport().smartStatus, QStringLiteral("Passed"));
+    g_driveVerdict = DriveVerdict::Failed;
+    g_bHealthKnown = false;
+    PageRecorder page;
+    paint(page, gatherSmartReport());
+    g_driveVerdict = DriveVerdict::NotTold;
+    g_bHealthKnown = true;
+    const auto values = page.within({3100, 3800, 100, 700}); // status and health
+    QCOMPARE(values.first().text, QStringLiteral("Failed"));
+    QCOMPARE(values.first().ink, Red);
+    QCOMPARE(values.last().text, QStringLiteral("Not Available"));
 }
 
 void tst_ReportPage::rowsRunOnDownThePage()

@@ -26,7 +26,8 @@ struct Sample {
     QString firmware;
     QString ataVersion;
     int celsius = 0;
-    int health = 0; ///< by the rows
+    int health = 0; ///< by the rows; 100 where they tell none
+    bool rated = true;
     int performance = 0;
     LifeFigures life;
     QString lastRow; ///< "id|name|value|threshold|raw", of NVMe "name|value"
@@ -49,7 +50,8 @@ inline QVector<Sample> all()
             continue;
         const LifeFigures life{f[11].toUInt(), f[12].toInt(), f[13].toInt(), f[14].toInt()};
         found.append({f[0], f[1], f[2].toInt(), f[3] == QLatin1String("1"), f[4], f[5], f[6], f[7],
-                      f[8].toInt(), f[9].toInt(), f[10].toInt(), life, f[15]});
+                      f[8].toInt(), f[9] == QLatin1String("-") ? 100 : f[9].toInt(),
+                      f[9] != QLatin1String("-"), f[10].toInt(), life, f[15]});
     }
     return found;
 }
@@ -75,6 +77,8 @@ inline void forget()
     g_strSerialNumber.clear();
     g_strFirmware.clear();
     g_strAtaVersion.clear();
+    g_driveVerdict = DriveVerdict::NotTold;
+    g_bHealthKnown = true;
     g_nDiskLifeDays = 0;
     g_nHealthPercent = g_nPowerOnDays = g_nPowerOnRestHours = g_nStartStopCount = 0;
 }
@@ -108,11 +112,14 @@ struct AtaList : List<SmartAttributeRecord> {
         row.RawValue.assign(raw);
         appendRecord(head, tail, row);
     }
-    /// "name=raw name=raw"
+    /// "name=raw name=raw", with "@value" behind the raw value where one is told
     void addAll(const QString &rows)
     {
-        for (const QString &row : rows.split(QLatin1Char(' '), Qt::SkipEmptyParts))
-            add(row.section(QLatin1Char('='), 0, 0), row.section(QLatin1Char('='), 1));
+        for (const QString &row : rows.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+            const QString figures = row.section(QLatin1Char('='), 1);
+            add(row.section(QLatin1Char('='), 0, 0), figures.section(QLatin1Char('@'), 0, 0));
+            tail->Value = figures.section(QLatin1Char('@'), 1).toUInt();
+        }
     }
 };
 

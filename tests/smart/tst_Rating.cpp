@@ -1,6 +1,7 @@
 #include "smart/Rating.h"
 
 #include "smart/AttributeKey.h"
+#include "smart/HealthCatalogue.h"
 #include "smart/ReportParser.h"
 #include "tests/smart/SampleReports.h"
 #include "tests/support/FakePlatform.h"
@@ -11,6 +12,8 @@
 
 using samples::AtaList;
 using samples::NvmeList;
+
+constexpr int NotRated = -1000;
 
 class tst_Rating : public QObject
 {
@@ -67,6 +70,7 @@ void tst_Rating::realReports()
     RateHealth();
     RatePerformance();
     QCOMPARE(g_nHealthPercent, sample.health);
+    QCOMPARE(g_bHealthKnown, sample.rated);
     QCOMPARE(g_strHealthText, QString::number(sample.health) + '%');
     QCOMPARE(g_nPerformancePercent, sample.performance);
     QCOMPARE(g_strPerformanceText, QString::number(sample.performance) + '%');
@@ -89,7 +93,15 @@ void tst_Rating::ataHealth_data()
         QTest::newRow(name) << "Reallocated_Sector_Ct=0 " + rows << health;
     };
     row("no rows", "", 0);
-    row("no base", "Power_On_Hours=1", 0);
+    row("no base", "Power_On_Hours=1", NotRated);
+    for (const char *name : healthcatalogue::BlockRows)
+        row(name, qPrintable(QString(name) + "=10 Current_Pending_Sector=5"), 87);
+    for (const char *name : healthcatalogue::LifeRows)
+        row(name, qPrintable(QString(name) + "=7@92 Offline_Uncorrectable=50"), 46);
+    row("base ahead of blocks and life", "Retired_Block_Count=60 Reallocated_Sector_Ct=2 SSD_Life_Left=0@1",
+        98);
+    row("damage ahead of the life row", "Offline_Uncorrectable=50 Media_Wearout_Indicator=0@90", 45);
+    row("blocks that left the factory bad", "Initial_Bad_Block_Count=14 Total_Bad_Block_Count=19", NotRated);
     row("base alone", "Reallocated_Sector_Ct=0", 100);
     row("base by its long name", "Reallocated_Sector_Count=10", 90);
     row("base 70", "Reallocated_Sector_Ct=70", 30);
@@ -101,7 +113,7 @@ void tst_Rating::ataHealth_data()
     row("rows ahead of the base count for nothing", "Current_Pending_Sector=50 Reallocated_Sector_Ct=10", 90);
     row("the later base wins", "Reallocated_Sector_Ct=60 Current_Pending_Sector=50 Reallocated_Sector_Ct=2",
         98);
-    row("the rest without a base", "Current_Pending_Sector=1 Offline_Uncorrectable=1", 0);
+    row("the rest without a base", "Current_Pending_Sector=1 Offline_Uncorrectable=1", NotRated);
     row("10 and pending 5", "Reallocated_Sector_Ct=10 Current_Pending_Sector=5", 87);
     based("spin 20", "Spin_Retry_Count=20", 40);
     based("spin 21", "Spin_Retry_Count=21", 40);
@@ -135,7 +147,7 @@ void tst_Rating::ataHealth()
     QFETCH(QString, rows);
     AtaList list;
     list.addAll(rows);
-    QTEST(healthOfAta(list.head), "health");
+    QTEST(healthOfAta(list.head).value_or(NotRated), "health");
 }
 
 void tst_Rating::nvmeHealth_data()
@@ -158,12 +170,12 @@ void tst_Rating::nvmeHealth()
     QFETCH(QString, used);
     QFETCH(int, health);
     NvmeList list;
-    QCOMPARE(healthOfNvme(list.head), 0);
+    QCOMPARE(healthOfNvme(list.head), std::optional<int>(0));
     list.add("Available Spare", "50%");
-    QCOMPARE(healthOfNvme(list.head), 0);
+    QVERIFY(!healthOfNvme(list.head));
     list.add("Percentage Used", used);
     list.add("Percentage Used", "33%");
-    QCOMPARE(healthOfNvme(list.head), health);
+    QCOMPARE(healthOfNvme(list.head), std::optional<int>(health));
 }
 
 void tst_Rating::performance_data()
@@ -377,6 +389,7 @@ void tst_Rating::healthImages()
     QTEST(healthImage(percent, 1.5F), "plain");
     QTEST(healthImage(percent, 2.0F), "plain");
     QCOMPARE(healthImage(percent, 1.3F), QString());
+    QCOMPARE(healthImage(std::nullopt, 1.0F), QString("img_HealthUnknown.png"));
 }
 
 void tst_Rating::performanceImages_data()
@@ -406,13 +419,10 @@ void tst_Rating::performanceImages()
 
 void tst_Rating::overall()
 {
-    for (const DriveVerdict verdict : {DriveVerdict::Passed, DriveVerdict::NotTold}) {
-        QVERIFY(overallResult(true, 36, verdict) == OverallResult::Passed);
-        QVERIFY(overallResult(true, 0, verdict) == OverallResult::NotSupported);
-        QVERIFY(overallResult(false, 0, verdict) == OverallResult::NotSupported);
-        QVERIFY(overallResult(false, 36, verdict) == OverallResult::Failed);
-    }
-    QVERIFY(overallResult(true, 36, DriveVerdict::Failed) == OverallResult::Failed);
+    QVERIFY(overallResult(true, 36, DriveVerdict::NotTold) == OverallResult::Passed);
+    QVERIFY(overallResult(true, 0, DriveVerdict::Passed) == OverallResult::NotSupported);
+    QVERIFY(overallResult(false, 0, DriveVerdict::Passed) == OverallResult::NotSupported);
+    QVERIFY(overallResult(false, 36, DriveVerdict::Passed) == OverallResult::Failed);
     QVERIFY(overallResult(false, 0, DriveVerdict::Failed) == OverallResult::Failed);
 }
 

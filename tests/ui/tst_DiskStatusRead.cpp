@@ -15,6 +15,7 @@ private slots:
 
     void diskStatus_data();
     void diskStatus();
+    void nothingToRate();
     void smartStatus_data();
     void smartStatus();
     void noIdentityShowsNoTexts();
@@ -28,7 +29,6 @@ private:
     /// Disk 10 fails and tells its temperature, 12 passed and does not, 13 says nothing of itself.
     void startWith(const QByteArray &settings, const QByteArray &lists = QByteArray());
     void startAndRead();
-    void changeLanguage() const;
 };
 
 QByteArray tst_DiskStatusRead::report(const QByteArray &identity, const char *verdict, const char *rows)
@@ -83,15 +83,6 @@ void tst_DiskStatusRead::startAndRead()
     waitForRead();
 }
 
-void tst_DiskStatusRead::changeLanguage() const
-{
-    for (QWidget *widget :
-         std::initializer_list<QWidget *>{m_pWindow.get(), child<QWidget>("m_pDiskStatus")}) {
-        QEvent change(QEvent::LanguageChange);
-        QCoreApplication::sendEvent(widget, &change);
-    }
-}
-
 void tst_DiskStatusRead::diskStatus_data()
 {
     QTest::addColumn<int>("disk");
@@ -101,8 +92,7 @@ void tst_DiskStatusRead::diskStatus_data()
     QTest::addColumn<QString>("result");
     QTest::addColumn<QString>("style");
     QTest::addColumn<QString>("verdict");
-    // The temperature alone tells whether there is SMART; a drive that gives itself up has failed all the
-    // same.
+    // The temperature alone tells whether there is SMART. A drive that gives itself up has failed.
     QTest::newRow("failed, with a temperature") << 0 << "36\u00B0C"
                                                 << "90%"
                                                 << "50%"
@@ -131,9 +121,28 @@ void tst_DiskStatusRead::diskStatus()
     QTEST(text("DriveVerdictValue"), "verdict");
     for (const char *label : {"ResultLabel", "DriveVerdictValue"})
         child<QLabel>(label)->setText(QStringLiteral("other language"));
-    changeLanguage();
+    QEvent change(QEvent::LanguageChange);
+    QCoreApplication::sendEvent(m_pWindow.get(), &change);
+    QCoreApplication::sendEvent(child<QWidget>("m_pDiskStatus"), &change);
     QTEST(text("ResultLabel"), "result");
     QTEST(text("DriveVerdictValue"), "verdict");
+}
+
+void tst_DiskStatusRead::nothingToRate()
+{
+    addReport("failed.txt", report("", "PASSED", "194 Temperature_Celsius 0x22 36 45 0 Old_age Always - 36\n")
+                                .replace("Reallocated_Sector_Ct", "Initial_Bad_Block_Count"));
+    startWith("");
+    startAndRead();
+    const auto texts = [this] {
+        return QStringList({text("healthValueLbl"), text("DiskLifeValue"), image("HelthLable")});
+    };
+    const QStringList unknown{"Not Supported", "Not Available", ":/images/img_HealthUnknown.png"};
+    QCOMPARE(texts(), unknown);
+    child<QLabel>("healthValueLbl")->setText(QStringLiteral("other language"));
+    QEvent change(QEvent::LanguageChange);
+    QCoreApplication::sendEvent(child<QWidget>("m_pDiskStatus"), &change);
+    QCOMPARE(texts(), unknown);
 }
 
 void tst_DiskStatusRead::smartStatus_data()

@@ -30,9 +30,9 @@
 namespace
 {
 
-void showPercent(QLabel *label, const QString &percent)
+void showPercent(QLabel *label, bool known, const QString &percent)
 {
-    label->setText(g_bSmartAvailable ? percent : MainWindow::tr("Not Supported"));
+    label->setText(known ? percent : MainWindow::tr("Not Supported"));
 }
 
 void showImage(QLabel *tile, const QString &file)
@@ -224,7 +224,7 @@ void MainWindow::ComputePerformance()
 {
     RatePerformance();
     m_pDiskStatusPage->performanceTitleLbl->setText(tr("Performance"));
-    showPercent(m_pDiskStatusPage->performanceValueLbl, g_strPerformanceText);
+    showPercent(m_pDiskStatusPage->performanceValueLbl, g_bSmartAvailable, g_strPerformanceText);
     showImage(m_pDiskStatusPage->PerformanceLbl, performanceImage(g_nPerformancePercent, g_App.m_fScale));
 }
 
@@ -232,8 +232,9 @@ void MainWindow::ComputeHealth()
 {
     RateHealth();
     m_pDiskStatusPage->healthTitleLbl->setText(tr("Health"));
-    showPercent(m_pDiskStatusPage->healthValueLbl, g_strHealthText);
-    showImage(m_pDiskStatusPage->HelthLable, healthImage(g_nHealthPercent, g_App.m_fScale));
+    showPercent(m_pDiskStatusPage->healthValueLbl, g_bSmartAvailable && g_bHealthKnown, g_strHealthText);
+    const std::optional<int> percent = g_bHealthKnown ? std::optional<int>(g_nHealthPercent) : std::nullopt;
+    showImage(m_pDiskStatusPage->HelthLable, healthImage(percent, g_App.m_fScale));
 }
 
 void MainWindow::ShowDiskLifeDetails()
