@@ -1,5 +1,7 @@
 #include "platform/SparseFile.h"
 
+#include "platform/OwnFiles.h"
+
 #include <QByteArray>
 
 #include <algorithm>
@@ -150,8 +152,8 @@ namespace sparse
 
 bool resize(const QString &path, qint64 size)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadWrite | QIODevice::Unbuffered)) {
+    QFile file;
+    if (!ownfiles::openRegular(&file, path, QIODevice::ReadWrite | QIODevice::Unbuffered)) {
         return false;
     }
     allowHoles(file);
@@ -162,10 +164,11 @@ bool copy(const QString &source, const QString &target, qint64 size)
 {
     const QString partial = target + QLatin1String(".part");
     QFile::remove(partial);
-    QFile from(source);
+    QFile from;
     QFile to(partial);
-    bool done = from.open(QIODevice::ReadOnly | QIODevice::Unbuffered) && resize(partial, size) &&
-                to.open(QIODevice::ReadWrite | QIODevice::Unbuffered) && copyData(from, to, size, 0);
+    bool done = ownfiles::openRegular(&from, source, QIODevice::ReadOnly | QIODevice::Unbuffered) &&
+                resize(partial, size) && to.open(QIODevice::ReadWrite | QIODevice::Unbuffered) &&
+                copyData(from, to, size, 0);
     to.close();
     done = done && QFile::rename(partial, target);
     if (!done) {

@@ -1,5 +1,6 @@
 // The part of LinuxPlatform that starts other programs and asks them about the PC.
 
+#include "platform/OwnFiles.h"
 #include "platform/linux/LinuxDisks.h"
 #include "platform/linux/LinuxPlatform.h"
 #include "platform/linux/LinuxTools.h"
@@ -57,7 +58,11 @@ QStringList LinuxPlatform::onlyNodes()
     for (const QString &node :
          qEnvironmentVariable("HALVANE_DISKS").split(QLatin1Char(':'), Qt::SkipEmptyParts)) {
         const QString real = QFileInfo(node).canonicalFilePath();
-        nodes.append(real.isEmpty() ? node : real);
+        // Where a link of somebody else leads is not followed; its own name is that of no disk.
+        const QString stranger = ownfiles::isElevated() ? ownfiles::strangerOn(node) : QString();
+        if (!stranger.isEmpty())
+            qWarning("HALVANE_DISKS: %s", qUtf8Printable(stranger));
+        nodes.append(real.isEmpty() || !stranger.isEmpty() ? node : real);
     }
     return nodes;
 }

@@ -9,6 +9,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QStandardPaths>
 #include <QStringList>
 
@@ -22,6 +23,12 @@ namespace
 
 constexpr int ToolMilliseconds = 60000; ///< a tool that takes longer hangs
 constexpr qint64 SectorBytes = 512;
+constexpr int LongestTableLine = 512;
+
+/// A field of a partition in a script: named, or a number with its unit, or the code of a type.
+constexpr const char *TableField =
+    R"re(((start|size|type|Id|uuid|name|attrs|bootable)\s*=\s*("[^"\p{Cc}]*"|[^"\s,;]*))re"
+    R"re(|bootable|\d*[KMGTPkmgtp]?(iB|B)?|[-+*]|\+\d+[KMGTPkmgtp]?(iB|B)?|[LSEXUVRH]|[0-9A-Fa-f-]+|))re";
 
 /// A partition, in sectors.
 struct Place {
@@ -31,7 +38,7 @@ struct Place {
 
 using Arguments = QStringList (*)(const FileSystem &, const Place &);
 
-/// A maker of file systems. The file comes behind its arguments.
+/// A maker of file systems. The file comes behind its arguments, by its full path.
 struct Maker {
     const char *type;
     const char *tool;
@@ -40,9 +47,10 @@ struct Maker {
     Arguments arguments;
 };
 
+/// Option and value in one word: whatever the value begins with, it is no option of its own.
 QStringList labelled(QStringList arguments, const char *option, const QString &value)
 {
-    return value.isEmpty() ? arguments : arguments << QLatin1String(option) << value;
+    return value.isEmpty() ? arguments : arguments << QLatin1String(option) + value;
 }
 
 QStringList extArguments(const FileSystem &system, const Place &place)
@@ -117,7 +125,7 @@ QString pathOf(const char *tool)
 }
 
 /// Runs a tool, if the machine has it. On success its output, else nothing; a failure is told of.
-std::optional<QByteArray> run(const char *tool, const QStringList &arguments, const QString &input,
+std::optional<QByteArray> run(const char *tool, const QStringList &arguments, const QByteArray &input,
                               const QString &place)
 {
     const QString path = pathOf(tool);
@@ -128,8 +136,9 @@ std::optional<QByteArray> run(const char *tool, const QStringList &arguments, co
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
     process.setProcessEnvironment(environment);
-    process.setStandardInputFile(input.isEmpty() ? QProcess::nullDevice() : input);
     process.start(path, arguments);
+    process.write(input);
+    process.closeWriteChannel();
     const bool ended = process.waitForFinished(ToolMilliseconds);
     if (!ended) {
         process.kill();
@@ -147,7 +156,7 @@ std::optional<QByteArray> run(const char *tool, const QStringList &arguments, co
 QHash<int, Place> partitionsOf(const QString &image, const QString &place)
 {
     QHash<int, Place> places;
-    const auto json = run("sfdisk", {QStringLiteral("--json"), image}, QString(), place);
+    const auto json = run("sfdisk", {QStringLiteral("--json"), image}, QByteArray(), place);
     const QJsonObject table = QJsonDocument::fromJson(json.value_or(QByteArray()))
                                   .object()
                                   .value(QLatin1String("partitiontable"))
@@ -169,8 +178,8 @@ void makeInPlace(const Maker &maker, const FileSystem &system, const Place &at, 
     const QString kibibytes = QString::number(at.count / 2);
     const bool isFat = maker.arguments == &fatArguments;
     run(maker.tool,
-        maker.arguments(system, at) << image << (isFat ? kibibytes : kibibytes + QLatin1Char('k')), QString(),
-        place);
+        maker.arguments(system, at) << image << (isFat ? kibibytes : kibibytes + QLatin1Char('k')),
+        QByteArray(), place);
 }
 
 /// For tools that take a whole file only.
@@ -180,7 +189,7 @@ void makeBeside(const Maker &maker, const FileSystem &system, const Place &at, c
     const QString beside = image + QLatin1String(".fs");
     QFile::remove(beside);
     if (sparse::resize(beside, at.count * SectorBytes) &&
-        run(maker.tool, maker.arguments(system, at) << beside, QString(), place) &&
+        run(maker.tool, maker.arguments(system, at) << beside, QByteArray(), place) &&
         !sparse::copyInto(beside, image, at.start * SectorBytes)) {
         qWarning("%s: %s", qUtf8Printable(place), "the image cannot be written");
     }
@@ -210,6 +219,27 @@ int longestLabel(const QString &type)
 {
     const Maker *maker = makerOf(type);
     return maker == nullptr ? 0 : maker->longestLabel;
+}
+
+int strangeTableLine(const QByteArray &script)
+{
+    // A script may also hold commands of the tool, all of them bare words.
+    static const QRegularExpression line(
+        QStringLiteral(
+            R"re(^\s*(|#.*|(label|label-id|device|unit|first-lba|last-lba|table-length|grain|sector-size):[ \w./:-]*)re"
+            R"re(|([\w./-]+ ?: ?)?FIELD(\s*[,;]\s*FIELD)*[,;]?)\s*$)re")
+            .replace(QLatin1String("FIELD"), QLatin1String(TableField)));
+    const QList<QByteArray> lines = script.split('\n');
+    for (int i = 0; i < lines.size(); ++i) {
+        if (lines.at(i).size() > LongestTableLine || !line.match(QString::fromUtf8(lines.at(i))).hasMatch())
+            return i + 1;
+    }
+    return 0;
+}
+
+bool isPlainName(const QString &name)
+{
+    return std::all_of(name.cbegin(), name.cend(), [](QChar c) { return c.isPrint() || c.isSurrogate(); });
 }
 
 void layOut(const Layout &layout, const QString &image, const QString &place)

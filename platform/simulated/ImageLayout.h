@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -18,7 +19,7 @@ struct FileSystem {
 
 /// The content of an image; without a table there is none.
 struct Layout {
-    QString table; ///< full path of a script for sfdisk
+    QByteArray table; ///< a script for sfdisk
     QVector<FileSystem> fileSystems;
 };
 
@@ -26,6 +27,11 @@ const QStringList &fileSystemTypes();
 bool isExt(const QString &type);
 /// How long a label of that type may be: bytes of UTF-8 for ext, else characters.
 int longestLabel(const QString &type);
+
+/// The first line of a script that sets no partition table, from 1, such as a command; 0 if there is none.
+int strangeTableLine(const QByteArray &script);
+/// Whether a name can be handed to the makers of file systems: no control characters.
+bool isPlainName(const QString &name);
 
 /// Puts table and file systems on `image`, a regular file that is all zeros. What the machine has no tool
 /// for is left out without a word; a tool that fails is told of on standard error, with `place`, the key of

@@ -2,6 +2,13 @@
 
 #include <cmath>
 
+namespace
+{
+
+constexpr int MostEntries = 65536;
+
+} // namespace
+
 JsonReader::JsonReader(const QJsonObject &object, const QString &path, QString *error)
     : m_object(object), m_path(path), m_error(error)
 {
@@ -122,6 +129,9 @@ QJsonArray JsonReader::list(const QString &key) const
     const QJsonValue value = m_object.value(key);
     if (!value.isUndefined() && !value.isArray()) {
         fail(path(key), QStringLiteral("a list is wanted"));
+    } else if (value.toArray().size() > MostEntries) {
+        fail(path(key), QStringLiteral("at most %1 entries are wanted").arg(MostEntries));
+        return {};
     }
     return value.toArray();
 }

@@ -8,7 +8,7 @@
 #include <functional>
 
 /// Reads typed values out of a JSON object and keeps the first thing that is wrong, with the path of its key
-/// ("disks[1].sectors: a whole number is wanted"). A missing key gives the fallback.
+/// ("disks[1].sectors: a whole number is wanted"). A missing key gives the fallback. A list has an end.
 class JsonReader
 {
 public:
@@ -21,6 +21,8 @@ public:
     JsonReader below(const QString &key) const;
     QString path(const QString &key) const;
     void fail(const QString &keyPath, const QString &what) const;
+    /// What was found wrong so far, by any reader of the file.
+    const QString &error() const { return *m_error; }
 
     QString text(const QString &key, const QString &fallback = QString()) const;
     bool truth(const QString &key, bool fallback) const;

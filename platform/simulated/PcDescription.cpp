@@ -1,11 +1,13 @@
 #include "platform/simulated/PcDescription.h"
 
+#include "platform/OwnFiles.h"
 #include "platform/simulated/JsonReader.h"
 
 #include <QDir>
-#include <QFile>
+#include <QDirIterator>
 #include <QFileInfo>
 #include <QJsonDocument>
+#include <QRegularExpression>
 
 namespace simulated
 {
@@ -38,12 +40,31 @@ SelfTestEnd readSelfTestEnd(const JsonReader &in, const SelfTestEnd &fallback)
     return end;
 }
 
-/// The full path of a file that the description names; it has to exist.
+/// The full path of a file or folder that the description names, without links; it lies below the described
+/// folder, whether or not it is there.
+QString pathBelow(const JsonReader &in, const QString &keyPath, const QString &name, const QString &folder)
+{
+    const QString path = QDir::cleanPath(QDir(folder).absoluteFilePath(name));
+    const QString real = QFileInfo(path).canonicalFilePath();
+    const QString realFolder = QFileInfo(folder).canonicalFilePath();
+    if (!path.startsWith(folder + QLatin1Char('/')) ||
+        (!real.isEmpty() && !real.startsWith(realFolder + QLatin1Char('/')))) {
+        in.fail(keyPath, path + QLatin1String(": lies outside the folder"));
+    }
+    return real.isEmpty() ? path : folder + real.mid(realFolder.size());
+}
+
+/// The same of a file, which has to exist.
 QString existingFile(const JsonReader &in, const QString &keyPath, const QString &name, const QString &folder)
 {
-    const QString file = QDir(folder).absoluteFilePath(name);
-    if (!QFileInfo(file).isFile() || !QFileInfo(file).isReadable()) {
+    const QString file = pathBelow(in, keyPath, name, folder);
+    const QFileInfo info(file);
+    if (!info.exists()) {
         in.fail(keyPath, file + QLatin1String(": no such file"));
+    } else if (!info.isFile() || !info.isReadable()) {
+        in.fail(keyPath, file + QLatin1String(": no regular file that can be read"));
+    } else if (info.size() > ownfiles::MostBytes) {
+        in.fail(keyPath, file + QLatin1String(": more than 16 MiB"));
     }
     return file;
 }
@@ -142,6 +163,11 @@ FileSystem readFileSystem(const JsonReader &in, const Layout &layout)
         in.fail(in.path(label),
                 QStringLiteral("at most %1 characters are wanted").arg(longestLabel(system.type)));
     }
+    for (const QString &key : {label, lastMounted}) {
+        if (!isPlainName(in.text(key))) {
+            in.fail(in.path(key), QStringLiteral("a text without control characters is wanted"));
+        }
+    }
     if (!system.lastMounted.isEmpty() && (!ext || system.lastMounted.toUtf8().size() > 63)) {
         in.fail(in.path(lastMounted), ext ? QStringLiteral("at most 63 characters are wanted")
                                           : QStringLiteral("only an ext file system has that"));
@@ -161,11 +187,31 @@ Layout readLayout(const JsonReader &disk, const QString &folder)
     if (!in.has(table)) {
         in.fail(in.path(table), QStringLiteral("a text is wanted"));
     }
-    layout.table = existingFile(in, in.path(table), in.text(table), folder);
+    const QString file = existingFile(in, in.path(table), in.text(table), folder);
+    layout.table = ownfiles::contents(file);
+    if (const int line = strangeTableLine(layout.table)) {
+        in.fail(in.path(table), QStringLiteral("%1: line %2 sets no partition table").arg(file).arg(line));
+    }
     in.each(QStringLiteral("fileSystems"), [&layout](const JsonReader &system) {
         layout.fileSystems.append(readFileSystem(system, layout));
     });
     return layout;
+}
+
+/// The image may be missing; what is there is a regular file of any size.
+QString readImage(const JsonReader &in, const QString &folder)
+{
+    const QString key = QStringLiteral("image");
+    const QString image = in.text(key);
+    if (image.isEmpty()) {
+        return QString();
+    }
+    const QString file = pathBelow(in, in.path(key), image, folder);
+    const QFileInfo info(file);
+    if ((info.exists() && !info.isFile()) || info.isSymLink()) {
+        in.fail(in.path(key), file + QLatin1String(": no regular file that can be read"));
+    }
+    return file;
 }
 
 Disk readDisk(const JsonReader &in, const PcDescription &pc, const SelfTestEnd &end)
@@ -189,8 +235,7 @@ Disk readDisk(const JsonReader &in, const PcDescription &pc, const SelfTestEnd &
         in.fail(in.path(QStringLiteral("bytesPerSector")), QStringLiteral("a multiple of 512 is wanted"));
     }
     record.sectors = static_cast<quint64>(in.whole(QStringLiteral("sectors"), 0, 0, mostSectors));
-    const QString image = in.text(QStringLiteral("image"));
-    record.node = image.isEmpty() ? QString() : QDir(pc.folder).absoluteFilePath(image);
+    record.node = readImage(in, pc.folder);
     disk.layout = readLayout(in, pc.folder);
     disk.layoutKey = pc.folder + QLatin1String("/pc.json: ") + in.path(QStringLiteral("layout"));
     disk.opens = in.truth(QStringLiteral("opens"), true);
@@ -253,12 +298,19 @@ inventory::Partition readPartition(const JsonReader &in)
 
 QJsonObject readSettings(const JsonReader &in)
 {
+    static const QRegularExpression upwards(QStringLiteral("(^|[/\\\\])\\.\\.([/\\\\]|$)"));
+    static const QRegularExpression onADrive(QStringLiteral("^([A-Za-z]:[/\\\\]|$)"));
     const QString key = QStringLiteral("settings");
     const QJsonObject values = in.object(key);
     for (auto it = values.begin(); it != values.end(); ++it) {
+        const QString place = QStringLiteral("%1[\"%2\"]").arg(in.path(key), it.key());
+        const QString text = it.value().toString();
         if (!it.value().isString() && !it.value().isDouble() && !it.value().isBool()) {
-            in.fail(QStringLiteral("%1[\"%2\"]").arg(in.path(key), it.key()),
-                    QStringLiteral("a text, a number, true or false is wanted"));
+            in.fail(place, QStringLiteral("a text, a number, true or false is wanted"));
+        } else if (text.contains(upwards)) {
+            in.fail(place, QStringLiteral("a text without \"..\" is wanted"));
+        } else if (it.key().endsWith(QLatin1String("Path")) && !text.contains(onADrive)) {
+            in.fail(place, QStringLiteral("a path on a drive is wanted"));
         }
     }
     return values;
@@ -267,14 +319,27 @@ QJsonObject readSettings(const JsonReader &in)
 QString readHistory(const JsonReader &in, const QString &folder)
 {
     const QString key = QStringLiteral("history");
-    const QString path = QDir(folder).absoluteFilePath(in.text(key, key));
-    if (QFileInfo(path).isDir()) {
-        return path;
+    const QString path = pathBelow(in, key, in.text(key, key), folder);
+    if (!in.error().isEmpty() || !QFileInfo(path).isDir()) {
+        if (in.has(key)) {
+            in.fail(key, path + QLatin1String(": no such folder"));
+        }
+        return QString();
     }
-    if (in.has(key)) {
-        in.fail(key, path + QLatin1String(": no such folder"));
+    const QString strange = ownfiles::irregularIn(path);
+    if (!strange.isEmpty()) {
+        in.fail(key, strange + QLatin1String(": no regular file that can be read"));
+        return QString();
     }
-    return QString();
+    qint64 bytes = 0;
+    for (QDirIterator each(path, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories); each.hasNext();) {
+        each.next();
+        bytes += each.fileInfo().size();
+    }
+    if (bytes > ownfiles::MostBytes) {
+        in.fail(key, path + QLatin1String(": more than 16 MiB"));
+    }
+    return path;
 }
 
 void readParts(const JsonReader &in, const SelfTestEnd &end, PcDescription *pc)
@@ -308,6 +373,7 @@ PcDescription readObject(const QJsonObject &object, const QString &folder, QStri
     pc.dpi = static_cast<int>(in.whole(QStringLiteral("dpi"), 96, 48, 960));
     pc.pauses = in.truth(QStringLiteral("pauses"), true);
     pc.hasSmartctl = in.truth(QStringLiteral("smartctl"), true);
+    pc.network = in.truth(QStringLiteral("network"), false);
     pc.processes = in.texts(QStringLiteral("processes"));
     pc.installed = in.texts(QStringLiteral("installed"));
     pc.settings = readSettings(in);
@@ -324,12 +390,15 @@ PcDescription readObject(const QJsonObject &object, const QString &folder, QStri
 /// The object of the file; on failure the error names the line.
 std::optional<QJsonObject> parseFile(const QString &path, QString *error)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        *error = QLatin1String("no such file");
+    const QFileInfo info(path);
+    const bool regular = info.isFile() && !info.isSymLink();
+    if (!regular || !info.isReadable() || info.size() > ownfiles::MostBytes) {
+        *error = QLatin1String(!info.exists() ? "no such file"
+                               : regular      ? "more than 16 MiB"
+                                              : "no regular file");
         return std::nullopt;
     }
-    const QByteArray bytes = file.readAll();
+    const QByteArray bytes = ownfiles::contents(path);
     QJsonParseError syntax{};
     const QJsonDocument document = QJsonDocument::fromJson(bytes, &syntax);
     if (syntax.error != QJsonParseError::NoError) {

@@ -55,6 +55,7 @@ struct PcDescription {
     int dpi = 96;
     bool pauses = true;
     bool hasSmartctl = true;
+    bool network = false; ///< links may be asked, on this very PC only
     QVector<Disk> disks;
     QVector<inventory::Volume> volumes;
     QSet<int> absentDisks; ///< not plugged in at first

@@ -1,6 +1,7 @@
 #include "platform/simulated/RawDevices.h"
 
 #include "platform/IoControl.h"
+#include "platform/OwnFiles.h"
 #include "platform/SparseFile.h"
 #include "platform/simulated/DeviceControl.h"
 
@@ -74,8 +75,8 @@ bool RawDevices::prepareImage(const Disk &disk)
     // The largest file of common file systems ends before the largest disk: the rest of such a disk reads as
     // zeros and cannot be written.
     const qint64 size = std::min(bytesOf(disk), LongestImage);
-    if (QFileInfo::exists(file)) {
-        return QFileInfo(file).size() == size || sparse::resize(file, size);
+    if (const QFileInfo there(file); there.exists() || there.isSymLink()) {
+        return (there.size() == size && !there.isSymLink()) || sparse::resize(file, size);
     }
     return QDir().mkpath(m_imageFolder) && makeImage(disk, file, size);
 }
@@ -109,9 +110,11 @@ bool RawDevices::addPiece(Device &device, int number, qint64 start, qint64 lengt
         return false;
     }
     // Each handle has a file of its own, so that threads do not meet at a file position.
-    auto file = std::make_shared<QFile>(imageFile(number));
+    auto file = std::make_shared<QFile>();
     const bool writes = (device.access & io::GenericWrite) != 0;
-    if (!file->open((writes ? QIODevice::ReadWrite : QIODevice::ReadOnly) | QIODevice::Unbuffered)) {
+    if (!ownfiles::openRegular(file.get(), imageFile(number),
+                               (writes ? QIODevice::ReadWrite : QIODevice::ReadOnly) |
+                                   QIODevice::Unbuffered)) {
         return false;
     }
     device.pieces.append({disk, file, start, length});

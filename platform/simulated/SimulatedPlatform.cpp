@@ -3,6 +3,7 @@
 #include "platform/HttpDownload.h"
 #include "platform/IoControl.h"
 #include "platform/JsonSettings.h"
+#include "platform/OwnFiles.h"
 #include "platform/simulated/HistorySeed.h"
 #include "platform/simulated/StateFolder.h"
 
@@ -53,6 +54,15 @@ bool isDescribedPath(const QString &path)
 
 bool makeStateFolder(const QString &folder, QString *error)
 {
+    // What strangers could change would lead the program to other files of its user.
+    QString wrong = ownfiles::strangerOn(folder);
+    if (wrong.isEmpty() && !ownfiles::irregularIn(folder).isEmpty()) {
+        wrong = ownfiles::irregularIn(folder) + QLatin1String(": no regular file");
+    }
+    if (!wrong.isEmpty()) {
+        *error = QLatin1String("the state of the PC cannot be kept: ") + wrong;
+        return false;
+    }
     for (const char *part : {"temp", "images", "registry", "volumes-changed", "drives/C"}) {
         if (!QDir().mkpath(folder + QLatin1Char('/') + QLatin1String(part))) {
             *error = folder + QLatin1String(": the state of the PC cannot be kept there");
@@ -67,6 +77,12 @@ bool makeStateFolder(const QString &folder, QString *error)
 std::unique_ptr<SimulatedPlatform> SimulatedPlatform::open(const QString &folder, const QString &stateFolder,
                                                            QString *error, simulated::Clock clock)
 {
+    // Who runs as an administrator follows nobody else's description.
+    const QString stranger = ownfiles::isElevated() ? ownfiles::strangerOn(folder) : QString();
+    if (!stranger.isEmpty()) {
+        *error = stranger + QLatin1String(", and this program runs as an administrator");
+        return nullptr;
+    }
     std::optional<simulated::PcDescription> pc = simulated::readPc(folder, error);
     if (!pc) {
         return nullptr;
@@ -274,6 +290,7 @@ QString SimulatedPlatform::HistoryFolder(const QString &)
 QString SimulatedPlatform::NativePath(const QString &path) const
 {
     static const QRegularExpression doubled(QStringLiteral("/{2,}"));
+    static const QRegularExpression upwards(QStringLiteral("(/[^/]+)?/\\.\\.(/|$)"));
     QString native = path;
     native.replace(QLatin1Char('\\'), QLatin1Char('/'));
     native.replace(doubled, QStringLiteral("/"));
@@ -282,7 +299,11 @@ QString SimulatedPlatform::NativePath(const QString &path) const
         native.size() >= 2 && native.at(0).isLetter() && native.at(0).unicode() < 128 &&
         (native.midRef(1) == QLatin1String(":") || native.midRef(1, 2) == QLatin1String(":/"));
     if (hasLetter && isDescribedPath(native)) {
-        return m_state + QLatin1String("/drives/") + native.at(0).toUpper() + native.mid(2);
+        QString below = native.mid(2);
+        while (below.contains(upwards)) {
+            below.replace(upwards, QStringLiteral("/")); // the root of a drive is its own parent
+        }
+        return m_state + QLatin1String("/drives/") + native.at(0).toUpper() + below;
     }
     return native;
 }

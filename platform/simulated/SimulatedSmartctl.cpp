@@ -1,9 +1,9 @@
 #include "platform/simulated/SimulatedSmartctl.h"
 
+#include "platform/OwnFiles.h"
 #include "platform/simulated/SelfTestText.h"
 
 #include <QDateTime>
-#include <QFile>
 #include <QLocale>
 #include <QMutexLocker>
 #include <QRegularExpression>
@@ -23,12 +23,6 @@ const QByteArray testSection = "=== START OF OFFLINE IMMEDIATE AND SELF-TEST SEC
 const QByteArray noTestsLogged = "=== START OF READ SMART DATA SECTION ===\n"
                                  "SMART Self-test log structure revision number 1\n"
                                  "No self-tests have been logged.  [To run self-tests, use: smartctl -t]\n\n";
-
-QByteArray contentsOf(const QString &path)
-{
-    QFile file(path);
-    return !path.isEmpty() && file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 /// The report that the tool prints at its n-th run, counted from 0.
 QString reportFile(const Disk &disk, int run)
@@ -119,7 +113,7 @@ QByteArray SimulatedSmartctl::run(const QStringList &arguments)
         output += report(*disk);
     }
     if (request.capabilities) {
-        output += m_tests.applyTo(disk->record.number, contentsOf(disk->capabilities));
+        output += m_tests.applyTo(disk->record.number, ownfiles::contents(disk->capabilities));
     }
     if (request.log) {
         output += log(*disk);
@@ -136,12 +130,12 @@ QByteArray SimulatedSmartctl::run(const QStringList &arguments)
 QByteArray SimulatedSmartctl::report(const Disk &disk)
 {
     const int run = m_runs[disk.record.number]++;
-    return m_tests.applyTo(disk.record.number, contentsOf(reportFile(disk, run)));
+    return m_tests.applyTo(disk.record.number, ownfiles::contents(reportFile(disk, run)));
 }
 
 QByteArray SimulatedSmartctl::log(const Disk &disk)
 {
-    QByteArray text = contentsOf(disk.selfTestLog);
+    QByteArray text = ownfiles::contents(disk.selfTestLog);
     if (disk.selfTestLog.isEmpty() && !disk.capabilities.isEmpty()) {
         text = banner + noTestsLogged;
     }
@@ -150,7 +144,7 @@ QByteArray SimulatedSmartctl::log(const Disk &disk)
 
 QByteArray SimulatedSmartctl::startTest(const Disk &disk, const QString &test)
 {
-    const QByteArray capabilities = contentsOf(disk.capabilities);
+    const QByteArray capabilities = ownfiles::contents(disk.capabilities);
     const bool isLong = test == QLatin1String("long");
     const QByteArray command = QByteArray("\"Execute SMART ") + (isLong ? "Extended" : "Short") +
                                " self-test routine immediately in off-line mode\"";
@@ -171,7 +165,8 @@ QByteArray SimulatedSmartctl::startTest(const Disk &disk, const QString &test)
     run.kind = isLong ? QStringLiteral("Extended offline") : QStringLiteral("Short offline");
     run.end = disk.selfTestEnd;
     run.duration = static_cast<qint64>(minutes * m_pc.secondsPerMinute * 1000.0);
-    run.hours = selftext::powerOnHours(contentsOf(reportFile(disk, m_runs.value(disk.record.number))));
+    run.hours =
+        selftext::powerOnHours(ownfiles::contents(reportFile(disk, m_runs.value(disk.record.number))));
     constexpr int readFailure = 7;
     run.lba = run.end.status == readFailure && !disk.bad.isEmpty() ? QString::number(disk.bad.lowest())
                                                                    : QStringLiteral("-");

@@ -31,7 +31,8 @@ bool copyFolder(const QString &from, const QString &to)
 {
     bool whole = QDir().mkpath(to);
     const QDir source(from);
-    QDirIterator each(from, QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
+    QDirIterator each(from, QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks,
+                      QDirIterator::Subdirectories);
     while (each.hasNext()) {
         const QString path = each.next();
         const QString target = to + QLatin1Char('/') + source.relativeFilePath(path);

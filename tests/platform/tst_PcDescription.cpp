@@ -179,7 +179,7 @@ void TestPcDescription::errors()
     QFETCH(QByteArray, json);
     QFETCH(QString, error);
     const DescribedFolder folder;
-    folder.add(QStringLiteral("there.txt"), "x");
+    folder.add(QStringLiteral("there.txt"), "size=1");
     folder.add(QStringLiteral("pc.json"), json);
     QString told;
     QVERIFY(!readPc(folder.path(), &told));

@@ -1,0 +1,178 @@
+#include "platform/IoControl.h"
+#include "platform/OwnFiles.h"
+#include "tests/platform/DescribedFolder.h"
+
+#include <QProcess>
+#include <QtTest>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+/// Described PCs of strangers: what they could make the program read, write or ask.
+class DescribedPcsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void strangeNames_data();
+    void strangeNames();
+    void strangeDescription_data();
+    void strangeDescription();
+    void strangeStates_data();
+    void strangeStates();
+    void foldersOfOthers();
+    void drivesHaveNoParent();
+
+private:
+    static QString openingError(const DescribedFolder &folder, const QString &state = QString())
+    {
+        QString error;
+        const auto pc =
+            SimulatedPlatform::open(folder.path(), state.isEmpty() ? folder.state() : state, &error);
+        return pc ? QStringLiteral("it opens") : error.replace(folder.path(), QStringLiteral("<pc>"));
+    }
+};
+
+void DescribedPcsTest::strangeNames_data()
+{
+    QTest::addColumn<QByteArray>("json");
+    QTest::addColumn<QString>("error");
+    const auto row = [](const char *name, const QByteArray &json, const char *error) {
+        QTest::newRow(name) << json << QStringLiteral("<pc>/pc.json: ") + QLatin1String(error);
+    };
+    const auto disk = [&row](const char *name, const QByteArray &json, const char *error) {
+        row(name, R"({"disks": [{"number": 0, )" + json + "}]}", error);
+    };
+    row("root as history", R"({"history": "/"})", "history: /: lies outside the folder");
+    row("link in the history", R"({"history": "leaky"})",
+        "history: <pc>/leaky/out: no regular file that can be read");
+    row("setting", R"({"settings": {"EN/SupportLink": "a\\..\\..\\b"}})",
+        R"(settings["EN/SupportLink"]: a text without ".." is wanted)");
+    row("log beside the PC", R"({"settings": {"LogSavePath": "/tmp/x/y.log"}})",
+        R"(settings["LogSavePath"]: a path on a drive is wanted)");
+    row("many disks", R"({"processes": [)" + QByteArray(R"("",)").repeated(70000) + R"(""]})",
+        "processes: at most 65536 entries are wanted");
+    disk("image above", R"("image": "../x.img")", "disks[0].image: <above>/x.img: lies outside the folder");
+    disk("pipe as image", R"("image": "pipe")",
+         "disks[0].image: <pc>/pipe: no regular file that can be read");
+    disk("link out", R"("report": "out")", "disks[0].report: <pc>/out: lies outside the folder");
+    disk("full path", R"("capabilities": "/etc/passwd")",
+         "disks[0].capabilities: /etc/passwd: lies outside the folder");
+    disk("pipe", R"("selfTestLog": "pipe")",
+         "disks[0].selfTestLog: <pc>/pipe: no regular file that can be read");
+    disk("long report", R"("report": "long")", "disks[0].report: <pc>/long: more than 16 MiB");
+    disk("command in a table", R"("layout": {"table": "commands"})",
+         "disks[0].layout.table: <pc>/commands: line 2 sets no partition table");
+    disk("label", R"("layout": {"table": "t", "fileSystems": [{"partition": 1, "label": "a\nb"}]})",
+         "disks[0].layout.fileSystems[0].label: a text without control characters is wanted");
+}
+
+void DescribedPcsTest::strangeNames()
+{
+    QFETCH(QByteArray, json);
+    QFETCH(QString, error);
+    const DescribedFolder folder;
+    folder.add(QStringLiteral("pc.json"), json);
+    folder.add(QStringLiteral("commands"), "label: dos\nwrite\n");
+    folder.add(QStringLiteral("t"), "label: dos\nsize=1\n");
+    folder.add(QStringLiteral("leaky/a"), "");
+    QVERIFY(QFile::link(QStringLiteral("/etc/passwd"), folder.path() + QStringLiteral("/out")));
+    QVERIFY(QFile::link(QStringLiteral("/etc/passwd"), folder.path() + QStringLiteral("/leaky/out")));
+    QCOMPARE(mkfifo(QFile::encodeName(folder.path() + QStringLiteral("/pipe")).constData(), 0600), 0);
+    folder.add(QStringLiteral("long"), "");
+    QVERIFY(QFile::resize(folder.path() + QStringLiteral("/long"), ownfiles::MostBytes + 1));
+    QCOMPARE(openingError(folder), error.replace(QStringLiteral("<above>"), QDir::tempPath()));
+}
+
+void DescribedPcsTest::strangeDescription_data()
+{
+    QTest::addColumn<QStringList>("command"); // makes pc.json
+    QTest::addColumn<QString>("error");
+    QTest::newRow("pipe") << QStringList{"mkfifo", "pc.json"} << "<pc>/pc.json: no regular file";
+    QTest::newRow("without an end") << QStringList{"truncate", "-s", "1G", "pc.json"}
+                                    << "<pc>/pc.json: more than 16 MiB";
+    QTest::newRow("link") << QStringList{"ln", "-s", "/etc/passwd", "pc.json"}
+                          << "<pc>/pc.json: no regular file";
+}
+
+void DescribedPcsTest::strangeDescription()
+{
+    QFETCH(QStringList, command);
+    const DescribedFolder folder;
+    QProcess maker;
+    maker.setWorkingDirectory(folder.path());
+    maker.start(command.takeFirst(), command);
+    QVERIFY(maker.waitForFinished());
+    QTEST(openingError(folder), "error");
+}
+
+void DescribedPcsTest::strangeStates_data()
+{
+    QTest::addColumn<QString>("link"); ///< in the state, to a file of the user's
+    QTest::newRow("log") << "commands.log";
+    QTest::newRow("image") << "images/disk0.img";
+    QTest::newRow("drive") << "drives/C";
+}
+
+void DescribedPcsTest::strangeStates()
+{
+    QFETCH(QString, link);
+    const DescribedFolder folder;
+    folder.add(QStringLiteral("pc.json"), R"({"disks": [{"number": 0, "sectors": 16}]})");
+    QVERIFY(QDir().mkpath(folder.state() + QStringLiteral("/images")));
+    QVERIFY(QDir().mkpath(folder.state() + QStringLiteral("/drives")));
+    QTemporaryFile own;
+    QVERIFY(own.open() && own.write("mine") == 4 && own.flush());
+    const QString path = folder.state() + QLatin1Char('/') + link;
+    QVERIFY(QFile::link(own.fileName(), path));
+    QCOMPARE(openingError(folder), QLatin1String("the state of the PC cannot be kept: ") + path +
+                                       QLatin1String(": no regular file"));
+
+    // One that appears later is not followed either.
+    QVERIFY(QFile::remove(path));
+    const auto pc = folder.open(R"({"disks": [{"number": 0, "sectors": 16}]})");
+    QDir().rmdir(path);
+    QVERIFY(QFile::link(own.fileName(), path));
+    QCOMPARE(pc->CreateFileW(QStringLiteral("\\\\.\\PHYSICALDRIVE0"), io::GenericRead | io::GenericWrite, 3,
+                             io::OpenExisting) == Platform::InvalidHandle,
+             link.endsWith(QLatin1String(".img")));
+    QCOMPARE(QFileInfo(own.fileName()).size(), 4);
+}
+
+void DescribedPcsTest::foldersOfOthers()
+{
+    if (geteuid() != 0)
+        QSKIP("only root can make a folder of somebody else");
+    const DescribedFolder folder;
+    folder.add(QStringLiteral("pc.json"), "{}");
+    QTemporaryDir other;
+    const QByteArray name = QFile::encodeName(other.path());
+    QCOMPARE(chown(name.constData(), 65534, 65534), 0);
+    const QString belongs = other.path() + QStringLiteral(": belongs to another user");
+    const QString notKept = QStringLiteral("the state of the PC cannot be kept: ");
+    QCOMPARE(openingError(folder, other.path() + QStringLiteral("/state")), notKept + belongs);
+    QVERIFY(
+        QFile::copy(folder.path() + QStringLiteral("/pc.json"), other.path() + QStringLiteral("/pc.json")));
+    QString error;
+    QVERIFY(!SimulatedPlatform::open(other.path(), folder.state(), &error));
+    QCOMPARE(error, belongs + QStringLiteral(", and this program runs as an administrator"));
+    // Nor a folder of root's behind a link of theirs, nor one that all may write to.
+    QVERIFY(QFile::link(folder.path(), other.path() + QStringLiteral("/root's")));
+    QCOMPARE(ownfiles::strangerOn(other.path() + QStringLiteral("/root's")), belongs);
+    QCOMPARE(chown(name.constData(), 0, 0), 0);
+    QCOMPARE(chmod(name.constData(), 0777), 0);
+    QCOMPARE(ownfiles::strangerOn(other.path() + QStringLiteral("/state")),
+             other.path() + QStringLiteral(": others may write to it"));
+}
+
+void DescribedPcsTest::drivesHaveNoParent()
+{
+    const DescribedFolder folder;
+    const auto pc = folder.open("{}");
+    QCOMPARE(pc->NativePath(QStringLiteral("C:\\..\\a\\..\\..\\..\\etc\\..\\x")),
+             folder.state() + QStringLiteral("/drives/C/x"));
+    QCOMPARE(pc->NativePath(QStringLiteral("d:/..")), folder.state() + QStringLiteral("/drives/D/"));
+}
+
+QTEST_GUILESS_MAIN(DescribedPcsTest)
+#include "tst_DescribedPcs.moc"
