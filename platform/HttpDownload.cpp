@@ -1,22 +1,49 @@
 #include "platform/HttpDownload.h"
 
+#include <QDeadlineTimer>
 #include <QEventLoop>
 #include <QFile>
+#include <QHostAddress>
 #include <QNetworkAccessManager>
+#include <QNetworkProxy>
 #include <QNetworkReply>
 #include <QNetworkRequest>
 #include <QThread>
-#include <QUrl>
+#include <QTimer>
 #include <QVariant>
 
+#include <algorithm>
+#include <atomic>
 #include <memory>
 
 namespace
 {
 
-constexpr qint32 resultInvalidUrl = static_cast<qint32>(0x800C0002u);
 constexpr qint32 resultNotFound = static_cast<qint32>(0x800C0005u);
 constexpr qint32 resultDownloadFailure = static_cast<qint32>(0x800C0008u);
+
+constexpr int SilenceMs = 15000; ///< without a connection or new data
+constexpr int MostRedirects = 5;
+constexpr qint64 BufferBytes = 65536;
+constexpr int GraceMs = 1000; ///< for the end of a transfer that was broken off
+
+struct Job {
+    QUrl url;
+    QString path;
+    DownloadLimits limits;
+    Reach reach;
+    std::atomic<qint32> result{Platform::DownloadRefused};
+};
+
+bool mayAsk(const Job &job, const QUrl &url)
+{
+    const bool here = isThisPc(url);
+    if (job.reach == Reach::ThisPc && !here)
+        return false;
+    // Plain http can be changed on its way, so it is taken only where it has none.
+    return url.scheme() == QLatin1String("https") ||
+           (url.scheme() == QLatin1String("http") && here && isThisPc(job.url));
+}
 
 /// Not a QSaveFile: that one has no name before its end, and who waits watches the file grow.
 bool replace(QFile *partial, const QString &path)
@@ -26,44 +53,74 @@ bool replace(QFile *partial, const QString &path)
     return partial->error() == QFileDevice::NoError && partial->rename(path);
 }
 
+qint64 announced(const QNetworkReply &reply)
+{
+    const QVariant length = reply.header(QNetworkRequest::ContentLengthHeader);
+    return length.isValid() ? length.toLongLong() : -1;
+}
+
 /// The toolkit takes an answer that ends with its headers for complete.
 bool isWhole(const QNetworkReply &reply, qint64 size)
 {
-    const QVariant announced = reply.header(QNetworkRequest::ContentLengthHeader);
-    return !announced.isValid() || announced.toLongLong() == size;
+    return announced(reply) < 0 || announced(reply) == size;
 }
 
-qint32 load(const QUrl &url, const QString &path, int limitMs)
+QNetworkRequest requestFor(const Job &job)
 {
-    QFile file(path + QLatin1String(".part"));
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered)) {
-        return resultDownloadFailure;
-    }
-    QNetworkRequest request(url);
-    request.setTransferTimeout(limitMs);
-    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::NoLessSafeRedirectPolicy);
+    QNetworkRequest request(job.url);
+    request.setTransferTimeout(std::min<int>(job.limits.milliseconds, SilenceMs));
+    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
+                         QNetworkRequest::UserVerifiedRedirectPolicy);
+    request.setMaximumRedirectsAllowed(MostRedirects);
     // Compressed, the announced length would be another one than that of the file.
     request.setRawHeader("Accept-Encoding", "identity");
+    return request;
+}
 
+qint32 load(const Job &job)
+{
+    QFile file(job.path + QLatin1String(".part"));
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered))
+        return resultDownloadFailure;
     QNetworkAccessManager manager;
+    // What is on this PC does not go over another one.
+    if (isThisPc(job.url))
+        manager.setProxy(QNetworkProxy::NoProxy);
     QEventLoop loop;
     bool written = true;
-    const std::unique_ptr<QNetworkReply> reply(manager.get(request));
+    bool refused = false;
+    const std::unique_ptr<QNetworkReply> reply(manager.get(requestFor(job)));
+    reply->setReadBufferSize(BufferBytes);
+    const auto refuse = [&] {
+        refused = true;
+        loop.quit();
+    };
     const auto take = [&] {
         const QByteArray bytes = reply->readAll();
-        written = written && file.write(bytes) == bytes.size();
+        if (std::max(announced(*reply), file.size() + bytes.size()) > job.limits.bytes)
+            refuse();
+        else
+            written = written && file.write(bytes) == bytes.size();
     };
     QObject::connect(reply.get(), &QNetworkReply::readyRead, &loop, take);
+    QObject::connect(reply.get(), &QNetworkReply::metaDataChanged, &loop, take);
+    QObject::connect(reply.get(), &QNetworkReply::redirected, &loop, [&](const QUrl &next) {
+        if (mayAsk(job, next))
+            emit reply->redirectAllowed();
+        else
+            refuse();
+    });
     QObject::connect(reply.get(), &QNetworkReply::finished, &loop, &QEventLoop::quit);
-    if (!reply->isFinished()) {
+    QTimer::singleShot(job.limits.milliseconds, &loop, refuse);
+    if (!reply->isFinished())
         loop.exec();
-    }
-    take();
-    if (reply->error() != QNetworkReply::NoError) {
+    if (!refused && reply->error() == QNetworkReply::NoError)
+        take();
+    if (refused || reply->error() != QNetworkReply::NoError) {
         file.remove();
-        return resultNotFound;
+        return refused ? Platform::DownloadRefused : resultNotFound;
     }
-    if (!written || !isWhole(*reply, file.size()) || !replace(&file, path)) {
+    if (!written || !isWhole(*reply, file.size()) || !replace(&file, job.path)) {
         file.remove();
         return resultDownloadFailure;
     }
@@ -72,16 +129,26 @@ qint32 load(const QUrl &url, const QString &path, int limitMs)
 
 } // namespace
 
-qint32 httpDownload(const QString &url, const QString &path, int limitMs)
+bool isThisPc(const QUrl &url)
 {
-    const QUrl parsed(url);
-    if (!parsed.isValid() || parsed.scheme().isEmpty()) {
-        return resultInvalidUrl;
-    }
-    qint32 result = resultDownloadFailure;
+    return url.host() == QLatin1String("localhost") || QHostAddress(url.host()).isLoopback();
+}
+
+qint32 httpDownload(const QString &url, const QString &path, const DownloadLimits &limits, Reach reach)
+{
+    const auto job = std::make_shared<Job>();
+    job->url = QUrl(url);
+    job->path = path;
+    job->limits = limits;
+    job->reach = reach;
+    if (!job->url.isValid() || job->url.host().isEmpty() || !mayAsk(*job, job->url) ||
+        limits.milliseconds <= 0)
+        return Platform::DownloadRefused;
     // A thread of its own has the event loop that the transfer needs; the caller's stays untouched.
-    const std::unique_ptr<QThread> worker(QThread::create([&] { result = load(parsed, path, limitMs); }));
+    std::unique_ptr<QThread> worker(QThread::create([job] { job->result = load(*job); }));
     worker->start();
-    worker->wait();
-    return result;
+    // Where the system itself hangs, in the search of a proxy for instance, the thread is left to it.
+    if (!worker->wait(QDeadlineTimer(qint64{limits.milliseconds} + GraceMs)))
+        worker.release();
+    return job->result;
 }

@@ -12,6 +12,7 @@
 #include <optional>
 #include <string>
 
+class QFile;
 class QSettings;
 
 /// A task that starts a program at the user's logon.
@@ -20,6 +21,12 @@ struct LogonTask {
     QString author;  ///< user name; also the user whose logon starts it
     QString program; ///< full path
     QString arguments;
+};
+
+/// What a download may take.
+struct DownloadLimits {
+    qint32 milliseconds; ///< from begin to end
+    qint64 bytes;
 };
 
 /// The seam to the operating system: all that the program asks of the machine goes through here. The
@@ -86,6 +93,14 @@ public:
     /// Each element of `line` is one character as the process creation would get it. False if the interpreter
     /// could not be started; the command's own exit code is not told.
     virtual bool CreateProcessAndWait(const std::wstring &line, bool hidden) = 0;
+    /// The same in a console that shows, for a given time: what still runs then is ended with all that it
+    /// started, and false is the answer. Where no programs are started for a command line, the tool keeps a
+    /// limit of its own.
+    virtual bool CreateProcessAndWaitFor(const std::wstring &line, qint32 milliseconds)
+    {
+        (void)milliseconds;
+        return CreateProcessAndWait(line, false);
+    }
     /// How the window of what is opened shows. Only Windows tells it to programs.
     enum class Show { Normal, Maximised };
     /// Opens a file, program, page or mail address with what the desktop has for it. Returns at once.
@@ -105,6 +120,13 @@ public:
     /// Where the history of attribute values is kept; no trailing separator. `applicationFolder` where it can
     /// be written, else a folder of the user's, which is made if it is missing.
     virtual QString HistoryFolder(const QString &applicationFolder) = 0;
+    /// A fresh and empty folder `name` that nobody else can enter or change; where the process has the rights
+    /// of an administrator, other programs of its user count as others. Full path in ASCII without blanks,
+    /// empty where none can be made. The caller removes it.
+    virtual QString MakePrivateFolder(const QString &name) = 0;
+    /// Opens a regular file that nobody else could have written, for reading. While the result lives it is
+    /// not changed or replaced, as far as the system can hold it. Null where there is no such file.
+    virtual std::unique_ptr<QFile> HoldFile(const QString &path) = 0;
     /// A path as this platform writes it: the program composes paths with backslashes.
     virtual QString NativePath(const QString &path) const = 0;
     /// The value of COMSPEC, empty if unset.
@@ -123,8 +145,12 @@ public:
     virtual void SetThreadExecutionState(quint32 flags) = 0;
     /// Dots per inch of the display, 96 at a scale of one. Main thread only.
     virtual int LogPixelsX() = 0;
-    /// Loads a page into a file, blocking. Zero on success, like the result code of the system call.
-    virtual qint32 URLDownloadToFileW(const QString &url, const QString &path) = 0;
+    /// Loads a page into a file, blocking; httpDownload() says from where. Zero on success, like the result
+    /// code of the system call.
+    virtual qint32 URLDownloadToFileW(const QString &url, const QString &path,
+                                      const DownloadLimits &limits) = 0;
+    /// A result of it: the address may not be asked, or what came went beyond the limits.
+    static constexpr qint32 DownloadRefused = static_cast<qint32>(0x80004004u);
     /// A fixed pause of the program.
     virtual void Sleep(quint32 milliseconds) = 0;
     /// @}

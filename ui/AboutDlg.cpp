@@ -6,7 +6,6 @@
 #include "update/HelpLinks.h"
 
 #include <QEvent>
-#include <QUrl>
 
 AboutDlg::AboutDlg(QWidget *parent) : QDialog(parent), m_Frame(this)
 {
@@ -45,17 +44,12 @@ void AboutDlg::translateTexts()
 
 void AboutDlg::OpenLicense()
 {
-    const QString link = links::agreement();
-    if (!link.isEmpty())
-        Platform::current().OpenUrl(QUrl::fromUserInput(link));
+    links::openAgreement();
 }
 
 void AboutDlg::OpenSupport()
 {
-    const QString address = links::supportAddress();
-    if (!address.isEmpty())
-        Platform::current().ShellExecuteW(QStringLiteral("mailto:") + address, QString(),
-                                          QStringLiteral("Open"));
+    links::openSupport();
 }
 
 void AboutDlg::changeEvent(QEvent *event)

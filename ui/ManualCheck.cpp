@@ -7,6 +7,7 @@
 #include "ui/MainWindow.h"
 #include "ui/QCheckUpdate.h"
 #include "ui/Style.h"
+#include "update/HelpLinks.h"
 #include "update/UpdateGlobals.h"
 
 namespace
@@ -26,9 +27,11 @@ QCheckUpdate *checkForUpdates(QWidget *owner)
         (::m_pMainWindow && ::m_pMainWindow->jobRuns()))
         return nullptr;
     if (opensPageInstead()) {
-        const QString page =
-            SettingsStore().text(key::ofLanguage(QStringLiteral("CN"), QStringLiteral("CN_Update_Lnk")));
-        Platform::current().ShellExecuteW(page, QString(), QStringLiteral("open"), Platform::Show::Maximised);
+        const QUrl page = links::pageOf(
+            SettingsStore().text(key::ofLanguage(QStringLiteral("CN"), QStringLiteral("CN_Update_Lnk"))));
+        if (page.isValid())
+            Platform::current().ShellExecuteW(QString::fromLatin1(page.toEncoded()), QString(),
+                                              QStringLiteral("open"), Platform::Show::Maximised);
         return nullptr;
     }
     m_bManualCheck = true;

@@ -27,6 +27,11 @@ QCheckUpdate::QCheckUpdate(QWidget *parent) : QDialog(parent), m_Frame(this)
     check();
 }
 
+QCheckUpdate::~QCheckUpdate()
+{
+    update::removeVersions();
+}
+
 void QCheckUpdate::check()
 {
     m_bHttpRequestAborted = false;
@@ -63,6 +68,7 @@ void QCheckUpdate::downloadFinishedTxt()
 
 void QCheckUpdate::tellNoUpdate()
 {
+    update::removeVersions();
     emit NoUpdates();
     if (m_bManualCheck) {
         m_bManualCheck = false;

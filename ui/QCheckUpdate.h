@@ -17,6 +17,7 @@ class QCheckUpdate : public QDialog, public Ui::CheckUpdate
 
 public:
     explicit QCheckUpdate(QWidget *parent);
+    ~QCheckUpdate() override;
 
     /// Whether an update was found, and is offered.
     bool HasOffer() const { return m_pOffer != nullptr; }

@@ -4,6 +4,7 @@
 #include "app/state/Scale.h"
 #include "platform/Platform.h"
 #include "ui/Style.h"
+#include "update/UpdateCheck.h"
 #include "update/UpdateFetch.h"
 #include "update/UpdateLink.h"
 
@@ -50,9 +51,11 @@ QDownloadApp::QDownloadApp(QWidget *parent) : QDialog(parent), m_Frame(this)
     m_Frame.dress(look);
     setModal(true);
     progressBar->setStyleSheet(BarSheet);
+    update::removeVersions();
     update::removeLeftovers();
     progressBar->setMaximum(update::expectedSize());
     m_thread.m_strUrl = update::link() + update::installerName();
+    m_thread.m_limits = update::installerLimits(update::expectedSize());
     m_timer.setInterval(ProgressInterval);
     connect(&m_timer, &QTimer::timeout, this, &QDownloadApp::OnTimerLoadSlot);
     connect(&m_thread, &QDownloadThread::OnDownloadStart, this, &QDownloadApp::OnDownloadStart);

@@ -1,14 +1,13 @@
 #include "ui/QShowUpdate.h"
 
-#include "platform/Platform.h"
 #include "ui/QDownloadApp.h"
 #include "ui/Style.h"
+#include "update/HelpLinks.h"
 #include "update/UpdateCheck.h"
 #include "update/UpdateGlobals.h"
 #include "update/UpdateLink.h"
 
 #include <QEvent>
-#include <QUrl>
 
 QShowUpdate::QShowUpdate(QWidget *parent) : QShowUpdate(parent, Kind::AsFound) {}
 
@@ -24,8 +23,7 @@ QShowUpdate::QShowUpdate(QWidget *parent, Kind kind) : QDialog(parent), m_Frame(
     setModal(true);
     connect(UpdateButton, &QPushButton::clicked, this, &QShowUpdate::DownloadApp);
     connect(CancelButton, &QPushButton::clicked, this, &QShowUpdate::CancelDownload);
-    connect(LinkLabel, &QLabel::linkActivated, this,
-            [](const QString &page) { Platform::current().OpenUrl(QUrl::fromUserInput(page)); });
+    connect(LinkLabel, &QLabel::linkActivated, this, [](const QString &page) { links::openPage(page); });
     translateTexts();
 }
 

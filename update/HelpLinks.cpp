@@ -83,9 +83,36 @@ void openHelp(Topic topic)
                                           Platform::Show::Maximised);
         return;
     }
-    const QString page = helpPage(topic);
-    if (!page.isEmpty())
-        Platform::current().OpenUrl(QUrl(page));
+    openPage(helpPage(topic));
+}
+
+QUrl pageOf(const QString &address)
+{
+    const QUrl url = QUrl::fromUserInput(address);
+    const bool page = url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https");
+    return page && !url.host().isEmpty() ? url : QUrl();
+}
+
+bool openPage(const QString &address)
+{
+    const QUrl page = pageOf(address);
+    return page.isValid() && Platform::current().OpenUrl(page);
+}
+
+void openAgreement()
+{
+    if (g_App.m_bJapanese)
+        openPage(agreement());
+    else
+        Platform::current().OpenUrl(QUrl::fromUserInput(agreement()));
+}
+
+void openSupport()
+{
+    const QString address = QString::fromLatin1(QUrl::toPercentEncoding(supportAddress(), "@"));
+    if (!address.isEmpty())
+        Platform::current().ShellExecuteW(QStringLiteral("mailto:") + address, QString(),
+                                          QStringLiteral("Open"));
 }
 
 } // namespace links

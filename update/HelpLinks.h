@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QUrl>
 
 /// Where help, support and licence lie, by the language in use. Main thread only. An empty text opens
 /// nothing.
@@ -22,6 +23,18 @@ QString supportName();
 
 /// Path or address of the licence agreement.
 QString agreement();
+
+/// The page that a setting names; not valid where that is no page of the web, but a file or a program.
+QUrl pageOf(const QString &address);
+
+/// Opens such a page; false where it is none.
+bool openPage(const QString &address);
+
+/// Opens the agreement. One that a setting names has to be a page.
+void openAgreement();
+
+/// Opens a mail to the support; whatever stands in the setting is its address and nothing else.
+void openSupport();
 
 /// Opens the help on `topic`, online or from its file.
 void openHelp(Topic topic);

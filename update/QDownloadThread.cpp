@@ -3,9 +3,6 @@
 #include "update/UpdateFetch.h"
 #include "update/UpdateLink.h"
 
-#include <QFile>
-#include <QFileInfo>
-
 QDownloadThread::QDownloadThread(QObject *parent) : QThread(parent) {}
 
 QDownloadThread::~QDownloadThread()
@@ -16,12 +13,13 @@ QDownloadThread::~QDownloadThread()
 void QDownloadThread::run()
 {
     emit OnDownloadStart();
-    const QString path = update::fetch(m_strUrl, update::installerName());
-    if (QFileInfo(path).size() > 0) {
+    const QString path = update::fetch(m_strUrl, update::installerName(), m_limits);
+    m_held = path.isEmpty() ? nullptr : Platform::current().HoldFile(path);
+    if (m_held && m_held->size() > 0) {
         emit OnDownloadFinish(path);
         return;
     }
-    if (!path.isEmpty())
-        QFile::remove(path);
+    m_held.reset();
+    update::removeLeftovers();
     emit OnDownloadFailed();
 }

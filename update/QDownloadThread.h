@@ -1,7 +1,12 @@
 #pragma once
 
+#include "platform/Platform.h"
+
+#include <QFile>
 #include <QString>
 #include <QThread>
+
+#include <memory>
 
 /// Loads the installer of an update, off the main thread. Cannot be stopped: the destructor waits for a run
 /// that is under way without a time limit. Signals come from the thread itself.
@@ -13,16 +18,20 @@ public:
     explicit QDownloadThread(QObject *parent = nullptr);
     ~QDownloadThread() override;
 
-    QString m_strUrl; ///< of the installer; set before the start
+    QString m_strUrl;              ///< of the installer; set before the start
+    DownloadLimits m_limits{0, 0}; ///< the same
 
 signals:
     void OnDownloadStart();
     /// Nothing came; the last signal of a run.
     void OnDownloadFailed();
-    /// Something came, if only a part by way of the console; the last signal of a run. The path is as this
-    /// machine opens it.
+    /// The installer came; the last signal of a run. The path is as this machine opens it. Until this object
+    /// goes, the file is held, so that what is started is what came.
     void OnDownloadFinish(QString strDownloadPath);
 
 protected:
     void run() override;
+
+private:
+    std::unique_ptr<QFile> m_held;
 };

@@ -1,6 +1,5 @@
 #include "update/UpdateCheck.h"
 
-#include "inventory/CommandRunner.h"
 #include "update/UpdateFetch.h"
 #include "update/UpdateGlobals.h"
 #include "update/UpdateLink.h"
@@ -23,30 +22,33 @@ constexpr qint64 BytesOfTwoLines = 4096; ///< more than any two versions take
 
 void beginCheck()
 {
-    g_strUpdateFile = nativePath(folder() + QLatin1Char('\\') + versionsName());
     removeVersions();
 }
 
 bool fetchVersions(const QString &link)
 {
-    g_strUpdateFile = fetch(link + versionsName(), versionsName());
+    g_strUpdateFile = fetch(link + versionsName(), versionsName(), VersionsLimits);
     return QFileInfo(g_strUpdateFile).size() >= LeastBytes;
 }
 
 void removeVersions()
 {
-    // Empty where a file from before lies in the way.
+    // Without it, what lies in the folder may be an installer on its way.
     if (!g_strUpdateFile.isEmpty())
-        QFile::remove(g_strUpdateFile);
+        removeLeftovers();
+    g_strUpdateFile.clear();
 }
 
 QStringList readVersions()
 {
-    QStringList lines;
     QFile file(g_strUpdateFile);
-    if (!file.open(QIODevice::ReadOnly))
-        return lines;
-    QTextStream stream(file.read(BytesOfTwoLines));
+    return file.open(QIODevice::ReadOnly) ? versionLines(file.read(BytesOfTwoLines)) : QStringList();
+}
+
+QStringList versionLines(const QByteArray &text)
+{
+    QStringList lines;
+    QTextStream stream(text);
     while (lines.size() < 2 && !stream.atEnd())
         lines.append(stream.readLine().trimmed());
     return lines;

@@ -8,10 +8,10 @@ namespace update
 {
 
 /// Loads the file from the web folder at `link` to g_strUpdateFile. False where it did not come, or is too
-/// short to hold a version. Blocks as long as the network does; main thread.
+/// short to hold a version. Blocks for as long as VersionsLimits allows; main thread.
 bool fetchVersions(const QString &link);
 
-/// Names the local file of a check that begins, and takes an old one away.
+/// Takes the local file of an earlier check away.
 void beginCheck();
 
 /// Takes the local file away.
@@ -19,6 +19,8 @@ void removeVersions();
 
 /// The first two lines of the local file, trimmed; fewer where it has no more.
 QStringList readVersions();
+/// The same of a text.
+QStringList versionLines(const QByteArray &text);
 
 /// Compares the local file with the installed version, and puts what comes of it into the globals.
 void compareVersions(const QString &installed);

@@ -1,13 +1,16 @@
 #include "update/UpdateFetch.h"
 
 #include "inventory/CommandRunner.h"
-#include "platform/Platform.h"
-#include "update/UpdateLink.h"
 
 #include <QDir>
-#include <QFile>
+#include <QElapsedTimer>
+#include <QFileInfo>
+#include <QMutex>
+#include <QMutexLocker>
 #include <QRegularExpression>
 #include <QUrl>
+
+#include <algorithm>
 
 namespace update
 {
@@ -15,43 +18,66 @@ namespace update
 namespace
 {
 
-QString pathIn(const QString &folderPath, const QString &name)
+constexpr qint32 CancelMs = 2000; ///< for the end of a transfer that took too long
+
+/// The folder of the last fetch; empty where there is none.
+QMutex folderMutex;
+QString currentFolder;
+
+QString folderNow()
 {
-    return folderPath + QLatin1Char('\\') + name;
+    const QMutexLocker lock(&folderMutex);
+    return currentFolder;
 }
 
-/// A file from before must not pass for the one that was asked for.
-bool clearWay(const QString &folderPath, const QString &path)
+QString freshFolder()
 {
-    QDir().mkpath(nativePath(folderPath));
-    const QString native = nativePath(path);
-    return !QFile::exists(native) || QFile::remove(native);
+    removeLeftovers();
+    const QMutexLocker lock(&folderMutex);
+    currentFolder = Platform::current().MakePrivateFolder(QStringLiteral("updatetmp"));
+    return currentFolder;
 }
 
-QString fetchByConsole(const QString &url, const QString &name)
+void fetchByConsole(const QString &url, const QString &path, qint32 milliseconds)
 {
-    const QString path = pathIn(fallbackFolder(), name);
-    if (!clearWay(fallbackFolder(), path))
-        return QString();
     const QString command = consoleCommand(url, path);
+    if (command.isEmpty() || milliseconds <= CancelMs)
+        return;
     Platform &platform = Platform::current();
-    if (!command.isEmpty()) {
-        const QString interpreter = QString::fromLocal8Bit(platform.CommandInterpreter());
-        const QString line = (interpreter.isEmpty() ? QStringLiteral("CMD.EXE") : interpreter) +
-                             QLatin1String(" /c ") + command;
-        platform.CreateProcessAndWait(line.toStdWString(), false);
-    }
-    return nativePath(path);
+    const QString interpreter = QString::fromLocal8Bit(platform.CommandInterpreter());
+    const QString begin =
+        (interpreter.isEmpty() ? QStringLiteral("CMD.EXE") : interpreter) + QLatin1String(" /c ");
+    // The service behind the tool goes on with its job when nobody waits any more.
+    if (!platform.CreateProcessAndWaitFor((begin + command).toStdWString(), milliseconds - CancelMs))
+        platform.CreateProcessAndWaitFor(
+            (begin + QLatin1String("bitsadmin.exe /cancel myDownloadJob")).toStdWString(), CancelMs);
 }
 
 } // namespace
 
-QString fetch(const QString &url, const QString &name)
+DownloadLimits installerLimits(qint64 expectedBytes)
 {
-    const QString path = pathIn(folder(), name);
-    if (clearWay(folder(), path) && Platform::current().URLDownloadToFileW(url, path) == 0)
-        return nativePath(path);
-    return fetchByConsole(url, name);
+    constexpr qint32 Hour = 3600000;
+    return {Hour, 4 * std::max<qint64>(expectedBytes, 10 * 1024 * 1024)};
+}
+
+QString fetch(const QString &url, const QString &name, const DownloadLimits &limits)
+{
+    QElapsedTimer clock;
+    clock.start();
+    const QString folder = freshFolder();
+    if (folder.isEmpty())
+        return QString();
+    const QString path = nativePath(folder + QLatin1Char('\\') + name);
+    const qint32 result = Platform::current().URLDownloadToFileW(url, path, limits);
+    // What a rule or a limit was in the way of is not asked for in another way.
+    if (result != 0 && result != Platform::DownloadRefused)
+        fetchByConsole(url, path, static_cast<qint32>(limits.milliseconds - clock.elapsed()));
+    const QFileInfo file(path);
+    if (file.isFile() && file.size() <= limits.bytes)
+        return path;
+    removeLeftovers();
+    return QString();
 }
 
 QString consoleCommand(const QString &url, const QString &path)
@@ -59,7 +85,7 @@ QString consoleCommand(const QString &url, const QString &path)
     // The interpreter would take these for its own, so that a setting could say what it runs.
     static const QRegularExpression forInterpreter(QStringLiteral("[\\s&|<>^\"']"));
     const QString address = QString::fromLatin1(QUrl(url).toEncoded());
-    if (address.isEmpty() || address.contains(forInterpreter))
+    if (address.isEmpty() || address.contains(forInterpreter) || path.contains(forInterpreter))
         return QString();
     return QLatin1String("bitsadmin.exe /transfer myDownloadJob /download /priority normal ") + address +
            QLatin1Char(' ') + path;
@@ -67,14 +93,18 @@ QString consoleCommand(const QString &url, const QString &path)
 
 void removeLeftovers()
 {
-    QDir(nativePath(folder())).removeRecursively();
-    for (const QString &name : {versionsName(), installerName()})
-        QFile::remove(nativePath(pathIn(fallbackFolder(), name)));
+    const QMutexLocker lock(&folderMutex);
+    if (!currentFolder.isEmpty())
+        QDir(currentFolder).removeRecursively();
+    currentFolder.clear();
 }
 
 qint64 loadedBytes()
 {
-    const auto entries = QDir(nativePath(folder())).entryInfoList(QDir::Files | QDir::Hidden | QDir::System);
+    const QString folder = folderNow();
+    if (folder.isEmpty())
+        return 0;
+    const auto entries = QDir(folder).entryInfoList(QDir::Files | QDir::Hidden | QDir::System);
     qint64 bytes = 0;
     for (const QFileInfo &entry : entries)
         bytes += entry.size();

@@ -1,24 +1,32 @@
 #pragma once
 
+#include "platform/Platform.h"
+
 #include <QString>
 
 /// How the files of an update come to this PC.
 namespace update
 {
 
-/// Loads `url` into the update's folder as `name` and waits for the end: by the system's own download, else
-/// by a transfer tool in a console of its own, for which there is no time limit. Gives the path, as this
-/// machine opens it, at which the file is to be found; nothing lies there where both failed, and the path is
-/// empty where a file from before cannot be taken away. Any thread.
-QString fetch(const QString &url, const QString &name);
+/// What the file with the versions may take.
+constexpr DownloadLimits VersionsLimits{15000, 64 * 1024};
+
+/// What an installer may take: an hour, and four times the bytes that are expected, at least 40 MiB.
+DownloadLimits installerLimits(qint64 expectedBytes);
+
+/// Loads `url` as `name` into a fresh folder that nobody else can enter, and waits for the end: by the
+/// system's own download, else by a transfer tool in a console of its own, for what is left of the time. What
+/// earlier calls brought goes. Gives the path as this machine opens it; empty where the file did not come by
+/// this very call, or went beyond the limits. Any thread.
+QString fetch(const QString &url, const QString &name, const DownloadLimits &limits);
 
 /// The command that the console runs; empty where the address would not reach the tool as one word.
 QString consoleCommand(const QString &url, const QString &path);
 
-/// Takes away what former updates left behind.
+/// Takes away what fetch() brought, with its folder. Any thread.
 void removeLeftovers();
 
-/// Bytes of the files in the update's folder, what is being loaded included.
+/// Bytes of the files in the update's folder, what is being loaded included. Any thread.
 qint64 loadedBytes();
 
 /// "1.50" for 1.5 MiB.

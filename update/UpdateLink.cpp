@@ -3,7 +3,6 @@
 #include "app/state/GlobalApp.h"
 #include "app/state/Languages.h"
 #include "app/state/SettingsStore.h"
-#include "inventory/CommandRunner.h"
 
 namespace update
 {
@@ -38,16 +37,6 @@ QString versionsName()
 QString installerName()
 {
     return brand() + QLatin1String(".exe");
-}
-
-QString folder()
-{
-    return tempFile(QStringLiteral("updatetmp"));
-}
-
-QString fallbackFolder()
-{
-    return QStringLiteral("C:\\updatetmp");
 }
 
 int expectedSize()

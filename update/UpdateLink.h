@@ -19,12 +19,6 @@ QString versionsName();
 QString installerName();
 /// @}
 
-/// \name Folders as the program composes paths
-/// @{
-QString folder();         ///< of this user, for what the system's own download brings
-QString fallbackFolder(); ///< for what the console brings
-/// @}
-
 /// Size of the installer in bytes as the settings tell it, 10 MiB where they do not. Main thread only.
 int expectedSize();
 

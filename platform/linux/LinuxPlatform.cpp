@@ -4,6 +4,7 @@
 #include "platform/IoControl.h"
 #include "platform/JsonSettings.h"
 #include "platform/NativePlatform.h"
+#include "platform/OwnFiles.h"
 #include "platform/linux/LinuxDisks.h"
 #include "platform/linux/LogonEntry.h"
 #include "platform/linux/UserFolders.h"
@@ -19,6 +20,7 @@
 #include <cstddef>
 #include <cstring>
 #include <pwd.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace
@@ -33,9 +35,6 @@ constexpr quint32 SectorsPerTrack = 63;
 
 const QString DiskPrefix = QStringLiteral("\\\\.\\PHYSICALDRIVE");
 const QString VolumePrefix = QStringLiteral("\\\\.\\");
-
-/// Where the program keeps an update that its console loads, behind "C:".
-const QString UpdateFolder = QStringLiteral("/updatetmp");
 
 template<typename Record>
 bool answer(const Record &record, void *out, quint32 outSize, quint32 *returned)
@@ -300,6 +299,23 @@ QString LinuxPlatform::HistoryFolder(const QString &applicationFolder)
     return own;
 }
 
+QString LinuxPlatform::MakePrivateFolder(const QString &name)
+{
+    const QString path = folders::privateTemp() + QLatin1Char('/') + name;
+    // Where somebody else can change the way, not even the removal of an old folder goes where it should.
+    if (!ownfiles::strangerOn(path).isEmpty() || QFileInfo(path).isSymLink())
+        return QString();
+    QDir(path).removeRecursively();
+    return ::mkdir(QFile::encodeName(path).constData(), 0700) == 0 ? path : QString();
+}
+
+std::unique_ptr<QFile> LinuxPlatform::HoldFile(const QString &path)
+{
+    auto file = std::make_unique<QFile>();
+    const bool ours = ownfiles::strangerOn(path).isEmpty();
+    return ours && ownfiles::openRegular(file.get(), path, QIODevice::ReadOnly) ? std::move(file) : nullptr;
+}
+
 QString LinuxPlatform::NativePath(const QString &path) const
 {
     QString native = path;
@@ -309,9 +325,6 @@ QString LinuxPlatform::NativePath(const QString &path) const
                           (native.size() == 2 || native.at(2) == QLatin1Char('/'));
     if (onDriveC)
         native.remove(0, 2);
-    // The one folder that the program makes there stays out of the machine's root.
-    if (onDriveC && (native == UpdateFolder || native.startsWith(UpdateFolder + QLatin1Char('/'))))
-        return folders::privateTemp() + QLatin1String("/drives/C") + native;
     return native.isEmpty() && onDriveC ? QStringLiteral("/") : native;
 }
 
@@ -345,9 +358,10 @@ int LinuxPlatform::LogPixelsX()
     return screen ? qRound(screen->logicalDotsPerInchX()) : 96;
 }
 
-qint32 LinuxPlatform::URLDownloadToFileW(const QString &url, const QString &path)
+qint32 LinuxPlatform::URLDownloadToFileW(const QString &url, const QString &path,
+                                         const DownloadLimits &limits)
 {
-    return httpDownload(url, NativePath(path));
+    return httpDownload(url, NativePath(path), limits);
 }
 
 void LinuxPlatform::Sleep(quint32 milliseconds)

@@ -387,18 +387,9 @@ PcDescription readObject(const QJsonObject &object, const QString &folder, QStri
     return pc;
 }
 
-/// The object of the file; on failure the error names the line.
-std::optional<QJsonObject> parseFile(const QString &path, QString *error)
+/// The object of the text; on failure the error names the line.
+std::optional<QJsonObject> parseText(const QByteArray &bytes, QString *error)
 {
-    const QFileInfo info(path);
-    const bool regular = info.isFile() && !info.isSymLink();
-    if (!regular || !info.isReadable() || info.size() > ownfiles::MostBytes) {
-        *error = QLatin1String(!info.exists() ? "no such file"
-                               : regular      ? "more than 16 MiB"
-                                              : "no regular file");
-        return std::nullopt;
-    }
-    const QByteArray bytes = ownfiles::contents(path);
     QJsonParseError syntax{};
     const QJsonDocument document = QJsonDocument::fromJson(bytes, &syntax);
     if (syntax.error != QJsonParseError::NoError) {
@@ -412,6 +403,19 @@ std::optional<QJsonObject> parseFile(const QString &path, QString *error)
         return std::nullopt;
     }
     return document.object();
+}
+
+/// Why a file cannot be the description; empty if it can.
+QString unfit(const QString &path)
+{
+    const QFileInfo info(path);
+    if (!info.exists() && !info.isSymLink()) {
+        return QStringLiteral("no such file");
+    }
+    if (!info.isFile() || info.isSymLink() || !info.isReadable()) {
+        return QStringLiteral("no regular file that can be read");
+    }
+    return info.size() > ownfiles::MostBytes ? QStringLiteral("more than 16 MiB") : QString();
 }
 
 } // namespace
@@ -436,6 +440,21 @@ const inventory::Volume *PcDescription::volume(QChar letter) const
     return nullptr;
 }
 
+std::optional<PcDescription> parsePc(const QByteArray &json, const QString &folder, QString *error)
+{
+    error->clear();
+    std::optional<PcDescription> pc;
+    if (const std::optional<QJsonObject> object = parseText(json, error)) {
+        pc = readObject(*object, folder, error);
+    }
+    if (error->isEmpty()) {
+        return pc;
+    }
+    static const QRegularExpression control(QStringLiteral("\\p{Cc}"));
+    error->replace(control, QStringLiteral(" ")); // a key may hold anything
+    return std::nullopt;
+}
+
 std::optional<PcDescription> readPc(const QString &folder, QString *error)
 {
     const QString path = QDir(folder).absolutePath();
@@ -444,14 +463,13 @@ std::optional<PcDescription> readPc(const QString &folder, QString *error)
         return std::nullopt;
     }
     const QString file = path + QLatin1String("/pc.json");
-    QString wrong;
     std::optional<PcDescription> pc;
-    if (const std::optional<QJsonObject> object = parseFile(file, &wrong)) {
-        pc = readObject(*object, path, &wrong);
+    *error = unfit(file);
+    if (error->isEmpty()) {
+        pc = parsePc(ownfiles::contents(file), path, error);
     }
-    if (!wrong.isEmpty()) {
-        *error = file + QLatin1String(": ") + wrong;
-        return std::nullopt;
+    if (!error->isEmpty()) {
+        error->prepend(file + QLatin1String(": "));
     }
     return pc;
 }

@@ -75,6 +75,10 @@ struct PcDescription {
     const inventory::Volume *volume(QChar letter) const;
 };
 
+/// Reads a description whose files lie in `folder`, a full path. On failure empty, with one line in `error`
+/// that names the key.
+std::optional<PcDescription> parsePc(const QByteArray &json, const QString &folder, QString *error);
+
 /// Reads `folder`/pc.json. On failure empty, with one line in `error` that names the file and the key.
 std::optional<PcDescription> readPc(const QString &folder, QString *error);
 

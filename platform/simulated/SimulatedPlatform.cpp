@@ -287,6 +287,21 @@ QString SimulatedPlatform::HistoryFolder(const QString &)
     return folder;
 }
 
+QString SimulatedPlatform::MakePrivateFolder(const QString &name)
+{
+    // The whole state is the user's alone.
+    const QString path = GetTempPathW() + name;
+    QDir(path).removeRecursively();
+    return QDir().mkdir(path) ? path : QString();
+}
+
+std::unique_ptr<QFile> SimulatedPlatform::HoldFile(const QString &path)
+{
+    auto file = std::make_unique<QFile>();
+    return ownfiles::openRegular(file.get(), NativePath(path), QIODevice::ReadOnly) ? std::move(file)
+                                                                                    : nullptr;
+}
+
 QString SimulatedPlatform::NativePath(const QString &path) const
 {
     static const QRegularExpression doubled(QStringLiteral("/{2,}"));
@@ -344,9 +359,10 @@ int SimulatedPlatform::LogPixelsX()
     return m_pc.dpi;
 }
 
-qint32 SimulatedPlatform::URLDownloadToFileW(const QString &url, const QString &path)
+qint32 SimulatedPlatform::URLDownloadToFileW(const QString &url, const QString &path,
+                                             const DownloadLimits &limits)
 {
-    return httpDownload(url, NativePath(path));
+    return m_pc.network ? httpDownload(url, NativePath(path), limits, Reach::ThisPc) : DownloadRefused;
 }
 
 void SimulatedPlatform::Sleep(quint32 milliseconds)

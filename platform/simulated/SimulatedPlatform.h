@@ -54,6 +54,8 @@ public:
     QString GetSystemDirectoryW() override;
     QString GetUserNameW() override;
     QString HistoryFolder(const QString &applicationFolder) override;
+    QString MakePrivateFolder(const QString &name) override;
+    std::unique_ptr<QFile> HoldFile(const QString &path) override;
     QString NativePath(const QString &path) const override;
     QByteArray CommandInterpreter() override;
     /// Each described folder is a PC of its own, and with a state folder that was asked for each of these.
@@ -63,7 +65,7 @@ public:
 
     void SetThreadExecutionState(quint32 flags) override;
     int LogPixelsX() override;
-    qint32 URLDownloadToFileW(const QString &url, const QString &path) override;
+    qint32 URLDownloadToFileW(const QString &url, const QString &path, const DownloadLimits &limits) override;
     void Sleep(quint32 milliseconds) override;
 
     DeviceNotifier *deviceNotifier() override;

@@ -1,4 +1,3 @@
-#include "platform/HttpDownload.h"
 #include "platform/simulated/DiskScripts.h"
 #include "platform/simulated/SimulatedPlatform.h"
 #include "platform/tools/SystemTools.h"
@@ -9,6 +8,14 @@
 #include <iterator>
 
 // The tools that a described PC has behind its command interpreter.
+
+namespace
+{
+
+/// The tool has none of its own, but nobody could end it here.
+constexpr DownloadLimits TransferLimits{15000, 64 * 1024 * 1024};
+
+} // namespace
 
 inventory::Machine SimulatedPlatform::machine()
 {
@@ -50,9 +57,9 @@ void SimulatedPlatform::addTools()
     m_interpreter.addTool(QStringLiteral("bitsadmin"), [this](const QStringList &arguments,
                                                               const QByteArray &) {
         const int last = arguments.size() - 1;
-        const bool loaded = last >= 1 &&
-                            arguments.contains(QStringLiteral("/transfer"), Qt::CaseInsensitive) &&
-                            URLDownloadToFileW(arguments.at(last - 1), arguments.at(last)) == 0;
+        const bool loaded =
+            last >= 1 && arguments.contains(QStringLiteral("/transfer"), Qt::CaseInsensitive) &&
+            URLDownloadToFileW(arguments.at(last - 1), arguments.at(last), TransferLimits) == 0;
         return loaded ? QByteArray("Transfer complete.\r\n") : QByteArray("Unable to complete transfer.\r\n");
     });
     // Every command line is recorded; that is all that switching this PC off does.

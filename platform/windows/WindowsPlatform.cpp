@@ -1,8 +1,10 @@
 #include "platform/windows/WindowsPlatform.h"
 
+#include "platform/HttpDownload.h"
 #include "platform/JsonSettings.h"
 #include "platform/NativePlatform.h"
 #include "platform/windows/LogonTaskScheduler.h"
+#include "platform/windows/PrivateFolder.h"
 
 #include <QDesktopServices>
 #include <QDir>
@@ -18,7 +20,6 @@
 
 #include <dbt.h>
 #include <shellapi.h>
-#include <urlmon.h>
 
 namespace
 {
@@ -160,6 +161,36 @@ bool WindowsPlatform::CreateProcessAndWait(const std::wstring &line, bool hidden
     return true;
 }
 
+bool WindowsPlatform::CreateProcessAndWaitFor(const std::wstring &line, qint32 milliseconds)
+{
+    const HANDLE job = ::CreateJobObjectW(nullptr, nullptr);
+    JOBOBJECT_EXTENDED_LIMIT_INFORMATION limits{};
+    limits.BasicLimitInformation.LimitFlags = JOB_OBJECT_LIMIT_KILL_ON_JOB_CLOSE;
+    ::SetInformationJobObject(job, JobObjectExtendedLimitInformation, &limits, sizeof(limits));
+    STARTUPINFOW startup{};
+    startup.cb = sizeof(startup);
+    PROCESS_INFORMATION process{};
+    std::vector<wchar_t> buffer(line.begin(), line.end());
+    buffer.push_back(L'\0');
+    if (!job ||
+        !::CreateProcessW(nullptr, buffer.data(), nullptr, nullptr, FALSE,
+                          CREATE_NEW_CONSOLE | CREATE_SUSPENDED, nullptr, nullptr, &startup, &process)) {
+        ::CloseHandle(job);
+        return false;
+    }
+    // It starts nothing before it is in the job.
+    ::AssignProcessToJobObject(job, process.hProcess);
+    ::ResumeThread(process.hThread);
+    const bool ended =
+        ::WaitForSingleObject(process.hProcess, static_cast<DWORD>(milliseconds)) == WAIT_OBJECT_0;
+    if (!ended)
+        ::TerminateProcess(process.hProcess, 1);
+    ::CloseHandle(job);
+    ::CloseHandle(process.hThread);
+    ::CloseHandle(process.hProcess);
+    return ended;
+}
+
 bool WindowsPlatform::ShellExecuteW(const QString &file, const QString &parameters, const QString &verb,
                                     Show show)
 {
@@ -210,6 +241,16 @@ QString WindowsPlatform::HistoryFolder(const QString &applicationFolder)
                         QLatin1String("/VelmoraHalvane/history");
     QDir().mkpath(own);
     return own;
+}
+
+QString WindowsPlatform::MakePrivateFolder(const QString &name)
+{
+    return windows::makePrivateFolder(name);
+}
+
+std::unique_ptr<QFile> WindowsPlatform::HoldFile(const QString &path)
+{
+    return windows::holdFile(path);
 }
 
 QString WindowsPlatform::NativePath(const QString &path) const
@@ -263,9 +304,11 @@ int WindowsPlatform::LogPixelsX()
     return dots > 0 ? dots : 96;
 }
 
-qint32 WindowsPlatform::URLDownloadToFileW(const QString &url, const QString &path)
+qint32 WindowsPlatform::URLDownloadToFileW(const QString &url, const QString &path,
+                                           const DownloadLimits &limits)
 {
-    return static_cast<qint32>(::URLDownloadToFileW(nullptr, wide(url), wide(NativePath(path)), 0, nullptr));
+    // The system call of this name knows no limits.
+    return httpDownload(url, path, limits);
 }
 
 void WindowsPlatform::Sleep(quint32 milliseconds)

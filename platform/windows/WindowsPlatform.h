@@ -26,6 +26,7 @@ public:
     bool GetDiskFreeSpaceExW(const QString &root, quint64 *totalBytes, quint64 *freeBytes) override;
 
     bool CreateProcessAndWait(const std::wstring &line, bool hidden) override;
+    bool CreateProcessAndWaitFor(const std::wstring &line, qint32 milliseconds) override;
     bool ShellExecuteW(const QString &file, const QString &parameters, const QString &verb,
                        Show show) override;
     bool OpenUrl(const QUrl &url) override;
@@ -34,13 +35,15 @@ public:
     QString GetSystemDirectoryW() override;
     QString GetUserNameW() override;
     QString HistoryFolder(const QString &applicationFolder) override;
+    QString MakePrivateFolder(const QString &name) override;
+    std::unique_ptr<QFile> HoldFile(const QString &path) override;
     QString NativePath(const QString &path) const override;
     QByteArray CommandInterpreter() override;
     QString OperatingSystemName() override;
 
     void SetThreadExecutionState(quint32 flags) override;
     int LogPixelsX() override;
-    qint32 URLDownloadToFileW(const QString &url, const QString &path) override;
+    qint32 URLDownloadToFileW(const QString &url, const QString &path, const DownloadLimits &limits) override;
     void Sleep(quint32 milliseconds) override;
 
     DeviceNotifier *deviceNotifier() override;

@@ -318,12 +318,12 @@ void TestSimulatedPlatform::downloads()
     QFETCH(QByteArray, response);
     QFETCH(bool, succeeds);
     const DescribedFolder folder;
-    const auto pc = folder.open("{}");
+    const auto pc = folder.open(R"({"network": true})");
     const QString file = pc->GetTempPathW() + QStringLiteral("\\page.txt");
     const QString native = pc->NativePath(file);
     {
         const OneAnswer server(response);
-        QCOMPARE(pc->URLDownloadToFileW(server.url(), file) == 0, succeeds);
+        QCOMPARE(pc->URLDownloadToFileW(server.url(), file, {15000, 65536}) == 0, succeeds);
     }
     QCOMPARE(QFileInfo::exists(native), succeeds);
     QFile::remove(native);
@@ -331,7 +331,7 @@ void TestSimulatedPlatform::downloads()
     outputOf(*pc, QStringLiteral("bitsadmin.exe /transfer myDownloadJob /download /priority normal %1 %2")
                       .arg(server.url(), file));
     QCOMPARE(DescribedFolder::contents(native), succeeds ? QByteArray("hello") : QByteArray());
-    QVERIFY(pc->URLDownloadToFileW(QStringLiteral("nonsense"), file) < 0);
+    QVERIFY(pc->URLDownloadToFileW(QStringLiteral("nonsense"), file, {15000, 65536}) < 0);
     QCOMPARE(QDir(pc->GetTempPathW()).entryList(QDir::Files).size(), succeeds ? 2 : 1);
 }
 

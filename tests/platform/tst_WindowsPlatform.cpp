@@ -298,10 +298,10 @@ void tst_WindowsPlatform::downloads()
         QSKIP("no web folder is served");
     Platform &pc = Platform::current();
     const QString target = path(QStringLiteral("got.txt"));
-    QCOMPARE(pc.URLDownloadToFileW(folder + QStringLiteral("page.txt"), target), 0);
+    QCOMPARE(pc.URLDownloadToFileW(folder + QStringLiteral("page.txt"), target, {15000, 65536}), 0);
     QCOMPARE(contentOf(target), QByteArray("11.0.0.9\r\nvelmora-halvane.exe\r\n"));
     QVERIFY(pc.URLDownloadToFileW(QStringLiteral("http://127.0.0.1:9/none.txt"),
-                                  path(QStringLiteral("none.txt"))) != 0);
+                                  path(QStringLiteral("none.txt")), {15000, 65536}) != 0);
     QVERIFY(!QFile::exists(path(QStringLiteral("none.txt"))));
 }
 

@@ -88,11 +88,12 @@ void DescribedPcsTest::strangeDescription_data()
 {
     QTest::addColumn<QStringList>("command"); // makes pc.json
     QTest::addColumn<QString>("error");
-    QTest::newRow("pipe") << QStringList{"mkfifo", "pc.json"} << "<pc>/pc.json: no regular file";
+    QTest::newRow("pipe") << QStringList{"mkfifo", "pc.json"}
+                          << "<pc>/pc.json: no regular file that can be read";
     QTest::newRow("without an end") << QStringList{"truncate", "-s", "1G", "pc.json"}
                                     << "<pc>/pc.json: more than 16 MiB";
     QTest::newRow("link") << QStringList{"ln", "-s", "/etc/passwd", "pc.json"}
-                          << "<pc>/pc.json: no regular file";
+                          << "<pc>/pc.json: no regular file that can be read";
 }
 
 void DescribedPcsTest::strangeDescription()

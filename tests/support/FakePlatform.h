@@ -78,7 +78,7 @@ public:
     QString systemFolder = QStringLiteral("C:\\Windows\\system32");
     QString userName = QStringLiteral("tester");
     int dotsPerInch = 96;
-    std::function<qint32(const QString &url, const QString &path)> onDownload;
+    std::function<qint32(const QString &url, const QString &path, const DownloadLimits &limits)> onDownload;
 
     /// What was asked of the machine, in order.
     QStringList commands() const
@@ -238,15 +238,26 @@ public:
     QString GetSystemDirectoryW() override { return systemFolder; }
     QString GetUserNameW() override { return userName; }
     QString HistoryFolder(const QString &) override { return m_folder.path(); }
+    QString MakePrivateFolder(const QString &name) override
+    {
+        const QString path = m_folder.filePath(name);
+        QDir(path).removeRecursively();
+        return QDir().mkdir(path) ? path : QString();
+    }
+    std::unique_ptr<QFile> HoldFile(const QString &path) override
+    {
+        auto file = std::make_unique<QFile>(path);
+        return file->open(QIODevice::ReadOnly) ? std::move(file) : nullptr;
+    }
     QString NativePath(const QString &path) const override { return toNative(path); }
     QByteArray CommandInterpreter() override { return interpreter; }
     QString OperatingSystemName() override { return QStringLiteral("Test system"); }
 
     void SetThreadExecutionState(quint32 flags) override { executionStates << flags; }
     int LogPixelsX() override { return dotsPerInch; }
-    qint32 URLDownloadToFileW(const QString &url, const QString &path) override
+    qint32 URLDownloadToFileW(const QString &url, const QString &path, const DownloadLimits &limits) override
     {
-        return onDownload ? onDownload(url, path) : -1;
+        return onDownload ? onDownload(url, path, limits) : -1;
     }
     void Sleep(quint32 milliseconds) override { slept += milliseconds; }
     DeviceNotifier *deviceNotifier() override { return &m_notifier; }

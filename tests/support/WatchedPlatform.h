@@ -104,14 +104,16 @@ public:
     QString GetSystemDirectoryW() override { return m_inner->GetSystemDirectoryW(); }
     QString GetUserNameW() override { return m_inner->GetUserNameW(); }
     QString HistoryFolder(const QString &folder) override { return m_inner->HistoryFolder(folder); }
+    QString MakePrivateFolder(const QString &name) override { return m_inner->MakePrivateFolder(name); }
+    std::unique_ptr<QFile> HoldFile(const QString &path) override { return m_inner->HoldFile(path); }
     QString NativePath(const QString &path) const override { return m_inner->NativePath(path); }
     QByteArray CommandInterpreter() override { return m_inner->CommandInterpreter(); }
     QString OperatingSystemName() override { return m_inner->OperatingSystemName(); }
     void SetThreadExecutionState(quint32 flags) override { m_inner->SetThreadExecutionState(flags); }
     int LogPixelsX() override { return m_inner->LogPixelsX(); }
-    qint32 URLDownloadToFileW(const QString &url, const QString &path) override
+    qint32 URLDownloadToFileW(const QString &url, const QString &path, const DownloadLimits &limits) override
     {
-        return m_inner->URLDownloadToFileW(url, path);
+        return m_inner->URLDownloadToFileW(url, path, limits);
     }
     DeviceNotifier *deviceNotifier() override { return m_inner->deviceNotifier(); }
     std::optional<DeviceChange> decodeDeviceMessage(const QByteArray &type, void *message) override

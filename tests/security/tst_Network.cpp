@@ -1,0 +1,192 @@
+#include "app/state/GlobalApp.h"
+#include "app/state/Languages.h"
+#include "app/state/SettingsStore.h"
+#include "platform/HttpDownload.h"
+#include "tests/platform/DescribedFolder.h"
+#include "tests/security/AttackServer.h"
+#include "tests/support/FakePlatform.h"
+#include "update/HelpLinks.h"
+#include "update/QDownloadThread.h"
+#include "update/UpdateCheck.h"
+#include "update/UpdateFetch.h"
+#include "update/UpdateGlobals.h"
+
+#include <QtTest>
+
+/// What a network, and a setting that names a place in it, could do to the program.
+class NetworkTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void hostileServers_data();
+    void hostileServers();
+    void strangeAddresses_data();
+    void strangeAddresses();
+    void checkHasItsLimits();
+    void plantedInstaller();
+    void consoleThatLoadsTooMuch();
+    void linksThatAreNoPages_data();
+    void linksThatAreNoPages();
+    void supportIsAnAddressOnly();
+    void describedPcAsksNobody();
+
+private:
+    QTemporaryDir m_folder;
+    QString target() const { return m_folder.filePath(QStringLiteral("page")); }
+};
+
+void NetworkTest::hostileServers_data()
+{
+    QTest::addColumn<QByteArray>("head");
+    QTest::addColumn<QByteArray>("piece");
+    QTest::addColumn<int>("interval");
+    const QByteArray ok("HTTP/1.1 200 OK\r\n");
+    QTest::newRow("one byte at a time") << ok + "\r\n" << QByteArray("1") << 100;
+    QTest::newRow("a head without an end") << ok + "X: " << QByteArray("1") << 100;
+    QTest::newRow("a flood") << ok + "\r\n" << QByteArray(1 << 20, 'x') << 0;
+    QTest::newRow("a long one is announced") << ok + "Content-Length: 65537\r\n\r\n"
+                                             << QByteArray("1") << 100;
+    QTest::newRow("on to a file") << QByteArray("HTTP/1.1 302 Found\r\nLocation: file:///etc/passwd\r\n\r\n")
+                                  << QByteArray() << 0;
+    QTest::newRow("on to plain http elsewhere")
+        << QByteArray("HTTP/1.1 302 Found\r\nLocation: http://192.0.2.1/\r\n\r\n") << QByteArray() << 0;
+}
+
+void NetworkTest::hostileServers()
+{
+    QFETCH(QByteArray, head);
+    QFETCH(QByteArray, piece);
+    QFETCH(int, interval);
+    const AttackServer server(head, piece, interval);
+    QElapsedTimer clock;
+    clock.start();
+    QVERIFY(httpDownload(server.link(), target(), {1500, 65536}) != 0);
+    QVERIFY2(clock.elapsed() < 3000, qPrintable(QString::number(clock.elapsed())));
+    // What the system's own buffers take is not counted by us.
+    QVERIFY2(server.sent < 16 * 1024 * 1024, qPrintable(QString::number(server.sent)));
+    QCOMPARE(QDir(m_folder.path()).entryList(QDir::Files), QStringList());
+}
+
+void NetworkTest::strangeAddresses_data()
+{
+    QTest::addColumn<QString>("url");
+    for (const char *url : {"file:///etc/passwd", "ftp://127.0.0.1/a", "data:text/plain,12.0.0.0", "qrc:/a",
+                            "\\\\server\\share\\a.exe", "http://update.example/a",
+                            "http://127.0.0.1@update.example/a", "http://localhost.update.example/a"})
+        QTest::newRow(url) << QString::fromLatin1(url);
+}
+
+void NetworkTest::strangeAddresses()
+{
+    QFETCH(QString, url);
+    QCOMPARE(httpDownload(url, target(), {1500, 65536}), Platform::DownloadRefused);
+}
+
+void NetworkTest::checkHasItsLimits()
+{
+    FakePlatform *pc = FakePlatform::install();
+    qint64 limit = 0;
+    pc->onDownload = [&](const QString &, const QString &, const DownloadLimits &limits) {
+        limit = limits.bytes;
+        return limits.milliseconds == 15000 ? Platform::DownloadRefused : 0;
+    };
+    QVERIFY(!update::fetchVersions(QStringLiteral("https://update.example/")));
+    QCOMPARE(limit, 65536);
+    // What was refused is not asked for in another way.
+    QCOMPARE(pc->commands(), QStringList());
+    QCOMPARE(update::installerLimits(1000).bytes, 40 * 1024 * 1024);
+    QCOMPARE(update::installerLimits(20 * 1024 * 1024).bytes, 80 * 1024 * 1024);
+}
+
+void NetworkTest::plantedInstaller()
+{
+    FakePlatform *pc = FakePlatform::install();
+    const QTemporaryDir here;
+    QVERIFY(QDir::setCurrent(here.path())); // where the fake machine has its drive C:
+    // Whoever waits for the console plants a file where an update has been looked for, and the console fails.
+    pc->onCommand = [](const QString &) {
+        QFile planted(QStringLiteral("C:/updatetmp/VelmoraHalvane.exe"));
+        return QDir().mkpath(QStringLiteral("C:/updatetmp")) && planted.open(QIODevice::WriteOnly) &&
+               planted.write("evil") == 4;
+    };
+    QDownloadThread thread;
+    thread.m_strUrl = QStringLiteral("https://update.example/VelmoraHalvane.exe");
+    thread.m_limits = update::installerLimits(0);
+    QSignalSpy started(&thread, &QDownloadThread::OnDownloadFinish);
+    QSignalSpy failed(&thread, &QDownloadThread::OnDownloadFailed);
+    thread.start();
+    QVERIFY(thread.wait(10000));
+    QCOMPARE(pc->commands().size(), 1);
+    QTRY_COMPARE(failed.size(), 1);
+    QCOMPARE(started.size(), 0);
+    QDir::setCurrent(QDir::tempPath());
+}
+
+void NetworkTest::consoleThatLoadsTooMuch()
+{
+    FakePlatform *pc = FakePlatform::install();
+    pc->onCommand = [](const QString &line) {
+        QFile file(line.section(QLatin1Char(' '), -1));
+        return file.open(QIODevice::WriteOnly) && file.resize(65537);
+    };
+    QVERIFY(!update::fetchVersions(QStringLiteral("https://update.example/")));
+    QCOMPARE(pc->commands().size(), 1);
+    QCOMPARE(g_strUpdateFile, QString());
+}
+
+void NetworkTest::linksThatAreNoPages_data()
+{
+    QTest::addColumn<QString>("link");
+    for (const char *link :
+         {"file:///usr/bin/id", "/usr/bin/id", "C:\\Windows\\notepad.exe", "ftp://x.example/",
+          "\\\\server\\share\\a.exe", "javascript:alert(1)", "search-ms:query=x", "https:"})
+        QTest::newRow(link) << QString::fromLatin1(link);
+}
+
+void NetworkTest::linksThatAreNoPages()
+{
+    QFETCH(QString, link);
+    FakePlatform *pc = FakePlatform::install();
+    QVERIFY(!links::openPage(link));
+    languages::setFlag(5); // whose agreement and help are links of the settings
+    g_App.m_bStandalone = false;
+    g_App.m_bHelpOnline = true;
+    SettingsStore().writeText(QStringLiteral("JA/EulaLink_JA"), link);
+    SettingsStore().writeText(QStringLiteral("JA/HelpLink_JA"), link);
+    links::openAgreement();
+    links::openHelp(links::Topic::DiskStatus);
+    languages::setFlag(0);
+    QCOMPARE(pc->executed, QStringList());
+}
+
+void NetworkTest::supportIsAnAddressOnly()
+{
+    FakePlatform *pc = FakePlatform::install();
+    languages::setFlag(0);
+    SettingsStore().writeText(QStringLiteral("EN/SupportLink"),
+                              QStringLiteral("a@b.example?attach=/etc/x\" %1"));
+    links::openSupport();
+    QCOMPARE(pc->executed, QStringList{"Open mailto:a@b.example%3Fattach%3D%2Fetc%2Fx%22%20%251 "});
+}
+
+void NetworkTest::describedPcAsksNobody()
+{
+    AttackServer server("HTTP/1.1 200 OK\r\nContent-Length: 8\r\n\r\n12.0.0.0", QByteArray(), 0);
+    const DescribedFolder folder;
+    const auto silent = folder.open("{}");
+    QCOMPARE(silent->URLDownloadToFileW(server.link(), target(), {1500, 65536}), Platform::DownloadRefused);
+    outputOf(*silent, QStringLiteral("bitsadmin.exe /transfer j %1 %2").arg(server.link(), target()));
+    QCOMPARE(server.requests.load(), 0);
+    const auto open = folder.open(R"({"network": true})");
+    QCOMPARE(open->URLDownloadToFileW(QStringLiteral("https://192.0.2.1/"), target(), {1500, 65536}),
+             Platform::DownloadRefused);
+    // A proxy would be another PC.
+    qputenv("http_proxy", "http://192.0.2.1:3128");
+    QCOMPARE(open->URLDownloadToFileW(server.link(), target(), {1500, 65536}), 0);
+    qunsetenv("http_proxy");
+    QCOMPARE(DescribedFolder::contents(target()), QByteArray("12.0.0.0"));
+}
+
+QTEST_GUILESS_MAIN(NetworkTest)
+#include "tst_Network.moc"
