@@ -40,7 +40,7 @@ WmicDiskRecord *makeDiskRecord(const wmic::DiskDriveLine &line)
     auto *record = new WmicDiskRecord;
     record->nIndex = line.index;
     record->szInterface.assign(line.interfaceText);
-    record->nDiskId = line.index + PhysicalDriveBase;
+    record->nDiskId = line.index == wmic::Nobody ? wmic::Nobody : line.index + PhysicalDriveBase;
     if (!line.model.isEmpty())
         record->szModel.assign(line.model);
     record->szStatus.assign(line.status);
@@ -102,6 +102,8 @@ void LoadDiskDrives(const IdentityProbe &probe)
             const wmic::DiskDriveLine line = wmic::parseDiskDrive(text);
             WmicDiskRecord *record = makeDiskRecord(line);
             appendToList(g_pWmicDiskListHead, g_pWmicDiskListTail, record);
+            if (line.index == wmic::Nobody)
+                return;
             probe(static_cast<int>(line.index), line.interfaceText);
             record->szSmartSerial.assign(g_strSerialNumber);
             record->szSmartFirmware.assign(g_strFirmware);
@@ -153,7 +155,8 @@ DiskDriveLine parseDiskDrive(const QString &line)
     const QStringList fields = fieldsOf(line);
     const int count = fields.size();
     DiskDriveLine result;
-    result.index = static_cast<quint32>(fields.value(0).toInt());
+    if (count > 0)
+        result.index = static_cast<quint32>(fields.at(0).toInt());
     if (count >= 3)
         result.status = fields.at(count - 1);
     for (int i = 2; i <= count - 3; ++i)

@@ -11,8 +11,9 @@
 /// g_strModelName. Handed in from above, as the reports are no business of this floor.
 using IdentityProbe = std::function<void(int diskIndex, const QString &interfaceText)>;
 
-/// Rebuilds the list at g_pWmicDiskListHead from the system's disk table, asking `probe` for each line. Where
-/// the table cannot be had the old list stays. Device-load threads only.
+/// Rebuilds the list at g_pWmicDiskListHead from the system's disk table, asking `probe` for each disk. A
+/// blank line makes a record that is no disk's. Where the table cannot be had the old list stays. Device-load
+/// threads only.
 void LoadDiskDrives(const IdentityProbe &probe);
 
 /// Rebuilds the list at g_pLogicalDiskListHead from the system's volume table. Where the table cannot be had
@@ -27,8 +28,11 @@ QString GetSystemDiskIndex();
 namespace wmic
 {
 
+/// The disk of a blank line: none has that number.
+constexpr quint32 Nobody = 0xFFFFFFFFu;
+
 struct DiskDriveLine {
-    quint32 index = 0;
+    quint32 index = Nobody;
     QString interfaceText;
     /// Without its last word and the four characters before that: "NW500 ATA Device" gives "NW500 ".
     QString model;

@@ -133,7 +133,7 @@ void WmicInventoryTest::parsesDiskDriveLine_data()
     row("no model", "4  USB  OK", 4, "USB", "", "OK");
     row("two fields", "4  USB", 4, "USB", "", "");
     row("one field", "4", 4, "", "", "");
-    row("blank", "   ", 0, "", "", "");
+    row("blank", "   ", wmic::Nobody, "", "", "");
     row("no number", "x  IDE  NW500  OK", 0, "IDE", "", "OK");
 }
 
@@ -201,7 +201,7 @@ void WmicInventoryTest::loadsDiskDrives_data()
 {
     QTest::addColumn<QByteArray>("table");
     QTest::addColumn<QStringList>("records");
-    const QString blank = QStringLiteral("0|||");
+    const QString blank = QStringLiteral("4294967295|||");
     QTest::newRow("ATA Device") << sample(QStringLiteral("diskdrive-ata-device-suffix.txt"))
                                 << QStringList({QStringLiteral("0|IDE|Hitachi HDS721010CLA332 |OK"),
                                                 QStringLiteral("1|IDE|SAMSUNG SSD 830 Series |OK"), blank});
@@ -228,7 +228,9 @@ void WmicInventoryTest::loadsDiskDrives()
     LoadDiskDrives(ignoreIdentity);
     QTEST(diskRecords(), "records");
     QVERIFY(!QFile::exists(tempFile(QStringLiteral("DiskInfo.txt"))));
-    QCOMPARE(g_pWmicDiskListTail->nDiskId, g_pWmicDiskListTail->nIndex + 128);
+    // No disk is the one of a blank line.
+    const WmicDiskRecord *last = g_pWmicDiskListTail;
+    QCOMPARE(last->nDiskId, last->nIndex == wmic::Nobody ? wmic::Nobody : last->nIndex + 128);
 }
 
 void WmicInventoryTest::joinsIdentity()
@@ -242,7 +244,7 @@ void WmicInventoryTest::joinsIdentity()
         g_strModelName = QStringLiteral("M%1").arg(asked.size());
     });
     const QStringList expected =
-        QStringLiteral("0SCSI 1USB 2USB 3USB 4USB 5SCSI 6SCSI 0").split(QLatin1Char(' '));
+        QStringLiteral("0SCSI 1USB 2USB 3USB 4USB 5SCSI 6SCSI").split(QLatin1Char(' '));
     QCOMPARE(asked, expected);
     const WmicDiskRecord *fifth = findWmicDisk(132);
     QVERIFY(fifth);
@@ -250,8 +252,6 @@ void WmicInventoryTest::joinsIdentity()
     QCOMPARE(fifth->szSmartSerial.text(), QStringLiteral("S5"));
     QCOMPARE(fifth->szSmartFirmware.text(), QStringLiteral("F5"));
     QCOMPARE(fifth->szSmartModel.text(), QStringLiteral("M5"));
-    // The record of the blank line comes last, so that the first disk is still found first.
-    QCOMPARE(findWmicDisk(128)->szSmartSerial.text(), QStringLiteral("S1"));
 }
 
 void WmicInventoryTest::keepsOrEmptiesOldDisks()
