@@ -3,6 +3,9 @@
 #include "platform/IoControl.h"
 #include "platform/Platform.h"
 
+#include <cstddef>
+#include <cstring>
+
 namespace
 {
 
@@ -34,8 +37,19 @@ std::optional<VolumeExtents> readVolumeExtents(QChar letter)
         return std::nullopt;
     const io::DiskExtent &first = buffer.extents.extents[0];
     const auto start = static_cast<quint64>(first.startingOffset);
-    return VolumeExtents{buffer.extents.numberOfDiskExtents, first.diskNumber, start / SectorSize,
-                         (start + static_cast<quint64>(first.extentLength)) / SectorSize};
+    VolumeExtents found{buffer.extents.numberOfDiskExtents,
+                        first.diskNumber,
+                        start / SectorSize,
+                        (start + static_cast<quint64>(first.extentLength)) / SectorSize,
+                        {}};
+    std::size_t at = offsetof(io::VolumeDiskExtents, extents);
+    for (quint32 i = 0; i < found.count && at + sizeof(io::DiskExtent) <= ExtentBytes; ++i) {
+        io::DiskExtent extent;
+        std::memcpy(&extent, buffer.bytes + at, sizeof extent);
+        found.disks.append(static_cast<int>(extent.diskNumber));
+        at += sizeof extent;
+    }
+    return found;
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include <QChar>
 #include <QHash>
+#include <QVector>
 
 #include <optional>
 
@@ -11,6 +12,7 @@ struct VolumeExtents {
     quint32 diskNumber = 0;
     quint64 startSector = 0; ///< of 512 bytes
     quint64 endSector = 0;   ///< behind the last sector
+    QVector<int> disks;      ///< numbers of the disks of all extents
 };
 
 /// The extents of the volumes. Each letter is opened once, when it is first asked for; a network share, which

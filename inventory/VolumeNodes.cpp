@@ -172,6 +172,7 @@ void tieVolumeToDisk(DiskNode *node, KnownExtents *known)
     const std::optional<VolumeExtents> extents = known->of(QChar(u'A' + volume.nLetter));
     if (!extents)
         return;
+    volume.disks = extents->disks;
     volume.bSpanned = extents->count > 1 ? 1 : 0;
     if (volume.bSpanned) {
         volume.nStartSector = 0;

@@ -3,6 +3,7 @@
 #include "app/state/FixedText.h"
 
 #include <QString>
+#include <QVector>
 
 #include <cstdint>
 #include <memory>
@@ -92,6 +93,7 @@ struct LogicalDetails {
     std::uint8_t nFsCode = 0;
     std::uint8_t nFsClass = 0;
     QString szCapacity;
+    QVector<int> disks; ///< numbers of the disks that its extents name; empty where they are not known
 };
 
 /// One node for each physical disk (fixed, then removable), then one for each volume and Linux partition.

@@ -76,15 +76,33 @@ QString volumeName(const LogicalDiskRecord &volume, const QString &protectedMark
     return volume.szBitLocker.text() == QLatin1String("YES") ? name + protectedMark : name;
 }
 
-QString healthWord(std::int32_t diskIndex, const WmicDiskRecord *head)
+QVector<int> disksOfVolume(const QString &letter, const DiskNode *head)
 {
-    QString status;
-    for (const WmicDiskRecord *record = head; record; record = record->pNext) {
-        if (record->nIndex == static_cast<std::uint32_t>(diskIndex))
-            status = record->szStatus.text();
+    QVector<int> listing; // of a volume that is not fixed the disk alone knows
+    for (; head; head = head->pNext) {
+        if (head->pDetails && driveLetters(head->pDetails->szDrives).contains(letter))
+            listing = {head->nId - PhysicalDriveBase};
+        const bool isVolume = head->nKind == VolumeNode || head->nKind == RawVolume;
+        if (isVolume && head->pLogical && !head->pLogical->disks.isEmpty() &&
+            letter.startsWith(QChar(u'A' + head->pLogical->nLetter)))
+            return head->pLogical->disks;
     }
-    return status == QLatin1String("OK") ? translated(QT_TRANSLATE_NOOP("MainWindow", "Healthy"))
-                                         : translated(QT_TRANSLATE_NOOP("MainWindow", "Not Healthy"));
+    return listing;
+}
+
+QString healthWord(const QVector<int> &disks, const WmicDiskRecord *head)
+{
+    const auto isSound = [head](int disk) {
+        QString status;
+        for (const WmicDiskRecord *record = head; record; record = record->pNext) {
+            if (record->nIndex == static_cast<std::uint32_t>(disk))
+                status = record->szStatus.text();
+        }
+        return status == QLatin1String("OK");
+    };
+    const bool sound = !disks.isEmpty() && std::all_of(disks.cbegin(), disks.cend(), isSound);
+    return sound ? translated(QT_TRANSLATE_NOOP("MainWindow", "Healthy"))
+                 : translated(QT_TRANSLATE_NOOP("MainWindow", "Not Healthy"));
 }
 
 qint64 freePercent(qint64 freeBytes, qint64 sizeBytes)

@@ -5,6 +5,7 @@
 #include <QList>
 #include <QString>
 #include <QStringList>
+#include <QVector>
 
 /// What the Disk Partition screen says of a disk's volumes.
 namespace partitiontexts
@@ -20,9 +21,13 @@ QList<qint64> volumeSizes(const QStringList &letters, const LogicalDiskRecord *h
 /// "C: (NTFS)", with `protectedMark` behind it where the volume is encrypted.
 QString volumeName(const LogicalDiskRecord &volume, const QString &protectedMark);
 
-/// "Healthy" where the system reports the volume's disk as "OK". Of several lines for one disk the last one
-/// counts; without any it is "Not Healthy".
-QString healthWord(std::int32_t diskIndex, const WmicDiskRecord *head);
+/// The numbers of the disks that a volume's own extents name, by its letter with the colon; empty where the
+/// list does not know them.
+QVector<int> disksOfVolume(const QString &letter, const DiskNode *head);
+
+/// "Healthy" where the system reports each of a volume's disks as "OK". Of several lines for one disk the
+/// last one counts; without any it is "Not Healthy".
+QString healthWord(const QVector<int> &disks, const WmicDiskRecord *head);
 
 /// The free part as a whole percentage, cut off; 0 for a volume without a size.
 qint64 freePercent(qint64 freeBytes, qint64 sizeBytes);

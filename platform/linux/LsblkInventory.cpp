@@ -328,9 +328,26 @@ QVector<FoundPartition> findPartitions(const QVector<QJsonObject> &disks, const 
     return found;
 }
 
-/// The system partition is the one that the machine starts from, else the one that "/" lies on.
-void addPartitions(const QVector<FoundPartition> &found, const Extent &systemExtent, Inventory &result)
+/// The place of the first volume that lies on a partition; behind all volumes where none does.
+int volumeOn(const FoundPartition &partition, const QVector<Volume> &volumes)
 {
+    const auto lies = [&partition](const Volume &volume) {
+        return std::any_of(volume.extents.cbegin(), volume.extents.cend(),
+                           [&partition](const Extent &extent) {
+                               return extent.disk == partition.disk && extent.offset == partition.offset;
+                           });
+    };
+    return static_cast<int>(std::find_if(volumes.cbegin(), volumes.cend(), lies) - volumes.cbegin());
+}
+
+/// The system partition is the one that the machine starts from, else the one that "/" lies on. The order is
+/// that of the volumes, as some go by the lines of both tables side by side; what bears none comes last.
+void addPartitions(QVector<FoundPartition> found, const Extent &systemExtent, Inventory &result)
+{
+    const QVector<Volume> &volumes = result.machine.volumes;
+    std::stable_sort(found.begin(), found.end(), [&volumes](const auto &left, const auto &right) {
+        return volumeOn(left, volumes) < volumeOn(right, volumes);
+    });
     const bool hasEfi = std::any_of(found.cbegin(), found.cend(),
                                     [](const FoundPartition &item) { return isEfiSystem(item.device); });
     for (const FoundPartition &item : found) {

@@ -106,13 +106,15 @@ void tst_PartitionTexts::names()
 
 void tst_PartitionTexts::health_data()
 {
-    QTest::addColumn<int>("index");
+    QTest::addColumn<QVector<int>>("disks");
     QTest::addColumn<QString>("word");
-    QTest::newRow("OK") << 1 << "Healthy";
-    QTest::newRow("another word") << 2 << "Not Healthy";
-    QTest::newRow("the last line counts") << 0 << "Not Healthy";
-    QTest::newRow("no line") << 3 << "Not Healthy";
-    QTest::newRow("no such disk") << -1 << "Not Healthy";
+    QTest::newRow("OK") << QVector<int>{1} << "Healthy";
+    QTest::newRow("another word") << QVector<int>{2} << "Not Healthy";
+    QTest::newRow("the last line counts") << QVector<int>{0} << "Not Healthy";
+    QTest::newRow("no line") << QVector<int>{3} << "Not Healthy";
+    QTest::newRow("no such disk") << QVector<int>{-1} << "Not Healthy";
+    QTest::newRow("two sound ones") << QVector<int>{1, 4} << "Healthy";
+    QTest::newRow("one of two") << QVector<int>{1, 2} << "Not Healthy";
 }
 
 void tst_PartitionTexts::health()
@@ -121,14 +123,14 @@ void tst_PartitionTexts::health()
     const struct {
         unsigned index;
         const char *status;
-    } rows[] = {{0, "OK"}, {1, "Error"}, {1, "OK"}, {2, "Pred Fail"}, {0, ""}};
+    } rows[] = {{0, "OK"}, {1, "Error"}, {1, "OK"}, {2, "Pred Fail"}, {0, ""}, {4, "OK"}};
     for (const auto &row : rows) {
         WmicDiskRecord &record = list.add();
         record.nIndex = row.index;
         record.szStatus.assign(QLatin1String(row.status));
     }
-    QFETCH(int, index);
-    QTEST(partitiontexts::healthWord(index, list.head()), "word");
+    QFETCH(QVector<int>, disks);
+    QTEST(partitiontexts::healthWord(disks, list.head()), "word");
 }
 
 void tst_PartitionTexts::percentage_data()
