@@ -30,6 +30,16 @@ QByteArray outputOf(const QString &tool, const QStringList &arguments)
     return process.readAllStandardOutput();
 }
 
+/// The label as the volume bears it. The tool's other forms, and lsblk without udev, write letters beyond
+/// ASCII as codes.
+QString labelOf(const QString &node)
+{
+    const QByteArray told = outputOf(QStringLiteral("blkid"),
+                                     {QStringLiteral("-p"), QStringLiteral("-o"), QStringLiteral("value"),
+                                      QStringLiteral("-s"), QStringLiteral("LABEL"), node});
+    return QString::fromUtf8(told).remove(QLatin1Char('\n'));
+}
+
 /// lsblk knows file systems from udev alone. Where none runs, the volume itself is asked, and where it may
 /// not be read, the mount.
 void identifyFileSystem(inventory::Volume &volume, const QString &node, const QStorageInfo &storage)
@@ -46,8 +56,6 @@ void identifyFileSystem(inventory::Volume &volume, const QString &node, const QS
     const QString type =
         found.value(QStringLiteral("TYPE"), QString::fromLocal8Bit(storage.fileSystemType()));
     volume.fileSystem = lsblk::fileSystemName(type, found.value(QStringLiteral("VERSION")));
-    if (volume.label.isEmpty())
-        volume.label = found.value(QStringLiteral("LABEL"));
 }
 
 } // namespace
@@ -80,8 +88,14 @@ lsblk::Inventory LinuxPlatform::readPc()
         const QStorageInfo storage(volume.mountPoint);
         volume.size = static_cast<quint64>(std::max<qint64>(0, storage.bytesTotal()));
         volume.free = static_cast<quint64>(std::max<qint64>(0, storage.bytesFree()));
-        if (volume.fileSystem.isEmpty())
-            identifyFileSystem(volume, read.volumeNodes.value(volume.letter), storage);
+        const QString node = read.volumeNodes.value(volume.letter);
+        const bool unknown = volume.fileSystem.isEmpty();
+        if (unknown)
+            identifyFileSystem(volume, node, storage);
+        if (unknown || volume.label.contains(QLatin1String("\\x"))) {
+            if (const QString label = labelOf(node); !label.isEmpty())
+                volume.label = label;
+        }
     }
     for (inventory::Disk &disk : read.machine.disks) {
         const auto device = RawDevice::open(disk.node, false);

@@ -164,7 +164,7 @@ bool tst_LinuxVolumes::makeVolumes()
                     {QStringLiteral("-q"), QStringLiteral("-t"), QLatin1String(kind), QStringLiteral("-L"),
                      QLatin1String(label), node});
     };
-    return m_parted->showPartitions() && format("ext4", "First one", m_parted->partition(1)) &&
+    return m_parted->showPartitions() && format("ext4", "Größe 1", m_parted->partition(1)) &&
            format("ext2", "Second", m_parted->partition(2)) && format("ext4", "Whole", m_whole->node());
 }
 
