@@ -126,6 +126,9 @@ void tst_DiskStatusRead::diskStatus()
     QCoreApplication::sendEvent(child<QWidget>("m_pDiskStatus"), &change);
     QTEST(text("ResultLabel"), "result");
     QTEST(text("DriveVerdictValue"), "verdict");
+    m_pWindow->OnShowSettings();
+    m_pWindow->OnSetSmartSettings();
+    QTEST(text("tempValueLbl"), "temperature");
 }
 
 void tst_DiskStatusRead::nothingToRate()

@@ -41,8 +41,9 @@ void MainWindow::OnShowSettings()
 void MainWindow::OnSetSmartSettings()
 {
     m_pSettings->SaveToStore();
-    g_strTemperatureText = loadTemperatureText(GetDiskTemperature(), SettingsStore().text(key::TempValue));
-    m_pDiskStatusPage->tempValueLbl->setText(g_strTemperatureText);
+    const int celsius = GetDiskTemperature();
+    g_strTemperatureText = loadTemperatureText(celsius, SettingsStore().text(key::TempValue));
+    m_pDiskStatusPage->tempValueLbl->setText(celsius < 1 ? tr("Not Supported") : g_strTemperatureText);
     const bool tray = m_pSettings->TrayChkBox->isChecked();
     if (tray) {
         Platform::current().CreateLogonTask(companionTask());
