@@ -13,12 +13,17 @@
 namespace
 {
 
-constexpr int Left = Qt::AlignLeft;
 constexpr int Centred = Qt::AlignCenter;
 constexpr int RegularWeight = QFont::Normal;
 constexpr int BoldWeight = QFont::Bold;
 constexpr int BodyPoints = 8;
 constexpr int RowStep = 250;
+constexpr int FootRuleY = 13150;
+constexpr int ColumnGap = 60; ///< between a text that is too long and what stands right of it
+/// The later pages bear the table alone.
+constexpr int LaterHeadingY = 1500;
+constexpr int LaterTableY = 1800;
+constexpr int LaterRowY = 2050;
 constexpr int ImageDensity = 4; ///< the images for print are that many times their design size
 
 enum class Ink { Black, Red, Green };
@@ -33,17 +38,15 @@ struct Field {
     int y;
     const char *label;
     Value (*value)(const SmartReport &report);
-    int height = 300;
 };
 
 struct Heading {
-    QRect place;
+    int y;
     const char *text;
 };
 
 struct Column {
     int x;
-    int width;
     const char *text;
 };
 
@@ -121,9 +124,9 @@ const Layout &nvmeLayout()
     static const Layout layout = {
         3000,
         4500,
-        {{{0, 1500, 5000, 500}, QT_TRANSLATE_NOOP("MainWindow", "Disk Information:")},
-         {{0, 4300, 5000, 500}, QT_TRANSLATE_NOOP("MainWindow", "S.M.A.R.T. Details:")}},
-        {{1800, QT_TRANSLATE_NOOP("MainWindow", "Model Number:"), plain<&R::model>, 400},
+        {{1500, QT_TRANSLATE_NOOP("MainWindow", "Disk Information:")},
+         {4300, QT_TRANSLATE_NOOP("MainWindow", "S.M.A.R.T. Details:")}},
+        {{1800, QT_TRANSLATE_NOOP("MainWindow", "Model Number:"), plain<&R::model>},
          {2000, QT_TRANSLATE_NOOP("MainWindow", "Serial Number:"), plain<&R::serial>},
          {2200, QT_TRANSLATE_NOOP("MainWindow", "Firmware Version:"), plain<&R::firmware>},
          {2400, QT_TRANSLATE_NOOP("MainWindow", "Capacity:"), plain<&R::capacity>},
@@ -135,9 +138,9 @@ const Layout &nvmeLayout()
          {3600, QT_TRANSLATE_NOOP("MainWindow", "Performance:"), performance},
          {3800, QT_TRANSLATE_NOOP("MainWindow", "Health:"), health}},
         4600,
-        {{0, 300, QT_TRANSLATE_NOOP("MainWindow", "ID")},
-         {500, 2500, QT_TRANSLATE_NOOP("MainWindow", "Attribute Name")},
-         {4500, 2000, QT_TRANSLATE_NOOP("MainWindow", "Values")}},
+        {{0, QT_TRANSLATE_NOOP("MainWindow", "ID")},
+         {500, QT_TRANSLATE_NOOP("MainWindow", "Attribute Name")},
+         {4500, QT_TRANSLATE_NOOP("MainWindow", "Values")}},
         4850};
     return layout;
 }
@@ -148,9 +151,9 @@ const Layout &ataLayout()
     static const Layout layout = {
         2600,
         3100,
-        {{{0, 1500, 5000, 300}, QT_TRANSLATE_NOOP("MainWindow", "Disk Information:")},
-         {{0, 4900, 5000, 800}, QT_TRANSLATE_NOOP("MainWindow", "Self Test Details:")},
-         {{0, 6700, 5000, 800}, QT_TRANSLATE_NOOP("MainWindow", "S.M.A.R.T. Details")}},
+        {{1500, QT_TRANSLATE_NOOP("MainWindow", "Disk Information:")},
+         {4900, QT_TRANSLATE_NOOP("MainWindow", "Self Test Details:")},
+         {6700, QT_TRANSLATE_NOOP("MainWindow", "S.M.A.R.T. Details")}},
         {{1800, QT_TRANSLATE_NOOP("MainWindow", "Make:"), plain<&R::make>},
          {2000, QT_TRANSLATE_NOOP("MainWindow", "Model Number:"), plain<&R::model>},
          {2200, QT_TRANSLATE_NOOP("MainWindow", "Serial Number:"), plain<&R::serial>},
@@ -175,13 +178,13 @@ const Layout &ataLayout()
          {6200, QT_TRANSLATE_NOOP("MainWindow", "Last Self-Test Result:"),
           orNotAvailable<&R::lastTestResult>}},
         7000,
-        {{0, 300, QT_TRANSLATE_NOOP("MainWindow", "ID")},
-         {500, 2500, QT_TRANSLATE_NOOP("MainWindow", "Attribute Name")},
-         {3100, 500, QT_TRANSLATE_NOOP("MainWindow", "Status")},
-         {4000, 500, QT_TRANSLATE_NOOP("MainWindow", "Value")},
-         {4900, 500, QT_TRANSLATE_NOOP("MainWindow", "Worst")},
-         {5800, 800, QT_TRANSLATE_NOOP("MainWindow", "Threshold")},
-         {7000, 2000, QT_TRANSLATE_NOOP("MainWindow", "Raw Value")}},
+        {{0, QT_TRANSLATE_NOOP("MainWindow", "ID")},
+         {500, QT_TRANSLATE_NOOP("MainWindow", "Attribute Name")},
+         {3100, QT_TRANSLATE_NOOP("MainWindow", "Status")},
+         {4000, QT_TRANSLATE_NOOP("MainWindow", "Value")},
+         {4900, QT_TRANSLATE_NOOP("MainWindow", "Worst")},
+         {5800, QT_TRANSLATE_NOOP("MainWindow", "Threshold")},
+         {7000, QT_TRANSLATE_NOOP("MainWindow", "Raw Value")}},
         7250};
     return layout;
 }
@@ -204,21 +207,34 @@ QImage printImage(const QString &path)
 class PagePainter
 {
 public:
-    PagePainter(QPainter &painter, const SmartReport &report)
-        : m_painter(painter), m_report(report), m_layout(report.nvme ? nvmeLayout() : ataLayout()),
+    PagePainter(QPainter &painter, const SmartReport &report, const std::function<void()> &newPage)
+        : m_painter(painter), m_report(report), m_newPage(newPage),
+          m_layout(report.nvme ? nvmeLayout() : ataLayout()),
           m_logo(ofSet(report.secondBrand ? QStringLiteral("img_Korvane.png")
-                                          : QStringLiteral("img_Velmora.png")))
+                                          : QStringLiteral("img_Velmora.png"))),
+          m_watermark(ofSet(QStringLiteral("img_WaterMark.png"))),
+          m_icon(printImage(QStringLiteral(":/images/Halvane48.png")))
     {
     }
 
     void paint()
     {
         paintWatermark();
+        int y = m_layout.firstRowY;
         for (std::size_t i = 0; i < m_report.rows.size(); ++i) {
+            const bool full = y + RowStep > FootRuleY;
+            if (full) {
+                m_newPage();
+                paintWatermark();
+                y = LaterRowY;
+            }
             paintFrame();
             if (i == 0)
                 paintFixedParts();
-            paintRow(m_report.rows[i], m_layout.firstRowY + static_cast<int>(i) * RowStep);
+            else if (full)
+                paintLaterParts();
+            paintRow(m_report.rows[i], y);
+            y += RowStep;
         }
     }
 
@@ -257,11 +273,22 @@ private:
         m_painter.setFont(face);
     }
 
+    /// One line with its top at `y`, cut with dots where there is less room. All lines of that height have
+    /// one baseline, that of the page's own face: left to itself, a line sinks with the taller face of its
+    /// script.
+    void drawLine(int x, int y, int room, const QString &text)
+    {
+        const QFontMetricsF metrics(m_painter.font(), m_painter.device());
+        m_painter.drawText(QPointF(x, y + metrics.ascent()), metrics.elidedText(text, Qt::ElideRight, room));
+    }
+
+    int roomFrom(int x) const { return m_painter.viewport().width() - x; }
+
     void paintWatermark()
     {
         const QRect page = m_painter.viewport();
         drawImage({page.width() / 2 - 1500, page.height() / 2 - m_layout.watermarkRise, 3500, 4500},
-                  ofSet(QStringLiteral("img_WaterMark.png")), {0, 0, 250, 300});
+                  m_watermark, {0, 0, 250, 300});
     }
 
     void paintFrame()
@@ -269,72 +296,100 @@ private:
         setInk(Ink::Black);
         const int right = m_painter.viewport().width() - 24;
         m_painter.drawLine(0, 800, right, 800);
-        m_painter.drawLine(0, 13150, right, 13150);
+        m_painter.drawLine(0, FootRuleY, right, FootRuleY);
         drawImage({-100, 13220, 1700, 500}, m_logo, {0, 0, 170, 48});
     }
 
-    void paintFixedParts()
+    void paintHeadAndFoot()
     {
         setFont(14, RegularWeight);
         m_painter.drawText(QRect(350, 4, m_report.secondBrand ? 2620 : 2400, 750), Centred,
                            Texts::tr("Velmora Halvane"));
-        drawImage({-120, 4, 1650, 580}, printImage(QStringLiteral(":/images/Halvane48.png")),
-                  {0, -8, 160, 45});
+        drawImage({-120, 4, 1650, 580}, m_icon, {0, -8, 160, 45});
         m_painter.drawText(QRect(2000, 1100, 5000, 300), Centred, Texts::tr("S.M.A.R.T. Report"));
 
         setFont(BodyPoints, RegularWeight);
-        m_painter.drawText(QRect(1700, 13380, 8000, 7000), Left,
-                           Texts::tr("The information contained in this report has been generated by the "
-                                     "Velmora Halvane profiling process."));
-        m_painter.drawText(QRect(1700, 13560, 8000, 7000), Left,
-                           m_report.secondBrand ? Texts::tr("Velmora Halvane is a product of Korvane.")
-                                                : Texts::tr("Velmora Halvane is a product of Velmora."));
+        drawLine(1700, 13380, roomFrom(1700),
+                 Texts::tr("The information contained in this report has been generated by the "
+                           "Velmora Halvane profiling process."));
+        drawLine(1700, 13560, roomFrom(1700),
+                 m_report.secondBrand ? Texts::tr("Velmora Halvane is a product of Korvane.")
+                                      : Texts::tr("Velmora Halvane is a product of Velmora."));
+    }
 
-        setFont(10, BoldWeight);
+    void paintFixedParts()
+    {
+        paintHeadAndFoot();
         for (const Heading &heading : m_layout.headings)
-            m_painter.drawText(heading.place, Left, Texts::tr(heading.text));
-
+            paintHeading(heading.y, heading.text);
         setFont(BodyPoints, RegularWeight);
         for (const Field &field : m_layout.fields)
             paintField(field);
+        paintTableHeading(m_layout.tableY);
+    }
 
-        setFont(BodyPoints, BoldWeight);
-        for (const Column &column : m_layout.columns)
-            m_painter.drawText(QRect(column.x, m_layout.tableY, column.width, 200), Left,
-                               Texts::tr(column.text));
-        setFont(BodyPoints, RegularWeight);
+    void paintLaterParts()
+    {
+        paintHeadAndFoot();
+        paintHeading(LaterHeadingY, m_layout.headings.back().text);
+        paintTableHeading(LaterTableY);
+    }
+
+    void paintHeading(int y, const char *text)
+    {
+        setFont(10, BoldWeight);
+        drawLine(0, y, roomFrom(0), Texts::tr(text));
     }
 
     void paintField(const Field &field)
     {
-        m_painter.drawText(QRect(0, field.y, 5000, field.height), Left, Texts::tr(field.label));
+        drawLine(0, field.y, m_layout.valueX - ColumnGap, Texts::tr(field.label));
         const Value value = field.value(m_report);
+        const int x = m_layout.valueX + value.shift;
         setInk(value.ink);
-        m_painter.drawText(QRect(m_layout.valueX + value.shift, field.y, 10000, field.height), Left,
-                           value.text);
+        drawLine(x, field.y, roomFrom(x), value.text);
         setInk(Ink::Black);
+    }
+
+    void paintTableHeading(int y)
+    {
+        setFont(BodyPoints, BoldWeight);
+        for (std::size_t i = 0; i < m_layout.columns.size(); ++i)
+            drawLine(m_layout.columns[i].x, y, columnRoom(i), Texts::tr(m_layout.columns[i].text));
+        setFont(BodyPoints, RegularWeight);
     }
 
     void paintRow(const SmartReport::Row &row, int y)
     {
         for (std::size_t i = 0; i < row.size(); ++i) {
-            const Column &column = m_layout.columns[i];
             setInk(row[i].red ? Ink::Red : Ink::Black);
-            m_painter.drawText(QRect(column.x, y, column.width, RowStep), Left, row[i].text);
+            drawLine(m_layout.columns[i].x, y, columnRoom(i), row[i].text);
         }
+    }
+
+    /// Up to the next column, or the page's edge.
+    int columnRoom(std::size_t column) const
+    {
+        const int x = m_layout.columns[column].x;
+        return column + 1 < m_layout.columns.size() ? m_layout.columns[column + 1].x - ColumnGap - x
+                                                    : roomFrom(x);
     }
 
     QPainter &m_painter;
     const SmartReport &m_report;
+    const std::function<void()> &m_newPage;
     const Layout &m_layout;
-    const QImage m_logo; ///< one object, so that the file holds it once
+    // One object each, so that the file holds it once.
+    const QImage m_logo;
+    const QImage m_watermark;
+    const QImage m_icon;
 };
 
 } // namespace
 
-void paintReport(QPainter &painter, const SmartReport &report)
+void paintReport(QPainter &painter, const SmartReport &report, const std::function<void()> &newPage)
 {
-    PagePainter(painter, report).paint();
+    PagePainter(painter, report, newPage).paint();
 }
 
 bool writeReport(const QString &path, const SmartReport &report)
@@ -349,7 +404,7 @@ bool writeReport(const QString &path, const SmartReport &report)
     if (!painter.begin(&writer))
         return false;
     painter.setRenderHint(QPainter::LosslessImageRendering);
-    paintReport(painter, report);
+    paintReport(painter, report, [&writer] { writer.newPage(); });
     painter.end();
     return true;
 }
