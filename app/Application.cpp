@@ -29,9 +29,15 @@ constexpr int InstanceSegment = 512; ///< bytes
 
 void substituteFonts()
 {
-    // Only where the asked family is not installed does the substitution come into play.
-    QFont::insertSubstitution(QStringLiteral("Segoe UI"), QStringLiteral("Open Sans"));
-    QFont::insertSubstitution(QStringLiteral("Segoe UI SemiBold"), QStringLiteral("Open Sans SemiBold"));
+    // What stands behind the first family found gives the letters that it lacks. Without a family for Chinese
+    // the system takes any, often with the shapes of Japanese.
+    const QStringList chinese =
+        g_App.m_bChinese ? QStringList{QStringLiteral("Microsoft YaHei"), QStringLiteral("Noto Sans CJK SC")}
+                         : QStringList();
+    QFont::insertSubstitutions(QStringLiteral("Segoe UI"),
+                               QStringList{QStringLiteral("Open Sans")} + chinese);
+    QFont::insertSubstitutions(QStringLiteral("Segoe UI SemiBold"),
+                               QStringList{QStringLiteral("Open Sans SemiBold")} + chinese);
 }
 
 void setDefaults()
@@ -128,7 +134,6 @@ int runApplication(int argc, char **argv)
     Platform &platform = Platform::current();
     QApplication application(argc, argv);
     initialiseResources();
-    substituteFonts();
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/images/img_AppIcon.png")));
     // Windows hide and come back while the splash lives on; only the close question ends the program.
     QApplication::setQuitOnLastWindowClosed(false);
@@ -140,6 +145,7 @@ int runApplication(int argc, char **argv)
     int languageType = 0;
     readStartSettings(&languageType);
     languages::setFlag(languageType);
+    substituteFonts();
     languages::setOffered();
     languages::loadAtStart();
 
