@@ -24,6 +24,7 @@ private slots:
     void aborted();
     void refused_data();
     void refused();
+    void behindAnNvmeDisk();
     void extendedWithoutTime();
     void everyOtherEnd_data();
     void everyOtherEnd();
@@ -184,6 +185,23 @@ void tst_SelfTestFlow::refused()
     QVERIFY(navigationIs(true) && child<MyButton>("ScanDiskButton")->isEnabled());
     QTest::mousePress(child<MyButton1>("BackTestButton"), Qt::LeftButton);
     QVERIFY(shown("frame_2"));
+}
+
+/// The report that was read last is of another disk, whose kind says nothing of this one.
+void tst_SelfTestFlow::behindAnNvmeDisk()
+{
+    addReport("n.txt", sample("nvme-samsung-970evoplus-500gb.txt"));
+    addReport("c.txt", capabilities("caps-idle-72.txt"));
+    startPc(R"({"pauses": false, "settings": {"FirstTimeLaunch": 1}, "disks": [
+        {"number": 0, "model": "N", "sectors": 2048, "report": "n.txt"},
+        {"number": 1, "model": "M", "sectors": 2048, "capabilities": "c.txt"}]})");
+    makeWindow();
+    waitForRead();
+    press("ScanDiskButton");
+    select(1);
+    child<QRadioButton>("radioButton_2")->click();
+    child<QPushButton>("ScanButton")->click();
+    QVERIFY(g_App.m_bNVMe && g_bSelfTestRunning);
 }
 
 void tst_SelfTestFlow::extendedWithoutTime()

@@ -52,7 +52,10 @@ void takeCapabilities(const selftest::Capabilities &found, std::optional<SelfTes
 
 bool canRunSelfTest()
 {
-    return g_bSelfTestSupported && !g_App.m_bNVMe;
+    // The kind is that of the disk whose report was read last, which may be another one.
+    const bool ofThisDisk =
+        storedDevice(ToolPurpose::SelfTestLog).endsWith(storedDevice(ToolPurpose::Capabilities));
+    return g_bSelfTestSupported && !(g_App.m_bNVMe && ofThisDisk);
 }
 
 } // namespace
