@@ -374,6 +374,7 @@ PcDescription readObject(const QJsonObject &object, const QString &folder, QStri
     pc.pauses = in.truth(QStringLiteral("pauses"), true);
     pc.hasSmartctl = in.truth(QStringLiteral("smartctl"), true);
     pc.network = in.truth(QStringLiteral("network"), false);
+    pc.toolMilliseconds = static_cast<int>(in.whole(QStringLiteral("toolMilliseconds"), 0, 0, 600000));
     pc.processes = in.texts(QStringLiteral("processes"));
     pc.installed = in.texts(QStringLiteral("installed"));
     pc.settings = readSettings(in);

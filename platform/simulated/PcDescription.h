@@ -56,6 +56,7 @@ struct PcDescription {
     bool pauses = true;
     bool hasSmartctl = true;
     bool network = false; ///< links may be asked, on this very PC only
+    int toolMilliseconds = 0; ///< how long a run of smartctl takes
     QVector<Disk> disks;
     QVector<inventory::Volume> volumes;
     QSet<int> absentDisks; ///< not plugged in at first

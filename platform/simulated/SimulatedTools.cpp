@@ -51,8 +51,9 @@ void SimulatedPlatform::addTools()
         const tools::Tool smartctl = [this](const QStringList &arguments, const QByteArray &) {
             return m_smartctl.run(arguments);
         };
-        m_interpreter.addTool(QStringLiteral("smartctl"), smartctl);
-        m_interpreter.addTool(QStringLiteral("smartctl64bit"), smartctl);
+        for (const char *name : {"smartctl", "smartctl64bit"}) {
+            m_interpreter.addTool(QLatin1String(name), smartctl, m_pc.toolMilliseconds);
+        }
     }
     m_interpreter.addTool(QStringLiteral("bitsadmin"), [this](const QStringList &arguments,
                                                               const QByteArray &) {

@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QRegularExpression>
+#include <QThread>
 
 namespace tools
 {
@@ -50,9 +51,27 @@ Stage parseStage(QString text)
 
 } // namespace
 
-void CommandInterpreter::addTool(const QString &baseName, Tool tool)
+void CommandInterpreter::addTool(const QString &baseName, Tool tool, int milliseconds)
 {
-    m_tools.insert(baseName.toLower(), std::move(tool));
+    m_tools.insert(baseName.toLower(), {std::move(tool), milliseconds});
+}
+
+/// The target stays open from the tool's start to its end. Where it is removed meanwhile, the rest goes to
+/// the file without a name, as with a real process.
+void CommandInterpreter::write(const QByteArray &output, int milliseconds, QFile *target)
+{
+    constexpr int Pieces = 8;
+    const int pieces = milliseconds > 0 ? Pieces : 1;
+    for (int piece = 0; piece < pieces; ++piece) {
+        QThread::msleep(
+            static_cast<unsigned long>((piece + 1) * milliseconds / pieces - piece * milliseconds / pieces));
+        const int from = static_cast<int>(qint64(output.size()) * piece / pieces);
+        const int to = static_cast<int>(qint64(output.size()) * (piece + 1) / pieces);
+        if (target->isOpen()) {
+            target->write(output.constData() + from, to - from);
+            target->flush();
+        }
+    }
 }
 
 bool CommandInterpreter::run(const std::wstring &line,
@@ -73,12 +92,12 @@ bool CommandInterpreter::run(const std::wstring &line,
                                target.open(QIODevice::WriteOnly | QIODevice::Append);
         QByteArray output;
         if (!stage.words.isEmpty() && (hasTarget || !stage.redirected)) {
-            const auto tool = m_tools.constFind(baseNameOf(stage.words.first()));
-            if (tool != m_tools.constEnd())
-                output = (*tool)(stage.words.mid(1), piped);
+            const auto entry = m_tools.constFind(baseNameOf(stage.words.first()));
+            if (entry != m_tools.constEnd()) {
+                output = entry->tool(stage.words.mid(1), piped);
+                write(output, entry->milliseconds, &target);
+            }
         }
-        if (hasTarget)
-            target.write(output);
         piped = stage.redirected ? QByteArray() : output;
     }
     return true;

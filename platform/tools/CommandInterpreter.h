@@ -8,6 +8,8 @@
 #include <functional>
 #include <string>
 
+class QFile;
+
 namespace tools
 {
 
@@ -20,8 +22,9 @@ using Tool = std::function<QByteArray(const QStringList &arguments, const QByteA
 class CommandInterpreter
 {
 public:
-    /// `baseName` is the file name without folder and ".exe", in any letter case.
-    void addTool(const QString &baseName, Tool tool);
+    /// `baseName` is the file name without folder and ".exe", in any letter case. The tool's output reaches a
+    /// redirection target in pieces over so many milliseconds; 0: at once.
+    void addTool(const QString &baseName, Tool tool, int milliseconds = 0);
 
     /// Runs "<interpreter> /c <command>". The redirection target is the text behind ">>" up to the next
     /// blank, as the real interpreter takes it, each element of `line` being one character; `nativePath`
@@ -30,7 +33,14 @@ public:
     bool run(const std::wstring &line, const std::function<QString(const QString &)> &nativePath) const;
 
 private:
-    QHash<QString, Tool> m_tools;
+    struct Entry {
+        Tool tool;
+        int milliseconds = 0;
+    };
+
+    static void write(const QByteArray &output, int milliseconds, QFile *target);
+
+    QHash<QString, Entry> m_tools;
 };
 
 } // namespace tools

@@ -40,6 +40,7 @@ private slots:
     void run();
     void keepsWhatTheTargetHeld();
     void cutsTheTargetAtABlank();
+    void slowToolWritesInPieces();
     void takesBytesBeyondAsciiOneByOne();
     void runsNothingWithoutATarget();
     void refusesALineWithoutSwitch();
@@ -124,6 +125,27 @@ void tst_CommandInterpreter::cutsTheTargetAtABlank()
     QVERIFY(!QFile::exists(wanted));
     // What was cut away is one more word for the tool.
     QCOMPARE(contentOf(m_folder->filePath(QStringLiteral("John"))), QByteArray("a+Doe/out.txt\n"));
+}
+
+void tst_CommandInterpreter::slowToolWritesInPieces()
+{
+    const auto slow = [](const QStringList &, const QByteArray &) { return QByteArray(1000, 'x'); };
+    m_interpreter.addTool(QStringLiteral("slow"), slow, 400);
+    const std::unique_ptr<QThread> process(
+        QThread::create([this] { runLine("slow >> " + m_target.toUtf8() + ' '); }));
+    QElapsedTimer clock;
+    clock.start();
+    process->start();
+    QTRY_VERIFY(QFileInfo(m_target).size() > 0);
+    QFile first(m_target);
+    QVERIFY(first.open(QIODevice::ReadOnly));
+    QVERIFY(first.size() < 1000);
+    QVERIFY(QFile::remove(m_target));
+    QVERIFY(process->wait(10000));
+    QVERIFY(clock.elapsed() >= 400);
+    // The rest went to the file that it had opened, not to a new one of that name.
+    QVERIFY(!QFileInfo::exists(m_target));
+    QCOMPARE(first.size(), 1000);
 }
 
 void tst_CommandInterpreter::takesBytesBeyondAsciiOneByOne()
