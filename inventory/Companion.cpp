@@ -52,12 +52,10 @@ void start(StartBy form)
     Platform::current().ShellExecuteW(form == StartBy::Name ? fileName() : fullPath(), QString(), QString());
 }
 
-bool ensureRunning(StartBy form)
+void ensureRunning(StartBy form)
 {
-    const State state = check();
-    if (state == State::NotRunning)
+    if (check() == State::NotRunning)
         start(form);
-    return state != State::Unknown;
 }
 
 void kill()

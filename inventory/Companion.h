@@ -30,8 +30,8 @@ enum class StartBy { Name, FullPath };
 /// Starts the companion.
 void start(StartBy form);
 
-/// check(), and start() where it does not run. False where the task list could not be read.
-bool ensureRunning(StartBy form);
+/// check(), and start() where it does not run.
+void ensureRunning(StartBy form);
 
 /// The kill command of the settings and of a language change.
 void kill();

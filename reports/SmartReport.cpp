@@ -10,6 +10,7 @@
 #include "smart/SmartGlobals.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 
 namespace
 {
@@ -105,6 +106,7 @@ SmartReport gatherSmartReport()
     report.performanceText = g_strPerformanceText;
     report.health = g_nHealthPercent;
     report.healthKnown = g_bHealthKnown;
+    report.device = g_strSmartDevice;
     report.lastTestType = g_strLastTestType;
     report.lastTestResult = g_strLastTestResult;
     return report;
@@ -115,6 +117,11 @@ QString suggestedReportName(const SmartReport &report)
     const QString brand = report.secondBrand ? QStringLiteral("Korvane Smart Report ")
                                              : QStringLiteral("Velmora Smart Report ");
     return brand + fileNamePart(report.model);
+}
+
+QString savedPath(const QString &chosen, const QString &offered, const QString &ending)
+{
+    return !chosen.isEmpty() && QFileInfo(chosen).fileName() == offered ? chosen + ending : chosen;
 }
 
 QString fileNamePart(QString text)

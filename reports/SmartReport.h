@@ -38,6 +38,7 @@ struct SmartReport {
     QString extendedTestTime;
     QString lastTestType;
     QString lastTestResult;
+    QString device;        ///< as the tool takes it
     std::vector<Row> rows; ///< none: only the watermark is painted
 };
 
@@ -46,6 +47,10 @@ SmartReport gatherSmartReport();
 
 /// The name offered for the file, without an ending.
 QString suggestedReportName(const SmartReport &report);
+
+/// The path that a file is written to: a name that was taken as it was offered gets the ending, such as
+/// ".pdf".
+QString savedPath(const QString &chosen, const QString &offered, const QString &ending);
 
 /// A text as part of a file name: what a file system refuses becomes "-".
 QString fileNamePart(QString text);

@@ -59,10 +59,10 @@ void takePreviousTest(QTextStream &log)
     }
 }
 
-void ReadPreviousTest()
+void ReadPreviousTest(const QString &device)
 {
     const ToolPurpose purpose = ToolPurpose::SelfTestLog;
     const QString path = runner::freshTempFile(toolFileName(purpose));
-    RunSilent(commandLine(purpose, storedDevice(purpose), path));
+    RunSilent(commandLine(purpose, device, path));
     runner::readOutput(path, takePreviousTest);
 }

@@ -4,8 +4,8 @@
 
 class QTextStream;
 
-/// The newest self-test of a disk, for the report. Translated. Never reset: a disk whose log names no test
-/// leaves the texts of the disk before it. Main thread only.
+/// The newest self-test of a disk, for the report. Translated. A log that names no test leaves them. Main
+/// thread only.
 inline QString g_strLastTestType;
 inline QString g_strLastTestResult;
 
@@ -13,5 +13,5 @@ inline QString g_strLastTestResult;
 /// as it was.
 void takePreviousTest(QTextStream &log);
 
-/// Has the report tool tell the log of the disk whose report was read last, and takes it. Blocks.
-void ReadPreviousTest();
+/// Has the report tool tell the log of the disk of that device string, and takes it. Blocks.
+void ReadPreviousTest(const QString &device);

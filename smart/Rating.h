@@ -14,7 +14,7 @@
 inline int g_nHealthPercent = 0;
 inline bool g_bHealthKnown = true; ///< false: the report holds nothing to rate, and the percentage is 100
 inline int g_nPerformancePercent = 0;
-/// The four life figures are never reset: a disk without the row shows those of the disk before it.
+/// The four life figures stay where a later report of the same disk has no such row.
 inline std::uint32_t g_nDiskLifeDays = 0;
 inline int g_nPowerOnDays = 0;
 inline int g_nPowerOnRestHours = 0;

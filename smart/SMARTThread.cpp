@@ -1,33 +1,28 @@
 #include "smart/SMARTThread.h"
 
-#include "app/state/Globals.h"
 #include "smart/ToolInvocation.h"
-
-#include <QMutexLocker>
 
 SMARTThread::SMARTThread(QObject *parent) : QThread(parent) {}
 
 SMARTThread::~SMARTThread()
 {
-    m_condition.wakeOne();
+    forget();
     wait();
 }
 
 void SMARTThread::RequestSmartRead(int diskIndex)
 {
-    const QMutexLocker lock(&m_mutex);
-    m_nIndex = diskIndex;
-    if (isRunning()) {
-        g_bAbortJob = true;
-        m_condition.wakeOne();
-    } else {
-        start(QThread::LowPriority);
-    }
+    if (!m_read.ask(diskIndex))
+        return;
+    // A run that has signalled still takes a moment to end, and a start in that moment would be lost.
+    wait();
+    start(QThread::LowPriority);
 }
 
 void SMARTThread::run()
 {
-    const QMutexLocker lock(&m_mutex);
-    LoadSmartReport(m_nIndex);
+    std::optional<int> disk;
+    while ((disk = m_read.next(disk)))
+        LoadSmartReport(*disk);
     emit OnLodingSmarInfo();
 }

@@ -1,11 +1,11 @@
 #pragma once
 
-#include <QMutex>
-#include <QThread>
-#include <QWaitCondition>
+#include "smart/CurrentRead.h"
 
-/// Reads the report of one disk per run, off the main thread. The destructor waits for a running read without
-/// a time limit.
+#include <QThread>
+
+/// Reads the report of a disk off the main thread, one at a time. A run goes on until the disk asked for last
+/// is read. The destructor waits for the tool that runs, without a time limit.
 class SMARTThread : public QThread
 {
     Q_OBJECT
@@ -14,19 +14,24 @@ public:
     explicit SMARTThread(QObject *parent = nullptr);
     ~SMARTThread() override;
 
-    /// Asks for the report of a disk. Blocks for as long as a read is under way; a request that meets the
-    /// thread before it has ended is lost and sets g_bAbortJob. Main thread only.
+    /// Asks for the report of a disk. Never waits for a tool: during a read the disk is remembered, the last
+    /// one wins, and is read behind it. Main thread only.
     void RequestSmartRead(int diskIndex);
+    /// The disk whose report lies at g_strSmartReportPath, once for each finished read. None while a read
+    /// runs.
+    std::optional<int> takeReport() { return m_read.take(); }
+    /// The report that is under way is not wanted any more.
+    void forget() { m_read.forget(); }
+    /// A read runs, or its report was not taken yet.
+    bool isReading() const { return m_read.isOpen(); }
 
 signals:
-    /// The report lies at g_strSmartReportPath.
+    /// A report is there to be taken.
     void OnLodingSmarInfo();
 
 protected:
     void run() override;
 
 private:
-    QMutex m_mutex; ///< held for a whole run
-    QWaitCondition m_condition;
-    int m_nIndex = 0;
+    CurrentRead m_read;
 };

@@ -13,8 +13,11 @@ inline SmartAttributeRecord *g_pSmartAttributeTail = nullptr;
 inline NvmeAttributeRecord *g_pNvmeAttributeHead = nullptr;
 inline NvmeAttributeRecord *g_pNvmeAttributeTail = nullptr;
 
+/// The report of the disk that is chosen is still to come: the lists are empty, and no figure is of that
+/// disk.
+inline bool g_bReportPending = false;
 inline QString g_strGraphTitle; ///< of the graph drawn last, empty before the first; offered as a file name
-inline QString g_strAtaVersion; ///< stays as it was where a report names no version
+inline QString g_strAtaVersion; ///< stays as it was where a later report of the disk names no version
 
 inline SharedText g_strSmartReportPath; ///< where the latest SMARTThread run left its report
 inline SharedText g_strSmartDevice;     ///< device of the latest SMARTThread run, USB prefix included

@@ -129,7 +129,8 @@ void CloneDisk::rebuildDestinations(const DiskNode *pSource)
     // Without a size it is not among the choices of the drop-down.
     DestinationComboBox->setItemData(0, QSize(0, 0), Qt::SizeHintRole);
     const int sourceId = pSource ? pSource->nId : 0;
-    for (const clonetexts::Destination &disk : clonetexts::destinations(g_App.m_pDiskListHead, sourceId))
+    const DiskNode *disks = g_bListsLoading ? nullptr : g_App.m_pDiskListHead;
+    for (const clonetexts::Destination &disk : clonetexts::destinations(disks, sourceId))
         DestinationComboBox->addItem(disk.text, disk.diskId);
     m_nDestinationIndex = 0;
 }

@@ -54,9 +54,7 @@ DiskStatus::DiskStatus(QWidget *parent) : QWidget(parent)
     InterFaceLbl->hide();
     InterFaceValLbl->hide();
     DisknumberValLbl->setText(QStringLiteral("0"));
-    images::setLabelImage(tempratureLbl, QStringLiteral("img_temprature.png"));
-    images::setLabelImage(PerformanceLbl, QStringLiteral("img_Performance.png"));
-    images::setLabelImage(HelthLable, QStringLiteral("img_Health.png"));
+    showFirstPictures();
 }
 
 DiskStatus::~DiskStatus() = default;
@@ -273,6 +271,22 @@ void DiskStatus::showVerdict(DriveVerdict verdict)
     DriveVerdictValue->setStyleSheet(failed ? style::FailedLabel : style::GreyLabel);
 }
 
+void DiskStatus::showFirstPictures()
+{
+    images::setLabelImage(tempratureLbl, QStringLiteral("img_temprature.png"));
+    images::setLabelImage(PerformanceLbl, QStringLiteral("img_Performance.png"));
+    images::setLabelImage(HelthLable, QStringLiteral("img_Health.png"));
+}
+
+void DiskStatus::clearDisk()
+{
+    const QString none;
+    showIdentity({none, none, none, none, none, none, none});
+    showLife({});
+    DriveVerdictValue->clear();
+    showFirstPictures();
+}
+
 void DiskStatus::redoDetails()
 {
     const DiskNode *node = findPhysicalDisk(PhysicalDriveBase + g_nCurrentDiskIndex);
@@ -290,13 +304,15 @@ void DiskStatus::changeEvent(QEvent *event)
         retranslateUi(this);
         setStaticTexts();
         ApplyLanguageMetrics();
-        if (!g_bSmartAvailable) {
-            for (QLabel *value : {tempValueLbl, performanceValueLbl})
-                value->setText(tr("Not Supported"));
+        if (!g_bReportPending) {
+            if (!g_bSmartAvailable) {
+                for (QLabel *value : {tempValueLbl, performanceValueLbl})
+                    value->setText(tr("Not Supported"));
+            }
+            if (!g_bSmartAvailable || !g_bHealthKnown)
+                healthValueLbl->setText(tr("Not Supported"));
+            redoDetails();
         }
-        if (!g_bSmartAvailable || !g_bHealthKnown)
-            healthValueLbl->setText(tr("Not Supported"));
-        redoDetails();
     }
     QWidget::changeEvent(event);
 }

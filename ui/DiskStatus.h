@@ -32,6 +32,9 @@ public:
     /// Shows what the drive says of itself, a failure in red.
     void showVerdict(DriveVerdict verdict);
 
+    /// Shows no details, and the tiles' first pictures.
+    void clearDisk();
+
     QLabel *healthTitleLbl;
     QLabel *healthValueLbl;
     QLabel *performanceTitleLbl;
@@ -50,5 +53,6 @@ private:
     void layOutPage();
     QGridLayout *makeDetailsGrid();
     void setStaticTexts();
+    void showFirstPictures();
     void redoDetails();
 };

@@ -16,7 +16,6 @@
 #include <QSystemTrayIcon>
 
 #include <array>
-#include <optional>
 
 class CloneDisk;
 class CloneWarning;
@@ -222,15 +221,19 @@ private:
 
     /// \name Reading a disk
     /// @{
-    void clearForRead();
+    void takeUpChosenDisk();
+    void showWaitingTiles();
+    void clearIdentityTexts();
     void startRead();
+    void takeReportIn();
+    void updateReportButtons();
+    bool reportKnown() const;
     void enterBusy(const QString &text);
     void leaveBusy();
     void prepareLogFolder();
     void initializeSmartStatus();
     void showSmartHeading();
-    void refillSmartTable(bool freshReport);
-    bool initializeDiskStatus();
+    void initializeDiskStatus();
     void showTemperature(int celsius);
     void showOverallResult();
     void showLifeFields(const DiskNode *node);
@@ -322,8 +325,6 @@ private:
 
     /// The screen asked for while a job's results are open.
     std::array<bool, navigation::ScreenCount> m_abSwitchTarget{};
-    /// Serial number under which the attribute tree was filled last; none since a read was asked for.
-    std::optional<QString> m_tableSerial;
     ClonePair m_askedPair;              ///< named in the question before a clone
     QHash<int, int> m_hashComboToDisk;  ///< combo index to DiskNode::nId
     QList<QAction *> m_listHeldEntries; ///< menu entries that a scan made grey

@@ -203,6 +203,14 @@ void SmartChartView::ShowGraph(const GraphModel &model)
     setChart(fresh.release());
 }
 
+void SmartChartView::Clear()
+{
+    m_pLine = nullptr;
+    m_pDenseAxis = nullptr;
+    const std::unique_ptr<QChart> previous(chart());
+    setChart(newChart().release());
+}
+
 void SmartChartView::drawForeground(QPainter *painter, const QRectF &rect)
 {
     QChartView::drawForeground(painter, rect);

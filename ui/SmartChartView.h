@@ -21,6 +21,8 @@ public:
 
     /// Shows a new chart of the model; the one before is freed with its series and axes.
     void ShowGraph(const GraphModel &model);
+    /// Shows no graph.
+    void Clear();
 
 protected:
     void drawForeground(QPainter *painter, const QRectF &rect) override;

@@ -192,6 +192,15 @@ void SmartStatus::ShowRows(const std::vector<AttributeRow> &rows)
     m_pAttributeTree->setCurrentItem(m_pAttributeTree->topLevelItem(0));
 }
 
+void SmartStatus::ClearDisk()
+{
+    m_pAttributeTree->clear();
+    m_pChartView->Clear();
+    for (QLabel *label : {GraphLabel, SmartResultLabel, m_pHeadingResultLabel, SerialNunValueLbl,
+                          InterfaceValLbl, CapcityValLbl})
+        label->clear();
+}
+
 void SmartStatus::RetranslateSmartTable()
 {
     // None are there while a disk is being read.
@@ -201,6 +210,8 @@ void SmartStatus::RetranslateSmartTable()
 
 void SmartStatus::showOverallResult()
 {
+    if (g_bReportPending)
+        return;
     const bool passed = g_bSmartAvailable && g_driveVerdict != DriveVerdict::Failed;
     pagelook::showResult(SmartResultLabel, passed
                                                ? OverallResult::Passed

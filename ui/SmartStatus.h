@@ -27,6 +27,8 @@ public:
     static std::vector<AttributeRow> CurrentRows();
     /// Puts rows in the place of those that show, and selects the first.
     void ShowRows(const std::vector<AttributeRow> &rows);
+    /// Shows nothing of any disk.
+    void ClearDisk();
     /// Writes the rows anew, in the language that is loaded. Neither history nor graph change.
     void RetranslateSmartTable();
 

@@ -23,7 +23,6 @@ void tst_PreviousTest::init()
 {
     m_fake = FakePlatform::install();
     g_App.m_bUse64BitTool = true;
-    g_strSmartDevice = QStringLiteral(" -d sat,12 /dev/sdc");
     g_strLastTestType = QStringLiteral("old type");
     g_strLastTestResult = QStringLiteral("old result");
 }
@@ -69,7 +68,7 @@ void tst_PreviousTest::logs()
 {
     QFETCH(QByteArray, log);
     m_fake->onCommand = [log](const QString &line) { return FakePlatform::answer(line, log); };
-    ReadPreviousTest();
+    ReadPreviousTest(QStringLiteral(" -d sat,12 /dev/sdc"));
     QTEST(g_strLastTestType, "type");
     QTEST(g_strLastTestResult, "result");
     const QString path = tempFile(QStringLiteral("PreviousResult.txt"));
@@ -82,7 +81,7 @@ void tst_PreviousTest::logs()
 void tst_PreviousTest::aLogThatWasNotWritten()
 {
     m_fake->onCommand = [](const QString &) { return false; };
-    ReadPreviousTest();
+    ReadPreviousTest(QStringLiteral(" -d sat,12 /dev/sdc"));
     QCOMPARE(g_strLastTestType, QStringLiteral("old type"));
     QCOMPARE(g_strLastTestResult, QStringLiteral("old result"));
 }

@@ -15,11 +15,11 @@ class tst_SMARTThread : public QObject
 
 private slots:
     void init();
-    void cleanup() { g_bAbortJob = false; }
 
     void readsAndReports();
     void runsAgainForTheNextRequest();
-    void requestWaitsForTheReadUnderWay();
+    void lastRequestDuringAReadIsReadBehindIt();
+    void forgottenReadHasNoReport();
     void destructorWaits();
 
 private:
@@ -35,7 +35,7 @@ void tst_SMARTThread::init()
 {
     m_fake = FakePlatform::install();
     g_App.m_bUse64BitTool = true;
-    g_bAbortJob = false;
+    m_entered.tryAcquire(m_entered.available());
     m_ended = false;
 }
 
@@ -60,7 +60,8 @@ void tst_SMARTThread::readsAndReports()
     QCOMPARE(m_fake->commands().size(), 1);
     QVERIFY(m_fake->commands().at(0).contains(" -a /dev/sdd >> "));
     QVERIFY(QFile::exists(nativePath(g_strSmartReportPath)));
-    QVERIFY(!g_bAbortJob);
+    QCOMPARE(thread.takeReport(), std::optional<int>(3));
+    QCOMPARE(thread.takeReport(), std::optional<int>());
 }
 
 void tst_SMARTThread::runsAgainForTheNextRequest()
@@ -74,19 +75,42 @@ void tst_SMARTThread::runsAgainForTheNextRequest()
     QVERIFY(m_fake->commands().at(1).contains(" -a /dev/sdb >> "));
 }
 
-void tst_SMARTThread::requestWaitsForTheReadUnderWay()
+void tst_SMARTThread::lastRequestDuringAReadIsReadBehindIt()
 {
-    slowTool(200);
+    // The tool goes on only when it is let.
+    QSemaphore mayEnd;
+    m_fake->onCommand = [&](const QString &) {
+        m_entered.release();
+        mayEnd.acquire();
+        return true;
+    };
+    SMARTThread thread;
+    QSignalSpy told(&thread, &SMARTThread::OnLodingSmarInfo);
+    thread.RequestSmartRead(0);
+    QVERIFY(m_entered.tryAcquire(1, 10000));
+    thread.RequestSmartRead(5);
+    thread.RequestSmartRead(7);
+    QVERIFY(thread.isReading());
+    mayEnd.release(2);
+    QVERIFY(thread.wait(10000));
+    QCOMPARE(m_fake->commands().size(), 2);
+    QVERIFY(m_fake->commands().at(1).contains("/dev/sdh"));
+    QCOMPARE(told.count(), 1);
+    QCOMPARE(thread.takeReport(), std::optional<int>(7));
+    QVERIFY(!g_bAbortJob);
+}
+
+void tst_SMARTThread::forgottenReadHasNoReport()
+{
+    slowTool(50);
     SMARTThread thread;
     thread.RequestSmartRead(0);
     QVERIFY(m_entered.tryAcquire(1, 10000));
-    QVERIFY(!m_ended);
-    thread.RequestSmartRead(5);
-    QVERIFY(m_ended);
+    thread.RequestSmartRead(1);
+    thread.forget();
     QVERIFY(thread.wait(10000));
-    // Whether the thread still counted as running decides between a lost request and a second read.
-    QCOMPARE(m_fake->commands().size(), g_bAbortJob ? 1 : 2);
-    QVERIFY(m_fake->commands().at(0).contains("/dev/sda"));
+    QCOMPARE(m_fake->commands().size(), 1);
+    QVERIFY(!thread.takeReport() && !thread.isReading());
 }
 
 void tst_SMARTThread::destructorWaits()

@@ -6,6 +6,7 @@ const std::vector<Chapter> &chapters()
         {QStringLiteral("start"), startSteps},
         {QStringLiteral("screens"), screenSteps},
         {QStringLiteral("menus"), menuSteps},
+        {QStringLiteral("hurry"), hurrySteps, true},
         {QStringLiteral("scan"), scanSteps, true},
         {QStringLiteral("selfTest"), selfTestSteps, true},
         {QStringLiteral("clone"), cloneSteps, true},

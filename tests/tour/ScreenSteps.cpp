@@ -4,21 +4,6 @@
 namespace
 {
 
-struct Page {
-    const char *step;
-    const char *button;
-    const char *className;
-};
-
-const Page diskStatus = {"disk-status", "DiskStatusButton", "DiskStatus"};
-
-const Page otherPages[] = {
-    {"smart-status", "SmartStatusButton", "SmartStatus"},
-    {"disk-partition", "DiskPartitionButton", "DiskPartition"},
-    {"scan-chooser", "ScanDiskButton", "ScanDisk"},
-    {"clone-select", "CloneDiskButton", "CloneDisk"},
-};
-
 QString stepName(const Page &page, int drive)
 {
     return QStringLiteral("%1 of drive %2").arg(QLatin1String(page.step)).arg(drive);
@@ -30,15 +15,17 @@ void goTo(Walk &walk, const Page &page)
 }
 
 constexpr int NoDrive = -1;
+constexpr int DiskStatusPage = 0; ///< in pages()
 
 /// The first screen with a disk chosen in its combo. At the very start that screen is there already.
 void seeDiskStatus(Walk &walk, int drive)
 {
+    const Page &page = pages()[DiskStatusPage];
     if (drive > 0)
-        goTo(walk, diskStatus);
+        goTo(walk, page);
     if (drive != NoDrive)
         walk.selectDrive(drive);
-    walk.record(QLatin1String(diskStatus.step));
+    walk.record(QLatin1String(page.step));
 }
 
 void seePage(Walk &walk, const Page &page)
@@ -49,16 +36,29 @@ void seePage(Walk &walk, const Page &page)
 
 } // namespace
 
+const std::vector<Page> &pages()
+{
+    static const std::vector<Page> all{
+        {"disk-status", "DiskStatusButton", "DiskStatus"},
+        {"smart-status", "SmartStatusButton", "SmartStatus"},
+        {"disk-partition", "DiskPartitionButton", "DiskPartition"},
+        {"scan-chooser", "ScanDiskButton", "ScanDisk"},
+        {"clone-select", "CloneDiskButton", "CloneDisk"},
+    };
+    return all;
+}
+
 StepList screenSteps(Walk &walk)
 {
     StepList steps;
     const int drives = walk.driveCount();
     // A PC without a disk shows its screens all the same.
     for (int drive = drives > 0 ? 0 : NoDrive; drive < drives; ++drive) {
-        steps.push_back(
-            {stepName(diskStatus, drive), [drive](Walk &person) { seeDiskStatus(person, drive); }});
-        for (const Page &page : otherPages) {
-            steps.push_back({stepName(page, drive), [page](Walk &person) { seePage(person, page); }});
+        for (const Page &page : pages()) {
+            const bool first = &page == &pages()[DiskStatusPage];
+            steps.push_back({stepName(page, drive), [drive, page, first](Walk &person) {
+                                 first ? seeDiskStatus(person, drive) : seePage(person, page);
+                             }});
             if (QLatin1String(page.step) == QLatin1String("smart-status") && drive != NoDrive) {
                 const StepList more = smartSteps(drive);
                 steps.insert(steps.end(), more.begin(), more.end());
@@ -71,8 +71,7 @@ StepList screenSteps(Walk &walk)
 StepList pageSteps()
 {
     StepList steps;
-    steps.push_back({QLatin1String(diskStatus.step), [](Walk &person) { seePage(person, diskStatus); }});
-    for (const Page &page : otherPages)
+    for (const Page &page : pages())
         steps.push_back({QLatin1String(page.step), [page](Walk &person) { seePage(person, page); }});
     return steps;
 }

@@ -16,6 +16,16 @@ struct Step {
 
 using StepList = std::vector<Step>;
 
+/// One of the five screens: how a step that shows it is named, its navigation button, its class.
+struct Page {
+    const char *step;
+    const char *button;
+    const char *className;
+};
+
+/// All of them, in the order of the navigation.
+const std::vector<Page> &pages();
+
 /// A stretch of the walk. Its steps are asked for when it begins, so they may depend on what the program
 /// shows.
 struct Chapter {
@@ -30,6 +40,7 @@ StepList startSteps(Walk &walk);
 StepList screenSteps(Walk &walk);
 StepList menuSteps(Walk &walk);
 StepList settingsSteps(Walk &walk);
+StepList hurrySteps(Walk &walk);
 StepList scanSteps(Walk &walk);
 StepList selfTestSteps(Walk &walk);
 StepList cloneSteps(Walk &walk);

@@ -52,7 +52,7 @@ bool readArguments(const QStringList &arguments, QString *pc, QString *out)
 bool TourPlan::wants(const QString &key) const
 {
     const QJsonValue wish = wishes.value(key);
-    return wish.isArray() ? !wish.toArray().isEmpty() : wish.toBool();
+    return wish.isArray() ? !wish.toArray().isEmpty() : wish.isObject() || wish.toBool();
 }
 
 namespace tourplan

@@ -12,7 +12,8 @@ struct TourPlan {
     QJsonObject wishes; ///< "tour" of the described PC
     int stepLimit = 30; ///< seconds
 
-    /// Whether the described PC asks for what `key` names: true, or a list that is not empty.
+    /// Whether the described PC asks for what `key` names: true, an object, or a list that is
+    /// not empty.
     bool wants(const QString &key) const;
 };
 

@@ -112,7 +112,7 @@ void Walk::waitForNoWindow(const QString &windowClass)
 
 void Walk::waitIdle()
 {
-    // A request made while the reader still runs is lost, and the busy frame goes a moment before it ends.
+    // Between two reads the busy frame may be gone for a moment.
     const auto settled = [this]() {
         for (int waited = 0; waited < SettleTime; waited += PollInterval) {
             m_pProgram->pause(PollInterval);
@@ -332,11 +332,30 @@ TourReport::Screen Walk::look(const QString &step, const Finder &find)
     });
 }
 
-void Walk::record(const QString &step, const QString &windowClass)
+void Walk::hurryToDrive(int index)
 {
-    const TourReport::Screen screen = look(step, [windowClass]() { return windows::byClass(windowClass); });
+    m_pProgram->ask([index]() {
+        QComboBox *drives = windows::combo(mainWindow(), DriveCombo);
+        if (!drives || !drives->isVisible() || !drives->isEnabled())
+            return;
+        drives->setCurrentIndex(index);
+        emit drives->activated(index);
+    });
+}
+
+QJsonObject Walk::contents()
+{
+    return m_pProgram->ask(
+        []() { return mainWindow() ? screenrecorder::describe(mainWindow()) : QJsonObject(); });
+}
+
+void Walk::record(const QString &step, const QString &windowClass, const QJsonObject &more)
+{
+    TourReport::Screen screen = look(step, [windowClass]() { return windows::byClass(windowClass); });
     if (screen.step.isEmpty())
         throw StepFailed(windowClass + QStringLiteral(" is not there"));
+    for (auto it = more.begin(); it != more.end(); ++it)
+        screen.contents.insert(it.key(), it.value());
     m_pReport->add(screen);
 }
 

@@ -69,8 +69,16 @@ public:
     /// Number of items in the drive combo.
     int driveCount();
 
-    /// Records what a window shows as `step`.
-    void record(const QString &step, const QString &windowClass = QStringLiteral("MainWindow"));
+    /// Chooses an item of the drive combo within a moment, as the arrow keys do, and waits for nothing.
+    void hurryToDrive(int index);
+    /// Presses a navigation button and waits for nothing.
+    void hurryTo(const QString &buttonName) { press(QStringLiteral("MainWindow"), {buttonName}); }
+
+    /// Records what a window shows as `step`, `more` beside it.
+    void record(const QString &step, const QString &windowClass = QStringLiteral("MainWindow"),
+                const QJsonObject &more = {});
+    /// What the main window shows, unrecorded.
+    QJsonObject contents();
     void recordMenu(const QString &step);
     /// Records a window that a step expects as `dialog:<class>`, unless it was recorded with the same texts.
     void recordDialog(const QString &windowClass);

@@ -24,6 +24,8 @@ private slots:
     void recordsGraphs();
     void recordsWhatADiskShows_data();
     void recordsWhatADiskShows();
+    void hurries_data();
+    void hurries();
     void scalesWithTheDisplay();
     void namesAStepThatHangs();
     void recordsTheRefusalOfASecondInstance();
@@ -335,6 +337,40 @@ void tst_Tour::recordsWhatADiskShows()
     QFETCH(QString, text);
     QVERIFY(stepNames(data).contains(step));
     QCOMPARE(widgetOf(stepOf(data, step), name)[QStringLiteral("text")].toString(), text);
+}
+
+void tst_Tour::hurries_data()
+{
+    QTest::addColumn<QByteArray>("laterReport");
+    QTest::addColumn<int>("status");
+    QTest::newRow("each shows its disk") << QByteArray() << 0;
+    // It tells of another one from its twentieth run on.
+    QTest::newRow("the second disk shows the first one") << QByteArray("ata.txt") << 1;
+}
+
+void tst_Tour::hurries()
+{
+    QFETCH(QByteArray, laterReport);
+    describePc(96, false, {{"hurry", QJsonObject{{"choices", 20}, {"seed", 3}}}});
+    QFile file(path(QStringLiteral("pc.json")));
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    QByteArray json = file.readAll();
+    json.replace("\"name\": \"Two", "\"toolMilliseconds\": 60, \"name\": \"Two");
+    if (!laterReport.isEmpty()) {
+        QByteArray reports;
+        for (int run = 0; run < 9; ++run)
+            reports += "\"nvme.txt\", ";
+        json.replace("\"nvme.txt\"", '[' + reports + '"' + laterReport + "\"]");
+    }
+    file.resize(0);
+    QVERIFY(file.write(json) == json.size());
+    file.close();
+    QTEST(tour(QStringLiteral("out")), "status");
+    const QStringList hurried = stepNames(screens(QStringLiteral("out"))).filter(QStringLiteral("hurry "));
+    QCOMPARE(hurried.size(), 4);
+    const QJsonObject step = stepOf(screens(QStringLiteral("out")), hurried.first());
+    QVERIFY(!step[QStringLiteral("combo")].toString().isEmpty());
+    QVERIFY(!step[QStringLiteral("screen")].toString().isEmpty());
 }
 
 void tst_Tour::scalesWithTheDisplay()

@@ -63,12 +63,7 @@ protected:
         m_pFolder = std::make_unique<DescribedFolder>();
     }
 
-    void waitForRead()
-    {
-        QTRY_VERIFY_WITH_TIMEOUT(!child<QFrame>("GifFrame")->isVisible(), 10000);
-        // The signal comes a moment before the thread has ended, and a request that meets it running is lost.
-        QTest::qWait(30);
-    }
+    void waitForRead() { QTRY_VERIFY_WITH_TIMEOUT(!child<QFrame>("GifFrame")->isVisible(), 10000); }
 
     void select(int index)
     {

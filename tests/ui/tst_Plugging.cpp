@@ -63,6 +63,7 @@ private slots:
     void arrivingDiskJoinsTheList();
     void noticeBehindARefreshCatchesUp();
     void volumeAloneRefreshes();
+    void laterRefreshesRunNoMoreCommands();
     void jobsDropNotices_data();
     void jobsDropNotices();
 
@@ -136,8 +137,6 @@ void tst_Plugging::waitForRest()
 {
     const auto *busy = m_pWindow->findChild<QFrame *>(QStringLiteral("GifFrame"));
     QTRY_VERIFY_WITH_TIMEOUT(!busy->isVisible() && !g_bListsLoading, 10000);
-    // The signal comes a moment before its thread has ended, and a request that meets it running is lost.
-    QTest::qWait(50);
 }
 
 QVector<int> tst_Plugging::disks() const
@@ -211,6 +210,24 @@ void tst_Plugging::volumeAloneRefreshes()
     QCOMPARE(disks(), (QVector<int>{128, 132}));
     QVERIFY(!letters(132).contains(QLatin1String("L:")));
     QVERIFY(letters(132).contains(QLatin1String("N:")));
+}
+
+void tst_Plugging::laterRefreshesRunNoMoreCommands()
+{
+    const auto commandsOfARefresh = [this] {
+        const QString log = m_strState + QStringLiteral("/commands.log");
+        const int before = DescribedFolder::contents(log).size();
+        m_pWindow->OnRefresh();
+        waitForRest();
+        return DescribedFolder::contents(log).mid(before);
+    };
+    commandsOfARefresh();
+    const QByteArray second = commandsOfARefresh();
+    QCOMPARE(second.count("TASKKILL"), 1);
+    QByteArray last;
+    for (int refresh = 3; refresh <= 20; ++refresh)
+        last = commandsOfARefresh();
+    QCOMPARE(last, second);
 }
 
 void tst_Plugging::jobsDropNotices_data()

@@ -26,8 +26,9 @@ private slots:
     void report();
     void reportThatCannotBeWritten();
     void screenshot();
+    void offeredNameGetsItsEnding();
     void cancelled();
-    void withoutSmart();
+    void nothingToSave();
 
 private:
     /// What the file dialog asked, and whether one came up at all.
@@ -58,7 +59,8 @@ void tst_Report::init()
         {"number": 0, "model": "A ATA Device", "interface": "IDE", "sectors": 2097152,
          "report": "ata.txt", "selfTestLog": "log.txt"},
         {"number": 1, "model": "B Device", "interface": "SCSI", "sectors": 2097152,
-         "report": "nvme.txt", "selfTestLog": "log.txt"}]})");
+         "report": "nvme.txt", "selfTestLog": "log.txt"},
+        {"number": 2, "model": "C Device", "interface": "SCSI", "sectors": 2097152}]})");
     makeWindow();
     waitForRead();
     press("SmartStatusButton");
@@ -163,6 +165,17 @@ void tst_Report::screenshot()
     QVERIFY(green);
 }
 
+void tst_Report::offeredNameGetsItsEnding()
+{
+    const QString offered = newFile("Velmora Smart Report ST-500 AS");
+    click("ReportSaveButton", offered);
+    QVERIFY(DescribedFolder::contents(offered + QStringLiteral(".pdf")).startsWith("%PDF"));
+    QVERIFY(!QFile::exists(offered));
+    g_strGraphTitle = QStringLiteral("Page");
+    click("ScreenshotButton", newFile("Page"));
+    QVERIFY(DescribedFolder::contents(newFile("Page.jpg")).startsWith("\xff\xd8"));
+}
+
 void tst_Report::cancelled()
 {
     QVERIFY(click("ReportSaveButton", QString()).came);
@@ -171,9 +184,20 @@ void tst_Report::cancelled()
     QCOMPARE(commands(" -l selftest "), 0);
 }
 
-void tst_Report::withoutSmart()
+void tst_Report::nothingToSave()
 {
-    g_bSmartAvailable = false;
+    const auto enabled = [this] {
+        return child<QPushButton>("ReportSaveButton")->isEnabled() ||
+               child<QPushButton>("ScreenshotButton")->isEnabled();
+    };
+    QVERIFY(enabled());
+    press("SmartStatusButton"); // the disk is read once more
+    QVERIFY(!enabled());
+    m_pWindow->SavePDFReport();
+    waitForRead();
+    QVERIFY(enabled());
+    select(2); // a disk without SMART
+    QVERIFY(!enabled());
     m_pWindow->SavePDFReport();
     m_pWindow->TakeScreenshot();
     QVERIFY(!QApplication::activeModalWidget());

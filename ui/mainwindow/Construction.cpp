@@ -426,6 +426,8 @@ void MainWindow::connectAll()
     connect(m_pSettings->OkButton, &QPushButton::clicked, this, &MainWindow::OnSetSmartSettings);
     connect(m_pSettings->CloseButton, &QPushButton::clicked, this, &MainWindow::OnSetSmartSettings);
 
+    connect(&m_smartThread, &SMARTThread::OnLodingSmarInfo, this, &MainWindow::OnInitializeSmart);
+    connect(&m_refreshThread, &QRefThreadDevicesLoad::OnLoadingDevices, this, &MainWindow::OnInitialize);
     connect(m_pSmartStatusPage->m_pAttributeTree, &QTreeWidget::itemClicked, this,
             &MainWindow::GraphWithAttributes);
     connect(m_pCloneDiskPage, &CloneDisk::OnCloneFinish, this, &MainWindow::OnCloningFinish);

@@ -5,6 +5,7 @@
 #include "app/state/Globals.h"
 #include "app/state/StartArgument.h"
 #include "inventory/WmicInventory.h"
+#include "smart/DiskFigures.h"
 #include "ui/CloneDisk.h"
 #include "ui/CloneWarning.h"
 #include "ui/ScanDisk.h"
@@ -86,12 +87,11 @@ void MainWindow::selectCloneArgument()
 
 void MainWindow::refreshClonePage()
 {
-    // The choice of disks is that of the clone until it has ended.
-    if (m_pCloneDiskPage->IsCloning())
+    // The choice of disks is that of the clone until it has ended. The lists and the identity texts are the
+    // loader's during a refresh, whose end comes back here.
+    if (g_bListsLoading || m_pCloneDiskPage->IsCloning())
         return;
-    g_strSerialNumber.clear();
-    g_strModelName.clear();
-    g_strFirmware.clear();
+    clearIdentityTexts();
     QComboBox *source = m_pCloneDiskPage->SourceComboBox;
     source->setCurrentIndex(DriveCombobox->currentIndex());
     LookUpDisk(DriveCombobox->currentIndex());
@@ -108,14 +108,14 @@ void MainWindow::OnRefresh()
     m_pCloneWarning->hide();
     enterBusy(tr("Please wait. Application Refreshing..."));
     label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    // As with a read, each refresh adds a connection.
-    connect(&m_refreshThread, &QRefThreadDevicesLoad::OnLoadingDevices, this, &MainWindow::OnInitialize);
     // From here to OnInitialize() the lists are the thread's. A read that is under way ends first: both use
     // one file.
     m_bRefreshAgain = g_bListsLoading;
     if (g_bListsLoading)
         return;
     g_bListsLoading = true;
+    m_smartThread.forget();
+    updateReportButtons();
     g_App.m_pCurrentDisk = nullptr;
     g_App.m_pCloneDisk = nullptr;
     m_refreshThread.startBehind(m_smartThread);
@@ -123,9 +123,9 @@ void MainWindow::OnRefresh()
 
 void MainWindow::OnInitialize()
 {
-    // One signal runs this once for each refresh so far. A refresh or a clone that began meanwhile has the
-    // lists already.
-    if (!m_refreshThread.isComplete() || m_pCloneDiskPage->IsCloning())
+    // The first run behind a load has its lists; there is nothing for later ones, nor while a newer load
+    // runs.
+    if (!g_bListsLoading || !m_refreshThread.isComplete())
         return;
     g_bListsLoading = false;
     FillDriveCombos();
@@ -138,8 +138,10 @@ void MainWindow::OnInitialize()
             m_pCloneDiskPage->SourceComboBox->setCurrentIndex(i);
         }
     }
-    RefreshSelectedDisk();
     leaveBusy();
+    // A number may stand for another disk now.
+    takeUpDisk(NoDisk);
+    RefreshSelectedDisk();
     m_bRefreshing = false;
     // What came or went during the load may be missing in the lists.
     if (m_bRefreshAgain)

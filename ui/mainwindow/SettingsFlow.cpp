@@ -5,6 +5,7 @@
 #include "app/state/SettingsStore.h"
 #include "inventory/Companion.h"
 #include "platform/Platform.h"
+#include "smart/SmartGlobals.h"
 #include "smart/Temperature.h"
 #include "ui/DiskStatus.h"
 #include "ui/Settings.h"
@@ -41,9 +42,12 @@ void MainWindow::OnShowSettings()
 void MainWindow::OnSetSmartSettings()
 {
     m_pSettings->SaveToStore();
+    const QString unit = SettingsStore().text(key::TempValue);
     const int celsius = GetDiskTemperature();
-    g_strTemperatureText = loadTemperatureText(celsius, SettingsStore().text(key::TempValue));
-    m_pDiskStatusPage->tempValueLbl->setText(celsius < 1 ? tr("Not Supported") : g_strTemperatureText);
+    g_strTemperatureText = loadTemperatureText(celsius, unit);
+    m_pDiskStatusPage->tempValueLbl->setText(g_bReportPending ? waitingTemperatureText(unit)
+                                             : celsius < 1    ? tr("Not Supported")
+                                                              : g_strTemperatureText);
     const bool tray = m_pSettings->TrayChkBox->isChecked();
     if (tray) {
         Platform::current().CreateLogonTask(companionTask());

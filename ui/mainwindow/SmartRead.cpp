@@ -8,6 +8,7 @@
 #include "app/state/StartArgument.h"
 #include "inventory/CommandRunner.h"
 #include "inventory/Companion.h"
+#include "smart/DiskFigures.h"
 #include "smart/Rating.h"
 #include "smart/ReportParser.h"
 #include "smart/SmartGlobals.h"
@@ -23,7 +24,6 @@
 #include "ui/Style.h"
 
 #include <QDir>
-#include <QFileInfo>
 #include <QMovie>
 #include <QTreeWidget>
 
@@ -55,14 +55,35 @@ int MainWindow::currentComboDisk() const
 
 void MainWindow::RequestSmartRead(int diskIndex)
 {
-    m_smartThread.RequestSmartRead(diskIndex);
+    // The end of a refresh has each disk read anew.
+    if (!g_bListsLoading)
+        m_smartThread.RequestSmartRead(diskIndex);
 }
 
-void MainWindow::clearForRead()
+/// Nothing of another disk stays on show under the name of the one that is chosen.
+void MainWindow::takeUpChosenDisk()
 {
-    g_strSerialNumber.clear();
-    g_strModelName.clear();
-    g_strFirmware.clear();
+    g_nCurrentDiskIndex = currentComboDisk();
+    if (!takeUpDisk(g_nCurrentDiskIndex))
+        return;
+    m_pDiskStatusPage->clearDisk();
+    m_pSmartStatusPage->ClearDisk();
+    clearPartitions();
+    m_pDiskPartitionPage->FillPartitionHeader();
+    m_pDiskPartitionPage->ShowSizes();
+    for (QLabel *value : {SerialNumValLabel, InterfaceTypeLabel, CapacityValLabel, ResultLabel})
+        value->clear();
+    showWaitingTiles();
+}
+
+void MainWindow::clearIdentityTexts()
+{
+    for (QString *text : {&g_strSerialNumber, &g_strModelName, &g_strFirmware})
+        text->clear();
+}
+
+void MainWindow::showWaitingTiles()
+{
     m_pDiskStatusPage->tempValueLbl->setText(waitingTemperatureText(SettingsStore().text(key::TempValue)));
     g_strHealthText = QStringLiteral("0%");
     g_strPerformanceText = QStringLiteral("0%");
@@ -75,17 +96,18 @@ void MainWindow::clearForRead()
 
 void MainWindow::RefreshSelectedDisk()
 {
+    takeUpChosenDisk();
+    updateReportButtons();
     // Its end reloads the screen that shows then. A clone keeps the disks that it was started with.
     if (g_bListsLoading || m_pCloneDiskPage->IsCloning())
         return;
-    clearForRead();
-    g_nCurrentDiskIndex = currentComboDisk();
+    showWaitingTiles();
+    clearIdentityTexts();
     LookUpDisk(DriveCombobox->currentIndex());
     if (isDown(navigation::DiskStatusScreen)) {
         startRead();
     } else if (isDown(navigation::SmartStatusScreen)) {
         m_pSmartStatusPage->m_pAttributeTree->clear();
-        m_tableSerial.reset();
         startRead();
     } else if (isDown(navigation::ScanDiskScreen)) {
         refreshScanPage();
@@ -102,12 +124,21 @@ void MainWindow::RefreshSelectedDisk()
 
 void MainWindow::startRead()
 {
-    // Made anew at each read and never undone: after n reads the slot runs n times, of which the first one
-    // takes the report in and the others show the same again. It stands before the request, as a quick tool
-    // may be done before the next line.
-    connect(&m_smartThread, &SMARTThread::OnLodingSmarInfo, this, &MainWindow::OnInitializeSmart);
     RequestSmartRead(g_nCurrentDiskIndex);
+    updateReportButtons();
     enterBusy(tr("Please wait. Getting SMART information..."));
+}
+
+/// Report and screenshot are of the disk that is chosen, or there are none.
+void MainWindow::updateReportButtons()
+{
+    ReportSaveButton->setEnabled(reportKnown());
+    ScreenshotButton->setEnabled(reportKnown());
+}
+
+bool MainWindow::reportKnown() const
+{
+    return g_bSmartAvailable && !g_bReportPending && !g_bListsLoading && !m_smartThread.isReading();
 }
 
 void MainWindow::enterBusy(const QString &text)
@@ -141,23 +172,33 @@ void MainWindow::prepareLogFolder()
 
 void MainWindow::OnInitializeSmart()
 {
-    // A read from before a refresh: the report's file belongs to the load by now, and each disk is read anew
-    // behind it.
-    if (g_bListsLoading)
+    // The first run behind a read finds its report. None is there while a newer read runs, nor behind one
+    // that a refresh has cut short.
+    const std::optional<int> disk = m_smartThread.takeReport();
+    if (!disk)
         return;
     prepareLogFolder();
-    if (isDown(navigation::SmartStatusScreen))
-        initializeSmartStatus();
-    else if (isDown(navigation::DiskStatusScreen) && !initializeDiskStatus())
-        return;
+    if (*disk == currentComboDisk()) {
+        if (isDown(navigation::SmartStatusScreen))
+            initializeSmartStatus();
+        else if (isDown(navigation::DiskStatusScreen))
+            initializeDiskStatus();
+    }
+    updateReportButtons();
     leaveBusy();
+}
+
+/// Takes the report in that the reader has left.
+void MainWindow::takeReportIn()
+{
+    DetectReportKind(g_strSmartReportPath);
+    ParseSmartReport(g_strSmartReportPath);
+    g_bReportPending = false;
 }
 
 void MainWindow::initializeSmartStatus()
 {
-    const bool freshReport = QFileInfo::exists(nativePath(g_strSmartReportPath));
-    DetectReportKind(g_strSmartReportPath);
-    ParseSmartReport(g_strSmartReportPath);
+    takeReportIn();
     ComputePerformance();
     ComputeHealth();
     if (g_strRunMode == QLatin1String("Schedular"))
@@ -184,7 +225,9 @@ void MainWindow::initializeSmartStatus()
         m_pSmartStatusPage->SerialNunValueLbl->setText(g_strSerialNumber.trimmed());
     if (node)
         m_pSmartStatusPage->CapcityValLbl->setText(node->szSize.text());
-    refillSmartTable(freshReport);
+    m_pSmartStatusPage->GraphLabel->clear();
+    m_pSmartStatusPage->m_pAttributeTree->clear();
+    FillSmartTable();
 }
 
 void MainWindow::showSmartHeading()
@@ -196,21 +239,19 @@ void MainWindow::showSmartHeading()
     m_pSmartStatusPage->m_pHeadingResultLabel->setStyleSheet(QStringLiteral("QLabel {color : white;}"));
 }
 
-bool MainWindow::initializeDiskStatus()
+void MainWindow::initializeDiskStatus()
 {
-    DetectReportKind(g_strSmartReportPath);
-    ParseSmartReport(g_strSmartReportPath);
+    takeReportIn();
     const int celsius = GetDiskTemperature();
     if (!SettingsStore().flag(key::ShowTrayIcon))
         companion::killAfterRead();
-    else if (!companion::ensureRunning(companion::StartBy::FullPath))
-        return false;
+    else
+        companion::ensureRunning(companion::StartBy::FullPath);
     showTemperature(celsius);
     g_bSmartAvailable = celsius != 0;
     ComputePerformance();
     ComputeHealth();
     ShowDiskLifeDetails();
-    return true;
 }
 
 void MainWindow::showTemperature(int celsius)
@@ -273,8 +314,9 @@ void MainWindow::showLifeFields(const DiskNode *node)
 
 void MainWindow::GetSmartTemprature()
 {
-    // Reads only while Disk Partition shows, although the tile it writes lies on another screen.
-    if (m_bRefreshing || !isDown(navigation::DiskPartitionScreen))
+    // Reads only while Disk Partition shows, although the tile it writes lies on another screen. A read that
+    // is under way has the file; the next minute comes.
+    if (m_bRefreshing || m_smartThread.isReading() || !isDown(navigation::DiskPartitionScreen))
         return;
     const QString unit = SettingsStore().text(key::TempValue);
     RefreshTemperatureReport(currentComboDisk());

@@ -29,20 +29,8 @@ std::vector<HistoryValue> historyValues(const std::vector<AttributeRow> &rows)
 
 } // namespace
 
-void MainWindow::refillSmartTable(bool freshReport)
-{
-    // Of the many runs behind one read only the first has something new to show. Another serial number names
-    // other files, so the graph has to be drawn from these.
-    if (!freshReport && m_tableSerial == g_strSerialNumber)
-        return;
-    m_pSmartStatusPage->GraphLabel->clear();
-    m_pSmartStatusPage->m_pAttributeTree->clear();
-    FillSmartTable();
-}
-
 void MainWindow::FillSmartTable()
 {
-    m_tableSerial = g_strSerialNumber;
     const std::vector<AttributeRow> rows = SmartStatus::CurrentRows();
     recordHistory(g_strSerialNumber, QDateTime::currentDateTime(), historyValues(rows));
     m_pSmartStatusPage->ShowRows(rows);

@@ -1,0 +1,11 @@
+#pragma once
+
+/// What is known of the disk that is chosen, in the globals of this folder and of app/state/Globals.h:
+/// attribute lists, ratings, life, last self-test, title of the graph. Main thread only.
+
+constexpr int NoDisk = -1;
+
+/// Makes `disk` (its physical number, or NoDisk) the one that all this is of. Where that was another one
+/// everything is forgotten, g_bReportPending is set, and true comes back. The three identity texts, which a
+/// device load uses too, stay.
+bool takeUpDisk(int disk);
