@@ -10,6 +10,7 @@
 #include "ui/MainWindow.h"
 #include "ui/Style.h"
 
+#include <QCursor>
 #include <QLinearGradient>
 #include <QMovie>
 #include <QPainter>
@@ -57,6 +58,8 @@ QWaitClass::QWaitClass()
     InitTextLabel->setStyleSheet(QStringLiteral("QLabel { color : black;}"));
     InitTextLabel->setFont(style::font(10));
     startFadeIn();
+    // Where a window manager puts a splash is no place for the main window to go by.
+    style::centreOn(this, style::availableArea(QCursor::pos()));
     if (DeviceNotifier *notifier = Platform::current().deviceNotifier())
         connect(notifier, &DeviceNotifier::deviceChange, this, &QWaitClass::onDeviceChange);
 }

@@ -133,8 +133,8 @@ void DialogFrame::fit()
         return;
     m_pWindow->setFixedSize(width, height);
     if (m_pWindow->testAttribute(Qt::WA_Moved))
-        m_pWindow->move(m_pWindow->x() + (before.width() - width) / 2,
-                        m_pWindow->y() + (before.height() - height) / 2);
+        style::placeWindow(m_pWindow, m_pWindow->pos() + QPoint((before.width() - width) / 2,
+                                                                (before.height() - height) / 2));
 }
 
 void DialogFrame::paint() const

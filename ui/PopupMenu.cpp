@@ -1,6 +1,7 @@
 #include "ui/PopupMenu.h"
 
 #include "app/state/GlobalApp.h"
+#include "ui/Style.h"
 
 #include <QShowEvent>
 
@@ -11,9 +12,9 @@ void PopupMenu::showEvent(QShowEvent *event)
     QMenu::showEvent(event);
     const QWidget *main = parentWidget() ? parentWidget()->window() : nullptr;
     if (!m_bAlignRight) {
-        move(x(), y() + static_cast<int>(g_App.m_fScale * 12.0F));
+        style::placeWindow(this, QPoint(x(), y() + static_cast<int>(g_App.m_fScale * 12.0F)));
     } else if (main && main->isVisible()) {
         const QRect frame = main->geometry();
-        move(frame.x() + frame.width() - width(), y());
+        style::placeWindow(this, QPoint(frame.x() + frame.width() - width(), y()));
     }
 }

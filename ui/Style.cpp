@@ -3,9 +3,14 @@
 #include "app/state/GlobalApp.h"
 #include "app/state/Scale.h"
 
+#include <QGuiApplication>
 #include <QPalette>
 #include <QPushButton>
+#include <QScreen>
+#include <QTextDocument>
 #include <QWidget>
+
+#include <algorithm>
 
 namespace style
 {
@@ -64,10 +69,51 @@ void scaleWidget(QWidget *widget)
     widget->move(px(design.x()), px(design.y()));
 }
 
-void centreOn(QWidget *widget, const QRect &rect)
+QRect availableArea(const QPoint &place)
 {
-    widget->move(rect.x() + (rect.width() - widget->width()) / 2,
-                 rect.y() + (rect.height() - widget->height()) / 2);
+    const auto distance = [&place](const QScreen *screen) {
+        const QRect area = screen->geometry();
+        const QPoint nearest(qBound(area.left(), place.x(), area.right()),
+                             qBound(area.top(), place.y(), area.bottom()));
+        return (nearest - place).manhattanLength();
+    };
+    const QList<QScreen *> screens = QGuiApplication::screens();
+    const auto nearest =
+        std::min_element(screens.cbegin(), screens.cend(), [&](const QScreen *left, const QScreen *right) {
+            return distance(left) < distance(right);
+        });
+    return nearest == screens.cend() ? QRect() : (*nearest)->availableGeometry();
+}
+
+QPoint placeWithin(const QRect &window, const QRect &area)
+{
+    const int x = std::min(window.x(), area.x() + area.width() - window.width());
+    const int y = std::min(window.y(), area.y() + area.height() - window.height());
+    return QPoint(std::max(x, area.x()), std::max(y, area.y()));
+}
+
+void placeWindow(QWidget *window, const QPoint &place)
+{
+    const QRect wanted(place, window->size());
+    window->move(placeWithin(wanted, availableArea(wanted.center())));
+}
+
+void centreOn(QWidget *window, const QRect &rect)
+{
+    placeWindow(window, QPoint(rect.x() + (rect.width() - window->width()) / 2,
+                               rect.y() + (rect.height() - window->height()) / 2));
+}
+
+QString wholeTip(const QString &text)
+{
+    return Qt::mightBeRichText(text) ? text.toHtmlEscaped() : text;
+}
+
+void setWholeTip(QWidget *widget, const QString &text)
+{
+    const QString tip = wholeTip(text);
+    if (widget->toolTip() != tip)
+        widget->setToolTip(tip);
 }
 
 QString fieldSheet()

@@ -28,8 +28,25 @@ void setWhiteBackground(QWidget *widget);
 /// Multiplies a widget's size and place by the display scale, truncated.
 void scaleWidget(QWidget *widget);
 
-/// Moves `widget` to the middle of `rect`.
-void centreOn(QWidget *widget, const QRect &rect);
+/// The area of the nearest screen that windows may take, without the desktop's own bars.
+QRect availableArea(const QPoint &place);
+
+/// The place nearest to that of `window` where all of it lies in `area`; its upper left where it is too
+/// large.
+QPoint placeWithin(const QRect &window, const QRect &area);
+
+/// Moves a window to `place`, or as near as the screen allows that its middle would be on.
+void placeWindow(QWidget *window, const QPoint &place);
+
+/// Moves `window` to the middle of `rect`, as far as the screen allows.
+void centreOn(QWidget *window, const QRect &rect);
+
+/// A text as a tool tip shows it: letter by letter, whatever a drive calls itself.
+QString wholeTip(const QString &text);
+
+/// Gives a widget that draws less than its text the whole of it as a tool tip, and takes it back with an
+/// empty one. May be called while it paints.
+void setWholeTip(QWidget *widget, const QString &text);
 
 /// The look of the window's fields: combos, spin boxes, line edits, check boxes and scroll bars. Belongs on a
 /// top-level window.

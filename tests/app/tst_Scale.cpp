@@ -1,4 +1,5 @@
 #include "app/state/Scale.h"
+#include "ui/Style.h"
 
 #include <QtTest>
 
@@ -13,6 +14,8 @@ private slots:
     void imagePath_data();
     void imagePath();
     void sizesAreTruncated();
+    void windowsStayOnTheirScreen_data();
+    void windowsStayOnTheirScreen();
 };
 
 void tst_Scale::factor_data()
@@ -70,6 +73,25 @@ void tst_Scale::sizesAreTruncated()
     QCOMPARE(scale::scaled(55, 1.25F), 68);
     QCOMPARE(scale::scaled(905, 1.25F), 1131);
     QCOMPARE(scale::scaled(-15, 1.5F), -22);
+}
+
+void tst_Scale::windowsStayOnTheirScreen_data()
+{
+    QTest::addColumn<QRect>("window");
+    QTest::addColumn<QPoint>("place");
+    QTest::newRow("on it") << QRect(100, 60, 905, 600) << QPoint(100, 60);
+    QTest::newRow("past the upper left") << QRect(-227, -180, 905, 600) << QPoint(0, 30);
+    QTest::newRow("past the lower right") << QRect(1200, 900, 905, 600) << QPoint(495, 430);
+    QTest::newRow("larger than it") << QRect(-10, 200, 1500, 1100) << QPoint(0, 30);
+}
+
+void tst_Scale::windowsStayOnTheirScreen()
+{
+    QFETCH(QRect, window);
+    const QRect area(0, 30, 1400, 1000); // behind a bar at the top
+    QTEST(style::placeWithin(window, area), "place");
+    QTEST(style::placeWithin(window.translated(-1400, 0), area.translated(-1400, 0)) + QPoint(1400, 0),
+          "place");
 }
 
 QTEST_APPLESS_MAIN(tst_Scale)
