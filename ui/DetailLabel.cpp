@@ -3,9 +3,7 @@
 #include "ui/Style.h"
 
 #include <QFontMetrics>
-#include <QHelpEvent>
 #include <QPainter>
-#include <QToolTip>
 
 #include <algorithm>
 
@@ -67,19 +65,6 @@ QSize DetailLabel::minimumSizeHint() const
     return {m_nValueX, QFontMetrics(font()).height()};
 }
 
-bool DetailLabel::event(QEvent *event)
-{
-    if (event->type() == QEvent::ToolTip) {
-        const Parts shown = parts(text());
-        const bool fits = QFontMetrics(font()).horizontalAdvance(shown.value) <= valueRoom();
-        const QString whole = shown.caption + shown.value;
-        QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(),
-                           fits ? QString() : whole.toHtmlEscaped(), this);
-        return true;
-    }
-    return QLabel::event(event);
-}
-
 void DetailLabel::paintEvent(QPaintEvent *)
 {
     const Parts shown = parts(text());
@@ -89,6 +74,7 @@ void DetailLabel::paintEvent(QPaintEvent *)
     painter.drawText(rect(), Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, shown.caption);
     painter.setFont(font());
     const QString value = QFontMetrics(font()).elidedText(shown.value, Qt::ElideRight, valueRoom());
+    style::setWholeTip(this, value == shown.value ? QString() : shown.caption + shown.value);
     painter.drawText(QRect(m_nValueX, 0, valueRoom(), height()),
                      Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, value);
 }

@@ -1,9 +1,9 @@
 #include "ui/ElidingComboBox.h"
 
-#include <QHelpEvent>
+#include "ui/Style.h"
+
 #include <QStyleOptionComboBox>
 #include <QStylePainter>
-#include <QToolTip>
 
 QString ElidingComboBox::shownText() const
 {
@@ -15,14 +15,11 @@ QString ElidingComboBox::shownText() const
     return fontMetrics().elidedText(currentText(), Qt::ElideRight, field.width() - 2);
 }
 
-bool ElidingComboBox::event(QEvent *event)
+void ElidingComboBox::showPopup()
 {
-    if (event->type() == QEvent::ToolTip && toolTip().isEmpty()) {
-        const QString whole = shownText() == currentText() ? QString() : currentText();
-        QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), whole.toHtmlEscaped(), this);
-        return true;
-    }
-    return QComboBox::event(event);
+    for (int i = 0; i < count(); ++i)
+        setItemData(i, style::wholeTip(itemText(i)), Qt::ToolTipRole);
+    QComboBox::showPopup();
 }
 
 void ElidingComboBox::paintEvent(QPaintEvent *)
@@ -32,6 +29,7 @@ void ElidingComboBox::paintEvent(QPaintEvent *)
     QStyleOptionComboBox option;
     initStyleOption(&option);
     option.currentText = shownText();
+    style::setWholeTip(this, option.currentText == currentText() ? QString() : currentText());
     painter.drawComplexControl(QStyle::CC_ComboBox, option);
     painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }

@@ -3,14 +3,16 @@
 #include <QComboBox>
 
 /// A combo box that elides a current text too long for it, where the plain one cuts it; a tool tip holds the
-/// whole text then. Without the meta-object macro, so that it goes by the name of QComboBox.
+/// whole text then, and that of each entry of the list. Without the meta-object macro, so that it goes by the
+/// name of QComboBox.
 class ElidingComboBox : public QComboBox
 {
 public:
     using QComboBox::QComboBox;
 
+    void showPopup() override;
+
 protected:
-    bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
