@@ -4,6 +4,8 @@
 #include "app/state/Globals.h"
 #include "inventory/CommandRunner.h"
 
+#include <QHash>
+#include <QRegularExpression>
 #include <QStringList>
 #include <QTextStream>
 
@@ -45,6 +47,48 @@ WmicDiskRecord *makeDiskRecord(const wmic::DiskDriveLine &line)
         record->szModel.assign(line.model);
     record->szStatus.assign(line.status);
     return record;
+}
+
+/// What the drive said of itself through its own interface; null where it said nothing.
+const DiskIdentity *identityOf(const WmicDiskRecord &record)
+{
+    const DiskNode *node = g_App.m_pDiskListHead;
+    while (node && node->nId != record.nDiskId)
+        node = node->pNext;
+    return node && node->pDetails ? node->pDetails->pIdentity.get() : nullptr;
+}
+
+/// The record of a disk whose report names neither gets the names that the system has for it.
+void nameFromTable(WmicDiskRecord &record, const QString &name)
+{
+    const DiskIdentity *identity = identityOf(record);
+    if (record.szSmartModel.isEmpty())
+        record.szSmartModel.assign(name.isEmpty() && identity ? identity->szModel.text() : name);
+    if (record.szSmartSerial.isEmpty() && identity)
+        record.szSmartSerial.assign(identity->szSerial.text());
+}
+
+/// Asks the system for the serials of the disks that did not tell theirs.
+void addMissingSerials()
+{
+    QVector<WmicDiskRecord *> nameless;
+    for (WmicDiskRecord *record = g_pWmicDiskListHead; record; record = record->pNext) {
+        if (record->szSmartSerial.isEmpty() && !record->szInterface.isEmpty())
+            nameless << record;
+    }
+    if (nameless.isEmpty())
+        return;
+    runner::runAndRead(
+        wmicCommand("diskdrive get Index,SerialNumber"), DiskInfoFile, [&nameless](QTextStream &stream) {
+            QHash<quint32, QString> serials;
+            eachDataLine(stream, QLatin1String("Index"), [&serials](const QString &line) {
+                const QStringList fields = fieldsOf(line);
+                if (fields.size() > 1)
+                    serials.insert(fields.at(0).toUInt(), fields.mid(1).join(QLatin1Char(' ')));
+            });
+            for (WmicDiskRecord *record : nameless)
+                record->szSmartSerial.assign(serials.value(record->nIndex));
+        });
 }
 
 LogicalDiskRecord *makeLogicalRecord(const wmic::LogicalDiskLine &line)
@@ -108,8 +152,10 @@ void LoadDiskDrives(const IdentityProbe &probe)
             record->szSmartSerial.assign(g_strSerialNumber);
             record->szSmartFirmware.assign(g_strFirmware);
             record->szSmartModel.assign(g_strModelName);
+            nameFromTable(*record, line.name);
         });
     });
+    addMissingSerials(); // into the same file
 }
 
 void LoadLogicalDisks()
@@ -162,9 +208,18 @@ DiskDriveLine parseDiskDrive(const QString &line)
     for (int i = 2; i <= count - 3; ++i)
         result.model += fields.at(i) + QLatin1Char(' ');
     result.model.chop(4);
+    result.name = wmic::diskName(line);
     if (count > 1)
         result.interfaceText = fields.at(1);
     return result;
+}
+
+QString diskName(const QString &line)
+{
+    static const QRegularExpression driver(QStringLiteral(" (SCSI Disk|[A-Z]{3,4}) Device$"));
+    // Two blanks part the columns, one stands in a name.
+    const QStringList cells = line.split(QStringLiteral("  "), Qt::SkipEmptyParts);
+    return cells.size() < 4 ? QString() : cells.at(2).trimmed().remove(driver);
 }
 
 LogicalDiskLine parseLogicalDisk(const QString &line)

@@ -12,8 +12,9 @@
 using IdentityProbe = std::function<void(int diskIndex, const QString &interfaceText)>;
 
 /// Rebuilds the list at g_pWmicDiskListHead from the system's disk table, asking `probe` for each disk. A
-/// blank line makes a record that is no disk's. Where the table cannot be had the old list stays. Device-load
-/// threads only.
+/// blank line makes a record that is no disk's. A disk whose report names no model or serial has those that
+/// the system knows. Where the table cannot be had the old list stays. Device-load threads only, behind the
+/// list of the physical disks.
 void LoadDiskDrives(const IdentityProbe &probe);
 
 /// Rebuilds the list at g_pLogicalDiskListHead from the system's volume table. Where the table cannot be had
@@ -36,6 +37,7 @@ struct DiskDriveLine {
     QString interfaceText;
     /// Without its last word and the four characters before that: "NW500 ATA Device" gives "NW500 ".
     QString model;
+    QString name; ///< the whole model, without the words of its driver
     QString status;
 };
 
@@ -48,6 +50,10 @@ struct LogicalDiskLine {
 
 /// Index, InterfaceType, Model, Status.
 DiskDriveLine parseDiskDrive(const QString &line);
+
+/// The model of such a line as people know it: "NW500 ATA Device" gives "NW500". Empty where a cell is
+/// missing.
+QString diskName(const QString &line);
 
 /// Caption, FileSystem, FreeSpace, Size.
 LogicalDiskLine parseLogicalDisk(const QString &line);

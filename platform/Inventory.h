@@ -16,6 +16,7 @@ struct Disk {
     QString model;         ///< as the system's disk table shows it
     QString interfaceType; ///< IDE, SCSI, USB, …
     QString status;        ///< OK, Pred Fail, …
+    QString serial;        ///< as the system knows it; empty where it does not
     quint32 bytesPerSector = 512;
     quint64 sectors = 0;
     QString node;       ///< device node or image file

@@ -66,12 +66,9 @@ Details details(const DiskNode &node, const WmicDiskRecord *record)
 std::vector<Destination> destinations(const DiskNode *head, int sourceId)
 {
     std::vector<Destination> found;
-    for (const DiskNode *node = head; node; node = node->pNext) {
-        if (!isPhysicalKind(node->nKind) || node->nId == sourceId)
-            continue;
-        const drivetexts::ComboTexts texts =
-            drivetexts::comboTexts(*node, findWmicDisk(node->nId), node->szSize.text());
-        found.push_back({texts.drive, node->nId});
+    for (const drivetexts::Entry &entry : drivetexts::entries(head)) {
+        if (entry.node->nId != sourceId)
+            found.push_back({entry.texts.drive, entry.node->nId});
     }
     return found;
 }

@@ -12,6 +12,14 @@ std::optional<QString> sectorsOf(const DiskNode &node)
     return QString::number(node.pDetails->nTotalSectors);
 }
 
+/// What the report tells, else what the system knows.
+template<std::size_t Size>
+QString toldOrKnown(const QString &told, const WmicDiskRecord *record, FixedText<Size> WmicDiskRecord::*known)
+{
+    const QString text = told.trimmed();
+    return text.isEmpty() && record ? (record->*known).text() : text;
+}
+
 } // namespace
 
 DiskIdentityTexts identityTextsAfterRead(const DiskNode *node, const WmicDiskRecord *record, int diskNumber,
@@ -31,12 +39,13 @@ DiskIdentityTexts identityTextsAfterRead(const DiskNode *node, const WmicDiskRec
         texts.interfaceText = record->szInterface.text();
     }
     if (!removable) {
-        texts.model = report.model.trimmed();
+        texts.model = toldOrKnown(report.model, record, &WmicDiskRecord::szSmartModel);
         texts.firmware = report.firmware.trimmed();
-        texts.serial = report.serial.trimmed();
+        texts.serial = toldOrKnown(report.serial, record, &WmicDiskRecord::szSmartSerial);
     } else if (!report.smartAvailable) {
-        texts.model = QCoreApplication::translate("MainWindow", "Not Available");
-        texts.firmware = texts.model;
+        texts.firmware = QCoreApplication::translate("MainWindow", "Not Available");
+        if (texts.model.value_or(QString()).isEmpty())
+            texts.model = texts.firmware;
     }
     texts.sectors = sectorsOf(*node);
     return texts;

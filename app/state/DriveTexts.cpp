@@ -1,6 +1,10 @@
 #include "app/state/DriveTexts.h"
 
+#include "app/state/Globals.h"
+
 #include <QCoreApplication>
+
+#include <algorithm>
 
 namespace drivetexts
 {
@@ -25,11 +29,21 @@ QString identityText(const DiskNode &node)
 ComboTexts removableTexts(const DiskNode &node, const WmicDiskRecord *record)
 {
     QString text;
-    if (record)
-        text = record->szModel.text() + QLatin1Char(' ') + record->szSmartSerial.text();
+    if (record) {
+        const QString model =
+            record->szModel.isEmpty() ? record->szSmartModel.text() : record->szModel.text();
+        text = model + QLatin1Char(' ') + record->szSmartSerial.text();
+    }
     if (text.trimmed().isEmpty())
         text = numberedName(node);
     return {text, text};
+}
+
+/// Whether several entries have this text.
+bool isShared(const std::vector<Entry> &list, QString ComboTexts::*text, const Entry &entry)
+{
+    return std::count_if(list.cbegin(), list.cend(),
+                         [&](const Entry &other) { return other.texts.*text == entry.texts.*text; }) > 1;
 }
 
 } // namespace
@@ -47,6 +61,24 @@ ComboTexts comboTexts(const DiskNode &node, const WmicDiskRecord *record, const 
     if (text.isEmpty())
         text = numberedName(node);
     return {text, text};
+}
+
+std::vector<Entry> entries(const DiskNode *head)
+{
+    std::vector<Entry> list;
+    for (const DiskNode *node = head; node; node = node->pNext) {
+        if (isPhysicalKind(node->nKind))
+            list.push_back({node, comboTexts(*node, findWmicDisk(node->nId), node->szSize.text())});
+    }
+    const std::vector<Entry> alike = list;
+    for (Entry &entry : list) {
+        const bool sameSource = isShared(alike, &ComboTexts::source, entry);
+        if (isShared(alike, &ComboTexts::drive, entry))
+            entry.texts.drive += QStringLiteral(" | ") + numberedName(*entry.node);
+        if (sameSource)
+            entry.texts.source = entry.texts.drive;
+    }
+    return list;
 }
 
 QString displayName(const DiskNode &node)

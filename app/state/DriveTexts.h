@@ -4,6 +4,8 @@
 
 #include <QString>
 
+#include <vector>
+
 /// The texts under which a physical disk stands in the drive combos.
 namespace drivetexts
 {
@@ -16,6 +18,15 @@ struct ComboTexts {
 /// The texts of a physical node. `record` is its line of the system's disk table, null if there is none;
 /// `size` is the disk's size text.
 ComboTexts comboTexts(const DiskNode &node, const WmicDiskRecord *record, const QString &size);
+
+struct Entry {
+    const DiskNode *node;
+    ComboTexts texts;
+};
+
+/// The physical disks of a list, in its order, each with texts that no other one has: where two read alike,
+/// the drive's text ends in the disk's number, and the source has the text of the drive.
+std::vector<Entry> entries(const DiskNode *head);
 
 /// The node's own display name: identity model and serial, or "Removable Drive".
 QString displayName(const DiskNode &node);

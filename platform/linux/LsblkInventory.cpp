@@ -105,8 +105,9 @@ QString modelOf(const QJsonObject &device)
     QString model = text(device, "model");
     if (model.isEmpty())
         model = QLatin1String("Disk ") + text(device, "kname");
-    // SATA disks bear the bus as their vendor, virtual ones a number.
-    else if (!vendor.isEmpty() && vendor != QLatin1String("ATA") && !vendor.startsWith(QLatin1String("0x")))
+    // SATA disks bear the bus as their vendor, virtual ones a number; some name it twice.
+    else if (!vendor.isEmpty() && vendor != QLatin1String("ATA") && !vendor.startsWith(QLatin1String("0x")) &&
+             !model.startsWith(vendor, Qt::CaseInsensitive))
         model = vendor + QLatin1Char(' ') + model;
     return QStringLiteral("%1 %2 Device").arg(model, QLatin1String(busOf(device).word));
 }
@@ -126,6 +127,7 @@ Disk toDisk(const QJsonObject &device, int diskNumber)
     disk.model = modelOf(device);
     disk.interfaceType = QLatin1String(busOf(device).interfaceType);
     disk.status = statusOf(device);
+    disk.serial = text(device, "serial");
     if (const quint64 sectorSize = number(device, "log-sec"); sectorSize >= SectorSize)
         disk.bytesPerSector = static_cast<quint32>(sectorSize);
     disk.sectors = number(device, "size") / SectorSize;
@@ -367,10 +369,11 @@ void addPartitions(QVector<FoundPartition> found, const Extent &systemExtent, In
 
 QStringList arguments()
 {
-    return {QStringLiteral("--json"), QStringLiteral("--bytes"), QStringLiteral("--output"),
-            QStringLiteral(
-                "NAME,KNAME,PATH,TYPE,SIZE,START,LOG-SEC,RM,TRAN,VENDOR,MODEL,STATE,FSTYPE,FSVER,LABEL,"
-                "MOUNTPOINTS,PTTYPE,PARTTYPE")};
+    return {
+        QStringLiteral("--json"), QStringLiteral("--bytes"), QStringLiteral("--output"),
+        QStringLiteral(
+            "NAME,KNAME,PATH,TYPE,SIZE,START,LOG-SEC,RM,TRAN,VENDOR,MODEL,SERIAL,STATE,FSTYPE,FSVER,LABEL,"
+            "MOUNTPOINTS,PTTYPE,PARTTYPE")};
 }
 
 QString fileSystemName(const QString &kernelName, const QString &version)

@@ -230,6 +230,7 @@ Disk readDisk(const JsonReader &in, const PcDescription &pc, const SelfTestEnd &
     record.model = in.text(QStringLiteral("model"));
     record.interfaceType = in.text(QStringLiteral("interface"), QStringLiteral("SCSI"));
     record.status = in.text(QStringLiteral("status"), QStringLiteral("OK"));
+    record.serial = in.text(QStringLiteral("serial"));
     record.bytesPerSector = static_cast<quint32>(in.whole(QStringLiteral("bytesPerSector"), 512, 512, 65536));
     if (record.bytesPerSector % 512 != 0) {
         in.fail(in.path(QStringLiteral("bytesPerSector")), QStringLiteral("a multiple of 512 is wanted"));

@@ -108,6 +108,7 @@ const QVector<Table> &tables()
           {"Model", [](const Machine &m, int i) { return m.disks.at(i).model; }},
           {"Name", deviceName},
           {"Partitions", partitionCount},
+          {"SerialNumber", [](const Machine &m, int i) { return m.disks.at(i).serial; }},
           {"Size", diskSize},
           {"Status", [](const Machine &m, int i) { return m.disks.at(i).status; }}}},
         {"logicaldisk",

@@ -1,5 +1,6 @@
 #include "app/state/CloneTexts.h"
 
+#include "app/state/DriveTexts.h"
 #include "app/state/GlobalApp.h"
 #include "app/state/Globals.h"
 
@@ -107,14 +108,19 @@ private slots:
 
     void tellsTwinsApart()
     {
-        for (int id : {128, 129, 130})
+        for (int id : {128, 129, 130, 131})
             addNode(id, FixedDisk, QStringLiteral("1.82 TB"));
-        addRecord(129, QString(), QStringLiteral("Twin"), QStringLiteral("S1"));
+        for (int id : {129, 131})
+            addRecord(id, QString(), QStringLiteral("Twin"), QStringLiteral("S1"));
         addRecord(130, QString(), QStringLiteral("Twin"), QStringLiteral("S2"));
-        const auto disks = clonetexts::destinations(g_App.m_pDiskListHead, 128);
-        QCOMPARE(disks.size(), std::size_t{2});
-        QCOMPARE(disks[0].text, QStringLiteral("Twin | S1 | 1.82 TB"));
-        QCOMPARE(disks[1].text, QStringLiteral("Twin | S2 | 1.82 TB"));
+        const auto disks = clonetexts::destinations(g_App.m_pDiskListHead, 131);
+        QCOMPARE(disks.size(), std::size_t{3});
+        // The number stays where the other twin is the source and is not offered.
+        QCOMPARE(disks[1].text, QStringLiteral("Twin | S1 | 1.82 TB | Disk Drive 1"));
+        QCOMPARE(disks[2].text, QStringLiteral("Twin | S2 | 1.82 TB"));
+        const auto entries = drivetexts::entries(g_App.m_pDiskListHead);
+        QCOMPARE(entries[2].texts.source, disks[2].text);
+        QCOMPARE(entries[0].texts.source, QStringLiteral("Disk Drive 0"));
     }
 };
 

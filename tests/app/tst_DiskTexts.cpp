@@ -173,7 +173,7 @@ void tst_DiskTexts::identityAfterRead_data()
     QTest::newRow("removable with SMART") << true << true << true << "Report Model"
                                           << "Table Model "
                                           << "-";
-    QTest::newRow("removable without SMART") << true << true << false << "Not Available"
+    QTest::newRow("removable without SMART") << true << true << false << "Report Model"
                                              << "Table Model "
                                              << "Not Available";
     QTest::newRow("removable without record") << true << false << false << "Not Available"
@@ -196,6 +196,11 @@ void tst_DiskTexts::identityAfterRead()
     QTEST(texts.model.value_or(stays), "model");
     QTEST(texts.serial.value_or(stays), "serial");
     QTEST(texts.firmware.value_or(stays), "firmware");
+    if (hasRecord && !removable) {
+        const auto silent = identityTextsAfterRead(&node, &record, 2, {});
+        QCOMPARE(silent.model.value(), QStringLiteral("Report Model"));
+        QCOMPARE(silent.serial.value(), QStringLiteral("SER1"));
+    }
     QCOMPARE(texts.diskNumber, QStringLiteral("2"));
     QCOMPARE(texts.sectors.value_or(stays), QStringLiteral("7814037168"));
     QCOMPARE(texts.summary.value_or(stays), hasRecord ? QStringLiteral("SER1 ( IDE  3726.02 GB )") : stays);

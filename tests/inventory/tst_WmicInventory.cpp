@@ -69,6 +69,7 @@ private slots:
     void loadsDiskDrives_data();
     void loadsDiskDrives();
     void joinsIdentity();
+    void namesDisksThatDoNotTellThemselves();
     void keepsOrEmptiesOldDisks();
     void loadsLogicalDisks();
     void asksForEachVolume();
@@ -252,6 +253,23 @@ void WmicInventoryTest::joinsIdentity()
     QCOMPARE(fifth->szSmartSerial.text(), QStringLiteral("S5"));
     QCOMPARE(fifth->szSmartFirmware.text(), QStringLiteral("F5"));
     QCOMPARE(fifth->szSmartModel.text(), QStringLiteral("M5"));
+}
+
+void WmicInventoryTest::namesDisksThatDoNotTellThemselves()
+{
+    outputs = {{QStringLiteral("diskdrive get Model"), sample(QStringLiteral("diskdrive-card-reader.txt"))},
+               {QStringLiteral("diskdrive get Index,SerialNumber"),
+                utf16(QStringLiteral(
+                    "Index  SerialNumber      \r\n4      2012 0926A  \r\n0      S0          \r\n\r\n"))}};
+    LoadDiskDrives([](int index, const QString &) {
+        g_strModelName = index == 5 ? QStringLiteral("Told") : QString();
+        g_strSerialNumber = g_strModelName;
+    });
+    QCOMPARE(findWmicDisk(133)->szSmartModel.text(), QStringLiteral("Told"));
+    QCOMPARE(findWmicDisk(133)->szSmartSerial.text(), QStringLiteral("Told"));
+    QCOMPARE(findWmicDisk(128)->szSmartSerial.text(), QStringLiteral("S0"));
+    QCOMPARE(findWmicDisk(132)->szSmartModel.text(), QStringLiteral("Generic SDXC/MMC"));
+    QCOMPARE(findWmicDisk(132)->szSmartSerial.text(), QStringLiteral("2012 0926A"));
 }
 
 void WmicInventoryTest::keepsOrEmptiesOldDisks()

@@ -110,7 +110,7 @@ void tst_MainWindow::eachDiskShowsItsOwn_data()
                           << ""
                           << "Not available"
                           << "2";
-    QTest::newRow("stick") << 2 << "Not Available"
+    QTest::newRow("stick") << 2 << "Gamma Stick"
                            << "Gamma Stick "
                            << "Not Supported"
                            << "Not Available"

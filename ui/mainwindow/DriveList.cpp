@@ -30,11 +30,11 @@ void MainWindow::FillDriveCombos()
             continue;
         drivetexts::fillDisplayFields(*node);
         g_strSelectedSize = node->szSize.text();
-        const drivetexts::ComboTexts texts =
-            drivetexts::comboTexts(*node, findWmicDisk(node->nId), g_strSelectedSize);
-        m_hashComboToDisk.insert(DriveCombobox->count(), node->nId);
-        DriveCombobox->addItem(texts.drive, static_cast<int>(node->nId));
-        source->addItem(texts.source, static_cast<int>(node->nId));
+    }
+    for (const drivetexts::Entry &entry : drivetexts::entries(g_App.m_pDiskListHead)) {
+        m_hashComboToDisk.insert(DriveCombobox->count(), entry.node->nId);
+        DriveCombobox->addItem(entry.texts.drive, static_cast<int>(entry.node->nId));
+        source->addItem(entry.texts.source, static_cast<int>(entry.node->nId));
     }
 }
 

@@ -221,7 +221,7 @@ void MainWindow::initializeSmartStatus()
     InterfaceTypeLabel->setText(interfaceText);
     if (record)
         m_pSmartStatusPage->SerialNunValueLbl->setText(record->szSmartSerial.text());
-    if (node && node->nKind == FixedDisk)
+    if (node && node->nKind == FixedDisk && !g_strSerialNumber.trimmed().isEmpty())
         m_pSmartStatusPage->SerialNunValueLbl->setText(g_strSerialNumber.trimmed());
     if (node)
         m_pSmartStatusPage->CapcityValLbl->setText(node->szSize.text());
