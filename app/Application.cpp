@@ -100,7 +100,8 @@ void readStartSettings(int *languageType)
 /// Takes the segment that tells other instances of this one.
 bool takeInstance(QSharedMemory &guard)
 {
-    // A segment outlives a process that was killed: the last one to let go of it removes it.
+    // A segment outlives a process that was killed: the last one to let go of it removes it. That takes the
+    // user who made it, which is why each user has a key of his own.
     if (guard.attach())
         guard.detach();
     return guard.create(InstanceSegment, QSharedMemory::ReadWrite);

@@ -131,8 +131,8 @@ public:
     virtual QString NativePath(const QString &path) const = 0;
     /// The value of COMSPEC, empty if unset.
     virtual QByteArray CommandInterpreter() = 0;
-    /// What sets this PC apart from others that the same user may run the program for: one instance may run
-    /// per scope. Empty where the machine is the only one.
+    /// One instance may run per scope: what sets the user apart from the others of this machine, and this PC
+    /// from others that he may run the program for.
     virtual QString InstanceScope() { return QString(); }
     /// The process is about to end without running destructors: what must not stay behind goes now.
     virtual void Leave() {}

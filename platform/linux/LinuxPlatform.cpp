@@ -351,6 +351,21 @@ void LinuxPlatform::SetThreadExecutionState(quint32 flags)
     else
         m_inhibitor.release();
 }
+QString LinuxPlatform::InstanceScope()
+{
+    return QLatin1Char('-') + nativeUser();
+}
+
+QString LinuxPlatform::AdministratorCommand()
+{
+    // The tool clears the environment, and a window needs these two to come up.
+    const QString authority =
+        qEnvironmentVariable("XAUTHORITY", QDir::homePath() + QLatin1String("/.Xauthority"));
+    return QStringLiteral("pkexec env DISPLAY=%1 XAUTHORITY=%2 %3")
+        .arg(qEnvironmentVariable("DISPLAY", QStringLiteral(":0")), authority,
+             QCoreApplication::applicationFilePath());
+}
+
 
 int LinuxPlatform::LogPixelsX()
 {
@@ -414,4 +429,9 @@ std::unique_ptr<QSettings> LinuxPlatform::OpenSettings(const QString &registryPa
 std::unique_ptr<Platform> makeNativePlatform()
 {
     return std::make_unique<LinuxPlatform>();
+}
+
+QString nativeUser()
+{
+    return QString::number(geteuid());
 }

@@ -49,6 +49,8 @@ public:
     QString NativePath(const QString &path) const override;
     QByteArray CommandInterpreter() override;
     QString OperatingSystemName() override;
+    QString InstanceScope() override;
+    QString AdministratorCommand() override;
 
     void SetThreadExecutionState(quint32 flags) override;
     int LogPixelsX() override;

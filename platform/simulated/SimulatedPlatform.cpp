@@ -3,6 +3,7 @@
 #include "platform/HttpDownload.h"
 #include "platform/IoControl.h"
 #include "platform/JsonSettings.h"
+#include "platform/NativePlatform.h"
 #include "platform/OwnFiles.h"
 #include "platform/simulated/HistorySeed.h"
 #include "platform/simulated/StateFolder.h"
@@ -331,7 +332,8 @@ QByteArray SimulatedPlatform::CommandInterpreter()
 QString SimulatedPlatform::InstanceScope()
 {
     // A state folder that was asked for makes another PC of the same description.
-    const QString scope = m_pc.folder + (m_ownsState ? QString() : QLatin1Char('\n') + m_state);
+    const QString scope =
+        QStringList{nativeUser(), m_pc.folder, m_ownsState ? QString() : m_state}.join(QLatin1Char('\n'));
     const QByteArray hash = QCryptographicHash::hash(scope.toUtf8(), QCryptographicHash::Sha1).toHex();
     return QLatin1Char('-') + QString::fromLatin1(hash);
 }

@@ -228,9 +228,13 @@ QString WindowsPlatform::GetSystemDirectoryW()
 
 QString WindowsPlatform::GetUserNameW()
 {
-    std::array<wchar_t, UserNameCharacters> buffer{};
-    DWORD length = UserNameCharacters;
-    return ::GetUserNameW(buffer.data(), &length) ? QString::fromWCharArray(buffer.data()) : QString();
+    return nativeUser();
+}
+
+QString WindowsPlatform::InstanceScope()
+{
+    // The names of shared memory are those of the session already, which several users may work in.
+    return QLatin1Char('-') + nativeUser();
 }
 
 QString WindowsPlatform::HistoryFolder(const QString &applicationFolder)
@@ -370,4 +374,11 @@ std::unique_ptr<QSettings> WindowsPlatform::OpenSettings(const QString &registry
 std::unique_ptr<Platform> makeNativePlatform()
 {
     return std::make_unique<WindowsPlatform>();
+}
+
+QString nativeUser()
+{
+    std::array<wchar_t, UserNameCharacters> buffer{};
+    DWORD length = UserNameCharacters;
+    return ::GetUserNameW(buffer.data(), &length) ? QString::fromWCharArray(buffer.data()) : QString();
 }

@@ -40,6 +40,7 @@ public:
     QString NativePath(const QString &path) const override;
     QByteArray CommandInterpreter() override;
     QString OperatingSystemName() override;
+    QString InstanceScope() override;
 
     void SetThreadExecutionState(quint32 flags) override;
     int LogPixelsX() override;

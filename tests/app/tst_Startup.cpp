@@ -90,6 +90,18 @@ void tst_Startup::startsAgainAfterAKill()
     startProgram(second, folder, 2);
     second.kill();
     second.waitForFinished();
+
+    const QString setpriv = QStandardPaths::findExecutable(QStringLiteral("setpriv"));
+    if (setpriv.isEmpty() || QFileInfo(folder.path()).ownerId() != 0)
+        QSKIP("another user is for root to become");
+    QProcess::execute(QStringLiteral("chmod"),
+                      {QStringLiteral("-R"), QStringLiteral("a+rwX"), folder.path(), folder.state()});
+    QProcess other;
+    other.setProcessEnvironment(environment(folder));
+    other.start(setpriv, {QStringLiteral("--reuid=12345"), QStringLiteral("--clear-groups"), Program});
+    QTRY_COMPARE_WITH_TIMEOUT(starts(folder), 3, 20000);
+    other.kill();
+    other.waitForFinished();
 }
 
 void tst_Startup::anotherPcRunsBesideIt()
