@@ -15,6 +15,16 @@ namespace
 
 constexpr int SectorSize = 512;
 
+/// Whether there is a disk that would be listed if this process had the rights to open it.
+bool isDiskDenied()
+{
+    for (int number = 0; number < CCreateDiskDriveList::ListedDisks; ++number) {
+        if (Platform::current().IsAccessDenied(diskName(PhysicalDriveBase + number)))
+            return true;
+    }
+    return false;
+}
+
 } // namespace
 
 CCreateDiskDriveList::CCreateDiskDriveList()
@@ -30,6 +40,7 @@ void CCreateDiskDriveList::BuildDriveList()
     probeDisks();
     appendPhysicalNodes(m_fixed, FixedDisk);
     appendPhysicalNodes(m_removable, RemovableDisk);
+    g_App.m_bAccessDenied = !g_App.m_pDiskListHead && isDiskDenied();
     appendVolumeNodes();
     for (DiskNode *node = g_App.m_pDiskListHead; node; node = node->pNext)
         tieVolumeToDisk(node, &m_extents);

@@ -73,6 +73,8 @@ public:
     /// Asks the system, not the medium, so that it takes no time; to be asked behind a transfer that failed.
     virtual bool IsGone(RawHandle handle) = 0;
     virtual void CloseHandle(RawHandle handle) = 0;
+    /// Whether the device is there and does not open for reading and writing for want of rights alone.
+    virtual bool IsAccessDenied(const QString &) { return false; }
     /// @}
 
     /// \name Volumes
@@ -134,6 +136,9 @@ public:
     /// One instance may run per scope: what sets the user apart from the others of this machine, and this PC
     /// from others that he may run the program for.
     virtual QString InstanceScope() { return QString(); }
+    /// A command line that starts this program with the rights to open raw disks, for people to copy; empty
+    /// where the desktop has a menu entry for that.
+    virtual QString AdministratorCommand() { return QString(); }
     /// The process is about to end without running destructors: what must not stay behind goes now.
     virtual void Leave() {}
     /// The operating system's own name, version and machine word for the About box.

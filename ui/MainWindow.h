@@ -17,6 +17,7 @@
 
 #include <array>
 
+class AccessNotice;
 class CloneDisk;
 class CloneWarning;
 class CloseWgt;
@@ -212,6 +213,7 @@ private:
     void selectButton(Screen screen);
     void applyLooks();
     void showScreen(Screen screen);
+    void showAccess();
     void callShowSlot(Screen screen);
     void askForSwitch();
     bool leavingAsks() const;
@@ -298,7 +300,8 @@ private:
     ScanDisk *m_pScanDiskPage = nullptr;
     CloneDisk *m_pCloneDiskPage = nullptr;
     std::array<QWidget *, navigation::ScreenCount> m_apScreens{};
-    Settings *m_pSettings = nullptr; ///< top-level, without a parent
+    AccessNotice *m_pAccessNotice = nullptr; ///< in the place of the screens while no disk may be opened
+    Settings *m_pSettings = nullptr;         ///< top-level, without a parent
 
     CloseWgt *m_pCloseWgt = nullptr;
     SmartWarning *m_pSmartWarning = nullptr;

@@ -7,6 +7,7 @@
 #include <QTranslator>
 
 #include <array>
+#include <atomic>
 #include <cstdint>
 
 /// Number of languages that the program knows.
@@ -31,6 +32,8 @@ public:
     DiskNode *m_pCloneDisk = nullptr;
     std::uint8_t m_nFixedDisks = 0;
     std::uint8_t m_nRemovableDisks = 0;
+    /// No disk is listed, as this process may not open those that are there.
+    std::atomic<bool> m_bAccessDenied{false};
     std::uint16_t m_nNextLogicalId = 0;
     bool m_bWriteSiblingLanguage = false;
     QString m_strApplicationFolder;

@@ -9,7 +9,9 @@
 #include "platform/linux/LogonEntry.h"
 #include "platform/linux/UserFolders.h"
 
+#include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QScreen>
@@ -17,8 +19,10 @@
 #include <QSysInfo>
 #include <QThread>
 
+#include <cerrno>
 #include <cstddef>
 #include <cstring>
+#include <fcntl.h>
 #include <pwd.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -75,6 +79,18 @@ bool answerExtents(const QVector<inventory::Extent> &extents, void *out, quint32
     return true;
 }
 
+/// The disk of a raw device's name.
+std::optional<inventory::Disk> diskOf(const inventory::Machine &machine, const QString &name)
+{
+    bool isNumber = false;
+    const int number = name.mid(DiskPrefix.size()).toInt(&isNumber);
+    for (const inventory::Disk &disk : machine.disks) {
+        if (isNumber && disk.number == number && name.startsWith(DiskPrefix, Qt::CaseInsensitive))
+            return disk;
+    }
+    return std::nullopt;
+}
+
 quint32 mediaTypeOf(const inventory::Disk &disk)
 {
     return disk.media == QLatin1String("removable") ? io::MediaRemovable : io::MediaFixed;
@@ -100,16 +116,10 @@ Platform::RawHandle LinuxPlatform::CreateFileW(const QString &name, quint32 acce
     const lsblk::Inventory machine = pc();
     const bool writable = (access & io::GenericWrite) != 0;
     auto open = std::make_shared<OpenDevice>();
-    if (name.startsWith(DiskPrefix, Qt::CaseInsensitive)) {
-        bool isNumber = false;
-        const int number = name.mid(DiskPrefix.size()).toInt(&isNumber);
-        for (const inventory::Disk &disk : machine.machine.disks) {
-            if (isNumber && disk.number == number) {
-                open->node = disk.node;
-                open->device = linuxdisks::open(disk, writable);
-                open->mediaType = mediaTypeOf(disk);
-            }
-        }
+    if (const auto disk = diskOf(machine.machine, name)) {
+        open->node = disk->node;
+        open->device = linuxdisks::open(*disk, writable);
+        open->mediaType = mediaTypeOf(*disk);
     } else if (name.size() == VolumePrefix.size() + 2 && name.startsWith(VolumePrefix) &&
                name.endsWith(QLatin1Char(':'))) {
         const QChar letter = name.at(VolumePrefix.size()).toUpper();
@@ -203,6 +213,14 @@ void LinuxPlatform::CloseHandle(RawHandle handle)
         last; // closed behind the lock: closing a disk that was written to takes its time
     const std::lock_guard<std::mutex> guard(m_mutex);
     last = m_open.take(handle);
+}
+
+bool LinuxPlatform::IsAccessDenied(const QString &name)
+{
+    const auto disk = diskOf(pc().machine, name);
+    return disk &&
+           faccessat(AT_FDCWD, QFile::encodeName(disk->node).constData(), R_OK | W_OK, AT_EACCESS) != 0 &&
+           errno == EACCES;
 }
 
 // Volumes
@@ -333,6 +351,21 @@ QByteArray LinuxPlatform::CommandInterpreter()
     return qgetenv("COMSPEC");
 }
 
+QString LinuxPlatform::InstanceScope()
+{
+    return QLatin1Char('-') + nativeUser();
+}
+
+QString LinuxPlatform::AdministratorCommand()
+{
+    // The tool clears the environment, and a window needs these two to come up.
+    const QString authority =
+        qEnvironmentVariable("XAUTHORITY", QDir::homePath() + QLatin1String("/.Xauthority"));
+    return QStringLiteral("pkexec env DISPLAY=%1 XAUTHORITY=%2 %3")
+        .arg(qEnvironmentVariable("DISPLAY", QStringLiteral(":0")), authority,
+             QCoreApplication::applicationFilePath());
+}
+
 QString LinuxPlatform::OperatingSystemName()
 {
     const QString machine = QSysInfo::currentCpuArchitecture();
@@ -351,21 +384,6 @@ void LinuxPlatform::SetThreadExecutionState(quint32 flags)
     else
         m_inhibitor.release();
 }
-QString LinuxPlatform::InstanceScope()
-{
-    return QLatin1Char('-') + nativeUser();
-}
-
-QString LinuxPlatform::AdministratorCommand()
-{
-    // The tool clears the environment, and a window needs these two to come up.
-    const QString authority =
-        qEnvironmentVariable("XAUTHORITY", QDir::homePath() + QLatin1String("/.Xauthority"));
-    return QStringLiteral("pkexec env DISPLAY=%1 XAUTHORITY=%2 %3")
-        .arg(qEnvironmentVariable("DISPLAY", QStringLiteral(":0")), authority,
-             QCoreApplication::applicationFilePath());
-}
-
 
 int LinuxPlatform::LogPixelsX()
 {

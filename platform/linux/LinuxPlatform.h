@@ -29,6 +29,7 @@ public:
     bool FlushFileBuffers(RawHandle handle) override;
     bool IsGone(RawHandle handle) override;
     void CloseHandle(RawHandle handle) override;
+    bool IsAccessDenied(const QString &name) override;
 
     QStringList GetLogicalDriveStringsW() override;
     bool GetVolumeInformationW(const QString &root, QString *label, QString *fileSystem) override;
@@ -48,9 +49,9 @@ public:
     std::unique_ptr<QFile> HoldFile(const QString &path) override;
     QString NativePath(const QString &path) const override;
     QByteArray CommandInterpreter() override;
-    QString OperatingSystemName() override;
     QString InstanceScope() override;
     QString AdministratorCommand() override;
+    QString OperatingSystemName() override;
 
     void SetThreadExecutionState(quint32 flags) override;
     int LogPixelsX() override;

@@ -122,10 +122,23 @@ bool RawDevices::addPiece(Device &device, int number, qint64 start, qint64 lengt
     return true;
 }
 
-Platform::RawHandle RawDevices::open(const QString &name, quint32 access, quint32 disposition)
+const Disk *RawDevices::plugged(const QString &name) const
 {
     static const QRegularExpression physical(QStringLiteral("^\\\\\\\\\\.\\\\PHYSICALDRIVE([0-9]{1,9})$"),
                                              QRegularExpression::CaseInsensitiveOption);
+    const QRegularExpressionMatch match = physical.match(name);
+    const Disk *disk = match.hasMatch() ? m_pc.disk(match.captured(1).toInt()) : nullptr;
+    return disk != nullptr && m_presence.hasDisk(disk->record.number) ? disk : nullptr;
+}
+
+bool RawDevices::isRefused(const QString &name) const
+{
+    const Disk *disk = plugged(name);
+    return disk != nullptr && !disk->opens;
+}
+
+Platform::RawHandle RawDevices::open(const QString &name, quint32 access, quint32 disposition)
+{
     static const QRegularExpression letter(QStringLiteral("^\\\\\\\\\\.\\\\([A-Za-z]):$"));
     if (disposition != io::OpenExisting) {
         return Platform::InvalidHandle;
@@ -134,12 +147,9 @@ Platform::RawHandle RawDevices::open(const QString &name, quint32 access, quint3
     auto device = std::make_shared<Device>();
     device->access = access;
     bool opened = false;
-    const QRegularExpressionMatch diskName = physical.match(name);
     const QRegularExpressionMatch volumeName = letter.match(name);
-    if (diskName.hasMatch()) {
-        const Disk *disk = m_pc.disk(diskName.captured(1).toInt());
-        opened = disk != nullptr && disk->opens && m_presence.hasDisk(disk->record.number) &&
-                 addPiece(*device, disk->record.number, 0, bytesOf(*disk));
+    if (const Disk *disk = plugged(name)) {
+        opened = disk->opens && addPiece(*device, disk->record.number, 0, bytesOf(*disk));
     } else if (volumeName.hasMatch()) {
         device->volume = m_pc.volume(volumeName.captured(1).at(0));
         opened = device->volume != nullptr && m_presence.has(*device->volume) &&

@@ -30,6 +30,8 @@ public:
     /// The image file of a disk, whether or not it exists yet.
     QString imageFile(int disk) const;
 
+    /// Whether the physical disk is plugged in and does not open.
+    bool isRefused(const QString &name) const;
     Platform::RawHandle open(const QString &name, quint32 access, quint32 disposition);
     bool seek(Platform::RawHandle handle, qint64 byteOffset);
     /// A read that touches a bad sector fails as a whole, and so does one that the description lets fail.
@@ -60,6 +62,8 @@ private:
     enum class Direction { Read, Write };
 
     std::shared_ptr<Device> find(Platform::RawHandle handle);
+    /// The disk of a raw device's name while it is plugged in; null for another.
+    const Disk *plugged(const QString &name) const;
     bool prepareImage(const Disk &disk);
     bool makeImage(const Disk &disk, const QString &file, qint64 size);
     /// Whether the device is still plugged in.

@@ -164,6 +164,11 @@ void SimulatedPlatform::CloseHandle(RawHandle handle)
     m_devices.close(handle);
 }
 
+bool SimulatedPlatform::IsAccessDenied(const QString &name)
+{
+    return m_devices.isRefused(name);
+}
+
 const inventory::Volume *SimulatedPlatform::volumeOf(const QString &root) const
 {
     const inventory::Volume *volume = root.isEmpty() ? nullptr : m_pc.volume(root.at(0));

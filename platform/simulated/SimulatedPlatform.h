@@ -39,6 +39,7 @@ public:
     bool FlushFileBuffers(RawHandle handle) override;
     bool IsGone(RawHandle handle) override;
     void CloseHandle(RawHandle handle) override;
+    bool IsAccessDenied(const QString &name) override;
 
     QStringList GetLogicalDriveStringsW() override;
     bool GetVolumeInformationW(const QString &root, QString *label, QString *fileSystem) override;

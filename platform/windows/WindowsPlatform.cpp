@@ -93,6 +93,17 @@ void WindowsPlatform::CloseHandle(RawHandle handle)
     m_devices.close(handle);
 }
 
+bool WindowsPlatform::IsAccessDenied(const QString &name)
+{
+    const HANDLE handle =
+        ::CreateFileW(wide(name), GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                      OPEN_EXISTING, 0, nullptr);
+    if (handle == INVALID_HANDLE_VALUE)
+        return ::GetLastError() == ERROR_ACCESS_DENIED;
+    ::CloseHandle(handle);
+    return false;
+}
+
 // Volumes
 
 QStringList WindowsPlatform::GetLogicalDriveStringsW()

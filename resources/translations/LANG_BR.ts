@@ -28,6 +28,25 @@
     </message>
 </context>
 <context>
+    <name>AccessNotice</name>
+    <message>
+        <source>No disk can be opened</source>
+        <translation>Nenhum disco pode ser aberto</translation>
+    </message>
+    <message>
+        <source>Velmora Halvane needs the rights of an administrator to open disks. Without them nothing can be said of their health.</source>
+        <translation>O Velmora Halvane precisa dos direitos de administrador para abrir os discos. Sem eles, nada se pode dizer sobre a saúde deles.</translation>
+    </message>
+    <message>
+        <source>Close the program, right-click its icon and choose &quot;Run as administrator&quot;.</source>
+        <translation>Feche o programa, clique com o botão direito no ícone e escolha &quot;Executar como administrador&quot;.</translation>
+    </message>
+    <message>
+        <source>Close the program and start it as root. This command does it in a terminal:</source>
+        <translation>Feche o programa e inicie-o como root. Em um terminal, use este comando:</translation>
+    </message>
+</context>
+<context>
     <name>AttributeCatalogue</name>
     <message>
         <source>Raw Read Error Rate</source>

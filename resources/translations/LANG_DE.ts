@@ -28,6 +28,25 @@
     </message>
 </context>
 <context>
+    <name>AccessNotice</name>
+    <message>
+        <source>No disk can be opened</source>
+        <translation>Kein Laufwerk lässt sich öffnen</translation>
+    </message>
+    <message>
+        <source>Velmora Halvane needs the rights of an administrator to open disks. Without them nothing can be said of their health.</source>
+        <translation>Velmora Halvane braucht Administratorrechte, um Laufwerke zu öffnen. Ohne sie lässt sich über ihren Zustand nichts sagen.</translation>
+    </message>
+    <message>
+        <source>Close the program, right-click its icon and choose &quot;Run as administrator&quot;.</source>
+        <translation>Schließen Sie das Programm, klicken Sie mit der rechten Maustaste auf sein Symbol und wählen Sie „Als Administrator ausführen“.</translation>
+    </message>
+    <message>
+        <source>Close the program and start it as root. This command does it in a terminal:</source>
+        <translation>Schließen Sie das Programm und starten Sie es als root. Im Terminal geht das mit diesem Befehl:</translation>
+    </message>
+</context>
+<context>
     <name>AttributeCatalogue</name>
     <message>
         <source>Raw Read Error Rate</source>

@@ -28,6 +28,25 @@
     </message>
 </context>
 <context>
+    <name>AccessNotice</name>
+    <message>
+        <source>No disk can be opened</source>
+        <translation>Geen enkele schijf kan worden geopend</translation>
+    </message>
+    <message>
+        <source>Velmora Halvane needs the rights of an administrator to open disks. Without them nothing can be said of their health.</source>
+        <translation>Velmora Halvane heeft beheerdersrechten nodig om schijven te openen. Zonder die rechten valt er niets over hun conditie te zeggen.</translation>
+    </message>
+    <message>
+        <source>Close the program, right-click its icon and choose &quot;Run as administrator&quot;.</source>
+        <translation>Sluit het programma, klik met de rechtermuisknop op het pictogram en kies &quot;Als administrator uitvoeren&quot;.</translation>
+    </message>
+    <message>
+        <source>Close the program and start it as root. This command does it in a terminal:</source>
+        <translation>Sluit het programma en start het als root. In een terminal gaat dat met deze opdracht:</translation>
+    </message>
+</context>
+<context>
     <name>AttributeCatalogue</name>
     <message>
         <source>Raw Read Error Rate</source>

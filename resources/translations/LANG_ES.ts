@@ -28,6 +28,25 @@
     </message>
 </context>
 <context>
+    <name>AccessNotice</name>
+    <message>
+        <source>No disk can be opened</source>
+        <translation>No se puede abrir ningún disco</translation>
+    </message>
+    <message>
+        <source>Velmora Halvane needs the rights of an administrator to open disks. Without them nothing can be said of their health.</source>
+        <translation>Velmora Halvane necesita derechos de administrador para abrir los discos. Sin ellos no se puede decir nada de su salud.</translation>
+    </message>
+    <message>
+        <source>Close the program, right-click its icon and choose &quot;Run as administrator&quot;.</source>
+        <translation>Cierre el programa, haga clic con el botón derecho en su icono y elija &quot;Ejecutar como administrador&quot;.</translation>
+    </message>
+    <message>
+        <source>Close the program and start it as root. This command does it in a terminal:</source>
+        <translation>Cierre el programa e inícielo como root. En un terminal se hace con este comando:</translation>
+    </message>
+</context>
+<context>
     <name>AttributeCatalogue</name>
     <message>
         <source>Raw Read Error Rate</source>

@@ -28,6 +28,25 @@
     </message>
 </context>
 <context>
+    <name>AccessNotice</name>
+    <message>
+        <source>No disk can be opened</source>
+        <translation>Aucun disque ne peut être ouvert</translation>
+    </message>
+    <message>
+        <source>Velmora Halvane needs the rights of an administrator to open disks. Without them nothing can be said of their health.</source>
+        <translation>Velmora Halvane a besoin des droits d&apos;administrateur pour ouvrir les disques. Sans eux, rien ne peut être dit de leur santé.</translation>
+    </message>
+    <message>
+        <source>Close the program, right-click its icon and choose &quot;Run as administrator&quot;.</source>
+        <translation>Fermez le programme, faites un clic droit sur son icône et choisissez « Exécuter en tant qu&apos;administrateur ».</translation>
+    </message>
+    <message>
+        <source>Close the program and start it as root. This command does it in a terminal:</source>
+        <translation>Fermez le programme et lancez-le en tant que root. Dans un terminal, cette commande le fait :</translation>
+    </message>
+</context>
+<context>
     <name>AttributeCatalogue</name>
     <message>
         <source>Raw Read Error Rate</source>

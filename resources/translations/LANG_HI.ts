@@ -28,6 +28,25 @@
     </message>
 </context>
 <context>
+    <name>AccessNotice</name>
+    <message>
+        <source>No disk can be opened</source>
+        <translation>कोई डिस्क नहीं खोली जा सकती</translation>
+    </message>
+    <message>
+        <source>Velmora Halvane needs the rights of an administrator to open disks. Without them nothing can be said of their health.</source>
+        <translation>डिस्क खोलने के लिए Velmora Halvane को व्यवस्थापक के अधिकार चाहिए। इनके बिना डिस्क के स्वास्थ्य के बारे में कुछ नहीं कहा जा सकता।</translation>
+    </message>
+    <message>
+        <source>Close the program, right-click its icon and choose &quot;Run as administrator&quot;.</source>
+        <translation>प्रोग्राम बंद करें, उसके आइकन पर राइट-क्लिक करें और &quot;व्यवस्थापक के रूप में चलाएँ&quot; चुनें।</translation>
+    </message>
+    <message>
+        <source>Close the program and start it as root. This command does it in a terminal:</source>
+        <translation>प्रोग्राम बंद करें और उसे root के रूप में शुरू करें। टर्मिनल में यह आदेश ऐसा करता है:</translation>
+    </message>
+</context>
+<context>
     <name>AttributeCatalogue</name>
     <message>
         <source>Raw Read Error Rate</source>

@@ -28,6 +28,25 @@
     </message>
 </context>
 <context>
+    <name>AccessNotice</name>
+    <message>
+        <source>No disk can be opened</source>
+        <translation>Nessun disco può essere aperto</translation>
+    </message>
+    <message>
+        <source>Velmora Halvane needs the rights of an administrator to open disks. Without them nothing can be said of their health.</source>
+        <translation>Velmora Halvane ha bisogno dei diritti di amministratore per aprire i dischi. Senza di essi non si può dire nulla della loro salute.</translation>
+    </message>
+    <message>
+        <source>Close the program, right-click its icon and choose &quot;Run as administrator&quot;.</source>
+        <translation>Chiudere il programma, fare clic con il pulsante destro sulla sua icona e scegliere &quot;Esegui come amministratore&quot;.</translation>
+    </message>
+    <message>
+        <source>Close the program and start it as root. This command does it in a terminal:</source>
+        <translation>Chiudere il programma e avviarlo come root. In un terminale si usa questo comando:</translation>
+    </message>
+</context>
+<context>
     <name>AttributeCatalogue</name>
     <message>
         <source>Raw Read Error Rate</source>

@@ -28,6 +28,25 @@
     </message>
 </context>
 <context>
+    <name>AccessNotice</name>
+    <message>
+        <source>No disk can be opened</source>
+        <translation>디스크를 열 수 없습니다</translation>
+    </message>
+    <message>
+        <source>Velmora Halvane needs the rights of an administrator to open disks. Without them nothing can be said of their health.</source>
+        <translation>Velmora Halvane이 디스크를 열려면 관리자 권한이 필요합니다. 권한이 없으면 디스크의 건강 상태를 알 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Close the program, right-click its icon and choose &quot;Run as administrator&quot;.</source>
+        <translation>프로그램을 닫고 아이콘을 마우스 오른쪽 버튼으로 클릭한 다음 &quot;관리자 권한으로 실행&quot;을 선택하세요.</translation>
+    </message>
+    <message>
+        <source>Close the program and start it as root. This command does it in a terminal:</source>
+        <translation>프로그램을 닫고 root로 시작하세요. 터미널에서는 다음 명령을 사용합니다:</translation>
+    </message>
+</context>
+<context>
     <name>AttributeCatalogue</name>
     <message>
         <source>Raw Read Error Rate</source>

@@ -121,6 +121,13 @@ void CCreateDiskDriveListTest::leavesOutOtherDisks()
     QCOMPARE(build(), QVector<int>({130}));
     QCOMPARE(int(g_App.m_nFixedDisks), 0);
     QCOMPARE(int(g_App.m_nRemovableDisks), 1);
+    QVERIFY(!g_App.m_bAccessDenied);
+    fake->disks.remove(2);
+    QCOMPARE(build(), QVector<int>());
+    QVERIFY(g_App.m_bAccessDenied);
+    fake->disks.remove(1);
+    build();
+    QVERIFY(!g_App.m_bAccessDenied);
 }
 
 void CCreateDiskDriveListTest::listsNumbersBelow24()

@@ -175,6 +175,11 @@ public:
         return !m_handles.contains(handle) || find(m_handles[handle].name)->gone;
     }
     void CloseHandle(RawHandle handle) override { m_handles.remove(handle); }
+    bool IsAccessDenied(const QString &name) override
+    {
+        const Disk *disk = find(name);
+        return disk && !disk->opens;
+    }
 
     QStringList GetLogicalDriveStringsW() override
     {

@@ -84,6 +84,7 @@ public:
             m_inner->Sleep(milliseconds);
     }
 
+    bool IsAccessDenied(const QString &name) override { return m_inner->IsAccessDenied(name); }
     QStringList GetLogicalDriveStringsW() override { return m_inner->GetLogicalDriveStringsW(); }
     bool GetVolumeInformationW(const QString &root, QString *label, QString *fileSystem) override
     {

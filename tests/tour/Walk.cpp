@@ -26,6 +26,7 @@ constexpr int DialogPatience = 3000; ///< ms that a dialog may take to go
 const QString MainWindowClass = QStringLiteral("MainWindow");
 const QString DriveCombo = QStringLiteral("DriveCombobox");
 const QString SwitchQuestionClass = QStringLiteral("ScanSwitchClass");
+const QString NoticeClass = QStringLiteral("AccessNotice");
 const QString FileDialogClass = QStringLiteral("QFileDialog");
 
 /// What sends a dialog away without doing what it asks, best first.
@@ -203,11 +204,12 @@ void Walk::goTo(const QString &buttonName, const QString &pageClass)
 {
     const Expectation question(this, SwitchQuestionClass);
     press(MainWindowClass, {buttonName});
-    waitFor(pageClass,
-            [pageClass]() { return windows::byClass(SwitchQuestionClass) || windows::byClass(pageClass); });
+    // Where no disk may be opened a notice stands in the place of every page.
+    const QString wanted = sees(NoticeClass) ? NoticeClass : pageClass;
+    waitFor(wanted, [wanted]() { return windows::byClass(SwitchQuestionClass) || windows::byClass(wanted); });
     if (sees(SwitchQuestionClass))
         answer(SwitchQuestionClass, QStringLiteral("YesButton"));
-    waitForWindow(pageClass);
+    waitForWindow(wanted);
     waitIdle();
 }
 

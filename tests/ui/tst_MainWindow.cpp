@@ -40,6 +40,7 @@ private slots:
     void closingIsRefusedDuringAJob_data();
     void closingIsRefusedDuringAJob();
     void startsOnTheClonePage();
+    void tellsOfMissingRights();
 
 private:
     static QByteArray description();
@@ -368,6 +369,28 @@ void tst_MainWindow::startsOnTheClonePage()
     QVERIFY(child<MyButton>("CloneDiskButton")->isDown());
     QCOMPARE(child<QComboBox>("SourceComboBox")->currentIndex(), 0);
     QCOMPARE(child<QComboBox>("DestinationComboBox")->count(), 3); // the placeholder and the two other disks
+}
+
+void tst_MainWindow::tellsOfMissingRights()
+{
+    tearDown();
+    startPc(R"({"pauses": false, "disks": [{"number": 0, "model": "Alpha", "opens": false}],
+                "settings": {"FirstTimeLaunch": 1}})");
+    const int atLoad = commands("smartctl64Bit.exe");
+    makeWindow();
+    press("CloneDiskButton");
+    QVERIFY(child<QLabel>("m_pAdvice")->isVisible());
+    QVERIFY(text("m_pAdvice").contains(QStringLiteral("administrator")));
+    QVERIFY(!child<QLabel>("HelthLable")->isVisible() && !child<QFrame>("GifFrame")->isVisible());
+    for (const char *button : {"ScanButton", "CloneButton", "ReportSaveButton", "ScreenshotButton"})
+        QVERIFY2(!child<QPushButton>(button)->isEnabled(), button);
+    QCOMPARE(commands("smartctl64Bit.exe"), atLoad);
+
+    g_App.m_bAccessDenied = false;
+    m_pWindow->RefreshSelectedDisk();
+    QVERIFY(!child<QLabel>("m_pAdvice")->isVisible());
+    QVERIFY(child<QComboBox>("SourceComboBox")->isVisible());
+    QVERIFY(child<QPushButton>("CloneButton")->isEnabled());
 }
 
 QTEST_MAIN(tst_MainWindow)

@@ -8,6 +8,7 @@
 #include "app/state/StartArgument.h"
 #include "inventory/Companion.h"
 #include "platform/Platform.h"
+#include "ui/AccessNotice.h"
 #include "ui/CloneDisk.h"
 #include "ui/CloneWarning.h"
 #include "ui/CloseWgt.h"
@@ -219,7 +220,10 @@ void MainWindow::buildScreens()
     m_apScreens[navigation::DiskPartitionScreen] = m_pDiskPartitionPage = new DiskPartition(WidgetFrame);
     m_apScreens[navigation::ScanDiskScreen] = m_pScanDiskPage = new ScanDisk(WidgetFrame);
     m_apScreens[navigation::CloneDiskScreen] = m_pCloneDiskPage = new CloneDisk(WidgetFrame);
-    for (QWidget *screen : m_apScreens) {
+    m_pAccessNotice = new AccessNotice(WidgetFrame);
+    m_pAccessNotice->setObjectName(QStringLiteral("m_pAccessNotice"));
+    QList<QWidget *> pages(m_apScreens.cbegin(), m_apScreens.cend());
+    for (QWidget *screen : pages << m_pAccessNotice) {
         screen->setFixedSize(style::px(PageGeometry.width()), style::px(PageGeometry.height()));
         screen->move(style::px(PageGeometry.x()), style::px(PageGeometry.y()));
         screen->hide();

@@ -3,12 +3,15 @@
 #include "app/state/GlobalApp.h"
 #include "app/state/Globals.h"
 #include "app/state/Scale.h"
+#include "ui/AccessNotice.h"
 #include "ui/CloneDisk.h"
 #include "ui/ConfarmetionClass.h"
 #include "ui/MyButton.h"
 #include "ui/ScanDisk.h"
 #include "ui/ScanSwitchClass.h"
 #include "ui/Style.h"
+
+#include <initializer_list>
 
 using navigation::Look;
 
@@ -117,6 +120,23 @@ void MainWindow::showScreen(Screen screen)
     ScreenshotButton->setVisible(shown.screenshot);
     BackTestButton->hide();
     StopTestButton->hide();
+    showAccess();
+}
+
+/// Without the rights to open a disk there is nothing that the screens could show or do.
+void MainWindow::showAccess()
+{
+    const bool denied = g_App.m_bAccessDenied;
+    if (!denied && m_pAccessNotice->isHidden())
+        return;
+    m_pAccessNotice->setVisible(denied);
+    for (int i = 0; i < navigation::ScreenCount; ++i) {
+        const auto screen = static_cast<Screen>(i);
+        m_apScreens[static_cast<std::size_t>(i)]->setVisible(!denied && isDown(screen));
+    }
+    for (QWidget *idle : std::initializer_list<QWidget *>{DriveCombobox, ScanButton, CloneButton,
+                                                          ReportSaveButton, ScreenshotButton})
+        idle->setEnabled(!denied);
 }
 
 void MainWindow::OnShowDiskStatus()

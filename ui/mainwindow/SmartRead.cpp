@@ -101,8 +101,11 @@ void MainWindow::RefreshSelectedDisk()
     // Its end reloads the screen that shows then. A clone keeps the disks that it was started with.
     if (g_bListsLoading || m_pCloneDiskPage->IsCloning())
         return;
+    showAccess();
     showWaitingTiles();
     clearIdentityTexts();
+    if (g_App.m_bAccessDenied)
+        return;
     LookUpDisk(DriveCombobox->currentIndex());
     if (isDown(navigation::DiskStatusScreen)) {
         startRead();
@@ -316,7 +319,8 @@ void MainWindow::GetSmartTemprature()
 {
     // Reads only while Disk Partition shows, although the tile it writes lies on another screen. A read that
     // is under way has the file; the next minute comes.
-    if (m_bRefreshing || m_smartThread.isReading() || !isDown(navigation::DiskPartitionScreen))
+    if (m_bRefreshing || g_App.m_bAccessDenied || m_smartThread.isReading() ||
+        !isDown(navigation::DiskPartitionScreen))
         return;
     const QString unit = SettingsStore().text(key::TempValue);
     RefreshTemperatureReport(currentComboDisk());
