@@ -1,5 +1,7 @@
 #include "platform/linux/LsblkInventory.h"
 
+#include "platform/tools/DiskWords.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -24,19 +26,15 @@ const QString EfiSystemGuid = QStringLiteral("c12a7328-f81f-11d2-ba4b-00a0c93ec9
 const QString BasicDataGuid = QStringLiteral("ebd0a0a2-b9e5-4433-87c0-68b6b72699c7");
 const QString EfiSystemByte = QStringLiteral("0xef");
 
-/// How a bus shows in the disk table. The model's last two words are the bus and the word Device, as on every
-/// system that names a disk by its driver.
-struct Bus {
-    const char *transport;
-    const char *interfaceType;
-    const char *word;
+struct Transport {
+    const char *name;
+    tools::Bus bus;
 };
 
-constexpr Bus Buses[] = {
-    {"sata", "IDE", "ATA"},  {"ata", "IDE", "ATA"},  {"usb", "USB", "USB"},
-    {"nvme", "SCSI", "NVM"}, {"sas", "SCSI", "SAS"}, {"mmc", "SD", "MMC"},
+constexpr Transport Transports[] = {
+    {"sata", tools::Bus::Ata},  {"ata", tools::Bus::Ata}, {"usb", tools::Bus::Usb},
+    {"nvme", tools::Bus::Nvme}, {"sas", tools::Bus::Sas}, {"mmc", tools::Bus::Card},
 };
-constexpr Bus OtherBus{"", "SCSI", "HDD"};
 
 /// File systems by the names that the program knows.
 struct FileSystemName {
@@ -88,28 +86,15 @@ QString mountPoint(const QJsonObject &device)
     return first;
 }
 
-const Bus &busOf(const QJsonObject &device)
+tools::Bus busOf(const QJsonObject &device)
 {
-    const QString transport = text(device, "tran");
-    const bool isCard = transport.isEmpty() && text(device, "kname").startsWith(QLatin1String("mmcblk"));
-    for (const Bus &bus : Buses) {
-        if (transport == QLatin1String(bus.transport) || (isCard && bus.transport == QLatin1String("mmc")))
-            return bus;
+    const QString name = text(device, "tran");
+    for (const Transport &transport : Transports) {
+        if (name == QLatin1String(transport.name))
+            return transport.bus;
     }
-    return OtherBus;
-}
-
-QString modelOf(const QJsonObject &device)
-{
-    const QString vendor = text(device, "vendor");
-    QString model = text(device, "model");
-    if (model.isEmpty())
-        model = QLatin1String("Disk ") + text(device, "kname");
-    // SATA disks bear the bus as their vendor, virtual ones a number; some name it twice.
-    else if (!vendor.isEmpty() && vendor != QLatin1String("ATA") && !vendor.startsWith(QLatin1String("0x")) &&
-             !model.startsWith(vendor, Qt::CaseInsensitive))
-        model = vendor + QLatin1Char(' ') + model;
-    return QStringLiteral("%1 %2 Device").arg(model, QLatin1String(busOf(device).word));
+    const bool isCard = name.isEmpty() && text(device, "kname").startsWith(QLatin1String("mmcblk"));
+    return isCard ? tools::Bus::Card : tools::Bus::Other;
 }
 
 QString statusOf(const QJsonObject &device)
@@ -124,8 +109,10 @@ Disk toDisk(const QJsonObject &device, int diskNumber)
     Disk disk;
     disk.number = diskNumber;
     disk.media = flag(device, "rm") ? QStringLiteral("removable") : QStringLiteral("fixed");
-    disk.model = modelOf(device);
-    disk.interfaceType = QLatin1String(busOf(device).interfaceType);
+    const tools::Bus bus = busOf(device);
+    disk.model = tools::diskModel(text(device, "vendor"), text(device, "model"),
+                                  QLatin1String("Disk ") + text(device, "kname"), bus);
+    disk.interfaceType = tools::interfaceWord(bus);
     disk.status = statusOf(device);
     disk.serial = text(device, "serial");
     if (const quint64 sectorSize = number(device, "log-sec"); sectorSize >= SectorSize)

@@ -7,6 +7,7 @@
 #include "platform/OwnFiles.h"
 #include "platform/simulated/HistorySeed.h"
 #include "platform/simulated/StateFolder.h"
+#include "platform/tools/DiskWords.h"
 
 #include <QCryptographicHash>
 #include <QDateTime>
@@ -204,12 +205,8 @@ bool SimulatedPlatform::GetVolumeInformationW(const QString &root, QString *labe
 
 quint32 SimulatedPlatform::GetDriveTypeW(const QString &root)
 {
-    static const QStringList types{QStringLiteral("unknown"),   QStringLiteral("noroot"),
-                                   QStringLiteral("removable"), QStringLiteral("fixed"),
-                                   QStringLiteral("remote"),    QStringLiteral("cdrom"),
-                                   QStringLiteral("ramdisk")};
     const inventory::Volume *volume = volumeOf(root);
-    return volume != nullptr ? static_cast<quint32>(types.indexOf(volume->type))
+    return volume != nullptr ? static_cast<quint32>(tools::volumeTypes().indexOf(volume->type))
                              : quint32(io::DriveNoRootDir);
 }
 

@@ -1,5 +1,6 @@
 #include <QStringList>
 
+#include "platform/tools/DiskWords.h"
 #include "platform/tools/SystemTools.h"
 
 #include <QVector>
@@ -65,11 +66,7 @@ QString driveName(const Machine &machine, int row)
 
 QString driveTypeNumber(const Machine &machine, int row)
 {
-    static const QStringList types{QStringLiteral("unknown"),   QStringLiteral("noroot"),
-                                   QStringLiteral("removable"), QStringLiteral("fixed"),
-                                   QStringLiteral("remote"),    QStringLiteral("cdrom"),
-                                   QStringLiteral("ramdisk")};
-    return QString::number(std::max(0, static_cast<int>(types.indexOf(machine.volumes.at(row).type))));
+    return QString::number(std::max(0, volumeTypes().indexOf(machine.volumes.at(row).type)));
 }
 
 /// Sizes come from the file system: a drive without a medium has neither.
