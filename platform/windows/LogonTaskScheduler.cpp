@@ -174,38 +174,41 @@ bool create(const LogonTask &task)
 
 } // namespace
 
-void initializeCom()
+// A thread that has COM in another mode uses it as it is, and has no count of its own to give back.
+ComUse::ComUse() : m_taken(succeeded(::CoInitialize(nullptr), "\nCoInitializeEx failed: %x")) {}
+
+ComUse::~ComUse()
 {
-    // A thread that has COM in another mode still gets the security.
-    succeeded(::CoInitialize(nullptr), "\nCoInitializeEx failed: %x");
+    if (m_taken)
+        ::CoUninitialize();
+}
+
+std::unique_ptr<ComUse> initializeCom()
+{
+    auto com = std::make_unique<ComUse>();
     if (!succeeded(::CoInitializeSecurity(nullptr, -1, nullptr, nullptr, RPC_C_AUTHN_LEVEL_PKT_PRIVACY,
                                           RPC_C_IMP_LEVEL_IMPERSONATE, nullptr, 0, nullptr),
                    "\nCoInitializeSecurity failed: %x"))
-        ::CoUninitialize();
+        com.reset();
+    return com;
 }
 
 void createLogonTask(const LogonTask &task)
 {
+    const ComUse com;
     if (create(task)) {
         std::printf("\n Success! Task successfully registered. ");
         std::fflush(stdout);
-    } else {
-        ::CoUninitialize();
     }
 }
 
 void deleteLogonTask(const QString &name)
 {
-    bool opened = false;
-    {
-        Held<ITaskService> service;
-        Held<ITaskFolder> root;
-        opened = openRoot(service, root);
-        if (opened)
-            root->DeleteTask(Text(name), 0);
-    }
-    if (!opened)
-        ::CoUninitialize();
+    const ComUse com;
+    Held<ITaskService> service;
+    Held<ITaskFolder> root;
+    if (openRoot(service, root))
+        root->DeleteTask(Text(name), 0);
 }
 
 } // namespace windows

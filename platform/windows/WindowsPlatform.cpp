@@ -3,7 +3,6 @@
 #include "platform/HttpDownload.h"
 #include "platform/JsonSettings.h"
 #include "platform/NativePlatform.h"
-#include "platform/windows/LogonTaskScheduler.h"
 #include "platform/windows/PrivateFolder.h"
 
 #include <QDesktopServices>
@@ -358,7 +357,13 @@ std::optional<DeviceChange> WindowsPlatform::decodeDeviceMessage(const QByteArra
 
 void WindowsPlatform::InitializeCom()
 {
-    windows::initializeCom();
+    if (!m_com)
+        m_com = windows::initializeCom();
+}
+
+void WindowsPlatform::Leave()
+{
+    m_com.reset();
 }
 
 void WindowsPlatform::CreateLogonTask(const LogonTask &task)

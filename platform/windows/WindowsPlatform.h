@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Platform.h"
+#include "platform/windows/LogonTaskScheduler.h"
 #include "platform/windows/RawDevices.h"
 
 /// A Windows PC.
@@ -55,8 +56,12 @@ public:
     void CreateLogonTask(const LogonTask &task) override;
     void DeleteLogonTask(const QString &name) override;
 
+    /// Lets COM go.
+    void Leave() override;
+
     std::unique_ptr<QSettings> OpenSettings(const QString &registryPath) override;
 
 private:
     windows::RawDevices m_devices;
+    std::unique_ptr<windows::ComUse> m_com;
 };
