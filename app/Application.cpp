@@ -142,6 +142,8 @@ int runApplication(int argc, char **argv)
     g_strStartArgument = QCoreApplication::arguments().value(1);
     g_strRunMode = g_strStartArgument;
     setDefaults();
+    // The tools beside the program are called without a folder.
+    platform.SetCurrentDirectoryW(g_strApplicationFolder);
     chooseRegistryPaths();
     int languageType = 0;
     readStartSettings(&languageType);

@@ -129,6 +129,9 @@ public:
     /// Opens a regular file that nobody else could have written, for reading. While the result lives it is
     /// not changed or replaced, as far as the system can hold it. Null where there is no such file.
     virtual std::unique_ptr<QFile> HoldFile(const QString &path) = 0;
+    /// The process works in `folder` from here on, so that programs named without a folder are found there
+    /// first. Nothing where no program is looked for in the folder that a process works in.
+    virtual void SetCurrentDirectoryW(const QString &folder) { Q_UNUSED(folder) }
     /// A path as this platform writes it: the program composes paths with backslashes.
     virtual QString NativePath(const QString &path) const = 0;
     /// The value of COMSPEC, empty if unset.

@@ -4,6 +4,8 @@
 #include <QRegularExpression>
 #include <QThread>
 
+#include <algorithm>
+
 namespace tools
 {
 
@@ -29,6 +31,14 @@ struct Stage {
     bool redirected = false;
     QString target;
 };
+
+/// What stands behind the switch; null without one.
+QString commandOf(const std::wstring &line)
+{
+    const QString text = QString::fromStdWString(line);
+    const int runSwitch = text.indexOf(RunSwitch, 0, Qt::CaseInsensitive);
+    return runSwitch < 0 ? QString() : text.mid(runSwitch + RunSwitch.size());
+}
 
 Stage parseStage(QString text)
 {
@@ -77,13 +87,12 @@ void CommandInterpreter::write(const QByteArray &output, int milliseconds, QFile
 bool CommandInterpreter::run(const std::wstring &line,
                              const std::function<QString(const QString &)> &nativePath) const
 {
-    const QString text = QString::fromStdWString(line);
-    const int runSwitch = text.indexOf(RunSwitch, 0, Qt::CaseInsensitive);
-    if (runSwitch < 0)
+    const QString command = commandOf(line);
+    if (command.isNull())
         return false;
 
     QByteArray piped;
-    const QStringList stages = text.mid(runSwitch + RunSwitch.size()).split(QLatin1Char('|'));
+    const QStringList stages = command.split(QLatin1Char('|'));
     for (const QString &stageText : stages) {
         const Stage stage = parseStage(stageText);
         QFile target(nativePath(stage.target));
@@ -101,6 +110,19 @@ bool CommandInterpreter::run(const std::wstring &line,
         piped = stage.redirected ? QByteArray() : output;
     }
     return true;
+}
+
+QString CommandInterpreter::programOf(const std::wstring &line)
+{
+    return parseStage(commandOf(line).section(QLatin1Char('|'), 0, 0)).words.value(0);
+}
+
+bool CommandInterpreter::breaksCommands(const QString &path)
+{
+    const QLatin1String special(" \t&|<>()^%\"!,;=");
+    return std::any_of(path.cbegin(), path.cend(), [&special](QChar letter) {
+        return letter.unicode() > 126 || std::find(special.begin(), special.end(), letter) != special.end();
+    });
 }
 
 } // namespace tools

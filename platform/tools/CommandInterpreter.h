@@ -32,6 +32,13 @@ public:
     /// command does there. False where the line has no " /c ".
     bool run(const std::wstring &line, const std::function<QString(const QString &)> &nativePath) const;
 
+    /// The program that such a line starts first, as it is written there; empty where there is none.
+    static QString programOf(const std::wstring &line);
+
+    /// True for a path that does not pass through a line as it is: lines quote nothing, and reach the
+    /// interpreter byte by byte.
+    static bool breaksCommands(const QString &path);
+
 private:
     struct Entry {
         Tool tool;

@@ -162,8 +162,9 @@ bool WindowsPlatform::CreateProcessAndWait(const std::wstring &line, bool hidden
     // The system may write into the line.
     std::vector<wchar_t> buffer(line.begin(), line.end());
     buffer.push_back(L'\0');
+    // A file dialog may have taken the process to another folder, where a tool of the same name may lie.
     if (!::CreateProcessW(nullptr, buffer.data(), nullptr, nullptr, FALSE, CREATE_NEW_CONSOLE, nullptr,
-                          nullptr, &startup, &process))
+                          m_workingFolder.empty() ? nullptr : m_workingFolder.c_str(), &startup, &process))
         return false;
     ::WaitForSingleObject(process.hProcess, INFINITE);
     ::CloseHandle(process.hThread);
@@ -223,9 +224,17 @@ bool WindowsPlatform::OpenUrl(const QUrl &url)
 QString WindowsPlatform::GetTempPathW()
 {
     std::array<wchar_t, PathCharacters> buffer{};
-    const DWORD length = ::GetTempPathW(PathCharacters, buffer.data());
-    return length < PathCharacters ? QString::fromWCharArray(buffer.data(), static_cast<int>(length))
-                                   : QString();
+    DWORD length = ::GetTempPathW(PathCharacters, buffer.data());
+    if (length >= PathCharacters)
+        return QString();
+    const QString path = QString::fromWCharArray(buffer.data(), static_cast<int>(length));
+    if (!tools::CommandInterpreter::breaksCommands(path))
+        return path;
+    // A volume may keep no short names.
+    length = ::GetShortPathNameW(wide(path), buffer.data(), PathCharacters);
+    return length > 0 && length < PathCharacters
+               ? QString::fromWCharArray(buffer.data(), static_cast<int>(length))
+               : path;
 }
 
 QString WindowsPlatform::GetSystemDirectoryW()
@@ -265,6 +274,14 @@ QString WindowsPlatform::MakePrivateFolder(const QString &name)
 std::unique_ptr<QFile> WindowsPlatform::HoldFile(const QString &path)
 {
     return windows::holdFile(path);
+}
+
+void WindowsPlatform::SetCurrentDirectoryW(const QString &folder)
+{
+    m_workingFolder = NativePath(folder).toStdWString();
+    ::SetCurrentDirectoryW(m_workingFolder.c_str());
+    // Set, it keeps the interpreter from looking into that folder at all.
+    ::SetEnvironmentVariableW(L"NoDefaultCurrentDirectoryInExePath", nullptr);
 }
 
 QString WindowsPlatform::NativePath(const QString &path) const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Platform.h"
+#include "platform/tools/CommandInterpreter.h"
 #include "platform/windows/LogonTaskScheduler.h"
 #include "platform/windows/RawDevices.h"
 
@@ -39,6 +40,7 @@ public:
     QString HistoryFolder(const QString &applicationFolder) override;
     QString MakePrivateFolder(const QString &name) override;
     std::unique_ptr<QFile> HoldFile(const QString &path) override;
+    void SetCurrentDirectoryW(const QString &folder) override;
     QString NativePath(const QString &path) const override;
     QByteArray CommandInterpreter() override;
     QString InstanceScope() override;
@@ -64,4 +66,5 @@ public:
 private:
     windows::RawDevices m_devices;
     std::unique_ptr<windows::ComUse> m_com;
+    std::wstring m_workingFolder; ///< empty: the one that the process was started in
 };

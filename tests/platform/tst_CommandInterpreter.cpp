@@ -44,6 +44,8 @@ private slots:
     void takesBytesBeyondAsciiOneByOne();
     void runsNothingWithoutATarget();
     void refusesALineWithoutSwitch();
+    void namesTheProgram();
+    void knowsPathsThatBreakLines();
 
 private:
     bool runLine(const QByteArray &command);
@@ -169,6 +171,22 @@ void tst_CommandInterpreter::refusesALineWithoutSwitch()
     QVERIFY(!m_interpreter.run(widened("cmd.exe echo64 a >> " + m_target.toUtf8()), slashes));
     QCOMPARE(m_runs, 0);
     QVERIFY(!QFile::exists(m_target));
+}
+
+void tst_CommandInterpreter::namesTheProgram()
+{
+    QCOMPARE(tools::CommandInterpreter::programOf(
+                 L"cmd.exe /c C:\\Windows\\system32\\wbem\\WMIC.exe partition get diskindex >> D:\\t.txt "),
+             QStringLiteral("C:\\Windows\\system32\\wbem\\WMIC.exe"));
+    QVERIFY(tools::CommandInterpreter::programOf(L"cmd.exe").isEmpty());
+}
+
+void tst_CommandInterpreter::knowsPathsThatBreakLines()
+{
+    QVERIFY(!tools::CommandInterpreter::breaksCommands(QStringLiteral("C:\\Users\\ANNA-M~1.X_Y\\Temp\\")));
+    for (const QChar letter : QStringLiteral(" &%^(),;=\u00fc\u6c34"))
+        QVERIFY2(tools::CommandInterpreter::breaksCommands(QStringLiteral("C:\\a%1b\\").arg(letter)),
+                 qPrintable(QString(letter)));
 }
 
 QTEST_GUILESS_MAIN(tst_CommandInterpreter)

@@ -30,6 +30,9 @@ private slots:
     void initTestCase();
     void init();
     void runsToolsHidden();
+    void runsToolsOfTheWorkingFolder();
+    void programWorksInItsOwnFolder();
+    void tempFolderWithAnyName();
     void interpreterThatIsMissing();
     void volumeTable();
     void diskTable();
@@ -188,6 +191,66 @@ void tst_WindowsTools::runsToolsHidden()
     QVERIFY(runner::runAndRead(QStringLiteral("no-such-tool.exe -a"), QStringLiteral("HalvaneRun.txt"),
                                [&read](QTextStream &stream) { read = stream.atEnd(); }));
     QVERIFY(read);
+}
+
+void tst_WindowsTools::runsToolsOfTheWorkingFolder()
+{
+    // The tool that is called by its bare name is the one beside the program, wherever a file dialog went
+    // since.
+    Platform &pc = Platform::current();
+    for (const char *folder : {"own", "planted"}) {
+        QVERIFY(QDir(m_folder->path()).mkdir(QLatin1String(folder)));
+        QVERIFY(writeFile(path(QLatin1String(folder) + QStringLiteral("/bare.bat")),
+                          QByteArray("@echo ") + folder + "\r\n"));
+    }
+    const QString before = QDir::currentPath();
+    const auto restore = qScopeGuard([&] { pc.SetCurrentDirectoryW(before); });
+    pc.SetCurrentDirectoryW(path(QStringLiteral("own")));
+    QVERIFY(QFile::exists(QStringLiteral("bare.bat")));
+    QVERIFY(QDir::setCurrent(path(QStringLiteral("planted"))));
+    QString text;
+    QVERIFY(runner::runAndRead(QStringLiteral("bare.bat"), QStringLiteral("HalvaneRun.txt"),
+                               [&text](QTextStream &stream) { text = stream.readLine(); }));
+    QCOMPARE(text, QStringLiteral("own"));
+}
+
+void tst_WindowsTools::programWorksInItsOwnFolder()
+{
+    const QDir installed(QCoreApplication::applicationDirPath() + QStringLiteral("/.."));
+    const QString tool = QStringLiteral("smartctl64Bit.exe");
+    if (!installed.exists(tool) || !installed.exists(QStringLiteral("VelmoraHalvane.exe")))
+        QSKIP("no installation lies around the tests");
+    // Started elsewhere, it takes its own tool along, not the one that lies there.
+    QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("temp")));
+    QVERIFY(writeFile(path(tool), "planted"));
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("TMP"), QDir::toNativeSeparators(path(QStringLiteral("temp"))));
+    QProcess program;
+    program.setProcessEnvironment(environment);
+    program.setWorkingDirectory(m_folder->path());
+    program.start(installed.filePath(QStringLiteral("VelmoraHalvane.exe")), QStringList());
+    const auto end = qScopeGuard([&program] {
+        program.kill();
+        program.waitForFinished();
+    });
+    QVERIFY(program.waitForStarted());
+    const qint64 size = QFileInfo(installed.filePath(tool)).size();
+    QTRY_COMPARE_WITH_TIMEOUT(QFileInfo(path(QStringLiteral("temp/") + tool)).size(), size, 60000);
+}
+
+void tst_WindowsTools::tempFolderWithAnyName()
+{
+    const QString name = QStringLiteral("J\u00fcrgen & Anna (100%)");
+    QVERIFY(QDir(m_folder->path()).mkdir(name));
+    const QString before = QDir::toNativeSeparators(QDir::tempPath());
+    ::SetEnvironmentVariableW(L"TMP", wide(QDir::toNativeSeparators(path(name))));
+    const auto restore = qScopeGuard([&before] { ::SetEnvironmentVariableW(L"TMP", wide(before)); });
+    QString text;
+    QVERIFY(runner::runAndRead(QStringLiteral("echo found"), QStringLiteral("HalvaneRun.txt"),
+                               [&text](QTextStream &stream) { text = stream.readLine(); }));
+    QCOMPARE(text.trimmed(), QStringLiteral("found"));
+    QVERIFY(writeFile(tempFile(QStringLiteral("here")), "x") &&
+            QFile::exists(path(name + QStringLiteral("/here"))));
 }
 
 void tst_WindowsTools::interpreterThatIsMissing()
