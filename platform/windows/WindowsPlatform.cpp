@@ -3,10 +3,13 @@
 #include "platform/HttpDownload.h"
 #include "platform/JsonSettings.h"
 #include "platform/NativePlatform.h"
+#include "platform/tools/SystemTools.h"
 #include "platform/windows/PrivateFolder.h"
+#include "platform/windows/SystemInventory.h"
 
 #include <QDesktopServices>
 #include <QDir>
+#include <QFile>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QTemporaryFile>
@@ -46,6 +49,9 @@ WindowsPlatform::WindowsPlatform()
 {
     // An empty card reader would ask for a medium in a box of the system's own.
     ::SetErrorMode(::GetErrorMode() | SEM_FAILCRITICALERRORS);
+    m_ownTools.addTool(QStringLiteral("wmic"), [this](const QStringList &arguments, const QByteArray &) {
+        return tools::wmic(windows::readMachine(arguments.value(0), this), arguments);
+    });
 }
 
 // Raw devices
@@ -152,6 +158,11 @@ bool WindowsPlatform::GetDiskFreeSpaceExW(const QString &root, quint64 *totalByt
 
 bool WindowsPlatform::CreateProcessAndWait(const std::wstring &line, bool hidden)
 {
+    // Newer systems come without this tool; its tables are made here then.
+    const QString program = tools::CommandInterpreter::programOf(line);
+    if (program.endsWith(QLatin1String("\\wbem\\WMIC.exe"), Qt::CaseInsensitive) && !QFile::exists(program))
+        return m_ownTools.run(line, [](const QString &path) { return path; });
+
     STARTUPINFOW startup{};
     startup.cb = sizeof(startup);
     if (hidden) {

@@ -65,6 +65,7 @@ public:
 
 private:
     windows::RawDevices m_devices;
+    tools::CommandInterpreter m_ownTools; ///< what the system may lack
     std::unique_ptr<windows::ComUse> m_com;
     std::wstring m_workingFolder; ///< empty: the one that the process was started in
 };

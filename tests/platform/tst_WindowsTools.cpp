@@ -36,6 +36,7 @@ private slots:
     void interpreterThatIsMissing();
     void volumeTable();
     void diskTable();
+    void tablesWithoutTheTool();
     void seesTheCompanion();
     void killsTheCompanion();
     void opensPrograms();
@@ -297,6 +298,40 @@ void tst_WindowsTools::diskTable()
     QVERIFY(probed > 0);
     QVERIFY(!g_pWmicDiskListHead->szModel.text().isEmpty());
     QCOMPARE(g_pWmicDiskListHead->szStatus.text(), QStringLiteral("OK"));
+}
+
+void tst_WindowsTools::tablesWithoutTheTool()
+{
+    // Wine's own goes for as long as this takes. A system of today has none.
+    const QString tool = g_App.m_strSystemFolder + QStringLiteral("\\wbem\\WMIC.exe");
+    const QString hidden = tool + QStringLiteral(".hidden");
+    if (!m_bWine && QFile::exists(tool))
+        QSKIP("this system has the tool");
+    QVERIFY(!m_bWine || QFile::rename(tool, hidden));
+    const auto restore = qScopeGuard([&] { QFile::rename(hidden, tool); });
+
+    QStringList probed;
+    LoadDiskDrives([&probed](int disk, const QString &bus) { probed << QString::number(disk) + bus; });
+    const WmicDiskRecord *disk = g_pWmicDiskListHead;
+    QVERIFY(disk && disk->pNext); // the last line of the table is blank
+    QCOMPARE(disk->szStatus.text(), QStringLiteral("OK"));
+    QCOMPARE(disk->nDiskId, 128u + disk->nIndex);
+    QVERIFY(!disk->szModel.text().isEmpty());
+    QCOMPARE(probed.value(0), QString::number(disk->nIndex) + disk->szInterface.text());
+
+    LoadLogicalDisks();
+    const QString system = g_App.m_strSystemFolder.left(2);
+    const LogicalDiskRecord *record = g_pLogicalDiskListHead;
+    while (record && record->szCaption.text() != system)
+        record = record->pNext;
+    QVERIFY(record);
+    quint64 total = 0;
+    QString fileSystem;
+    QVERIFY(Platform::current().GetDiskFreeSpaceExW(system + QLatin1Char('\\'), &total, nullptr));
+    QVERIFY(Platform::current().GetVolumeInformationW(system + QLatin1Char('\\'), nullptr, &fileSystem));
+    QCOMPARE(record->nSizeBytes, qint64(total));
+    QCOMPARE(record->szFileSystem.text(), fileSystem);
+    QVERIFY(!GetSystemDiskIndex().isNull());
 }
 
 bool tst_WindowsTools::startAs(const QString &name, QProcess *process) const
