@@ -1,5 +1,6 @@
 #include "fuzz/Targets.h"
 
+#include "fuzz/FileTargets.h"
 #include "fuzz/ReferenceWalk.h"
 #include "inventory/BootSector.h"
 #include "inventory/LinuxNodes.h"
@@ -138,7 +139,13 @@ const QVector<Target> &allTargets()
     static const QVector<Target> targets{{"disks", &Mutator::disk, runDisk},
                                          {"volumes", &Mutator::volume, runVolume},
                                          {"tables", &Mutator::text, runTable},
-                                         {"reports", &Mutator::text, runReport}};
+                                         {"reports", &Mutator::text, runReport},
+                                         {"settings", &Mutator::text, filetargets::runSettings},
+                                         {"descriptions", &Mutator::text, filetargets::runDescription},
+                                         {"lsblk", &Mutator::text, filetargets::runBlockDevices},
+                                         {"history", &Mutator::text, filetargets::runHistory},
+                                         {"versions", &Mutator::text, filetargets::runVersions},
+                                         {"self-tests", &Mutator::text, filetargets::runSelfTests}};
     return targets;
 }
 

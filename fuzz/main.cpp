@@ -19,12 +19,14 @@ constexpr quint64 InputsPerMachine = 2000;
 /// What is being taken in, for the last words of the process.
 quint64 currentSeed = 0;
 quint64 currentInput = 0;
+int onlyTarget = -1; ///< -1: each in its turn
 
 void nameInput()
 {
-    std::fprintf(stderr, "\nThis was input %llu of seed %llu: fuzz/run --seed %llu --input %llu\n",
+    std::fprintf(stderr, "\nThis was input %llu of seed %llu: fuzz/run --seed %llu --input %llu%s%s\n",
                  static_cast<unsigned long long>(currentInput), static_cast<unsigned long long>(currentSeed),
-                 static_cast<unsigned long long>(currentSeed), static_cast<unsigned long long>(currentInput));
+                 static_cast<unsigned long long>(currentSeed), static_cast<unsigned long long>(currentInput),
+                 onlyTarget < 0 ? "" : " --only ", onlyTarget < 0 ? "" : allTargets().at(onlyTarget).name);
 }
 
 /// The process is lost anyhow, so the words may be those of the standard library.
@@ -50,7 +52,7 @@ QVector<QByteArray> readCorpus(const QString &folder)
 bool runInput(const QVector<QVector<QByteArray>> &corpora, quint64 seed, quint64 input)
 {
     currentInput = input;
-    const int index = int(input % quint64(allTargets().size()));
+    const int index = onlyTarget < 0 ? int(input % quint64(allTargets().size())) : onlyTarget;
     const Target &target = allTargets().at(index);
     Mutator mutator(seed * 0x9E3779B97F4A7C15 + input * 0xD1B54A32D192ED03);
     alarm(SecondsPerInput);
@@ -65,13 +67,17 @@ bool runInput(const QVector<QVector<QByteArray>> &corpora, quint64 seed, quint64
 
 } // namespace
 
-/// halvane_fuzz <folder of sound inputs> <seed> <first input> <count>
+/// halvane_fuzz <folder of sound inputs> <seed> <first input> <count> [<target>]
 int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.size() != 5) {
-        std::fputs("halvane_fuzz <folder of sound inputs> <seed> <first input> <count>\n", stderr);
+    for (int i = 0; i < allTargets().size(); ++i) {
+        if (arguments.value(5) == QLatin1String(allTargets().at(i).name))
+            onlyTarget = i;
+    }
+    if (arguments.size() < 5 || (arguments.size() > 5 && onlyTarget < 0)) {
+        std::fputs("halvane_fuzz <folder of sound inputs> <seed> <first input> <count> [<target>]\n", stderr);
         return 2;
     }
     currentSeed = arguments.at(2).toULongLong();

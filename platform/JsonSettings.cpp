@@ -49,7 +49,19 @@ QJsonValue toJson(const QVariant &value)
     }
 }
 
-bool readFile(QIODevice &device, QSettings::SettingsMap &map)
+QSettings::Format format()
+{
+    static const QSettings::Format registered = QSettings::registerFormat(
+        QStringLiteral("json"), jsonsettings::read, jsonsettings::write, Qt::CaseSensitive);
+    return registered;
+}
+
+} // namespace
+
+namespace jsonsettings
+{
+
+bool read(QIODevice &device, QSettings::SettingsMap &map)
 {
     const QByteArray bytes = device.readAll();
     QJsonParseError error{};
@@ -64,7 +76,7 @@ bool readFile(QIODevice &device, QSettings::SettingsMap &map)
     return true;
 }
 
-bool writeFile(QIODevice &device, const QSettings::SettingsMap &map)
+bool write(QIODevice &device, const QSettings::SettingsMap &map)
 {
     QJsonObject object;
     for (auto it = map.begin(); it != map.end(); ++it) {
@@ -72,18 +84,6 @@ bool writeFile(QIODevice &device, const QSettings::SettingsMap &map)
     }
     return device.write(QJsonDocument(object).toJson()) >= 0;
 }
-
-QSettings::Format format()
-{
-    static const QSettings::Format registered =
-        QSettings::registerFormat(QStringLiteral("json"), readFile, writeFile, Qt::CaseSensitive);
-    return registered;
-}
-
-} // namespace
-
-namespace jsonsettings
-{
 
 QString fileOf(const QString &folder, const QString &registryPath)
 {

@@ -21,6 +21,10 @@ std::unique_ptr<QSettings> open(const QString &file);
 /// A store that keeps nothing.
 std::unique_ptr<QSettings> openNothing();
 
+/// The text of a store; false where it is none.
+bool read(QIODevice &device, QSettings::SettingsMap &map);
+bool write(QIODevice &device, const QSettings::SettingsMap &map);
+
 /// Writes first values unless the file exists. Any thread.
 void seed(const QString &file, const QJsonObject &values);
 

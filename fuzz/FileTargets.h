@@ -1,0 +1,19 @@
+#pragma once
+
+#include "fuzz/Mutator.h"
+
+#include <QString>
+
+/// Readers of what lies in files: settings, described PCs, the history, what a web folder or a tool tells.
+/// Each says what is wrong with the result, empty if nothing is.
+namespace filetargets
+{
+
+QString runSettings(const QByteArray &input, Mutator &mutator);
+QString runDescription(const QByteArray &input, Mutator &mutator);
+QString runBlockDevices(const QByteArray &input, Mutator &mutator);
+QString runHistory(const QByteArray &input, Mutator &mutator);
+QString runVersions(const QByteArray &input, Mutator &mutator);
+QString runSelfTests(const QByteArray &input, Mutator &mutator);
+
+} // namespace filetargets
