@@ -41,6 +41,60 @@ Message message(const char *title, const char *text, const char *second)
     return message(title, text, translated(second));
 }
 
+struct FaultText {
+    CloneFault fault;
+    const char *text;
+};
+
+const FaultText faultTexts[] = {
+    {CloneFault::NoDisks, QT_TRANSLATE_NOOP("CloneDisk", "The disks are not there any more.")},
+    {CloneFault::NoMemory, QT_TRANSLATE_NOOP("CloneDisk", "There is not enough memory.")},
+    {CloneFault::SourceNotOpen, QT_TRANSLATE_NOOP("CloneDisk", "The source disk cannot be opened.")},
+    {CloneFault::DestinationNotOpen,
+     QT_TRANSLATE_NOOP("CloneDisk", "The destination disk cannot be opened.")},
+    {CloneFault::SourceIsAnother,
+     QT_TRANSLATE_NOOP("CloneDisk", "The source disk is not the one that was chosen.")},
+    {CloneFault::DestinationIsAnother,
+     QT_TRANSLATE_NOOP("CloneDisk", "The destination disk is not the one that was chosen.")},
+    {CloneFault::SourceEmpty, QT_TRANSLATE_NOOP("CloneDisk", "The source disk has no sectors.")},
+    {CloneFault::DestinationSmaller,
+     QT_TRANSLATE_NOOP("CloneDisk", "Destination disk size is smaller than source disk.")},
+    {CloneFault::DestinationOfSystem,
+     QT_TRANSLATE_NOOP("CloneDisk", "The system runs from the destination disk.")},
+    {CloneFault::DestinationMounted,
+     QT_TRANSLATE_NOOP("CloneDisk", "A volume of the destination disk is in use.")},
+    {CloneFault::DestinationHeld, QT_TRANSLATE_NOOP("CloneDisk", "The destination disk is in use.")},
+    {CloneFault::DestinationUnknown,
+     QT_TRANSLATE_NOOP("CloneDisk", "It cannot be found out whether the destination disk is in use.")},
+    {CloneFault::DestinationTakesNothing,
+     QT_TRANSLATE_NOOP("CloneDisk", "The destination disk cannot be written. It may be in use.")},
+    {CloneFault::SourceGone, QT_TRANSLATE_NOOP("CloneDisk", "The source disk does not answer any more.")},
+    {CloneFault::DestinationGone,
+     QT_TRANSLATE_NOOP("CloneDisk", "The destination disk does not answer any more.")},
+};
+
+QString faultText(const CloneOutcome &outcome)
+{
+    for (const FaultText &known : faultTexts) {
+        if (known.fault == outcome.fault)
+            return translated(known.text) +
+                   (outcome.detail.isEmpty() ? QString() : QLatin1Char(' ') + outcome.detail);
+    }
+    return {};
+}
+
+QString lossText(const LostSectors &lost)
+{
+    const QString counts =
+        translated(QT_TRANSLATE_NOOP("CloneDisk", "%1 sectors could not be read and were filled with zeros. "
+                                                  "%2 sectors could not be written."))
+            .arg(lost.unread.count())
+            .arg(lost.unwritten.count());
+    const char *const unconfirmed =
+        QT_TRANSLATE_NOOP("CloneDisk", "The destination disk did not confirm that all data is stored.");
+    return lost.unconfirmed ? counts + QLatin1Char(' ') + translated(unconfirmed) : counts;
+}
+
 } // namespace
 
 std::optional<Message> refusal(const Side &source, const Side &destination)
@@ -69,15 +123,27 @@ Message aborted(const QString &second)
                    QT_TRANSLATE_NOOP("CloneDisk", "Cloning Aborted."), second);
 }
 
-Message finished(bool complete)
+Message finished(const CloneOutcome &outcome)
 {
-    if (complete)
-        return message(QT_TRANSLATE_NOOP("CloneDisk", "Clone Disk"),
-                       QT_TRANSLATE_NOOP("CloneDisk", "Disk Cloning complete."),
-                       QT_TRANSLATE_NOOP("CloneDisk", "Disk cloning process completed successfully."));
-    return message(QT_TRANSLATE_NOOP("CloneDisk", "Clone Disk"),
-                   QT_TRANSLATE_NOOP("CloneDisk", "Cloning aborted."),
-                   QT_TRANSLATE_NOOP("CloneDisk", "Cloning process aborted by the user."));
+    const QString title = translated(QT_TRANSLATE_NOOP("CloneDisk", "Clone Disk"));
+    switch (outcome.end) {
+    case CloneOutcome::End::Complete:
+        return {title, translated(QT_TRANSLATE_NOOP("CloneDisk", "Disk Cloning complete.")),
+                translated(QT_TRANSLATE_NOOP("CloneDisk", "Disk cloning process completed successfully."))};
+    case CloneOutcome::End::WithErrors:
+        return {title, translated(QT_TRANSLATE_NOOP("CloneDisk", "Disk Cloning complete with errors.")),
+                lossText(outcome.lost)};
+    case CloneOutcome::End::Stopped:
+        return {title, translated(QT_TRANSLATE_NOOP("CloneDisk", "Cloning aborted.")),
+                translated(QT_TRANSLATE_NOOP("CloneDisk", "Cloning process aborted by the user."))};
+    case CloneOutcome::End::Refused:
+        return {title, faultText(outcome),
+                translated(QT_TRANSLATE_NOOP("CloneDisk", "Nothing was written on any disk."))};
+    case CloneOutcome::End::Failed:
+        break;
+    }
+    return {translated(QT_TRANSLATE_NOOP("CloneDisk", "Cloning Failed")), faultText(outcome),
+            translated(QT_TRANSLATE_NOOP("CloneDisk", "The destination disk holds no complete copy."))};
 }
 
 QString remainingText(qint64 remaining)

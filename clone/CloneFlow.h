@@ -1,5 +1,7 @@
 #pragma once
 
+#include "clone/CloneOutcome.h"
+
 #include <QString>
 
 #include <optional>
@@ -25,13 +27,12 @@ struct Side {
 /// it may.
 std::optional<Message> refusal(const Side &source, const Side &destination);
 
-/// \name Endings. All go into one box, so the last of a run stands.
+/// \name Endings. All go into one box, so the last of a run, which is finished(), stands.
 /// @{
 Message failed();
 /// `second` is what the second line reads now: it stays.
 Message aborted(const QString &second);
-/// A disk that did not open ends, at last, in the words of a stop.
-Message finished(bool complete);
+Message finished(const CloneOutcome &outcome);
 /// @}
 
 /// How the time that is left reads; never less than a minute. `remaining` in ms, may be negative.

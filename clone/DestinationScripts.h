@@ -3,8 +3,8 @@
 #include <QStringList>
 
 /// What is done to the destination of a clone before and after the copying, as scripts for the system's
-/// partition tool. Disks are physical numbers. Results are not looked at: trouble shows when the disk is
-/// opened or written.
+/// partition tool. Disks are physical numbers. Results are not looked at: the disk is looked at before and
+/// behind, and trouble shows when it is written.
 namespace destination
 {
 

@@ -2,13 +2,13 @@
 
 #include "app/state/GlobalApp.h"
 #include "app/state/Globals.h"
+#include "clone/CloneCopy.h"
 #include "clone/DestinationScripts.h"
-#include "inventory/RawAccess.h"
+#include "clone/DiskCheck.h"
 
 #include <QElapsedTimer>
 #include <QMutexLocker>
 
-#include <algorithm>
 #include <array>
 #include <cstring>
 #include <memory>
@@ -17,12 +17,11 @@
 namespace
 {
 
-constexpr qint64 BlockSectors = 0x8000;
-constexpr quint32 TransferSize = 0x1000000; ///< bytes; of every transfer, also of the last ones
-constexpr std::size_t BufferSize = TransferSize + 1;
-constexpr quint32 ProbeSize = 512;
+constexpr qint64 BlockSectors = BlockReader::BlockSectors;
+constexpr std::size_t BufferSize = 0x1000001;
 constexpr quint32 SettlePause = 4000; ///< ms
 constexpr int ProgressPeriod = 3;     ///< blocks
+constexpr qint64 TellPeriod = 200;    ///< ms, while small pieces are copied
 
 /// On a page boundary, so that a platform can hand it to the device as it is.
 constexpr std::align_val_t BufferAlignment{4096};
@@ -42,35 +41,16 @@ Buffer allocateBuffer()
 
 } // namespace
 
-/// A disk of the clone. While it is open its record holds the handle, too.
-struct ThreadDriveClone::Target {
-    explicit Target(DiskDetails &details) : m_details(details), driveCode(details.nDevice)
-    {
-        handle = OpenDisk(driveCode);
-        m_details.hDisk = handle;
-    }
-    ~Target() { close(); }
-    Target(const Target &) = delete;
-    Target &operator=(const Target &) = delete;
+/// One is filled while the other is written.
+struct ThreadDriveClone::Buffers {
+    const Buffer first = allocateBuffer();
+    const Buffer second = allocateBuffer();
 
-    bool isOpen() const { return handle != Platform::InvalidHandle; }
-    void close()
-    {
-        if (isOpen())
-            Platform::current().CloseHandle(handle);
-        handle = Platform::InvalidHandle;
-        m_details.hDisk = 0;
-    }
-
-private:
-    DiskDetails &m_details;
-
-public:
-    const int driveCode;
-    Platform::RawHandle handle = Platform::InvalidHandle;
+    bool areThere() const { return first && second; }
+    std::array<char *, 2> both() const { return {first.get(), second.get()}; }
 };
 
-/// Counts what has been done and says every few blocks how far it is.
+/// Counts what has been done and says now and then how far it is.
 class ThreadDriveClone::Progress
 {
 public:
@@ -90,10 +70,31 @@ public:
         ++m_tick;
     }
 
+    /// Of sectors that were skipped at first. Tells with each block's worth, and more often where a drive is
+    /// slow.
+    void again(qint64 left, qint64 skipped)
+    {
+        if (!m_againClock.isValid()) {
+            m_againClock.start();
+            m_toldClock.start();
+            m_toldLeft = skipped;
+        }
+        if (left != 0 && m_toldLeft - left < BlockSectors && m_toldClock.elapsed() < TellPeriod)
+            return;
+        m_toldClock.restart();
+        m_toldLeft = left;
+        const double share = static_cast<double>(left) / static_cast<double>(skipped - left);
+        emit m_thread.SetProgressValue(
+            m_total - left, static_cast<qint64>(share * static_cast<double>(m_againClock.elapsed())));
+    }
+
 private:
     ThreadDriveClone &m_thread;
     const qint64 m_total;
     QElapsedTimer m_clock;
+    QElapsedTimer m_againClock;
+    QElapsedTimer m_toldClock;
+    qint64 m_toldLeft = 0;
     qint64 m_estimate = 0; ///< ms for the whole disk
     int m_tick = 0;
 };
@@ -109,7 +110,11 @@ ThreadDriveClone::~ThreadDriveClone()
 void ThreadDriveClone::run()
 {
     const QMutexLocker lock(&m_mutex);
-    if (!g_bAbortJob)
+    m_outcome = {};
+    g_bCloneFailed = false;
+    if (g_bAbortJob)
+        m_outcome.end = CloneOutcome::End::Stopped;
+    else
         cloneDisk();
     emit OnCloningFinish();
     g_bJobRunning = false;
@@ -117,80 +122,100 @@ void ThreadDriveClone::run()
 
 void ThreadDriveClone::cloneDisk()
 {
-    DiskNode *from = g_App.m_pCurrentDisk;
-    DiskNode *onto = g_App.m_pCloneDisk;
+    const DiskNode *from = g_App.m_pCurrentDisk;
+    const DiskNode *onto = g_App.m_pCloneDisk;
+    m_pSource = from ? from->pDetails.get() : nullptr;
+    m_pDestination = onto ? onto->pDetails.get() : nullptr;
     // Without both disks there is nothing to erase one for.
-    if (!from || !onto || !from->pDetails || !onto->pDetails) {
-        g_bCloneFailed = true;
-        endAsFailed();
+    if (!m_pSource || !m_pDestination) {
+        endAsFailed(CloneOutcome::End::Refused, CloneFault::NoDisks);
         return;
     }
-    const auto total = static_cast<qint64>(from->pDetails->nTotalSectors);
-    const int destinationNumber = onto->pDetails->nDevice - PhysicalDriveBase;
-    const Buffer buffer = allocateBuffer();
-    if (!buffer)
+    const Buffers buffers;
+    if (!buffers.areThere()) {
+        endAsFailed(CloneOutcome::End::Refused, CloneFault::NoMemory);
         return;
+    }
     g_bJobRunning = true;
-    destination::runScripts(destination::prepareScripts(destinationNumber));
-    Platform::current().Sleep(SettlePause);
-    {
-        const Target source(*from->pDetails);
-        const Target destination(*onto->pDetails);
-        Progress progress(*this, total);
-        if (source.isOpen() && destination.isOpen())
-            copyBlocks(source, destination, total, buffer.get(), progress);
-        else
-            g_bCloneFailed = true;
-    }
-    if (g_bCloneFailed) {
-        endAsFailed();
+    if (!checkBeforeErasing()) {
+        endAsFailed(CloneOutcome::End::Refused, m_outcome.fault);
         return;
     }
-    destination::runScripts(destination::finishScripts(destinationNumber));
     if (g_bAbortJob) {
+        m_outcome.end = CloneOutcome::End::Stopped;
+        return;
+    }
+    destination::runScripts(destination::prepareScripts(m_pDestination->nDevice - PhysicalDriveBase));
+    Platform::current().Sleep(SettlePause);
+    copy(buffers);
+    finish();
+}
+
+bool ThreadDriveClone::mayUse(const CloneTarget &source, const CloneTarget &destination)
+{
+    m_outcome.fault = diskcheck::compare(source, diskcheck::listed(*m_pSource), destination,
+                                         diskcheck::listed(*m_pDestination));
+    if (m_outcome.fault != CloneFault::None)
+        return false;
+    const DiskUse use = Platform::current().DismountDisk(m_pDestination->nDevice - PhysicalDriveBase);
+    m_outcome.fault = diskcheck::faultOf(use.kind);
+    m_outcome.detail = use.by;
+    return m_outcome.fault == CloneFault::None;
+}
+
+bool ThreadDriveClone::checkBeforeErasing()
+{
+    const CloneTarget source(*m_pSource);
+    const CloneTarget destination(*m_pDestination);
+    return mayUse(source, destination);
+}
+
+void ThreadDriveClone::copy(const Buffers &buffers)
+{
+    CloneSource source(*m_pSource);
+    CloneDestination destination(*m_pDestination);
+    // Both numbers may lead to other disks by now, and the system may have mounted something.
+    if (!mayUse(source, destination)) {
+        m_outcome.end = CloneOutcome::End::Failed;
+        return;
+    }
+    const auto total = static_cast<qint64>(m_pSource->nTotalSectors);
+    Progress progress(*this, total);
+    CloneCopy copying(source, destination, total,
+                      {[&progress](qint64 position) { progress.step(position); },
+                       [&progress](qint64 left, qint64 skipped) { progress.again(left, skipped); }});
+    m_outcome = copying.run(buffers.both());
+    if (m_outcome.fault == CloneFault::DestinationGone || destination.flush())
+        return;
+    m_outcome.lost.unconfirmed = true;
+    if (m_outcome.end == CloneOutcome::End::Complete)
+        m_outcome.end = CloneOutcome::End::WithErrors;
+}
+
+void ThreadDriveClone::finish()
+{
+    const bool failed = m_outcome.end == CloneOutcome::End::Failed;
+    // A number that may be another disk's by now is left alone.
+    if (!failed || m_outcome.fault == CloneFault::SourceGone)
+        destination::runScripts(destination::finishScripts(m_pDestination->nDevice - PhysicalDriveBase));
+    if (failed) {
+        endAsFailed(m_outcome.end, m_outcome.fault);
+        return;
+    }
+    // A stop that came too late to stop anything is one, too.
+    if (g_bAbortJob)
+        m_outcome.end = CloneOutcome::End::Stopped;
+    if (m_outcome.end == CloneOutcome::End::Stopped) {
         g_bJobRunning = false;
         emit CloningAbort();
     }
 }
 
-void ThreadDriveClone::copyBlocks(const Target &source, const Target &destination, qint64 total, char *buffer,
-                                  Progress &progress)
+void ThreadDriveClone::endAsFailed(CloneOutcome::End end, CloneFault fault)
 {
-    for (qint64 position = 0; position < total && !g_bAbortJob;
-         position += std::min(total - position, BlockSectors))
-        copyBlock(source, destination, position, buffer, progress);
-}
-
-void ThreadDriveClone::copyBlock(const Target &source, const Target &destination, qint64 position,
-                                 char *buffer, Progress &progress)
-{
-    const auto sector = static_cast<quint64>(position);
-    quint32 got = 0;
-    if (!ReadWriteSectors(source.driveCode, sector, buffer, TransferSize, source.handle, false, &got))
-        return;
-    // Behind the source's end the destination gets zeros, not what the block before left in the buffer.
-    std::memset(buffer + got, 0, TransferSize - got);
-    if (g_bAbortJob)
-        return;
-    if (ReadWriteSectors(destination.driveCode, sector, buffer, TransferSize, destination.handle, true))
-        progress.step(position);
-    else
-        probeBlock(destination, position, progress);
-}
-
-void ThreadDriveClone::probeBlock(const Target &destination, qint64 position, Progress &progress)
-{
-    std::array<char, ProbeSize> sector{};
-    // The bound is inclusive: the first sector of the next block is looked at, too.
-    for (qint64 s = position; s <= position + BlockSectors && !g_bAbortJob; ++s) {
-        if (ReadWriteSectors(destination.driveCode, static_cast<quint64>(s), sector.data(), ProbeSize,
-                             destination.handle))
-            progress.step(position);
-    }
-}
-
-void ThreadDriveClone::endAsFailed()
-{
+    m_outcome.end = end;
+    m_outcome.fault = fault;
+    g_bCloneFailed = true;
     g_bJobRunning = false;
     emit CloningFailed();
 }

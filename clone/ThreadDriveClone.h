@@ -1,23 +1,28 @@
 #pragma once
 
+#include "clone/CloneOutcome.h"
+
 #include <QMutex>
 #include <QThread>
 #include <QWaitCondition>
 
 #include <atomic>
 
-/// Set when a disk of a clone could not be opened, and never cleared: every later clone of the process ends
-/// as failed, too.
+class CloneTarget;
+struct DiskDetails;
+
+/// Whether the last clone was refused or failed; clear while one runs.
 inline std::atomic<bool> g_bCloneFailed{false};
 
 /// Copies the disk g_App.m_pCurrentDisk onto the disk g_App.m_pCloneDisk, block by block, off the main
-/// thread. Whatever the destination held is lost as soon as a run begins. Started with
+/// thread. Whatever the destination held is lost, unless the disks are not those of the lists any more or the
+/// destination is in use: then the run is refused before anything is written. Started with
 /// start(QThread::InheritPriority); g_bAbortJob, cleared by whoever starts a run, asks it to end at the next
 /// block. Until isRunning() is false both nodes are in use: the disk list must not be rebuilt before, even if
 /// g_bJobRunning has been cleared by a stop.
 ///
-/// Sectors that cannot be read stay on the destination as they were; those that cannot be written are passed
-/// over. Neither is told. The destructor waits for a run that is under way without a time limit.
+/// What cannot be read or written is tried again in small pieces behind the rest; outcome() tells what was
+/// lost all the same. The destructor waits for a run that is under way without a time limit.
 class ThreadDriveClone : public QThread
 {
     Q_OBJECT
@@ -26,14 +31,18 @@ public:
     explicit ThreadDriveClone(QObject *parent = nullptr);
     ~ThreadDriveClone() override;
 
+    /// How the last run ended. While none is under way.
+    const CloneOutcome &outcome() const { return m_outcome; }
+
 signals:
-    /// The last one of every run, however it went: g_bAbortJob and g_bCloneFailed tell how. g_bJobRunning is
-    /// cleared right behind it.
+    /// The last one of every run, however it went: outcome() tells how. g_bJobRunning is cleared right behind
+    /// it.
     void OnCloningFinish();
     /// With the fourth block, then with every third: where that block begins, and milliseconds that are left
-    /// by an estimate made once from the first block; these may be negative.
+    /// by an estimate made once from the first block; these may be negative. While blocks are copied that
+    /// could not be read at first, now and then: how much of the disk is copied, and an estimate from these.
     void SetProgressValue(qlonglong position, qlonglong remaining);
-    /// A disk could not be opened, now or in an earlier run.
+    /// The clone was refused, or failed.
     void CloningFailed();
     /// Stopped; the disks are closed and the destination is back in the system.
     void CloningAbort();
@@ -45,16 +54,19 @@ protected:
 
 private:
     class Progress;
-    struct Target;
+    struct Buffers;
 
     void cloneDisk();
-    void copyBlocks(const Target &source, const Target &destination, qint64 total, char *buffer,
-                    Progress &progress);
-    void copyBlock(const Target &source, const Target &destination, qint64 position, char *buffer,
-                   Progress &progress);
-    void probeBlock(const Target &destination, qint64 position, Progress &progress);
-    void endAsFailed();
+    /// Whether the disks may be used; keeps the reason where they may not.
+    bool mayUse(const CloneTarget &source, const CloneTarget &destination);
+    bool checkBeforeErasing();
+    void copy(const Buffers &buffers);
+    void finish();
+    void endAsFailed(CloneOutcome::End end, CloneFault fault);
 
     QMutex m_mutex; ///< held for a whole run
     QWaitCondition m_condition;
+    CloneOutcome m_outcome;
+    DiskDetails *m_pSource = nullptr; ///< of the run that is under way
+    DiskDetails *m_pDestination = nullptr;
 };

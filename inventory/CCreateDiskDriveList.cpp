@@ -94,10 +94,10 @@ DiskNode *CCreateDiskDriveList::makePhysicalNode(int number, DiskKind kind, int 
     DiskDetails &details = *node->pDetails;
     details.nDevice = static_cast<std::uint8_t>(driveCode);
     details.nSectorFactor = static_cast<std::uint32_t>(bytesPerSector) / SectorSize;
-    quint64 sectors = 0;
-    GetDiskSectorCount(driveCode, &sectors);
-    details.nTotalSectors = sectors;
-    details.szCapacity = capacityText(sectors * SectorSize, QStringLiteral("KB"));
+    const DiskMark mark = ReadDiskMark(driveCode);
+    details.nTotalSectors = mark.sectors;
+    details.szSerial = mark.serial;
+    details.szCapacity = capacityText(mark.sectors * SectorSize, QStringLiteral("KB"));
     if (kind == FixedDisk) {
         details.pIdentity = std::make_unique<DiskIdentity>();
         ReadAtaIdentity(driveCode, details.pIdentity.get());

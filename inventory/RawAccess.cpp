@@ -3,13 +3,16 @@
 #include "app/state/DiskRecords.h"
 #include "platform/IoControl.h"
 
+#include <array>
+#include <cstring>
 #include <limits>
 
 namespace
 {
 
 constexpr int SectorSize = 512;
-constexpr int TransferAttempts = 1; ///< for physical disks; a volume always gets one
+constexpr quint32 DescriptorSize = 1024; ///< room for what a drive says of itself, a zero at the end
+constexpr int TransferAttempts = 1;      ///< for physical disks; a volume always gets one
 
 bool transferOnce(Platform::RawHandle handle, quint64 sector, void *buffer, quint32 byteCount, bool write,
                   quint32 *transferred)
@@ -59,18 +62,39 @@ bool ReadWriteSectors(int driveCode, quint64 sector, void *buffer, quint32 byteC
     return done;
 }
 
-void GetDiskSectorCount(int driveCode, quint64 *result)
+DiskMark DiskMarkOf(Platform::RawHandle handle)
 {
-    *result = 0;
+    DiskMark mark;
     Platform &platform = Platform::current();
-    const Platform::RawHandle handle = OpenDisk(driveCode);
-    if (handle == Platform::InvalidHandle)
-        return;
-    io::DiskGeometryEx geometry{};
     quint32 returned = 0;
+    io::DiskGeometryEx geometry{};
     if (platform.DeviceIoControl(handle, io::DiskGetDriveGeometryEx, nullptr, 0, &geometry, sizeof geometry,
                                  &returned) &&
         geometry.diskSize > 0)
-        *result = static_cast<quint64>(geometry.diskSize) / SectorSize;
-    platform.CloseHandle(handle);
+        mark.sectors = static_cast<quint64>(geometry.diskSize) / SectorSize;
+    const io::StoragePropertyQuery query{};
+    std::array<char, DescriptorSize> answer{};
+    io::StorageDeviceDescriptor head{};
+    if (platform.DeviceIoControl(handle, io::StorageQueryProperty, &query, sizeof query, answer.data(),
+                                 DescriptorSize - 1, &returned)) {
+        std::memcpy(&head, answer.data(), sizeof head);
+        if (head.serialNumberOffset >= sizeof head && head.serialNumberOffset < DescriptorSize)
+            mark.serial = QString::fromLatin1(answer.data() + head.serialNumberOffset).trimmed();
+    }
+    return mark;
+}
+
+DiskMark ReadDiskMark(int driveCode)
+{
+    const Platform::RawHandle handle = OpenDisk(driveCode);
+    if (handle == Platform::InvalidHandle)
+        return {};
+    const DiskMark mark = DiskMarkOf(handle);
+    Platform::current().CloseHandle(handle);
+    return mark;
+}
+
+void GetDiskSectorCount(int driveCode, quint64 *result)
+{
+    *result = ReadDiskMark(driveCode).sectors;
 }

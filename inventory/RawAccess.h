@@ -24,5 +24,21 @@ bool ReadWriteSectors(int driveCode, quint64 sector, void *buffer, quint32 byteC
                       Platform::RawHandle handle = NoDiskHandle, bool write = false,
                       quint32 *transferred = nullptr);
 
+/// What tells one disk from another.
+struct DiskMark {
+    quint64 sectors = 0; ///< 0 where the size is not told
+    QString serial;      ///< the drive's own; empty where it tells none
+
+    bool operator==(const DiskMark &other) const
+    {
+        return sectors == other.sectors && serial == other.serial;
+    }
+};
+
+/// Asks the disk behind an open handle.
+DiskMark DiskMarkOf(Platform::RawHandle handle);
+/// The same by its drive code; an empty mark where it does not open.
+DiskMark ReadDiskMark(int driveCode);
+
 /// Count of sectors of the target in `result`, 0 on failure.
 void GetDiskSectorCount(int driveCode, quint64 *result);

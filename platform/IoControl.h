@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 /// The device control codes that the program sends, and the records that go in and out. The records have the
 /// layout that the operating system gives them, so that a platform may pass them straight through.
@@ -10,6 +11,7 @@ namespace io
 constexpr std::uint32_t DiskGetDriveGeometry = 0x70000;
 constexpr std::uint32_t DiskGetDriveGeometryEx = 0x700A0;
 constexpr std::uint32_t VolumeGetVolumeDiskExtents = 0x560000;
+constexpr std::uint32_t StorageQueryProperty = 0x2D1400;
 constexpr std::uint32_t SmartGetVersion = 0x74080;
 constexpr std::uint32_t SmartSendDriveCommand = 0x7C084;
 constexpr std::uint32_t SmartRcvDriveData = 0x7C088;
@@ -68,6 +70,40 @@ struct VolumeDiskExtents {
     DiskExtent extents[1];
 };
 
+/// STORAGE_PROPERTY_QUERY, 12 bytes. All zero it asks for the descriptor of the device.
+struct StoragePropertyQuery {
+    std::uint32_t propertyId;
+    std::uint32_t queryType;
+    std::uint32_t additional;
+};
+
+/// Head of STORAGE_DEVICE_DESCRIPTOR, 36 bytes; the texts follow it in the buffer, each with a zero behind
+/// it. An offset counts from the head's begin, 0 where there is no such text.
+struct StorageDeviceDescriptor {
+    std::uint32_t version;
+    std::uint32_t size;
+    std::uint8_t deviceType;
+    std::uint8_t deviceTypeModifier;
+    std::uint8_t removableMedia;
+    std::uint8_t commandQueueing;
+    std::uint32_t vendorIdOffset;
+    std::uint32_t productIdOffset;
+    std::uint32_t productRevisionOffset;
+    std::uint32_t serialNumberOffset;
+    std::uint32_t busType;
+    std::uint32_t rawPropertiesLength;
+};
+
+/// A descriptor that tells a serial number alone.
+inline std::string storageDescriptor(const std::string &serial)
+{
+    StorageDeviceDescriptor head{};
+    head.version = sizeof(head);
+    head.size = static_cast<std::uint32_t>(sizeof(head) + serial.size() + 1);
+    head.serialNumberOffset = serial.empty() ? 0 : sizeof(head);
+    return std::string(reinterpret_cast<const char *>(&head), sizeof(head)) + serial + '\0';
+}
+
 #pragma pack(push, 1)
 
 /// GETVERSIONINPARAMS, 24 bytes.
@@ -116,6 +152,8 @@ struct SendCmdOutHeader {
 static_assert(sizeof(DiskGeometry) == 24, "layout of DISK_GEOMETRY");
 static_assert(sizeof(DiskGeometryEx) == 40, "layout of DISK_GEOMETRY_EX");
 static_assert(sizeof(VolumeDiskExtents) == 32, "layout of VOLUME_DISK_EXTENTS");
+static_assert(sizeof(StoragePropertyQuery) == 12, "layout of STORAGE_PROPERTY_QUERY");
+static_assert(sizeof(StorageDeviceDescriptor) == 36, "layout of STORAGE_DEVICE_DESCRIPTOR");
 static_assert(sizeof(GetVersionInParams) == 24, "layout of GETVERSIONINPARAMS");
 static_assert(sizeof(SendCmdInParams) == 33, "layout of SENDCMDINPARAMS");
 static_assert(sizeof(SendCmdOutHeader) == 16, "layout of SENDCMDOUTPARAMS");

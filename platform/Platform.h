@@ -29,6 +29,19 @@ struct DownloadLimits {
     qint64 bytes;
 };
 
+/// What uses a disk that is to be erased.
+struct DiskUse {
+    enum Kind {
+        Free,
+        System,  ///< the running system needs it
+        Mounted, ///< a volume of it is busy; `by` is the folder
+        Held,    ///< something else lies on it, such as a pool or an encrypted volume; `by` names it
+        Unknown
+    };
+    Kind kind = Free;
+    QString by; ///< empty where nothing is told
+};
+
 /// The seam to the operating system: all that the program asks of the machine goes through here. The
 /// operations bear the names of the system calls that they stand for.
 ///
@@ -75,6 +88,9 @@ public:
     virtual void CloseHandle(RawHandle handle) = 0;
     /// Whether the device is there and does not open for reading and writing for want of rights alone.
     virtual bool IsAccessDenied(const QString &) { return false; }
+    /// Takes the volumes of a physical disk out of the system before it is erased, and tells what uses it all
+    /// the same. Nothing is written. Free where the system's partition tool sees to all that itself.
+    virtual DiskUse DismountDisk(int /*number*/) { return {}; }
     /// @}
 
     /// \name Volumes

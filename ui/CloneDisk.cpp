@@ -3,12 +3,14 @@
 #include "app/state/CloneTexts.h"
 #include "app/state/GlobalApp.h"
 #include "app/state/Globals.h"
+#include "clone/RescueMap.h"
 #include "ui/InfoDialogClass.h"
 #include "ui/PageLook.h"
 #include "ui/QRoundProgressBar.h"
 #include "ui/Style.h"
 
 #include <QEvent>
+#include <QFileDialog>
 
 #include <initializer_list>
 
@@ -61,6 +63,7 @@ CloneDisk::CloneDisk(QWidget *parent) : QWidget(parent)
     connect(DestinationComboBox, QOverload<int>::of(&QComboBox::activated), this,
             &CloneDisk::OnActivatedDestinationComboBox);
     connect(m_pMessageBox->OkButton, &QPushButton::clicked, this, &CloneDisk::OnOk);
+    connect(m_pMessageBox->SaveButton, &QPushButton::clicked, this, &CloneDisk::OnSaveLostSectors);
     connectThread();
 }
 
@@ -217,9 +220,19 @@ void CloneDisk::OnUpdateTime()
 
 void CloneDisk::ShowMessage(const cloneflow::Message &message)
 {
+    m_pMessageBox->OfferSaving(false);
     m_pMessageBox->SetTexts(message.title, message.text, message.second);
     style::centreOn(m_pMessageBox, window()->geometry());
     m_pMessageBox->show();
+}
+
+void CloneDisk::OnSaveLostSectors()
+{
+    const QString path = QFileDialog::getSaveFileName(m_pMessageBox, tr("Save List"),
+                                                      QStringLiteral("clone.map"), QStringLiteral("*.map"));
+    const CloneOutcome &outcome = m_cloneThread.outcome();
+    if (!path.isEmpty() && !rescuemap::save(path, outcome.lost, outcome.total))
+        m_pMessageBox->label_2->setText(tr("The list could not be saved."));
 }
 
 void CloneDisk::OnCloningFailed()
@@ -238,13 +251,15 @@ void CloneDisk::OnDriveCloneFinish()
     // It signals a moment before it is at rest.
     m_cloneThread.wait();
     m_bCloning = false;
-    const bool complete = !g_bAbortJob && !g_bCloneFailed;
-    if (complete) {
+    const CloneOutcome &outcome = m_cloneThread.outcome();
+    if (outcome.end == CloneOutcome::End::Complete || outcome.end == CloneOutcome::End::WithErrors) {
         TimeLabel->clear();
         m_pRoundProgressBar->SetValue(100);
         ProgressLabel->repaint();
     }
-    ShowMessage(cloneflow::finished(complete));
+    m_bListsOutdated = outcome.fault != CloneFault::None;
+    ShowMessage(cloneflow::finished(outcome));
+    m_pMessageBox->OfferSaving(outcome.end == CloneOutcome::End::WithErrors);
     emit OnCloneFinish();
 }
 
@@ -256,6 +271,9 @@ void CloneDisk::OnOk()
         return;
     showRunning(false);
     emit DiskCloneFinished();
+    if (m_bListsOutdated)
+        emit ListsOutdated();
+    m_bListsOutdated = false;
 }
 
 void CloneDisk::changeEvent(QEvent *event)

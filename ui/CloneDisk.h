@@ -47,8 +47,10 @@ signals:
     void DiskCloneFinished();
     /// The source combo went to another row; it has the rows of the main window's drive combo.
     void ComboboxIndexChange(int index);
-    /// A disk could not be opened.
+    /// The clone was refused, or failed.
     void CloningProcesFailed();
+    /// The disks may be others than those of the lists; the result was read.
+    void ListsOutdated();
 
 public slots:
     void OnActivatedSourceComboBox(int index);
@@ -59,6 +61,7 @@ public slots:
     void OnCloningAbort();
     void OnOk();
     void OnUpdateTime();
+    void OnSaveLostSectors();
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -75,5 +78,6 @@ private:
     InfoDialogClass *m_pMessageBox = nullptr;
     QTime m_timeStarted;
     bool m_bCloning = false;
+    bool m_bListsOutdated = false;
     ThreadDriveClone m_cloneThread;
 };

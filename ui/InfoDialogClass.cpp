@@ -6,6 +6,7 @@ InfoDialogClass::InfoDialogClass(QWidget *parent) : QDialog(parent), m_Frame(thi
 {
     setupUi(this);
     m_Frame.dress({HeaderLabel, InageLbl, QStringLiteral("img_Information.png"), OkButton, OkButton, label});
+    SaveButton->hide();
     connect(OkButton, &QPushButton::clicked, this, &InfoDialogClass::hide);
 }
 
@@ -15,6 +16,12 @@ void InfoDialogClass::SetTexts(const QString &title, const QString &text, const 
     label->setText(text);
     label_2->setText(second);
     m_bTextsSet = true;
+    m_Frame.fit();
+}
+
+void InfoDialogClass::OfferSaving(bool bOffer)
+{
+    SaveButton->setVisible(bOffer);
     m_Frame.fit();
 }
 

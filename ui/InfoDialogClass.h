@@ -15,6 +15,8 @@ public:
     explicit InfoDialogClass(QWidget *parent = nullptr);
 
     void SetTexts(const QString &title, const QString &text, const QString &second);
+    /// Shows or hides the button that saves a list; what it does is up to who offers it.
+    void OfferSaving(bool bOffer);
 
 protected:
     void changeEvent(QEvent *event) override;

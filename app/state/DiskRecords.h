@@ -70,6 +70,7 @@ struct DiskDetails {
     std::uint8_t nDevice = 0;                ///< low byte of the node's nId
     std::int64_t hDisk = 0;                  ///< open handle of the clone engine, else zero
     std::uint64_t nTotalSectors = 0;         ///< sectors of 512 bytes
+    QString szSerial;                        ///< as the system tells it; empty where it does not
     std::uint32_t nSectorFactor = 0;         ///< bytes per sector of the drive, divided by 512
     QString szCapacity;                      ///< "931.51 GB"
     QString szDrives;                        ///< "Drive: " and each letter with colon and a blank

@@ -69,10 +69,26 @@ QJsonArray devicesOf(const QByteArray &lsblkJson)
     return QJsonDocument::fromJson(lsblkJson).object().value(QLatin1String("blockdevices")).toArray();
 }
 
+/// What lies on one of the devices and is no part of a partition table; empty where there is nothing.
+QString holderIn(const QJsonArray &devices)
+{
+    for (const QJsonValue &value : devices) {
+        const QJsonArray children = value.toObject().value(QLatin1String("children")).toArray();
+        for (const QJsonValue &child : children) {
+            if (child.toObject().value(QLatin1String("type")).toString() != QLatin1String("part"))
+                return child.toObject().value(QLatin1String("path")).toString();
+        }
+        const QString below = holderIn(children);
+        if (!below.isEmpty())
+            return below;
+    }
+    return {};
+}
+
 QByteArray treeOf(const QString &node)
 {
     return runTool(QStringLiteral("lsblk"), {QStringLiteral("--json"), QStringLiteral("--output"),
-                                             QStringLiteral("PATH,MOUNTPOINTS"), node})
+                                             QStringLiteral("PATH,TYPE,MOUNTPOINTS"), node})
         .output;
 }
 
@@ -112,11 +128,9 @@ QByteArray firstRecord(const QString &node)
 
 DiskOutcome clean(const QString &node)
 {
-    QStringList places = mountPoints(treeOf(node));
-    // Inner ones first.
-    std::sort(places.begin(), places.end(), std::greater<>());
-    for (const QString &place : qAsConst(places))
-        runTool(QStringLiteral("umount"), {place});
+    const DiskUse use = release(node);
+    if (use.kind != DiskUse::Free)
+        return use.kind == DiskUse::System ? DiskOutcome::SystemDisk : DiskOutcome::InUse;
     const bool done =
         runTool(QStringLiteral("wipefs"), {QStringLiteral("--all"), QStringLiteral("--force"), node}).well;
     if (done)
@@ -127,7 +141,9 @@ DiskOutcome clean(const QString &node)
 bool partition(const QString &node, const QStringList &options, const QByteArray &script)
 {
     const QStringList always{QStringLiteral("--quiet"), QStringLiteral("--force"),
-                             QStringLiteral("--no-reread"), QStringLiteral("--no-tell-kernel")};
+                             QStringLiteral("--no-reread"), QStringLiteral("--no-tell-kernel"),
+                             // What lay there would come back to life in the new partition.
+                             QStringLiteral("--wipe-partitions"), QStringLiteral("always")};
     return runTool(QStringLiteral("sfdisk"), always + options + QStringList{node}, script).well;
 }
 
@@ -181,6 +197,32 @@ bool isProtected(const QString &node)
     const QStringList places = mountPoints(tree);
     // A disk of a pool shows no mount of its own.
     return devicesOf(tree).isEmpty() || bearsSystem(places) || (places.isEmpty() && isHeld(node));
+}
+
+DiskUse release(const QString &node)
+{
+    if (QFileInfo(node).isFile())
+        return {};
+    const QJsonArray devices = devicesOf(treeOf(node));
+    QStringList places;
+    collect(devices, places);
+    if (devices.isEmpty())
+        return {DiskUse::Unknown, {}};
+    if (bearsSystem(places))
+        return {DiskUse::System, {}};
+    const QString holder = holderIn(devices);
+    if (!holder.isEmpty())
+        return {DiskUse::Held, holder};
+    // Inner ones first.
+    std::sort(places.begin(), places.end(), std::greater<>());
+    for (const QString &place : qAsConst(places)) {
+        if (!runTool(QStringLiteral("umount"), {place}).well)
+            return {DiskUse::Mounted, place};
+    }
+    const QStringList left = mountPoints(treeOf(node));
+    if (!left.isEmpty())
+        return {DiskUse::Mounted, left.first()};
+    return {isHeld(node) ? DiskUse::Held : DiskUse::Free, {}};
 }
 
 std::unique_ptr<RawDevice> open(const inventory::Disk &disk, bool writable)

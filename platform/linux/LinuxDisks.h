@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Inventory.h"
+#include "platform/Platform.h"
 #include "platform/linux/RawDevice.h"
 #include "platform/tools/Diskpart.h"
 
@@ -22,11 +23,15 @@ bool bearsSystem(const QStringList &mountPoints);
 /// something that shows no mount, or nothing can be learned of it. A regular file may always be written.
 bool isProtected(const QString &node);
 
+/// Unmounts what is mounted from the disk behind a node, unless something is found before that keeps it from
+/// being erased. What uses it then; a regular file is always free.
+DiskUse release(const QString &node);
+
 /// Opens a disk of an inventory; null also where another medium stands behind its node by now.
 std::unique_ptr<RawDevice> open(const inventory::Disk &disk, bool writable);
 
 /// Empties and partitions disks of an inventory with wipefs and sfdisk, and no other disk. Volumes that are
-/// mounted from such a disk are unmounted first where they are not busy.
+/// mounted from such a disk are unmounted first; one that is busy keeps the disk from being emptied.
 class Scripts : public tools::ScriptedDisks
 {
 public:

@@ -40,15 +40,21 @@ constexpr quint32 SectorsPerTrack = 63;
 const QString DiskPrefix = QStringLiteral("\\\\.\\PHYSICALDRIVE");
 const QString VolumePrefix = QStringLiteral("\\\\.\\");
 
+bool answerBytes(const std::string &bytes, void *out, quint32 outSize, quint32 *returned)
+{
+    if (!out || outSize < bytes.size())
+        return false;
+    std::memcpy(out, bytes.data(), bytes.size());
+    if (returned)
+        *returned = static_cast<quint32>(bytes.size());
+    return true;
+}
+
 template<typename Record>
 bool answer(const Record &record, void *out, quint32 outSize, quint32 *returned)
 {
-    if (!out || outSize < sizeof(Record))
-        return false;
-    std::memcpy(out, &record, sizeof(Record));
-    if (returned)
-        *returned = sizeof(Record);
-    return true;
+    return answerBytes(std::string(reinterpret_cast<const char *>(&record), sizeof(Record)), out, outSize,
+                       returned);
 }
 
 io::DiskGeometry geometryOf(const RawDevice &device, quint32 mediaType)
@@ -189,6 +195,8 @@ bool LinuxPlatform::DeviceIoControl(RawHandle handle, quint32 code, const void *
         return answer(io::DiskGeometryEx{geometry, open->device->size(), {}}, out, outSize, returned);
     case io::VolumeGetVolumeDiskExtents:
         return answerExtents(open->extents, out, outSize, returned);
+    case io::StorageQueryProperty:
+        return answerBytes(io::storageDescriptor(open->device->serial().constData()), out, outSize, returned);
     default:
         // SMART comes from smartctl alone.
         return false;
@@ -221,6 +229,16 @@ bool LinuxPlatform::IsAccessDenied(const QString &name)
     return disk &&
            faccessat(AT_FDCWD, QFile::encodeName(disk->node).constData(), R_OK | W_OK, AT_EACCESS) != 0 &&
            errno == EACCES;
+}
+
+DiskUse LinuxPlatform::DismountDisk(int number)
+{
+    const lsblk::Inventory machine = pc();
+    for (const inventory::Disk &disk : machine.machine.disks) {
+        if (disk.number == number)
+            return linuxdisks::release(disk.node);
+    }
+    return {DiskUse::Unknown, {}};
 }
 
 // Volumes

@@ -30,6 +30,7 @@ public:
     bool IsGone(RawHandle handle) override;
     void CloseHandle(RawHandle handle) override;
     bool IsAccessDenied(const QString &name) override;
+    DiskUse DismountDisk(int number) override;
 
     QStringList GetLogicalDriveStringsW() override;
     bool GetVolumeInformationW(const QString &root, QString *label, QString *fileSystem) override;

@@ -9,10 +9,24 @@
 #include <linux/fs.h>
 #include <sys/ioctl.h>
 #include <sys/stat.h>
+#include <sys/sysmacros.h>
 #include <unistd.h>
 
 namespace
 {
+
+/// Who has the disk for a moment, to look at it, is waited for.
+constexpr int ExclusiveAttempts = 10;
+constexpr useconds_t ExclusivePause = 100000; ///< µs
+
+/// Where the kernel shows what a drive of some kind says of itself, and the bytes before the text.
+struct SerialFile {
+    const char *name;
+    int head;
+};
+constexpr SerialFile SerialFiles[] = {
+    {"device/vpd_pg80", 4}, {"device/serial", 0}, {"serial", 0}, {"device/wwid", 0}, {"wwid", 0},
+};
 
 /// Repeats pread or pwrite until all is done.
 template<typename Call, typename Byte>
@@ -141,6 +155,24 @@ quint64 RawDevice::medium() const
     return mediumOf(m_descriptor);
 }
 
+QByteArray RawDevice::serial() const
+{
+    struct stat status = {};
+    if (fstat(m_descriptor, &status) != 0 || !S_ISBLK(status.st_mode))
+        return {};
+    const QString folder =
+        QStringLiteral("/sys/dev/block/%1:%2/").arg(major(status.st_rdev)).arg(minor(status.st_rdev));
+    for (const SerialFile &place : SerialFiles) {
+        QFile file(folder + QLatin1String(place.name));
+        if (!file.open(QIODevice::ReadOnly))
+            continue;
+        const QByteArray text = file.readAll().mid(place.head).trimmed();
+        if (!text.isEmpty())
+            return text;
+    }
+    return {};
+}
+
 bool RawDevice::seek(qint64 byteOffset)
 {
     if (byteOffset < 0)
@@ -182,12 +214,19 @@ bool RawDevice::openForWriting()
         return m_written;
     // By the open descriptor: the name may lead elsewhere by now.
     const QByteArray node = "/proc/self/fd/" + QByteArray::number(m_descriptor);
-    const int descriptor = openNode(node, m_direct ? O_RDWR | O_DIRECT : O_RDWR);
     struct stat status = {};
+    const bool exclusive = fstat(m_descriptor, &status) == 0 && S_ISBLK(status.st_mode);
+    const int flags = O_RDWR | (m_direct ? O_DIRECT : 0) | (exclusive ? O_EXCL : 0);
+    int descriptor = openNode(node, flags);
+    for (int attempt = 1; descriptor < 0 && errno == EBUSY && attempt < ExclusiveAttempts; ++attempt) {
+        usleep(ExclusivePause);
+        descriptor = openNode(node, flags);
+    }
     const bool isBlock = descriptor >= 0 && fstat(descriptor, &status) == 0 && S_ISBLK(status.st_mode);
     if (descriptor < 0 || (isBlock && !isSameMedium(m_descriptor, descriptor))) {
         if (descriptor >= 0)
             ::close(descriptor);
+        m_mayWrite = false; // so that the next attempt takes no time
         return false;
     }
     ::close(m_descriptor);

@@ -2,6 +2,7 @@
 
 #include "platform/AlignedBuffer.h"
 
+#include <QByteArray>
 #include <QString>
 
 #include <memory>
@@ -27,12 +28,16 @@ public:
     /// The kernel's number of the medium, which no other one gets while the system runs; 0 where it has none.
     quint64 medium() const;
 
+    /// What the drive says its serial number is; empty where it says none.
+    QByteArray serial() const;
+
     bool seek(qint64 byteOffset);
     /// Transfers up to `bytes`, cut at the end of the device; -1 on failure or at the end. Moves the position
     /// by what was transferred.
     qint64 read(void *buffer, quint32 bytes);
     /// The first call opens the node for writing; -1 too where that fails, or where another device stands
-    /// behind the node by now.
+    /// behind the node by now. A block device opens exclusively: not while one of its volumes is
+    /// mounted or something else holds it, and nothing can be mounted from it until it is closed.
     qint64 write(const void *buffer, quint32 bytes);
     /// Returns when all that was written lies on the medium; false where the device does not confirm that.
     bool flush();

@@ -136,6 +136,9 @@ std::optional<QByteArray> controlDisk(const Disk &disk, quint32 code, const QByt
     if (!disk.identity) {
         return std::nullopt;
     }
+    if (code == io::StorageQueryProperty) {
+        return QByteArray::fromStdString(io::storageDescriptor(disk.identity->serial.toStdString()));
+    }
     if (code == io::SmartGetVersion) {
         io::GetVersionInParams version{};
         version.version = 1;

@@ -65,6 +65,7 @@ constexpr Refusal Refusals[] = {
     {DiskOutcome::SystemDisk,
      "\r\nVirtual Disk Service error:\r\nClean is not allowed on the disk containing the current boot,\r\n"
      "system, pagefile, crashdump or hibernation volume.\r\n"},
+    {DiskOutcome::InUse, "\r\nVirtual Disk Service error:\r\nThe device is in use.\r\n"},
     {DiskOutcome::NotEmpty, "\r\nVirtual Disk Service error:\r\nThe disk is not empty.\r\n"},
     {DiskOutcome::NoRoom,
      "\r\nNo usable free extent could be found. It may be that there is insufficient\r\nfree space to create "

@@ -13,7 +13,16 @@ namespace tools
 enum class DiskAction { Online, Clean, ConvertMbr, CreatePrimary, Rescan };
 
 /// How it ended.
-enum class DiskOutcome { Done, AlreadyOnline, AccessDenied, DeviceError, SystemDisk, NotEmpty, NoRoom };
+enum class DiskOutcome {
+    Done,
+    AlreadyOnline,
+    AccessDenied,
+    DeviceError,
+    SystemDisk,
+    InUse,
+    NotEmpty,
+    NoRoom
+};
 
 /// The disks that scripts may act on.
 class ScriptedDisks

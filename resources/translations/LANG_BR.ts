@@ -417,6 +417,90 @@
         <source>Select Destination</source>
         <translation>Selecione o destino</translation>
     </message>
+    <message>
+        <source>The disks are not there any more.</source>
+        <translation>Os discos não estão mais presentes.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>Não há memória suficiente.</translation>
+    </message>
+    <message>
+        <source>The source disk cannot be opened.</source>
+        <translation>Não foi possível abrir o disco de origem.</translation>
+    </message>
+    <message>
+        <source>The destination disk cannot be opened.</source>
+        <translation>Não foi possível abrir o disco de destino.</translation>
+    </message>
+    <message>
+        <source>The source disk is not the one that was chosen.</source>
+        <translation>O disco de origem não é o que foi escolhido.</translation>
+    </message>
+    <message>
+        <source>The destination disk is not the one that was chosen.</source>
+        <translation>O disco de destino não é o que foi escolhido.</translation>
+    </message>
+    <message>
+        <source>The source disk has no sectors.</source>
+        <translation>O disco de origem não tem setores.</translation>
+    </message>
+    <message>
+        <source>The system runs from the destination disk.</source>
+        <translation>O sistema está sendo executado a partir do disco de destino.</translation>
+    </message>
+    <message>
+        <source>A volume of the destination disk is in use.</source>
+        <translation>Um volume do disco de destino está em uso.</translation>
+    </message>
+    <message>
+        <source>The destination disk is in use.</source>
+        <translation>O disco de destino está em uso.</translation>
+    </message>
+    <message>
+        <source>It cannot be found out whether the destination disk is in use.</source>
+        <translation>Não foi possível determinar se o disco de destino está em uso.</translation>
+    </message>
+    <message>
+        <source>The destination disk cannot be written. It may be in use.</source>
+        <translation>Não foi possível gravar no disco de destino. Ele pode estar em uso.</translation>
+    </message>
+    <message>
+        <source>The source disk does not answer any more.</source>
+        <translation>O disco de origem não responde mais.</translation>
+    </message>
+    <message>
+        <source>The destination disk does not answer any more.</source>
+        <translation>O disco de destino não responde mais.</translation>
+    </message>
+    <message>
+        <source>%1 sectors could not be read and were filled with zeros. %2 sectors could not be written.</source>
+        <translation>%1 setores não puderam ser lidos e foram preenchidos com zeros. %2 setores não puderam ser gravados.</translation>
+    </message>
+    <message>
+        <source>The destination disk did not confirm that all data is stored.</source>
+        <translation>O disco de destino não confirmou que todos os dados foram armazenados.</translation>
+    </message>
+    <message>
+        <source>Disk Cloning complete with errors.</source>
+        <translation>Clonagem do disco concluída com erros.</translation>
+    </message>
+    <message>
+        <source>Nothing was written on any disk.</source>
+        <translation>Nada foi gravado em nenhum disco.</translation>
+    </message>
+    <message>
+        <source>The destination disk holds no complete copy.</source>
+        <translation>O disco de destino não contém uma cópia completa.</translation>
+    </message>
+    <message>
+        <source>Save List</source>
+        <translation>Salvar lista</translation>
+    </message>
+    <message>
+        <source>The list could not be saved.</source>
+        <translation>Não foi possível salvar a lista.</translation>
+    </message>
 </context>
 <context>
     <name>CloningWarningDialog</name>
@@ -636,6 +720,10 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>Save List</source>
+        <translation>Salvar lista</translation>
     </message>
 </context>
 <context>

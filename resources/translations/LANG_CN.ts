@@ -417,6 +417,90 @@
         <source>Select Destination</source>
         <translation>选择目标</translation>
     </message>
+    <message>
+        <source>The disks are not there any more.</source>
+        <translation>磁盘已不存在。</translation>
+    </message>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>内存不足。</translation>
+    </message>
+    <message>
+        <source>The source disk cannot be opened.</source>
+        <translation>无法打开源磁盘。</translation>
+    </message>
+    <message>
+        <source>The destination disk cannot be opened.</source>
+        <translation>无法打开目标磁盘。</translation>
+    </message>
+    <message>
+        <source>The source disk is not the one that was chosen.</source>
+        <translation>源磁盘不是所选的磁盘。</translation>
+    </message>
+    <message>
+        <source>The destination disk is not the one that was chosen.</source>
+        <translation>目标磁盘不是所选的磁盘。</translation>
+    </message>
+    <message>
+        <source>The source disk has no sectors.</source>
+        <translation>源磁盘没有扇区。</translation>
+    </message>
+    <message>
+        <source>The system runs from the destination disk.</source>
+        <translation>系统正从目标磁盘运行。</translation>
+    </message>
+    <message>
+        <source>A volume of the destination disk is in use.</source>
+        <translation>目标磁盘的一个卷正在使用中。</translation>
+    </message>
+    <message>
+        <source>The destination disk is in use.</source>
+        <translation>目标磁盘正在使用中。</translation>
+    </message>
+    <message>
+        <source>It cannot be found out whether the destination disk is in use.</source>
+        <translation>无法确定目标磁盘是否正在使用。</translation>
+    </message>
+    <message>
+        <source>The destination disk cannot be written. It may be in use.</source>
+        <translation>无法写入目标磁盘。它可能正在使用中。</translation>
+    </message>
+    <message>
+        <source>The source disk does not answer any more.</source>
+        <translation>源磁盘不再响应。</translation>
+    </message>
+    <message>
+        <source>The destination disk does not answer any more.</source>
+        <translation>目标磁盘不再响应。</translation>
+    </message>
+    <message>
+        <source>%1 sectors could not be read and were filled with zeros. %2 sectors could not be written.</source>
+        <translation>%1 个扇区无法读取，已用零填充。%2 个扇区无法写入。</translation>
+    </message>
+    <message>
+        <source>The destination disk did not confirm that all data is stored.</source>
+        <translation>目标磁盘未确认所有数据均已存储。</translation>
+    </message>
+    <message>
+        <source>Disk Cloning complete with errors.</source>
+        <translation>磁盘克隆已完成，但有错误。</translation>
+    </message>
+    <message>
+        <source>Nothing was written on any disk.</source>
+        <translation>未向任何磁盘写入数据。</translation>
+    </message>
+    <message>
+        <source>The destination disk holds no complete copy.</source>
+        <translation>目标磁盘上没有完整的副本。</translation>
+    </message>
+    <message>
+        <source>Save List</source>
+        <translation>保存列表</translation>
+    </message>
+    <message>
+        <source>The list could not be saved.</source>
+        <translation>无法保存列表。</translation>
+    </message>
 </context>
 <context>
     <name>CloningWarningDialog</name>
@@ -636,6 +720,10 @@
     <message>
         <source>OK</source>
         <translation>确定</translation>
+    </message>
+    <message>
+        <source>Save List</source>
+        <translation>保存列表</translation>
     </message>
 </context>
 <context>

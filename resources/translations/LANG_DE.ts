@@ -417,6 +417,90 @@
         <source>Select Destination</source>
         <translation>Ziel auswählen</translation>
     </message>
+    <message>
+        <source>The disks are not there any more.</source>
+        <translation>Die Laufwerke sind nicht mehr vorhanden.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>Es ist nicht genügend Arbeitsspeicher vorhanden.</translation>
+    </message>
+    <message>
+        <source>The source disk cannot be opened.</source>
+        <translation>Das Quelllaufwerk kann nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>The destination disk cannot be opened.</source>
+        <translation>Das Ziellaufwerk kann nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>The source disk is not the one that was chosen.</source>
+        <translation>Das Quelllaufwerk ist nicht das ausgewählte.</translation>
+    </message>
+    <message>
+        <source>The destination disk is not the one that was chosen.</source>
+        <translation>Das Ziellaufwerk ist nicht das ausgewählte.</translation>
+    </message>
+    <message>
+        <source>The source disk has no sectors.</source>
+        <translation>Das Quelllaufwerk hat keine Sektoren.</translation>
+    </message>
+    <message>
+        <source>The system runs from the destination disk.</source>
+        <translation>Das System läuft vom Ziellaufwerk.</translation>
+    </message>
+    <message>
+        <source>A volume of the destination disk is in use.</source>
+        <translation>Ein Volume des Ziellaufwerks wird verwendet.</translation>
+    </message>
+    <message>
+        <source>The destination disk is in use.</source>
+        <translation>Das Ziellaufwerk wird verwendet.</translation>
+    </message>
+    <message>
+        <source>It cannot be found out whether the destination disk is in use.</source>
+        <translation>Es lässt sich nicht feststellen, ob das Ziellaufwerk verwendet wird.</translation>
+    </message>
+    <message>
+        <source>The destination disk cannot be written. It may be in use.</source>
+        <translation>Auf das Ziellaufwerk kann nicht geschrieben werden. Möglicherweise wird es verwendet.</translation>
+    </message>
+    <message>
+        <source>The source disk does not answer any more.</source>
+        <translation>Das Quelllaufwerk antwortet nicht mehr.</translation>
+    </message>
+    <message>
+        <source>The destination disk does not answer any more.</source>
+        <translation>Das Ziellaufwerk antwortet nicht mehr.</translation>
+    </message>
+    <message>
+        <source>%1 sectors could not be read and were filled with zeros. %2 sectors could not be written.</source>
+        <translation>%1 Sektoren konnten nicht gelesen werden und wurden mit Nullen gefüllt. %2 Sektoren konnten nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The destination disk did not confirm that all data is stored.</source>
+        <translation>Das Ziellaufwerk hat nicht bestätigt, dass alle Daten gespeichert sind.</translation>
+    </message>
+    <message>
+        <source>Disk Cloning complete with errors.</source>
+        <translation>Klonen des Laufwerks mit Fehlern abgeschlossen.</translation>
+    </message>
+    <message>
+        <source>Nothing was written on any disk.</source>
+        <translation>Es wurde auf kein Laufwerk geschrieben.</translation>
+    </message>
+    <message>
+        <source>The destination disk holds no complete copy.</source>
+        <translation>Das Ziellaufwerk enthält keine vollständige Kopie.</translation>
+    </message>
+    <message>
+        <source>Save List</source>
+        <translation>Liste speichern</translation>
+    </message>
+    <message>
+        <source>The list could not be saved.</source>
+        <translation>Die Liste konnte nicht gespeichert werden.</translation>
+    </message>
 </context>
 <context>
     <name>CloningWarningDialog</name>
@@ -636,6 +720,10 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>Save List</source>
+        <translation>Liste speichern</translation>
     </message>
 </context>
 <context>

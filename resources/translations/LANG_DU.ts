@@ -417,6 +417,90 @@
         <source>Select Destination</source>
         <translation>Doel selecteren</translation>
     </message>
+    <message>
+        <source>The disks are not there any more.</source>
+        <translation>De schijven zijn er niet meer.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>Er is niet genoeg geheugen.</translation>
+    </message>
+    <message>
+        <source>The source disk cannot be opened.</source>
+        <translation>De bronschijf kan niet worden geopend.</translation>
+    </message>
+    <message>
+        <source>The destination disk cannot be opened.</source>
+        <translation>De doelschijf kan niet worden geopend.</translation>
+    </message>
+    <message>
+        <source>The source disk is not the one that was chosen.</source>
+        <translation>De bronschijf is niet de gekozen schijf.</translation>
+    </message>
+    <message>
+        <source>The destination disk is not the one that was chosen.</source>
+        <translation>De doelschijf is niet de gekozen schijf.</translation>
+    </message>
+    <message>
+        <source>The source disk has no sectors.</source>
+        <translation>De bronschijf heeft geen sectoren.</translation>
+    </message>
+    <message>
+        <source>The system runs from the destination disk.</source>
+        <translation>Het systeem draait vanaf de doelschijf.</translation>
+    </message>
+    <message>
+        <source>A volume of the destination disk is in use.</source>
+        <translation>Een volume van de doelschijf is in gebruik.</translation>
+    </message>
+    <message>
+        <source>The destination disk is in use.</source>
+        <translation>De doelschijf is in gebruik.</translation>
+    </message>
+    <message>
+        <source>It cannot be found out whether the destination disk is in use.</source>
+        <translation>Er kan niet worden vastgesteld of de doelschijf in gebruik is.</translation>
+    </message>
+    <message>
+        <source>The destination disk cannot be written. It may be in use.</source>
+        <translation>Kan niet naar de doelschijf schrijven. Mogelijk is die in gebruik.</translation>
+    </message>
+    <message>
+        <source>The source disk does not answer any more.</source>
+        <translation>De bronschijf reageert niet meer.</translation>
+    </message>
+    <message>
+        <source>The destination disk does not answer any more.</source>
+        <translation>De doelschijf reageert niet meer.</translation>
+    </message>
+    <message>
+        <source>%1 sectors could not be read and were filled with zeros. %2 sectors could not be written.</source>
+        <translation>%1 sectoren konden niet worden gelezen en zijn met nullen gevuld. %2 sectoren konden niet worden geschreven.</translation>
+    </message>
+    <message>
+        <source>The destination disk did not confirm that all data is stored.</source>
+        <translation>De doelschijf heeft niet bevestigd dat alle gegevens zijn opgeslagen.</translation>
+    </message>
+    <message>
+        <source>Disk Cloning complete with errors.</source>
+        <translation>Klonen van de schijf voltooid, met fouten.</translation>
+    </message>
+    <message>
+        <source>Nothing was written on any disk.</source>
+        <translation>Er is op geen enkele schijf geschreven.</translation>
+    </message>
+    <message>
+        <source>The destination disk holds no complete copy.</source>
+        <translation>De doelschijf bevat geen volledige kopie.</translation>
+    </message>
+    <message>
+        <source>Save List</source>
+        <translation>Lijst opslaan</translation>
+    </message>
+    <message>
+        <source>The list could not be saved.</source>
+        <translation>De lijst kon niet worden opgeslagen.</translation>
+    </message>
 </context>
 <context>
     <name>CloningWarningDialog</name>
@@ -636,6 +720,10 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>Save List</source>
+        <translation>Lijst opslaan</translation>
     </message>
 </context>
 <context>

@@ -417,6 +417,90 @@
         <source>Select Destination</source>
         <translation>Seleccione el destino</translation>
     </message>
+    <message>
+        <source>The disks are not there any more.</source>
+        <translation>Los discos ya no están presentes.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>No hay memoria suficiente.</translation>
+    </message>
+    <message>
+        <source>The source disk cannot be opened.</source>
+        <translation>No se puede abrir el disco de origen.</translation>
+    </message>
+    <message>
+        <source>The destination disk cannot be opened.</source>
+        <translation>No se puede abrir el disco de destino.</translation>
+    </message>
+    <message>
+        <source>The source disk is not the one that was chosen.</source>
+        <translation>El disco de origen no es el que se eligió.</translation>
+    </message>
+    <message>
+        <source>The destination disk is not the one that was chosen.</source>
+        <translation>El disco de destino no es el que se eligió.</translation>
+    </message>
+    <message>
+        <source>The source disk has no sectors.</source>
+        <translation>El disco de origen no tiene sectores.</translation>
+    </message>
+    <message>
+        <source>The system runs from the destination disk.</source>
+        <translation>El sistema se ejecuta desde el disco de destino.</translation>
+    </message>
+    <message>
+        <source>A volume of the destination disk is in use.</source>
+        <translation>Un volumen del disco de destino está en uso.</translation>
+    </message>
+    <message>
+        <source>The destination disk is in use.</source>
+        <translation>El disco de destino está en uso.</translation>
+    </message>
+    <message>
+        <source>It cannot be found out whether the destination disk is in use.</source>
+        <translation>No se puede averiguar si el disco de destino está en uso.</translation>
+    </message>
+    <message>
+        <source>The destination disk cannot be written. It may be in use.</source>
+        <translation>No se puede escribir en el disco de destino. Puede que esté en uso.</translation>
+    </message>
+    <message>
+        <source>The source disk does not answer any more.</source>
+        <translation>El disco de origen ya no responde.</translation>
+    </message>
+    <message>
+        <source>The destination disk does not answer any more.</source>
+        <translation>El disco de destino ya no responde.</translation>
+    </message>
+    <message>
+        <source>%1 sectors could not be read and were filled with zeros. %2 sectors could not be written.</source>
+        <translation>No se pudieron leer %1 sectores y se rellenaron con ceros. No se pudieron escribir %2 sectores.</translation>
+    </message>
+    <message>
+        <source>The destination disk did not confirm that all data is stored.</source>
+        <translation>El disco de destino no confirmó que todos los datos estén guardados.</translation>
+    </message>
+    <message>
+        <source>Disk Cloning complete with errors.</source>
+        <translation>Clonación del disco completada con errores.</translation>
+    </message>
+    <message>
+        <source>Nothing was written on any disk.</source>
+        <translation>No se escribió nada en ningún disco.</translation>
+    </message>
+    <message>
+        <source>The destination disk holds no complete copy.</source>
+        <translation>El disco de destino no contiene una copia completa.</translation>
+    </message>
+    <message>
+        <source>Save List</source>
+        <translation>Guardar lista</translation>
+    </message>
+    <message>
+        <source>The list could not be saved.</source>
+        <translation>No se pudo guardar la lista.</translation>
+    </message>
 </context>
 <context>
     <name>CloningWarningDialog</name>
@@ -636,6 +720,10 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>Save List</source>
+        <translation>Guardar lista</translation>
     </message>
 </context>
 <context>

@@ -417,6 +417,90 @@
         <source>Select Destination</source>
         <translation>Sélectionnez la cible</translation>
     </message>
+    <message>
+        <source>The disks are not there any more.</source>
+        <translation>Les disques ne sont plus présents.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>La mémoire est insuffisante.</translation>
+    </message>
+    <message>
+        <source>The source disk cannot be opened.</source>
+        <translation>Impossible d&apos;ouvrir le disque source.</translation>
+    </message>
+    <message>
+        <source>The destination disk cannot be opened.</source>
+        <translation>Impossible d&apos;ouvrir le disque cible.</translation>
+    </message>
+    <message>
+        <source>The source disk is not the one that was chosen.</source>
+        <translation>Le disque source n&apos;est pas celui qui a été choisi.</translation>
+    </message>
+    <message>
+        <source>The destination disk is not the one that was chosen.</source>
+        <translation>Le disque cible n&apos;est pas celui qui a été choisi.</translation>
+    </message>
+    <message>
+        <source>The source disk has no sectors.</source>
+        <translation>Le disque source n&apos;a aucun secteur.</translation>
+    </message>
+    <message>
+        <source>The system runs from the destination disk.</source>
+        <translation>Le système s&apos;exécute à partir du disque cible.</translation>
+    </message>
+    <message>
+        <source>A volume of the destination disk is in use.</source>
+        <translation>Un volume du disque cible est en cours d&apos;utilisation.</translation>
+    </message>
+    <message>
+        <source>The destination disk is in use.</source>
+        <translation>Le disque cible est en cours d&apos;utilisation.</translation>
+    </message>
+    <message>
+        <source>It cannot be found out whether the destination disk is in use.</source>
+        <translation>Impossible de déterminer si le disque cible est en cours d&apos;utilisation.</translation>
+    </message>
+    <message>
+        <source>The destination disk cannot be written. It may be in use.</source>
+        <translation>Impossible d&apos;écrire sur le disque cible. Il est peut-être en cours d&apos;utilisation.</translation>
+    </message>
+    <message>
+        <source>The source disk does not answer any more.</source>
+        <translation>Le disque source ne répond plus.</translation>
+    </message>
+    <message>
+        <source>The destination disk does not answer any more.</source>
+        <translation>Le disque cible ne répond plus.</translation>
+    </message>
+    <message>
+        <source>%1 sectors could not be read and were filled with zeros. %2 sectors could not be written.</source>
+        <translation>%1 secteurs n&apos;ont pas pu être lus et ont été remplis de zéros. %2 secteurs n&apos;ont pas pu être écrits.</translation>
+    </message>
+    <message>
+        <source>The destination disk did not confirm that all data is stored.</source>
+        <translation>Le disque cible n&apos;a pas confirmé que toutes les données sont enregistrées.</translation>
+    </message>
+    <message>
+        <source>Disk Cloning complete with errors.</source>
+        <translation>Clonage du disque terminé avec des erreurs.</translation>
+    </message>
+    <message>
+        <source>Nothing was written on any disk.</source>
+        <translation>Rien n&apos;a été écrit sur aucun disque.</translation>
+    </message>
+    <message>
+        <source>The destination disk holds no complete copy.</source>
+        <translation>Le disque cible ne contient pas de copie complète.</translation>
+    </message>
+    <message>
+        <source>Save List</source>
+        <translation>Enregistrer la liste</translation>
+    </message>
+    <message>
+        <source>The list could not be saved.</source>
+        <translation>Impossible d&apos;enregistrer la liste.</translation>
+    </message>
 </context>
 <context>
     <name>CloningWarningDialog</name>
@@ -636,6 +720,10 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>Save List</source>
+        <translation>Enregistrer la liste</translation>
     </message>
 </context>
 <context>

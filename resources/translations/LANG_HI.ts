@@ -417,6 +417,90 @@
         <source>Select Destination</source>
         <translation>गंतव्य चुनें</translation>
     </message>
+    <message>
+        <source>The disks are not there any more.</source>
+        <translation>डिस्क अब मौजूद नहीं हैं।</translation>
+    </message>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>पर्याप्त मेमोरी नहीं है।</translation>
+    </message>
+    <message>
+        <source>The source disk cannot be opened.</source>
+        <translation>स्रोत डिस्क खोली नहीं जा सकी।</translation>
+    </message>
+    <message>
+        <source>The destination disk cannot be opened.</source>
+        <translation>गंतव्य डिस्क खोली नहीं जा सकी।</translation>
+    </message>
+    <message>
+        <source>The source disk is not the one that was chosen.</source>
+        <translation>स्रोत डिस्क वह नहीं है जो चुनी गई थी।</translation>
+    </message>
+    <message>
+        <source>The destination disk is not the one that was chosen.</source>
+        <translation>गंतव्य डिस्क वह नहीं है जो चुनी गई थी।</translation>
+    </message>
+    <message>
+        <source>The source disk has no sectors.</source>
+        <translation>स्रोत डिस्क में कोई सेक्टर नहीं है।</translation>
+    </message>
+    <message>
+        <source>The system runs from the destination disk.</source>
+        <translation>सिस्टम गंतव्य डिस्क से चल रहा है।</translation>
+    </message>
+    <message>
+        <source>A volume of the destination disk is in use.</source>
+        <translation>गंतव्य डिस्क का एक वॉल्यूम उपयोग में है।</translation>
+    </message>
+    <message>
+        <source>The destination disk is in use.</source>
+        <translation>गंतव्य डिस्क उपयोग में है।</translation>
+    </message>
+    <message>
+        <source>It cannot be found out whether the destination disk is in use.</source>
+        <translation>यह पता नहीं चल सका कि गंतव्य डिस्क उपयोग में है या नहीं।</translation>
+    </message>
+    <message>
+        <source>The destination disk cannot be written. It may be in use.</source>
+        <translation>गंतव्य डिस्क पर लिखा नहीं जा सका। हो सकता है वह उपयोग में हो।</translation>
+    </message>
+    <message>
+        <source>The source disk does not answer any more.</source>
+        <translation>स्रोत डिस्क अब उत्तर नहीं दे रही है।</translation>
+    </message>
+    <message>
+        <source>The destination disk does not answer any more.</source>
+        <translation>गंतव्य डिस्क अब उत्तर नहीं दे रही है।</translation>
+    </message>
+    <message>
+        <source>%1 sectors could not be read and were filled with zeros. %2 sectors could not be written.</source>
+        <translation>%1 सेक्टर पढ़े नहीं जा सके और उन्हें शून्य से भरा गया। %2 सेक्टर लिखे नहीं जा सके।</translation>
+    </message>
+    <message>
+        <source>The destination disk did not confirm that all data is stored.</source>
+        <translation>गंतव्य डिस्क ने पुष्टि नहीं की कि सारा डेटा सहेजा गया है।</translation>
+    </message>
+    <message>
+        <source>Disk Cloning complete with errors.</source>
+        <translation>डिस्क क्लोनिंग त्रुटियों के साथ पूरी हुई।</translation>
+    </message>
+    <message>
+        <source>Nothing was written on any disk.</source>
+        <translation>किसी भी डिस्क पर कुछ नहीं लिखा गया।</translation>
+    </message>
+    <message>
+        <source>The destination disk holds no complete copy.</source>
+        <translation>गंतव्य डिस्क पर पूरी प्रति नहीं है।</translation>
+    </message>
+    <message>
+        <source>Save List</source>
+        <translation>सूची सहेजें</translation>
+    </message>
+    <message>
+        <source>The list could not be saved.</source>
+        <translation>सूची सहेजी नहीं जा सकी।</translation>
+    </message>
 </context>
 <context>
     <name>CloningWarningDialog</name>
@@ -636,6 +720,10 @@
     <message>
         <source>OK</source>
         <translation>ठीक</translation>
+    </message>
+    <message>
+        <source>Save List</source>
+        <translation>सूची सहेजें</translation>
     </message>
 </context>
 <context>

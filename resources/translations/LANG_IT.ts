@@ -417,6 +417,90 @@
         <source>Select Destination</source>
         <translation>Seleziona destinazione</translation>
     </message>
+    <message>
+        <source>The disks are not there any more.</source>
+        <translation>I dischi non sono più presenti.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>La memoria non è sufficiente.</translation>
+    </message>
+    <message>
+        <source>The source disk cannot be opened.</source>
+        <translation>Impossibile aprire il disco di origine.</translation>
+    </message>
+    <message>
+        <source>The destination disk cannot be opened.</source>
+        <translation>Impossibile aprire il disco di destinazione.</translation>
+    </message>
+    <message>
+        <source>The source disk is not the one that was chosen.</source>
+        <translation>Il disco di origine non è quello scelto.</translation>
+    </message>
+    <message>
+        <source>The destination disk is not the one that was chosen.</source>
+        <translation>Il disco di destinazione non è quello scelto.</translation>
+    </message>
+    <message>
+        <source>The source disk has no sectors.</source>
+        <translation>Il disco di origine non ha settori.</translation>
+    </message>
+    <message>
+        <source>The system runs from the destination disk.</source>
+        <translation>Il sistema è in esecuzione dal disco di destinazione.</translation>
+    </message>
+    <message>
+        <source>A volume of the destination disk is in use.</source>
+        <translation>Un volume del disco di destinazione è in uso.</translation>
+    </message>
+    <message>
+        <source>The destination disk is in use.</source>
+        <translation>Il disco di destinazione è in uso.</translation>
+    </message>
+    <message>
+        <source>It cannot be found out whether the destination disk is in use.</source>
+        <translation>Impossibile stabilire se il disco di destinazione è in uso.</translation>
+    </message>
+    <message>
+        <source>The destination disk cannot be written. It may be in use.</source>
+        <translation>Impossibile scrivere sul disco di destinazione. Potrebbe essere in uso.</translation>
+    </message>
+    <message>
+        <source>The source disk does not answer any more.</source>
+        <translation>Il disco di origine non risponde più.</translation>
+    </message>
+    <message>
+        <source>The destination disk does not answer any more.</source>
+        <translation>Il disco di destinazione non risponde più.</translation>
+    </message>
+    <message>
+        <source>%1 sectors could not be read and were filled with zeros. %2 sectors could not be written.</source>
+        <translation>Non è stato possibile leggere %1 settori, che sono stati riempiti con zeri. Non è stato possibile scrivere %2 settori.</translation>
+    </message>
+    <message>
+        <source>The destination disk did not confirm that all data is stored.</source>
+        <translation>Il disco di destinazione non ha confermato che tutti i dati siano stati salvati.</translation>
+    </message>
+    <message>
+        <source>Disk Cloning complete with errors.</source>
+        <translation>Clonazione del disco completata con errori.</translation>
+    </message>
+    <message>
+        <source>Nothing was written on any disk.</source>
+        <translation>Non è stato scritto nulla su alcun disco.</translation>
+    </message>
+    <message>
+        <source>The destination disk holds no complete copy.</source>
+        <translation>Il disco di destinazione non contiene una copia completa.</translation>
+    </message>
+    <message>
+        <source>Save List</source>
+        <translation>Salva elenco</translation>
+    </message>
+    <message>
+        <source>The list could not be saved.</source>
+        <translation>Impossibile salvare l&apos;elenco.</translation>
+    </message>
 </context>
 <context>
     <name>CloningWarningDialog</name>
@@ -636,6 +720,10 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>Save List</source>
+        <translation>Salva elenco</translation>
     </message>
 </context>
 <context>

@@ -417,6 +417,90 @@
         <source>Select Destination</source>
         <translation>コピー先を選択</translation>
     </message>
+    <message>
+        <source>The disks are not there any more.</source>
+        <translation>ディスクが見つからなくなりました。</translation>
+    </message>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>メモリが不足しています。</translation>
+    </message>
+    <message>
+        <source>The source disk cannot be opened.</source>
+        <translation>コピー元のディスクを開けません。</translation>
+    </message>
+    <message>
+        <source>The destination disk cannot be opened.</source>
+        <translation>コピー先のディスクを開けません。</translation>
+    </message>
+    <message>
+        <source>The source disk is not the one that was chosen.</source>
+        <translation>コピー元のディスクは選択されたものではありません。</translation>
+    </message>
+    <message>
+        <source>The destination disk is not the one that was chosen.</source>
+        <translation>コピー先のディスクは選択されたものではありません。</translation>
+    </message>
+    <message>
+        <source>The source disk has no sectors.</source>
+        <translation>コピー元のディスクにセクタがありません。</translation>
+    </message>
+    <message>
+        <source>The system runs from the destination disk.</source>
+        <translation>システムはコピー先のディスクから動作しています。</translation>
+    </message>
+    <message>
+        <source>A volume of the destination disk is in use.</source>
+        <translation>コピー先のディスクのボリュームが使用中です。</translation>
+    </message>
+    <message>
+        <source>The destination disk is in use.</source>
+        <translation>コピー先のディスクが使用中です。</translation>
+    </message>
+    <message>
+        <source>It cannot be found out whether the destination disk is in use.</source>
+        <translation>コピー先のディスクが使用中かどうかを確認できません。</translation>
+    </message>
+    <message>
+        <source>The destination disk cannot be written. It may be in use.</source>
+        <translation>コピー先のディスクに書き込めません。使用中の可能性があります。</translation>
+    </message>
+    <message>
+        <source>The source disk does not answer any more.</source>
+        <translation>コピー元のディスクが応答しなくなりました。</translation>
+    </message>
+    <message>
+        <source>The destination disk does not answer any more.</source>
+        <translation>コピー先のディスクが応答しなくなりました。</translation>
+    </message>
+    <message>
+        <source>%1 sectors could not be read and were filled with zeros. %2 sectors could not be written.</source>
+        <translation>%1 セクタを読み取れなかったため、ゼロで埋めました。%2 セクタを書き込めませんでした。</translation>
+    </message>
+    <message>
+        <source>The destination disk did not confirm that all data is stored.</source>
+        <translation>コピー先のディスクは、すべてのデータが保存されたことを確認しませんでした。</translation>
+    </message>
+    <message>
+        <source>Disk Cloning complete with errors.</source>
+        <translation>ディスクのクローンはエラーを伴って完了しました。</translation>
+    </message>
+    <message>
+        <source>Nothing was written on any disk.</source>
+        <translation>どのディスクにも書き込んでいません。</translation>
+    </message>
+    <message>
+        <source>The destination disk holds no complete copy.</source>
+        <translation>コピー先のディスクには完全なコピーがありません。</translation>
+    </message>
+    <message>
+        <source>Save List</source>
+        <translation>リストを保存</translation>
+    </message>
+    <message>
+        <source>The list could not be saved.</source>
+        <translation>リストを保存できませんでした。</translation>
+    </message>
 </context>
 <context>
     <name>CloningWarningDialog</name>
@@ -636,6 +720,10 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>Save List</source>
+        <translation>リストを保存</translation>
     </message>
 </context>
 <context>

@@ -417,6 +417,90 @@
         <source>Select Destination</source>
         <translation>대상 선택</translation>
     </message>
+    <message>
+        <source>The disks are not there any more.</source>
+        <translation>디스크가 더 이상 없습니다.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>메모리가 부족합니다.</translation>
+    </message>
+    <message>
+        <source>The source disk cannot be opened.</source>
+        <translation>원본 디스크를 열 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>The destination disk cannot be opened.</source>
+        <translation>대상 디스크를 열 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>The source disk is not the one that was chosen.</source>
+        <translation>원본 디스크가 선택한 디스크가 아닙니다.</translation>
+    </message>
+    <message>
+        <source>The destination disk is not the one that was chosen.</source>
+        <translation>대상 디스크가 선택한 디스크가 아닙니다.</translation>
+    </message>
+    <message>
+        <source>The source disk has no sectors.</source>
+        <translation>원본 디스크에 섹터가 없습니다.</translation>
+    </message>
+    <message>
+        <source>The system runs from the destination disk.</source>
+        <translation>시스템이 대상 디스크에서 실행 중입니다.</translation>
+    </message>
+    <message>
+        <source>A volume of the destination disk is in use.</source>
+        <translation>대상 디스크의 볼륨이 사용 중입니다.</translation>
+    </message>
+    <message>
+        <source>The destination disk is in use.</source>
+        <translation>대상 디스크가 사용 중입니다.</translation>
+    </message>
+    <message>
+        <source>It cannot be found out whether the destination disk is in use.</source>
+        <translation>대상 디스크가 사용 중인지 확인할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>The destination disk cannot be written. It may be in use.</source>
+        <translation>대상 디스크에 쓸 수 없습니다. 사용 중일 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>The source disk does not answer any more.</source>
+        <translation>원본 디스크가 더 이상 응답하지 않습니다.</translation>
+    </message>
+    <message>
+        <source>The destination disk does not answer any more.</source>
+        <translation>대상 디스크가 더 이상 응답하지 않습니다.</translation>
+    </message>
+    <message>
+        <source>%1 sectors could not be read and were filled with zeros. %2 sectors could not be written.</source>
+        <translation>섹터 %1개를 읽을 수 없어 0으로 채웠습니다. 섹터 %2개를 쓸 수 없었습니다.</translation>
+    </message>
+    <message>
+        <source>The destination disk did not confirm that all data is stored.</source>
+        <translation>대상 디스크가 모든 데이터가 저장되었음을 확인하지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>Disk Cloning complete with errors.</source>
+        <translation>디스크 복제가 완료되었지만 오류가 있습니다.</translation>
+    </message>
+    <message>
+        <source>Nothing was written on any disk.</source>
+        <translation>어느 디스크에도 쓰지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>The destination disk holds no complete copy.</source>
+        <translation>대상 디스크에 완전한 복사본이 없습니다.</translation>
+    </message>
+    <message>
+        <source>Save List</source>
+        <translation>목록 저장</translation>
+    </message>
+    <message>
+        <source>The list could not be saved.</source>
+        <translation>목록을 저장할 수 없습니다.</translation>
+    </message>
 </context>
 <context>
     <name>CloningWarningDialog</name>
@@ -636,6 +720,10 @@
     <message>
         <source>OK</source>
         <translation>확인</translation>
+    </message>
+    <message>
+        <source>Save List</source>
+        <translation>목록 저장</translation>
     </message>
 </context>
 <context>

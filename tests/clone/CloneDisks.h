@@ -3,7 +3,7 @@
 #include "app/state/GlobalApp.h"
 #include "app/state/Globals.h"
 #include "clone/ThreadDriveClone.h"
-#include "platform/Platform.h"
+#include "inventory/RawAccess.h"
 
 #include <QFile>
 #include <QRandomGenerator>
@@ -54,6 +54,8 @@ public:
     CloneDisks(const CloneDisks &) = delete;
     CloneDisks &operator=(const CloneDisks &) = delete;
 
+    DiskDetails &source() { return *m_source.pDetails; }
+    DiskDetails &destination() { return *m_destination.pDetails; }
     bool holdsHandles() const { return m_source.pDetails->hDisk != 0 || m_destination.pDetails->hDisk != 0; }
 
     /// Notes the thread's signals in their order, progress as `positions`.
@@ -84,7 +86,9 @@ private:
         node.nId = static_cast<std::uint16_t>(PhysicalDriveBase + number);
         node.pDetails = std::make_unique<DiskDetails>();
         node.pDetails->nDevice = static_cast<std::uint8_t>(node.nId);
-        node.pDetails->nTotalSectors = static_cast<std::uint64_t>(sectors);
+        const DiskMark mark = ReadDiskMark(node.nId);
+        node.pDetails->nTotalSectors = mark.sectors > 0 ? mark.sectors : static_cast<std::uint64_t>(sectors);
+        node.pDetails->szSerial = mark.serial;
     }
 
     DiskNode m_source;

@@ -8,6 +8,8 @@
 #include <QDir>
 #include <QtTest>
 
+#include <utility>
+
 namespace
 {
 
@@ -27,11 +29,15 @@ class tst_LinuxClone : public QObject
 private slots:
     void clonesPartitionsAndFileSystems_data();
     void clonesPartitionsAndFileSystems();
+    void initTestCase() { m_ownMounts = keepMountsToOurselves(); }
+    void diskInUse_data();
+    void diskInUse();
     void swappedDiskIsLeftAlone_data();
     void swappedDiskIsLeftAlone();
 
 private:
     QTemporaryDir m_home;
+    bool m_ownMounts = false;
 };
 
 void tst_LinuxClone::clonesPartitionsAndFileSystems_data()
@@ -93,6 +99,98 @@ void tst_LinuxClone::clonesPartitionsAndFileSystems()
     QVERIFY(
         runs(QStringLiteral("e2fsck"), {QStringLiteral("-f"), QStringLiteral("-n"), loops[2].partition(1)}));
     QVERIFY(runs(QStringLiteral("fsck.vfat"), {QStringLiteral("-n"), loops[2].partition(2)}));
+}
+
+void tst_LinuxClone::diskInUse_data()
+{
+    QTest::addColumn<QString>("use");
+    QTest::addColumn<int>("fault");
+    QTest::newRow("open file on a volume") << "open" << int(CloneFault::DestinationMounted);
+    QTest::newRow("mapped device") << "mapped" << int(CloneFault::DestinationHeld);
+    QTest::newRow("member of something that holds it") << "held" << int(CloneFault::DestinationHeld);
+    QTest::newRow("idle volume") << "idle" << int(CloneFault::None);
+    QTest::newRow("mounted where an old one appears") << "old" << int(CloneFault::None);
+    QTest::newRow("mounted in the pause") << "pause" << int(CloneFault::DestinationMounted);
+    QTest::newRow("mounted behind the last look") << "late" << int(CloneFault::DestinationTakesNothing);
+}
+
+/// Equal or refused, whatever uses the destination.
+void tst_LinuxClone::diskInUse()
+{
+    QFETCH(QString, use);
+    QFETCH(int, fault);
+    qputenv("XDG_RUNTIME_DIR", m_home.path().toUtf8());
+    constexpr qint64 bytes = 12 * MiB;
+    const DiskImage images[] = {DiskImage(bytes), DiskImage(bytes)};
+    images[0].put(0, noise(bytes / SectorBytes, 5));
+    images[1].partition("label: dos\nstart=1MiB\n");
+    images[1].put(FirstOffset, madeBy(QStringLiteral("mke2fs -q -t ext4"), PartitionBytes));
+    const LoopDevice loops[] = {LoopDevice(images[0].path()), LoopDevice(images[1].path())};
+    if (!m_ownMounts || loops[0].node().isEmpty() || loops[1].node().isEmpty())
+        QSKIP("no loop devices or mounts here");
+    qputenv("HALVANE_DISKS", (loops[0].node() + QLatin1Char(':') + loops[1].node()).toUtf8());
+    auto watched = std::make_unique<WatchedPlatform>(makeNativePlatform());
+    watched->pauses = false;
+    const QString partition = loops[1].partition(1);
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("busy")));
+    std::unique_ptr<Mount> mount;
+    const auto mountIt = [&](bool busy) {
+        mount = std::make_unique<Mount>(partition, folder.path());
+        if (busy && mount->isMounted())
+            QVERIFY(file.open(QIODevice::WriteOnly));
+    };
+    const auto mountNew = [&] {
+        QVERIFY(runs(QStringLiteral("mke2fs"), {QStringLiteral("-q"), QStringLiteral("-F"), partition}));
+        mountIt(true);
+        QVERIFY(file.isOpen());
+    };
+    QVERIFY(loops[1].showPartitions());
+    const QString mapped = QStringLiteral("halvane-%1").arg(QCoreApplication::applicationPid());
+    if (use == QLatin1String("mapped") &&
+        !runs(QStringLiteral("dmsetup"), {QStringLiteral("create"), mapped, QStringLiteral("--table"),
+                                          QStringLiteral("0 2048 linear %1 0").arg(partition)}))
+        QSKIP("no mapped devices here");
+    // As the kernel itself opens the members of arrays and pools.
+    const int held = use == QLatin1String("held")
+                         ? ::open(QFile::encodeName(partition).constData(), O_RDONLY | O_EXCL | O_CLOEXEC)
+                         : -1;
+    QCOMPARE(held >= 0, use == QLatin1String("held"));
+    if (use == QLatin1String("open") || use == QLatin1String("idle")) {
+        mountIt(use == QLatin1String("open"));
+        QVERIFY(mount->isMounted());
+    }
+    bool slept = false;
+    watched->onSleep = [&](quint32) {
+        slept = true;
+        if (use == QLatin1String("old"))
+            mountIt(true);
+        else if (use == QLatin1String("pause"))
+            mountNew();
+    };
+    bool late = use == QLatin1String("late");
+    watched->onTransfer = [&](bool isWrite, qint64, quint32) {
+        if (slept && !isWrite && std::exchange(late, false))
+            mountNew();
+    };
+    Platform::install(std::move(watched));
+
+    CloneDisks disks(0, bytes / SectorBytes, 1);
+    const QByteArray before = images[1].contents();
+    ThreadDriveClone thread;
+    thread.start(QThread::InheritPriority);
+    QVERIFY(thread.wait(60000));
+    file.close();
+    mount.reset();
+    ::close(held);
+    runs(QStringLiteral("dmsetup"), {QStringLiteral("remove"), mapped});
+    QCOMPARE(int(thread.outcome().fault), fault);
+    const bool refused = thread.outcome().end == CloneOutcome::End::Refused;
+    QCOMPARE(slept, !refused);
+    if (refused) // mounting writes, too, but not there
+        QVERIFY(images[1].contents().left(SectorBytes) == before.left(SectorBytes));
+    else if (fault == int(CloneFault::None))
+        QVERIFY(images[1].contents() == noise(bytes / SectorBytes, 5));
 }
 
 void tst_LinuxClone::swappedDiskIsLeftAlone_data()

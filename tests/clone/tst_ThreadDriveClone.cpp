@@ -18,6 +18,8 @@ constexpr int Bystander = 3;
 constexpr int Sectors = 40000; ///< of a disk whose size does not count: a block and a part of one
 constexpr int BystanderSectors = 5000;
 using Blocks = QVector<int>;
+using Runs = QVector<QPair<int, int>>; ///< first sector and count
+using End = CloneOutcome::End;
 
 QByteArray describe(const QByteArray &more, qint64 sectors, int number)
 {
@@ -54,12 +56,14 @@ private slots:
     void progress_data();
     void progress();
     void remainingTime();
-    void probesToTheNextBlock_data();
-    void probesToTheNextBlock();
+    void countsRetriedSectors();
     void stops_data();
     void stops();
-    void opensNot_data();
-    void opensNot();
+    void refuses_data();
+    void refuses();
+    void diesOnTheWay_data();
+    void diesOnTheWay();
+    void unconfirmed();
     void withoutDisks();
     void startsAndStopsManyTimes();
 
@@ -69,15 +73,17 @@ private:
                 const QByteArray &destinationMore = {});
     void fillImages(qint64 sourceSectors, qint64 destinationSectors);
     void runClone(CloneDisks &disks);
-    /// What the destination has to hold: the source's blocks with zeros behind them, the rest as the
-    /// preparation left it.
-    QByteArray expected(qint64 destinationSectors, const Blocks &kept) const;
+    /// What the destination has to hold: the source with zeros behind it up to the block's end, zeros where
+    /// it could not be read, and the rest as the preparation left it.
+    QByteArray expected(qint64 destinationSectors, const Runs &unread, const Runs &kept,
+                        bool tail = true) const;
 
     QScopedPointer<DescribedFolder> m_folder;
     SimulatedPlatform *m_pc = nullptr;
     WatchedPlatform *m_watched = nullptr;
     QByteArray m_source;
     QByteArray m_prepared; ///< the destination at the pause
+    CloneOutcome m_outcome;
     int m_commands = 0;
 };
 
@@ -131,24 +137,31 @@ void tst_ThreadDriveClone::runClone(CloneDisks &disks)
     disks.listen(thread);
     thread.start(QThread::InheritPriority);
     QVERIFY(thread.wait(60000));
+    m_outcome = thread.outcome();
     QVERIFY(!g_bJobRunning);
+    QCOMPARE(g_bCloneFailed.load(), m_outcome.end == End::Refused || m_outcome.end == End::Failed);
     QCOMPARE(m_watched->openHandles(), 0);
     QVERIFY(!disks.holdsHandles());
 }
 
-QByteArray tst_ThreadDriveClone::expected(qint64 destinationSectors, const Blocks &kept) const
+QByteArray tst_ThreadDriveClone::expected(qint64 destinationSectors, const Runs &unread, const Runs &kept,
+                                          bool tail) const
 {
     QByteArray bytes = m_source;
+    const auto put = [&bytes](const Runs &runs, const QByteArray &from) {
+        for (const auto &run : runs) {
+            const auto count = static_cast<int>(run.second * SectorBytes);
+            bytes.replace(static_cast<int>(run.first * SectorBytes), count,
+                          from.mid(static_cast<int>(run.first * SectorBytes), count));
+        }
+    };
+    put(unread, QByteArray(m_source.size(), '\0'));
+    put(kept, m_prepared);
     const int whole = static_cast<int>((m_source.size() + BlockBytes - 1) / BlockBytes * BlockBytes);
-    bytes.append(whole - bytes.size(), '\0');
+    if (tail)
+        bytes.append(whole - bytes.size(), '\0');
     bytes.truncate(static_cast<int>(destinationSectors * SectorBytes));
-    bytes += m_prepared.mid(bytes.size());
-    for (const int block : kept) {
-        const auto at = static_cast<int>(block * BlockBytes);
-        const QByteArray old = m_prepared.mid(at, static_cast<int>(BlockBytes));
-        bytes.replace(at, old.size(), old);
-    }
-    return bytes;
+    return bytes + m_prepared.mid(bytes.size());
 }
 
 void tst_ThreadDriveClone::copies_data()
@@ -157,10 +170,13 @@ void tst_ThreadDriveClone::copies_data()
     QTest::addColumn<qint64>("destinationSectors");
     QTest::addColumn<QByteArray>("sourceMore");
     QTest::addColumn<QByteArray>("destinationMore");
-    QTest::addColumn<Blocks>("kept");
+    QTest::addColumn<Runs>("unread");
+    QTest::addColumn<Runs>("unwritten");
+    QTest::addColumn<bool>("tail"); // becomes zeros
     const auto row = [](const char *name, qint64 from, qint64 onto, const QByteArray &fromMore = {},
-                        const QByteArray &ontoMore = {}, const Blocks &kept = {}) {
-        QTest::newRow(name) << from << onto << fromMore << ontoMore << kept;
+                        const QByteArray &ontoMore = {}, bool tail = true, const Runs &unread = {},
+                        const Runs &unwritten = {}) {
+        QTest::newRow(name) << from << onto << fromMore << ontoMore << unread << unwritten << tail;
     };
     row("a part of a block", 3000, 3000);
     row("a sector below a block", 32767, 32767);
@@ -171,16 +187,27 @@ void tst_ThreadDriveClone::copies_data()
     row("zeros behind the source, up to the destination's end", 3000, 3500);
     row("a block on a larger disk", 32768, 32769);
     const QByteArray failsAtEnd = ",\"pastEnd\":\"fail\"";
-    row("source refuses to read past its end", 40000, 90000, failsAtEnd, {}, {1});
-    row("destination refuses to be written past its end", 40000, 40000, {}, failsAtEnd, {1});
+    row("source refuses to read past its end", 40000, 90000, failsAtEnd, {}, false);
+    row("destination refuses to be written past its end", 40000, 40000, {}, failsAtEnd);
     row("such a refusal, with nothing past the end", 65536, 65536, failsAtEnd, failsAtEnd);
-    row("unreadable first block", 70000, 70000, ",\"badSectors\":[0]", {}, {0});
-    row("unreadable sectors on both sides of a border", 66000, 66000, ",\"badSectors\":[[32767,2]]", {},
-        {0, 1});
-    row("unreadable last sector", 65537, 65537, ",\"badSectors\":[65536]", {}, {2});
-    row("unwritable sector", 66000, 66000, {}, ",\"unwritable\":[50000]", {1});
-    row("unwritable behind the source, in its last block", 40000, 70000, {}, ",\"unwritable\":[65000]", {1});
-    row("both", 66000, 66000, ",\"badSectors\":[65900]", ",\"unwritable\":[40000]", {1, 2});
+    const auto bad = [](const char *sectors) { return QByteArray(",\"badSectors\":[") + sectors + "]"; };
+    const auto unwritable = [](const char *sectors) {
+        return QByteArray(",\"unwritable\":[") + sectors + "]";
+    };
+    row("unreadable first and last sector", 65537, 65537, bad("0,65536"), {}, true, {{0, 1}, {65536, 1}});
+    row("unreadable on both sides of a border", 66000, 66000, bad("[32767,2]"), {}, true, {{32767, 2}});
+    row("unreadable block", 99000, 99000, bad("[32768,32768]"), {}, true, {{32768, 32768}});
+    QByteArray every;
+    Runs thousands;
+    for (int sector = 0; sector < 70000; sector += 1000) {
+        every += (sector > 0 ? "," : "") + QByteArray::number(sector);
+        thousands.append({sector, 1});
+    }
+    row("every 1000th", 70000, 70000, bad(every), {}, true, thousands);
+    row("unwritable sector", 66000, 66000, {}, unwritable("50000"), true, {}, {{50000, 1}});
+    row("unwritable behind the source, in its last block", 40000, 70000, {}, unwritable("65000"), false);
+    row("both, one sector of each meets", 66000, 66000, bad("[65899,2]"), unwritable("40000,65900"), true,
+        {{65899, 1}}, {{40000, 1}, {65900, 1}});
 }
 
 void tst_ThreadDriveClone::copies()
@@ -189,23 +216,29 @@ void tst_ThreadDriveClone::copies()
     QFETCH(qint64, destinationSectors);
     QFETCH(QByteArray, sourceMore);
     QFETCH(QByteArray, destinationMore);
-    QFETCH(Blocks, kept);
+    QFETCH(Runs, unread);
+    QFETCH(Runs, unwritten);
+    QFETCH(bool, tail);
     openPc(sourceSectors, destinationSectors, sourceMore, destinationMore);
     fillImages(sourceSectors, destinationSectors);
-    bool fullSize = true;
-    m_watched->onTransfer = [this, &fullSize](bool isWrite, qint64, quint32 bytes) {
-        const bool isProbe = !isWrite && bytes == SectorBytes;
-        fullSize = fullSize && (m_prepared.isEmpty() || isProbe || bytes == BlockBytes);
-    };
     CloneDisks disks(Source, sourceSectors, Destination);
     runClone(disks);
 
     QVERIFY(m_prepared != noise(destinationSectors, 2));
-    QVERIFY2(readFile(m_pc->imageFile(Destination)) == expected(destinationSectors, kept), "bytes differ");
+    QVERIFY2(readFile(m_pc->imageFile(Destination)) == expected(destinationSectors, unread, unwritten, tail),
+             "bytes differ");
     QVERIFY(readFile(m_pc->imageFile(Source)) == m_source);
     QVERIFY(readFile(m_pc->imageFile(Bystander)) == noise(BystanderSectors, 3));
-    QVERIFY(fullSize);
     QCOMPARE(disks.events, QStringList{QStringLiteral("finish (running)")});
+    const auto found = [](const SectorRuns &lost) {
+        Runs runs;
+        for (const SectorRun &run : lost.runs())
+            runs.append({static_cast<int>(run.first), static_cast<int>(run.count)});
+        return runs;
+    };
+    QCOMPARE(found(m_outcome.lost.unread), unread);
+    QCOMPARE(found(m_outcome.lost.unwritten), unwritten);
+    QCOMPARE(m_outcome.end, unread.isEmpty() && unwritten.isEmpty() ? End::Complete : End::WithErrors);
 }
 
 void tst_ThreadDriveClone::scripts()
@@ -252,7 +285,7 @@ void tst_ThreadDriveClone::progress_data()
     QTest::newRow("three blocks") << qint64(3) << QByteArray() << QByteArray() << Blocks{} << true;
     QTest::newRow("four blocks") << qint64(4) << QByteArray() << QByteArray() << Blocks{3} << true;
     QTest::newRow("eleven blocks") << qint64(11) << QByteArray() << QByteArray() << Blocks{3, 6, 9} << true;
-    QTest::newRow("unreadable blocks do not count")
+    QTest::newRow("skipped blocks do not count")
         << qint64(9) << QByteArray(",\"badSectors\":[40000]") << QByteArray() << Blocks{4, 7} << true;
     QTest::newRow("no estimate without the first block")
         << qint64(9) << QByteArray(",\"badSectors\":[5]") << QByteArray() << Blocks{4, 7} << false;
@@ -277,9 +310,14 @@ void tst_ThreadDriveClone::progress()
     QVector<qlonglong> wanted;
     for (const int block : told)
         wanted << block * BlockSectors;
-    QCOMPARE(disks.positions, wanted);
-    for (const qlonglong remaining : disks.remainders)
+    QCOMPARE(disks.positions.mid(0, wanted.size()), wanted);
+    for (const qlonglong remaining : disks.remainders.mid(0, wanted.size()))
         QCOMPARE(remaining != 0, estimated);
+    // Behind that how much is copied, up to all.
+    const auto again = disks.positions.mid(wanted.size());
+    QCOMPARE(again.isEmpty(), sourceMore.isEmpty());
+    QVERIFY(std::is_sorted(again.begin(), again.end()));
+    QVERIFY(again.isEmpty() || (again.first() > sectors - BlockSectors && again.last() == sectors));
 }
 
 void tst_ThreadDriveClone::remainingTime()
@@ -305,72 +343,58 @@ void tst_ThreadDriveClone::remainingTime()
     QVERIFY(disks.remainders.last() <= disks.remainders.first());
 }
 
-void tst_ThreadDriveClone::probesToTheNextBlock_data()
+void tst_ThreadDriveClone::countsRetriedSectors()
 {
-    QTest::addColumn<qint64>("block");
-    QTest::addColumn<int>("before"); // blocks counted before the probing
-    QTest::newRow("first block") << qint64(0) << 0;
-    QTest::newRow("second block") << qint64(1) << 1;
-}
-
-void tst_ThreadDriveClone::probesToTheNextBlock()
-{
-    QFETCH(qint64, block);
-    QFETCH(int, before);
-    const qint64 begin = block * BlockSectors;
-    const QByteArray at = QByteArray::number(begin + 1000);
-    openPc(2 * BlockSectors, 3 * BlockSectors, {},
-           ",\"unwritable\":[" + at + "],\"badSectors\":[[" + at + ",3]]");
-    QVector<qint64> probed;
-    m_watched->onTransfer = [&](bool isWrite, qint64 sector, quint32 bytes) {
-        if (!isWrite && bytes == SectorBytes && !m_prepared.isEmpty())
-            probed << sector;
-    };
+    openPc(2 * BlockSectors, 2 * BlockSectors, {}, ",\"unwritable\":[33000]");
     CloneDisks disks(Source, 2 * BlockSectors, Destination);
     runClone(disks);
-    QCOMPARE(probed.size(), int(BlockSectors) + 1);
-    QCOMPARE(probed.first(), begin);
-    QCOMPARE(probed.last(), begin + BlockSectors);
-    // Every readable sector counts like a block, all at the begin of the failed one.
-    const int counted = before + int(BlockSectors) + 1 - 3;
-    QCOMPARE(disks.positions.count(begin), (counted - 1) / 3);
+    // Every sector that went counts like a block, all at the begin of the failed one.
+    QCOMPARE(disks.positions.count(BlockSectors), int(BlockSectors - 1) / 3);
 }
 
 void tst_ThreadDriveClone::stops_data()
 {
     QTest::addColumn<QString>("phase");
     QTest::addColumn<int>("count"); // of what that phase does
-    QTest::addColumn<Blocks>("kept");
+    QTest::addColumn<Runs>("kept");
     QTest::addColumn<int>("commands");
+    constexpr int All = 3 * BlockSectors + 500;
     const QString command = QStringLiteral("command");
     const QString write = QStringLiteral("write");
-    QTest::newRow("before") << QStringLiteral("start") << 1 << Blocks{0, 1, 2} << 0;
-    QTest::newRow("in the first script") << command << 1 << Blocks{0, 1, 2} << 5;
-    QTest::newRow("in the last script before") << command << 3 << Blocks{0, 1, 2} << 5;
-    QTest::newRow("in the pause") << QStringLiteral("pause") << 1 << Blocks{0, 1, 2} << 5;
-    QTest::newRow("reading the first block") << QStringLiteral("read") << 1 << Blocks{0, 1, 2} << 5;
-    QTest::newRow("reading the second block") << QStringLiteral("read") << 2 << Blocks{1, 2} << 5;
-    QTest::newRow("writing the first block") << write << 1 << Blocks{1, 2} << 5;
-    QTest::newRow("writing the failing block") << write << 2 << Blocks{1, 2} << 5;
-    QTest::newRow("probing") << QStringLiteral("probe") << 100 << Blocks{1, 2} << 5;
-    QTest::newRow("writing the last block") << write << 3 << Blocks{1} << 5;
-    QTest::newRow("in the first script behind") << command << 4 << Blocks{1} << 5;
-    QTest::newRow("in the last script behind") << command << 5 << Blocks{1} << 5;
+    // The first sector that is written by itself asks whether the disk is still there.
+    const auto from = [](int sector) { return Runs{{sector, All - sector}}; };
+    QTest::newRow("before") << QStringLiteral("start") << 1 << from(0) << 0;
+    QTest::newRow("in the first script") << command << 1 << from(0) << 5;
+    QTest::newRow("in the last script before") << command << 3 << from(0) << 5;
+    QTest::newRow("in the pause") << QStringLiteral("pause") << 1 << from(0) << 5;
+    QTest::newRow("reading the first block") << QStringLiteral("read") << 1 << from(0) << 5;
+    QTest::newRow("reading the second block") << QStringLiteral("read") << 2 << from(32768) << 5;
+    QTest::newRow("writing the first block") << write << 1 << from(32768) << 5;
+    QTest::newRow("writing the failing block") << write << 2 << from(32768) << 5;
+    QTest::newRow("writing it again") << QStringLiteral("sector") << 101 << from(32868) << 5;
+    QTest::newRow("writing the last block") << write << 3 << Runs{{50000, 1}, {65536, 32768}} << 5;
+    QTest::newRow("reading pieces") << QStringLiteral("piece") << 2 << Runs{{50000, 1}, {65664, 32640}} << 5;
+    QTest::newRow("in the first script behind") << command << 4 << Runs{{50000, 1}} << 5;
+    QTest::newRow("in the last script behind") << command << 5 << Runs{{50000, 1}} << 5;
 }
 
 void tst_ThreadDriveClone::stops()
 {
     QFETCH(QString, phase);
     QFETCH(int, count);
-    QFETCH(Blocks, kept);
+    QFETCH(Runs, kept);
     QFETCH(int, commands);
-    constexpr qint64 sectors = 2 * BlockSectors + 500;
-    openPc(sectors, sectors, {}, ",\"unwritable\":[50000]");
+    constexpr qint64 sectors = 3 * BlockSectors + 500;
+    openPc(sectors, sectors, ",\"badSectors\":[70000]", ",\"unwritable\":[50000]");
     fillImages(sectors, sectors);
+    QMutex mutex; // a block is read while another one is written
     QMap<QString, int> seen;
+    QSemaphore writing;
     const auto reach = [&](const QString &what) {
+        const QMutexLocker lock(&mutex);
         if (++seen[what] == count && what == phase)
             g_bAbortJob = true;
+        return seen[what];
     };
     m_watched->onCommand = [&](const QString &) { reach(QStringLiteral("command")); };
     const auto prepared = m_watched->onSleep;
@@ -378,60 +402,143 @@ void tst_ThreadDriveClone::stops()
         prepared(milliseconds);
         reach(QStringLiteral("pause"));
     };
-    m_watched->onTransfer = [&](bool isWrite, qint64, quint32 bytes) {
-        if (!m_prepared.isEmpty())
-            reach(isWrite               ? QStringLiteral("write")
-                  : bytes == BlockBytes ? QStringLiteral("read")
-                                        : QStringLiteral("probe"));
+    m_watched->onTransfer = [&](bool isWrite, qint64 sector, quint32 bytes) {
+        if (m_prepared.isEmpty())
+            return;
+        if (isWrite && sector == 0)
+            writing.release();
+        if (!isWrite && sector == BlockSectors && bytes == BlockBytes)
+            writing.acquire();
+        if (isWrite)
+            reach(bytes == BlockBytes ? QStringLiteral("write") : QStringLiteral("sector"));
+        else if (bytes == BlockBytes || bytes > SectorBytes)
+            reach(bytes == BlockBytes ? QStringLiteral("read") : QStringLiteral("piece"));
     };
     CloneDisks disks(Source, sectors, Destination);
     reach(QStringLiteral("start"));
     runClone(disks);
 
     QCOMPARE(seen[QStringLiteral("command")], commands);
-    if (phase == QLatin1String("probe"))
-        QCOMPARE(seen[phase], count);
+    QCOMPARE(m_outcome.end, End::Stopped);
     if (phase == QLatin1String("start"))
         m_prepared = noise(sectors, 2);
     else
         QCOMPARE(disks.events.takeFirst(), QStringLiteral("abort"));
     QCOMPARE(disks.events, QStringList{QStringLiteral("finish")});
-    QVERIFY2(readFile(m_pc->imageFile(Destination)) == expected(sectors, kept), "bytes differ");
+    QVERIFY2(readFile(m_pc->imageFile(Destination)) == expected(sectors, {{70000, 1}}, kept), "bytes differ");
 }
 
-void tst_ThreadDriveClone::opensNot_data()
+void tst_ThreadDriveClone::refuses_data()
 {
     QTest::addColumn<QByteArray>("sourceMore");
     QTest::addColumn<QByteArray>("destinationMore");
-    QTest::newRow("source") << QByteArray(",\"opens\":false") << QByteArray();
-    QTest::newRow("destination") << QByteArray() << QByteArray(",\"opens\":false");
+    QTest::addColumn<QString>("change");
+    QTest::addColumn<bool>("inThePause");
+    QTest::addColumn<int>("fault");
+    const QByteArray opensNot = ",\"opens\":false";
+    const QByteArray named = ",\"identity\":{\"model\":\"M\",\"serial\":\"S1\"}";
+    const auto row = [](const char *name, const QByteArray &from, const QByteArray &onto, const char *change,
+                        CloneFault fault, bool inThePause = false) {
+        QTest::newRow(name) << from << onto << QString::fromLatin1(change) << inThePause << int(fault);
+    };
+    row("source does not open", opensNot, {}, "", CloneFault::SourceNotOpen);
+    row("destination does not open", {}, opensNot, "", CloneFault::DestinationNotOpen);
+    row("source of another length", {}, {}, "source length", CloneFault::SourceIsAnother);
+    row("source of another serial", named, {}, "source serial", CloneFault::SourceIsAnother);
+    row("destination of another length", {}, {}, "destination length", CloneFault::DestinationIsAnother);
+    row("destination of another serial", {}, named, "destination serial", CloneFault::DestinationIsAnother);
+    row("destination in use", {}, {}, "use", CloneFault::DestinationMounted);
+    row("another source in the pause", named, {}, "source serial", CloneFault::SourceIsAnother, true);
+    row("another destination in the pause", {}, named, "destination serial", CloneFault::DestinationIsAnother,
+        true);
+    row("destination in use in the pause", {}, {}, "use", CloneFault::DestinationMounted, true);
 }
 
-void tst_ThreadDriveClone::opensNot()
+void tst_ThreadDriveClone::refuses()
 {
     QFETCH(QByteArray, sourceMore);
     QFETCH(QByteArray, destinationMore);
+    QFETCH(QString, change);
+    QFETCH(bool, inThePause);
+    QFETCH(int, fault);
     openPc(Sectors, Sectors, sourceMore, destinationMore);
     fillImages(Sectors, Sectors);
-    const QStringList failure{QStringLiteral("failed"), QStringLiteral("finish")};
-    {
-        CloneDisks disks(Source, Sectors, Destination);
-        runClone(disks);
-        QCOMPARE(disks.events, failure);
-        QCOMPARE(m_commands, 3);
-        QVERIFY(g_bCloneFailed);
-    }
-    // The next clone copies, and yet ends as failed.
-    Platform::install(nullptr);
-    m_folder.reset(new DescribedFolder);
-    m_commands = 0;
+    CloneDisks disks(Source, Sectors, Destination);
+    const auto differ = [&](bool differs) {
+        if (change == QLatin1String("use"))
+            m_watched->onDismount = [differs]() -> DiskUse {
+                return {differs ? DiskUse::Mounted : DiskUse::Free, QStringLiteral("/media/x")};
+            };
+        DiskDetails &side = change.startsWith(QLatin1String("source")) ? disks.source() : disks.destination();
+        if (change.endsWith(QLatin1String("length")))
+            side.nTotalSectors = differs ? Sectors + 1 : Sectors;
+        if (change.endsWith(QLatin1String("serial")))
+            side.szSerial = differs ? QStringLiteral("S2") : QStringLiteral("S1");
+    };
+    differ(!inThePause);
+    if (inThePause)
+        m_watched->onSleep = [&](quint32) { differ(true); };
+    runClone(disks);
+    QCOMPARE(disks.events, (QStringList{QStringLiteral("failed"), QStringLiteral("finish")}));
+    QCOMPARE(int(m_outcome.fault), fault);
+    QCOMPARE(m_outcome.end, inThePause ? End::Failed : End::Refused);
+    QCOMPARE(m_commands, inThePause ? 3 : 0);
+    if (inThePause || fault < int(CloneFault::SourceIsAnother))
+        return;
+    QVERIFY(readFile(m_pc->imageFile(Destination)) == noise(Sectors, 2));
+    // The next one starts anew.
+    differ(false);
+    disks.events.clear();
+    runClone(disks);
+    QCOMPARE(m_outcome.end, End::Complete);
+}
+
+void tst_ThreadDriveClone::diesOnTheWay_data()
+{
+    QTest::addColumn<bool>("destination");
+    QTest::addColumn<int>("from"); // the first sector that it refuses, and all from then on
+    QTest::newRow("source, at once") << false << 0;
+    QTest::newRow("source, in the third block") << false << 65536;
+    QTest::newRow("source, in a bad block again") << false << 128;
+    QTest::newRow("destination, at once") << true << 0;
+    QTest::newRow("destination, in the third block") << true << 65536;
+}
+
+/// No error tells of it: every transfer is refused from then on.
+void tst_ThreadDriveClone::diesOnTheWay()
+{
+    QFETCH(bool, destination);
+    QFETCH(int, from);
+    const bool again = from == 128;
+    openPc(9 * BlockSectors, 9 * BlockSectors, again ? ",\"badSectors\":[100]" : "");
+    std::atomic<bool> dead{false};
+    std::atomic<int> refused{0};
+    m_watched->refuses = [&](bool isWrite, qint64 sector) {
+        if (m_prepared.isEmpty() || isWrite != destination)
+            return false;
+        dead = dead || (again ? sector == from : sector >= from);
+        refused += dead ? 1 : 0;
+        return dead.load();
+    };
+    CloneDisks disks(Source, 9 * BlockSectors, Destination);
+    runClone(disks);
+    QCOMPARE(m_outcome.end, End::Failed);
+    QCOMPARE(m_outcome.fault, !destination ? CloneFault::SourceGone
+                              : from == 0  ? CloneFault::DestinationTakesNothing
+                                           : CloneFault::DestinationGone);
+    QVERIFY2(refused < 2100, qPrintable(QString::number(refused)));
+    QCOMPARE(disks.events, (QStringList{QStringLiteral("failed"), QStringLiteral("finish")}));
+    QCOMPARE(m_commands, destination ? 3 : 5);
+}
+
+void tst_ThreadDriveClone::unconfirmed()
+{
     openPc(Sectors, Sectors);
-    fillImages(Sectors, Sectors);
+    m_watched->onFlush = [] { return false; };
     CloneDisks disks(Source, Sectors, Destination);
     runClone(disks);
-    QCOMPARE(disks.events, failure);
-    QCOMPARE(m_commands, 3);
-    QVERIFY2(readFile(m_pc->imageFile(Destination)) == expected(Sectors, {}), "bytes differ");
+    QCOMPARE(m_outcome.end, End::WithErrors);
+    QVERIFY(m_outcome.lost.unconfirmed);
 }
 
 void tst_ThreadDriveClone::withoutDisks()

@@ -156,6 +156,10 @@ void tst_LinuxDiskpart::cleansADiskInUse()
     Mount mount(m_loops[1]->node(), m_folder->filePath(QStringLiteral("mount")));
     if (!mount.isMounted())
         QSKIP("this kernel mounts no such file system");
+    QFile busy(m_folder->filePath(QStringLiteral("mount/busy")));
+    QVERIFY(busy.open(QIODevice::WriteOnly));
+    QVERIFY(run("SELECT DISK 1\nclean\nEXIT").contains("The device is in use."));
+    busy.close();
     const QByteArray cleaned = run("SELECT DISK 1\nclean\nEXIT");
     QVERIFY2(cleaned.contains("DiskPart succeeded in cleaning the disk."), cleaned.constData());
     QVERIFY(!mount.unmount()); // it no longer is

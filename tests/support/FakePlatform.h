@@ -30,6 +30,7 @@ public:
         bool opens = true;
         bool gone = false;       ///< pulled out: refuses every transfer
         bool hasSize = true;     ///< false: the extended geometry is refused
+        QByteArray serial;       ///< as the system tells it; empty: not at all
         QSet<qint64> badSectors; ///< reads that touch one fail
         QSet<qint64> unwritable; ///< writes that touch one fail
         /// Answers the SMART codes; absent: they are refused.
@@ -341,6 +342,9 @@ private:
         case io::DiskGetDriveGeometryEx:
             *reply = raw(io::DiskGeometryEx{geometry, disk->length(), {}});
             return disk->hasSize;
+        case io::StorageQueryProperty:
+            *reply = QByteArray::fromStdString(io::storageDescriptor(disk->serial.toStdString()));
+            return !disk->serial.isEmpty();
         case io::VolumeGetVolumeDiskExtents:
             return answerExtents(name, reply);
         default:

@@ -20,6 +20,9 @@ public:
     std::function<void(const QString &line)> onCommand;
     /// `sector` of the device, `bytes` as they were asked for.
     std::function<void(bool isWrite, qint64 sector, quint32 bytes)> onTransfer;
+    /// True: the transfer fails.
+    std::function<bool(bool isWrite, qint64 sector)> refuses;
+    std::function<DiskUse()> onDismount;
     std::function<bool()> onFlush; ///< false: what was written is not confirmed
 
     bool pauses = true; ///< false: Sleep() takes no time
@@ -46,13 +49,11 @@ public:
     }
     bool ReadFile(RawHandle handle, void *buffer, quint32 bytes, quint32 *moved) override
     {
-        tell(false, handle, bytes);
-        return m_inner->ReadFile(handle, buffer, bytes, moved);
+        return tell(false, handle, bytes) && m_inner->ReadFile(handle, buffer, bytes, moved);
     }
     bool WriteFile(RawHandle handle, const void *buffer, quint32 bytes, quint32 *moved) override
     {
-        tell(true, handle, bytes);
-        return m_inner->WriteFile(handle, buffer, bytes, moved);
+        return tell(true, handle, bytes) && m_inner->WriteFile(handle, buffer, bytes, moved);
     }
     bool DeviceIoControl(RawHandle handle, quint32 code, const void *in, quint32 inSize, void *out,
                          quint32 outSize, quint32 *returned) override
@@ -69,6 +70,10 @@ public:
         const QMutexLocker lock(&m_mutex);
         m_positions.remove(handle);
         m_inner->CloseHandle(handle);
+    }
+    DiskUse DismountDisk(int number) override
+    {
+        return onDismount ? onDismount() : m_inner->DismountDisk(number);
     }
     bool CreateProcessAndWait(const std::wstring &line, bool hidden) override
     {
@@ -130,14 +135,15 @@ public:
     }
 
 private:
-    void tell(bool isWrite, RawHandle handle, quint32 bytes)
+    /// Whether the transfer goes on.
+    bool tell(bool isWrite, RawHandle handle, quint32 bytes)
     {
-        if (!onTransfer)
-            return;
         m_mutex.lock();
         const qint64 offset = m_positions.value(handle);
         m_mutex.unlock();
-        onTransfer(isWrite, offset / 512, bytes);
+        if (onTransfer)
+            onTransfer(isWrite, offset / 512, bytes);
+        return !refuses || !refuses(isWrite, offset / 512);
     }
 
     std::unique_ptr<Platform> m_inner;

@@ -11,6 +11,7 @@
 
 #include <QAction>
 #include <QComboBox>
+#include <QFileDialog>
 #include <QPushButton>
 #include <QRandomGenerator>
 
@@ -19,11 +20,13 @@ namespace
 
 constexpr int SourceSectors = 5 * 32768 + 100;
 
-/// Two disks of one size, slow enough to be looked at, and one of a sector less.
+/// Two disks of one size, slow enough to be looked at, one of a sector less, and a slow one with bad sectors.
 const QByteArray Described = R"({"pauses": false, "settings": {"FirstTimeLaunch": 1}, "disks": [
     {"number": 0, "model": "A", "interface": "IDE", "sectors": 163940, "bytesPerSecond": 200000000},
     {"number": 1, "model": "B", "interface": "IDE", "sectors": 163940, "bytesPerSecond": 200000000},
-    {"number": 2, "model": "C", "interface": "IDE", "sectors": 163939}]})";
+    {"number": 2, "model": "C", "interface": "IDE", "sectors": 163939},
+    {"number": 3, "model": "D", "interface": "IDE", "sectors": 163940, "bytesPerSecond": 40000000,
+     "badSectors": [5, 70000]}]})";
 
 QByteArray noise(int sectors, quint32 seed)
 {
@@ -55,6 +58,9 @@ private slots:
     void stops();
     void goesOnBehindAnotherScreen();
     void diskThatDoesNotOpen();
+    void diskPulledOutOnTheWay_data();
+    void diskPulledOutOnTheWay();
+    void tellsWhatWasLost();
     void startsAndStopsManyTimes();
 
 private:
@@ -64,6 +70,7 @@ private:
     void choose(int source, int target);
     void start(int source, int target);
     void waitForEnd();
+    void pullOut(int disk);
     bool shown(const char *name) const { return child<QWidget>(name)->isVisible(); }
     bool selecting() const;
     bool running() const;
@@ -128,6 +135,15 @@ void tst_CloneFlow::waitForEnd()
 {
     QTRY_VERIFY_WITH_TIMEOUT(!m_pWindow->findChild<CloneDisk *>()->IsCloning(), 20000);
     QVERIFY(!g_bJobRunning);
+}
+
+void tst_CloneFlow::pullOut(int disk)
+{
+    QVERIFY(pc().deviceNotifier()); // watches what is pulled out
+    QFile unplugged(m_strState + QStringLiteral("/volumes-changed/remove-disk%1").arg(disk));
+    QVERIFY(unplugged.open(QIODevice::WriteOnly));
+    unplugged.close(); // a file that is open stays where it is on Windows
+    QTRY_VERIFY(!unplugged.exists());
 }
 
 bool tst_CloneFlow::selecting() const
@@ -292,7 +308,12 @@ void tst_CloneFlow::readsTheDisksAnewWhenOneIsAnother()
     child<QPushButton>("CloneButton")->click();
     Platform::install(m_pFolder->open(QByteArray(Described).replace("163940", "163941")));
     dialog<CloneWarning>()->StartButton->click();
-    QVERIFY(!locked() && !dialog<CloneWarning>() && g_bListsLoading);
+    waitForEnd();
+    QCOMPARE(boxTexts(), (QStringList{"Clone Disk", "The source disk is not the one that was chosen.",
+                                      "Nothing was written on any disk."}));
+    QVERIFY(!g_bListsLoading);
+    dialog<InfoDialogClass>()->OkButton->click();
+    QVERIFY(g_bListsLoading);
     QTRY_VERIFY_WITH_TIMEOUT(!g_bListsLoading, 10000);
     QCOMPARE(commands("diskpart"), 0);
     start(0, 1);
@@ -383,24 +404,63 @@ void tst_CloneFlow::diskThatDoesNotOpen()
 {
     QSignalSpy failed(m_pWindow->findChild<CloneDisk *>(), &CloneDisk::CloningProcesFailed);
     choose(0, 1);
-    QVERIFY(pc().deviceNotifier()); // watches what is pulled out
-    QFile unplugged(m_strState + QStringLiteral("/volumes-changed/remove-disk1"));
-    QVERIFY(unplugged.open(QIODevice::WriteOnly));
-    unplugged.close(); // a file that is open stays where it is on Windows
-    QTRY_VERIFY(!unplugged.exists());
+    pullOut(1);
     start(0, 1);
     waitForEnd();
     QCOMPARE(failed.count(), 1);
-    QCOMPARE(boxTexts(),
-             (QStringList{"Clone Disk", "Cloning aborted.", "Cloning process aborted by the user."}));
+    QCOMPARE(boxTexts(), (QStringList{"Clone Disk", "The destination disk cannot be opened.",
+                                      "Nothing was written on any disk."}));
     QVERIFY(child<QComboBox>("DriveCombobox")->isEnabled());
+    QCOMPARE(commands("diskpart"), 0);
     dialog<InfoDialogClass>()->OkButton->click();
-    QVERIFY(selecting());
+    QTRY_VERIFY_WITH_TIMEOUT(!g_bListsLoading && !shown("GifFrame"), 10000);
+    QCOMPARE(child<QComboBox>("DestinationComboBox")->findData(128 + 1), -1);
+}
 
-    // From now on every clone ends so.
-    start(0, 1);
+void tst_CloneFlow::diskPulledOutOnTheWay_data()
+{
+    QTest::addColumn<int>("source");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("source") << 3 << "The source disk does not answer any more.";
+    QTest::newRow("destination") << 0 << "The destination disk does not answer any more.";
+}
+
+void tst_CloneFlow::diskPulledOutOnTheWay()
+{
+    QFETCH(int, source);
+    QFETCH(QString, text);
+    start(source, 3 - source);
+    QTRY_VERIFY_WITH_TIMEOUT(commands("diskpart") == 3, 10000);
+    pullOut(3);
     waitForEnd();
-    QCOMPARE(boxTexts().at(1), QStringLiteral("Cloning aborted."));
+    QCOMPARE(boxTexts(),
+             (QStringList{"Cloning Failed", text, "The destination disk holds no complete copy."}));
+}
+
+void tst_CloneFlow::tellsWhatWasLost()
+{
+    fill(3, SourceSectors);
+    start(3, 1);
+    waitForEnd();
+    QCOMPARE(boxTexts(),
+             (QStringList{
+                 "Clone Disk", "Disk Cloning complete with errors.",
+                 "2 sectors could not be read and were filled with zeros. 0 sectors could not be written."}));
+    QCOMPARE(child<QRoundProgressBar>("m_pRoundProgressBar")->Text(), QStringLiteral("100%\nComplete"));
+    auto *box = dialog<InfoDialogClass>();
+    QVERIFY(box->SaveButton->isVisible());
+    QTimer::singleShot(0, box, [this] {
+        auto *save = m_pWindow->findChild<QFileDialog *>();
+        QVERIFY(save);
+        save->selectFile(m_pFolder->path() + QStringLiteral("/lost.map"));
+        QMetaObject::invokeMethod(save, "accept");
+    });
+    box->SaveButton->click();
+    QVERIFY(DescribedFolder::contents(m_pFolder->path() + QStringLiteral("/lost.map"))
+                .contains("\n0x00000A00  0x00000200  -\n"));
+    box->OkButton->click();
+    m_pWindow->findChild<CloneDisk *>()->ShowMessage({"a", "b", "c"});
+    QVERIFY(!box->SaveButton->isVisible());
 }
 
 void tst_CloneFlow::startsAndStopsManyTimes()

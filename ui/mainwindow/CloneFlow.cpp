@@ -3,7 +3,6 @@
 #include "app/state/GlobalApp.h"
 #include "app/state/Globals.h"
 #include "clone/CloneFlow.h"
-#include "inventory/RawAccess.h"
 #include "smart/SelfTestGlobals.h"
 #include "ui/CloneDisk.h"
 #include "ui/CloneWarning.h"
@@ -24,15 +23,6 @@ namespace
 cloneflow::Side sideOf(const DiskNode &node)
 {
     return {node.nId - PhysicalDriveBase, node.pDetails ? node.pDetails->nTotalSectors : 0};
-}
-
-/// Whether the number still leads to a disk of the listed size. What was plugged in during a job is not told,
-/// and a number goes to the next disk. One that does not open is left to the clone.
-bool isAsListed(const DiskNode &node)
-{
-    quint64 sectors = 0;
-    GetDiskSectorCount(node.nId, &sectors);
-    return sectors == 0 || sectors == sideOf(node).sectors;
 }
 
 } // namespace
@@ -101,16 +91,11 @@ void MainWindow::OnCloningStart()
         return;
     }
     // What is erased is what was named in the question.
-    const bool asAsked = known && m_askedPair.target == target && chosenPair() == m_askedPair;
-    if (asAsked && isAsListed(*g_App.m_pCurrentDisk) && isAsListed(*g_App.m_pCloneDisk)) {
+    if (known && m_askedPair.target == target && chosenPair() == m_askedPair) {
         startClone();
         return;
     }
     setMenuEntriesEnabled(true);
-    if (asAsked) {
-        OnRefresh();
-        return;
-    }
     OnCloneStart();
     // The second half of a double click must not answer a question that nobody has read.
     m_pCloneWarning->StartButton->setEnabled(false);
