@@ -55,7 +55,7 @@ struct PcDescription {
     int dpi = 96;
     bool pauses = true;
     bool hasSmartctl = true;
-    bool network = false; ///< links may be asked, on this very PC only
+    bool network = false;     ///< links may be asked, on this very PC only
     int toolMilliseconds = 0; ///< how long a run of smartctl takes
     QVector<Disk> disks;
     QVector<inventory::Volume> volumes;

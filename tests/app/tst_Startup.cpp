@@ -94,11 +94,12 @@ void tst_Startup::startsAgainAfterAKill()
     const QString setpriv = QStandardPaths::findExecutable(QStringLiteral("setpriv"));
     if (setpriv.isEmpty() || QFileInfo(folder.path()).ownerId() != 0)
         QSKIP("another user is for root to become");
-    QProcess::execute(QStringLiteral("chmod"),
-                      {QStringLiteral("-R"), QStringLiteral("a+rwX"), folder.path(), folder.state()});
+    const QString user = QStringLiteral("12345");
+    QProcess::execute(QStringLiteral("chown"),
+                      {QStringLiteral("-R"), user, folder.path(), QFileInfo(folder.state()).path()});
     QProcess other;
     other.setProcessEnvironment(environment(folder));
-    other.start(setpriv, {QStringLiteral("--reuid=12345"), QStringLiteral("--clear-groups"), Program});
+    other.start(setpriv, {QStringLiteral("--reuid=") + user, QStringLiteral("--clear-groups"), Program});
     QTRY_COMPARE_WITH_TIMEOUT(starts(folder), 3, 20000);
     other.kill();
     other.waitForFinished();

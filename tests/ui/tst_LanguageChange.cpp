@@ -128,7 +128,7 @@ void tst_LanguageChange::cleanup()
 
 Look tst_LanguageChange::settledLook() const
 {
-    constexpr int RestingRounds = 5;
+    constexpr int RestingRounds = 3;
     constexpr int MostRounds = 100;
     Look look;
     for (int round = 0, resting = 0; round < MostRounds && resting < RestingRounds; ++round) {
@@ -152,7 +152,7 @@ Look tst_LanguageChange::walk()
                                "CloneDiskButton", "DiskStatusButton"}) {
         press(button);
         waitForRead();
-        add(QLatin1String(button), lookOf(m_pWindow.get()));
+        add(QLatin1String(button), settledLook());
     }
     m_pWindow->OnShowSettings();
     const auto windows = QApplication::topLevelWidgets();
