@@ -17,6 +17,7 @@ namespace
 constexpr int RemovableOffset = 10;
 constexpr int VendorOffset = 12;
 constexpr int ProductOffset = 16;
+constexpr int SerialOffset = 24;
 constexpr int BusOffset = 28;
 
 // DRIVE_LAYOUT_INFORMATION_EX
@@ -111,6 +112,7 @@ inventory::Disk readDisk(int number, const QByteArray &descriptor)
                                                                     : QStringLiteral("fixed");
     disk.model = tools::diskModel(textAt(descriptor, VendorOffset), textAt(descriptor, ProductOffset),
                                   QStringLiteral("Disk %1").arg(number), bus);
+    disk.serial = textAt(descriptor, SerialOffset).simplified();
     disk.interfaceType = tools::interfaceWord(bus);
     disk.status = QStringLiteral("OK");
     return disk;

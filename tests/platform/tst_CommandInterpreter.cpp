@@ -44,7 +44,6 @@ private slots:
     void takesBytesBeyondAsciiOneByOne();
     void runsNothingWithoutATarget();
     void refusesALineWithoutSwitch();
-    void namesTheProgram();
     void knowsPathsThatBreakLines();
 
 private:
@@ -171,14 +170,6 @@ void tst_CommandInterpreter::refusesALineWithoutSwitch()
     QVERIFY(!m_interpreter.run(widened("cmd.exe echo64 a >> " + m_target.toUtf8()), slashes));
     QCOMPARE(m_runs, 0);
     QVERIFY(!QFile::exists(m_target));
-}
-
-void tst_CommandInterpreter::namesTheProgram()
-{
-    QCOMPARE(tools::CommandInterpreter::programOf(
-                 L"cmd.exe /c C:\\Windows\\system32\\wbem\\WMIC.exe partition get diskindex >> D:\\t.txt "),
-             QStringLiteral("C:\\Windows\\system32\\wbem\\WMIC.exe"));
-    QVERIFY(tools::CommandInterpreter::programOf(L"cmd.exe").isEmpty());
 }
 
 void tst_CommandInterpreter::knowsPathsThatBreakLines()

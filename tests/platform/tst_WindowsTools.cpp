@@ -143,6 +143,35 @@ private:
     ITaskFolder *m_folder = nullptr;
 };
 
+/// The record of the system's volume, once it is sure that its file system is told right; null without one.
+const LogicalDiskRecord *systemVolume()
+{
+    const QString system = Platform::current().GetSystemDirectoryW().left(2);
+    QString fileSystem;
+    Platform::current().GetVolumeInformationW(system + QLatin1Char('\\'), nullptr, &fileSystem);
+    const LogicalDiskRecord *record = g_pLogicalDiskListHead;
+    while (record && record->szCaption.text() != system)
+        record = record->pNext;
+    return record && record->szFileSystem.text() == fileSystem ? record : nullptr;
+}
+
+qint64 systemBytes()
+{
+    quint64 total = 0;
+    Platform::current().GetDiskFreeSpaceExW(Platform::current().GetSystemDirectoryW().left(3), &total,
+                                            nullptr);
+    return qint64(total);
+}
+
+/// The first line that a command prints.
+QString firstLine(const QString &command)
+{
+    QString line;
+    runner::runAndRead(command, QStringLiteral("HalvaneRun.txt"),
+                       [&line](QTextStream &stream) { line = stream.readLine().trimmed(); });
+    return line;
+}
+
 /// What copies of this program do for the cases; -1 where the arguments are not for one.
 int actAsTool(int argc, char **argv)
 {
@@ -209,10 +238,7 @@ void tst_WindowsTools::runsToolsOfTheWorkingFolder()
     pc.SetCurrentDirectoryW(path(QStringLiteral("own")));
     QVERIFY(QFile::exists(QStringLiteral("bare.bat")));
     QVERIFY(QDir::setCurrent(path(QStringLiteral("planted"))));
-    QString text;
-    QVERIFY(runner::runAndRead(QStringLiteral("bare.bat"), QStringLiteral("HalvaneRun.txt"),
-                               [&text](QTextStream &stream) { text = stream.readLine(); }));
-    QCOMPARE(text, QStringLiteral("own"));
+    QCOMPARE(firstLine(QStringLiteral("bare.bat")), QStringLiteral("own"));
 }
 
 void tst_WindowsTools::programWorksInItsOwnFolder()
@@ -246,10 +272,7 @@ void tst_WindowsTools::tempFolderWithAnyName()
     const QString before = QDir::toNativeSeparators(QDir::tempPath());
     ::SetEnvironmentVariableW(L"TMP", wide(QDir::toNativeSeparators(path(name))));
     const auto restore = qScopeGuard([&before] { ::SetEnvironmentVariableW(L"TMP", wide(before)); });
-    QString text;
-    QVERIFY(runner::runAndRead(QStringLiteral("echo found"), QStringLiteral("HalvaneRun.txt"),
-                               [&text](QTextStream &stream) { text = stream.readLine(); }));
-    QCOMPARE(text.trimmed(), QStringLiteral("found"));
+    QCOMPARE(firstLine(QStringLiteral("echo found")), QStringLiteral("found"));
     QVERIFY(writeFile(tempFile(QStringLiteral("here")), "x") &&
             QFile::exists(path(name + QStringLiteral("/here"))));
 }
@@ -261,30 +284,19 @@ void tst_WindowsTools::interpreterThatIsMissing()
     const auto restore = qScopeGuard([&before] { qputenv("COMSPEC", before); });
     qunsetenv("COMSPEC");
     QVERIFY(Platform::current().CommandInterpreter().isEmpty());
-    QString text;
-    QVERIFY(runner::runAndRead(QStringLiteral("echo found"), QStringLiteral("HalvaneRun.txt"),
-                               [&text](QTextStream &stream) { text = stream.readLine(); }));
-    QCOMPARE(text.trimmed(), QStringLiteral("found"));
+    QCOMPARE(firstLine(QStringLiteral("echo found")), QStringLiteral("found"));
 }
 
 void tst_WindowsTools::volumeTable()
 {
     LoadLogicalDisks();
-    const QString system = Platform::current().GetSystemDirectoryW().left(2);
-    const LogicalDiskRecord *record = g_pLogicalDiskListHead;
-    while (record && record->szCaption.text() != system)
-        record = record->pNext;
+    const LogicalDiskRecord *record = systemVolume();
     QVERIFY(record);
-    quint64 total = 0;
-    QString fileSystem;
-    QVERIFY(Platform::current().GetDiskFreeSpaceExW(system + QLatin1Char('\\'), &total, nullptr));
-    QVERIFY(Platform::current().GetVolumeInformationW(system + QLatin1Char('\\'), nullptr, &fileSystem));
     QVERIFY(record->nFreeBytes > 0 && record->nFreeBytes < record->nSizeBytes);
-    QCOMPARE(record->szFileSystem.text(), fileSystem);
     if (m_bWine)
         QEXPECT_FAIL("", "Wine's table of volumes gives every volume the size of a disk that it makes up",
                      Abort);
-    QCOMPARE(record->nSizeBytes, qint64(total));
+    QCOMPARE(record->nSizeBytes, systemBytes());
 }
 
 void tst_WindowsTools::diskTable()
@@ -320,17 +332,8 @@ void tst_WindowsTools::tablesWithoutTheTool()
     QCOMPARE(probed.value(0), QString::number(disk->nIndex) + disk->szInterface.text());
 
     LoadLogicalDisks();
-    const QString system = g_App.m_strSystemFolder.left(2);
-    const LogicalDiskRecord *record = g_pLogicalDiskListHead;
-    while (record && record->szCaption.text() != system)
-        record = record->pNext;
-    QVERIFY(record);
-    quint64 total = 0;
-    QString fileSystem;
-    QVERIFY(Platform::current().GetDiskFreeSpaceExW(system + QLatin1Char('\\'), &total, nullptr));
-    QVERIFY(Platform::current().GetVolumeInformationW(system + QLatin1Char('\\'), nullptr, &fileSystem));
-    QCOMPARE(record->nSizeBytes, qint64(total));
-    QCOMPARE(record->szFileSystem.text(), fileSystem);
+    QVERIFY(systemVolume());
+    QCOMPARE(systemVolume()->nSizeBytes, systemBytes());
     QVERIFY(!GetSystemDiskIndex().isNull());
 }
 
