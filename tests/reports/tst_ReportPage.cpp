@@ -62,7 +62,6 @@ private slots:
     void rowsGoOnToAnotherPage();
     void linesOfOneHeight();
     void emptyList();
-    void imagesByScale_data();
     void imagesByScale();
     void fileNames();
     void realReports_data();
@@ -389,29 +388,21 @@ void tst_ReportPage::rowsGoOnToAnotherPage()
 {
     for (const bool nvme : {false, true}) {
         const int fitting = nvme ? 33 : 23;
-        PageRecorder single;
-        paint(single, made(nvme, fitting));
-        QVERIFY(single.find("new page").text.isEmpty());
-        QCOMPARE(single.find(QStringLiteral("row %1").arg(fitting - 1)).y, nvme ? 12850 : 12750);
-
         PageRecorder page;
         paint(page, made(nvme, 80));
-        QCOMPARE(page.find("row 0").y, nvme ? 4850 : 7250);
+        QCOMPARE(page.find(QStringLiteral("row %1").arg(fitting - 1)).y, nvme ? 12850 : 12750);
         QCOMPARE(page.find(QStringLiteral("row %1").arg(fitting)).y, 2050);
-        QCOMPARE(page.find(QStringLiteral("row %1").arg(fitting + 43)).y, 12800);
         QCOMPARE(page.find(QStringLiteral("row %1").arg(fitting + 44)).y, 2050);
         // Head, foot and the heading of the table stand on each page, the fields on the first one.
-        const int pages = 3;
         const auto count = [&page](const char *text) {
             return std::count_if(page.texts.cbegin(), page.texts.cend(),
                                  [text](const auto &shown) { return shown.text == QLatin1String(text); });
         };
-        for (const char *text :
-             {"S.M.A.R.T. Report", "Velmora Halvane is a product of Velmora.", "Attribute Name"})
-            QCOMPARE(count(text), pages);
+        for (const char *text : {"S.M.A.R.T. Report", "Velmora Halvane is a product of Velmora.", "ID"})
+            QCOMPARE(count(text), 3);
         QCOMPARE(count("Health:"), 1);
         QCOMPARE(page.rules.size(), 160);
-        QCOMPARE(page.pictures.size(), 80 + 2 * pages);
+        QCOMPARE(page.pictures.size(), 80 + 2 * 3);
     }
 }
 
@@ -423,12 +414,9 @@ void tst_ReportPage::linesOfOneHeight()
     report.serial = QStringLiteral("\u78C1\u76D8 \u0921\u093F\u0938\u094D\u0915");
     PageRecorder page;
     paint(page, report);
-    const auto values = page.within({3100, 2000, 6000, 250});
-    QVERIFY(values.size() >= 2);
-    QVERIFY(values[0].text.size() > 10 && values[0].text.endsWith(QChar(0x2026)));
-    for (const auto &text : page.within({3100, 2200, 6000, 20}))
-        QCOMPARE(text.y, 2200);
-    QVERIFY(!page.within({3100, 2200, 6000, 20}).isEmpty());
+    const auto model = page.within({3100, 2000, 6000, 20});
+    QVERIFY(model.size() == 1 && model[0].text.endsWith(QChar(0x2026)));
+    QVERIFY(!page.within({3100, 2200, 6000, 1}).isEmpty());
 }
 
 void tst_ReportPage::emptyList()
@@ -441,25 +429,15 @@ void tst_ReportPage::emptyList()
     QCOMPARE(page.pictures.size(), 1);
 }
 
-void tst_ReportPage::imagesByScale_data()
-{
-    QTest::addColumn<float>("factor");
-    QTest::addColumn<int>("pictures");
-    QTest::newRow("1") << 1.0F << 3;
-    QTest::newRow("1.25") << 1.25F << 3;
-    QTest::newRow("1.5") << 1.5F << 3;
-    QTest::newRow("2") << 2.0F << 3;
-    QTest::newRow("between") << 1.4F << 1;
-}
-
 void tst_ReportPage::imagesByScale()
 {
-    QFETCH(float, factor);
     SmartReport report = made(true);
-    report.scaleFactor = factor;
-    PageRecorder page;
-    paint(page, report);
-    QTEST(page.pictures.size(), "pictures");
+    for (const float factor : {1.0F, 1.25F, 1.4F, 1.5F, 2.0F}) {
+        report.scaleFactor = factor;
+        PageRecorder page;
+        paint(page, report);
+        QCOMPARE(page.pictures.size(), factor == 1.4F ? 1 : 3); // between two sets there is none
+    }
 }
 
 void tst_ReportPage::fileNames()
@@ -498,12 +476,8 @@ void tst_ReportPage::realReports()
     const QString text = QString::fromUtf8(reader.readAllStandardOutput());
     QCOMPARE(text.count(QLatin1Char('\f')), report.rows.size() <= (report.nvme ? 33u : 23u) ? 1 : 2);
     const QString flat = text.simplified();
-    QStringList parts = {report.model,
-                         report.serial,
-                         report.firmware,
-                         report.localTime,
-                         QStringLiteral("Velmora Halvane profiling process."),
-                         QStringLiteral("Velmora Halvane is a product of Velmora.")};
+    QStringList parts = {report.model, report.serial, report.firmware, report.localTime};
+    parts += {"Velmora Halvane profiling process.", "Velmora Halvane is a product of Velmora."};
     for (const SmartReport::Row &cells : report.rows) {
         QString row;
         for (const SmartReport::Cell &cell : cells)
