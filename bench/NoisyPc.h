@@ -40,6 +40,17 @@ inline void fill(const QString &image, qint64 bytes, quint32 seed)
     }
 }
 
+/// A node of the list for a disk of that size.
+inline std::unique_ptr<DiskNode> makeNode(int number, qint64 bytes)
+{
+    auto node = std::make_unique<DiskNode>();
+    node->nId = static_cast<quint16>(PhysicalDriveBase + number);
+    node->pDetails = std::make_unique<DiskDetails>();
+    node->pDetails->nDevice = static_cast<quint8>(PhysicalDriveBase + number);
+    node->pDetails->nTotalSectors = static_cast<quint64>(bytes / SectorSize);
+    return node;
+}
+
 /// The platform of this process: a simulated PC with disks of one size, full of noise.
 class NoisyPc
 {
@@ -64,12 +75,7 @@ public:
         for (int number = 0; number < disks; ++number) {
             m_images << pc->imageFile(number);
             fill(m_images.last(), bytes, static_cast<quint32>(number) + 1);
-            auto node = std::make_unique<DiskNode>();
-            node->nId = static_cast<quint16>(PhysicalDriveBase + number);
-            node->pDetails = std::make_unique<DiskDetails>();
-            node->pDetails->nDevice = static_cast<quint8>(PhysicalDriveBase + number);
-            node->pDetails->nTotalSectors = static_cast<quint64>(bytes / SectorSize);
-            m_nodes.push_back(std::move(node));
+            m_nodes.push_back(makeNode(number, bytes));
         }
         Platform::install(std::move(pc));
         g_App.m_strSystemFolder = Platform::current().GetSystemDirectoryW();
