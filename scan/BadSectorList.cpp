@@ -1,19 +1,19 @@
 #include "scan/BadSectorList.h"
 
-void BadSectorList::append(qint64 sector)
+void BadSectorList::append(qint64 first, qint64 count)
 {
     const std::lock_guard lock(m_writing);
     const qint64 length = m_lastRun ? m_lastRun->count.load(std::memory_order_relaxed) : 0;
-    if (m_lastRun && sector == m_lastRun->first + length) {
-        m_lastRun->count.store(length + 1, std::memory_order_release);
+    if (m_lastRun && first == m_lastRun->first + length) {
+        m_lastRun->count.store(length + count, std::memory_order_release);
     } else {
         Run *run = nextRun();
-        run->first = sector;
-        run->count.store(1, std::memory_order_relaxed);
+        run->first = first;
+        run->count.store(count, std::memory_order_relaxed);
         m_lastRun = run;
         m_runs.fetch_add(1, std::memory_order_release);
     }
-    m_sectors.fetch_add(1, std::memory_order_release);
+    m_sectors.fetch_add(count, std::memory_order_release);
 }
 
 BadSectorList::Run *BadSectorList::nextRun()

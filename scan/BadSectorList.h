@@ -20,8 +20,9 @@ public:
     BadSectorList &operator=(const BadSectorList &) = delete;
     ~BadSectorList() { clear(); }
 
-    /// Adds a sector (512 bytes) at the tail. Throws std::bad_alloc when there is no memory for it.
-    void append(qint64 sector);
+    /// Adds `count` neighbouring sectors (512 bytes) from `first` on at the tail. Throws std::bad_alloc when
+    /// there is no memory for them.
+    void append(qint64 first, qint64 count = 1);
 
     /// Empties the list. Waits for the end of a walk.
     void clear();

@@ -20,18 +20,29 @@ constexpr int SectorSize = 512;
 constexpr quint32 ChunkBytes = 0x800000;
 constexpr qint64 SectorsPerChunk = ChunkBytes / SectorSize;
 
-// How far the scan may run ahead of those who hear of its bad sectors: one chunk. A disk that has gone fails
-// faster than a window can show it, and a queue without end would take all memory and every click.
-constexpr qlonglong SectorsPerMark = 4096;
-constexpr int MarksAhead = SectorsPerChunk / SectorsPerMark;
+constexpr int TakingMs = 200;   ///< between looks at the disk while it refuses sectors
+constexpr int PartingMs = 2000; ///< that a system may take to notice that a disk was pulled out
 constexpr int PatienceMs = 200; ///< then the receivers' event loop counts as standing still
-constexpr int NapMs = 10;       ///< between looks at the stop request
+constexpr int NapMs = 5;        ///< between looks at what is waited for
 
-QEvent::Type followedEvent()
+/// Counts that the receivers' thread has yet to tell.
+class CountsEvent : public QEvent
 {
-    static const int type = QEvent::registerEventType();
-    return static_cast<QEvent::Type>(type);
-}
+public:
+    CountsEvent(qlonglong first, qlonglong last) : QEvent(type()), m_first(first), m_last(last) {}
+
+    static Type type()
+    {
+        static const int registered = registerEventType();
+        return static_cast<Type>(registered);
+    }
+    qlonglong first() const { return m_first; }
+    qlonglong last() const { return m_last; }
+
+private:
+    qlonglong m_first;
+    qlonglong m_last;
+};
 
 // Memory that the system can let a drive write into, without a copy on the way.
 constexpr std::align_val_t PageSize{4096};
@@ -60,16 +71,6 @@ qint64 blockStep(qint64 total)
 {
     const qint64 quotient = total / ScanBlockCount;
     return quotient * ScanBlockCount == total ? quotient : quotient + 1;
-}
-
-/// What a short read leaves of the buffer is zero afterwards.
-bool readSectors(int drive, Platform::RawHandle handle, qint64 sector, char *buffer, quint32 bytes)
-{
-    quint32 filled = 0;
-    if (!ReadWriteSectors(drive, static_cast<quint64>(sector), buffer, bytes, handle, false, &filled))
-        return false;
-    std::memset(buffer + filled, 0, bytes - filled);
-    return true;
 }
 
 /// The record of the selected disk; null where none is selected, and while the lists are rebuilt.
@@ -115,9 +116,14 @@ void QScanDriveThread::SetRange(qint64 start, qint64 end)
 
 bool QScanDriveThread::event(QEvent *event)
 {
-    if (event->type() != followedEvent())
+    if (event->type() != CountsEvent::type())
         return QThread::event(event);
-    m_followed.release();
+    const auto *counts = static_cast<CountsEvent *>(event);
+    for (qlonglong count = counts->first(); count <= counts->last(); ++count) {
+        emit ExactBadSectorCount(count);
+        m_nHeard.store(count, std::memory_order_relaxed);
+    }
+    --m_nEventsOut;
     return true;
 }
 
@@ -127,6 +133,9 @@ void QScanDriveThread::run()
     g_bScanBegun = false;
     g_bJobRunning = true;
     m_nSectorSize = SectorSize;
+    // What became of the disk of another scan says nothing about this one's.
+    g_bScanFailed = false;
+    g_bScanDiskGone = false;
     if (!g_bAbortJob)
         scan();
     emit OnFinish(g_bScanFailed ? QStringLiteral("Failed") : QStringLiteral("Pass"));
@@ -143,6 +152,8 @@ void QScanDriveThread::scan()
     if (!buffer)
         return;
     m_nBadSectors = 0;
+    m_nGoodSector = -1;
+    m_nStoodStillAt = -1;
     m_total = difference(g_nScanEndSector, g_nScanStartSector);
     emit MaximumBadBlockScanProgress();
     m_progress = 1;
@@ -163,10 +174,11 @@ void QScanDriveThread::scan()
     } else {
         emit ScanProgressValue(1);
         readChunks(buffer.get());
+        g_bScanFailed = g_bScanDiskGone.load();
         Platform::current().CloseHandle(m_handle);
     }
 
-    if (g_bAbortJob) {
+    if (g_bAbortJob || g_bScanDiskGone) {
         emit ScanProgressValue(m_progress);
     } else {
         if (disk)
@@ -176,7 +188,7 @@ void QScanDriveThread::scan()
             emit ScanProgressValue(m_progress + 2);
     }
     emit BadBockCount(m_nBadBlocks);
-    emit ExactBadSectorCount(m_nBadSectors);
+    tellCounts(m_nBadSectors, m_nBadSectors);
 }
 
 void QScanDriveThread::readChunks(char *buffer)
@@ -187,8 +199,10 @@ void QScanDriveThread::readChunks(char *buffer)
         emit TotalBlockCount(position, m_total, step);
         if (m_total - position < SectorsPerChunk)
             bytes = static_cast<quint32>(m_total - position) * SectorSize;
-        if (!readSectors(m_nDrive, m_handle, position, buffer, bytes))
+        if (!read(position, buffer, bytes))
             narrowDown(position, bytes / SectorSize);
+        if (g_bScanDiskGone)
+            return;
         if (position == 0)
             emit setRemainingTime(bytes / SectorSize, g_nScanEndSector);
         m_progress = qMax<qlonglong>(position / step, 1);
@@ -196,37 +210,96 @@ void QScanDriveThread::readChunks(char *buffer)
     }
 }
 
+bool QScanDriveThread::read(qint64 sector, char *buffer, quint32 bytes)
+{
+    quint32 filled = 0;
+    if (!ReadWriteSectors(m_nDrive, static_cast<quint64>(sector), buffer, bytes, m_handle, false, &filled))
+        return false;
+    // What a short read leaves of the buffer is zero afterwards.
+    std::memset(buffer + filled, 0, bytes - filled);
+    m_nGoodSector = sector;
+    return true;
+}
+
 void QScanDriveThread::narrowDown(qint64 position, qint64 sectors)
 {
     alignas(static_cast<std::size_t>(PageSize)) char probe[SectorSize];
+    int uncounted = 0;
+    m_sinceTaken.start();
+    if (Platform::current().IsGone(m_handle)) {
+        g_bScanDiskGone = true;
+        return;
+    }
     // The bound belongs to the range: the sector behind the chunk is probed too, and a bad one there is found
     // again with its own chunk.
-    for (qint64 sector = position; sector <= position + sectors && !g_bAbortJob; ++sector) {
-        if (readSectors(m_nDrive, m_handle, sector, probe, SectorSize))
-            continue;
-        g_BadSectors.append(sector);
-        if (g_bAbortJob)
-            break;
-        emit ExactBadSectorCount(++m_nBadSectors);
-        if (m_nBadSectors % SectorsPerMark == 0)
-            letReceiversFollow();
+    for (qint64 sector = position; sector <= position + sectors && !g_bAbortJob && !g_bScanDiskGone;
+         ++sector) {
+        if (!read(sector, probe, SectorSize)) {
+            if (!m_found.isEmpty() && m_found.last().first + m_found.last().count == sector)
+                ++m_found.last().count;
+            else
+                m_found.append({sector, 1});
+            uncounted = g_bAbortJob ? 1 : 0;
+        }
+        if (!m_found.isEmpty() && uncounted == 0 && m_sinceTaken.hasExpired(TakingMs))
+            takeFound(0);
     }
+    takeFound(uncounted);
 }
 
-void QScanDriveThread::letReceiversFollow()
+void QScanDriveThread::takeFound(int uncounted)
 {
-    QCoreApplication::postEvent(this, new QEvent(followedEvent()));
-    ++m_nMarksOut;
-    int waited = m_bNobodyFollows ? PatienceMs : 0;
-    while (m_nMarksOut > MarksAhead && !g_bAbortJob) {
-        if (m_followed.tryAcquire(1, waited < PatienceMs ? NapMs : 0)) {
-            --m_nMarksOut;
-            waited = 0;
-        } else if (waited >= PatienceMs) {
-            break;
-        } else {
-            waited += NapMs;
+    if (m_found.isEmpty())
+        return;
+    if (isStillThere()) {
+        const qlonglong told = m_nBadSectors;
+        for (const Run &run : qAsConst(m_found)) {
+            g_BadSectors.append(run.first, run.count);
+            m_nBadSectors += run.count;
         }
+        m_nBadSectors -= uncounted;
+        if (m_nBadSectors > told)
+            tellCounts(told + 1, m_nBadSectors);
+    } else {
+        g_bScanDiskGone = true;
     }
-    m_bNobodyFollows = waited >= PatienceMs;
+    m_found.clear();
+    m_sinceTaken.start();
+}
+
+bool QScanDriveThread::isStillThere()
+{
+    Platform &platform = Platform::current();
+    if (platform.IsGone(m_handle))
+        return false;
+    alignas(static_cast<std::size_t>(PageSize)) char probe[SectorSize];
+    if (m_nGoodSector < 0 || read(m_nGoodSector, probe, SectorSize))
+        return true;
+    // What could be read a moment ago is refused as well. A disk that was pulled out does so before the
+    // system has noticed; one that is still there after a while has failed altogether, and all its sectors
+    // are bad.
+    for (int waited = 0; waited < PartingMs; waited += NapMs) {
+        msleep(NapMs);
+        if (g_bAbortJob || platform.IsGone(m_handle))
+            return false;
+    }
+    m_nGoodSector = -1;
+    return true;
+}
+
+void QScanDriveThread::tellCounts(qlonglong first, qlonglong last)
+{
+    // One event is on its way at a time. A disk that refuses everything does so faster than a window can show
+    // it, and a queue without end would take all memory and every click. Nobody waits for an event loop that
+    // stands still.
+    qlonglong heard = m_nHeard;
+    int waited = heard == m_nStoodStillAt ? PatienceMs : 0;
+    while (m_nEventsOut > 0 && waited < PatienceMs && !g_bAbortJob) {
+        msleep(NapMs);
+        waited = m_nHeard == heard ? waited + NapMs : 0;
+        heard = m_nHeard;
+    }
+    m_nStoodStillAt = waited < PatienceMs ? -1 : heard;
+    ++m_nEventsOut;
+    QCoreApplication::postEvent(this, new CountsEvent(first, last));
 }

@@ -2,17 +2,21 @@
 
 #include "platform/Platform.h"
 
+#include <QElapsedTimer>
 #include <QMutex>
-#include <QSemaphore>
 #include <QString>
 #include <QThread>
+#include <QVector>
 #include <QWaitCondition>
+
+#include <atomic>
 
 struct DiskNode;
 
 /// Reads the selected disk (g_App.m_pCurrentDisk) from sector 0 on and collects what cannot be read in
 /// g_BadSectors. Lives on the main thread and is started anew for each scan; set g_bAbortJob to end one.
-/// Connect the signals, which come queued from the thread, before a start.
+/// Connect the signals before a start. All come from the scan's own thread but ExactBadSectorCount, which the
+/// thread that this object lives on tells, in its place among them.
 class QScanDriveThread : public QThread
 {
     Q_OBJECT
@@ -42,12 +46,12 @@ signals:
     void CurrentProgressVal(ulong value);      ///< never
     void CurrentProgressText(QString text);    ///< never
     void MaximumBadBlockScanProgress();        ///< once, when the scan begins
-    void AllBlockProcessed(qlonglong total);   ///< once, unless the scan was stopped: the disk's sectors
+    void AllBlockProcessed(qlonglong total);   ///< once, unless stopped or gone: the disk's sectors
     void ScanProgressValue(qlonglong value);   ///< in blocks: at the start, behind each chunk, at the end
     void CreateImageSectorRead(QString from, QString to); ///< never
-    void OnFinish(QString verdict);     ///< once, last: "Pass" or "Failed" (the disk did not open)
-    void CreateImageProgressReset();    ///< never
-    void BadBockCount(qlonglong count); ///< once at the end, 0
+    void OnFinish(QString verdict);                       ///< once, last: "Pass" or "Failed" (g_bScanFailed)
+    void CreateImageProgressReset();                      ///< never
+    void BadBockCount(qlonglong count);                   ///< once at the end, 0
     void TotalBlockCount(qlonglong position, qlonglong total, qlonglong step); ///< before each chunk; sectors
     void ScanForBadBlockProgressValue(uint value);                             ///< never
     void setRemainingTime(qlonglong sectors, qlonglong endSector); ///< once, behind the first chunk
@@ -58,12 +62,23 @@ protected:
     void run() override;
 
 private:
+    struct Run {
+        qint64 first;
+        qint64 count;
+    };
+
     void scan();
     void readChunks(char *buffer);
+    bool read(qint64 sector, char *buffer, quint32 bytes);
     /// Reads the sectors of a chunk that failed one by one.
     void narrowDown(qint64 position, qint64 sectors);
-    /// Waits where the receivers' thread is too far behind.
-    void letReceiversFollow();
+    /// Lists and tells what was found since the last look at the disk, but for the last `uncounted` of it,
+    /// which are only listed. A disk that has gone ends the scan instead: what it refused says nothing about
+    /// it.
+    void takeFound(int uncounted);
+    bool isStillThere();
+    /// Has the receivers' thread tell the counts from `first` to `last`.
+    void tellCounts(qlonglong first, qlonglong last);
 
     QMutex m_mutex; ///< held by a whole run
     QWaitCondition m_condition;
@@ -76,10 +91,13 @@ private:
     // Of the run under way.
     int m_nDrive = 0; ///< drive code
     Platform::RawHandle m_handle = Platform::InvalidHandle;
-    qint64 m_total = 0;       ///< sectors
-    qlonglong m_progress = 0; ///< in blocks
+    qint64 m_total = 0;        ///< sectors
+    qlonglong m_progress = 0;  ///< in blocks
+    qint64 m_nGoodSector = -1; ///< the latest that could be read
+    QVector<Run> m_found;      ///< not in the list yet
+    QElapsedTimer m_sinceTaken;
 
-    QSemaphore m_followed; ///< one for each mark in the stream of signals that the receivers' thread reached
-    int m_nMarksOut = 0;   ///< marks sent and not yet seen to be reached
-    bool m_bNobodyFollows = false;
+    std::atomic<int> m_nEventsOut{0};   ///< counts on their way to the receivers' thread
+    std::atomic<qlonglong> m_nHeard{0}; ///< the count that it told last
+    qlonglong m_nStoodStillAt = -1;     ///< the same, where it was given up waiting for
 };

@@ -12,7 +12,8 @@ constexpr qint64 ScanBlockCount = 400; ///< the disk is told in so many blocks, 
 /// The bad sectors of the last scan. Emptied at the start of a scan and when the user leaves the page.
 inline BadSectorList g_BadSectors;
 
-inline std::atomic<bool> g_bScanFailed{false};   ///< a disk did not open; never cleared again
+inline std::atomic<bool> g_bScanFailed{false};   ///< the disk of the last scan did not open, or has gone
+inline std::atomic<bool> g_bScanDiskGone{false}; ///< it has gone in mid-scan
 inline std::atomic<bool> g_bScanBegun{false};    ///< cleared when a run begins
 inline std::atomic<bool> g_bScanFinished{false}; ///< set when a run has ended
 

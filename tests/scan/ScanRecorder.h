@@ -5,6 +5,7 @@
 #include "scan/QScanDriveThread.h"
 #include "scan/ScanGlobals.h"
 
+#include <QEventLoop>
 #include <QStringList>
 
 #include <functional>
@@ -31,11 +32,12 @@ private:
     DiskNode m_node;
 };
 
-/// Writes down what a scan thread says, in the order of saying it.
+/// Writes down what this thread's event loop hears of a scan, in its order.
 class ScanRecorder
 {
 public:
-    /// `hear`, called on the scan's own thread with each line, may act in the middle of the scan.
+    /// `hear`, called on the scan's own thread with each line but the counts, may act in the middle of the
+    /// scan.
     explicit ScanRecorder(QScanDriveThread &thread, std::function<void(const QString &)> hear = {})
         : m_hear(std::move(hear))
     {
@@ -69,14 +71,17 @@ private:
     template<typename... Args>
     void on(QScanDriveThread &thread, void (QScanDriveThread::*sign)(Args...), const char *name)
     {
+        const auto line = [name](Args... args) {
+            QStringList words{QLatin1String(name)};
+            (words.append(text(static_cast<Printed<Args>>(args))), ...);
+            return words.join(QLatin1Char(' '));
+        };
+        QObject::connect(&thread, sign, &thread, [this, line](Args... args) { lines.append(line(args...)); });
         QObject::connect(
             &thread, sign, &thread,
-            [this, name](Args... args) {
-                QStringList words{QLatin1String(name)};
-                (words.append(text(static_cast<Printed<Args>>(args))), ...);
-                lines.append(words.join(QLatin1Char(' ')));
-                if (m_hear)
-                    m_hear(lines.last());
+            [this, line, &thread](Args... args) {
+                if (m_hear && QThread::currentThread() == &thread)
+                    m_hear(line(args...));
             },
             Qt::DirectConnection);
     }
@@ -87,13 +92,16 @@ private:
     std::function<void(const QString &)> m_hear;
 };
 
-/// Scans the selected disk to the end of the thread, without an event loop.
+/// Scans the selected disk to the end of the thread.
 inline QStringList scanned(qint64 total, const std::function<void(const QString &)> &hear = {})
 {
     QScanDriveThread thread;
     ScanRecorder recorder(thread, hear);
+    QEventLoop loop;
+    QObject::connect(&thread, &QScanDriveThread::OnFinish, &loop, &QEventLoop::quit);
     thread.SetRange(0, total);
     thread.StartScan(nullptr, 3);
+    loop.exec();
     thread.wait();
     return recorder.lines;
 }
@@ -102,7 +110,6 @@ inline QStringList scanned(qint64 total, const std::function<void(const QString 
 inline void forgetScans()
 {
     g_BadSectors.clear();
-    g_bScanFailed = false;
     g_bAbortJob = false;
     g_nBlockStep = 0;
 }
