@@ -188,8 +188,11 @@ void QWaitClass::onDeviceChange(quint32 event, quint32 deviceType)
     if (event != DeviceChange::Arrival && event != DeviceChange::RemoveComplete)
         return;
     m_bDeviceChanged = true;
-    if (g_bJobRunning)
+    if (g_bJobRunning) {
+        // What has come waits for the next load. What has gone is still in the lists.
+        g_bListsStale = g_bListsStale || event == DeviceChange::RemoveComplete;
         return;
+    }
     if (event == DeviceChange::Arrival)
         emit DriveArrived();
     else

@@ -87,8 +87,8 @@ QVector<Cell> cells(const Metrics &sizes, qint64 total, qint64 position, const B
         const qint64 cell = badCell(first, perCell);
         picture.fill(cell, (count == 1 ? cell : badCell(lastBad, perCell)) + 1, Cell::Bad);
     });
-    // The newest bad cell stays grey until the scan has passed it.
-    if (position != 0 && lastBad >= position)
+    // The newest bad cell stays grey until the scan has passed it, or is at its end.
+    if (position != 0 && position != total && lastBad >= position)
         picture.set(badCell(lastBad, perCell), Cell::Working);
     return picture.take();
 }

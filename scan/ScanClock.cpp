@@ -8,7 +8,6 @@ namespace
 constexpr qint64 Second = 1000;
 constexpr qint64 Minute = 60 * Second;
 constexpr qint64 Hour = 60 * Minute;
-constexpr int Day = static_cast<int>(24 * Hour);
 
 QString withUnit(qint64 number, const char *unit)
 {
@@ -23,22 +22,9 @@ qint64 scaledBy(qint64 a, qint64 b, qint64 c)
 
 } // namespace
 
-void ScanClock::start(QTime now)
+void ScanClock::takeFirstChunk(qint64 sectors, qint64 endSector, qint64 elapsed)
 {
-    m_started = now;
-    m_firstSectors = 0;
-    m_accumulated = 0;
-}
-
-int ScanClock::elapsed(QTime now) const
-{
-    const int ms = m_started.msecsTo(now);
-    return ms < 0 ? ms + Day : ms;
-}
-
-void ScanClock::takeFirstChunk(qint64 sectors, qint64 endSector, QTime now)
-{
-    m_estimate = sectors > 0 ? scaledBy(elapsed(now), endSector, sectors) : 0;
+    m_estimate = sectors > 0 ? scaledBy(elapsed, endSector, sectors) : 0;
     m_firstSectors = sectors;
 }
 
@@ -48,25 +34,22 @@ void ScanClock::forgetEstimate()
     m_estimate = 0;
 }
 
-std::optional<QString> ScanClock::remainingText(QTime now) const
+std::optional<QString> ScanClock::remainingText(qint64 elapsed) const
 {
     if (m_firstSectors <= 0)
         return std::nullopt;
-    qint64 remaining = m_estimate - elapsed(now);
+    qint64 remaining = m_estimate - elapsed;
     if (remaining < 0)
         remaining = Second;
     return remaining >= Hour ? withUnit(remaining / Hour, QT_TRANSLATE_NOOP("ScanDisk", " hours"))
                              : withUnit(remaining / Minute, QT_TRANSLATE_NOOP("ScanDisk", " minutes"));
 }
 
-QString ScanClock::elapsedText(QTime now)
+QString ScanClock::elapsedText(qint64 elapsed)
 {
-    // Past midnight of the reading it goes on from what was counted before.
-    const qint64 reading = elapsed(now);
-    m_accumulated = m_accumulated > reading ? m_accumulated + reading : reading;
-    if (m_accumulated >= Hour)
-        return withUnit(m_accumulated / Hour, QT_TRANSLATE_NOOP("ScanDisk", " hours"));
-    if (m_accumulated >= Minute)
-        return withUnit(m_accumulated / Minute, QT_TRANSLATE_NOOP("ScanDisk", " minutes"));
-    return withUnit(m_accumulated / Second, QT_TRANSLATE_NOOP("ScanDisk", " seconds"));
+    if (elapsed >= Hour)
+        return withUnit(elapsed / Hour, QT_TRANSLATE_NOOP("ScanDisk", " hours"));
+    if (elapsed >= Minute)
+        return withUnit(elapsed / Minute, QT_TRANSLATE_NOOP("ScanDisk", " minutes"));
+    return withUnit(elapsed / Second, QT_TRANSLATE_NOOP("ScanDisk", " seconds"));
 }

@@ -16,6 +16,7 @@
 #include <QSystemTrayIcon>
 
 #include <array>
+#include <utility>
 
 class AccessNotice;
 class CloneDisk;
@@ -239,6 +240,7 @@ private:
     void showTemperature(int celsius);
     void showOverallResult();
     void showLifeFields(const DiskNode *node);
+    void refreshBehindJob();
     void selectCloneArgument();
     void refreshClonePage();
     int currentComboDisk() const;
@@ -249,6 +251,9 @@ private:
 
     /// \name Surface scan
     /// @{
+    using ChosenDisk = std::pair<int, QString>; ///< drive code, and the name that the combo shows
+    ChosenDisk chosenDisk() const;
+    void keepScannedDisk();
     void refreshScanPage();
     void startSurfaceScan();
     void setMenuEntriesEnabled(bool enabled);
@@ -328,6 +333,7 @@ private:
 
     /// The screen asked for while a job's results are open.
     std::array<bool, navigation::ScreenCount> m_abSwitchTarget{};
+    ChosenDisk m_scannedDisk;           ///< whose results show while g_bScanResultOpen
     ClonePair m_askedPair;              ///< named in the question before a clone
     QHash<int, int> m_hashComboToDisk;  ///< combo index to DiskNode::nId
     QList<QAction *> m_listHeldEntries; ///< menu entries that a scan made grey

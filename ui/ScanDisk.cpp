@@ -50,10 +50,11 @@ ScanDisk::ScanDisk(QWidget *parent) : QWidget(parent)
     // Below the window, where the page's style sheets do not reach.
     m_pResultBox = new InfoDialogClass(window());
     m_pResultBox->setObjectName(QStringLiteral("m_pResultBox"));
+    connect(m_pResultBox->OkButton, &QPushButton::clicked, this, &ScanDisk::OnResultRead);
+    connect(m_pResultBox, &QDialog::rejected, this, &ScanDisk::OnResultRead);
     connectThread();
     styleChooser();
     styleCounters();
-    BlockSizeValLbl->setText(QStringLiteral("0"));
     showCounts();
     setFixedTexts();
     setTimeCaptions();
@@ -152,8 +153,21 @@ void ScanDisk::setTimeCaptions()
 
 void ScanDisk::showCounts()
 {
+    constexpr qlonglong SectorSize = 512;
+    constexpr qlonglong Megabyte = 1048576;
     BadBlkValLbl->setText(QString::number(m_i64BadSectors));
     ProcessedVal->setText(QString::number(m_i64Processed));
+    BlockSizeValLbl->setText(m_i64BlockStep == 0
+                                 ? QStringLiteral("0")
+                                 : QString::number(m_i64BlockStep * SectorSize / Megabyte) + tr(" MB"));
+}
+
+void ScanDisk::clearCounts()
+{
+    m_i64BadSectors = 0;
+    m_i64Processed = 0;
+    m_i64BlockStep = 0;
+    showCounts();
 }
 
 void ScanDisk::hideParts()
@@ -214,6 +228,7 @@ void ScanDisk::StartScan(qint64 totalSectors)
 {
     constexpr int UpdateInterval = 2000;
     constexpr int ScanMode = 3;
+    HideResult();
     frame_4->show();
     frame->show();
     g_bAbortJob = false;
@@ -224,7 +239,8 @@ void ScanDisk::StartScan(qint64 totalSectors)
     m_pUpdateTimer = new QTimer(this);
     connect(m_pUpdateTimer, &QTimer::timeout, this, &ScanDisk::OnUpdateTime);
     m_pUpdateTimer->start(UpdateInterval);
-    m_clock.start(QTime::currentTime());
+    m_clock.forgetEstimate();
+    m_sinceStart.start();
     setTimeCaptions();
     PrepareMap(totalSectors);
     if (totalSectors > ScanBlockCount)
@@ -233,19 +249,31 @@ void ScanDisk::StartScan(qint64 totalSectors)
     m_bDropped = false;
     m_scanThread.SetRange(0, totalSectors);
     m_scanThread.StartScan(g_App.m_pCurrentDisk, ScanMode);
-    m_i64BadSectors = 0;
-    showCounts();
+    clearCounts();
 }
 
 void ScanDisk::DropResults()
 {
     clearTimes();
+    clearCounts();
     m_pGridView->Reset();
     m_bDropped = m_bScanning;
-    if (m_bScanning)
+    if (m_bScanning) {
         g_bAbortJob = true;
-    else
+    } else {
         g_BadSectors.clear();
+        g_nBlockStep = 0;
+    }
+}
+
+bool ScanDisk::IsResultUnread() const
+{
+    return m_pResultBox->isVisible();
+}
+
+void ScanDisk::HideResult()
+{
+    m_pResultBox->hide();
 }
 
 void ScanDisk::clearTimes()
@@ -261,14 +289,19 @@ void ScanDisk::CentreResult()
 
 void ScanDisk::onWrtiteText(qlonglong) {}
 
+// What is still on its way from a scan that was given up tells nothing of the disk on show.
 void ScanDisk::ScanMaxProgressForDisk()
 {
+    if (m_bDropped)
+        return;
     m_pGridView->Reset();
     m_pGridView->show();
 }
 
 void ScanDisk::ScanProgValForDisk(qlonglong value)
 {
+    if (m_bDropped)
+        return;
     m_pGridView->m_i64Position = g_nMapStep * value;
     m_pGridView->update();
 }
@@ -279,38 +312,42 @@ void ScanDisk::OnBadBlockCount(qlonglong) {}
 
 void ScanDisk::OnTotalBlockCount(qlonglong position, qlonglong, qlonglong step)
 {
-    constexpr qlonglong SectorSize = 512;
-    constexpr qlonglong Megabyte = 1048576;
-    BlockSizeValLbl->setText(QString::number(step * SectorSize / Megabyte) + tr(" MB"));
+    if (m_bDropped)
+        return;
+    m_i64BlockStep = step;
     m_i64Processed = position;
     showCounts();
 }
 
 void ScanDisk::OnExactBadSectorCount(qlonglong count)
 {
+    if (m_bDropped)
+        return;
     m_i64BadSectors = count;
-    showCounts();
+    BadBlkValLbl->setText(QString::number(count));
 }
 
 void ScanDisk::OnAllBlockProcessed(qlonglong i64ProcessedBlocks)
 {
+    if (m_bDropped)
+        return;
     m_i64Processed = i64ProcessedBlocks;
     showCounts();
 }
 
 void ScanDisk::OnSetRemainingTime(qlonglong sectors, qlonglong endSector)
 {
-    m_clock.takeFirstChunk(sectors, endSector, QTime::currentTime());
+    m_clock.takeFirstChunk(sectors, endSector, m_sinceStart.elapsed());
 }
 
 void ScanDisk::OnUpdateTime()
 {
-    if (!g_bJobRunning)
+    if (!g_bJobRunning || !m_bScanning || m_bDropped)
         return;
-    const QTime now = QTime::currentTime();
-    if (const auto remaining = m_clock.remainingText(now))
+    const qint64 elapsed = m_sinceStart.elapsed();
+    if (const auto remaining = m_clock.remainingText(elapsed))
         RemTimeValLbl->setText(*remaining);
-    ElapsedValLbl->setText(m_clock.elapsedText(now));
+    ElapsedValLbl->setText(ScanClock::elapsedText(elapsed));
 }
 
 void ScanDisk::OnScanFinish(QString verdict)
@@ -318,11 +355,14 @@ void ScanDisk::OnScanFinish(QString verdict)
     // It signals a moment before it is at rest, and would take g_bJobRunning from the next job.
     m_scanThread.wait();
     clearTimes();
-    showResult(verdict);
     m_clock.forgetEstimate();
     m_bScanning = false;
     if (m_bDropped)
         DropResults();
+    else if (!g_bAbortJob && verdict == QLatin1String("Pass"))
+        // The progress comes in rounded steps, which end before the disk or behind it.
+        m_pGridView->m_i64Position = g_nMapTotalSectors;
+    showResult(verdict);
     emit OnScanFinished();
 }
 
@@ -333,7 +373,8 @@ void ScanDisk::showResult(const QString &verdict)
     else if (verdict == QLatin1String("Pass"))
         m_pResultBox->SetTexts(tr("Scan Completed"), tr("Scan Completed."), QString());
     else if (verdict == QLatin1String("Failed"))
-        m_pResultBox->SetTexts(tr("Scan Failed"), tr("Scan Failed."), QString());
+        m_pResultBox->SetTexts(tr("Scan Failed"), tr("Scan Failed."),
+                               g_bScanDiskGone ? tr("The disk is no longer connected.") : QString());
     else
         return;
     CentreResult();
@@ -349,7 +390,6 @@ void ScanDisk::changeEvent(QEvent *event)
         if (g_bJobRunning)
             setTimeCaptions();
         showCounts();
-        FillDisk(findPhysicalDisk(PhysicalDriveBase + g_nCurrentDiskIndex));
     }
     QWidget::changeEvent(event);
 }

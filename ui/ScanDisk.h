@@ -6,6 +6,7 @@
 
 #include "ui_ScanDisk.h"
 
+#include <QElapsedTimer>
 #include <QWidget>
 
 class InfoDialogClass;
@@ -41,9 +42,13 @@ public:
     void ForgetEstimate() { m_clock.forgetEstimate(); }
     /// Moves the result box over the window.
     void CentreResult();
-    /// The user leaves the page: the times and the map go. The bad sectors go at once, or when the scan that
-    /// finds them has ended.
+    /// The user leaves the page or chooses another disk: times, counters and map go. The bad sectors go at
+    /// once, or when the scan that finds them has ended.
     void DropResults();
+    /// Whether the box with a result waits to be read.
+    bool IsResultUnread() const;
+    /// Takes the box away unread.
+    void HideResult();
 
     SelfTestPanel *m_pSelfTestPanel = nullptr; ///< in frame_3
     QGridView *m_pGridView = nullptr;          ///< in frame
@@ -51,6 +56,8 @@ public:
 signals:
     /// The result of a scan shows.
     void OnScanFinished();
+    /// The box with the result was closed.
+    void OnResultRead();
 
 public slots:
     void onWrtiteText(qlonglong value);
@@ -79,11 +86,15 @@ private:
     void showCounts();
     void showResult(const QString &verdict);
 
+    void clearCounts();
+
     InfoDialogClass *m_pResultBox = nullptr;
     QTimer *m_pUpdateTimer = nullptr; ///< of the latest scan
     ScanClock m_clock;
+    QElapsedTimer m_sinceStart;
     qlonglong m_i64BadSectors = 0;
     qlonglong m_i64Processed = 0;
+    qlonglong m_i64BlockStep = 0; ///< sectors of a block; 0 before a scan
     bool m_bScanning = false;
     bool m_bDropped = false; ///< the results of the scan under way were given up
     QScanDriveThread m_scanThread;

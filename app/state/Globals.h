@@ -43,8 +43,10 @@ inline QString g_strSelectDestination;
 inline bool g_bSmartAvailable = false;
 
 inline std::atomic<bool> g_bListsLoading{false}; ///< a refresh rebuilds the lists: nobody else walks them now
-inline std::atomic<bool> g_bAbortJob{false};     ///< stop request, polled by the workers
-inline std::atomic<bool> g_bJobRunning{false};   ///< set and cleared by the workers too
+inline bool g_bListsStale =
+    false; ///< what the lists name has gone during a job: they are read anew behind it
+inline std::atomic<bool> g_bAbortJob{false};   ///< stop request, polled by the workers
+inline std::atomic<bool> g_bJobRunning{false}; ///< set and cleared by the workers too
 inline std::atomic<bool> g_bSelfTestRunning{false};
 inline bool g_bScanResultOpen = false;
 inline bool g_bSelfTestResultOpen = false;

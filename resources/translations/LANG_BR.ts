@@ -1524,6 +1524,10 @@ A atualização falhou porque o download ficou incompleto.</translation>
         <source>Scan Failed.</source>
         <translation>A verificação falhou.</translation>
     </message>
+    <message>
+        <source>The disk is no longer connected.</source>
+        <translation>O disco não está mais conectado.</translation>
+    </message>
 </context>
 <context>
     <name>ScanSwitchDialog</name>

@@ -1524,6 +1524,10 @@ Update failed due to partial download.</source>
         <source>Scan Failed.</source>
         <translation>扫描失败。</translation>
     </message>
+    <message>
+        <source>The disk is no longer connected.</source>
+        <translation>磁盘已断开连接。</translation>
+    </message>
 </context>
 <context>
     <name>ScanSwitchDialog</name>

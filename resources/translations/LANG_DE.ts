@@ -1524,6 +1524,10 @@ Das Update ist fehlgeschlagen, weil der Download unvollständig war.</translatio
         <source>Scan Failed.</source>
         <translation>Scan fehlgeschlagen.</translation>
     </message>
+    <message>
+        <source>The disk is no longer connected.</source>
+        <translation>Das Laufwerk ist nicht mehr angeschlossen.</translation>
+    </message>
 </context>
 <context>
     <name>ScanSwitchDialog</name>

@@ -1524,6 +1524,10 @@ De update is mislukt doordat de download onvolledig was.</translation>
         <source>Scan Failed.</source>
         <translation>Scan mislukt.</translation>
     </message>
+    <message>
+        <source>The disk is no longer connected.</source>
+        <translation>De schijf is niet meer aangesloten.</translation>
+    </message>
 </context>
 <context>
     <name>ScanSwitchDialog</name>

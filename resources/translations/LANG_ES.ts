@@ -1524,6 +1524,10 @@ La actualización falló porque la descarga quedó incompleta.</translation>
         <source>Scan Failed.</source>
         <translation>El análisis ha fallado.</translation>
     </message>
+    <message>
+        <source>The disk is no longer connected.</source>
+        <translation>El disco ya no está conectado.</translation>
+    </message>
 </context>
 <context>
     <name>ScanSwitchDialog</name>

@@ -1524,6 +1524,10 @@ La mise à jour a échoué : le téléchargement est incomplet.</translation>
         <source>Scan Failed.</source>
         <translation>Échec de l&apos;analyse.</translation>
     </message>
+    <message>
+        <source>The disk is no longer connected.</source>
+        <translation>Le disque n'est plus connecté.</translation>
+    </message>
 </context>
 <context>
     <name>ScanSwitchDialog</name>

@@ -1524,6 +1524,10 @@ Update failed due to partial download.</source>
         <source>Scan Failed.</source>
         <translation>स्कैन विफल हुआ।</translation>
     </message>
+    <message>
+        <source>The disk is no longer connected.</source>
+        <translation>डिस्क अब कनेक्ट नहीं है।</translation>
+    </message>
 </context>
 <context>
     <name>ScanSwitchDialog</name>

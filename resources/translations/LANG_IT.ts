@@ -1524,6 +1524,10 @@ L&apos;aggiornamento non è riuscito perché il download è incompleto.</transla
         <source>Scan Failed.</source>
         <translation>Scansione non riuscita.</translation>
     </message>
+    <message>
+        <source>The disk is no longer connected.</source>
+        <translation>Il disco non è più collegato.</translation>
+    </message>
 </context>
 <context>
     <name>ScanSwitchDialog</name>

@@ -1524,6 +1524,10 @@ Update failed due to partial download.</source>
         <source>Scan Failed.</source>
         <translation>スキャンに失敗しました。</translation>
     </message>
+    <message>
+        <source>The disk is no longer connected.</source>
+        <translation>ディスクは接続されていません。</translation>
+    </message>
 </context>
 <context>
     <name>ScanSwitchDialog</name>

@@ -1524,6 +1524,10 @@ Update failed due to partial download.</source>
         <source>Scan Failed.</source>
         <translation>검사에 실패했습니다.</translation>
     </message>
+    <message>
+        <source>The disk is no longer connected.</source>
+        <translation>디스크의 연결이 끊어졌습니다.</translation>
+    </message>
 </context>
 <context>
     <name>ScanSwitchDialog</name>

@@ -252,6 +252,11 @@ void tst_Plugging::jobsDropNotices()
     QVERIFY(!busy->isVisible());
     QCOMPARE(loads(), before);
     QCOMPARE(disks(), listed);
+    // A job's end reads the lists anew where something in them has gone.
+    QCOMPARE(g_bListsStale, touched.startsWith(QLatin1String("remove")));
+    m_pWindow->OnFinishScanDisk();
+    QCOMPARE(g_bListsLoading.load(), touched.startsWith(QLatin1String("remove")));
+    waitForRest();
 }
 
 QTEST_MAIN(tst_Plugging)

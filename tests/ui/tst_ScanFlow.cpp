@@ -36,6 +36,8 @@ private slots:
     void selfTestsGoTheirWay();
     void anotherDisk();
     void failed();
+    void pulledOut();
+    void keepsItsDiskBehindARefresh();
     void languageChange();
     void overAndOver();
 
@@ -62,6 +64,7 @@ private:
         return result()->HeaderLabel->text() + QLatin1Char('|') + result()->label->text() + QLatin1Char('|') +
                result()->label_2->text();
     }
+    void pullOut(int disk) const;
     bool shown(const char *name) const { return child<QWidget>(name)->isVisible(); }
     bool idle() const;
     bool scanning() const;
@@ -84,7 +87,7 @@ void tst_ScanFlow::init()
         {"number": 0, )" +
             disk + R"("sectors": 163840, "badSectors": [100, 819, [16384, 2], 163839]},
         {"number": 1, )" +
-            disk + R"("sectors": 16384000, "bytesPerSecond": 200000000},
+            disk + R"("sectors": 16384000, "bytesPerSecond": 200000000, "badSectors": [40000, 40020]},
         {"number": 2, )" +
             disk + R"("sectors": 2048, "opens": false}]})");
     makeWindow();
@@ -95,7 +98,8 @@ void tst_ScanFlow::cleanup()
 {
     tearDown();
     g_BadSectors.clear();
-    g_bScanFailed = false; // is for the life of the process
+    g_bScanDiskGone = false;
+    g_bListsStale = false;
 }
 
 void tst_ScanFlow::startOn(int index)
@@ -103,6 +107,15 @@ void tst_ScanFlow::startOn(int index)
     press("ScanDiskButton");
     select(index);
     child<QPushButton>("ScanButton")->click();
+}
+
+void tst_ScanFlow::pullOut(int disk) const
+{
+    QVERIFY(Platform::current().deviceNotifier()); // watches what is pulled out
+    QFile unplugged(m_strState + QStringLiteral("/volumes-changed/remove-disk%1").arg(disk));
+    QVERIFY(unplugged.open(QIODevice::WriteOnly));
+    unplugged.close();
+    QTRY_VERIFY_WITH_TIMEOUT(!unplugged.exists(), 5000);
 }
 
 bool tst_ScanFlow::scanning() const
@@ -145,8 +158,7 @@ void tst_ScanFlow::finished()
     for (const char *time : {"TimeElapsedLbl", "TimeReLbl", "ElapsedValLbl", "RemTimeValLbl"})
         QCOMPARE(text(time), QString());
     QCOMPARE(map()->property("totalSectors").toLongLong(), QuickSectors);
-    // 410 sectors a block, 147456 before the last chunk: 359, and 2 at the end; 409 sectors a step.
-    QCOMPARE(map()->property("position").toLongLong(), qlonglong{361 * 409});
+    QCOMPARE(map()->property("position").toLongLong(), QuickSectors);
     QCOMPARE(map()->property("badSectors").toList(),
              (QVariantList{100, 819, 16384, 16384, 16385, 163839, 163840}));
     QCOMPARE(toolTipAt(QPoint(499, 319)),
@@ -171,10 +183,9 @@ void tst_ScanFlow::paintsItsCells()
     };
     QCOMPARE(image.size(), QSize(501, 321));
     QCOMPARE(colourAt(0), blockmap::ProcessedColour);
-    QCOMPARE(colourAt(1), blockmap::BadColour);       // sector 819 lies in the third cell
-    QCOMPARE(colourAt(360), blockmap::WorkingColour); // the last of 361
-    QCOMPARE(colourAt(361), blockmap::BackgroundColour);
-    QCOMPARE(colourAt(399), blockmap::WorkingColour); // the last bad one, which the progress has not passed
+    QCOMPARE(colourAt(1), blockmap::BadColour); // sector 819 lies in the third cell
+    QCOMPARE(colourAt(398), blockmap::ProcessedColour);
+    QCOMPARE(colourAt(399), blockmap::BadColour); // sector 163839, and the one behind the end
     QCOMPARE(image.pixel(40, 10), blockmap::GridColour);
     QCOMPARE(image.pixel(500, 320), blockmap::GridColour);
     for (qint64 sector = QuickSectors; sector < 10 * QuickSectors; ++sector)
@@ -312,30 +323,79 @@ void tst_ScanFlow::anotherDisk()
     startOn(0);
     waitForResult();
     closeResult();
-    // Other disks may be looked at; the next scan takes the one that is selected then.
+    select(0);
+    QCOMPARE(text("BadBlkValLbl") + QLatin1Char(' ') + QString::number(map()->position()),
+             QStringLiteral("7 163840"));
+    // Other disks may be looked at, without the results; the next scan takes the one that is selected then.
     select(2);
     QCOMPARE(text("TotalBlkValLbl"), QStringLiteral("0"));
-    QCOMPARE(map()->totalSectors(), qlonglong{0});
-    QCOMPARE(map()->position(), qlonglong{0});
     select(1);
+    QEvent change(QEvent::LanguageChange);
+    QCoreApplication::sendEvent(page(), &change);
+    QCOMPARE(text("TotalBlkValLbl"), QString::number(SlowSectors));
+    QCOMPARE(text("BadBlkValLbl") + text("ProcessedVal") + text("BlockSizeValLbl"), QStringLiteral("000"));
+    QCOMPARE(map()->position(), qlonglong{0});
+    QVERIFY(g_BadSectors.isEmpty() && toolTipAt(QPoint(0, 0)).endsWith(QLatin1String(" 0 MB")));
     child<QPushButton>("ScanButton")->click();
-    QCOMPARE(text("BadBlkValLbl"), QStringLiteral("0"));
+    QVERIFY(scanning());
     QCOMPARE(map()->totalSectors(), SlowSectors);
-    QVERIFY(g_BadSectors.isEmpty());
+    m_pWindow->OnStopConfirm();
+    waitForResult();
+    select(0);
+    QVERIFY(!result()->isVisible());
+    // Nothing is lost by leaving, so nobody is asked.
+    press("DiskPartitionButton");
+    QVERIFY(!page()->isVisible() && !m_pWindow->findChild<ScanSwitchClass *>()->isVisible());
 }
 
 void tst_ScanFlow::failed()
 {
     // A disk without a volume goes without a notice.
-    QVERIFY(Platform::current().deviceNotifier()); // watches what is pulled out
-    QFile unplugged(m_strState + QStringLiteral("/volumes-changed/remove-disk0"));
-    QVERIFY(unplugged.open(QIODevice::WriteOnly));
-    unplugged.close();
-    QTRY_VERIFY_WITH_TIMEOUT(!unplugged.exists(), 5000);
+    pullOut(0);
     startOn(0);
     waitForResult();
     QCOMPARE(resultTexts(), QStringLiteral("Scan Failed|Scan Failed.|"));
     QVERIFY(idle());
+}
+
+/// What was found shows until it was read; then the disk leaves the lists.
+void tst_ScanFlow::pulledOut()
+{
+    startOn(1);
+    waitForSector(163840);
+    pullOut(1);
+    waitForResult();
+    QCOMPARE(resultTexts(), QStringLiteral("Scan Failed|Scan Failed.|The disk is no longer connected."));
+    QVERIFY(idle() && shown("frame"));
+    // Those from before are found, and none behind the pulling.
+    QCOMPARE(text("BadBlkValLbl"), QStringLiteral("2"));
+    QCOMPARE(g_BadSectors.toVector(), (QVector<qint64>{40000, 40020}));
+    QVERIFY(map()->position() > 0 && map()->position() < SlowSectors);
+    QVERIFY(!g_bListsLoading);
+    closeResult();
+    QVERIFY(g_bListsLoading);
+    waitForRead();
+    auto *combo = child<QComboBox>("DriveCombobox");
+    QCOMPARE(combo->findData(129), -1);
+    QCOMPARE(text("BadBlkValLbl"), QStringLiteral("0"));
+    QCOMPARE(text("TotalBlkValLbl"), QString::number(QuickSectors));
+    QVERIFY(g_BadSectors.isEmpty() && !g_bScanResultOpen);
+}
+
+void tst_ScanFlow::keepsItsDiskBehindARefresh()
+{
+    startOn(1);
+    waitForSector(163840);
+    g_bListsStale = true; // a volume went meanwhile
+    m_pWindow->OnStopConfirm();
+    waitForResult();
+    closeResult();
+    QVERIFY(g_bListsLoading);
+    const qlonglong position = map()->position();
+    waitForRead();
+    QCOMPARE(child<QComboBox>("DriveCombobox")->currentIndex(), 1);
+    QCOMPARE(map()->position(), position);
+    QVERIFY(g_bScanResultOpen && text("BadBlkValLbl") == QLatin1String("2"));
 }
 
 void tst_ScanFlow::languageChange()

@@ -131,6 +131,7 @@ void MainWindow::OnCloningProcesFailed()
 void MainWindow::OnCloningFinish()
 {
     setMenuEntriesEnabled(true);
+    refreshBehindJob();
     // There is nothing left to be stopped.
     m_pConfirmation->hide();
     StopButton->hide();

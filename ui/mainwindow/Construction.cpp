@@ -405,6 +405,7 @@ void MainWindow::connectAll()
     connect(StopTestButton, &QPushButton::clicked, this, &MainWindow::OnClickStopTestButton);
     connect(ScanButton, &QPushButton::clicked, this, &MainWindow::OnScanStart);
     connect(m_pScanDiskPage, &ScanDisk::OnScanFinished, this, &MainWindow::OnFinishScanDisk);
+    connect(m_pScanDiskPage, &ScanDisk::OnResultRead, this, &MainWindow::refreshBehindJob);
     connect(CloneButton, &QPushButton::clicked, this, &MainWindow::OnCloneStart);
     connect(ReportSaveButton, &QPushButton::clicked, this, &MainWindow::SavePDFReport);
     connect(ScreenshotButton, &QPushButton::clicked, this, &MainWindow::TakeScreenshot);

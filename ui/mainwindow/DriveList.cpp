@@ -55,6 +55,7 @@ void MainWindow::LookUpDisk(int comboIndex)
 void MainWindow::OnActivatedDriveCombo(int)
 {
     RefreshSelectedDisk();
+    refreshBehindJob();
 }
 
 void MainWindow::OnComboboxIndexChange(int index)
@@ -100,9 +101,15 @@ void MainWindow::refreshClonePage()
 
 void MainWindow::OnRefresh()
 {
-    // A job holds nodes of the lists until its thread is at rest, also before and behind that flag.
-    if (g_bJobRunning || m_pCloneDiskPage->IsCloning() || m_pScanDiskPage->IsScanning())
+    if (g_bJobRunning)
         return;
+    // A job holds nodes of the lists until its thread is at rest, also behind that flag. The result of a scan
+    // shows under its disk until it was read, also where that has gone.
+    if (m_pCloneDiskPage->IsCloning() || m_pScanDiskPage->IsScanning() || m_pScanDiskPage->IsResultUnread()) {
+        g_bListsStale = true;
+        return;
+    }
+    g_bListsStale = false;
     m_bRefreshing = true;
     // The disks that it names may be others in the new lists.
     m_pCloneWarning->hide();
@@ -119,6 +126,13 @@ void MainWindow::OnRefresh()
     g_App.m_pCurrentDisk = nullptr;
     g_App.m_pCloneDisk = nullptr;
     m_refreshThread.startBehind(m_smartThread);
+}
+
+/// What went during a job leaves the lists behind it.
+void MainWindow::refreshBehindJob()
+{
+    if (g_bListsStale)
+        OnRefresh();
 }
 
 void MainWindow::OnInitialize()
@@ -138,6 +152,7 @@ void MainWindow::OnInitialize()
             m_pCloneDiskPage->SourceComboBox->setCurrentIndex(i);
         }
     }
+    keepScannedDisk();
     leaveBusy();
     // A number may stand for another disk now.
     takeUpDisk(NoDisk);

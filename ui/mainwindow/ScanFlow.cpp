@@ -2,6 +2,7 @@
 
 #include "app/state/GlobalApp.h"
 #include "app/state/Globals.h"
+#include "scan/ScanGlobals.h"
 #include "smart/SelfTestGlobals.h"
 #include "ui/CloneDisk.h"
 #include "ui/ConfarmetionClass.h"
@@ -40,8 +41,34 @@ void MainWindow::OnShowScanDisk()
 void MainWindow::refreshScanPage()
 {
     LookUpDisk(DriveCombobox->currentIndex());
-    m_pScanDiskPage->FillDisk(g_App.m_pCurrentDisk);
-    m_pScanDiskPage->PrepareMap(sectorsOf(g_App.m_pCurrentDisk));
+    // A job that was left has another current disk until it is at rest.
+    const DiskNode *node = findPhysicalDisk(DriveCombobox->currentData().toInt());
+    m_pScanDiskPage->FillDisk(node);
+    // The results of a scan are those of its disk alone.
+    if (g_bScanResultOpen && chosenDisk() == m_scannedDisk)
+        return;
+    if (g_bScanResultOpen)
+        m_pScanDiskPage->HideResult();
+    g_bScanResultOpen = false;
+    m_pScanDiskPage->DropResults();
+    m_pScanDiskPage->PrepareMap(sectorsOf(node));
+}
+
+MainWindow::ChosenDisk MainWindow::chosenDisk() const
+{
+    return {DriveCombobox->currentData().toInt(), DriveCombobox->currentText()};
+}
+
+/// Behind a refresh, which begins at the first disk: the results that show go on showing under their own.
+void MainWindow::keepScannedDisk()
+{
+    if (!g_bScanResultOpen)
+        return;
+    const int index = DriveCombobox->findData(m_scannedDisk.first);
+    if (index < 0 || DriveCombobox->itemText(index) != m_scannedDisk.second)
+        return;
+    DriveCombobox->setCurrentIndex(index);
+    m_pCloneDiskPage->SourceComboBox->setCurrentIndex(index);
 }
 
 void MainWindow::OnScanStart()
@@ -50,7 +77,7 @@ void MainWindow::OnScanStart()
     // drive has answered. A clone goes on behind this screen, and would take a stop for its own.
     if (g_bListsLoading || m_pScanDiskPage->IsScanning() || m_pCloneDiskPage->IsCloning())
         return;
-    // Without a disk the engine would fail, and every scan of this process with it.
+    // Without a disk there is nothing that could fail.
     LookUpDisk(DriveCombobox->currentIndex());
     if (m_pScanDiskPage->radioButton->isChecked() && !g_App.m_pCurrentDisk)
         return;
@@ -77,6 +104,7 @@ void MainWindow::startSurfaceScan()
         setNavigationEnabled(static_cast<Screen>(i), false);
     selectButton(navigation::ScanDiskScreen);
     m_pScanDiskPage->StartScan(sectorsOf(g_App.m_pCurrentDisk));
+    m_scannedDisk = chosenDisk();
     g_bScanResultOpen = true;
     g_bScanStarted = false;
 }
@@ -90,6 +118,10 @@ void MainWindow::OnFinishScanDisk()
     StopButton->hide();
     ScanButton->setEnabled(true);
     DriveCombobox->setEnabled(true);
+    // A disk that does not open, or not any more, is not what the lists say.
+    if (g_bScanFailed)
+        g_bListsStale = true;
+    refreshBehindJob();
     // Somebody who has left the scan meanwhile stays where he is.
     if (!g_bScanResultOpen) {
         if (!g_App.m_pCurrentDisk || g_App.m_pCurrentDisk->nId != DriveCombobox->currentData().toInt())
@@ -129,7 +161,9 @@ void MainWindow::dropScanResults()
     }
     if (m_pCloneDiskPage->IsCloning())
         ScanButton->setEnabled(false);
+    m_pScanDiskPage->HideResult();
     m_pScanDiskPage->DropResults();
+    refreshBehindJob();
 }
 
 bool MainWindow::eventFilter(QObject *watched, QEvent *event)
