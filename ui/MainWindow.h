@@ -295,6 +295,7 @@ private:
     /// \name Closing
     /// @{
     void showRunningPanel(bool fromYes);
+    void keepAwake();
     void launchSibling(const QString &fileName);
     /// @}
 

@@ -254,11 +254,13 @@ void tst_ScanFlow::leftInMidRun()
 void tst_ScanFlow::closingAndRefreshing()
 {
     startOn(1);
+    const auto sleepState = [this] { return logLines("execution-state.log").last(); };
     const int before = commands("diskdrive get");
     m_pWindow->OnRefresh();
     QVERIFY(!m_pWindow->close());
     auto *panel = m_pWindow->findChild<DestinitionWarning *>();
     QVERIFY(panel->isVisible());
+    QCOMPARE(sleepState(), QByteArray("0x80000041"));
     QCOMPARE(panel->WarningTxtLbl->text(), QStringLiteral("Disk scan running."));
     QEvent change(QEvent::LanguageChange);
     QCoreApplication::sendEvent(panel, &change);
@@ -275,6 +277,7 @@ void tst_ScanFlow::closingAndRefreshing()
     waitForResult();
     QCOMPARE(commands("diskdrive get"), before);
     QVERIFY(idle());
+    QCOMPARE(sleepState(), QByteArray("0x80000000"));
 }
 
 void tst_ScanFlow::startsNothingDuringARefresh()

@@ -121,6 +121,7 @@ void MainWindow::startClone()
         setNavigationEnabled(static_cast<Screen>(i), false);
     selectButton(navigation::CloneDiskScreen);
     m_pCloneDiskPage->StartClone();
+    keepAwake();
 }
 
 void MainWindow::OnCloningProcesFailed()
@@ -131,6 +132,7 @@ void MainWindow::OnCloningProcesFailed()
 void MainWindow::OnCloningFinish()
 {
     setMenuEntriesEnabled(true);
+    keepAwake();
     refreshBehindJob();
     // There is nothing left to be stopped.
     m_pConfirmation->hide();

@@ -16,8 +16,10 @@
 
 namespace
 {
-/// The system may sleep again: the continuous state alone ends what the splash asked for.
+/// The system may sleep again: the continuous state alone ends what was asked for before.
 constexpr quint32 ExecutionContinuous = 0x80000000u;
+/// The same with system required and away mode required: it must not.
+constexpr quint32 StayAwake = 0x80000041u;
 
 /// A window without a parent may lie behind the main window, where showing it again would change nothing.
 void bringUp(QWidget *window)
@@ -35,6 +37,12 @@ bool MainWindow::jobRuns() const
     // system.
     return g_bJobRunning || g_bSelfTestRunning || m_pScanDiskPage->IsScanning() ||
            m_pCloneDiskPage->IsCloning();
+}
+
+/// To be called when a job has begun or ended: the machine does not sleep meanwhile.
+void MainWindow::keepAwake()
+{
+    Platform::current().SetThreadExecutionState(jobRuns() ? StayAwake : ExecutionContinuous);
 }
 
 void MainWindow::showRunningPanel(bool fromYes)
@@ -57,7 +65,7 @@ void MainWindow::showRunningPanel(bool fromYes)
 void MainWindow::closeEvent(QCloseEvent *event)
 {
     event->ignore();
-    Platform::current().SetThreadExecutionState(ExecutionContinuous);
+    keepAwake();
     if (jobRuns())
         showRunningPanel(false);
     else

@@ -104,6 +104,7 @@ void MainWindow::startSurfaceScan()
         setNavigationEnabled(static_cast<Screen>(i), false);
     selectButton(navigation::ScanDiskScreen);
     m_pScanDiskPage->StartScan(sectorsOf(g_App.m_pCurrentDisk));
+    keepAwake();
     m_scannedDisk = chosenDisk();
     g_bScanResultOpen = true;
     g_bScanStarted = false;
@@ -118,6 +119,7 @@ void MainWindow::OnFinishScanDisk()
     StopButton->hide();
     ScanButton->setEnabled(true);
     DriveCombobox->setEnabled(true);
+    keepAwake();
     // A disk that does not open, or not any more, is not what the lists say.
     if (g_bScanFailed)
         g_bListsStale = true;

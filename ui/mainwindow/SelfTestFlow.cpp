@@ -125,6 +125,8 @@ void MainWindow::showTestButtons(bool running)
     StopTestButton->hide();
     // A test can outlive its screen, and another one's strip has no such buttons.
     const bool ended = !running && isDown(navigation::ScanDiskScreen);
+    if (!running)
+        keepAwake();
     ScanButton->setVisible(ended);
     BackTestButton->setVisible(ended);
     BottamLabel->show();
@@ -148,8 +150,10 @@ void MainWindow::OnStartShortSelfTest()
 {
     SelfTestPanel *panel = m_pScanDiskPage->m_pSelfTestPanel;
     const bool canRun = canRunSelfTest();
-    if (canRun)
+    if (canRun) {
         g_bSelfTestRunning = true;
+        keepAwake();
+    }
     g_bSelfTestResultOpen = canRun;
     setNavigationEnabled(navigation::ScanDiskScreen, !canRun);
     selftest::restartClock();
