@@ -66,9 +66,10 @@ void AccessNotice::setTexts()
             : tr("Close the program and start it as root. This command does it in a terminal:"));
     m_pCommand->setText(command);
     m_pCommand->setHidden(command.isEmpty());
-    for (QLabel *text : {m_pHeading, m_pReason, m_pAdvice, m_pCommand}) {
-        text->ensurePolished();
-        text->setFixedHeight(text->heightForWidth(text->width()));
+    for (QLabel *label : {m_pHeading, m_pReason, m_pAdvice, m_pCommand}) {
+        label->ensurePolished();
+        if (!label->text().isEmpty())
+            label->setFixedHeight(label->heightForWidth(label->width()));
     }
 }
 
