@@ -5,6 +5,7 @@
 #include "inventory/BootSector.h"
 #include "inventory/LinuxNodes.h"
 #include "inventory/PartitionWalk.h"
+#include "inventory/VolumeExtents.h"
 #include "inventory/VolumeNodes.h"
 #include "inventory/WmicInventory.h"
 #include "smart/ReportParser.h"
@@ -61,8 +62,9 @@ QString runVolume(const QByteArray &input, Mutator &mutator)
                          qint64(mutator.below(quint64(-1)))},
                         int(mutator.below(4)));
     const std::unique_ptr<DiskNode> node = makeVolumeNode(QStringLiteral("E:\\"), RemovableDisks());
+    KnownExtents extents;
     if (node)
-        tieVolumeToDisk(node.get());
+        tieVolumeToDisk(node.get(), &extents);
     if (node && node->pLogical->szFileSystem.isEmpty())
         return QStringLiteral("a volume without a file system");
     const bool listed = volume.type == io::DriveFixed || volume.type == io::DriveRemovable;
