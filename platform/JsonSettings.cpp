@@ -1,5 +1,7 @@
 #include "platform/JsonSettings.h"
 
+#include "platform/OwnFiles.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonArray>
@@ -63,7 +65,7 @@ namespace jsonsettings
 
 bool read(QIODevice &device, QSettings::SettingsMap &map)
 {
-    const QByteArray bytes = device.readAll();
+    const QByteArray bytes = device.read(ownfiles::MostBytes);
     QJsonParseError error{};
     const QJsonDocument document = QJsonDocument::fromJson(bytes, &error);
     if (error.error != QJsonParseError::NoError) {

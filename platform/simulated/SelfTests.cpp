@@ -1,9 +1,9 @@
 #include "platform/simulated/SelfTests.h"
 
+#include "platform/OwnFiles.h"
 #include "platform/simulated/SelfTestText.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -35,12 +35,13 @@ QJsonObject toJson(const SelfTestRun &run)
 SelfTestRun fromJson(const QJsonObject &object)
 {
     const auto whole = [&object](const char *key) {
-        return static_cast<qint64>(object.value(QLatin1String(key)).toDouble());
+        constexpr double Most = 9.0e15; // so that sums and tenfolds fit
+        return static_cast<qint64>(std::clamp(object.value(QLatin1String(key)).toDouble(), -Most, Most));
     };
     SelfTestRun run;
     run.kind = object.value(QLatin1String("kind")).toString();
-    run.end.status = static_cast<int>(whole("status"));
-    run.end.remainingTenths = static_cast<int>(whole("remainingTenths"));
+    run.end.status = static_cast<int>(std::clamp<qint64>(whole("status"), 0, 15));
+    run.end.remainingTenths = static_cast<int>(std::clamp<qint64>(whole("remainingTenths"), 0, 9));
     run.started = whole("started");
     run.duration = whole("duration");
     run.hours = whole("hours");
@@ -50,8 +51,7 @@ SelfTestRun fromJson(const QJsonObject &object)
 
 QJsonObject loadAll(const QString &path)
 {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(file.readAll()).object() : QJsonObject();
+    return QJsonDocument::fromJson(ownfiles::contents(path)).object();
 }
 
 } // namespace

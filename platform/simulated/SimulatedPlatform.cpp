@@ -292,10 +292,13 @@ QString SimulatedPlatform::HistoryFolder(const QString &)
 
 QString SimulatedPlatform::MakePrivateFolder(const QString &name)
 {
-    // The whole state is the user's alone.
+    // The state is the user's, but others may be able to look at it.
     const QString path = GetTempPathW() + name;
     QDir(path).removeRecursively();
-    return QDir().mkdir(path) ? path : QString();
+    const bool fresh = QDir().mkdir(path);
+    return fresh && QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner)
+               ? path
+               : QString();
 }
 
 std::unique_ptr<QFile> SimulatedPlatform::HoldFile(const QString &path)
