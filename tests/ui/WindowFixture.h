@@ -60,6 +60,9 @@ protected:
         g_bScanResultOpen = false;
         g_bSelfTestResultOpen = false;
         m_pWindow.reset();
+        // Its refresh ended with it, and nobody heard of the lists.
+        g_bListsLoading = false;
+        g_bListsStale = false;
         m_pFolder = std::make_unique<DescribedFolder>();
     }
 

@@ -99,7 +99,6 @@ void tst_ScanFlow::cleanup()
     tearDown();
     g_BadSectors.clear();
     g_bScanDiskGone = false;
-    g_bListsStale = false;
 }
 
 void tst_ScanFlow::startOn(int index)
