@@ -17,7 +17,9 @@ if(CMAKE_BUILD_TYPE STREQUAL "Release")
     set(CMAKE_POSITION_INDEPENDENT_CODE ON)
     target_compile_options(halvane_flags INTERFACE -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=3 -fstack-protector-strong)
     if(WIN32)
-        target_link_options(halvane_flags INTERFACE LINKER:--dynamicbase,--high-entropy-va,--nxcompat)
+        # The protector is a library of the compiler's here.
+        target_link_options(halvane_flags INTERFACE
+            -fstack-protector-strong LINKER:--dynamicbase,--high-entropy-va,--nxcompat)
     else()
         include(CheckPIESupported)
         check_pie_supported(LANGUAGES CXX)
