@@ -1,10 +1,10 @@
 #include "ui/ElidingLabel.h"
 
-#include <QHelpEvent>
+#include "ui/Style.h"
+
 #include <QStyle>
 #include <QStyleOption>
 #include <QStylePainter>
-#include <QToolTip>
 
 QString ElidingLabel::shownText() const
 {
@@ -18,20 +18,13 @@ QSize ElidingLabel::minimumSizeHint() const
     return QSize(qMin(whole.width(), FewestCharacters * fontMetrics().averageCharWidth()), whole.height());
 }
 
-bool ElidingLabel::event(QEvent *event)
-{
-    if (event->type() != QEvent::ToolTip || shownText() == text())
-        return QLabel::event(event);
-    QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), text(), this);
-    return true;
-}
-
 void ElidingLabel::paintEvent(QPaintEvent *)
 {
     // The style's own way of drawing a label's text, so that the style sheet's colour holds.
     QStylePainter painter(this);
     QStyleOption option;
     option.initFrom(this);
+    style::setWholeTip(this, shownText() == text() ? QString() : text());
     style()->drawItemText(&painter, contentsRect(), QStyle::visualAlignment(layoutDirection(), alignment()),
                           option.palette, isEnabled(), shownText(), foregroundRole());
 }

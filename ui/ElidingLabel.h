@@ -13,7 +13,6 @@ public:
     QSize minimumSizeHint() const override;
 
 protected:
-    bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:

@@ -97,6 +97,12 @@ std::optional<inventory::Disk> diskOf(const inventory::Machine &machine, const Q
     return std::nullopt;
 }
 
+/// A path as a shell takes it.
+QString quoted(QString path)
+{
+    return QLatin1Char('\'') + path.replace(QLatin1Char('\''), QStringLiteral("'\\''")) + QLatin1Char('\'');
+}
+
 quint32 mediaTypeOf(const inventory::Disk &disk)
 {
     return disk.media == QLatin1String("removable") ? io::MediaRemovable : io::MediaFixed;
@@ -380,8 +386,8 @@ QString LinuxPlatform::AdministratorCommand()
     const QString authority =
         qEnvironmentVariable("XAUTHORITY", QDir::homePath() + QLatin1String("/.Xauthority"));
     return QStringLiteral("pkexec env DISPLAY=%1 XAUTHORITY=%2 %3")
-        .arg(qEnvironmentVariable("DISPLAY", QStringLiteral(":0")), authority,
-             QCoreApplication::applicationFilePath());
+        .arg(qEnvironmentVariable("DISPLAY", QStringLiteral(":0")), quoted(authority),
+             quoted(QCoreApplication::applicationFilePath()));
 }
 
 QString LinuxPlatform::OperatingSystemName()
