@@ -251,6 +251,22 @@ private slots:
         QTEST(parts.value, "value");
     }
 
+    void aCutNameHasATip()
+    {
+        CloneDisk clone;
+        const QString name = QStringLiteral("A Name & Sons <b>1");
+        clone.SourceComboBox->addItem(name);
+        clone.ModelNLbl->setText(QStringLiteral("Model: ") + name);
+        for (QWidget *cut : std::initializer_list<QWidget *>{clone.ModelNLbl, clone.SourceComboBox}) {
+            cut->setFixedWidth(90);
+            cut->grab();
+            QVERIFY(cut->toolTip().endsWith(QStringLiteral("A Name &amp; Sons &lt;b&gt;1")));
+            cut->setFixedWidth(600);
+            cut->grab();
+            QCOMPARE(cut->toolTip(), QString());
+        }
+    }
+
     void pagesHaveTheirSizeAtEveryScale_data()
     {
         QTest::addColumn<float>("scaleFactor");
