@@ -257,7 +257,8 @@ void CloneDisk::OnDriveCloneFinish()
         m_pRoundProgressBar->SetValue(100);
         ProgressLabel->repaint();
     }
-    m_bListsOutdated = outcome.fault != CloneFault::None;
+    if (outcome.fault != CloneFault::None)
+        g_bListsStale = true;
     ShowMessage(cloneflow::finished(outcome));
     m_pMessageBox->OfferSaving(outcome.end == CloneOutcome::End::WithErrors);
     emit OnCloneFinish();
@@ -271,9 +272,6 @@ void CloneDisk::OnOk()
         return;
     showRunning(false);
     emit DiskCloneFinished();
-    if (m_bListsOutdated)
-        emit ListsOutdated();
-    m_bListsOutdated = false;
 }
 
 void CloneDisk::changeEvent(QEvent *event)

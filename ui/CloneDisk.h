@@ -49,8 +49,6 @@ signals:
     void ComboboxIndexChange(int index);
     /// The clone was refused, or failed.
     void CloningProcesFailed();
-    /// The disks may be others than those of the lists; the result was read.
-    void ListsOutdated();
 
 public slots:
     void OnActivatedSourceComboBox(int index);
@@ -78,6 +76,5 @@ private:
     InfoDialogClass *m_pMessageBox = nullptr;
     QTime m_timeStarted;
     bool m_bCloning = false;
-    bool m_bListsOutdated = false;
     ThreadDriveClone m_cloneThread;
 };

@@ -133,7 +133,6 @@ void MainWindow::OnCloningFinish()
 {
     setMenuEntriesEnabled(true);
     keepAwake();
-    refreshBehindJob();
     // There is nothing left to be stopped.
     m_pConfirmation->hide();
     StopButton->hide();
@@ -155,4 +154,5 @@ void MainWindow::OnFinishDiskCloning()
     // Somebody who has left the page before the result was read stays where he is.
     if (m_pCloneDiskPage->isVisible())
         selectButton(navigation::CloneDiskScreen);
+    refreshBehindJob();
 }

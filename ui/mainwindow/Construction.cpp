@@ -439,7 +439,6 @@ void MainWindow::connectAll()
     connect(m_pCloneDiskPage, &CloneDisk::DiskCloneFinished, this, &MainWindow::OnFinishDiskCloning);
     connect(m_pCloneDiskPage, &CloneDisk::ComboboxIndexChange, this, &MainWindow::OnComboboxIndexChange);
     connect(m_pCloneDiskPage, &CloneDisk::CloningProcesFailed, this, &MainWindow::OnCloningProcesFailed);
-    connect(m_pCloneDiskPage, &CloneDisk::ListsOutdated, this, &MainWindow::OnRefresh);
     connect(m_pCloneDiskPage->SourceComboBox, QOverload<int>::of(&QComboBox::activated), this,
             &MainWindow::OnSourceIndexChange);
     connect(m_pCloneDiskPage->DestinationComboBox, QOverload<int>::of(&QComboBox::activated), this,
