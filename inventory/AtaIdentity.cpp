@@ -2,6 +2,7 @@
 
 #include "inventory/RawAccess.h"
 #include "platform/IoControl.h"
+#include "platform/PlainText.h"
 
 #include <algorithm>
 #include <cstring>
@@ -42,7 +43,8 @@ template<std::size_t Width>
 void takeText(const QByteArray &data, int firstWord, int lastWord, FixedText<Width> *text)
 {
     const QByteArray field = data.mid(2 * firstWord, 2 * (lastWord - firstWord + 1));
-    text->assign(QString::fromLatin1(ata::identifyText(field).left(static_cast<int>(Width) - 1)));
+    const QByteArray told = ata::identifyText(field).left(static_cast<int>(Width) - 1);
+    text->assign(plaintext::line(QString::fromLatin1(told)));
 }
 
 io::SendCmdInParams makeCommand(int device, std::uint8_t command, std::uint8_t features, std::uint32_t bytes)

@@ -1,6 +1,7 @@
 #include "inventory/BootSector.h"
 
 #include "inventory/RawAccess.h"
+#include "platform/PlainText.h"
 
 #include <QByteArray>
 #include <QtEndian>
@@ -100,7 +101,7 @@ QString extName(const Sector &superblock)
     for (const std::size_t offset : {MountPointOffset, VolumeNameOffset}) {
         if (superblock[offset] == '/') {
             const char *name = reinterpret_cast<const char *>(superblock.data()) + offset;
-            return QString::fromLocal8Bit(name, static_cast<int>(qstrnlen(name, NameSize)));
+            return plaintext::line(QString::fromLocal8Bit(name, static_cast<int>(qstrnlen(name, NameSize))));
         }
     }
     return QString();

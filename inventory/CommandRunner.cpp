@@ -1,5 +1,7 @@
 #include "inventory/CommandRunner.h"
 
+#include "platform/OwnFiles.h"
+#include "platform/PlainText.h"
 #include "platform/Platform.h"
 
 #include <QFile>
@@ -88,15 +90,17 @@ void runInto(const QString &command, const QString &path)
 
 bool readOutput(const QString &path, const OutputReader &read, After after)
 {
-    QFile file(nativePath(path));
-    if (!file.open(QIODevice::ReadOnly))
+    const QString native = nativePath(path);
+    QFile file;
+    if (!ownfiles::openRegular(&file, native, QIODevice::ReadOnly))
         return false;
-    QString text = decoded(file.readAll()).replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    QString text = plaintext::lines(
+        decoded(file.read(ownfiles::MostBytes)).replace(QLatin1String("\r\n"), QLatin1String("\n")));
     file.close();
     QTextStream stream(&text, QIODevice::ReadOnly);
     read(stream);
-    if (after == After::Remove && file.exists())
-        file.remove();
+    if (after == After::Remove && QFile::exists(native))
+        QFile::remove(native);
     return true;
 }
 

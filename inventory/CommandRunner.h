@@ -42,7 +42,7 @@ std::wstring widen(const QByteArray &bytes);
 enum class After { Remove, Keep };
 
 /// Takes the text of a tool: of UTF-16 by its byte-order mark, else of the locale, in which a lone byte 0xA0
-/// is the no-break blank.
+/// is the no-break blank. What a drive may have brought along to command (plaintext::lines()) is disarmed.
 using OutputReader = std::function<void(QTextStream &stream)>;
 
 /// tempFile() with a left-over of that name removed, as commands append to their file.
@@ -51,8 +51,8 @@ QString freshTempFile(const QString &name);
 /// Runs `command` with its standard output appended to `path`, a path of tempFile().
 void runInto(const QString &command, const QString &path);
 
-/// Opens the file at `path` (of tempFile()), hands it to `read`, and removes it behind that. False, with
-/// `read` not called, where the file cannot be opened: then the command never ran.
+/// Opens the file at `path` (of tempFile()), hands its first 16 MiB to `read`, and removes it behind that.
+/// False, with `read` not called, where there is no regular file to be opened: then the command never ran.
 bool readOutput(const QString &path, const OutputReader &read, After after = After::Remove);
 
 /// The three steps at once, for a command that is read right behind its run.

@@ -3,6 +3,7 @@
 #include "inventory/BootSector.h"
 #include "inventory/Capacity.h"
 #include "platform/IoControl.h"
+#include "platform/PlainText.h"
 #include "platform/Platform.h"
 
 #include <algorithm>
@@ -88,6 +89,7 @@ bool readSizes(LogicalDetails *volume, const RemovableDisks &removable)
 bool readNames(LogicalDetails *volume)
 {
     Platform::current().GetVolumeInformationW(volume->szRoot, &volume->szLabel, &volume->szFileSystem);
+    volume->szLabel = plaintext::line(volume->szLabel);
     if (volume->szLabel.isEmpty())
         volume->szLabel = QStringLiteral("Local Disk");
     if (!volume->szFileSystem.isEmpty())

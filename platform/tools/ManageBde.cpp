@@ -1,5 +1,6 @@
 #include <QStringList>
 
+#include "platform/PlainText.h"
 #include "platform/tools/SystemTools.h"
 
 #include <algorithm>
@@ -58,7 +59,7 @@ QString describe(const Volume &volume)
     const bool isSealed = volume.hasBitLockerLine && volume.bitLocker != QLatin1String("None");
 
     QString text = QStringLiteral("Volume %1: [%2]\r\n[%3 Volume]\r\n\r\n")
-                       .arg(QString(volume.letter), volume.label,
+                       .arg(QString(volume.letter), plaintext::line(volume.label),
                             systemVolume ? QStringLiteral("OS") : QStringLiteral("Data"));
     text +=
         line("Size:", QStringLiteral("%1 GB").arg(static_cast<double>(volume.size) / Gigabyte, 0, 'f', 2));

@@ -1,5 +1,6 @@
 #include <QStringList>
 
+#include "platform/PlainText.h"
 #include "platform/tools/DiskWords.h"
 #include "platform/tools/SystemTools.h"
 
@@ -167,7 +168,7 @@ QString layOut(const Table &table, const QVector<Column> &columns, const Machine
     for (const Column &column : columns) {
         QStringList cells{QLatin1String(column.name)};
         for (int row = 0; row < rows; ++row)
-            cells.append(column.cell(machine, row));
+            cells.append(plaintext::line(column.cell(machine, row)));
         int width = 0;
         for (const QString &cell : cells)
             width = std::max(width, cell.size());

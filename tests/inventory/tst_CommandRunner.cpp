@@ -1,4 +1,5 @@
 #include "inventory/CommandRunner.h"
+#include "platform/OwnFiles.h"
 #include "tests/support/FakePlatform.h"
 
 #include <QTest>
@@ -21,6 +22,7 @@ private slots:
     void decodesBothKindsOfTool_data();
     void decodesBothKindsOfTool();
     void readsNoBreakBlanks();
+    void takesTextsAsData();
     void keepsFileIfAsked();
     void reportsMissingFile_data();
     void reportsMissingFile();
@@ -158,6 +160,19 @@ void CommandRunnerTest::readsNoBreakBlanks()
     QVERIFY(runner::runAndRead(QStringLiteral("tool"), QStringLiteral("F.txt"),
                                [&lines](QTextStream &stream) { lines = linesOf(stream); }));
     QCOMPARE(lines, QStringList({QStringLiteral("18\u00A0250\u00A0344"), QStringLiteral("\u00E0")}));
+}
+
+void CommandRunnerTest::takesTextsAsData()
+{
+    QByteArray output = utf16(QStringLiteral("a\u001B[2Jb\u202Ec\u2028d\u0085\re\tf\r\n"));
+    fake->onCommand = [&output](const QString &line) { return FakePlatform::answer(line, output); };
+    QString text;
+    const auto read = [&text](QTextStream &stream) { text = stream.readAll(); };
+    QVERIFY(runner::runAndRead(QStringLiteral("tool"), QStringLiteral("F.txt"), read));
+    QCOMPARE(text, QStringLiteral("a\uFFFD[2Jb\uFFFDc\uFFFDd\uFFFD\uFFFDe\tf\n"));
+    output = QByteArray(static_cast<int>(ownfiles::MostBytes) + 9, 'x');
+    QVERIFY(runner::runAndRead(QStringLiteral("tool"), QStringLiteral("F.txt"), read));
+    QCOMPARE(text.size(), 16 * 1024 * 1024);
 }
 
 void CommandRunnerTest::keepsFileIfAsked()

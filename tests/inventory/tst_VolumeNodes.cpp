@@ -158,7 +158,7 @@ void VolumeNodesTest::codesFileSystems()
 void VolumeNodesTest::fillsVolumes()
 {
     add('A', "", 0); // fixed and nameless: no node, and no id either
-    add('C', "NTFS", 3 * GiB + 1, 7).label = QStringLiteral("System");
+    add('C', "NTFS", 3 * GiB + 1, 7).label = QStringLiteral("Sys\u202Etem");
     add('E', "RAW", 5 * MiB);
     const auto nodes = build();
     QCOMPARE(nodes.size(), 2);
@@ -168,7 +168,7 @@ void VolumeNodesTest::fillsVolumes()
     const LogicalDetails &c = *nodes[0]->pLogical;
     QCOMPARE(int(c.nLetter), 2);
     QCOMPARE(c.szRoot, QStringLiteral("C:\\"));
-    QCOMPARE(c.szLabel, QStringLiteral("System"));
+    QCOMPARE(c.szLabel, QStringLiteral("Sys\uFFFDtem"));
     QCOMPARE(c.szFileSystem, QStringLiteral("NTFS"));
     QCOMPARE(quint64(c.nTotalBytes), 3 * GiB + 1);
     QCOMPARE(quint64(c.nFreeBytes), quint64(7));

@@ -179,6 +179,10 @@ void tst_SystemTools::wmicRefuses()
 void tst_SystemTools::wmicWithoutRows()
 {
     QCOMPARE(ask(Machine(), "diskdrive get model"), QByteArray());
+    // Nor does a model make a row of its own.
+    Machine pc;
+    pc.disks = {disk(0, "A\r\n1", "IDE", "fixed", 1)};
+    QCOMPARE(ask(pc, "diskdrive get model").count('\n'), 3);
 }
 
 void tst_SystemTools::manageBdeClear()
