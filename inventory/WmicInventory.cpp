@@ -9,6 +9,8 @@
 #include <QStringList>
 #include <QTextStream>
 
+#include <algorithm>
+
 namespace
 {
 
@@ -21,13 +23,17 @@ QStringList fieldsOf(const QString &line)
     return line.split(QLatin1Char(' '), Qt::SkipEmptyParts);
 }
 
-/// Calls `take` for each line of the stream that does not hold `headerWord`.
+/// Calls `take` for each line of a table but its header: the first line with letters, which holds
+/// `headerWord`. Further down that word is data, such as a model's name.
 template<typename Take>
 void eachDataLine(QTextStream &stream, const QLatin1String &headerWord, Take take)
 {
+    bool headerPassed = false;
     while (!stream.atEnd()) {
         const QString line = stream.readLine();
-        if (!line.contains(headerWord))
+        const bool isHeader = !headerPassed && line.contains(headerWord);
+        headerPassed = headerPassed || !line.trimmed().isEmpty();
+        if (!isHeader)
             take(line);
     }
 }
@@ -225,19 +231,20 @@ QString diskName(const QString &line)
 LogicalDiskLine parseLogicalDisk(const QString &line)
 {
     const QStringList fields = fieldsOf(line);
-    return {fields.value(0).trimmed(), fields.value(1).trimmed(), fields.value(2).toLongLong(),
-            fields.value(3).toLongLong()};
+    return {fields.value(0).trimmed(), fields.value(1).trimmed(),
+            std::max<qint64>(0, fields.value(2).toLongLong()),
+            std::max<qint64>(0, fields.value(3).toLongLong())};
 }
 
 bool isBitLockerLine(const QString &line)
 {
-    return line.contains(QLatin1String("BitLocker Version:"));
+    return line.trimmed().startsWith(QLatin1String("BitLocker Version:"));
 }
 
 QString bitLockerState(const QString &line)
 {
-    return line.contains(QLatin1String("BitLocker Version:    None")) ? QStringLiteral("NO")
-                                                                      : QStringLiteral("YES");
+    return line.trimmed().startsWith(QLatin1String("BitLocker Version:    None")) ? QStringLiteral("NO")
+                                                                                  : QStringLiteral("YES");
 }
 
 QString partitionDisk(const QString &line)

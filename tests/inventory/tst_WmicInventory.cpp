@@ -179,6 +179,8 @@ void WmicInventoryTest::readsBitLockerState_data()
     QTest::newRow("decrypted") << file("c-decrypted-win11") << QStringLiteral("NO");
     QTest::newRow("encrypted") << file("os-used-space-on") << QStringLiteral("YES");
     QTest::newRow("three volumes") << file("three-volumes-decrypted") << QStringLiteral("NO");
+    QTest::newRow("label that says so")
+        << file("c-decrypted-win11").replace("[OS]", "[BitLocker Version:    2.0]") << QStringLiteral("NO");
     QTest::newRow("no rights") << file("access-denied") << QString();
     QTest::newRow("nothing printed") << QByteArray() << QString();
     QTest::newRow("two blanks only") << QByteArray("    BitLocker Version:  None\r\n")
@@ -212,10 +214,10 @@ void WmicInventoryTest::loadsDiskDrives_data()
     QTest::newRow("long name") << sample(QStringLiteral("diskdrive-long-nvme-name.txt"))
                                << QStringList({QStringLiteral("0|IDE||OK"),
                                                QStringLiteral("1|SCSI|addlink M.2 PCIE G|OK"), blank});
-    QTest::newRow("data line taken for a header")
+    QTest::newRow("the header's word in a model")
         << utf16(QStringLiteral("Index  InterfaceType  Model  Status\r\n0  IDE  Index X 1 ATA Device  OK\r\n"
                                 "1  USB  A B USB Device  OK\r\n"))
-        << QStringList(QStringLiteral("1|USB|A B |OK"));
+        << QStringList({QStringLiteral("0|IDE|Index X 1 |OK"), QStringLiteral("1|USB|A B |OK")});
     QTest::newRow("no mark") << QByteArray(
                                     "Index  InterfaceType  Model  Status\r\n7  USB  A B USB Device  OK\r\n")
                              << QStringList(QStringLiteral("7|USB|A B |OK"));
