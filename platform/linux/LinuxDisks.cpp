@@ -48,8 +48,10 @@ Ended runTool(const QString &name, const QStringList &arguments, const QByteArra
     process.start(program, arguments);
     process.write(input);
     process.closeWriteChannel();
-    const bool ended = process.waitForFinished(-1) && process.exitStatus() == QProcess::NormalExit;
-    return {ended && process.exitCode() == 0, process.readAllStandardOutput()};
+    const QByteArray output = linuxtools::outputOf(&process);
+    const bool ended =
+        process.error() != QProcess::FailedToStart && process.exitStatus() == QProcess::NormalExit;
+    return {ended && process.exitCode() == 0, output};
 }
 
 void collect(const QJsonArray &devices, QStringList &places)

@@ -1,6 +1,7 @@
 // The part of LinuxPlatform that starts other programs and asks them about the PC.
 
 #include "platform/OwnFiles.h"
+#include "platform/PlainText.h"
 #include "platform/linux/LinuxDisks.h"
 #include "platform/linux/LinuxPlatform.h"
 #include "platform/linux/LinuxTools.h"
@@ -26,8 +27,7 @@ QByteArray outputOf(const QString &tool, const QStringList &arguments)
     QProcess process;
     process.setStandardErrorFile(QProcess::nullDevice());
     process.start(program, arguments, QIODevice::ReadOnly);
-    process.waitForFinished(-1);
-    return process.readAllStandardOutput();
+    return linuxtools::outputOf(&process);
 }
 
 /// The label as the volume bears it. The tool's other forms, and lsblk without udev, write letters beyond
@@ -37,7 +37,7 @@ QString labelOf(const QString &node)
     const QByteArray told = outputOf(QStringLiteral("blkid"),
                                      {QStringLiteral("-p"), QStringLiteral("-o"), QStringLiteral("value"),
                                       QStringLiteral("-s"), QStringLiteral("LABEL"), node});
-    return QString::fromUtf8(told).remove(QLatin1Char('\n'));
+    return plaintext::line(QString::fromUtf8(told).remove(QLatin1Char('\n')));
 }
 
 /// lsblk knows file systems from udev alone. Where none runs, the volume itself is asked, and where it may
@@ -46,9 +46,11 @@ void identifyFileSystem(inventory::Volume &volume, const QString &node, const QS
 {
     static const QRegularExpression escape(QStringLiteral("\\\\(.)"));
     QHash<QString, QString> found;
-    const QString told =
-        QString::fromUtf8(outputOf(QStringLiteral("blkid"), {QStringLiteral("-p"), QStringLiteral("-o"),
-                                                             QStringLiteral("export"), node}));
+    // A label could bring lines of its own along, so it is not asked for.
+    const QString told = QString::fromUtf8(
+        outputOf(QStringLiteral("blkid"),
+                 {QStringLiteral("-p"), QStringLiteral("-o"), QStringLiteral("export"), QStringLiteral("-s"),
+                  QStringLiteral("TYPE"), QStringLiteral("-s"), QStringLiteral("VERSION"), node}));
     for (QString line : told.split(QLatin1Char('\n'))) {
         line.replace(escape, QStringLiteral("\\1"));
         found.insert(line.section(QLatin1Char('='), 0, 0), line.section(QLatin1Char('='), 1));

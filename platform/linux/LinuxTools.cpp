@@ -1,5 +1,6 @@
 #include "platform/linux/LinuxTools.h"
 
+#include "platform/OwnFiles.h"
 #include "platform/tools/SystemTools.h"
 
 #include <QDir>
@@ -54,20 +55,37 @@ QByteArray runTool(const QString &name, const QStringList &arguments)
     process.setStandardInputFile(QProcess::nullDevice());
     process.setStandardErrorFile(QProcess::nullDevice());
     process.start(program, arguments, QIODevice::ReadOnly);
-    process.waitForFinished(-1);
-    return process.readAllStandardOutput();
+    return outputOf(&process);
 }
 
 } // namespace
 
 QString find(const QString &name)
 {
+    static const QStringList ofTheSystem{QStringLiteral("/usr/sbin"), QStringLiteral("/usr/bin"),
+                                         QStringLiteral("/sbin"), QStringLiteral("/bin")};
+    // A path may hold folders of another user, and the one for local tools is open to a group.
+    if (ownfiles::isElevated())
+        return QStandardPaths::findExecutable(name, ofTheSystem);
     const QString found = QStandardPaths::findExecutable(name);
     // Users other than root often lack these folders in their path.
-    return found.isEmpty()
-               ? QStandardPaths::findExecutable(name, {QStringLiteral("/usr/local/sbin"),
-                                                       QStringLiteral("/usr/sbin"), QStringLiteral("/sbin")})
-               : found;
+    return found.isEmpty() ? QStandardPaths::findExecutable(
+                                 name, QStringList{QStringLiteral("/usr/local/sbin")} + ofTheSystem)
+                           : found;
+}
+
+QByteArray outputOf(QProcess *process)
+{
+    QByteArray output;
+    const auto take = [process, &output] {
+        const QByteArray more = process->readAllStandardOutput();
+        output += more.left(static_cast<int>(ownfiles::MostBytes) - output.size());
+    };
+    while (process->waitForReadyRead(-1))
+        take();
+    process->waitForFinished(-1);
+    take();
+    return output;
 }
 
 QStringList processes()

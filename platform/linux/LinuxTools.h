@@ -5,13 +5,19 @@
 
 #include "platform/Inventory.h"
 
+class QProcess;
+
 /// The system's tools on a Linux PC, behind the names that the program calls them by.
 namespace linuxtools
 {
 
 /// The path of an installed tool, in the search path or where the system keeps those of root; empty if it is
-/// not installed.
+/// not installed. Root gets the system's own alone, whatever the search path says.
 QString find(const QString &name);
+
+/// Waits without a limit for the end of a process that was started. Its standard output, of which no more
+/// than ownfiles::MostBytes are kept.
+QByteArray outputOf(QProcess *process);
 
 /// The image names of the running processes, each with ".exe" behind it as the program knows its companion.
 QStringList processes();

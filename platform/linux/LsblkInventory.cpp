@@ -1,5 +1,6 @@
 #include "platform/linux/LsblkInventory.h"
 
+#include "platform/PlainText.h"
 #include "platform/tools/DiskWords.h"
 
 #include <QJsonArray>
@@ -8,6 +9,7 @@
 #include <QMap>
 
 #include <algorithm>
+#include <limits>
 #include <tuple>
 
 namespace lsblk
@@ -22,6 +24,8 @@ using inventory::Partition;
 using inventory::Volume;
 
 constexpr quint64 SectorSize = 512;
+constexpr quint64 MostBytes = std::numeric_limits<qint64>::max();
+constexpr quint64 MostSectorBytes = 1024 * 1024; ///< of one sector; what is told beyond is no size
 const QString EfiSystemGuid = QStringLiteral("c12a7328-f81f-11d2-ba4b-00a0c93ec93b");
 const QString BasicDataGuid = QStringLiteral("ebd0a0a2-b9e5-4433-87c0-68b6b72699c7");
 const QString EfiSystemByte = QStringLiteral("0xef");
@@ -50,15 +54,24 @@ constexpr FileSystemName FileSystemNames[] = {
 
 QString text(const QJsonObject &device, const char *key)
 {
-    return device.value(QLatin1String(key)).toString().simplified();
+    return plaintext::line(device.value(QLatin1String(key)).toString().simplified());
 }
 
-/// Numbers are quoted by older versions of lsblk.
+/// A count of at most MostBytes. Numbers are quoted by older versions of lsblk.
 quint64 number(const QJsonObject &device, const char *key)
 {
     const QJsonValue value = device.value(QLatin1String(key));
-    return value.isString() ? value.toString().toULongLong()
-                            : static_cast<quint64>(std::max(0.0, value.toDouble()));
+    if (value.isString())
+        return std::min(value.toString().toULongLong(), MostBytes);
+    // No number beyond the type's may be converted, and its largest one has no floating-point twin.
+    const double told = std::max(0.0, value.toDouble());
+    return told < static_cast<double>(MostBytes) ? static_cast<quint64>(told) : MostBytes;
+}
+
+/// Where a partition begins, in bytes.
+quint64 startOf(const QJsonObject &partition)
+{
+    return std::min(number(partition, "start"), MostBytes / SectorSize) * SectorSize;
 }
 
 bool flag(const QJsonObject &device, const char *key)
@@ -115,7 +128,8 @@ Disk toDisk(const QJsonObject &device, int diskNumber)
     disk.interfaceType = tools::interfaceWord(bus);
     disk.status = statusOf(device);
     disk.serial = text(device, "serial");
-    if (const quint64 sectorSize = number(device, "log-sec"); sectorSize >= SectorSize)
+    if (const quint64 sectorSize = number(device, "log-sec");
+        sectorSize >= SectorSize && sectorSize <= MostSectorBytes)
         disk.bytesPerSector = static_cast<quint32>(sectorSize);
     disk.sectors = number(device, "size") / SectorSize;
     disk.node = text(device, "path");
@@ -203,7 +217,7 @@ public:
             const QJsonObject child = value.toObject();
             Extent inner = extent;
             if (text(child, "type") == QLatin1String("part")) {
-                inner.offset = extent.offset + number(child, "start") * SectorSize;
+                inner.offset = std::min(extent.offset + startOf(child), MostBytes);
                 inner.length = number(child, "size");
             }
             collect(child, inner, text(device, "fstype"), removable);
@@ -304,7 +318,7 @@ QVector<FoundPartition> findPartitions(const QVector<QJsonObject> &disks, const 
         for (const QJsonValue &value : children(device)) {
             const QJsonObject child = value.toObject();
             if (text(child, "type") == QLatin1String("part"))
-                ofDisk.append({child, disk, 0, number(child, "start") * SectorSize, text(device, "pttype")});
+                ofDisk.append({child, disk, 0, startOf(child), text(device, "pttype")});
         }
         if (ofDisk.isEmpty() && !mountPoint(device).isEmpty())
             ofDisk.append({device, disk, 0, 0, QString()});

@@ -1,7 +1,8 @@
 #include "platform/linux/SleepInhibitor.h"
 
+#include "platform/linux/LinuxTools.h"
+
 #include <QFile>
-#include <QStandardPaths>
 
 #include <cerrno>
 #include <csignal>
@@ -15,12 +16,13 @@ namespace
 
 pid_t startHelper(const QByteArray &program, int input)
 {
+    const QByteArray waiter = QFile::encodeName(linuxtools::find(QStringLiteral("cat")));
     const char *words[] = {"systemd-inhibit",
                            "--what=sleep:idle",
                            "--mode=block",
                            "--who=Velmora Halvane",
                            "--why=Disks are being checked",
-                           "cat",
+                           waiter.constData(),
                            nullptr};
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
@@ -46,7 +48,7 @@ void SleepInhibitor::hold()
     const std::lock_guard<std::mutex> guard(m_mutex);
     if (m_helper > 0)
         return;
-    const QString program = QStandardPaths::findExecutable(QStringLiteral("systemd-inhibit"));
+    const QString program = linuxtools::find(QStringLiteral("systemd-inhibit"));
     int ends[2];
     if (program.isEmpty() || pipe2(ends, O_CLOEXEC) != 0)
         return;

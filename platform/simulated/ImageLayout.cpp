@@ -1,6 +1,9 @@
 #include "platform/simulated/ImageLayout.h"
 
 #include "platform/SparseFile.h"
+#ifdef Q_OS_LINUX
+#include "platform/linux/LinuxTools.h"
+#endif
 
 #include <QFile>
 #include <QFileInfo>
@@ -10,7 +13,6 @@
 #include <QJsonObject>
 #include <QProcess>
 #include <QRegularExpression>
-#include <QStandardPaths>
 #include <QStringList>
 
 #include <algorithm>
@@ -114,10 +116,7 @@ const Maker *makerOf(const QString &type)
 QString pathOf(const char *tool)
 {
 #ifdef Q_OS_LINUX
-    const QString name = QLatin1String(tool);
-    const QString path = QStandardPaths::findExecutable(name);
-    const QStringList others{QStringLiteral("/usr/sbin"), QStringLiteral("/sbin")};
-    return path.isEmpty() ? QStandardPaths::findExecutable(name, others) : path;
+    return linuxtools::find(QLatin1String(tool));
 #else
     (void)tool;
     return QString();

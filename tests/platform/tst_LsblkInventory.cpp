@@ -71,6 +71,7 @@ private slots:
     void systemPartitionWithoutFirmwarePartition_data();
     void systemPartitionWithoutFirmwarePartition();
     void quotedNumbers();
+    void numbersAndTextsThatLie();
     void lettersEnd();
     void keptNumbersAndLetters();
     void brokenText_data();
@@ -191,6 +192,19 @@ void tst_LsblkInventory::quotedNumbers()
         R"({"blockdevices":[{"kname":"sdb","path":"/dev/sdb","type":"disk","size":"1048576","rm":"1","log-sec":"4096"}]})");
     QCOMPARE(describeAll(pc.machine.disks),
              QStringList{QStringLiteral("0 removable Disk sdb HDD Device [SCSI] OK 4096 2048 /dev/sdb")});
+}
+
+void tst_LsblkInventory::numbersAndTextsThatLie()
+{
+    const lsblk::Inventory pc = lsblk::parse(
+        R"({"blockdevices":[{"kname":"sdb","path":"/dev/sdb","type":"disk","size":1e300,"log-sec":1e12,
+            "model":"A\u202e\u001bB","serial":"S\u2066","children":[{"type":"part","path":"/dev/sdb1",
+            "start":"18446744073709551615","size":-1e300,"mountpoints":["/x"],"label":"L\u000bM\u007f"}]}]})");
+    QCOMPARE(describeAll(pc.machine.disks) + describeAll(pc.machine.volumes),
+             QStringList({QStringLiteral(
+                              "0 fixed A\uFFFD\uFFFDB HDD Device [SCSI] OK 512 18014398509481983 /dev/sdb"),
+                          QStringLiteral("D /x fixed [L M\uFFFD]  None 0@18014398509481983+0")}));
+    QCOMPARE(pc.machine.disks.first().serial, QStringLiteral("S\uFFFD"));
 }
 
 void tst_LsblkInventory::lettersEnd()
