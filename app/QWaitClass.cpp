@@ -49,6 +49,7 @@ QWaitClass::QWaitClass()
     m_pWaitDialog = this;
     setWindowFlags(Qt::FramelessWindowHint);
     style::setWhiteBackground(this);
+    style::showTextsAsData(this);
     g_App.m_fScale = scale::factorForDpi(Platform::current().LogPixelsX());
     setTextRectangle();
     setSideImage();

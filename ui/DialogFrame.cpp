@@ -56,6 +56,7 @@ void DialogFrame::dress(const DialogLook &look)
     m_pWindow->setWindowFlags((dialog ? Qt::Dialog : Qt::Window) | Qt::FramelessWindowHint);
     style::setWhiteBackground(m_pWindow);
     scaleForm(m_pWindow);
+    style::showTextsAsData(m_pWindow);
     styleTexts();
     styleButtons();
     if (m_Look.picture)

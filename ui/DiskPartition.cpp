@@ -264,6 +264,7 @@ QLabel *DiskPartition::AddNotice(const QString &text)
 {
     auto *notice = new QLabel(text);
     notice->setObjectName(QStringLiteral("m_pNoPartition"));
+    notice->setTextFormat(Qt::PlainText);
     notice->setFont(style::font(13));
     notice->setStyleSheet(style::BlackLabel);
     m_pFrameColumn->addWidget(notice);

@@ -89,7 +89,6 @@ void DiskStatus::styleTexts()
              SectorValLbl, DiskLifeValue, PowerOnTimeValue, StartStopValue, DriveVerdictValue}) {
         value->setFont(style::font(10));
         value->setStyleSheet(style::GreyLabel);
-        value->setTextFormat(Qt::PlainText);
     }
     for (QLabel *title : {healthTitleLbl, performanceTitleLbl, tempTitleLbl}) {
         title->setFont(style::font(12));

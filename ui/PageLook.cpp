@@ -52,7 +52,6 @@ void styleValues(std::initializer_list<QLabel *> labels)
 {
     styleLabels(labels, style::font(10), style::GreyLabel);
     for (QLabel *label : labels) {
-        label->setTextFormat(Qt::PlainText);
         // Set by hand it takes the place of the text's own width.
         label->setMinimumWidth(1);
     }

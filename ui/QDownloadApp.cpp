@@ -29,6 +29,7 @@ const QString BarSheet = QStringLiteral(
 void tellFailure(QWidget *parent, const QString &title, const QString &text)
 {
     QMessageBox box(QMessageBox::Information, title, text, QMessageBox::Ok, parent);
+    box.setTextFormat(Qt::PlainText);
     style::setWhiteBackground(&box);
     box.setFont(style::font(10));
     QAbstractButton *ok = box.button(QMessageBox::Ok);

@@ -49,7 +49,7 @@ void fillItem(QTreeWidgetItem *item, const AttributeRow &row)
     int column = 0;
     for (const QString &text : row.cells) {
         item->setText(column, text);
-        item->setToolTip(column, text);
+        item->setToolTip(column, style::wholeTip(text));
         item->setTextAlignment(column, Qt::AlignLeft | Qt::AlignVCenter);
         item->setForeground(column, QBrush(column == row.redCell ? QColor(255, 0, 0) : QColor(0, 0, 0)));
         item->setSizeHint(column, QSize(style::px(12), style::px(20)));
@@ -72,7 +72,6 @@ SmartStatus::SmartStatus(QWidget *parent) : QWidget(parent)
     for (QLabel *value : {SerialNunValueLbl, InterfaceValLbl, CapcityValLbl}) {
         value->setFont(style::font(10));
         value->setStyleSheet(BlueGreyLabel);
-        value->setTextFormat(Qt::PlainText);
     }
     makeTree();
     makeHeading();
@@ -148,7 +147,7 @@ void SmartStatus::FormatSmartTable()
         if (column.header) {
             const QString text = tr(column.header);
             header->setText(index, text);
-            header->setToolTip(index, text.trimmed());
+            header->setToolTip(index, style::wholeTip(text.trimmed()));
         }
         const int width = attributecolumns::width(column, nvme, g_App.m_fScale);
         if (width > 0)

@@ -4,6 +4,7 @@
 #include "app/state/Scale.h"
 
 #include <QGuiApplication>
+#include <QLabel>
 #include <QPalette>
 #include <QPushButton>
 #include <QScreen>
@@ -102,6 +103,15 @@ void centreOn(QWidget *window, const QRect &rect)
 {
     placeWindow(window, QPoint(rect.x() + (rect.width() - window->width()) / 2,
                                rect.y() + (rect.height() - window->height()) / 2));
+}
+
+void showTextsAsData(QWidget *window)
+{
+    const auto labels = window->findChildren<QLabel *>();
+    for (QLabel *label : labels) {
+        if (label->textFormat() == Qt::AutoText)
+            label->setTextFormat(Qt::PlainText);
+    }
 }
 
 QString wholeTip(const QString &text)

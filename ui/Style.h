@@ -41,6 +41,9 @@ void placeWindow(QWidget *window, const QPoint &place);
 /// Moves `window` to the middle of `rect`, as far as the screen allows.
 void centreOn(QWidget *window, const QRect &rect);
 
+/// Makes all labels of a window take their texts letter by letter. One that shows links says so in its form.
+void showTextsAsData(QWidget *window);
+
 /// A text as a tool tip shows it: letter by letter, whatever a drive calls itself.
 QString wholeTip(const QString &text);
 

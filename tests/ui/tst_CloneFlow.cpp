@@ -188,9 +188,10 @@ void tst_CloneFlow::copiesTheDisk()
     auto *warning = dialog<CloneWarning>();
     QVERIFY(warning);
     QCOMPARE(warning->SourceNameLbl->text(),
-             "Source disk:     " + child<QComboBox>("SourceComboBox")->currentText());
-    QCOMPARE(warning->DestinationNameLbl->text(),
-             "Destination disk:    " + child<QComboBox>("DestinationComboBox")->currentText());
+             u8"Source disk:     \u2068" + child<QComboBox>("SourceComboBox")->currentText() + QChar(0x2069));
+    QCOMPARE(warning->DestinationNameLbl->text(), u8"Destination disk:    \u2068" +
+                                                      child<QComboBox>("DestinationComboBox")->currentText() +
+                                                      QChar(0x2069));
     warning->CancelButton->click();
     QVERIFY(!warning->isVisible() && selecting());
     QCOMPARE(commands("diskpart"), 0);
@@ -329,8 +330,9 @@ void tst_CloneFlow::doubleClickAnswersOneQuestion()
     QTest::mouseClick(warning->StartButton, Qt::LeftButton);
     QTest::mouseClick(warning->StartButton, Qt::LeftButton);
     QVERIFY(!locked() && warning->isVisible());
-    QCOMPARE(warning->DestinationNameLbl->text(),
-             "Destination disk:    " + child<QComboBox>("DestinationComboBox")->currentText());
+    QCOMPARE(warning->DestinationNameLbl->text(), u8"Destination disk:    \u2068" +
+                                                      child<QComboBox>("DestinationComboBox")->currentText() +
+                                                      QChar(0x2069));
     QCOMPARE(commands("diskpart"), 0);
     QTRY_VERIFY(warning->StartButton->isEnabled());
     QTest::mouseClick(warning->StartButton, Qt::LeftButton);

@@ -131,6 +131,8 @@ void DialogsTest::longTextsAreNotCut()
     // The texts change after the window was sized, so that it has to follow them.
     QTRY_COMPARE(dialog->windowTitle().count(QLatin1String("Velmora Halvane")), 2);
     QTRY_COMPARE(cutText(*dialog), QString());
+    for (const QLabel *label : dialog->findChildren<QLabel *>())
+        QVERIFY2(label->textFormat() != Qt::AutoText, qPrintable(label->objectName()));
 }
 
 void DialogsTest::leavingPressesTheDismissingButton_data()

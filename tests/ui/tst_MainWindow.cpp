@@ -9,6 +9,9 @@
 #include "ui/ScanSwitchClass.h"
 #include "ui/SmartStatus.h"
 
+#include <QHelpEvent>
+#include <QToolTip>
+
 /// The real window on a described PC with an ATA disk, an NVMe disk and a stick without SMART.
 class tst_MainWindow : public QObject, private WindowFixture
 {
@@ -21,6 +24,7 @@ private slots:
 
     void combosListTheDisks();
     void firstReadShowsTheReport();
+    void noTextIsMarkup();
     void eachDiskShowsItsOwn_data();
     void eachDiskShowsItsOwn();
     void fahrenheit();
@@ -96,6 +100,17 @@ void tst_MainWindow::firstReadShowsTheReport()
     QCOMPARE(text("performanceValueLbl"), QStringLiteral("100%"));
     QVERIFY(text("PowerOnTimeValue").contains(QStringLiteral(" days, ")));
     QVERIFY(child<QLabel>("DisknumberLbl")->isHidden());
+}
+
+void tst_MainWindow::noTextIsMarkup()
+{
+    for (const QLabel *label : m_pWindow->findChildren<QLabel *>())
+        QVERIFY2(label->textFormat() != Qt::AutoText, qPrintable(label->objectName()));
+    auto *model = child<QLabel>("ModelNumValLbl");
+    model->setText(QStringLiteral("<img src='/etc/motd'>") + QString(200, QLatin1Char('x')));
+    QHelpEvent hovered(QEvent::ToolTip, QPoint(1, 1), model->mapToGlobal(QPoint(1, 1)));
+    QCoreApplication::sendEvent(model, &hovered);
+    QCOMPARE(QToolTip::text(), model->text().toHtmlEscaped());
 }
 
 void tst_MainWindow::eachDiskShowsItsOwn_data()

@@ -60,7 +60,8 @@ void tst_SmartTable::init()
                           "Firmware Version: FW2\n=== START OF SMART DATA SECTION ===\n"
                           "SMART overall-health self-assessment test result: PASSED\n\n"
                           "SMART/Health Information (NVMe Log 0x02)\nTemperature:  41 Celsius\n"
-                          "Data Units Written:  1,234,567 [632 GB]\n\n");
+                          "Data Units Written:  1,234,567 [632 GB]\n"
+                          "Vendor Note:  <img src='/etc/motd'>\n\n");
     addReport("cold.txt", ata("Serial Number:    SN2\n", ""));
     addReport("named.txt", ata("Serial Number:    SN3\n", warm));
     addReport("nameless.txt", ata("", warm));
@@ -121,6 +122,7 @@ void tst_SmartTable::columnsByKind()
     QCOMPARE(tree()->columnWidth(1), 300);
     QCOMPARE(tree()->topLevelItem(1)->text(2), QStringLiteral("1,234,567 [632 GB]"));
     QCOMPARE(tree()->topLevelItem(1)->text(3), QStringLiteral("Data Units Written"));
+    QCOMPARE(tree()->topLevelItem(2)->toolTip(2), QStringLiteral("&lt;img src='/etc/motd'&gt;"));
     QCOMPARE(text("GraphLabel"), QStringLiteral("Graph : Temperature"));
     select(0);
     QCOMPARE(hidden(), QList<int>({7, 8, 9, 10, 11}));

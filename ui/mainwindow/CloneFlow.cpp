@@ -3,6 +3,7 @@
 #include "app/state/GlobalApp.h"
 #include "app/state/Globals.h"
 #include "clone/CloneFlow.h"
+#include "platform/PlainText.h"
 #include "smart/SelfTestGlobals.h"
 #include "ui/CloneDisk.h"
 #include "ui/CloneWarning.h"
@@ -43,8 +44,10 @@ void MainWindow::OnCloneStart()
         return;
     selectButton(navigation::CloneDiskScreen);
     m_askedPair = chosenPair();
-    m_pCloneWarning->SourceNameLbl->setText(tr("Source disk:     ") + m_askedPair.sourceText);
-    m_pCloneWarning->DestinationNameLbl->setText(tr("Destination disk:    ") + m_askedPair.targetText);
+    m_pCloneWarning->SourceNameLbl->setText(tr("Source disk:     ") +
+                                            plaintext::isolated(m_askedPair.sourceText));
+    m_pCloneWarning->DestinationNameLbl->setText(tr("Destination disk:    ") +
+                                                 plaintext::isolated(m_askedPair.targetText));
     style::centreOn(m_pCloneWarning, geometry());
     if (m_pCloneDiskPage->m_nDestinationIndex > 0)
         m_pCloneWarning->show();

@@ -95,6 +95,7 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent), m_drag(this, Titl
     buildDialogs();
     buildNavigation();
     buildToolButtons();
+    style::showTextsAsData(this);
     retranslateShell();
     FillDriveCombos();
     connectAll();
