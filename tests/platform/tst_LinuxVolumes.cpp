@@ -162,7 +162,7 @@ bool tst_LinuxVolumes::makeVolumes()
     const auto format = [](const char *kind, const char *label, const QString &node) {
         return runs(QStringLiteral("mke2fs"),
                     {QStringLiteral("-q"), QStringLiteral("-t"), QLatin1String(kind), QStringLiteral("-L"),
-                     QLatin1String(label), node});
+                     QString::fromUtf8(label), node});
     };
     return m_parted->showPartitions() && format("ext4", "Größe 1", m_parted->partition(1)) &&
            format("ext2", "Second", m_parted->partition(2)) && format("ext4", "Whole", m_whole->node());

@@ -213,7 +213,7 @@ void tst_SmartTable::unopenableDatesDrawNoGraph()
     startOn(0);
     QVERIFY(QDir().mkpath(historyPaths(QStringLiteral("SN1")).dates)); // a folder in the file's place
     select(1);
-    QCOMPARE(tree()->topLevelItemCount(), 2);
+    QCOMPARE(tree()->topLevelItemCount(), 3);
     // Nor does the graph of the disk before stay.
     QCOMPARE(chart()->series().size(), 0);
     QCOMPARE(text("GraphLabel") + g_strGraphTitle, QString());
