@@ -18,6 +18,8 @@ protected:
     static void setUpProgram()
     {
         Q_INIT_RESOURCE(images);
+        // A file dialog of the system's own is out of a test's reach.
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
         g_App.m_fScale = 1.0F;
         g_App.m_bUse64BitTool = true;
         languages::setFlag(0);

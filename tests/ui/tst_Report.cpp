@@ -13,12 +13,7 @@ class tst_Report : public QObject, private WindowFixture
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        // A file dialog of the system's own is out of the test's reach.
-        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-        setUpProgram();
-    }
+    void initTestCase() { setUpProgram(); }
     void init();
     void cleanup();
 
