@@ -223,7 +223,10 @@ bool QScanDriveThread::read(qint64 sector, char *buffer, quint32 bytes)
 
 void QScanDriveThread::narrowDown(qint64 position, qint64 sectors)
 {
-    alignas(static_cast<std::size_t>(PageSize)) char probe[SectorSize];
+    const Buffer buffer = allocate(SectorSize);
+    char *const probe = buffer.get();
+    if (!probe)
+        return;
     int uncounted = 0;
     m_sinceTaken.start();
     if (Platform::current().IsGone(m_handle)) {
@@ -272,7 +275,10 @@ bool QScanDriveThread::isStillThere()
     Platform &platform = Platform::current();
     if (platform.IsGone(m_handle))
         return false;
-    alignas(static_cast<std::size_t>(PageSize)) char probe[SectorSize];
+    const Buffer buffer = allocate(SectorSize);
+    char *const probe = buffer.get();
+    if (!probe)
+        return true;
     if (m_nGoodSector < 0 || read(m_nGoodSector, probe, SectorSize))
         return true;
     // What could be read a moment ago is refused as well. A disk that was pulled out does so before the
