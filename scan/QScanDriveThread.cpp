@@ -20,10 +20,12 @@ constexpr int SectorSize = 512;
 constexpr quint32 ChunkBytes = 0x800000;
 constexpr qint64 SectorsPerChunk = ChunkBytes / SectorSize;
 
-constexpr int TakingMs = 200;   ///< between looks at the disk while it refuses sectors
-constexpr int PartingMs = 2000; ///< that a system may take to notice that a disk was pulled out
+constexpr int TakingMs = 200;    ///< between looks at the disk while it refuses sectors
+constexpr int ReadsPerLook = 16; ///< between looks at the clock where they are quick
+constexpr int PartingMs = 2000;  ///< that a system may take to notice that a disk was pulled out
+constexpr int PartingLooks = 40;
 constexpr int PatienceMs = 200; ///< then the receivers' event loop counts as standing still
-constexpr int NapMs = 5;        ///< between looks at what is waited for
+constexpr int NapMs = 1;        ///< between looks at what is waited for
 
 /// Counts that the receivers' thread has yet to tell.
 class CountsEvent : public QEvent
@@ -228,6 +230,9 @@ void QScanDriveThread::narrowDown(qint64 position, qint64 sectors)
     if (!probe)
         return;
     int uncounted = 0;
+    bool wasBad = false;
+    qint64 readsPerLook = 1;
+    qint64 lastLook = 0;
     m_sinceTaken.start();
     if (Platform::current().IsGone(m_handle)) {
         g_bScanDiskGone = true;
@@ -237,14 +242,25 @@ void QScanDriveThread::narrowDown(qint64 position, qint64 sectors)
     // again with its own chunk.
     for (qint64 sector = position; sector <= position + sectors && !g_bAbortJob && !g_bScanDiskGone;
          ++sector) {
-        if (!read(sector, probe, SectorSize)) {
+        const bool bad = !read(sector, probe, SectorSize);
+        if (bad) {
             if (!m_found.isEmpty() && m_found.last().first + m_found.last().count == sector)
                 ++m_found.last().count;
             else
                 m_found.append({sector, 1});
             uncounted = g_bAbortJob ? 1 : 0;
         }
-        if (!m_found.isEmpty() && uncounted == 0 && m_sinceTaken.hasExpired(TakingMs))
+        // The clock costs a good part of what a quick read costs: a stretch of these is looked at now and
+        // then.
+        if (bad != wasBad)
+            readsPerLook = 1;
+        wasBad = bad;
+        if (m_found.isEmpty() || uncounted > 0 || sector % readsPerLook != 0)
+            continue;
+        const qint64 now = m_sinceTaken.elapsed();
+        readsPerLook = now == lastLook ? ReadsPerLook : 1;
+        lastLook = now;
+        if (now >= TakingMs)
             takeFound(0);
     }
     takeFound(uncounted);
@@ -284,8 +300,8 @@ bool QScanDriveThread::isStillThere()
     // What could be read a moment ago is refused as well. A disk that was pulled out does so before the
     // system has noticed; one that is still there after a while has failed altogether, and all its sectors
     // are bad.
-    for (int waited = 0; waited < PartingMs; waited += NapMs) {
-        msleep(NapMs);
+    for (int look = 0; look < PartingLooks; ++look) {
+        msleep(PartingMs / PartingLooks);
         if (g_bAbortJob || platform.IsGone(m_handle))
             return false;
     }
