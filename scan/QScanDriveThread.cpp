@@ -120,12 +120,12 @@ bool QScanDriveThread::event(QEvent *event)
 {
     if (event->type() != CountsEvent::type())
         return QThread::event(event);
+    --m_nEventsOut;
     const auto *counts = static_cast<CountsEvent *>(event);
     for (qlonglong count = counts->first(); count <= counts->last(); ++count) {
         emit ExactBadSectorCount(count);
         m_nHeard.store(count, std::memory_order_relaxed);
     }
-    --m_nEventsOut;
     return true;
 }
 
@@ -322,6 +322,7 @@ void QScanDriveThread::tellCounts(qlonglong first, qlonglong last)
         heard = m_nHeard;
     }
     m_nStoodStillAt = waited < PatienceMs ? -1 : heard;
+    auto *counts = new CountsEvent(first, last);
     ++m_nEventsOut;
-    QCoreApplication::postEvent(this, new CountsEvent(first, last));
+    QCoreApplication::postEvent(this, counts);
 }

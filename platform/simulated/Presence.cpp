@@ -1,6 +1,5 @@
 #include "platform/simulated/Presence.h"
 
-#include <QMutexLocker>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -30,13 +29,13 @@ Presence::Presence(const PcDescription &pc)
 
 bool Presence::hasDisk(int number) const
 {
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard lock(m_mutex);
     return !m_absentDisks.contains(number);
 }
 
 bool Presence::has(const inventory::Volume &volume) const
 {
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard lock(m_mutex);
     return hasLocked(volume);
 }
 
@@ -71,7 +70,7 @@ std::optional<QVector<DeviceChange>> Presence::touch(const QString &name)
     if (letter.isEmpty() && disk.isEmpty()) {
         return QVector<DeviceChange>{notice};
     }
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard lock(m_mutex);
     const int before = volumesLocked();
     if (letter.isEmpty()) {
         set(m_absentDisks, disk.toInt(), arrives);

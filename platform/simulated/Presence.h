@@ -3,10 +3,10 @@
 #include "platform/DeviceNotifier.h"
 #include "platform/simulated/PcDescription.h"
 
-#include <QMutex>
 #include <QSet>
 #include <QVector>
 
+#include <mutex>
 #include <optional>
 
 namespace simulated
@@ -32,7 +32,7 @@ private:
     int volumesLocked() const;
 
     const PcDescription &m_pc;
-    mutable QMutex m_mutex;
+    mutable std::mutex m_mutex;
     QSet<int> m_absentDisks;
     QSet<QChar> m_absentVolumes;
 };
