@@ -5,14 +5,12 @@
 #include "clone/CloneCopy.h"
 #include "clone/DestinationScripts.h"
 #include "clone/DiskCheck.h"
+#include "platform/PageMemory.h"
 
 #include <QElapsedTimer>
 #include <QMutexLocker>
 
 #include <array>
-#include <cstring>
-#include <memory>
-#include <new>
 
 namespace
 {
@@ -23,28 +21,12 @@ constexpr quint32 SettlePause = 4000; ///< ms
 constexpr int ProgressPeriod = 3;     ///< blocks
 constexpr qint64 TellPeriod = 200;    ///< ms, while small pieces are copied
 
-/// On a page boundary, so that a platform can hand it to the device as it is.
-constexpr std::align_val_t BufferAlignment{4096};
-
-struct FreeBuffer {
-    void operator()(char *buffer) const { ::operator delete[](buffer, BufferAlignment); }
-};
-using Buffer = std::unique_ptr<char, FreeBuffer>;
-
-Buffer allocateBuffer()
-{
-    Buffer buffer(static_cast<char *>(::operator new[](BufferSize, BufferAlignment, std::nothrow)));
-    if (buffer)
-        std::memset(buffer.get(), 0, BufferSize);
-    return buffer;
-}
-
 } // namespace
 
 /// One is filled while the other is written.
 struct ThreadDriveClone::Buffers {
-    const Buffer first = allocateBuffer();
-    const Buffer second = allocateBuffer();
+    const PageMemory first = pageMemory(BufferSize);
+    const PageMemory second = pageMemory(BufferSize);
 
     bool areThere() const { return first && second; }
     std::array<char *, 2> both() const { return {first.get(), second.get()}; }

@@ -6,14 +6,14 @@
 
 bool AlignedBuffer::takes(const void *buffer, qint64 position, qint64 bytes, qint64 sector)
 {
-    return reinterpret_cast<std::uintptr_t>(buffer) % static_cast<std::uintptr_t>(Boundary) == 0 &&
+    return reinterpret_cast<std::uintptr_t>(buffer) % static_cast<std::uintptr_t>(FreePages::Boundary) == 0 &&
            position % sector == 0 && bytes % sector == 0;
 }
 
 char *AlignedBuffer::memory()
 {
     if (!m_memory)
-        m_memory.reset(static_cast<char *>(::operator new[](Size, Boundary, std::nothrow)));
+        m_memory = pageMemory(Size);
     return m_memory.get();
 }
 

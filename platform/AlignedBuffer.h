@@ -1,10 +1,10 @@
 #pragma once
 
+#include "platform/PageMemory.h"
+
 #include <QtGlobal>
 
 #include <functional>
-#include <memory>
-#include <new>
 
 /// Memory on a page boundary for transfers that a raw device does not take as they are: it moves whole
 /// sectors, and only from and to such memory. One thread at a time.
@@ -26,12 +26,7 @@ public:
     bool write(const char *in, qint64 position, qint64 bytes, qint64 sector, const Move &move);
 
 private:
-    static constexpr std::align_val_t Boundary{4096};
-    struct Free {
-        void operator()(char *memory) const { ::operator delete[](memory, Boundary); }
-    };
-
     char *memory();
 
-    std::unique_ptr<char, Free> m_memory;
+    PageMemory m_memory;
 };

@@ -3,6 +3,7 @@
 #include "app/state/GlobalApp.h"
 #include "app/state/Globals.h"
 #include "inventory/RawAccess.h"
+#include "platform/PageMemory.h"
 #include "scan/ScanGlobals.h"
 
 #include <QCoreApplication>
@@ -10,8 +11,6 @@
 #include <QMutexLocker>
 
 #include <cstring>
-#include <memory>
-#include <new>
 
 namespace
 {
@@ -45,23 +44,6 @@ private:
     qlonglong m_first;
     qlonglong m_last;
 };
-
-// Memory that the system can let a drive write into, without a copy on the way.
-constexpr std::align_val_t PageSize{4096};
-
-struct Free {
-    void operator()(char *memory) const { ::operator delete(memory, PageSize); }
-};
-using Buffer = std::unique_ptr<char, Free>;
-
-/// Zeroed; null where there is no memory.
-Buffer allocate(quint32 bytes)
-{
-    Buffer buffer(static_cast<char *>(::operator new(bytes, PageSize, std::nothrow)));
-    if (buffer)
-        std::memset(buffer.get(), 0, bytes);
-    return buffer;
-}
 
 /// A difference that wraps instead of being undefined.
 qint64 difference(qint64 end, qint64 start)
@@ -150,7 +132,7 @@ void QScanDriveThread::scan()
     g_BadSectors.clear();
     DiskDetails *const disk = selectedDisk();
     m_nBadBlocks = 0;
-    const Buffer buffer = allocate(ChunkBytes);
+    const PageMemory buffer = pageMemory(ChunkBytes);
     if (!buffer)
         return;
     m_nBadSectors = 0;
@@ -225,7 +207,7 @@ bool QScanDriveThread::read(qint64 sector, char *buffer, quint32 bytes)
 
 void QScanDriveThread::narrowDown(qint64 position, qint64 sectors)
 {
-    const Buffer buffer = allocate(SectorSize);
+    const PageMemory buffer = pageMemory(SectorSize);
     char *const probe = buffer.get();
     if (!probe)
         return;
@@ -291,7 +273,7 @@ bool QScanDriveThread::isStillThere()
     Platform &platform = Platform::current();
     if (platform.IsGone(m_handle))
         return false;
-    const Buffer buffer = allocate(SectorSize);
+    const PageMemory buffer = pageMemory(SectorSize);
     char *const probe = buffer.get();
     if (!probe)
         return true;
