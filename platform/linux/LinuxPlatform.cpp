@@ -85,16 +85,22 @@ bool answerExtents(const QVector<inventory::Extent> &extents, void *out, quint32
     return true;
 }
 
+std::optional<inventory::Disk> diskOf(const inventory::Machine &machine, int number)
+{
+    for (const inventory::Disk &disk : machine.disks) {
+        if (disk.number == number)
+            return disk;
+    }
+    return std::nullopt;
+}
+
 /// The disk of a raw device's name.
 std::optional<inventory::Disk> diskOf(const inventory::Machine &machine, const QString &name)
 {
     bool isNumber = false;
     const int number = name.mid(DiskPrefix.size()).toInt(&isNumber);
-    for (const inventory::Disk &disk : machine.disks) {
-        if (isNumber && disk.number == number && name.startsWith(DiskPrefix, Qt::CaseInsensitive))
-            return disk;
-    }
-    return std::nullopt;
+    return isNumber && name.startsWith(DiskPrefix, Qt::CaseInsensitive) ? diskOf(machine, number)
+                                                                        : std::nullopt;
 }
 
 /// A path as a shell takes it.
@@ -239,12 +245,8 @@ bool LinuxPlatform::IsAccessDenied(const QString &name)
 
 DiskUse LinuxPlatform::DismountDisk(int number)
 {
-    const lsblk::Inventory machine = pc();
-    for (const inventory::Disk &disk : machine.machine.disks) {
-        if (disk.number == number)
-            return linuxdisks::release(disk.node);
-    }
-    return {DiskUse::Unknown, {}};
+    const auto disk = diskOf(pc().machine, number);
+    return disk ? linuxdisks::release(disk->node) : DiskUse{DiskUse::Unknown, {}};
 }
 
 // Volumes
