@@ -1,16 +1,13 @@
 #pragma once
 
+#include "tests/support/LoopbackServer.h"
+
 #include <QHash>
-#include <QMutex>
-#include <QSemaphore>
-#include <QTcpServer>
-#include <QTcpSocket>
-#include <QThread>
 #include <QTimer>
 
 /// A web folder on the loopback address, served by a thread of its own: the program asks while its main
 /// thread waits.
-class WebFolder : public QThread
+class WebFolder : public LoopbackServer
 {
 public:
     struct File {
@@ -20,36 +17,11 @@ public:
         int pause = 0;    ///< ms between the halves
     };
 
-    explicit WebFolder(QHash<QByteArray, File> files) : m_files(std::move(files))
-    {
-        start();
-        m_ready.acquire();
-    }
-    ~WebFolder() override
-    {
-        quit();
-        wait();
-    }
-
-    QByteArray link() const { return "http://127.0.0.1:" + QByteArray::number(m_nPort) + '/'; }
+    explicit WebFolder(QHash<QByteArray, File> files) : m_files(std::move(files)) { begin(); }
+    ~WebFolder() override { end(); }
 
 protected:
-    void run() override
-    {
-        QTcpServer server;
-        if (!server.listen(QHostAddress::LocalHost))
-            qFatal("no port to serve at");
-        m_nPort = server.serverPort();
-        m_ready.release();
-        connect(&server, &QTcpServer::newConnection, &server, [this, &server] {
-            QTcpSocket *client = server.nextPendingConnection();
-            connect(client, &QTcpSocket::readyRead, client, [this, client] { answer(client); });
-        });
-        exec();
-    }
-
-private:
-    void answer(QTcpSocket *client)
+    void serve(QTcpSocket *client) override
     {
         const QByteArray request = client->property("request").toByteArray() + client->readAll();
         client->setProperty("request", request);
@@ -72,7 +44,6 @@ private:
         });
     }
 
+private:
     QHash<QByteArray, File> m_files; ///< the thread's own once it runs
-    QSemaphore m_ready;
-    quint16 m_nPort = 0;
 };
