@@ -191,8 +191,11 @@ QVector<int> numbersOf(const QVector<QJsonObject> &disks, const QVector<Disk> &p
     for (const Disk &disk : previous)
         known.insert(disk.node, disk.number);
     QVector<int> numbers;
-    for (const QJsonObject &device : disks)
-        numbers.append(known.value(text(device, "path"), -1));
+    for (const QJsonObject &device : disks) {
+        const QString node = text(device, "path");
+        // Each number once, whatever a list names twice.
+        numbers.append(known.contains(node) ? known.take(node) : -1);
+    }
     int next = 0;
     for (int &number : numbers) {
         while (number < 0 && numbers.contains(next))

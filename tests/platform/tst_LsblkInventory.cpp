@@ -260,6 +260,8 @@ void tst_LsblkInventory::keptNumbersAndLetters()
     const auto after = lsblk::parse(wholeDisks({"nvme0n1:/a", "sda:/", "sdc:/c", "sdd:/d"}), {}, without);
     QCOMPARE(placesOf(after), QStringList({"0=/dev/sda", "1=/dev/nvme0n1", "2=/dev/sdc", "3=/dev/sdd",
                                            "C=/ on 0", "D=/a on 1", "E=/c on 2", "F=/d on 3"}));
+    const auto twice = lsblk::parse(wholeDisks({"sdb:/b", "sdb:/b"}), {}, before);
+    QCOMPARE(placesOf(twice).mid(0, 2), QStringList({"0=/dev/sdb", "1=/dev/sdb"}));
 }
 
 void tst_LsblkInventory::brokenText_data()
