@@ -8,6 +8,7 @@
 #include <QJsonDocument>
 #include <QSaveFile>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -65,7 +66,7 @@ namespace jsonsettings
 
 bool read(QIODevice &device, QSettings::SettingsMap &map)
 {
-    const QByteArray bytes = device.read(ownfiles::MostBytes);
+    const QByteArray bytes = device.read(std::min(device.size(), ownfiles::MostBytes));
     QJsonParseError error{};
     const QJsonDocument document = QJsonDocument::fromJson(bytes, &error);
     if (error.error != QJsonParseError::NoError) {

@@ -2,13 +2,17 @@
 
 #include <QDirIterator>
 
+#include <algorithm>
+
 namespace ownfiles
 {
 
 QByteArray contents(const QString &path)
 {
     QFile file;
-    return openRegular(&file, path, QIODevice::ReadOnly) ? file.read(MostBytes) : QByteArray();
+    // The toolkit takes memory for all that is asked for.
+    return openRegular(&file, path, QIODevice::ReadOnly) ? file.read(std::min(file.size(), MostBytes))
+                                                         : QByteArray();
 }
 
 QString irregularIn(const QString &folder)
