@@ -19,14 +19,15 @@ constexpr quint64 InputsPerMachine = 2000;
 /// What is being taken in, for the last words of the process.
 quint64 currentSeed = 0;
 quint64 currentInput = 0;
-int onlyTarget = -1; ///< -1: each in its turn
+int onlyTarget = -1;       ///< -1: each in its turn
+const char *onlyName = ""; ///< of that target, as an argument
 
 void nameInput()
 {
     std::fprintf(stderr, "\nThis was input %llu of seed %llu: fuzz/run --seed %llu --input %llu%s%s\n",
                  static_cast<unsigned long long>(currentInput), static_cast<unsigned long long>(currentSeed),
                  static_cast<unsigned long long>(currentSeed), static_cast<unsigned long long>(currentInput),
-                 onlyTarget < 0 ? "" : " --only ", onlyTarget < 0 ? "" : allTargets().at(onlyTarget).name);
+                 onlyTarget < 0 ? "" : " --only ", onlyName);
 }
 
 /// The process is lost anyhow, so the words may be those of the standard library.
@@ -73,8 +74,10 @@ int main(int argc, char **argv)
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     for (int i = 0; i < allTargets().size(); ++i) {
-        if (arguments.value(5) == QLatin1String(allTargets().at(i).name))
+        if (arguments.value(5) == QLatin1String(allTargets().at(i).name)) {
             onlyTarget = i;
+            onlyName = allTargets().at(i).name;
+        }
     }
     if (arguments.size() < 5 || (arguments.size() > 5 && onlyTarget < 0)) {
         std::fputs("halvane_fuzz <folder of sound inputs> <seed> <first input> <count> [<target>]\n", stderr);

@@ -44,6 +44,10 @@ SelfTestEnd readSelfTestEnd(const JsonReader &in, const SelfTestEnd &fallback)
 /// folder, whether or not it is there.
 QString pathBelow(const JsonReader &in, const QString &keyPath, const QString &name, const QString &folder)
 {
+    if (!isPlainName(name)) {
+        in.fail(keyPath, QStringLiteral("a text without control characters is wanted"));
+        return QString();
+    }
     const QString path = QDir::cleanPath(QDir(folder).absoluteFilePath(name));
     const QString real = QFileInfo(path).canonicalFilePath();
     const QString realFolder = QFileInfo(folder).canonicalFilePath();

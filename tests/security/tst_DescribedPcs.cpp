@@ -56,6 +56,8 @@ void DescribedPcsTest::strangeNames_data()
     disk("link out", R"("report": "out")", "disks[0].report: <pc>/out: lies outside the folder");
     disk("full path", R"("capabilities": "/etc/passwd")",
          "disks[0].capabilities: /etc/passwd: lies outside the folder");
+    disk("name with an end", R"("report": "a\u0000b")",
+         "disks[0].report: a text without control characters is wanted");
     disk("pipe", R"("selfTestLog": "pipe")",
          "disks[0].selfTestLog: <pc>/pipe: no regular file that can be read");
     disk("long report", R"("report": "long")", "disks[0].report: <pc>/long: more than 16 MiB");
