@@ -26,24 +26,7 @@ constexpr std::size_t DaysKept = 10;
 QString fileNameOf(const QString &serial)
 {
     static const QRegularExpression forbidden(QStringLiteral("[/\\\\:*?\"<>|\\x00-\\x1f\\x7f]"));
-    static const QRegularExpression dotsAlone(QStringLiteral("^[. ]*\\.[. ]*$"));
-    static const QRegularExpression device(QStringLiteral("^(con|prn|aux|nul|(com|lpt)[0-9])[ ]*(\\.|$)"),
-                                           QRegularExpression::CaseInsensitiveOption);
-    QString name = serial;
-    name.replace(forbidden, QStringLiteral("_"));
-    if (dotsAlone.match(name).hasMatch())
-        name.replace(QLatin1Char('.'), QLatin1Char('_'));
-    if (device.match(name).hasMatch())
-        name.prepend(QLatin1Char('_'));
-    return name;
-}
-
-/// The history may lie beside the program: a drive that bears the name of a program does not get its file.
-bool isProgram(const QString &path)
-{
-    QFile file(path);
-    const QByteArray start = file.open(QIODevice::ReadOnly) ? file.read(4) : QByteArray();
-    return start.startsWith("MZ") || start == "\177ELF";
+    return QString(serial).replace(forbidden, QStringLiteral("_"));
 }
 
 /// Nothing if the file does not open.
@@ -115,13 +98,52 @@ void writeValues(const QString &valuePath, const QDateTime &now, const std::vect
         replaceFile(valuePath, written.readAll(), QIODevice::NotOpen);
 }
 
+/// Whether a file begins as one of the values does, and all lines of another are dates, or what is left of
+/// one.
+bool isHistory(const QString &datePath, const QString &valuePath)
+{
+    static const QRegularExpression header(QStringLiteral("^\\[\\d\\d-\\d\\d-\\d{4}\\]$"));
+    static const QRegularExpression date(QStringLiteral("^[\\d-]{0,10}$"));
+    const auto all = [](const std::vector<QByteArray> &lines, const QRegularExpression &pattern) {
+        return std::all_of(lines.cbegin(), lines.cend(), [&pattern](const QByteArray &line) {
+            return pattern.match(QString::fromLatin1(line).trimmed()).hasMatch();
+        });
+    };
+    const auto dates = linesOf(datePath, QIODevice::ReadOnly);
+    const auto values = linesOf(valuePath, QIODevice::ReadOnly);
+    return dates && values && !dates->empty() && !values->empty() && all(*dates, date) &&
+           all({values->front()}, header);
+}
+
+/// Earlier versions named the files after the serial number alone, in this folder or in the one above, which
+/// may be the program's. Theirs are moved, the dates last: where that is cut short, the next call goes on.
+void takeOver(const QString &folder, const QString &serial, const HistoryPaths &paths)
+{
+    if (serial.isEmpty() || QFileInfo::exists(paths.dates))
+        return;
+    for (const QString &place : {folder, QFileInfo(folder).path()}) {
+        const QString values = place + QLatin1Char('/') + fileNameOf(serial);
+        const QString dates = values + QLatin1String("Date.txt");
+        const bool begun = QFileInfo::exists(paths.values);
+        if (isHistory(dates, begun ? paths.values : values) &&
+            (begun || QFile::rename(values, paths.values)) && QFile::rename(dates, paths.dates))
+            return;
+    }
+}
+
 } // namespace
 
 HistoryPaths historyPaths(const QString &serial)
 {
-    const QString path = Platform::current().HistoryFolder(QCoreApplication::applicationDirPath()) +
-                         QLatin1Char('\\') + fileNameOf(serial);
-    return {nativePath(path + QLatin1String("Date.txt")), nativePath(path)};
+    const QString folder =
+        nativePath(Platform::current().HistoryFolder(QCoreApplication::applicationDirPath()));
+    if (folder.isEmpty())
+        return {};
+    const QString name = fileNameOf(serial);
+    const HistoryPaths paths{nativePath(folder + QLatin1String("\\dates-") + name + QLatin1String(".txt")),
+                             nativePath(folder + QLatin1String("\\values-") + name)};
+    takeOver(folder, serial, paths);
+    return paths;
 }
 
 QString historyDate(const QDateTime &moment)
@@ -172,7 +194,7 @@ void RemoveHistoryGroup(const QString &date, const QString &valuePath)
 void recordHistory(const QString &serial, const QDateTime &now, const std::vector<HistoryValue> &rows)
 {
     const HistoryPaths paths = historyPaths(serial);
-    if (isProgram(paths.values))
+    if (paths.dates.isEmpty())
         return;
     AppendHistoryDate(paths.dates, historyDate(now));
     PruneHistory(paths.dates, paths.values);

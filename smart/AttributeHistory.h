@@ -23,9 +23,9 @@ struct HistoryValue {
     QString value;
 };
 
-/// The files in the platform's history folder, named after the serial number. They never lie elsewhere:
-/// characters that a file name must not have become "_", and so do the dots of a name of dots alone; the name
-/// of a device gets a "_" in front.
+/// "dates-<serial>.txt" and "values-<serial>" in the platform's history folder, so that no serial number
+/// makes the name of another file; characters that a file name must not have become "_". What an earlier
+/// version kept of that disk is moved there. Both empty where there is no folder for them.
 HistoryPaths historyPaths(const QString &serial);
 
 /// "dd-MM-yyyy", as the day stands in both files.

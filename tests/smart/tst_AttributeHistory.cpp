@@ -30,7 +30,7 @@ private slots:
     void tornValues();
     void rewrittenWithinATick();
     void noFolder();
-    void programOfThatName();
+    void earlierNames();
     void values();
     void demoEndsWithItsReports_data();
     void demoEndsWithItsReports();
@@ -46,6 +46,7 @@ private:
     std::unique_ptr<QTemporaryDir> m_folder;
     const QDate m_first = QDate(2026, 10, 25);
     const QString m_serial = QStringLiteral("SN-1");
+    const QString m_values = QStringLiteral("values-SN-1");
 };
 
 void TestAttributeHistory::init()
@@ -90,16 +91,10 @@ void TestAttributeHistory::paths_data()
     QTest::newRow("backslash") << "..\\x"
                                << ".._x";
     QTest::newRow("the folder above") << ".."
-                                      << "__";
+                                      << "..";
     QTest::newRow("stream of a file") << "a:b"
                                       << "a_b";
     QTest::newRow("torn") << QString("a\nb\tc") + QChar(0) << "a_b_c_";
-    QTest::newRow("device") << "NUL"
-                            << "_NUL";
-    QTest::newRow("device with an extension") << "com1.x"
-                                              << "_com1.x";
-    QTest::newRow("no device") << "COM12"
-                               << "COM12";
 }
 
 void TestAttributeHistory::paths()
@@ -107,16 +102,16 @@ void TestAttributeHistory::paths()
     QFETCH(QString, serial);
     QFETCH(QString, name);
     const HistoryPaths found = historyPaths(serial);
-    QCOMPARE(found.values, m_folder->path() + QLatin1Char('/') + name);
-    QCOMPARE(found.dates, found.values + QStringLiteral("Date.txt"));
+    QCOMPARE(found.values, m_folder->path() + QStringLiteral("/values-") + name);
+    QCOMPARE(found.dates, m_folder->path() + QStringLiteral("/dates-") + name + QStringLiteral(".txt"));
 }
 
 void TestAttributeHistory::firstVisit()
 {
     recordHistory(m_serial, QDateTime(QDate(2026, 11, 15), QTime(3, 30, 12)),
                   {{"Raw Read Error Rate", "0"}, {"Temperature Celsius", "36 (Min/Max 17/54)"}});
-    QCOMPARE(textOf(QStringLiteral("SN-1Date.txt")), QByteArray("15-11-2026\n"));
-    QCOMPARE(textOf(m_serial), QByteArray("[15-11-2026]\nCompleteDate=Sun Nov 15 03:30:12 2026\n"
+    QCOMPARE(textOf(QStringLiteral("dates-SN-1.txt")), QByteArray("15-11-2026\n"));
+    QCOMPARE(textOf(m_values), QByteArray("[15-11-2026]\nCompleteDate=Sun Nov 15 03:30:12 2026\n"
                                           "Raw%20Read%20Error%20Rate=0\n"
                                           "Temperature%20Celsius=36 (Min/Max 17/54)\n"));
     QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
@@ -136,8 +131,8 @@ void TestAttributeHistory::elevenDays()
     QCOMPARE(readHistoryDates(paths.dates, &opened), wanted);
     QVERIFY(opened);
     QCOMPARE(readHistoryValues(paths.values, wanted, days::key), hours);
-    QCOMPARE(sections(m_serial).size(), 10);
-    QVERIFY(!sections(m_serial).contains(QStringLiteral("25-10-2026")));
+    QCOMPARE(sections(m_values).size(), 10);
+    QVERIFY(!sections(m_values).contains(QStringLiteral("25-10-2026")));
 }
 
 void TestAttributeHistory::secondVisitOfADay()
@@ -145,8 +140,8 @@ void TestAttributeHistory::secondVisitOfADay()
     const QDate day(2026, 11, 15);
     recordHistory(m_serial, QDateTime(day, QTime(8, 0)), {{"A", "1"}, {"B", "2"}});
     recordHistory(m_serial, QDateTime(day, QTime(9, 0)), {{"A", "3"}});
-    QCOMPARE(textOf(QStringLiteral("SN-1Date.txt")), QByteArray("15-11-2026\n"));
-    const QSettings stored(file(m_serial), QSettings::IniFormat);
+    QCOMPARE(textOf(QStringLiteral("dates-SN-1.txt")), QByteArray("15-11-2026\n"));
+    const QSettings stored(file(m_values), QSettings::IniFormat);
     QCOMPARE(stored.value(QStringLiteral("15-11-2026/CompleteDate")).toString(),
              QStringLiteral("Sun Nov 15 09:00:00 2026"));
     QCOMPARE(stored.value(QStringLiteral("15-11-2026/A")).toString(), QStringLiteral("3"));
@@ -157,17 +152,17 @@ void TestAttributeHistory::clockSetBack()
 {
     days::record(m_serial, m_first, 2);
     days::record(m_serial, m_first, 1);
-    QCOMPARE(textOf(QStringLiteral("SN-1Date.txt")), QByteArray("25-10-2026\n26-10-2026\n25-10-2026\n"));
-    QCOMPARE(sections(m_serial).size(), 2);
+    QCOMPARE(textOf(QStringLiteral("dates-SN-1.txt")), QByteArray("25-10-2026\n26-10-2026\n25-10-2026\n"));
+    QCOMPARE(sections(m_values).size(), 2);
 }
 
 void TestAttributeHistory::disksApart()
 {
     days::record(QStringLiteral("A"), m_first, 11);
     days::record(QStringLiteral("B"), m_first, 1);
-    QCOMPARE(sections(QStringLiteral("A")).size(), 10);
-    QCOMPARE(sections(QStringLiteral("B")), QStringList{QStringLiteral("25-10-2026")});
-    QCOMPARE(textOf(QStringLiteral("BDate.txt")), QByteArray("25-10-2026\n"));
+    QCOMPARE(sections(QStringLiteral("values-A")).size(), 10);
+    QCOMPARE(sections(QStringLiteral("values-B")), QStringList{QStringLiteral("25-10-2026")});
+    QCOMPARE(textOf(QStringLiteral("dates-B.txt")), QByteArray("25-10-2026\n"));
 }
 
 void TestAttributeHistory::append_data()
@@ -249,8 +244,8 @@ void TestAttributeHistory::removeGroup()
 
 void TestAttributeHistory::tornValues()
 {
-    put(m_serial, "[24-10-2026]\r\nPower%20On%20Hours=5\r\n\r\n[23-10-2026\nx\n[22-10-2026]\nPower%20On");
-    put(QStringLiteral("SN-1Date.txt"), "24-10-2026\r\n23-1");
+    put(m_values, "[24-10-2026]\r\nPower%20On%20Hours=5\r\n\r\n[23-10-2026\nx\n[22-10-2026]\nPower%20On");
+    put(QStringLiteral("dates-SN-1.txt"), "24-10-2026\r\n23-1");
     days::record(m_serial, m_first, 1);
     const HistoryPaths paths = historyPaths(m_serial);
     const Dates dates = readHistoryDates(paths.dates, nullptr);
@@ -300,26 +295,41 @@ void TestAttributeHistory::noFolder()
     QVERIFY(!QFile::exists(file(QStringLiteral("missing"))));
 }
 
-void TestAttributeHistory::programOfThatName()
+/// A drive that bears the name of a file of the program's or of another drive, and a pair of earlier days.
+void TestAttributeHistory::earlierNames()
 {
-    for (const char *start : {"MZ\x90", "\177ELF\2"}) {
-        put(m_serial, start);
-        days::record(m_serial, m_first, 1);
-        QCOMPARE(textOf(m_serial), QByteArray(start));
-        QVERIFY(!QFile::exists(file(QStringLiteral("SN-1Date.txt"))));
-    }
+    const QByteArray dates("24-10-2026\r\n23-1");
+    const QByteArray values("[24-10-2026]\nPower%20On%20Hours=5\n");
+    put(QStringLiteral("qt.conf"), "[Paths]\n");
+    put(QStringLiteral("qt.confDate.txt"), dates);
+    put(QStringLiteral("SN-1Date.txt"), dates);
+    put(m_serial, values);
+    put(QStringLiteral("SN-1Date.txtDate.txt"), dates);
+    const QString below = file(QStringLiteral("history"));
+    QVERIFY(QDir().mkdir(below));
+    Platform::install(std::make_unique<HistoryMachine>(below));
+    for (const char *serial : {"qt.conf", "SN-1Date.txt", "SN-1"})
+        days::record(QLatin1String(serial), m_first, 1);
+    QCOMPARE(textOf(QStringLiteral("qt.conf")), QByteArray("[Paths]\n"));
+    const HistoryPaths paths = historyPaths(m_serial);
+    const Dates all = readHistoryDates(paths.dates, nullptr);
+    QCOMPARE(all, (Dates{"24-10-2026", "23-1", "25-10-2026"}));
+    QCOMPARE(readHistoryValues(paths.values, all, days::key),
+             (std::vector<qint64>{5, 0, days::valueOn(m_first)}));
+    QVERIFY(!QFile::exists(file(m_serial)) && !QFile::exists(file(QStringLiteral("SN-1Date.txt"))));
+    QCOMPARE(readHistoryDates(historyPaths(QStringLiteral("SN-1Date.txt")).dates, nullptr).size(), size_t(1));
 }
 
 void TestAttributeHistory::values()
 {
-    put(m_serial,
+    put(m_values,
         "[a]\nBig%20One=31288407551\nText=5 5 9\nHex=0x10\nBelow=-4\nGroups=18.250.344\n[b]\nText=7\n");
     const Dates dates{"a", "b", "missing"};
     const QVector<QPair<QString, std::vector<qint64>>> rows{
         {"Big One", {31288407551, 0, 0}}, {"Text", {0, 7, 0}}, {"Hex", {0, 0, 0}}, {"Below", {-4, 0, 0}},
         {"Groups", {18250344, 0, 0}},     {"", {0, 0, 0}}};
     for (const auto &row : rows)
-        QCOMPARE(readHistoryValues(file(m_serial), dates, row.first), row.second);
+        QCOMPARE(readHistoryValues(file(m_values), dates, row.first), row.second);
 }
 
 void TestAttributeHistory::demoEndsWithItsReports_data()

@@ -50,8 +50,8 @@ int TestHistoryCrash::readableDays(bool anyDay)
     // Under a name of its own, so that nothing that was read before is taken for the content.
     static int copies = 0;
     const QString values = m_root->filePath(QStringLiteral("values%1").arg(++copies));
-    QFile list(m_folder + QLatin1Char('/') + m_serial + QLatin1String("Date.txt"));
-    if (!list.open(QIODevice::ReadOnly) || !QFile::copy(m_folder + QLatin1Char('/') + m_serial, values))
+    QFile list(historyPaths(m_serial).dates);
+    if (!list.open(QIODevice::ReadOnly) || !QFile::copy(historyPaths(m_serial).values, values))
         return anyDay ? 0 : -1;
     QSettings stored(values, QSettings::IniFormat);
     QStringList dates = QString::fromLatin1(list.readAll()).split(QLatin1Char('\n'));
