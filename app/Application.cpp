@@ -11,7 +11,6 @@
 #include <QFont>
 #include <QIcon>
 #include <QMessageBox>
-#include <QSharedMemory>
 
 #include <cstdlib>
 
@@ -25,7 +24,6 @@ namespace
 {
 
 const QString InstanceKey = QStringLiteral("7c41e9d2-a06b-4f37-66mm-d3f02a91c5b8");
-constexpr int InstanceSegment = 512; ///< bytes
 
 void substituteFonts()
 {
@@ -97,16 +95,6 @@ void readStartSettings(int *languageType)
     g_strRunMode = store.text(key::TaskName) == scheduled ? scheduled : QString();
 }
 
-/// Takes the segment that tells other instances of this one.
-bool takeInstance(QSharedMemory &guard)
-{
-    // A segment outlives a process that was killed: the last one to let go of it removes it. That takes the
-    // user who made it, which is why each user has a key of his own.
-    if (guard.attach())
-        guard.detach();
-    return guard.create(InstanceSegment, QSharedMemory::ReadWrite);
-}
-
 [[noreturn]] void refuseSecondInstance()
 {
     QMessageBox::information(
@@ -116,6 +104,18 @@ bool takeInstance(QSharedMemory &guard)
             "Velmora Halvane already running. Cannot start more than one instance of the application."),
         QMessageBox::Ok);
     std::exit(0);
+}
+
+/// Without a temp folder no tool could be asked.
+[[noreturn]] void refuseToStart()
+{
+    QMessageBox::critical(
+        nullptr, QString(),
+        QCoreApplication::translate(
+            "QObject", "Velmora Halvane cannot start: there is no folder for its temporary files that other "
+                       "users cannot change."),
+        QMessageBox::Ok);
+    std::exit(1);
 }
 
 void readMachine()
@@ -152,8 +152,9 @@ int runApplication(int argc, char **argv)
     languages::setOffered();
     languages::loadAtStart();
 
-    QSharedMemory guard(InstanceKey + platform.InstanceScope());
-    if (!takeInstance(guard))
+    if (platform.GetTempPathW().isEmpty())
+        refuseToStart();
+    if (!platform.TakeInstance(InstanceKey))
         refuseSecondInstance();
     readMachine();
 

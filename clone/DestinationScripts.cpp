@@ -2,9 +2,12 @@
 
 #include "app/state/GlobalApp.h"
 #include "inventory/CommandRunner.h"
+#include "platform/OwnFiles.h"
+#include "platform/Platform.h"
 
 #include <QFile>
-#include <QTextStream>
+
+#include <memory>
 
 namespace destination
 {
@@ -21,15 +24,21 @@ QString scriptFor(int disk, const QStringList &commands)
     return (first + commands + QStringList{QStringLiteral("EXIT")}).join(QLatin1Char('\n'));
 }
 
-bool writeScript(const QString &path, const QString &script)
+/// Writes a script and gives it as it lies there, so that nobody puts another in its place while the result
+/// lives. Null where it does not come out as it was written.
+std::unique_ptr<QFile> writeScript(const QString &path, const QByteArray &script)
 {
-    QFile file(nativePath(path));
-    if (!file.open(QIODevice::ReadWrite | QIODevice::Text))
-        return false;
-    QTextStream stream(&file);
-    stream << script;
-    stream.flush();
-    return stream.status() == QTextStream::Ok;
+    QFile file;
+    if (!ownfiles::makeFile(&file, path))
+        return nullptr;
+    file.setTextModeEnabled(true);
+    file.write(script);
+    file.close();
+    std::unique_ptr<QFile> held = Platform::current().HoldFile(path);
+    if (!held)
+        return nullptr;
+    held->setTextModeEnabled(true);
+    return held->readAll() == script ? std::move(held) : nullptr;
 }
 
 } // namespace
@@ -52,7 +61,8 @@ void runScripts(const QStringList &scripts)
     for (const QString &script : scripts) {
         path = runner::freshTempFile(ScriptFile);
         // What else may lie at that path could name another disk.
-        if (!writeScript(path, script))
+        const auto held = writeScript(nativePath(path), script.toLatin1());
+        if (!held)
             continue;
         RunSilent(g_App.m_strSystemFolder + QLatin1String("\\diskpart.exe") + QLatin1String(" /s ") + path);
     }

@@ -15,8 +15,8 @@ QStringList prepareScripts(int disk);
 QStringList finishScripts(int disk);
 
 /// Runs scripts one after the other, each through the one script file of the temp folder, which is gone
-/// afterwards. A script that cannot be written is not run. Blocks until the tool has ended; one thread at a
-/// time in the whole process.
+/// afterwards and which nobody else can change meanwhile. A script that cannot be written so is not run.
+/// Blocks until the tool has ended; one thread at a time in the whole process.
 void runScripts(const QStringList &scripts);
 
 } // namespace destination

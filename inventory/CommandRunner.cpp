@@ -62,7 +62,7 @@ namespace runner
 
 QByteArray composeLine(const QByteArray &interpreter, const QByteArray &funct, const QByteArray &params)
 {
-    return (interpreter.isEmpty() ? QByteArray("CMD.EXE") : interpreter) + " /c " + funct + ' ' + params;
+    return interpreter + " /c " + funct + ' ' + params;
 }
 
 std::wstring widen(const QByteArray &bytes)

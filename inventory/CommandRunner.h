@@ -32,7 +32,7 @@ namespace runner
 constexpr int NarrowBuffer = 4096; ///< bytes of a composed line, terminator included
 constexpr int WideBuffer = 512;    ///< characters of a widened line, terminator included
 
-/// "<interpreter> /c <funct> <params>". An empty interpreter stands for "CMD.EXE".
+/// "<interpreter> /c <funct> <params>".
 QByteArray composeLine(const QByteArray &interpreter, const QByteArray &funct, const QByteArray &params);
 
 /// Each byte becomes one character of the same value: a UTF-8 sequence is not decoded.

@@ -47,15 +47,15 @@ State check()
     return read ? state : State::Unknown;
 }
 
-void start(StartBy form)
+void start()
 {
-    Platform::current().ShellExecuteW(form == StartBy::Name ? fileName() : fullPath(), QString(), QString());
+    Platform::current().ShellExecuteW(fullPath(), QString(), QString());
 }
 
-void ensureRunning(StartBy form)
+void ensureRunning()
 {
     if (check() == State::NotRunning)
-        start(form);
+        start();
 }
 
 void kill()

@@ -25,13 +25,11 @@ enum class State {
 /// Looks through the task list; the letter case of the name does not matter.
 State check();
 
-enum class StartBy { Name, FullPath };
-
-/// Starts the companion.
-void start(StartBy form);
+/// Starts the companion beside the application: by its name alone, any folder could offer one.
+void start();
 
 /// check(), and start() where it does not run.
-void ensureRunning(StartBy form);
+void ensureRunning();
 
 /// The kill command of the settings and of a language change.
 void kill();

@@ -4,8 +4,14 @@
 
 #include <memory>
 
-/// The machine itself. Each operating system has its own definition in its folder of platform/.
+/// What each operating system defines in its folder of platform/.
+
+/// The machine itself.
 std::unique_ptr<Platform> makeNativePlatform();
 
-/// Tells the user of this process from the others of the machine.
-QString nativeUser();
+/// Platform::TakeInstance() among the programs of this user on this machine.
+bool takeNativeInstance(const QString &key);
+
+/// The first thing that a process does: from here on it loads no library from a folder that others may write,
+/// and where it has the rights of an administrator, it keeps nothing in folders that the environment names.
+void prepareNativeProcess();

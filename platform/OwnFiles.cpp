@@ -1,6 +1,8 @@
 #include "platform/OwnFiles.h"
 
 #include <QDirIterator>
+#include <QMutex>
+#include <QSet>
 
 #include <algorithm>
 
@@ -26,6 +28,17 @@ QString irregularIn(const QString &folder)
             return path;
     }
     return QString();
+}
+
+void complain(const QString &line)
+{
+    static QMutex mutex;
+    static QSet<QString> said;
+    const QMutexLocker lock(&mutex);
+    if (!said.contains(line)) {
+        said.insert(line);
+        qWarning("VelmoraHalvane: %s", qUtf8Printable(line));
+    }
 }
 
 } // namespace ownfiles

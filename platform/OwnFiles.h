@@ -17,8 +17,16 @@ bool isElevated();
 /// could make the caller wait. What may be written is made where it is missing.
 bool openRegular(QFile *file, const QString &path, QIODevice::OpenMode mode);
 
+/// Makes a file for this user alone and opens it for writing. False where something of that name is there
+/// already, or where somebody else could change the way to it.
+bool makeFile(QFile *file, const QString &path);
+
 /// The first MostBytes of a regular file; empty where there is none.
 QByteArray contents(const QString &path);
+
+/// Makes the folder `path`, and what is missing on the way to it, for this user alone. Gives one line that
+/// says why it is not to be used: somebody else could change it, or it cannot be made. Empty if all is well.
+QString makeFolder(const QString &path);
 
 /// What on the way to `path`, itself included, somebody else could change: one line that names the part and
 /// the reason, empty if there is nothing. What is missing yet does not count.
@@ -27,5 +35,8 @@ QString strangerOn(const QString &path);
 /// The first thing below a folder that is neither a folder nor a regular file, such as a link; empty if there
 /// is none.
 QString irregularIn(const QString &folder);
+
+/// Says on standard error what was not used and why; the same line once per process.
+void complain(const QString &line);
 
 } // namespace ownfiles

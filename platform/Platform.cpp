@@ -47,6 +47,11 @@ Platform &Platform::current()
     return *owner;
 }
 
+QByteArray Platform::CommandInterpreter()
+{
+    return (GetSystemDirectoryW() + QLatin1String("\\cmd.exe")).toUtf8();
+}
+
 void Platform::install(std::unique_ptr<Platform> platform)
 {
     const std::lock_guard<std::mutex> lock(chooseMutex);

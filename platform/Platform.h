@@ -130,13 +130,15 @@ public:
 
     /// \name Folders and names
     /// @{
-    /// The user's temp folder, ending in a separator.
+    /// The program's temp folder, ending in a separator: only this user can change what is in it. Empty where
+    /// there is none such. In ASCII without blanks.
     virtual QString GetTempPathW() = 0;
     /// The folder of the system's tools, without a trailing separator.
     virtual QString GetSystemDirectoryW() = 0;
     virtual QString GetUserNameW() = 0;
-    /// Where the history of attribute values is kept; no trailing separator. `applicationFolder` where it can
-    /// be written, else a folder of the user's, which is made if it is missing.
+    /// Where the history of attribute values is kept; no trailing separator. A folder below
+    /// `applicationFolder` where that can be written, else one of the user's; it is made if it is missing.
+    /// Empty where others could change it.
     virtual QString HistoryFolder(const QString &applicationFolder) = 0;
     /// A fresh and empty folder `name` that nobody else can enter or change; where the process has the rights
     /// of an administrator, other programs of its user count as others. Full path in ASCII without blanks,
@@ -150,11 +152,12 @@ public:
     virtual void SetCurrentDirectoryW(const QString &folder) { Q_UNUSED(folder) }
     /// A path as this platform writes it: the program composes paths with backslashes.
     virtual QString NativePath(const QString &path) const = 0;
-    /// The value of COMSPEC, empty if unset.
-    virtual QByteArray CommandInterpreter() = 0;
-    /// One instance may run per scope: what sets the user apart from the others of this machine, and this PC
-    /// from others that he may run the program for.
-    virtual QString InstanceScope() { return QString(); }
+    /// The command interpreter that lines begin with: the system's own, with what it has to be told first.
+    /// The variable COMSPEC is not asked, as every program of the user can set it.
+    virtual QByteArray CommandInterpreter();
+    /// Whether this is the only instance of this user, and on this PC, that took `key`. It stays taken until
+    /// the process ends, however it ends; no other user can take it. To be called once.
+    virtual bool TakeInstance(const QString & /*key*/) { return true; }
     /// A command line that starts this program with the rights to open raw disks, for people to copy; empty
     /// where the desktop has a menu entry for that.
     virtual QString AdministratorCommand() { return QString(); }

@@ -38,19 +38,22 @@ QString freshFolder()
     return currentFolder;
 }
 
+QString transferTool()
+{
+    return Platform::current().GetSystemDirectoryW() + QLatin1String("\\bitsadmin.exe");
+}
+
 void fetchByConsole(const QString &url, const QString &path, qint32 milliseconds)
 {
     const QString command = consoleCommand(url, path);
     if (command.isEmpty() || milliseconds <= CancelMs)
         return;
     Platform &platform = Platform::current();
-    const QString interpreter = QString::fromLocal8Bit(platform.CommandInterpreter());
-    const QString begin =
-        (interpreter.isEmpty() ? QStringLiteral("CMD.EXE") : interpreter) + QLatin1String(" /c ");
+    const QString begin = QString::fromUtf8(platform.CommandInterpreter()) + QLatin1String(" /c ");
     // The service behind the tool goes on with its job when nobody waits any more.
     if (!platform.CreateProcessAndWaitFor((begin + command).toStdWString(), milliseconds - CancelMs))
         platform.CreateProcessAndWaitFor(
-            (begin + QLatin1String("bitsadmin.exe /cancel myDownloadJob")).toStdWString(), CancelMs);
+            (begin + transferTool() + QLatin1String(" /cancel myDownloadJob")).toStdWString(), CancelMs);
 }
 
 } // namespace
@@ -87,7 +90,7 @@ QString consoleCommand(const QString &url, const QString &path)
     const QString address = QString::fromLatin1(QUrl(url).toEncoded());
     if (address.isEmpty() || address.contains(forInterpreter) || path.contains(forInterpreter))
         return QString();
-    return QLatin1String("bitsadmin.exe /transfer myDownloadJob /download /priority normal ") + address +
+    return transferTool() + QLatin1String(" /transfer myDownloadJob /download /priority normal ") + address +
            QLatin1Char(' ') + path;
 }
 

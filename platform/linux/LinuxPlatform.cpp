@@ -7,7 +7,6 @@
 #include "platform/OwnFiles.h"
 #include "platform/linux/LinuxDisks.h"
 #include "platform/linux/LogonEntry.h"
-#include "platform/linux/UserFolders.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -116,7 +115,7 @@ quint32 mediaTypeOf(const inventory::Disk &disk)
 
 } // namespace
 
-LinuxPlatform::LinuxPlatform()
+LinuxPlatform::LinuxPlatform(folders::Places places) : m_places(std::move(places))
 {
     addTools();
 }
@@ -317,7 +316,7 @@ bool LinuxPlatform::GetDiskFreeSpaceExW(const QString &root, quint64 *totalBytes
 
 QString LinuxPlatform::GetTempPathW()
 {
-    return folders::privateTemp() + QLatin1Char('/');
+    return m_places.temp.isEmpty() ? QString() : m_places.temp + QLatin1Char('/');
 }
 
 QString LinuxPlatform::GetSystemDirectoryW()
@@ -336,18 +335,21 @@ QString LinuxPlatform::HistoryFolder(const QString &applicationFolder)
     const QString path = QDir::cleanPath(applicationFolder);
     // An installed program keeps nothing beside itself, even if root runs it.
     const bool installed = path.startsWith(QLatin1String("/usr/")) || path.startsWith(QLatin1String("/opt/"));
-    if (!installed && QFileInfo(path).isDir() && QFileInfo(path).isWritable())
-        return path;
-    const QString own = folders::data() + QLatin1String("/history");
-    QDir().mkpath(own);
-    return own;
+    const bool beside = !installed && QFileInfo(path).isDir() && QFileInfo(path).isWritable() &&
+                        ownfiles::strangerOn(path).isEmpty();
+    const QString own = (beside ? path : m_places.data) + QLatin1String("/history");
+    const QString wrong = ownfiles::makeFolder(own);
+    if (wrong.isEmpty())
+        return own;
+    ownfiles::complain(QLatin1String("no history is kept: ") + wrong);
+    return QString();
 }
 
 QString LinuxPlatform::MakePrivateFolder(const QString &name)
 {
-    const QString path = folders::privateTemp() + QLatin1Char('/') + name;
+    const QString path = GetTempPathW() + name;
     // Where somebody else can change the way, not even the removal of an old folder goes where it should.
-    if (!ownfiles::strangerOn(path).isEmpty() || QFileInfo(path).isSymLink())
+    if (m_places.temp.isEmpty() || !ownfiles::strangerOn(path).isEmpty() || QFileInfo(path).isSymLink())
         return QString();
     QDir(path).removeRecursively();
     return ::mkdir(QFile::encodeName(path).constData(), 0700) == 0 ? path : QString();
@@ -372,14 +374,9 @@ QString LinuxPlatform::NativePath(const QString &path) const
     return native.isEmpty() && onDriveC ? QStringLiteral("/") : native;
 }
 
-QByteArray LinuxPlatform::CommandInterpreter()
+bool LinuxPlatform::TakeInstance(const QString &key)
 {
-    return qgetenv("COMSPEC");
-}
-
-QString LinuxPlatform::InstanceScope()
-{
-    return QLatin1Char('-') + nativeUser();
+    return takeNativeInstance(key);
 }
 
 QString LinuxPlatform::AdministratorCommand()
@@ -453,12 +450,12 @@ void LinuxPlatform::CreateLogonTask(const LogonTask &task)
     native.program = findProgram(NativePath(task.program));
     if (native.program.isEmpty())
         native.program = NativePath(task.program);
-    logonentry::create(folders::autostart(), native);
+    logonentry::create(m_places.autostart, native);
 }
 
 void LinuxPlatform::DeleteLogonTask(const QString &name)
 {
-    logonentry::remove(folders::autostart(), name);
+    logonentry::remove(m_places.autostart, name);
 }
 
 // Settings
@@ -467,15 +464,18 @@ std::unique_ptr<QSettings> LinuxPlatform::OpenSettings(const QString &registryPa
 {
     if (registryPath.isEmpty())
         return jsonsettings::openNothing();
-    return jsonsettings::open(jsonsettings::fileOf(folders::configuration(), registryPath));
+    const QString file = jsonsettings::fileOf(m_places.configuration, registryPath);
+    QString wrong = ownfiles::makeFolder(QFileInfo(file).path());
+    // A link there may lead anywhere.
+    if (wrong.isEmpty())
+        wrong = ownfiles::strangerOn(file);
+    if (wrong.isEmpty())
+        return jsonsettings::open(file);
+    ownfiles::complain(QLatin1String("settings are not kept: ") + wrong);
+    return jsonsettings::openNothing();
 }
 
 std::unique_ptr<Platform> makeNativePlatform()
 {
     return std::make_unique<LinuxPlatform>();
-}
-
-QString nativeUser()
-{
-    return QString::number(geteuid());
 }

@@ -4,6 +4,7 @@
 #include "platform/linux/LsblkInventory.h"
 #include "platform/linux/RawDevice.h"
 #include "platform/linux/SleepInhibitor.h"
+#include "platform/linux/UserFolders.h"
 #include "platform/linux/VolumeWatch.h"
 #include "platform/tools/CommandInterpreter.h"
 
@@ -16,7 +17,7 @@
 class LinuxPlatform : public Platform
 {
 public:
-    LinuxPlatform();
+    explicit LinuxPlatform(folders::Places places = folders::places());
     ~LinuxPlatform() override;
 
     RawHandle CreateFileW(const QString &name, quint32 access, quint32 shareMode,
@@ -49,8 +50,7 @@ public:
     QString MakePrivateFolder(const QString &name) override;
     std::unique_ptr<QFile> HoldFile(const QString &path) override;
     QString NativePath(const QString &path) const override;
-    QByteArray CommandInterpreter() override;
-    QString InstanceScope() override;
+    bool TakeInstance(const QString &key) override;
     QString AdministratorCommand() override;
     QString OperatingSystemName() override;
 
@@ -81,8 +81,8 @@ private:
     void addTools();
     /// The nodes of HALVANE_DISKS by their real names; empty where the disks are those of the machine.
     static QStringList onlyNodes();
-    /// The program that a file name stands for, with or without ".exe": a path, or a name beside the program
-    /// or in the search path. Empty if there is none.
+    /// The program that a file name stands for, with or without ".exe": a path, or a name beside this program
+    /// and nowhere else. Empty if there is none.
     static QString findProgram(const QString &file);
     /// The PC as it was last read; read now if it never was.
     lsblk::Inventory pc();
@@ -91,6 +91,7 @@ private:
     std::optional<inventory::Volume> volumeOf(const QString &root);
     std::shared_ptr<OpenDevice> find(RawHandle handle);
 
+    const folders::Places m_places;
     std::mutex m_mutex;
     std::optional<lsblk::Inventory> m_pc;
     QHash<RawHandle, std::shared_ptr<OpenDevice>> m_open;

@@ -2,6 +2,7 @@
 
 #include "platform/OwnFiles.h"
 #include "platform/PlainText.h"
+#include "platform/linux/DesktopUser.h"
 #include "platform/linux/LinuxDisks.h"
 #include "platform/linux/LinuxPlatform.h"
 #include "platform/linux/LinuxTools.h"
@@ -9,10 +10,10 @@
 
 #include <QCoreApplication>
 #include <QDesktopServices>
+#include <QDir>
 #include <QFileInfo>
 #include <QProcess>
 #include <QRegularExpression>
-#include <QStandardPaths>
 #include <QStorageInfo>
 #include <QUrl>
 
@@ -58,6 +59,16 @@ void identifyFileSystem(inventory::Volume &volume, const QString &node, const QS
     const QString type =
         found.value(QStringLiteral("TYPE"), QString::fromLocal8Bit(storage.fileSystemType()));
     volume.fileSystem = lsblk::fileSystemName(type, found.value(QStringLiteral("VERSION")));
+}
+
+/// The browser, or what else the desktop has for a page or document, is no program for root.
+bool openOnDesktop(const QString &target)
+{
+    const QString opener = linuxtools::find(QStringLiteral("xdg-open"));
+    if (opener.isEmpty())
+        return false;
+    const auto user = desktopuser::loggedOn();
+    return user ? desktopuser::start(*user, opener, {target}) : QProcess::startDetached(opener, {target});
 }
 
 } // namespace
@@ -155,19 +166,13 @@ bool LinuxPlatform::CreateProcessAndWait(const std::wstring &line, bool)
 
 QString LinuxPlatform::findProgram(const QString &file)
 {
-    QStringList names{file};
-    if (file.endsWith(QLatin1String(".exe"), Qt::CaseInsensitive))
-        names.append(file.left(file.size() - 4));
-    for (const QString &name : names) {
-        if (name.contains(QLatin1Char('/'))) {
-            if (QFileInfo(name).isFile() && QFileInfo(name).isExecutable())
-                return name;
-            continue;
-        }
-        const QString beside = QStandardPaths::findExecutable(name, {QCoreApplication::applicationDirPath()});
-        const QString found = beside.isEmpty() ? QStandardPaths::findExecutable(name) : beside;
-        if (!found.isEmpty())
-            return found;
+    // A document may bear the mark of a program, too, as all files of some file systems do.
+    if (!file.endsWith(QLatin1String(".exe"), Qt::CaseInsensitive))
+        return {};
+    for (const QString &name : {file, file.left(file.size() - 4)}) {
+        const QFileInfo program(QDir(QCoreApplication::applicationDirPath()), name);
+        if (program.isFile() && program.isExecutable())
+            return program.filePath();
     }
     return {};
 }
@@ -181,13 +186,11 @@ bool LinuxPlatform::ShellExecuteW(const QString &file, const QString &parameters
         if (!program.isEmpty())
             return QProcess::startDetached(program, QProcess::splitCommand(parameters));
     }
-    const QString opener = QStandardPaths::findExecutable(QStringLiteral("xdg-open"));
-    if (file.isEmpty() || opener.isEmpty())
-        return false;
-    return QProcess::startDetached(opener, {isAddress ? file : NativePath(file)});
+    return !file.isEmpty() && openOnDesktop(isAddress ? file : NativePath(file));
 }
 
 bool LinuxPlatform::OpenUrl(const QUrl &url)
 {
-    return QDesktopServices::openUrl(url);
+    return desktopuser::loggedOn() ? openOnDesktop(QString::fromLatin1(url.toEncoded()))
+                                   : QDesktopServices::openUrl(url);
 }

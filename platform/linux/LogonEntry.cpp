@@ -1,8 +1,10 @@
 #include "platform/linux/LogonEntry.h"
 
-#include <QDir>
+#include "platform/OwnFiles.h"
+
 #include <QFile>
-#include <QSaveFile>
+
+#include <cstdio>
 
 namespace logonentry
 {
@@ -52,14 +54,23 @@ QByteArray compose(const LogonTask &task)
 
 bool create(const QString &folder, const LogonTask &task)
 {
-    QDir().mkpath(folder);
-    QSaveFile file(fileOf(folder, task.name));
-    return file.open(QIODevice::WriteOnly) && file.write(compose(task)) >= 0 && file.commit();
+    const QString wrong = ownfiles::makeFolder(folder);
+    if (!wrong.isEmpty()) {
+        ownfiles::complain(QLatin1String("nothing is started at logon: ") + wrong);
+        return false;
+    }
+    const QString path = fileOf(folder, task.name);
+    const QString fresh = path + QLatin1String(".new");
+    QFile::remove(fresh);
+    QFile file;
+    return ownfiles::makeFile(&file, fresh) && file.write(compose(task)) >= 0 && file.flush() &&
+           std::rename(QFile::encodeName(fresh).constData(), QFile::encodeName(path).constData()) == 0;
 }
 
 void remove(const QString &folder, const QString &name)
 {
-    QFile::remove(fileOf(folder, name));
+    if (ownfiles::strangerOn(folder).isEmpty())
+        QFile::remove(fileOf(folder, name));
 }
 
 } // namespace logonentry

@@ -1,10 +1,15 @@
 #include "platform/linux/UserFolders.h"
 
+#include "platform/OwnFiles.h"
+
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QStandardPaths>
 
 #include <algorithm>
 #include <cstdlib>
+#include <pwd.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -24,56 +29,79 @@ bool standsInCommandLine(const QString &path)
     });
 }
 
-QString chooseTemp()
+QString below(const QString &folder)
 {
-    const QString runtime = QString::fromLocal8Bit(qgetenv("XDG_RUNTIME_DIR"));
-    if (runtime.startsWith(QLatin1Char('/')) && standsInCommandLine(runtime)) {
-        const QString path = runtime + QLatin1Char('/') + FolderName;
-        if (ensurePrivate(path))
-            return path;
-    }
-    const QString path = QStringLiteral("/tmp/%1-%2").arg(FolderName).arg(geteuid());
-    if (ensurePrivate(path))
-        return path;
-    char fresh[] = "/tmp/velmora-halvane-XXXXXX";
-    return mkdtemp(fresh) ? QString::fromLatin1(fresh) : path;
+    return folder + QLatin1Char('/') + FolderName;
 }
 
-QString below(QStandardPaths::StandardLocation location, const QString &name)
+/// `place`, to which the folder of an earlier version is moved once. Where that cannot be done it stays.
+QString takenOver(const QString &place, const QString &former)
 {
-    return QStandardPaths::writableLocation(location) + QLatin1Char('/') + name;
+    if (QFileInfo::exists(place) || !QFileInfo(former).isDir() || !ownfiles::strangerOn(former).isEmpty())
+        return place;
+    return QDir().rename(former, place) ? place : former;
+}
+
+Places placesOfRoot()
+{
+    const passwd *entry = getpwuid(0);
+    const QString home = entry ? QFile::decodeName(entry->pw_dir) : QStringLiteral("/root");
+    return {chooseTemp({below(QStringLiteral("/run"))}),
+            takenOver(below(QStringLiteral("/etc")), below(home + QLatin1String("/.config"))),
+            home + QLatin1String("/.config/autostart"),
+            takenOver(below(QStringLiteral("/var/lib")), below(home + QLatin1String("/.local/share")))};
+}
+
+Places placesOfUser()
+{
+    const QString runtime = QString::fromLocal8Bit(qgetenv("XDG_RUNTIME_DIR"));
+    const QString usual = QStringLiteral("/run/user/%1").arg(geteuid());
+    QStringList candidates{below(usual), QStringLiteral("/tmp/%1-%2").arg(FolderName).arg(geteuid())};
+    if (!QFileInfo(usual).isDir())
+        candidates.removeFirst();
+    if (runtime.startsWith(QLatin1Char('/')) && runtime != usual)
+        candidates.prepend(below(runtime));
+    const QString configuration = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+    return {chooseTemp(candidates), below(configuration), configuration + QLatin1String("/autostart"),
+            below(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation))};
 }
 
 } // namespace
 
-bool ensurePrivate(const QString &path)
+QString ensurePrivate(const QString &path)
 {
-    const QByteArray name = QFile::encodeName(path);
-    ::mkdir(name.constData(), 0700);
+    const QString wrong = standsInCommandLine(path)
+                              ? ownfiles::makeFolder(path)
+                              : path + QLatin1String(": a blank or a letter beyond ASCII");
     struct stat status = {};
-    return lstat(name.constData(), &status) == 0 && S_ISDIR(status.st_mode) && status.st_uid == geteuid() &&
-           (status.st_mode & 07777) == 0700;
+    if (!wrong.isEmpty())
+        return wrong;
+    const bool closed = lstat(QFile::encodeName(path).constData(), &status) == 0 && S_ISDIR(status.st_mode) &&
+                        status.st_uid == geteuid() && (status.st_mode & 07777) == 0700;
+    return closed ? QString() : path + QLatin1String(": not closed to others");
 }
 
-QString privateTemp()
+QString chooseTemp(const QStringList &candidates)
 {
-    static const QString path = chooseTemp();
-    return path;
+    for (const QString &path : candidates) {
+        const QString wrong = ensurePrivate(path);
+        if (wrong.isEmpty())
+            return path;
+        ownfiles::complain(QLatin1String("the temp folder cannot be used: ") + wrong);
+    }
+    char fresh[] = "/tmp/velmora-halvane-XXXXXX";
+    const QString path = mkdtemp(fresh) ? QString::fromLatin1(fresh) : QString();
+    const QString stranger = ownfiles::strangerOn(path);
+    if (path.isEmpty() || stranger.isEmpty())
+        return path;
+    ownfiles::complain(QLatin1String("the temp folder cannot be used: ") + stranger);
+    return QString();
 }
 
-QString configuration()
+const Places &places()
 {
-    return below(QStandardPaths::GenericConfigLocation, FolderName);
-}
-
-QString autostart()
-{
-    return below(QStandardPaths::GenericConfigLocation, QStringLiteral("autostart"));
-}
-
-QString data()
-{
-    return below(QStandardPaths::GenericDataLocation, FolderName);
+    static const Places chosen = geteuid() == 0 ? placesOfRoot() : placesOfUser();
+    return chosen;
 }
 
 } // namespace folders

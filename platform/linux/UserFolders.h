@@ -1,26 +1,29 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
-/// Folders of the user on this machine, by the XDG rules. No path ends in a separator.
+/// Folders of this process on this machine. No path ends in a separator.
 namespace folders
 {
 
-/// A folder that nobody else can enter: below XDG_RUNTIME_DIR, else below /tmp. It is used only if it is a
-/// real folder of this user with mode 0700, so that nobody can plant a file or link in it; where every fixed
-/// name is spoilt, a fresh one is made.
-QString privateTemp();
+struct Places {
+    QString temp;          ///< made, and closed to all others; empty where none can be had
+    QString configuration; ///< settings of the program
+    QString autostart;     ///< where desktop entries are started at logon
+    QString data;          ///< what the program keeps
+};
 
-/// Makes the folder `path` for this user alone, or finds that it is one already.
-bool ensurePrivate(const QString &path);
+/// The places of this process, chosen once. Those of root are the system's and his home in the password file:
+/// variables come from whoever started the program. Others have theirs by the rules of the desktop.
+const Places &places();
 
-/// Settings of the program.
-QString configuration();
+/// The first of the candidates that is this user's alone, or can be made so; what is wrong with one is said
+/// on standard error. Behind them a fresh folder in /tmp. Empty where that fails as well.
+QString chooseTemp(const QStringList &candidates);
 
-/// Where desktop entries are started at logon.
-QString autostart();
-
-/// Data that the program keeps.
-QString data();
+/// Makes the folder `path` for this user alone, or finds that it is one already, in a place that nobody else
+/// can change. Else one line that says what is wrong.
+QString ensurePrivate(const QString &path);
 
 } // namespace folders

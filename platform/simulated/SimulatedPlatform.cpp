@@ -329,18 +329,12 @@ QString SimulatedPlatform::NativePath(const QString &path) const
     return native;
 }
 
-QByteArray SimulatedPlatform::CommandInterpreter()
-{
-    return qgetenv("COMSPEC");
-}
-
-QString SimulatedPlatform::InstanceScope()
+bool SimulatedPlatform::TakeInstance(const QString &key)
 {
     // A state folder that was asked for makes another PC of the same description.
-    const QString scope =
-        QStringList{nativeUser(), m_pc.folder, m_ownsState ? QString() : m_state}.join(QLatin1Char('\n'));
+    const QString scope = m_pc.folder + QLatin1Char('\n') + (m_ownsState ? QString() : m_state);
     const QByteArray hash = QCryptographicHash::hash(scope.toUtf8(), QCryptographicHash::Sha1).toHex();
-    return QLatin1Char('-') + QString::fromLatin1(hash);
+    return takeNativeInstance(key + QLatin1Char('-') + QString::fromLatin1(hash));
 }
 
 void SimulatedPlatform::Leave()

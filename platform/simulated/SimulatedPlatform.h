@@ -58,9 +58,8 @@ public:
     QString MakePrivateFolder(const QString &name) override;
     std::unique_ptr<QFile> HoldFile(const QString &path) override;
     QString NativePath(const QString &path) const override;
-    QByteArray CommandInterpreter() override;
     /// Each described folder is a PC of its own, and with a state folder that was asked for each of these.
-    QString InstanceScope() override;
+    bool TakeInstance(const QString &key) override;
     void Leave() override;
     QString OperatingSystemName() override;
 

@@ -1,5 +1,7 @@
 #include "platform/tools/CommandInterpreter.h"
 
+#include "platform/OwnFiles.h"
+
 #include <QFile>
 #include <QRegularExpression>
 #include <QThread>
@@ -95,10 +97,11 @@ bool CommandInterpreter::run(const std::wstring &line,
     const QStringList stages = command.split(QLatin1Char('|'));
     for (const QString &stageText : stages) {
         const Stage stage = parseStage(stageText);
-        QFile target(nativePath(stage.target));
+        QFile target;
         // The target is opened before the tool starts: a tool whose output has nowhere to go does not run.
         const bool hasTarget = stage.redirected && !stage.target.isEmpty() &&
-                               target.open(QIODevice::WriteOnly | QIODevice::Append);
+                               ownfiles::openRegular(&target, nativePath(stage.target),
+                                                     QIODevice::WriteOnly | QIODevice::Append);
         QByteArray output;
         if (!stage.words.isEmpty() && (hasTarget || !stage.redirected)) {
             const auto entry = m_tools.constFind(baseNameOf(stage.words.first()));

@@ -1,5 +1,7 @@
 #include "platform/tools/Diskpart.h"
 
+#include "platform/OwnFiles.h"
+
 #include <QFile>
 #include <QRegularExpression>
 #include <QVector>
@@ -154,8 +156,9 @@ QByteArray diskpart(const QStringList &arguments, const std::function<QString(co
 {
     if (arguments.size() != 2 || arguments.first().compare(QLatin1String("/s"), Qt::CaseInsensitive) != 0)
         return QByteArray(Banner) + Usage;
-    QFile file(nativePath(arguments.last()));
-    if (!file.open(QIODevice::ReadOnly) || file.size() > LongestScript)
+    QFile file;
+    if (!ownfiles::openRegular(&file, nativePath(arguments.last()), QIODevice::ReadOnly) ||
+        file.size() > LongestScript)
         return QByteArray(Banner) + NoScript;
     QString said;
     const QVector<Step> steps = parseScript(file.readAll(), &said);

@@ -74,6 +74,27 @@ bool openRegular(QFile *file, const QString &path, QIODevice::OpenMode mode)
     return false;
 }
 
+bool makeFile(QFile *file, const QString &path)
+{
+    if (!strangerOn(QFileInfo(path).path()).isEmpty())
+        return false;
+    const HANDLE handle = ::CreateFileW(
+        reinterpret_cast<const wchar_t *>(QDir::toNativeSeparators(path).utf16()), GENERIC_WRITE, 0, nullptr,
+        CREATE_NEW, FILE_ATTRIBUTE_NORMAL | FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
+    if (handle == INVALID_HANDLE_VALUE)
+        return false;
+    const int number = ::_open_osfhandle(reinterpret_cast<intptr_t>(handle), _O_WRONLY);
+    if (number >= 0 && file->open(number, QIODevice::WriteOnly, QFileDevice::AutoCloseHandle))
+        return true;
+    ::_close(number);
+    return false;
+}
+
+QString makeFolder(const QString &path)
+{
+    return QDir().mkpath(path) ? strangerOn(path) : path + QLatin1String(": cannot be made");
+}
+
 QString strangerOn(const QString &path)
 {
     PSID owner = nullptr;

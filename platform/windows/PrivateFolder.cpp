@@ -1,14 +1,15 @@
 #include "platform/windows/PrivateFolder.h"
 
 #include "platform/OwnFiles.h"
+#include "platform/tools/CommandInterpreter.h"
 
 #include <QDir>
 #include <QRandomGenerator>
+#include <QStandardPaths>
 
 #include <array>
 
-#include <windows.h>
-
+#include <aclapi.h>
 #include <fcntl.h>
 #include <io.h>
 #include <sddl.h>
@@ -25,6 +26,7 @@ const wchar_t *wide(const QString &text)
     return reinterpret_cast<const wchar_t *>(text.utf16());
 }
 
+/// As it can stand in a command line, empty where it cannot.
 QString machineData()
 {
     PWSTR path = nullptr;
@@ -32,7 +34,13 @@ QString machineData()
     if (::SHGetKnownFolderPath(FOLDERID_ProgramData, 0, nullptr, &path) == S_OK)
         result = QString::fromWCharArray(path);
     ::CoTaskMemFree(path);
-    return result;
+    if (!tools::CommandInterpreter::breaksCommands(result))
+        return result;
+    std::array<wchar_t, MAX_PATH> shorter{};
+    const DWORD length = ::GetShortPathNameW(wide(result), shorter.data(), MAX_PATH);
+    result =
+        length < MAX_PATH ? QString::fromWCharArray(shorter.data(), static_cast<int>(length)) : QString();
+    return tools::CommandInterpreter::breaksCommands(result) ? QString() : result;
 }
 
 /// The user of this process as a text.
@@ -54,30 +62,120 @@ QString userSid()
     return result;
 }
 
-/// Nothing is inherited from above, and all that is made inside inherits this.
 QString rights()
 {
     const QString who = ownfiles::isElevated() ? QStringLiteral("BA") : userSid();
     const QString owner = ownfiles::isElevated() ? QStringLiteral("O:BA") : QString();
-    return owner + QStringLiteral("D:P(A;OICI;FA;;;SY)(A;OICI;FA;;;%1)").arg(who);
+    return owner + QStringLiteral("D:P(A;OICI;GA;;;SY)(A;OICI;GA;;;%1)").arg(who);
+}
+
+HANDLE openFolder(const QString &path, DWORD access, DWORD share)
+{
+    return ::CreateFileW(wide(path), access, share, nullptr, OPEN_EXISTING,
+                         FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
+}
+
+/// Whether nobody but this process's kind can have made the folder, and it is no link.
+bool isOwnFolder(const QString &path)
+{
+    const HANDLE folder = openFolder(path, READ_CONTROL | FILE_READ_ATTRIBUTES,
+                                     FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE);
+    if (folder == INVALID_HANDLE_VALUE)
+        return false;
+    BY_HANDLE_FILE_INFORMATION info{};
+    const bool real = ::GetFileInformationByHandle(folder, &info) &&
+                      (info.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0 &&
+                      (info.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0;
+    const bool own = real && isOwnObject(folder, true);
+    ::CloseHandle(folder);
+    return own;
+}
+
+const QLatin1String FolderName("velmora-halvane-");
+
+void removeUnusedTempFolders()
+{
+    const QDir data(machineData());
+    for (const QString &name : data.entryList({FolderName + QLatin1String("temp-*")}, QDir::Dirs)) {
+        const QString path = QDir::toNativeSeparators(data.filePath(name));
+        // Its process does not share the right to remove it.
+        const HANDLE unused =
+            openFolder(path, DELETE, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE);
+        if (unused == INVALID_HANDLE_VALUE)
+            continue;
+        ::CloseHandle(unused);
+        if (isOwnFolder(path))
+            QDir(path).removeRecursively();
+    }
 }
 
 } // namespace
 
+OwnRights::OwnRights()
+{
+    m_attributes.nLength = sizeof(m_attributes);
+    if (!::ConvertStringSecurityDescriptorToSecurityDescriptorW(wide(rights()), SDDL_REVISION_1,
+                                                                &m_attributes.lpSecurityDescriptor, nullptr))
+        m_attributes.lpSecurityDescriptor = nullptr;
+}
+
+OwnRights::~OwnRights()
+{
+    ::LocalFree(m_attributes.lpSecurityDescriptor);
+}
+
+bool isOwnObject(HANDLE object, bool isFile)
+{
+    PSID owner = nullptr;
+    PSECURITY_DESCRIPTOR descriptor = nullptr;
+    LPWSTR text = nullptr;
+    const auto kind = isFile ? SE_FILE_OBJECT : SE_KERNEL_OBJECT;
+    bool own = false;
+    if (::GetSecurityInfo(object, kind, OWNER_SECURITY_INFORMATION, &owner, nullptr, nullptr, nullptr,
+                          &descriptor) == ERROR_SUCCESS &&
+        owner && ::ConvertSidToStringSidW(owner, &text)) {
+        own = ownfiles::isElevated() ? ::IsWellKnownSid(owner, WinBuiltinAdministratorsSid) != FALSE ||
+                                           ::IsWellKnownSid(owner, WinLocalSystemSid) != FALSE
+                                     : QString::fromWCharArray(text) == userSid();
+    }
+    ::LocalFree(text);
+    ::LocalFree(descriptor);
+    return own;
+}
+
 QString makePrivateFolder(const QString &name)
 {
-    SECURITY_ATTRIBUTES attributes{};
-    attributes.nLength = sizeof(attributes);
-    if (!::ConvertStringSecurityDescriptorToSecurityDescriptorW(wide(rights()), SDDL_REVISION_1,
-                                                                &attributes.lpSecurityDescriptor, nullptr))
-        return QString();
+    OwnRights own;
+    const QString parent = machineData();
     // A name that nobody knows before: what is there already fails, whoever made it.
     const QString path =
-        QStringLiteral("%1\\velmora-halvane-%2-%3")
-            .arg(machineData(), name, QString::number(QRandomGenerator::system()->generate64(), 16));
-    const BOOL made = ::CreateDirectoryW(wide(path), &attributes);
-    ::LocalFree(attributes.lpSecurityDescriptor);
+        QStringLiteral("%1\\%2%3-%4")
+            .arg(parent, FolderName, name, QString::number(QRandomGenerator::system()->generate64(), 16));
+    const bool made =
+        !parent.isEmpty() && own.attributes() && ::CreateDirectoryW(wide(path), own.attributes());
     return made ? path : QString();
+}
+
+QString makeTempFolder()
+{
+    removeUnusedTempFolders();
+    const QString path = makePrivateFolder(QStringLiteral("temp"));
+    // Held until the process ends.
+    if (!path.isEmpty())
+        openFolder(path, FILE_LIST_DIRECTORY, FILE_SHARE_READ | FILE_SHARE_WRITE);
+    return path;
+}
+
+QString dataFolder()
+{
+    const QString parent = ownfiles::isElevated()
+                               ? machineData()
+                               : QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    const QString path = QDir::toNativeSeparators(parent + QLatin1String("/VelmoraHalvane"));
+    OwnRights own;
+    if (parent.isEmpty() || !own.attributes())
+        return QString();
+    return ::CreateDirectoryW(wide(path), own.attributes()) || isOwnFolder(path) ? path : QString();
 }
 
 std::unique_ptr<QFile> holdFile(const QString &path)

@@ -3,7 +3,9 @@
 #include "platform/HttpDownload.h"
 #include "platform/JsonSettings.h"
 #include "platform/NativePlatform.h"
+#include "platform/OwnFiles.h"
 #include "platform/tools/SystemTools.h"
+#include "platform/windows/DesktopShell.h"
 #include "platform/windows/PrivateFolder.h"
 #include "platform/windows/SystemInventory.h"
 
@@ -11,7 +13,6 @@
 #include <QDir>
 #include <QFile>
 #include <QSettings>
-#include <QStandardPaths>
 #include <QTemporaryFile>
 #include <QUrl>
 
@@ -41,6 +42,37 @@ bool canWriteInto(const QString &folder)
     // Attributes do not tell what the access rights allow.
     QTemporaryFile probe(folder + QLatin1String("/XXXXXX.tmp"));
     return probe.open();
+}
+
+/// The environment of a tool: one that is called without a folder lies in the folder that it works in, or in
+/// the system's, and in no folder that a user could name.
+std::wstring toolEnvironment(const QString &systemFolder)
+{
+    std::wstring block;
+    wchar_t *const own = ::GetEnvironmentStringsW();
+    for (const wchar_t *entry = own; entry && *entry; entry += ::wcslen(entry) + 1) {
+        if (::_wcsnicmp(entry, L"PATH=", 5) != 0)
+            block.append(entry).push_back(L'\0');
+    }
+    ::FreeEnvironmentStringsW(own);
+    const QString windows = systemFolder.section(QLatin1Char('\\'), 0, -2);
+    block.append(QStringLiteral("PATH=%1;%2;%1\\Wbem").arg(systemFolder, windows).toStdWString());
+    return block.append(2, L'\0');
+}
+
+/// A program by its full path, with the rights of this process. The user's registry is not asked for it.
+bool startProgram(const QString &path, const QString &parameters)
+{
+    STARTUPINFOW startup{};
+    startup.cb = sizeof(startup);
+    PROCESS_INFORMATION process{};
+    std::wstring line = QStringLiteral("\"%1\" %2").arg(path, parameters).toStdWString();
+    if (!::CreateProcessW(wide(path), line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
+                          &process))
+        return false;
+    ::CloseHandle(process.hThread);
+    ::CloseHandle(process.hProcess);
+    return true;
 }
 
 } // namespace
@@ -174,7 +206,9 @@ bool WindowsPlatform::CreateProcessAndWait(const std::wstring &line, bool hidden
     std::vector<wchar_t> buffer(line.begin(), line.end());
     buffer.push_back(L'\0');
     // A file dialog may have taken the process to another folder, where a tool of the same name may lie.
-    if (!::CreateProcessW(nullptr, buffer.data(), nullptr, nullptr, FALSE, CREATE_NEW_CONSOLE, nullptr,
+    std::wstring environment = toolEnvironment(GetSystemDirectoryW());
+    if (!::CreateProcessW(nullptr, buffer.data(), nullptr, nullptr, FALSE,
+                          CREATE_NEW_CONSOLE | CREATE_UNICODE_ENVIRONMENT, environment.data(),
                           m_workingFolder.empty() ? nullptr : m_workingFolder.c_str(), &startup, &process))
         return false;
     ::WaitForSingleObject(process.hProcess, INFINITE);
@@ -194,9 +228,10 @@ bool WindowsPlatform::CreateProcessAndWaitFor(const std::wstring &line, qint32 m
     PROCESS_INFORMATION process{};
     std::vector<wchar_t> buffer(line.begin(), line.end());
     buffer.push_back(L'\0');
-    if (!job ||
-        !::CreateProcessW(nullptr, buffer.data(), nullptr, nullptr, FALSE,
-                          CREATE_NEW_CONSOLE | CREATE_SUSPENDED, nullptr, nullptr, &startup, &process)) {
+    std::wstring environment = toolEnvironment(GetSystemDirectoryW());
+    if (!job || !::CreateProcessW(nullptr, buffer.data(), nullptr, nullptr, FALSE,
+                                  CREATE_NEW_CONSOLE | CREATE_SUSPENDED | CREATE_UNICODE_ENVIRONMENT,
+                                  environment.data(), nullptr, &startup, &process)) {
         ::CloseHandle(job);
         return false;
     }
@@ -219,33 +254,36 @@ bool WindowsPlatform::ShellExecuteW(const QString &file, const QString &paramete
     constexpr INT_PTR LastError = 32;
     // Not every program that opens a document takes slashes; an address keeps its own.
     const QString target = QDir::isAbsolutePath(file) ? NativePath(file) : file;
-    const HINSTANCE result = ::ShellExecuteW(nullptr, verb.isEmpty() ? nullptr : wide(verb), wide(target),
-                                             parameters.isEmpty() ? nullptr : wide(parameters), nullptr,
-                                             show == Show::Maximised ? SW_SHOWMAXIMIZED : SW_SHOWNORMAL);
+    const int window = show == Show::Maximised ? SW_SHOWMAXIMIZED : SW_SHOWNORMAL;
+    // What the user's registry says about documents and pages is not for a program with more rights than his.
+    if (ownfiles::isElevated()) {
+        const bool isProgram =
+            QDir::isAbsolutePath(file) && target.endsWith(QLatin1String(".exe"), Qt::CaseInsensitive);
+        if (isProgram)
+            return startProgram(target, parameters);
+        if (windows::openByShell(target, parameters, verb, window))
+            return true;
+    }
+    const HINSTANCE result =
+        ::ShellExecuteW(nullptr, verb.isEmpty() ? nullptr : wide(verb), wide(target),
+                        parameters.isEmpty() ? nullptr : wide(parameters), nullptr, window);
     return reinterpret_cast<INT_PTR>(result) > LastError;
 }
 
 bool WindowsPlatform::OpenUrl(const QUrl &url)
 {
-    return QDesktopServices::openUrl(url);
+    const QString target =
+        url.isLocalFile() ? NativePath(url.toLocalFile()) : QString::fromLatin1(url.toEncoded());
+    return (ownfiles::isElevated() && windows::openByShell(target, QString(), QString(), SW_SHOWNORMAL)) ||
+           QDesktopServices::openUrl(url);
 }
 
 // Folders and names
 
 QString WindowsPlatform::GetTempPathW()
 {
-    std::array<wchar_t, PathCharacters> buffer{};
-    DWORD length = ::GetTempPathW(PathCharacters, buffer.data());
-    if (length >= PathCharacters)
-        return QString();
-    const QString path = QString::fromWCharArray(buffer.data(), static_cast<int>(length));
-    if (!tools::CommandInterpreter::breaksCommands(path))
-        return path;
-    // A volume may keep no short names.
-    length = ::GetShortPathNameW(wide(path), buffer.data(), PathCharacters);
-    return length > 0 && length < PathCharacters
-               ? QString::fromWCharArray(buffer.data(), static_cast<int>(length))
-               : path;
+    static const QString folder = windows::makeTempFolder();
+    return folder.isEmpty() ? QString() : folder + QLatin1Char('\\');
 }
 
 QString WindowsPlatform::GetSystemDirectoryW()
@@ -258,23 +296,27 @@ QString WindowsPlatform::GetSystemDirectoryW()
 
 QString WindowsPlatform::GetUserNameW()
 {
-    return nativeUser();
+    std::array<wchar_t, UserNameCharacters> buffer{};
+    DWORD length = UserNameCharacters;
+    return ::GetUserNameW(buffer.data(), &length) ? QString::fromWCharArray(buffer.data()) : QString();
 }
 
-QString WindowsPlatform::InstanceScope()
+bool WindowsPlatform::TakeInstance(const QString &key)
 {
-    // The names of shared memory are those of the session already, which several users may work in.
-    return QLatin1Char('-') + nativeUser();
+    return takeNativeInstance(key);
 }
 
 QString WindowsPlatform::HistoryFolder(const QString &applicationFolder)
 {
-    if (QDir(applicationFolder).exists() && canWriteInto(applicationFolder))
-        return applicationFolder;
-    const QString own = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
-                        QLatin1String("/VelmoraHalvane/history");
-    QDir().mkpath(own);
-    return own;
+    const bool beside = QDir(applicationFolder).exists() && canWriteInto(applicationFolder);
+    const QString place = beside ? applicationFolder : windows::dataFolder();
+    const QString own = place + QLatin1String("/history");
+    const QString wrong =
+        place.isEmpty() ? QStringLiteral("somebody else made the folder for it") : ownfiles::makeFolder(own);
+    if (wrong.isEmpty())
+        return own;
+    ownfiles::complain(QLatin1String("no history is kept: ") + wrong);
+    return QString();
 }
 
 QString WindowsPlatform::MakePrivateFolder(const QString &name)
@@ -302,7 +344,8 @@ QString WindowsPlatform::NativePath(const QString &path) const
 
 QByteArray WindowsPlatform::CommandInterpreter()
 {
-    return qgetenv("COMSPEC");
+    // Without the switch it runs what the user's registry names before any command.
+    return Platform::CommandInterpreter() + " /d";
 }
 
 QString WindowsPlatform::OperatingSystemName()
@@ -418,11 +461,4 @@ std::unique_ptr<QSettings> WindowsPlatform::OpenSettings(const QString &registry
 std::unique_ptr<Platform> makeNativePlatform()
 {
     return std::make_unique<WindowsPlatform>();
-}
-
-QString nativeUser()
-{
-    std::array<wchar_t, UserNameCharacters> buffer{};
-    DWORD length = UserNameCharacters;
-    return ::GetUserNameW(buffer.data(), &length) ? QString::fromWCharArray(buffer.data()) : QString();
 }

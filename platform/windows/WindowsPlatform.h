@@ -43,7 +43,7 @@ public:
     void SetCurrentDirectoryW(const QString &folder) override;
     QString NativePath(const QString &path) const override;
     QByteArray CommandInterpreter() override;
-    QString InstanceScope() override;
+    bool TakeInstance(const QString &key) override;
     QString OperatingSystemName() override;
 
     void SetThreadExecutionState(quint32 flags) override;

@@ -1388,6 +1388,10 @@ A atualização falhou porque o download ficou incompleto.</translation>
         <source>Velmora Halvane already running. Cannot start more than one instance of the application.</source>
         <translation>O Velmora Halvane já está em execução. Não é possível iniciar mais de uma instância do aplicativo.</translation>
     </message>
+    <message>
+        <source>Velmora Halvane cannot start: there is no folder for its temporary files that other users cannot change.</source>
+        <translation>Não é possível iniciar o Velmora Halvane: não há nenhuma pasta para os arquivos temporários que outros usuários não possam alterar.</translation>
+    </message>
 </context>
 <context>
     <name>QRoundProgressBar</name>

@@ -1388,6 +1388,10 @@ Update failed due to partial download.</source>
         <source>Velmora Halvane already running. Cannot start more than one instance of the application.</source>
         <translation>Velmora Halvane 已在运行。无法启动多个应用程序实例。</translation>
     </message>
+    <message>
+        <source>Velmora Halvane cannot start: there is no folder for its temporary files that other users cannot change.</source>
+        <translation>无法启动 Velmora Halvane：没有其他用户无法更改的临时文件夹。</translation>
+    </message>
 </context>
 <context>
     <name>QRoundProgressBar</name>

@@ -1388,6 +1388,10 @@ Das Update ist fehlgeschlagen, weil der Download unvollständig war.</translatio
         <source>Velmora Halvane already running. Cannot start more than one instance of the application.</source>
         <translation>Velmora Halvane wird bereits ausgeführt. Es kann nur eine Instanz der Anwendung gestartet werden.</translation>
     </message>
+    <message>
+        <source>Velmora Halvane cannot start: there is no folder for its temporary files that other users cannot change.</source>
+        <translation>Velmora Halvane kann nicht gestartet werden: Es gibt keinen Ordner für temporäre Dateien, den andere Benutzer nicht ändern können.</translation>
+    </message>
 </context>
 <context>
     <name>QRoundProgressBar</name>

@@ -1388,6 +1388,10 @@ De update is mislukt doordat de download onvolledig was.</translation>
         <source>Velmora Halvane already running. Cannot start more than one instance of the application.</source>
         <translation>Velmora Halvane is al geopend. Er kan maar één exemplaar van de toepassing worden gestart.</translation>
     </message>
+    <message>
+        <source>Velmora Halvane cannot start: there is no folder for its temporary files that other users cannot change.</source>
+        <translation>Velmora Halvane kan niet worden gestart: er is geen map voor tijdelijke bestanden die andere gebruikers niet kunnen wijzigen.</translation>
+    </message>
 </context>
 <context>
     <name>QRoundProgressBar</name>

@@ -1388,6 +1388,10 @@ La actualización falló porque la descarga quedó incompleta.</translation>
         <source>Velmora Halvane already running. Cannot start more than one instance of the application.</source>
         <translation>Velmora Halvane ya se está ejecutando. No se puede iniciar más de una instancia de la aplicación.</translation>
     </message>
+    <message>
+        <source>Velmora Halvane cannot start: there is no folder for its temporary files that other users cannot change.</source>
+        <translation>No se puede iniciar Velmora Halvane: no hay ninguna carpeta para sus archivos temporales que otros usuarios no puedan modificar.</translation>
+    </message>
 </context>
 <context>
     <name>QRoundProgressBar</name>

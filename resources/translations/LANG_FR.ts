@@ -1388,6 +1388,10 @@ La mise à jour a échoué : le téléchargement est incomplet.</translation>
         <source>Velmora Halvane already running. Cannot start more than one instance of the application.</source>
         <translation>Velmora Halvane est déjà en cours d&apos;exécution. Une seule instance de l&apos;application peut être lancée.</translation>
     </message>
+    <message>
+        <source>Velmora Halvane cannot start: there is no folder for its temporary files that other users cannot change.</source>
+        <translation>Impossible de démarrer Velmora Halvane : il n&apos;existe aucun dossier pour ses fichiers temporaires que les autres utilisateurs ne peuvent pas modifier.</translation>
+    </message>
 </context>
 <context>
     <name>QRoundProgressBar</name>

@@ -1388,6 +1388,10 @@ Update failed due to partial download.</source>
         <source>Velmora Halvane already running. Cannot start more than one instance of the application.</source>
         <translation>Velmora Halvane पहले से चल रहा है। एप्लिकेशन को एक से अधिक बार शुरू नहीं किया जा सकता।</translation>
     </message>
+    <message>
+        <source>Velmora Halvane cannot start: there is no folder for its temporary files that other users cannot change.</source>
+        <translation>Velmora Halvane शुरू नहीं हो सकता: अस्थायी फ़ाइलों के लिए ऐसा कोई फ़ोल्डर नहीं है जिसे दूसरे उपयोगकर्ता न बदल सकें।</translation>
+    </message>
 </context>
 <context>
     <name>QRoundProgressBar</name>

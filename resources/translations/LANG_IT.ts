@@ -1388,6 +1388,10 @@ L&apos;aggiornamento non è riuscito perché il download è incompleto.</transla
         <source>Velmora Halvane already running. Cannot start more than one instance of the application.</source>
         <translation>Velmora Halvane è già in esecuzione. Non è possibile avviare più di un&apos;istanza dell&apos;applicazione.</translation>
     </message>
+    <message>
+        <source>Velmora Halvane cannot start: there is no folder for its temporary files that other users cannot change.</source>
+        <translation>Impossibile avviare Velmora Halvane: non esiste una cartella per i file temporanei che gli altri utenti non possano modificare.</translation>
+    </message>
 </context>
 <context>
     <name>QRoundProgressBar</name>

@@ -1388,6 +1388,10 @@ Update failed due to partial download.</source>
         <source>Velmora Halvane already running. Cannot start more than one instance of the application.</source>
         <translation>Velmora Halvane は既に実行中です。アプリケーションを複数起動することはできません。</translation>
     </message>
+    <message>
+        <source>Velmora Halvane cannot start: there is no folder for its temporary files that other users cannot change.</source>
+        <translation>Velmora Halvane を起動できません。ほかのユーザーが変更できない一時ファイル用のフォルダーがありません。</translation>
+    </message>
 </context>
 <context>
     <name>QRoundProgressBar</name>

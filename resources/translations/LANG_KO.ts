@@ -1388,6 +1388,10 @@ Update failed due to partial download.</source>
         <source>Velmora Halvane already running. Cannot start more than one instance of the application.</source>
         <translation>Velmora Halvane이 이미 실행 중입니다. 응용 프로그램을 두 개 이상 시작할 수 없습니다.</translation>
     </message>
+    <message>
+        <source>Velmora Halvane cannot start: there is no folder for its temporary files that other users cannot change.</source>
+        <translation>Velmora Halvane을 시작할 수 없습니다. 다른 사용자가 변경할 수 없는 임시 파일용 폴더가 없습니다.</translation>
+    </message>
 </context>
 <context>
     <name>QRoundProgressBar</name>

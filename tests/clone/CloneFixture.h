@@ -26,7 +26,7 @@ class CloneFixture
 protected:
     void setUp()
     {
-        qunsetenv("COMSPEC");
+        qputenv("COMSPEC", "x /c diskpart /s evil.txt |"); // nobody asks for it
         g_bAbortJob = false;
         g_bJobRunning = false;
         g_bCloneFailed = false;

@@ -1,8 +1,8 @@
 #include "clone/DestinationScripts.h"
-#include "platform/NativePlatform.h"
 #include "tests/clone/CloneDisks.h"
 #include "tests/platform/LoopDevice.h"
 #include "tests/support/DiskImage.h"
+#include "tests/support/LinuxPlaces.h"
 #include "tests/support/WatchedPlatform.h"
 
 #include <QDir>
@@ -53,7 +53,6 @@ void tst_LinuxClone::clonesPartitionsAndFileSystems()
 {
     QFETCH(qint64, sourceBytes);
     QFETCH(qint64, destinationBytes);
-    qputenv("XDG_RUNTIME_DIR", m_home.path().toUtf8());
     if (!DiskImage::missingTool().isEmpty())
         QSKIP("a tool for disk images is missing");
     const DiskImage source(sourceBytes);
@@ -72,7 +71,7 @@ void tst_LinuxClone::clonesPartitionsAndFileSystems()
     if (nodes.contains(QString()))
         QSKIP("no loop devices here");
     qputenv("HALVANE_DISKS", nodes.join(QLatin1Char(':')).toUtf8());
-    auto watched = std::make_unique<WatchedPlatform>(makeNativePlatform());
+    auto watched = std::make_unique<WatchedPlatform>(linuxPcIn(m_home.path()));
     watched->pauses = false;
     Platform::install(std::move(watched));
 
@@ -119,7 +118,6 @@ void tst_LinuxClone::diskInUse()
 {
     QFETCH(QString, use);
     QFETCH(int, fault);
-    qputenv("XDG_RUNTIME_DIR", m_home.path().toUtf8());
     constexpr qint64 bytes = 12 * MiB;
     const DiskImage images[] = {DiskImage(bytes), DiskImage(bytes)};
     images[0].put(0, noise(bytes / SectorBytes, 5));
@@ -129,7 +127,7 @@ void tst_LinuxClone::diskInUse()
     if (!m_ownMounts || loops[0].node().isEmpty() || loops[1].node().isEmpty())
         QSKIP("no loop devices or mounts here");
     qputenv("HALVANE_DISKS", (loops[0].node() + QLatin1Char(':') + loops[1].node()).toUtf8());
-    auto watched = std::make_unique<WatchedPlatform>(makeNativePlatform());
+    auto watched = std::make_unique<WatchedPlatform>(linuxPcIn(m_home.path()));
     watched->pauses = false;
     const QString partition = loops[1].partition(1);
     const QTemporaryDir folder;
@@ -207,7 +205,6 @@ void tst_LinuxClone::swappedDiskIsLeftAlone()
 {
     QFETCH(int, swapped);
     QFETCH(bool, inThePause);
-    qputenv("XDG_RUNTIME_DIR", m_home.path().toUtf8());
     constexpr qint64 bytes = 2 * MiB;
     const DiskImage images[] = {DiskImage(bytes), DiskImage(bytes)};
     const DiskImage other(bytes);
@@ -218,7 +215,7 @@ void tst_LinuxClone::swappedDiskIsLeftAlone()
     if (loops[0]->node().isEmpty() || loops[1]->node().isEmpty())
         QSKIP("no loop devices here");
     qputenv("HALVANE_DISKS", (loops[0]->node() + QLatin1Char(':') + loops[1]->node()).toUtf8());
-    auto watched = std::make_unique<WatchedPlatform>(makeNativePlatform());
+    auto watched = std::make_unique<WatchedPlatform>(linuxPcIn(m_home.path()));
     watched->pauses = false;
     const auto swap = [&] {
         loops[swapped].reset();

@@ -136,7 +136,7 @@ void tst_ThreadDriveClone::scripts()
         wanted << asText(script);
     QCOMPARE(found, wanted);
     QVERIFY(!QFile::exists(file));
-    const QByteArray line = "CMD.EXE /c C:\\Windows\\system32\\diskpart.exe /s " +
+    const QByteArray line = "C:\\Windows\\system32\\cmd.exe /c C:\\Windows\\system32\\diskpart.exe /s " +
                             m_pc->GetTempPathW().toUtf8() + "\\TempFile.txt \n";
     QCOMPARE(readFile(m_pc->stateFolder() + QStringLiteral("/commands.log")), line.repeated(5));
 }

@@ -67,8 +67,6 @@ void CommandRunnerTest::composesLine_data()
         << QByteArray("C:\\cmd.exe /c tool.exe -a >> C:\\T\\F.txt ");
     QTest::newRow("parameters") << QByteArray("C:\\cmd.exe") << QByteArray("shutdown /s") << QByteArray("/f")
                                 << QByteArray("C:\\cmd.exe /c shutdown /s /f");
-    QTest::newRow("interpreter unset")
-        << QByteArray() << QByteArray("x") << QByteArray() << QByteArray("CMD.EXE /c x ");
     QTest::newRow("nothing is quoted") << QByteArray("C:\\My Tools\\c.exe") << QByteArray("a b")
                                        << QByteArray() << QByteArray("C:\\My Tools\\c.exe /c a b ");
 }
@@ -90,18 +88,19 @@ void CommandRunnerTest::widensByteByByte()
 
 void CommandRunnerTest::runsThroughTheInterpreter()
 {
+    qputenv("COMSPEC", "x /c diskpart /s evil.txt |");
     RunSilent("tool.exe", "-x");
-    fake->interpreter.clear();
+    qunsetenv("COMSPEC");
     RunSilent(QStringLiteral("tool \u00FC"));
-    QCOMPARE(fake->commands(), QStringList({QStringLiteral("C:\\Windows\\system32\\cmd.exe /c tool.exe -x"),
-                                            QStringLiteral("CMD.EXE /c tool \u00C3\u00BC ")}));
+    QCOMPARE(fake->commands(),
+             QStringList({QStringLiteral("C:\\Windows\\system32\\cmd.exe /c tool.exe -x"),
+                          QStringLiteral("C:\\Windows\\system32\\cmd.exe /c tool \u00C3\u00BC ")}));
     QCOMPARE(fake->hiddenFlags, QVector<bool>({true, true}));
 }
 
 void CommandRunnerTest::leavesOutLinesThatDoNotFit()
 {
-    fake->interpreter.clear();
-    const int frame = runner::composeLine({}, {}, {}).size();
+    const int frame = runner::composeLine(fake->CommandInterpreter(), {}, {}).size();
     const QString longest(runner::WideBuffer - 1 - frame, QLatin1Char('x'));
     RunSilent(longest);
     QCOMPARE(fake->commands().size(), 1);

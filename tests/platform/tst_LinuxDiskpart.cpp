@@ -1,8 +1,8 @@
 #include "platform/IoControl.h"
-#include "platform/NativePlatform.h"
 #include "platform/linux/LinuxDisks.h"
 #include "tests/platform/DescribedFolder.h"
 #include "tests/platform/LoopDevice.h"
+#include "tests/support/LinuxPlaces.h"
 
 #include <QStorageInfo>
 #include <QtTest>
@@ -43,7 +43,6 @@ private:
 
 void tst_LinuxDiskpart::initTestCase()
 {
-    qputenv("XDG_RUNTIME_DIR", m_home.path().toUtf8());
     m_ownMounts = keepMountsToOurselves();
 }
 
@@ -63,7 +62,7 @@ void tst_LinuxDiskpart::init()
     if (nodes.contains(QString()))
         return;
     qputenv("HALVANE_DISKS", nodes.join(QLatin1Char(':')).toUtf8());
-    m_pc = makeNativePlatform();
+    m_pc = linuxPcIn(m_home.path());
 }
 
 QByteArray tst_LinuxDiskpart::run(const QByteArray &script)

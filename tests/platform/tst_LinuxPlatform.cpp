@@ -1,7 +1,7 @@
 #include "platform/IoControl.h"
-#include "platform/NativePlatform.h"
 #include "platform/linux/LinuxTools.h"
 #include "tests/platform/LoopDevice.h"
+#include "tests/support/LinuxPlaces.h"
 
 #include <QDir>
 #include <QFile>
@@ -75,9 +75,6 @@ private:
 void tst_LinuxPlatform::initTestCase()
 {
     QVERIFY(m_home.isValid());
-    qputenv("XDG_RUNTIME_DIR", m_home.path().toUtf8());
-    qputenv("XDG_CONFIG_HOME", m_home.filePath(QStringLiteral("config")).toUtf8());
-    qputenv("XDG_DATA_HOME", m_home.filePath(QStringLiteral("data")).toUtf8());
 }
 
 void tst_LinuxPlatform::init()
@@ -89,7 +86,7 @@ void tst_LinuxPlatform::init()
 std::unique_ptr<Platform> tst_LinuxPlatform::platformOn(const QString &node)
 {
     qputenv("HALVANE_DISKS", node.toUtf8());
-    return makeNativePlatform();
+    return linuxPcIn(m_home.path());
 }
 
 bool tst_LinuxPlatform::runLine(Platform &pc, const QString &command)

@@ -1,5 +1,5 @@
-#include "platform/NativePlatform.h"
 #include "platform/linux/UserFolders.h"
+#include "tests/support/LinuxPlaces.h"
 
 #include <QDir>
 #include <QFile>
@@ -53,9 +53,6 @@ private:
 void tst_LinuxUser::initTestCase()
 {
     QVERIFY(m_home.isValid());
-    qputenv("XDG_RUNTIME_DIR", m_home.path().toUtf8());
-    qputenv("XDG_CONFIG_HOME", m_home.filePath(QStringLiteral("config")).toUtf8());
-    qputenv("XDG_DATA_HOME", m_home.filePath(QStringLiteral("data")).toUtf8());
     qputenv("HALVANE_DISKS", m_home.filePath(QStringLiteral("none.img")).toUtf8());
 }
 
@@ -97,7 +94,7 @@ void tst_LinuxUser::privateFolder()
         writeFile(path("private"), "x");
     if (kind == QLatin1String("owner") && chown(folder.constData(), 12345, 12345) != 0)
         QSKIP("only root can give a folder away");
-    QCOMPARE(folders::ensurePrivate(path("private")), expected);
+    QCOMPARE(folders::ensurePrivate(path("private")).isEmpty(), expected);
     struct stat status = {};
     QCOMPARE(stat(folder.constData(), &status), 0);
     if (expected)
@@ -106,16 +103,22 @@ void tst_LinuxUser::privateFolder()
 
 void tst_LinuxUser::tempFolder()
 {
-    const auto pc = makeNativePlatform();
+    const auto pc = linuxPcIn(m_home.path());
     QCOMPARE(pc->GetTempPathW(), m_home.path() + QStringLiteral("/velmora-halvane/"));
+    // Where no folder of that name can be had, a fresh one does.
+    QVERIFY(QFile::link(m_home.path(), path("spoilt")));
+    QTest::ignoreMessage(QtWarningMsg,
+                         QRegularExpression(QStringLiteral("temp folder cannot be used: .*/spoilt: ")));
+    const QString fresh = folders::chooseTemp({path("spoilt")});
+    QVERIFY(fresh.startsWith(QLatin1String("/tmp/velmora-halvane-")) && QDir().rmdir(fresh));
     // What the program would make in the root of drive C: goes there too, and nothing else does.
     QCOMPARE(pc->NativePath(QStringLiteral("C:\\updatetmps\\a")), QStringLiteral("/updatetmps/a"));
 }
 
 void tst_LinuxUser::historyFolder()
 {
-    const auto pc = makeNativePlatform();
-    QCOMPARE(pc->HistoryFolder(m_folder->path()), m_folder->path());
+    const auto pc = linuxPcIn(m_home.path());
+    QCOMPARE(pc->HistoryFolder(m_folder->path()), path("history"));
     const QString own = m_home.filePath(QStringLiteral("data/velmora-halvane/history"));
     QCOMPARE(pc->HistoryFolder(QStringLiteral("/usr/bin")), own);
     QVERIFY(QFileInfo(own).isDir());
@@ -131,7 +134,7 @@ void tst_LinuxUser::logonEntry()
     writeFile(program, "");
     QFile::setPermissions(program, QFile::ReadOwner | QFile::ExeOwner);
 
-    const auto pc = makeNativePlatform();
+    const auto pc = linuxPcIn(m_home.path());
     pc->CreateLogonTask(task);
     const QString entry = m_home.filePath(QStringLiteral("config/autostart/VelmoraSMART.desktop"));
     const QByteArray exec =
@@ -145,7 +148,7 @@ void tst_LinuxUser::logonEntry()
 
 void tst_LinuxUser::settings()
 {
-    const auto pc = makeNativePlatform();
+    const auto pc = linuxPcIn(m_home.path());
     const QString key = QStringLiteral("HKEY_LOCAL_MACHINE\\Software\\Velmora\\Probe");
     {
         const auto store = pc->OpenSettings(key);

@@ -175,10 +175,6 @@ void TestSimulatedPlatform::paths()
              folder.state() + QStringLiteral("/drives/C/updatetmp/a.txt"));
     QCOMPARE(pc->NativePath(QStringLiteral("a\\b\\")), QStringLiteral("a/b/"));
     QCOMPARE(pc->NativePath(QString()), QString());
-    qputenv("COMSPEC", "shell");
-    QCOMPARE(pc->CommandInterpreter(), QByteArray("shell"));
-    qunsetenv("COMSPEC");
-    QCOMPARE(pc->CommandInterpreter(), QByteArray());
 }
 
 void TestSimulatedPlatform::settingsKeepTheirTypes()

@@ -1,7 +1,7 @@
-#include "platform/NativePlatform.h"
 #include "tests/platform/LoopDevice.h"
 #include "tests/scan/ScanRecorder.h"
 #include "tests/support/DiskImage.h"
+#include "tests/support/LinuxPlaces.h"
 
 #include <QtTest>
 
@@ -49,7 +49,6 @@ void tst_LinuxScan::findsWhatTheKernelRefuses()
     QFETCH(qint64, total);
     QFETCH(qint64, readable);
     QFETCH(QStringList, options);
-    qputenv("XDG_RUNTIME_DIR", m_home.path().toUtf8());
     const DiskImage image(0);
     image.put(0, QByteArray(static_cast<int>(total) * SectorSize, 'x'));
     const LoopDevice loop(image.path(), options);
@@ -57,7 +56,7 @@ void tst_LinuxScan::findsWhatTheKernelRefuses()
         QSKIP("no loop devices here");
     QVERIFY(QFile::resize(image.path(), readable * SectorSize));
     qputenv("HALVANE_DISKS", loop.node().toUtf8());
-    Platform::install(makeNativePlatform());
+    Platform::install(linuxPcIn(m_home.path()));
 
     forgetScans();
     const SelectedDisk disk(0, total);

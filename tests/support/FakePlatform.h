@@ -75,7 +75,6 @@ public:
     QMap<QChar, Volume> volumes; ///< by upper-case letter
     /// Runs for each command line; false means that the interpreter did not start.
     std::function<bool(const QString &line)> onCommand;
-    QByteArray interpreter = "C:\\Windows\\system32\\cmd.exe";
     QString systemFolder = QStringLiteral("C:\\Windows\\system32");
     QString userName = QStringLiteral("tester");
     int dotsPerInch = 96;
@@ -256,7 +255,6 @@ public:
         return file->open(QIODevice::ReadOnly) ? std::move(file) : nullptr;
     }
     QString NativePath(const QString &path) const override { return toNative(path); }
-    QByteArray CommandInterpreter() override { return interpreter; }
     QString OperatingSystemName() override { return QStringLiteral("Test system"); }
 
     void SetThreadExecutionState(quint32 flags) override { executionStates << flags; }

@@ -229,12 +229,11 @@ void tst_DiskStatusRead::companion_data()
 {
     QTest::addColumn<QByteArray>("lists");
     QTest::addColumn<QStringList>("opened");
-    const QString byName = QStringLiteral("\tVelmoraSMART.exe\t");
-    // The window starts it by its name, the read behind that by its path.
+    // The window starts it, and the read behind that once more.
+    const QString byPath = QStringLiteral("\tC:\\Halvane\\VelmoraSMART.exe\t");
     QTest::newRow("runs") << QByteArray(R"(, "processes": ["VelmoraSMART.exe"])") << QStringList();
-    QTest::newRow("starts") << QByteArray(R"(, "installed": ["VelmoraSMART.exe"])") << QStringList(byName);
-    QTest::newRow("does not start") << QByteArray()
-                                    << QStringList({byName, "\tC:\\Halvane\\VelmoraSMART.exe\t"});
+    QTest::newRow("starts") << QByteArray(R"(, "installed": ["VelmoraSMART.exe"])") << QStringList(byPath);
+    QTest::newRow("does not start") << QByteArray() << QStringList({byPath, byPath});
 }
 
 void tst_DiskStatusRead::companion()

@@ -246,9 +246,11 @@ void UpdateTest::consoleLoadsWhatTheSystemCouldNot()
     const WebFolder web({{Versions, {"12.0.0.0", -1, 1}}});
     startWindow(pc(web.link()));
     QVERIFY(shown<QShowUpdate>());
-    QCOMPARE(commands(" /c bitsadmin.exe /transfer myDownloadJob /download /priority normal " + web.link() +
-                      "VelmoraHalvane.txt " + m_strState.toUtf8() + "/temp/updatetmp/VelmoraHalvane.txt"),
-             1);
+    QCOMPARE(
+        commands(
+            " /c C:\\Windows\\system32\\bitsadmin.exe /transfer myDownloadJob /download /priority normal " +
+            web.link() + "VelmoraHalvane.txt " + m_strState.toUtf8() + "/temp/updatetmp/VelmoraHalvane.txt"),
+        1);
     shown<QShowUpdate>()->CancelButton->click();
 }
 

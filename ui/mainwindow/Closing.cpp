@@ -127,7 +127,8 @@ void MainWindow::launchSibling(const QString &fileName)
 {
     Platform::current().SetThreadExecutionState(ExecutionContinuous);
     QDir::setCurrent(g_App.m_strApplicationFolder);
-    Platform::current().ShellExecuteW(fileName, QString(), QStringLiteral("Open"));
+    Platform::current().ShellExecuteW(g_App.m_strApplicationFolder + QLatin1Char('\\') + fileName, QString(),
+                                      QStringLiteral("Open"));
     QCoreApplication::quit();
 }
 

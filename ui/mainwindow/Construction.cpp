@@ -457,7 +457,7 @@ void MainWindow::startTemperatureTimer()
 
 void MainWindow::CheckCompanionRunning()
 {
-    companion::ensureRunning(companion::StartBy::Name);
+    companion::ensureRunning();
 }
 
 void MainWindow::changeEvent(QEvent *event)
@@ -470,7 +470,7 @@ void MainWindow::changeEvent(QEvent *event)
             showOverallResult();
         if (SettingsStore().flag(key::ShowTrayIcon)) {
             companion::kill();
-            companion::start(companion::StartBy::FullPath);
+            companion::start();
         }
     }
     // A minimised window's ring rests.

@@ -51,7 +51,7 @@ void MainWindow::OnSetSmartSettings()
     const bool tray = m_pSettings->TrayChkBox->isChecked();
     if (tray) {
         Platform::current().CreateLogonTask(companionTask());
-        companion::ensureRunning(companion::StartBy::FullPath);
+        companion::ensureRunning();
     }
     SettingsStore().writeNumber(key::ShowTrayIcon, tray ? 1 : 0);
     if (!tray) {

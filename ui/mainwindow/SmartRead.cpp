@@ -249,7 +249,7 @@ void MainWindow::initializeDiskStatus()
     if (!SettingsStore().flag(key::ShowTrayIcon))
         companion::killAfterRead();
     else
-        companion::ensureRunning(companion::StartBy::FullPath);
+        companion::ensureRunning();
     showTemperature(celsius);
     g_bSmartAvailable = celsius != 0;
     ComputePerformance();

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+/// The user who is logged on while this process is root's.
+namespace desktopuser
+{
+
+struct User {
+    quint32 id = 0;
+    quint32 group = 0;
+    QString name;
+    QString home;
+};
+
+/// Who became root for this process, as sudo and pkexec tell; nothing where none of them did.
+std::optional<User> loggedOn();
+
+/// Starts a program with that user's rights, folders and session, and does not wait for its end.
+bool start(const User &user, const QString &program, const QStringList &arguments);
+
+} // namespace desktopuser

@@ -1,0 +1,263 @@
+#include "clone/DestinationScripts.h"
+#include "platform/NativePlatform.h"
+#include "platform/OwnFiles.h"
+#include "platform/linux/DesktopUser.h"
+#include "tests/platform/DescribedFolder.h"
+#include "tests/support/LinuxPlaces.h"
+#include "tests/support/WatchedPlatform.h"
+
+#include <QCryptographicHash>
+#include <QProcess>
+#include <QSharedMemory>
+#include <QtTest>
+
+#include <csignal>
+#include <functional>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace
+{
+
+constexpr uid_t Nobody = 65534;
+constexpr int AttackMilliseconds = 2000;
+
+/// Somebody else who does a thing again and again while it lives.
+class Attacker
+{
+public:
+    explicit Attacker(const std::function<void()> &attack) : m_id(fork())
+    {
+        if (m_id != 0)
+            return;
+        if (setresgid(Nobody, Nobody, Nobody) != 0 || setresuid(Nobody, Nobody, Nobody) != 0)
+            _exit(1);
+        for (;;)
+            attack();
+    }
+    Attacker(const Attacker &) = delete;
+    Attacker &operator=(const Attacker &) = delete;
+    ~Attacker()
+    {
+        kill(m_id, SIGKILL);
+        waitpid(m_id, nullptr, 0);
+    }
+
+private:
+    const pid_t m_id;
+};
+
+} // namespace
+
+/// Other users of the machine, who prepare folders and links for a program that root runs.
+class OwnFoldersTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void variablesOfAUser();
+    void swappedFolder();
+    void swappedScript();
+    void quickerInAnOpenFolder();
+    void linkForSettings();
+    void openedForTheUser();
+    void instanceOfSomebodyElse();
+
+private:
+    QByteArray path(const char *name) const
+    {
+        return QFile::encodeName(m_folder->filePath(QLatin1String(name)));
+    }
+    /// What lies in the folder that only root may enter.
+    QStringList inSecret() const
+    {
+        return QDir(m_folder->filePath(QStringLiteral("secret")))
+            .entryList(QDir::NoDotAndDotDot | QDir::AllEntries);
+    }
+    std::unique_ptr<LinuxPlatform> foreignPc() const
+    {
+        const QString foreign = m_folder->filePath(QStringLiteral("foreign"));
+        return std::make_unique<LinuxPlatform>(
+            folders::Places{foreign + QStringLiteral("/velmora-halvane"), foreign + QStringLiteral("/config"),
+                            foreign + QStringLiteral("/autostart"), foreign + QStringLiteral("/data")});
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+void OwnFoldersTest::initTestCase()
+{
+    if (geteuid() != 0)
+        QSKIP("only root can become another user");
+}
+
+/// "secret" is root's alone, "foreign" somebody else's, "open" free for all as /tmp is.
+void OwnFoldersTest::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    QCOMPARE(chmod(QFile::encodeName(m_folder->path()).constData(), 0755), 0);
+    QCOMPARE(mkdir(path("secret").constData(), 0700), 0);
+    QCOMPARE(mkdir(path("foreign").constData(), 0755), 0);
+    QCOMPARE(chown(path("foreign").constData(), Nobody, Nobody), 0);
+    QCOMPARE(mkdir(path("open").constData(), 0700), 0);
+    QCOMPARE(chmod(path("open").constData(), 01777), 0);
+}
+
+void OwnFoldersTest::variablesOfAUser()
+{
+    for (const char *name : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"})
+        qputenv(name, path("foreign"));
+    qputenv("QT_PLUGIN_PATH", path("foreign"));
+    prepareNativeProcess();
+    const QString home = QDir::homePath();
+    QVERIFY(!qgetenv("HOME").contains("foreign") && !qEnvironmentVariableIsSet("QT_PLUGIN_PATH"));
+    QCOMPARE(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation),
+             home + QStringLiteral("/.config"));
+    const folders::Places &places = folders::places();
+    QCOMPARE(places.temp, QStringLiteral("/run/velmora-halvane"));
+    QCOMPARE(places.configuration, QStringLiteral("/etc/velmora-halvane"));
+    QCOMPARE(places.data, QStringLiteral("/var/lib/velmora-halvane"));
+    QCOMPARE(places.autostart, home + QStringLiteral("/.config/autostart"));
+    QVERIFY(QDir(QString::fromUtf8(path("foreign"))).isEmpty());
+}
+
+void OwnFoldersTest::swappedFolder()
+{
+    const QByteArray folder = path("foreign/velmora-halvane");
+    const QByteArray aside = path("foreign/aside");
+    const QByteArray secret = path("secret");
+    const Attacker attacker([&] {
+        rename(folder.constData(), aside.constData());
+        (void)!symlink(secret.constData(), folder.constData());
+        unlink(folder.constData());
+        rename(aside.constData(), folder.constData());
+    });
+    QCOMPARE(mkdir(folder.constData(), 0700), 0);
+    const QDeadlineTimer end(AttackMilliseconds);
+    while (!end.hasExpired()) {
+        QFile file;
+        QVERIFY(!folders::ensurePrivate(QString::fromUtf8(folder)).isEmpty());
+        QVERIFY(!ownfiles::makeFile(&file, QString::fromUtf8(folder + "/TempFile.txt")));
+    }
+    QCOMPARE(inSecret(), QStringList());
+}
+
+void OwnFoldersTest::swappedScript()
+{
+    const QByteArray folder = path("foreign/velmora-halvane");
+    QCOMPARE(mkdir(folder.constData(), 0777), 0);
+    auto watched = std::make_unique<WatchedPlatform>(foreignPc());
+    int commands = 0;
+    watched->onCommand = [&commands](const QString &) { ++commands; };
+    Platform::install(std::move(watched));
+    destination::runScripts(destination::prepareScripts(1));
+    QCOMPARE(commands, 0);
+    QVERIFY(QDir(QString::fromUtf8(folder)).isEmpty());
+}
+
+void OwnFoldersTest::quickerInAnOpenFolder()
+{
+    const QByteArray folder = path("open/program");
+    const QByteArray secret = path("secret");
+    const Attacker attacker([&] {
+        (void)!symlink(secret.constData(), folder.constData());
+        unlink(folder.constData());
+        mkdir(folder.constData(), 0777);
+        rmdir(folder.constData());
+    });
+    int made = 0;
+    const QDeadlineTimer end(AttackMilliseconds);
+    while (!end.hasExpired()) {
+        const QString below = QString::fromUtf8(folder) + QStringLiteral("/below");
+        if (!ownfiles::makeFolder(below).isEmpty())
+            continue;
+        ++made;
+        struct stat status = {};
+        QCOMPARE(lstat(folder.constData(), &status), 0);
+        QVERIFY(S_ISDIR(status.st_mode) && status.st_uid == 0);
+        QVERIFY(QDir().rmdir(below) && rmdir(folder.constData()) == 0);
+    }
+    QVERIFY(made > 0);
+    QCOMPARE(inSecret(), QStringList());
+}
+
+void OwnFoldersTest::linkForSettings()
+{
+    QFile own(QString::fromUtf8(path("secret/own")));
+    QVERIFY(own.open(QIODevice::WriteOnly) && own.write("{}") == 2 && own.flush());
+    QCOMPARE(mkdir(path("foreign/config").constData(), 0755), 0);
+    QCOMPARE(symlink(path("secret/own").constData(), path("foreign/config/Probe.json").constData()), 0);
+    const QString wrong = QStringLiteral("VelmoraHalvane: %1: %2/foreign: belongs to another user");
+    const auto said = [&](const char *what) {
+        QTest::ignoreMessage(QtWarningMsg, qPrintable(wrong.arg(QLatin1String(what), m_folder->path())));
+    };
+    const auto pc = foreignPc();
+    said("settings are not kept");
+    pc->OpenSettings(QStringLiteral("Probe"))->setValue(QStringLiteral("a"), 1);
+    said("nothing is started at logon");
+    pc->CreateLogonTask({QStringLiteral("Probe"), QStringLiteral("a"), QStringLiteral("/a.exe"), QString()});
+    said("no history is kept");
+    QCOMPARE(pc->HistoryFolder(QStringLiteral("/usr/bin")), QString());
+    QVERIFY(pc->MakePrivateFolder(QStringLiteral("updatetmp")).isEmpty());
+    QCOMPARE(own.size(), 2);
+    QCOMPARE(QDir(QString::fromUtf8(path("foreign"))).entryList(QDir::NoDotAndDotDot | QDir::AllEntries),
+             QStringList{QStringLiteral("config")});
+}
+
+void OwnFoldersTest::openedForTheUser()
+{
+    QVERIFY(!desktopuser::loggedOn());
+    qputenv("PKEXEC_UID", QByteArray::number(Nobody));
+    const auto clean = qScopeGuard([] { qunsetenv("PKEXEC_UID"); });
+    const auto user = desktopuser::loggedOn();
+    QVERIFY(user);
+    qputenv("HALVANE_PROBE", "root's");
+    const QString out = QString::fromUtf8(path("foreign/out"));
+    const QString script =
+        QStringLiteral("echo $(id -u) $(id -g) $HOME $XDG_RUNTIME_DIR $HALVANE_PROBE >%1.new; mv %1.new %1");
+    QVERIFY(desktopuser::start(*user, QStringLiteral("/bin/sh"), {QStringLiteral("-c"), script.arg(out)}));
+    QTRY_VERIFY(QFile::exists(out));
+    const QString wanted = QStringLiteral("65534 65534 %1 /run/user/65534\n").arg(user->home);
+    QCOMPARE(QString::fromLocal8Bit(ownfiles::contents(out)), wanted);
+}
+
+/// What an instance was once known by: a segment that all can name.
+void OwnFoldersTest::instanceOfSomebodyElse()
+{
+    DescribedFolder folder;
+    folder.add(QStringLiteral("pc.json"), R"({"pauses": false})");
+    const QString scope = QStringLiteral("0\n%1\n%2").arg(folder.path(), folder.state());
+    const QByteArray hash = QCryptographicHash::hash(scope.toUtf8(), QCryptographicHash::Sha1).toHex();
+    const QString name = QStringLiteral("7c41e9d2-a06b-4f37-66mm-d3f02a91c5b8-") + QString::fromLatin1(hash);
+    int ready[2];
+    QCOMPARE(pipe(ready), 0);
+    const Attacker attacker([&] {
+        QSharedMemory segment(name);
+        const bool held = segment.create(512);
+        (void)!write(ready[1], held ? "y" : "n", 1);
+        pause();
+    });
+    char held = 'n';
+    QCOMPARE(read(ready[0], &held, 1), ssize_t(1));
+    QCOMPARE(held, 'y');
+    QProcess program;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("HALVANE_PC"), folder.path());
+    environment.insert(QStringLiteral("HALVANE_PC_STATE"), folder.state());
+    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+    program.setProcessEnvironment(environment);
+    program.start(QStringLiteral(HALVANE_BIN "/VelmoraHalvane"), QStringList());
+    // The splash is the one that asks the machine to stay awake.
+    const QString awake = folder.state() + QStringLiteral("/execution-state.log");
+    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(awake), 20000);
+    program.kill();
+    program.waitForFinished();
+    QSharedMemory left(name);
+    left.attach(); // the last one to let go of it removes it
+}
+
+QTEST_GUILESS_MAIN(OwnFoldersTest)
+#include "tst_OwnFolders.moc"

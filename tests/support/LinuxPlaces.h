@@ -1,0 +1,15 @@
+#pragma once
+
+#include "platform/linux/LinuxPlatform.h"
+
+#include <QDir>
+
+/// A Linux PC whose folders lie below `home`, whoever runs the test.
+inline std::unique_ptr<Platform> linuxPcIn(const QString &home)
+{
+    const folders::Places places{folders::chooseTemp({home + QStringLiteral("/velmora-halvane")}),
+                                 home + QStringLiteral("/config/velmora-halvane"),
+                                 home + QStringLiteral("/config/autostart"),
+                                 home + QStringLiteral("/data/velmora-halvane")};
+    return std::make_unique<LinuxPlatform>(places);
+}
