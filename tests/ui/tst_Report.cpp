@@ -49,13 +49,16 @@ void tst_Report::init()
     ata.replace("Device Model:     ST31500341AS", "Device Model:     ST/500 AS");
     addReport("ata.txt", ata);
     addReport("nvme.txt", sample("nvme-win-samsung-970evo-1tb.txt"));
+    addReport("failed.txt", sample("ata-seagate-st31500341as-failed.txt"));
     addReport("log.txt", "# 1  Extended offline    Completed: read failure   90%   1587   8\n\n");
     startPc(R"({"pauses": false, "settings": {"TempValue": "C", "FirstTimeLaunch": 1}, "disks": [
         {"number": 0, "model": "A ATA Device", "interface": "IDE", "sectors": 2097152,
          "report": "ata.txt", "selfTestLog": "log.txt"},
         {"number": 1, "model": "B Device", "interface": "SCSI", "sectors": 2097152,
          "report": "nvme.txt", "selfTestLog": "log.txt"},
-        {"number": 2, "model": "C Device", "interface": "SCSI", "sectors": 2097152}]})");
+        {"number": 2, "model": "C Device", "interface": "SCSI", "sectors": 2097152},
+        {"number": 3, "model": "D ATA Device", "interface": "IDE", "sectors": 2097152,
+         "report": "failed.txt"}]})");
     makeWindow();
     waitForRead();
     press("SmartStatusButton");
@@ -97,8 +100,13 @@ void tst_Report::report_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<int>("logsRead");
     QTest::addColumn<QString>("lastTest");
-    QTest::newRow("ATA") << 0 << "Velmora Smart Report ST-500 AS" << 1 << "Failed by Read Element";
-    QTest::newRow("NVMe") << 1 << "Velmora Smart Report Samsung SSD 970 EVO 1TB" << 0 << "";
+    QTest::addColumn<QString>("health");
+    QTest::newRow("ATA") << 0 << "Velmora Smart Report ST-500 AS" << 1 << "Failed by Read Element"
+                         << "71%";
+    QTest::newRow("NVMe") << 1 << "Velmora Smart Report Samsung SSD 970 EVO 1TB" << 0 << ""
+                          << "100%";
+    QTest::newRow("failing") << 3 << "Velmora Smart Report ST31500341AS" << 1 << ""
+                             << "30%";
 }
 
 void tst_Report::report()
@@ -115,6 +123,7 @@ void tst_Report::report()
     QVERIFY(DescribedFolder::contents(path).startsWith("%PDF"));
     QTEST(commands(" -l selftest "), "logsRead");
     QTEST(g_strLastTestResult, "lastTest");
+    QTEST(g_strHealthText, "health");
     QCOMPARE(logLines("opened.log"),
              QList<QByteArray>{"url\t" + QUrl::fromLocalFile(path).toEncoded() + '\t'});
 }

@@ -202,15 +202,16 @@ void MainWindow::takeReportIn()
 void MainWindow::initializeSmartStatus()
 {
     takeReportIn();
+    const int celsius = GetDiskTemperature();
+    // A drive that fails its own check has attributes to be rated by, too.
+    if (celsius != 0)
+        g_bSmartAvailable = true;
     ComputePerformance();
     ComputeHealth();
-    if (g_strRunMode == QLatin1String("Schedular"))
-        g_bSmartAvailable = false;
 
     LookUpDisk(DriveCombobox->currentIndex());
     const DiskNode *node = g_App.m_pCurrentDisk;
     const WmicDiskRecord *record = node ? findWmicDisk(node->nId) : nullptr;
-    const int celsius = GetDiskTemperature();
     // The report that may be saved from here tells it.
     g_strTemperatureText = loadTemperatureText(celsius, SettingsStore().text(key::TempValue));
     g_bSmartAvailable = celsius != 0;
