@@ -20,6 +20,7 @@ void restartClock()
     g_nMinuteTicks = 0;
     g_nElapsedSeconds = 0;
     g_nSilentTicks = 0;
+    g_nElapsedDays = 0;
     g_timeElapsed = QTime(0, 0);
 }
 
@@ -52,6 +53,14 @@ void tickClock()
         g_nMinuteTicks = 0;
     }
     g_timeElapsed = g_timeElapsed.addSecs(1);
+    if (g_timeElapsed == QTime(0, 0))
+        ++g_nElapsedDays;
+}
+
+QString elapsedText()
+{
+    return QStringLiteral("%1:").arg(24 * g_nElapsedDays + g_timeElapsed.hour(), 2, 10, QLatin1Char('0')) +
+           g_timeElapsed.toString(QStringLiteral("mm:ss"));
 }
 
 } // namespace selftest

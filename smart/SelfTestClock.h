@@ -19,7 +19,10 @@ bool takeMinute();
 /// was reset answers again, one that keeps silent has gone.
 bool passesOver(bool found);
 
-/// One tick. Behind the limit only the elapsed time runs on. It starts again at 24 hours.
+/// One tick. Behind the limit only the elapsed time runs on.
 void tickClock();
+
+/// "05:07:09"; an extended test of a large disk takes more than a day: "26:07:09".
+QString elapsedText();
 
 } // namespace selftest

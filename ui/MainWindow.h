@@ -334,7 +334,7 @@ private:
 
     /// The screen asked for while a job's results are open.
     std::array<bool, navigation::ScreenCount> m_abSwitchTarget{};
-    ChosenDisk m_scannedDisk;           ///< whose results show while g_bScanResultOpen
+    ChosenDisk m_scannedDisk;           ///< whose results show: of a scan, or of a self-test
     ClonePair m_askedPair;              ///< named in the question before a clone
     QHash<int, int> m_hashComboToDisk;  ///< combo index to DiskNode::nId
     QList<QAction *> m_listHeldEntries; ///< menu entries that a scan made grey

@@ -30,6 +30,7 @@ private slots:
     void everyOtherEnd();
     void silence();
     void notDuringARefresh();
+    void keepsItsDisk();
     void leftRunning();
     void overAndOver();
 
@@ -39,7 +40,7 @@ private:
         return DescribedFolder::contents(QStringLiteral(HALVANE_TEST_DATA "/selftest/") +
                                          QLatin1String(name));
     }
-    /// A PC with one disk; `more` are further keys of the PC, `report` and `text` what its tool tells.
+    /// A PC with two disks; `more` are further keys of the PC, `report` and `text` what its tool tells.
     void startOn(const QByteArray &text, const QByteArray &more,
                  const QByteArray &report = sample("ata-seagate-st3250318as.txt"));
     void start(const char *radio);
@@ -53,6 +54,7 @@ void tst_SelfTestFlow::startOn(const QByteArray &text, const QByteArray &more, c
     addReport("a.txt", report);
     addReport("c.txt", text);
     startPc(R"({"pauses": false, "settings": {"FirstTimeLaunch": 1}, "disks": [{"number": 1, "model": "M",
+        "interface": "IDE", "sectors": 2048, "report": "a.txt", "capabilities": "c.txt"}, {"number": 4, "model": "N",
         "interface": "IDE", "sectors": 2048, "report": "a.txt", "capabilities": "c.txt"}])" +
             more + "}");
     makeWindow();
@@ -185,6 +187,12 @@ void tst_SelfTestFlow::refused()
     QVERIFY(navigationIs(true) && child<MyButton>("ScanDiskButton")->isEnabled());
     QTest::mousePress(child<MyButton1>("BackTestButton"), Qt::LeftButton);
     QVERIFY(shown("frame_2"));
+    // What was refused is not shown under the next disk.
+    start("radioButton_2");
+    QVERIFY(!shown("frame_2"));
+    dialog->CloseButton->click();
+    select(1);
+    QVERIFY(shown("frame_2"));
 }
 
 /// The report that was read last is of another disk, whose kind says nothing of this one.
@@ -258,6 +266,18 @@ void tst_SelfTestFlow::notDuringARefresh()
 }
 
 /// Its ticks lock the navigation of the other screens too, but nobody is caught there.
+void tst_SelfTestFlow::keepsItsDisk()
+{
+    startOn(capabilities("caps-idle-62.txt"), R"(, "selfTest": {"secondsPerMinute": 3600})");
+    select(1);
+    start("radioButton_3");
+    QVERIFY(g_bSelfTestRunning);
+    m_pWindow->OnRefresh();
+    waitForRead();
+    QCOMPARE(child<QComboBox>("DriveCombobox")->currentData().toInt(), 128 + 4);
+    QVERIFY(g_bSelfTestRunning && shown("StopTestButton"));
+}
+
 void tst_SelfTestFlow::leftRunning()
 {
     startOn(capabilities("caps-idle-62.txt"), R"(, "selfTest": {"secondsPerMinute": 3600})");

@@ -8,6 +8,7 @@
 #include "ui/ConfarmetionClass.h"
 #include "ui/MyButton.h"
 #include "ui/ScanDisk.h"
+#include "ui/SelfTestPanel.h"
 
 #include <QAction>
 #include <QEvent>
@@ -44,6 +45,9 @@ void MainWindow::refreshScanPage()
     // A job that was left has another current disk until it is at rest.
     const DiskNode *node = findPhysicalDisk(DriveCombobox->currentData().toInt());
     m_pScanDiskPage->FillDisk(node);
+    // The panel of a test that was refused names the disk before.
+    if (m_pScanDiskPage->m_pSelfTestPanel->isVisible() && !g_bSelfTestResultOpen)
+        ChooseScanType();
     // The results of a scan are those of its disk alone.
     if (g_bScanResultOpen && chosenDisk() == m_scannedDisk)
         return;
@@ -62,7 +66,7 @@ MainWindow::ChosenDisk MainWindow::chosenDisk() const
 /// Behind a refresh, which begins at the first disk: the results that show go on showing under their own.
 void MainWindow::keepScannedDisk()
 {
-    if (!g_bScanResultOpen)
+    if (!g_bScanResultOpen && !g_bSelfTestResultOpen)
         return;
     const int index = DriveCombobox->findData(m_scannedDisk.first);
     if (index < 0 || DriveCombobox->itemText(index) != m_scannedDisk.second)

@@ -155,6 +155,7 @@ void MainWindow::OnStartShortSelfTest()
         keepAwake();
     }
     g_bSelfTestResultOpen = canRun;
+    m_scannedDisk = chosenDisk();
     setNavigationEnabled(navigation::ScanDiskScreen, !canRun);
     selftest::restartClock();
     panel->SetStatus(std::nullopt);
@@ -213,7 +214,7 @@ void MainWindow::CheckShortTestStatus1()
     if (!opened)
         return;
     selftest::tickClock();
-    m_pScanDiskPage->m_pSelfTestPanel->SetElapsed(g_timeElapsed.toString(QStringLiteral("HH:mm:ss")));
+    m_pScanDiskPage->m_pSelfTestPanel->SetElapsed(selftest::elapsedText());
 }
 
 void MainWindow::showTestProgress(int remainingPercent)
