@@ -284,8 +284,13 @@ bool QScanDriveThread::isStillThere()
     // are bad.
     for (int look = 0; look < PartingLooks; ++look) {
         msleep(PartingMs / PartingLooks);
-        if (g_bAbortJob || platform.IsGone(m_handle))
+        if (platform.IsGone(m_handle))
             return false;
+        // Nobody waits any longer, and nothing is known of what was refused last.
+        if (g_bAbortJob) {
+            m_found.clear();
+            return true;
+        }
     }
     m_nGoodSector = -1;
     return true;
