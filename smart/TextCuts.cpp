@@ -39,7 +39,7 @@ QString without(QString text, std::initializer_list<const char *> literals)
 QString withoutGroups(const QString &number)
 {
     static const QRegularExpression grouped(
-        QStringLiteral("^[0-9]{1,3}([^\\p{L}\\p{N}])[0-9]{3}(\\1[0-9]{3})*$"));
+        QStringLiteral("^[0-9]{1,3}([^\\p{L}\\p{N}/:+*=-])[0-9]{3}(\\1[0-9]{3})*$"));
     const QRegularExpressionMatch match = grouped.match(number);
     return match.hasMatch() ? QString(number).remove(match.captured(1)) : number;
 }

@@ -246,6 +246,8 @@ void AttributeRowsTest::cleanedValue_data()
     for (const QChar separator : separators)
         QTest::addRow("groups by %04x", separator.unicode())
             << QString(QStringLiteral("18?250?344 [9,34 TB]")).replace('?', separator) << "18250344";
+    QTest::newRow("a pair") << "3/120"
+                            << "3/120";
     QTest::newRow("no group of three") << "1.5"
                                        << "1.5";
     QTest::newRow("plain") << "509"
