@@ -35,15 +35,15 @@
     </message>
     <message>
         <source>Velmora Halvane needs the rights of an administrator to open disks. Without them nothing can be said of their health.</source>
-        <translation>Velmora Halvane 需要管理员权限才能打开磁盘。没有该权限,就无法判断磁盘的健康状态。</translation>
+        <translation>Velmora Halvane 需要管理员权限才能打开磁盘。没有该权限，就无法判断磁盘的健康状态。</translation>
     </message>
     <message>
         <source>Close the program, right-click its icon and choose &quot;Run as administrator&quot;.</source>
-        <translation>请关闭程序,右键单击其图标,然后选择“以管理员身份运行”。</translation>
+        <translation>请关闭程序，右键单击其图标，然后选择“以管理员身份运行”。</translation>
     </message>
     <message>
         <source>Close the program and start it as root. This command does it in a terminal:</source>
-        <translation>请关闭程序,并以 root 身份启动。在终端中可使用以下命令:</translation>
+        <translation>请关闭程序，并以 root 身份启动。在终端中可使用以下命令：</translation>
     </message>
 </context>
 <context>

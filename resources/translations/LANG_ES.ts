@@ -35,7 +35,7 @@
     </message>
     <message>
         <source>Velmora Halvane needs the rights of an administrator to open disks. Without them nothing can be said of their health.</source>
-        <translation>Velmora Halvane necesita derechos de administrador para abrir los discos. Sin ellos no se puede decir nada de su salud.</translation>
+        <translation>Velmora Halvane necesita derechos de administrador para abrir los discos. Sin esos derechos no se puede decir nada de la salud de los discos.</translation>
     </message>
     <message>
         <source>Close the program, right-click its icon and choose &quot;Run as administrator&quot;.</source>
@@ -43,7 +43,7 @@
     </message>
     <message>
         <source>Close the program and start it as root. This command does it in a terminal:</source>
-        <translation>Cierre el programa e inícielo como root. En un terminal se hace con este comando:</translation>
+        <translation>Cierre el programa e inícielo como root. En un terminal, use este comando:</translation>
     </message>
 </context>
 <context>
@@ -1250,11 +1250,11 @@
     </message>
     <message>
         <source>Test Interrupted by the Host</source>
-        <translation>Prueba interrumpida por el PC</translation>
+        <translation>Prueba interrumpida por el equipo</translation>
     </message>
     <message>
         <source>Test ended by Fatal or Unknown Error</source>
-        <translation>Error de prueba grave o desconocido</translation>
+        <translation>Prueba terminada: error grave o desconocido</translation>
     </message>
     <message>
         <source>Test failed by Unknown Element</source>
@@ -1266,7 +1266,7 @@
     </message>
     <message>
         <source>Test failed by Servo Element</source>
-        <translation>Prueba fallida: elemento servo</translation>
+        <translation>Prueba fallida: servomecanismo</translation>
     </message>
     <message>
         <source>Test failed, Handling Damage suspected</source>
@@ -1274,7 +1274,7 @@
     </message>
     <message>
         <source>Test ended with Unknown Status</source>
-        <translation>Prueba terminada, estado desconocido</translation>
+        <translation>Prueba terminada: estado desconocido</translation>
     </message>
     <message>
         <source>No Status from the Drive</source>

@@ -35,7 +35,7 @@
     </message>
     <message>
         <source>Velmora Halvane needs the rights of an administrator to open disks. Without them nothing can be said of their health.</source>
-        <translation>Velmora Halvane a besoin des droits d&apos;administrateur pour ouvrir les disques. Sans eux, rien ne peut être dit de leur santé.</translation>
+        <translation>Velmora Halvane a besoin des droits d&apos;administrateur pour ouvrir les disques. Sans ces droits, on ne peut rien dire de la santé des disques.</translation>
     </message>
     <message>
         <source>Close the program, right-click its icon and choose &quot;Run as administrator&quot;.</source>
@@ -43,7 +43,7 @@
     </message>
     <message>
         <source>Close the program and start it as root. This command does it in a terminal:</source>
-        <translation>Fermez le programme et lancez-le en tant que root. Dans un terminal, cette commande le fait :</translation>
+        <translation>Fermez le programme et lancez-le en tant que root. Dans un terminal, utilisez cette commande :</translation>
     </message>
 </context>
 <context>
@@ -1254,7 +1254,7 @@
     </message>
     <message>
         <source>Test ended by Fatal or Unknown Error</source>
-        <translation>Erreur de test fatale ou inconnue</translation>
+        <translation>Test terminé : erreur grave ou inconnue</translation>
     </message>
     <message>
         <source>Test failed by Unknown Element</source>
@@ -1266,15 +1266,15 @@
     </message>
     <message>
         <source>Test failed by Servo Element</source>
-        <translation>Échec du test : élément servo</translation>
+        <translation>Échec du test : asservissement</translation>
     </message>
     <message>
         <source>Test failed, Handling Damage suspected</source>
-        <translation>Échec du test : choc supposé</translation>
+        <translation>Échec du test : choc probable</translation>
     </message>
     <message>
         <source>Test ended with Unknown Status</source>
-        <translation>Test terminé, état inconnu</translation>
+        <translation>Test terminé : état inconnu</translation>
     </message>
     <message>
         <source>No Status from the Drive</source>
@@ -1390,7 +1390,7 @@ La mise à jour a échoué : le téléchargement est incomplet.</translation>
     </message>
     <message>
         <source>Velmora Halvane cannot start: there is no folder for its temporary files that other users cannot change.</source>
-        <translation>Impossible de démarrer Velmora Halvane : il n&apos;existe aucun dossier pour ses fichiers temporaires que les autres utilisateurs ne peuvent pas modifier.</translation>
+        <translation>Impossible de démarrer Velmora Halvane : aucun dossier pour ses fichiers temporaires n&apos;est à l&apos;abri de modifications par d&apos;autres utilisateurs.</translation>
     </message>
 </context>
 <context>

@@ -674,7 +674,7 @@
     </message>
     <message>
         <source>Failed: back up your data</source>
-        <translation>不合格: データを保存</translation>
+        <translation>不合格: 要バックアップ</translation>
     </message>
     <message>
         <source>Passed</source>
