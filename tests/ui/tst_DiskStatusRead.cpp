@@ -158,8 +158,8 @@ void tst_DiskStatusRead::smartStatus_data()
     QTest::addColumn<int>("health");
     QTest::addColumn<QString>("result");
     QTest::addColumn<QString>("style");
-    // The rating goes by the drive's verdict, the label by the temperature.
-    QTest::newRow("failed, with a temperature") << "NW1" << 100 << "Failed"
+    // A report with either is rated; the label goes by the temperature.
+    QTest::newRow("failed, with a temperature") << "NW1" << 90 << "Failed"
                                                 << "QLabel {color : #FF0000;}";
     QTest::newRow("passed, without") << "NW2" << 90 << "Not Supported"
                                      << "QLabel {color : #FF0000;}";
