@@ -2,9 +2,11 @@
 
 #include <QDir>
 
+#include <cerrno>
 #include <climits>
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 namespace ownfiles
@@ -15,10 +17,20 @@ namespace
 
 constexpr int MostLinks = 40; ///< as many as the kernel follows
 
-/// A group that is this user's alone does not count: it bears the number of the user.
-bool othersMayWrite(const struct stat &status)
+/// Whether the rights of the group stand for those of users and groups that a list names. Where that cannot
+/// be told they do. A handle that tells places alone is asked by its name.
+bool hasAccessList(int handle)
 {
-    const bool ownGroup = status.st_gid == 0 || (status.st_gid == geteuid() && status.st_gid == getegid());
+    const QByteArray name = "/proc/self/fd/" + QByteArray::number(handle);
+    return ::getxattr(name.constData(), "system.posix_acl_access", nullptr, 0) >= 0 ||
+           (errno != ENODATA && errno != ENOTSUP);
+}
+
+/// A group that is this user's alone does not count: it bears the number of the user.
+bool othersMayWrite(int handle, const struct stat &status)
+{
+    const bool userGroup = status.st_gid == 0 || (status.st_gid == geteuid() && status.st_gid == getegid());
+    const bool ownGroup = userGroup && ((status.st_mode & S_IWGRP) == 0 || !hasAccessList(handle));
     const mode_t rights = ownGroup ? S_IWOTH : S_IWGRP | S_IWOTH;
     // In a folder with this bit nobody renames or removes what belongs to somebody else.
     return (status.st_mode & S_ISVTX) == 0 && (status.st_mode & rights) != 0;
@@ -87,7 +99,7 @@ private:
         const QString at = up ? m_at.section(QLatin1Char('/'), 0, -2) : m_at + QLatin1Char('/') + part;
         if (status.st_uid != 0 && status.st_uid != geteuid())
             m_wrong = at + QLatin1String(": belongs to another user");
-        else if (!S_ISLNK(status.st_mode) && othersMayWrite(status))
+        else if (!S_ISLNK(status.st_mode) && othersMayWrite(next, status))
             m_wrong = at + QLatin1String(": others may write to it");
         else if (S_ISLNK(status.st_mode))
             follow(next, at);
