@@ -191,6 +191,7 @@ bool LinuxPlatform::ShellExecuteW(const QString &file, const QString &parameters
 
 bool LinuxPlatform::OpenUrl(const QUrl &url)
 {
-    return desktopuser::loggedOn() ? openOnDesktop(QString::fromLatin1(url.toEncoded()))
-                                   : QDesktopServices::openUrl(url);
+    // The toolkit takes the first opener of the search path.
+    return ownfiles::isElevated() ? openOnDesktop(QString::fromLatin1(url.toEncoded()))
+                                  : QDesktopServices::openUrl(url);
 }

@@ -60,17 +60,21 @@ QByteArray runTool(const QString &name, const QStringList &arguments)
 
 } // namespace
 
+QStringList systemFolders()
+{
+    return {QStringLiteral("/usr/sbin"), QStringLiteral("/usr/bin"), QStringLiteral("/sbin"),
+            QStringLiteral("/bin")};
+}
+
 QString find(const QString &name)
 {
-    static const QStringList ofTheSystem{QStringLiteral("/usr/sbin"), QStringLiteral("/usr/bin"),
-                                         QStringLiteral("/sbin"), QStringLiteral("/bin")};
     // A path may hold folders of another user, and the one for local tools is open to a group.
     if (ownfiles::isElevated())
-        return QStandardPaths::findExecutable(name, ofTheSystem);
+        return QStandardPaths::findExecutable(name, systemFolders());
     const QString found = QStandardPaths::findExecutable(name);
     // Users other than root often lack these folders in their path.
     return found.isEmpty() ? QStandardPaths::findExecutable(
-                                 name, QStringList{QStringLiteral("/usr/local/sbin")} + ofTheSystem)
+                                 name, QStringList{QStringLiteral("/usr/local/sbin")} + systemFolders())
                            : found;
 }
 

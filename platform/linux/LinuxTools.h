@@ -11,6 +11,9 @@ class QProcess;
 namespace linuxtools
 {
 
+/// Where the system keeps its tools, and nobody but root may write.
+QStringList systemFolders();
+
 /// The path of an installed tool, in the search path or where the system keeps those of root; empty if it is
 /// not installed. Root gets the system's own alone, whatever the search path says.
 QString find(const QString &name);

@@ -1,19 +1,89 @@
 #include "platform/NativePlatform.h"
 #include "platform/OwnFiles.h"
+#include "platform/linux/LinuxTools.h"
 #include "platform/linux/UserFolders.h"
 
+#include <QByteArray>
 #include <QCryptographicHash>
 #include <QFileInfo>
+#include <QRegularExpression>
+#include <QSysInfo>
+#include <QtEndian>
 
+#include <algorithm>
+#include <cerrno>
 #include <cstdlib>
 #include <fcntl.h>
+#include <iterator>
+#include <optional>
 #include <pwd.h>
-#include <sys/file.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 namespace
 {
+
+/// What stays of root's environment, sorted by what it may hold. All else, such as the address of a message
+/// bus, the configuration of a library or a folder of plug-ins, can make a library or a tool run a command.
+struct KeptVariable {
+    const char *name; ///< of one variable, or what the names of several begin with where it ends in '_'
+    const char *values;
+};
+
+/// No separator: a language leads to a catalogue, and some are read from wherever it says.
+constexpr const char *Word = "[A-Za-z0-9_.,:;@+-]*";
+constexpr const char *Anything = ".*";
+
+constexpr KeptVariable KeptVariables[] = {
+    // Where the display is. The desktop's own kind of it listens on no port.
+    {"DISPLAY", Anything},
+    {"WAYLAND_DISPLAY", Anything},
+    {"XAUTHORITY", Anything},
+    {"QT_QPA_PLATFORM", "((xcb|wayland|wayland-egl|offscreen|minimal);?)*"},
+    {"QT_FONT_DPI", Word},
+    {"QT_SCALE_FACTOR", Word},
+    {"XDG_CURRENT_DESKTOP", Word},
+    {"XDG_SESSION_TYPE", Word},
+    {"DESKTOP_SESSION", Word},
+    {"LANG", Word},
+    {"LANGUAGE", Word},
+    {"LC_", Word},
+    {"TERM", Word},
+    {"SUDO_UID", Word},
+    {"PKEXEC_UID", Word},
+    // Of the program: what these name is looked at where it is used.
+    {"HALVANE_", Anything},
+    {"ASAN_OPTIONS", Anything},
+    {"LSAN_OPTIONS", Anything},
+    {"TSAN_OPTIONS", Anything},
+    {"UBSAN_OPTIONS", Anything},
+};
+
+bool isKept(const QByteArray &name, const QByteArray &value)
+{
+    return std::any_of(std::begin(KeptVariables), std::end(KeptVariables), [&](const KeptVariable &kept) {
+        const QByteArray known(kept.name);
+        if (known.endsWith('_') ? !name.startsWith(known) : name != known)
+            return false;
+        const QRegularExpression values(QRegularExpression::anchoredPattern(QLatin1String(kept.values)),
+                                        QRegularExpression::DotMatchesEverythingOption);
+        return values.match(QString::fromLatin1(value)).hasMatch();
+    });
+}
+
+/// Takes all variables that are not to be kept out of the environment.
+void clearEnvironment()
+{
+    QList<QByteArray> entries;
+    for (char **entry = environ; entry && *entry; ++entry)
+        entries.append(*entry);
+    clearenv();
+    for (const QByteArray &entry : qAsConst(entries)) {
+        const int sign = entry.indexOf('=');
+        const QByteArray name = entry.left(sign);
+        if (sign > 0 && isKept(name, entry.mid(sign + 1)))
+            qputenv(name.constData(), entry.mid(sign + 1));
+    }
+}
 
 /// What the windowing system is found by stays where it is when the folders of root take its place.
 void keepDisplay()
@@ -26,41 +96,56 @@ void keepDisplay()
         qputenv("XAUTHORITY", authority);
 }
 
+/// Locks the byte of a file that stands for `key`. The lock goes with the process, also with one that was
+/// killed, so that nothing stays behind that would have to be told from a program that runs. Nothing where
+/// the folder cannot be had, else whether the lock could be taken.
+std::optional<bool> takeLock(const QString &folder, const QString &key)
+{
+    if (folder.isEmpty() || !ownfiles::makeFolder(folder).isEmpty())
+        return std::nullopt;
+    const QByteArray name = QFile::encodeName(folder) + "/instances";
+    const int file = ::open(name.constData(), O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0600);
+    if (file < 0)
+        return std::nullopt;
+    // A home may lie on a server, and serve several machines.
+    const QByteArray of = key.toUtf8() + '\n' + QSysInfo::machineUniqueId();
+    struct flock lock = {};
+    lock.l_type = F_WRLCK;
+    lock.l_whence = SEEK_SET;
+    lock.l_start = static_cast<off_t>(
+        qFromBigEndian<quint64>(QCryptographicHash::hash(of, QCryptographicHash::Sha1).constData()) >> 2);
+    lock.l_len = 1;
+    if (::fcntl(file, F_OFD_SETLK, &lock) == 0)
+        return true;
+    const bool isTaken = errno == EAGAIN || errno == EACCES;
+    ::close(file);
+    return isTaken ? std::optional<bool>(false) : std::nullopt;
+}
+
 } // namespace
 
 void prepareNativeProcess()
 {
     if (geteuid() != 0)
         return;
-    // The toolkit keeps files of its own there, and loads plug-ins.
     keepDisplay();
+    clearEnvironment();
     const passwd *entry = getpwuid(0);
     qputenv("HOME", entry ? entry->pw_dir : "/root");
-    for (const char *name :
-         {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_STATE_HOME", "TMPDIR"})
-        qunsetenv(name);
-    for (const char *name : {"QT_PLUGIN_PATH", "QT_QPA_PLATFORM_PLUGIN_PATH"}) {
-        for (const QString &folder : qEnvironmentVariable(name).split(QLatin1Char(':'), Qt::SkipEmptyParts)) {
-            if (!ownfiles::strangerOn(folder).isEmpty())
-                qunsetenv(name);
-        }
-    }
+    qputenv("PATH", linuxtools::systemFolders().join(QLatin1Char(':')).toLatin1());
+    // Without an address the bus of the session is looked for on the display, where any program can leave
+    // one.
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
+    qputenv("NO_AT_BRIDGE", "1");
     const QString temp = folders::places().temp;
-    if (temp.isEmpty())
-        qunsetenv("XDG_RUNTIME_DIR");
-    else
+    if (!temp.isEmpty())
         qputenv("XDG_RUNTIME_DIR", QFile::encodeName(temp));
 }
 
 bool takeNativeInstance(const QString &key)
 {
-    const QString temp = folders::places().temp;
-    if (temp.isEmpty())
-        return true;
-    // Held by the open file, so that a program that was killed leaves nothing behind that would have to be
-    // told from one that runs.
-    const QByteArray hash = QCryptographicHash::hash(key.toUtf8(), QCryptographicHash::Sha1).toHex();
-    const QByteArray name = QFile::encodeName(temp) + "/instance-" + hash;
-    const int lock = ::open(name.constData(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, 0600);
-    return lock < 0 || ::flock(lock, LOCK_EX | LOCK_NB) == 0;
+    // The temp folder may be a fresh one for each instance: anybody can take the usual one's name in /tmp.
+    const folders::Places &places = folders::places();
+    const std::optional<bool> taken = takeLock(places.data, key);
+    return taken ? *taken : takeLock(places.temp, key).value_or(true);
 }

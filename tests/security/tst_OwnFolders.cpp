@@ -2,6 +2,7 @@
 #include "platform/NativePlatform.h"
 #include "platform/OwnFiles.h"
 #include "platform/linux/DesktopUser.h"
+#include "platform/linux/LinuxTools.h"
 #include "tests/platform/DescribedFolder.h"
 #include "tests/support/LinuxPlaces.h"
 #include "tests/support/WatchedPlatform.h"
@@ -15,6 +16,7 @@
 #include <functional>
 #include <sys/stat.h>
 #include <sys/wait.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 namespace
@@ -27,11 +29,11 @@ constexpr int AttackMilliseconds = 2000;
 class Attacker
 {
 public:
-    explicit Attacker(const std::function<void()> &attack) : m_id(fork())
+    explicit Attacker(const std::function<void()> &attack, uid_t user = Nobody) : m_id(fork())
     {
         if (m_id != 0)
             return;
-        if (setresgid(Nobody, Nobody, Nobody) != 0 || setresuid(Nobody, Nobody, Nobody) != 0)
+        if (setresgid(user, user, user) != 0 || setresuid(user, user, user) != 0)
             _exit(1);
         for (;;)
             attack();
@@ -58,7 +60,9 @@ class OwnFoldersTest : public QObject
 private slots:
     void initTestCase();
     void init();
+    void instanceWithoutATempFolder();
     void variablesOfAUser();
+    void folderWithAnAccessList();
     void swappedFolder();
     void swappedScript();
     void quickerInAnOpenFolder();
@@ -106,14 +110,61 @@ void OwnFoldersTest::init()
     QCOMPARE(chmod(path("open").constData(), 01777), 0);
 }
 
+/// The usual name in /tmp is taken by somebody else. Before all others: this process asks for no folder yet.
+void OwnFoldersTest::instanceWithoutATempFolder()
+{
+    constexpr uid_t User = 64321;
+    const QByteArray usual = "/tmp/velmora-halvane-" + QByteArray::number(User);
+    rmdir(usual.constData()); // of a run that was ended
+    QVERIFY2(mkdir(usual.constData(), 0700) == 0 && chown(usual.constData(), Nobody, Nobody) == 0, usual);
+    const auto clean = qScopeGuard([&] { rmdir(usual.constData()); });
+    QCOMPARE(mkdir(path("home").constData(), 0700), 0);
+    QCOMPARE(chown(path("home").constData(), User, User), 0);
+    int answers[2];
+    QCOMPARE(pipe(answers), 0);
+    const auto start = [&] {
+        return std::make_unique<Attacker>(
+            [&] {
+                for (const char *name : {"XDG_RUNTIME_DIR", "XDG_DATA_HOME", "XDG_CONFIG_HOME"})
+                    qunsetenv(name);
+                qputenv("HOME", path("home"));
+                (void)!write(answers[1], takeNativeInstance(QStringLiteral("Probe")) ? "y" : "n", 1);
+                pause();
+            },
+            User);
+    };
+    char taken[2] = {};
+    const auto first = start();
+    QCOMPARE(read(answers[0], taken, 1), ssize_t(1));
+    const auto second = start();
+    QCOMPARE(read(answers[0], taken + 1, 1), ssize_t(1));
+    QCOMPARE(QByteArray(taken, 2), QByteArray("yn"));
+    for (const QString &left : QDir(QStringLiteral("/tmp")).entryList({QStringLiteral("velmora-halvane-*")}))
+        if (QFileInfo(QStringLiteral("/tmp/") + left).ownerId() == User)
+            QDir().rmdir(QStringLiteral("/tmp/") + left);
+}
+
 void OwnFoldersTest::variablesOfAUser()
 {
     for (const char *name : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"})
         qputenv(name, path("foreign"));
-    qputenv("QT_PLUGIN_PATH", path("foreign"));
+    // A bus that is a command, libraries, tools, and a catalogue of texts.
+    const QByteArray command = "unixexec:path=/usr/bin/touch,argv1=" + path("secret/ran");
+    const QVector<QPair<const char *, QByteArray>> variables{
+        {"DBUS_SYSTEM_BUS_ADDRESS", command},      {"DBUS_SESSION_BUS_ADDRESS", command},
+        {"OPENSSL_CONF", path("foreign/ssl.cnf")}, {"QT_PLUGIN_PATH", path("open")},
+        {"PATH", path("open") + ":/usr/bin"},      {"LANGUAGE", ".." + path("foreign")}};
+    for (const auto &variable : variables)
+        qputenv(variable.first, variable.second);
+    qputenv("QT_FONT_DPI", "120");
     prepareNativeProcess();
+    for (const auto &variable : variables)
+        QVERIFY2(!qgetenv(variable.first).contains(variable.second), variable.first);
+    QCOMPARE(qgetenv("QT_FONT_DPI"), QByteArray("120"));
+    QProcess::execute(linuxtools::find(QStringLiteral("systemd-inhibit")), {QStringLiteral("true")});
+    QCOMPARE(inSecret(), QStringList());
     const QString home = QDir::homePath();
-    QVERIFY(!qgetenv("HOME").contains("foreign") && !qEnvironmentVariableIsSet("QT_PLUGIN_PATH"));
+    QVERIFY(!qgetenv("HOME").contains("foreign"));
     QCOMPARE(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation),
              home + QStringLiteral("/.config"));
     const folders::Places &places = folders::places();
@@ -122,6 +173,22 @@ void OwnFoldersTest::variablesOfAUser()
     QCOMPARE(places.data, QStringLiteral("/var/lib/velmora-halvane"));
     QCOMPARE(places.autostart, home + QStringLiteral("/.config/autostart"));
     QVERIFY(QDir(QString::fromUtf8(path("foreign"))).isEmpty());
+}
+
+/// One that says: user 65534 may write. The rights of the group alone do not show it.
+void OwnFoldersTest::folderWithAnAccessList()
+{
+    struct Entry {
+        quint16 tag, rights;
+        quint32 id;
+    };
+    struct {
+        quint32 version = 2;
+        Entry entries[5] = {{1, 7, ~0U}, {2, 7, Nobody}, {4, 5, ~0U}, {16, 7, ~0U}, {32, 5, ~0U}};
+    } list;
+    QCOMPARE(setxattr(path("secret").constData(), "system.posix_acl_access", &list, sizeof(list), 0), 0);
+    QCOMPARE(ownfiles::strangerOn(QString::fromUtf8(path("secret"))),
+             QString::fromUtf8(path("secret")) + QStringLiteral(": others may write to it"));
 }
 
 void OwnFoldersTest::swappedFolder()
