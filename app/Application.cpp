@@ -95,6 +95,15 @@ void readStartSettings(int *languageType)
     g_strRunMode = store.text(key::TaskName) == scheduled ? scheduled : QString();
 }
 
+/// The setting names the temp folder of the program's last run. That goes now, and others could make one of
+/// its name: the companion would run what lies there.
+void forgetTool()
+{
+    SettingsStore store;
+    if (!store.text(key::SmartctlFolderPath).isEmpty())
+        store.writeText(key::SmartctlFolderPath, QString());
+}
+
 [[noreturn]] void refuseSecondInstance()
 {
     QMessageBox::information(
@@ -152,10 +161,11 @@ int runApplication(int argc, char **argv)
     languages::setOffered();
     languages::loadAtStart();
 
-    if (platform.GetTempPathW().isEmpty())
-        refuseToStart();
     if (!platform.TakeInstance(InstanceKey))
         refuseSecondInstance();
+    forgetTool();
+    if (platform.GetTempPathW().isEmpty())
+        refuseToStart();
     readMachine();
 
     auto *splash = new QWaitClass;

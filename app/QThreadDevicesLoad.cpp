@@ -1,7 +1,9 @@
 #include "app/QThreadDevicesLoad.h"
 
 #include "app/state/GlobalApp.h"
+#include "app/state/Globals.h"
 #include "inventory/CommandRunner.h"
+#include "platform/OwnFiles.h"
 #include "platform/Platform.h"
 #include "smart/DeviceLoad.h"
 
@@ -19,7 +21,12 @@ void QThreadDevicesLoad::run()
     Platform::current().Sleep(deviceload::PauseMilliseconds);
     const QString tool = QStringLiteral("smartctl64Bit.exe");
     g_App.m_strSmartctlPath = tempFile(tool);
-    QFile::copy(tool, nativePath(g_App.m_strSmartctlPath));
+    // From the program's own folder: whatever lies where it was started, such as a pipe, could hold the
+    // start.
+    const QByteArray content = ownfiles::contents(g_strApplicationFolder + QLatin1Char('/') + tool);
+    QFile copy;
+    if (!content.isEmpty() && ownfiles::makeFile(&copy, nativePath(g_App.m_strSmartctlPath)))
+        copy.write(content);
     deviceload::loadLists();
     emit OnLoadingDevices();
 }
