@@ -120,6 +120,22 @@ QString CommandInterpreter::programOf(const std::wstring &line)
     return parseStage(commandOf(line).section(QLatin1Char('|'), 0, 0)).words.value(0);
 }
 
+std::wstring CommandInterpreter::withFolder(const std::wstring &line, const QString &folder)
+{
+    const std::wstring name = programOf(line).toStdWString();
+    const std::wstring start = L" /c " + name;
+    const std::size_t at = name.empty() ? std::wstring::npos : line.find(start);
+    if (at == std::wstring::npos)
+        return line;
+    const std::wstring path = folder.toStdWString() + L'\\' + name;
+    const std::wstring interpreter = line.substr(0, at);
+    const std::wstring rest = line.substr(at + start.size());
+    if (!breaksCommands(folder))
+        return interpreter + L" /c " + path + rest;
+    // With this switch the interpreter takes the outer quotes off, whatever stands between them.
+    return interpreter + L" /s /c \"\"" + path + L'"' + rest + L'"';
+}
+
 bool CommandInterpreter::breaksCommands(const QString &path)
 {
     const QLatin1String special(" \t&|<>()^%\"!,;=");

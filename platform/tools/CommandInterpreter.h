@@ -35,6 +35,9 @@ public:
     /// The program that such a line starts first, as it is written there; empty where there is none.
     static QString programOf(const std::wstring &line);
 
+    /// The line with the folder, in Windows' own writing, in front of that program's name.
+    static std::wstring withFolder(const std::wstring &line, const QString &folder);
+
     /// True for a path that does not pass through a line as it is: lines quote nothing, and reach the
     /// interpreter byte by byte.
     static bool breaksCommands(const QString &path);

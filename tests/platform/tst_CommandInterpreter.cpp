@@ -38,6 +38,7 @@ private slots:
     void init();
     void run_data();
     void run();
+    void namesTheFolder();
     void keepsWhatTheTargetHeld();
     void cutsTheTargetAtABlank();
     void slowToolWritesInPieces();
@@ -108,6 +109,15 @@ void tst_CommandInterpreter::run()
     command.replace("%2", m_folder->path().toUtf8());
     QVERIFY(runLine(command));
     QCOMPARE(contentOf(m_target), expected);
+}
+
+void tst_CommandInterpreter::namesTheFolder()
+{
+    const std::wstring line = L"S\\cmd.exe /d /c tool.exe -a >> T\\out.txt ";
+    QVERIFY(tools::CommandInterpreter::withFolder(line, QStringLiteral("C:\\Halvane")) ==
+            L"S\\cmd.exe /d /c C:\\Halvane\\tool.exe -a >> T\\out.txt ");
+    QVERIFY(tools::CommandInterpreter::withFolder(line, QStringLiteral("C:\\A (x86) & B")) ==
+            L"S\\cmd.exe /d /s /c \"\"C:\\A (x86) & B\\tool.exe\" -a >> T\\out.txt \"");
 }
 
 void tst_CommandInterpreter::keepsWhatTheTargetHeld()
