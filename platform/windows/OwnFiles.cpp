@@ -2,13 +2,17 @@
 
 #include <QDir>
 
+#include <algorithm>
 #include <array>
+#include <cwchar>
+#include <iterator>
 
 #include <windows.h>
 
 #include <aclapi.h>
 #include <fcntl.h>
 #include <io.h>
+#include <sddl.h>
 
 namespace ownfiles
 {
@@ -31,9 +35,83 @@ PSID userOf(std::array<BYTE, 256> *buffer)
     return told ? reinterpret_cast<const TOKEN_USER *>(buffer->data())->User.Sid : nullptr;
 }
 
-bool isWellKnown(PSID owner, WELL_KNOWN_SID_TYPE kind)
+/// Who may change what we use: this user, administrators and the system, to which its installer belongs.
+bool isOurs(PSID who)
 {
-    return ::IsWellKnownSid(owner, kind) != FALSE;
+    constexpr WELL_KNOWN_SID_TYPE Kinds[] = {WinBuiltinAdministratorsSid, WinLocalSystemSid,
+                                             WinAccountAdministratorSid, WinAccountDomainAdminsSid};
+    std::array<BYTE, 256> buffer{};
+    const PSID user = userOf(&buffer);
+    LPWSTR text = nullptr;
+    if (!who || !::IsValidSid(who) || !::ConvertSidToStringSidW(who, &text))
+        return false;
+    const bool isInstaller =
+        ::wcscmp(text, L"S-1-5-80-956008885-3418522649-1831038044-1853292631-2271478464") == 0;
+    ::LocalFree(text);
+    return isInstaller || (user && ::EqualSid(who, user)) ||
+           std::any_of(std::begin(Kinds), std::end(Kinds),
+                       [who](WELL_KNOWN_SID_TYPE kind) { return ::IsWellKnownSid(who, kind) != FALSE; });
+}
+
+/// Whether a list gives somebody else one of the rights. There is none where everybody has all of them.
+bool givesOthers(ACL *list, DWORD rights)
+{
+    for (WORD i = 0; list && i < list->AceCount; ++i) {
+        void *entry = nullptr;
+        if (!::GetAce(list, i, &entry))
+            return true;
+        const auto *header = static_cast<const ACE_HEADER *>(entry);
+        // What goes on to things that are made later says nothing of this one.
+        if ((header->AceFlags & INHERIT_ONLY_ACE) != 0 || header->AceType == ACCESS_DENIED_ACE_TYPE)
+            continue;
+        auto *allowed = static_cast<ACCESS_ALLOWED_ACE *>(entry);
+        if (header->AceType != ACCESS_ALLOWED_ACE_TYPE ||
+            ((allowed->Mask & rights) != 0 && !isOurs(&allowed->SidStart)))
+            return true;
+    }
+    return !list;
+}
+
+/// A link that takes a path elsewhere; other files of this kind, such as those of a cloud, do not.
+bool isLink(HANDLE handle, const BY_HANDLE_FILE_INFORMATION &info)
+{
+    FILE_ATTRIBUTE_TAG_INFO tag{};
+    return (info.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 &&
+           (!::GetFileInformationByHandleEx(handle, FileAttributeTagInfo, &tag, sizeof(tag)) ||
+            IsReparseTagNameSurrogate(tag.ReparseTag));
+}
+
+/// What others could do with an open part of a path; empty if nothing.
+QString wrongWith(HANDLE part, DWORD rights)
+{
+    BY_HANDLE_FILE_INFORMATION info{};
+    PSID owner = nullptr;
+    ACL *list = nullptr;
+    PSECURITY_DESCRIPTOR descriptor = nullptr;
+    if (!::GetFileInformationByHandle(part, &info) ||
+        ::GetSecurityInfo(part, SE_FILE_OBJECT, OWNER_SECURITY_INFORMATION | DACL_SECURITY_INFORMATION,
+                          &owner, nullptr, &list, nullptr, &descriptor) != ERROR_SUCCESS)
+        return QStringLiteral(": cannot be looked at");
+    const bool ours = isOurs(owner);
+    const bool open = givesOthers(list, rights);
+    ::LocalFree(descriptor);
+    if (isLink(part, info))
+        return QStringLiteral(": leads elsewhere");
+    if (!ours)
+        return QStringLiteral(": belongs to another user");
+    return open ? QStringLiteral(": others may write to it") : QString();
+}
+
+/// The parts of the way to `path`, from the root to itself.
+QStringList wayTo(const QString &path)
+{
+    QString at = QDir(path).absolutePath();
+    QStringList way{at};
+    for (QString up = QFileInfo(at).path(); up != at; up = QFileInfo(at).path()) {
+        at = up;
+        way.prepend(at);
+    }
+    return way;
 }
 
 } // namespace
@@ -97,20 +175,30 @@ QString makeFolder(const QString &path)
 
 QString strangerOn(const QString &path)
 {
-    PSID owner = nullptr;
-    PSECURITY_DESCRIPTOR descriptor = nullptr;
-    std::wstring name = QDir::toNativeSeparators(QDir(path).absolutePath()).toStdWString();
-    // A file system without owners keeps nobody out anyhow.
-    if (::GetNamedSecurityInfoW(name.data(), SE_FILE_OBJECT, OWNER_SECURITY_INFORMATION, &owner, nullptr,
-                                nullptr, nullptr, &descriptor) != ERROR_SUCCESS ||
-        !owner)
-        return QString();
-    std::array<BYTE, 256> buffer{};
-    const PSID user = userOf(&buffer);
-    const bool ours = (user && ::EqualSid(owner, user)) || isWellKnown(owner, WinBuiltinAdministratorsSid) ||
-                      isWellKnown(owner, WinLocalSystemSid);
-    ::LocalFree(descriptor);
-    return ours ? QString() : QDir(path).absolutePath() + QLatin1String(": belongs to another user");
+    // Others may add what they like above, as they may to a drive or to %ProgramData%, but put nothing else
+    // in the place of the next part.
+    constexpr DWORD Replace = FILE_DELETE_CHILD | WRITE_DAC | WRITE_OWNER | GENERIC_ALL;
+    constexpr DWORD Write = Replace | DELETE | FILE_WRITE_DATA | FILE_APPEND_DATA | GENERIC_WRITE;
+    const QStringList way = wayTo(path);
+    for (const QString &part : way) {
+        const HANDLE handle = ::CreateFileW(
+            reinterpret_cast<const wchar_t *>(QDir::toNativeSeparators(part).utf16()),
+            READ_CONTROL | FILE_READ_ATTRIBUTES, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+            nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
+        const DWORD error = ::GetLastError();
+        if (handle == INVALID_HANDLE_VALUE) {
+            const bool isMissing = error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND;
+            return isMissing ? QString() : part + QLatin1String(": cannot be looked at");
+        }
+        // Nobody moves the root of a drive.
+        const QString wrong = wrongWith(handle, &part == &way.last()    ? Write
+                                                : &part == &way.first() ? Replace
+                                                                        : Replace | DELETE);
+        ::CloseHandle(handle);
+        if (!wrong.isEmpty())
+            return part + wrong;
+    }
+    return QString();
 }
 
 } // namespace ownfiles

@@ -75,7 +75,7 @@ HANDLE openFolder(const QString &path, DWORD access, DWORD share)
                          FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
 }
 
-/// Whether nobody but this process's kind can have made the folder, and it is no link.
+/// Whether nobody but this process's kind can have made the folder or can write to it, and it is no link.
 bool isOwnFolder(const QString &path)
 {
     const HANDLE folder = openFolder(path, READ_CONTROL | FILE_READ_ATTRIBUTES,
@@ -88,7 +88,7 @@ bool isOwnFolder(const QString &path)
                       (info.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0;
     const bool own = real && isOwnObject(folder, true);
     ::CloseHandle(folder);
-    return own;
+    return own && ownfiles::strangerOn(path).isEmpty();
 }
 
 const QLatin1String FolderName("velmora-halvane-");

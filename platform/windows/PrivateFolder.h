@@ -42,7 +42,7 @@ QString makePrivateFolder(const QString &name);
 QString makeTempFolder();
 
 /// The folder of the program's own data: of this user, for an administrator that of the machine. Empty where
-/// somebody else made it.
+/// somebody else made it or may write to it.
 QString dataFolder();
 
 /// Opens a file that belongs to this user or to administrators; nobody writes, renames or removes it until

@@ -202,8 +202,12 @@ bool WindowsPlatform::CreateProcessAndWait(const std::wstring &line, bool hidden
         startup.wShowWindow = SW_HIDE;
     }
     PROCESS_INFORMATION process{};
+    const QString folder = QString::fromStdWString(m_workingFolder);
+    const bool isHere = !folder.isEmpty() && !program.contains(QLatin1Char('\\')) &&
+                        QFileInfo(QDir(folder), program).isFile();
+    const std::wstring called = isHere ? tools::CommandInterpreter::withFolder(line, folder) : line;
     // The system may write into the line.
-    std::vector<wchar_t> buffer(line.begin(), line.end());
+    std::vector<wchar_t> buffer(called.begin(), called.end());
     buffer.push_back(L'\0');
     // A file dialog may have taken the process to another folder, where a tool of the same name may lie.
     std::wstring environment = toolEnvironment(GetSystemDirectoryW());
@@ -261,8 +265,7 @@ bool WindowsPlatform::ShellExecuteW(const QString &file, const QString &paramete
             QDir::isAbsolutePath(file) && target.endsWith(QLatin1String(".exe"), Qt::CaseInsensitive);
         if (isProgram)
             return startProgram(target, parameters);
-        if (windows::openByShell(target, parameters, verb, window))
-            return true;
+        return windows::openByShell(target, parameters, verb, window);
     }
     const HINSTANCE result =
         ::ShellExecuteW(nullptr, verb.isEmpty() ? nullptr : wide(verb), wide(target),
@@ -274,8 +277,8 @@ bool WindowsPlatform::OpenUrl(const QUrl &url)
 {
     const QString target =
         url.isLocalFile() ? NativePath(url.toLocalFile()) : QString::fromLatin1(url.toEncoded());
-    return (ownfiles::isElevated() && windows::openByShell(target, QString(), QString(), SW_SHOWNORMAL)) ||
-           QDesktopServices::openUrl(url);
+    return ownfiles::isElevated() ? windows::openByShell(target, QString(), QString(), SW_SHOWNORMAL)
+                                  : QDesktopServices::openUrl(url);
 }
 
 // Folders and names
@@ -308,11 +311,12 @@ bool WindowsPlatform::TakeInstance(const QString &key)
 
 QString WindowsPlatform::HistoryFolder(const QString &applicationFolder)
 {
-    const bool beside = QDir(applicationFolder).exists() && canWriteInto(applicationFolder);
+    const bool beside = QDir(applicationFolder).exists() && canWriteInto(applicationFolder) &&
+                        ownfiles::strangerOn(applicationFolder).isEmpty();
     const QString place = beside ? applicationFolder : windows::dataFolder();
     const QString own = place + QLatin1String("/history");
     const QString wrong =
-        place.isEmpty() ? QStringLiteral("somebody else made the folder for it") : ownfiles::makeFolder(own);
+        place.isEmpty() ? QStringLiteral("others may change the folder for it") : ownfiles::makeFolder(own);
     if (wrong.isEmpty())
         return own;
     ownfiles::complain(QLatin1String("no history is kept: ") + wrong);

@@ -11,6 +11,7 @@
 #include <windows.h>
 
 #include <dbt.h>
+#include <sddl.h>
 
 /// The Windows platform on the machine itself. packaging/windows/wine-test prepares what some cases need and
 /// names it: HALVANE_TEST_IMAGE is a file that stands behind \\.\PHYSICALDRIVE0, HALVANE_TEST_URL a web
@@ -259,6 +260,15 @@ void tst_WindowsPlatform::foldersAndNames()
     QCOMPARE(pc.HistoryFolder(m_folder->path()), path(QStringLiteral("history")));
     const QString other = pc.HistoryFolder(path(QStringLiteral("missing")));
     QVERIFY(QDir(other).exists() && !other.startsWith(m_folder->path()));
+    // Nor is one that all may write to.
+    PSECURITY_DESCRIPTOR everybody = nullptr;
+    QVERIFY(::ConvertStringSecurityDescriptorToSecurityDescriptorW(L"D:(A;OICI;FA;;;WD)", SDDL_REVISION_1,
+                                                                   &everybody, nullptr));
+    const std::wstring name = QDir::toNativeSeparators(m_folder->path()).toStdWString();
+    const BOOL opened = ::SetFileSecurityW(name.c_str(), DACL_SECURITY_INFORMATION, everybody);
+    ::LocalFree(everybody);
+    QVERIFY(opened);
+    QCOMPARE(pc.HistoryFolder(m_folder->path()), other);
 }
 
 void tst_WindowsPlatform::settingsByKind()
