@@ -1,6 +1,6 @@
 #include "clone/RescueMap.h"
 
-#include <QSaveFile>
+#include "platform/OwnFiles.h"
 
 #include <algorithm>
 
@@ -64,8 +64,7 @@ QByteArray text(const LostSectors &lost, qint64 total)
 
 bool save(const QString &path, const LostSectors &lost, qint64 total)
 {
-    QSaveFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(text(lost, total)) >= 0 && file.commit();
+    return ownfiles::saveFile(path, text(lost, total));
 }
 
 } // namespace rescuemap

@@ -21,6 +21,11 @@ bool openRegular(QFile *file, const QString &path, QIODevice::OpenMode mode);
 /// already, or where somebody else could change the way to it.
 bool makeFile(QFile *file, const QString &path);
 
+/// Makes `bytes` the content of a file that the user named. They go to a new file beside it, which then takes
+/// its place: what lies there as a link is replaced and never followed. False where that fails; the old file
+/// stays then. On Linux root goes through no link of another user on the way there either.
+bool saveFile(const QString &path, const QByteArray &bytes);
+
 /// The first MostBytes of a regular file; empty where there is none.
 QByteArray contents(const QString &path);
 
@@ -31,6 +36,10 @@ QString makeFolder(const QString &path);
 /// What on the way to `path`, itself included, somebody else could change: one line that names the part and
 /// the reason, empty if there is nothing. What is missing yet does not count.
 QString strangerOn(const QString &path);
+
+/// The same of a folder with all that lies below it. Here it counts, too, where somebody else may only add to
+/// a folder.
+QString strangerIn(const QString &folder);
 
 /// The first thing below a folder that is neither a folder nor a regular file, such as a link; empty if there
 /// is none.

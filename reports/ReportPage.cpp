@@ -1,12 +1,16 @@
 #include "reports/ReportPage.h"
 
 #include "app/state/Scale.h"
+#include "platform/OwnFiles.h"
 #include "reports/SmartReport.h"
 
+#include <QBuffer>
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QImage>
 #include <QPainter>
 #include <QPdfWriter>
+#include <QPixmap>
 
 #include <algorithm>
 
@@ -394,7 +398,9 @@ void paintReport(QPainter &painter, const SmartReport &report, const std::functi
 
 bool writeReport(const QString &path, const SmartReport &report)
 {
-    QPdfWriter writer(path);
+    QBuffer pages;
+    pages.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&pages);
     writer.setTitle(suggestedReportName(report));
     writer.setCreator(QStringLiteral("Velmora Halvane"));
     writer.setPageSize(QPageSize(QPageSize::A4));
@@ -406,5 +412,14 @@ bool writeReport(const QString &path, const SmartReport &report)
     painter.setRenderHint(QPainter::LosslessImageRendering);
     paintReport(painter, report, [&writer] { writer.newPage(); });
     painter.end();
-    return true;
+    return ownfiles::saveFile(path, pages.data());
+}
+
+bool writePicture(const QString &path, const QPixmap &picture)
+{
+    QBuffer bytes;
+    bytes.open(QIODevice::WriteOnly);
+    const QByteArray format = QFileInfo(path).suffix().toLatin1();
+    return !format.isEmpty() && picture.save(&bytes, format.constData()) &&
+           ownfiles::saveFile(path, bytes.data());
 }

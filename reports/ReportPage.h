@@ -5,6 +5,7 @@
 #include <functional>
 
 class QPainter;
+class QPixmap;
 struct SmartReport;
 
 /// The printed report: A4 pages at fixed coordinates, in units of 1/1200 inch from the top-left of the
@@ -16,3 +17,6 @@ void paintReport(QPainter &painter, const SmartReport &report, const std::functi
 
 /// Writes the report as a PDF file. False where the file cannot be written; nothing is told besides.
 bool writeReport(const QString &path, const SmartReport &report);
+
+/// Writes the picture in the format of the file's ending; the same on error.
+bool writePicture(const QString &path, const QPixmap &picture);

@@ -1,6 +1,8 @@
 #include "platform/OwnFiles.h"
 
 #include <QDir>
+#include <QDirIterator>
+#include <QUuid>
 
 #include <cerrno>
 #include <climits>
@@ -17,6 +19,11 @@ namespace
 
 constexpr int MostLinks = 40; ///< as many as the kernel follows
 
+bool isOurs(const struct stat &status)
+{
+    return status.st_uid == 0 || status.st_uid == geteuid();
+}
+
 /// Whether the rights of the group stand for those of users and groups that a list names. Where that cannot
 /// be told they do. A handle that tells places alone is asked by its name.
 bool hasAccessList(int handle)
@@ -27,13 +34,28 @@ bool hasAccessList(int handle)
 }
 
 /// A group that is this user's alone does not count: it bears the number of the user.
-bool othersMayWrite(int handle, const struct stat &status)
+bool othersMayAdd(int handle, const struct stat &status)
 {
     const bool userGroup = status.st_gid == 0 || (status.st_gid == geteuid() && status.st_gid == getegid());
     const bool ownGroup = userGroup && ((status.st_mode & S_IWGRP) == 0 || !hasAccessList(handle));
     const mode_t rights = ownGroup ? S_IWOTH : S_IWGRP | S_IWOTH;
-    // In a folder with this bit nobody renames or removes what belongs to somebody else.
-    return (status.st_mode & S_ISVTX) == 0 && (status.st_mode & rights) != 0;
+    return (status.st_mode & rights) != 0;
+}
+
+/// In a folder with the sticky bit nobody renames or removes what belongs to somebody else.
+bool othersMayWrite(int handle, const struct stat &status)
+{
+    return (status.st_mode & S_ISVTX) == 0 && othersMayAdd(handle, status);
+}
+
+QString belongsToAnother(const QString &path)
+{
+    return path + QLatin1String(": belongs to another user");
+}
+
+QString othersWrite(const QString &path)
+{
+    return path + QLatin1String(": others may write to it");
 }
 
 QStringList partsOf(const QString &path)
@@ -41,12 +63,19 @@ QStringList partsOf(const QString &path)
     return path.split(QLatin1Char('/'), Qt::SkipEmptyParts);
 }
 
+enum class Purpose {
+    Look, ///< each part has to be ours
+    Make, ///< the same, and what is missing is made
+    Save  ///< a place that the user chose, whoever's it is
+};
+
 /// Goes down a path from one open folder to the next, so that nothing can be put in the place of what was
 /// looked at. Ends at the first part that is not ours, or is missing and is not to be made.
 class Walk
 {
 public:
-    Walk(const QString &path, bool makes) : m_left(partsOf(QDir(path).absolutePath())), m_makes(makes)
+    Walk(const QString &path, Purpose purpose)
+        : m_left(partsOf(QDir(path).absolutePath())), m_purpose(purpose)
     {
         toRoot();
         while (m_wrong.isEmpty() && !m_left.isEmpty() && step()) {
@@ -82,7 +111,7 @@ private:
     {
         const int flags = O_PATH | O_NOFOLLOW | O_CLOEXEC;
         const int found = ::openat(m_handle, part.constData(), flags);
-        if (found >= 0 || !m_makes || ::mkdirat(m_handle, part.constData(), 0700) != 0)
+        if (found >= 0 || m_purpose != Purpose::Make || ::mkdirat(m_handle, part.constData(), 0700) != 0)
             return found;
         return ::openat(m_handle, part.constData(), flags);
     }
@@ -97,13 +126,16 @@ private:
         m_left.removeFirst();
         const bool up = part == QLatin1String("..");
         const QString at = up ? m_at.section(QLatin1Char('/'), 0, -2) : m_at + QLatin1Char('/') + part;
-        if (status.st_uid != 0 && status.st_uid != geteuid())
-            m_wrong = at + QLatin1String(": belongs to another user");
-        else if (!S_ISLNK(status.st_mode) && othersMayWrite(next, status))
-            m_wrong = at + QLatin1String(": others may write to it");
-        else if (S_ISLNK(status.st_mode))
+        const bool link = S_ISLNK(status.st_mode);
+        // Others' folders may be chosen, but a link of theirs would lead root where they may not write.
+        const bool strict = m_purpose != Purpose::Save || (link && isElevated());
+        if (strict && !isOurs(status))
+            m_wrong = belongsToAnother(at);
+        else if (strict && !link && othersMayWrite(next, status))
+            m_wrong = othersWrite(at);
+        else if (link)
             follow(next, at);
-        if (!S_ISLNK(status.st_mode))
+        if (!link)
             goTo(next, at);
         else
             ::close(next);
@@ -124,7 +156,7 @@ private:
     }
 
     QStringList m_left;
-    const bool m_makes;
+    const Purpose m_purpose;
     int m_handle = -1;
     int m_links = 0;
     QString m_at; ///< without a separator at its end, empty for the root
@@ -137,6 +169,28 @@ int openFlags(QIODevice::OpenMode mode)
     if ((mode & QIODevice::WriteOnly) == 0)
         return flags | O_RDONLY;
     return flags | O_CREAT | ((mode & QIODevice::ReadOnly) != 0 ? O_RDWR : O_WRONLY);
+}
+
+/// Opens a new file below the folder that the walk ended in.
+bool makeIn(const Walk &way, const QByteArray &name, mode_t mode, QFile *file)
+{
+    const int flags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
+    const int handle = way.isInFolder() ? ::openat(way.handle(), name.constData(), flags, mode) : -1;
+    if (handle >= 0 && file->open(handle, QIODevice::WriteOnly, QFileDevice::AutoCloseHandle))
+        return true;
+    if (handle >= 0)
+        ::close(handle);
+    return false;
+}
+
+/// What a file may be replaced by keeps its rights.
+bool takeRights(int folder, const QByteArray &name, int fresh)
+{
+    struct stat old = {};
+    if (::fstatat(folder, name.constData(), &old, AT_SYMLINK_NOFOLLOW) != 0 || S_ISLNK(old.st_mode))
+        return true;
+    return S_ISREG(old.st_mode) && ::faccessat(folder, name.constData(), W_OK, AT_EACCESS) == 0 &&
+           ::fchmod(fresh, old.st_mode & 0777) == 0;
 }
 
 } // namespace
@@ -165,28 +219,57 @@ bool openRegular(QFile *file, const QString &path, QIODevice::OpenMode mode)
 bool makeFile(QFile *file, const QString &path)
 {
     const QFileInfo info(path);
-    const Walk way(info.path(), false);
-    const int handle = way.isInFolder()
-                           ? ::openat(way.handle(), QFile::encodeName(info.fileName()).constData(),
-                                      O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600)
-                           : -1;
-    if (handle >= 0 && file->open(handle, QIODevice::WriteOnly, QFileDevice::AutoCloseHandle))
-        return true;
-    if (handle >= 0)
-        ::close(handle);
-    return false;
+    return makeIn(Walk(info.path(), Purpose::Look), QFile::encodeName(info.fileName()), 0600, file);
+}
+
+bool saveFile(const QString &path, const QByteArray &bytes)
+{
+    const QFileInfo info(path);
+    const QByteArray name = QFile::encodeName(info.fileName());
+    const QByteArray fresh = ".halvane-" + QUuid::createUuid().toByteArray(QUuid::Id128);
+    const Walk way(info.path(), Purpose::Save);
+    QFile file;
+    if (name.isEmpty() || !makeIn(way, fresh, 0666, &file))
+        return false;
+    const int folder = way.handle();
+    const bool saved = takeRights(folder, name, file.handle()) && file.write(bytes) == bytes.size() &&
+                       file.flush() && ::fsync(file.handle()) == 0 &&
+                       ::renameat(folder, fresh.constData(), folder, name.constData()) == 0;
+    if (!saved)
+        ::unlinkat(folder, fresh.constData(), 0);
+    return saved;
 }
 
 QString makeFolder(const QString &path)
 {
-    const Walk way(path, true);
+    const Walk way(path, Purpose::Make);
     return way.wrong().isEmpty() && !way.isInFolder() ? path + QLatin1String(": cannot be made")
                                                       : way.wrong();
 }
 
 QString strangerOn(const QString &path)
 {
-    return Walk(path, false).wrong();
+    return Walk(path, Purpose::Look).wrong();
+}
+
+QString strangerIn(const QString &folder)
+{
+    const QString wrong = strangerOn(folder);
+    if (!wrong.isEmpty())
+        return wrong;
+    const QString real = QFileInfo(folder).canonicalFilePath();
+    QDirIterator each(real, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                      QDirIterator::Subdirectories);
+    for (QString path = real; !path.isEmpty(); path = each.hasNext() ? each.next() : QString()) {
+        struct stat status = {};
+        if (::lstat(QFile::encodeName(path).constData(), &status) != 0)
+            continue;
+        if (!isOurs(status))
+            return belongsToAnother(path);
+        if (S_ISDIR(status.st_mode) && othersMayAdd(status))
+            return othersWrite(path);
+    }
+    return QString();
 }
 
 } // namespace ownfiles

@@ -1,6 +1,8 @@
 #include "platform/OwnFiles.h"
 
 #include <QDir>
+#include <QDirIterator>
+#include <QSaveFile>
 
 #include <algorithm>
 #include <array>
@@ -168,6 +170,15 @@ bool makeFile(QFile *file, const QString &path)
     return false;
 }
 
+bool saveFile(const QString &path, const QByteArray &bytes)
+{
+    // The toolkit would replace what a link leads to.
+    if (QFileInfo(path).isSymLink() && !QFile::remove(path))
+        return false;
+    QSaveFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
+}
+
 QString makeFolder(const QString &path)
 {
     return QDir().mkpath(path) ? strangerOn(path) : path + QLatin1String(": cannot be made");
@@ -199,6 +210,16 @@ QString strangerOn(const QString &path)
             return part + wrong;
     }
     return QString();
+}
+
+QString strangerIn(const QString &folder)
+{
+    QString wrong = strangerOn(folder);
+    QDirIterator each(folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                      QDirIterator::Subdirectories);
+    while (wrong.isEmpty() && each.hasNext())
+        wrong = strangerOn(each.next());
+    return wrong;
 }
 
 } // namespace ownfiles

@@ -1,8 +1,11 @@
 #include "clone/DestinationScripts.h"
+#include "clone/RescueMap.h"
 #include "platform/NativePlatform.h"
 #include "platform/OwnFiles.h"
 #include "platform/linux/DesktopUser.h"
 #include "platform/linux/LinuxTools.h"
+#include "reports/ReportPage.h"
+#include "reports/SmartReport.h"
 #include "tests/platform/DescribedFolder.h"
 #include "tests/support/LinuxPlaces.h"
 #include "tests/support/WatchedPlatform.h"
@@ -67,6 +70,7 @@ private slots:
     void swappedScript();
     void quickerInAnOpenFolder();
     void linkForSettings();
+    void savedThroughLinks();
     void openedForTheUser();
     void instanceOfSomebodyElse();
 
@@ -274,6 +278,33 @@ void OwnFoldersTest::linkForSettings()
              QStringList{QStringLiteral("config")});
 }
 
+/// What root saves in a folder of somebody else's takes the place of their links.
+void OwnFoldersTest::savedThroughLinks()
+{
+    const auto link = [this](const char *target, const char *name) {
+        return symlink(path(target).constData(), path(name).constData()) == 0 &&
+               lchown(path(name).constData(), Nobody, Nobody) == 0;
+    };
+    const auto saved = [this](const QString &folder) {
+        QPixmap picture(8, 8);
+        picture.fill(Qt::white);
+        const QString place = m_folder->filePath(folder);
+        return QVector<bool>{rescuemap::save(place + QStringLiteral("/clone.map"), {}, 8),
+                             writeReport(place + QStringLiteral("/report.pdf"), SmartReport()),
+                             writePicture(place + QStringLiteral("/page.jpg"), picture)};
+    };
+    const QStringList names{QStringLiteral("clone.map"), QStringLiteral("page.jpg"),
+                            QStringLiteral("report.pdf")};
+    for (const QString &name : names)
+        QVERIFY(link("secret/own", qPrintable(QStringLiteral("foreign/") + name)));
+    QCOMPARE(saved(QStringLiteral("foreign")), QVector<bool>(3, true));
+    const QDir foreign(m_folder->filePath(QStringLiteral("foreign")));
+    QCOMPARE(foreign.entryList(QDir::Files | QDir::NoSymLinks | QDir::Hidden), names);
+    QVERIFY(link("secret", "foreign/way"));
+    QCOMPARE(saved(QStringLiteral("foreign/way")), QVector<bool>(3, false));
+    QCOMPARE(inSecret(), QStringList());
+}
+
 void OwnFoldersTest::openedForTheUser()
 {
     QVERIFY(!desktopuser::loggedOn());
@@ -329,5 +360,5 @@ void OwnFoldersTest::instanceOfSomebodyElse()
     left.attach(); // the last one to let go of it removes it
 }
 
-QTEST_GUILESS_MAIN(OwnFoldersTest)
+QTEST_MAIN(OwnFoldersTest)
 #include "tst_OwnFolders.moc"

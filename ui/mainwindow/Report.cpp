@@ -78,5 +78,5 @@ void MainWindow::TakeScreenshot()
     const QString path = askForPath(nullptr, {QStringLiteral("Save File"), fileNamePart(g_strGraphTitle),
                                               QStringLiteral("JPEG (*.jpg);"), QStringLiteral(".jpg")});
     if (!path.isEmpty())
-        picture.save(path);
+        writePicture(path, picture);
 }
