@@ -72,16 +72,61 @@ void replaceFile(const QString &path, const QByteArray &content, QIODevice::Open
     file.commit();
 }
 
-/// QSettings works on a copy: beside the file it would leave a lock when it is killed, and then wait for it.
+/// The values as they stand in the file, each as a text. The toolkit alone would make any type of a text that
+/// begins with `@` and names one, however deep its lists go. QSettings works on a copy: beside the file it
+/// would leave a lock when it is killed, and then wait for it.
+class StoredTexts
+{
+public:
+    explicit StoredTexts(const QString &valuePath)
+        : m_scratch(nativePath(tempFile(QStringLiteral("history-XXXXXX")))),
+          m_copy(m_scratch.filePath(QStringLiteral("stored"))), m_isReadable(copyFrom(valuePath)),
+          m_stored(m_copy, QSettings::IniFormat)
+    {
+    }
+
+    /// False for a file that is there and cannot be read.
+    bool isReadable() const { return m_isReadable; }
+    QString scratch(const QString &name) const { return m_scratch.filePath(name); }
+    QStringList keys() const { return m_stored.allKeys(); }
+
+    QString text(const QString &key) const
+    {
+        QString text = m_stored.value(key).toString().replace(QLatin1String("=."), QLatin1String("="));
+        text = text.mid(1).replace(CommaMark, QLatin1Char(',')).trimmed();
+        text.remove(QChar::Null); // else the toolkit would write down a type, too
+        return text.startsWith(QLatin1String("@@")) ? text.mid(1) : text;
+    }
+
+private:
+    /// Every value begins with a dot in the copy, and there is no comma, behind which another would begin.
+    bool copyFrom(const QString &valuePath) const
+    {
+        QFile from(valuePath);
+        if (!m_scratch.isValid() || !from.open(QIODevice::ReadOnly))
+            return m_scratch.isValid() && !from.exists();
+        QFile to(m_copy);
+        const QByteArray text = from.readAll().replace('=', "=.").replace(',', "\\v");
+        return to.open(QIODevice::WriteOnly) && to.write(text) == text.size() && to.flush();
+    }
+
+    static constexpr QLatin1Char CommaMark{'\v'};
+    const QTemporaryDir m_scratch;
+    const QString m_copy;
+    const bool m_isReadable;
+    const QSettings m_stored;
+};
+
 void writeValues(const QString &valuePath, const QDateTime &now, const std::vector<HistoryValue> &rows)
 {
-    const QTemporaryDir scratch(nativePath(tempFile(QStringLiteral("history-XXXXXX"))));
-    const QString copy = scratch.filePath(QStringLiteral("values"));
-    if (!scratch.isValid() || (QFileInfo::exists(valuePath) && !QFile::copy(valuePath, copy)))
+    const StoredTexts stored(valuePath);
+    if (!stored.isReadable())
         return;
-    QFile::setPermissions(copy, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+    const QString fresh = stored.scratch(QStringLiteral("values"));
     {
-        QSettings values(copy, QSettings::IniFormat);
+        QSettings values(fresh, QSettings::IniFormat);
+        for (const QString &key : stored.keys())
+            values.setValue(key, stored.text(key));
         values.beginGroup(historyDate(now));
         values.setValue(QStringLiteral("CompleteDate"), now.toString(Qt::TextDate));
         for (const HistoryValue &row : rows) {
@@ -93,7 +138,7 @@ void writeValues(const QString &valuePath, const QDateTime &now, const std::vect
         if (values.status() == QSettings::AccessError)
             return;
     }
-    QFile written(copy);
+    QFile written(fresh);
     if (written.open(QIODevice::ReadOnly))
         replaceFile(valuePath, written.readAll(), QIODevice::NotOpen);
 }
@@ -215,14 +260,12 @@ std::vector<QString> readHistoryDates(const QString &datePath, bool *opened)
 std::vector<qint64> readHistoryValues(const QString &valuePath, const std::vector<QString> &dates,
                                       const QString &key)
 {
-    QSettings stored(valuePath, QSettings::IniFormat);
+    const StoredTexts stored(valuePath);
     std::vector<qint64> values;
     for (const QString &date : dates) {
-        stored.beginGroup(date);
+        const QString text = key.isEmpty() ? QString() : stored.text(date + QLatin1Char('/') + key);
         // Days of earlier versions may hold grouped digits.
-        const QString number = key.isEmpty() ? QString() : cuts::withoutGroups(stored.value(key).toString());
-        values.push_back(number.toLongLong(nullptr, 10));
-        stored.endGroup();
+        values.push_back(cuts::withoutGroups(text).toLongLong(nullptr, 10));
     }
     return values;
 }

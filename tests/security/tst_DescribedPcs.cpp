@@ -1,5 +1,6 @@
 #include "platform/IoControl.h"
 #include "platform/OwnFiles.h"
+#include "smart/AttributeHistory.h"
 #include "tests/platform/DescribedFolder.h"
 
 #include <QProcess>
@@ -20,6 +21,7 @@ private slots:
     void strangeStates();
     void foldersOfOthers();
     void drivesHaveNoParent();
+    void typesInTheHistory();
 
 private:
     static QString openingError(const DescribedFolder &folder, const QString &state = QString())
@@ -159,6 +161,25 @@ void DescribedPcsTest::drivesHaveNoParent()
     QCOMPARE(pc->NativePath(QStringLiteral("C:\\..\\a\\..\\..\\..\\etc\\..\\x")),
              folder.state() + QStringLiteral("/drives/C/x"));
     QCOMPARE(pc->NativePath(QStringLiteral("d:/..")), folder.state() + QStringLiteral("/drives/D/"));
+}
+
+/// The toolkit makes the type that a value names, and goes down as deep as its lists go.
+void DescribedPcsTest::typesInTheHistory()
+{
+    const DescribedFolder folder;
+    folder.add(QStringLiteral("history/values-SN"), "[21-11-2026]\nHours = 5\nEvil=x,\"\\x40Variant(" +
+                                                        QByteArray(R"(\0\0\0\t\0\0\0\x1)").repeated(150000) +
+                                                        ")\"\n");
+    Platform::install(folder.open("{}"));
+    const HistoryPaths paths = historyPaths(QStringLiteral("SN"));
+    const QString day = QStringLiteral("21-11-2026");
+    const QString hours = QStringLiteral("Hours");
+    QCOMPARE(readHistoryValues(paths.values, {day}, hours), std::vector<qint64>{5});
+    recordHistory(QStringLiteral("SN"), QDateTime(QDate(2026, 11, 22), QTime(8, 0)), {{hours, "@7, =.@@"}});
+    recordHistory(QStringLiteral("SN"), QDateTime(QDate(2026, 11, 23), QTime(8, 0)), {});
+    const QSettings stored(paths.values, QSettings::IniFormat);
+    QVERIFY(stored.value(day + QStringLiteral("/Evil")).toString().startsWith(QLatin1String("x,@Variant(")));
+    QCOMPARE(stored.value(QStringLiteral("22-11-2026/Hours")).toString(), QStringLiteral("@7, =.@@"));
 }
 
 QTEST_GUILESS_MAIN(DescribedPcsTest)
