@@ -9,6 +9,8 @@
 #include <QJsonDocument>
 #include <QRegularExpression>
 
+#include <algorithm>
+
 namespace simulated
 {
 namespace
@@ -16,6 +18,7 @@ namespace
 
 constexpr qint64 most = 9007199254740992; // what a JSON number tells exactly
 constexpr qint64 mostSectors = most / 512;
+constexpr quint64 slowest = 1000000; // bytes/s; the start reads from each disk and waits for it
 
 /// The ends of a self-test; the place is the drive's own number of it.
 const QStringList &selfTestResults()
@@ -246,7 +249,8 @@ Disk readDisk(const JsonReader &in, const PcDescription &pc, const SelfTestEnd &
     disk.opens = in.truth(QStringLiteral("opens"), true);
     disk.bad = readRanges(in, QStringLiteral("badSectors"));
     disk.unwritable = readRanges(in, QStringLiteral("unwritable"));
-    disk.bytesPerSecond = static_cast<quint64>(in.whole(QStringLiteral("bytesPerSecond"), 0, 0, most));
+    const auto speed = static_cast<quint64>(in.whole(QStringLiteral("bytesPerSecond"), 0, 0, most));
+    disk.bytesPerSecond = speed > 0 ? std::max(speed, slowest) : 0;
     disk.failsPastEnd =
         in.word(QStringLiteral("pastEnd"), 0, {QStringLiteral("short"), QStringLiteral("fail")}) == 1;
     disk.reports = readReports(in, pc.folder);

@@ -25,6 +25,8 @@ constexpr qint64 LongestImage = qint64(15) << 40; ///< 15 TiB
 
 constexpr qint64 sectorBytes = 512;
 
+constexpr qint64 longestTransfer = 1000000000; ///< in nanoseconds; nothing stops in between
+
 qint64 bytesOf(const Disk &disk)
 {
     return static_cast<qint64>(disk.record.sectors) * sectorBytes;
@@ -44,7 +46,8 @@ public:
     {
         if (m_bytesPerSecond > 0) {
             const double wanted = 1e9 * static_cast<double>(m_bytes) / static_cast<double>(m_bytesPerSecond);
-            const qint64 left = static_cast<qint64>(wanted) - m_clock.nsecsElapsed();
+            const qint64 left =
+                std::min(static_cast<qint64>(wanted), longestTransfer) - m_clock.nsecsElapsed();
             std::this_thread::sleep_for(std::chrono::nanoseconds(std::max<qint64>(0, left)));
         }
     }
