@@ -262,11 +262,15 @@ QString strangerIn(const QString &folder)
                       QDirIterator::Subdirectories);
     for (QString path = real; !path.isEmpty(); path = each.hasNext() ? each.next() : QString()) {
         struct stat status = {};
-        if (::lstat(QFile::encodeName(path).constData(), &status) != 0)
+        const int handle = ::open(QFile::encodeName(path).constData(), O_PATH | O_NOFOLLOW | O_CLOEXEC);
+        if (handle < 0)
             continue;
-        if (!isOurs(status))
+        const bool told = ::fstat(handle, &status) == 0;
+        const bool open = told && S_ISDIR(status.st_mode) && othersMayAdd(handle, status);
+        ::close(handle);
+        if (!told || !isOurs(status))
             return belongsToAnother(path);
-        if (S_ISDIR(status.st_mode) && othersMayAdd(status))
+        if (open)
             return othersWrite(path);
     }
     return QString();

@@ -57,21 +57,22 @@ bool isDescribedPath(const QString &path)
 bool makeStateFolder(const QString &folder, QString *error)
 {
     // What strangers could change would lead the program to other files of its user.
-    QString wrong = ownfiles::strangerOn(folder);
+    QString wrong = ownfiles::makeFolder(folder);
+    if (wrong.isEmpty()) {
+        wrong = ownfiles::strangerIn(folder);
+    }
     if (wrong.isEmpty() && !ownfiles::irregularIn(folder).isEmpty()) {
         wrong = ownfiles::irregularIn(folder) + QLatin1String(": no regular file");
     }
-    if (!wrong.isEmpty()) {
-        *error = QLatin1String("the state of the PC cannot be kept: ") + wrong;
-        return false;
-    }
     for (const char *part : {"temp", "images", "registry", "volumes-changed", "drives/C"}) {
-        if (!QDir().mkpath(folder + QLatin1Char('/') + QLatin1String(part))) {
-            *error = folder + QLatin1String(": the state of the PC cannot be kept there");
-            return false;
+        if (wrong.isEmpty()) {
+            wrong = ownfiles::makeFolder(folder + QLatin1Char('/') + QLatin1String(part));
         }
     }
-    return true;
+    if (!wrong.isEmpty()) {
+        *error = QLatin1String("the state of the PC cannot be kept: ") + wrong;
+    }
+    return wrong.isEmpty();
 }
 
 } // namespace
@@ -80,7 +81,7 @@ std::unique_ptr<SimulatedPlatform> SimulatedPlatform::open(const QString &folder
                                                            QString *error, simulated::Clock clock)
 {
     // Who runs as an administrator follows nobody else's description.
-    const QString stranger = ownfiles::isElevated() ? ownfiles::strangerOn(folder) : QString();
+    const QString stranger = ownfiles::isElevated() ? ownfiles::strangerIn(folder) : QString();
     if (!stranger.isEmpty()) {
         *error = stranger + QLatin1String(", and this program runs as an administrator");
         return nullptr;

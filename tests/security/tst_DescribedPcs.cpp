@@ -152,6 +152,21 @@ void DescribedPcsTest::foldersOfOthers()
     QCOMPARE(chmod(name.constData(), 0777), 0);
     QCOMPARE(ownfiles::strangerOn(other.path() + QStringLiteral("/state")),
              other.path() + QStringLiteral(": others may write to it"));
+    // Nor one that all may add to, where nothing is anybody's yet, nor a part of somebody else's.
+    QCOMPARE(chmod(name.constData(), 01777), 0);
+    QCOMPARE(openingError(folder, other.path()),
+             notKept + other.path() + QStringLiteral(": others may write to it"));
+    QCOMPARE(chmod(name.constData(), 0755), 0);
+    for (const QString &part : {QStringLiteral("/pc.json"), QStringLiteral("/temp")}) {
+        const QString path = other.path() + part;
+        QVERIFY(QFile::exists(path) || QDir().mkdir(path));
+        QCOMPARE(chown(QFile::encodeName(path).constData(), 65534, 65534), 0);
+        const QString wrong = path + QStringLiteral(": belongs to another user");
+        QCOMPARE(openingError(folder, other.path()), notKept + wrong);
+        QVERIFY(!SimulatedPlatform::open(other.path(), folder.state(), &error));
+        QCOMPARE(error, wrong + QStringLiteral(", and this program runs as an administrator"));
+        QVERIFY(QFile::remove(path) || QDir().rmdir(path));
+    }
 }
 
 void DescribedPcsTest::drivesHaveNoParent()
