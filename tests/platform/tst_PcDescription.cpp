@@ -33,7 +33,7 @@ void TestPcDescription::readsEveryKey()
         "disks": [
           {"number": 7, "media": "removable", "model": "M", "interface": "USB", "status": "Pred Fail",
            "bytesPerSector": 4096, "sectors": 5000000000, "image": "i.img", "opens": false,
-           "badSectors": [3, [10, 2]], "unwritable": [[1, 1]], "bytesPerSecond": 2000000, "pastEnd": "fail",
+           "badSectors": [3, [10, 2]], "unwritable": [[1, 1]], "bytesPerSecond": 1000, "pastEnd": "fail",
            "report": ["a.txt", "a.txt"], "capabilities": "a.txt", "selfTestLog": "a.txt",
            "identity": {"model": "IM", "serial": "IS", "firmware": "IF", "smart": "01 fF"},
            "selfTest": {"result": "read failure", "remaining": 60}},
@@ -65,7 +65,7 @@ void TestPcDescription::readsEveryKey()
     QCOMPARE(disk.record.node, folder.path() + QStringLiteral("/i.img"));
     QVERIFY(!disk.opens && disk.failsPastEnd);
     QVERIFY(disk.bad.touches(11, 1) && !disk.bad.touches(12, 1) && disk.unwritable.touches(1, 1));
-    QCOMPARE(disk.bytesPerSecond, quint64(2000000));
+    QCOMPARE(disk.bytesPerSecond, quint64(1000000));
     QCOMPARE(disk.reports.size(), 2);
     QCOMPARE(disk.identity->smart, QByteArray("\x01\xff"));
     QCOMPARE(disk.selfTestEnd.status, 7);

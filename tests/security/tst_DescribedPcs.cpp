@@ -21,6 +21,7 @@ private slots:
     void strangeStates();
     void foldersOfOthers();
     void drivesHaveNoParent();
+    void slowDisk();
     void typesInTheHistory();
 
 private:
@@ -176,6 +177,21 @@ void DescribedPcsTest::drivesHaveNoParent()
     QCOMPARE(pc->NativePath(QStringLiteral("C:\\..\\a\\..\\..\\..\\etc\\..\\x")),
              folder.state() + QStringLiteral("/drives/C/x"));
     QCOMPARE(pc->NativePath(QStringLiteral("d:/..")), folder.state() + QStringLiteral("/drives/D/"));
+}
+
+void DescribedPcsTest::slowDisk()
+{
+    const DescribedFolder folder;
+    const auto pc = folder.open(R"({"disks": [{"number": 0, "sectors": 32768, "bytesPerSecond": 1}]})");
+    const auto disk =
+        pc->CreateFileW(QStringLiteral("\\\\.\\PHYSICALDRIVE0"), io::GenericRead, 3, io::OpenExisting);
+    QByteArray block(32768 * 512, 'x');
+    QElapsedTimer clock;
+    clock.start();
+    QVERIFY(pc->ReadFile(disk, block.data(), 512, nullptr));
+    QVERIFY(clock.restart() < 900);
+    QVERIFY(pc->SetFilePointer(disk, 0) && pc->ReadFile(disk, block.data(), quint32(block.size()), nullptr));
+    QVERIFY(clock.elapsed() < 8000);
 }
 
 /// The toolkit makes the type that a value names, and goes down as deep as its lists go.
