@@ -153,6 +153,7 @@ void DescribedPcsTest::foldersOfOthers()
     QCOMPARE(chmod(name.constData(), 0777), 0);
     QCOMPARE(ownfiles::strangerOn(other.path() + QStringLiteral("/state")),
              other.path() + QStringLiteral(": others may write to it"));
+    QVERIFY(QFile::remove(other.path() + QStringLiteral("/root's")));
     // Nor one that all may add to, where nothing is anybody's yet, nor a part of somebody else's.
     QCOMPARE(chmod(name.constData(), 01777), 0);
     QCOMPARE(openingError(folder, other.path()),
