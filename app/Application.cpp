@@ -1,11 +1,11 @@
 #include "app/Application.h"
 
 #include "app/QWaitClass.h"
-#include "app/state/GlobalApp.h"
-#include "app/state/Globals.h"
-#include "app/state/Languages.h"
-#include "app/state/SettingsStore.h"
 #include "platform/Platform.h"
+#include "state/GlobalApp.h"
+#include "state/Globals.h"
+#include "state/Languages.h"
+#include "state/SettingsStore.h"
 
 #include <QApplication>
 #include <QFont>

@@ -1,11 +1,11 @@
 #include "app/QThreadDevicesLoad.h"
 
-#include "app/state/GlobalApp.h"
-#include "app/state/Globals.h"
 #include "inventory/CommandRunner.h"
 #include "platform/OwnFiles.h"
 #include "platform/Platform.h"
 #include "smart/DeviceLoad.h"
+#include "state/GlobalApp.h"
+#include "state/Globals.h"
 
 #include <QFile>
 

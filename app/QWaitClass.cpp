@@ -1,14 +1,14 @@
 #include "app/QWaitClass.h"
 
-#include "app/state/GlobalApp.h"
-#include "app/state/Globals.h"
-#include "app/state/Languages.h"
-#include "app/state/Scale.h"
-#include "app/state/SettingsStore.h"
 #include "platform/Platform.h"
-#include "ui/Images.h"
-#include "ui/MainWindow.h"
-#include "ui/Style.h"
+#include "state/GlobalApp.h"
+#include "state/Globals.h"
+#include "state/Languages.h"
+#include "state/Scale.h"
+#include "state/SettingsStore.h"
+#include "ui/widgets/Images.h"
+#include "ui/widgets/Style.h"
+#include "ui/window/MainWindow.h"
 
 #include <QCursor>
 #include <QLinearGradient>

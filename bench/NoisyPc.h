@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/state/GlobalApp.h"
 #include "platform/simulated/SimulatedPlatform.h"
+#include "state/GlobalApp.h"
 
 #include <QByteArray>
 #include <QDir>

@@ -1,7 +1,7 @@
-#include "app/state/Globals.h"
 #include "bench/NoisyPc.h"
 #include "clone/ThreadDriveClone.h"
 #include "platform/NativePlatform.h"
+#include "state/Globals.h"
 #include "tests/platform/LoopDevice.h"
 #include "tests/support/WatchedPlatform.h"
 

@@ -1,7 +1,7 @@
-#include "app/state/GlobalApp.h"
 #include "scan/BlockMap.h"
 #include "scan/ScanGlobals.h"
-#include "ui/QGridView.h"
+#include "state/GlobalApp.h"
+#include "ui/widgets/QGridView.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

@@ -1,8 +1,8 @@
-#include "app/state/Globals.h"
 #include "bench/NoisyPc.h"
 #include "inventory/RawAccess.h"
 #include "scan/QScanDriveThread.h"
 #include "scan/ScanGlobals.h"
+#include "state/Globals.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>

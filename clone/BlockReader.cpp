@@ -1,6 +1,6 @@
 #include "clone/BlockReader.h"
 
-#include "app/state/Globals.h"
+#include "state/Globals.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #include "clone/CloneTargets.h"
 
-#include "app/state/DiskRecords.h"
 #include "platform/IoControl.h"
+#include "state/DiskRecords.h"
 
 #include <algorithm>
 #include <cstring>

@@ -1,9 +1,9 @@
 #include "clone/DestinationScripts.h"
 
-#include "app/state/GlobalApp.h"
 #include "inventory/CommandRunner.h"
 #include "platform/OwnFiles.h"
 #include "platform/Platform.h"
+#include "state/GlobalApp.h"
 
 #include <QFile>
 

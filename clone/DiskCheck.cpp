@@ -1,6 +1,6 @@
 #include "clone/DiskCheck.h"
 
-#include "app/state/DiskRecords.h"
+#include "state/DiskRecords.h"
 
 namespace diskcheck
 {

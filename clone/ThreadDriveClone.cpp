@@ -1,11 +1,11 @@
 #include "clone/ThreadDriveClone.h"
 
-#include "app/state/GlobalApp.h"
-#include "app/state/Globals.h"
 #include "clone/CloneCopy.h"
 #include "clone/DestinationScripts.h"
 #include "clone/DiskCheck.h"
 #include "platform/PageMemory.h"
+#include "state/GlobalApp.h"
+#include "state/Globals.h"
 
 #include <QElapsedTimer>
 #include <QMutexLocker>

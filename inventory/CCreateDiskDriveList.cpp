@@ -1,6 +1,5 @@
 #include "inventory/CCreateDiskDriveList.h"
 
-#include "app/state/GlobalApp.h"
 #include "inventory/AtaIdentity.h"
 #include "inventory/Capacity.h"
 #include "inventory/LinuxNodes.h"
@@ -9,6 +8,7 @@
 #include "inventory/VolumeExtents.h"
 #include "inventory/VolumeNodes.h"
 #include "platform/IoControl.h"
+#include "state/GlobalApp.h"
 
 namespace
 {

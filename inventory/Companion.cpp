@@ -1,8 +1,8 @@
 #include "inventory/Companion.h"
 
-#include "app/state/GlobalApp.h"
 #include "inventory/CommandRunner.h"
 #include "platform/Platform.h"
+#include "state/GlobalApp.h"
 
 #include <QTextStream>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/state/DiskRecords.h"
 #include "inventory/PartitionWalk.h"
+#include "state/DiskRecords.h"
 
 #include <memory>
 

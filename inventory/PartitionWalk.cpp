@@ -1,8 +1,8 @@
 #include "inventory/PartitionWalk.h"
 
-#include "app/state/DiskRecords.h"
 #include "inventory/BootSector.h"
 #include "inventory/RawAccess.h"
+#include "state/DiskRecords.h"
 
 #include <QSet>
 

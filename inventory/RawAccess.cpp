@@ -1,7 +1,7 @@
 #include "inventory/RawAccess.h"
 
-#include "app/state/DiskRecords.h"
 #include "platform/IoControl.h"
+#include "state/DiskRecords.h"
 
 #include <array>
 #include <cstring>

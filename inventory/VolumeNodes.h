@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/state/DiskRecords.h"
 #include "inventory/VolumeExtents.h"
+#include "state/DiskRecords.h"
 
 #include <QString>
 

@@ -1,8 +1,8 @@
 #include "inventory/WmicInventory.h"
 
-#include "app/state/GlobalApp.h"
-#include "app/state/Globals.h"
 #include "inventory/CommandRunner.h"
+#include "state/GlobalApp.h"
+#include "state/Globals.h"
 
 #include <QHash>
 #include <QRegularExpression>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/state/DiskRecords.h"
+#include "state/DiskRecords.h"
 
 #include <QString>
 #include <QVector>

@@ -1,60 +1,6 @@
 #include "platform/Platform.h"
 
-#include "platform/NativePlatform.h"
-#include "platform/simulated/SimulatedPlatform.h"
-
-#include <atomic>
-#include <cstdio>
-#include <cstdlib>
-#include <mutex>
-
-namespace
-{
-
-std::mutex chooseMutex;
-std::unique_ptr<Platform> owner;
-std::atomic<Platform *> chosen{nullptr};
-
-std::unique_ptr<Platform> choose()
-{
-    const QString folder = qEnvironmentVariable("HALVANE_PC");
-    if (folder.isEmpty()) {
-        return makeNativePlatform();
-    }
-    QString error;
-    auto platform = SimulatedPlatform::open(folder, qEnvironmentVariable("HALVANE_PC_STATE"), &error);
-    if (!platform) {
-        std::fprintf(stderr, "VelmoraHalvane: %s\n", error.toLocal8Bit().constData());
-        std::fflush(nullptr);
-        // Not exit(): half of the program may be up, and its clean-up would add lines of its own.
-        std::_Exit(2);
-    }
-    return platform;
-}
-
-} // namespace
-
-Platform &Platform::current()
-{
-    if (Platform *platform = chosen.load(std::memory_order_acquire)) {
-        return *platform;
-    }
-    const std::lock_guard<std::mutex> lock(chooseMutex);
-    if (!owner) {
-        owner = choose();
-        chosen.store(owner.get(), std::memory_order_release);
-    }
-    return *owner;
-}
-
 QByteArray Platform::CommandInterpreter()
 {
     return (GetSystemDirectoryW() + QLatin1String("\\cmd.exe")).toUtf8();
-}
-
-void Platform::install(std::unique_ptr<Platform> platform)
-{
-    const std::lock_guard<std::mutex> lock(chooseMutex);
-    chosen.store(platform.get(), std::memory_order_release);
-    owner = std::move(platform);
 }

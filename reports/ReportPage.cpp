@@ -1,8 +1,8 @@
 #include "reports/ReportPage.h"
 
-#include "app/state/Scale.h"
 #include "platform/OwnFiles.h"
 #include "reports/SmartReport.h"
+#include "state/Scale.h"
 
 #include <QBuffer>
 #include <QCoreApplication>

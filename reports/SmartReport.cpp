@@ -1,13 +1,13 @@
 #include "reports/SmartReport.h"
 
-#include "app/state/GlobalApp.h"
-#include "app/state/Globals.h"
 #include "smart/AttributeCatalogue.h"
 #include "smart/AttributeKey.h"
 #include "smart/AttributeRows.h"
 #include "smart/PreviousTest.h"
 #include "smart/Rating.h"
 #include "smart/SmartGlobals.h"
+#include "state/GlobalApp.h"
+#include "state/Globals.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

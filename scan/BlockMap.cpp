@@ -1,8 +1,8 @@
 #include "scan/BlockMap.h"
 
-#include "app/state/Scale.h"
 #include "scan/BadSectorList.h"
 #include "scan/ScanGlobals.h"
+#include "state/Scale.h"
 
 #include <QCoreApplication>
 

@@ -1,10 +1,10 @@
 #include "scan/QScanDriveThread.h"
 
-#include "app/state/GlobalApp.h"
-#include "app/state/Globals.h"
 #include "inventory/RawAccess.h"
 #include "platform/PageMemory.h"
 #include "scan/ScanGlobals.h"
+#include "state/GlobalApp.h"
+#include "state/Globals.h"
 
 #include <QCoreApplication>
 #include <QEvent>

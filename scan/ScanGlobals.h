@@ -5,7 +5,7 @@
 #include <atomic>
 
 /// The state of a surface scan, which the scan thread, the Scan Disk page and the block map share. It
-/// outlives the thread. g_bAbortJob and g_bJobRunning are in app/state/Globals.h. Sectors are of 512 bytes.
+/// outlives the thread. g_bAbortJob and g_bJobRunning are in state/Globals.h. Sectors are of 512 bytes.
 
 constexpr qint64 ScanBlockCount = 400; ///< the disk is told in so many blocks, for progress and for the map
 

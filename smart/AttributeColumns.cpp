@@ -1,6 +1,6 @@
 #include "smart/AttributeColumns.h"
 
-#include "app/state/Scale.h"
+#include "state/Scale.h"
 
 #include <QtGlobal>
 

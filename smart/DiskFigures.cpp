@@ -1,11 +1,11 @@
 #include "smart/DiskFigures.h"
 
-#include "app/state/GlobalApp.h"
-#include "app/state/Globals.h"
 #include "smart/DriveVerdict.h"
 #include "smart/PreviousTest.h"
 #include "smart/Rating.h"
 #include "smart/SmartGlobals.h"
+#include "state/GlobalApp.h"
+#include "state/Globals.h"
 
 namespace
 {

@@ -1,6 +1,6 @@
 #pragma once
 
-/// What is known of the disk that is chosen, in the globals of this folder and of app/state/Globals.h:
+/// What is known of the disk that is chosen, in the globals of this folder and of state/Globals.h:
 /// attribute lists, ratings, life, last self-test, title of the graph. Main thread only.
 
 constexpr int NoDisk = -1;

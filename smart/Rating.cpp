@@ -1,11 +1,11 @@
 #include "smart/Rating.h"
 
-#include "app/state/GlobalApp.h"
-#include "app/state/Globals.h"
-#include "app/state/Scale.h"
 #include "smart/AttributeKey.h"
 #include "smart/HealthCatalogue.h"
 #include "smart/SmartGlobals.h"
+#include "state/GlobalApp.h"
+#include "state/Globals.h"
+#include "state/Scale.h"
 
 #include <QCoreApplication>
 

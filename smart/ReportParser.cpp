@@ -1,11 +1,11 @@
 #include "smart/ReportParser.h"
 
-#include "app/state/GlobalApp.h"
-#include "app/state/Globals.h"
 #include "inventory/CommandRunner.h"
 #include "smart/DriveVerdict.h"
 #include "smart/SmartGlobals.h"
 #include "smart/TextCuts.h"
+#include "state/GlobalApp.h"
+#include "state/Globals.h"
 
 #include <QCoreApplication>
 #include <QFile>

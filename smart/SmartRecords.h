@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/state/FixedText.h"
+#include "state/FixedText.h"
 
 #include <cstdint>
 

@@ -1,7 +1,7 @@
 #include "smart/Temperature.h"
 
-#include "app/state/GlobalApp.h"
 #include "smart/SmartGlobals.h"
+#include "state/GlobalApp.h"
 
 namespace
 {

@@ -1,10 +1,10 @@
 #include "smart/ToolInvocation.h"
 
-#include "app/state/GlobalApp.h"
-#include "app/state/Globals.h"
 #include "inventory/CommandRunner.h"
 #include "smart/ReportParser.h"
 #include "smart/SmartGlobals.h"
+#include "state/GlobalApp.h"
+#include "state/Globals.h"
 
 #include <QTextStream>
 

@@ -1,9 +1,9 @@
 #include "update/HelpLinks.h"
 
-#include "app/state/GlobalApp.h"
-#include "app/state/Languages.h"
-#include "app/state/SettingsStore.h"
 #include "platform/Platform.h"
+#include "state/GlobalApp.h"
+#include "state/Languages.h"
+#include "state/SettingsStore.h"
 
 #include <QUrl>
 

@@ -1,8 +1,8 @@
 #include "update/UpdateLink.h"
 
-#include "app/state/GlobalApp.h"
-#include "app/state/Languages.h"
-#include "app/state/SettingsStore.h"
+#include "state/GlobalApp.h"
+#include "state/Languages.h"
+#include "state/SettingsStore.h"
 
 namespace update
 {

@@ -9,20 +9,36 @@ widgets=$(for folder in "$@"; do find "$folder/" -type f -printf '%f\n'; done | 
     echo "the widget headers of Qt are not in $*" >&2
     exit 1
 }
-list=$(files 'platform/*.cpp' 'platform/*.h' 'app/*.cpp' 'app/*.h' 'inventory/*.cpp' 'inventory/*.h' 'smart/*.cpp' \
-    'smart/*.h' 'scan/*.cpp' 'scan/*.h' 'clone/*.cpp' 'clone/*.h' 'update/*.cpp' 'update/*.h' 'reports/*.cpp' \
-    'reports/*.h' 'ui/*.cpp' 'ui/*.h')
+floors='platform state inventory smart scan clone update reports ui app tour'
+patterns=()
+for floor in $floors; do patterns+=("$floor/*.cpp" "$floor/*.h"); done
+list=$(files "${patterns[@]}")
+
+# A file and its header are one; the header of a form is its maker's.
+# shellcheck disable=SC2086  # one word per file; none of ours has a blank
+rings=$(awk '
+    function unit(path) { sub(/\.(h|cpp)$/, "", path); return path }
+    /^#include "/ {
+        split($0, part, "\"")
+        if (unit(part[2]) != unit(FILENAME) && part[2] !~ /^ui_|\.moc$/)
+            print unit(FILENAME), unit(part[2])
+    }' $list | tsort 2>&1 >/dev/null | grep -v 'contains a loop' || true)
+[ -z "$rings" ] || printf '%s\n' "$rings" | verdict "Files that include each other in a ring:"
 
 # shellcheck disable=SC2086  # one word per file; none of ours has a blank
 awk -v widgets="$widgets" '
     function floorOf(path) {
         if (path ~ /^platform\//) return 1
-        if (path ~ /^app\/state\//) return 2
+        if (path ~ /^state\//) return 2
         if (path ~ /^inventory\//) return 3
         if (path ~ /^(smart|scan|clone|update)\//) return 4
         if (path ~ /^reports\//) return 5
-        if (path ~ /^ui\// || path ~ /^ui_[A-Za-z]+\.h$/) return 6
+        if (path ~ /^ui\/widgets\//) return 6.1
+        if (path ~ /^ui\/dialogs\// || path ~ /^ui_[A-Za-z]+\.h$/) return 6.2
+        if (path ~ /^ui\/screens\//) return 6.3
+        if (path ~ /^ui\//) return 6.4
         if (path ~ /^app\//) return 7
+        if (path ~ /^tour\//) return 8
         return 0
     }
     BEGIN { n = split(widgets, names, "\n"); for (i = 1; i <= n; ++i) isWidget[names[i]] = 1 }

@@ -29,15 +29,15 @@ manual() {
 # A tree in which nothing is wrong.
 sound() {
     rm -rf "${tree:?}"/*
-    mkdir -p "$tree"/{platform,app/state,inventory,smart,scan,clone,update,reports,ui/forms,demo}
+    mkdir -p "$tree"/{platform,state,inventory,smart,scan,clone,update,reports,ui/forms,demo}
     mkdir -p "$tree"/{resources/translations,help/images}
     mkdir -p "$tree"/tests/{checks,data}
     cp "$root/.clang-format" "$tree"
     cp "$checks/long-files.txt" "$tree/tests/checks"
     sed -i '/^[^#]/d' "$tree/tests/checks/long-files.txt"
     printf '#ifdef Q_OS_WIN\n#endif\n' >"$tree/platform/Seam.h"
-    printf '#include "platform/Seam.h"\n' >"$tree/app/state/State.h"
-    printf '#include "app/state/State.h"\n\n#include <QString>\n' >"$tree/smart/Rating.cpp"
+    printf '#include "platform/Seam.h"\n' >"$tree/state/State.h"
+    printf '#include "state/State.h"\n\n#include <QString>\n' >"$tree/smart/Rating.cpp"
     printf '#include "smart/Rating.h"\n#include "ui_Page.h"\n\n#include <QWidget>\n' >"$tree/ui/Page.h"
     printf '<ui version="4.0"><class>Page</class></ui>\n' >"$tree/ui/forms/Page.ui"
     printf 'auto a = QCoreApplication::translate("MainWindow", "ID#");\n' >"$tree/smart/ReportParser.cpp"
@@ -75,12 +75,14 @@ finds() {
 }
 
 long=$(printf '// line\n%.0s' {1..501})
-finds includes 'points upwards' platform/Up.cpp '#include "app/state/State.h"\n'
+finds includes 'points upwards' platform/Up.cpp '#include "state/State.h"\n'
 finds includes 'points upwards' smart/Up.h '#  include <ui/Page.h>\n'
 finds includes 'points upwards' reports/Up.cpp '#include "ui_Page.h"\n'
 finds includes 'points upwards' ui/Up.cpp '#include "app/Splash.h"\n'
+finds includes 'points upwards' ui/widgets/Up.cpp '#include "ui/dialogs/Question.h"\n'
+finds includes 'tsort: state/State' platform/Seam.h '#include "state/State.h"\n'
 finds includes 'a widget' smart/Widget.cpp '#include <QPushButton>\n'
-finds includes 'a widget' app/state/Widget.h '#include <QtWidgets/QLabel>\n'
+finds includes 'a widget' state/Widget.h '#include <QtWidgets/QLabel>\n'
 finds includes 'a widget' inventory/Chart.cpp '#include <QtCharts/QChart>\n'
 finds includes 'begin at the root' ui/Near.cpp '#include "Page.h"\n'
 finds platforms 'smart/Os.cpp:1' smart/Os.cpp '#ifdef Q_OS_LINUX\n#endif\n'

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "app/state/GlobalApp.h"
-#include "app/state/Globals.h"
 #include "clone/ThreadDriveClone.h"
 #include "inventory/RawAccess.h"
+#include "state/GlobalApp.h"
+#include "state/Globals.h"
 
 #include <QFile>
 #include <QRandomGenerator>

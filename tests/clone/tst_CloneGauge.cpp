@@ -1,9 +1,9 @@
-#include "clone/CloneFlow.h"
+#include "clone/CloneMessages.h"
 #include "clone/GaugeGeometry.h"
 
 #include <QTest>
 
-Q_DECLARE_METATYPE(cloneflow::Side)
+Q_DECLARE_METATYPE(clonemessages::Side)
 
 /// What the clone screen works out without a disk: its time, its refusals and where the gauge draws.
 class tst_CloneGauge : public QObject
@@ -39,7 +39,7 @@ void tst_CloneGauge::remainingTime_data()
 void tst_CloneGauge::remainingTime()
 {
     QFETCH(qint64, remaining);
-    QTEST(cloneflow::remainingText(remaining), "text");
+    QTEST(clonemessages::remainingText(remaining), "text");
 }
 
 void tst_CloneGauge::percentOfTheDisk_data()
@@ -57,30 +57,30 @@ void tst_CloneGauge::percentOfTheDisk()
 {
     QFETCH(qint64, position);
     QFETCH(quint64, total);
-    QTEST(cloneflow::percentDone(position, total), "percent");
+    QTEST(clonemessages::percentDone(position, total), "percent");
 }
 
 void tst_CloneGauge::refuses_data()
 {
-    QTest::addColumn<cloneflow::Side>("source");
-    QTest::addColumn<cloneflow::Side>("destination");
+    QTest::addColumn<clonemessages::Side>("source");
+    QTest::addColumn<clonemessages::Side>("destination");
     QTest::addColumn<QString>("reason");
-    const cloneflow::Side source{1, 1000};
-    QTest::newRow("same disk") << source << cloneflow::Side{1, 1000}
+    const clonemessages::Side source{1, 1000};
+    QTest::newRow("same disk") << source << clonemessages::Side{1, 1000}
                                << "Source and destination disks are same.";
     QTest::newRow("same disk, smaller by now")
-        << source << cloneflow::Side{1, 1} << "Source and destination disks are same.";
-    QTest::newRow("one sector less") << source << cloneflow::Side{2, 999}
+        << source << clonemessages::Side{1, 1} << "Source and destination disks are same.";
+    QTest::newRow("one sector less") << source << clonemessages::Side{2, 999}
                                      << "Destination disk size is smaller than source disk.";
-    QTest::newRow("equal") << source << cloneflow::Side{2, 1000} << QString();
-    QTest::newRow("larger") << source << cloneflow::Side{0, 5000000000} << QString();
+    QTest::newRow("equal") << source << clonemessages::Side{2, 1000} << QString();
+    QTest::newRow("larger") << source << clonemessages::Side{0, 5000000000} << QString();
 }
 
 void tst_CloneGauge::refuses()
 {
-    QFETCH(cloneflow::Side, source);
-    QFETCH(cloneflow::Side, destination);
-    const auto refusal = cloneflow::refusal(source, destination);
+    QFETCH(clonemessages::Side, source);
+    QFETCH(clonemessages::Side, destination);
+    const auto refusal = clonemessages::refusal(source, destination);
     QTEST(refusal ? refusal->text : QString(), "reason");
 }
 

@@ -1,4 +1,4 @@
-#include "clone/CloneFlow.h"
+#include "clone/CloneMessages.h"
 #include "clone/RescueMap.h"
 
 #include <QFile>
@@ -44,7 +44,7 @@ void tst_RescueMap::text()
     CloneOutcome outcome;
     outcome.end = CloneOutcome::End::WithErrors;
     outcome.lost = m_lost;
-    const cloneflow::Message message = cloneflow::finished(outcome);
+    const clonemessages::Message message = clonemessages::finished(outcome);
     QCOMPARE(message.text, QStringLiteral("Disk Cloning complete with errors."));
     QCOMPARE(message.second, QStringLiteral("4 sectors could not be read and were filled with zeros. "
                                             "4 sectors could not be written."));

@@ -1,6 +1,6 @@
-#include "app/state/GlobalApp.h"
 #include "inventory/CCreateDiskDriveList.h"
 #include "inventory/Capacity.h"
+#include "state/GlobalApp.h"
 #include "tests/support/FakePlatform.h"
 
 #include <QTest>

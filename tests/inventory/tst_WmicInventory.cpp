@@ -1,7 +1,7 @@
-#include "app/state/GlobalApp.h"
-#include "app/state/Globals.h"
 #include "inventory/CommandRunner.h"
 #include "inventory/WmicInventory.h"
+#include "state/GlobalApp.h"
+#include "state/Globals.h"
 #include "tests/support/FakePlatform.h"
 
 #include <QTest>

@@ -1,8 +1,8 @@
 #include "inventory/CCreateDiskDriveList.h"
 
-#include "app/state/GlobalApp.h"
 #include "platform/IoControl.h"
 #include "platform/NativePlatform.h"
+#include "state/GlobalApp.h"
 #include "tests/platform/LoopDevice.h"
 
 #include <QDir>

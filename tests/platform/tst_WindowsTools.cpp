@@ -1,10 +1,10 @@
-#include "app/state/GlobalApp.h"
-#include "app/state/Globals.h"
 #include "inventory/CommandRunner.h"
 #include "inventory/Companion.h"
 #include "inventory/WmicInventory.h"
 #include "platform/NativePlatform.h"
 #include "platform/tools/CommandInterpreter.h"
+#include "state/GlobalApp.h"
+#include "state/Globals.h"
 
 #include <QCoreApplication>
 #include <QDir>

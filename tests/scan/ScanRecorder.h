@@ -1,9 +1,9 @@
 #pragma once
 
-#include "app/state/GlobalApp.h"
-#include "app/state/Globals.h"
 #include "scan/QScanDriveThread.h"
 #include "scan/ScanGlobals.h"
+#include "state/GlobalApp.h"
+#include "state/Globals.h"
 
 #include <QEventLoop>
 #include <QStringList>

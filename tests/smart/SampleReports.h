@@ -1,10 +1,10 @@
 #pragma once
 
-#include "app/state/GlobalApp.h"
-#include "app/state/Globals.h"
 #include "inventory/CommandRunner.h"
 #include "smart/Rating.h"
 #include "smart/SmartGlobals.h"
+#include "state/GlobalApp.h"
+#include "state/Globals.h"
 
 #include <QFile>
 #include <QStringList>

@@ -1,5 +1,5 @@
-#include "tests/tour/LayoutCheck.h"
-#include "tests/tour/ScreenRecorder.h"
+#include "tour/LayoutCheck.h"
+#include "tour/ScreenRecorder.h"
 
 #include <QBarCategoryAxis>
 #include <QCategoryAxis>

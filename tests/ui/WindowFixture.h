@@ -1,13 +1,13 @@
 #pragma once
 
-#include "app/state/GlobalApp.h"
-#include "app/state/Globals.h"
-#include "app/state/Languages.h"
 #include "smart/DeviceLoad.h"
+#include "state/GlobalApp.h"
+#include "state/Globals.h"
+#include "state/Languages.h"
 #include "tests/platform/DescribedFolder.h"
-#include "ui/Images.h"
-#include "ui/MainWindow.h"
-#include "ui/MyButton.h"
+#include "ui/widgets/Images.h"
+#include "ui/widgets/MyButton.h"
+#include "ui/window/MainWindow.h"
 
 #include <QtTest>
 

@@ -1,13 +1,13 @@
 #include "clone/ThreadDriveClone.h"
 #include "tests/ui/WindowFixture.h"
-#include "ui/CloneDisk.h"
-#include "ui/CloneWarning.h"
-#include "ui/ConfarmetionClass.h"
-#include "ui/DestinitionWarning.h"
-#include "ui/InfoDialogClass.h"
-#include "ui/ManualCheck.h"
-#include "ui/QRoundProgressBar.h"
-#include "ui/ScanSwitchClass.h"
+#include "ui/dialogs/CloneWarning.h"
+#include "ui/dialogs/ConfarmetionClass.h"
+#include "ui/dialogs/DestinitionWarning.h"
+#include "ui/dialogs/InfoDialogClass.h"
+#include "ui/dialogs/ManualCheck.h"
+#include "ui/dialogs/ScanSwitchClass.h"
+#include "ui/screens/CloneDisk.h"
+#include "ui/widgets/QRoundProgressBar.h"
 
 #include <QAction>
 #include <QComboBox>

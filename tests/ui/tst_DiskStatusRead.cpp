@@ -1,7 +1,7 @@
-#include "app/state/SettingsStore.h"
 #include "smart/Rating.h"
 #include "smart/SmartGlobals.h"
 #include "smart/Temperature.h"
+#include "state/SettingsStore.h"
 #include "tests/ui/WindowFixture.h"
 
 #include <QTreeWidget>

@@ -1,6 +1,6 @@
-#include "app/state/SettingsStore.h"
+#include "state/SettingsStore.h"
 #include "tests/ui/WindowFixture.h"
-#include "ui/Settings.h"
+#include "ui/screens/Settings.h"
 
 #include <QAction>
 #include <QComboBox>

@@ -1,13 +1,13 @@
-#include "app/state/SettingsStore.h"
+#include "state/SettingsStore.h"
 #include "tests/ui/WindowFixture.h"
-#include "ui/CloseWgt.h"
-#include "ui/ConfarmetionClass.h"
-#include "ui/DestinitionWarning.h"
-#include "ui/DiskPartition.h"
-#include "ui/DiskStatus.h"
-#include "ui/ScanDisk.h"
-#include "ui/ScanSwitchClass.h"
-#include "ui/SmartStatus.h"
+#include "ui/dialogs/CloseWgt.h"
+#include "ui/dialogs/ConfarmetionClass.h"
+#include "ui/dialogs/DestinitionWarning.h"
+#include "ui/dialogs/ScanSwitchClass.h"
+#include "ui/screens/DiskPartition.h"
+#include "ui/screens/DiskStatus.h"
+#include "ui/screens/ScanDisk.h"
+#include "ui/screens/SmartStatus.h"
 
 /// The real window on a described PC with an ATA disk, an NVMe disk and a stick without SMART.
 class tst_MainWindow : public QObject, private WindowFixture

@@ -1,10 +1,10 @@
-#include "ui/CloneDisk.h"
-#include "ui/DiskPartition.h"
-#include "ui/ScanDisk.h"
-#include "ui/SmartStatus.h"
+#include "ui/screens/CloneDisk.h"
+#include "ui/screens/DiskPartition.h"
+#include "ui/screens/ScanDisk.h"
+#include "ui/screens/SmartStatus.h"
 
-#include "app/state/GlobalApp.h"
-#include "app/state/Globals.h"
+#include "state/GlobalApp.h"
+#include "state/Globals.h"
 
 #include <QCoreApplication>
 #include <QSignalSpy>

@@ -1,12 +1,12 @@
-#include "app/state/GlobalApp.h"
-#include "app/state/Globals.h"
-#include "app/state/Languages.h"
 #include "smart/DeviceLoad.h"
+#include "state/GlobalApp.h"
+#include "state/Globals.h"
+#include "state/Languages.h"
 #include "tests/platform/DescribedFolder.h"
-#include "ui/DiskPartition.h"
-#include "ui/DonutChartView.h"
-#include "ui/MainWindow.h"
-#include "ui/MyButton.h"
+#include "ui/screens/DiskPartition.h"
+#include "ui/widgets/DonutChartView.h"
+#include "ui/widgets/MyButton.h"
+#include "ui/window/MainWindow.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -1,9 +1,9 @@
 #include "app/QWaitClass.h"
-#include "app/state/GlobalApp.h"
-#include "app/state/Globals.h"
-#include "app/state/Languages.h"
+#include "state/GlobalApp.h"
+#include "state/Globals.h"
+#include "state/Languages.h"
 #include "tests/platform/DescribedFolder.h"
-#include "ui/MainWindow.h"
+#include "ui/window/MainWindow.h"
 
 #include <QComboBox>
 #include <QFrame>

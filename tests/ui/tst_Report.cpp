@@ -1,7 +1,7 @@
 #include "smart/PreviousTest.h"
 #include "smart/SmartGlobals.h"
 #include "tests/ui/WindowFixture.h"
-#include "ui/SmartStatus.h"
+#include "ui/screens/SmartStatus.h"
 
 #include <QDialogButtonBox>
 #include <QFileDialog>

@@ -1,12 +1,12 @@
 #include "scan/BlockMap.h"
 #include "scan/ScanGlobals.h"
 #include "tests/ui/WindowFixture.h"
-#include "ui/ConfarmetionClass.h"
-#include "ui/DestinitionWarning.h"
-#include "ui/InfoDialogClass.h"
-#include "ui/QGridView.h"
-#include "ui/ScanDisk.h"
-#include "ui/ScanSwitchClass.h"
+#include "ui/dialogs/ConfarmetionClass.h"
+#include "ui/dialogs/DestinitionWarning.h"
+#include "ui/dialogs/InfoDialogClass.h"
+#include "ui/dialogs/ScanSwitchClass.h"
+#include "ui/screens/ScanDisk.h"
+#include "ui/widgets/QGridView.h"
 
 #include <QAction>
 #include <QComboBox>

@@ -1,9 +1,9 @@
 #include "smart/SelfTestGlobals.h"
 #include "smart/SmartGlobals.h"
 #include "tests/ui/WindowFixture.h"
-#include "ui/ConfarmetionClass.h"
-#include "ui/DestinitionWarning.h"
-#include "ui/SelfTestNotSupported.h"
+#include "ui/dialogs/ConfarmetionClass.h"
+#include "ui/dialogs/DestinitionWarning.h"
+#include "ui/dialogs/SelfTestNotSupported.h"
 
 #include <QComboBox>
 #include <QProgressBar>

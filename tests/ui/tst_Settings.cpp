@@ -1,8 +1,8 @@
-#include "app/state/GlobalApp.h"
-#include "app/state/Languages.h"
-#include "app/state/SettingsStore.h"
+#include "state/GlobalApp.h"
+#include "state/Languages.h"
+#include "state/SettingsStore.h"
 #include "tests/support/FakePlatform.h"
-#include "ui/Settings.h"
+#include "ui/screens/Settings.h"
 
 #include <QAction>
 #include <QMenu>

@@ -1,7 +1,7 @@
 #include "smart/AttributeHistory.h"
 #include "smart/SmartGlobals.h"
 #include "tests/ui/WindowFixture.h"
-#include "ui/SmartChartView.h"
+#include "ui/widgets/SmartChartView.h"
 
 #include <QPointer>
 #include <QTreeWidget>

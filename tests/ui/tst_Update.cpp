@@ -1,9 +1,9 @@
 #include "tests/support/WebFolder.h"
 #include "tests/ui/WindowFixture.h"
-#include "ui/QDownloadApp.h"
-#include "ui/QMajorUpdate.h"
-#include "ui/Settings.h"
-#include "ui/SmallMessageDlg.h"
+#include "ui/dialogs/QDownloadApp.h"
+#include "ui/dialogs/QMajorUpdate.h"
+#include "ui/dialogs/SmallMessageDlg.h"
+#include "ui/screens/Settings.h"
 #include "update/UpdateGlobals.h"
 
 #include <QMessageBox>

@@ -1,0 +1,157 @@
+#pragma once
+
+#include "state/FixedText.h"
+
+#include <QString>
+#include <QVector>
+
+#include <cstdint>
+#include <memory>
+
+/// The disk records that cross screens. All of them hang in singly linked lists that are freed and rebuilt at
+/// every device load: keep an id, never a pointer, across a load.
+///
+/// Disk numbering: N is the operating system's disk number; the drive code, DiskNode::nId,
+/// WmicDiskRecord::nDiskId and a combo item's data are all 128 + N. A drive code below 128 is a drive letter,
+/// 0 for A.
+
+constexpr int PhysicalDriveBase = 128;
+
+/// Kinds of a DiskNode.
+enum DiskKind : std::uint8_t {
+    FixedDisk = 0,
+    VolumeNode = 1,
+    RemovableDisk = 4,
+    RawVolume = 15,
+    LinuxPartition = 24
+};
+
+/// True for the kinds 0 and 4: a test that accepts physical disks masks with 251.
+constexpr bool isPhysicalKind(std::uint8_t kind)
+{
+    return (kind & 251u) == 0;
+}
+
+/// One row of a drive's own attribute table, as the drive's interface gives it.
+struct IdentityAttribute {
+    IdentityAttribute *pNext = nullptr;
+    std::uint8_t nAttrId = 0;
+    QString szNameIndex; ///< decimal text
+    std::uint32_t nCurrent = 0;
+    std::uint32_t nThreshold = 0;
+    std::uint32_t nWorst = 0;
+    std::uint8_t nState = 0; ///< 1 above the threshold, 2 at it, 3 below it
+};
+
+/// What the drive's own interface says of a fixed disk. Owns its attribute list.
+struct DiskIdentity {
+    DiskIdentity() = default;
+    DiskIdentity(const DiskIdentity &) = delete;
+    DiskIdentity &operator=(const DiskIdentity &) = delete;
+    ~DiskIdentity();
+
+    IdentityAttribute *pAttributes = nullptr;
+    FixedText<41> szModel;
+    FixedText<21> szSerial;
+    FixedText<9> szFirmware;
+    std::uint32_t nTemperature = 0; ///< first raw byte of attribute 194, 0 if absent
+    std::uint16_t nTemperatureCopy = 0;
+    std::uint8_t bSmartEnabled = 0;
+    std::uint8_t nThresholdState = 0; ///< worst state of the attribute list
+    std::uint16_t nCylinders = 0;
+    std::uint16_t nHeads = 0;
+    std::uint16_t nSectors = 0;
+    std::uint32_t nTotalLba = 0; ///< capped by its 32-bit field
+    std::uint8_t nAttributeCount = 0;
+};
+
+/// Details of a physical disk.
+struct DiskDetails {
+    std::uint8_t nDevice = 0;                ///< low byte of the node's nId
+    std::int64_t hDisk = 0;                  ///< open handle of the clone engine, else zero
+    std::uint64_t nTotalSectors = 0;         ///< sectors of 512 bytes
+    QString szSerial;                        ///< as the system tells it; empty where it does not
+    std::uint32_t nSectorFactor = 0;         ///< bytes per sector of the drive, divided by 512
+    QString szCapacity;                      ///< "931.51 GB"
+    QString szDrives;                        ///< "Drive: " and each letter with colon and a blank
+    std::unique_ptr<DiskIdentity> pIdentity; ///< null for a removable disk
+};
+
+/// Details of a volume or a Linux partition. Sectors of 512 bytes.
+struct LogicalDetails {
+    std::uint8_t nLetter = 0;
+    QString szRoot;
+    QString szLabel;
+    QString szType;
+    std::uint64_t nFreeBytes = 0;
+    std::uint64_t nTotalBytes = 0;
+    QString szFileSystem;
+    std::uint8_t bSpanned = 0;
+    std::uint8_t nParentId = 0;
+    std::uint64_t nStartSector = 0;
+    std::uint64_t nSectorCount = 0;
+    std::uint64_t nEndSector = 0;
+    std::uint8_t nFsCode = 0;
+    std::uint8_t nFsClass = 0;
+    QString szCapacity;
+    QVector<int> disks; ///< numbers of the disks that its extents name; empty where they are not known
+};
+
+/// One node for each physical disk (fixed, then removable), then one for each volume and Linux partition.
+struct DiskNode {
+    DiskNode *pNext = nullptr;
+    std::uint16_t nId = 0;
+    std::uint8_t nKind = FixedDisk;
+    std::unique_ptr<DiskDetails> pDetails;    ///< physical kinds only
+    std::unique_ptr<LogicalDetails> pLogical; ///< the other kinds only
+    QString szDisplay;
+    FixedText<32> szSize;            ///< capacity as shown; empty means no size
+    std::uint32_t nDisplayBytes = 0; ///< length of szDisplay in bytes of 16-bit characters
+};
+
+/// One line of the system's disk table, joined with the identity that the SMART report gives.
+struct WmicDiskRecord {
+    std::uint32_t nIndex = 0;
+    FixedText<128> szModel;
+    FixedText<32> szInterface;
+    FixedText<28> szStatus;
+    FixedText<128> szSmartModel;
+    FixedText<128> szSmartSerial;
+    FixedText<128> szSmartFirmware;
+    std::uint32_t nDiskId = 0; ///< nIndex + 128
+    WmicDiskRecord *pNext = nullptr;
+};
+
+/// One line of the system's volume table.
+struct LogicalDiskRecord {
+    FixedText<5> szCaption; ///< "C:"
+    std::int64_t nFreeBytes = 0;
+    std::int64_t nSizeBytes = 0;
+    std::int32_t nDiskIndex = 0; ///< paired by position with the partition table's disk numbers
+    FixedText<32> szFileSystem;
+    FixedText<32> szBitLocker; ///< "YES", "NO" or empty
+    LogicalDiskRecord *pNext = nullptr;
+};
+
+/// Frees a whole list and nulls its head and tail.
+template<typename Record>
+void freeList(Record *&head, Record *&tail)
+{
+    while (head) {
+        Record *next = head->pNext;
+        delete head;
+        head = next;
+    }
+    tail = nullptr;
+}
+
+/// Appends a record to a list that owns it from then on.
+template<typename Record>
+void appendToList(Record *&head, Record *&tail, Record *record)
+{
+    if (tail)
+        tail->pNext = record;
+    else
+        head = record;
+    tail = record;
+}

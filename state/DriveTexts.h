@@ -1,0 +1,37 @@
+#pragma once
+
+#include "state/DiskRecords.h"
+
+#include <QString>
+
+#include <vector>
+
+/// The texts under which a physical disk stands in the drive combos.
+namespace drivetexts
+{
+
+struct ComboTexts {
+    QString drive;  ///< item of the main window's combo
+    QString source; ///< item of the clone source combo
+};
+
+/// The texts of a physical node. `record` is its line of the system's disk table, null if there is none;
+/// `size` is the disk's size text.
+ComboTexts comboTexts(const DiskNode &node, const WmicDiskRecord *record, const QString &size);
+
+struct Entry {
+    const DiskNode *node;
+    ComboTexts texts;
+};
+
+/// The physical disks of a list, in its order, each with texts that no other one has: where two read alike,
+/// the drive's text ends in the disk's number, and the source has the text of the drive.
+std::vector<Entry> entries(const DiskNode *head);
+
+/// The node's own display name: identity model and serial, or "Removable Drive".
+QString displayName(const DiskNode &node);
+
+/// Writes szSize, szDisplay and nDisplayBytes of a physical node.
+void fillDisplayFields(DiskNode &node);
+
+} // namespace drivetexts

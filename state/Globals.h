@@ -1,0 +1,63 @@
+#pragma once
+
+#include "state/DiskRecords.h"
+
+#include <QRect>
+#include <QString>
+
+#include <atomic>
+
+class MainWindow;
+class QWaitClass;
+
+/// The plain globals that several screens share. Empty or zero at start; written on the main thread unless
+/// said otherwise. Flags that two threads touch are atomic. The lists and the three identity texts have no
+/// lock: a device-load thread writes them, and until it has ended the main thread leaves them alone
+/// (g_bListsLoading).
+
+inline QString g_strStartArgument; ///< first command-line argument
+inline QString g_strRunMode;       ///< "Schedular" or empty
+inline QString g_strApplicationFolder;
+inline QString g_strTranslationFolder; ///< folder of the translation loaded last
+
+inline MainWindow *m_pMainWindow = nullptr;
+inline QWaitClass *m_pWaitDialog = nullptr;
+inline QRect m_rcSplash; ///< the splash's place at the moment it was hidden
+inline bool m_bMainWindowCreated = false;
+
+inline WmicDiskRecord *g_pWmicDiskListHead = nullptr; ///< written by the device-load threads
+inline WmicDiskRecord *g_pWmicDiskListTail = nullptr;
+inline LogicalDiskRecord *g_pLogicalDiskListHead = nullptr;
+inline LogicalDiskRecord *g_pLogicalDiskListTail = nullptr;
+
+inline int g_nCurrentDiskIndex = 0; ///< physical number of the selected disk
+inline QString g_strSerialNumber; ///< of the latest report read; a device-load thread uses the three as well
+inline QString g_strModelName;
+inline QString g_strFirmware;
+inline QString g_strInterface;
+inline QString g_strSelectedSize; ///< size text of the disk node last looked up
+inline QString g_strTemperatureText;
+inline QString g_strHealthText;
+inline QString g_strPerformanceText;
+inline QString g_strSelectDestination;
+inline bool g_bSmartAvailable = false;
+
+inline std::atomic<bool> g_bListsLoading{false}; ///< a refresh rebuilds the lists: nobody else walks them now
+inline bool g_bListsStale =
+    false; ///< what the lists name has gone during a job: they are read anew behind it
+inline std::atomic<bool> g_bAbortJob{false};   ///< stop request, polled by the workers
+inline std::atomic<bool> g_bJobRunning{false}; ///< set and cleared by the workers too
+inline std::atomic<bool> g_bSelfTestRunning{false};
+inline bool g_bScanResultOpen = false;
+inline bool g_bSelfTestResultOpen = false;
+inline bool g_bScanStarted = false;   ///< a surface scan was asked for and has not been started yet
+inline bool g_bStopRequested = false; ///< the stop button of a self-test was used at least once
+inline bool m_bBackRequested = false; ///< the back button was pressed while results were open
+inline bool g_bDragging = false;      ///< a frameless window is being dragged
+
+/// The record whose nDiskId is `diskId`, the first one; null if there is none, and while the lists are
+/// rebuilt.
+const WmicDiskRecord *findWmicDisk(std::uint32_t diskId);
+
+/// The physical node with that id; null if there is none, and while the lists are rebuilt.
+DiskNode *findPhysicalDisk(int diskId);

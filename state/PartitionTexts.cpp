@@ -1,0 +1,143 @@
+#include "state/PartitionTexts.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <limits>
+
+namespace partitiontexts
+{
+
+namespace
+{
+
+constexpr std::array<const char *, 4> Units = {" KB", " MB", " GB", " TB"};
+constexpr std::size_t UnitsOfTotal = 3;
+
+QString translated(const char *text)
+{
+    return QCoreApplication::translate("MainWindow", text);
+}
+
+/// Rounded to one decimal by way of its text: ties as C prints them, the result as C reads it.
+float oneDecimal(float amount)
+{
+    std::array<char, 64> text;
+    const auto end = std::to_chars(text.data(), text.data() + text.size(), static_cast<double>(amount),
+                                   std::chars_format::fixed, 1)
+                         .ptr;
+    std::from_chars(text.data(), end, amount);
+    return amount;
+}
+
+QString sizeText(qint64 bytes, std::size_t unitCount)
+{
+    constexpr qint64 Kilo = 1024;
+    constexpr float PerKilo = 0.0009765625F;
+    constexpr int Digits = 6;
+    if (bytes <= Kilo)
+        return QString();
+    float amount = oneDecimal(static_cast<float>(bytes / Kilo));
+    std::size_t unit = 0;
+    while (amount > static_cast<float>(Kilo) && unit + 1 < unitCount) {
+        amount = oneDecimal(amount * PerKilo);
+        ++unit;
+    }
+    return QString::number(static_cast<double>(amount), 'g', Digits) + QLatin1String(Units[unit]);
+}
+
+} // namespace
+
+QStringList driveLetters(const QString &drives)
+{
+    QString letters = drives;
+    return letters.remove(QLatin1String("Drive:")).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+}
+
+QList<qint64> volumeSizes(const QStringList &letters, const LogicalDiskRecord *head)
+{
+    QList<qint64> sizes;
+    for (const QString &letter : letters) {
+        const LogicalDiskRecord *record = head;
+        while (record && record->szCaption.text() != letter)
+            record = record->pNext;
+        if (record)
+            sizes.append(record->nSizeBytes);
+    }
+    return sizes;
+}
+
+QString volumeName(const LogicalDiskRecord &volume, const QString &protectedMark)
+{
+    const QString name =
+        volume.szCaption.text() + QStringLiteral(" (") + volume.szFileSystem.text() + QLatin1Char(')');
+    return volume.szBitLocker.text() == QLatin1String("YES") ? name + protectedMark : name;
+}
+
+QVector<int> disksOfVolume(const QString &letter, const DiskNode *head)
+{
+    QVector<int> listing; // of a volume that is not fixed the disk alone knows
+    for (; head; head = head->pNext) {
+        if (head->pDetails && driveLetters(head->pDetails->szDrives).contains(letter))
+            listing = {head->nId - PhysicalDriveBase};
+        const bool isVolume = head->nKind == VolumeNode || head->nKind == RawVolume;
+        if (isVolume && head->pLogical && !head->pLogical->disks.isEmpty() &&
+            letter.startsWith(QChar(u'A' + head->pLogical->nLetter)))
+            return head->pLogical->disks;
+    }
+    return listing;
+}
+
+QString healthWord(const QVector<int> &disks, const WmicDiskRecord *head)
+{
+    const auto isSound = [head](int disk) {
+        QString status;
+        for (const WmicDiskRecord *record = head; record; record = record->pNext) {
+            if (record->nIndex == static_cast<std::uint32_t>(disk))
+                status = record->szStatus.text();
+        }
+        return status == QLatin1String("OK");
+    };
+    const bool sound = !disks.isEmpty() && std::all_of(disks.cbegin(), disks.cend(), isSound);
+    return sound ? translated(QT_TRANSLATE_NOOP("MainWindow", "Healthy"))
+                 : translated(QT_TRANSLATE_NOOP("MainWindow", "Not Healthy"));
+}
+
+qint64 freePercent(qint64 freeBytes, qint64 sizeBytes)
+{
+    constexpr qint64 Whole = 100;
+    if (sizeBytes <= 0 || freeBytes < 0)
+        return 0;
+    // Beyond this the product does not fit, and the hundredth part of the size is exact enough.
+    if (freeBytes > std::numeric_limits<qint64>::max() / Whole)
+        return freeBytes / std::max<qint64>(1, sizeBytes / Whole);
+    return freeBytes * Whole / sizeBytes;
+}
+
+QString percentText(const LogicalDiskRecord &volume)
+{
+    return QString::number(freePercent(volume.nFreeBytes, volume.nSizeBytes)) +
+           translated(QT_TRANSLATE_NOOP("MainWindow", "% Free"));
+}
+
+QString freeText(qint64 bytes)
+{
+    return sizeText(bytes, Units.size());
+}
+
+QString totalText(qint64 bytes)
+{
+    return sizeText(bytes, UnitsOfTotal);
+}
+
+QString spaceText(const LogicalDiskRecord &volume, bool korean)
+{
+    const QString text = freeText(volume.nFreeBytes) +
+                         translated(QT_TRANSLATE_NOOP("MainWindow", " Free of ")) +
+                         totalText(volume.nSizeBytes);
+    return korean ? text + translated(QT_TRANSLATE_NOOP("MainWindow", " Available")) : text;
+}
+
+} // namespace partitiontexts

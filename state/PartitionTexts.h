@@ -1,0 +1,47 @@
+#pragma once
+
+#include "state/DiskRecords.h"
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+/// What the Disk Partition screen says of a disk's volumes.
+namespace partitiontexts
+{
+
+/// The letters of a physical disk, each with its colon, out of DiskDetails::szDrives.
+QStringList driveLetters(const QString &drives);
+
+/// The sizes in bytes behind the letters, in their order: of each the first record of the list. A letter
+/// without a record adds nothing.
+QList<qint64> volumeSizes(const QStringList &letters, const LogicalDiskRecord *head);
+
+/// "C: (NTFS)", with `protectedMark` behind it where the volume is encrypted.
+QString volumeName(const LogicalDiskRecord &volume, const QString &protectedMark);
+
+/// The numbers of the disks that a volume's own extents name, by its letter with the colon; empty where the
+/// list does not know them.
+QVector<int> disksOfVolume(const QString &letter, const DiskNode *head);
+
+/// "Healthy" where the system reports each of a volume's disks as "OK". Of several lines for one disk the
+/// last one counts; without any it is "Not Healthy".
+QString healthWord(const QVector<int> &disks, const WmicDiskRecord *head);
+
+/// The free part as a whole percentage, cut off; 0 for a volume without a size.
+qint64 freePercent(qint64 freeBytes, qint64 sizeBytes);
+
+/// "38% Free".
+QString percentText(const LogicalDiskRecord &volume);
+
+/// The size in bytes with one decimal, in KB to TB. Empty up to 1024 bytes.
+QString freeText(qint64 bytes);
+
+/// As freeText(), but not beyond GB.
+QString totalText(qint64 bytes);
+
+/// "181.4 GB Free of 476.3 GB"; Korean puts " Available" behind it.
+QString spaceText(const LogicalDiskRecord &volume, bool korean);
+
+} // namespace partitiontexts

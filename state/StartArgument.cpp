@@ -1,0 +1,28 @@
+#include "state/StartArgument.h"
+
+#include <QStringList>
+
+namespace startargument
+{
+
+bool asksForClone(const QString &argument)
+{
+    return argument.contains(QLatin1String("CloneDisk"));
+}
+
+std::optional<QString> cloneDiskText(const QString &argument)
+{
+    if (!asksForClone(argument))
+        return std::nullopt;
+    const QStringList parts = argument.split(QStringLiteral("####"), Qt::SkipEmptyParts);
+    return parts.size() > 1 ? std::optional<QString>(parts.at(1)) : std::nullopt;
+}
+
+bool matchesDisk(const QString &itemText, const QString &diskText)
+{
+    QString compact = itemText;
+    compact.remove(QLatin1Char(' '));
+    return compact.compare(diskText, Qt::CaseInsensitive) == 0;
+}
+
+} // namespace startargument

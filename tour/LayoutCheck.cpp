@@ -1,0 +1,235 @@
+#include "tour/LayoutCheck.h"
+
+#include "tour/WidgetTexts.h"
+
+#include <QAbstractButton>
+#include <QAbstractScrollArea>
+#include <QFontMetrics>
+#include <QJsonObject>
+#include <QLabel>
+#include <QStyle>
+#include <QStyleOptionButton>
+#include <QTextDocument>
+
+#include <algorithm>
+#include <optional>
+
+namespace
+{
+
+/// A text that does not fit: what it needs and what its widget leaves for it.
+struct Cut {
+    QSize need;
+    QSize have;
+};
+
+constexpr int Unlimited = 1 << 20;
+constexpr int OverlapTolerance = 1; ///< pixels
+
+QString withoutTrailingBlanks(const QString &text)
+{
+    int length = text.size();
+    while (length > 0 && text.at(length - 1).isSpace())
+        --length;
+    return text.left(length);
+}
+
+QRect labelArea(const QLabel *label)
+{
+    const int margin = label->margin();
+    QRect area = label->contentsRect().adjusted(margin, margin, -margin, -margin);
+    int indent = label->indent();
+    if (indent < 0)
+        indent = label->frameWidth() > 0 ? label->fontMetrics().horizontalAdvance(QLatin1Char('x')) / 2 : 0;
+    const Qt::Alignment side = QStyle::visualAlignment(label->layoutDirection(), label->alignment());
+    if (side & Qt::AlignLeft)
+        area.setLeft(area.left() + indent);
+    else if (side & Qt::AlignRight)
+        area.setRight(area.right() - indent);
+    return area;
+}
+
+std::optional<Cut> richCut(const QLabel *label, const QSize &have)
+{
+    QTextDocument document;
+    document.setDefaultFont(label->font());
+    document.setDocumentMargin(0);
+    document.setHtml(label->text());
+    if (label->wordWrap())
+        document.setTextWidth(have.width());
+    const QSize need = document.size().toSize();
+    if (need.width() <= have.width() && need.height() <= have.height())
+        return std::nullopt;
+    return Cut{need, have};
+}
+
+/// One line may reach beyond its label with the blank part of its line height; only ink counts.
+bool inkFits(const QFontMetrics &metrics, const QString &text, int height, Qt::Alignment alignment)
+{
+    const QRect ink = metrics.tightBoundingRect(text);
+    int top = (height - metrics.height()) / 2;
+    if (alignment & Qt::AlignTop)
+        top = 0;
+    else if (alignment & Qt::AlignBottom)
+        top = height - metrics.height();
+    const int baseline = top + metrics.ascent();
+    return baseline + ink.top() >= 0 && baseline + ink.bottom() < height;
+}
+
+/// The part of a widget that its parents leave in sight. What lies in a scroll area can be scrolled to.
+QRect inSight(const QWidget *widget)
+{
+    QRect sight = widget->rect();
+    QPoint offset;
+    for (const QWidget *inner = widget; !inner->isWindow(); inner = inner->parentWidget()) {
+        const QWidget *outer = inner->parentWidget();
+        if (qobject_cast<const QAbstractScrollArea *>(outer->parentWidget()))
+            return sight;
+        offset += inner->pos();
+        sight &= outer->rect().translated(-offset);
+    }
+    return sight;
+}
+
+bool isRich(const QLabel *label)
+{
+    return label->textFormat() == Qt::RichText ||
+           (label->textFormat() == Qt::AutoText && Qt::mightBeRichText(label->text()));
+}
+
+/// Where the text of a widget lies in it: the lines of a plain label, else all of the widget.
+QRect textRect(const QWidget *widget)
+{
+    const auto *label = qobject_cast<const QLabel *>(widget);
+    if (!label || isRich(label))
+        return widget->rect();
+    const int wrap = label->wordWrap() ? Qt::TextWordWrap : 0;
+    const int flags = static_cast<int>(label->alignment()) | Qt::TextExpandTabs | wrap;
+    return label->fontMetrics().boundingRect(labelArea(label), flags, withoutTrailingBlanks(label->text()));
+}
+
+std::optional<Cut> cutByParents(const QWidget *widget)
+{
+    const QRect text = textRect(widget) & widget->rect();
+    const QRect seen = text & inSight(widget);
+    if (seen == text)
+        return std::nullopt;
+    return Cut{text.size(), seen.isEmpty() ? QSize(0, 0) : seen.size()};
+}
+
+std::optional<Cut> labelCut(const QLabel *label)
+{
+    const QSize have = labelArea(label).size();
+    if (isRich(label))
+        return richCut(label, have);
+
+    const QFontMetrics metrics = label->fontMetrics();
+    const QString text = withoutTrailingBlanks(label->text());
+    const int flags = Qt::TextExpandTabs | (label->wordWrap() ? Qt::TextWordWrap : 0);
+    const int room = label->wordWrap() ? have.width() : Unlimited;
+    const QSize need = metrics.boundingRect(QRect(0, 0, room, Unlimited), flags, text).size();
+    const bool oneLine = need.height() < 2 * metrics.height();
+    const bool high =
+        oneLine ? !inkFits(metrics, text, have.height(), label->alignment()) : need.height() > have.height();
+    if (need.width() <= have.width() && !high)
+        return std::nullopt;
+    return Cut{need, have};
+}
+
+std::optional<Cut> buttonCut(const QAbstractButton *button)
+{
+    QStyleOptionButton option;
+    option.initFrom(button);
+    option.text = button->text();
+    option.icon = button->icon();
+    option.iconSize = button->iconSize();
+
+    const bool radio = button->inherits("QRadioButton");
+    const bool check = button->inherits("QCheckBox");
+    QStyle::SubElement element = QStyle::SE_PushButtonContents;
+    if (radio || check)
+        element = radio ? QStyle::SE_RadioButtonContents : QStyle::SE_CheckBoxContents;
+    const QSize have = button->style()->subElementRect(element, &option, button).size();
+
+    constexpr int IconGap = 4;
+    const QFontMetrics metrics = button->fontMetrics();
+    QSize need = metrics.size(Qt::TextShowMnemonic, withoutTrailingBlanks(button->text()));
+    const int iconWidth = button->icon().isNull() ? 0 : button->iconSize().width() + IconGap;
+    need.setWidth(need.width() + iconWidth);
+    const bool high = !inkFits(metrics, button->text(), have.height(), Qt::AlignVCenter);
+    if (need.width() <= have.width() && !high)
+        return std::nullopt;
+    return Cut{need, have};
+}
+
+std::optional<Cut> cutOf(const QWidget *widget)
+{
+    if (const std::optional<Cut> cut = cutByParents(widget))
+        return cut;
+    if (const auto *label = qobject_cast<const QLabel *>(widget))
+        return labelCut(label);
+    if (const auto *button = qobject_cast<const QAbstractButton *>(widget))
+        return buttonCut(button);
+    return std::nullopt;
+}
+
+bool bearsText(const QWidget *widget)
+{
+    return !widgettexts::text(widget).trimmed().isEmpty();
+}
+
+QJsonArray asArray(const QSize &size)
+{
+    return {size.width(), size.height()};
+}
+
+} // namespace
+
+namespace layoutcheck
+{
+
+QJsonArray clipped(const QWidget *window, const QString &step)
+{
+    QJsonArray found;
+    for (const QWidget *widget : widgettexts::visibleChildren(window)) {
+        if (!bearsText(widget))
+            continue;
+        if (const std::optional<Cut> cut = cutOf(widget)) {
+            found.append(QJsonObject{{QStringLiteral("step"), step},
+                                     {QStringLiteral("name"), widgettexts::name(widget)},
+                                     {QStringLiteral("text"), widgettexts::text(widget)},
+                                     {QStringLiteral("need"), asArray(cut->need)},
+                                     {QStringLiteral("have"), asArray(cut->have)}});
+        }
+    }
+    return found;
+}
+
+QJsonArray overlaps(const QWidget *window, const QString &step)
+{
+    QVector<const QWidget *> texts;
+    for (const QWidget *widget : widgettexts::visibleChildren(window)) {
+        if (bearsText(widget))
+            texts.append(widget);
+    }
+    QJsonArray found;
+    for (int i = 0; i < texts.size(); ++i) {
+        for (int j = i + 1; j < texts.size(); ++j) {
+            const QWidget *one = texts.at(i);
+            const QWidget *other = texts.at(j);
+            const QRect common = one->geometry() & other->geometry();
+            const int depth = std::min(common.width(), common.height());
+            if (one->parent() != other->parent() || depth <= OverlapTolerance)
+                continue;
+            found.append(QJsonObject{
+                {QStringLiteral("step"), step},
+                {QStringLiteral("names"), QJsonArray{widgettexts::name(one), widgettexts::name(other)}},
+                {QStringLiteral("texts"), QJsonArray{widgettexts::text(one), widgettexts::text(other)}},
+                {QStringLiteral("rectangle"),
+                 QJsonArray{common.x(), common.y(), common.width(), common.height()}}});
+        }
+    }
+    return found;
+}
+
+} // namespace layoutcheck

@@ -1,0 +1,22 @@
+#include "tour/Steps.h"
+#include "tour/Walk.h"
+
+namespace
+{
+
+Step menuStep(const QString &name, const QString &button)
+{
+    return {name, [name, button](Walk &walk) {
+                walk.openMenu(button);
+                walk.recordMenu(name);
+                walk.closeMenu();
+            }};
+}
+
+} // namespace
+
+StepList menuSteps(Walk &)
+{
+    return {menuStep(QStringLiteral("menu"), QStringLiteral("m_pMenuButton")),
+            menuStep(QStringLiteral("more-tools"), QStringLiteral("m_pMoreToolsButton"))};
+}

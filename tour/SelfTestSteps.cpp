@@ -1,0 +1,106 @@
+#include "tour/Steps.h"
+#include "tour/Walk.h"
+#include "tour/Windows.h"
+
+#include <QJsonArray>
+#include <QProgressBar>
+
+namespace
+{
+
+const QString MainWindowClass = QStringLiteral("MainWindow");
+const QString RefusalClass = QStringLiteral("SelfTestNotSupported");
+const QString QuestionClass = QStringLiteral("ConfarmetionClass");
+const QString StopButton = QStringLiteral("StopTestButton");
+const QString StartButton = QStringLiteral("ScanButton");
+
+struct Wish {
+    int disk = -1;
+    QString kind;
+
+    QString name(const char *what) const
+    {
+        return QStringLiteral("%1 of disk %2, %3").arg(QLatin1String(what)).arg(disk).arg(kind);
+    }
+};
+
+/// Percent that the drive says to have done; -1 where no test runs. GUI thread.
+double percent()
+{
+    const QWidget *page = windows::byClass(QStringLiteral("ScanDisk"));
+    const auto bars = page ? page->findChildren<QProgressBar *>() : QList<QProgressBar *>();
+    for (const QProgressBar *bar : bars) {
+        if (bar->isVisible())
+            return bar->value();
+    }
+    return -1;
+}
+
+bool canPress(const QString &button)
+{
+    return windows::button(windows::byClass(MainWindowClass), {button}) != nullptr;
+}
+
+/// False where the drive has no self-tests; that was recorded then.
+bool startTest(Walk &walk, const Wish &wish)
+{
+    const Expectation refusal(&walk, RefusalClass);
+    walk.goTo(QStringLiteral("DiskStatusButton"), QStringLiteral("DiskStatus"));
+    walk.selectDisk(wish.disk);
+    walk.goTo(QStringLiteral("ScanDiskButton"), QStringLiteral("ScanDisk"));
+    const bool extended = wish.kind == QLatin1String("long");
+    walk.press(MainWindowClass,
+               {extended ? QStringLiteral("radioButton_3") : QStringLiteral("radioButton_2")});
+    walk.press(MainWindowClass, {StartButton});
+    walk.waitFor(QStringLiteral("the start of the self-test"),
+                 []() { return windows::byClass(RefusalClass) || canPress(StopButton); });
+    if (!walk.sees(RefusalClass))
+        return true;
+    walk.answer(RefusalClass, QStringLiteral("CloseButton"));
+    return false;
+}
+
+void seeToEnd(Walk &walk, const Wish &wish)
+{
+    if (!startTest(walk, wish))
+        return;
+    const auto ended = []() { return !canPress(StopButton) && canPress(StartButton); };
+    walk.waitWhileRising(QStringLiteral("the progress of the self-test"), percent,
+                         [ended]() { return percent() > 0 || ended(); });
+    if (!walk.program().ask(ended))
+        walk.record(QStringLiteral("self-test-running"));
+    walk.waitWhileRising(QStringLiteral("the end of the self-test"), percent, ended);
+    walk.record(QStringLiteral("self-test-finished"));
+}
+
+void abort(Walk &walk, const Wish &wish)
+{
+    if (!startTest(walk, wish))
+        return;
+    const Expectation question(&walk, QuestionClass);
+    walk.press(MainWindowClass, {StopButton});
+    walk.answer(QuestionClass, QStringLiteral("YesButton"));
+    walk.waitFor(QStringLiteral("the end of the self-test"),
+                 []() { return !canPress(StopButton) && canPress(StartButton); });
+    walk.record(QStringLiteral("self-test-aborted"));
+}
+
+void leaveResults(Walk &walk)
+{
+    walk.goTo(QStringLiteral("DiskStatusButton"), QStringLiteral("DiskStatus"));
+}
+
+} // namespace
+
+StepList selfTestSteps(Walk &walk)
+{
+    StepList steps;
+    const QJsonArray wishes = walk.plan().wishes[QStringLiteral("selfTest")].toArray();
+    for (const QJsonValue &value : wishes) {
+        const Wish wish{value.toArray().at(0).toInt(-1), value.toArray().at(1).toString()};
+        steps.push_back({wish.name("self-test-finished"), [wish](Walk &person) { seeToEnd(person, wish); }});
+        steps.push_back({wish.name("self-test-aborted"), [wish](Walk &person) { abort(person, wish); }});
+        steps.push_back({wish.name("end of the self-test"), leaveResults});
+    }
+    return steps;
+}

@@ -1,0 +1,125 @@
+#pragma once
+
+#include "tour/Hand.h"
+#include "tour/Program.h"
+#include "tour/TourPlan.h"
+#include "tour/TourReport.h"
+
+#include <QSet>
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+
+class QWidget;
+
+/// The verbs that the steps of the tour are told in: what a person does at the program, sees and waits for.
+/// Windows and pages are named by their class, what is in them by object name or text. A verb that cannot be
+/// done before the step's time is up throws StepFailed. Tour thread only.
+class Walk
+{
+public:
+    Walk(Program *program, TourReport *report, const TourPlan *plan);
+
+    const TourPlan &plan() const { return *m_pPlan; }
+    Program &program() { return *m_pProgram; }
+
+    /// Begins a step: its time starts now.
+    void beginStep();
+
+    /// Waits until `condition`, asked on the GUI thread, holds. `what` says in the log what was waited for.
+    void waitFor(const QString &what, const std::function<bool()> &condition);
+    void waitForWindow(const QString &className);
+    void waitForNoWindow(const QString &className);
+    /// Waits until no report is being read and the reader has come to rest.
+    void waitIdle();
+    /// Waits until the program has ended.
+    void waitForEnd();
+    /// Like waitFor, for work that takes as long as it takes: the step's time begins anew whenever
+    /// `progress`, asked on the GUI thread, has risen.
+    void waitWhileRising(const QString &what, const std::function<double()> &progress,
+                         const std::function<bool()> &condition);
+    /// Whether any visible window or page is of that class.
+    bool sees(const QString &windowClass);
+
+    /// Presses and releases the mouse on the button of that window.
+    void press(const QString &windowClass, const QStringList &buttonNames);
+    /// Answers a dialog that the step expects: waits for it, records it, presses a button of it, sees it go.
+    void answer(const QString &windowClass, const QString &buttonName);
+    /// Presses a button that asks for a file name and gives it `name` in the folder of the tour. The dialog
+    /// is not recorded, as it shows the machine's own folders. Waits for the file.
+    void saveAs(const QString &buttonName, const QString &name);
+    /// Presses a navigation button and waits for its page; gives up the results of a test if it is asked to.
+    void goTo(const QString &buttonName, const QString &pageClass);
+    /// Chooses an item of the drive combo with the mouse and waits until the disk has been read.
+    void selectDrive(int index);
+    /// The same by the physical number of the disk.
+    void selectDisk(int number);
+    /// Chooses an item of a combo of the main window with the mouse.
+    void chooseItem(const QString &comboName, int index);
+    /// The same by the physical number of the disk that the item stands for.
+    void chooseDisk(const QString &comboName, int number);
+    /// Clicks a row of a tree after scrolling to it.
+    void clickRow(const QString &treeName, int row);
+    /// Opens the menu of a button of the main window.
+    void openMenu(const QString &buttonName);
+    void chooseInMenu(const QString &actionName);
+    void closeMenu();
+
+    /// Number of items in the drive combo.
+    int driveCount();
+
+    /// Chooses an item of the drive combo within a moment, as the arrow keys do, and waits for nothing.
+    void hurryToDrive(int index);
+    /// Presses a navigation button and waits for nothing.
+    void hurryTo(const QString &buttonName) { press(QStringLiteral("MainWindow"), {buttonName}); }
+
+    /// Records what a window shows as `step`, `more` beside it.
+    void record(const QString &step, const QString &windowClass = QStringLiteral("MainWindow"),
+                const QJsonObject &more = {});
+    /// What the main window shows, unrecorded.
+    QJsonObject contents();
+    void recordMenu(const QString &step);
+    /// Records a window that a step expects as `dialog:<class>`, unless it was recorded with the same texts.
+    void recordDialog(const QString &windowClass);
+
+    /// A window of that class belongs to the walk from now on: it is not sent away as a surprise.
+    void expect(const QString &windowClass) { m_expected.insert(windowClass); }
+    void noLongerExpect(const QString &windowClass) { m_expected.remove(windowClass); }
+
+    /// Records and sends away the dialogs that nobody expects.
+    void sweepDialogs();
+
+private:
+    using Finder = std::function<QWidget *()>;
+
+    void endRound(const QString &what);
+    TourReport::Screen look(const QString &step, const Finder &find);
+    void recordOnce(const QString &className, const Finder &find);
+    void dismiss(const QString &className, const Finder &find);
+    void click(const QString &what, const std::function<hand::Place()> &find);
+
+    Program *m_pProgram;
+    TourReport *m_pReport;
+    const TourPlan *m_pPlan;
+    QSet<QString> m_expected;
+    QSet<QString> m_seenDialogs; ///< class and texts
+    QSet<quintptr> m_dismissed;  ///< windows that were told to go and may not have gone yet
+};
+
+/// Expects windows of a class for as long as it lives.
+class Expectation
+{
+public:
+    Expectation(Walk *walk, const QString &windowClass) : m_pWalk(walk), m_strClass(windowClass)
+    {
+        walk->expect(windowClass);
+    }
+    ~Expectation() { m_pWalk->noLongerExpect(m_strClass); }
+    Expectation(const Expectation &) = delete;
+    Expectation &operator=(const Expectation &) = delete;
+
+private:
+    Walk *m_pWalk;
+    QString m_strClass;
+};

@@ -1,3 +1,0 @@
-#include "ui/QMajorUpdate.h"
-
-QMajorUpdate::QMajorUpdate(QWidget *parent) : QShowUpdate(parent, Kind::Major) {}

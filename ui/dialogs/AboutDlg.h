@@ -1,0 +1,30 @@
+#pragma once
+
+#include "ui/dialogs/DialogFrame.h"
+
+#include <QDialog>
+
+#include "ui_AboutDialog.h"
+
+/// Version, system, legal line, and the ways to support and licence. Frees itself when closed.
+class AboutDlg : public QDialog, public Ui::AboutDialog
+{
+    Q_OBJECT
+
+public:
+    explicit AboutDlg(QWidget *parent = nullptr);
+
+public slots:
+    /// Opens the agreement in the language in use.
+    void OpenLicense();
+    /// Begins a mail to the support. Does nothing where no address is set.
+    void OpenSupport();
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    void translateTexts();
+
+    DialogFrame m_Frame;
+};

@@ -1,0 +1,207 @@
+#include "ui/dialogs/DialogFrame.h"
+
+#include "ui/widgets/Images.h"
+#include "ui/widgets/Style.h"
+
+#include <QDialog>
+#include <QEvent>
+#include <QFontMetrics>
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPushButton>
+#include <QVariant>
+#include <QWidget>
+
+#include <algorithm>
+
+namespace
+{
+
+const QColor BorderColour(0xc9, 0xd2, 0xdb);
+const QColor TitleLineColour(0xe6, 0xea, 0xee);
+constexpr int ButtonPadding = 16;
+constexpr char LeastWidth[] = "leastWidth"; ///< property of a button: its minimum before its text
+
+QSize scaledLimit(const QSize &limit)
+{
+    const auto scaled = [](int length) { return length == QWIDGETSIZE_MAX ? length : style::px(length); };
+    return QSize(scaled(limit.width()), scaled(limit.height()));
+}
+
+void scaleLayout(QLayout *layout)
+{
+    const QMargins margins = layout->contentsMargins();
+    layout->setContentsMargins(style::px(margins.left()), style::px(margins.top()),
+                               style::px(margins.right()), style::px(margins.bottom()));
+    if (auto *grid = qobject_cast<QGridLayout *>(layout)) {
+        grid->setHorizontalSpacing(style::px(grid->horizontalSpacing()));
+        grid->setVerticalSpacing(style::px(grid->verticalSpacing()));
+    } else {
+        layout->setSpacing(style::px(layout->spacing()));
+    }
+}
+
+} // namespace
+
+DialogFrame::DialogFrame(QWidget *window) : m_pWindow(window), m_Drag(window) {}
+
+void DialogFrame::dress(const DialogLook &look)
+{
+    m_Look = look;
+    m_nDesignWidth = m_pWindow->width();
+    const bool dialog = m_pWindow->parentWidget() || qobject_cast<QDialog *>(m_pWindow);
+    m_pWindow->setWindowFlags((dialog ? Qt::Dialog : Qt::Window) | Qt::FramelessWindowHint);
+    style::setWhiteBackground(m_pWindow);
+    scaleForm(m_pWindow);
+    style::showTextsAsData(m_pWindow);
+    styleTexts();
+    styleButtons();
+    if (m_Look.picture)
+        images::setLabelImage(m_Look.picture, m_Look.image);
+    m_pWindow->installEventFilter(this);
+    fit();
+}
+
+void DialogFrame::scaleForm(QWidget *window)
+{
+    const auto layouts = window->findChildren<QLayout *>();
+    for (QLayout *layout : layouts)
+        scaleLayout(layout);
+    const auto children = window->findChildren<QWidget *>();
+    for (QWidget *child : children) {
+        child->setMinimumSize(scaledLimit(child->minimumSize()));
+        child->setMaximumSize(scaledLimit(child->maximumSize()));
+    }
+}
+
+void DialogFrame::styleTexts() const
+{
+    const auto labels = m_pWindow->findChildren<QLabel *>();
+    for (QLabel *label : labels) {
+        label->setFont(style::font(10));
+        label->setStyleSheet(style::BlackLabel);
+    }
+    m_Look.title->setFont(style::semiBold(10));
+    if (m_Look.heading)
+        m_Look.heading->setFont(style::semiBold(10));
+}
+
+void DialogFrame::styleButtons() const
+{
+    const auto buttons = m_pWindow->findChildren<QPushButton *>();
+    for (QPushButton *button : buttons) {
+        const bool main = button == m_Look.confirm;
+        style::styleButton(button, main ? style::ButtonRole::Main : style::ButtonRole::Light);
+        const QString focus = main ? QStringLiteral("QPushButton:focus{border-color: #14569f;}")
+                                   : QStringLiteral("QPushButton:focus{border-color: #2a81e5;}");
+        button->setStyleSheet(button->styleSheet() + focus);
+        button->setProperty(LeastWidth, button->minimumWidth());
+        button->setAutoDefault(true);
+    }
+}
+
+void DialogFrame::widenButtons() const
+{
+    const auto buttons = m_pWindow->findChildren<QPushButton *>();
+    for (QPushButton *button : buttons) {
+        if (button->text().isEmpty())
+            continue;
+        button->ensurePolished();
+        const int text = QFontMetrics(button->font()).horizontalAdvance(button->text());
+        button->setMinimumWidth(
+            std::max(button->property(LeastWidth).toInt(), text + 2 * style::px(ButtonPadding)));
+    }
+}
+
+void DialogFrame::fit()
+{
+    const auto labels = m_pWindow->findChildren<QLabel *>();
+    for (QLabel *label : labels) {
+        if (label->wordWrap())
+            label->setHidden(label->text().isEmpty());
+    }
+    widenButtons();
+    QLayout *layout = m_pWindow->layout();
+    layout->activate();
+    const int width = std::max(style::px(m_nDesignWidth), layout->totalMinimumSize().width());
+    const int height = layout->hasHeightForWidth() ? layout->totalHeightForWidth(width)
+                                                   : layout->totalMinimumSize().height();
+    const QSize before = m_pWindow->size();
+    if (before == QSize(width, height))
+        return;
+    m_pWindow->setFixedSize(width, height);
+    if (m_pWindow->testAttribute(Qt::WA_Moved))
+        style::placeWindow(m_pWindow, m_pWindow->pos() + QPoint((before.width() - width) / 2,
+                                                                (before.height() - height) / 2));
+}
+
+void DialogFrame::paint() const
+{
+    QPainter painter(m_pWindow);
+    const int line = m_Look.title->mapTo(m_pWindow, QPoint(0, m_Look.title->height() - 1)).y();
+    painter.setPen(TitleLineColour);
+    painter.drawLine(0, line, m_pWindow->width() - 1, line);
+    painter.setPen(BorderColour);
+    painter.drawRect(m_pWindow->rect().adjusted(0, 0, -1, -1));
+}
+
+bool DialogFrame::keyPressed(int key) const
+{
+    if (key == Qt::Key_Escape) {
+        if (m_Look.dismiss)
+            m_Look.dismiss->click();
+        return true;
+    }
+    // A QDialog presses its default button by itself.
+    auto *focused = qobject_cast<QPushButton *>(m_pWindow->focusWidget());
+    if ((key == Qt::Key_Return || key == Qt::Key_Enter) && focused && !qobject_cast<QDialog *>(m_pWindow)) {
+        focused->click();
+        return true;
+    }
+    return false;
+}
+
+bool DialogFrame::eventFilter(QObject *watched, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+        m_Drag.press(static_cast<QMouseEvent *>(event));
+        break;
+    case QEvent::MouseMove:
+        m_Drag.move(static_cast<QMouseEvent *>(event));
+        break;
+    case QEvent::MouseButtonRelease:
+        m_Drag.release(static_cast<QMouseEvent *>(event));
+        break;
+    case QEvent::Paint:
+        paint();
+        break;
+    case QEvent::Show: {
+        fit();
+        QPushButton *other = m_Look.confirm ? m_Look.confirm : m_Look.dismiss;
+        if (QPushButton *first = m_Look.initial ? m_Look.initial : other)
+            first->setFocus();
+        break;
+    }
+    case QEvent::LayoutRequest:
+        fit();
+        break;
+    case QEvent::KeyPress:
+        return keyPressed(static_cast<QKeyEvent *>(event)->key());
+    case QEvent::Close:
+        // The button's action first: it may leave the window's pages in order.
+        if (!m_Look.dismiss) {
+            event->ignore();
+            return true;
+        }
+        if (m_pWindow->isVisible())
+            m_Look.dismiss->click();
+        break;
+    default:
+        break;
+    }
+    return QObject::eventFilter(watched, event);
+}

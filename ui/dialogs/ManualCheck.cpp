@@ -1,0 +1,43 @@
+#include "ui/dialogs/ManualCheck.h"
+
+#include "platform/Platform.h"
+#include "state/GlobalApp.h"
+#include "state/Globals.h"
+#include "state/SettingsStore.h"
+#include "ui/dialogs/QCheckUpdate.h"
+#include "ui/widgets/Style.h"
+#include "ui/window/MainWindow.h"
+#include "update/HelpLinks.h"
+#include "update/UpdateGlobals.h"
+
+namespace
+{
+
+bool opensPageInstead()
+{
+    return g_App.m_bKorvaneBrand && g_App.m_bChinese && m_bChineseUpdatePage;
+}
+
+} // namespace
+
+QCheckUpdate *checkForUpdates(QWidget *owner)
+{
+    // An update that is taken ends the program.
+    if (g_bJobRunning || g_bSelfTestRunning || g_bScanStarted ||
+        (::m_pMainWindow && ::m_pMainWindow->jobRuns()))
+        return nullptr;
+    if (opensPageInstead()) {
+        const QUrl page = links::pageOf(
+            SettingsStore().text(key::ofLanguage(QStringLiteral("CN"), QStringLiteral("CN_Update_Lnk"))));
+        if (page.isValid())
+            Platform::current().ShellExecuteW(QString::fromLatin1(page.toEncoded()), QString(),
+                                              QStringLiteral("open"), Platform::Show::Maximised);
+        return nullptr;
+    }
+    m_bManualCheck = true;
+    auto *check = new QCheckUpdate(owner);
+    style::centreOn(check, m_rcSplash);
+    if (!check->HasOffer())
+        check->deleteLater();
+    return check;
+}

@@ -1,0 +1,101 @@
+#include "ui/dialogs/QCheckUpdate.h"
+
+#include "state/Globals.h"
+#include "state/SettingsStore.h"
+#include "ui/dialogs/QShowUpdate.h"
+#include "ui/dialogs/UpdateMessage.h"
+#include "ui/widgets/Style.h"
+#include "update/UpdateCheck.h"
+#include "update/UpdateGlobals.h"
+#include "update/UpdateLink.h"
+
+#include <QEvent>
+#include <QFileInfo>
+#include <QTimer>
+
+#include <algorithm>
+
+QCheckUpdate::QCheckUpdate(QWidget *parent) : QDialog(parent), m_Frame(this)
+{
+    setupUi(this);
+    DialogLook look;
+    look.title = HeaderLabel;
+    m_Frame.dress(look);
+    setModal(true);
+    // The offer opens in the middle of where this would be.
+    style::centreOn(this, m_rcSplash);
+    check();
+}
+
+QCheckUpdate::~QCheckUpdate()
+{
+    update::removeVersions();
+}
+
+void QCheckUpdate::check()
+{
+    m_bHttpRequestAborted = false;
+    update::beginCheck();
+    const QString link = update::link();
+    if (link.isEmpty())
+        return;
+    m_bHttpRequestAborted = !update::fetchVersions(link);
+    downloadFinishedTxt();
+}
+
+void QCheckUpdate::downloadReadyReadTxt()
+{
+    const qint64 bytes = QFileInfo(g_strUpdateFile).size();
+    progressBar->setValue(static_cast<int>(std::min<qint64>(bytes, progressBar->maximum())));
+}
+
+void QCheckUpdate::downloadFinishedTxt()
+{
+    g_bMajorUpdate = false;
+    g_bMinorUpdate = false;
+    if (!m_bHttpRequestAborted) {
+        const QString installed = SettingsStore().text(key::rxVersion);
+        if (installed.isEmpty())
+            g_bUpdateShown = false;
+        else if (m_nComparisons++ == 0)
+            update::compareVersions(installed);
+    }
+    if (g_bMajorUpdate || g_bMinorUpdate)
+        showOffer();
+    else
+        tellNoUpdate();
+}
+
+void QCheckUpdate::tellNoUpdate()
+{
+    update::removeVersions();
+    emit NoUpdates();
+    if (m_bManualCheck) {
+        m_bManualCheck = false;
+        ShowUpdateMessage(tr("No update available."), 1);
+    }
+    hide();
+}
+
+void QCheckUpdate::showOffer()
+{
+    m_bManualCheck = false;
+    g_bUpdateShown = true;
+    hide();
+    m_pOffer = new QShowUpdate(this);
+    connect(m_pOffer, &QDialog::finished, this, &QObject::deleteLater);
+    style::centreOn(m_pOffer, geometry());
+    m_pOffer->show();
+    // At the start the main window shows behind this, and would lie above.
+    QTimer::singleShot(0, m_pOffer, [offer = m_pOffer] {
+        offer->raise();
+        offer->activateWindow();
+    });
+}
+
+void QCheckUpdate::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        retranslateUi(this);
+    QDialog::changeEvent(event);
+}

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "ui/dialogs/DialogFrame.h"
+
+#include <QDialog>
+
+#include "ui_CheckUpdate.h"
+
+class QShowUpdate;
+
+/// Asks the web folder for a newer version. The constructor does all of it and blocks as long as the network
+/// does; the dialog itself never shows. Where there is an update, the offer opens and the object goes with
+/// it: make it on the heap, with a parent.
+class QCheckUpdate : public QDialog, public Ui::CheckUpdate
+{
+    Q_OBJECT
+
+public:
+    explicit QCheckUpdate(QWidget *parent);
+    ~QCheckUpdate() override;
+
+    /// Whether an update was found, and is offered.
+    bool HasOffer() const { return m_pOffer != nullptr; }
+
+signals:
+    void NoUpdates();
+
+public slots:
+    /// The file with the versions has come, or will not come: compares and tells.
+    void downloadFinishedTxt();
+    /// Something of it came.
+    void downloadReadyReadTxt();
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    void check();
+    void tellNoUpdate();
+    void showOffer();
+
+    DialogFrame m_Frame;
+    QShowUpdate *m_pOffer = nullptr;
+    bool m_bHttpRequestAborted = false;
+    int m_nComparisons = 0; ///< of this object; only the first one counts
+};

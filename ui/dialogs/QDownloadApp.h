@@ -1,0 +1,45 @@
+#pragma once
+
+#include "ui/dialogs/DialogFrame.h"
+#include "update/QDownloadThread.h"
+
+#include <QDialog>
+#include <QElapsedTimer>
+#include <QTimer>
+
+#include "ui_DownloadUpdate.h"
+
+/// Loads the installer, starts it, and ends the program so that it can be replaced. The constructor begins
+/// the download, which cannot be stopped. Ends with finished() where it failed.
+class QDownloadApp : public QDialog, public Ui::DownloadUpdate
+{
+    Q_OBJECT
+
+public:
+    explicit QDownloadApp(QWidget *parent = nullptr);
+
+public slots:
+    void OnDownloadStart();
+    void OnDownloadFailed();
+    void OnDownloadFinish(QString strDownloadPath);
+    /// Shows how much lies in the update's folder by now.
+    void OnTimerLoadSlot();
+    /// A transfer that tells its own progress has ended, or has brought more.
+    void downloadFinished();
+    void downloadReadyRead();
+    /// Shows such a transfer's progress, in bytes.
+    void OnDownloadProgress(qlonglong bytesReceived, qlonglong bytesTotal);
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    void showProgress(qint64 bytes, const QString &copied);
+    void clearProgress();
+    QList<QLabel *> details() const;
+
+    DialogFrame m_Frame;
+    QTimer m_timer;
+    QElapsedTimer m_elapsed;
+    QDownloadThread m_thread;
+};

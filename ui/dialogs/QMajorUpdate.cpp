@@ -1,0 +1,3 @@
+#include "ui/dialogs/QMajorUpdate.h"
+
+QMajorUpdate::QMajorUpdate(QWidget *parent) : QShowUpdate(parent, Kind::Major) {}

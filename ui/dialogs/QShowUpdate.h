@@ -1,0 +1,36 @@
+#pragma once
+
+#include "ui/dialogs/DialogFrame.h"
+
+#include <QDialog>
+
+#include "ui_ShowUpdateAvail.h"
+
+/// Offers the update that the last check found. Ends with finished(): behind Cancel, and behind a download
+/// that failed.
+class QShowUpdate : public QDialog, public Ui::ShowUpdateAvail
+{
+    Q_OBJECT
+
+public:
+    explicit QShowUpdate(QWidget *parent = nullptr);
+
+public slots:
+    /// Hides the offer and begins the download.
+    void DownloadApp();
+    void CancelDownload();
+
+protected:
+    /// Whether the offer is of a release or of an update.
+    enum class Kind { AsFound, Major };
+    QShowUpdate(QWidget *parent, Kind kind);
+
+    void changeEvent(QEvent *event) override;
+
+private:
+    void translateTexts();
+    QString offerText() const;
+
+    DialogFrame m_Frame;
+    const Kind m_eKind;
+};

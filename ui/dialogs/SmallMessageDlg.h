@@ -1,0 +1,25 @@
+#pragma once
+
+#include "ui/dialogs/DialogFrame.h"
+
+#include <QDialog>
+
+#include "ui_SmallMessageDlg.h"
+
+/// The plain message box of the update: a centred text.
+class SmallMessageDlg : public QDialog, public Ui::SmallMsg
+{
+    Q_OBJECT
+
+public:
+    explicit SmallMessageDlg(QWidget *parent = nullptr);
+
+    /// Replaces the text: an empty block as heading, one more below two leading blank lines, then `text`.
+    void SetText(const QString &text, int leadingBlankLines);
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    DialogFrame m_Frame;
+};

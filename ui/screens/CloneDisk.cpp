@@ -1,0 +1,286 @@
+#include "ui/screens/CloneDisk.h"
+
+#include "clone/RescueMap.h"
+#include "state/CloneTexts.h"
+#include "state/GlobalApp.h"
+#include "state/Globals.h"
+#include "ui/dialogs/InfoDialogClass.h"
+#include "ui/screens/PageLook.h"
+#include "ui/widgets/QRoundProgressBar.h"
+#include "ui/widgets/Style.h"
+
+#include <QEvent>
+#include <QFileDialog>
+
+#include <initializer_list>
+
+namespace
+{
+
+constexpr int GaugeSide = 210;
+constexpr double GaugeStart = -135; ///< degrees, at the lower left
+
+/// Which label shows which text of a disk.
+struct DetailRow {
+    DetailLabel *Ui_m_pCloneDiskwgt::*source;
+    DetailLabel *Ui_m_pCloneDiskwgt::*target;
+    QString clonetexts::Details::*text;
+};
+
+const DetailRow detailRows[] = {
+    {&Ui_m_pCloneDiskwgt::DisknLbl, &Ui_m_pCloneDiskwgt::TargetDiskNoLbl, &clonetexts::Details::diskNumber},
+    {&Ui_m_pCloneDiskwgt::ModelNLbl, &Ui_m_pCloneDiskwgt::TargetModelLbl, &clonetexts::Details::model},
+    {&Ui_m_pCloneDiskwgt::CapacityLbl, &Ui_m_pCloneDiskwgt::TargetCpaLbl, &clonetexts::Details::capacity},
+    {&Ui_m_pCloneDiskwgt::SerialNuLabel, &Ui_m_pCloneDiskwgt::TargetSLbl, &clonetexts::Details::serial},
+    {&Ui_m_pCloneDiskwgt::FirmWareLbl, &Ui_m_pCloneDiskwgt::TargetFrmLbl, &clonetexts::Details::firmware},
+    {&Ui_m_pCloneDiskwgt::InterfaceLBL, &Ui_m_pCloneDiskwgt::TargetInterfaceLbl,
+     &clonetexts::Details::interfaceType},
+    {&Ui_m_pCloneDiskwgt::SectorLbl, &Ui_m_pCloneDiskwgt::TargetSectorLBl, &clonetexts::Details::sectors},
+};
+
+} // namespace
+
+CloneDisk::CloneDisk(QWidget *parent) : QWidget(parent)
+{
+    setupUi(this);
+    pagelook::makePage(this);
+    m_pRoundProgressBar = new QRoundProgressBar(ProgressLabel);
+    m_pRoundProgressBar->setObjectName(QStringLiteral("m_pRoundProgressBar"));
+    m_pRoundProgressBar->setGeometry(0, 0, GaugeSide, GaugeSide);
+    style::scaleWidget(m_pRoundProgressBar);
+    style::setWhiteBackground(m_pRoundProgressBar);
+    m_pRoundProgressBar->SetDecimals(0);
+    // Below the window, where the page's style sheets do not reach.
+    m_pMessageBox = new InfoDialogClass(window());
+    m_pMessageBox->setObjectName(QStringLiteral("m_pMessageBox"));
+    stylePage();
+    setFixedTexts();
+    RefreshSourceDetails(nullptr);
+    connect(SourceComboBox, QOverload<int>::of(&QComboBox::activated), this,
+            &CloneDisk::OnActivatedSourceComboBox);
+    connect(SourceComboBox, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+            &CloneDisk::OnActivatedSourceComboBox);
+    connect(DestinationComboBox, QOverload<int>::of(&QComboBox::activated), this,
+            &CloneDisk::OnActivatedDestinationComboBox);
+    connect(m_pMessageBox->OkButton, &QPushButton::clicked, this, &CloneDisk::OnOk);
+    connect(m_pMessageBox->SaveButton, &QPushButton::clicked, this, &CloneDisk::OnSaveLostSectors);
+    connectThread();
+}
+
+void CloneDisk::connectThread()
+{
+    connect(&m_cloneThread, &ThreadDriveClone::OnCloningFinish, this, &CloneDisk::OnDriveCloneFinish);
+    connect(&m_cloneThread, &ThreadDriveClone::SetProgressValue, this, &CloneDisk::OnSetProgressValue);
+    connect(&m_cloneThread, &ThreadDriveClone::CloningFailed, this, &CloneDisk::OnCloningFailed);
+    connect(&m_cloneThread, &ThreadDriveClone::CloningAbort, this, &CloneDisk::OnCloningAbort);
+}
+
+void CloneDisk::stylePage()
+{
+    pagelook::styleHeadings({DiskDetailLbl});
+    pagelook::styleNames({SourceDisk, TargetDiskLbl, TimeLabel2});
+    pagelook::styleValues({TimeLabel});
+    for (const DetailRow &row : detailRows)
+        pagelook::styleValues({this->*row.source, this->*row.target});
+    pagelook::styleCard(SourceFrame);
+    pagelook::styleCard(DesitanionFrame);
+    SourceComboBox->setFont(style::font(10));
+    DestinationComboBox->setFont(style::font(10));
+    // A long name must not widen the combo, which has the width of its card.
+    for (QComboBox *combo : {SourceComboBox, DestinationComboBox})
+        combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+}
+
+void CloneDisk::setFixedTexts()
+{
+    DiskDetailLbl->setText(tr("Disk Details"));
+    SourceDisk->setText(tr("Source Disk"));
+    TargetDiskLbl->setText(tr("Target Disk"));
+    TimeLabel2->setText(tr("Remaining Time"));
+    pagelook::alignNames({SourceDisk, TargetDiskLbl});
+}
+
+void CloneDisk::RefreshSourceDetails(const DiskNode *pNode)
+{
+    m_nSourceSectors = pNode && pNode->pDetails ? pNode->pDetails->nTotalSectors : 0;
+    const clonetexts::Details captions = clonetexts::captions();
+    const clonetexts::Details texts =
+        pNode ? clonetexts::details(*pNode, findWmicDisk(pNode->nId)) : captions;
+    for (const DetailRow &row : detailRows) {
+        (this->*row.source)->setText(texts.*row.text);
+        (this->*row.target)->setText(captions.*row.text);
+    }
+    ShowTargetDetails(false);
+    DetailLabel::align({DisknLbl, ModelNLbl, CapacityLbl, SerialNuLabel, TargetDiskNoLbl, TargetModelLbl,
+                        TargetCpaLbl, TargetSLbl});
+    DetailLabel::align(
+        {FirmWareLbl, InterfaceLBL, SectorLbl, TargetFrmLbl, TargetInterfaceLbl, TargetSectorLBl});
+    rebuildDestinations(pNode);
+}
+
+void CloneDisk::ShowTargetDetails(bool bShow)
+{
+    for (const DetailRow &row : detailRows)
+        (this->*row.target)->setVisible(bShow);
+}
+
+void CloneDisk::rebuildDestinations(const DiskNode *pSource)
+{
+    g_strSelectDestination = tr("Select Destination");
+    DestinationComboBox->clear();
+    DestinationComboBox->addItem(g_strSelectDestination);
+    // Without a size it is not among the choices of the drop-down.
+    DestinationComboBox->setItemData(0, QSize(0, 0), Qt::SizeHintRole);
+    const int sourceId = pSource ? pSource->nId : 0;
+    const DiskNode *disks = g_bListsLoading ? nullptr : g_App.m_pDiskListHead;
+    for (const clonetexts::Destination &disk : clonetexts::destinations(disks, sourceId))
+        DestinationComboBox->addItem(disk.text, disk.diskId);
+    m_nDestinationIndex = 0;
+}
+
+void CloneDisk::ForgetDestination()
+{
+    m_nDestinationIndex = 0;
+    m_nDestinationDrive = -1;
+    g_App.m_pCloneDisk = nullptr;
+}
+
+void CloneDisk::OnActivatedSourceComboBox(int index)
+{
+    if (SourceComboBox->count() == 0)
+        return;
+    emit ComboboxIndexChange(index);
+    g_App.m_pCurrentDisk = findPhysicalDisk(SourceComboBox->itemData(index).toInt());
+    RefreshSourceDetails(g_App.m_pCurrentDisk);
+}
+
+void CloneDisk::OnActivatedDestinationComboBox(int index)
+{
+    m_nDestinationIndex = index;
+    m_nDestinationDrive = DestinationComboBox->itemData(index).toInt() - PhysicalDriveBase;
+    if (index == 0)
+        return;
+    g_App.m_pCloneDisk = findPhysicalDisk(m_nDestinationDrive + PhysicalDriveBase);
+    if (!g_App.m_pCloneDisk) {
+        ShowTargetDetails(false);
+        return;
+    }
+    const clonetexts::Details texts =
+        clonetexts::details(*g_App.m_pCloneDisk, findWmicDisk(g_App.m_pCloneDisk->nId));
+    for (const DetailRow &row : detailRows)
+        (this->*row.target)->setText(texts.*row.text);
+    ShowTargetDetails(true);
+}
+
+/// The gauge and the remaining time, or the choice of the two disks.
+void CloneDisk::showRunning(bool bRunning)
+{
+    for (QWidget *choice :
+         std::initializer_list<QWidget *>{DiskDetailLbl, ExtraLbl, SourceFrame, DesitanionFrame, SourceDisk,
+                                          TargetDiskLbl, SourceComboBox, DestinationComboBox})
+        choice->setVisible(!bRunning);
+    for (const DetailRow &row : detailRows) {
+        (this->*row.source)->setVisible(!bRunning);
+        (this->*row.target)->setVisible(!bRunning);
+    }
+    for (QWidget *progress :
+         std::initializer_list<QWidget *>{ProgressLabel, TimeLabel, TimeLabel2, TimeSpaceLbl, TimeSpaceLbl_2})
+        progress->setVisible(bRunning);
+}
+
+void CloneDisk::StartClone()
+{
+    m_bCloning = true;
+    m_pMessageBox->hide();
+    m_strLastMinutes.clear();
+    TimeLabel->clear();
+    showRunning(true);
+    m_timeStarted = QTime::currentTime();
+    m_pRoundProgressBar->SetMinimum(0.0);
+    m_pRoundProgressBar->SetMaximum(100.0);
+    m_pRoundProgressBar->SetValue(0);
+    m_pRoundProgressBar->SetNullPosition(GaugeStart);
+    m_pRoundProgressBar->SetBarStyle(QRoundProgressBar::RingStyle);
+    m_pRoundProgressBar->show();
+    m_cloneThread.start(QThread::InheritPriority);
+}
+
+void CloneDisk::OnSetProgressValue(qlonglong position, qlonglong remaining)
+{
+    m_strLastMinutes = clonemessages::remainingText(remaining);
+    OnUpdateTime();
+    m_pRoundProgressBar->SetValue(clonemessages::percentDone(position, m_nSourceSectors));
+    m_pRoundProgressBar->repaint();
+}
+
+void CloneDisk::OnUpdateTime()
+{
+    TimeLabel->setText(m_strLastMinutes);
+}
+
+void CloneDisk::ShowMessage(const clonemessages::Message &message)
+{
+    m_pMessageBox->OfferSaving(false);
+    m_pMessageBox->SetTexts(message.title, message.text, message.second);
+    style::centreOn(m_pMessageBox, window()->geometry());
+    m_pMessageBox->show();
+}
+
+void CloneDisk::OnSaveLostSectors()
+{
+    const QString path = QFileDialog::getSaveFileName(m_pMessageBox, tr("Save List"),
+                                                      QStringLiteral("clone.map"), QStringLiteral("*.map"));
+    const CloneOutcome &outcome = m_cloneThread.outcome();
+    if (!path.isEmpty() && !rescuemap::save(path, outcome.lost, outcome.total))
+        m_pMessageBox->label_2->setText(tr("The list could not be saved."));
+}
+
+void CloneDisk::OnCloningFailed()
+{
+    ShowMessage(clonemessages::failed());
+    emit CloningProcesFailed();
+}
+
+void CloneDisk::OnCloningAbort()
+{
+    ShowMessage(clonemessages::aborted(m_pMessageBox->label_2->text()));
+}
+
+void CloneDisk::OnDriveCloneFinish()
+{
+    // It signals a moment before it is at rest.
+    m_cloneThread.wait();
+    m_bCloning = false;
+    const CloneOutcome &outcome = m_cloneThread.outcome();
+    if (outcome.end == CloneOutcome::End::Complete || outcome.end == CloneOutcome::End::WithErrors) {
+        TimeLabel->clear();
+        m_pRoundProgressBar->SetValue(100);
+        ProgressLabel->repaint();
+    }
+    if (outcome.fault != CloneFault::None)
+        g_bListsStale = true;
+    ShowMessage(clonemessages::finished(outcome));
+    m_pMessageBox->OfferSaving(outcome.end == CloneOutcome::End::WithErrors);
+    emit OnCloneFinish();
+}
+
+void CloneDisk::OnOk()
+{
+    m_pMessageBox->hide();
+    TimeLabel->clear();
+    if (g_bJobRunning || m_bCloning)
+        return;
+    showRunning(false);
+    emit DiskCloneFinished();
+}
+
+void CloneDisk::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        retranslateUi(this);
+        setFixedTexts();
+        RefreshSourceDetails(findPhysicalDisk(SourceComboBox->currentData().toInt()));
+        stylePage();
+    }
+    QWidget::changeEvent(event);
+}

@@ -1,0 +1,80 @@
+#pragma once
+
+#include "clone/CloneMessages.h"
+#include "clone/ThreadDriveClone.h"
+#include "state/DiskRecords.h"
+
+#include "ui_CloneDisk.h"
+
+#include <QTime>
+#include <QWidget>
+
+class InfoDialogClass;
+class QRoundProgressBar;
+
+/// The Clone Disk screen: the choice of a source and a destination with the details of both, and the clone
+/// itself with its gauge, its remaining time and the box that tells how it ended. Main thread only.
+class CloneDisk : public QWidget, public Ui::m_pCloneDiskwgt
+{
+    Q_OBJECT
+
+public:
+    explicit CloneDisk(QWidget *parent = nullptr);
+
+    /// Shows the details of the source, hides those of the target and rebuilds the list of destinations; the
+    /// choice of a destination goes back to none. Null: no source, and any physical disk is a destination.
+    void RefreshSourceDetails(const DiskNode *pNode);
+    /// Shows or hides the details of the target.
+    void ShowTargetDetails(bool bShow);
+    /// No disk is the destination any more: the numbers may belong to others now.
+    void ForgetDestination();
+
+    /// Copies the current disk onto the clone disk, which loses all that it holds. Only while no clone runs.
+    void StartClone();
+    /// From the start of a clone until its result shows. Until then the lists must stay, also behind a stop.
+    bool IsCloning() const { return m_bCloning; }
+    /// Shows a message in the box, over the main window.
+    void ShowMessage(const clonemessages::Message &message);
+
+    int m_nDestinationIndex = 0;  ///< row in DestinationComboBox, 0: none chosen
+    int m_nDestinationDrive = -1; ///< physical number of the disk chosen last, negative: none
+    quint64 m_nSourceSectors = 0; ///< sectors of 512 bytes
+
+signals:
+    /// A clone has ended, and its result shows.
+    void OnCloneFinish();
+    /// The result was read: the page is back at the choice of disks.
+    void DiskCloneFinished();
+    /// The source combo went to another row; it has the rows of the main window's drive combo.
+    void ComboboxIndexChange(int index);
+    /// The clone was refused, or failed.
+    void CloningProcesFailed();
+
+public slots:
+    void OnActivatedSourceComboBox(int index);
+    void OnActivatedDestinationComboBox(int index);
+    void OnSetProgressValue(qlonglong position, qlonglong remaining);
+    void OnDriveCloneFinish();
+    void OnCloningFailed();
+    void OnCloningAbort();
+    void OnOk();
+    void OnUpdateTime();
+    void OnSaveLostSectors();
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    void stylePage();
+    void setFixedTexts();
+    void rebuildDestinations(const DiskNode *pSource);
+    void connectThread();
+    void showRunning(bool bRunning);
+
+    QString m_strLastMinutes; ///< the remaining time shown last
+    QRoundProgressBar *m_pRoundProgressBar = nullptr;
+    InfoDialogClass *m_pMessageBox = nullptr;
+    QTime m_timeStarted;
+    bool m_bCloning = false;
+    ThreadDriveClone m_cloneThread;
+};

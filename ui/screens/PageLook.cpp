@@ -1,0 +1,103 @@
+#include "ui/screens/PageLook.h"
+
+#include "smart/Rating.h"
+#include "ui/dialogs/DialogFrame.h"
+#include "ui/widgets/Style.h"
+
+#include <QAbstractScrollArea>
+#include <QCoreApplication>
+#include <QFrame>
+#include <QLabel>
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace pagelook
+{
+
+namespace
+{
+
+constexpr int PageWidth = 764;
+constexpr int PageHeight = 452;
+
+void styleLabels(std::initializer_list<QLabel *> labels, const QFont &font, const QString &sheet)
+{
+    for (QLabel *label : labels) {
+        label->setFont(font);
+        label->setStyleSheet(sheet);
+    }
+}
+
+} // namespace
+
+void makePage(QWidget *page)
+{
+    DialogFrame::scaleForm(page);
+    page->setFixedSize(style::px(PageWidth), style::px(PageHeight));
+    style::setWhiteBackground(page);
+}
+
+void styleHeadings(std::initializer_list<QLabel *> labels)
+{
+    styleLabels(labels, style::font(13), style::BlackLabel);
+}
+
+void styleNames(std::initializer_list<QLabel *> labels)
+{
+    styleLabels(labels, style::semiBold(10), style::GreyLabel);
+}
+
+void styleValues(std::initializer_list<QLabel *> labels)
+{
+    styleLabels(labels, style::font(10), style::GreyLabel);
+    for (QLabel *label : labels) {
+        // Set by hand it takes the place of the text's own width.
+        label->setMinimumWidth(1);
+    }
+}
+
+void alignNames(std::initializer_list<QLabel *> labels)
+{
+    int widest = 0;
+    for (QLabel *label : labels) {
+        label->ensurePolished();
+        // The hint of a label is never below the width that the texts before asked for.
+        label->setMinimumWidth(0);
+        widest = std::max(widest, label->sizeHint().width());
+    }
+    for (QLabel *label : labels)
+        label->setMinimumWidth(widest);
+}
+
+void showResult(QLabel *label, OverallResult result)
+{
+    const bool passed = result == OverallResult::Passed;
+    label->setText(passed ? QCoreApplication::translate("MainWindow", "Passed")
+                   : result == OverallResult::NotSupported
+                       ? QCoreApplication::translate("MainWindow", "Not Supported")
+                       : QCoreApplication::translate("MainWindow", "Failed"));
+    label->setStyleSheet(passed ? style::PassedLabel : style::FailedLabel);
+}
+
+void styleCard(QFrame *frame)
+{
+    frame->setStyleSheet(
+        QStringLiteral(".QFrame{background: #ffffff; border: 1px solid #dfe5eb; border-radius: %1px;}")
+            .arg(style::px(8)));
+}
+
+void styleVerticalScrollBar(QAbstractScrollArea *area)
+{
+    static const char *const sheet =
+        "QScrollBar:vertical{background: #f5f5f5; width: %1px; margin: 0px; border: none;}"
+        "QScrollBar::handle:vertical{background: #c9d2db; border-radius: %2px; min-height: %3px; margin: "
+        "1px;}"
+        "QScrollBar::handle:vertical:hover{background: #2a81e5;}"
+        "QScrollBar::add-line:vertical, QScrollBar::sub-line:vertical{height: 0px;}"
+        "QScrollBar::add-page:vertical, QScrollBar::sub-page:vertical{background: none;}";
+    area->verticalScrollBar()->setStyleSheet(
+        QString::fromLatin1(sheet).arg(style::px(10)).arg(style::px(4)).arg(style::px(28)));
+}
+
+} // namespace pagelook

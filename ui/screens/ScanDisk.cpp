@@ -1,0 +1,395 @@
+#include "ui/screens/ScanDisk.h"
+
+#include "scan/ScanGlobals.h"
+#include "state/GlobalApp.h"
+#include "state/Globals.h"
+#include "ui/dialogs/InfoDialogClass.h"
+#include "ui/screens/PageLook.h"
+#include "ui/screens/SelfTestPanel.h"
+#include "ui/widgets/Images.h"
+#include "ui/widgets/QGridView.h"
+#include "ui/widgets/Style.h"
+
+#include <QButtonGroup>
+#include <QEvent>
+#include <QTimer>
+#include <QVBoxLayout>
+
+namespace
+{
+
+/// The semibold cut of the plain family, for the words that head a value or a text.
+QFont strongFont()
+{
+    QFont font = style::font(10);
+    font.setWeight(QFont::DemiBold);
+    return font;
+}
+
+void styleChoice(QFrame *card, bool chosen)
+{
+    card->setStyleSheet(QStringLiteral(".QFrame{background: %1; border: 1px solid %2; border-radius: %3px;}")
+                            .arg(chosen ? QStringLiteral("#f3f8fe") : QStringLiteral("#ffffff"),
+                                 chosen ? QStringLiteral("#2a81e5") : QStringLiteral("#dfe5eb"))
+                            .arg(style::px(8)));
+}
+
+} // namespace
+
+ScanDisk::ScanDisk(QWidget *parent) : QWidget(parent)
+{
+    setupUi(this);
+    pagelook::makePage(this);
+    m_pSelfTestPanel = new SelfTestPanel(frame_3);
+    auto *testColumn = new QVBoxLayout(frame_3);
+    testColumn->setContentsMargins(0, 0, 0, 0);
+    testColumn->addWidget(m_pSelfTestPanel);
+    m_pGridView = new QGridView(frame);
+    m_pGridView->setObjectName(QStringLiteral("m_pGridView"));
+    m_pGridView->setGeometry(QRect(QPoint(0, 0), frame->minimumSize()));
+    // Below the window, where the page's style sheets do not reach.
+    m_pResultBox = new InfoDialogClass(window());
+    m_pResultBox->setObjectName(QStringLiteral("m_pResultBox"));
+    connect(m_pResultBox->OkButton, &QPushButton::clicked, this, &ScanDisk::OnResultRead);
+    connect(m_pResultBox, &QDialog::rejected, this, &ScanDisk::OnResultRead);
+    connectThread();
+    styleChooser();
+    styleCounters();
+    showCounts();
+    setFixedTexts();
+    setTimeCaptions();
+    FillDisk(nullptr);
+    ShowChooser();
+}
+
+void ScanDisk::connectThread()
+{
+    connect(&m_scanThread, &QScanDriveThread::WrtiteText, this, &ScanDisk::onWrtiteText);
+    connect(&m_scanThread, &QScanDriveThread::ExactBadSectorCount, this, &ScanDisk::OnExactBadSectorCount);
+    connect(&m_scanThread, &QScanDriveThread::MaximumBadBlockScanProgress, this,
+            &ScanDisk::ScanMaxProgressForDisk);
+    connect(&m_scanThread, &QScanDriveThread::AllBlockProcessed, this, &ScanDisk::OnAllBlockProcessed);
+    connect(&m_scanThread, &QScanDriveThread::ScanProgressValue, this, &ScanDisk::ScanProgValForDisk);
+    connect(&m_scanThread, &QScanDriveThread::OnFinish, this, &ScanDisk::OnScanFinish);
+    connect(&m_scanThread, &QScanDriveThread::BadBockCount, this, &ScanDisk::OnBadBlockCount);
+    connect(&m_scanThread, &QScanDriveThread::TotalBlockCount, this, &ScanDisk::OnTotalBlockCount);
+    connect(&m_scanThread, &QScanDriveThread::ScanForBadBlockProgressValue, this,
+            &ScanDisk::BadSectorProgressDisk);
+    connect(&m_scanThread, &QScanDriveThread::setRemainingTime, this, &ScanDisk::OnSetRemainingTime);
+}
+
+void ScanDisk::styleChooser()
+{
+    pagelook::styleHeadings({TestHeadingLabel});
+    auto *tests = new QButtonGroup(this);
+    const struct {
+        QFrame *card;
+        QRadioButton *radio;
+        QLabel *text;
+    } choices[] = {
+        {ChoiceCard1, radioButton, label},
+        {ChoiceCard2, radioButton_2, label_2},
+        {ChoiceCard3, radioButton_3, label_3},
+    };
+    for (const auto &choice : choices) {
+        choice.text->setFont(style::font(10));
+        choice.text->setStyleSheet(style::BlackLabel);
+        choice.radio->setFont(strongFont());
+        tests->addButton(choice.radio);
+        QFrame *card = choice.card;
+        connect(choice.radio, &QRadioButton::toggled, this,
+                [card](bool chosen) { styleChoice(card, chosen); });
+        styleChoice(card, false);
+    }
+}
+
+void ScanDisk::styleCounters()
+{
+    pagelook::styleValues({DiskSizeValLbl, TotalBlkValLbl, BlockSizeValLbl, ElapsedValLbl, RemTimeValLbl});
+    for (QLabel *plain : {ProcessesLbl, BadBlkLbl, ProcessNameLbl}) {
+        plain->setFont(style::font(10));
+        plain->setStyleSheet(style::GreyLabel);
+    }
+    for (QLabel *strong :
+         {DiskSizeLbl, TotalBlkLbl, BlockSizeLbl, TimeElapsedLbl, TimeReLbl, ProcessedVal, BadBlkValLbl}) {
+        strong->setFont(strongFont());
+        strong->setStyleSheet(style::GreyLabel);
+    }
+    ScanDiskLbl->setFont(style::font(13));
+    ScanDiskLbl->setStyleSheet(style::GreyLabel);
+    images::setLabelImage(BlueClrLbl, QStringLiteral("img_BlueLegend.png"));
+    images::setLabelImage(RedClrLBl, QStringLiteral("img_RedLegend.png"));
+    images::setLabelImage(ProcesClrLl, QStringLiteral("img_GrayLegend.png"));
+    pagelook::styleCard(frame_4);
+}
+
+void ScanDisk::setFixedTexts()
+{
+    ScanDiskLbl->setText(tr("Scan Disk"));
+    TestHeadingLabel->setText(tr("Scan Disk"));
+    DiskSizeLbl->setText(tr("Disk Size"));
+    TotalBlkLbl->setText(tr("Total Sectors"));
+    BlockSizeLbl->setText(tr("Block Size"));
+    ProcessesLbl->setText(tr("  Processed"));
+    BadBlkLbl->setText(tr("  Bad Sectors"));
+    ProcessNameLbl->setText(tr("  Processing"));
+    radioButton->setText(tr("Scan Disk"));
+    radioButton_2->setText(tr("Short Self-test"));
+    radioButton_3->setText(tr("Extended Self-test"));
+    label->setText(
+        tr("Perform a surface scan on the selected disk to identify if the disk has bad sectors."));
+    label_2->setText(tr("Run this test to check the electrical and mechanical performance of a device along "
+                        "with the read/write operations on a portion of the disk. This test may take few "
+                        "minutes to complete."));
+    label_3->setText(tr("This test is same as a short self-test with a complete disk surface examination. "
+                        "This test may take up to few hours to complete."));
+}
+
+void ScanDisk::setTimeCaptions()
+{
+    TimeReLbl->setText(tr("Time Remaining"));
+    TimeElapsedLbl->setText(tr("Time Elapsed"));
+}
+
+void ScanDisk::showCounts()
+{
+    constexpr qlonglong SectorSize = 512;
+    constexpr qlonglong Megabyte = 1048576;
+    BadBlkValLbl->setText(QString::number(m_i64BadSectors));
+    ProcessedVal->setText(QString::number(m_i64Processed));
+    BlockSizeValLbl->setText(m_i64BlockStep == 0
+                                 ? QStringLiteral("0")
+                                 : QString::number(m_i64BlockStep * SectorSize / Megabyte) + tr(" MB"));
+}
+
+void ScanDisk::clearCounts()
+{
+    m_i64BadSectors = 0;
+    m_i64Processed = 0;
+    m_i64BlockStep = 0;
+    showCounts();
+}
+
+void ScanDisk::hideParts()
+{
+    for (QWidget *part : std::initializer_list<QWidget *>{
+             ScanDiskLbl, TestHeadingLabel, frame, frame_3, frame_4, BlueClrLbl, ProcessesLbl, ProcessedVal,
+             RedClrLBl, BadBlkLbl, BadBlkValLbl, ProcesClrLl, ProcessNameLbl})
+        part->hide();
+}
+
+void ScanDisk::ShowChooser()
+{
+    hideParts();
+    frame_2->setWindowModality(Qt::WindowModal);
+    frame_2->raise();
+    frame_2->show();
+    radioButton->setChecked(true);
+}
+
+void ScanDisk::ShowCounters()
+{
+    hideParts();
+    frame_2->hide();
+    for (QWidget *part :
+         std::initializer_list<QWidget *>{ScanDiskLbl, BlueClrLbl, ProcessesLbl, ProcessedVal, RedClrLBl,
+                                          BadBlkLbl, BadBlkValLbl, ProcesClrLl, ProcessNameLbl})
+        part->show();
+}
+
+void ScanDisk::ShowSelfTest()
+{
+    hideParts();
+    frame_2->hide();
+    m_pSelfTestPanel->ShowProgress(true);
+    m_pSelfTestPanel->ShowTimes(true);
+    frame_3->show();
+}
+
+void ScanDisk::FillDisk(const DiskNode *pNode)
+{
+    DiskSizeValLbl->setText(pNode ? pNode->szSize.text() : QString());
+    const quint64 sectors = pNode && pNode->pDetails ? pNode->pDetails->nTotalSectors : 0;
+    TotalBlkValLbl->setText(QString::number(sectors));
+}
+
+void ScanDisk::PrepareMap(qint64 totalSectors)
+{
+    constexpr int MapSizeHint = 1439;
+    g_nMapTotalSectors = totalSectors;
+    m_pGridView->SetHint(MapSizeHint);
+    m_pGridView->Reset();
+    g_nMapStep = 0;
+    m_pGridView->show();
+    m_pGridView->SetRange(0, totalSectors);
+}
+
+void ScanDisk::StartScan(qint64 totalSectors)
+{
+    constexpr int UpdateInterval = 2000;
+    constexpr int ScanMode = 3;
+    HideResult();
+    frame_4->show();
+    frame->show();
+    g_bAbortJob = false;
+    g_BadSectors.clear();
+    RemTimeValLbl->clear();
+    ElapsedValLbl->clear();
+    // The timer of the scan before ticks on; it has the same to do.
+    m_pUpdateTimer = new QTimer(this);
+    connect(m_pUpdateTimer, &QTimer::timeout, this, &ScanDisk::OnUpdateTime);
+    m_pUpdateTimer->start(UpdateInterval);
+    m_clock.forgetEstimate();
+    m_sinceStart.start();
+    setTimeCaptions();
+    PrepareMap(totalSectors);
+    if (totalSectors > ScanBlockCount)
+        g_nMapStep = totalSectors / ScanBlockCount;
+    m_bScanning = true;
+    m_bDropped = false;
+    m_scanThread.SetRange(0, totalSectors);
+    m_scanThread.StartScan(g_App.m_pCurrentDisk, ScanMode);
+    clearCounts();
+}
+
+void ScanDisk::DropResults()
+{
+    clearTimes();
+    clearCounts();
+    m_pGridView->Reset();
+    m_bDropped = m_bScanning;
+    if (m_bScanning) {
+        g_bAbortJob = true;
+    } else {
+        g_BadSectors.clear();
+        g_nBlockStep = 0;
+    }
+}
+
+bool ScanDisk::IsResultUnread() const
+{
+    return m_pResultBox->isVisible();
+}
+
+void ScanDisk::HideResult()
+{
+    m_pResultBox->hide();
+}
+
+void ScanDisk::clearTimes()
+{
+    for (QLabel *time : {ElapsedValLbl, RemTimeValLbl, TimeElapsedLbl, TimeReLbl})
+        time->clear();
+}
+
+void ScanDisk::CentreResult()
+{
+    style::centreOn(m_pResultBox, window()->geometry());
+}
+
+void ScanDisk::onWrtiteText(qlonglong) {}
+
+// What is still on its way from a scan that was given up tells nothing of the disk on show.
+void ScanDisk::ScanMaxProgressForDisk()
+{
+    if (m_bDropped)
+        return;
+    m_pGridView->Reset();
+    m_pGridView->show();
+}
+
+void ScanDisk::ScanProgValForDisk(qlonglong value)
+{
+    if (m_bDropped)
+        return;
+    m_pGridView->m_i64Position = g_nMapStep * value;
+    m_pGridView->update();
+}
+
+void ScanDisk::BadSectorProgressDisk(uint) {}
+
+void ScanDisk::OnBadBlockCount(qlonglong) {}
+
+void ScanDisk::OnTotalBlockCount(qlonglong position, qlonglong, qlonglong step)
+{
+    if (m_bDropped)
+        return;
+    m_i64BlockStep = step;
+    m_i64Processed = position;
+    showCounts();
+}
+
+void ScanDisk::OnExactBadSectorCount(qlonglong count)
+{
+    if (m_bDropped)
+        return;
+    m_i64BadSectors = count;
+    BadBlkValLbl->setText(QString::number(count));
+}
+
+void ScanDisk::OnAllBlockProcessed(qlonglong i64ProcessedBlocks)
+{
+    if (m_bDropped)
+        return;
+    m_i64Processed = i64ProcessedBlocks;
+    showCounts();
+}
+
+void ScanDisk::OnSetRemainingTime(qlonglong sectors, qlonglong endSector)
+{
+    m_clock.takeFirstChunk(sectors, endSector, m_sinceStart.elapsed());
+}
+
+void ScanDisk::OnUpdateTime()
+{
+    if (!g_bJobRunning || !m_bScanning || m_bDropped)
+        return;
+    const qint64 elapsed = m_sinceStart.elapsed();
+    if (const auto remaining = m_clock.remainingText(elapsed))
+        RemTimeValLbl->setText(*remaining);
+    ElapsedValLbl->setText(ScanClock::elapsedText(elapsed));
+}
+
+void ScanDisk::OnScanFinish(QString verdict)
+{
+    // It signals a moment before it is at rest, and would take g_bJobRunning from the next job.
+    m_scanThread.wait();
+    clearTimes();
+    m_clock.forgetEstimate();
+    m_bScanning = false;
+    if (m_bDropped)
+        DropResults();
+    else if (!g_bAbortJob && verdict == QLatin1String("Pass"))
+        // The progress comes in rounded steps, which end before the disk or behind it.
+        m_pGridView->m_i64Position = g_nMapTotalSectors;
+    showResult(verdict);
+    emit OnScanFinished();
+}
+
+void ScanDisk::showResult(const QString &verdict)
+{
+    if (g_bAbortJob)
+        m_pResultBox->SetTexts(tr("Disk Scan"), tr("Disk scan aborted."), tr("Disk scan aborted by user."));
+    else if (verdict == QLatin1String("Pass"))
+        m_pResultBox->SetTexts(tr("Scan Completed"), tr("Scan Completed."), QString());
+    else if (verdict == QLatin1String("Failed"))
+        m_pResultBox->SetTexts(tr("Scan Failed"), tr("Scan Failed."),
+                               g_bScanDiskGone ? tr("The disk is no longer connected.") : QString());
+    else
+        return;
+    CentreResult();
+    m_pResultBox->show();
+}
+
+void ScanDisk::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        retranslateUi(this);
+        setFixedTexts();
+        // A finished scan leaves the times empty, captions included.
+        if (g_bJobRunning)
+            setTimeCaptions();
+        showCounts();
+    }
+    QWidget::changeEvent(event);
+}

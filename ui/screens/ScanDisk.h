@@ -1,0 +1,101 @@
+#pragma once
+
+#include "scan/QScanDriveThread.h"
+#include "scan/ScanClock.h"
+#include "state/DiskRecords.h"
+
+#include "ui_ScanDisk.h"
+
+#include <QElapsedTimer>
+#include <QWidget>
+
+class InfoDialogClass;
+class QGridView;
+class QTimer;
+class SelfTestPanel;
+
+/// The Scan Disk screen: the choice among a surface scan and the two drive self-tests, and the surface scan
+/// itself with its counters, its map and its result. Main thread only.
+class ScanDisk : public QWidget, public Ui::m_pScanDiskwgt
+{
+    Q_OBJECT
+
+public:
+    explicit ScanDisk(QWidget *parent = nullptr);
+
+    /// Shows the choice of the test with the surface scan preselected; counters, legend and map are hidden.
+    void ShowChooser();
+    /// Shows the counters and the legend of a surface scan in place of the choice.
+    void ShowCounters();
+    /// Shows the panel of a self-test, with its progress and its times, and nothing of the others.
+    void ShowSelfTest();
+    /// Shows the size and the sectors of a disk; nothing and "0" where it is null.
+    void FillDisk(const DiskNode *pNode);
+    /// Makes the map an empty one of a disk with so many sectors.
+    void PrepareMap(qint64 totalSectors);
+
+    /// Scans the selected disk from its begin. Only while no scan runs.
+    void StartScan(qint64 totalSectors);
+    /// From the start of a scan until its result shows. A stopped scan ends when the drive has answered.
+    bool IsScanning() const { return m_bScanning; }
+    /// Forgets how long the scan will take.
+    void ForgetEstimate() { m_clock.forgetEstimate(); }
+    /// Moves the result box over the window.
+    void CentreResult();
+    /// The user leaves the page or chooses another disk: times, counters and map go. The bad sectors go at
+    /// once, or when the scan that finds them has ended.
+    void DropResults();
+    /// Whether the box with a result waits to be read.
+    bool IsResultUnread() const;
+    /// Takes the box away unread.
+    void HideResult();
+
+    SelfTestPanel *m_pSelfTestPanel = nullptr; ///< in frame_3
+    QGridView *m_pGridView = nullptr;          ///< in frame
+
+signals:
+    /// The result of a scan shows.
+    void OnScanFinished();
+    /// The box with the result was closed.
+    void OnResultRead();
+
+public slots:
+    void onWrtiteText(qlonglong value);
+    void ScanMaxProgressForDisk();
+    void ScanProgValForDisk(qlonglong value);
+    void BadSectorProgressDisk(uint value);
+    void OnBadBlockCount(qlonglong count);
+    void OnTotalBlockCount(qlonglong position, qlonglong total, qlonglong step);
+    void OnScanFinish(QString verdict);
+    void OnExactBadSectorCount(qlonglong count);
+    void OnSetRemainingTime(qlonglong sectors, qlonglong endSector);
+    void OnUpdateTime();
+    void OnAllBlockProcessed(qlonglong i64ProcessedBlocks);
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    void hideParts();
+    void styleChooser();
+    void styleCounters();
+    void setFixedTexts();
+    void setTimeCaptions();
+    void connectThread();
+    void clearTimes();
+    void showCounts();
+    void showResult(const QString &verdict);
+
+    void clearCounts();
+
+    InfoDialogClass *m_pResultBox = nullptr;
+    QTimer *m_pUpdateTimer = nullptr; ///< of the latest scan
+    ScanClock m_clock;
+    QElapsedTimer m_sinceStart;
+    qlonglong m_i64BadSectors = 0;
+    qlonglong m_i64Processed = 0;
+    qlonglong m_i64BlockStep = 0; ///< sectors of a block; 0 before a scan
+    bool m_bScanning = false;
+    bool m_bDropped = false; ///< the results of the scan under way were given up
+    QScanDriveThread m_scanThread;
+};

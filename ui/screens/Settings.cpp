@@ -1,0 +1,415 @@
+#include "ui/screens/Settings.h"
+
+#include "state/Languages.h"
+#include "state/Scale.h"
+#include "state/SettingsRules.h"
+#include "state/SettingsStore.h"
+#include "ui/dialogs/ManualCheck.h"
+#include "ui/dialogs/QCheckUpdate.h"
+#include "ui/dialogs/UpdateMessage.h"
+#include "ui/widgets/Style.h"
+#include "update/HelpLinks.h"
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QEvent>
+#include <QFileDialog>
+#include <QMenu>
+
+#include <algorithm>
+
+namespace
+{
+
+/// Types of the languages in the order of the menu.
+constexpr std::array<int, LanguageCount> MenuOrder = {0, 1, 2, 3, 4, 5, 6, 8, 9, 10, 7};
+
+/// Types of the languages that the second brand's menu leaves out: Korean and Hindi.
+bool leftOutByBrand(int type)
+{
+    return g_App.m_bKorvaneBrand && (type == 7 || type == 10);
+}
+
+/// Path of a picture for a style sheet; the nearest set where the scale has none of its own.
+QString picture(const QString &file)
+{
+    const QString path = scale::imagePath(file, g_App.m_fScale);
+    return path.isEmpty() ? QStringLiteral(":/images/") + file : path;
+}
+
+/// A flat picture button of the title strip.
+void styleTitleButton(QPushButton *button, const QString &file)
+{
+    button->setStyleSheet(QStringLiteral("QPushButton{border: none; border-radius: %1px; background: "
+                                         "transparent; image: url(%2);}"
+                                         "QPushButton:hover, QPushButton:focus{background: #e4f0fd;}"
+                                         "QPushButton::menu-indicator{image: none; width: 0px;}")
+                              .arg(style::px(4))
+                              .arg(picture(file)));
+    button->setCursor(Qt::PointingHandCursor);
+}
+
+} // namespace
+
+Settings::Settings() : m_Frame(this), m_pLanguageMenu(new QMenu(this))
+{
+    setupUi(this);
+    addHeaderButtons();
+    fillFields();
+    DialogLook look;
+    look.title = HeaderLabel;
+    look.dismiss = CloseButton;
+    look.confirm = OkButton;
+    m_Frame.dress(look);
+    styleFields();
+    BuildLanguageMenu();
+    translateTexts();
+    connectFields();
+    m_Frame.fit();
+}
+
+void Settings::addHeaderButtons()
+{
+    int place = titleLayout->indexOf(CloseButton);
+    for (QPushButton **button : {&m_pUpdateButton, &m_pHelpButton, &m_pLanguageButton}) {
+        *button = new QPushButton(this);
+        (*button)->setMinimumSize(CloseButton->minimumSize());
+        (*button)->setMaximumSize(CloseButton->maximumSize());
+        titleLayout->insertWidget(place++, *button);
+    }
+    m_pUpdateButton->setObjectName(QStringLiteral("m_pUpdateButton"));
+    m_pHelpButton->setObjectName(QStringLiteral("m_pHelpButton"));
+    m_pLanguageButton->setObjectName(QStringLiteral("m_pLanguageButton"));
+}
+
+void Settings::fillFields()
+{
+    PathlineEdit->setPlaceholderText(settings::defaultLogPath(g_App.m_strSystemFolder));
+    PathlineEdit->setText(QStringLiteral("C:\\LogFile.txt"));
+    LogLImitSpinBox->setMinimum(10);
+    LogLImitSpinBox->setValue(100);
+    WarningSpinBox->setValue(settings::FirstWarning);
+    WarningSpinBox->setMinimum(40);
+    ShutDownSpinBox->setValue(settings::FirstShutDown);
+    ShutDownSpinBox->setMinimum(50);
+}
+
+void Settings::styleFields()
+{
+    setStyleSheet(style::fieldSheet());
+    const auto fields = frame->findChildren<QWidget *>();
+    for (QWidget *field : fields)
+        field->setFont(style::font(10));
+    for (QLabel *caption : {logSizeLbl, logSizeLbl_2, logSizeLbl_3, logSizeLbl_4})
+        caption->setStyleSheet(style::GreyLabel);
+    for (QLabel *group : {GeneraLabel, GeneraLabel_2, TempLabel})
+        group->setFont(style::semiBold(10));
+    for (QFrame *hairline : {line, line_2})
+        hairline->setStyleSheet(QStringLiteral("QFrame{background: #e6eaee;}"));
+    ButtonLabel->setStyleSheet(QStringLiteral("QLabel{background: #f5f5f5;}"));
+    PathlineEdit->setStyleSheet(QStringLiteral("color: #64778b;background-color: white;selection-color: "
+                                               "gray;selection-background-color: solid gray;"));
+    styleTitleButton(m_pUpdateButton, QStringLiteral("img_CheckUpdate.png"));
+    styleTitleButton(m_pHelpButton, QStringLiteral("img_Help.png"));
+    styleTitleButton(m_pLanguageButton, QStringLiteral("img_Language.png"));
+    styleTitleButton(CloseButton, QStringLiteral("img_Close.png"));
+    m_pLanguageMenu->setFont(style::font(10));
+    m_pLanguageMenu->setStyleSheet(QStringLiteral("QMenu::indicator{left: %1px; width: %2px; height: %2px;}"
+                                                  "QMenu::indicator:checked{image: url(%3);}")
+                                       .arg(style::px(8))
+                                       .arg(style::px(14))
+                                       .arg(picture(QStringLiteral("img_CheckOn.png"))));
+    m_pUpdateButton->setHidden(g_App.m_bHideUpdateButton);
+    m_pLanguageButton->setVisible(g_App.m_bShowLanguageMenu);
+}
+
+void Settings::connectFields()
+{
+    connect(CloseButton, &QPushButton::clicked, this, &Settings::CloseWindow);
+    connect(LogChkBox, &QCheckBox::stateChanged, this, &Settings::OnLogEventStateChanged);
+    connect(SizeLimitChkBox, &QCheckBox::stateChanged, this, &Settings::SizeLimittStateChanged);
+    connect(WarningTemp, &QCheckBox::stateChanged, this, &Settings::WarningTempStateChanged);
+    connect(BrowsButton_2, &QPushButton::clicked, this, &Settings::OnSelectLogPath);
+    connect(degreeComboBox, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+            &Settings::ChangeWarningTemperature);
+    connect(m_pUpdateButton, &QPushButton::clicked, this, &Settings::OnCheckUpdate);
+    connect(m_pHelpButton, &QPushButton::clicked, this, &Settings::OnOpenSettingsHelp);
+    constexpr std::array<void (Settings::*)(), LanguageCount> changes = {
+        &Settings::OnChangeEnglishLanguage,  &Settings::OnChangeGermanLanguage,
+        &Settings::OnChangeFrenchLanguage,   &Settings::OnChangeItalianLanguage,
+        &Settings::OnChangeSpanishLanguage,  &Settings::OnChangeJapneaseLanguage,
+        &Settings::OnChangeChineaseLanguage, &Settings::OnChangeKoreanLanguage,
+        &Settings::OnChangeDutchLanguage,    &Settings::OnChangeBrazilLanguage,
+        &Settings::OnChangeHindiLanguage};
+    for (std::size_t type = 0; type < changes.size(); ++type)
+        connect(m_apLanguageActions[type], &QAction::triggered, this, changes[type]);
+}
+
+void Settings::BuildLanguageMenu()
+{
+    for (const languages::Language &language : languages::table) {
+        auto *action = new QAction(this);
+        action->setCheckable(true);
+        action->setObjectName(QLatin1String(language.text));
+        m_apLanguageActions[static_cast<std::size_t>(language.type)] = action;
+    }
+    for (const int type : MenuOrder) {
+        const languages::Language &language = languages::table[static_cast<std::size_t>(type)];
+        if (g_App.m_abLanguageOffered[static_cast<std::size_t>(language.offeredIndex)] &&
+            !leftOutByBrand(type))
+            m_pLanguageMenu->addAction(m_apLanguageActions[static_cast<std::size_t>(type)]);
+    }
+    checkCurrentLanguage();
+    if (g_App.m_bShowLanguageMenu)
+        m_pLanguageButton->setMenu(m_pLanguageMenu);
+}
+
+void Settings::checkCurrentLanguage()
+{
+    for (const languages::Language &language : languages::table)
+        m_apLanguageActions[static_cast<std::size_t>(language.type)]->setChecked(&language ==
+                                                                                 &languages::current());
+}
+
+void Settings::changeLanguage(int type)
+{
+    languages::change(type);
+    checkCurrentLanguage();
+}
+
+void Settings::OnChangeEnglishLanguage()
+{
+    changeLanguage(0);
+}
+
+void Settings::OnChangeGermanLanguage()
+{
+    changeLanguage(1);
+}
+
+void Settings::OnChangeFrenchLanguage()
+{
+    changeLanguage(2);
+}
+
+void Settings::OnChangeItalianLanguage()
+{
+    changeLanguage(3);
+}
+
+void Settings::OnChangeSpanishLanguage()
+{
+    changeLanguage(4);
+}
+
+void Settings::OnChangeJapneaseLanguage()
+{
+    changeLanguage(5);
+}
+
+void Settings::OnChangeChineaseLanguage()
+{
+    changeLanguage(6);
+}
+
+void Settings::OnChangeKoreanLanguage()
+{
+    changeLanguage(7);
+}
+
+void Settings::OnChangeDutchLanguage()
+{
+    changeLanguage(8);
+}
+
+void Settings::OnChangeBrazilLanguage()
+{
+    changeLanguage(9);
+}
+
+void Settings::OnChangeHindiLanguage()
+{
+    changeLanguage(10);
+}
+
+void Settings::translateTexts()
+{
+    retranslateUi(this);
+    m_pUpdateButton->setToolTip(tr("Check for Updates"));
+    m_pHelpButton->setToolTip(tr("View Velmora Halvane help document"));
+    m_pLanguageButton->setToolTip(tr("Languages"));
+    for (QPushButton *button : {m_pUpdateButton, m_pHelpButton, m_pLanguageButton})
+        button->setAccessibleName(button->toolTip());
+    for (const languages::Language &language : languages::table)
+        m_apLanguageActions[static_cast<std::size_t>(language.type)]->setText(
+            QCoreApplication::translate("MainWindow", language.text));
+    widenUnitCombo();
+}
+
+void Settings::widenUnitCombo()
+{
+    // What the style sheet adds to the text: padding, border and the arrow.
+    int widest = 0;
+    for (int item = 0; item < degreeComboBox->count(); ++item)
+        widest =
+            std::max(widest, degreeComboBox->fontMetrics().horizontalAdvance(degreeComboBox->itemText(item)));
+    degreeComboBox->setFixedWidth(std::max(style::px(130), widest + style::px(60)));
+}
+
+void Settings::setAlarmEnabled(bool enabled)
+{
+    WarningSpinBox->setEnabled(enabled);
+    ShutDownSpinBox->setEnabled(enabled);
+}
+
+void Settings::setThresholds(int warning, int shutDown)
+{
+    WarningSpinBox->setValue(warning);
+    ShutDownSpinBox->setValue(shutDown);
+}
+
+void Settings::ApplyFirstRunDefaults()
+{
+    degreeComboBox->setCurrentIndex(settings::Fahrenheit);
+    if (SettingsStore().flag(key::FirstTimeLaunch))
+        return;
+    StartupChkBox->setChecked(false);
+    TrayChkBox->setChecked(true);
+    LogChkBox->setChecked(true);
+    PathlineEdit->setEnabled(true);
+    BrowsButton_2->setEnabled(true);
+    SizeLimitChkBox->setChecked(true);
+    LogLImitSpinBox->setEnabled(true);
+    LogLImitSpinBox->setValue(99);
+    degreeComboBox->setCurrentIndex(settings::Fahrenheit);
+    WarningTemp->setChecked(true);
+    setAlarmEnabled(true);
+    setThresholds(settings::FirstWarning, settings::FirstShutDown);
+    degreeComboBox_2->setCurrentIndex(settings::Celsius);
+    degreeComboBox_3->setCurrentIndex(settings::Celsius);
+}
+
+void Settings::LoadFromStore()
+{
+    SettingsStore store;
+    const bool launchedBefore = store.flag(key::FirstTimeLaunch);
+    degreeComboBox->setCurrentIndex(settings::Celsius);
+    if (!launchedBefore) {
+        store.writeNumber(key::FirstTimeLaunch, 1);
+        TrayChkBox->setChecked(true);
+        degreeComboBox->setCurrentIndex(settings::Celsius);
+        WarningTemp->setChecked(true);
+        setAlarmEnabled(true);
+        setThresholds(settings::FirstWarning, settings::FirstShutDown);
+        degreeComboBox_2->setCurrentIndex(settings::Celsius);
+        degreeComboBox_3->setCurrentIndex(settings::Celsius);
+        return;
+    }
+    TrayChkBox->setChecked(store.flag(key::ShowTrayIcon));
+    const QString unit = store.text(key::TempValue);
+    for (const auto known : {settings::Celsius, settings::Fahrenheit}) {
+        if (unit == settings::unitText(known))
+            degreeComboBox->setCurrentIndex(known);
+    }
+    const bool alarm = store.flag(key::ShowWarning);
+    WarningTemp->setChecked(alarm);
+    setAlarmEnabled(alarm);
+    degreeComboBox_2->setEnabled(alarm);
+    degreeComboBox_3->setEnabled(alarm);
+    setThresholds(store.number(key::WarningValue), store.number(key::ShutDownValue));
+}
+
+void Settings::SaveToStore()
+{
+    SettingsStore store;
+    const int unit = degreeComboBox->currentIndex();
+    if (unit == settings::Celsius || unit == settings::Fahrenheit) {
+        const QString text = settings::unitText(static_cast<settings::TemperatureUnit>(unit));
+        for (const QString &name : {key::WarningtemValue, key::ShutDowntemValue, key::TempValue})
+            store.writeText(name, text);
+    }
+    const bool alarm = WarningTemp->isChecked();
+    store.writeNumber(key::ShowWarning, alarm ? 1 : 0);
+    store.writeNumber(key::DontShow, alarm ? 0 : 1);
+    setAlarmEnabled(alarm);
+    store.writeNumber(key::WarningValue, WarningSpinBox->value());
+    store.writeNumber(key::ShutDownValue, ShutDownSpinBox->value());
+    store.writeText(key::LogSavePath, PathlineEdit->text());
+}
+
+void Settings::CloseWindow()
+{
+    hide();
+}
+
+void Settings::OnLogEventStateChanged(int state)
+{
+    PathlineEdit->setEnabled(state == Qt::Checked);
+    BrowsButton_2->setEnabled(state == Qt::Checked);
+}
+
+void Settings::SizeLimittStateChanged(int state)
+{
+    LogLImitSpinBox->setEnabled(state == Qt::Checked);
+}
+
+void Settings::WarningTempStateChanged(int state)
+{
+    setAlarmEnabled(state == Qt::Checked);
+}
+
+void Settings::OnSelectLogPath()
+{
+    const QString file = QFileDialog::getSaveFileName(this, tr("Save log file"),
+                                                      QStringLiteral("Logfile.txt"), QStringLiteral("*.txt"));
+    if (!file.isEmpty())
+        PathlineEdit->setText(file);
+}
+
+void Settings::ChangeWarningTemperature()
+{
+    const int unit = degreeComboBox->currentIndex();
+    WarningSpinBox->setMinimum(0);
+    ShutDownSpinBox->setMinimum(0);
+    if (unit != settings::Celsius && unit != settings::Fahrenheit)
+        return;
+    const settings::AlarmLimits limits = settings::limitsForUnit(
+        static_cast<settings::TemperatureUnit>(unit), WarningSpinBox->value(), ShutDownSpinBox->value());
+    setThresholds(limits.warning, limits.shutDown);
+    WarningSpinBox->setMinimum(limits.lowestWarning);
+    ShutDownSpinBox->setMinimum(limits.lowestShutDown);
+    const QString suffix =
+        QStringLiteral(" °") + settings::unitText(static_cast<settings::TemperatureUnit>(unit));
+    WarningSpinBox->setSuffix(suffix);
+    ShutDownSpinBox->setSuffix(suffix);
+}
+
+void Settings::OnOpenSettingsHelp()
+{
+    links::openHelp(links::Topic::Settings);
+}
+
+void Settings::OnCheckUpdate()
+{
+    if (QCheckUpdate *check = checkForUpdates(this)) {
+        connect(check, &QCheckUpdate::NoUpdates, this, &Settings::OnNoUpdateAvailable);
+        check->hide();
+    }
+}
+
+void Settings::CheckUpdate()
+{
+    OnCheckUpdate();
+}
+
+void Settings::OnNoUpdateAvailable()
+{
+    ShowUpdateMessage(tr("Your Software has all latest updates installed."), 1);
+}
+
+void Settings::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        translateTexts();
+    QWidget::changeEvent(event);
+}

@@ -1,0 +1,88 @@
+#pragma once
+
+#include "state/GlobalApp.h"
+#include "ui/dialogs/DialogFrame.h"
+
+#include <QWidget>
+
+#include <array>
+
+#include "ui_Settings.h"
+
+class QAction;
+class QMenu;
+
+/// The settings window: temperature unit and alarm, log path, tray, language. A top-level window without a
+/// parent, made once and shown on demand; the main window stays live beside it. Nothing is stored before
+/// SaveToStore().
+class Settings : public QWidget, public Ui::m_pSettingswgt
+{
+    Q_OBJECT
+
+public:
+    Settings();
+
+    /// Shows the values that a first start begins with. Call once; afterwards only the unit changes.
+    void ApplyFirstRunDefaults();
+
+    /// Shows the stored values. Where nothing was stored yet it shows the defaults and marks the first start
+    /// as done.
+    void LoadFromStore();
+
+    /// Stores units, alarm, thresholds (as shown, in the shown unit) and log path.
+    void SaveToStore();
+
+    /// By LanguageType. All eleven are there, also those that the menu leaves out.
+    std::array<QAction *, LanguageCount> m_apLanguageActions{};
+    QPushButton *m_pUpdateButton = nullptr;
+    QPushButton *m_pHelpButton = nullptr;
+    QPushButton *m_pLanguageButton = nullptr;
+
+public slots:
+    void CloseWindow();
+    void OnLogEventStateChanged(int state);
+    void SizeLimittStateChanged(int state);
+    void WarningTempStateChanged(int state);
+    void OnSelectLogPath();
+    /// Adapts the two thresholds and their lowest values to the unit chosen.
+    void ChangeWarningTemperature();
+    void OnCheckUpdate();
+    /// Opens the help on the settings.
+    void OnOpenSettingsHelp();
+    void CheckUpdate();
+    void OnNoUpdateAvailable();
+    /// \name One door for each language, in the order of LanguageType
+    /// @{
+    void OnChangeEnglishLanguage();
+    void OnChangeGermanLanguage();
+    void OnChangeFrenchLanguage();
+    void OnChangeItalianLanguage();
+    void OnChangeSpanishLanguage();
+    void OnChangeJapneaseLanguage();
+    void OnChangeChineaseLanguage();
+    void OnChangeKoreanLanguage();
+    void OnChangeDutchLanguage();
+    void OnChangeBrazilLanguage();
+    void OnChangeHindiLanguage();
+    /// @}
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    void addHeaderButtons();
+    /// Fills the language button's menu with the languages on offer and checks the current one.
+    void BuildLanguageMenu();
+    void changeLanguage(int type);
+    void checkCurrentLanguage();
+    void fillFields();
+    void styleFields();
+    void connectFields();
+    void translateTexts();
+    void widenUnitCombo();
+    void setAlarmEnabled(bool enabled);
+    void setThresholds(int warning, int shutDown);
+
+    DialogFrame m_Frame;
+    QMenu *m_pLanguageMenu;
+};

@@ -1,0 +1,244 @@
+#include "ui/screens/SmartStatus.h"
+
+#include "smart/AttributeColumns.h"
+#include "smart/AttributeRows.h"
+#include "smart/Rating.h"
+#include "smart/SmartGlobals.h"
+#include "smart/Temperature.h"
+#include "state/GlobalApp.h"
+#include "state/Globals.h"
+#include "ui/screens/PageLook.h"
+#include "ui/widgets/SmartChartView.h"
+#include "ui/widgets/Style.h"
+
+#include <QEvent>
+#include <QHeaderView>
+#include <QStyledItemDelegate>
+#include <QTreeWidget>
+
+namespace
+{
+
+const QString BlueGreyLabel = QStringLiteral("QLabel {color : #64778b;}");
+
+/// An empty label that keeps rows apart.
+QLabel *newSpacer(QWidget *parent)
+{
+    auto *spacer = new QLabel(parent);
+    spacer->setFixedHeight(style::px(2));
+    return spacer;
+}
+
+/// Keeps a cell's own colour where its row is selected.
+class CellDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->palette.setBrush(QPalette::HighlightedText, option->palette.brush(QPalette::Text));
+    }
+};
+
+/// One cell after the other, up to and with the hidden key.
+void fillItem(QTreeWidgetItem *item, const AttributeRow &row)
+{
+    int column = 0;
+    for (const QString &text : row.cells) {
+        item->setText(column, text);
+        item->setToolTip(column, style::wholeTip(text));
+        item->setTextAlignment(column, Qt::AlignLeft | Qt::AlignVCenter);
+        item->setForeground(column, QBrush(column == row.redCell ? QColor(255, 0, 0) : QColor(0, 0, 0)));
+        item->setSizeHint(column, QSize(style::px(12), style::px(20)));
+        ++column;
+    }
+}
+
+} // namespace
+
+SmartStatus::SmartStatus(QWidget *parent) : QWidget(parent)
+{
+    setupUi(this);
+    pagelook::makePage(this);
+    pagelook::styleHeadings({TreeStringLbl, GraphLabel});
+    SmartResultLabel->setFont(style::font(13));
+    for (QLabel *name : {SerialNumberLbl, InterfaceLbl, CapacityLbl}) {
+        name->setFont(style::semiBold(10));
+        name->setStyleSheet(BlueGreyLabel);
+    }
+    for (QLabel *value : {SerialNunValueLbl, InterfaceValLbl, CapcityValLbl}) {
+        value->setFont(style::font(10));
+        value->setStyleSheet(BlueGreyLabel);
+    }
+    makeTree();
+    makeHeading();
+    layOutPage();
+    setFixedTexts();
+    FormatSmartTable();
+}
+
+void SmartStatus::makeTree()
+{
+    m_pAttributeTree = new QTreeWidget(DitaledFrame);
+    m_pAttributeTree->setObjectName(QStringLiteral("m_pAttributeTree"));
+    m_pAttributeTree->setAlternatingRowColors(true);
+    m_pAttributeTree->setRootIsDecorated(false);
+    m_pAttributeTree->setFixedHeight(style::px(126));
+    m_pAttributeTree->setFocusPolicy(Qt::NoFocus);
+    m_pAttributeTree->setFrameShape(QFrame::NoFrame);
+    m_pAttributeTree->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_pAttributeTree->setFont(style::font(10));
+    m_pAttributeTree->setIconSize(QSize(style::px(12), style::px(12)));
+    m_pAttributeTree->setItemDelegate(new CellDelegate(m_pAttributeTree));
+    m_pAttributeTree->setColumnCount(attributecolumns::Count);
+    m_pAttributeTree->setStyleSheet(QStringLiteral(".QTreeWidget{ border: 1px solid #e0d0e0;}"));
+    pagelook::styleVerticalScrollBar(m_pAttributeTree);
+
+    QPalette palette = m_pAttributeTree->palette();
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::AlternateBase, QColor(0xf5, 0xf5, 0xf5));
+    palette.setColor(QPalette::Highlight, QColor(0xe4, 0xf0, 0xfd));
+    palette.setColor(QPalette::HighlightedText, Qt::black);
+    m_pAttributeTree->setPalette(palette);
+}
+
+void SmartStatus::makeHeading()
+{
+    m_pHeadingLabel = new QLabel(ImageLabel);
+    m_pHeadingLabel->setObjectName(QStringLiteral("m_pHeadingLabel"));
+    m_pHeadingLabel->setFixedHeight(style::px(20));
+    m_pHeadingResultLabel = new QLabel(ImageLabel);
+    m_pHeadingResultLabel->setObjectName(QStringLiteral("m_pHeadingResultLabel"));
+    m_pHeadingResultLabel->setFixedHeight(style::px(28));
+    HeadingGrid->addWidget(m_pHeadingLabel, 0, 0, 1, 2);
+    HeadingGrid->addWidget(m_pHeadingResultLabel, 1, 0, 1, 2);
+}
+
+void SmartStatus::layOutPage()
+{
+    SmartResultLabel->setFixedHeight(static_cast<int>(23.5F * g_App.m_fScale));
+    AttributeColumn->setSpacing(5);
+    AttributeColumn->insertWidget(0, newSpacer(DitaledFrame));
+    AttributeColumn->insertWidget(1, m_pAttributeTree);
+    AttributeColumn->insertWidget(2, newSpacer(DitaledFrame));
+    m_pChartView = new SmartChartView(DitaledFrame);
+    AttributeColumn->addWidget(m_pChartView);
+}
+
+void SmartStatus::setFixedTexts()
+{
+    TreeStringLbl->setText(tr("SMART Status : "));
+    SerialNumberLbl->setText(tr("Serial Number"));
+    CapacityLbl->setText(tr("Capacity"));
+    InterfaceLbl->setText(tr("Interface Type"));
+    SaveReportButton->setText(tr("Save Report"));
+    m_pHeadingLabel->setText(tr("Smart Status"));
+}
+
+void SmartStatus::FormatSmartTable()
+{
+    const bool nvme = g_App.m_bNVMe;
+    QTreeWidgetItem *header = m_pAttributeTree->headerItem();
+    int index = 0;
+    for (const attributecolumns::Column &column : attributecolumns::columns(nvme)) {
+        if (column.header) {
+            const QString text = tr(column.header);
+            header->setText(index, text);
+            header->setToolTip(index, style::wholeTip(text.trimmed()));
+        }
+        const int width = attributecolumns::width(column, nvme, g_App.m_fScale);
+        if (width > 0)
+            m_pAttributeTree->setColumnWidth(index, width);
+        m_pAttributeTree->setColumnHidden(index, column.hidden);
+        ++index;
+    }
+
+    QHeaderView *view = m_pAttributeTree->header();
+    view->setFont(style::font(10));
+    view->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    view->setFixedHeight(style::px(28));
+    view->setSectionsMovable(false);
+    // The unscaled ID column of NVMe disks has room for its blanks and the two letters, but not for an
+    // ellipsis.
+    view->setTextElideMode(nvme ? Qt::ElideNone : Qt::ElideRight);
+    QString sheet = QStringLiteral("QHeaderView::section{color : #000000}");
+    const int pixels =
+        attributecolumns::headerFontPixels(g_App.m_fScale, g_App.m_bItalian || g_App.m_bKorean);
+    if (pixels > 0)
+        sheet += QStringLiteral("QHeaderView{font-size : %1px}").arg(pixels);
+    // The padding is the margin that the cells below leave.
+    sheet += QStringLiteral("QHeaderView{background : #f8fafc}"
+                            "QHeaderView::section{background : #f8fafc; border : none; "
+                            "border-bottom : 1px solid #e0d0e0; padding-left : 3px; padding-right : 0px}");
+    view->setStyleSheet(sheet);
+}
+
+std::vector<AttributeRow> SmartStatus::CurrentRows()
+{
+    return g_App.m_bNVMe ? nvmeRows(g_pNvmeAttributeHead) : ataRows(g_pSmartAttributeHead);
+}
+
+void SmartStatus::ShowRows(const std::vector<AttributeRow> &rows)
+{
+    FormatSmartTable();
+    m_pAttributeTree->clear();
+    for (const AttributeRow &row : rows)
+        fillItem(new QTreeWidgetItem(m_pAttributeTree), row);
+    m_pAttributeTree->scrollToTop();
+    m_pAttributeTree->setCurrentItem(m_pAttributeTree->topLevelItem(0));
+}
+
+void SmartStatus::ClearDisk()
+{
+    m_pAttributeTree->clear();
+    m_pChartView->Clear();
+    for (QLabel *label : {GraphLabel, SmartResultLabel, m_pHeadingResultLabel, SerialNunValueLbl,
+                          InterfaceValLbl, CapcityValLbl})
+        label->clear();
+}
+
+void SmartStatus::RetranslateSmartTable()
+{
+    // None are there while a disk is being read.
+    if (m_pAttributeTree->topLevelItemCount() > 0)
+        ShowRows(CurrentRows());
+}
+
+void SmartStatus::showOverallResult()
+{
+    if (g_bReportPending)
+        return;
+    const bool passed = g_bSmartAvailable && g_driveVerdict != DriveVerdict::Failed;
+    pagelook::showResult(SmartResultLabel, passed
+                                               ? OverallResult::Passed
+                                               : overallResult(false, GetDiskTemperature(), g_driveVerdict));
+    m_pHeadingResultLabel->setText(passed ? tr("PASSED") : tr("FAIELD"));
+    GraphLabel->setText(g_bSmartAvailable ? tr("Graph") : QString());
+}
+
+void SmartStatus::showSelectedDisk()
+{
+    const DiskNode *node = findPhysicalDisk(PhysicalDriveBase + g_nCurrentDiskIndex);
+    if (!node)
+        return;
+    CapcityValLbl->setText(node->szSize.text());
+    const WmicDiskRecord *record = findWmicDisk(node->nId);
+    const bool named = record && !record->szInterface.isEmpty();
+    InterfaceValLbl->setText(named ? record->szInterface.text() : tr("ATA Disk"));
+}
+
+void SmartStatus::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        retranslateUi(this);
+        setFixedTexts();
+        showOverallResult();
+        RetranslateSmartTable();
+        showSelectedDisk();
+        FormatSmartTable();
+    }
+    QWidget::changeEvent(event);
+}

@@ -1,0 +1,163 @@
+#include "ui/widgets/DonutChartView.h"
+
+#include "state/Globals.h"
+#include "ui/widgets/Style.h"
+
+#include <QPainter>
+#include <QPixmap>
+#include <QTimerEvent>
+
+#include <algorithm>
+
+namespace
+{
+
+constexpr int Offset = 10; ///< of the ring, from the left edge of its half
+
+const QColor EmptyColour(188, 188, 188);
+
+void fillColours()
+{
+    g_listSliceColours = {QColor(29, 207, 250), QColor(0, 140, 249),   QColor(16, 164, 193),
+                          QColor(51, 181, 229), QColor(170, 102, 204), QColor(153, 204, 0),
+                          QColor(255, 187, 51), QColor(255, 68, 68),   QColor(0, 153, 204),
+                          QColor(153, 51, 204), QColor(102, 153, 0),   QColor(255, 136, 0),
+                          QColor(204, 0, 0)};
+}
+
+/// A square of `side` in the middle of `size`, halves cut off.
+QRect centred(const QSize &size, int side)
+{
+    return QRect((size.width() - side) / 2, (size.height() - side) / 2, side, side);
+}
+
+QSize halfOf(const QWidget *widget)
+{
+    return QSize(widget->width() / 2, widget->height());
+}
+
+} // namespace
+
+DonutChartView::DonutChartView(DonutSeries *series, DonutLegend *legend, QWidget *parent)
+    : QWidget(parent), m_pSeries(series), m_pLegend(legend)
+{
+}
+
+DonutChartView::~DonutChartView()
+{
+    delete m_pImage;
+}
+
+bool DonutChartView::hasSlices() const
+{
+    return m_pSeries && !m_pSeries->listSlices.isEmpty();
+}
+
+QVariantList DonutChartView::sliceValues() const
+{
+    QVariantList values;
+    if (m_pSeries) {
+        for (const DonutSlice *slice : qAsConst(m_pSeries->listSlices))
+            values.append(slice->dValue);
+    }
+    return values;
+}
+
+void DonutChartView::Redraw()
+{
+    m_listRegions.clear();
+    delete m_pImage;
+    m_pImage = new QImage(size(), QImage::Format_ARGB32);
+    m_pImage->fill(Qt::white);
+    if (!hasSlices() || halfOf(this).isEmpty())
+        return;
+    QPainter painter(m_pImage);
+    painter.save();
+    drawRing(&painter);
+    painter.restore();
+}
+
+void DonutChartView::drawRing(QPainter *target)
+{
+    const bool right = m_pLegend && m_pLegend->nStyleC == 0;
+    QPixmap pixmap(halfOf(this));
+    pixmap.fill(Qt::white);
+    const int side = std::min(pixmap.width(), pixmap.height());
+    const QRect hole = centred(pixmap.size(), side / 2);
+    {
+        QPainter painter(&pixmap);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(Qt::transparent));
+        drawSlices(&painter, centred(pixmap.size(), side), hole);
+        painter.setBrush(Qt::white);
+        painter.drawEllipse(hole);
+    }
+    target->drawPixmap(right ? width() / 2 + Offset : Offset, 0, pixmap);
+}
+
+void DonutChartView::drawSlices(QPainter *painter, const QRect &outer, const QRect &hole)
+{
+    fillColours();
+    QPainterPath holePath;
+    holePath.addEllipse(hole);
+    const int inset = m_pSeries->nSliceInset;
+    int sixteenths = 0;
+    int degrees = 0;
+    for (int i = 0; i < m_pSeries->listSlices.size(); ++i) {
+        const double value = m_pSeries->listSlices.at(i)->dValue;
+        if (m_pSeries->bColourSlices)
+            painter->setBrush(g_bNoPartitions ? EmptyColour
+                                              : g_listSliceColours.at(i % g_listSliceColours.size()));
+        const QRect rect = i == m_nExplodedSlice ? outer : outer.adjusted(inset, inset, -inset, -inset);
+        const int spanSixteenths = m_pSeries->SpanSixteenths(value);
+        const int spanDegrees = m_pSeries->SpanDegrees(value);
+        painter->drawPie(rect, sixteenths, spanSixteenths);
+
+        QPainterPath path;
+        path.moveTo(width(), height() / 2);
+        path.arcTo(rect, degrees, spanDegrees);
+        path.closeSubpath();
+        m_listRegions.append(path.subtracted(holePath));
+        sixteenths += spanSixteenths;
+        degrees += spanDegrees;
+    }
+}
+
+void DonutChartView::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    Redraw();
+}
+
+void DonutChartView::paintEvent(QPaintEvent *event)
+{
+    const QSize half = halfOf(this);
+    const QRect rect = centred(half, std::min(half.width(), half.height())).translated(Offset, 0);
+    QWidget::paintEvent(event);
+    if (!hasSlices())
+        return;
+    {
+        QPainter painter(this);
+        if (m_pImage)
+            painter.drawImage(0, 0, *m_pImage);
+        painter.setFont(style::font(8));
+        painter.setPen(QColor(47, 47, 47));
+        // Without a disk there is nothing to name.
+        if (g_nCurrentDiskIndex >= 0)
+            painter.drawText(rect, Qt::AlignCenter, tr("Disk ") + QString::number(g_nCurrentDiskIndex));
+    }
+    // While it shows it is painted anew without end, but no faster than a display shows: at the event loop's
+    // own pace this took half a core. A hidden widget takes no notice of it by itself, one in a minimised
+    // window might.
+    constexpr int FrameMilliseconds = 16;
+    if (!window()->isMinimized() && !m_nextPaint.isActive())
+        m_nextPaint.start(FrameMilliseconds, this);
+}
+
+void DonutChartView::timerEvent(QTimerEvent *event)
+{
+    if (event->timerId() != m_nextPaint.timerId())
+        return;
+    m_nextPaint.stop();
+    update();
+}

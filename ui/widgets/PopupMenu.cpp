@@ -1,0 +1,20 @@
+#include "ui/widgets/PopupMenu.h"
+
+#include "state/GlobalApp.h"
+#include "ui/widgets/Style.h"
+
+#include <QShowEvent>
+
+PopupMenu::PopupMenu(bool alignRight, QWidget *parent) : QMenu(parent), m_bAlignRight(alignRight) {}
+
+void PopupMenu::showEvent(QShowEvent *event)
+{
+    QMenu::showEvent(event);
+    const QWidget *main = parentWidget() ? parentWidget()->window() : nullptr;
+    if (!m_bAlignRight) {
+        style::placeWindow(this, QPoint(x(), y() + static_cast<int>(g_App.m_fScale * 12.0F)));
+    } else if (main && main->isVisible()) {
+        const QRect frame = main->geometry();
+        style::placeWindow(this, QPoint(frame.x() + frame.width() - width(), y()));
+    }
+}

@@ -1,0 +1,144 @@
+#include "ui/widgets/QGridView.h"
+
+#include "scan/BlockMap.h"
+#include "scan/ScanGlobals.h"
+#include "state/GlobalApp.h"
+#include "state/Globals.h"
+#include "ui/widgets/Style.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QTimerEvent>
+#include <QToolTip>
+
+namespace
+{
+
+QColor colourOf(blockmap::Cell cell)
+{
+    switch (cell) {
+    case blockmap::Cell::Processed:
+        return QColor::fromRgba(blockmap::ProcessedColour);
+    case blockmap::Cell::Working:
+        return QColor::fromRgba(blockmap::WorkingColour);
+    case blockmap::Cell::Bad:
+        return QColor::fromRgba(blockmap::BadColour);
+    case blockmap::Cell::Empty:
+        break;
+    }
+    return QColor::fromRgba(blockmap::BackgroundColour);
+}
+
+} // namespace
+
+QGridView::QGridView(QWidget *parent) : QWidget(parent, Qt::FramelessWindowHint), m_nSizeHint(style::px(50))
+{
+    setAttribute(Qt::WA_MouseTracking);
+    setAutoFillBackground(true);
+    QPalette colours = palette();
+    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Window, QPalette::Base})
+        colours.setColor(role, QColor::fromRgba(blockmap::BackgroundColour));
+    setPalette(colours);
+}
+
+void QGridView::Reset()
+{
+    m_i64Position = 0;
+    update();
+}
+
+void QGridView::SetHint(int size)
+{
+    if (g_bAbortJob)
+        return;
+    m_nSizeHint = size;
+    updateGeometry();
+}
+
+void QGridView::SetRange(qlonglong start, qlonglong end)
+{
+    m_i64Start = start;
+    m_i64End = end;
+}
+
+qlonglong QGridView::totalSectors() const
+{
+    return g_nMapTotalSectors;
+}
+
+QVariantList QGridView::badSectors() const
+{
+    QVariantList sectors;
+    g_BadSectors.forEachRun([&sectors](qint64 first, qint64 count) {
+        const qint64 room = qMin<qint64>(count, MostBadSectors - sectors.size());
+        for (qint64 i = 0; i < room; ++i)
+            sectors.append(first + i);
+    });
+    return sectors;
+}
+
+QSize QGridView::sizeHint() const
+{
+    return QSize(m_nSizeHint, m_nSizeHint);
+}
+
+void QGridView::mouseMoveEvent(QMouseEvent *event)
+{
+    const QString text =
+        blockmap::toolTip(blockmap::metrics(g_App.m_fScale), mapFromGlobal(event->globalPos()), m_i64Start,
+                          m_i64End, g_nBlockStep);
+    if (text.isEmpty())
+        QToolTip::hideText();
+    else
+        QToolTip::showText(event->globalPos(), text, this);
+}
+
+void QGridView::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    drawCells(&painter);
+    drawGrid(&painter);
+    // While it shows it is painted anew without end, no faster than a display shows, and not in a minimised
+    // window.
+    constexpr int FrameMilliseconds = 16;
+    if (!window()->isMinimized() && !m_nextPaint.isActive())
+        m_nextPaint.start(FrameMilliseconds, this);
+}
+
+void QGridView::timerEvent(QTimerEvent *event)
+{
+    if (event->timerId() != m_nextPaint.timerId())
+        return;
+    m_nextPaint.stop();
+    update();
+}
+
+void QGridView::drawCells(QPainter *painter) const
+{
+    const blockmap::Metrics sizes = blockmap::metrics(g_App.m_fScale);
+    const QVector<blockmap::Cell> cells =
+        blockmap::cells(sizes, g_nMapTotalSectors, m_i64Position, g_BadSectors);
+    const int columns = sizes.columns();
+    for (int first = 0; first < cells.size();) {
+        // Neighbours of one colour in a row are one rectangle.
+        int end = first + 1;
+        while (end < cells.size() && end % columns != 0 && cells.at(end) == cells.at(first))
+            ++end;
+        if (cells.at(first) != blockmap::Cell::Empty)
+            painter->fillRect(first % columns * sizes.cell, first / columns * sizes.cell,
+                              (end - first) * sizes.cell, sizes.cell, colourOf(cells.at(first)));
+        first = end;
+    }
+}
+
+void QGridView::drawGrid(QPainter *painter) const
+{
+    const blockmap::Metrics sizes = blockmap::metrics(g_App.m_fScale);
+    painter->setPen(QPen(QColor::fromRgba(blockmap::GridColour), 1));
+    for (int x = 0; x <= sizes.width; x += sizes.cell)
+        painter->drawLine(x, 0, x, sizes.height);
+    // Those below the map are cut by the widget.
+    for (int y = 0; y <= sizes.width; y += sizes.cell)
+        painter->drawLine(0, y, sizes.width, y);
+    painter->drawRect(0, 0, sizes.width, sizes.height);
+}

@@ -1,0 +1,258 @@
+#include "ui/widgets/SmartChartView.h"
+
+#include "ui/widgets/Style.h"
+
+#include <QPainter>
+#include <QPen>
+#include <QtCharts/QBarCategoryAxis>
+#include <QtCharts/QCategoryAxis>
+#include <QtCharts/QLineSeries>
+#include <QtCharts/QValueAxis>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <memory>
+
+using namespace QtCharts;
+
+SmartChartView *g_pSmartChartView = nullptr;
+
+namespace
+{
+
+const QColor LineColour(0x2a, 0x81, 0xe5);
+const QColor GridColour(0xe9, 0xec, 0xef);
+constexpr int RingRadius = 3;
+constexpr int LabelGap = 4;
+constexpr int DenseSteps = 5;
+constexpr int RoomyTicks = 10; ///< the most whose labels the library writes out at this height
+
+QPen dashedPen()
+{
+    return QPen(QBrush(Qt::gray, Qt::SolidPattern), 1, Qt::DashLine);
+}
+
+QPen solidPen()
+{
+    return QPen(QBrush(LineColour), style::px(2), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+}
+
+void dressAxis(QAbstractAxis *axis)
+{
+    axis->setLabelsColor(Qt::black);
+    axis->setLabelsFont(style::font(10));
+    axis->setLinePenColor(GridColour);
+    axis->setGridLinePen(QPen(GridColour, 1));
+}
+
+/// Whole numbers. The library takes those of a plain "%i" for 32 bits wide.
+QString numberFormat(double low, double high)
+{
+    return std::max(std::abs(low), std::abs(high)) > std::numeric_limits<qint32>::max()
+               ? QStringLiteral("%lli")
+               : QStringLiteral("%i");
+}
+
+std::unique_ptr<QChart> newChart()
+{
+    auto chart = std::make_unique<QChart>();
+    chart->legend()->hide();
+    chart->setBackgroundBrush(Qt::white);
+    chart->setBackgroundRoundness(0);
+    chart->setMargins(QMargins(style::px(10), 0, style::px(13), style::px(25)));
+    return chart;
+}
+
+QLineSeries *addSeries(QChart *chart, const GraphSeries &source)
+{
+    auto *series = new QLineSeries;
+    for (const GraphPoint &point : source.points)
+        series->append(point.x, point.y);
+    chart->addSeries(series);
+    series->setPen(source.dashed ? dashedPen() : solidPen());
+    series->setPointsVisible(source.pointsVisible);
+    return series;
+}
+
+QValueAxis *addHiddenAxis(QChart *chart, const GraphModel &model)
+{
+    auto *axis = new QValueAxis;
+    axis->setLabelFormat(numberFormat(model.xMin, model.xMax));
+    axis->setRange(model.xMin, model.xMax);
+    axis->setTickCount(model.xTicks);
+    chart->addAxis(axis, Qt::AlignBottom);
+    axis->hide();
+    return axis;
+}
+
+/// Numbers as texts, for those that the library cannot tell apart.
+QValueAxis *addNamedAxis(QChart *chart, const GraphModel &model)
+{
+    auto *axis = new QCategoryAxis;
+    axis->setLabelsPosition(QCategoryAxis::AxisLabelsPositionOnValue);
+    axis->setStartValue(model.yMin);
+    const double steps = static_cast<double>(model.yLabels.size() - 1);
+    double number = 0;
+    for (const QString &label : model.yLabels)
+        axis->append(label, model.yMin + (model.yMax - model.yMin) * number++ / steps);
+    axis->setRange(model.yMin, model.yMax);
+    dressAxis(axis);
+    chart->addAxis(axis, Qt::AlignLeft);
+    return axis;
+}
+
+QValueAxis *addValueAxis(QChart *chart, const GraphModel &model)
+{
+    if (!model.yLabels.empty())
+        return addNamedAxis(chart, model);
+    auto *axis = new QValueAxis;
+    axis->setLabelFormat(numberFormat(model.yMin, model.yMax));
+    axis->setRange(model.yMin, model.yMax);
+    if (model.yTicks > 0)
+        axis->setTickCount(model.yTicks);
+    dressAxis(axis);
+    if (axis->tickCount() > RoomyTicks) {
+        // The library would cut each label down to dots; unseen they keep the room for those of drawScale().
+        axis->setLabelsColor(Qt::transparent);
+        axis->setGridLineVisible(false);
+        axis->setLineVisible(false);
+    }
+    chart->addAxis(axis, Qt::AlignLeft);
+    return axis;
+}
+
+/// The labels, each one once: the axis drops what it has already, and days of different years look alike.
+QStringList distinctLabels(const std::vector<QString> &labels)
+{
+    QStringList distinct;
+    for (QString label : labels) {
+        while (distinct.contains(label))
+            label += QLatin1Char(' ');
+        distinct.append(label);
+    }
+    return distinct;
+}
+
+void addCross(QChart *chart, const GraphModel &model, QValueAxis *values)
+{
+    QAbstractAxis *across = addHiddenAxis(chart, model);
+    auto *day = new QCategoryAxis;
+    for (const QString &label : model.labels)
+        day->append(label, model.labelEnd);
+    dressAxis(day);
+    day->setGridLineVisible(false);
+    chart->addAxis(day, Qt::AlignBottom);
+    for (const GraphSeries &each : model.series) {
+        QLineSeries *series = addSeries(chart, each);
+        series->attachAxis(across);
+        series->attachAxis(values);
+        if (series == chart->series().constFirst())
+            series->attachAxis(day);
+    }
+}
+
+QLineSeries *addLine(QChart *chart, const GraphModel &model, QValueAxis *values)
+{
+    QLineSeries *line = addSeries(chart, model.series.front());
+    line->attachAxis(values);
+    // The labels hang on a series of their own: each stands for a tenth of the line, which is as long as
+    // there are days and fills the width.
+    auto *labelled = new QLineSeries;
+    chart->addSeries(labelled);
+    auto *days = new QBarCategoryAxis;
+    days->append(distinctLabels(model.labels));
+    dressAxis(days);
+    days->setGridLineVisible(false);
+    chart->addAxis(days, Qt::AlignBottom);
+    labelled->attachAxis(days);
+    addHiddenAxis(chart, model);
+    return line;
+}
+
+} // namespace
+
+SmartChartView::SmartChartView(QWidget *parent) : QChartView(parent)
+{
+    setObjectName(QStringLiteral("g_pSmartChartView"));
+    setFixedSize(style::px(700), style::px(220));
+    setFrameShape(QFrame::NoFrame);
+    setBackgroundBrush(Qt::white);
+    setRenderHint(QPainter::Antialiasing);
+    chart()->setBackgroundVisible(false);
+    g_pSmartChartView = this;
+}
+
+SmartChartView::~SmartChartView()
+{
+    if (g_pSmartChartView == this)
+        g_pSmartChartView = nullptr;
+}
+
+void SmartChartView::ShowGraph(const GraphModel &model)
+{
+    auto fresh = newChart();
+    QValueAxis *values = addValueAxis(fresh.get(), model);
+    m_pLine = nullptr;
+    if (model.singleDay)
+        addCross(fresh.get(), model, values);
+    else
+        m_pLine = addLine(fresh.get(), model, values);
+    m_pDenseAxis = values->tickCount() > RoomyTicks ? values : nullptr;
+    const std::unique_ptr<QChart> previous(chart());
+    setChart(fresh.release());
+}
+
+void SmartChartView::Clear()
+{
+    m_pLine = nullptr;
+    m_pDenseAxis = nullptr;
+    const std::unique_ptr<QChart> previous(chart());
+    setChart(newChart().release());
+}
+
+void SmartChartView::drawForeground(QPainter *painter, const QRectF &rect)
+{
+    QChartView::drawForeground(painter, rect);
+    painter->save();
+    if (m_pDenseAxis)
+        drawScale(painter, *m_pDenseAxis);
+    if (m_pLine)
+        drawLine(painter, *m_pLine);
+    painter->restore();
+}
+
+void SmartChartView::drawScale(QPainter *painter, const QValueAxis &axis) const
+{
+    const QRectF plot = chart()->mapRectToScene(chart()->plotArea());
+    painter->setFont(axis.labelsFont());
+    const double lineHeight = painter->fontMetrics().height();
+    for (int i = 0; i <= DenseSteps; ++i) {
+        const double y = plot.bottom() - plot.height() * i / DenseSteps;
+        const double value = axis.min() + (axis.max() - axis.min()) * i / DenseSteps;
+        const QRectF place(0, y - lineHeight, plot.left() - style::px(LabelGap), 2 * lineHeight);
+        painter->setPen(GridColour);
+        painter->drawLine(QPointF(plot.left(), y), QPointF(plot.right(), y));
+        painter->setPen(Qt::black);
+        painter->drawText(place, Qt::AlignRight | Qt::AlignVCenter | Qt::TextDontClip,
+                          QString::number(static_cast<qint64>(value)));
+    }
+}
+
+void SmartChartView::drawLine(QPainter *painter, const QLineSeries &line) const
+{
+    // Once more, and its points as rings: the chart cuts a line along the plot's edge in half.
+    QPolygonF places;
+    const QVector<QPointF> points = line.pointsVector();
+    for (const QPointF &point : points)
+        places.append(chart()->mapToScene(chart()->mapToPosition(point)));
+    const double radius = style::px(RingRadius);
+    const double reach = 2 * radius;
+    painter->setClipRect(chart()->mapRectToScene(chart()->plotArea()).adjusted(-reach, -reach, reach, reach));
+    painter->setPen(solidPen());
+    painter->setBrush(Qt::NoBrush);
+    painter->drawPolyline(places);
+    painter->setBrush(Qt::white);
+    for (const QPointF &place : qAsConst(places))
+        painter->drawEllipse(place, radius, radius);
+}

@@ -1,0 +1,194 @@
+#include "ui/widgets/Style.h"
+
+#include "state/GlobalApp.h"
+#include "state/Scale.h"
+
+#include <QGuiApplication>
+#include <QLabel>
+#include <QPalette>
+#include <QPushButton>
+#include <QScreen>
+#include <QTextDocument>
+#include <QWidget>
+
+#include <algorithm>
+
+namespace style
+{
+
+const QString BlackLabel = QStringLiteral("QLabel {color : #000000;}");
+const QString GreyLabel = QStringLiteral("QLabel {color : #474747;}");
+const QString PassedLabel = QStringLiteral("QLabel {color : #32CD32;}");
+const QString FailedLabel = QStringLiteral("QLabel {color : #FF0000;}");
+
+namespace
+{
+
+QFont makeFont(const QString &family, int points, bool italic)
+{
+    QFont font(family, points);
+    font.setItalic(italic);
+    return font;
+}
+
+/// Path of a decoration for a style sheet; the nearest set where the scale has none of its own.
+QString decoration(const QString &file)
+{
+    const QString path = scale::imagePath(file, g_App.m_fScale);
+    return path.isEmpty() ? QStringLiteral(":/images/") + file : path;
+}
+
+} // namespace
+
+QFont font(int points, bool italic)
+{
+    return makeFont(QStringLiteral("Segoe UI"), points, italic);
+}
+
+QFont semiBold(int points, bool italic)
+{
+    return makeFont(QStringLiteral("Segoe UI SemiBold"), points, italic);
+}
+
+int px(int size)
+{
+    return scale::scaled(size, g_App.m_fScale);
+}
+
+void setWhiteBackground(QWidget *widget)
+{
+    QPalette palette = widget->palette();
+    palette.setBrush(QPalette::Window, Qt::white);
+    widget->setPalette(palette);
+    widget->setAutoFillBackground(true);
+}
+
+void scaleWidget(QWidget *widget)
+{
+    const QRect design = widget->geometry();
+    widget->setFixedSize(px(design.width()), px(design.height()));
+    widget->move(px(design.x()), px(design.y()));
+}
+
+QRect availableArea(const QPoint &place)
+{
+    const auto distance = [&place](const QScreen *screen) {
+        const QRect area = screen->geometry();
+        const QPoint nearest(qBound(area.left(), place.x(), area.right()),
+                             qBound(area.top(), place.y(), area.bottom()));
+        return (nearest - place).manhattanLength();
+    };
+    const QList<QScreen *> screens = QGuiApplication::screens();
+    const auto nearest =
+        std::min_element(screens.cbegin(), screens.cend(), [&](const QScreen *left, const QScreen *right) {
+            return distance(left) < distance(right);
+        });
+    return nearest == screens.cend() ? QRect() : (*nearest)->availableGeometry();
+}
+
+QPoint placeWithin(const QRect &window, const QRect &area)
+{
+    const int x = std::min(window.x(), area.x() + area.width() - window.width());
+    const int y = std::min(window.y(), area.y() + area.height() - window.height());
+    return QPoint(std::max(x, area.x()), std::max(y, area.y()));
+}
+
+void placeWindow(QWidget *window, const QPoint &place)
+{
+    const QRect wanted(place, window->size());
+    window->move(placeWithin(wanted, availableArea(wanted.center())));
+}
+
+void centreOn(QWidget *window, const QRect &rect)
+{
+    placeWindow(window, QPoint(rect.x() + (rect.width() - window->width()) / 2,
+                               rect.y() + (rect.height() - window->height()) / 2));
+}
+
+void showTextsAsData(QWidget *window)
+{
+    const auto labels = window->findChildren<QLabel *>();
+    for (QLabel *label : labels) {
+        if (label->textFormat() == Qt::AutoText)
+            label->setTextFormat(Qt::PlainText);
+    }
+}
+
+QString wholeTip(const QString &text)
+{
+    return Qt::mightBeRichText(text) ? text.toHtmlEscaped() : text;
+}
+
+void setWholeTip(QWidget *widget, const QString &text)
+{
+    const QString tip = wholeTip(text);
+    if (widget->toolTip() != tip)
+        widget->setToolTip(tip);
+}
+
+QString fieldSheet()
+{
+    // Lengths are spelt %1 for the border radius, %2 for the side padding, %3 for the arrow column.
+    static const char *const sheet =
+        "QComboBox{background: white; border: 1px solid #c9d2db; border-radius: %1px; padding: 0px %2px; "
+        "color: #000000;}"
+        "QComboBox:hover{border-color: #2a81e5;}"
+        "QComboBox:disabled{color: #9aa4ae; background: #f8f9fa;}"
+        "QComboBox::drop-down{border: none; width: %3px;}"
+        "QComboBox::down-arrow{image: url(%4);}"
+        "QComboBox QAbstractItemView{background: white; border: 1px solid #c9d2db; outline: none; "
+        "color: #000000; selection-background-color: #e4f0fd; selection-color: #2a81e5;}"
+        "QSpinBox, QLineEdit{background: white; border: 1px solid #c9d2db; border-radius: %1px; "
+        "padding: 0px %2px; color: #64778b;}"
+        "QSpinBox:disabled, QLineEdit:disabled{background: #f8f9fa; color: #b0b8c0;}"
+        "QSpinBox::up-button, QSpinBox::down-button{border: none; width: %3px; background: transparent;}"
+        "QSpinBox::up-arrow{image: url(%5);}QSpinBox::down-arrow{image: url(%6);}"
+        "QCheckBox, QRadioButton{color: #000000; spacing: %2px;}"
+        "QCheckBox::indicator:checked{image: url(%7);}QCheckBox::indicator:unchecked{image: url(%8);}"
+        "QRadioButton::indicator:checked{image: url(%9);}QRadioButton::indicator:unchecked{image: url(%10);}"
+        "QMenu{background: white; border: 1px solid #d7dde3; padding: %1px 0px;}"
+        "QMenu::item{padding: %1px %3px %1px %2px; color: #000000; background: transparent;}"
+        "QMenu::icon{padding-left: %2px;}"
+        "QMenu::item:selected{background: #e4f0fd; color: #2a81e5;}"
+        "QMenu::item:disabled{color: #9aa4ae;}"
+        "QMenu::separator{height: 1px; background: #e6eaee; margin: %1px 0px;}"
+        "QToolTip{background: white; color: #474747; border: 1px solid #c9d2db;}"
+        "QScrollBar:vertical{background: #f5f5f5; width: %11px; margin: 0px; border: none;}"
+        "QScrollBar::handle:vertical{background: #c9d2db; border-radius: %1px; min-height: %3px; margin: "
+        "1px;}"
+        "QScrollBar::handle:vertical:hover{background: #2a81e5;}"
+        "QScrollBar::add-line:vertical, QScrollBar::sub-line:vertical{height: 0px;}"
+        "QScrollBar::add-page:vertical, QScrollBar::sub-page:vertical{background: none;}";
+    return QString::fromLatin1(sheet)
+        .arg(px(4))
+        .arg(px(10))
+        .arg(px(28))
+        .arg(decoration(QStringLiteral("img_ComboArrow.png")))
+        .arg(decoration(QStringLiteral("img_SpinUp.png")))
+        .arg(decoration(QStringLiteral("img_SpinDown.png")))
+        .arg(decoration(QStringLiteral("img_CheckOn.png")))
+        .arg(decoration(QStringLiteral("img_CheckOff.png")))
+        .arg(decoration(QStringLiteral("img_RadioOn.png")))
+        .arg(decoration(QStringLiteral("img_RadioOff.png")))
+        .arg(px(10));
+}
+
+void styleButton(QPushButton *button, ButtonRole role)
+{
+    const bool main = role == ButtonRole::Main;
+    const QString colours =
+        main ? QStringLiteral("QPushButton{background: #2a81e5; color: #ffffff; border: 1px solid #2a81e5;}"
+                              "QPushButton:hover{background: #1f72d1;}"
+                              "QPushButton:pressed{background: #1a63b8;}"
+                              "QPushButton:disabled{background: #a9cbf3; border-color: #a9cbf3;}")
+             : QStringLiteral("QPushButton{background: #ffffff; color: #000000; border: 1px solid #c9d2db;}"
+                              "QPushButton:hover{border-color: #2a81e5; color: #2a81e5;}"
+                              "QPushButton:pressed{background: #e4f0fd;}"
+                              "QPushButton:disabled{color: #9aa4ae;}");
+    button->setStyleSheet(colours +
+                          QStringLiteral("QPushButton{border-radius: %1px; padding: 0px %1px;}").arg(px(4)));
+    button->setFont(font(10));
+    button->setCursor(Qt::PointingHandCursor);
+}
+
+} // namespace style

@@ -1,0 +1,161 @@
+#include "ui/window/MainWindow.h"
+
+#include "clone/CloneMessages.h"
+#include "platform/PlainText.h"
+#include "smart/SelfTestGlobals.h"
+#include "state/GlobalApp.h"
+#include "state/Globals.h"
+#include "ui/dialogs/CloneWarning.h"
+#include "ui/dialogs/ConfarmetionClass.h"
+#include "ui/dialogs/DestinitionWarning.h"
+#include "ui/screens/CloneDisk.h"
+#include "ui/screens/ScanDisk.h"
+#include "ui/widgets/MyButton.h"
+#include "ui/widgets/Style.h"
+
+#include <QApplication>
+#include <QTimer>
+
+#include <initializer_list>
+
+namespace
+{
+
+clonemessages::Side sideOf(const DiskNode &node)
+{
+    return {node.nId - PhysicalDriveBase, node.pDetails ? node.pDetails->nTotalSectors : 0};
+}
+
+} // namespace
+
+/// The two disks as they are chosen now.
+MainWindow::ClonePair MainWindow::chosenPair() const
+{
+    const QComboBox *source = m_pCloneDiskPage->SourceComboBox;
+    const QComboBox *target = m_pCloneDiskPage->DestinationComboBox;
+    return {source->currentData().toInt(), target->currentData().toInt(), source->currentText(),
+            target->currentText()};
+}
+
+void MainWindow::OnCloneStart()
+{
+    // A refresh that is under way takes back the choice of disks.
+    if (g_bListsLoading || m_pCloneDiskPage->IsCloning())
+        return;
+    selectButton(navigation::CloneDiskScreen);
+    m_askedPair = chosenPair();
+    m_pCloneWarning->SourceNameLbl->setText(tr("Source disk:     ") +
+                                            plaintext::isolated(m_askedPair.sourceText));
+    m_pCloneWarning->DestinationNameLbl->setText(tr("Destination disk:    ") +
+                                                 plaintext::isolated(m_askedPair.targetText));
+    style::centreOn(m_pCloneWarning, geometry());
+    if (m_pCloneDiskPage->m_nDestinationIndex > 0)
+        m_pCloneWarning->show();
+    else
+        askForTarget();
+}
+
+void MainWindow::askForTarget()
+{
+    m_pCloneWarning->hide();
+    // A new one, as the one from before may hold the texts of a running job.
+    delete m_pDestinitionWarning;
+    m_pDestinitionWarning = new DestinitionWarning(this);
+    connect(m_pDestinitionWarning->CloseButton, &QPushButton::clicked, this,
+            &MainWindow::OnCloseDestinitionWarning);
+    style::centreOn(m_pDestinitionWarning, geometry());
+    m_pDestinitionWarning->show();
+}
+
+void MainWindow::OnCloningCancel()
+{
+    m_pCloneWarning->hide();
+}
+
+void MainWindow::OnCloningStart()
+{
+    m_pCloneWarning->hide();
+    // The engine keeps hold of two nodes, and a scan that was stopped would take the cleared stop request for
+    // its own.
+    if (g_bListsLoading || m_pCloneDiskPage->IsCloning() || m_pScanDiskPage->IsScanning())
+        return;
+    // The question may have stayed open while another page was looked at.
+    if (!m_pCloneDiskPage->isVisible())
+        return;
+    setMenuEntriesEnabled(false);
+    LookUpDisk(m_pCloneDiskPage->SourceComboBox->currentIndex());
+    const int target = m_pCloneDiskPage->m_nDestinationDrive + PhysicalDriveBase;
+    g_App.m_pCloneDisk = findPhysicalDisk(target);
+    const bool known = g_App.m_pCurrentDisk && g_App.m_pCloneDisk;
+    if (const auto refusal =
+            known ? clonemessages::refusal(sideOf(*g_App.m_pCurrentDisk), sideOf(*g_App.m_pCloneDisk))
+                  : std::nullopt) {
+        refuseClone(*refusal);
+        return;
+    }
+    // What is erased is what was named in the question.
+    if (known && m_askedPair.target == target && chosenPair() == m_askedPair) {
+        startClone();
+        return;
+    }
+    setMenuEntriesEnabled(true);
+    OnCloneStart();
+    // The second half of a double click must not answer a question that nobody has read.
+    m_pCloneWarning->StartButton->setEnabled(false);
+    QTimer::singleShot(QApplication::doubleClickInterval(), m_pCloneWarning->StartButton,
+                       [this] { m_pCloneWarning->StartButton->setEnabled(true); });
+}
+
+void MainWindow::refuseClone(const clonemessages::Message &reason)
+{
+    setMenuEntriesEnabled(true);
+    m_pCloneDiskPage->ShowMessage(reason);
+}
+
+void MainWindow::startClone()
+{
+    g_bAbortJob = false;
+    for (QWidget *idle :
+         std::initializer_list<QWidget *>{ScanButton, ScreenshotButton, StopTestButton, CloneButton})
+        idle->hide();
+    StopButton->show();
+    DriveCombobox->setEnabled(false);
+    for (int i = 0; i < navigation::ScreenCount; ++i)
+        setNavigationEnabled(static_cast<Screen>(i), false);
+    selectButton(navigation::CloneDiskScreen);
+    m_pCloneDiskPage->StartClone();
+    keepAwake();
+}
+
+void MainWindow::OnCloningProcesFailed()
+{
+    DriveCombobox->setEnabled(true);
+}
+
+void MainWindow::OnCloningFinish()
+{
+    setMenuEntriesEnabled(true);
+    keepAwake();
+    // There is nothing left to be stopped.
+    m_pConfirmation->hide();
+    StopButton->hide();
+    ScanButton->setEnabled(true);
+    DriveCombobox->setEnabled(true);
+    enableNavigation();
+    const bool left = !m_pCloneDiskPage->isVisible();
+    CloneButton->setVisible(!left && !isDown(navigation::ScanDiskScreen));
+    // No disk was read for the screen that somebody went to meanwhile.
+    if (left)
+        RefreshSelectedDisk();
+}
+
+void MainWindow::OnFinishDiskCloning()
+{
+    StopButton->hide();
+    enableNavigation();
+    DriveCombobox->setEnabled(!g_bTestPending);
+    // Somebody who has left the page before the result was read stays where he is.
+    if (m_pCloneDiskPage->isVisible())
+        selectButton(navigation::CloneDiskScreen);
+    refreshBehindJob();
+}

@@ -1,0 +1,148 @@
+#include "ui/window/MainWindow.h"
+
+#include "platform/Platform.h"
+#include "state/GlobalApp.h"
+#include "state/Globals.h"
+#include "ui/dialogs/CloseWgt.h"
+#include "ui/dialogs/DestinitionWarning.h"
+#include "ui/dialogs/SelfTestNotSupported.h"
+#include "ui/screens/CloneDisk.h"
+#include "ui/screens/ScanDisk.h"
+#include "ui/widgets/Style.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QDir>
+
+namespace
+{
+/// The system may sleep again: the continuous state alone ends what was asked for before.
+constexpr quint32 ExecutionContinuous = 0x80000000u;
+/// The same with system required and away mode required: it must not.
+constexpr quint32 StayAwake = 0x80000041u;
+
+/// A window without a parent may lie behind the main window, where showing it again would change nothing.
+void bringUp(QWidget *window)
+{
+    window->show();
+    window->raise();
+    window->activateWindow();
+}
+
+} // namespace
+
+bool MainWindow::jobRuns() const
+{
+    // A scan that was stopped goes on until the drive has answered, a clone until its disk is back in the
+    // system.
+    return g_bJobRunning || g_bSelfTestRunning || m_pScanDiskPage->IsScanning() ||
+           m_pCloneDiskPage->IsCloning();
+}
+
+/// To be called when a job has begun or ended: the machine does not sleep meanwhile.
+void MainWindow::keepAwake()
+{
+    Platform::current().SetThreadExecutionState(jobRuns() ? StayAwake : ExecutionContinuous);
+}
+
+void MainWindow::showRunningPanel(bool fromYes)
+{
+    const bool scanScreen = isDown(navigation::ScanDiskScreen);
+    if (isDown(navigation::CloneDiskScreen) || (scanScreen && m_pCloneDiskPage->IsCloning()))
+        m_pDestinitionWarning->SetTexts(tr("Clone Disk"),
+                                        fromYes ? tr("Clone Running.") : tr("Cloning process running."),
+                                        tr("Please halt the clone process to exit."));
+    else if (scanScreen)
+        m_pDestinitionWarning->SetTexts(tr("Scan Disk"),
+                                        fromYes ? tr("Scaning Running.") : tr("Disk scan running."),
+                                        tr("Please halt the scan process to exit."));
+    else
+        return;
+    style::centreOn(m_pDestinitionWarning, geometry());
+    m_pDestinitionWarning->show();
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    event->ignore();
+    keepAwake();
+    if (jobRuns())
+        showRunningPanel(false);
+    else
+        bringUp(m_pCloseWgt);
+}
+
+void MainWindow::OnClose()
+{
+    if (jobRuns()) {
+        showRunningPanel(false);
+        return;
+    }
+    style::centreOn(m_pCloseWgt, geometry());
+    bringUp(m_pCloseWgt);
+}
+
+void MainWindow::Onyes()
+{
+    if (g_bJobRunning || m_pScanDiskPage->IsScanning() || m_pCloneDiskPage->IsCloning()) {
+        showRunningPanel(true);
+        return;
+    }
+    QCoreApplication::quit();
+}
+
+void MainWindow::OnNo()
+{
+    m_pCloseWgt->hide();
+}
+
+void MainWindow::OnCloseDestinitionWarning()
+{
+    m_pDestinitionWarning->hide();
+}
+
+void MainWindow::OnCloseSelfTestNotSupported()
+{
+    m_pSelfTestNotSupported->hide();
+    DriveCombobox->setEnabled(true);
+}
+
+void MainWindow::OnMinimized()
+{
+    showMinimized();
+}
+
+void MainWindow::OnHideButtons() {}
+
+void MainWindow::SystemTrayQuit() {}
+
+void MainWindow::iconActivated(QSystemTrayIcon::ActivationReason reason)
+{
+    if (reason != QSystemTrayIcon::Trigger)
+        return;
+    setVisible(!isVisible());
+}
+
+void MainWindow::launchSibling(const QString &fileName)
+{
+    Platform::current().SetThreadExecutionState(ExecutionContinuous);
+    QDir::setCurrent(g_App.m_strApplicationFolder);
+    Platform::current().ShellExecuteW(g_App.m_strApplicationFolder + QLatin1Char('\\') + fileName, QString(),
+                                      QStringLiteral("Open"));
+    QCoreApplication::quit();
+}
+
+void MainWindow::LaunchDataRecovery()
+{
+    launchSibling(g_App.m_strSibling1);
+}
+
+void MainWindow::LaunchVideoRepair()
+{
+    launchSibling(g_App.m_strSibling2);
+}
+
+void MainWindow::LaunchPhotoRepair()
+{
+    launchSibling(g_App.m_strSibling3);
+}

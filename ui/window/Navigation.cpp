@@ -1,0 +1,339 @@
+#include "ui/window/MainWindow.h"
+
+#include "state/GlobalApp.h"
+#include "state/Globals.h"
+#include "state/Scale.h"
+#include "ui/dialogs/ConfarmetionClass.h"
+#include "ui/dialogs/ScanSwitchClass.h"
+#include "ui/screens/AccessNotice.h"
+#include "ui/screens/CloneDisk.h"
+#include "ui/screens/ScanDisk.h"
+#include "ui/widgets/MyButton.h"
+#include "ui/widgets/Style.h"
+
+#include <initializer_list>
+
+using navigation::Look;
+
+MyButton *MainWindow::button(Screen screen) const
+{
+    return m_apNavigation[static_cast<std::size_t>(screen)];
+}
+
+bool MainWindow::isDown(Screen screen) const
+{
+    return button(screen)->isDown();
+}
+
+void MainWindow::setLook(Screen screen, Look look)
+{
+    button(screen)->setStyleSheet(navigation::styleSheet(screen, look, g_App.m_fScale));
+}
+
+void MainWindow::hoverNavigation(Screen screen)
+{
+    setLook(screen, isDown(screen) ? Look::Selected : Look::Hover);
+}
+
+void MainWindow::leaveNavigation(Screen screen)
+{
+    setLook(screen, isDown(screen) ? Look::Selected : Look::Normal);
+}
+
+void MainWindow::releaseNavigation(Screen screen)
+{
+    setLook(screen, Look::Selected);
+}
+
+void MainWindow::setSwitchTarget(Screen screen)
+{
+    m_abSwitchTarget.fill(false);
+    m_abSwitchTarget[static_cast<std::size_t>(screen)] = true;
+}
+
+void MainWindow::selectButton(Screen screen)
+{
+    for (int i = 0; i < navigation::ScreenCount; ++i)
+        button(static_cast<Screen>(i))->setDown(i == screen);
+    applyLooks();
+}
+
+void MainWindow::applyLooks()
+{
+    for (int i = 0; i < navigation::ScreenCount; ++i)
+        leaveNavigation(static_cast<Screen>(i));
+}
+
+void MainWindow::pressNavigation(Screen screen)
+{
+    setSwitchTarget(screen);
+    if (leavingAsks()) {
+        askForSwitch();
+        return;
+    }
+    selectButton(screen);
+    const navigation::ShellButtons &shown = navigation::shellButtons(screen);
+    if (!shown.scan)
+        ScanButton->hide();
+    if (!shown.clone)
+        CloneButton->hide();
+    BackTestButton->hide();
+    StopTestButton->hide();
+    callShowSlot(screen);
+}
+
+/// Whether somebody who goes to another screen leaves a job or its results.
+bool MainWindow::leavingAsks() const
+{
+    return g_bScanResultOpen || g_bSelfTestResultOpen || m_pCloneDiskPage->IsCloning();
+}
+
+void MainWindow::askForSwitch()
+{
+    style::centreOn(m_pScanSwitch, geometry());
+    m_pScanSwitch->show();
+}
+
+void MainWindow::callShowSlot(Screen screen)
+{
+    using Slot = void (MainWindow::*)();
+    static const std::array<Slot, navigation::ScreenCount> table = {
+        &MainWindow::OnShowDiskStatus, &MainWindow::OnShowSmartStatus, &MainWindow::OnShowDiskPartition,
+        &MainWindow::OnShowScanDisk, &MainWindow::OnShowCloneDisk};
+    const Slot showSlot = table[static_cast<std::size_t>(screen)];
+    (this->*showSlot)();
+}
+
+void MainWindow::showScreen(Screen screen)
+{
+    for (int i = 0; i < navigation::ScreenCount; ++i)
+        m_apScreens[static_cast<std::size_t>(i)]->setVisible(i == screen);
+    const navigation::ShellButtons &shown = navigation::shellButtons(screen);
+    ScanButton->setVisible(shown.scan);
+    const bool cloning = m_pCloneDiskPage->IsCloning();
+    // The show slot of the clone page can run while a scan holds its own button down.
+    CloneButton->setVisible(shown.clone && !cloning && !isDown(navigation::ScanDiskScreen));
+    // A clone goes on behind another screen, where the button would ask for a scan.
+    if (cloning)
+        StopButton->setVisible(shown.clone && !g_bAbortJob);
+    ReportSaveButton->setVisible(shown.report);
+    ScreenshotButton->setVisible(shown.screenshot);
+    BackTestButton->hide();
+    StopTestButton->hide();
+    showAccess();
+}
+
+/// Without the rights to open a disk there is nothing that the screens could show or do.
+void MainWindow::showAccess()
+{
+    const bool denied = g_App.m_bAccessDenied;
+    if (!denied && m_pAccessNotice->isHidden())
+        return;
+    m_pAccessNotice->setVisible(denied);
+    for (int i = 0; i < navigation::ScreenCount; ++i) {
+        const auto screen = static_cast<Screen>(i);
+        m_apScreens[static_cast<std::size_t>(i)]->setVisible(!denied && isDown(screen));
+    }
+    for (QWidget *idle : std::initializer_list<QWidget *>{DriveCombobox, ScanButton, CloneButton,
+                                                          ReportSaveButton, ScreenshotButton})
+        idle->setEnabled(!denied);
+}
+
+void MainWindow::OnShowDiskStatus()
+{
+    showScreen(navigation::DiskStatusScreen);
+    RefreshSelectedDisk();
+}
+
+void MainWindow::OnShowSmartStatus()
+{
+    RefreshSelectedDisk();
+    showScreen(navigation::SmartStatusScreen);
+}
+
+void MainWindow::OnShowDiskPartition()
+{
+    showScreen(navigation::DiskPartitionScreen);
+    RefreshSelectedDisk();
+}
+
+void MainWindow::OnShowCloneDisk()
+{
+    CloneButton->setEnabled(true);
+    showScreen(navigation::CloneDiskScreen);
+    refreshClonePage();
+}
+
+void MainWindow::OnSwitchConfirm()
+{
+    m_pScanSwitch->hide();
+    dropScanResults();
+    g_bScanResultOpen = false;
+    g_bSelfTestResultOpen = false;
+    g_bScanStarted = false;
+    DriveCombobox->setEnabled(!m_pCloneDiskPage->IsCloning());
+    for (int i = 0; i < navigation::ScreenCount; ++i) {
+        if (!m_abSwitchTarget[static_cast<std::size_t>(i)])
+            continue;
+        selectButton(static_cast<Screen>(i));
+        callShowSlot(static_cast<Screen>(i));
+        return;
+    }
+    if (m_bBackRequested) {
+        selectButton(navigation::ScanDiskScreen);
+        setIconSize(QSize(style::px(32), style::px(30)));
+        OnShowScanDisk();
+    }
+}
+
+void MainWindow::OnSwitchCancel()
+{
+    applyLooks();
+    m_pScanSwitch->hide();
+}
+
+void MainWindow::OnStop()
+{
+    if (isDown(navigation::CloneDiskScreen))
+        m_pConfirmation->SetTexts(tr("Stop Clone"), tr("Cloning can not be resumed from the current stage."),
+                                  tr("Do you wish to abort the cloning?"));
+    else if (isDown(navigation::ScanDiskScreen))
+        m_pConfirmation->SetTexts(tr("Stop Scan"), tr("Scan can not be resumed from the current stage."),
+                                  tr("Do you wish to abort the scan?"));
+    else
+        return;
+    style::centreOn(m_pConfirmation, geometry());
+    m_pConfirmation->show();
+}
+
+void MainWindow::OnStopCancel()
+{
+    g_bAbortJob = false;
+    m_pConfirmation->hide();
+}
+
+void MainWindow::OnStopConfirm()
+{
+    m_pScanDiskPage->ForgetEstimate();
+    // Until the job is at rest: the No to a second question would take this answer back.
+    StopButton->hide();
+    StopTestButton->hide();
+    g_bAbortJob = true;
+    g_bJobRunning = false;
+    if (m_pCloneDiskPage->isVisible()) {
+        setLook(navigation::CloneDiskScreen, Look::Selected);
+        button(navigation::CloneDiskScreen)->setDown(true);
+    } else if (g_bStopRequested) {
+        StopConfirm();
+    }
+    m_pScanDiskPage->CentreResult();
+    m_pConfirmation->hide();
+}
+
+// The doors of the buttons: one line each to the functions above.
+void MainWindow::OnShowHoverImage()
+{
+    hoverNavigation(navigation::DiskStatusScreen);
+}
+void MainWindow::OnShowNormalImage()
+{
+    leaveNavigation(navigation::DiskStatusScreen);
+}
+void MainWindow::OnShowPressImage()
+{
+    pressNavigation(navigation::DiskStatusScreen);
+}
+void MainWindow::OnShowReleaseImageImage()
+{
+    releaseNavigation(navigation::DiskStatusScreen);
+}
+void MainWindow::OnSmartHoverImage()
+{
+    hoverNavigation(navigation::SmartStatusScreen);
+}
+void MainWindow::OnSmartNormalImage()
+{
+    leaveNavigation(navigation::SmartStatusScreen);
+}
+void MainWindow::OnSmartPressImage()
+{
+    pressNavigation(navigation::SmartStatusScreen);
+}
+void MainWindow::OnSmartReleaseImageImage()
+{
+    releaseNavigation(navigation::SmartStatusScreen);
+}
+void MainWindow::OnDiskPartitionHoverImage()
+{
+    hoverNavigation(navigation::DiskPartitionScreen);
+}
+void MainWindow::OnDiskPartitionNormalImage()
+{
+    leaveNavigation(navigation::DiskPartitionScreen);
+}
+void MainWindow::OnDiskPartitionPressImage()
+{
+    pressNavigation(navigation::DiskPartitionScreen);
+}
+void MainWindow::OnDiskPartReleaseImageImage()
+{
+    releaseNavigation(navigation::DiskPartitionScreen);
+}
+void MainWindow::OnScanDiskHoverImage()
+{
+    hoverNavigation(navigation::ScanDiskScreen);
+}
+void MainWindow::OnScanDiskNormalImage()
+{
+    leaveNavigation(navigation::ScanDiskScreen);
+}
+void MainWindow::OnScanDiskPressImage()
+{
+    pressNavigation(navigation::ScanDiskScreen);
+}
+void MainWindow::OnScanDiskReleaseImageImage()
+{
+    releaseNavigation(navigation::ScanDiskScreen);
+}
+void MainWindow::OnCloneDiskHoverImage()
+{
+    hoverNavigation(navigation::CloneDiskScreen);
+}
+void MainWindow::OnCloneDiskNormalImage()
+{
+    leaveNavigation(navigation::CloneDiskScreen);
+}
+void MainWindow::OnCloneDiskPressImage()
+{
+    pressNavigation(navigation::CloneDiskScreen);
+}
+void MainWindow::OnCloneDiskReleaseImageImage()
+{
+    releaseNavigation(navigation::CloneDiskScreen);
+}
+
+void MainWindow::OnBackTestHoverImage()
+{
+    BackTestButton->setStyleSheet(navigation::backButtonSheet(navigation::Look::Hover, g_App.m_fScale));
+}
+
+void MainWindow::OnBackTestNormalImage()
+{
+    BackTestButton->setStyleSheet(navigation::backButtonSheet(navigation::Look::Normal, g_App.m_fScale));
+}
+
+void MainWindow::OnBackTestReleaseImage()
+{
+    OnBackTestNormalImage();
+}
+
+void MainWindow::OnBackTestPressImage()
+{
+    m_abSwitchTarget.fill(false);
+    if (g_bScanResultOpen || g_bSelfTestResultOpen) {
+        m_bBackRequested = true;
+        askForSwitch();
+        return;
+    }
+    OnShowScanDisk();
+}

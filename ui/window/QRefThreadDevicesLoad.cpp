@@ -1,0 +1,31 @@
+#include "ui/window/QRefThreadDevicesLoad.h"
+
+#include "platform/Platform.h"
+#include "smart/DeviceLoad.h"
+
+QRefThreadDevicesLoad::~QRefThreadDevicesLoad()
+{
+    m_condition.wakeOne();
+    wait();
+}
+
+void QRefThreadDevicesLoad::startBehind(QThread &reader)
+{
+    // A run that has signalled still takes a moment to end, and a start in that moment would be lost.
+    wait();
+    m_bComplete = false;
+    m_pReader = &reader;
+    start(QThread::InheritPriority);
+}
+
+void QRefThreadDevicesLoad::run()
+{
+    QMutexLocker lock(&m_mutex);
+    if (m_pReader)
+        m_pReader->wait();
+    // A newly attached volume needs a moment to appear.
+    Platform::current().Sleep(deviceload::PauseMilliseconds);
+    deviceload::loadLists();
+    m_bComplete = true;
+    emit OnLoadingDevices();
+}

@@ -1,0 +1,82 @@
+#include "ui/window/MainWindow.h"
+
+#include "platform/Platform.h"
+#include "reports/ReportPage.h"
+#include "reports/SmartReport.h"
+#include "smart/PreviousTest.h"
+#include "smart/SmartGlobals.h"
+#include "smart/ToolInvocation.h"
+#include "state/Globals.h"
+#include "ui/screens/SmartStatus.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QPainter>
+#include <QUrl>
+
+namespace
+{
+
+struct FileQuestion {
+    QString title;
+    QString name;
+    QString filter;
+    QString ending;
+};
+
+/// The path to write to; empty where nobody wants one.
+QString askForPath(QWidget *parent, const FileQuestion &question)
+{
+    const QString chosen =
+        QFileDialog::getSaveFileName(parent, question.title, question.name, question.filter);
+    const QString path = savedPath(chosen, question.name, question.ending);
+    if (path == chosen || !QFileInfo::exists(path))
+        return path;
+    // The dialog has asked about the name without its ending only.
+    return QFileDialog::getSaveFileName(parent, question.title, path, question.filter);
+}
+
+} // namespace
+
+void MainWindow::OnCheckPreviousTestResult()
+{
+    ReadPreviousTest(storedDevice(ToolPurpose::SelfTestLog));
+}
+
+void MainWindow::SavePDFReport()
+{
+    if (!reportKnown())
+        return;
+    // Taken before the dialog: while that is open a refresh may rebuild the lists.
+    SmartReport report = gatherSmartReport();
+    const QString path = askForPath(this, {tr("Save File"), suggestedReportName(report),
+                                           QStringLiteral("*.pdf"), QStringLiteral(".pdf")});
+    if (path.isEmpty())
+        return;
+    if (!report.nvme) {
+        g_strLastTestType.clear();
+        g_strLastTestResult.clear();
+        ReadPreviousTest(report.device);
+        report.lastTestType = g_strLastTestType;
+        report.lastTestResult = g_strLastTestResult;
+    }
+    if (writeReport(path, report))
+        Platform::current().OpenUrl(QUrl::fromUserInput(path));
+}
+
+void MainWindow::TakeScreenshot()
+{
+    if (!reportKnown())
+        return;
+    ScreenshotButton->show();
+    QPixmap picture(m_pSmartStatusPage->size());
+    picture.fill(Qt::white);
+    QPainter painter(&picture);
+    m_pSmartStatusPage->render(&painter, QPoint(0, 0), QRegion(),
+                               QWidget::DrawWindowBackground | QWidget::DrawChildren);
+    painter.end();
+    const QString path = askForPath(nullptr, {QStringLiteral("Save File"), fileNamePart(g_strGraphTitle),
+                                              QStringLiteral("JPEG (*.jpg);"), QStringLiteral(".jpg")});
+    if (!path.isEmpty())
+        writePicture(path, picture);
+}

@@ -1,0 +1,185 @@
+#include "ui/window/MainWindow.h"
+
+#include "scan/ScanGlobals.h"
+#include "smart/SelfTestGlobals.h"
+#include "state/GlobalApp.h"
+#include "state/Globals.h"
+#include "ui/dialogs/ConfarmetionClass.h"
+#include "ui/screens/CloneDisk.h"
+#include "ui/screens/ScanDisk.h"
+#include "ui/screens/SelfTestPanel.h"
+#include "ui/widgets/MyButton.h"
+
+#include <QAction>
+#include <QEvent>
+#include <QTimer>
+
+namespace
+{
+
+qint64 sectorsOf(const DiskNode *node)
+{
+    return node && node->pDetails ? static_cast<qint64>(node->pDetails->nTotalSectors) : 0;
+}
+
+} // namespace
+
+void MainWindow::OnShowScanDisk()
+{
+    g_bScanResultOpen = false;
+    g_bSelfTestResultOpen = false;
+    // Set on the way to the start of a scan.
+    if (m_pScanDiskPage->radioButton->isChecked() && g_bScanStarted)
+        m_pScanDiskPage->ShowCounters();
+    else
+        m_pScanDiskPage->ShowChooser();
+    DriveCombobox->setEnabled(!m_pCloneDiskPage->IsCloning());
+    showScreen(navigation::ScanDiskScreen);
+    m_pScanDiskPage->radioButton->setChecked(true);
+    refreshScanPage();
+}
+
+void MainWindow::refreshScanPage()
+{
+    LookUpDisk(DriveCombobox->currentIndex());
+    // A job that was left has another current disk until it is at rest.
+    const DiskNode *node = findPhysicalDisk(DriveCombobox->currentData().toInt());
+    m_pScanDiskPage->FillDisk(node);
+    // The panel of a test that was refused names the disk before.
+    if (m_pScanDiskPage->m_pSelfTestPanel->isVisible() && !g_bSelfTestResultOpen)
+        ChooseScanType();
+    // The results of a scan are those of its disk alone.
+    if (g_bScanResultOpen && chosenDisk() == m_scannedDisk)
+        return;
+    if (g_bScanResultOpen)
+        m_pScanDiskPage->HideResult();
+    g_bScanResultOpen = false;
+    m_pScanDiskPage->DropResults();
+    m_pScanDiskPage->PrepareMap(sectorsOf(node));
+}
+
+MainWindow::ChosenDisk MainWindow::chosenDisk() const
+{
+    return {DriveCombobox->currentData().toInt(), DriveCombobox->currentText()};
+}
+
+/// Behind a refresh, which begins at the first disk: the results that show go on showing under their own.
+void MainWindow::keepScannedDisk()
+{
+    if (!g_bScanResultOpen && !g_bSelfTestResultOpen)
+        return;
+    const int index = DriveCombobox->findData(m_scannedDisk.first);
+    if (index < 0 || DriveCombobox->itemText(index) != m_scannedDisk.second)
+        return;
+    DriveCombobox->setCurrentIndex(index);
+    m_pCloneDiskPage->SourceComboBox->setCurrentIndex(index);
+}
+
+void MainWindow::OnScanStart()
+{
+    // No disk can be looked up while the lists are rebuilt, and a scan that was stopped goes on until the
+    // drive has answered. A clone goes on behind this screen, and would take a stop for its own.
+    if (g_bListsLoading || m_pScanDiskPage->IsScanning() || m_pCloneDiskPage->IsCloning())
+        return;
+    // Without a disk there is nothing that could fail.
+    LookUpDisk(DriveCombobox->currentIndex());
+    if (m_pScanDiskPage->radioButton->isChecked() && !g_App.m_pCurrentDisk)
+        return;
+    OnCheckRadioButton();
+    if (g_bTestPending) {
+        OnStartShortSelfTest();
+        g_bTestPending = false;
+    } else if (g_bScanStarted) {
+        startSurfaceScan();
+    }
+}
+
+void MainWindow::startSurfaceScan()
+{
+    // The drive goes on by itself with a self-test that was left, but its buttons are not for this scan.
+    if (m_pTestTimer)
+        m_pTestTimer->stop();
+    setMenuEntriesEnabled(false);
+    for (QWidget *idle : std::initializer_list<QWidget *>{ScanButton, BackTestButton, StopTestButton})
+        idle->hide();
+    StopButton->show();
+    DriveCombobox->setEnabled(false);
+    for (int i = 0; i < navigation::ScreenCount; ++i)
+        setNavigationEnabled(static_cast<Screen>(i), false);
+    selectButton(navigation::ScanDiskScreen);
+    m_pScanDiskPage->StartScan(sectorsOf(g_App.m_pCurrentDisk));
+    keepAwake();
+    m_scannedDisk = chosenDisk();
+    g_bScanResultOpen = true;
+    g_bScanStarted = false;
+}
+
+void MainWindow::OnFinishScanDisk()
+{
+    setMenuEntriesEnabled(true);
+    enableNavigation();
+    // There is nothing left to be stopped.
+    m_pConfirmation->hide();
+    StopButton->hide();
+    ScanButton->setEnabled(true);
+    DriveCombobox->setEnabled(true);
+    keepAwake();
+    // A disk that does not open, or not any more, is not what the lists say.
+    if (g_bScanFailed)
+        g_bListsStale = true;
+    refreshBehindJob();
+    // Somebody who has left the scan meanwhile stays where he is.
+    if (!g_bScanResultOpen) {
+        if (!g_App.m_pCurrentDisk || g_App.m_pCurrentDisk->nId != DriveCombobox->currentData().toInt())
+            RefreshSelectedDisk();
+        return;
+    }
+    ScanButton->show();
+    BackTestButton->show();
+    selectButton(navigation::ScanDiskScreen);
+}
+
+/// The entries that lead away from a scan. Those that nothing stands behind stay grey.
+void MainWindow::setMenuEntriesEnabled(bool enabled)
+{
+    if (enabled) {
+        for (QAction *entry : qAsConst(m_listHeldEntries))
+            entry->setEnabled(true);
+        m_listHeldEntries.clear();
+        return;
+    }
+    for (QAction *entry :
+         {m_pSettingsAction, m_pAboutAction, m_pRecoverAction, m_pVideoAction, m_pPhotoAction}) {
+        if (entry->isEnabled())
+            m_listHeldEntries.append(entry);
+        entry->setEnabled(false);
+    }
+}
+
+/// The user leaves the results of a job.
+void MainWindow::dropScanResults()
+{
+    // A No to the question that is still open would let the scan go on where nobody can stop it.
+    m_pConfirmation->hide();
+    if (m_pScanDiskPage->IsScanning()) {
+        StopButton->hide();
+        ScanButton->setEnabled(false);
+    }
+    if (m_pCloneDiskPage->IsCloning())
+        ScanButton->setEnabled(false);
+    m_pScanDiskPage->HideResult();
+    m_pScanDiskPage->DropResults();
+    refreshBehindJob();
+}
+
+bool MainWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    // A job locks the navigation. A press on it asks all the same, so that nobody takes it for dead, and one
+    // who has left the job, which locks on, gets about.
+    const bool press = event->type() == QEvent::MouseButtonPress && isEnabled();
+    auto *pressed = press ? qobject_cast<MyButton *>(watched) : nullptr;
+    if (!pressed || pressed->isEnabled())
+        return QMainWindow::eventFilter(watched, event);
+    emit pressed->OnPressPixmap();
+    return true;
+}

@@ -1,0 +1,351 @@
+#include "ui/window/MainWindow.h"
+
+#include "inventory/CommandRunner.h"
+#include "inventory/Companion.h"
+#include "smart/DiskFigures.h"
+#include "smart/Rating.h"
+#include "smart/ReportParser.h"
+#include "smart/SmartGlobals.h"
+#include "smart/Temperature.h"
+#include "smart/ToolInvocation.h"
+#include "state/DiskIdentityTexts.h"
+#include "state/GlobalApp.h"
+#include "state/Globals.h"
+#include "state/LogFolder.h"
+#include "state/SettingsStore.h"
+#include "state/StartArgument.h"
+#include "ui/screens/CloneDisk.h"
+#include "ui/screens/DiskPartition.h"
+#include "ui/screens/DiskStatus.h"
+#include "ui/screens/PageLook.h"
+#include "ui/screens/SmartStatus.h"
+#include "ui/widgets/Images.h"
+#include "ui/widgets/SmartChartView.h"
+#include "ui/widgets/Style.h"
+
+#include <QDir>
+#include <QMovie>
+#include <QTreeWidget>
+
+namespace
+{
+
+void showPercent(QLabel *label, bool known, const QString &percent)
+{
+    label->setText(known ? percent : MainWindow::tr("Not Supported"));
+}
+
+void showImage(QLabel *tile, const QString &file)
+{
+    if (!file.isEmpty())
+        images::setLabelImage(tile, file);
+}
+
+QString interfaceOrDefault(const QString &text)
+{
+    return text.isEmpty() ? MainWindow::tr("ATA Disk") : text;
+}
+
+} // namespace
+
+int MainWindow::currentComboDisk() const
+{
+    return DriveCombobox->currentData().toInt() - PhysicalDriveBase;
+}
+
+void MainWindow::RequestSmartRead(int diskIndex)
+{
+    // The end of a refresh has each disk read anew.
+    if (!g_bListsLoading)
+        m_smartThread.RequestSmartRead(diskIndex);
+}
+
+/// Nothing of another disk stays on show under the name of the one that is chosen.
+void MainWindow::takeUpChosenDisk()
+{
+    g_nCurrentDiskIndex = currentComboDisk();
+    if (!takeUpDisk(g_nCurrentDiskIndex))
+        return;
+    m_pDiskStatusPage->clearDisk();
+    m_pSmartStatusPage->ClearDisk();
+    clearPartitions();
+    m_pDiskPartitionPage->FillPartitionHeader();
+    m_pDiskPartitionPage->ShowSizes();
+    for (QLabel *value : {SerialNumValLabel, InterfaceTypeLabel, CapacityValLabel, ResultLabel})
+        value->clear();
+    showWaitingTiles();
+}
+
+void MainWindow::clearIdentityTexts()
+{
+    for (QString *text : {&g_strSerialNumber, &g_strModelName, &g_strFirmware})
+        text->clear();
+}
+
+void MainWindow::showWaitingTiles()
+{
+    m_pDiskStatusPage->tempValueLbl->setText(waitingTemperatureText(SettingsStore().text(key::TempValue)));
+    g_strHealthText = QStringLiteral("0%");
+    g_strPerformanceText = QStringLiteral("0%");
+    m_pDiskStatusPage->healthValueLbl->setText(g_strHealthText);
+    m_pDiskStatusPage->performanceValueLbl->setText(g_strPerformanceText);
+    for (QLabel *summary : {SerialNumLabel, SerialNumValLabel, InterfaceTypeLabel, CapacityValLabel,
+                            SmartStatusLabel, ResultLabel})
+        summary->hide();
+}
+
+void MainWindow::RefreshSelectedDisk()
+{
+    takeUpChosenDisk();
+    updateReportButtons();
+    // Its end reloads the screen that shows then. A clone keeps the disks that it was started with.
+    if (g_bListsLoading || m_pCloneDiskPage->IsCloning())
+        return;
+    showAccess();
+    showWaitingTiles();
+    clearIdentityTexts();
+    if (g_App.m_bAccessDenied)
+        return;
+    LookUpDisk(DriveCombobox->currentIndex());
+    if (isDown(navigation::DiskStatusScreen)) {
+        startRead();
+    } else if (isDown(navigation::SmartStatusScreen)) {
+        m_pSmartStatusPage->m_pAttributeTree->clear();
+        startRead();
+    } else if (isDown(navigation::ScanDiskScreen)) {
+        refreshScanPage();
+    } else if (isDown(navigation::CloneDiskScreen)) {
+        selectCloneArgument();
+        refreshClonePage();
+        if (startargument::asksForClone(g_strStartArgument))
+            OnCloneDiskPressImage();
+    } else if (isDown(navigation::DiskPartitionScreen)) {
+        m_pDiskPartitionPage->FillPartitionHeader();
+        ShowPartitions(BitLockerMark::AsWritten);
+    }
+}
+
+void MainWindow::startRead()
+{
+    RequestSmartRead(g_nCurrentDiskIndex);
+    updateReportButtons();
+    enterBusy(tr("Please wait. Getting SMART information..."));
+}
+
+/// Report and screenshot are of the disk that is chosen, or there are none.
+void MainWindow::updateReportButtons()
+{
+    ReportSaveButton->setEnabled(reportKnown());
+    ScreenshotButton->setEnabled(reportKnown());
+}
+
+bool MainWindow::reportKnown() const
+{
+    return g_bSmartAvailable && !g_bReportPending && !g_bListsLoading && !m_smartThread.isReading();
+}
+
+void MainWindow::enterBusy(const QString &text)
+{
+    QMovie *previous = m_pMovie;
+    m_pMovie = images::newMovie(QStringLiteral("img_Scan.gif"), this);
+    Giflabel->setMovie(m_pMovie);
+    delete previous;
+    label->setText(text);
+    label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    m_pMovie->start();
+    GifFrame->show();
+}
+
+void MainWindow::leaveBusy()
+{
+    if (m_pMovie)
+        m_pMovie->stop();
+    GifFrame->hide();
+}
+
+void MainWindow::prepareLogFolder()
+{
+    const QString folder = logFolderOf(SettingsStore().text(key::LogSavePath));
+    if (folder.isEmpty())
+        return;
+    const QDir directory(nativePath(folder));
+    if (!directory.exists())
+        directory.mkpath(QStringLiteral("."));
+}
+
+void MainWindow::OnInitializeSmart()
+{
+    // The first run behind a read finds its report. None is there while a newer read runs, nor behind one
+    // that a refresh has cut short.
+    const std::optional<int> disk = m_smartThread.takeReport();
+    if (!disk)
+        return;
+    prepareLogFolder();
+    if (*disk == currentComboDisk()) {
+        if (isDown(navigation::SmartStatusScreen))
+            initializeSmartStatus();
+        else if (isDown(navigation::DiskStatusScreen))
+            initializeDiskStatus();
+    }
+    updateReportButtons();
+    leaveBusy();
+}
+
+/// Takes the report in that the reader has left.
+void MainWindow::takeReportIn()
+{
+    DetectReportKind(g_strSmartReportPath);
+    ParseSmartReport(g_strSmartReportPath);
+    g_bReportPending = false;
+}
+
+void MainWindow::initializeSmartStatus()
+{
+    takeReportIn();
+    const int celsius = GetDiskTemperature();
+    // A drive that fails its own check has attributes to be rated by, too.
+    if (celsius != 0)
+        g_bSmartAvailable = true;
+    ComputePerformance();
+    ComputeHealth();
+
+    LookUpDisk(DriveCombobox->currentIndex());
+    const DiskNode *node = g_App.m_pCurrentDisk;
+    const WmicDiskRecord *record = node ? findWmicDisk(node->nId) : nullptr;
+    // The report that may be saved from here tells it.
+    g_strTemperatureText = loadTemperatureText(celsius, SettingsStore().text(key::TempValue));
+    g_bSmartAvailable = celsius != 0;
+    m_pSmartStatusPage->m_pChartView->setVisible(g_bSmartAvailable);
+    pagelook::showResult(m_pSmartStatusPage->SmartResultLabel,
+                         overallResult(g_bSmartAvailable, celsius, g_driveVerdict));
+
+    showSmartHeading();
+    const QString interfaceText = interfaceOrDefault(record ? record->szInterface.text() : QString());
+    m_pSmartStatusPage->InterfaceValLbl->setText(interfaceText);
+    InterfaceTypeLabel->setText(interfaceText);
+    if (record)
+        m_pSmartStatusPage->SerialNunValueLbl->setText(record->szSmartSerial.text());
+    if (node && node->nKind == FixedDisk && !g_strSerialNumber.trimmed().isEmpty())
+        m_pSmartStatusPage->SerialNunValueLbl->setText(g_strSerialNumber.trimmed());
+    if (node)
+        m_pSmartStatusPage->CapcityValLbl->setText(node->szSize.text());
+    m_pSmartStatusPage->GraphLabel->clear();
+    m_pSmartStatusPage->m_pAttributeTree->clear();
+    FillSmartTable();
+}
+
+void MainWindow::showSmartHeading()
+{
+    m_pSmartStatusPage->m_pHeadingLabel->setText(tr("SMART Status"));
+    m_pSmartStatusPage->m_pHeadingLabel->setFont(style::semiBold(12));
+    m_pSmartStatusPage->m_pHeadingLabel->setStyleSheet(QStringLiteral("QLabel {color : white;}"));
+    m_pSmartStatusPage->m_pHeadingResultLabel->setFont(style::semiBold(13, true));
+    m_pSmartStatusPage->m_pHeadingResultLabel->setStyleSheet(QStringLiteral("QLabel {color : white;}"));
+}
+
+void MainWindow::initializeDiskStatus()
+{
+    takeReportIn();
+    const int celsius = GetDiskTemperature();
+    if (!SettingsStore().flag(key::ShowTrayIcon))
+        companion::killAfterRead();
+    else
+        companion::ensureRunning();
+    showTemperature(celsius);
+    g_bSmartAvailable = celsius != 0;
+    ComputePerformance();
+    ComputeHealth();
+    ShowDiskLifeDetails();
+}
+
+void MainWindow::showTemperature(int celsius)
+{
+    g_strTemperatureText = loadTemperatureText(celsius, SettingsStore().text(key::TempValue));
+    m_pDiskStatusPage->tempValueLbl->setText(celsius < 1 ? tr("Not Supported") : g_strTemperatureText);
+    showImage(m_pDiskStatusPage->tempratureLbl, loadTemperatureImage(celsius));
+}
+
+void MainWindow::ComputePerformance()
+{
+    RatePerformance();
+    m_pDiskStatusPage->performanceTitleLbl->setText(tr("Performance"));
+    showPercent(m_pDiskStatusPage->performanceValueLbl, g_bSmartAvailable, g_strPerformanceText);
+    showImage(m_pDiskStatusPage->PerformanceLbl, performanceImage(g_nPerformancePercent, g_App.m_fScale));
+}
+
+void MainWindow::ComputeHealth()
+{
+    RateHealth();
+    m_pDiskStatusPage->healthTitleLbl->setText(tr("Health"));
+    showPercent(m_pDiskStatusPage->healthValueLbl, g_bSmartAvailable && g_bHealthKnown, g_strHealthText);
+    const std::optional<int> percent = g_bHealthKnown ? std::optional<int>(g_nHealthPercent) : std::nullopt;
+    showImage(m_pDiskStatusPage->HelthLable, healthImage(percent, g_App.m_fScale));
+}
+
+void MainWindow::ShowDiskLifeDetails()
+{
+    const DiskNode *node = findPhysicalDisk(PhysicalDriveBase + g_nCurrentDiskIndex);
+    const WmicDiskRecord *record = node ? findWmicDisk(node->nId) : nullptr;
+    const DiskIdentityTexts texts =
+        identityTextsAfterRead(node, record, g_nCurrentDiskIndex,
+                               {g_strModelName, g_strSerialNumber, g_strFirmware, g_bSmartAvailable});
+    m_pDiskStatusPage->showIdentity(texts);
+    if (texts.summary)
+        SerialNumValLabel->setText(*texts.summary);
+    if (texts.interfaceText)
+        g_strInterface = *texts.interfaceText;
+    showOverallResult();
+    showLifeFields(node);
+}
+
+void MainWindow::showOverallResult()
+{
+    pagelook::showResult(ResultLabel, overallResult(g_bSmartAvailable, GetDiskTemperature(), g_driveVerdict));
+}
+
+void MainWindow::showLifeFields(const DiskNode *node)
+{
+    m_pDiskStatusPage->DiskLifeString->setText(tr("Hard Disk Life"));
+    m_pDiskStatusPage->PowerOnTimeString->setText(tr("Power-on Time"));
+    m_pDiskStatusPage->StartStopString->setText(tr("Start/Stop Count"));
+    const LifeKind kind =
+        lifeKind(g_App.m_bNVMe, node && node->nKind == RemovableDisk, g_pSmartAttributeHead);
+    if (kind == LifeKind::Known)
+        UpdateLifeFigures();
+    m_pDiskStatusPage->showLife(lifeTexts(kind, storedLifeFigures()));
+    m_pDiskStatusPage->showVerdict(g_driveVerdict);
+}
+
+void MainWindow::GetSmartTemprature()
+{
+    // Reads only while Disk Partition shows, although the tile it writes lies on another screen. A read that
+    // is under way has the file; the next minute comes.
+    if (m_bRefreshing || g_App.m_bAccessDenied || m_smartThread.isReading() ||
+        !isDown(navigation::DiskPartitionScreen))
+        return;
+    const QString unit = SettingsStore().text(key::TempValue);
+    RefreshTemperatureReport(currentComboDisk());
+    const int celsius = GetDiskTemperature();
+    m_pDiskStatusPage->tempValueLbl->setText(pollTemperatureText(celsius, unit));
+    showImage(m_pDiskStatusPage->tempratureLbl, pollTemperatureImage(celsius));
+}
+
+void MainWindow::OnSystemShutDown()
+{
+    RunSilent("shutdown /s", "");
+}
+
+void MainWindow::DetailsforSelftest()
+{
+    g_nCurrentDiskIndex = currentComboDisk();
+    const int comboIndex = DriveCombobox->currentIndex();
+    LookUpDisk(comboIndex);
+    if (const WmicDiskRecord *record =
+            findWmicDisk(static_cast<std::uint32_t>(g_nCurrentDiskIndex + PhysicalDriveBase))) {
+        g_strSelfTestModel = record->szSmartModel.text();
+        g_strSelfTestSerial = record->szSmartSerial.text();
+        m_pDiskStatusPage->ModelNumValLbl->setText(g_strSelfTestModel);
+        m_pDiskStatusPage->SerialValLbl->setText(g_strSelfTestSerial);
+    }
+    g_strSelfTestDevice = selfTestDevice(g_nCurrentDiskIndex, comboIndex);
+}
