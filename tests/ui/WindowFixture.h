@@ -62,6 +62,7 @@ protected:
         g_bScanResultOpen = false;
         g_bSelfTestResultOpen = false;
         m_pWindow.reset();
+        g_Jobs = JobState(); // a page takes its job along
         // Its refresh ended with it, and nobody heard of the lists.
         g_bListsLoading = false;
         g_bListsStale = false;

@@ -108,7 +108,7 @@ void tst_CloneFlow::fill(int disk, int sectors) const
 void tst_CloneFlow::cleanup()
 {
     g_bAbortJob = true;
-    QTRY_VERIFY_WITH_TIMEOUT(!m_pWindow->findChild<CloneDisk *>()->IsCloning(), 20000);
+    QTRY_VERIFY_WITH_TIMEOUT(!g_Jobs.runs(JobState::Job::Clone), 20000);
     tearDown();
 }
 
@@ -133,7 +133,7 @@ void tst_CloneFlow::start(int source, int target)
 
 void tst_CloneFlow::waitForEnd()
 {
-    QTRY_VERIFY_WITH_TIMEOUT(!m_pWindow->findChild<CloneDisk *>()->IsCloning(), 20000);
+    QTRY_VERIFY_WITH_TIMEOUT(!g_Jobs.runs(JobState::Job::Clone), 20000);
     QVERIFY(!g_bJobRunning);
 }
 

@@ -284,7 +284,7 @@ void tst_ScanFlow::startsNothingDuringARefresh()
     press("ScanDiskButton");
     m_pWindow->OnRefresh();
     child<QPushButton>("ScanButton")->click();
-    QVERIFY(shown("frame_2") && !page()->IsScanning() && !g_bScanStarted);
+    QVERIFY(shown("frame_2") && !g_Jobs.runs(JobState::Job::Scan) && !g_bScanStarted);
     waitForRead();
     child<QPushButton>("ScanButton")->click();
     waitForResult();
@@ -298,7 +298,7 @@ void tst_ScanFlow::startsNothingWithoutADisk()
     makeWindow();
     press("ScanDiskButton");
     child<QPushButton>("ScanButton")->click();
-    QVERIFY(!page()->IsScanning() && !g_bJobRunning && !g_bScanFailed && shown("frame_2"));
+    QVERIFY(!g_Jobs.runs(JobState::Job::Scan) && !g_bJobRunning && !g_bScanFailed && shown("frame_2"));
 }
 
 void tst_ScanFlow::questionGoesWithTheScan()
@@ -316,7 +316,7 @@ void tst_ScanFlow::selfTestsGoTheirWay()
     press("ScanDiskButton");
     child<QRadioButton>("radioButton_3")->click();
     child<QPushButton>("ScanButton")->click();
-    QVERIFY(g_bSelfTestRunning && !page()->IsScanning() && shown("frame_3") && !shown("frame"));
+    QVERIFY(g_bSelfTestRunning && !g_Jobs.runs(JobState::Job::Scan) && shown("frame_3") && !shown("frame"));
     QCOMPARE(commands("smartctl64Bit.exe -t long"), 1);
 }
 

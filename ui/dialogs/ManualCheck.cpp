@@ -2,11 +2,10 @@
 
 #include "platform/Platform.h"
 #include "state/GlobalApp.h"
-#include "state/Globals.h"
+#include "state/JobState.h"
 #include "state/SettingsStore.h"
 #include "ui/dialogs/QCheckUpdate.h"
 #include "ui/widgets/Style.h"
-#include "ui/window/MainWindow.h"
 #include "update/HelpLinks.h"
 #include "update/UpdateGlobals.h"
 
@@ -23,8 +22,7 @@ bool opensPageInstead()
 QCheckUpdate *checkForUpdates(QWidget *owner)
 {
     // An update that is taken ends the program.
-    if (g_bJobRunning || g_bSelfTestRunning || g_bScanStarted ||
-        (::m_pMainWindow && ::m_pMainWindow->jobRuns()))
+    if (!g_Jobs.isIdle())
         return nullptr;
     if (opensPageInstead()) {
         const QUrl page = links::pageOf(

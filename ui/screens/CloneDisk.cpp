@@ -3,7 +3,7 @@
 #include "clone/RescueMap.h"
 #include "state/CloneTexts.h"
 #include "state/GlobalApp.h"
-#include "state/Globals.h"
+#include "state/JobState.h"
 #include "ui/dialogs/InfoDialogClass.h"
 #include "ui/screens/PageLook.h"
 #include "ui/widgets/QRoundProgressBar.h"
@@ -190,7 +190,7 @@ void CloneDisk::showRunning(bool bRunning)
 
 void CloneDisk::StartClone()
 {
-    m_bCloning = true;
+    g_Jobs.begin(JobState::Job::Clone);
     m_pMessageBox->hide();
     m_strLastMinutes.clear();
     TimeLabel->clear();
@@ -250,7 +250,7 @@ void CloneDisk::OnDriveCloneFinish()
 {
     // It signals a moment before it is at rest.
     m_cloneThread.wait();
-    m_bCloning = false;
+    g_Jobs.end(JobState::Job::Clone);
     const CloneOutcome &outcome = m_cloneThread.outcome();
     if (outcome.end == CloneOutcome::End::Complete || outcome.end == CloneOutcome::End::WithErrors) {
         TimeLabel->clear();
@@ -268,7 +268,7 @@ void CloneDisk::OnOk()
 {
     m_pMessageBox->hide();
     TimeLabel->clear();
-    if (g_bJobRunning || m_bCloning)
+    if (!g_Jobs.mayQuit())
         return;
     showRunning(false);
     emit DiskCloneFinished();

@@ -31,8 +31,6 @@ public:
 
     /// Copies the current disk onto the clone disk, which loses all that it holds. Only while no clone runs.
     void StartClone();
-    /// From the start of a clone until its result shows. Until then the lists must stay, also behind a stop.
-    bool IsCloning() const { return m_bCloning; }
     /// Shows a message in the box, over the main window.
     void ShowMessage(const clonemessages::Message &message);
 
@@ -75,6 +73,5 @@ private:
     QRoundProgressBar *m_pRoundProgressBar = nullptr;
     InfoDialogClass *m_pMessageBox = nullptr;
     QTime m_timeStarted;
-    bool m_bCloning = false;
     ThreadDriveClone m_cloneThread;
 };

@@ -2,7 +2,7 @@
 
 #include "scan/ScanGlobals.h"
 #include "state/GlobalApp.h"
-#include "state/Globals.h"
+#include "state/JobState.h"
 #include "ui/dialogs/InfoDialogClass.h"
 #include "ui/screens/PageLook.h"
 #include "ui/screens/SelfTestPanel.h"
@@ -231,7 +231,6 @@ void ScanDisk::StartScan(qint64 totalSectors)
     HideResult();
     frame_4->show();
     frame->show();
-    g_bAbortJob = false;
     g_BadSectors.clear();
     RemTimeValLbl->clear();
     ElapsedValLbl->clear();
@@ -245,7 +244,7 @@ void ScanDisk::StartScan(qint64 totalSectors)
     PrepareMap(totalSectors);
     if (totalSectors > ScanBlockCount)
         g_nMapStep = totalSectors / ScanBlockCount;
-    m_bScanning = true;
+    g_Jobs.begin(JobState::Job::Scan);
     m_bDropped = false;
     m_scanThread.SetRange(0, totalSectors);
     m_scanThread.StartScan(g_App.m_pCurrentDisk, ScanMode);
@@ -257,9 +256,9 @@ void ScanDisk::DropResults()
     clearTimes();
     clearCounts();
     m_pGridView->Reset();
-    m_bDropped = m_bScanning;
-    if (m_bScanning) {
-        g_bAbortJob = true;
+    m_bDropped = g_Jobs.runs(JobState::Job::Scan);
+    if (m_bDropped) {
+        g_Jobs.giveUp();
     } else {
         g_BadSectors.clear();
         g_nBlockStep = 0;
@@ -342,7 +341,7 @@ void ScanDisk::OnSetRemainingTime(qlonglong sectors, qlonglong endSector)
 
 void ScanDisk::OnUpdateTime()
 {
-    if (!g_bJobRunning || !m_bScanning || m_bDropped)
+    if (!g_bJobRunning || !g_Jobs.runs(JobState::Job::Scan) || m_bDropped)
         return;
     const qint64 elapsed = m_sinceStart.elapsed();
     if (const auto remaining = m_clock.remainingText(elapsed))
@@ -356,7 +355,7 @@ void ScanDisk::OnScanFinish(QString verdict)
     m_scanThread.wait();
     clearTimes();
     m_clock.forgetEstimate();
-    m_bScanning = false;
+    g_Jobs.end(JobState::Job::Scan);
     if (m_bDropped)
         DropResults();
     else if (!g_bAbortJob && verdict == QLatin1String("Pass"))

@@ -36,8 +36,6 @@ public:
 
     /// Scans the selected disk from its begin. Only while no scan runs.
     void StartScan(qint64 totalSectors);
-    /// From the start of a scan until its result shows. A stopped scan ends when the drive has answered.
-    bool IsScanning() const { return m_bScanning; }
     /// Forgets how long the scan will take.
     void ForgetEstimate() { m_clock.forgetEstimate(); }
     /// Moves the result box over the window.
@@ -95,7 +93,6 @@ private:
     qlonglong m_i64BadSectors = 0;
     qlonglong m_i64Processed = 0;
     qlonglong m_i64BlockStep = 0; ///< sectors of a block; 0 before a scan
-    bool m_bScanning = false;
-    bool m_bDropped = false; ///< the results of the scan under way were given up
+    bool m_bDropped = false;      ///< the results of the scan under way were given up
     QScanDriveThread m_scanThread;
 };

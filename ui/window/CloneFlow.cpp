@@ -40,7 +40,7 @@ MainWindow::ClonePair MainWindow::chosenPair() const
 void MainWindow::OnCloneStart()
 {
     // A refresh that is under way takes back the choice of disks.
-    if (g_bListsLoading || m_pCloneDiskPage->IsCloning())
+    if (g_bListsLoading || g_Jobs.runs(Job::Clone))
         return;
     selectButton(navigation::CloneDiskScreen);
     m_askedPair = chosenPair();
@@ -77,7 +77,7 @@ void MainWindow::OnCloningStart()
     m_pCloneWarning->hide();
     // The engine keeps hold of two nodes, and a scan that was stopped would take the cleared stop request for
     // its own.
-    if (g_bListsLoading || m_pCloneDiskPage->IsCloning() || m_pScanDiskPage->IsScanning())
+    if (!g_Jobs.mayStart())
         return;
     // The question may have stayed open while another page was looked at.
     if (!m_pCloneDiskPage->isVisible())
@@ -114,7 +114,6 @@ void MainWindow::refuseClone(const clonemessages::Message &reason)
 
 void MainWindow::startClone()
 {
-    g_bAbortJob = false;
     for (QWidget *idle :
          std::initializer_list<QWidget *>{ScanButton, ScreenshotButton, StopTestButton, CloneButton})
         idle->hide();

@@ -31,24 +31,16 @@ void bringUp(QWidget *window)
 
 } // namespace
 
-bool MainWindow::jobRuns() const
-{
-    // A scan that was stopped goes on until the drive has answered, a clone until its disk is back in the
-    // system.
-    return g_bJobRunning || g_bSelfTestRunning || m_pScanDiskPage->IsScanning() ||
-           m_pCloneDiskPage->IsCloning();
-}
-
 /// To be called when a job has begun or ended: the machine does not sleep meanwhile.
 void MainWindow::keepAwake()
 {
-    Platform::current().SetThreadExecutionState(jobRuns() ? StayAwake : ExecutionContinuous);
+    Platform::current().SetThreadExecutionState(g_Jobs.mayClose() ? ExecutionContinuous : StayAwake);
 }
 
 void MainWindow::showRunningPanel(bool fromYes)
 {
     const bool scanScreen = isDown(navigation::ScanDiskScreen);
-    if (isDown(navigation::CloneDiskScreen) || (scanScreen && m_pCloneDiskPage->IsCloning()))
+    if (isDown(navigation::CloneDiskScreen) || (scanScreen && g_Jobs.runs(Job::Clone)))
         m_pDestinitionWarning->SetTexts(tr("Clone Disk"),
                                         fromYes ? tr("Clone Running.") : tr("Cloning process running."),
                                         tr("Please halt the clone process to exit."));
@@ -66,7 +58,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
 {
     event->ignore();
     keepAwake();
-    if (jobRuns())
+    if (!g_Jobs.mayClose())
         showRunningPanel(false);
     else
         bringUp(m_pCloseWgt);
@@ -74,7 +66,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
 
 void MainWindow::OnClose()
 {
-    if (jobRuns()) {
+    if (!g_Jobs.mayClose()) {
         showRunningPanel(false);
         return;
     }
@@ -84,7 +76,7 @@ void MainWindow::OnClose()
 
 void MainWindow::Onyes()
 {
-    if (g_bJobRunning || m_pScanDiskPage->IsScanning() || m_pCloneDiskPage->IsCloning()) {
+    if (!g_Jobs.mayQuit()) {
         showRunningPanel(true);
         return;
     }

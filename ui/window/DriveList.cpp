@@ -41,7 +41,7 @@ void MainWindow::FillDriveCombos()
 void MainWindow::LookUpDisk(int comboIndex)
 {
     // The thread of a job takes the current disk by itself. Who has left the job gets his own at its end.
-    if (m_pScanDiskPage->IsScanning() || m_pCloneDiskPage->IsCloning())
+    if (g_Jobs.holdsDisks())
         return;
     g_App.m_pCurrentDisk = nullptr;
     const auto entry = m_hashComboToDisk.constFind(comboIndex);
@@ -90,7 +90,7 @@ void MainWindow::refreshClonePage()
 {
     // The choice of disks is that of the clone until it has ended. The lists and the identity texts are the
     // loader's during a refresh, whose end comes back here.
-    if (g_bListsLoading || m_pCloneDiskPage->IsCloning())
+    if (g_bListsLoading || g_Jobs.runs(Job::Clone))
         return;
     clearIdentityTexts();
     QComboBox *source = m_pCloneDiskPage->SourceComboBox;
@@ -105,7 +105,7 @@ void MainWindow::OnRefresh()
         return;
     // A job holds nodes of the lists until its thread is at rest, also behind that flag. The result of a scan
     // shows under its disk until it was read, also where that has gone.
-    if (m_pCloneDiskPage->IsCloning() || m_pScanDiskPage->IsScanning() || m_pScanDiskPage->IsResultUnread()) {
+    if (g_Jobs.holdsDisks() || m_pScanDiskPage->IsResultUnread()) {
         g_bListsStale = true;
         return;
     }

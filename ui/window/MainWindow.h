@@ -3,6 +3,7 @@
 #include "clone/CloneMessages.h"
 #include "smart/SMARTThread.h"
 #include "smart/SelfTestText.h"
+#include "state/JobState.h"
 #include "state/Navigation.h"
 #include "ui/widgets/FramelessDrag.h"
 #include "ui/window/QRefThreadDevicesLoad.h"
@@ -65,8 +66,6 @@ public:
     void ShowPartitions(BitLockerMark mark);
     /// Has the report of a physical disk read in the background.
     void RequestSmartRead(int diskIndex);
-    /// Whether a scan, a clone or a self-test runs or has yet to come to its end: the program must not end.
-    bool jobRuns() const;
     /// Starts the companion unless it runs.
     void CheckCompanionRunning();
 
@@ -185,6 +184,7 @@ protected:
 
 private:
     using Screen = navigation::Screen;
+    using Job = JobState::Job;
 
     /// \name Construction
     /// @{
@@ -217,7 +217,6 @@ private:
     void showAccess();
     void callShowSlot(Screen screen);
     void askForSwitch();
-    bool leavingAsks() const;
     void setSwitchTarget(Screen screen);
     links::Topic helpTopic() const;
     /// @}

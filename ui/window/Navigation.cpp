@@ -67,7 +67,7 @@ void MainWindow::applyLooks()
 void MainWindow::pressNavigation(Screen screen)
 {
     setSwitchTarget(screen);
-    if (leavingAsks()) {
+    if (!g_Jobs.mayLeave()) {
         askForSwitch();
         return;
     }
@@ -80,12 +80,6 @@ void MainWindow::pressNavigation(Screen screen)
     BackTestButton->hide();
     StopTestButton->hide();
     callShowSlot(screen);
-}
-
-/// Whether somebody who goes to another screen leaves a job or its results.
-bool MainWindow::leavingAsks() const
-{
-    return g_bScanResultOpen || g_bSelfTestResultOpen || m_pCloneDiskPage->IsCloning();
 }
 
 void MainWindow::askForSwitch()
@@ -110,7 +104,7 @@ void MainWindow::showScreen(Screen screen)
         m_apScreens[static_cast<std::size_t>(i)]->setVisible(i == screen);
     const navigation::ShellButtons &shown = navigation::shellButtons(screen);
     ScanButton->setVisible(shown.scan);
-    const bool cloning = m_pCloneDiskPage->IsCloning();
+    const bool cloning = g_Jobs.runs(Job::Clone);
     // The show slot of the clone page can run while a scan holds its own button down.
     CloneButton->setVisible(shown.clone && !cloning && !isDown(navigation::ScanDiskScreen));
     // A clone goes on behind another screen, where the button would ask for a scan.
@@ -168,10 +162,9 @@ void MainWindow::OnSwitchConfirm()
 {
     m_pScanSwitch->hide();
     dropScanResults();
-    g_bScanResultOpen = false;
-    g_bSelfTestResultOpen = false;
-    g_bScanStarted = false;
-    DriveCombobox->setEnabled(!m_pCloneDiskPage->IsCloning());
+    g_Jobs.closeResults();
+    g_Jobs.dropPlan();
+    DriveCombobox->setEnabled(!g_Jobs.runs(Job::Clone));
     for (int i = 0; i < navigation::ScreenCount; ++i) {
         if (!m_abSwitchTarget[static_cast<std::size_t>(i)])
             continue;
@@ -208,7 +201,7 @@ void MainWindow::OnStop()
 
 void MainWindow::OnStopCancel()
 {
-    g_bAbortJob = false;
+    g_Jobs.withdrawStop();
     m_pConfirmation->hide();
 }
 
@@ -218,8 +211,7 @@ void MainWindow::OnStopConfirm()
     // Until the job is at rest: the No to a second question would take this answer back.
     StopButton->hide();
     StopTestButton->hide();
-    g_bAbortJob = true;
-    g_bJobRunning = false;
+    g_Jobs.stop();
     if (m_pCloneDiskPage->isVisible()) {
         setLook(navigation::CloneDiskScreen, Look::Selected);
         button(navigation::CloneDiskScreen)->setDown(true);
@@ -330,7 +322,7 @@ void MainWindow::OnBackTestReleaseImage()
 void MainWindow::OnBackTestPressImage()
 {
     m_abSwitchTarget.fill(false);
-    if (g_bScanResultOpen || g_bSelfTestResultOpen) {
+    if (g_Jobs.resultOpen()) {
         m_bBackRequested = true;
         askForSwitch();
         return;

@@ -26,14 +26,13 @@ qint64 sectorsOf(const DiskNode *node)
 
 void MainWindow::OnShowScanDisk()
 {
-    g_bScanResultOpen = false;
-    g_bSelfTestResultOpen = false;
+    g_Jobs.closeResults();
     // Set on the way to the start of a scan.
     if (m_pScanDiskPage->radioButton->isChecked() && g_bScanStarted)
         m_pScanDiskPage->ShowCounters();
     else
         m_pScanDiskPage->ShowChooser();
-    DriveCombobox->setEnabled(!m_pCloneDiskPage->IsCloning());
+    DriveCombobox->setEnabled(!g_Jobs.runs(Job::Clone));
     showScreen(navigation::ScanDiskScreen);
     m_pScanDiskPage->radioButton->setChecked(true);
     refreshScanPage();
@@ -53,7 +52,7 @@ void MainWindow::refreshScanPage()
         return;
     if (g_bScanResultOpen)
         m_pScanDiskPage->HideResult();
-    g_bScanResultOpen = false;
+    g_Jobs.closeScanResult();
     m_pScanDiskPage->DropResults();
     m_pScanDiskPage->PrepareMap(sectorsOf(node));
 }
@@ -66,7 +65,7 @@ MainWindow::ChosenDisk MainWindow::chosenDisk() const
 /// Behind a refresh, which begins at the first disk: the results that show go on showing under their own.
 void MainWindow::keepScannedDisk()
 {
-    if (!g_bScanResultOpen && !g_bSelfTestResultOpen)
+    if (!g_Jobs.resultOpen())
         return;
     const int index = DriveCombobox->findData(m_scannedDisk.first);
     if (index < 0 || DriveCombobox->itemText(index) != m_scannedDisk.second)
@@ -77,9 +76,7 @@ void MainWindow::keepScannedDisk()
 
 void MainWindow::OnScanStart()
 {
-    // No disk can be looked up while the lists are rebuilt, and a scan that was stopped goes on until the
-    // drive has answered. A clone goes on behind this screen, and would take a stop for its own.
-    if (g_bListsLoading || m_pScanDiskPage->IsScanning() || m_pCloneDiskPage->IsCloning())
+    if (!g_Jobs.mayStart())
         return;
     // Without a disk there is nothing that could fail.
     LookUpDisk(DriveCombobox->currentIndex());
@@ -110,8 +107,8 @@ void MainWindow::startSurfaceScan()
     m_pScanDiskPage->StartScan(sectorsOf(g_App.m_pCurrentDisk));
     keepAwake();
     m_scannedDisk = chosenDisk();
-    g_bScanResultOpen = true;
-    g_bScanStarted = false;
+    g_Jobs.openResult(Job::Scan);
+    g_Jobs.dropPlan();
 }
 
 void MainWindow::OnFinishScanDisk()
@@ -161,11 +158,11 @@ void MainWindow::dropScanResults()
 {
     // A No to the question that is still open would let the scan go on where nobody can stop it.
     m_pConfirmation->hide();
-    if (m_pScanDiskPage->IsScanning()) {
+    if (g_Jobs.runs(Job::Scan)) {
         StopButton->hide();
         ScanButton->setEnabled(false);
     }
-    if (m_pCloneDiskPage->IsCloning())
+    if (g_Jobs.runs(Job::Clone))
         ScanButton->setEnabled(false);
     m_pScanDiskPage->HideResult();
     m_pScanDiskPage->DropResults();

@@ -66,15 +66,15 @@ void MainWindow::OnCheckRadioButton()
     if (g_bListsLoading)
         return;
     if (!chosenKind(*m_pScanDiskPage)) {
-        g_bScanStarted = true;
-        g_bSelfTestRunning = false;
+        g_Jobs.planScan();
+        g_Jobs.end(Job::SelfTest);
         OnShowScanDisk();
         return;
     }
     g_bTestPending = true;
     m_pScanDiskPage->m_pSelfTestPanel->SetDisk(QString(), QString());
     m_pScanDiskPage->ShowSelfTest();
-    g_bSelfTestRunning = false;
+    g_Jobs.end(Job::SelfTest);
     DetailsforSelftest();
     OnCheckShortTest1();
 }
@@ -151,10 +151,12 @@ void MainWindow::OnStartShortSelfTest()
     SelfTestPanel *panel = m_pScanDiskPage->m_pSelfTestPanel;
     const bool canRun = canRunSelfTest();
     if (canRun) {
-        g_bSelfTestRunning = true;
+        g_Jobs.begin(Job::SelfTest);
+        g_Jobs.openResult(Job::SelfTest);
         keepAwake();
+    } else {
+        g_Jobs.closeResults();
     }
-    g_bSelfTestResultOpen = canRun;
     m_scannedDisk = chosenDisk();
     setNavigationEnabled(navigation::ScanDiskScreen, !canRun);
     selftest::restartClock();
@@ -180,7 +182,7 @@ void MainWindow::OnStartShortSelfTest()
     panel->SetPollingMinutes(currentPollingMinutes());
     panel->SetRemainingMinutes(currentPollingMinutes());
     CheckShortTestStatus1();
-    if (!g_bSelfTestRunning)
+    if (!g_Jobs.runs(Job::SelfTest))
         return;
     if (!m_pTestTimer) {
         m_pTestTimer = new QTimer(this);
@@ -239,7 +241,7 @@ void MainWindow::endSelfTest(selftest::Told how)
     if (m_pTestTimer)
         m_pTestTimer->stop();
     g_bTestPending = false;
-    g_bSelfTestRunning = false;
+    g_Jobs.end(Job::SelfTest);
     enableNavigation();
     m_pConfirmation->hide();
     panel->SetProgress(100);
@@ -253,7 +255,7 @@ void MainWindow::endSelfTest(selftest::Told how)
 void MainWindow::reportTestAbort()
 {
     g_bTestPending = false;
-    g_bSelfTestRunning = false;
+    g_Jobs.end(Job::SelfTest);
     if (m_pTestTimer)
         m_pTestTimer->stop();
     g_nElapsedSeconds = 0;

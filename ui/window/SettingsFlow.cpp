@@ -30,7 +30,7 @@ LogonTask companionTask()
 
 void MainWindow::OnShowSettings()
 {
-    if (g_bJobRunning || g_bSelfTestRunning || g_bScanStarted)
+    if (!g_Jobs.isIdle())
         return;
     m_pSettings->LoadFromStore();
     style::centreOn(m_pSettings, geometry());

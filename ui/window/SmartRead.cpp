@@ -99,7 +99,7 @@ void MainWindow::RefreshSelectedDisk()
     takeUpChosenDisk();
     updateReportButtons();
     // Its end reloads the screen that shows then. A clone keeps the disks that it was started with.
-    if (g_bListsLoading || m_pCloneDiskPage->IsCloning())
+    if (g_bListsLoading || g_Jobs.runs(Job::Clone))
         return;
     showAccess();
     showWaitingTiles();
