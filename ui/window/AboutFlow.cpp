@@ -23,9 +23,5 @@ links::Topic MainWindow::helpTopic() const
     constexpr std::array<links::Topic, navigation::ScreenCount> topics{
         links::Topic::DiskStatus, links::Topic::SmartStatus, links::Topic::DiskPartition,
         links::Topic::ScanDisk, links::Topic::CloneDisk};
-    for (std::size_t screen = 0; screen < topics.size(); ++screen) {
-        if (isDown(static_cast<Screen>(screen)))
-            return topics[screen];
-    }
-    return links::Topic::Window;
+    return m_screen ? topics[static_cast<std::size_t>(*m_screen)] : links::Topic::Window;
 }

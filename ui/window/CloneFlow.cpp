@@ -142,7 +142,7 @@ void MainWindow::OnCloningFinish()
     DriveCombobox->setEnabled(true);
     enableNavigation();
     const bool left = !m_pCloneDiskPage->isVisible();
-    CloneButton->setVisible(!left && !isDown(navigation::ScanDiskScreen));
+    CloneButton->setVisible(!left && !isOnShow(navigation::ScanDiskScreen));
     // No disk was read for the screen that somebody went to meanwhile.
     if (left)
         RefreshSelectedDisk();

@@ -39,8 +39,8 @@ void MainWindow::keepAwake()
 
 void MainWindow::showRunningPanel(bool fromYes)
 {
-    const bool scanScreen = isDown(navigation::ScanDiskScreen);
-    if (isDown(navigation::CloneDiskScreen) || (scanScreen && g_Jobs.runs(Job::Clone)))
+    const bool scanScreen = isOnShow(navigation::ScanDiskScreen);
+    if (isOnShow(navigation::CloneDiskScreen) || (scanScreen && g_Jobs.runs(Job::Clone)))
         m_pDestinitionWarning->SetTexts(tr("Clone Disk"),
                                         fromYes ? tr("Clone Running.") : tr("Cloning process running."),
                                         tr("Please halt the clone process to exit."));

@@ -449,7 +449,7 @@ void MainWindow::connectAll()
 void MainWindow::startTemperatureTimer()
 {
     m_pTemperatureTimer = new QTimer(this);
-    if (!isDown(navigation::DiskStatusScreen))
+    if (!isOnShow(navigation::DiskStatusScreen))
         return;
     m_pTemperatureTimer->start(TemperatureInterval);
     connect(m_pTemperatureTimer, &QTimer::timeout, this, &MainWindow::GetSmartTemprature);

@@ -17,6 +17,7 @@
 #include <QSystemTrayIcon>
 
 #include <array>
+#include <optional>
 #include <utility>
 
 class AccessNotice;
@@ -205,7 +206,7 @@ private:
     /// \name Navigation
     /// @{
     MyButton *button(Screen screen) const;
-    bool isDown(Screen screen) const;
+    bool isOnShow(Screen screen) const { return m_screen == screen; }
     void setLook(Screen screen, navigation::Look look);
     void hoverNavigation(Screen screen);
     void leaveNavigation(Screen screen);
@@ -299,6 +300,7 @@ private:
     /// @}
 
     std::array<MyButton *, navigation::ScreenCount> m_apNavigation{};
+    std::optional<Screen> m_screen; ///< the one on show; its button is down
     DiskStatus *m_pDiskStatusPage = nullptr;
     SmartStatus *m_pSmartStatusPage = nullptr;
     DiskPartition *m_pDiskPartitionPage = nullptr;

@@ -20,11 +20,6 @@ MyButton *MainWindow::button(Screen screen) const
     return m_apNavigation[static_cast<std::size_t>(screen)];
 }
 
-bool MainWindow::isDown(Screen screen) const
-{
-    return button(screen)->isDown();
-}
-
 void MainWindow::setLook(Screen screen, Look look)
 {
     button(screen)->setStyleSheet(navigation::styleSheet(screen, look, g_App.m_fScale));
@@ -32,12 +27,12 @@ void MainWindow::setLook(Screen screen, Look look)
 
 void MainWindow::hoverNavigation(Screen screen)
 {
-    setLook(screen, isDown(screen) ? Look::Selected : Look::Hover);
+    setLook(screen, isOnShow(screen) ? Look::Selected : Look::Hover);
 }
 
 void MainWindow::leaveNavigation(Screen screen)
 {
-    setLook(screen, isDown(screen) ? Look::Selected : Look::Normal);
+    setLook(screen, isOnShow(screen) ? Look::Selected : Look::Normal);
 }
 
 void MainWindow::releaseNavigation(Screen screen)
@@ -53,6 +48,7 @@ void MainWindow::setSwitchTarget(Screen screen)
 
 void MainWindow::selectButton(Screen screen)
 {
+    m_screen = screen;
     for (int i = 0; i < navigation::ScreenCount; ++i)
         button(static_cast<Screen>(i))->setDown(i == screen);
     applyLooks();
@@ -106,7 +102,7 @@ void MainWindow::showScreen(Screen screen)
     ScanButton->setVisible(shown.scan);
     const bool cloning = g_Jobs.runs(Job::Clone);
     // The show slot of the clone page can run while a scan holds its own button down.
-    CloneButton->setVisible(shown.clone && !cloning && !isDown(navigation::ScanDiskScreen));
+    CloneButton->setVisible(shown.clone && !cloning && !isOnShow(navigation::ScanDiskScreen));
     // A clone goes on behind another screen, where the button would ask for a scan.
     if (cloning)
         StopButton->setVisible(shown.clone && !g_bAbortJob);
@@ -126,7 +122,7 @@ void MainWindow::showAccess()
     m_pAccessNotice->setVisible(denied);
     for (int i = 0; i < navigation::ScreenCount; ++i) {
         const auto screen = static_cast<Screen>(i);
-        m_apScreens[static_cast<std::size_t>(i)]->setVisible(!denied && isDown(screen));
+        m_apScreens[static_cast<std::size_t>(i)]->setVisible(!denied && isOnShow(screen));
     }
     for (QWidget *idle : std::initializer_list<QWidget *>{DriveCombobox, ScanButton, CloneButton,
                                                           ReportSaveButton, ScreenshotButton})
@@ -187,10 +183,10 @@ void MainWindow::OnSwitchCancel()
 
 void MainWindow::OnStop()
 {
-    if (isDown(navigation::CloneDiskScreen))
+    if (isOnShow(navigation::CloneDiskScreen))
         m_pConfirmation->SetTexts(tr("Stop Clone"), tr("Cloning can not be resumed from the current stage."),
                                   tr("Do you wish to abort the cloning?"));
-    else if (isDown(navigation::ScanDiskScreen))
+    else if (isOnShow(navigation::ScanDiskScreen))
         m_pConfirmation->SetTexts(tr("Stop Scan"), tr("Scan can not be resumed from the current stage."),
                                   tr("Do you wish to abort the scan?"));
     else
@@ -215,6 +211,7 @@ void MainWindow::OnStopConfirm()
     if (m_pCloneDiskPage->isVisible()) {
         setLook(navigation::CloneDiskScreen, Look::Selected);
         button(navigation::CloneDiskScreen)->setDown(true);
+        m_screen = navigation::CloneDiskScreen;
     } else if (g_bStopRequested) {
         StopConfirm();
     }

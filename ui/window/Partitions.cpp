@@ -65,6 +65,6 @@ void MainWindow::addVolumeFrames(const QString &letter, const QString &mark)
 
 void MainWindow::retranslatePartitions()
 {
-    if (isDown(navigation::DiskPartitionScreen))
+    if (isOnShow(navigation::DiskPartitionScreen))
         ShowPartitions(BitLockerMark::Translated);
 }

@@ -124,7 +124,7 @@ void MainWindow::showTestButtons(bool running)
 {
     StopTestButton->hide();
     // A test can outlive its screen, and another one's strip has no such buttons.
-    const bool ended = !running && isDown(navigation::ScanDiskScreen);
+    const bool ended = !running && isOnShow(navigation::ScanDiskScreen);
     if (!running)
         keepAwake();
     ScanButton->setVisible(ended);
@@ -132,12 +132,11 @@ void MainWindow::showTestButtons(bool running)
     BottamLabel->show();
 }
 
-/// A button that is disabled or enabled stays down or up: that is what tells the screen.
+/// A button that is disabled or enabled stays down or up.
 void MainWindow::setNavigationEnabled(Screen screen, bool enabled)
 {
-    const bool down = isDown(screen);
     button(screen)->setEnabled(enabled);
-    button(screen)->setDown(down);
+    button(screen)->setDown(isOnShow(screen));
 }
 
 void MainWindow::enableNavigation()

@@ -107,19 +107,19 @@ void MainWindow::RefreshSelectedDisk()
     if (g_App.m_bAccessDenied)
         return;
     LookUpDisk(DriveCombobox->currentIndex());
-    if (isDown(navigation::DiskStatusScreen)) {
+    if (isOnShow(navigation::DiskStatusScreen)) {
         startRead();
-    } else if (isDown(navigation::SmartStatusScreen)) {
+    } else if (isOnShow(navigation::SmartStatusScreen)) {
         m_pSmartStatusPage->m_pAttributeTree->clear();
         startRead();
-    } else if (isDown(navigation::ScanDiskScreen)) {
+    } else if (isOnShow(navigation::ScanDiskScreen)) {
         refreshScanPage();
-    } else if (isDown(navigation::CloneDiskScreen)) {
+    } else if (isOnShow(navigation::CloneDiskScreen)) {
         selectCloneArgument();
         refreshClonePage();
         if (startargument::asksForClone(g_strStartArgument))
             OnCloneDiskPressImage();
-    } else if (isDown(navigation::DiskPartitionScreen)) {
+    } else if (isOnShow(navigation::DiskPartitionScreen)) {
         m_pDiskPartitionPage->FillPartitionHeader();
         ShowPartitions(BitLockerMark::AsWritten);
     }
@@ -182,9 +182,9 @@ void MainWindow::OnInitializeSmart()
         return;
     prepareLogFolder();
     if (*disk == currentComboDisk()) {
-        if (isDown(navigation::SmartStatusScreen))
+        if (isOnShow(navigation::SmartStatusScreen))
             initializeSmartStatus();
-        else if (isDown(navigation::DiskStatusScreen))
+        else if (isOnShow(navigation::DiskStatusScreen))
             initializeDiskStatus();
     }
     updateReportButtons();
@@ -321,7 +321,7 @@ void MainWindow::GetSmartTemprature()
     // Reads only while Disk Partition shows, although the tile it writes lies on another screen. A read that
     // is under way has the file; the next minute comes.
     if (m_bRefreshing || g_App.m_bAccessDenied || m_smartThread.isReading() ||
-        !isDown(navigation::DiskPartitionScreen))
+        !isOnShow(navigation::DiskPartitionScreen))
         return;
     const QString unit = SettingsStore().text(key::TempValue);
     RefreshTemperatureReport(currentComboDisk());
