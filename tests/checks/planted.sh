@@ -29,7 +29,7 @@ manual() {
 # A tree in which nothing is wrong.
 sound() {
     rm -rf "${tree:?}"/*
-    mkdir -p "$tree"/{platform,state,inventory,smart,scan,clone,update,reports,ui/forms,demo}
+    mkdir -p "$tree"/{platform,app,state,inventory,smart,scan,clone,update,reports,ui/forms,demo}
     mkdir -p "$tree"/{resources/translations,help/images}
     mkdir -p "$tree"/tests/{checks,data}
     cp "$root/.clang-format" "$tree"
