@@ -12,6 +12,3 @@ struct DiskStatusMetrics {
     int verdictValue;
     int performanceTitleHeight;
 };
-
-/// By LanguageType.
-const DiskStatusMetrics &diskStatusMetrics(int languageType);

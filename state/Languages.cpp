@@ -9,18 +9,78 @@
 namespace languages
 {
 
+namespace
+{
+
+constexpr DiskStatusMetrics CommonMetrics = {120, 190, 120, 140, 120, 140, 120, 170, 20};
+
+} // namespace
+
 const std::array<Language, LanguageCount> table = {{
-    {0, &GlobalApp::m_bEnglish, "EN", "qt_en", "LANG_EN", QT_TRANSLATE_NOOP("MainWindow", "English"), 0},
-    {1, &GlobalApp::m_bGerman, "DE", "qt_de", "LANG_DE", QT_TRANSLATE_NOOP("MainWindow", "German"), 1},
-    {2, &GlobalApp::m_bFrench, "FR", "qt_fr", "LANG_FR", QT_TRANSLATE_NOOP("MainWindow", "French"), 2},
-    {3, &GlobalApp::m_bItalian, "IT", "qt_it", "LANG_IT", QT_TRANSLATE_NOOP("MainWindow", "Italian"), 3},
-    {4, &GlobalApp::m_bSpanish, "ES", "qt_es", "LANG_ES", QT_TRANSLATE_NOOP("MainWindow", "Spanish"), 4},
-    {5, &GlobalApp::m_bJapanese, "JA", "qt_ja", "LANG_JA", QT_TRANSLATE_NOOP("MainWindow", "Japanese"), 5},
-    {6, &GlobalApp::m_bChinese, "CN", "qt_cn", "LANG_CN", QT_TRANSLATE_NOOP("MainWindow", "Chinese"), 6},
-    {7, &GlobalApp::m_bKorean, "KO", "qt_ko", "LANG_KO", QT_TRANSLATE_NOOP("MainWindow", "Korean"), 7},
-    {8, &GlobalApp::m_bDutch, "DU", "qt_du", "LANG_DU", QT_TRANSLATE_NOOP("MainWindow", "Dutch"), 8},
-    {9, &GlobalApp::m_bBrazil, "BR", "qt_br", "LANG_BR", QT_TRANSLATE_NOOP("MainWindow", "Brazil"), 9},
-    {10, &GlobalApp::m_bHindi, "HI", "qt_hi", "LANG_HI", QT_TRANSLATE_NOOP("MainWindow", "Hindi"), 10},
+    {LanguageType::English, &GlobalApp::m_bEnglish, "EN", QT_TRANSLATE_NOOP("MainWindow", "English"), true,
+     172, 117, 128, CommonMetrics},
+    {LanguageType::German,
+     &GlobalApp::m_bGerman,
+     "DE",
+     QT_TRANSLATE_NOOP("MainWindow", "German"),
+     true,
+     172,
+     128,
+     128,
+     {185, 190, 130, 140, 130, 140, 130, 170, 25}},
+    {LanguageType::French,
+     &GlobalApp::m_bFrench,
+     "FR",
+     QT_TRANSLATE_NOOP("MainWindow", "French"),
+     true,
+     172,
+     152,
+     180,
+     {180, 190, 180, 145, 180, 140, 180, 145, 20}},
+    {LanguageType::Italian,
+     &GlobalApp::m_bItalian,
+     "IT",
+     QT_TRANSLATE_NOOP("MainWindow", "Italian"),
+     true,
+     172,
+     117,
+     160,
+     {140, 190, 140, 140, 170, 140, 140, 175, 20}},
+    {LanguageType::Spanish,
+     &GlobalApp::m_bSpanish,
+     "ES",
+     QT_TRANSLATE_NOOP("MainWindow", "Spanish"),
+     true,
+     172,
+     122,
+     128,
+     {140, 190, 140, 140, 200, 140, 140, 150, 20}},
+    {LanguageType::Japanese, &GlobalApp::m_bJapanese, "JA", QT_TRANSLATE_NOOP("MainWindow", "Japanese"), true,
+     180, 117, 128, CommonMetrics},
+    {LanguageType::Chinese, &GlobalApp::m_bChinese, "CN", QT_TRANSLATE_NOOP("MainWindow", "Chinese"), true,
+     172, 117, 128, CommonMetrics},
+    {LanguageType::Korean, &GlobalApp::m_bKorean, "KO", QT_TRANSLATE_NOOP("MainWindow", "Korean"), false, 172,
+     117, 128, CommonMetrics},
+    {LanguageType::Dutch,
+     &GlobalApp::m_bDutch,
+     "DU",
+     QT_TRANSLATE_NOOP("MainWindow", "Dutch"),
+     true,
+     172,
+     117,
+     128,
+     {160, 190, 130, 140, 130, 140, 140, 185, 20}},
+    {LanguageType::Brazil,
+     &GlobalApp::m_bBrazil,
+     "BR",
+     QT_TRANSLATE_NOOP("MainWindow", "Brazil"),
+     true,
+     172,
+     130,
+     128,
+     {160, 190, 150, 140, 175, 140, 150, 165, 20}},
+    {LanguageType::Hindi, &GlobalApp::m_bHindi, "HI", QT_TRANSLATE_NOOP("MainWindow", "Hindi"), false, 172,
+     122, 128, CommonMetrics},
 }};
 
 namespace
@@ -28,12 +88,12 @@ namespace
 
 QTranslator &qtTranslator(const Language &language)
 {
-    return g_App.m_aTranslators[static_cast<std::size_t>(2 * language.type)];
+    return g_App.m_aTranslators[2 * language.index()];
 }
 
 QTranslator &appTranslator(const Language &language)
 {
-    return g_App.m_aTranslators[static_cast<std::size_t>(2 * language.type + 1)];
+    return g_App.m_aTranslators[2 * language.index() + 1];
 }
 
 } // namespace
@@ -55,16 +115,13 @@ QString storedText(const QString &name)
 void setFlag(int type)
 {
     for (const Language &language : table)
-        g_App.*language.flag = language.type == type;
+        g_App.*language.flag = static_cast<int>(language.type) == type;
 }
 
 void setOffered()
 {
-    g_App.m_abLanguageOffered.fill(true);
-    for (const Language &language : table) {
-        if (language.flag == &GlobalApp::m_bChinese)
-            g_App.m_abLanguageOffered[static_cast<std::size_t>(language.offeredIndex)] = false;
-    }
+    for (const Language &language : table)
+        g_App.m_abLanguageOffered[language.index()] = language.type != LanguageType::Chinese;
 }
 
 QString translationFolder(const Language &language)
@@ -79,8 +136,9 @@ void loadTranslators(const Language &language, bool withQt)
     g_strTranslationFolder = translationFolder(language);
     const QString folder = Platform::current().NativePath(g_strTranslationFolder);
     if (withQt)
-        qtTranslator(language).load(QLatin1String(language.qtFile), folder);
-    appTranslator(language).load(QLatin1String(language.appFile), folder);
+        qtTranslator(language).load(QLatin1String("qt_") + QString::fromLatin1(language.folder).toLower(),
+                                    folder);
+    appTranslator(language).load(QLatin1String("LANG_") + QLatin1String(language.folder), folder);
 }
 
 void loadAtStart()
@@ -90,7 +148,7 @@ void loadAtStart()
     loadTranslators(table.front(), false);
     for (const Language &language : table) {
         const bool selected = anyFlag && g_App.*language.flag;
-        if (language.type != 0 && !selected)
+        if (language.type != LanguageType::English && !selected)
             loadTranslators(language);
     }
     loadTranslators(current());
@@ -98,14 +156,14 @@ void loadAtStart()
     QCoreApplication::installTranslator(&appTranslator(current()));
 }
 
-void change(int type)
+void change(LanguageType type)
 {
-    setFlag(type);
+    setFlag(static_cast<int>(type));
     QStringList stores{g_App.m_strSettingsPath};
     if (g_App.m_bWriteSiblingLanguage)
         stores << g_App.m_strSiblingKey1 << g_App.m_strSiblingKey2 << g_App.m_strSiblingKey3;
     for (const QString &path : stores)
-        SettingsStore(path).writeText(key::LanguageType, QString::number(type));
+        SettingsStore(path).writeText(key::LanguageType, QString::number(static_cast<int>(type)));
     for (const Language &language : table) {
         if (language.type == type)
             continue;

@@ -1,23 +1,44 @@
 #pragma once
 
+#include "state/DiskStatusMetrics.h"
 #include "state/GlobalApp.h"
 
 #include <QString>
 
 #include <array>
 
-/// The languages of the program as a table, in the order of the setting LanguageType.
+/// The values of the setting of that name.
+enum class LanguageType {
+    English,
+    German,
+    French,
+    Italian,
+    Spanish,
+    Japanese,
+    Chinese,
+    Korean,
+    Dutch,
+    Brazil,
+    Hindi
+};
+
+/// The languages of the program as a table, in the order of LanguageType: all that goes by language.
 namespace languages
 {
 
 struct Language {
-    int type; ///< value of LanguageType
+    LanguageType type;
     bool GlobalApp::*flag;
     const char *folder;  ///< also the prefix of the language's settings
-    const char *qtFile;  ///< base name of the Qt translation
-    const char *appFile; ///< base name of the application's translation
     const char *text;    ///< in the menus, English
-    int offeredIndex;    ///< place in GlobalApp::m_abLanguageOffered
+    bool ofSecondBrand;  ///< in the menu of the second brand, too
+    int sideWidth;       ///< of the pale strip behind the navigation, in design pixels
+    int reportWidth;     ///< of the button Save Report, in design pixels
+    int screenshotWidth; ///< of the button Screenshot, in design pixels
+    DiskStatusMetrics diskStatus;
+
+    /// Place in GlobalApp::m_abLanguageOffered, and in whatever else goes by LanguageType.
+    std::size_t index() const { return static_cast<std::size_t>(type); }
 };
 
 extern const std::array<Language, LanguageCount> table;
@@ -29,7 +50,7 @@ const Language &current();
 /// only.
 QString storedText(const QString &name);
 
-/// Clears all flags and sets that of `type`; none for a value outside the table.
+/// Clears all flags and sets that of a stored LanguageType; none for a value outside the table.
 void setFlag(int type);
 
 /// Marks which languages the menus offer: all but Chinese, which runs only from a stored setting.
@@ -48,6 +69,6 @@ void loadAtStart();
 /// Changes the language while the program runs: sets its flag, stores the choice as text here and for the
 /// three sibling programs, and swaps the installed translators, which sends every window a LanguageChange.
 /// Choosing the current language again does no harm.
-void change(int type);
+void change(LanguageType type);
 
 } // namespace languages

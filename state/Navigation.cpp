@@ -69,31 +69,4 @@ const ShellButtons &shellButtons(Screen screen)
     return table[static_cast<std::size_t>(screen)];
 }
 
-ReportButtonWidths reportButtonWidths(int languageType)
-{
-    static const std::array<ReportButtonWidths, LanguageCount> table = {{
-        {117, 128}, // English
-        {128, 128}, // German
-        {152, 180}, // French
-        {117, 160}, // Italian
-        {122, 128}, // Spanish
-        {117, 0},   // Japanese
-        {117, 128}, // Chinese
-        {117, 0},   // Korean
-        {117, 128}, // Dutch
-        {130, 128}, // Brazil
-        {122, 128}, // Hindi
-    }};
-    const bool known = languageType >= 0 && languageType < LanguageCount;
-    return table[known ? static_cast<std::size_t>(languageType) : 0];
-}
-
-int sideWidth(int languageType)
-{
-    constexpr int Japanese = 5;
-    constexpr int Design = 172;
-    constexpr int Wide = 180;
-    return languageType == Japanese ? Wide : Design;
-}
-
 } // namespace navigation

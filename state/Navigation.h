@@ -39,16 +39,4 @@ struct ShellButtons {
 
 const ShellButtons &shellButtons(Screen screen);
 
-/// Width in design pixels of the two buttons whose text depends on the language.
-struct ReportButtonWidths {
-    int report;
-    int screenshot; ///< 0: as designed
-};
-
-/// By LanguageType.
-ReportButtonWidths reportButtonWidths(int languageType);
-
-/// Width in design pixels of the pale strip behind the navigation.
-int sideWidth(int languageType);
-
 } // namespace navigation

@@ -44,7 +44,7 @@ QString helpPage(Topic topic)
         if (g_App.m_bKorean)
             return languages::storedText(QStringLiteral("HelpLink_KO"));
     }
-    const QLatin1String code(HelpCodes[static_cast<size_t>(languages::current().type)]);
+    const QLatin1String code(HelpCodes[languages::current().index()]);
     if (code.isEmpty())
         return {};
     const Topic shown = g_App.m_bStandalone ? Topic::DiskStatus : topic;

@@ -1,4 +1,3 @@
-#include "state/DiskStatusMetrics.h"
 #include "state/Globals.h"
 #include "state/Languages.h"
 #include "state/LogFolder.h"
@@ -24,7 +23,6 @@ private slots:
     void missingFilesLeaveEnglish();
     void changeIsKept();
     void navigationSheets();
-    void widths();
     void logFolder();
 };
 
@@ -33,9 +31,8 @@ void tst_Languages::tableIsWhole()
     std::set<QString> folders;
     for (int i = 0; i < LanguageCount; ++i) {
         const languages::Language &language = languages::table[static_cast<std::size_t>(i)];
-        QCOMPARE(language.type, i);
+        QCOMPARE(language.index(), static_cast<std::size_t>(i));
         folders.insert(QLatin1String(language.folder));
-        QCOMPARE(QLatin1String(language.appFile), QLatin1String("LANG_") + QLatin1String(language.folder));
     }
     QCOMPARE(static_cast<int>(folders.size()), LanguageCount);
 }
@@ -63,15 +60,14 @@ void tst_Languages::flagOfType()
     for (const languages::Language &language : languages::table)
         set += g_App.*language.flag ? 1 : 0;
     QCOMPARE(set, flags);
-    QCOMPARE(languages::current().type, current);
+    QCOMPARE(languages::current().type, LanguageType(current));
 }
 
 void tst_Languages::offered()
 {
     languages::setOffered();
     for (const languages::Language &language : languages::table)
-        QCOMPARE(g_App.m_abLanguageOffered[static_cast<std::size_t>(language.offeredIndex)],
-                 language.type != 6);
+        QCOMPARE(g_App.m_abLanguageOffered[language.index()], language.type != LanguageType::Chinese);
 }
 
 void tst_Languages::folders()
@@ -102,8 +98,8 @@ void tst_Languages::changeIsKept()
     g_App.m_strSiblingKey2 = QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\Sibling");
     g_App.m_bWriteSiblingLanguage = true;
     for (const int type : {7, 7, 0, 10}) {
-        languages::change(type);
-        QCOMPARE(languages::current().type, type);
+        languages::change(LanguageType(type));
+        QCOMPARE(languages::current().type, LanguageType(type));
         for (const QString &path : {g_App.m_strSettingsPath, g_App.m_strSiblingKey2}) {
             const QVariant stored = Platform::current().OpenSettings(path)->value(key::LanguageType);
             QCOMPARE(stored.type(), QVariant::String);
@@ -111,7 +107,7 @@ void tst_Languages::changeIsKept()
         }
     }
     g_App.m_bWriteSiblingLanguage = false;
-    languages::change(1);
+    languages::change(LanguageType::German);
     QCOMPARE(Platform::current().OpenSettings(g_App.m_strSiblingKey2)->value(key::LanguageType).toString(),
              QStringLiteral("10"));
     g_App.m_strSiblingKey2.clear();
@@ -132,18 +128,6 @@ void tst_Languages::navigationSheets()
                     "120-DPI/img_ScanDiskHov.png)}QPushButton{Text-align:left}QPushButton {color : "
                     "rgb(42,129,229);}")));
     QVERIFY(!styleSheet(ScanDiskScreen, Look::Hover, 1.3F).contains(QLatin1String("border-image")));
-}
-
-void tst_Languages::widths()
-{
-    QCOMPARE(navigation::reportButtonWidths(2).report, 152);
-    QCOMPARE(navigation::reportButtonWidths(2).screenshot, 180);
-    QCOMPARE(navigation::reportButtonWidths(5).screenshot, 0);
-    QCOMPARE(navigation::sideWidth(5), 180);
-    QCOMPARE(navigation::sideWidth(0), 172);
-    QCOMPARE(diskStatusMetrics(4).startStopName, 200);
-    QCOMPARE(diskStatusMetrics(1).performanceTitleHeight, 25);
-    QCOMPARE(diskStatusMetrics(99).lifeName, 120);
 }
 
 void tst_Languages::logFolder()

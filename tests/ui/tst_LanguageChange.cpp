@@ -170,7 +170,7 @@ void tst_LanguageChange::looksLikeAStartInIt_data()
 {
     QTest::addColumn<int>("type");
     for (const languages::Language &language : languages::table)
-        QTest::newRow(language.text) << language.type;
+        QTest::newRow(language.text) << static_cast<int>(language.type);
 }
 
 void tst_LanguageChange::looksLikeAStartInIt()
@@ -184,8 +184,8 @@ void tst_LanguageChange::looksLikeAStartInIt()
     start((type + 3) % LanguageCount);
     walk();
     for (int change = 1; change <= 20; ++change)
-        languages::change((type + change * 7 + 3) % LanguageCount);
-    languages::change(type);
+        languages::change(LanguageType((type + change * 7 + 3) % LanguageCount));
+    languages::change(LanguageType(type));
     const Look changed = walk();
     QStringList differences;
     for (const QString &place : (QSet<QString>(started.keyBegin(), started.keyEnd()) +

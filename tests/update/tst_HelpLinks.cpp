@@ -42,7 +42,7 @@ void tst_HelpLinks::onePageWhereTheProgramStandsAlone()
 {
     QStringList codes;
     for (const languages::Language &language : languages::table) {
-        languages::setFlag(language.type);
+        languages::setFlag(static_cast<int>(language.type));
         const QString page = links::helpPage(Topic::CloneDisk);
         QCOMPARE(links::helpPage(Topic::Settings), page);
         codes << page.section(QLatin1Char('-'), 5, 5);

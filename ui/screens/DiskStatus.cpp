@@ -204,7 +204,7 @@ void DiskStatus::layOutPage()
 
 void DiskStatus::ApplyLanguageMetrics()
 {
-    const DiskStatusMetrics &metrics = diskStatusMetrics(languages::current().type);
+    const DiskStatusMetrics &metrics = languages::current().diskStatus;
     for (QLabel *tile : {tempratureLbl, PerformanceLbl, HelthLable})
         tile->setFixedSize(style::px(TileWidth), style::px(TileHeight));
     detailedLbl->setFixedHeight(style::px(32));

@@ -21,15 +21,6 @@
 namespace
 {
 
-/// Types of the languages in the order of the menu.
-constexpr std::array<int, LanguageCount> MenuOrder = {0, 1, 2, 3, 4, 5, 6, 8, 9, 10, 7};
-
-/// Types of the languages that the second brand's menu leaves out: Korean and Hindi.
-bool leftOutByBrand(int type)
-{
-    return g_App.m_bKorvaneBrand && (type == 7 || type == 10);
-}
-
 /// Path of a picture for a style sheet; the nearest set where the scale has none of its own.
 QString picture(const QString &file)
 {
@@ -151,14 +142,14 @@ void Settings::BuildLanguageMenu()
         auto *action = new QAction(this);
         action->setCheckable(true);
         action->setObjectName(QLatin1String(language.text));
-        m_apLanguageActions[static_cast<std::size_t>(language.type)] = action;
+        m_apLanguageActions[language.index()] = action;
+        if (g_App.m_abLanguageOffered[language.index()] && (language.ofSecondBrand || !g_App.m_bKorvaneBrand))
+            m_pLanguageMenu->addAction(action);
     }
-    for (const int type : MenuOrder) {
-        const languages::Language &language = languages::table[static_cast<std::size_t>(type)];
-        if (g_App.m_abLanguageOffered[static_cast<std::size_t>(language.offeredIndex)] &&
-            !leftOutByBrand(type))
-            m_pLanguageMenu->addAction(m_apLanguageActions[static_cast<std::size_t>(type)]);
-    }
+    // Korean is the last one of the menu.
+    QAction *korean = m_apLanguageActions[static_cast<std::size_t>(LanguageType::Korean)];
+    if (m_pLanguageMenu->actions().contains(korean))
+        m_pLanguageMenu->addAction(korean);
     checkCurrentLanguage();
     if (g_App.m_bShowLanguageMenu)
         m_pLanguageButton->setMenu(m_pLanguageMenu);
@@ -167,69 +158,13 @@ void Settings::BuildLanguageMenu()
 void Settings::checkCurrentLanguage()
 {
     for (const languages::Language &language : languages::table)
-        m_apLanguageActions[static_cast<std::size_t>(language.type)]->setChecked(&language ==
-                                                                                 &languages::current());
+        m_apLanguageActions[language.index()]->setChecked(&language == &languages::current());
 }
 
-void Settings::changeLanguage(int type)
+void Settings::changeLanguage(LanguageType type)
 {
     languages::change(type);
     checkCurrentLanguage();
-}
-
-void Settings::OnChangeEnglishLanguage()
-{
-    changeLanguage(0);
-}
-
-void Settings::OnChangeGermanLanguage()
-{
-    changeLanguage(1);
-}
-
-void Settings::OnChangeFrenchLanguage()
-{
-    changeLanguage(2);
-}
-
-void Settings::OnChangeItalianLanguage()
-{
-    changeLanguage(3);
-}
-
-void Settings::OnChangeSpanishLanguage()
-{
-    changeLanguage(4);
-}
-
-void Settings::OnChangeJapneaseLanguage()
-{
-    changeLanguage(5);
-}
-
-void Settings::OnChangeChineaseLanguage()
-{
-    changeLanguage(6);
-}
-
-void Settings::OnChangeKoreanLanguage()
-{
-    changeLanguage(7);
-}
-
-void Settings::OnChangeDutchLanguage()
-{
-    changeLanguage(8);
-}
-
-void Settings::OnChangeBrazilLanguage()
-{
-    changeLanguage(9);
-}
-
-void Settings::OnChangeHindiLanguage()
-{
-    changeLanguage(10);
 }
 
 void Settings::translateTexts()
@@ -241,7 +176,7 @@ void Settings::translateTexts()
     for (QPushButton *button : {m_pUpdateButton, m_pHelpButton, m_pLanguageButton})
         button->setAccessibleName(button->toolTip());
     for (const languages::Language &language : languages::table)
-        m_apLanguageActions[static_cast<std::size_t>(language.type)]->setText(
+        m_apLanguageActions[language.index()]->setText(
             QCoreApplication::translate("MainWindow", language.text));
     widenUnitCombo();
 }

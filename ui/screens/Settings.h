@@ -1,6 +1,6 @@
 #pragma once
 
-#include "state/GlobalApp.h"
+#include "state/Languages.h"
 #include "ui/dialogs/DialogFrame.h"
 
 #include <QWidget>
@@ -53,17 +53,17 @@ public slots:
     void OnNoUpdateAvailable();
     /// \name One door for each language, in the order of LanguageType
     /// @{
-    void OnChangeEnglishLanguage();
-    void OnChangeGermanLanguage();
-    void OnChangeFrenchLanguage();
-    void OnChangeItalianLanguage();
-    void OnChangeSpanishLanguage();
-    void OnChangeJapneaseLanguage();
-    void OnChangeChineaseLanguage();
-    void OnChangeKoreanLanguage();
-    void OnChangeDutchLanguage();
-    void OnChangeBrazilLanguage();
-    void OnChangeHindiLanguage();
+    void OnChangeEnglishLanguage() { changeLanguage(LanguageType::English); }
+    void OnChangeGermanLanguage() { changeLanguage(LanguageType::German); }
+    void OnChangeFrenchLanguage() { changeLanguage(LanguageType::French); }
+    void OnChangeItalianLanguage() { changeLanguage(LanguageType::Italian); }
+    void OnChangeSpanishLanguage() { changeLanguage(LanguageType::Spanish); }
+    void OnChangeJapneaseLanguage() { changeLanguage(LanguageType::Japanese); }
+    void OnChangeChineaseLanguage() { changeLanguage(LanguageType::Chinese); }
+    void OnChangeKoreanLanguage() { changeLanguage(LanguageType::Korean); }
+    void OnChangeDutchLanguage() { changeLanguage(LanguageType::Dutch); }
+    void OnChangeBrazilLanguage() { changeLanguage(LanguageType::Brazil); }
+    void OnChangeHindiLanguage() { changeLanguage(LanguageType::Hindi); }
     /// @}
 
 protected:
@@ -73,7 +73,7 @@ private:
     void addHeaderButtons();
     /// Fills the language button's menu with the languages on offer and checks the current one.
     void BuildLanguageMenu();
-    void changeLanguage(int type);
+    void changeLanguage(LanguageType type);
     void checkCurrentLanguage();
     void fillFields();
     void styleFields();

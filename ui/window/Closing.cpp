@@ -104,10 +104,6 @@ void MainWindow::OnMinimized()
     showMinimized();
 }
 
-void MainWindow::OnHideButtons() {}
-
-void MainWindow::SystemTrayQuit() {}
-
 void MainWindow::iconActivated(QSystemTrayIcon::ActivationReason reason)
 {
     if (reason != QSystemTrayIcon::Trigger)

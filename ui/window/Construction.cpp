@@ -319,15 +319,12 @@ void MainWindow::buildToolButtons()
 
 void MainWindow::applyLanguageWidths()
 {
-    const int language = languages::current().type;
-    SideButtonLabel->setFixedWidth(style::px(navigation::sideWidth(language)));
-    const navigation::ReportButtonWidths widths = navigation::reportButtonWidths(language);
-    constexpr int DesignedScreenshotWidth = 128;
+    const languages::Language &language = languages::current();
+    SideButtonLabel->setFixedWidth(style::px(language.sideWidth));
     constexpr int Gap = 10;
     constexpr int RightMargin = 16;
-    ReportSaveButton->setFixedSize(style::px(widths.report), style::px(32));
-    ScreenshotButton->setFixedSize(
-        style::px(widths.screenshot > 0 ? widths.screenshot : DesignedScreenshotWidth), style::px(32));
+    ReportSaveButton->setFixedSize(style::px(language.reportWidth), style::px(32));
+    ScreenshotButton->setFixedSize(style::px(language.screenshotWidth), style::px(32));
     const int y = ReportSaveButton->y();
     ScreenshotButton->move(BottamLabel->width() - style::px(RightMargin) - ScreenshotButton->width(), y);
     ReportSaveButton->move(ScreenshotButton->x() - style::px(Gap) - ReportSaveButton->width(), y);

@@ -109,58 +109,44 @@ public slots:
     void OnShowCloneDisk();
     void OnShowSmartStatus();
     void OnShowSettings();
-    /// \name One door for each language, in the order of LanguageType
-    /// @{
-    void OnChangeEnglishLanguage();
-    void OnChangeGermanLanguage();
-    void OnChangeFrenchLanguage();
-    void OnChangeItalianLanguage();
-    void OnChangeSpanishLanguage();
-    void OnChangeJapneaseLanguage();
-    void OnChangeChineaseLanguage();
-    void OnChangeKoreanLanguage();
-    void OnChangeDutchLanguage();
-    void OnChangeBrazilLanguage();
-    void OnChangeHindiLanguage();
-    /// @}
     void OnOpenHelp();
     void OnMinimized();
     void OnClose();
     void Onyes();
     void OnNo();
-    void OnHideButtons();
+    void OnHideButtons() {}
     void OnCloseSelfTestNotSupported();
     void OnActivatedDriveCombo(int nIndex);
     void OnTargetChangeIndex(int nIndex);
     void OnSourceIndexChange(int nIndex);
     void OnCloseDestinitionWarning();
 
-    void OnShowHoverImage();
-    void OnShowNormalImage();
-    void OnShowPressImage();
-    void OnShowReleaseImageImage();
-    void OnSmartHoverImage();
-    void OnSmartNormalImage();
-    void OnSmartPressImage();
-    void OnSmartReleaseImageImage();
-    void OnDiskPartitionHoverImage();
-    void OnDiskPartitionNormalImage();
-    void OnDiskPartitionPressImage();
-    void OnDiskPartReleaseImageImage();
-    void OnScanDiskHoverImage();
-    void OnScanDiskNormalImage();
-    void OnScanDiskPressImage();
-    void OnScanDiskReleaseImageImage();
-    void OnCloneDiskHoverImage();
-    void OnCloneDiskNormalImage();
-    void OnCloneDiskPressImage();
-    void OnCloneDiskReleaseImageImage();
+    void OnShowHoverImage() { hoverNavigation(navigation::DiskStatusScreen); }
+    void OnShowNormalImage() { leaveNavigation(navigation::DiskStatusScreen); }
+    void OnShowPressImage() { pressNavigation(navigation::DiskStatusScreen); }
+    void OnShowReleaseImageImage() { releaseNavigation(navigation::DiskStatusScreen); }
+    void OnSmartHoverImage() { hoverNavigation(navigation::SmartStatusScreen); }
+    void OnSmartNormalImage() { leaveNavigation(navigation::SmartStatusScreen); }
+    void OnSmartPressImage() { pressNavigation(navigation::SmartStatusScreen); }
+    void OnSmartReleaseImageImage() { releaseNavigation(navigation::SmartStatusScreen); }
+    void OnDiskPartitionHoverImage() { hoverNavigation(navigation::DiskPartitionScreen); }
+    void OnDiskPartitionNormalImage() { leaveNavigation(navigation::DiskPartitionScreen); }
+    void OnDiskPartitionPressImage() { pressNavigation(navigation::DiskPartitionScreen); }
+    void OnDiskPartReleaseImageImage() { releaseNavigation(navigation::DiskPartitionScreen); }
+    void OnScanDiskHoverImage() { hoverNavigation(navigation::ScanDiskScreen); }
+    void OnScanDiskNormalImage() { leaveNavigation(navigation::ScanDiskScreen); }
+    void OnScanDiskPressImage() { pressNavigation(navigation::ScanDiskScreen); }
+    void OnScanDiskReleaseImageImage() { releaseNavigation(navigation::ScanDiskScreen); }
+    void OnCloneDiskHoverImage() { hoverNavigation(navigation::CloneDiskScreen); }
+    void OnCloneDiskNormalImage() { leaveNavigation(navigation::CloneDiskScreen); }
+    void OnCloneDiskPressImage() { pressNavigation(navigation::CloneDiskScreen); }
+    void OnCloneDiskReleaseImageImage() { releaseNavigation(navigation::CloneDiskScreen); }
     void OnBackTestPressImage();
     void OnBackTestHoverImage();
     void OnBackTestReleaseImage();
     void OnBackTestNormalImage();
 
-    void SystemTrayQuit();
+    void SystemTrayQuit() {}
     void iconActivated(QSystemTrayIcon::ActivationReason reason);
     void OnSetSmartSettings();
     void GetSmartTemprature();
