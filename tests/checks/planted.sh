@@ -26,6 +26,14 @@ manual() {
     printf '%s\n' "${text/"${1-}"/"${2-}"}"
 }
 
+# decisions <what becomes> <which other text>: the page of decisions, with one fault at most.
+decisions() {
+    local text=$'# Architecture\n\n## Where is it decided?\n\n| rule | file | function |\n|---|---|---|\n' rule
+    for rule in {1..25}; do text+="| rule $rule | \`smart/Health.cpp\` | \`health\` |"$'\n'; done
+    text+=$'\n## Next\n\n| other | `none` | `none` |\n'
+    printf '%s\n' "${text/"${1-}"/"${2-}"}"
+}
+
 # A tree in which nothing is wrong.
 sound() {
     rm -rf "${tree:?}"/*
@@ -55,6 +63,9 @@ sound() {
     printf '{ "disks": [ 1.5, true, null ] }\n' >"$tree/demo/pc.json"
     printf '{ broken\n' >"$tree/tests/data/broken.json"
     printf 'the A''TA s''pec\n' >"$tree/tests/data/report.txt"
+    mkdir "$tree/docs"
+    printf 'int health(int raw)\n{\n    return rate(raw);\n}\n' >"$tree/smart/Health.cpp"
+    decisions '' '' >"$tree/docs/architecture.md"
 }
 
 # finds <check> <what the complaint has to name> <file> <contents>
@@ -102,6 +113,14 @@ finds well-formed 'demo/empty.json' demo/empty.json ''
 finds lengths 'smart/Long.cpp: 501' smart/Long.cpp "$long\n"
 finds lengths 'no reason' tests/checks/long-files.txt 'smart/Rating.cpp\n'
 finds lengths 'is not above' tests/checks/long-files.txt 'smart/Rating.cpp a table\n'
+
+# misplaces <what the complaint has to name> <what becomes> <which other text>
+misplaces() { finds decisions "$1" docs/architecture.md "$(decisions "$2" "$3")\n"; }
+misplaces 'no file smart/Gone.cpp' 'smart/Health.cpp' 'smart/Gone.cpp'
+misplaces 'no function gone' 'health`' 'health`, `gone`'
+misplaces 'no function rate' 'health` |' 'rate` |'
+misplaces '24 rules in the table' $'\n| rule 25' $'\nrule 25'
+finds decisions 'no function health' smart/Health.cpp '// int health(int raw)\nint rate(int raw);\n'
 
 # mistranslates <what the complaint has to name> <what becomes> <which other text>
 mistranslates() {
