@@ -8,8 +8,8 @@
 #include <atomic>
 #include <thread>
 
-/// Reads the blocks of a source in order, one ahead of who takes them, on a thread of its own. Until it goes
-/// the source is its. g_bAbortJob ends it at the next block.
+/// Reads the blocks of a source in order, on a thread of its own, one block ahead of its caller. While it
+/// lives, nobody else may use the source. g_bAbortJob ends it at the next block.
 class BlockReader
 {
 public:
@@ -20,7 +20,7 @@ public:
         State state = Stopped;
         qint64 position = 0;
         qint64 sectors = 0;   ///< of the source; fewer than a block's at its end
-        char *data = nullptr; ///< a whole block; behind the source's end zeros
+        char *data = nullptr; ///< a whole block; zeros behind the source's end
     };
 
     /// Each buffer has room for a block and has to outlive this object.
@@ -30,8 +30,8 @@ public:
     BlockReader(const BlockReader &) = delete;
     BlockReader &operator=(const BlockReader &) = delete;
 
-    /// Waits for the next block; null behind the last one. The block before goes back to the reader. A block
-    /// of the states SourceGone and Stopped is the last one.
+    /// Gives the previous block back to the reader and waits for the next one. Null behind the last block.
+    /// A block in the state SourceGone or Stopped is the last one.
     const Block *next();
 
 private:

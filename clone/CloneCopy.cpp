@@ -11,7 +11,7 @@ namespace
 
 constexpr qint64 SectorBytes = 512;
 constexpr qint64 PieceSectors = 128; ///< 64 KiB
-/// So many refusals one after the other are looked into: a disk that has died refuses all.
+/// After so many refusals in a row the disk itself is checked: a dead one refuses everything.
 constexpr qint64 SuspectRefusals = 2048;
 
 qint64 roundedUp(qint64 sectors, qint64 unit)
@@ -41,7 +41,7 @@ CloneOutcome CloneCopy::run(const std::array<char *, 2> &buffers)
     return m_outcome;
 }
 
-/// A stop is one for good, even if the request is taken back.
+/// A stop that was seen once holds, even if the request is taken back afterwards.
 bool CloneCopy::goesOn()
 {
     m_stopped = m_stopped || g_bAbortJob;

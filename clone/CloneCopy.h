@@ -6,8 +6,8 @@
 #include <functional>
 #include <vector>
 
-/// The copying of a clone: block by block, and then, where blocks could not be read, these again in small
-/// pieces. g_bAbortJob ends it between two transfers. Sectors are of 512 bytes.
+/// Copies the sectors of a clone: first in blocks, then in small pieces what could not be read as a block.
+/// g_bAbortJob ends it between two transfers. Sectors are of 512 bytes.
 class CloneCopy
 {
 public:
@@ -15,8 +15,8 @@ public:
     struct Listener {
         /// A block, or a sector of a block that is written in pieces; `position` is where the block begins.
         std::function<void(qint64 position)> onStep;
-        /// Behind the first pass: how many of the sectors that were skipped are left, and how many there
-        /// were.
+        /// During the second pass: how many of the skipped sectors are still to be tried, and how many
+        /// there were.
         std::function<void(qint64 left, qint64 skipped)> onSkipped;
     };
 
@@ -32,7 +32,7 @@ private:
     void copyPiece(qint64 position, qint64 sectors, char *buffer);
     /// Tells which of the sectors are unreadable; those are zeros in the buffer.
     std::vector<bool> readSectors(qint64 position, qint64 sectors, char *buffer);
-    /// Writes a stretch, once more in single sectors where that fails. Gives the sectors that are lost.
+    /// Writes a range; if that fails, writes its sectors one by one. Returns the sectors that are lost.
     std::vector<SectorRun> write(qint64 position, char *buffer, qint64 sectors, qint64 room,
                                  const std::function<void()> &onSector);
     std::vector<SectorRun> writeSectors(qint64 position, char *buffer, qint64 sectors,

@@ -19,7 +19,7 @@ struct Unit {
     const char *name;
 };
 
-/// The first one that the time holds is told. Seconds are never reached, as a minute is the least.
+/// The first unit that fits into the time is shown. Seconds never are, as the shortest time is a minute.
 const Unit units[] = {
     {Hour, QT_TRANSLATE_NOOP("CloneDisk", " hours")},
     {Minute, QT_TRANSLATE_NOOP("CloneDisk", " minutes")},

@@ -30,12 +30,12 @@ std::optional<Message> refusal(const Side &source, const Side &destination);
 /// \name Endings. All go into one box, so the last of a run, which is finished(), stands.
 /// @{
 Message failed();
-/// `second` is what the second line reads now: it stays.
+/// `second` is the text of the second line at present; it stays.
 Message aborted(const QString &second);
 Message finished(const CloneOutcome &outcome);
 /// @}
 
-/// How the time that is left reads; never less than a minute. `remaining` in ms, may be negative.
+/// Text of the remaining time; never less than a minute. `remaining` in ms, may be negative.
 QString remainingText(qint64 remaining);
 
 /// Whole percent of `position` in `total`, both in sectors; 0 where there is no total.

@@ -28,14 +28,14 @@ enum class CloneFault {
 struct CloneOutcome {
     enum class End {
         Complete,
-        WithErrors, ///< copied but for what `lost` tells
+        WithErrors, ///< copied, except for what `lost` lists
         Stopped,
         Refused, ///< nothing was written
         Failed   ///< the destination is empty or a part of a copy
     };
     End end = End::Complete;
     CloneFault fault = CloneFault::None;
-    QString detail; ///< what uses the destination, where the fault is of that kind
+    QString detail; ///< what uses the destination, if that is the fault
     LostSectors lost;
     qint64 total = 0; ///< sectors of the source
 };

@@ -10,8 +10,8 @@ namespace
 {
 
 constexpr qint64 SectorBytes = 512;
-constexpr qint64 Looks = 16;               ///< at a disk of which nothing was read yet
-constexpr quint64 Scatter = 2654435761ULL; ///< so that looks fall into no pattern of bad sectors
+constexpr qint64 Looks = 16;               ///< sectors to try on a disk that nothing was read from yet
+constexpr quint64 Scatter = 2654435761ULL; ///< spreads them, so that they meet no pattern of bad sectors
 
 } // namespace
 

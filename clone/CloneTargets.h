@@ -6,8 +6,8 @@
 
 struct DiskDetails;
 
-/// One of the two disks of a clone, open. While it is, its record holds the handle, too. One thread at a
-/// time. Sectors are of 512 bytes.
+/// One of the two disks of a clone, opened. While it is open, the disk's record holds the handle, too. One
+/// thread at a time. Sectors are of 512 bytes.
 class CloneTarget
 {
 public:
@@ -40,11 +40,10 @@ class CloneSource : public CloneTarget
 public:
     using CloneTarget::CloneTarget;
 
-    /// Reads up to `room` sectors, of which `wanted` must come; what is not filled becomes zeros.
+    /// Reads up to `room` sectors; fails if fewer than `wanted` come. The rest of the buffer becomes zeros.
     bool read(qint64 sector, char *buffer, qint64 wanted, qint64 room);
-    /// Whether it still reads anything at all: what could be read before, else sectors all over the disk of
-    /// `total` sectors. To be asked behind a read that failed, as no error tells a dead disk from a bad
-    /// place.
+    /// Whether the disk still reads anything: first tries what it read last, then sectors all over its
+    /// `total`. Ask this after a failed read, as no error code tells a dead disk from a bad place.
     bool answers(qint64 total);
 
 private:
@@ -57,10 +56,11 @@ class CloneDestination : public CloneTarget
 public:
     using CloneTarget::CloneTarget;
 
-    /// Writes up to `room` sectors, of which `wanted` must go. The rest may lie behind its end.
+    /// Writes up to `room` sectors; fails if fewer than `wanted` are written. The rest may lie behind the
+    /// disk's end.
     bool write(qint64 sector, char *buffer, qint64 wanted, qint64 room);
-    /// Whether it still takes anything at all: what it took last, once more. A disk that never took anything
-    /// does not answer.
+    /// Whether the disk still takes anything: writes what it took last once more. False if it never took
+    /// anything.
     bool answers();
     bool everTook() const { return m_goodSector >= 0; }
 

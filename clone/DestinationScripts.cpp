@@ -24,8 +24,8 @@ QString scriptFor(int disk, const QStringList &commands)
     return (first + commands + QStringList{QStringLiteral("EXIT")}).join(QLatin1Char('\n'));
 }
 
-/// Writes a script and gives it as it lies there, so that nobody puts another in its place while the result
-/// lives. Null where it does not come out as it was written.
+/// Writes a script and returns the open file, which nobody can replace while the result lives. Null if the
+/// file does not hold what was written.
 std::unique_ptr<QFile> writeScript(const QString &path, const QByteArray &script)
 {
     QFile file;
@@ -60,7 +60,7 @@ void runScripts(const QStringList &scripts)
     QString path;
     for (const QString &script : scripts) {
         path = runner::freshTempFile(ScriptFile);
-        // What else may lie at that path could name another disk.
+        // A foreign file at that path could name another disk.
         const auto held = writeScript(nativePath(path), script.toLatin1());
         if (!held)
             continue;

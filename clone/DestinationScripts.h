@@ -2,9 +2,9 @@
 
 #include <QStringList>
 
-/// What is done to the destination of a clone before and after the copying, as scripts for the system's
-/// partition tool. Disks are physical numbers. Results are not looked at: the disk is looked at before and
-/// behind, and trouble shows when it is written.
+/// Scripts for the system's partition tool that prepare the destination of a clone, and bring it back
+/// afterwards. Disks go by their physical number. The tool's result is not checked: the disk itself is
+/// checked before and after, and a fault shows when the disk is written.
 namespace destination
 {
 

@@ -3,11 +3,11 @@
 #include "clone/CloneOutcome.h"
 #include "clone/CloneTargets.h"
 
-/// Whether two disks are still those that somebody agreed to.
+/// Whether the two disks are still those that the user agreed to.
 namespace diskcheck
 {
 
-/// What the lists know of a disk, from which the question took its words.
+/// The mark of a disk as the lists have it; the question before the clone named this disk.
 DiskMark listed(const DiskDetails &details);
 
 /// The first thing that is wrong with the disks as they are now: one does not open, or is another one than
@@ -15,7 +15,7 @@ DiskMark listed(const DiskDetails &details);
 CloneFault compare(const CloneTarget &source, const DiskMark &listedSource, const CloneTarget &destination,
                    const DiskMark &listedDestination);
 
-/// What a use of the destination means for a clone.
+/// The fault that a use of the destination stands for.
 CloneFault faultOf(DiskUse::Kind use);
 
 } // namespace diskcheck

@@ -23,7 +23,7 @@ constexpr Arc StartCap{QRect(32, 169, 8, 8), -2160, 2960};
 /// Rounds off its end, where the value is above 99 percent.
 constexpr QRect EndCap(171, 167, 8, 8);
 
-/// What the bar lies in; `side` is the gauge's.
+/// The square around the bar; `side` is the gauge's.
 QRectF baseRect(double side);
 /// The grey arc behind the bar, open at the bottom.
 Arc baseArc(const QRectF &base);
@@ -35,7 +35,7 @@ double sweep(double minimum, double maximum, double value);
 double percent(double minimum, double maximum, double value);
 bool hasEndCap(double percent);
 
-/// What a format asks for, as bits.
+/// The placeholders of a format, as bits.
 enum Placeholder { ValuePlaceholder = 1, PercentPlaceholder = 2, StepsPlaceholder = 4 };
 /// The bits of those that a format holds: "%v", "%p", "%m".
 int placeholders(const QString &format);

@@ -52,8 +52,8 @@ public:
         ++m_tick;
     }
 
-    /// Of sectors that were skipped at first. Tells with each block's worth, and more often where a drive is
-    /// slow.
+    /// Progress of the second pass. Told after as many sectors as a block has, and more often on a slow
+    /// drive.
     void again(qint64 left, qint64 skipped)
     {
         if (!m_againClock.isValid()) {
@@ -108,7 +108,7 @@ void ThreadDriveClone::cloneDisk()
     const DiskNode *onto = g_App.m_pCloneDisk;
     m_pSource = from ? from->pDetails.get() : nullptr;
     m_pDestination = onto ? onto->pDetails.get() : nullptr;
-    // Without both disks there is nothing to erase one for.
+    // Nothing is erased unless both disks are there.
     if (!m_pSource || !m_pDestination) {
         endAsFailed(CloneOutcome::End::Refused, CloneFault::NoDisks);
         return;
@@ -177,14 +177,14 @@ void ThreadDriveClone::copy(const Buffers &buffers)
 void ThreadDriveClone::finish()
 {
     const bool failed = m_outcome.end == CloneOutcome::End::Failed;
-    // A number that may be another disk's by now is left alone.
+    // The number may belong to another disk by now, so nothing is done to it.
     if (!failed || m_outcome.fault == CloneFault::SourceGone)
         destination::runScripts(destination::finishScripts(m_pDestination->nDevice - PhysicalDriveBase));
     if (failed) {
         endAsFailed(m_outcome.end, m_outcome.fault);
         return;
     }
-    // A stop that came too late to stop anything is one, too.
+    // A stop counts even if it came too late to stop anything.
     if (g_bAbortJob)
         m_outcome.end = CloneOutcome::End::Stopped;
     if (m_outcome.end == CloneOutcome::End::Stopped) {

@@ -31,16 +31,16 @@ public:
     explicit ThreadDriveClone(QObject *parent = nullptr);
     ~ThreadDriveClone() override;
 
-    /// How the last run ended. While none is under way.
+    /// How the last run ended. Only to be called while none is under way.
     const CloneOutcome &outcome() const { return m_outcome; }
 
 signals:
-    /// The last one of every run, however it went: outcome() tells how. g_bJobRunning is cleared right behind
-    /// it.
+    /// The last signal of every run; outcome() tells how the run ended. g_bJobRunning is cleared right
+    /// after it.
     void OnCloningFinish();
-    /// With the fourth block, then with every third: where that block begins, and milliseconds that are left
-    /// by an estimate made once from the first block; these may be negative. While blocks are copied that
-    /// could not be read at first, now and then: how much of the disk is copied, and an estimate from these.
+    /// At the fourth block, then at every third one: where the block begins, and the remaining
+    /// milliseconds. They are estimated once, from the first block, and may become negative. In the second
+    /// pass now and then: how much of the disk is copied, and the remaining milliseconds of that pass.
     void SetProgressValue(qlonglong position, qlonglong remaining);
     /// The clone was refused, or failed.
     void CloningFailed();

@@ -6,8 +6,8 @@
 
 #include <functional>
 
-/// Memory on a page boundary for transfers that a raw device does not take as they are: it moves whole
-/// sectors, and only from and to such memory. One thread at a time.
+/// A buffer on a page boundary. A raw device moves whole sectors only, from and to such memory; all other
+/// transfers go through this buffer. One thread at a time.
 class AlignedBuffer
 {
 public:

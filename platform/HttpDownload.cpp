@@ -40,12 +40,12 @@ bool mayAsk(const Job &job, const QUrl &url)
     const bool here = isThisPc(url);
     if (job.reach == Reach::ThisPc && !here)
         return false;
-    // Plain http can be changed on its way, so it is taken only where it has none.
+    // Others could change what comes by plain http, so it is allowed only within this PC.
     return url.scheme() == QLatin1String("https") ||
            (url.scheme() == QLatin1String("http") && here && isThisPc(job.url));
 }
 
-/// Not a QSaveFile: that one has no name before its end, and who waits watches the file grow.
+/// Not a QSaveFile: its file has no known name until the end, but the progress bar watches the file grow.
 bool replace(QFile *partial, const QString &path)
 {
     partial->close();
@@ -59,7 +59,7 @@ qint64 announced(const QNetworkReply &reply)
     return length.isValid() ? length.toLongLong() : -1;
 }
 
-/// The toolkit takes an answer that ends with its headers for complete.
+/// Qt takes an answer that ends right after its headers for complete.
 bool isWhole(const QNetworkReply &reply, qint64 size)
 {
     return announced(reply) < 0 || announced(reply) == size;
@@ -72,7 +72,7 @@ QNetworkRequest requestFor(const Job &job)
     request.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
                          QNetworkRequest::UserVerifiedRedirectPolicy);
     request.setMaximumRedirectsAllowed(MostRedirects);
-    // Compressed, the announced length would be another one than that of the file.
+    // A compressed answer would announce another length than the file's.
     request.setRawHeader("Accept-Encoding", "identity");
     return request;
 }
@@ -83,7 +83,7 @@ qint32 load(const Job &job)
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered))
         return resultDownloadFailure;
     QNetworkAccessManager manager;
-    // What is on this PC does not go over another one.
+    // A request to this PC must not go through a proxy.
     if (isThisPc(job.url))
         manager.setProxy(QNetworkProxy::NoProxy);
     QEventLoop loop;
@@ -144,10 +144,11 @@ qint32 httpDownload(const QString &url, const QString &path, const DownloadLimit
     if (!job->url.isValid() || job->url.host().isEmpty() || !mayAsk(*job, job->url) ||
         limits.milliseconds <= 0)
         return Platform::DownloadRefused;
-    // A thread of its own has the event loop that the transfer needs; the caller's stays untouched.
+    // The transfer needs an event loop. It gets a thread with one, so that the caller's handles no events
+    // meanwhile.
     std::unique_ptr<QThread> worker(QThread::create([job] { job->result = load(*job); }));
     worker->start();
-    // Where the system itself hangs, in the search of a proxy for instance, the thread is left to it.
+    // If the system itself hangs, for instance while it looks for a proxy, the thread is left behind.
     if (!worker->wait(QDeadlineTimer(qint64{limits.milliseconds} + GraceMs)))
         worker.release();
     return job->result;

@@ -11,11 +11,11 @@ enum class Reach { Anywhere, ThisPc };
 /// Whether the host is this very PC, by its loopback address.
 bool isThisPc(const QUrl &url);
 
-/// Loads the page at `url` into the file `path`, replacing it, and waits for the end without handling events
-/// of the calling thread. Only https is asked, and http where `url` is on this PC; that goes for each address
-/// that an answer leads on to. Zero on success, else the negative result code of the system's own download
-/// call, Platform::DownloadRefused where a rule or a limit was in the way; then no file is made and an old
-/// one stays. An answer that ends before its announced length is a failure, one that announces or brings more
-/// than the limit is broken off. Until the end the bytes stand in `path` with ".part" behind it.
+/// Loads the page at `url` into the file `path`, replacing it, and waits for the end without handling
+/// events of the calling thread. Only https is allowed, and http if `url` is on this PC; the same holds for
+/// each redirection. Zero on success, else the negative result code of the system's own download call,
+/// Platform::DownloadRefused if a rule or a limit forbade it; then no file is made and an old one stays. An
+/// answer that ends before its announced length is a failure, one that announces or brings more than the
+/// limit is broken off. Until the end the bytes stand in `path` with ".part" behind it.
 qint32 httpDownload(const QString &url, const QString &path, const DownloadLimits &limits,
                     Reach reach = Reach::Anywhere);

@@ -12,7 +12,7 @@ namespace ownfiles
 QByteArray contents(const QString &path)
 {
     QFile file;
-    // The toolkit takes memory for all that is asked for.
+    // QFile::read() reserves memory for as much as it is asked for.
     return openRegular(&file, path, QIODevice::ReadOnly) ? file.read(std::min(file.size(), MostBytes))
                                                          : QByteArray();
 }

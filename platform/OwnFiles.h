@@ -7,14 +7,14 @@
 namespace ownfiles
 {
 
-/// Most bytes that are taken of a text from outside.
+/// A text from outside is read up to this many bytes.
 constexpr qint64 MostBytes = 16 * 1024 * 1024;
 
 /// Whether this process may do more than an ordinary user: root, or an administrator with all rights.
 bool isElevated();
 
-/// Opens what is a regular file, and only that: not through a link at its end, and no pipe or device, which
-/// could make the caller wait. What may be written is made where it is missing.
+/// Opens a regular file and nothing else: no link, and no pipe or device, which could make the caller wait.
+/// A file that is opened for writing is made if it is missing.
 bool openRegular(QFile *file, const QString &path, QIODevice::OpenMode mode);
 
 /// Makes a file for this user alone and opens it for writing. False where something of that name is there
@@ -33,8 +33,8 @@ QByteArray contents(const QString &path);
 /// says why it is not to be used: somebody else could change it, or it cannot be made. Empty if all is well.
 QString makeFolder(const QString &path);
 
-/// What on the way to `path`, itself included, somebody else could change: one line that names the part and
-/// the reason, empty if there is nothing. What is missing yet does not count.
+/// One line that names a part of `path`, the last one included, that another user could change, and why;
+/// empty if there is none. Parts that are still missing do not count.
 QString strangerOn(const QString &path);
 
 /// The same of a folder with all that lies below it. Here it counts, too, where somebody else may only add to

@@ -82,14 +82,14 @@ public:
                                  quint32 outSize, quint32 *returned) = 0;
     /// Returns when all that was written lies on the medium. False where the device does not confirm that.
     virtual bool FlushFileBuffers(RawHandle handle) = 0;
-    /// Whether the device or its medium is no longer there: pulled out, switched off, or another one by now.
-    /// Asks the system, not the medium, so that it takes no time; to be asked behind a transfer that failed.
+    /// Whether the device or its medium is no longer there: pulled out, switched off, or replaced by
+    /// another one. Asks the system, not the medium, so it is quick. To be called after a failed transfer.
     virtual bool IsGone(RawHandle handle) = 0;
     virtual void CloseHandle(RawHandle handle) = 0;
-    /// Whether the device is there and does not open for reading and writing for want of rights alone.
+    /// Whether the device is there, and only missing rights keep it from opening for reading and writing.
     virtual bool IsAccessDenied(const QString &) { return false; }
-    /// Takes the volumes of a physical disk out of the system before it is erased, and tells what uses it all
-    /// the same. Nothing is written. Free where the system's partition tool sees to all that itself.
+    /// Unmounts the volumes of a physical disk before it is erased, and tells what still uses the disk.
+    /// Writes nothing. Always Free where the system's partition tool does this by itself.
     virtual DiskUse DismountDisk(int /*number*/) { return {}; }
     /// @}
 
@@ -111,15 +111,15 @@ public:
     /// Each element of `line` is one character as the process creation would get it. False if the interpreter
     /// could not be started; the command's own exit code is not told.
     virtual bool CreateProcessAndWait(const std::wstring &line, bool hidden) = 0;
-    /// The same in a console that shows, for a given time: what still runs then is ended with all that it
-    /// started, and false is the answer. Where no programs are started for a command line, the tool keeps a
-    /// limit of its own.
+    /// The same in a visible console and with a time limit: what still runs then is ended, with all that it
+    /// started, and the result is false. A platform that carries out command lines by itself ignores the
+    /// limit; its tools have their own.
     virtual bool CreateProcessAndWaitFor(const std::wstring &line, qint32 milliseconds)
     {
         (void)milliseconds;
         return CreateProcessAndWait(line, false);
     }
-    /// How the window of what is opened shows. Only Windows tells it to programs.
+    /// How the window of an opened program shows. Used on Windows only.
     enum class Show { Normal, Maximised };
     /// Opens a file, program, page or mail address with what the desktop has for it. Returns at once.
     virtual bool ShellExecuteW(const QString &file, const QString &parameters, const QString &verb,
@@ -144,24 +144,25 @@ public:
     /// of an administrator, other programs of its user count as others. Full path in ASCII without blanks,
     /// empty where none can be made. The caller removes it.
     virtual QString MakePrivateFolder(const QString &name) = 0;
-    /// Opens a regular file that nobody else could have written, for reading. While the result lives it is
-    /// not changed or replaced, as far as the system can hold it. Null where there is no such file.
+    /// Opens a regular file that nobody else could have written, for reading. While the result lives nobody
+    /// can change or replace the file, as far as the system can prevent it. Null where there is no such
+    /// file.
     virtual std::unique_ptr<QFile> HoldFile(const QString &path) = 0;
-    /// The process works in `folder` from here on, so that programs named without a folder are found there
-    /// first. Nothing where no program is looked for in the folder that a process works in.
+    /// Makes `folder` the working folder, so that programs named without a folder are found there first.
+    /// Does nothing on systems that do not look for programs in the working folder.
     virtual void SetCurrentDirectoryW(const QString &folder) { Q_UNUSED(folder) }
     /// A path as this platform writes it: the program composes paths with backslashes.
     virtual QString NativePath(const QString &path) const = 0;
-    /// The command interpreter that lines begin with: the system's own, with what it has to be told first.
-    /// The variable COMSPEC is not asked, as every program of the user can set it.
+    /// The begin of a command line: the system's own interpreter with its switches. The variable COMSPEC is
+    /// not used, as any program of the user can set it.
     virtual QByteArray CommandInterpreter();
-    /// Whether this is the only instance of this user, and on this PC, that took `key`. It stays taken until
-    /// the process ends, however it ends; no other user can take it. To be called once.
+    /// True if no other process of this user on this PC has taken `key`. It stays taken until this process
+    /// ends, even by a crash; no other user can take it. To be called once.
     virtual bool TakeInstance(const QString & /*key*/) { return true; }
     /// A command line that starts this program with the rights to open raw disks, for people to copy; empty
     /// where the desktop has a menu entry for that.
     virtual QString AdministratorCommand() { return QString(); }
-    /// The process is about to end without running destructors: what must not stay behind goes now.
+    /// To be called before the process ends without running destructors: removes what must not stay behind.
     virtual void Leave() {}
     /// The operating system's own name, version and machine word for the About box.
     virtual QString OperatingSystemName() = 0;
@@ -176,7 +177,7 @@ public:
     /// code of the system call.
     virtual qint32 URLDownloadToFileW(const QString &url, const QString &path,
                                       const DownloadLimits &limits) = 0;
-    /// A result of it: the address may not be asked, or what came went beyond the limits.
+    /// A result of the download: the address is not allowed, or the answer went beyond the limits.
     static constexpr qint32 DownloadRefused = static_cast<qint32>(0x80004004u);
     /// A fixed pause of the program.
     virtual void Sleep(quint32 milliseconds) = 0;
@@ -184,7 +185,7 @@ public:
 
     /// \name Volume arrival and removal
     /// @{
-    /// Null on a platform that tells by window message. Owned by the platform. Main thread only.
+    /// Null on a platform that tells of volumes by window message. Owned by the platform. Main thread only.
     virtual DeviceNotifier *deviceNotifier() = 0;
     /// What a native window message says, if it is a device message.
     virtual std::optional<DeviceChange> decodeDeviceMessage(const QByteArray &eventType, void *message) = 0;

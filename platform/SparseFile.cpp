@@ -29,7 +29,7 @@ HANDLE handleOf(const QFile &file)
     return reinterpret_cast<HANDLE>(_get_osfhandle(file.handle()));
 }
 
-/// QFile::size() asks for all that the system knows of the file and its volume, at every transfer.
+/// QFile::size() asks the system for everything about the file and its volume: too slow for every transfer.
 qint64 sizeOf(const QFile &file)
 {
     LARGE_INTEGER size{};
@@ -101,7 +101,7 @@ bool nextData(const QFile &file, qint64 from, qint64 size, qint64 *begin, qint64
 
 bool isZero(const char *data, qint64 bytes)
 {
-    // Comparing the block with itself, shifted by one byte, runs at memory speed.
+    // The first byte is zero and each byte equals the next one: memcmp checks that at the speed of memory.
     return bytes > 0 && data[0] == 0 && std::memcmp(data, data + 1, static_cast<std::size_t>(bytes - 1)) == 0;
 }
 
@@ -110,8 +110,8 @@ bool writeAt(QFile &file, qint64 offset, const char *data, qint64 bytes)
     return file.seek(offset) && file.write(data, bytes) == bytes;
 }
 
-/// Copies one stretch to where it is in the source plus `shift`; blocks of zeros are left out, as the target
-/// is one hole.
+/// Copies one stretch to its place in the source plus `shift`. Blocks of zeros are skipped, as the target
+/// is a hole already.
 bool copyStretch(QFile &from, QFile &to, qint64 begin, qint64 end, qint64 shift)
 {
     QByteArray buffer(static_cast<int>(granule * 16), Qt::Uninitialized);

@@ -10,15 +10,15 @@ namespace sparse
 /// Makes the file, or cuts or extends it, so that it has `size` bytes; what is added is a hole.
 bool resize(const QString &path, qint64 size);
 
-/// Copies the first `size` bytes of a file; holes stay holes, and what the source lacks becomes one. The
-/// target appears only when the copy is whole.
+/// Copies the first `size` bytes of a file. Holes stay holes; a part behind the source's end becomes one.
+/// The target appears only when the copy is whole.
 bool copy(const QString &source, const QString &target, qint64 size);
 
 /// Copies a whole file to an offset of another, where that must be a hole; holes stay holes.
 bool copyInto(const QString &source, const QString &target, qint64 offset);
 
-/// Reads exactly `bytes` at an offset. A stretch without data is not read, only told: holes cost next to
-/// nothing. What lies behind the end of the file reads as a hole, too.
+/// Reads exactly `bytes` at an offset. A range that lies in a hole is filled with zeros and not read, so
+/// holes cost next to nothing. Behind the end of the file there are zeros, too.
 bool read(QFile &file, qint64 offset, char *data, qint64 bytes);
 
 /// Writes at an offset; long runs of zeros become holes where the file system can do that. The file must be
