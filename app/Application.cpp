@@ -27,8 +27,8 @@ const QString InstanceKey = QStringLiteral("7c41e9d2-a06b-4f37-66mm-d3f02a91c5b8
 
 void substituteFonts()
 {
-    // What stands behind the first family found gives the letters that it lacks. Without a family for Chinese
-    // the system takes any, often with the shapes of Japanese.
+    // The families behind the first one supply the letters that it lacks. Without one for Chinese the
+    // system takes any, often with Japanese shapes.
     const QStringList chinese =
         g_App.m_bChinese ? QStringList{QStringLiteral("Microsoft YaHei"), QStringLiteral("Noto Sans CJK SC")}
                          : QStringList();
@@ -115,7 +115,7 @@ void forgetTool()
     std::exit(0);
 }
 
-/// Without a temp folder no tool could be asked.
+/// Without a temp folder no tool can be run.
 [[noreturn]] void refuseToStart()
 {
     QMessageBox::critical(

@@ -59,7 +59,8 @@ QWaitClass::QWaitClass()
     InitTextLabel->setStyleSheet(QStringLiteral("QLabel { color : black;}"));
     InitTextLabel->setFont(style::font(10));
     startFadeIn();
-    // Where a window manager puts a splash is no place for the main window to go by.
+    // The main window takes its place from the splash, so a place that the window manager chose will not
+    // do.
     style::centreOn(this, style::availableArea(QCursor::pos()));
     if (DeviceNotifier *notifier = Platform::current().deviceNotifier())
         connect(notifier, &DeviceNotifier::deviceChange, this, &QWaitClass::onDeviceChange);
@@ -190,7 +191,8 @@ void QWaitClass::onDeviceChange(quint32 event, quint32 deviceType)
         return;
     m_bDeviceChanged = true;
     if (g_bJobRunning) {
-        // What has come waits for the next load. What has gone is still in the lists.
+        // A volume that came can wait for the next load. One that went is still in the lists: they are
+        // stale.
         g_bListsStale = g_bListsStale || event == DeviceChange::RemoveComplete;
         return;
     }

@@ -8,8 +8,8 @@ int main(int argc, char **argv)
 {
     prepareNativeProcess();
     const int code = runApplication(argc, argv);
-    // A worker may still be waiting for a tool, and nobody waits for it: what it uses must outlive it, so the
-    // process ends without the destructors of the static objects.
+    // A worker thread may still be waiting for a tool, and the program does not wait for it. So the process
+    // ends without the destructors of the static objects that the thread uses.
     Platform::current().Leave();
     std::fflush(nullptr);
     std::_Exit(code);

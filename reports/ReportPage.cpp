@@ -65,7 +65,7 @@ struct Layout {
     int firstRowY;
 };
 
-/// The texts stand among those of the window that the report is saved from.
+/// The texts are translated in the context of the window that the report is saved from.
 struct Texts {
     Q_DECLARE_TR_FUNCTIONS(MainWindow)
 };

@@ -15,7 +15,7 @@
 namespace
 {
 
-/// The texts stand among those of the window that the report is saved from.
+/// The texts are translated in the context of the window that the report is saved from.
 struct Texts {
     Q_DECLARE_TR_FUNCTIONS(MainWindow)
 };
@@ -36,7 +36,7 @@ SmartReport::Row ataRow(const SmartAttributeRecord &record)
     const QString key = keyOf(record.AttributeName.text());
     const QString raw = record.RawValue.text();
     const bool failed = reportStatusFailed(record);
-    // Red begins behind the word itself, and the raw value has a rule of its own.
+    // The status word stays black; the numbers behind it are red. The raw value has a rule of its own.
     return {{QString::number(record.Id)},
             {ataReportName(key, record.Id)},
             {failed ? Texts::tr("Failed") : Texts::tr("OK")},

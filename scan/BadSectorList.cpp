@@ -34,7 +34,7 @@ void BadSectorList::clear()
     m_sectors.store(0, std::memory_order_release);
     m_lastRun = nullptr;
     m_tail = nullptr;
-    // One block after the other: a chain that frees itself would use the stack for its length.
+    // Frees one block after the other: a chain that freed itself would need more stack the longer it is.
     while (m_head)
         m_head = std::move(m_head->next);
 }

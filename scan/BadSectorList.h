@@ -42,7 +42,7 @@ public:
             for (std::size_t i = 0; i < RunsPerBlock && left > 0; ++i, --left)
                 visit(block->runs[i].first, block->runs[i].count.load(std::memory_order_acquire));
             if (left == 0)
-                break; // the link behind it may be being made
+                break; // another thread may be writing the link to the next block
         }
     }
 

@@ -28,7 +28,7 @@ public:
         if (cell >= 0 && cell < m_cells.size())
             m_cells[static_cast<int>(cell)] = state;
     }
-    /// From `first` up to and without `end`.
+    /// From `first` up to, not including, `end`.
     void fill(qint64 first, qint64 end, Cell state)
     {
         const qint64 last = qMin<qint64>(end, m_cells.size());
@@ -50,7 +50,7 @@ qint64 roundedUp(qint64 value, qint64 unit)
 
 Metrics metrics(float scaleFactor)
 {
-    // One cell has room even on a display that is told to have next to no dots.
+    // At least one pixel, even if a display claims to have almost no dots per inch.
     const auto px = [scaleFactor](int length) { return qMax(1, scale::scaled(length, scaleFactor)); };
     return {px(20), px(500), px(320), px(20), px(25)};
 }
@@ -75,7 +75,7 @@ QVector<Cell> cells(const Metrics &sizes, qint64 total, qint64 position, const B
 
     const qint64 processed = position / perCell;
     picture.fill(0, processed, Cell::Processed);
-    // The last row of a disk whose cells do not fill it is closed.
+    // At the disk's end the last row is filled, even if the disk has no cells for all of it.
     if (position == total)
         picture.fill(processed, roundedUp(processed, sizes.columns()), Cell::Processed);
     else

@@ -117,7 +117,7 @@ void QScanDriveThread::run()
     g_bScanBegun = false;
     g_bJobRunning = true;
     m_nSectorSize = SectorSize;
-    // What became of the disk of another scan says nothing about this one's.
+    // The flags of the last scan say nothing about this disk.
     g_bScanFailed = false;
     g_bScanDiskGone = false;
     if (!g_bAbortJob)
@@ -199,7 +199,7 @@ bool QScanDriveThread::read(qint64 sector, char *buffer, quint32 bytes)
     quint32 filled = 0;
     if (!ReadWriteSectors(m_nDrive, static_cast<quint64>(sector), buffer, bytes, m_handle, false, &filled))
         return false;
-    // What a short read leaves of the buffer is zero afterwards.
+    // The part of the buffer that a short read does not fill becomes zero.
     std::memset(buffer + filled, 0, bytes - filled);
     m_nGoodSector = sector;
     return true;
@@ -220,8 +220,8 @@ void QScanDriveThread::narrowDown(qint64 position, qint64 sectors)
         g_bScanDiskGone = true;
         return;
     }
-    // The bound belongs to the range: the sector behind the chunk is probed too, and a bad one there is found
-    // again with its own chunk.
+    // The end is included: the sector behind the chunk is read as well. If it is bad it is found again with
+    // its own chunk.
     for (qint64 sector = position; sector <= position + sectors && !g_bAbortJob && !g_bScanDiskGone;
          ++sector) {
         const bool bad = !read(sector, probe, SectorSize);
@@ -232,8 +232,7 @@ void QScanDriveThread::narrowDown(qint64 position, qint64 sectors)
                 m_found.append({sector, 1});
             uncounted = g_bAbortJob ? 1 : 0;
         }
-        // The clock costs a good part of what a quick read costs: a stretch of these is looked at now and
-        // then.
+        // Asking for the time takes nearly as long as a quick read, so it is not done after each of these.
         if (bad != wasBad)
             readsPerLook = 1;
         wasBad = bad;
@@ -279,14 +278,13 @@ bool QScanDriveThread::isStillThere()
         return true;
     if (m_nGoodSector < 0 || read(m_nGoodSector, probe, SectorSize))
         return true;
-    // What could be read a moment ago is refused as well. A disk that was pulled out does so before the
-    // system has noticed; one that is still there after a while has failed altogether, and all its sectors
-    // are bad.
+    // The disk refuses a sector that it could read a moment ago. If it was pulled out, the system soon
+    // notices. If it is still there after a while, it has failed altogether, and all its sectors are bad.
     for (int look = 0; look < PartingLooks; ++look) {
         msleep(PartingMs / PartingLooks);
         if (platform.IsGone(m_handle))
             return false;
-        // Nobody waits any longer, and nothing is known of what was refused last.
+        // A stop was asked for, and it is not known whether the last refusals were bad sectors.
         if (g_bAbortJob) {
             m_found.clear();
             return true;
@@ -298,9 +296,9 @@ bool QScanDriveThread::isStillThere()
 
 void QScanDriveThread::tellCounts(qlonglong first, qlonglong last)
 {
-    // One event is on its way at a time. A disk that refuses everything does so faster than a window can show
-    // it, and a queue without end would take all memory and every click. Nobody waits for an event loop that
-    // stands still.
+    // One event is on its way at a time. A dead disk refuses sectors faster than a window can show them,
+    // and an endless queue would fill the memory and hold up every click. An event loop that stands still
+    // is not waited for.
     qlonglong heard = m_nHeard;
     int waited = heard == m_nStoodStillAt ? PatienceMs : 0;
     while (m_nEventsOut > 0 && waited < PatienceMs && !g_bAbortJob) {

@@ -15,8 +15,8 @@ struct DiskNode;
 
 /// Reads the selected disk (g_App.m_pCurrentDisk) from sector 0 on and collects what cannot be read in
 /// g_BadSectors. Lives on the main thread and is started anew for each scan; set g_bAbortJob to end one.
-/// Connect the signals before a start. All come from the scan's own thread but ExactBadSectorCount, which the
-/// thread that this object lives on tells, in its place among them.
+/// Connect the signals before a start. All come from the scan's own thread, except ExactBadSectorCount: the
+/// thread that this object lives on emits it, in the right order among the others.
 class QScanDriveThread : public QThread
 {
     Q_OBJECT
@@ -29,7 +29,7 @@ public:
 
     /// Starts a scan of the selected disk over the range set before; `disk` is not looked at. Waits for the
     /// end of a run that is under way. A thread that has not ended by then gets g_bAbortJob instead of a
-    /// start. The refresh of the disk lists stays away from the moment of the call on (g_bJobRunning).
+    /// start. From this call on no refresh of the disk lists starts (g_bJobRunning).
     void StartScan(DiskNode *disk, int mode);
 
     /// The sectors to scan are 0 to `end` - `start`. Waits for the end of a run that is under way.
@@ -72,12 +72,12 @@ private:
     bool read(qint64 sector, char *buffer, quint32 bytes);
     /// Reads the sectors of a chunk that failed one by one.
     void narrowDown(qint64 position, qint64 sectors);
-    /// Lists and tells what was found since the last look at the disk, but for the last `uncounted` of it,
-    /// which are only listed. A disk that has gone ends the scan instead: what it refused says nothing about
-    /// it.
+    /// Adds the bad sectors found since the last call to the list and tells their count; the last
+    /// `uncounted` of them are listed only. If the disk has gone the scan ends instead: its refusals were
+    /// no bad sectors.
     void takeFound(int uncounted);
     bool isStillThere();
-    /// Has the receivers' thread tell the counts from `first` to `last`.
+    /// Makes the receivers' thread emit the counts from `first` to `last`.
     void tellCounts(qlonglong first, qlonglong last);
 
     QMutex m_mutex; ///< held by a whole run
@@ -99,5 +99,5 @@ private:
 
     std::atomic<int> m_nEventsOut{0};   ///< counts on their way to the receivers' thread
     std::atomic<qlonglong> m_nHeard{0}; ///< the count that it told last
-    qlonglong m_nStoodStillAt = -1;     ///< the same, where it was given up waiting for
+    qlonglong m_nStoodStillAt = -1;     ///< the count at which waiting for that thread was given up
 };

@@ -4,13 +4,13 @@
 
 #include <optional>
 
-/// The times of a surface scan: how long it runs, and how long it will run as the first chunk has it. Main
-/// thread only. `elapsed` is milliseconds since the scan began.
+/// The times of a surface scan: how long it has run, and how long it will run, estimated from the first
+/// chunk. Main thread only. `elapsed` is milliseconds since the scan began.
 class ScanClock
 {
 public:
-    /// The first chunk took that long: the whole scan will take it for as many sectors of `endSector`. Never
-    /// corrected afterwards.
+    /// Estimates the whole scan of `endSector` sectors from its first chunk, of which `sectors` took
+    /// `elapsed`. Never corrected afterwards.
     void takeFirstChunk(qint64 sectors, qint64 endSector, qint64 elapsed);
 
     /// From here on there is no estimate.

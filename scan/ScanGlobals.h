@@ -7,7 +7,7 @@
 /// The state of a surface scan, which the scan thread, the Scan Disk page and the block map share. It
 /// outlives the thread. g_bAbortJob and g_bJobRunning are in state/Globals.h. Sectors are of 512 bytes.
 
-constexpr qint64 ScanBlockCount = 400; ///< the disk is told in so many blocks, for progress and for the map
+constexpr qint64 ScanBlockCount = 400; ///< progress and map divide the disk into so many blocks
 
 /// The bad sectors of the last scan. Emptied at the start of a scan and when the user leaves the page.
 inline BadSectorList g_BadSectors;

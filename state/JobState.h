@@ -27,7 +27,7 @@ public:
     void stop();
     /// Its results are not wanted any more. The thread ends by itself.
     void giveUp() { g_bAbortJob = true; }
-    /// He wants it to go on after all.
+    /// The user takes the stop back.
     void withdrawStop() { g_bAbortJob = false; }
 
     /// \name Results: they show until somebody goes on to another screen

@@ -33,7 +33,7 @@ bool fetchVersions(const QString &link)
 
 void removeVersions()
 {
-    // Without it, what lies in the folder may be an installer on its way.
+    // Without a file of versions, the folder may hold an installer that is being loaded.
     if (!g_strUpdateFile.isEmpty())
         removeLeftovers();
     g_strUpdateFile.clear();

@@ -50,7 +50,7 @@ void fetchByConsole(const QString &url, const QString &path, qint32 milliseconds
         return;
     Platform &platform = Platform::current();
     const QString begin = QString::fromUtf8(platform.CommandInterpreter()) + QLatin1String(" /c ");
-    // The service behind the tool goes on with its job when nobody waits any more.
+    // The service behind the tool would go on with the job, so the job is cancelled.
     if (!platform.CreateProcessAndWaitFor((begin + command).toStdWString(), milliseconds - CancelMs))
         platform.CreateProcessAndWaitFor(
             (begin + transferTool() + QLatin1String(" /cancel myDownloadJob")).toStdWString(), CancelMs);
@@ -73,7 +73,7 @@ QString fetch(const QString &url, const QString &name, const DownloadLimits &lim
         return QString();
     const QString path = nativePath(folder + QLatin1Char('\\') + name);
     const qint32 result = Platform::current().URLDownloadToFileW(url, path, limits);
-    // What a rule or a limit was in the way of is not asked for in another way.
+    // What a rule or a limit forbade is not tried in another way.
     if (result != 0 && result != Platform::DownloadRefused)
         fetchByConsole(url, path, static_cast<qint32>(limits.milliseconds - clock.elapsed()));
     const QFileInfo file(path);
@@ -85,7 +85,7 @@ QString fetch(const QString &url, const QString &name, const DownloadLimits &lim
 
 QString consoleCommand(const QString &url, const QString &path)
 {
-    // The interpreter would take these for its own, so that a setting could say what it runs.
+    // These characters mean something to the interpreter: with them a setting could run a command.
     static const QRegularExpression forInterpreter(QStringLiteral("[\\s&|<>^\"']"));
     const QString address = QString::fromLatin1(QUrl(url).toEncoded());
     if (address.isEmpty() || address.contains(forInterpreter) || path.contains(forInterpreter))

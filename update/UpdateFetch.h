@@ -15,9 +15,9 @@ constexpr DownloadLimits VersionsLimits{15000, 64 * 1024};
 DownloadLimits installerLimits(qint64 expectedBytes);
 
 /// Loads `url` as `name` into a fresh folder that nobody else can enter, and waits for the end: by the
-/// system's own download, else by a transfer tool in a console of its own, for what is left of the time. What
-/// earlier calls brought goes. Gives the path as this machine opens it; empty where the file did not come by
-/// this very call, or went beyond the limits. Any thread.
+/// platform's download, and if that fails, by a transfer tool in a console for the rest of the time. Files
+/// of earlier calls are removed. Returns the path as this machine opens it; empty if this call did not
+/// bring the file, or if it went beyond the limits. Any thread.
 QString fetch(const QString &url, const QString &name, const DownloadLimits &limits);
 
 /// The command that the console runs; empty where the address would not reach the tool as one word.

@@ -10,5 +10,5 @@ inline bool g_bUpdateShown = false;       ///< an update was offered
 inline QString g_strLatestMajor;          ///< the newer version of the first line, whatever makes it newer
 inline QString g_strLatestMinor;          ///< the same of the second line
 inline QString g_strUpdateFile;           ///< local path of the file with the versions
-inline bool m_bManualCheck = false;       ///< the user asked, so that there is no update has to be told
+inline bool m_bManualCheck = false;       ///< the user asked for the check, so "no update" is told, too
 inline bool m_bChineseUpdatePage = false; ///< the second brand opens a page in Chinese instead of checking

@@ -15,7 +15,8 @@ namespace desktopuser
 namespace
 {
 
-/// What tells where the desktop is and how it speaks. All else of root's environment stays behind.
+/// The variables that name the desktop session and its language. No others of root's environment are passed
+/// on.
 constexpr const char *Kept[] = {
     "DISPLAY", "WAYLAND_DISPLAY", "XAUTHORITY", "XDG_CURRENT_DESKTOP", "XDG_SESSION_TYPE", "DESKTOP_SESSION",
     "LANG",    "LANGUAGE",        "LC_ALL"};

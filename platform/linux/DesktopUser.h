@@ -16,7 +16,7 @@ struct User {
     QString home;
 };
 
-/// Who became root for this process, as sudo and pkexec tell; nothing where none of them did.
+/// The user who became root by sudo or pkexec; nothing if this process was started in another way.
 std::optional<User> loggedOn();
 
 /// Starts a program with that user's rights, folders and session, and does not wait for its end.

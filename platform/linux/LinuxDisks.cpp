@@ -30,7 +30,7 @@ using tools::DiskOutcome;
 
 const QString SwapPlace = QStringLiteral("[SWAP]");
 
-/// What the system runs from, itself or anything below.
+/// The system runs from these folders, and from what is mounted below them.
 const char *const SystemFolders[] = {"/boot", "/efi", "/etc", "/nix", "/usr", "/var"};
 
 struct Ended {
@@ -71,7 +71,8 @@ QJsonArray devicesOf(const QByteArray &lsblkJson)
     return QJsonDocument::fromJson(lsblkJson).object().value(QLatin1String("blockdevices")).toArray();
 }
 
-/// What lies on one of the devices and is no part of a partition table; empty where there is nothing.
+/// The first thing that lies on one of the devices and is no partition, such as a pool; empty if there is
+/// none.
 QString holderIn(const QJsonArray &devices)
 {
     for (const QJsonValue &value : devices) {
@@ -144,7 +145,7 @@ bool partition(const QString &node, const QStringList &options, const QByteArray
 {
     const QStringList always{QStringLiteral("--quiet"), QStringLiteral("--force"),
                              QStringLiteral("--no-reread"), QStringLiteral("--no-tell-kernel"),
-                             // What lay there would come back to life in the new partition.
+                             // An old file system at that place would show up again in the new partition.
                              QStringLiteral("--wipe-partitions"), QStringLiteral("always")};
     return runTool(QStringLiteral("sfdisk"), always + options + QStringList{node}, script).well;
 }
@@ -215,7 +216,7 @@ DiskUse release(const QString &node)
     const QString holder = holderIn(devices);
     if (!holder.isEmpty())
         return {DiskUse::Held, holder};
-    // Inner ones first.
+    // Inner mounts first.
     std::sort(places.begin(), places.end(), std::greater<>());
     for (const QString &place : qAsConst(places)) {
         if (!runTool(QStringLiteral("umount"), {place}).well)

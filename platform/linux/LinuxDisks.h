@@ -19,12 +19,12 @@ QStringList mountPoints(const QByteArray &lsblkJson);
 /// Whether the running system needs what is mounted at one of these places.
 bool bearsSystem(const QStringList &mountPoints);
 
-/// Whether the disk behind a node must not be written: it bears the running system, or it is held by
-/// something that shows no mount, or nothing can be learned of it. A regular file may always be written.
+/// Whether the disk behind a node must not be written: the system runs from it, something without a mount
+/// uses it, or nothing can be found out about it. A regular file may always be written.
 bool isProtected(const QString &node);
 
-/// Unmounts what is mounted from the disk behind a node, unless something is found before that keeps it from
-/// being erased. What uses it then; a regular file is always free.
+/// Unmounts the volumes of the disk behind a node, unless something else keeps the disk from being erased.
+/// Returns what still uses the disk; a regular file is always free.
 DiskUse release(const QString &node);
 
 /// Opens a disk of an inventory; null also where another medium stands behind its node by now.

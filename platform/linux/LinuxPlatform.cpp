@@ -32,7 +32,7 @@ namespace
 constexpr quint32 ExecutionContinuous = 0x80000000u;
 constexpr quint32 ExecutionRequired = 0x00000043u; ///< system, display or away mode
 
-/// The geometry that every disk is told of.
+/// The geometry that is reported for every disk.
 constexpr quint32 TracksPerCylinder = 255;
 constexpr quint32 SectorsPerTrack = 63;
 
@@ -229,7 +229,7 @@ bool LinuxPlatform::IsGone(RawHandle handle)
 void LinuxPlatform::CloseHandle(RawHandle handle)
 {
     std::shared_ptr<OpenDevice>
-        last; // closed behind the lock: closing a disk that was written to takes its time
+        last; // closed after the lock is free: closing a disk that was written to takes time
     const std::lock_guard<std::mutex> guard(m_mutex);
     last = m_open.take(handle);
 }
@@ -262,8 +262,8 @@ lsblk::Inventory LinuxPlatform::pc()
 
 QStringList LinuxPlatform::GetLogicalDriveStringsW()
 {
-    // The list of disks is built from here, so this is where the PC is looked at again, and nowhere else: a
-    // number stands for the disk that the list shows until then.
+    // Each build of the disk list begins with this call. Only here the PC is read again, so that a number
+    // stands for the same disk as long as a list shows it.
     QStringList roots;
     for (const inventory::Volume &volume : readPc().machine.volumes)
         roots.append(QString(volume.letter) + QLatin1String(":\\"));
@@ -348,7 +348,7 @@ QString LinuxPlatform::HistoryFolder(const QString &applicationFolder)
 QString LinuxPlatform::MakePrivateFolder(const QString &name)
 {
     const QString path = GetTempPathW() + name;
-    // Where somebody else can change the way, not even the removal of an old folder goes where it should.
+    // If another user can change the path, even the removal of an old folder could hit a wrong one.
     if (m_places.temp.isEmpty() || !ownfiles::strangerOn(path).isEmpty() || QFileInfo(path).isSymLink())
         return QString();
     QDir(path).removeRecursively();
@@ -366,7 +366,7 @@ QString LinuxPlatform::NativePath(const QString &path) const
 {
     QString native = path;
     native.replace(QLatin1Char('\\'), QLatin1Char('/'));
-    // "C:" stands for the root of this machine, where what the settings name by letter is looked for.
+    // "C:" stands for the root folder of this machine: settings name paths with that letter.
     const bool onDriveC = native.startsWith(QLatin1String("C:"), Qt::CaseInsensitive) &&
                           (native.size() == 2 || native.at(2) == QLatin1Char('/'));
     if (onDriveC)
@@ -381,7 +381,7 @@ bool LinuxPlatform::TakeInstance(const QString &key)
 
 QString LinuxPlatform::AdministratorCommand()
 {
-    // The tool clears the environment, and a window needs these two to come up.
+    // pkexec clears the environment, but a window needs these two variables.
     const QString authority =
         qEnvironmentVariable("XAUTHORITY", QDir::homePath() + QLatin1String("/.Xauthority"));
     return QStringLiteral("pkexec env DISPLAY=%1 XAUTHORITY=%2 %3")
@@ -466,7 +466,7 @@ std::unique_ptr<QSettings> LinuxPlatform::OpenSettings(const QString &registryPa
         return jsonsettings::openNothing();
     const QString file = jsonsettings::fileOf(m_places.configuration, registryPath);
     QString wrong = ownfiles::makeFolder(QFileInfo(file).path());
-    // A link there may lead anywhere.
+    // A link at that place could lead anywhere.
     if (wrong.isEmpty())
         wrong = ownfiles::strangerOn(file);
     if (wrong.isEmpty())

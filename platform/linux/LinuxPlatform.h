@@ -73,7 +73,7 @@ private:
     struct OpenDevice {
         std::unique_ptr<RawDevice> device;
         QString node;
-        std::optional<bool> isProtected; ///< takes no writes; looked up at the first
+        std::optional<bool> isProtected; ///< takes no writes; looked up at the first write
         quint32 mediaType = 0;
         QVector<inventory::Extent> extents; ///< of a volume
     };

@@ -31,8 +31,8 @@ QByteArray outputOf(const QString &tool, const QStringList &arguments)
     return linuxtools::outputOf(&process);
 }
 
-/// The label as the volume bears it. The tool's other forms, and lsblk without udev, write letters beyond
-/// ASCII as codes.
+/// The label as the volume has it. Other output formats of blkid, and lsblk without udev, escape letters
+/// beyond ASCII.
 QString labelOf(const QString &node)
 {
     const QByteArray told = outputOf(QStringLiteral("blkid"),
@@ -41,13 +41,13 @@ QString labelOf(const QString &node)
     return plaintext::line(QString::fromUtf8(told).remove(QLatin1Char('\n')));
 }
 
-/// lsblk knows file systems from udev alone. Where none runs, the volume itself is asked, and where it may
-/// not be read, the mount.
+/// lsblk knows file systems from udev only. Without udev the volume itself is read; if that is not allowed,
+/// the mount table tells its file system.
 void identifyFileSystem(inventory::Volume &volume, const QString &node, const QStorageInfo &storage)
 {
     static const QRegularExpression escape(QStringLiteral("\\\\(.)"));
     QHash<QString, QString> found;
-    // A label could bring lines of its own along, so it is not asked for.
+    // The label is not asked for, as it could hold line ends and so forge further lines.
     const QString told = QString::fromUtf8(
         outputOf(QStringLiteral("blkid"),
                  {QStringLiteral("-p"), QStringLiteral("-o"), QStringLiteral("export"), QStringLiteral("-s"),
@@ -61,7 +61,7 @@ void identifyFileSystem(inventory::Volume &volume, const QString &node, const QS
     volume.fileSystem = lsblk::fileSystemName(type, found.value(QStringLiteral("VERSION")));
 }
 
-/// The browser, or what else the desktop has for a page or document, is no program for root.
+/// A browser or viewer must not run as root, so the user's desktop opens the page or document.
 bool openOnDesktop(const QString &target)
 {
     const QString opener = linuxtools::find(QStringLiteral("xdg-open"));
@@ -79,7 +79,7 @@ QStringList LinuxPlatform::onlyNodes()
     for (const QString &node :
          qEnvironmentVariable("HALVANE_DISKS").split(QLatin1Char(':'), Qt::SkipEmptyParts)) {
         const QString real = QFileInfo(node).canonicalFilePath();
-        // Where a link of somebody else leads is not followed; its own name is that of no disk.
+        // As root, a link that another user could change is not followed. Its own name is no disk's.
         const QString stranger = ownfiles::isElevated() ? ownfiles::strangerOn(node) : QString();
         if (!stranger.isEmpty())
             qWarning("HALVANE_DISKS: %s", qUtf8Printable(stranger));
@@ -166,7 +166,7 @@ bool LinuxPlatform::CreateProcessAndWait(const std::wstring &line, bool)
 
 QString LinuxPlatform::findProgram(const QString &file)
 {
-    // A document may bear the mark of a program, too, as all files of some file systems do.
+    // A document can be marked as a program, too: some file systems mark all their files.
     if (!file.endsWith(QLatin1String(".exe"), Qt::CaseInsensitive))
         return {};
     for (const QString &name : {file, file.left(file.size() - 4)}) {

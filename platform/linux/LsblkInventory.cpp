@@ -25,7 +25,7 @@ using inventory::Volume;
 
 constexpr quint64 SectorSize = 512;
 constexpr quint64 MostBytes = std::numeric_limits<qint64>::max();
-constexpr quint64 MostSectorBytes = 1024 * 1024; ///< of one sector; what is told beyond is no size
+constexpr quint64 MostSectorBytes = 1024 * 1024; ///< of one sector; a larger number is not believed
 const QString EfiSystemGuid = QStringLiteral("c12a7328-f81f-11d2-ba4b-00a0c93ec93b");
 const QString BasicDataGuid = QStringLiteral("ebd0a0a2-b9e5-4433-87c0-68b6b72699c7");
 const QString EfiSystemByte = QStringLiteral("0xef");
@@ -63,7 +63,7 @@ quint64 number(const QJsonObject &device, const char *key)
     const QJsonValue value = device.value(QLatin1String(key));
     if (value.isString())
         return std::min(value.toString().toULongLong(), MostBytes);
-    // No number beyond the type's may be converted, and its largest one has no floating-point twin.
+    // A double beyond the range must not be converted, and the largest qint64 is no exact double.
     const double told = std::max(0.0, value.toDouble());
     return told < static_cast<double>(MostBytes) ? static_cast<quint64>(told) : MostBytes;
 }
@@ -184,7 +184,7 @@ QVector<QJsonObject> chooseDisks(const QJsonArray &devices, const QStringList &o
     return disks;
 }
 
-/// Numbers for disks that stand in the order of a first look.
+/// A disk of the previous look keeps its number; a new one gets the lowest that is free.
 QVector<int> numbersOf(const QVector<QJsonObject> &disks, const QVector<Disk> &previous)
 {
     QHash<QString, int> known;
@@ -193,7 +193,7 @@ QVector<int> numbersOf(const QVector<QJsonObject> &disks, const QVector<Disk> &p
     QVector<int> numbers;
     for (const QJsonObject &device : disks) {
         const QString node = text(device, "path");
-        // Each number once, whatever a list names twice.
+        // take(): a node that stands twice in the list must not give one number to both.
         numbers.append(known.contains(node) ? known.take(node) : -1);
     }
     int next = 0;
@@ -267,7 +267,7 @@ private:
         Volume &volume = m_volumes[point];
         volume.extents.append(extent);
         if (volume.extents.size() > 1)
-            return; // a volume over several disks comes once for each of them
+            return; // a volume over several disks is listed below each of them
         volume.mountPoint = point;
         volume.label = text(device, "label");
         volume.fileSystem = fileSystemName(text(device, "fstype"), text(device, "fsver"));
@@ -346,8 +346,9 @@ int volumeOn(const FoundPartition &partition, const QVector<Volume> &volumes)
     return static_cast<int>(std::find_if(volumes.cbegin(), volumes.cend(), lies) - volumes.cbegin());
 }
 
-/// The system partition is the one that the machine starts from, else the one that "/" lies on. The order is
-/// that of the volumes, as some go by the lines of both tables side by side; what bears none comes last.
+/// The system partition is the one that the machine starts from, else the one that "/" lies on. The
+/// partitions stand in the order of their volumes, because readers pair the two tables line by line;
+/// partitions without a volume come last.
 void addPartitions(QVector<FoundPartition> found, const Extent &systemExtent, Inventory &result)
 {
     const QVector<Volume> &volumes = result.machine.volumes;
@@ -395,7 +396,7 @@ Inventory parse(const QByteArray &json, const QStringList &onlyNodes, const Inve
     const QJsonArray devices =
         QJsonDocument::fromJson(json).object().value(QLatin1String("blockdevices")).toArray();
     const QVector<QJsonObject> disks = chooseDisks(devices, onlyNodes);
-    // A list of nodes tells the numbers itself.
+    // With a list of nodes, a disk's number is its place in the list.
     const QVector<int> numbers =
         numbersOf(disks, onlyNodes.isEmpty() ? previous.machine.disks : QVector<Disk>());
 
@@ -409,7 +410,7 @@ Inventory parse(const QByteArray &json, const QStringList &onlyNodes, const Inve
     std::sort(result.machine.disks.begin(), result.machine.disks.end(),
               [](const Disk &left, const Disk &right) { return left.number < right.number; });
     if (onlyNodes.isEmpty()) {
-        // A disc lies on no disk of the list.
+        // An optical disc lies on no disk of the list.
         for (const QJsonValue &value : devices) {
             if (text(value.toObject(), "type") == QLatin1String("rom"))
                 volumes.collect(value.toObject(), {-1, 0, 0}, QString(), true);

@@ -19,12 +19,11 @@ struct Inventory {
 QStringList arguments();
 
 /// Reads the JSON text of lsblk. Without `onlyNodes` the disks are those of the machine, sorted by kernel
-/// name; with it they are those nodes and nothing else, in that order, a node that lsblk does not tell of
-/// having no sectors. "/" is C:, the other mounted volumes follow from D: by mount point; volumes behind Z:
-/// have no letter and are left out. A disk that was in `previous` keeps its number, and a volume its letter,
-/// so that nothing takes the place of another that still stands in a list; what is new takes the first that
-/// is free. Sizes and free space of volumes are not told by lsblk and stay 0. A broken text gives an empty
-/// PC.
+/// name; with it they are those nodes, in that order; a node that lsblk does not list has no sectors. "/"
+/// is C:, the other mounted volumes follow from D: by mount point; volumes behind Z: have no letter and are
+/// left out. A disk of `previous` keeps its number, and a volume its letter, so that they still mean the
+/// same in a list that shows them; new ones take the first that is free. Sizes and free space of volumes
+/// are not told by lsblk and stay 0. A broken text gives an empty PC.
 Inventory parse(const QByteArray &json, const QStringList &onlyNodes = {}, const Inventory &previous = {});
 
 /// A file system of the kernel or of lsblk by the name that the program knows it by.

@@ -15,11 +15,11 @@
 namespace
 {
 
-/// Who has the disk for a moment, to look at it, is waited for.
+/// Other programs open a new disk for a moment to look at it: wait for them.
 constexpr int ExclusiveAttempts = 10;
 constexpr useconds_t ExclusivePause = 100000; ///< µs
 
-/// Where the kernel shows what a drive of some kind says of itself, and the bytes before the text.
+/// The kernel's files with a drive's serial number, by kind of drive, and the bytes ahead of the text.
 struct SerialFile {
     const char *name;
     int head;
@@ -93,7 +93,7 @@ std::unique_ptr<RawDevice> RawDevice::open(const QString &node, bool writable)
         descriptor = openNode(path, O_RDONLY);
     if (descriptor < 0)
         return nullptr;
-    // The node may have changed under the name.
+    // Another device may have taken the name meanwhile.
     if (fstat(descriptor, &status) != 0 || !(isBlock ? S_ISBLK(status.st_mode) : S_ISREG(status.st_mode)) ||
         (writable && !mayWrite(descriptor, path, isBlock))) {
         ::close(descriptor);
@@ -212,7 +212,7 @@ bool RawDevice::openForWriting()
 {
     if (m_written || !m_mayWrite)
         return m_written;
-    // By the open descriptor: the name may lead elsewhere by now.
+    // Through the open descriptor, as the name may belong to another device by now.
     const QByteArray node = "/proc/self/fd/" + QByteArray::number(m_descriptor);
     struct stat status = {};
     const bool exclusive = fstat(m_descriptor, &status) == 0 && S_ISBLK(status.st_mode);
@@ -226,7 +226,7 @@ bool RawDevice::openForWriting()
     if (descriptor < 0 || (isBlock && !isSameMedium(m_descriptor, descriptor))) {
         if (descriptor >= 0)
             ::close(descriptor);
-        m_mayWrite = false; // so that the next attempt takes no time
+        m_mayWrite = false; // so that the next write fails at once
         return false;
     }
     ::close(m_descriptor);

@@ -21,7 +21,7 @@ namespace
 
 const QString FolderName = QStringLiteral("velmora-halvane");
 
-/// The command lines of the program hold paths without quotes and byte by byte.
+/// Command lines hold paths without quotes and byte by byte: only ASCII without blanks will do.
 bool standsInCommandLine(const QString &path)
 {
     return std::all_of(path.cbegin(), path.cend(), [](QChar c) {
@@ -34,7 +34,7 @@ QString below(const QString &folder)
     return folder + QLatin1Char('/') + FolderName;
 }
 
-/// `place`, to which the folder of an earlier version is moved once. Where that cannot be done it stays.
+/// Returns `place`. The folder of an earlier version is moved there once, if that is possible.
 QString takenOver(const QString &place, const QString &former)
 {
     if (QFileInfo::exists(place) || !QFileInfo(former).isDir() || !ownfiles::strangerOn(former).isEmpty())

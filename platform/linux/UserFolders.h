@@ -14,12 +14,12 @@ struct Places {
     QString data;          ///< what the program keeps
 };
 
-/// The places of this process, chosen once. Those of root are the system's and his home in the password file:
-/// variables come from whoever started the program. Others have theirs by the rules of the desktop.
+/// The folders of this process, chosen once. Root gets the system's folders and the home of the password
+/// file, as variables come from whoever started the program. Other users get those of the XDG rules.
 const Places &places();
 
-/// The first of the candidates that is this user's alone, or can be made so; what is wrong with one is said
-/// on standard error. Behind them a fresh folder in /tmp. Empty where that fails as well.
+/// The first candidate that only this user can change, or that can be made so; else a fresh folder in /tmp,
+/// and empty if that fails, too. What is wrong with a candidate is said on standard error.
 QString chooseTemp(const QStringList &candidates);
 
 /// Makes the folder `path` for this user alone, or finds that it is one already, in a place that nobody else

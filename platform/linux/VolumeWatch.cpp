@@ -108,7 +108,7 @@ void VolumeWatch::watchUdev()
     m_udev.reset(udev_new());
     if (!m_udev)
         return;
-    // Where nothing passes the events on once the nodes are in place, the kernel's own have to do.
+    // Without udev, which passes events on once the nodes are there, the kernel's own events are used.
     const bool hasDaemon = access("/run/udev/control", F_OK) == 0;
     m_monitor.reset(udev_monitor_new_from_netlink(m_udev.get(), hasDaemon ? "udev" : "kernel"));
     if (!m_monitor ||
@@ -142,7 +142,8 @@ void VolumeWatch::drainUdev()
         udev_device_unref(device);
         any = true;
     }
-    // The pause is not prolonged, so that a device that keeps sending cannot hold the answer back.
+    // Further events do not prolong the pause, or a device that sends all the time would hold back the
+    // look.
     if (any && !m_settling.isActive())
         m_settling.start();
 }

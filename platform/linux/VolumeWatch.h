@@ -26,8 +26,8 @@ public:
     explicit VolumeWatch(const QStringList &onlyNodes);
     ~VolumeWatch() override;
 
-    /// Begins to watch, from what is there now. Does nothing where it has begun already, or where the thread
-    /// has no event loop; a part that the system does not offer is done without.
+    /// Begins to watch, from what is there now. Does nothing where it has begun already, or where the
+    /// thread has no event loop; what the system does not offer is left out.
     void start();
 
 private:

@@ -50,7 +50,7 @@ public:
     }
     bool erase(qint64 offset, qint64 bytes)
     {
-        // What is zero already may lie where nothing can be written.
+        // Zeros are not written again: they may lie on sectors that cannot be written.
         const QByteArray zeros(static_cast<int>(bytes), '\0');
         return read(offset, bytes) == zeros || write(offset, zeros);
     }

@@ -20,11 +20,11 @@ public:
     explicit Presence(const PcDescription &pc);
 
     bool hasDisk(int number) const;
-    /// Whether neither the volume itself nor a disk below it has been taken away.
+    /// True unless the volume, or a disk that it lies on, was taken away.
     bool has(const inventory::Volume &volume) const;
 
-    /// Acts on a touch ("remove-L", "arrive-disk4", "remove", …). The notices that the system gives of it,
-    /// one for each volume that came or went; nothing where there is no such touch.
+    /// Acts on a file of that name in `volumes-changed/` ("remove-L", "arrive-disk4", "remove", …). Returns
+    /// the system's notices, one for each volume that came or went; nothing if the name has no meaning.
     std::optional<QVector<DeviceChange>> touch(const QString &name);
 
 private:

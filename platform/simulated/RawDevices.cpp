@@ -90,7 +90,7 @@ bool RawDevices::makeImage(const Disk &disk, const QString &file, qint64 size)
     if (!described.isEmpty() && QFileInfo::exists(described)) {
         return sparse::copy(described, file, size);
     }
-    // The image appears when it is whole, so that one whose making was broken off is made again.
+    // The image gets its name when it is whole, so that an interrupted one is made again.
     const QString partial = file + QLatin1String(".part");
     QFile::remove(partial);
     if (!sparse::resize(partial, size)) {
@@ -112,7 +112,7 @@ bool RawDevices::addPiece(Device &device, int number, qint64 start, qint64 lengt
     if (disk == nullptr || !prepareImage(*disk)) {
         return false;
     }
-    // Each handle has a file of its own, so that threads do not meet at a file position.
+    // Each handle has a file of its own, so that threads do not share a file position.
     auto file = std::make_shared<QFile>();
     const bool writes = (device.access & io::GenericWrite) != 0;
     if (!ownfiles::openRegular(file.get(), imageFile(number),

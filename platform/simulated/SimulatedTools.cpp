@@ -12,7 +12,7 @@
 namespace
 {
 
-/// The tool has none of its own, but nobody could end it here.
+/// The real tool has no limits, but nobody could end it here.
 constexpr DownloadLimits TransferLimits{15000, 64 * 1024 * 1024};
 
 } // namespace
@@ -63,7 +63,7 @@ void SimulatedPlatform::addTools()
             URLDownloadToFileW(arguments.at(last - 1), arguments.at(last), TransferLimits) == 0;
         return loaded ? QByteArray("Transfer complete.\r\n") : QByteArray("Unable to complete transfer.\r\n");
     });
-    // Every command line is recorded; that is all that switching this PC off does.
+    // The command line is in the log of commands; switching a described PC off does nothing else.
     m_interpreter.addTool(QStringLiteral("shutdown"),
                           [](const QStringList &, const QByteArray &) { return QByteArray(); });
 }

@@ -54,7 +54,7 @@ Stage parseStage(QString text)
             behind.remove(0, 1);
         const int end = behind.indexOf(blank);
         stage.target = behind.left(end);
-        // What stands behind the target still belongs to the tool.
+        // Words behind the target are arguments of the tool, too.
         text = text.left(sign) + QLatin1Char(' ') + (end < 0 ? QString() : behind.mid(end));
     }
     stage.words = text.split(blank, Qt::SkipEmptyParts);

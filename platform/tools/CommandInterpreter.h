@@ -17,8 +17,8 @@ namespace tools
 /// output. Runs on the thread of the caller; several runs may happen at once.
 using Tool = std::function<QByteArray(const QStringList &arguments, const QByteArray &input)>;
 
-/// Stands in for the command interpreter where there is none of Windows' kind: understands the lines that the
-/// program composes, that is tools with arguments, " | " between them and one " >> " at the end.
+/// Takes the place of Windows' command interpreter on other systems. Understands the lines that the program
+/// composes: tools with arguments, " | " between them and one " >> " at the end.
 class CommandInterpreter
 {
 public:

@@ -60,7 +60,8 @@ QString diskModel(const QString &vendor, const QString &product, const QString &
 {
     const QString maker = vendor.simplified();
     QString model = product.simplified();
-    // The driver of a bus may stand as vendor, a virtual disk has a number there, and some name it twice.
+    // A vendor is left out if it is the name of a bus, the number of a virtual disk, or the begin of the
+    // product.
     const bool isMaker = !maker.isEmpty() && maker != QLatin1String("ATA") &&
                          maker != QLatin1String("NVMe") && !maker.startsWith(QLatin1String("0x")) &&
                          !model.startsWith(maker, Qt::CaseInsensitive);

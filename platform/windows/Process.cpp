@@ -5,7 +5,7 @@
 namespace
 {
 
-/// Libraries come from the program's folder and the system's. Not in every header of the older systems.
+/// Looks for libraries in the program's folder and the system's only. Older headers lack this constant.
 constexpr DWORD SearchDefaultFolders = 0x1000;
 
 } // namespace
@@ -13,11 +13,11 @@ constexpr DWORD SearchDefaultFolders = 0x1000;
 void prepareNativeProcess()
 {
     using SetDefaultFolders = BOOL(WINAPI *)(DWORD);
-    // Older systems got it by an update.
+    // Older systems have this call by an update only.
     const FARPROC found = ::GetProcAddress(::GetModuleHandleW(L"kernel32.dll"), "SetDefaultDllDirectories");
     if (found)
         reinterpret_cast<SetDefaultFolders>(reinterpret_cast<void *>(found))(SearchDefaultFolders);
-    // The folder that the process works in is left out everywhere else, too.
+    // Takes the working folder out of every other search for libraries.
     ::SetDllDirectoryW(L"");
 }
 
@@ -30,7 +30,7 @@ bool takeNativeInstance(const QString &key)
     const HANDLE mutex =
         ::CreateMutexW(own.attributes(), FALSE, reinterpret_cast<const wchar_t *>(name.utf16()));
     const bool isThere = ::GetLastError() == ERROR_ALREADY_EXISTS;
-    // Held until the process ends. One of that name that does not open, or that a program with less rights
-    // made, tells nothing of another instance.
+    // Held until the process ends. A mutex that does not open, or that a program with fewer rights made, is
+    // no sign of another instance.
     return !mutex || !isThere || !windows::isOwnObject(mutex, false);
 }

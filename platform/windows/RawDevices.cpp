@@ -171,7 +171,7 @@ bool RawDevices::control(Platform::RawHandle handle, quint32 code, const void *i
 
 bool RawDevices::flush(Platform::RawHandle handle)
 {
-    // A driver that has no such request keeps nothing back.
+    // A driver without this request has nothing to flush.
     return find(handle) && (::FlushFileBuffers(native(handle)) || ::GetLastError() == ERROR_INVALID_FUNCTION);
 }
 

@@ -145,7 +145,7 @@ bool WindowsPlatform::IsAccessDenied(const QString &name)
 
 QStringList WindowsPlatform::GetLogicalDriveStringsW()
 {
-    // Room for all letters: a list that is measured first may have grown by a volume that just came.
+    // Room for all letters: a volume may come between asking for the length and for the list.
     std::array<wchar_t, DriveStringCharacters> buffer{};
     const DWORD length = ::GetLogicalDriveStringsW(DriveStringCharacters, buffer.data());
     if (length == 0 || length >= DriveStringCharacters)
@@ -239,7 +239,7 @@ bool WindowsPlatform::CreateProcessAndWaitFor(const std::wstring &line, qint32 m
         ::CloseHandle(job);
         return false;
     }
-    // It starts nothing before it is in the job.
+    // It was started suspended, so that it starts nothing before it is in the job.
     ::AssignProcessToJobObject(job, process.hProcess);
     ::ResumeThread(process.hThread);
     const bool ended =
@@ -337,7 +337,7 @@ void WindowsPlatform::SetCurrentDirectoryW(const QString &folder)
 {
     m_workingFolder = NativePath(folder).toStdWString();
     ::SetCurrentDirectoryW(m_workingFolder.c_str());
-    // Set, it keeps the interpreter from looking into that folder at all.
+    // If set, this variable keeps the interpreter from looking into the working folder.
     ::SetEnvironmentVariableW(L"NoDefaultCurrentDirectoryInExePath", nullptr);
 }
 
@@ -348,7 +348,7 @@ QString WindowsPlatform::NativePath(const QString &path) const
 
 QByteArray WindowsPlatform::CommandInterpreter()
 {
-    // Without the switch it runs what the user's registry names before any command.
+    // Without the switch it first runs what the user's registry names.
     return Platform::CommandInterpreter() + " /d";
 }
 
@@ -396,7 +396,7 @@ int WindowsPlatform::LogPixelsX()
 qint32 WindowsPlatform::URLDownloadToFileW(const QString &url, const QString &path,
                                            const DownloadLimits &limits)
 {
-    // The system call of this name knows no limits.
+    // The system call of this name has no limits of time or size.
     return httpDownload(url, path, limits);
 }
 

@@ -58,14 +58,14 @@ public:
     void CreateLogonTask(const LogonTask &task) override;
     void DeleteLogonTask(const QString &name) override;
 
-    /// Lets COM go.
+    /// Gives COM back.
     void Leave() override;
 
     std::unique_ptr<QSettings> OpenSettings(const QString &registryPath) override;
 
 private:
     windows::RawDevices m_devices;
-    tools::CommandInterpreter m_ownTools; ///< what the system may lack
+    tools::CommandInterpreter m_ownTools; ///< tools that the system may lack
     std::unique_ptr<windows::ComUse> m_com;
     std::wstring m_workingFolder; ///< empty: the one that the process was started in
 };

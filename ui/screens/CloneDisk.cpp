@@ -50,7 +50,7 @@ CloneDisk::CloneDisk(QWidget *parent) : QWidget(parent)
     style::scaleWidget(m_pRoundProgressBar);
     style::setWhiteBackground(m_pRoundProgressBar);
     m_pRoundProgressBar->SetDecimals(0);
-    // Below the window, where the page's style sheets do not reach.
+    // A child of the window: the page's style sheets must not reach it.
     m_pMessageBox = new InfoDialogClass(window());
     m_pMessageBox->setObjectName(QStringLiteral("m_pMessageBox"));
     stylePage();
@@ -248,7 +248,7 @@ void CloneDisk::OnCloningAbort()
 
 void CloneDisk::OnDriveCloneFinish()
 {
-    // It signals a moment before it is at rest.
+    // The thread signals its end a moment before it has ended.
     m_cloneThread.wait();
     g_Jobs.end(JobState::Job::Clone);
     const CloneOutcome &outcome = m_cloneThread.outcome();

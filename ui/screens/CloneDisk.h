@@ -26,7 +26,7 @@ public:
     void RefreshSourceDetails(const DiskNode *pNode);
     /// Shows or hides the details of the target.
     void ShowTargetDetails(bool bShow);
-    /// No disk is the destination any more: the numbers may belong to others now.
+    /// Takes back the choice of a destination: the disk numbers may belong to other disks now.
     void ForgetDestination();
 
     /// Copies the current disk onto the clone disk, which loses all that it holds. Only while no clone runs.

@@ -63,8 +63,8 @@ const std::array<LabelLook, LookCount> looks = {{
     {"m_apPercentage", &DiskPartition::m_apPercentage, true, &PercentLabel, true, 1, 1, 112},
 }};
 
-/// True where the line is so much higher than the label that letters in its middle would be cut below. At the
-/// bottom only the blank part above the letters stays outside.
+/// True if the font is so high that letters would be cut off at the bottom of a label that centres its
+/// text. A label that aligns its text at the bottom cuts off only the blank part above the letters.
 bool reachesBelow(const QLabel *label)
 {
     const QFontMetrics metrics = label->fontMetrics();
@@ -89,7 +89,7 @@ DiskPartition::DiskPartition(QWidget *parent) : QWidget(parent)
 
 DiskPartition::~DiskPartition()
 {
-    // It points at the two others.
+    // First the view, which points at the other two.
     delete m_pDonutView;
     delete m_pDonutSeries;
     delete m_pDonutLegend;
@@ -141,8 +141,8 @@ void DiskPartition::makeScrollArea()
     m_pFrameColumn->setSpacing(style::px(5));
     column->addLayout(m_pFrameColumn);
     auto *stretch = new QLabel;
-    // With an item whose height follows from its width the scroll area asks the layout for its height, so
-    // that the host grows with its frames beyond the minimum height that is set by hand.
+    // An item whose height depends on its width makes the scroll area ask the layout for its height.
+    // Without it the host would stay at the minimum height that is set by hand.
     QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Expanding);
     policy.setHeightForWidth(true);
     stretch->setSizePolicy(policy);

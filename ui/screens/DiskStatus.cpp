@@ -118,7 +118,8 @@ void DiskStatus::layOutTiles()
         auto *column = new QVBoxLayout(entry.tile);
         column->setContentsMargins(style::px(10), style::px(10), 0, style::px(20));
         column->setSpacing(0);
-        // A lower title stands in the middle of the highest one's place, so that the three are on one line.
+        // A title of less height is centred in the height of the highest one, so that the three are on one
+        // line.
         if (entry.titleHeight > 0) {
             column->addSpacing(style::px(HighestTitle - entry.titleHeight) / 2);
             entry.title->setFixedHeight(style::px(entry.titleHeight));

@@ -47,7 +47,7 @@ ScanDisk::ScanDisk(QWidget *parent) : QWidget(parent)
     m_pGridView = new QGridView(frame);
     m_pGridView->setObjectName(QStringLiteral("m_pGridView"));
     m_pGridView->setGeometry(QRect(QPoint(0, 0), frame->minimumSize()));
-    // Below the window, where the page's style sheets do not reach.
+    // A child of the window: the page's style sheets must not reach it.
     m_pResultBox = new InfoDialogClass(window());
     m_pResultBox->setObjectName(QStringLiteral("m_pResultBox"));
     connect(m_pResultBox->OkButton, &QPushButton::clicked, this, &ScanDisk::OnResultRead);
@@ -234,7 +234,7 @@ void ScanDisk::StartScan(qint64 totalSectors)
     g_BadSectors.clear();
     RemTimeValLbl->clear();
     ElapsedValLbl->clear();
-    // The timer of the scan before ticks on; it has the same to do.
+    // The timer of the last scan keeps running; it does the same.
     m_pUpdateTimer = new QTimer(this);
     connect(m_pUpdateTimer, &QTimer::timeout, this, &ScanDisk::OnUpdateTime);
     m_pUpdateTimer->start(UpdateInterval);
@@ -288,7 +288,7 @@ void ScanDisk::CentreResult()
 
 void ScanDisk::onWrtiteText(qlonglong) {}
 
-// What is still on its way from a scan that was given up tells nothing of the disk on show.
+// A signal that is still on its way from a scan that was given up is not about the disk on show.
 void ScanDisk::ScanMaxProgressForDisk()
 {
     if (m_bDropped)
@@ -351,7 +351,8 @@ void ScanDisk::OnUpdateTime()
 
 void ScanDisk::OnScanFinish(QString verdict)
 {
-    // It signals a moment before it is at rest, and would take g_bJobRunning from the next job.
+    // The thread signals its end a moment before it has ended, and would clear g_bJobRunning of the next
+    // job.
     m_scanThread.wait();
     clearTimes();
     m_clock.forgetEstimate();
@@ -359,7 +360,7 @@ void ScanDisk::OnScanFinish(QString verdict)
     if (m_bDropped)
         DropResults();
     else if (!g_bAbortJob && verdict == QLatin1String("Pass"))
-        // The progress comes in rounded steps, which end before the disk or behind it.
+        // The progress comes in rounded steps, the last of which seldom meets the end of the disk.
         m_pGridView->m_i64Position = g_nMapTotalSectors;
     showResult(verdict);
     emit OnScanFinished();

@@ -9,7 +9,7 @@
 /// whatever the font and the language; tabs and blanks that pad the caption are dropped. A value that does
 /// not fit is elided, and a tool tip holds the whole text.
 ///
-/// Without the meta-object macro, so that it goes by the name of QLabel.
+/// Without Q_OBJECT, so that its class name stays QLabel.
 class DetailLabel : public QLabel
 {
 public:

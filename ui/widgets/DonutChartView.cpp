@@ -146,9 +146,9 @@ void DonutChartView::paintEvent(QPaintEvent *event)
         if (g_nCurrentDiskIndex >= 0)
             painter.drawText(rect, Qt::AlignCenter, tr("Disk ") + QString::number(g_nCurrentDiskIndex));
     }
-    // While it shows it is painted anew without end, but no faster than a display shows: at the event loop's
-    // own pace this took half a core. A hidden widget takes no notice of it by itself, one in a minimised
-    // window might.
+    // Paints itself again and again while it is visible, but not more often than a display can show: as
+    // fast as the event loop allows, this took half a core. update() does nothing for a hidden widget, but
+    // may for one in a minimised window.
     constexpr int FrameMilliseconds = 16;
     if (!window()->isMinimized() && !m_nextPaint.isActive())
         m_nextPaint.start(FrameMilliseconds, this);

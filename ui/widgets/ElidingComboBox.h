@@ -2,9 +2,9 @@
 
 #include <QComboBox>
 
-/// A combo box that elides a current text too long for it, where the plain one cuts it; a tool tip holds the
-/// whole text then, and that of each entry of the list. Without the meta-object macro, so that it goes by the
-/// name of QComboBox.
+/// A combo box that elides a current text too long for it, where the plain one cuts it; a tool tip holds
+/// the whole text then, and that of each entry of the list. Without Q_OBJECT, so that its class name stays
+/// QComboBox.
 class ElidingComboBox : public QComboBox
 {
 public:

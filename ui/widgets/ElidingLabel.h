@@ -3,8 +3,8 @@
 #include <QLabel>
 
 /// A label of one plain line that elides a text too long for it, where the plain one cuts it; a tool tip
-/// holds the whole text then. It asks for the text's width and makes do with less. Without the meta-object
-/// macro, so that it goes by the name of QLabel.
+/// holds the whole text then. It asks for the text's width and makes do with less. Without Q_OBJECT, so
+/// that its class name stays QLabel.
 class ElidingLabel : public QLabel
 {
 public:

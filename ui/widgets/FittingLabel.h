@@ -2,8 +2,8 @@
 
 #include <QLabel>
 
-/// A label of one plain line that draws a text too long for its room in smaller letters. Without the
-/// meta-object macro, so that it goes by the name of QLabel.
+/// A label of one plain line that draws a text too long for its room in smaller letters. Without Q_OBJECT,
+/// so that its class name stays QLabel.
 class FittingLabel : public QLabel
 {
 public:

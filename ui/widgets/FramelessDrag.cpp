@@ -28,7 +28,7 @@ void FramelessDrag::move(QMouseEvent *event)
         return;
     if (m_nTitleHeight >= 0 && m_nPressY > style::px(m_nTitleHeight))
         return;
-    // The place that was taken hold of stays where it can be taken hold of again.
+    // The spot under the pointer stays on the screen, so that the window can be dragged back.
     const QRect reach = style::availableArea(event->globalPos());
     const QPoint held = style::placeWithin(QRect(event->globalPos(), QSize(1, 1)), reach);
     m_pWindow->move(held - QPoint(m_nPressX, m_nPressY));

@@ -98,8 +98,8 @@ void QGridView::paintEvent(QPaintEvent *)
     QPainter painter(this);
     drawCells(&painter);
     drawGrid(&painter);
-    // While it shows it is painted anew without end, no faster than a display shows, and not in a minimised
-    // window.
+    // Paints itself again and again while it is visible, but not more often than a display can show, and
+    // not in a minimised window.
     constexpr int FrameMilliseconds = 16;
     if (!window()->isMinimized() && !m_nextPaint.isActive())
         m_nextPaint.start(FrameMilliseconds, this);

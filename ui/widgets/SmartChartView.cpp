@@ -113,7 +113,8 @@ QValueAxis *addValueAxis(QChart *chart, const GraphModel &model)
         axis->setTickCount(model.yTicks);
     dressAxis(axis);
     if (axis->tickCount() > RoomyTicks) {
-        // The library would cut each label down to dots; unseen they keep the room for those of drawScale().
+        // Qt Charts would shorten these labels to dots. They stay, transparent, and keep the room for the
+        // labels that drawScale() draws.
         axis->setLabelsColor(Qt::transparent);
         axis->setGridLineVisible(false);
         axis->setLineVisible(false);
@@ -122,7 +123,8 @@ QValueAxis *addValueAxis(QChart *chart, const GraphModel &model)
     return axis;
 }
 
-/// The labels, each one once: the axis drops what it has already, and days of different years look alike.
+/// The labels, made distinct: the axis drops one that it has already, and days of different years can look
+/// alike.
 QStringList distinctLabels(const std::vector<QString> &labels)
 {
     QStringList distinct;
@@ -156,8 +158,8 @@ QLineSeries *addLine(QChart *chart, const GraphModel &model, QValueAxis *values)
 {
     QLineSeries *line = addSeries(chart, model.series.front());
     line->attachAxis(values);
-    // The labels hang on a series of their own: each stands for a tenth of the line, which is as long as
-    // there are days and fills the width.
+    // The labels belong to an empty series of their own, and share the width evenly; the line has its own
+    // hidden axis, and fills the width with its days.
     auto *labelled = new QLineSeries;
     chart->addSeries(labelled);
     auto *days = new QBarCategoryAxis;
@@ -241,7 +243,8 @@ void SmartChartView::drawScale(QPainter *painter, const QValueAxis &axis) const
 
 void SmartChartView::drawLine(QPainter *painter, const QLineSeries &line) const
 {
-    // Once more, and its points as rings: the chart cuts a line along the plot's edge in half.
+    // Draws the line once more, with its points as rings: the chart cuts off half of a line along the
+    // plot's edge.
     QPolygonF places;
     const QVector<QPointF> points = line.pointsVector();
     for (const QPointF &point : points)

@@ -31,17 +31,17 @@ void scaleWidget(QWidget *widget);
 /// The area of the nearest screen that windows may take, without the desktop's own bars.
 QRect availableArea(const QPoint &place);
 
-/// The place nearest to that of `window` where all of it lies in `area`; its upper left where it is too
-/// large.
+/// The position nearest to the window's own at which all of it lies in `area`. If it is too large, its
+/// upper left corner lies there.
 QPoint placeWithin(const QRect &window, const QRect &area);
 
-/// Moves a window to `place`, or as near as the screen allows that its middle would be on.
+/// Moves a window to `place`, or as near to it as possible within the screen on which its middle would lie.
 void placeWindow(QWidget *window, const QPoint &place);
 
 /// Moves `window` to the middle of `rect`, as far as the screen allows.
 void centreOn(QWidget *window, const QRect &rect);
 
-/// Makes all labels of a window take their texts letter by letter. One that shows links says so in its form.
+/// Makes all labels of a window show plain text. A label that shows links has that set in its form.
 void showTextsAsData(QWidget *window);
 
 /// A text as a tool tip shows it: letter by letter, whatever a drive calls itself.

@@ -58,7 +58,7 @@ void MainWindow::OnCloneStart()
 void MainWindow::askForTarget()
 {
     m_pCloneWarning->hide();
-    // A new one, as the one from before may hold the texts of a running job.
+    // A new dialog, as the old one may show the texts of a running job.
     delete m_pDestinitionWarning;
     m_pDestinitionWarning = new DestinitionWarning(this);
     connect(m_pDestinitionWarning->CloseButton, &QPushButton::clicked, this,
@@ -75,11 +75,11 @@ void MainWindow::OnCloningCancel()
 void MainWindow::OnCloningStart()
 {
     m_pCloneWarning->hide();
-    // The engine keeps hold of two nodes, and a scan that was stopped would take the cleared stop request for
-    // its own.
+    // A running clone uses two nodes of the lists. A stopped scan that has not ended yet would go on, as
+    // the start of a clone clears the stop request.
     if (!g_Jobs.mayStart())
         return;
-    // The question may have stayed open while another page was looked at.
+    // The user may have gone to another page while the question was open.
     if (!m_pCloneDiskPage->isVisible())
         return;
     setMenuEntriesEnabled(false);
@@ -93,7 +93,7 @@ void MainWindow::OnCloningStart()
         refuseClone(*refusal);
         return;
     }
-    // What is erased is what was named in the question.
+    // Only a disk that the question named is erased.
     if (known && m_askedPair.target == target && chosenPair() == m_askedPair) {
         startClone();
         return;
@@ -143,7 +143,7 @@ void MainWindow::OnCloningFinish()
     enableNavigation();
     const bool left = !m_pCloneDiskPage->isVisible();
     CloneButton->setVisible(!left && !isOnShow(navigation::ScanDiskScreen));
-    // No disk was read for the screen that somebody went to meanwhile.
+    // The user has gone to another screen meanwhile, for which no disk was read during the clone.
     if (left)
         RefreshSelectedDisk();
 }
@@ -153,7 +153,7 @@ void MainWindow::OnFinishDiskCloning()
     StopButton->hide();
     enableNavigation();
     DriveCombobox->setEnabled(!g_bTestPending);
-    // Somebody who has left the page before the result was read stays where he is.
+    // A user who has left the page before the result was read stays where he is.
     if (m_pCloneDiskPage->isVisible())
         selectButton(navigation::CloneDiskScreen);
     refreshBehindJob();

@@ -40,7 +40,8 @@ void MainWindow::FillDriveCombos()
 
 void MainWindow::LookUpDisk(int comboIndex)
 {
-    // The thread of a job takes the current disk by itself. Who has left the job gets his own at its end.
+    // The thread of a job reads the current disk from g_App, so it must not change meanwhile. A user who
+    // has gone to another screen gets the disk chosen there when the job ends.
     if (g_Jobs.holdsDisks())
         return;
     g_App.m_pCurrentDisk = nullptr;
@@ -88,8 +89,8 @@ void MainWindow::selectCloneArgument()
 
 void MainWindow::refreshClonePage()
 {
-    // The choice of disks is that of the clone until it has ended. The lists and the identity texts are the
-    // loader's during a refresh, whose end comes back here.
+    // During a clone the page keeps the disks of that clone. During a refresh only its thread may use the
+    // lists and the identity texts; at its end this function runs again.
     if (g_bListsLoading || g_Jobs.runs(Job::Clone))
         return;
     clearIdentityTexts();
@@ -103,20 +104,20 @@ void MainWindow::OnRefresh()
 {
     if (g_bJobRunning)
         return;
-    // A job holds nodes of the lists until its thread is at rest, also behind that flag. The result of a scan
-    // shows under its disk until it was read, also where that has gone.
+    // A job uses nodes of the lists until its thread has ended, which is later than that flag is cleared.
+    // The result of a scan stays on show under its disk until it was read, even if the disk has gone.
     if (g_Jobs.holdsDisks() || m_pScanDiskPage->IsResultUnread()) {
         g_bListsStale = true;
         return;
     }
     g_bListsStale = false;
     m_bRefreshing = true;
-    // The disks that it names may be others in the new lists.
+    // In the new lists its numbers may belong to other disks.
     m_pCloneWarning->hide();
     enterBusy(tr("Please wait. Application Refreshing..."));
     label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    // From here to OnInitialize() the lists are the thread's. A read that is under way ends first: both use
-    // one file.
+    // From here to OnInitialize() only the refresh thread may use the lists. It waits for a read that is
+    // under way, as both write one file.
     m_bRefreshAgain = g_bListsLoading;
     if (g_bListsLoading)
         return;
@@ -128,7 +129,7 @@ void MainWindow::OnRefresh()
     m_refreshThread.startBehind(m_smartThread);
 }
 
-/// What went during a job leaves the lists behind it.
+/// After a job: takes what went meanwhile out of the lists.
 void MainWindow::refreshBehindJob()
 {
     if (g_bListsStale)
@@ -137,8 +138,8 @@ void MainWindow::refreshBehindJob()
 
 void MainWindow::OnInitialize()
 {
-    // The first run behind a load has its lists; there is nothing for later ones, nor while a newer load
-    // runs.
+    // Only the first call after a load has new lists to take. A later call has nothing to do, nor has one
+    // while a newer load runs.
     if (!g_bListsLoading || !m_refreshThread.isComplete())
         return;
     g_bListsLoading = false;
@@ -158,7 +159,7 @@ void MainWindow::OnInitialize()
     takeUpDisk(NoDisk);
     RefreshSelectedDisk();
     m_bRefreshing = false;
-    // What came or went during the load may be missing in the lists.
+    // The lists may not show what came or went during the load.
     if (m_bRefreshAgain)
         OnRefresh();
 }

@@ -101,9 +101,10 @@ void MainWindow::showScreen(Screen screen)
     const navigation::ShellButtons &shown = navigation::shellButtons(screen);
     ScanButton->setVisible(shown.scan);
     const bool cloning = g_Jobs.runs(Job::Clone);
-    // The show slot of the clone page can run while a scan holds its own button down.
+    // OnShowCloneDisk() can run while Scan Disk is the screen on show.
     CloneButton->setVisible(shown.clone && !cloning && !isOnShow(navigation::ScanDiskScreen));
-    // A clone goes on behind another screen, where the button would ask for a scan.
+    // A clone goes on while another screen is on show. There the Stop button would be taken for that of a
+    // scan.
     if (cloning)
         StopButton->setVisible(shown.clone && !g_bAbortJob);
     ReportSaveButton->setVisible(shown.report);
@@ -204,7 +205,8 @@ void MainWindow::OnStopCancel()
 void MainWindow::OnStopConfirm()
 {
     m_pScanDiskPage->ForgetEstimate();
-    // Until the job is at rest: the No to a second question would take this answer back.
+    // The button stays hidden until the thread of the job has ended: a No to a second question would take
+    // back this Yes.
     StopButton->hide();
     StopTestButton->hide();
     g_Jobs.stop();

@@ -6,8 +6,8 @@
 
 #include <atomic>
 
-/// Reads the disk lists anew behind the main window's busy state. From the start to the signal the lists are
-/// its own (g_bListsLoading).
+/// Reads the disk lists anew while the main window shows its busy state. From the start to the signal only
+/// this thread may use the lists (g_bListsLoading).
 class QRefThreadDevicesLoad : public QThread
 {
     Q_OBJECT

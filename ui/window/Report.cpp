@@ -47,7 +47,7 @@ void MainWindow::SavePDFReport()
 {
     if (!reportKnown())
         return;
-    // Taken before the dialog: while that is open a refresh may rebuild the lists.
+    // Gathered before the dialog opens: a refresh may rebuild the lists while it is open.
     SmartReport report = gatherSmartReport();
     const QString path = askForPath(this, {tr("Save File"), suggestedReportName(report),
                                            QStringLiteral("*.pdf"), QStringLiteral(".pdf")});

@@ -41,10 +41,10 @@ void MainWindow::OnShowScanDisk()
 void MainWindow::refreshScanPage()
 {
     LookUpDisk(DriveCombobox->currentIndex());
-    // A job that was left has another current disk until it is at rest.
+    // A job whose screen the user has left keeps its own current disk until its thread has ended.
     const DiskNode *node = findPhysicalDisk(DriveCombobox->currentData().toInt());
     m_pScanDiskPage->FillDisk(node);
-    // The panel of a test that was refused names the disk before.
+    // The panel of a refused test still names the previous disk.
     if (m_pScanDiskPage->m_pSelfTestPanel->isVisible() && !g_bSelfTestResultOpen)
         ChooseScanType();
     // The results of a scan are those of its disk alone.
@@ -62,7 +62,8 @@ MainWindow::ChosenDisk MainWindow::chosenDisk() const
     return {DriveCombobox->currentData().toInt(), DriveCombobox->currentText()};
 }
 
-/// Behind a refresh, which begins at the first disk: the results that show go on showing under their own.
+/// A refresh chooses the first disk. If results are on show, this chooses the disk that they belong to
+/// again.
 void MainWindow::keepScannedDisk()
 {
     if (!g_Jobs.resultOpen())
@@ -93,7 +94,8 @@ void MainWindow::OnScanStart()
 
 void MainWindow::startSurfaceScan()
 {
-    // The drive goes on by itself with a self-test that was left, but its buttons are not for this scan.
+    // A self-test that the user has left goes on in the drive, but its clock must not change the buttons of
+    // this scan.
     if (m_pTestTimer)
         m_pTestTimer->stop();
     setMenuEntriesEnabled(false);
@@ -121,11 +123,11 @@ void MainWindow::OnFinishScanDisk()
     ScanButton->setEnabled(true);
     DriveCombobox->setEnabled(true);
     keepAwake();
-    // A disk that does not open, or not any more, is not what the lists say.
+    // If the disk did not open, or does not any more, the lists are stale.
     if (g_bScanFailed)
         g_bListsStale = true;
     refreshBehindJob();
-    // Somebody who has left the scan meanwhile stays where he is.
+    // A user who has left the scan meanwhile stays where he is.
     if (!g_bScanResultOpen) {
         if (!g_App.m_pCurrentDisk || g_App.m_pCurrentDisk->nId != DriveCombobox->currentData().toInt())
             RefreshSelectedDisk();
@@ -156,7 +158,7 @@ void MainWindow::setMenuEntriesEnabled(bool enabled)
 /// The user leaves the results of a job.
 void MainWindow::dropScanResults()
 {
-    // A No to the question that is still open would let the scan go on where nobody can stop it.
+    // Closes the question that may still be open: a No would let the scan go on where nobody can stop it.
     m_pConfirmation->hide();
     if (g_Jobs.runs(Job::Scan)) {
         StopButton->hide();
@@ -171,8 +173,8 @@ void MainWindow::dropScanResults()
 
 bool MainWindow::eventFilter(QObject *watched, QEvent *event)
 {
-    // A job locks the navigation. A press on it asks all the same, so that nobody takes it for dead, and one
-    // who has left the job, which locks on, gets about.
+    // A job disables the navigation buttons. A press on one still counts: it brings up the question, or
+    // changes the screen for a user who has left the job's screen already.
     const bool press = event->type() == QEvent::MouseButtonPress && isEnabled();
     auto *pressed = press ? qobject_cast<MyButton *>(watched) : nullptr;
     if (!pressed || pressed->isEnabled())

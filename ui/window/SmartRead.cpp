@@ -55,12 +55,12 @@ int MainWindow::currentComboDisk() const
 
 void MainWindow::RequestSmartRead(int diskIndex)
 {
-    // The end of a refresh has each disk read anew.
+    // After a refresh the disk is read anyway.
     if (!g_bListsLoading)
         m_smartThread.RequestSmartRead(diskIndex);
 }
 
-/// Nothing of another disk stays on show under the name of the one that is chosen.
+/// Clears what is on show of the previous disk, so that it does not stand under the name of the new one.
 void MainWindow::takeUpChosenDisk()
 {
     g_nCurrentDiskIndex = currentComboDisk();
@@ -98,7 +98,7 @@ void MainWindow::RefreshSelectedDisk()
 {
     takeUpChosenDisk();
     updateReportButtons();
-    // Its end reloads the screen that shows then. A clone keeps the disks that it was started with.
+    // The end of a refresh reloads the screen on show. A clone keeps the disks that it was started with.
     if (g_bListsLoading || g_Jobs.runs(Job::Clone))
         return;
     showAccess();
@@ -175,8 +175,8 @@ void MainWindow::prepareLogFolder()
 
 void MainWindow::OnInitializeSmart()
 {
-    // The first run behind a read finds its report. None is there while a newer read runs, nor behind one
-    // that a refresh has cut short.
+    // Only the first call after a read finds a report. There is none while a newer read runs, or if a
+    // refresh has cut the read short.
     const std::optional<int> disk = m_smartThread.takeReport();
     if (!disk)
         return;
@@ -191,7 +191,7 @@ void MainWindow::OnInitializeSmart()
     leaveBusy();
 }
 
-/// Takes the report in that the reader has left.
+/// Reads the report that the reader thread has written.
 void MainWindow::takeReportIn()
 {
     DetectReportKind(g_strSmartReportPath);
@@ -203,7 +203,7 @@ void MainWindow::initializeSmartStatus()
 {
     takeReportIn();
     const int celsius = GetDiskTemperature();
-    // A drive that fails its own check has attributes to be rated by, too.
+    // A drive that fails its own check has attributes, too, so it is rated.
     if (celsius != 0)
         g_bSmartAvailable = true;
     ComputePerformance();
@@ -318,8 +318,8 @@ void MainWindow::showLifeFields(const DiskNode *node)
 
 void MainWindow::GetSmartTemprature()
 {
-    // Reads only while Disk Partition shows, although the tile it writes lies on another screen. A read that
-    // is under way has the file; the next minute comes.
+    // Reads only while Disk Partition shows, although the tile it writes lies on another screen. While
+    // another read uses the file it does nothing; in a minute it runs again.
     if (m_bRefreshing || g_App.m_bAccessDenied || m_smartThread.isReading() ||
         !isOnShow(navigation::DiskPartitionScreen))
         return;

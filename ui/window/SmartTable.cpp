@@ -40,7 +40,7 @@ void MainWindow::FillSmartTable()
 
 void MainWindow::GraphWithAttributes(QTreeWidgetItem *item, int /*column*/)
 {
-    // The identity texts are the loader's during a refresh; its end fills the table anew.
+    // During a refresh only its thread may use the identity texts; at its end the table is filled anew.
     if (!item || g_bListsLoading)
         return;
     if (g_strSerialNumber.isEmpty()) {
