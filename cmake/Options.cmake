@@ -12,12 +12,12 @@ target_include_directories(halvane_flags INTERFACE ${CMAKE_SOURCE_DIR})
 target_compile_options(halvane_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion)
 target_compile_definitions(halvane_flags INTERFACE
     QT_NO_FOREACH QT_NO_CAST_TO_ASCII QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_DEPRECATED_WARNINGS)
-# What is shipped is made so that a fault in it is hard to use: packaging/check-hardening looks at the files.
+# A release is built so that its faults are hard to exploit; packaging/check-hardening checks the built files.
 if(CMAKE_BUILD_TYPE STREQUAL "Release")
     set(CMAKE_POSITION_INDEPENDENT_CODE ON)
     target_compile_options(halvane_flags INTERFACE -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=3 -fstack-protector-strong)
     if(WIN32)
-        # The protector is a library of the compiler's here.
+        # For Windows the stack protector is a library, which has to be linked.
         target_link_options(halvane_flags INTERFACE
             -fstack-protector-strong LINKER:--dynamicbase,--high-entropy-va,--nxcompat)
     else()

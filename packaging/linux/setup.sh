@@ -1,13 +1,13 @@
 # shellcheck shell=bash disable=SC2154
-# Sourced by ./run, ./test and .ci/run: what they do before they go. Expects the root of the tree in $root.
+# Sourced by ./run, ./test and .ci/run: what all of them do first. Expects the root of the tree in $root.
 
 fail() {
     printf '%s\n' "$*" >&2
     exit 1
 }
 
-# install_packages [system…]: installs what is missing of the packages.txt of these systems (linux); without a way
-# to do so names it and ends with 1.
+# install_packages [system…]: installs the packages in packages.txt of these systems (linux) that are missing. If it
+# cannot, it names them and ends with 1.
 install_packages() {
     local wanted missing as_root=() lists=()
     local system

@@ -225,7 +225,7 @@ void tst_ReportPage::frame()
     QCOMPARE(page.pictures[0].target, watermark);
     for (const int mark : {1, 3})
         QCOMPARE(page.pictures[mark].target, QRect(-100, 13220, 1700, 500));
-    // What lies above the icon's own rows does not exist, so it begins that much lower.
+    // The source begins 8 rows above the icon. These rows are empty, so the icon begins that much lower.
     QCOMPARE(page.pictures[2].target, QRect(-120, 107, 1650, 477));
 }
 
