@@ -17,8 +17,8 @@
 #include <algorithm>
 #include <sanitizer/lsan_interface.h>
 
-// The toolkit's parser of JSON loses some bytes of texts that are none, or name a key twice. What reads JSON
-// is therefore not looked at for leaks here; the tests do that.
+// Qt's JSON parser leaks some bytes if a text is no JSON or names a key twice. So the readers of JSON are
+// not checked for leaks here; the tests do that.
 
 namespace filetargets
 {
@@ -60,7 +60,7 @@ void put(const QString &path, const QByteArray &bytes)
 QString runSettings(const QByteArray &input, Mutator &)
 {
     const __lsan::ScopedDisabler parserLeaks;
-    // The toolkit takes a mark of byte order off the begin of each text that it reads.
+    // Qt removes a byte-order mark from the begin of each text that it reads.
     const QByteArray kept = settingsOf(settingsOf(input).replace("\xEF\xBB\xBF", ""));
     return settingsOf(kept) == kept ? QString() : QStringLiteral("what is kept is read as something else");
 }
@@ -99,7 +99,7 @@ QString runBlockDevices(const QByteArray &input, Mutator &mutator)
 
 QString runHistory(const QByteArray &input, Mutator &mutator)
 {
-    // A name of its own each time: the toolkit remembers what it read of a file.
+    // A new name each time, as Qt remembers what it read from a file.
     static int number = 0;
     const HistoryPaths paths = historyPaths(QString::number(++number));
     put(paths.dates, input);

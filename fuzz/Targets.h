@@ -9,13 +9,13 @@
 struct Target {
     const char *name; ///< also of its folder of sound inputs
     QByteArray (Mutator::*make)(const QVector<QByteArray> &corpus);
-    /// Takes an input in; says what is wrong with the result, empty if nothing is. `mutator` decides what the
-    /// input does not.
+    /// Reads an input; returns what is wrong with the result, empty if nothing is. `mutator` makes the
+    /// choices that the input leaves open.
     QString (*run)(const QByteArray &input, Mutator &mutator);
 };
 
 /// All of them. They run on the simulated machine that freshMachine() made last.
 const QVector<Target> &allTargets();
 
-/// Installs an empty machine. It notes what is asked of it, so it wants to be made anew from time to time.
+/// Installs an empty machine. It logs all that is asked of it, so make a new one from time to time.
 void freshMachine();

@@ -30,7 +30,7 @@ void nameInput()
                  onlyTarget < 0 ? "" : " --only ", onlyName);
 }
 
-/// The process is lost anyhow, so the words may be those of the standard library.
+/// The process ends anyhow, so even calls that are not safe in a signal handler will do.
 void onAlarm(int)
 {
     std::fputs("An input takes too long.\n", stderr);

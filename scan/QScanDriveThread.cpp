@@ -232,7 +232,7 @@ void QScanDriveThread::narrowDown(qint64 position, qint64 sectors)
                 m_found.append({sector, 1});
             uncounted = g_bAbortJob ? 1 : 0;
         }
-        // Asking for the time takes nearly as long as a quick read, so it is not done after each of these.
+        // Asking for the time costs a good part of a quick read, so it is not done after each of these.
         if (bad != wasBad)
             readsPerLook = 1;
         wasBad = bad;

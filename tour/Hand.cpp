@@ -19,8 +19,7 @@ QWindow *nativeWindow(QWidget *widget)
     return widget->windowHandle();
 }
 
-/// A display tells a window that the mouse goes to another one. Here nothing does, and a button would stay
-/// lit.
+/// A display tells a window when the mouse leaves it. Offscreen nothing does, and a button would stay lit.
 void leave(QWidget *window)
 {
     QList<QWidget *> all = window->findChildren<QWidget *>();

@@ -3,7 +3,7 @@
 #include <QJsonObject>
 #include <QString>
 
-/// Whether what a hurried choice ends in is what the same choice shows without hurry.
+/// Checks that a hurried choice ends in the same screen as the same choice made without hurry.
 namespace hurrycheck
 {
 

@@ -76,7 +76,8 @@ bool inkFits(const QFontMetrics &metrics, const QString &text, int height, Qt::A
     return baseline + ink.top() >= 0 && baseline + ink.bottom() < height;
 }
 
-/// The part of a widget that its parents leave in sight. What lies in a scroll area can be scrolled to.
+/// The part of a widget that its parents do not cut off. All of a scroll area counts, as it can be scrolled
+/// to.
 QRect inSight(const QWidget *widget)
 {
     QRect sight = widget->rect();

@@ -13,7 +13,7 @@ const QString ResultClass = QStringLiteral("InfoDialogClass");
 const QString QuestionClass = QStringLiteral("ConfarmetionClass");
 const QString StopButton = QStringLiteral("StopButton");
 
-/// How much of the disk a scan has to have read, in sectors, and has read; -1 where no map shows. GUI thread.
+/// The sectors that a scan has to read and those that it has read; -1 if no map shows. GUI thread.
 double mapValue(const char *property)
 {
     const QWidget *map = windows::byClass(QStringLiteral("QGridView"));

@@ -94,7 +94,7 @@ void setEnvironment(const TourPlan &plan, const QString &stateFolder)
     qputenv(PcVariable, QFile::encodeName(plan.pcFolder));
     setDefault(StateVariable, QFile::encodeName(stateFolder));
     setDefault("QT_QPA_PLATFORM", "offscreen");
-    // Point sizes then follow the display scale, as they do on a desktop.
+    // With this, point sizes follow the display's scale, as they do on a desktop.
     qputenv("QT_FONT_DPI", QByteArray::number(plan.dpi));
     setDefault("QT_LOGGING_RULES", "*.debug=false;qt.qpa.*=false");
 }

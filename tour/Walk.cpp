@@ -29,7 +29,7 @@ const QString SwitchQuestionClass = QStringLiteral("ScanSwitchClass");
 const QString NoticeClass = QStringLiteral("AccessNotice");
 const QString FileDialogClass = QStringLiteral("QFileDialog");
 
-/// What sends a dialog away without doing what it asks, best first.
+/// Buttons that close a dialog without doing what it asks for, best first.
 const QStringList &dismissals()
 {
     static const QStringList names{
@@ -54,7 +54,7 @@ QString className(const QWidget *widget)
     return QLatin1String(widget->metaObject()->className());
 }
 
-/// Still open, not merely the same address.
+/// The dialog with that address while it is open, else null.
 QWidget *openDialog(quintptr id)
 {
     const QVector<QWidget *> open = windows::dialogs();

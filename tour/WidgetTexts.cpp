@@ -52,7 +52,7 @@ const Kind *kindOf(const QWidget *widget)
     return found == std::end(kinds) ? nullptr : found;
 }
 
-/// Widgets whose inner parts are no business of a reader.
+/// Widgets whose inner parts are left out.
 bool isClosedField(const QWidget *widget)
 {
     return qobject_cast<const QAbstractSpinBox *>(widget) || qobject_cast<const QComboBox *>(widget) ||

@@ -9,8 +9,8 @@ class QComboBox;
 class QMenu;
 class QWidget;
 
-/// How the tour finds its way about the program: by class names and object names, as nothing in the program
-/// knows of it. GUI thread only; what is not there is null.
+/// Finds the parts of the program by class names and object names, as the program knows nothing of the
+/// tour. GUI thread only; null for what is not there.
 namespace windows
 {
 

@@ -40,7 +40,7 @@ struct Place {
 
 using Arguments = QStringList (*)(const FileSystem &, const Place &);
 
-/// A maker of file systems. The file comes behind its arguments, by its full path.
+/// A program that makes file systems. Its last argument is the full path of the file.
 struct Maker {
     const char *type;
     const char *tool;
@@ -57,7 +57,7 @@ QStringList labelled(QStringList arguments, const char *option, const QString &v
 
 QStringList extArguments(const FileSystem &system, const Place &place)
 {
-    // Tables of inodes and the journal are left to the first mount: the image stays small.
+    // Inode tables and journal are written at the first mount only, so that the image stays small.
     const QString options = QStringLiteral("offset=%1,lazy_itable_init=1,lazy_journal_init=1,nodiscard");
     QStringList arguments{QStringLiteral("-q"), QStringLiteral("-F"), QStringLiteral("-t"),
                           system.type,          QStringLiteral("-E"), options.arg(place.start * SectorBytes)};

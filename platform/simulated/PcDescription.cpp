@@ -205,7 +205,7 @@ Layout readLayout(const JsonReader &disk, const QString &folder)
     return layout;
 }
 
-/// The image may be missing; what is there is a regular file of any size.
+/// The image may be missing. If it is there, it is a regular file of any size.
 QString readImage(const JsonReader &in, const QString &folder)
 {
     const QString key = QStringLiteral("image");

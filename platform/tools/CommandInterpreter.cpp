@@ -27,7 +27,7 @@ QString baseNameOf(const QString &program)
     return name;
 }
 
-/// A stage of a pipe: its words, and where its output goes if not to the next stage.
+/// A stage of a pipe: its words, and the file for its output, if it does not go to the next stage.
 struct Stage {
     QStringList words;
     bool redirected = false;

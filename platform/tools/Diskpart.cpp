@@ -33,7 +33,7 @@ const char NoSuchDisk[] = "\r\nThe disk you specified is not valid.\r\n\r\nThere
 const char NothingSelected[] = "\r\nThere is no disk selected.\r\n\r\nSelect a disk and try again.\r\n";
 const char Leaving[] = "\r\nLeaving DiskPart...\r\n";
 
-/// A line that acts on the selected disk, and what is said when it has.
+/// A line that acts on the selected disk, and the tool's words when it is done.
 struct Action {
     const char *words;
     DiskAction action;

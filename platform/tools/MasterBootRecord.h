@@ -9,10 +9,10 @@ namespace mbr
 
 constexpr int RecordSize = 512;
 
-/// Whether a first sector bears a table with a partition in it; the table of the newer kind shows as one.
+/// Whether a first sector holds a table with a partition in it; a GPT shows as such a partition.
 bool hasPartitions(const QByteArray &record);
 
-/// Whether a first sector bears a table.
+/// Whether a first sector holds a table.
 bool hasTable(const QByteArray &record);
 
 /// A record with an empty table. `diskSignature` tells disks apart.

@@ -129,7 +129,7 @@ void CloneDisk::rebuildDestinations(const DiskNode *pSource)
     g_strSelectDestination = tr("Select Destination");
     DestinationComboBox->clear();
     DestinationComboBox->addItem(g_strSelectDestination);
-    // Without a size it is not among the choices of the drop-down.
+    // With a size of 0 this entry does not show in the drop-down.
     DestinationComboBox->setItemData(0, QSize(0, 0), Qt::SizeHintRole);
     const int sourceId = pSource ? pSource->nId : 0;
     const DiskNode *disks = g_bListsLoading ? nullptr : g_App.m_pDiskListHead;

@@ -202,7 +202,7 @@ void SmartStatus::ClearDisk()
 
 void SmartStatus::RetranslateSmartTable()
 {
-    // None are there while a disk is being read.
+    // There are no rows while a disk is being read.
     if (m_pAttributeTree->topLevelItemCount() > 0)
         ShowRows(CurrentRows());
 }

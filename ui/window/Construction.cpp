@@ -470,7 +470,7 @@ void MainWindow::changeEvent(QEvent *event)
             companion::start();
         }
     }
-    // A minimised window's ring rests.
+    // The ring does not paint itself in a minimised window; this starts it again.
     if (event->type() == QEvent::WindowStateChange && m_pDiskPartitionPage)
         m_pDiskPartitionPage->m_pDonutView->update();
     QMainWindow::changeEvent(event);

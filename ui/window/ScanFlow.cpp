@@ -138,7 +138,7 @@ void MainWindow::OnFinishScanDisk()
     selectButton(navigation::ScanDiskScreen);
 }
 
-/// The entries that lead away from a scan. Those that nothing stands behind stay grey.
+/// The menu entries that lead away from a scan. Entries without a function stay grey.
 void MainWindow::setMenuEntriesEnabled(bool enabled)
 {
     if (enabled) {
