@@ -61,7 +61,8 @@ void identifyFileSystem(inventory::Volume &volume, const QString &node, const QS
     volume.fileSystem = lsblk::fileSystemName(type, found.value(QStringLiteral("VERSION")));
 }
 
-/// A browser or viewer must not run as root, so the user's desktop opens the page or document.
+/// As root, the session of the user who is logged on opens a page or document, if there is one: a browser
+/// should not run as root.
 bool openOnDesktop(const QString &target)
 {
     const QString opener = linuxtools::find(QStringLiteral("xdg-open"));

@@ -68,7 +68,7 @@ QStringList systemFolders()
 
 QString find(const QString &name)
 {
-    // A path may hold folders of another user, and the one for local tools is open to a group.
+    // The search path may name another user's folders, and a group may write to the folder of local tools.
     if (ownfiles::isElevated())
         return QStandardPaths::findExecutable(name, systemFolders());
     const QString found = QStandardPaths::findExecutable(name);

@@ -33,7 +33,7 @@ bool hasAccessList(int handle)
            (errno != ENODATA && errno != ENOTSUP);
 }
 
-/// A group that is this user's alone does not count: it bears the number of the user.
+/// The user's own group, which has the number of the user, does not count.
 bool othersMayAdd(int handle, const struct stat &status)
 {
     const bool userGroup = status.st_gid == 0 || (status.st_gid == geteuid() && status.st_gid == getegid());
@@ -69,8 +69,8 @@ enum class Purpose {
     Save  ///< a place that the user chose, whoever's it is
 };
 
-/// Goes down a path from one open folder to the next, so that nothing can be put in the place of what was
-/// looked at. Ends at the first part that is not ours, or is missing and is not to be made.
+/// Goes down a path from one open folder to the next, so that no part can be replaced after it was checked.
+/// Ends at the first part that another user could change, or that is missing and is not to be made.
 class Walk
 {
 public:

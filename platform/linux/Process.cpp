@@ -85,7 +85,8 @@ void clearEnvironment()
     }
 }
 
-/// What the windowing system is found by stays where it is when the folders of root take its place.
+/// Writes the places of the display into its variables in full, before HOME and XDG_RUNTIME_DIR become
+/// root's.
 void keepDisplay()
 {
     const QByteArray display = qgetenv("WAYLAND_DISPLAY");
@@ -96,9 +97,8 @@ void keepDisplay()
         qputenv("XAUTHORITY", authority);
 }
 
-/// Locks the byte of a file that stands for `key`. The lock goes with the process, also with one that was
-/// killed, so that nothing stays behind that would have to be told from a program that runs. Nothing where
-/// the folder cannot be had, else whether the lock could be taken.
+/// Locks the byte of a file that stands for `key`. The lock ends with the process, even if that is killed.
+/// Nothing if the folder cannot be used, else whether the lock could be taken.
 std::optional<bool> takeLock(const QString &folder, const QString &key)
 {
     if (folder.isEmpty() || !ownfiles::makeFolder(folder).isEmpty())

@@ -56,7 +56,7 @@ bool isDescribedPath(const QString &path)
 
 bool makeStateFolder(const QString &folder, QString *error)
 {
-    // What strangers could change would lead the program to other files of its user.
+    // A folder that others can change could lead the program to other files of its user.
     QString wrong = ownfiles::makeFolder(folder);
     if (wrong.isEmpty()) {
         wrong = ownfiles::strangerIn(folder);
@@ -80,7 +80,7 @@ bool makeStateFolder(const QString &folder, QString *error)
 std::unique_ptr<SimulatedPlatform> SimulatedPlatform::open(const QString &folder, const QString &stateFolder,
                                                            QString *error, simulated::Clock clock)
 {
-    // Who runs as an administrator follows nobody else's description.
+    // An administrator's program takes no description that another user could change.
     const QString stranger = ownfiles::isElevated() ? ownfiles::strangerIn(folder) : QString();
     if (!stranger.isEmpty()) {
         *error = stranger + QLatin1String(", and this program runs as an administrator");
@@ -293,7 +293,7 @@ QString SimulatedPlatform::HistoryFolder(const QString &)
 
 QString SimulatedPlatform::MakePrivateFolder(const QString &name)
 {
-    // The state is the user's, but others may be able to look at it.
+    // Other users may be able to read the state folder, so this folder gets rights of its own.
     const QString path = GetTempPathW() + name;
     QDir(path).removeRecursively();
     const bool fresh = QDir().mkdir(path);
@@ -332,7 +332,7 @@ QString SimulatedPlatform::NativePath(const QString &path) const
 
 bool SimulatedPlatform::TakeInstance(const QString &key)
 {
-    // A state folder that was asked for makes another PC of the same description.
+    // With another state folder the same description is another PC.
     const QString scope = m_pc.folder + QLatin1Char('\n') + (m_ownsState ? QString() : m_state);
     const QByteArray hash = QCryptographicHash::hash(scope.toUtf8(), QCryptographicHash::Sha1).toHex();
     return takeNativeInstance(key + QLatin1Char('-') + QString::fromLatin1(hash));

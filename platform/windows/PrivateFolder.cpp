@@ -26,7 +26,7 @@ const wchar_t *wide(const QString &text)
     return reinterpret_cast<const wchar_t *>(text.utf16());
 }
 
-/// As it can stand in a command line, empty where it cannot.
+/// The folder by a path that a command line can hold; empty if it has none.
 QString machineData()
 {
     PWSTR path = nullptr;
@@ -98,7 +98,7 @@ void removeUnusedTempFolders()
     const QDir data(machineData());
     for (const QString &name : data.entryList({FolderName + QLatin1String("temp-*")}, QDir::Dirs)) {
         const QString path = QDir::toNativeSeparators(data.filePath(name));
-        // Its process does not share the right to remove it.
+        // While a process uses the folder, nobody can open it for removal.
         const HANDLE unused =
             openFolder(path, DELETE, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE);
         if (unused == INVALID_HANDLE_VALUE)
@@ -147,7 +147,7 @@ QString makePrivateFolder(const QString &name)
 {
     OwnRights own;
     const QString parent = machineData();
-    // A name that nobody knows before: what is there already fails, whoever made it.
+    // Nobody can know the name before. If something of that name is there, making the folder fails.
     const QString path =
         QStringLiteral("%1\\%2%3-%4")
             .arg(parent, FolderName, name, QString::number(QRandomGenerator::system()->generate64(), 16));
