@@ -26,11 +26,11 @@ QString runDisk(const QByteArray &input, Mutator &)
     ResetPartitionWalk();
     ScanPartitionTable(PhysicalDriveBase, 0);
     QVector<ReferenceWalk::Partition> found;
-    for (const LinuxPartitionEntry *entry = g_pLinuxPartitionHead; entry; entry = entry->pNext) {
-        found << ReferenceWalk::Partition{entry->nStartSector, entry->nSectorCount, entry->nEndSector};
+    for (const LinuxPartitionEntry &entry : g_linuxPartitions) {
+        found << ReferenceWalk::Partition{entry.nStartSector, entry.nSectorCount, entry.nEndSector};
         if (found.size() > NamedPartitions)
             continue;
-        const std::unique_ptr<DiskNode> node = makeLinuxNode(*entry, found.size());
+        const std::unique_ptr<DiskNode> node = makeLinuxNode(entry, found.size());
         if (node->pLogical->szRoot.isEmpty() || node->pLogical->szRoot.size() > 16)
             return QStringLiteral("a partition's name does not fit");
     }
@@ -77,8 +77,7 @@ QString runTable(const QByteArray &input, Mutator &)
 {
     QTextStream stream(input);
     QVector<int> numbers;
-    LogicalDiskRecord *head = nullptr;
-    LogicalDiskRecord *tail = nullptr;
+    RecordList<LogicalDiskRecord> volumes;
     QString complaint;
     while (!stream.atEnd()) {
         const QString line = stream.readLine();
@@ -89,19 +88,17 @@ QString runTable(const QByteArray &input, Mutator &)
         if (wmic::bitLockerState(line) == QLatin1String("NO") && !wmic::isBitLockerLine(line))
             complaint = QStringLiteral("a state out of nowhere");
         numbers << wmic::partitionDisk(line).toInt();
-        auto *record = new LogicalDiskRecord;
-        record->szCaption.assign(volume.caption);
-        record->szFileSystem.assign(volume.fileSystem);
-        record->nSizeBytes = volume.sizeBytes;
-        appendToList(head, tail, record);
+        LogicalDiskRecord &record = volumes.append();
+        record.szCaption.assign(volume.caption);
+        record.szFileSystem.assign(volume.fileSystem);
+        record.nSizeBytes = volume.sizeBytes;
         WmicDiskRecord disk;
         disk.szModel.assign(drive.model);
         disk.szInterface.assign(drive.interfaceText);
         disk.szStatus.assign(drive.status);
     }
     numbers.resize(numbers.size() / 2 * 3);
-    wmic::pairDiskIndexes(head, numbers);
-    freeList(head, tail);
+    wmic::pairDiskIndexes(volumes, numbers);
     return complaint;
 }
 

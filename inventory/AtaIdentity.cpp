@@ -144,9 +144,6 @@ std::uint8_t attributeState(std::uint32_t threshold, std::uint32_t current)
 
 void decodeAttributes(const QByteArray &data, DiskIdentity *identity, const ThresholdTable &thresholds)
 {
-    IdentityAttribute *tail = identity->pAttributes;
-    while (tail && tail->pNext)
-        tail = tail->pNext;
     bool temperatureSeen = false;
     for (int slot = 0; slot < AttributeSlots; ++slot) {
         const int entry = 2 + slot * AttributeBytes;
@@ -158,16 +155,15 @@ void decodeAttributes(const QByteArray &data, DiskIdentity *identity, const Thre
             identity->nTemperature = byteAt(data, entry + 5);
             identity->nTemperatureCopy = static_cast<std::uint16_t>(identity->nTemperature);
         }
-        auto *attribute = new IdentityAttribute;
-        attribute->nAttrId = id;
-        attribute->szNameIndex = QString::number(nameIndex(id));
-        attribute->nCurrent = byteAt(data, entry + 3);
-        attribute->nWorst = byteAt(data, entry + 4);
-        attribute->nThreshold = thresholds[static_cast<std::size_t>(slot)];
-        attribute->nState = attributeState(attribute->nThreshold, attribute->nCurrent);
-        appendToList(identity->pAttributes, tail, attribute);
+        IdentityAttribute &attribute = identity->attributes.append();
+        attribute.nAttrId = id;
+        attribute.szNameIndex = QString::number(nameIndex(id));
+        attribute.nCurrent = byteAt(data, entry + 3);
+        attribute.nWorst = byteAt(data, entry + 4);
+        attribute.nThreshold = thresholds[static_cast<std::size_t>(slot)];
+        attribute.nState = attributeState(attribute.nThreshold, attribute.nCurrent);
         ++identity->nAttributeCount;
-        identity->nThresholdState = std::max(identity->nThresholdState, attribute->nState);
+        identity->nThresholdState = std::max(identity->nThresholdState, attribute.nState);
     }
 }
 

@@ -29,8 +29,8 @@ bool isDiskDenied()
 
 CCreateDiskDriveList::CCreateDiskDriveList()
 {
-    g_App.freeDiskList();
-    FreeLinuxPartitions();
+    g_App.m_diskList.clear();
+    g_linuxPartitions.clear();
     g_App.m_nNextLogicalId = FirstLogicalId;
 }
 
@@ -40,10 +40,10 @@ void CCreateDiskDriveList::BuildDriveList()
     probeDisks();
     appendPhysicalNodes(m_fixed, FixedDisk);
     appendPhysicalNodes(m_removable, RemovableDisk);
-    g_App.m_bAccessDenied = !g_App.m_pDiskListHead && isDiskDenied();
+    g_App.m_bAccessDenied = g_App.m_diskList.isEmpty() && isDiskDenied();
     appendVolumeNodes();
-    for (DiskNode *node = g_App.m_pDiskListHead; node; node = node->pNext)
-        tieVolumeToDisk(node, &m_extents);
+    for (DiskNode &node : g_App.m_diskList)
+        tieVolumeToDisk(&node, &m_extents);
     appendLinuxNodes();
 }
 
@@ -79,19 +79,18 @@ void CCreateDiskDriveList::appendPhysicalNodes(const ProbeTable &table, DiskKind
 {
     for (int number = 0; number < ListedDisks; ++number) {
         if (table.found[static_cast<std::size_t>(number)])
-            appendToList(g_App.m_pDiskListHead, g_App.m_pDiskListTail,
-                         makePhysicalNode(number, kind, table.bytesPerSector.value(number)));
+            appendPhysicalNode(number, kind, table.bytesPerSector.value(number));
     }
 }
 
-DiskNode *CCreateDiskDriveList::makePhysicalNode(int number, DiskKind kind, int bytesPerSector)
+void CCreateDiskDriveList::appendPhysicalNode(int number, DiskKind kind, int bytesPerSector)
 {
     const int driveCode = PhysicalDriveBase + number;
-    auto *node = new DiskNode;
-    node->nId = static_cast<std::uint16_t>(driveCode);
-    node->nKind = kind;
-    node->pDetails = std::make_unique<DiskDetails>();
-    DiskDetails &details = *node->pDetails;
+    DiskNode &node = g_App.m_diskList.append();
+    node.nId = static_cast<std::uint16_t>(driveCode);
+    node.nKind = kind;
+    node.pDetails = std::make_unique<DiskDetails>();
+    DiskDetails &details = *node.pDetails;
     details.nDevice = static_cast<std::uint8_t>(driveCode);
     details.nSectorFactor = static_cast<std::uint32_t>(bytesPerSector) / SectorSize;
     const DiskMark mark = ReadDiskMark(driveCode);
@@ -103,7 +102,6 @@ DiskNode *CCreateDiskDriveList::makePhysicalNode(int number, DiskKind kind, int 
         ReadAtaIdentity(driveCode, details.pIdentity.get());
     }
     details.szDrives = QStringLiteral("Drive: ") + driveLetters(driveCode);
-    return node;
 }
 
 QString CCreateDiskDriveList::driveLetters(int driveCode)
@@ -124,10 +122,7 @@ void CCreateDiskDriveList::appendVolumeNodes()
 {
     RemovableDisks removable;
     removable.count = g_App.m_nRemovableDisks;
-    for (const DiskNode *node = g_App.m_pDiskListHead; node && !removable.first; node = node->pNext) {
-        if (node->nKind == RemovableDisk)
-            removable.first = node;
-    }
+    removable.first = g_App.m_diskList.find([](const DiskNode &node) { return node.nKind == RemovableDisk; });
     for (const QString &root : m_driveStrings.mid(0, Letters)) {
         if (root.isEmpty())
             return;
@@ -139,13 +134,13 @@ void CCreateDiskDriveList::appendLinuxNodes()
 {
     // The nodes that come are none of physical disks, so the list may grow under the loop.
     int number = 0;
-    for (const DiskNode *disk = g_App.m_pDiskListHead; disk; disk = disk->pNext) {
-        if (!isPhysicalKind(disk->nKind))
+    for (const DiskNode &disk : g_App.m_diskList) {
+        if (!isPhysicalKind(disk.nKind))
             continue;
         ResetPartitionWalk();
-        ScanPartitionTable(disk->nId, 0);
-        for (const LinuxPartitionEntry *entry = g_pLinuxPartitionHead; entry; entry = entry->pNext)
-            appendLogicalNode(makeLinuxNode(*entry, ++number));
+        ScanPartitionTable(disk.nId, 0);
+        for (const LinuxPartitionEntry &entry : g_linuxPartitions)
+            appendLogicalNode(makeLinuxNode(entry, ++number));
     }
 }
 
@@ -154,5 +149,5 @@ void CCreateDiskDriveList::appendLogicalNode(std::unique_ptr<DiskNode> node)
     if (!node)
         return;
     node->nId = g_App.m_nNextLogicalId++;
-    appendToList(g_App.m_pDiskListHead, g_App.m_pDiskListTail, node.release());
+    g_App.m_diskList.append(std::move(*node));
 }

@@ -38,7 +38,7 @@ private:
 
     void probeDisks();
     void appendPhysicalNodes(const ProbeTable &table, DiskKind kind);
-    DiskNode *makePhysicalNode(int number, DiskKind kind, int bytesPerSector);
+    void appendPhysicalNode(int number, DiskKind kind, int bytesPerSector);
     QString driveLetters(int driveCode);
     void appendVolumeNodes();
     void appendLinuxNodes();

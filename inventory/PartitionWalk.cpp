@@ -218,26 +218,20 @@ bool Walk::read(quint64 sector, Sector *bytes) const
 
 void Walk::add(quint64 start, quint64 count, quint64 end) const
 {
-    auto *entry = new LinuxPartitionEntry;
-    entry->nStartSector = start;
-    entry->nSectorCount = count;
-    entry->nEndSector = end;
-    entry->nType = LinuxPartitionType;
-    entry->nDrive = static_cast<quint8>(m_drive);
-    appendToList(g_pLinuxPartitionHead, g_pLinuxPartitionTail, entry);
+    LinuxPartitionEntry &entry = g_linuxPartitions.append();
+    entry.nStartSector = start;
+    entry.nSectorCount = count;
+    entry.nEndSector = end;
+    entry.nType = LinuxPartitionType;
+    entry.nDrive = static_cast<quint8>(m_drive);
     ++g_partitionWalk.partitionCount;
 }
 
 } // namespace
 
-void FreeLinuxPartitions()
-{
-    freeList(g_pLinuxPartitionHead, g_pLinuxPartitionTail);
-}
-
 void ResetPartitionWalk()
 {
-    FreeLinuxPartitions();
+    g_linuxPartitions.clear();
     g_partitionWalk = PartitionWalkState();
 }
 

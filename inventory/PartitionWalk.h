@@ -1,5 +1,7 @@
 #pragma once
 
+#include "state/RecordList.h"
+
 #include <QtGlobal>
 
 /// Finds the Linux partitions of a physical disk by its MBR, EBR and GPT tables: the operating system does
@@ -30,11 +32,8 @@ constexpr quint8 LinuxPartitionType = 131;
 constexpr int MaxPartitionTables = 65536;
 
 inline PartitionWalkState g_partitionWalk;
-inline LinuxPartitionEntry *g_pLinuxPartitionHead = nullptr; ///< owned here, until the next walk or list
-inline LinuxPartitionEntry *g_pLinuxPartitionTail = nullptr;
-
-/// Frees the entries that were found.
-void FreeLinuxPartitions();
+/// What the last walk found, until the next one or the next list. Goes with the process.
+inline RecordList<LinuxPartitionEntry> &g_linuxPartitions = *new RecordList<LinuxPartitionEntry>;
 
 /// Frees the entries and zeroes the state, as every walk of a disk has to begin.
 void ResetPartitionWalk();

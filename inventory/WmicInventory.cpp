@@ -43,24 +43,22 @@ QString wmicCommand(const char *question)
     return g_App.m_strSystemFolder + QLatin1String("\\wbem\\WMIC.exe ") + QLatin1String(question);
 }
 
-WmicDiskRecord *makeDiskRecord(const wmic::DiskDriveLine &line)
+WmicDiskRecord diskRecord(const wmic::DiskDriveLine &line)
 {
-    auto *record = new WmicDiskRecord;
-    record->nIndex = line.index;
-    record->szInterface.assign(line.interfaceText);
-    record->nDiskId = line.index == wmic::Nobody ? wmic::Nobody : line.index + PhysicalDriveBase;
-    if (!line.model.isEmpty())
-        record->szModel.assign(line.model);
-    record->szStatus.assign(line.status);
+    WmicDiskRecord record;
+    record.nIndex = line.index;
+    record.szInterface.assign(line.interfaceText);
+    record.nDiskId = line.index == wmic::Nobody ? wmic::Nobody : line.index + PhysicalDriveBase;
+    record.szModel.assign(line.model);
+    record.szStatus.assign(line.status);
     return record;
 }
 
 /// What the drive said of itself through its own interface; null where it said nothing.
 const DiskIdentity *identityOf(const WmicDiskRecord &record)
 {
-    const DiskNode *node = g_App.m_pDiskListHead;
-    while (node && node->nId != record.nDiskId)
-        node = node->pNext;
+    const DiskNode *node =
+        g_App.m_diskList.find([&record](const DiskNode &each) { return each.nId == record.nDiskId; });
     return node && node->pDetails ? node->pDetails->pIdentity.get() : nullptr;
 }
 
@@ -78,9 +76,9 @@ void nameFromTable(WmicDiskRecord &record, const QString &name)
 void addMissingSerials()
 {
     QVector<WmicDiskRecord *> nameless;
-    for (WmicDiskRecord *record = g_pWmicDiskListHead; record; record = record->pNext) {
-        if (record->szSmartSerial.isEmpty() && !record->szInterface.isEmpty())
-            nameless << record;
+    for (WmicDiskRecord &record : g_wmicDisks) {
+        if (record.szSmartSerial.isEmpty() && !record.szInterface.isEmpty())
+            nameless << &record;
     }
     if (nameless.isEmpty())
         return;
@@ -97,27 +95,27 @@ void addMissingSerials()
         });
 }
 
-LogicalDiskRecord *makeLogicalRecord(const wmic::LogicalDiskLine &line)
+LogicalDiskRecord logicalRecord(const wmic::LogicalDiskLine &line)
 {
-    auto *record = new LogicalDiskRecord;
+    LogicalDiskRecord record;
     if (line.fileSystem.isEmpty())
         return record;
-    record->szCaption.assign(line.caption);
-    record->nFreeBytes = line.freeBytes;
-    record->nSizeBytes = line.sizeBytes;
-    record->szFileSystem.assign(line.fileSystem);
+    record.szCaption.assign(line.caption);
+    record.nFreeBytes = line.freeBytes;
+    record.nSizeBytes = line.sizeBytes;
+    record.szFileSystem.assign(line.fileSystem);
     return record;
 }
 
 /// Asks whether a volume is protected. False if the tool could not be run.
-bool readBitLocker(const QString &caption, LogicalDiskRecord *record)
+bool readBitLocker(const QString &caption, LogicalDiskRecord &record)
 {
     const QString command = g_App.m_strSystemFolder + QLatin1String("\\manage-bde.exe -status ") + caption;
-    return runner::runAndRead(command, BitLockerFile, [record](QTextStream &stream) {
+    return runner::runAndRead(command, BitLockerFile, [&record](QTextStream &stream) {
         while (!stream.atEnd()) {
             const QString line = stream.readLine();
             if (wmic::isBitLockerLine(line)) {
-                record->szBitLocker.assign(wmic::bitLockerState(line));
+                record.szBitLocker.assign(wmic::bitLockerState(line));
                 return;
             }
         }
@@ -127,15 +125,13 @@ bool readBitLocker(const QString &caption, LogicalDiskRecord *record)
 /// Appends a record for each line of the volume table. False if the walk was broken off.
 bool readLogicalDisks(QTextStream &stream)
 {
-    freeList(g_pLogicalDiskListHead, g_pLogicalDiskListTail);
+    g_logicalDisks.clear();
     bool complete = true;
     eachDataLine(stream, QLatin1String("FileSystem"), [&complete](const QString &text) {
         if (!complete)
             return;
         const wmic::LogicalDiskLine line = wmic::parseLogicalDisk(text);
-        LogicalDiskRecord *record = makeLogicalRecord(line);
-        appendToList(g_pLogicalDiskListHead, g_pLogicalDiskListTail, record);
-        complete = readBitLocker(line.caption, record);
+        complete = readBitLocker(line.caption, g_logicalDisks.append(logicalRecord(line)));
     });
     return complete;
 }
@@ -146,19 +142,18 @@ void LoadDiskDrives(const IdentityProbe &probe)
 {
     const QString command = wmicCommand("diskdrive get Model,InterfaceType,Status,Index");
     runner::runAndRead(command, DiskInfoFile, [&probe](QTextStream &stream) {
-        freeList(g_pWmicDiskListHead, g_pWmicDiskListTail);
+        g_wmicDisks.clear();
         // A blank line makes a record too: lists that go by the table's lines count it.
         eachDataLine(stream, QLatin1String("Index"), [&probe](const QString &text) {
             const wmic::DiskDriveLine line = wmic::parseDiskDrive(text);
-            WmicDiskRecord *record = makeDiskRecord(line);
-            appendToList(g_pWmicDiskListHead, g_pWmicDiskListTail, record);
+            WmicDiskRecord &record = g_wmicDisks.append(diskRecord(line));
             if (line.index == wmic::Nobody)
                 return;
             probe(static_cast<int>(line.index), line.interfaceText);
-            record->szSmartSerial.assign(g_strSerialNumber);
-            record->szSmartFirmware.assign(g_strFirmware);
-            record->szSmartModel.assign(g_strModelName);
-            nameFromTable(*record, line.name);
+            record.szSmartSerial.assign(g_strSerialNumber);
+            record.szSmartFirmware.assign(g_strFirmware);
+            record.szSmartModel.assign(g_strModelName);
+            nameFromTable(record, line.name);
         });
     });
     addMissingSerials(); // into the same file
@@ -179,7 +174,7 @@ void LoadLogicalDisks()
     };
     if (runner::runAndRead(wmicCommand("partition get diskindex"), DiskInfoFile, collect,
                            runner::After::Keep))
-        wmic::pairDiskIndexes(g_pLogicalDiskListHead, diskIndexes);
+        wmic::pairDiskIndexes(g_logicalDisks, diskIndexes);
 }
 
 QString GetSystemDiskIndex()
@@ -253,13 +248,13 @@ QString partitionDisk(const QString &line)
     return number.remove(QLatin1String("Disk #")).trimmed();
 }
 
-void pairDiskIndexes(LogicalDiskRecord *head, const QVector<int> &diskIndexes)
+void pairDiskIndexes(RecordList<LogicalDiskRecord> &volumes, const QVector<int> &diskIndexes)
 {
-    for (const int diskIndex : diskIndexes) {
-        if (!head)
+    auto index = diskIndexes.cbegin();
+    for (LogicalDiskRecord &volume : volumes) {
+        if (index == diskIndexes.cend())
             return;
-        head->nDiskIndex = diskIndex;
-        head = head->pNext;
+        volume.nDiskIndex = *index++;
     }
 }
 

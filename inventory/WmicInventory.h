@@ -11,13 +11,13 @@
 /// g_strModelName. Handed in from above, as the reports are no business of this floor.
 using IdentityProbe = std::function<void(int diskIndex, const QString &interfaceText)>;
 
-/// Rebuilds the list at g_pWmicDiskListHead from the system's disk table, asking `probe` for each disk. A
+/// Rebuilds the list g_wmicDisks from the system's disk table, asking `probe` for each disk. A
 /// blank line makes a record that is no disk's. A disk whose report names no model or serial has those that
 /// the system knows. Where the table cannot be had the old list stays. Device-load threads only, behind the
 /// list of the physical disks.
 void LoadDiskDrives(const IdentityProbe &probe);
 
-/// Rebuilds the list at g_pLogicalDiskListHead from the system's volume table. Where the table cannot be had
+/// Rebuilds the list g_logicalDisks from the system's volume table. Where the table cannot be had
 /// the old list stays. Device-load threads only.
 void LoadLogicalDisks();
 
@@ -68,6 +68,6 @@ QString bitLockerState(const QString &line);
 QString partitionDisk(const QString &line);
 
 /// Gives the i-th record the i-th number; what is left over on either side stays as it is.
-void pairDiskIndexes(LogicalDiskRecord *head, const QVector<int> &diskIndexes);
+void pairDiskIndexes(RecordList<LogicalDiskRecord> &volumes, const QVector<int> &diskIndexes);
 
 } // namespace wmic

@@ -63,10 +63,10 @@ Details details(const DiskNode &node, const WmicDiskRecord *record)
     return texts;
 }
 
-std::vector<Destination> destinations(const DiskNode *head, int sourceId)
+std::vector<Destination> destinations(const RecordList<DiskNode> &disks, int sourceId)
 {
     std::vector<Destination> found;
-    for (const drivetexts::Entry &entry : drivetexts::entries(head)) {
+    for (const drivetexts::Entry &entry : drivetexts::entries(disks)) {
         if (entry.node->nId != sourceId)
             found.push_back({entry.texts.drive, entry.node->nId});
     }

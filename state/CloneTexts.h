@@ -35,6 +35,6 @@ struct Destination {
 
 /// The physical disks of a list, in its order, but for the source. The texts are those of the drive combo, so
 /// that two disks of one model can be told apart.
-std::vector<Destination> destinations(const DiskNode *head, int sourceId);
+std::vector<Destination> destinations(const RecordList<DiskNode> &disks, int sourceId);
 
 } // namespace clonetexts

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "state/FixedText.h"
+#include "state/RecordList.h"
 
 #include <QString>
 #include <QVector>
@@ -43,14 +44,9 @@ struct IdentityAttribute {
     std::uint8_t nState = 0; ///< 1 above the threshold, 2 at it, 3 below it
 };
 
-/// What the drive's own interface says of a fixed disk. Owns its attribute list.
+/// What the drive's own interface says of a fixed disk.
 struct DiskIdentity {
-    DiskIdentity() = default;
-    DiskIdentity(const DiskIdentity &) = delete;
-    DiskIdentity &operator=(const DiskIdentity &) = delete;
-    ~DiskIdentity();
-
-    IdentityAttribute *pAttributes = nullptr;
+    RecordList<IdentityAttribute> attributes;
     FixedText<41> szModel;
     FixedText<21> szSerial;
     FixedText<9> szFirmware;
@@ -132,26 +128,3 @@ struct LogicalDiskRecord {
     FixedText<32> szBitLocker; ///< "YES", "NO" or empty
     LogicalDiskRecord *pNext = nullptr;
 };
-
-/// Frees a whole list and nulls its head and tail.
-template<typename Record>
-void freeList(Record *&head, Record *&tail)
-{
-    while (head) {
-        Record *next = head->pNext;
-        delete head;
-        head = next;
-    }
-    tail = nullptr;
-}
-
-/// Appends a record to a list that owns it from then on.
-template<typename Record>
-void appendToList(Record *&head, Record *&tail, Record *record)
-{
-    if (tail)
-        tail->pNext = record;
-    else
-        head = record;
-    tail = record;
-}

@@ -63,12 +63,12 @@ ComboTexts comboTexts(const DiskNode &node, const WmicDiskRecord *record, const 
     return {text, text};
 }
 
-std::vector<Entry> entries(const DiskNode *head)
+std::vector<Entry> entries(const RecordList<DiskNode> &disks)
 {
     std::vector<Entry> list;
-    for (const DiskNode *node = head; node; node = node->pNext) {
-        if (isPhysicalKind(node->nKind))
-            list.push_back({node, comboTexts(*node, findWmicDisk(node->nId), node->szSize.text())});
+    for (const DiskNode &node : disks) {
+        if (isPhysicalKind(node.nKind))
+            list.push_back({&node, comboTexts(node, findWmicDisk(node.nId), node.szSize.text())});
     }
     const std::vector<Entry> alike = list;
     for (Entry &entry : list) {

@@ -26,7 +26,7 @@ struct Entry {
 
 /// The physical disks of a list, in its order, each with texts that no other one has: where two read alike,
 /// the drive's text ends in the disk's number, and the source has the text of the drive.
-std::vector<Entry> entries(const DiskNode *head);
+std::vector<Entry> entries(const RecordList<DiskNode> &disks);
 
 /// The node's own display name: identity model and serial, or "Removable Drive".
 QString displayName(const DiskNode &node);

@@ -19,15 +19,10 @@ constexpr int LanguageCount = 11;
 class GlobalApp : public QObject
 {
 public:
-    GlobalApp();
-    ~GlobalApp() override;
-
-    /// Frees the disk list. The nodes that were chosen from it go with it; whoever counts them resets its
-    /// counts.
-    void freeDiskList();
-
-    DiskNode *m_pDiskListTail = nullptr;
-    DiskNode *m_pDiskListHead = nullptr;
+    /// Goes with the process: a worker that is still reading at its end may be walking it.
+    RecordList<DiskNode> &m_diskList = *new RecordList<DiskNode>;
+    DiskNode *&m_pDiskListTail = m_diskList.tail;
+    DiskNode *&m_pDiskListHead = m_diskList.head;
     DiskNode *m_pCurrentDisk = nullptr; ///< must be looked up again after a load
     DiskNode *m_pCloneDisk = nullptr;
     std::uint8_t m_nFixedDisks = 0;

@@ -25,10 +25,14 @@ inline QWaitClass *m_pWaitDialog = nullptr;
 inline QRect m_rcSplash; ///< the splash's place at the moment it was hidden
 inline bool m_bMainWindowCreated = false;
 
-inline WmicDiskRecord *g_pWmicDiskListHead = nullptr; ///< written by the device-load threads
-inline WmicDiskRecord *g_pWmicDiskListTail = nullptr;
-inline LogicalDiskRecord *g_pLogicalDiskListHead = nullptr;
-inline LogicalDiskRecord *g_pLogicalDiskListTail = nullptr;
+/// The system's disk table and its volume table, written by the device-load threads. They go with the
+/// process, as the disk list does.
+inline RecordList<WmicDiskRecord> &g_wmicDisks = *new RecordList<WmicDiskRecord>;
+inline WmicDiskRecord *&g_pWmicDiskListHead = g_wmicDisks.head;
+inline WmicDiskRecord *&g_pWmicDiskListTail = g_wmicDisks.tail;
+inline RecordList<LogicalDiskRecord> &g_logicalDisks = *new RecordList<LogicalDiskRecord>;
+inline LogicalDiskRecord *&g_pLogicalDiskListHead = g_logicalDisks.head;
+inline LogicalDiskRecord *&g_pLogicalDiskListTail = g_logicalDisks.tail;
 
 inline int g_nCurrentDiskIndex = 0; ///< physical number of the selected disk
 inline QString g_strSerialNumber; ///< of the latest report read; a device-load thread uses the three as well

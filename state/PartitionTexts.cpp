@@ -56,15 +56,15 @@ QStringList driveLetters(const QString &drives)
     return letters.remove(QLatin1String("Drive:")).split(QLatin1Char(' '), Qt::SkipEmptyParts);
 }
 
-QList<qint64> volumeSizes(const QStringList &letters, const LogicalDiskRecord *head)
+QList<qint64> volumeSizes(const QStringList &letters, const RecordList<LogicalDiskRecord> &volumes)
 {
     QList<qint64> sizes;
     for (const QString &letter : letters) {
-        const LogicalDiskRecord *record = head;
-        while (record && record->szCaption.text() != letter)
-            record = record->pNext;
-        if (record)
-            sizes.append(record->nSizeBytes);
+        const auto fits = [&letter](const LogicalDiskRecord &volume) {
+            return volume.szCaption.text() == letter;
+        };
+        if (const LogicalDiskRecord *volume = volumes.find(fits))
+            sizes.append(volume->nSizeBytes);
     }
     return sizes;
 }
@@ -76,27 +76,27 @@ QString volumeName(const LogicalDiskRecord &volume, const QString &protectedMark
     return volume.szBitLocker.text() == QLatin1String("YES") ? name + protectedMark : name;
 }
 
-QVector<int> disksOfVolume(const QString &letter, const DiskNode *head)
+QVector<int> disksOfVolume(const QString &letter, const RecordList<DiskNode> &nodes)
 {
     QVector<int> listing; // of a volume that is not fixed the disk alone knows
-    for (; head; head = head->pNext) {
-        if (head->pDetails && driveLetters(head->pDetails->szDrives).contains(letter))
-            listing = {head->nId - PhysicalDriveBase};
-        const bool isVolume = head->nKind == VolumeNode || head->nKind == RawVolume;
-        if (isVolume && head->pLogical && !head->pLogical->disks.isEmpty() &&
-            letter.startsWith(QChar(u'A' + head->pLogical->nLetter)))
-            return head->pLogical->disks;
+    for (const DiskNode &node : nodes) {
+        if (node.pDetails && driveLetters(node.pDetails->szDrives).contains(letter))
+            listing = {node.nId - PhysicalDriveBase};
+        const bool isVolume = node.nKind == VolumeNode || node.nKind == RawVolume;
+        if (isVolume && node.pLogical && !node.pLogical->disks.isEmpty() &&
+            letter.startsWith(QChar(u'A' + node.pLogical->nLetter)))
+            return node.pLogical->disks;
     }
     return listing;
 }
 
-QString healthWord(const QVector<int> &disks, const WmicDiskRecord *head)
+QString healthWord(const QVector<int> &disks, const RecordList<WmicDiskRecord> &table)
 {
-    const auto isSound = [head](int disk) {
+    const auto isSound = [&table](int disk) {
         QString status;
-        for (const WmicDiskRecord *record = head; record; record = record->pNext) {
-            if (record->nIndex == static_cast<std::uint32_t>(disk))
-                status = record->szStatus.text();
+        for (const WmicDiskRecord &record : table) {
+            if (record.nIndex == static_cast<std::uint32_t>(disk))
+                status = record.szStatus.text();
         }
         return status == QLatin1String("OK");
     };

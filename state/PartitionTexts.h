@@ -16,18 +16,18 @@ QStringList driveLetters(const QString &drives);
 
 /// The sizes in bytes behind the letters, in their order: of each the first record of the list. A letter
 /// without a record adds nothing.
-QList<qint64> volumeSizes(const QStringList &letters, const LogicalDiskRecord *head);
+QList<qint64> volumeSizes(const QStringList &letters, const RecordList<LogicalDiskRecord> &volumes);
 
 /// "C: (NTFS)", with `protectedMark` behind it where the volume is encrypted.
 QString volumeName(const LogicalDiskRecord &volume, const QString &protectedMark);
 
 /// The numbers of the disks that a volume's own extents name, by its letter with the colon; empty where the
 /// list does not know them.
-QVector<int> disksOfVolume(const QString &letter, const DiskNode *head);
+QVector<int> disksOfVolume(const QString &letter, const RecordList<DiskNode> &nodes);
 
 /// "Healthy" where the system reports each of a volume's disks as "OK". Of several lines for one disk the
 /// last one counts; without any it is "Not Healthy".
-QString healthWord(const QVector<int> &disks, const WmicDiskRecord *head);
+QString healthWord(const QVector<int> &disks, const RecordList<WmicDiskRecord> &table);
 
 /// The free part as a whole percentage, cut off; 0 for a volume without a size.
 qint64 freePercent(qint64 freeBytes, qint64 sizeBytes);

@@ -159,13 +159,13 @@ void AtaIdentityTest::ratesAttributes()
     DiskIdentity equal;
     ata::decodeAttributes(smartData(), &equal, thresholds);
     QCOMPARE(int(equal.nThresholdState), 2);
-    QCOMPARE(int(equal.pAttributes->pNext->nState), 2);
+    QCOMPARE(int(equal.attributes.head->pNext->nState), 2);
     thresholds[0] = 101;
     DiskIdentity below;
     ata::decodeAttributes(smartData(), &below, thresholds);
     QCOMPARE(int(below.nThresholdState), 3);
-    QCOMPARE(int(below.pAttributes->nState), 3);
-    QCOMPARE(below.pAttributes->nThreshold, 101u);
+    QCOMPARE(int(below.attributes.head->nState), 3);
+    QCOMPARE(below.attributes.head->nThreshold, 101u);
 }
 
 void AtaIdentityTest::takesShortData()
@@ -177,7 +177,7 @@ void AtaIdentityTest::takesShortData()
     QVERIFY(identity.szModel.isEmpty());
     ata::decodeAttributes(smartData().left(7), &identity);
     QCOMPARE(int(identity.nAttributeCount), 1);
-    QCOMPARE(identity.pAttributes->nCurrent, 100u);
+    QCOMPARE(identity.attributes.head->nCurrent, 100u);
 }
 
 void AtaIdentityTest::readsDisk()
@@ -202,7 +202,7 @@ void AtaIdentityTest::readsDisk()
     QCOMPARE(int(identity.nAttributeCount), 4);
     QCOMPARE(int(identity.nThresholdState), 2);
 
-    const IdentityAttribute *attribute = identity.pAttributes;
+    const IdentityAttribute *attribute = identity.attributes.head;
     QCOMPARE(int(attribute->nAttrId), 5);
     QCOMPARE(attribute->szNameIndex, QStringLiteral("160"));
     QCOMPARE(attribute->nWorst, 99u);
@@ -253,7 +253,7 @@ void AtaIdentityTest::readsPacketDevice()
     QCOMPARE(identity.nTotalLba, 0x12345678u);
     QCOMPARE(int(identity.nCylinders), 0);
     QCOMPARE(int(identity.bSmartEnabled), 0);
-    QVERIFY(!identity.pAttributes);
+    QVERIFY(identity.attributes.isEmpty());
 }
 
 void AtaIdentityTest::leavesRecordEmpty_data()
@@ -282,7 +282,7 @@ void AtaIdentityTest::leavesRecordEmpty()
     QCOMPARE(ReadAtaIdentity(128, &identity), opens);
     QVERIFY(identity.szModel.isEmpty());
     QCOMPARE(int(identity.bSmartEnabled), 0);
-    QVERIFY(!identity.pAttributes);
+    QVERIFY(identity.attributes.isEmpty());
     QCOMPARE(drive.asked.size(), 0);
     QCOMPARE(fake->openHandles(), 0);
 }

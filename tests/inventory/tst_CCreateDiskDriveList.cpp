@@ -33,8 +33,8 @@ QVector<int> build()
     CCreateDiskDriveList list;
     list.BuildDriveList();
     QVector<int> ids;
-    for (const DiskNode *node = g_App.m_pDiskListHead; node; node = node->pNext)
-        ids << node->nId;
+    for (const DiskNode &node : g_App.m_diskList)
+        ids << node.nId;
     return ids;
 }
 

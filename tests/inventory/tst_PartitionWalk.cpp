@@ -26,9 +26,9 @@ Found walk(int driveCode)
     ResetPartitionWalk();
     ScanPartitionTable(driveCode, 0);
     Found found;
-    for (const LinuxPartitionEntry *entry = g_pLinuxPartitionHead; entry; entry = entry->pNext) {
-        found << QVector<quint64>{entry->nStartSector, entry->nSectorCount, entry->nEndSector};
-        if (entry->nType != Linux || entry->nDrive != driveCode)
+    for (const LinuxPartitionEntry &entry : g_linuxPartitions) {
+        found << QVector<quint64>{entry.nStartSector, entry.nSectorCount, entry.nEndSector};
+        if (entry.nType != Linux || entry.nDrive != driveCode)
             qFatal("an entry does not say what it is");
     }
     return found;
@@ -285,9 +285,8 @@ void PartitionWalkTest::findsNothingWithoutDisk()
 {
     FakePlatform::install();
     QCOMPARE(walk(128), Found());
-    FreeLinuxPartitions();
-    QVERIFY(!g_pLinuxPartitionHead);
-    QVERIFY(!g_pLinuxPartitionTail);
+    g_linuxPartitions.clear();
+    QVERIFY(g_linuxPartitions.isEmpty());
 }
 
 QTEST_GUILESS_MAIN(PartitionWalkTest)

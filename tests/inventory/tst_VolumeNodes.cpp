@@ -17,9 +17,9 @@ constexpr quint8 Linux = 131;
 QVector<const DiskNode *> logicalNodes()
 {
     QVector<const DiskNode *> nodes;
-    for (const DiskNode *node = g_App.m_pDiskListHead; node; node = node->pNext) {
-        if (node->pLogical)
-            nodes << node;
+    for (const DiskNode &node : g_App.m_diskList) {
+        if (node.pLogical)
+            nodes << &node;
     }
     return nodes;
 }
@@ -335,11 +335,11 @@ void VolumeNodesTest::listsLinuxPartitions()
     QCOMPARE(second.szFileSystem + second.szType + second.szLabel, QStringLiteral("EXTxFIXEDLinux Disk"));
     QCOMPARE(int(second.nFsCode), int(Linux));
     QCOMPARE(int(second.nLetter), 0);
-    QVERIFY(g_pLinuxPartitionHead);
+    QVERIFY(!g_linuxPartitions.isEmpty());
     fake->disks.clear();
     nodes = build();
     QCOMPARE(nodes.size(), 1);
-    QVERIFY(!g_pLinuxPartitionHead);
+    QVERIFY(g_linuxPartitions.isEmpty());
 }
 
 void VolumeNodesTest::keepsVolumesWithoutRights()

@@ -27,10 +27,10 @@ QByteArray utf16(const QString &text)
 QStringList diskRecords()
 {
     QStringList rows;
-    for (const WmicDiskRecord *record = g_pWmicDiskListHead; record; record = record->pNext) {
+    for (const WmicDiskRecord &record : g_wmicDisks) {
         rows << QStringLiteral("%1|%2|%3|%4")
-                    .arg(QString::number(record->nIndex), record->szInterface.text(), record->szModel.text(),
-                         record->szStatus.text());
+                    .arg(QString::number(record.nIndex), record.szInterface.text(), record.szModel.text(),
+                         record.szStatus.text());
     }
     return rows;
 }
@@ -39,11 +39,11 @@ QStringList diskRecords()
 QStringList volumeRecords()
 {
     QStringList rows;
-    for (const LogicalDiskRecord *record = g_pLogicalDiskListHead; record; record = record->pNext) {
+    for (const LogicalDiskRecord &record : g_logicalDisks) {
         rows << QStringLiteral("%1|%2|%3|%4|%5|%6")
-                    .arg(record->szCaption.text(), record->szFileSystem.text(),
-                         QString::number(record->nFreeBytes), QString::number(record->nSizeBytes),
-                         record->szBitLocker.text(), QString::number(record->nDiskIndex));
+                    .arg(record.szCaption.text(), record.szFileSystem.text(),
+                         QString::number(record.nFreeBytes), QString::number(record.nSizeBytes),
+                         record.szBitLocker.text(), QString::number(record.nDiskIndex));
     }
     return rows;
 }
@@ -103,8 +103,8 @@ void WmicInventoryTest::init()
 
 void WmicInventoryTest::cleanup()
 {
-    freeList(g_pWmicDiskListHead, g_pWmicDiskListTail);
-    freeList(g_pLogicalDiskListHead, g_pLogicalDiskListTail);
+    g_wmicDisks.clear();
+    g_logicalDisks.clear();
 }
 
 void WmicInventoryTest::parsesDiskDriveLine_data()
@@ -378,11 +378,11 @@ void WmicInventoryTest::pairsByPosition()
     QFETCH(int, volumes);
     QFETCH(QVector<int>, numbers);
     for (int i = 0; i < volumes; ++i)
-        appendToList(g_pLogicalDiskListHead, g_pLogicalDiskListTail, new LogicalDiskRecord);
-    wmic::pairDiskIndexes(g_pLogicalDiskListHead, numbers);
+        g_logicalDisks.append();
+    wmic::pairDiskIndexes(g_logicalDisks, numbers);
     QVector<int> paired;
-    for (const LogicalDiskRecord *record = g_pLogicalDiskListHead; record; record = record->pNext)
-        paired << record->nDiskIndex;
+    for (const LogicalDiskRecord &record : g_logicalDisks)
+        paired << record.nDiskIndex;
     QTEST(paired, "paired");
 }
 
@@ -394,8 +394,8 @@ void WmicInventoryTest::blankRowsOfPartitionsCountAsDisk0()
                {QStringLiteral("partition get diskindex"), "DiskIndex\n0\n\n1\n"}};
     LoadLogicalDisks();
     QVector<int> paired;
-    for (const LogicalDiskRecord *record = g_pLogicalDiskListHead; record; record = record->pNext)
-        paired << record->nDiskIndex;
+    for (const LogicalDiskRecord &record : g_logicalDisks)
+        paired << record.nDiskIndex;
     QCOMPARE(paired, QVector<int>({0, 0, 1}));
 }
 

@@ -59,9 +59,9 @@ QByteArray listOfDisks()
     CCreateDiskDriveList list;
     list.BuildDriveList();
     QByteArray lines;
-    for (const DiskNode *node = g_App.m_pDiskListHead; node; node = node->pNext)
-        lines += describe(*node) + '\n';
-    g_App.freeDiskList();
+    for (const DiskNode &node : g_App.m_diskList)
+        lines += describe(node) + '\n';
+    g_App.m_diskList.clear();
     return lines;
 }
 

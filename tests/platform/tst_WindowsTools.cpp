@@ -150,9 +150,8 @@ const LogicalDiskRecord *systemVolume()
     const QString system = Platform::current().GetSystemDirectoryW().left(2);
     QString fileSystem;
     Platform::current().GetVolumeInformationW(system + QLatin1Char('\\'), nullptr, &fileSystem);
-    const LogicalDiskRecord *record = g_pLogicalDiskListHead;
-    while (record && record->szCaption.text() != system)
-        record = record->pNext;
+    const LogicalDiskRecord *record = g_logicalDisks.find(
+        [&system](const LogicalDiskRecord &each) { return each.szCaption.text() == system; });
     return record && record->szFileSystem.text() == fileSystem ? record : nullptr;
 }
 

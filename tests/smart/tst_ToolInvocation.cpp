@@ -10,11 +10,10 @@ namespace
 
 void addDisk(quint32 index, const char *interfaceText)
 {
-    auto *record = new WmicDiskRecord;
-    record->nIndex = index;
-    record->nDiskId = index + PhysicalDriveBase;
-    record->szInterface.assign(interfaceText);
-    appendToList(g_pWmicDiskListHead, g_pWmicDiskListTail, record);
+    WmicDiskRecord &record = g_wmicDisks.append();
+    record.nIndex = index;
+    record.nDiskId = index + PhysicalDriveBase;
+    record.szInterface.assign(interfaceText);
 }
 
 } // namespace
@@ -64,7 +63,7 @@ void tst_ToolInvocation::init()
 void tst_ToolInvocation::cleanup()
 {
     samples::forget();
-    freeList(g_pWmicDiskListHead, g_pWmicDiskListTail);
+    g_wmicDisks.clear();
     g_strRunMode.clear();
     g_strSmartDevice = QString();
     g_strSmartReportPath = QString();

@@ -11,23 +11,21 @@ namespace
 
 DiskNode *addNode(int id, DiskKind kind, const QString &size = QString())
 {
-    auto *node = new DiskNode;
-    node->nId = static_cast<std::uint16_t>(id);
-    node->nKind = kind;
-    node->szSize.assign(size);
-    appendToList(g_App.m_pDiskListHead, g_App.m_pDiskListTail, node);
-    return node;
+    DiskNode &node = g_App.m_diskList.append();
+    node.nId = static_cast<std::uint16_t>(id);
+    node.nKind = kind;
+    node.szSize.assign(size);
+    return &node;
 }
 
 WmicDiskRecord *addRecord(int id, const QString &model, const QString &smartModel, const QString &serial)
 {
-    auto *record = new WmicDiskRecord;
-    record->nDiskId = static_cast<std::uint32_t>(id);
-    record->szModel.assign(model);
-    record->szSmartModel.assign(smartModel);
-    record->szSmartSerial.assign(serial);
-    appendToList(g_pWmicDiskListHead, g_pWmicDiskListTail, record);
-    return record;
+    WmicDiskRecord &record = g_wmicDisks.append();
+    record.nDiskId = static_cast<std::uint32_t>(id);
+    record.szModel.assign(model);
+    record.szSmartModel.assign(smartModel);
+    record.szSmartSerial.assign(serial);
+    return &record;
 }
 
 } // namespace
@@ -39,8 +37,8 @@ class CloneTextsTest : public QObject
 private slots:
     void cleanup()
     {
-        freeList(g_App.m_pDiskListHead, g_App.m_pDiskListTail);
-        freeList(g_pWmicDiskListHead, g_pWmicDiskListTail);
+        g_App.m_diskList.clear();
+        g_wmicDisks.clear();
     }
 
     void tellsAKnownDisk()
@@ -101,7 +99,7 @@ private slots:
         addNode(2, VolumeNode);
         addNode(300, LinuxPartition);
         QList<int> found;
-        for (const clonetexts::Destination &disk : clonetexts::destinations(g_App.m_pDiskListHead, source))
+        for (const clonetexts::Destination &disk : clonetexts::destinations(g_App.m_diskList, source))
             found.append(disk.diskId);
         QCOMPARE(found, offered);
     }
@@ -113,12 +111,12 @@ private slots:
         for (int id : {129, 131})
             addRecord(id, QString(), QStringLiteral("Twin"), QStringLiteral("S1"));
         addRecord(130, QString(), QStringLiteral("Twin"), QStringLiteral("S2"));
-        const auto disks = clonetexts::destinations(g_App.m_pDiskListHead, 131);
+        const auto disks = clonetexts::destinations(g_App.m_diskList, 131);
         QCOMPARE(disks.size(), std::size_t{3});
         // The number stays where the other twin is the source and is not offered.
         QCOMPARE(disks[1].text, QStringLiteral("Twin | S1 | 1.82 TB | Disk Drive 1"));
         QCOMPARE(disks[2].text, QStringLiteral("Twin | S2 | 1.82 TB"));
-        const auto entries = drivetexts::entries(g_App.m_pDiskListHead);
+        const auto entries = drivetexts::entries(g_App.m_diskList);
         QCOMPARE(entries[2].texts.source, disks[2].text);
         QCOMPARE(entries[0].texts.source, QStringLiteral("Disk Drive 0"));
     }

@@ -3,8 +3,6 @@
 #include <QtTest>
 
 #include <limits>
-#include <memory>
-#include <vector>
 
 namespace
 {
@@ -12,24 +10,6 @@ namespace
 constexpr qint64 Mega = 1048576;
 constexpr qint64 Giga = 1024 * Mega;
 constexpr qint64 Tera = 1024 * Giga;
-
-/// Records in a row, each tied to the next.
-template<typename Record>
-class Chain
-{
-public:
-    Record &add()
-    {
-        m_records.push_back(std::make_unique<Record>());
-        if (m_records.size() > 1)
-            m_records[m_records.size() - 2]->pNext = m_records.back().get();
-        return *m_records.back();
-    }
-    const Record *head() const { return m_records.empty() ? nullptr : m_records.front().get(); }
-
-private:
-    std::vector<std::unique_ptr<Record>> m_records;
-};
 
 LogicalDiskRecord volume(const QString &caption, qint64 freeBytes, qint64 sizeBytes,
                          const QString &bitLocker = QString())
@@ -81,18 +61,18 @@ void tst_PartitionTexts::letters()
 
 void tst_PartitionTexts::sizesGoByLetter()
 {
-    Chain<LogicalDiskRecord> list;
+    RecordList<LogicalDiskRecord> list;
     const struct {
         const char *caption;
         qint64 size;
     } rows[] = {{"", 7}, {"D:", 20}, {"C:", 10}, {"D:", 21}};
     for (const auto &row : rows) {
-        LogicalDiskRecord &record = list.add();
+        LogicalDiskRecord &record = list.append();
         record.szCaption.assign(QLatin1String(row.caption));
         record.nSizeBytes = row.size;
     }
-    QCOMPARE(partitiontexts::volumeSizes({"C:", "X:", "D:"}, list.head()), (QList<qint64>{10, 20}));
-    QCOMPARE(partitiontexts::volumeSizes({"C:"}, nullptr), QList<qint64>());
+    QCOMPARE(partitiontexts::volumeSizes({"C:", "X:", "D:"}, list), (QList<qint64>{10, 20}));
+    QCOMPARE(partitiontexts::volumeSizes({"C:"}, {}), QList<qint64>());
 }
 
 void tst_PartitionTexts::names()
@@ -119,18 +99,18 @@ void tst_PartitionTexts::health_data()
 
 void tst_PartitionTexts::health()
 {
-    Chain<WmicDiskRecord> list;
+    RecordList<WmicDiskRecord> list;
     const struct {
         unsigned index;
         const char *status;
     } rows[] = {{0, "OK"}, {1, "Error"}, {1, "OK"}, {2, "Pred Fail"}, {0, ""}, {4, "OK"}};
     for (const auto &row : rows) {
-        WmicDiskRecord &record = list.add();
+        WmicDiskRecord &record = list.append();
         record.nIndex = row.index;
         record.szStatus.assign(QLatin1String(row.status));
     }
     QFETCH(QVector<int>, disks);
-    QTEST(partitiontexts::healthWord(disks, list.head()), "word");
+    QTEST(partitiontexts::healthWord(disks, list), "word");
 }
 
 void tst_PartitionTexts::percentage_data()

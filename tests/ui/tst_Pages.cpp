@@ -28,25 +28,23 @@ public:
 
 DiskNode *addDisk(int id, const QString &model, DiskKind kind = FixedDisk)
 {
-    auto *node = new DiskNode;
-    node->nId = static_cast<std::uint16_t>(id);
-    node->nKind = kind;
-    node->szSize.assign(QStringLiteral("%1 GB").arg(id));
-    node->pDetails = std::make_unique<DiskDetails>();
-    node->pDetails->nTotalSectors = static_cast<std::uint64_t>(id) * 1000;
-    appendToList(g_App.m_pDiskListHead, g_App.m_pDiskListTail, node);
-    auto *record = new WmicDiskRecord;
-    record->nDiskId = static_cast<std::uint32_t>(id);
-    record->szModel.assign(QStringLiteral("bus ") + model);
-    record->szSmartModel.assign(model);
-    appendToList(g_pWmicDiskListHead, g_pWmicDiskListTail, record);
-    return node;
+    DiskNode &node = g_App.m_diskList.append();
+    node.nId = static_cast<std::uint16_t>(id);
+    node.nKind = kind;
+    node.szSize.assign(QStringLiteral("%1 GB").arg(id));
+    node.pDetails = std::make_unique<DiskDetails>();
+    node.pDetails->nTotalSectors = static_cast<std::uint64_t>(id) * 1000;
+    WmicDiskRecord &record = g_wmicDisks.append();
+    record.nDiskId = static_cast<std::uint32_t>(id);
+    record.szModel.assign(QStringLiteral("bus ") + model);
+    record.szSmartModel.assign(model);
+    return &node;
 }
 
 void addSources(CloneDisk &page)
 {
-    for (const DiskNode *node = g_App.m_pDiskListHead; node; node = node->pNext)
-        page.SourceComboBox->addItem(QString::number(node->nId), node->nId);
+    for (const DiskNode &node : g_App.m_diskList)
+        page.SourceComboBox->addItem(QString::number(node.nId), node.nId);
 }
 
 QStringList choices(const QComboBox *combo)
@@ -75,8 +73,8 @@ private slots:
     void cleanup()
     {
         QCoreApplication::removeTranslator(&m_translator);
-        freeList(g_App.m_pDiskListHead, g_App.m_pDiskListTail);
-        freeList(g_pWmicDiskListHead, g_pWmicDiskListTail);
+        g_App.m_diskList.clear();
+        g_wmicDisks.clear();
         g_App.m_pCurrentDisk = nullptr;
         g_App.m_pCloneDisk = nullptr;
         g_App.m_bNVMe = false;
@@ -129,7 +127,7 @@ private slots:
     {
         CloneDisk page;
         addSources(page);
-        freeList(g_App.m_pDiskListHead, g_App.m_pDiskListTail);
+        g_App.m_diskList.clear();
         page.OnActivatedDestinationComboBox(1);
         QVERIFY(!g_App.m_pCloneDisk);
         QVERIFY(!page.TargetModelLbl->isVisibleTo(&page));

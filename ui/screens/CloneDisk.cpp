@@ -132,10 +132,11 @@ void CloneDisk::rebuildDestinations(const DiskNode *pSource)
     // With a size of 0 this entry does not show in the drop-down.
     DestinationComboBox->setItemData(0, QSize(0, 0), Qt::SizeHintRole);
     const int sourceId = pSource ? pSource->nId : 0;
-    const DiskNode *disks = g_bListsLoading ? nullptr : g_App.m_pDiskListHead;
-    for (const clonetexts::Destination &disk : clonetexts::destinations(disks, sourceId))
-        DestinationComboBox->addItem(disk.text, disk.diskId);
     m_nDestinationIndex = 0;
+    if (g_bListsLoading)
+        return;
+    for (const clonetexts::Destination &disk : clonetexts::destinations(g_App.m_diskList, sourceId))
+        DestinationComboBox->addItem(disk.text, disk.diskId);
 }
 
 void CloneDisk::ForgetDestination()

@@ -25,13 +25,13 @@ void MainWindow::FillDriveCombos()
     g_strSelectDestination = tr("Select Destination");
     target->addItem(g_strSelectDestination);
 
-    for (DiskNode *node = g_App.m_pDiskListHead; node; node = node->pNext) {
-        if (!isPhysicalKind(node->nKind))
+    for (DiskNode &node : g_App.m_diskList) {
+        if (!isPhysicalKind(node.nKind))
             continue;
-        drivetexts::fillDisplayFields(*node);
-        g_strSelectedSize = node->szSize.text();
+        drivetexts::fillDisplayFields(node);
+        g_strSelectedSize = node.szSize.text();
     }
-    for (const drivetexts::Entry &entry : drivetexts::entries(g_App.m_pDiskListHead)) {
+    for (const drivetexts::Entry &entry : drivetexts::entries(g_App.m_diskList)) {
         m_hashComboToDisk.insert(DriveCombobox->count(), entry.node->nId);
         DriveCombobox->addItem(entry.texts.drive, static_cast<int>(entry.node->nId));
         source->addItem(entry.texts.source, static_cast<int>(entry.node->nId));

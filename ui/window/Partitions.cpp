@@ -33,7 +33,7 @@ void MainWindow::ShowPartitions(BitLockerMark mark)
     const QStringList letters =
         partitiontexts::driveLetters(node && node->pDetails ? node->pDetails->szDrives : QString());
     clearPartitions();
-    m_pDiskPartitionPage->m_listSizes = partitiontexts::volumeSizes(letters, g_pLogicalDiskListHead);
+    m_pDiskPartitionPage->m_listSizes = partitiontexts::volumeSizes(letters, g_logicalDisks);
     m_pDiskPartitionPage->ShowSizes();
 
     const QString text =
@@ -49,15 +49,15 @@ void MainWindow::addVolumeFrames(const QString &letter, const QString &mark)
 {
     // Counted by letter: the frames of a later letter take the places of the first ones again.
     m_nFrameCount = 0;
-    const QVector<int> disks = partitiontexts::disksOfVolume(letter, g_App.m_pDiskListHead);
-    for (const LogicalDiskRecord *volume = g_pLogicalDiskListHead; volume; volume = volume->pNext) {
-        if (volume->szCaption.text() != letter)
+    const QVector<int> disks = partitiontexts::disksOfVolume(letter, g_App.m_diskList);
+    for (const LogicalDiskRecord &volume : g_logicalDisks) {
+        if (volume.szCaption.text() != letter)
             continue;
-        const VolumeTexts texts{
-            partitiontexts::volumeName(*volume, mark),
-            partitiontexts::healthWord(disks.isEmpty() ? QVector<int>{volume->nDiskIndex} : disks,
-                                       g_pWmicDiskListHead),
-            partitiontexts::spaceText(*volume, g_App.m_bKorean), partitiontexts::percentText(*volume)};
+        const VolumeTexts texts{partitiontexts::volumeName(volume, mark),
+                                partitiontexts::healthWord(
+                                    disks.isEmpty() ? QVector<int>{volume.nDiskIndex} : disks, g_wmicDisks),
+                                partitiontexts::spaceText(volume, g_App.m_bKorean),
+                                partitiontexts::percentText(volume)};
         m_listFrames.append(m_pDiskPartitionPage->AddFrame(m_nFrameCount, texts));
         ++m_nFrameCount;
     }
