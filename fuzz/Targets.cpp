@@ -102,23 +102,6 @@ QString runTable(const QByteArray &input, Mutator &)
     return complaint;
 }
 
-template<typename Record, typename Read>
-QString readRows(const QByteArray &input, Read read)
-{
-    QTextStream stream(input);
-    Record *head = nullptr;
-    Record *tail = nullptr;
-    read(stream, report::translatedMarkers(), head, tail);
-    int rows = 0;
-    while (head) {
-        Record *next = head->Next;
-        delete head;
-        head = next;
-        ++rows;
-    }
-    return rows > report::MaxRows ? QStringLiteral("more rows than are kept") : QString();
-}
-
 QString runReport(const QByteArray &input, Mutator &mutator)
 {
     QTextStream kind(input);
@@ -127,8 +110,14 @@ QString runReport(const QByteArray &input, Mutator &mutator)
     report::readIdentity(whole);
     QTextStream shortened(input);
     report::readProbedIdentity(shortened);
-    return mutator.below(2) ? readRows<SmartAttributeRecord>(input, report::readAtaTable)
-                            : readRows<NvmeAttributeRecord>(input, report::readNvmeLog);
+    QTextStream stream(input);
+    const report::Report read = report::read(stream, mutator.below(2) == 0);
+    int rows = 0;
+    for (auto row = read.ata.rows.begin(); row != read.ata.rows.end(); ++row)
+        ++rows;
+    for (auto row = read.log.rows.begin(); row != read.log.rows.end(); ++row)
+        ++rows;
+    return rows > report::MaxRows ? QStringLiteral("more rows than are kept") : QString();
 }
 
 } // namespace

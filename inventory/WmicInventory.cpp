@@ -149,10 +149,10 @@ void LoadDiskDrives(const IdentityProbe &probe)
             WmicDiskRecord &record = g_wmicDisks.append(diskRecord(line));
             if (line.index == wmic::Nobody)
                 return;
-            probe(static_cast<int>(line.index), line.interfaceText);
-            record.szSmartSerial.assign(g_strSerialNumber);
-            record.szSmartFirmware.assign(g_strFirmware);
-            record.szSmartModel.assign(g_strModelName);
+            const ProbedIdentity told = probe(static_cast<int>(line.index), line.interfaceText);
+            record.szSmartSerial.assign(told.serial);
+            record.szSmartFirmware.assign(told.firmware);
+            record.szSmartModel.assign(told.model);
             nameFromTable(record, line.name);
         });
     });

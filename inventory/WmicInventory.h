@@ -7,9 +7,15 @@
 
 #include <functional>
 
-/// Reads the identity of a disk from its SMART report into g_strSerialNumber, g_strFirmware and
-/// g_strModelName. Handed in from above, as the reports are no business of this floor.
-using IdentityProbe = std::function<void(int diskIndex, const QString &interfaceText)>;
+/// What the SMART report of a disk calls it.
+struct ProbedIdentity {
+    QString model;
+    QString serial;
+    QString firmware;
+};
+
+/// Reads a disk's report. Handed in from above, as the reports are no business of this floor.
+using IdentityProbe = std::function<ProbedIdentity(int diskIndex, const QString &interfaceText)>;
 
 /// Rebuilds the list g_wmicDisks from the system's disk table, asking `probe` for each disk. A
 /// blank line makes a record that is no disk's. A disk whose report names no model or serial has those that

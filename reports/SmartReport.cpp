@@ -46,44 +46,42 @@ SmartReport::Row ataRow(const SmartAttributeRecord &record)
             {raw, countsBadSectors(key) && raw.toLongLong() > 0}};
 }
 
-void takeAta(SmartReport &report, const SmartAttributeRecord *head)
+void takeAta(SmartReport &report, const SmartTable &table)
 {
-    if (head) {
-        report.make = head->ModelFamily.text();
-        report.model = head->DeviceModel.text();
-        report.serial = head->SerialNumber.text();
-        report.firmware = head->Firmware.text();
-        report.capacity = head->UserCapacity.text();
-        report.sectorSize = head->SectorSize.text();
-        report.rotationRate = head->RotationRate.text();
-        report.ataVersion = head->AtaVersion.text();
-        report.sataVersion = head->SataVersion.text();
-        report.localTime = head->LocalTime.text();
-        const QString support = head->SmartSupport.text();
-        report.smartStatus = support.contains(QLatin1String("Enabled")) ? Texts::tr("Passed") : support;
-        report.shortTestTime = head->ShortPollTime.text();
-        report.extendedTestTime = head->ExtendedPollTime.text();
-    }
-    for (; head; head = head->Next)
-        report.rows.push_back(ataRow(*head));
+    const SmartIdentity &drive = table.drive;
+    report.make = drive.ModelFamily.text();
+    report.model = drive.DeviceModel.text();
+    report.serial = drive.SerialNumber.text();
+    report.firmware = drive.Firmware.text();
+    report.capacity = drive.UserCapacity.text();
+    report.sectorSize = drive.SectorSize.text();
+    report.rotationRate = drive.RotationRate.text();
+    report.ataVersion = drive.AtaVersion.text();
+    report.sataVersion = drive.SataVersion.text();
+    report.localTime = drive.LocalTime.text();
+    const QString support = drive.SmartSupport.text();
+    report.smartStatus = support.contains(QLatin1String("Enabled")) ? Texts::tr("Passed") : support;
+    report.shortTestTime = drive.ShortPollTime.text();
+    report.extendedTestTime = drive.ExtendedPollTime.text();
+    for (const SmartAttributeRecord &row : table.rows)
+        report.rows.push_back(ataRow(row));
 }
 
-void takeNvme(SmartReport &report, const NvmeAttributeRecord *head)
+void takeNvme(SmartReport &report, const NvmeTable &table)
 {
-    if (head) {
-        report.model = head->ModelNumber.text();
-        report.serial = head->SerialNumber.text();
-        report.firmware = head->Firmware.text();
-        report.capacity = head->Capacity.text();
-        report.sectorSize = head->LbaSize.text();
-        report.localTime = head->LocalTime.text();
-        report.maxTransferSize = head->MaxTransferSize.text();
-        report.smartStatus = Texts::tr("Passed"); // there is no report of a disk whose SMART is not available
-    }
-    for (; head; head = head->Next)
+    const NvmeIdentity &drive = table.drive;
+    report.model = drive.ModelNumber.text();
+    report.serial = drive.SerialNumber.text();
+    report.firmware = drive.Firmware.text();
+    report.capacity = drive.Capacity.text();
+    report.sectorSize = drive.LbaSize.text();
+    report.localTime = drive.LocalTime.text();
+    report.maxTransferSize = drive.MaxTransferSize.text();
+    report.smartStatus = Texts::tr("Passed"); // there is no report of a disk whose SMART is not available
+    for (const NvmeAttributeRecord &row : table.rows)
         report.rows.push_back({{QString::number(report.rows.size())},
-                               {nvmeReportName(head->Name.text())},
-                               {head->Value.text().trimmed()}});
+                               {nvmeReportName(row.Name.text())},
+                               {row.Value.text().trimmed()}});
 }
 
 } // namespace
@@ -95,9 +93,9 @@ SmartReport gatherSmartReport()
     report.secondBrand = g_App.m_bKorvaneBrand;
     report.scaleFactor = g_App.m_fScale;
     if (report.nvme)
-        takeNvme(report, g_pNvmeAttributeHead);
+        takeNvme(report, g_nvmeTable);
     else
-        takeAta(report, g_pSmartAttributeHead);
+        takeAta(report, g_smartTable);
     report.smartFailed = g_driveVerdict == DriveVerdict::Failed;
     if (report.smartFailed)
         report.smartStatus = Texts::tr("Failed");

@@ -81,22 +81,22 @@ AttributeRow nvmeRow(const NvmeAttributeRecord &record, const QString &number, K
 
 } // namespace
 
-std::vector<AttributeRow> ataRows(const SmartAttributeRecord *head)
+std::vector<AttributeRow> ataRows(const SmartAttributeList &rows)
 {
-    std::vector<AttributeRow> rows;
+    std::vector<AttributeRow> shown;
     Keys keys;
-    for (const SmartAttributeRecord *record = head; record; record = record->Next)
-        rows.push_back(ataRow(*record, keys));
-    return rows;
+    for (const SmartAttributeRecord &record : rows)
+        shown.push_back(ataRow(record, keys));
+    return shown;
 }
 
-std::vector<AttributeRow> nvmeRows(const NvmeAttributeRecord *head)
+std::vector<AttributeRow> nvmeRows(const NvmeAttributeList &rows)
 {
-    std::vector<AttributeRow> rows;
+    std::vector<AttributeRow> shown;
     Keys keys;
-    for (const NvmeAttributeRecord *record = head; record; record = record->Next)
-        rows.push_back(nvmeRow(*record, QString::number(rows.size()), keys));
-    return rows;
+    for (const NvmeAttributeRecord &record : rows)
+        shown.push_back(nvmeRow(record, QString::number(shown.size()), keys));
+    return shown;
 }
 
 bool attributeFailed(const SmartAttributeRecord &record)

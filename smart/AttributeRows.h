@@ -16,9 +16,9 @@ struct AttributeRow {
     int redCell = -1;           ///< column whose text is red, -1: none
 };
 
-/// A row for each record of the list, in its order. A null list has none.
-std::vector<AttributeRow> ataRows(const SmartAttributeRecord *head);
-std::vector<AttributeRow> nvmeRows(const NvmeAttributeRecord *head);
+/// A row for each record of the list, in its order.
+std::vector<AttributeRow> ataRows(const SmartAttributeList &rows);
+std::vector<AttributeRow> nvmeRows(const NvmeAttributeList &rows);
 
 /// Status in the tree: a value has to be above its threshold. The temperature row (194) is judged by its raw
 /// value, whole °C.

@@ -22,8 +22,8 @@ bool takeUpDisk(int disk)
     g_bReportPending = true;
     g_bSmartAvailable = false;
     g_App.m_bNVMe = false;
-    freeRecords(g_pSmartAttributeHead, g_pSmartAttributeTail);
-    freeRecords(g_pNvmeAttributeHead, g_pNvmeAttributeTail);
+    g_smartTable = {};
+    g_nvmeTable = {};
     for (int *number : {&g_nHealthPercent, &g_nPerformancePercent, &g_nPowerOnDays, &g_nPowerOnRestHours,
                         &g_nStartStopCount})
         *number = 0;

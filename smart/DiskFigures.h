@@ -6,6 +6,5 @@
 constexpr int NoDisk = -1;
 
 /// Makes `disk` (its physical number, or NoDisk) the one that all this is of. Where that was another one
-/// everything is forgotten, g_bReportPending is set, and true comes back. The three identity texts, which a
-/// device load uses too, stay.
+/// everything is forgotten but the three identity texts, g_bReportPending is set, and true comes back.
 bool takeUpDisk(int disk);

@@ -47,24 +47,24 @@ DriveVerdict readVerdictLine(QTextStream &stream)
     return DriveVerdict::NotTold;
 }
 
-DriveVerdict ataVerdict(DriveVerdict line, const SmartAttributeRecord *head)
+DriveVerdict ataVerdict(DriveVerdict line, const SmartAttributeList &rows)
 {
-    for (; head; head = head->Next) {
-        if (head->Type.text() == QLatin1String("Pre-fail") &&
-            head->WhenFailed.text() == QLatin1String("FAILING_NOW"))
+    for (const SmartAttributeRecord &row : rows) {
+        if (row.Type.text() == QLatin1String("Pre-fail") &&
+            row.WhenFailed.text() == QLatin1String("FAILING_NOW"))
             return DriveVerdict::Failed;
     }
     return line;
 }
 
-DriveVerdict nvmeVerdict(DriveVerdict line, const NvmeAttributeRecord *head)
+DriveVerdict nvmeVerdict(DriveVerdict line, const NvmeAttributeList &rows)
 {
     constexpr uint Heat = 0x02;
-    for (; head; head = head->Next) {
-        if (!head->Name.text().contains(QLatin1String("Critical Warning")))
+    for (const NvmeAttributeRecord &row : rows) {
+        if (!row.Name.text().contains(QLatin1String("Critical Warning")))
             continue;
         bool readable = false;
-        const uint bits = head->Value.text().toUInt(&readable, 0);
+        const uint bits = row.Value.text().toUInt(&readable, 0);
         if (readable && (bits & ~Heat) != 0)
             return DriveVerdict::Failed;
         if (readable && (bits == Heat || line == DriveVerdict::NotTold))

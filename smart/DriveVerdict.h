@@ -16,7 +16,7 @@ DriveVerdict readVerdictLine(QTextStream &stream);
 
 /// `line` is what readVerdictLine() found. An attribute that is failing now and by which the drive foretells
 /// its end makes it Failed as well; one of old age, or one that failed in the past, does not.
-DriveVerdict ataVerdict(DriveVerdict line, const SmartAttributeRecord *head);
+DriveVerdict ataVerdict(DriveVerdict line, const SmartAttributeList &rows);
 
 /// Any bit of the critical warning but that of heat is a failure. The line says "FAILED!" of heat, too.
-DriveVerdict nvmeVerdict(DriveVerdict line, const NvmeAttributeRecord *head);
+DriveVerdict nvmeVerdict(DriveVerdict line, const NvmeAttributeList &rows);

@@ -121,28 +121,30 @@ qint32 rawOf(const SmartAttributeRecord &row)
 
 /// The row whose name comes first in the list of names.
 template<typename Names>
-const SmartAttributeRecord *firstNamed(const SmartAttributeRecord *head, const Names &names)
+const SmartAttributeRecord *firstNamed(const SmartAttributeList &rows, const Names &names)
 {
     for (const char *name : names) {
-        for (const SmartAttributeRecord *row = head; row; row = row->Next) {
-            if (row->AttributeName.text() == QLatin1String(name))
-                return row;
-        }
+        const auto isNamed = [name](const SmartAttributeRecord &row) {
+            return row.AttributeName.text() == QLatin1String(name);
+        };
+        if (const SmartAttributeRecord *row = rows.find(isNamed))
+            return row;
     }
     return nullptr;
 }
 
 /// What the rules begin with: nothing ahead of the base, which assigns, else the row that stands for it.
-std::optional<float> startOfHealth(const SmartAttributeRecord *head)
+std::optional<float> startOfHealth(const SmartAttributeList &rows)
 {
-    for (const SmartAttributeRecord *row = head; row; row = row->Next) {
-        const HealthRule *rule = ruleOf(*row);
-        if (rule && rule->apply == byReallocatedSectors)
-            return 0.0F;
-    }
-    if (const SmartAttributeRecord *blocks = firstNamed(head, healthcatalogue::BlockRows))
+    const auto isBase = [](const SmartAttributeRecord &row) {
+        const HealthRule *rule = ruleOf(row);
+        return rule && rule->apply == byReallocatedSectors;
+    };
+    if (rows.find(isBase))
+        return 0.0F;
+    if (const SmartAttributeRecord *blocks = firstNamed(rows, healthcatalogue::BlockRows))
         return byReallocatedSectors(0.0F, rawOf(*blocks));
-    if (const SmartAttributeRecord *life = firstNamed(head, healthcatalogue::LifeRows))
+    if (const SmartAttributeRecord *life = firstNamed(rows, healthcatalogue::LifeRows))
         return static_cast<float>(qMin<std::uint32_t>(life->Value, FullPercent));
     return std::nullopt;
 }
@@ -154,29 +156,29 @@ QString percentText(int percent)
 
 } // namespace
 
-std::optional<int> healthOfAta(const SmartAttributeRecord *head)
+std::optional<int> healthOfAta(const SmartAttributeList &rows)
 {
-    if (!head)
+    if (rows.isEmpty())
         return 0;
-    const std::optional<float> start = startOfHealth(head);
+    const std::optional<float> start = startOfHealth(rows);
     if (!start)
         return std::nullopt;
     float health = *start;
-    for (const SmartAttributeRecord *row = head; row; row = row->Next) {
-        if (const HealthRule *rule = ruleOf(*row))
-            health = rule->apply(health, rawOf(*row));
+    for (const SmartAttributeRecord &row : rows) {
+        if (const HealthRule *rule = ruleOf(row))
+            health = rule->apply(health, rawOf(row));
     }
     return qMin(truncated<int>(static_cast<double>(health) + 0.5), FullPercent);
 }
 
-std::optional<int> healthOfNvme(const NvmeAttributeRecord *head)
+std::optional<int> healthOfNvme(const NvmeAttributeList &rows)
 {
-    if (!head)
+    if (rows.isEmpty())
         return 0;
-    for (const NvmeAttributeRecord *row = head; row; row = row->Next) {
-        if (!row->Name.text().contains(QLatin1String("Percentage Used")))
+    for (const NvmeAttributeRecord &row : rows) {
+        if (!row.Name.text().contains(QLatin1String("Percentage Used")))
             continue;
-        const int used = row->Value.text().trimmed().remove(QLatin1Char('%')).toInt();
+        const int used = row.Value.text().trimmed().remove(QLatin1Char('%')).toInt();
         return used == 1 ? FullPercent
                          : static_cast<int>(qMin<qint64>(FullPercent - qint64(used), FullPercent));
     }
@@ -194,7 +196,7 @@ void RateHealth()
 {
     std::optional<int> health = FullPercent;
     if (g_bSmartAvailable)
-        health = g_App.m_bNVMe ? healthOfNvme(g_pNvmeAttributeHead) : healthOfAta(g_pSmartAttributeHead);
+        health = g_App.m_bNVMe ? healthOfNvme(g_nvmeTable.rows) : healthOfAta(g_smartTable.rows);
     g_bHealthKnown = health.has_value();
     g_nHealthPercent = health.value_or(FullPercent);
     g_strHealthText = percentText(g_nHealthPercent);
@@ -274,21 +276,21 @@ LifeFigures storedLifeFigures()
 void UpdateLifeFigures()
 {
     LifeFigures figures = storedLifeFigures();
-    for (const SmartAttributeRecord *row = g_pSmartAttributeHead; row; row = row->Next)
-        takeLifeRow(figures, *row, g_nHealthPercent);
+    for (const SmartAttributeRecord &row : g_smartTable.rows)
+        takeLifeRow(figures, row, g_nHealthPercent);
     g_nDiskLifeDays = figures.nDiskLifeDays;
     g_nPowerOnDays = figures.nPowerOnDays;
     g_nPowerOnRestHours = figures.nPowerOnRestHours;
     g_nStartStopCount = figures.nStartStopCount;
 }
 
-LifeKind lifeKind(bool nvme, bool removable, const SmartAttributeRecord *head)
+LifeKind lifeKind(bool nvme, bool removable, bool hasRows)
 {
     if (nvme)
         return LifeKind::Nvme;
     if (removable)
         return LifeKind::Removable;
-    return head ? LifeKind::Known : LifeKind::NoRows;
+    return hasRows ? LifeKind::Known : LifeKind::NoRows;
 }
 
 LifeTexts lifeTexts(LifeKind kind, const LifeFigures &figures, const QString &separator)

@@ -23,11 +23,11 @@ inline int g_nStartStopCount = 0;
 /// Health in percent by the rows of the table, at most 100. The row of reallocated sectors is the base of the
 /// rating, and rows ahead of it do not count; without one HealthCatalogue.h tells what the rating begins
 /// with. Nothing where there is neither, 0 without any row.
-std::optional<int> healthOfAta(const SmartAttributeRecord *head);
+std::optional<int> healthOfAta(const SmartAttributeList &rows);
 
 /// Health in percent by the wear that the drive reports, at most 100; negative where the wear is above 100 %.
 /// Nothing where the drive reports none, 0 without any row.
-std::optional<int> healthOfNvme(const NvmeAttributeRecord *head);
+std::optional<int> healthOfNvme(const NvmeAttributeList &rows);
 
 /// Performance in percent by the text of the ATA version line.
 int performanceOf(const QString &ataVersion);
@@ -69,7 +69,7 @@ LifeFigures storedLifeFigures();
 void UpdateLifeFigures();
 
 enum class LifeKind { Nvme, Removable, NoRows, Known };
-LifeKind lifeKind(bool nvme, bool removable, const SmartAttributeRecord *head);
+LifeKind lifeKind(bool nvme, bool removable, bool hasRows);
 
 struct LifeTexts {
     QString life;

@@ -1,15 +1,15 @@
 #include "smart/ReportParser.h"
 
 #include "inventory/CommandRunner.h"
-#include "smart/DriveVerdict.h"
 #include "smart/SmartGlobals.h"
 #include "smart/TextCuts.h"
 #include "state/GlobalApp.h"
 #include "state/Globals.h"
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QTextStream>
+
+#include <utility>
 
 namespace report
 {
@@ -21,14 +21,13 @@ const QString AtaSection = QStringLiteral("START OF READ SMART DATA SECTION");
 const QString NvmeSection = QStringLiteral("SMART/Health Information (NVMe Log");
 const QString Passed = QStringLiteral("PASSED");
 
-/// A line that a report is searched for, and what becomes of it in the record that collects a drive's
-/// identity.
-template<typename Record>
+/// A line that a report is searched for, and what becomes of it in a drive's identity.
+template<typename Drive>
 struct LineRule {
     enum Place { Anywhere, AtStart };
     Place place;
     QStringList markers; ///< one of them is enough
-    void (*take)(Record &seen, const QString &line);
+    void (*take)(Drive &seen, const QString &line);
 
     bool holds(const QString &line) const
     {
@@ -41,10 +40,10 @@ struct LineRule {
 };
 
 /// The first rule that holds decides.
-template<typename Record>
-void applyRules(const QVector<LineRule<Record>> &rules, Record &seen, const QString &line)
+template<typename Drive>
+void applyRules(const QVector<LineRule<Drive>> &rules, Drive &seen, const QString &line)
 {
-    for (const LineRule<Record> &rule : rules) {
+    for (const LineRule<Drive> &rule : rules) {
         if (rule.holds(line)) {
             rule.take(seen, line);
             return;
@@ -53,57 +52,57 @@ void applyRules(const QVector<LineRule<Record>> &rules, Record &seen, const QStr
 }
 
 /// The value behind the line's last colon, into a field.
-template<auto Field, typename Record>
-void takeValue(Record &seen, const QString &line)
+template<auto Field, typename Drive>
+void takeValue(Drive &seen, const QString &line)
 {
     (seen.*Field).assign(cuts::lastPart(line, QStringLiteral(":")));
 }
 
 /// The amount in brackets, into a field.
-template<auto Field, typename Record>
-void takeBracketed(Record &seen, const QString &line)
+template<auto Field, typename Drive>
+void takeBracketed(Drive &seen, const QString &line)
 {
     (seen.*Field).assign(cuts::lastPart(line, QStringLiteral("[")).remove(QLatin1Char(']')));
 }
 
 /// The time keeps its colons.
-template<typename Record>
-void takeLocalTime(Record &seen, const QString &line)
+template<typename Drive>
+void takeLocalTime(Drive &seen, const QString &line)
 {
     seen.LocalTime.assign(cuts::lastPart(line, QStringLiteral("Local Time is:")));
 }
 
-template<typename Record>
-void takeNothing(Record &, const QString &)
+template<typename Drive>
+void takeNothing(Drive &, const QString &)
 {
 }
 
-void takeSectorSize(SmartAttributeRecord &seen, const QString &line)
+void takeSectorSize(SmartIdentity &seen, const QString &line)
 {
     const QString sizes = cuts::lastPart(line, QStringLiteral(":"));
     seen.SectorSize.assign(
         cuts::firstParts(sizes, QLatin1Char(','), 1).value(0).remove(QLatin1String("logical")));
 }
 
-void takeSataVersion(SmartAttributeRecord &seen, const QString &line)
+void takeSataVersion(SmartIdentity &seen, const QString &line)
 {
     seen.SataVersion.assign(cuts::lastPart(line, QStringLiteral(":")).remove(QLatin1Char(')')));
 }
 
-void takeSelfTestStatus(SmartAttributeRecord &seen, const QString &line)
+void takeSelfTestStatus(SmartIdentity &seen, const QString &line)
 {
     if (cuts::lastPart(line, QStringLiteral(":")).contains(QLatin1String("completed")))
         seen.SelfTestStatus.assign(QStringLiteral("Successfully Completed"));
 }
 
-void takeOfflineTime(SmartAttributeRecord &seen, const QString &line)
+void takeOfflineTime(SmartIdentity &seen, const QString &line)
 {
     seen.OfflineTotalTime.assign(
         cuts::without(cuts::lastPart(line, QStringLiteral("data collection:")), {"(  ", ")", "."}));
 }
 
 /// The three lines look alike and go by their order. Each field strips literals of its own.
-void takePollTime(SmartAttributeRecord &seen, const QString &line)
+void takePollTime(SmartIdentity &seen, const QString &line)
 {
     const QString value = cuts::lastPart(line, QStringLiteral(":"));
     if (seen.ShortPollTime.isEmpty())
@@ -114,9 +113,9 @@ void takePollTime(SmartAttributeRecord &seen, const QString &line)
         seen.ConveyancePollTime.assign(cuts::without(value, {"(   ", ")", "."}));
 }
 
-const QVector<LineRule<SmartAttributeRecord>> &ataRules()
+const QVector<LineRule<SmartIdentity>> &ataRules()
 {
-    using R = SmartAttributeRecord;
+    using R = SmartIdentity;
     using Rule = LineRule<R>;
     static const QVector<Rule> rules = {
         {Rule::Anywhere, {"Model Family:"}, takeValue<&R::ModelFamily>},
@@ -149,9 +148,9 @@ const QVector<LineRule<SmartAttributeRecord>> &ataRules()
     return rules;
 }
 
-const QVector<LineRule<NvmeAttributeRecord>> &nvmeRules()
+const QVector<LineRule<NvmeIdentity>> &nvmeRules()
 {
-    using R = NvmeAttributeRecord;
+    using R = NvmeIdentity;
     using Rule = LineRule<R>;
     static const QVector<Rule> rules = {
         {Rule::Anywhere, {"Model Number:"}, takeValue<&R::ModelNumber>},
@@ -175,8 +174,6 @@ bool fillRow(SmartAttributeRecord &row, const QString &line)
     const QStringList parts = cuts::firstParts(line, QLatin1Char(' '), 10);
     if (parts.isEmpty())
         return false;
-    if (row.DeviceModel.isEmpty())
-        row.Wwn.clear();
     row.Id = parts.at(0).toUInt();
     row.AttributeName.assign(parts.value(1));
     row.Flag.assign(parts.value(2));
@@ -211,32 +208,34 @@ bool containsAny(const QString &line, const QStringList &markers)
 }
 
 /// A report's second reading, the same for both kinds.
-template<typename Record>
-bool readTable(QTextStream &stream, const QVector<LineRule<Record>> &rules, const QStringList &headers,
-               Record *&head, Record *&tail)
+template<typename Table, typename Drive>
+Table readTable(QTextStream &stream, const QVector<LineRule<Drive>> &rules, const QStringList &headers)
 {
-    Record seen;
+    Table table;
+    Drive seen;
     bool inTable = false;
-    bool passed = false;
-    int rows = 0;
-    while (!stream.atEnd() && rows < MaxRows) {
+    int count = 0;
+    while (!stream.atEnd() && count < MaxRows) {
         const QString line = stream.readLine();
-        applyRules(rules, seen, line);
+        if (count == 0)
+            applyRules(rules, seen, line);
         if (inTable) {
             if (line.isEmpty())
                 break;
-            Record row = seen;
+            typename Table::Row row;
             if (fillRow(row, line)) {
-                appendRecord(head, tail, row);
-                ++rows;
+                table.rows.append(std::move(row));
+                ++count;
             }
         } else if (containsAny(line, headers)) {
             inTable = true;
         } else if (line.contains(Passed)) {
-            passed = true;
+            table.passed = true;
         }
     }
-    return passed;
+    if (count > 0)
+        table.drive = seen;
+    return table;
 }
 
 QString valueOf(const QString &line)
@@ -313,16 +312,49 @@ Identity readProbedIdentity(QTextStream &stream)
     return identity;
 }
 
-bool readAtaTable(QTextStream &stream, const Markers &markers, SmartAttributeRecord *&head,
-                  SmartAttributeRecord *&tail)
+SmartTable readAtaTable(QTextStream &stream, const Markers &markers)
 {
-    return readTable(stream, ataRules(), markers.ataHeaders, head, tail);
+    SmartTable table = readTable<SmartTable>(stream, ataRules(), markers.ataHeaders);
+    if (table.drive.DeviceModel.isEmpty())
+        table.drive.Wwn.clear();
+    return table;
 }
 
-bool readNvmeLog(QTextStream &stream, const Markers &markers, NvmeAttributeRecord *&head,
-                 NvmeAttributeRecord *&tail)
+NvmeTable readNvmeLog(QTextStream &stream, const Markers &markers)
 {
-    return readTable(stream, nvmeRules(), {markers.nvmeHeader}, head, tail);
+    return readTable<NvmeTable>(stream, nvmeRules(), {markers.nvmeHeader});
+}
+
+Report read(QTextStream &stream, bool nvme)
+{
+    Report report;
+    report.nvme = nvme;
+    report.identity = readIdentity(stream);
+    stream.seek(0);
+    const DriveVerdict line = readVerdictLine(stream);
+    stream.seek(0);
+    if (nvme) {
+        report.log = readNvmeLog(stream, translatedMarkers());
+        report.verdict = nvmeVerdict(line, report.log.rows);
+    } else {
+        report.ata = readAtaTable(stream, translatedMarkers());
+        report.verdict = ataVerdict(line, report.ata.rows);
+    }
+    return report;
+}
+
+void publish(Report &&report)
+{
+    g_strModelName = report.identity.model.value_or(g_strModelName);
+    g_strSerialNumber = report.identity.serial.value_or(g_strSerialNumber);
+    g_strFirmware = report.identity.firmware.value_or(g_strFirmware);
+    g_strAtaVersion = report.identity.ataVersion.value_or(g_strAtaVersion);
+    g_driveVerdict = report.verdict;
+    g_bSmartAvailable = report.nvme ? report.log.passed : report.ata.passed;
+    if (report.nvme)
+        g_nvmeTable = std::move(report.log);
+    else
+        g_smartTable = std::move(report.ata);
 }
 
 } // namespace report
@@ -336,33 +368,6 @@ void DetectReportKind(const QString &path)
 
 void ParseSmartReport(const QString &path)
 {
-    report::Identity identity;
-    DriveVerdict verdict = DriveVerdict::NotTold;
-    const auto readHead = [&identity, &verdict](QTextStream &stream) {
-        identity = report::readIdentity(stream);
-        stream.seek(0);
-        verdict = readVerdictLine(stream);
-    };
-    if (!runner::readOutput(path, readHead, runner::After::Keep))
-        return;
-    g_strModelName = identity.model.value_or(g_strModelName);
-    g_strSerialNumber = identity.serial.value_or(g_strSerialNumber);
-    g_strFirmware = identity.firmware.value_or(g_strFirmware);
-    g_strAtaVersion = identity.ataVersion.value_or(g_strAtaVersion);
-    g_bSmartAvailable = false;
-
-    runner::readOutput(path, [verdict](QTextStream &stream) {
-        const report::Markers markers = report::translatedMarkers();
-        if (g_App.m_bNVMe) {
-            freeRecords(g_pNvmeAttributeHead, g_pNvmeAttributeTail);
-            g_bSmartAvailable =
-                report::readNvmeLog(stream, markers, g_pNvmeAttributeHead, g_pNvmeAttributeTail);
-            g_driveVerdict = nvmeVerdict(verdict, g_pNvmeAttributeHead);
-        } else {
-            freeRecords(g_pSmartAttributeHead, g_pSmartAttributeTail);
-            g_bSmartAvailable =
-                report::readAtaTable(stream, markers, g_pSmartAttributeHead, g_pSmartAttributeTail);
-            g_driveVerdict = ataVerdict(verdict, g_pSmartAttributeHead);
-        }
-    });
+    runner::readOutput(path,
+                       [](QTextStream &stream) { report::publish(report::read(stream, g_App.m_bNVMe)); });
 }

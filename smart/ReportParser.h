@@ -1,5 +1,6 @@
 #pragma once
 
+#include "smart/DriveVerdict.h"
 #include "smart/SmartRecords.h"
 
 #include <QString>
@@ -13,10 +14,8 @@ class QTextStream;
 /// section, or a file that does not open, leaves it. Main thread only.
 void DetectReportKind(const QString &path);
 
-/// Takes in the report at `path` by the kind that DetectReportKind() found: fills the list of that kind,
-/// g_strModelName, g_strSerialNumber, g_strFirmware, g_strAtaVersion (those that the report names) and
-/// g_bSmartAvailable and g_driveVerdict, and removes the file. A file that does not open changes nothing.
-/// Main thread only.
+/// Reads the report at `path` by the kind that DetectReportKind() found, publishes it and removes the file. A
+/// file that does not open changes nothing. Main thread only.
 void ParseSmartReport(const QString &path);
 
 /// The steps of reading a report: text in, records out. Linear in the text's size; nothing in a text is an
@@ -51,13 +50,23 @@ Identity readIdentity(QTextStream &stream);
 /// The shorter reading of the disk inventory: ends at the firmware line already, and knows no ATA version.
 Identity readProbedIdentity(QTextStream &stream);
 
-/// Appends a record for each row of the attribute table to the list. True if a line ahead of the table holds
-/// "PASSED".
-bool readAtaTable(QTextStream &stream, const Markers &markers, SmartAttributeRecord *&head,
-                  SmartAttributeRecord *&tail);
+/// The attribute table of an ATA drive, and the health log of an NVMe drive.
+SmartTable readAtaTable(QTextStream &stream, const Markers &markers);
+NvmeTable readNvmeLog(QTextStream &stream, const Markers &markers);
 
-/// The same for the health log of an NVMe drive.
-bool readNvmeLog(QTextStream &stream, const Markers &markers, NvmeAttributeRecord *&head,
-                 NvmeAttributeRecord *&tail);
+/// What a report of one kind tells.
+struct Report {
+    Identity identity;
+    DriveVerdict verdict = DriveVerdict::NotTold;
+    bool nvme = false;
+    SmartTable ata; ///< empty where the drive is of the other kind, as is the log
+    NvmeTable log;
+};
+Report read(QTextStream &stream, bool nvme);
+
+/// Makes it the report that was read last: its table becomes that of its kind, its names, as far as it tells
+/// them, g_strModelName, g_strSerialNumber, g_strFirmware and g_strAtaVersion, the rest g_bSmartAvailable and
+/// g_driveVerdict. Main thread only.
+void publish(Report &&report);
 
 } // namespace report

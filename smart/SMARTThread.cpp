@@ -1,7 +1,5 @@
 #include "smart/SMARTThread.h"
 
-#include "smart/ToolInvocation.h"
-
 SMARTThread::SMARTThread(QObject *parent) : QThread(parent) {}
 
 SMARTThread::~SMARTThread()
@@ -19,10 +17,15 @@ void SMARTThread::RequestSmartRead(int diskIndex)
     start(QThread::LowPriority);
 }
 
+std::optional<LoadedReport> SMARTThread::takeReport()
+{
+    return m_read.take() ? std::optional<LoadedReport>(m_report) : std::nullopt;
+}
+
 void SMARTThread::run()
 {
     std::optional<int> disk;
     while ((disk = m_read.next(disk)))
-        LoadSmartReport(*disk);
+        m_report = LoadSmartReport(*disk);
     emit OnLodingSmarInfo();
 }

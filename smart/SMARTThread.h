@@ -1,6 +1,7 @@
 #pragma once
 
 #include "smart/CurrentRead.h"
+#include "smart/ToolInvocation.h"
 
 #include <QThread>
 
@@ -17,9 +18,8 @@ public:
     /// Asks for the report of a disk. Never waits for a tool: during a read the disk is remembered, the last
     /// one wins, and is read behind it. Main thread only.
     void RequestSmartRead(int diskIndex);
-    /// The disk whose report lies at g_strSmartReportPath, once for each finished read. None while a read
-    /// runs.
-    std::optional<int> takeReport() { return m_read.take(); }
+    /// The report of a finished read, once. None while a read runs.
+    std::optional<LoadedReport> takeReport();
     /// The report that is under way is not wanted any more.
     void forget() { m_read.forget(); }
     /// A read runs, or its report was not taken yet.
@@ -34,4 +34,5 @@ protected:
 
 private:
     CurrentRead m_read;
+    LoadedReport m_report; ///< of the main thread while m_read has it to be taken
 };

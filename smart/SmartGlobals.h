@@ -1,17 +1,17 @@
 #pragma once
 
-#include "smart/SharedText.h"
 #include "smart/SmartRecords.h"
 
 #include <QString>
 
-/// What is known of the disk whose report was read last. Main thread only, save for the shared texts, which
-/// SMARTThread writes.
+/// What is known of the disk whose report was read last. Main thread only.
 
-inline SmartAttributeRecord *g_pSmartAttributeHead = nullptr;
-inline SmartAttributeRecord *g_pSmartAttributeTail = nullptr;
-inline NvmeAttributeRecord *g_pNvmeAttributeHead = nullptr;
-inline NvmeAttributeRecord *g_pNvmeAttributeTail = nullptr;
+inline SmartTable g_smartTable;
+inline SmartAttributeRecord *&g_pSmartAttributeHead = g_smartTable.rows.head;
+inline SmartAttributeRecord *&g_pSmartAttributeTail = g_smartTable.rows.tail;
+inline NvmeTable g_nvmeTable;
+inline NvmeAttributeRecord *&g_pNvmeAttributeHead = g_nvmeTable.rows.head;
+inline NvmeAttributeRecord *&g_pNvmeAttributeTail = g_nvmeTable.rows.tail;
 
 /// The report of the disk that is chosen is still to come: the lists are empty, and no figure is of that
 /// disk.
@@ -19,8 +19,8 @@ inline bool g_bReportPending = false;
 inline QString g_strGraphTitle; ///< of the graph drawn last, empty before the first; offered as a file name
 inline QString g_strAtaVersion; ///< stays as it was where a later report of the disk names no version
 
-inline SharedText g_strSmartReportPath; ///< where the latest SMARTThread run left its report
-inline SharedText g_strSmartDevice;     ///< device of the latest SMARTThread run, USB prefix included
+inline QString g_strSmartReportPath; ///< where the report lies that SMARTThread read last
+inline QString g_strSmartDevice;     ///< its device, USB prefix included
 
 inline QString g_strSelfTestDevice; ///< device of the self-test commands, never with the USB prefix
 inline QString g_strSelfTestModel;

@@ -1,12 +1,12 @@
 #pragma once
 
 #include "state/FixedText.h"
+#include "state/RecordList.h"
 
 #include <cstdint>
 
-/// One row of an ATA drive's attribute table. Every row bears the drive's identity too, so any one node can
-/// describe the drive. A value that the report does not have is an empty text or 0.
-struct SmartAttributeRecord {
+/// What an ATA report says of its drive. A value that the report does not have is an empty text.
+struct SmartIdentity {
     FixedText<128> ModelFamily;
     FixedText<128> DeviceModel;
     FixedText<128> SerialNumber;
@@ -25,6 +25,10 @@ struct SmartAttributeRecord {
     FixedText<128> ShortPollTime;
     FixedText<128> ExtendedPollTime;
     FixedText<128> ConveyancePollTime;
+};
+
+/// One row of an ATA drive's attribute table. What the row does not have is an empty text or 0.
+struct SmartAttributeRecord {
     std::uint32_t Id = 0;
     FixedText<256> AttributeName; ///< with its underscores
     FixedText<128> Flag;
@@ -38,9 +42,8 @@ struct SmartAttributeRecord {
     SmartAttributeRecord *Next = nullptr;
 };
 
-/// One line of an NVMe drive's health log, with the drive's identity.
-struct NvmeAttributeRecord {
-    FixedText<128> ModelFamily; ///< always empty
+/// What an NVMe report says of its drive.
+struct NvmeIdentity {
     FixedText<128> ModelNumber;
     FixedText<128> SerialNumber;
     FixedText<128> Firmware;
@@ -48,33 +51,25 @@ struct NvmeAttributeRecord {
     FixedText<32> LbaSize;  ///< "512 bytes"
     FixedText<128> LocalTime;
     FixedText<32> MaxTransferSize;
+};
+
+/// One line of an NVMe drive's health log.
+struct NvmeAttributeRecord {
     FixedText<200> Name;
     FixedText<200> Value;
     NvmeAttributeRecord *Next = nullptr;
 };
 
-/// Frees a whole list of attribute records and nulls its head and tail.
-template<typename Record>
-void freeRecords(Record *&head, Record *&tail)
-{
-    while (head) {
-        Record *next = head->Next;
-        delete head;
-        head = next;
-    }
-    tail = nullptr;
-}
+/// What a report says of its drive and in its table.
+template<typename Drive, typename Record>
+struct AttributeTable {
+    using Row = Record;
 
-/// Appends a copy of `record` to a list, which owns the copy.
-template<typename Record>
-Record *appendRecord(Record *&head, Record *&tail, const Record &record)
-{
-    auto *node = new Record(record);
-    node->Next = nullptr;
-    if (tail)
-        tail->Next = node;
-    else
-        head = node;
-    tail = node;
-    return node;
-}
+    Drive drive; ///< as it is told up to the first row; empty without rows
+    RecordList<Record, &Record::Next> rows;
+    bool passed = false; ///< a line ahead of the table holds "PASSED"
+};
+using SmartTable = AttributeTable<SmartIdentity, SmartAttributeRecord>;
+using NvmeTable = AttributeTable<NvmeIdentity, NvmeAttributeRecord>;
+using SmartAttributeList = decltype(SmartTable::rows);
+using NvmeAttributeList = decltype(NvmeTable::rows);

@@ -18,25 +18,25 @@ QString withUnit(int celsius, bool fahrenheit)
 
 int GetDiskTemperature()
 {
-    return g_App.m_bNVMe ? nvmeTemperature(g_pNvmeAttributeHead) : ataTemperature(g_pSmartAttributeHead);
+    return g_App.m_bNVMe ? nvmeTemperature(g_nvmeTable.rows) : ataTemperature(g_smartTable.rows);
 }
 
-int ataTemperature(const SmartAttributeRecord *head)
+int ataTemperature(const SmartAttributeList &rows)
 {
-    for (const SmartAttributeRecord *row = head; row; row = row->Next) {
-        const QString name = row->AttributeName.text();
+    for (const SmartAttributeRecord &row : rows) {
+        const QString name = row.AttributeName.text();
         if (name.contains(QLatin1String("Temperature_Celsius")) ||
             name.contains(QLatin1String("Airflow_Temperature_Cel")))
-            return row->RawValue.text().toInt();
+            return row.RawValue.text().toInt();
     }
     return 0;
 }
 
-int nvmeTemperature(const NvmeAttributeRecord *head)
+int nvmeTemperature(const NvmeAttributeList &rows)
 {
-    for (const NvmeAttributeRecord *row = head; row; row = row->Next) {
-        if (row->Name.text().contains(QLatin1String("Temperature")))
-            return row->Value.text().remove(QLatin1String("Celsius")).toInt();
+    for (const NvmeAttributeRecord &row : rows) {
+        if (row.Name.text().contains(QLatin1String("Temperature")))
+            return row.Value.text().remove(QLatin1String("Celsius")).toInt();
     }
     return 0;
 }

@@ -10,8 +10,8 @@
 int GetDiskTemperature();
 
 /// The same of a given list: the first temperature row decides.
-int ataTemperature(const SmartAttributeRecord *head);
-int nvmeTemperature(const NvmeAttributeRecord *head);
+int ataTemperature(const SmartAttributeList &rows);
+int nvmeTemperature(const NvmeAttributeList &rows);
 
 /// The number shown for a temperature in °C. 0 stays 0 in Fahrenheit, as it stands for "not known".
 int displayTemperature(int celsius, bool fahrenheit);

@@ -106,29 +106,31 @@ QString commandLine(ToolPurpose purpose, const QString &device, const QString &f
            QLatin1String(" >> ") + file;
 }
 
-void LoadSmartReport(int diskIndex)
+LoadedReport LoadSmartReport(int diskIndex)
 {
-    const QString path = runner::freshTempFile(toolFileName(ToolPurpose::FullReport));
-    g_strSmartReportPath = path;
     const QString device = deviceString(diskIndex, interfaceOfDisk(diskIndex));
-    g_strSmartDevice = device;
-    RunSilent(commandLine(ToolPurpose::FullReport, device, path));
+    return {diskIndex, device, runFullReport(device)};
+}
+
+void publish(const LoadedReport &loaded)
+{
+    g_strSmartReportPath = loaded.path;
+    g_strSmartDevice = loaded.device;
 }
 
 void RefreshTemperatureReport(int diskIndex)
 {
-    const QString path = runFullReport(deviceString(diskIndex, interfaceOfDisk(diskIndex)));
+    const QString path = LoadSmartReport(diskIndex).path;
     DetectReportKind(path);
     ParseSmartReport(path);
 }
 
-void ProbeDiskIdentity(int diskIndex, const QString &interfaceText)
+ProbedIdentity ProbeDiskIdentity(int diskIndex, const QString &interfaceText)
 {
     const QString path = runFullReport(deviceString(diskIndex, interfaceText));
     report::Identity identity;
     runner::readOutput(path,
                        [&identity](QTextStream &stream) { identity = report::readProbedIdentity(stream); });
-    g_strModelName = identity.model.value_or(QString());
-    g_strSerialNumber = identity.serial.value_or(QString());
-    g_strFirmware = identity.firmware.value_or(QString());
+    return {identity.model.value_or(QString()), identity.serial.value_or(QString()),
+            identity.firmware.value_or(QString())};
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "inventory/WmicInventory.h"
+
 #include <QString>
 
 /// How a disk is named to the report tool, and every command line that the tool is run with.
@@ -40,12 +42,22 @@ QString storedDevice(ToolPurpose purpose);
 /// started runs full reports with the tool's copy in the temp folder, as it has no useful current directory.
 QString commandLine(ToolPurpose purpose, const QString &device, const QString &file);
 
-/// Runs the full report of a disk and leaves it at g_strSmartReportPath. Blocks; any thread, one at a time.
-void LoadSmartReport(int diskIndex);
+/// A report that waits to be taken in.
+struct LoadedReport {
+    int disk = 0; ///< its physical number
+    QString device;
+    QString path;
+};
+
+/// Runs the full report of a disk. Blocks; any thread, one at a time.
+LoadedReport LoadSmartReport(int diskIndex);
+
+/// Makes it that of g_strSmartReportPath and g_strSmartDevice. Main thread only.
+void publish(const LoadedReport &loaded);
 
 /// Runs the full report of a disk and takes it in. Blocks; main thread only.
 void RefreshTemperatureReport(int diskIndex);
 
-/// Runs the full report of a disk of that interface and reads g_strModelName, g_strSerialNumber and
-/// g_strFirmware from it; what it does not name is empty. Blocks; device-load threads only.
-void ProbeDiskIdentity(int diskIndex, const QString &interfaceText);
+/// Runs the full report of a disk of that interface. What it does not name is empty. Blocks; device-load
+/// threads only.
+ProbedIdentity ProbeDiskIdentity(int diskIndex, const QString &interfaceText);

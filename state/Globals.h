@@ -11,9 +11,11 @@ class MainWindow;
 class QWaitClass;
 
 /// The plain globals that several screens share. Empty or zero at start; written on the main thread unless
-/// said otherwise. Flags that two threads touch are atomic. The lists and the three identity texts have no
-/// lock: a device-load thread writes them, and until it has ended the main thread leaves them alone
-/// (g_bListsLoading).
+/// said otherwise. Flags that two threads touch are atomic. The lists have no lock: a device-load thread
+/// writes them, and until it has ended the main thread leaves them alone (g_bListsLoading).
+///
+/// Five are called m_... like members: they belong to the one main window, and are wanted where there is no
+/// pointer to it.
 
 inline QString g_strStartArgument; ///< first command-line argument
 inline QString g_strRunMode;       ///< "Schedular" or empty
@@ -35,7 +37,7 @@ inline LogicalDiskRecord *&g_pLogicalDiskListHead = g_logicalDisks.head;
 inline LogicalDiskRecord *&g_pLogicalDiskListTail = g_logicalDisks.tail;
 
 inline int g_nCurrentDiskIndex = 0; ///< physical number of the selected disk
-inline QString g_strSerialNumber; ///< of the latest report read; a device-load thread uses the three as well
+inline QString g_strSerialNumber;   ///< of the latest report read
 inline QString g_strModelName;
 inline QString g_strFirmware;
 inline QString g_strInterface;

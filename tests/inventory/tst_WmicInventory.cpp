@@ -48,7 +48,10 @@ QStringList volumeRecords()
     return rows;
 }
 
-void ignoreIdentity(int, const QString &) {}
+ProbedIdentity ignoreIdentity(int, const QString &)
+{
+    return {};
+}
 
 } // namespace
 
@@ -242,9 +245,8 @@ void WmicInventoryTest::joinsIdentity()
     QStringList asked;
     LoadDiskDrives([&asked](int index, const QString &interfaceText) {
         asked << QString::number(index) + interfaceText;
-        g_strSerialNumber = QStringLiteral("S%1").arg(asked.size());
-        g_strFirmware = QStringLiteral("F%1").arg(asked.size());
-        g_strModelName = QStringLiteral("M%1").arg(asked.size());
+        const QString number = QString::number(asked.size());
+        return ProbedIdentity{"M" + number, "S" + number, "F" + number};
     });
     const QStringList expected =
         QStringLiteral("0SCSI 1USB 2USB 3USB 4USB 5SCSI 6SCSI").split(QLatin1Char(' '));
@@ -264,8 +266,8 @@ void WmicInventoryTest::namesDisksThatDoNotTellThemselves()
                 utf16(QStringLiteral(
                     "Index  SerialNumber      \r\n4      2012 0926A  \r\n0      S0          \r\n\r\n"))}};
     LoadDiskDrives([](int index, const QString &) {
-        g_strModelName = index == 5 ? QStringLiteral("Told") : QString();
-        g_strSerialNumber = g_strModelName;
+        const QString name = index == 5 ? QStringLiteral("Told") : QString();
+        return ProbedIdentity{name, name, QString()};
     });
     QCOMPARE(findWmicDisk(133)->szSmartModel.text(), QStringLiteral("Told"));
     QCOMPARE(findWmicDisk(133)->szSmartSerial.text(), QStringLiteral("Told"));

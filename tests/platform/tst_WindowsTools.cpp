@@ -309,7 +309,10 @@ void tst_WindowsTools::volumeTable()
 void tst_WindowsTools::diskTable()
 {
     int probed = 0;
-    LoadDiskDrives([&probed](int, const QString &) { ++probed; });
+    LoadDiskDrives([&probed](int, const QString &) {
+        ++probed;
+        return ProbedIdentity();
+    });
     if (m_bWine)
         QEXPECT_FAIL("", "Wine's table of disks has no column Status, and the whole question is refused",
                      Abort);
@@ -330,7 +333,10 @@ void tst_WindowsTools::tablesWithoutTheTool()
     const auto restore = qScopeGuard([&] { QFile::rename(hidden, tool); });
 
     QStringList probed;
-    LoadDiskDrives([&probed](int disk, const QString &bus) { probed << QString::number(disk) + bus; });
+    LoadDiskDrives([&probed](int disk, const QString &bus) {
+        probed << QString::number(disk) + bus;
+        return ProbedIdentity();
+    });
     const WmicDiskRecord *disk = g_pWmicDiskListHead;
     QVERIFY(disk && disk->pNext); // the last line of the table is blank
     QCOMPARE(disk->szStatus.text(), QStringLiteral("OK"));

@@ -342,8 +342,8 @@ void tst_ReportPage::ataRows()
     record.Worst = 77;
     record.Threshold = threshold;
     record.RawValue.assign(raw);
-    appendRecord(g_pSmartAttributeHead, g_pSmartAttributeTail, record);
-    appendRecord(g_pSmartAttributeHead, g_pSmartAttributeTail, SmartAttributeRecord());
+    g_smartTable.rows.append(record);
+    g_smartTable.rows.append();
     PageRecorder page;
     paint(page, gatherSmartReport());
 
@@ -366,11 +366,10 @@ void tst_ReportPage::ataRows()
 
 void tst_ReportPage::statusOfTheDrive()
 {
-    SmartAttributeRecord record;
-    record.SmartSupport.assign(QStringLiteral("Disabled"));
-    appendRecord(g_pSmartAttributeHead, g_pSmartAttributeTail, record);
+    g_smartTable.drive.SmartSupport.assign(QStringLiteral("Disabled"));
+    g_smartTable.rows.append();
     QCOMPARE(gatherSmartReport().smartStatus, QStringLiteral("Disabled"));
-    g_pSmartAttributeHead->SmartSupport.assign(QStringLiteral("Enabled, in part"));
+    g_smartTable.drive.SmartSupport.assign(QStringLiteral("Enabled, in part"));
     QCOMPARE(gatherSmartReport().smartStatus, QStringLiteral("Passed"));
     g_driveVerdict = DriveVerdict::Failed;
     g_bHealthKnown = false;

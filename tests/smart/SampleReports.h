@@ -69,8 +69,8 @@ inline QString stage(const QByteArray &bytes)
 /// As if no report had been read yet.
 inline void forget()
 {
-    freeRecords(g_pSmartAttributeHead, g_pSmartAttributeTail);
-    freeRecords(g_pNvmeAttributeHead, g_pNvmeAttributeTail);
+    g_smartTable = {};
+    g_nvmeTable = {};
     g_App.m_bNVMe = false;
     g_bSmartAvailable = false;
     g_strModelName.clear();
@@ -83,34 +83,21 @@ inline void forget()
     g_nHealthPercent = g_nPowerOnDays = g_nPowerOnRestHours = g_nStartStopCount = 0;
 }
 
-template<typename Record>
-int length(const Record *head)
+template<typename List>
+int length(const List &list)
 {
     int count = 0;
-    for (; head; head = head->Next)
+    for (auto row = list.begin(); row != list.end(); ++row)
         ++count;
     return count;
 }
 
-/// A list that frees itself, built row by row.
-template<typename Record>
-struct List {
-    Record *head = nullptr;
-    Record *tail = nullptr;
-
-    List() = default;
-    List(const List &) = delete;
-    List &operator=(const List &) = delete;
-    ~List() { freeRecords(head, tail); }
-};
-
-struct AtaList : List<SmartAttributeRecord> {
+struct AtaList : SmartAttributeList {
     void add(const QString &name, const QString &raw)
     {
-        SmartAttributeRecord row;
+        SmartAttributeRecord &row = append();
         row.AttributeName.assign(name);
         row.RawValue.assign(raw);
-        appendRecord(head, tail, row);
     }
     /// "name=raw name=raw", with "@value" behind the raw value where one is told
     void addAll(const QString &rows)
@@ -123,13 +110,12 @@ struct AtaList : List<SmartAttributeRecord> {
     }
 };
 
-struct NvmeList : List<NvmeAttributeRecord> {
+struct NvmeList : NvmeAttributeList {
     void add(const QString &name, const QString &value)
     {
-        NvmeAttributeRecord row;
+        NvmeAttributeRecord &row = append();
         row.Name.assign(name);
         row.Value.assign(value);
-        appendRecord(head, tail, row);
     }
 };
 

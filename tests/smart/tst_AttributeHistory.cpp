@@ -348,7 +348,7 @@ void TestAttributeHistory::demoEndsWithItsReports()
     const QString path = samples::stage(in.readAll());
     DetectReportKind(path);
     ParseSmartReport(path);
-    const auto rows = g_App.m_bNVMe ? nvmeRows(g_pNvmeAttributeHead) : ataRows(g_pSmartAttributeHead);
+    const auto rows = g_App.m_bNVMe ? nvmeRows(g_nvmeTable.rows) : ataRows(g_smartTable.rows);
     QVERIFY(rows.size() > 15);
     const QString demo = QStringLiteral(HALVANE_SOURCE_DIR "/demo/history/") + g_strSerialNumber;
     QVERIFY(QFile::copy(demo + QStringLiteral("Date.txt"), file(QStringLiteral("list"))));

@@ -17,7 +17,7 @@ std::vector<AttributeRow> rowsOf(const QString &file)
     const QString path = samples::stage(samples::bytesOf(file));
     DetectReportKind(path);
     ParseSmartReport(path);
-    return g_App.m_bNVMe ? nvmeRows(g_pNvmeAttributeHead) : ataRows(g_pSmartAttributeHead);
+    return g_App.m_bNVMe ? nvmeRows(g_nvmeTable.rows) : ataRows(g_smartTable.rows);
 }
 
 /// "cell|cell|…", the red one marked.
@@ -154,14 +154,15 @@ void AttributeRowsTest::status()
     QFETCH(quint32, threshold);
     QFETCH(QString, raw);
     QFETCH(bool, inTree);
-    SmartAttributeRecord record;
+    SmartAttributeList list;
+    SmartAttributeRecord &record = list.append();
     record.Id = id;
     record.Value = value;
     record.Threshold = threshold;
     record.RawValue.assign(raw);
     QCOMPARE(attributeFailed(record), inTree);
     QTEST(reportStatusFailed(record), "inReport");
-    QCOMPARE(ataRows(&record).front().cells[2], inTree ? QStringLiteral("FAILED") : QStringLiteral("OK"));
+    QCOMPARE(ataRows(list).front().cells[2], inTree ? QStringLiteral("FAILED") : QStringLiteral("OK"));
 }
 
 void AttributeRowsTest::red_data()
@@ -197,7 +198,7 @@ void AttributeRowsTest::red()
     QFETCH(QString, raw);
     samples::AtaList list;
     list.add(name, raw);
-    QTEST(ataRows(list.head).front().redCell, "redCell");
+    QTEST(ataRows(list).front().redCell, "redCell");
 }
 
 void AttributeRowsTest::redGoesByTheNameOnShow()
@@ -206,7 +207,7 @@ void AttributeRowsTest::redGoesByTheNameOnShow()
     list.add(QStringLiteral("Reallocated_Sector_Ct"), QStringLiteral("7"));
     Foreign language;
     QCoreApplication::installTranslator(&language);
-    const AttributeRow row = ataRows(list.head).front();
+    const AttributeRow row = ataRows(list).front();
     QCoreApplication::removeTranslator(&language);
     QCOMPARE(row.redCell, -1);
     QCOMPARE(row.cells[1], QStringLiteral("x"));
@@ -264,8 +265,8 @@ void AttributeRowsTest::cleanedValue()
 
 void AttributeRowsTest::noRecords()
 {
-    QVERIFY(ataRows(nullptr).empty());
-    QVERIFY(nvmeRows(nullptr).empty());
+    QVERIFY(ataRows({}).empty());
+    QVERIFY(nvmeRows({}).empty());
 }
 
 QTEST_GUILESS_MAIN(AttributeRowsTest)

@@ -147,7 +147,7 @@ void tst_Rating::ataHealth()
     QFETCH(QString, rows);
     AtaList list;
     list.addAll(rows);
-    QTEST(healthOfAta(list.head).value_or(NotRated), "health");
+    QTEST(healthOfAta(list).value_or(NotRated), "health");
 }
 
 void tst_Rating::nvmeHealth_data()
@@ -170,12 +170,12 @@ void tst_Rating::nvmeHealth()
     QFETCH(QString, used);
     QFETCH(int, health);
     NvmeList list;
-    QCOMPARE(healthOfNvme(list.head), std::optional<int>(0));
+    QCOMPARE(healthOfNvme(list), std::optional<int>(0));
     list.add("Available Spare", "50%");
-    QVERIFY(!healthOfNvme(list.head));
+    QVERIFY(!healthOfNvme(list));
     list.add("Percentage Used", used);
     list.add("Percentage Used", "33%");
-    QCOMPARE(healthOfNvme(list.head), std::optional<int>(health));
+    QCOMPARE(healthOfNvme(list), std::optional<int>(health));
 }
 
 void tst_Rating::performance_data()
@@ -219,11 +219,11 @@ void tst_Rating::availability()
     SmartAttributeRecord ata;
     ata.AttributeName.assign("Reallocated_Sector_Ct");
     ata.RawValue.assign("10");
-    appendRecord(g_pSmartAttributeHead, g_pSmartAttributeTail, ata);
+    g_smartTable.rows.append(ata);
     NvmeAttributeRecord log;
     log.Name.assign("Percentage Used");
     log.Value.assign("20%");
-    appendRecord(g_pNvmeAttributeHead, g_pNvmeAttributeTail, log);
+    g_nvmeTable.rows.append(log);
     g_strAtaVersion = "ATA2";
     g_App.m_bNVMe = nvme;
     g_bSmartAvailable = available;
@@ -314,13 +314,12 @@ void tst_Rating::figuresOutliveTheDisk()
     g_nHealthPercent = 100;
     AtaList first;
     first.addAll("Power_On_Hours=24 Start_Stop_Count=9");
-    g_pSmartAttributeHead = first.head;
+    g_smartTable.rows = std::move(first);
     UpdateLifeFigures();
     AtaList second;
     second.addAll("Start_Stop_Count=10");
-    g_pSmartAttributeHead = second.head;
+    g_smartTable.rows = std::move(second);
     UpdateLifeFigures();
-    g_pSmartAttributeHead = nullptr;
     QCOMPARE(g_nPowerOnDays, 1);
     QCOMPARE(g_nDiskLifeDays, 1824u);
     QCOMPARE(g_nStartStopCount, 10);
@@ -357,11 +356,10 @@ void tst_Rating::lifeLabels()
 
 void tst_Rating::lifeKinds()
 {
-    SmartAttributeRecord row;
-    QVERIFY(lifeKind(true, true, &row) == LifeKind::Nvme);
-    QVERIFY(lifeKind(false, true, nullptr) == LifeKind::Removable);
-    QVERIFY(lifeKind(false, false, nullptr) == LifeKind::NoRows);
-    QVERIFY(lifeKind(false, false, &row) == LifeKind::Known);
+    QVERIFY(lifeKind(true, true, true) == LifeKind::Nvme);
+    QVERIFY(lifeKind(false, true, false) == LifeKind::Removable);
+    QVERIFY(lifeKind(false, false, false) == LifeKind::NoRows);
+    QVERIFY(lifeKind(false, false, true) == LifeKind::Known);
 }
 
 void tst_Rating::healthImages_data()

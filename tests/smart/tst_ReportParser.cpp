@@ -27,10 +27,13 @@ report::Markers englishMarkers()
 QStringList rowTexts()
 {
     QStringList rows;
-    for (const auto *row = g_pSmartAttributeHead; row && !g_App.m_bNVMe; row = row->Next)
-        rows << row->AttributeName.text() + '=' + row->RawValue.text();
-    for (const auto *row = g_pNvmeAttributeHead; row && g_App.m_bNVMe; row = row->Next)
-        rows << row->Name.text() + '=' + row->Value.text();
+    if (g_App.m_bNVMe) {
+        for (const NvmeAttributeRecord &row : g_nvmeTable.rows)
+            rows << row.Name.text() + '=' + row.Value.text();
+        return rows;
+    }
+    for (const SmartAttributeRecord &row : g_smartTable.rows)
+        rows << row.AttributeName.text() + '=' + row.RawValue.text();
     return rows;
 }
 
@@ -114,8 +117,8 @@ void tst_ReportParser::realReports()
     QCOMPARE(g_strSerialNumber, sample.serial);
     QCOMPARE(g_strFirmware, sample.firmware);
     QCOMPARE(g_strAtaVersion, sample.ataVersion);
-    QCOMPARE(samples::length(g_pSmartAttributeHead), g_App.m_bNVMe ? 0 : sample.rows);
-    QCOMPARE(samples::length(g_pNvmeAttributeHead), g_App.m_bNVMe ? sample.rows : 0);
+    QCOMPARE(samples::length(g_smartTable.rows), g_App.m_bNVMe ? 0 : sample.rows);
+    QCOMPARE(samples::length(g_nvmeTable.rows), g_App.m_bNVMe ? sample.rows : 0);
     QString lastRow;
     if (const SmartAttributeRecord *row = g_pSmartAttributeTail) {
         lastRow = QString("%1|%2|%3|%4|%5")
@@ -124,13 +127,13 @@ void tst_ReportParser::realReports()
                       .arg(row->Value)
                       .arg(row->Threshold)
                       .arg(row->RawValue.text());
-        QCOMPARE(row->DeviceModel.text(), sample.model);
-        QCOMPARE(row->SerialNumber.text(), sample.serial);
+        QCOMPARE(g_smartTable.drive.DeviceModel.text(), sample.model);
+        QCOMPARE(g_smartTable.drive.SerialNumber.text(), sample.serial);
     }
     if (const NvmeAttributeRecord *row = g_pNvmeAttributeTail) {
         lastRow = row->Name.text() + '|' + row->Value.text();
-        QCOMPARE(g_pNvmeAttributeHead->ModelNumber.text(), sample.model);
-        QCOMPARE(row->Firmware.text(), sample.firmware);
+        QCOMPARE(g_nvmeTable.drive.ModelNumber.text(), sample.model);
+        QCOMPARE(g_nvmeTable.drive.Firmware.text(), sample.firmware);
     }
     QCOMPARE(lastRow, sample.lastRow);
 }
@@ -321,10 +324,10 @@ void tst_ReportParser::missingLinesKeepTheirTexts()
     QCOMPARE(g_strSerialNumber, QString("new"));
     QCOMPARE(g_strFirmware, QString("f"));
     QCOMPARE(g_strAtaVersion, QString("v"));
-    // The row has what this report says, not what the disk before it said.
-    QCOMPARE(g_pSmartAttributeHead->SerialNumber.text(), QString("new"));
-    QVERIFY(g_pSmartAttributeHead->DeviceModel.isEmpty());
-    QVERIFY(g_pSmartAttributeHead->AtaVersion.isEmpty());
+    // The drive has what this report says, not what the disk before it said.
+    QCOMPARE(g_smartTable.drive.SerialNumber.text(), QString("new"));
+    QVERIFY(g_smartTable.drive.DeviceModel.isEmpty());
+    QVERIFY(g_smartTable.drive.AtaVersion.isEmpty());
 }
 
 void tst_ReportParser::otherKindKeepsItsList()
@@ -333,7 +336,7 @@ void tst_ReportParser::otherKindKeepsItsList()
     const NvmeAttributeRecord *head = g_pNvmeAttributeHead;
     readReport(samples::bytesOf("ata-seagate-st3250318as.txt"));
     QCOMPARE(g_pNvmeAttributeHead, head);
-    QCOMPARE(samples::length(head), 17);
+    QCOMPARE(samples::length(g_nvmeTable.rows), 17);
     QVERIFY(!g_App.m_bNVMe);
 }
 
@@ -341,8 +344,8 @@ void tst_ReportParser::rereadReplaces()
 {
     readReport(samples::bytesOf("ata-transcend-ts120gmts420s.txt"));
     readReport(samples::bytesOf("ata-apple-sm0256f.txt"));
-    QCOMPARE(samples::length(g_pSmartAttributeHead), 13);
-    QCOMPARE(g_pSmartAttributeTail->DeviceModel.text(), QString("APPLE SSD SM0256F"));
+    QCOMPARE(samples::length(g_smartTable.rows), 13);
+    QCOMPARE(g_smartTable.drive.DeviceModel.text(), QString("APPLE SSD SM0256F"));
     QVERIFY(!g_pSmartAttributeTail->Next);
 }
 

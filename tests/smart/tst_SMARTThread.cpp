@@ -59,9 +59,10 @@ void tst_SMARTThread::readsAndReports()
     QCOMPARE(told.count(), 1);
     QCOMPARE(m_fake->commands().size(), 1);
     QVERIFY(m_fake->commands().at(0).contains(" -a /dev/sdd >> "));
-    QVERIFY(QFile::exists(nativePath(g_strSmartReportPath)));
-    QCOMPARE(thread.takeReport(), std::optional<int>(3));
-    QCOMPARE(thread.takeReport(), std::optional<int>());
+    const std::optional<LoadedReport> loaded = thread.takeReport();
+    QVERIFY(loaded && loaded->disk == 3 && loaded->device == "/dev/sdd");
+    QVERIFY(QFile::exists(nativePath(loaded->path)));
+    QVERIFY(!thread.takeReport());
 }
 
 void tst_SMARTThread::runsAgainForTheNextRequest()
@@ -96,7 +97,8 @@ void tst_SMARTThread::lastRequestDuringAReadIsReadBehindIt()
     QCOMPARE(m_fake->commands().size(), 2);
     QVERIFY(m_fake->commands().at(1).contains("/dev/sdh"));
     QCOMPARE(told.count(), 1);
-    QCOMPARE(thread.takeReport(), std::optional<int>(7));
+    const std::optional<LoadedReport> loaded = thread.takeReport();
+    QVERIFY(loaded && loaded->disk == 7);
     QVERIFY(!g_bAbortJob);
 }
 

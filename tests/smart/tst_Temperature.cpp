@@ -73,7 +73,7 @@ void tst_Temperature::ata()
     QFETCH(QString, rows);
     AtaList list;
     list.addAll(rows);
-    QTEST(ataTemperature(list.head), "celsius");
+    QTEST(ataTemperature(list), "celsius");
 }
 
 void tst_Temperature::nvme_data()
@@ -104,8 +104,8 @@ void tst_Temperature::nvme()
     NvmeList list;
     list.add("Critical Warning", "0x00");
     list.add(name, value);
-    QTEST(nvmeTemperature(list.head), "celsius");
-    QCOMPARE(nvmeTemperature(nullptr), 0);
+    QTEST(nvmeTemperature(list), "celsius");
+    QCOMPARE(nvmeTemperature({}), 0);
 }
 
 void tst_Temperature::kindChoosesTheList()
@@ -116,8 +116,8 @@ void tst_Temperature::kindChoosesTheList()
     NvmeAttributeRecord nvme;
     nvme.Name.assign("Temperature");
     nvme.Value.assign("51 Celsius");
-    appendRecord(g_pSmartAttributeHead, g_pSmartAttributeTail, ata);
-    appendRecord(g_pNvmeAttributeHead, g_pNvmeAttributeTail, nvme);
+    g_smartTable.rows.append(ata);
+    g_nvmeTable.rows.append(nvme);
     QCOMPARE(GetDiskTemperature(), 36);
     g_App.m_bNVMe = true;
     QCOMPARE(GetDiskTemperature(), 51);

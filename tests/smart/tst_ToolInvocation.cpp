@@ -209,9 +209,9 @@ void tst_ToolInvocation::loadReport()
     addDisk(0, "IDE");
     addDisk(1, "USB");
     g_strRunMode = mode;
-    LoadSmartReport(index);
-    QCOMPARE(g_strSmartReportPath.text(), tempFile("SMART.txt"));
-    QTEST(g_strSmartDevice.text(), "device");
+    publish(LoadSmartReport(index));
+    QCOMPARE(g_strSmartReportPath, tempFile("SMART.txt"));
+    QTEST(g_strSmartDevice, "device");
     QCOMPARE(onlyCommand(), "C:\\Windows\\system32\\cmd.exe /c " + start + tempFile("SMART.txt") + ' ');
 }
 
@@ -241,11 +241,11 @@ void tst_ToolInvocation::refreshTakesTheReportIn()
     RefreshTemperatureReport(3);
     QVERIFY(onlyCommand().contains(" -a  -d sat,12 /dev/sdd >> "));
     QVERIFY(g_App.m_bNVMe);
-    QCOMPARE(samples::length(g_pNvmeAttributeHead), 17);
+    QCOMPARE(samples::length(g_nvmeTable.rows), 17);
     QVERIFY(g_bSmartAvailable);
     // The names of the latest read by the thread are not its business.
-    QCOMPARE(g_strSmartDevice.text(), QString("before"));
-    QCOMPARE(g_strSmartReportPath.text(), QString("before"));
+    QCOMPARE(g_strSmartDevice, QString("before"));
+    QCOMPARE(g_strSmartReportPath, QString("before"));
 }
 
 void tst_ToolInvocation::probe_data()
@@ -260,12 +260,11 @@ void tst_ToolInvocation::probe_data()
 void tst_ToolInvocation::probe()
 {
     QFETCH(QString, file);
-    g_strModelName = g_strSerialNumber = g_strFirmware = "old";
     m_fake->onCommand = [&](const QString &line) {
         return FakePlatform::answer(line, samples::bytesOf(file));
     };
-    ProbeDiskIdentity(0, QString());
-    QTEST(g_strModelName + '|' + g_strSerialNumber + '|' + g_strFirmware, "identity");
+    const ProbedIdentity told = ProbeDiskIdentity(0, QString());
+    QTEST(told.model + '|' + told.serial + '|' + told.firmware, "identity");
     QVERIFY(!QFile::exists(nativePath(tempFile("SMART.txt"))));
     QVERIFY(!g_pSmartAttributeHead && !g_pNvmeAttributeHead);
 }
@@ -279,9 +278,8 @@ void tst_ToolInvocation::probeRunsWithTheGivenInterface()
 
 void tst_ToolInvocation::probeWithoutAnAnswer()
 {
-    g_strModelName = g_strSerialNumber = g_strFirmware = "old";
-    ProbeDiskIdentity(0, QString());
-    QVERIFY(g_strModelName.isEmpty() && g_strSerialNumber.isEmpty() && g_strFirmware.isEmpty());
+    const ProbedIdentity told = ProbeDiskIdentity(0, QString());
+    QVERIFY(told.model.isEmpty() && told.serial.isEmpty() && told.firmware.isEmpty());
 }
 
 QTEST_GUILESS_MAIN(tst_ToolInvocation)

@@ -293,7 +293,7 @@ void DiskStatus::redoDetails()
     const WmicDiskRecord *record = node ? findWmicDisk(node->nId) : nullptr;
     showIdentity(identityTextsAfterLanguageChange(node, record, g_nCurrentDiskIndex));
     const LifeKind kind =
-        lifeKind(g_App.m_bNVMe, node && node->nKind == RemovableDisk, g_pSmartAttributeHead);
+        lifeKind(g_App.m_bNVMe, node && node->nKind == RemovableDisk, !g_smartTable.rows.isEmpty());
     showLife(lifeTexts(kind, storedLifeFigures(), RetranslateSeparator));
     showVerdict(g_driveVerdict);
 }

@@ -178,7 +178,7 @@ void SmartStatus::FormatSmartTable()
 
 std::vector<AttributeRow> SmartStatus::CurrentRows()
 {
-    return g_App.m_bNVMe ? nvmeRows(g_pNvmeAttributeHead) : ataRows(g_pSmartAttributeHead);
+    return g_App.m_bNVMe ? nvmeRows(g_nvmeTable.rows) : ataRows(g_smartTable.rows);
 }
 
 void SmartStatus::ShowRows(const std::vector<AttributeRow> &rows)

@@ -177,11 +177,12 @@ void MainWindow::OnInitializeSmart()
 {
     // Only the first call after a read finds a report. There is none while a newer read runs, or if a
     // refresh has cut the read short.
-    const std::optional<int> disk = m_smartThread.takeReport();
-    if (!disk)
+    const std::optional<LoadedReport> loaded = m_smartThread.takeReport();
+    if (!loaded)
         return;
+    publish(*loaded);
     prepareLogFolder();
-    if (*disk == currentComboDisk()) {
+    if (loaded->disk == currentComboDisk()) {
         if (isOnShow(navigation::SmartStatusScreen))
             initializeSmartStatus();
         else if (isOnShow(navigation::DiskStatusScreen))
@@ -309,7 +310,7 @@ void MainWindow::showLifeFields(const DiskNode *node)
     m_pDiskStatusPage->PowerOnTimeString->setText(tr("Power-on Time"));
     m_pDiskStatusPage->StartStopString->setText(tr("Start/Stop Count"));
     const LifeKind kind =
-        lifeKind(g_App.m_bNVMe, node && node->nKind == RemovableDisk, g_pSmartAttributeHead);
+        lifeKind(g_App.m_bNVMe, node && node->nKind == RemovableDisk, !g_smartTable.rows.isEmpty());
     if (kind == LifeKind::Known)
         UpdateLifeFigures();
     m_pDiskStatusPage->showLife(lifeTexts(kind, storedLifeFigures()));
