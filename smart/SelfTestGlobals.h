@@ -17,11 +17,9 @@ inline std::array<int, SelfTestKindCount> g_nRemainingMinutes{}; ///< the minute
 inline std::array<int, SelfTestKindCount> g_nElapsedLimit{};     ///< polling time in seconds, by kind
 inline int g_nElapsedSeconds = 0;                                ///< ticks counted up to the limit
 inline int g_nMinuteTicks = 0;      ///< ticks since the remaining minutes last changed
-inline int g_nElapsedDays = 0;      ///< whole days of the elapsed time
 inline QTime g_timeElapsed;         ///< elapsed time on display, within its day
 inline bool g_bTestPending = false; ///< the self-test path was entered and the test has not been started
 inline bool g_bOnTestScreen = false;
-inline int g_nSilentTicks = 0;    ///< ticks in a row that found no status
 inline bool g_bAbortSent = false; ///< the drive was told to abort; the next tick reports it
 
 /// The kind that is prepared or runs: an extended test without a polling time counts as a short one.

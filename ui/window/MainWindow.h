@@ -2,7 +2,7 @@
 
 #include "clone/CloneMessages.h"
 #include "smart/SMARTThread.h"
-#include "smart/SelfTestText.h"
+#include "smart/SelfTest.h"
 #include "state/JobState.h"
 #include "state/Navigation.h"
 #include "ui/widgets/FramelessDrag.h"
@@ -100,7 +100,7 @@ public slots:
     void OnCheckRadioButton();
     void ChooseScanType();
     void OnClickStopTestButton();
-    void StopConfirm();
+    void StopConfirm() { m_selfTest.abort(); }
     void OnCheckShortTest1();
     void OnStartShortSelfTest();
     void CheckShortTestStatus1();
@@ -273,9 +273,9 @@ private:
     void showTestButtons(bool running);
     void setNavigationEnabled(Screen screen, bool enabled);
     void enableNavigation();
-    void showTestProgress(int remainingPercent);
-    void endSelfTest(selftest::Told how);
-    void reportTestAbort();
+    void showTestStep(const SelfTest::Step &step);
+    void showTestEnd(selftest::Told how);
+    void showTestOver(selftest::Told how);
     /// @}
 
     /// \name Closing
@@ -333,6 +333,7 @@ private:
     bool m_bRefreshAgain = false; ///< a volume came or went during a refresh
     QTimer *m_pTemperatureTimer = nullptr;
     QPointer<QCheckUpdate> m_pCheckUpdate;
+    SelfTest m_selfTest;
     QTimer *m_pTestTimer = nullptr; ///< made at the first self-test
     FramelessDrag m_drag;
     SMARTThread m_smartThread;

@@ -1,11 +1,6 @@
 #include "ui/window/MainWindow.h"
 
-#include "inventory/CommandRunner.h"
-#include "smart/SelfTestClock.h"
-#include "smart/SelfTestText.h"
 #include "smart/SmartGlobals.h"
-#include "smart/ToolInvocation.h"
-#include "state/GlobalApp.h"
 #include "state/Globals.h"
 #include "ui/dialogs/ConfarmetionClass.h"
 #include "ui/dialogs/SelfTestNotSupported.h"
@@ -14,21 +9,12 @@
 #include "ui/widgets/MyButton.h"
 #include "ui/widgets/Style.h"
 
-#include <QTextStream>
 #include <QTimer>
 
 namespace
 {
 
 constexpr int TickInterval = 1000;
-
-/// Runs the tool for a purpose of the self-test's disk; its fresh file's path comes back.
-QString runFor(ToolPurpose purpose)
-{
-    const QString path = runner::freshTempFile(toolFileName(purpose));
-    RunSilent(commandLine(purpose, storedDevice(purpose), path));
-    return path;
-}
 
 std::optional<SelfTestKind> chosenKind(const ScanDisk &page)
 {
@@ -37,25 +23,6 @@ std::optional<SelfTestKind> chosenKind(const ScanDisk &page)
     if (page.radioButton_3->isChecked())
         return SelfTestKind::Extended;
     return std::nullopt;
-}
-
-/// Takes the capabilities in, of which only the polling time of the chosen kind is read.
-void takeCapabilities(const selftest::Capabilities &found, std::optional<SelfTestKind> kind)
-{
-    g_bSelfTestSupported = found.supported;
-    if (!kind || !found.minutes)
-        return;
-    g_bExtendedTest = *kind == SelfTestKind::Extended;
-    (g_bExtendedTest ? g_nExtendedMinutes : g_nShortMinutes) = *found.minutes;
-    g_nRemainingMinutes[static_cast<std::size_t>(*kind)] = *found.minutes;
-}
-
-bool canRunSelfTest()
-{
-    // The kind is that of the disk whose report was read last, which may be another one.
-    const bool ofThisDisk =
-        storedDevice(ToolPurpose::SelfTestLog).endsWith(storedDevice(ToolPurpose::Capabilities));
-    return g_bSelfTestSupported && !(g_App.m_bNVMe && ofThisDisk);
 }
 
 } // namespace
@@ -82,22 +49,11 @@ void MainWindow::OnCheckRadioButton()
 void MainWindow::OnCheckShortTest1()
 {
     SelfTestPanel *panel = m_pScanDiskPage->m_pSelfTestPanel;
-    g_bExtendedTest = false;
-    g_nShortMinutes = 0;
-    g_nExtendedMinutes = 0;
-    g_bAbortSent = false;
-    panel->SetTestName(std::nullopt);
     panel->SetProgress(0);
     panel->SetDisk(g_strSelfTestModel, g_strSelfTestSerial);
-
-    const std::optional<SelfTestKind> kind = chosenKind(*m_pScanDiskPage);
-    // A drive whose capabilities cannot be had runs no test, whatever the disk before could do.
-    g_bSelfTestSupported = false;
-    runner::readOutput(runFor(ToolPurpose::Capabilities), [kind](QTextStream &text) {
-        takeCapabilities(selftest::readCapabilities(text, kind), kind);
-    });
+    m_selfTest.prepare(chosenKind(*m_pScanDiskPage));
     panel->SetTestName(currentSelfTest());
-    if (canRunSelfTest()) {
+    if (m_selfTest.canRun()) {
         showTestScreen();
         return;
     }
@@ -148,17 +104,11 @@ void MainWindow::enableNavigation()
 void MainWindow::OnStartShortSelfTest()
 {
     SelfTestPanel *panel = m_pScanDiskPage->m_pSelfTestPanel;
-    const bool canRun = canRunSelfTest();
-    if (canRun) {
-        g_Jobs.begin(Job::SelfTest);
-        g_Jobs.openResult(Job::SelfTest);
-        keepAwake();
-    } else {
-        g_Jobs.closeResults();
-    }
+    const bool canRun = m_selfTest.canRun();
+    const bool started = m_selfTest.start();
+    keepAwake();
     m_scannedDisk = chosenDisk();
     setNavigationEnabled(navigation::ScanDiskScreen, !canRun);
-    selftest::restartClock();
     panel->SetStatus(std::nullopt);
     panel->SetElapsed(QString());
     panel->SetPollingMinutes(std::nullopt);
@@ -166,16 +116,10 @@ void MainWindow::OnStartShortSelfTest()
     m_pScanDiskPage->ShowSelfTest();
     panel->ShowTimes(canRun);
     selectButton(navigation::ScanDiskScreen);
-
-    const ToolPurpose purpose =
-        g_bExtendedTest ? ToolPurpose::StartExtendedTest : ToolPurpose::StartShortTest;
-    if (!canRun) {
-        runner::freshTempFile(toolFileName(purpose));
+    if (!canRun)
         return;
-    }
-    // That there is a file is enough: what the drive makes of the start its status tells.
-    if (!runner::readOutput(runFor(purpose), [](QTextStream &) {})) {
-        endSelfTest(selftest::Told::NoStatus);
+    if (!started) {
+        showTestEnd(selftest::Told::NoStatus);
         return;
     }
     panel->SetPollingMinutes(currentPollingMinutes());
@@ -192,77 +136,51 @@ void MainWindow::OnStartShortSelfTest()
 
 void MainWindow::CheckShortTestStatus1()
 {
-    const bool aborted = g_bAbortSent;
-    if (aborted)
-        reportTestAbort();
-    selftest::setElapsedLimit();
-    QVector<selftest::StatusEvent> events;
-    const bool opened = runner::readOutput(runFor(ToolPurpose::TestProgress), [&events](QTextStream &text) {
-        events = selftest::readStatus(text);
-    });
-    if (!opened)
-        events = {{selftest::Told::NoStatus}};
-    for (const selftest::StatusEvent &event : qAsConst(events)) {
-        const bool silent = event.told == selftest::Told::NoStatus;
-        // Behind an abort a drive may still be on its way to the end: only what its test found is told then.
-        if (selftest::passesOver(!silent) || (aborted && !selftest::isResult(event.told)))
-            continue;
-        if (event.told == selftest::Told::InProgress)
-            showTestProgress(event.remaining);
-        else
-            endSelfTest(event.told);
-    }
-    if (!opened)
-        return;
-    selftest::tickClock();
-    m_pScanDiskPage->m_pSelfTestPanel->SetElapsed(selftest::elapsedText());
+    const SelfTest::Tick tick = m_selfTest.tick();
+    if (tick.aborted)
+        showTestOver(selftest::Told::Aborted);
+    for (const SelfTest::Step &step : tick.steps)
+        showTestStep(step);
+    if (tick.opened)
+        m_pScanDiskPage->m_pSelfTestPanel->SetElapsed(m_selfTest.elapsedText());
 }
 
-void MainWindow::showTestProgress(int remainingPercent)
+void MainWindow::showTestStep(const SelfTest::Step &step)
 {
+    if (step.told != selftest::Told::InProgress) {
+        showTestEnd(step.told);
+        return;
+    }
     SelfTestPanel *panel = m_pScanDiskPage->m_pSelfTestPanel;
-    panel->SetProgress(selftest::percentDone(remainingPercent));
+    panel->SetProgress(step.percent);
     for (const Screen other : {navigation::DiskStatusScreen, navigation::SmartStatusScreen,
                                navigation::DiskPartitionScreen, navigation::CloneDiskScreen})
         setNavigationEnabled(other, false);
     StopTestButton->show();
-    if (selftest::takeMinute())
-        panel->SetRemainingMinutes(g_nRemainingMinutes[static_cast<std::size_t>(currentSelfTest())]);
-    if (selftest::isOver(remainingPercent))
-        endSelfTest(selftest::Told::Completed);
-    else
-        panel->SetStatus(selftest::Told::InProgress);
+    if (step.minutes)
+        panel->SetRemainingMinutes(*step.minutes);
+    panel->SetStatus(step.told);
 }
 
-void MainWindow::endSelfTest(selftest::Told how)
+void MainWindow::showTestEnd(selftest::Told how)
 {
     SelfTestPanel *panel = m_pScanDiskPage->m_pSelfTestPanel;
-    if (m_pTestTimer)
-        m_pTestTimer->stop();
-    g_bTestPending = false;
-    g_Jobs.end(Job::SelfTest);
-    enableNavigation();
     m_pConfirmation->hide();
     panel->SetProgress(100);
     panel->SetRemainingMinutes(0);
-    showTestButtons(false);
-    panel->ShowProgress(false);
     panel->ShowTimes(false);
-    panel->SetStatus(how);
+    showTestOver(how);
 }
 
-void MainWindow::reportTestAbort()
+/// Of a test that was aborted the times go on showing.
+void MainWindow::showTestOver(selftest::Told how)
 {
-    g_bTestPending = false;
-    g_Jobs.end(Job::SelfTest);
     if (m_pTestTimer)
         m_pTestTimer->stop();
-    g_nElapsedSeconds = 0;
-    m_pScanDiskPage->m_pSelfTestPanel->ShowProgress(false);
     enableNavigation();
     showTestButtons(false);
-    m_pScanDiskPage->m_pSelfTestPanel->SetStatus(selftest::Told::Aborted);
-    g_bAbortSent = false;
+    m_pScanDiskPage->m_pSelfTestPanel->ShowProgress(false);
+    m_pScanDiskPage->m_pSelfTestPanel->SetStatus(how);
 }
 
 void MainWindow::OnClickStopTestButton()
@@ -272,13 +190,6 @@ void MainWindow::OnClickStopTestButton()
                               tr("Do you wish to abort the Self-test?"));
     style::centreOn(m_pConfirmation, geometry());
     m_pConfirmation->show();
-}
-
-void MainWindow::StopConfirm()
-{
-    g_bAbortSent = false;
-    runFor(ToolPurpose::AbortTest);
-    g_bAbortSent = true;
 }
 
 void MainWindow::ChooseScanType()

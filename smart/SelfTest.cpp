@@ -1,0 +1,155 @@
+#include "smart/SelfTest.h"
+
+#include "inventory/CommandRunner.h"
+#include "smart/ToolInvocation.h"
+#include "state/GlobalApp.h"
+#include "state/JobState.h"
+
+#include <QTextStream>
+
+#include <utility>
+
+namespace
+{
+
+constexpr int MostSilentTicks = 10;
+
+std::size_t current()
+{
+    return static_cast<std::size_t>(currentSelfTest());
+}
+
+/// Runs the tool for a purpose of the self-test's disk; its fresh file's path comes back.
+QString runFor(ToolPurpose purpose)
+{
+    const QString path = runner::freshTempFile(toolFileName(purpose));
+    RunSilent(commandLine(purpose, storedDevice(purpose), path));
+    return path;
+}
+
+} // namespace
+
+void SelfTest::prepare(std::optional<SelfTestKind> kind)
+{
+    g_bExtendedTest = false;
+    g_nShortMinutes = 0;
+    g_nExtendedMinutes = 0;
+    g_bAbortSent = false;
+    // A drive whose capabilities cannot be had runs no test, whatever the disk before could do.
+    selftest::Capabilities found;
+    runner::readOutput(runFor(ToolPurpose::Capabilities),
+                       [kind, &found](QTextStream &text) { found = selftest::readCapabilities(text, kind); });
+    g_bSelfTestSupported = found.supported;
+    if (!kind || !found.minutes)
+        return;
+    g_bExtendedTest = *kind == SelfTestKind::Extended;
+    (g_bExtendedTest ? g_nExtendedMinutes : g_nShortMinutes) = *found.minutes;
+    g_nRemainingMinutes[current()] = *found.minutes;
+}
+
+bool SelfTest::canRun() const
+{
+    // The kind is that of the disk whose report was read last, which may be another one.
+    const bool ofThisDisk =
+        storedDevice(ToolPurpose::SelfTestLog).endsWith(storedDevice(ToolPurpose::Capabilities));
+    return g_bSelfTestSupported && !(g_App.m_bNVMe && ofThisDisk);
+}
+
+bool SelfTest::start()
+{
+    g_nMinuteTicks = 0;
+    g_nElapsedSeconds = 0;
+    g_timeElapsed = QTime(0, 0);
+    m_nElapsedDays = 0;
+    m_nSilentTicks = 0;
+    const ToolPurpose purpose =
+        g_bExtendedTest ? ToolPurpose::StartExtendedTest : ToolPurpose::StartShortTest;
+    if (!canRun()) {
+        g_Jobs.closeResults();
+        runner::freshTempFile(toolFileName(purpose));
+        return false;
+    }
+    g_Jobs.begin(JobState::Job::SelfTest);
+    g_Jobs.openResult(JobState::Job::SelfTest);
+    // That there is a file is enough: what the drive makes of the start its status tells.
+    if (runner::readOutput(runFor(purpose), [](QTextStream &) {}))
+        return true;
+    end();
+    return false;
+}
+
+SelfTest::Tick SelfTest::tick()
+{
+    Tick tick;
+    tick.aborted = std::exchange(g_bAbortSent, false);
+    if (tick.aborted) {
+        end();
+        g_nElapsedSeconds = 0;
+    }
+    g_nElapsedLimit[current()] = static_cast<qint32>(static_cast<quint32>(currentPollingMinutes()) * 60u);
+    QVector<selftest::StatusEvent> events{{selftest::Told::NoStatus}};
+    tick.opened = runner::readOutput(runFor(ToolPurpose::TestProgress),
+                                     [&events](QTextStream &text) { events = selftest::readStatus(text); });
+    for (const selftest::StatusEvent &event : qAsConst(events)) {
+        // Behind an abort a drive may still be on its way to the end: only what its test found is told then.
+        if (!passesOver(event.told != selftest::Told::NoStatus) &&
+            (!tick.aborted || selftest::isResult(event.told)))
+            tick.steps.append(stepOf(event));
+    }
+    if (tick.opened)
+        tickClock();
+    return tick;
+}
+
+void SelfTest::abort()
+{
+    runFor(ToolPurpose::AbortTest);
+    g_bAbortSent = true;
+}
+
+void SelfTest::end()
+{
+    g_bTestPending = false;
+    g_Jobs.end(JobState::Job::SelfTest);
+}
+
+/// Counts a reading by whether it found a status. True while one without is passed over: a drive that is busy
+/// or was reset answers again, one that keeps silent has gone.
+bool SelfTest::passesOver(bool found)
+{
+    m_nSilentTicks = found ? 0 : m_nSilentTicks + 1;
+    return !found && m_nSilentTicks < MostSilentTicks;
+}
+
+SelfTest::Step SelfTest::stepOf(const selftest::StatusEvent &event)
+{
+    Step step{event.told, selftest::percentDone(event.remaining), std::nullopt};
+    if (event.told == selftest::Told::InProgress && g_nMinuteTicks == 60) {
+        g_nMinuteTicks = 0;
+        step.minutes = --g_nRemainingMinutes[current()];
+    }
+    if (event.told == selftest::Told::InProgress && selftest::isOver(event.remaining))
+        step.told = selftest::Told::Completed;
+    if (step.told != selftest::Told::InProgress)
+        end();
+    return step;
+}
+
+void SelfTest::tickClock()
+{
+    if (g_nElapsedSeconds < g_nElapsedLimit[current()]) {
+        ++g_nElapsedSeconds;
+        ++g_nMinuteTicks;
+    } else {
+        g_nMinuteTicks = 0;
+    }
+    g_timeElapsed = g_timeElapsed.addSecs(1);
+    if (g_timeElapsed == QTime(0, 0))
+        ++m_nElapsedDays;
+}
+
+QString SelfTest::elapsedText() const
+{
+    return QStringLiteral("%1:").arg(24 * m_nElapsedDays + g_timeElapsed.hour(), 2, 10, QLatin1Char('0')) +
+           g_timeElapsed.toString(QStringLiteral("mm:ss"));
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "smart/SelfTestGlobals.h"
+#include "smart/SelfTestText.h"
+
+#include <QString>
+
+/// The drive's own self-test from its preparation to its end, in the globals of SelfTestGlobals.h and in
+/// g_Jobs. Its disk is that of g_strSelfTestDevice. Whatever runs the tool blocks. Main thread only.
+class SelfTest
+{
+public:
+    /// What a reading of the drive tells.
+    struct Step {
+        selftest::Told told;
+        int percent = 0;            ///< done, of InProgress alone
+        std::optional<int> minutes; ///< that remain, where their number has changed
+    };
+    struct Tick {
+        bool aborted = false; ///< the drive was told to abort since the last tick, and the test has ended
+        bool opened = false;  ///< the tool ran, and the clock has gone on
+        QVector<Step> steps;  ///< in the order of the text
+    };
+
+    /// Reads what the disk can do and the polling time of `kind`; without a kind only the former.
+    void prepare(std::optional<SelfTestKind> kind);
+    bool canRun() const;
+    /// Starts the prepared test. False where there is none, or where the tool did not run: then it has ended.
+    bool start();
+    /// Reads how the test stands; meant to come once a second. Behind the polling time the remaining minutes
+    /// fall no further.
+    Tick tick();
+    /// Tells the drive to abort; the next tick ends the test.
+    void abort();
+    void end();
+
+    /// "05:07:09"; an extended test of a large disk takes more than a day: "26:07:09".
+    QString elapsedText() const;
+
+private:
+    bool passesOver(bool found);
+    Step stepOf(const selftest::StatusEvent &event);
+    void tickClock();
+
+    int m_nElapsedDays = 0; ///< whole days of the elapsed time
+    int m_nSilentTicks = 0; ///< readings in a row that found no status
+};
