@@ -8,7 +8,6 @@
 #include "state/Globals.h"
 
 #include <QElapsedTimer>
-#include <QMutexLocker>
 
 #include <array>
 
@@ -85,13 +84,11 @@ ThreadDriveClone::ThreadDriveClone(QObject *parent) : QThread(parent) {}
 
 ThreadDriveClone::~ThreadDriveClone()
 {
-    m_condition.wakeOne();
     wait();
 }
 
 void ThreadDriveClone::run()
 {
-    const QMutexLocker lock(&m_mutex);
     m_outcome = {};
     g_bCloneFailed = false;
     if (g_bAbortJob)

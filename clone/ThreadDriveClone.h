@@ -2,9 +2,7 @@
 
 #include "clone/CloneOutcome.h"
 
-#include <QMutex>
 #include <QThread>
-#include <QWaitCondition>
 
 #include <atomic>
 
@@ -64,8 +62,6 @@ private:
     void finish();
     void endAsFailed(CloneOutcome::End end, CloneFault fault);
 
-    QMutex m_mutex; ///< held for a whole run
-    QWaitCondition m_condition;
     CloneOutcome m_outcome;
     DiskDetails *m_pSource = nullptr; ///< of the run that is under way
     DiskDetails *m_pDestination = nullptr;

@@ -12,10 +12,9 @@ namespace
 
 constexpr int SectorSize = 512;
 constexpr quint32 DescriptorSize = 1024; ///< room for what a drive says of itself, a zero at the end
-constexpr int TransferAttempts = 1;      ///< for physical disks; a volume always gets one
 
-bool transferOnce(Platform::RawHandle handle, quint64 sector, void *buffer, quint32 byteCount, bool write,
-                  quint32 *transferred)
+bool transfer(Platform::RawHandle handle, quint64 sector, void *buffer, quint32 byteCount, bool write,
+              quint32 *transferred)
 {
     Platform &platform = Platform::current();
     if (sector > static_cast<quint64>(std::numeric_limits<qint64>::max()) / SectorSize)
@@ -51,10 +50,7 @@ bool ReadWriteSectors(int driveCode, quint64 sector, void *buffer, quint32 byteC
         handle = OpenDisk(driveCode);
     if (handle == Platform::InvalidHandle)
         return false;
-    const int attempts = driveCode >= PhysicalDriveBase ? TransferAttempts : 1;
-    bool done = false;
-    for (int attempt = 0; attempt < attempts && !done; ++attempt)
-        done = transferOnce(handle, sector, buffer, byteCount, write, &moved);
+    const bool done = transfer(handle, sector, buffer, byteCount, write, &moved);
     if (ownHandle)
         Platform::current().CloseHandle(handle);
     if (transferred)

@@ -74,17 +74,14 @@ QScanDriveThread::QScanDriveThread(QObject *parent) : QThread(parent)
 QScanDriveThread::~QScanDriveThread()
 {
     g_bAbortJob = true;
-    m_condition.wakeOne();
     wait();
 }
 
-void QScanDriveThread::StartScan(DiskNode *, int mode)
+void QScanDriveThread::StartScan(DiskNode *, int)
 {
     const QMutexLocker lock(&m_mutex);
-    m_nMode = mode;
     if (isRunning()) {
         g_bAbortJob = true;
-        m_condition.wakeOne();
     } else {
         g_bJobRunning = true; // a refresh of the lists must not slip in before the thread is up
         start(QThread::LowPriority);
@@ -116,7 +113,6 @@ void QScanDriveThread::run()
     const QMutexLocker lock(&m_mutex);
     g_bScanBegun = false;
     g_bJobRunning = true;
-    m_nSectorSize = SectorSize;
     // The flags of the last scan say nothing about this disk.
     g_bScanFailed = false;
     g_bScanDiskGone = false;
@@ -131,7 +127,6 @@ void QScanDriveThread::scan()
 {
     g_BadSectors.clear();
     DiskDetails *const disk = selectedDisk();
-    m_nBadBlocks = 0;
     const PageMemory buffer = pageMemory(ChunkBytes);
     if (!buffer)
         return;
@@ -140,11 +135,8 @@ void QScanDriveThread::scan()
     m_nStoodStillAt = -1;
     m_total = difference(g_nScanEndSector, g_nScanStartSector);
     emit MaximumBadBlockScanProgress();
-    m_progress = 1;
-    if (!m_bProgressKnown) {
-        m_progress = 2;
-        emit ScanProgressValue(m_progress);
-    }
+    m_progress = 2;
+    emit ScanProgressValue(m_progress);
     g_nBlockStep = blockStep(m_total);
 
     // Once a stop has been confirmed the lists may be rebuilt: from here on the record is left alone.
@@ -171,7 +163,7 @@ void QScanDriveThread::scan()
         if (!g_bScanFailed)
             emit ScanProgressValue(m_progress + 2);
     }
-    emit BadBockCount(m_nBadBlocks);
+    emit BadBockCount(0);
     tellCounts(m_nBadSectors, m_nBadSectors);
 }
 

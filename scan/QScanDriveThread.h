@@ -7,7 +7,6 @@
 #include <QString>
 #include <QThread>
 #include <QVector>
-#include <QWaitCondition>
 
 #include <atomic>
 
@@ -81,11 +80,6 @@ private:
     void tellCounts(qlonglong first, qlonglong last);
 
     QMutex m_mutex; ///< held by a whole run
-    QWaitCondition m_condition;
-    bool m_bProgressKnown = false; ///< nothing sets it
-    int m_nSectorSize = 0;         ///< bytes
-    int m_nMode = 0;
-    qlonglong m_nBadBlocks = 0; ///< nothing raises it
     qlonglong m_nBadSectors = 0;
 
     // Of the run under way.
