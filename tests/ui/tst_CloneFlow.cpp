@@ -1,4 +1,5 @@
 #include "clone/ThreadDriveClone.h"
+#include "tests/ui/Named.h"
 #include "tests/ui/WindowFixture.h"
 #include "ui/dialogs/CloneWarning.h"
 #include "ui/dialogs/ConfarmetionClass.h"
@@ -127,7 +128,7 @@ void tst_CloneFlow::start(int source, int target)
     choose(source, target);
     child<QPushButton>("CloneButton")->click();
     QVERIFY(dialog<CloneWarning>());
-    dialog<CloneWarning>()->StartButton->click();
+    buttonOf(dialog<CloneWarning>(), "StartButton")->click();
     QVERIFY(!dialog<CloneWarning>());
 }
 
@@ -174,7 +175,8 @@ bool tst_CloneFlow::locked() const
 QStringList tst_CloneFlow::boxTexts() const
 {
     const auto *box = dialog<InfoDialogClass>();
-    return box ? QStringList{box->HeaderLabel->text(), box->label->text(), box->label_2->text()}
+    return box ? QStringList{labelOf(box, "HeaderLabel")->text(), labelOf(box, "label")->text(),
+                             labelOf(box, "label_2")->text()}
                : QStringList();
 }
 
@@ -187,12 +189,12 @@ void tst_CloneFlow::copiesTheDisk()
     child<QPushButton>("CloneButton")->click();
     auto *warning = dialog<CloneWarning>();
     QVERIFY(warning);
-    QCOMPARE(warning->SourceNameLbl->text(),
+    QCOMPARE(labelOf(warning, "SourceNameLbl")->text(),
              u8"Source disk:     \u2068" + child<QComboBox>("SourceComboBox")->currentText() + QChar(0x2069));
-    QCOMPARE(warning->DestinationNameLbl->text(), u8"Destination disk:    \u2068" +
-                                                      child<QComboBox>("DestinationComboBox")->currentText() +
-                                                      QChar(0x2069));
-    warning->CancelButton->click();
+    QCOMPARE(labelOf(warning, "DestinationNameLbl")->text(),
+             u8"Destination disk:    \u2068" + child<QComboBox>("DestinationComboBox")->currentText() +
+                 QChar(0x2069));
+    buttonOf(warning, "CancelButton")->click();
     QVERIFY(!warning->isVisible() && selecting());
     QCOMPARE(commands("diskpart"), 0);
 
@@ -205,10 +207,12 @@ void tst_CloneFlow::copiesTheDisk()
 
     // Nothing ends or disturbs it.
     m_pWindow->OnClose();
-    QCOMPARE(dialog<DestinitionWarning>()->WarningTxtLbl->text(), QStringLiteral("Cloning process running."));
+    QCOMPARE(labelOf(dialog<DestinitionWarning>(), "WarningTxtLbl")->text(),
+             QStringLiteral("Cloning process running."));
     m_pWindow->Onyes();
-    QCOMPARE(dialog<DestinitionWarning>()->WarningTxtLbl->text(), QStringLiteral("Clone Running."));
-    dialog<DestinitionWarning>()->CloseButton->click();
+    QCOMPARE(labelOf(dialog<DestinitionWarning>(), "WarningTxtLbl")->text(),
+             QStringLiteral("Clone Running."));
+    buttonOf(dialog<DestinitionWarning>(), "CloseButton")->click();
     m_pWindow->OnRefresh();
     QVERIFY(!g_bListsLoading && !shown("GifFrame"));
     m_pWindow->RefreshSelectedDisk();
@@ -225,7 +229,7 @@ void tst_CloneFlow::copiesTheDisk()
     QCOMPARE(text("TimeLabel"), QString());
     QVERIFY(image(1) == image(0));
     QVERIFY(image(2) == bystander);
-    dialog<InfoDialogClass>()->OkButton->click();
+    buttonOf(dialog<InfoDialogClass>(), "OkButton")->click();
     QVERIFY(selecting() && !dialog<InfoDialogClass>());
     QVERIFY(child<MyButton>("DiskStatusButton")->isEnabled() && child<MyButton>("CloneDiskButton")->isDown());
     QVERIFY(child<QComboBox>("DriveCombobox")->isEnabled() &&
@@ -251,11 +255,11 @@ void tst_CloneFlow::refuses()
     // The question leaves the page usable.
     auto *from = child<QComboBox>("SourceComboBox");
     from->setCurrentIndex(from->findData(128 + sourceAtTheEnd));
-    dialog<CloneWarning>()->StartButton->click();
+    buttonOf(dialog<CloneWarning>(), "StartButton")->click();
     QCOMPARE(boxTexts(), (QStringList{"Clone Disk", reason, "Select different destination disk."}));
     QVERIFY(!locked() && shown("SourceComboBox") && shown("CloneButton"));
     QVERIFY(child<QAction>("m_pSettingsAction")->isEnabled());
-    dialog<InfoDialogClass>()->OkButton->click();
+    buttonOf(dialog<InfoDialogClass>(), "OkButton")->click();
     QVERIFY(selecting());
     QCOMPARE(commands("diskpart"), 0);
 }
@@ -264,8 +268,9 @@ void tst_CloneFlow::asksForATarget()
 {
     child<QPushButton>("CloneButton")->click();
     QVERIFY(!dialog<CloneWarning>());
-    QCOMPARE(dialog<DestinitionWarning>()->WarningTxtLbl->text(), QStringLiteral("Select target disk."));
-    dialog<DestinitionWarning>()->CloseButton->click();
+    QCOMPARE(labelOf(dialog<DestinitionWarning>(), "WarningTxtLbl")->text(),
+             QStringLiteral("Select target disk."));
+    buttonOf(dialog<DestinitionWarning>(), "CloseButton")->click();
     QVERIFY(!dialog<DestinitionWarning>());
     // A press that comes out of nowhere starts nothing, either.
     m_pWindow->OnCloningStart();
@@ -290,14 +295,14 @@ void tst_CloneFlow::asksAnewWhenTheChoiceHasGone()
     if (refresh) {
         m_pWindow->OnRefresh();
         QVERIFY(!warning->isVisible());
-        warning->StartButton->click(); // while the lists are rebuilt
+        buttonOf(warning, "StartButton")->click(); // while the lists are rebuilt
         QVERIFY(!locked());
         QTRY_VERIFY_WITH_TIMEOUT(!g_bListsLoading, 10000);
     } else {
         auto *from = child<QComboBox>("SourceComboBox");
         from->setCurrentIndex(from->findData(128 + 2));
     }
-    warning->StartButton->click();
+    buttonOf(warning, "StartButton")->click();
     QVERIFY(!locked() && dialog<DestinitionWarning>());
     QCOMPARE(commands("diskpart"), 0);
 }
@@ -308,12 +313,12 @@ void tst_CloneFlow::readsTheDisksAnewWhenOneIsAnother()
     choose(0, 1);
     child<QPushButton>("CloneButton")->click();
     Platform::install(m_pFolder->open(QByteArray(Described).replace("163940", "163941")));
-    dialog<CloneWarning>()->StartButton->click();
+    buttonOf(dialog<CloneWarning>(), "StartButton")->click();
     waitForEnd();
     QCOMPARE(boxTexts(), (QStringList{"Clone Disk", "The source disk is not the one that was chosen.",
                                       "Nothing was written on any disk."}));
     QVERIFY(!g_bListsLoading);
-    dialog<InfoDialogClass>()->OkButton->click();
+    buttonOf(dialog<InfoDialogClass>(), "OkButton")->click();
     QVERIFY(g_bListsLoading);
     QTRY_VERIFY_WITH_TIMEOUT(!g_bListsLoading, 10000);
     QCOMPARE(commands("diskpart"), 0);
@@ -327,15 +332,15 @@ void tst_CloneFlow::doubleClickAnswersOneQuestion()
     child<QPushButton>("CloneButton")->click();
     auto *warning = dialog<CloneWarning>();
     choose(2, 0);
-    QTest::mouseClick(warning->StartButton, Qt::LeftButton);
-    QTest::mouseClick(warning->StartButton, Qt::LeftButton);
+    QTest::mouseClick(buttonOf(warning, "StartButton"), Qt::LeftButton);
+    QTest::mouseClick(buttonOf(warning, "StartButton"), Qt::LeftButton);
     QVERIFY(!locked() && warning->isVisible());
-    QCOMPARE(warning->DestinationNameLbl->text(), u8"Destination disk:    \u2068" +
-                                                      child<QComboBox>("DestinationComboBox")->currentText() +
-                                                      QChar(0x2069));
+    QCOMPARE(labelOf(warning, "DestinationNameLbl")->text(),
+             u8"Destination disk:    \u2068" + child<QComboBox>("DestinationComboBox")->currentText() +
+                 QChar(0x2069));
     QCOMPARE(commands("diskpart"), 0);
-    QTRY_VERIFY(warning->StartButton->isEnabled());
-    QTest::mouseClick(warning->StartButton, Qt::LeftButton);
+    QTRY_VERIFY(buttonOf(warning, "StartButton")->isEnabled());
+    QTest::mouseClick(buttonOf(warning, "StartButton"), Qt::LeftButton);
     QVERIFY(locked());
 }
 
@@ -344,24 +349,25 @@ void tst_CloneFlow::stops()
     start(0, 1);
     child<QPushButton>("StopButton")->click();
     auto *question = dialog<ConfarmetionClass>();
-    QCOMPARE(question->CenterTitleLabel->text(), QStringLiteral("Stop Clone"));
-    question->NoButton->click();
+    QCOMPARE(labelOf(question, "CenterTitleLabel")->text(), QStringLiteral("Stop Clone"));
+    buttonOf(question, "NoButton")->click();
     QVERIFY(!question->isVisible() && !g_bAbortJob);
     child<QPushButton>("StopButton")->click();
     QTRY_VERIFY_WITH_TIMEOUT(commands("diskpart") == 3, 10000); // prepared
     QTest::qWait(50);
-    question->YesButton->click();
+    buttonOf(question, "YesButton")->click();
     // It goes on until the disk is back in the system, and the lists stay for as long.
     m_pWindow->OnRefresh();
     m_pWindow->Onyes();
     QVERIFY(locked() && !g_bListsLoading);
     QVERIFY(!checkForUpdates(m_pWindow.get()));
-    QCOMPARE(dialog<DestinitionWarning>()->WarningTxtLbl->text(), QStringLiteral("Clone Running."));
+    QCOMPARE(labelOf(dialog<DestinitionWarning>(), "WarningTxtLbl")->text(),
+             QStringLiteral("Clone Running."));
     waitForEnd();
     QCOMPARE(commands("diskpart"), 5);
     QCOMPARE(boxTexts(),
              (QStringList{"Clone Disk", "Cloning aborted.", "Cloning process aborted by the user."}));
-    dialog<InfoDialogClass>()->OkButton->click();
+    buttonOf(dialog<InfoDialogClass>(), "OkButton")->click();
     QVERIFY(selecting() && !shown("StopButton") && shown("CloneButton"));
 }
 
@@ -372,12 +378,12 @@ void tst_CloneFlow::goesOnBehindAnotherScreen()
     const auto leaveFor = [this](const char *button) {
         press(button);
         QVERIFY(dialog<ScanSwitchClass>());
-        dialog<ScanSwitchClass>()->YesButton->click();
+        buttonOf(dialog<ScanSwitchClass>(), "YesButton")->click();
     };
     press("DiskStatusButton");
     const auto *page = m_pWindow->findChild<CloneDisk *>();
     QVERIFY(dialog<ScanSwitchClass>());
-    dialog<ScanSwitchClass>()->NoButton->click();
+    buttonOf(dialog<ScanSwitchClass>(), "NoButton")->click();
     QVERIFY(locked() && running() && !dialog<ScanSwitchClass>());
 
     // Nothing there starts a scan, or takes the clone for one.
@@ -388,7 +394,8 @@ void tst_CloneFlow::goesOnBehindAnotherScreen()
     m_pWindow->OnScanStart();
     QVERIFY(!shown("StopButton"));
     m_pWindow->OnClose();
-    QCOMPARE(dialog<DestinitionWarning>()->WarningTxtLbl->text(), QStringLiteral("Cloning process running."));
+    QCOMPARE(labelOf(dialog<DestinitionWarning>(), "WarningTxtLbl")->text(),
+             QStringLiteral("Cloning process running."));
 
     leaveFor("CloneDiskButton");
     QVERIFY(locked() && running());
@@ -396,7 +403,7 @@ void tst_CloneFlow::goesOnBehindAnotherScreen()
     waitForEnd();
     QVERIFY(image(1) == image(0));
     QVERIFY(!page->isVisible() && !shown("CloneButton") && child<QPushButton>("ScanButton")->isEnabled());
-    dialog<InfoDialogClass>()->OkButton->click();
+    buttonOf(dialog<InfoDialogClass>(), "OkButton")->click();
     QVERIFY(child<MyButton>("ScanDiskButton")->isDown() && child<QComboBox>("DriveCombobox")->isEnabled());
     press("CloneDiskButton");
     QVERIFY(!dialog<ScanSwitchClass>() && shown("CloneButton") && shown("SourceComboBox"));
@@ -414,7 +421,7 @@ void tst_CloneFlow::diskThatDoesNotOpen()
                                       "Nothing was written on any disk."}));
     QVERIFY(child<QComboBox>("DriveCombobox")->isEnabled());
     QCOMPARE(commands("diskpart"), 0);
-    dialog<InfoDialogClass>()->OkButton->click();
+    buttonOf(dialog<InfoDialogClass>(), "OkButton")->click();
     QTRY_VERIFY_WITH_TIMEOUT(!g_bListsLoading && !shown("GifFrame"), 10000);
     QCOMPARE(child<QComboBox>("DestinationComboBox")->findData(128 + 1), -1);
 }
@@ -451,19 +458,19 @@ void tst_CloneFlow::tellsWhatWasLost()
                  "2 sectors could not be read and were filled with zeros. 0 sectors could not be written."}));
     QCOMPARE(child<QRoundProgressBar>("m_pRoundProgressBar")->Text(), QStringLiteral("100%\nComplete"));
     auto *box = dialog<InfoDialogClass>();
-    QVERIFY(box->SaveButton->isVisible());
+    QVERIFY(buttonOf(box, "SaveButton")->isVisible());
     QTimer::singleShot(0, box, [this] {
         auto *save = m_pWindow->findChild<QFileDialog *>();
         QVERIFY(save);
         save->selectFile(m_pFolder->path() + QStringLiteral("/lost.map"));
         QMetaObject::invokeMethod(save, "accept");
     });
-    box->SaveButton->click();
+    buttonOf(box, "SaveButton")->click();
     QVERIFY(DescribedFolder::contents(m_pFolder->path() + QStringLiteral("/lost.map"))
                 .contains("\n0x00000A00  0x00000200  -\n"));
-    box->OkButton->click();
+    buttonOf(box, "OkButton")->click();
     m_pWindow->findChild<CloneDisk *>()->ShowMessage({"a", "b", "c"});
-    QVERIFY(!box->SaveButton->isVisible());
+    QVERIFY(!buttonOf(box, "SaveButton")->isVisible());
 }
 
 void tst_CloneFlow::startsAndStopsManyTimes()
@@ -479,7 +486,7 @@ void tst_CloneFlow::startsAndStopsManyTimes()
         m_pWindow->OnRefresh();
         waitForEnd();
         QCOMPARE(boxTexts().at(1), QStringLiteral("Cloning aborted."));
-        dialog<InfoDialogClass>()->OkButton->click();
+        buttonOf(dialog<InfoDialogClass>(), "OkButton")->click();
         QVERIFY(selecting());
         m_pWindow->OnRefresh();
         QTRY_VERIFY_WITH_TIMEOUT(!g_bListsLoading && !shown("GifFrame"), 10000);

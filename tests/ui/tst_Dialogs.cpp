@@ -1,6 +1,7 @@
 #include "state/GlobalApp.h"
 #include "state/SettingsStore.h"
 #include "tests/support/FakePlatform.h"
+#include "tests/ui/Named.h"
 #include "ui/dialogs/AboutDlg.h"
 #include "ui/dialogs/CloneWarning.h"
 #include "ui/dialogs/CloseWgt.h"
@@ -174,9 +175,9 @@ void DialogsTest::enterStartsNoDestruction()
 {
     CloneWarning clone;
     ShutDownWarning shutDown;
-    QSignalSpy started(clone.StartButton, &QPushButton::clicked);
-    QSignalSpy cancelled(clone.CancelButton, &QPushButton::clicked);
-    QSignalSpy off(shutDown.ShutDownButton, &QPushButton::clicked);
+    QSignalSpy started(buttonOf(&clone, "StartButton"), &QPushButton::clicked);
+    QSignalSpy cancelled(buttonOf(&clone, "CancelButton"), &QPushButton::clicked);
+    QSignalSpy off(buttonOf(&shutDown, "ShutDownButton"), &QPushButton::clicked);
     for (QWidget *dialog : {static_cast<QWidget *>(&clone), static_cast<QWidget *>(&shutDown)}) {
         dialog->show();
         dialog->activateWindow();
@@ -193,7 +194,7 @@ void DialogsTest::growsAboutItsCentre()
 {
     InfoDialogClass box;
     box.SetTexts(QStringLiteral("Scan Completed"), QStringLiteral("Scan Completed."), QString());
-    QVERIFY(box.label_2->isHidden());
+    QVERIFY(labelOf(&box, "label_2")->isHidden());
     box.move(300, 300);
     box.show();
     const QPoint centre = box.geometry().center();
@@ -202,10 +203,10 @@ void DialogsTest::growsAboutItsCentre()
                  QString(600, QLatin1Char('x')).replace(QLatin1String("xxxxx"), "word "),
                  QStringLiteral("Second"));
     QVERIFY(box.height() > height);
-    QVERIFY(!box.label_2->isHidden());
+    QVERIFY(!labelOf(&box, "label_2")->isHidden());
     QVERIFY((box.geometry().center() - centre).manhattanLength() <= 2);
     // A text that is set past the frame is noticed too.
-    box.label->setText(QStringLiteral("Short."));
+    labelOf(&box, "label")->setText(QStringLiteral("Short."));
     QTRY_VERIFY(box.height() < height + 60);
 }
 
@@ -213,13 +214,13 @@ void DialogsTest::outcomeTitleSurvivesALanguage()
 {
     InfoDialogClass fresh;
     InfoDialogClass filled;
-    QCOMPARE(fresh.HeaderLabel->text(), QStringLiteral("Information"));
+    QCOMPARE(labelOf(&fresh, "HeaderLabel")->text(), QStringLiteral("Information"));
     filled.SetTexts(QStringLiteral("Scan Failed"), QStringLiteral("Scan Failed."), QString());
     LongLanguage language;
     QCoreApplication::installTranslator(&language);
     QCoreApplication::sendPostedEvents();
-    QCOMPARE(fresh.HeaderLabel->text(), QStringLiteral("Information Information"));
-    QCOMPARE(filled.HeaderLabel->text(), QStringLiteral("Scan Failed"));
+    QCOMPARE(labelOf(&fresh, "HeaderLabel")->text(), QStringLiteral("Information Information"));
+    QCOMPARE(labelOf(&filled, "HeaderLabel")->text(), QStringLiteral("Scan Failed"));
 }
 
 void DialogsTest::temperatureWarningsRemember()
@@ -228,15 +229,15 @@ void DialogsTest::temperatureWarningsRemember()
     ShutDownWarning shutDown;
     warning.show();
     shutDown.show();
-    warning.OkButton->click();
+    buttonOf(&warning, "OkButton")->click();
     QVERIFY(!warning.isVisible());
     QVERIFY(!SettingsStore().flag(key::DontShow));
     warning.show();
-    warning.DontShowButton->click();
+    buttonOf(&warning, "DontShowButton")->click();
     QVERIFY(!warning.isVisible());
     QVERIFY(SettingsStore().flag(key::DontShow));
     QVERIFY(!SettingsStore().flag(key::ShutDownDontShow));
-    shutDown.ShutDownButton->click();
+    buttonOf(&shutDown, "ShutDownButton")->click();
     QVERIFY(shutDown.isVisible());
     shutDown.OnDontShowClicked();
     QVERIFY(!shutDown.isVisible());
@@ -246,15 +247,16 @@ void DialogsTest::temperatureWarningsRemember()
 void DialogsTest::dragMovesTheWindow()
 {
     CloseWgt dialog;
+    QLabel *label = labelOf(&dialog, "label");
     dialog.move(100, 100);
     dialog.show();
-    QTest::mousePress(dialog.label, Qt::LeftButton, {}, QPoint(3, 3));
+    QTest::mousePress(label, Qt::LeftButton, {}, QPoint(3, 3));
     const QPoint to(13, 8);
-    QMouseEvent move(QEvent::MouseMove, to, dialog.label->mapToGlobal(to), Qt::NoButton, Qt::LeftButton, {});
-    QCoreApplication::sendEvent(dialog.label, &move);
+    QMouseEvent move(QEvent::MouseMove, to, label->mapToGlobal(to), Qt::NoButton, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(label, &move);
     QCOMPARE(dialog.pos(), QPoint(110, 105));
-    QTest::mouseRelease(dialog.label, Qt::LeftButton);
-    QCoreApplication::sendEvent(dialog.label, &move);
+    QTest::mouseRelease(label, Qt::LeftButton);
+    QCoreApplication::sendEvent(label, &move);
     QCOMPARE(dialog.pos(), QPoint(110, 105));
 }
 

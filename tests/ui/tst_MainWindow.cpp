@@ -1,4 +1,5 @@
 #include "state/SettingsStore.h"
+#include "tests/ui/Named.h"
 #include "tests/ui/WindowFixture.h"
 #include "ui/dialogs/CloseWgt.h"
 #include "ui/dialogs/ConfarmetionClass.h"
@@ -218,7 +219,7 @@ void tst_MainWindow::openResultsAskFirst()
     auto *question = m_pWindow->findChild<ScanSwitchClass *>();
     QVERIFY(question->isVisible());
     QVERIFY(m_pWindow->findChild<ScanDisk *>()->isVisible());
-    question->NoButton->click();
+    buttonOf(question, "NoButton")->click();
     QVERIFY(!question->isVisible());
     QVERIFY(child<MyButton>("ScanDiskButton")->styleSheet().contains(QLatin1String("Sel")));
     QVERIFY(!child<MyButton>("DiskPartitionButton")->styleSheet().contains(QLatin1String("Sel")));
@@ -226,7 +227,7 @@ void tst_MainWindow::openResultsAskFirst()
     // The last press counts.
     press("DiskPartitionButton");
     press("SmartStatusButton");
-    question->YesButton->click();
+    buttonOf(question, "YesButton")->click();
     QVERIFY(m_pWindow->findChild<SmartStatus *>()->isVisible());
     QVERIFY(!g_bScanResultOpen);
     waitForRead();
@@ -337,7 +338,7 @@ void tst_MainWindow::closingAsks()
             question = found;
     }
     QVERIFY(question);
-    question->NoButton->click();
+    buttonOf(question, "NoButton")->click();
     QVERIFY(!question->isVisible());
 }
 
@@ -365,10 +366,10 @@ void tst_MainWindow::closingIsRefusedDuringAJob()
     m_pWindow->close();
     QCOMPARE(panel->isVisible(), !closing.isEmpty());
     if (!closing.isEmpty())
-        QCOMPARE(panel->WarningTxtLbl->text(), closing);
+        QCOMPARE(labelOf(panel, "WarningTxtLbl")->text(), closing);
     m_pWindow->Onyes();
     if (!yes.isEmpty())
-        QCOMPARE(panel->WarningTxtLbl->text(), yes);
+        QCOMPARE(labelOf(panel, "WarningTxtLbl")->text(), yes);
 }
 
 void tst_MainWindow::startsOnTheClonePage()

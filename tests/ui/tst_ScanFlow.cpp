@@ -1,5 +1,6 @@
 #include "scan/BlockMap.h"
 #include "scan/ScanGlobals.h"
+#include "tests/ui/Named.h"
 #include "tests/ui/WindowFixture.h"
 #include "ui/dialogs/ConfarmetionClass.h"
 #include "ui/dialogs/DestinitionWarning.h"
@@ -53,7 +54,7 @@ private:
     }
     void closeResult() const
     {
-        result()->OkButton->click();
+        buttonOf(result(), "OkButton")->click();
         QVERIFY(!result()->isVisible());
     }
     ScanDisk *page() const { return m_pWindow->findChild<ScanDisk *>(); }
@@ -61,8 +62,8 @@ private:
     InfoDialogClass *result() const { return child<InfoDialogClass>("m_pResultBox"); }
     QString resultTexts() const
     {
-        return result()->HeaderLabel->text() + QLatin1Char('|') + result()->label->text() + QLatin1Char('|') +
-               result()->label_2->text();
+        return labelOf(result(), "HeaderLabel")->text() + QLatin1Char('|') +
+               labelOf(result(), "label")->text() + QLatin1Char('|') + labelOf(result(), "label_2")->text();
     }
     void pullOut(int disk) const;
     bool shown(const char *name) const { return child<QWidget>(name)->isVisible(); }
@@ -168,7 +169,7 @@ void tst_ScanFlow::finished()
     closeResult();
     QTest::mousePress(child<MyButton1>("BackTestButton"), Qt::LeftButton);
     QVERIFY(shown("frame") && !g_BadSectors.isEmpty());
-    m_pWindow->findChild<ScanSwitchClass *>()->YesButton->click();
+    buttonOf(m_pWindow->findChild<ScanSwitchClass *>(), "YesButton")->click();
     QVERIFY(shown("frame_2") && !shown("frame") && idle() && g_BadSectors.isEmpty());
 }
 
@@ -198,14 +199,14 @@ void tst_ScanFlow::stopped()
     waitForSector(32768);
     child<QPushButton>("StopButton")->click();
     auto *question = m_pWindow->findChild<ConfarmetionClass *>();
-    QCOMPARE(question->CenterTitleLabel->text(), QStringLiteral("Stop Scan"));
-    question->NoButton->click();
+    QCOMPARE(labelOf(question, "CenterTitleLabel")->text(), QStringLiteral("Stop Scan"));
+    buttonOf(question, "NoButton")->click();
     waitForSector(text("ProcessedVal").toLongLong() + 32768);
     QVERIFY(scanning());
     QTRY_VERIFY_WITH_TIMEOUT(text("ElapsedValLbl").endsWith(QLatin1String(" seconds")), 5000);
     QVERIFY(text("RemTimeValLbl").endsWith(QLatin1String(" minutes")));
     child<QPushButton>("StopButton")->click();
-    question->YesButton->click();
+    buttonOf(question, "YesButton")->click();
     waitForResult();
     QCOMPARE(resultTexts(), QStringLiteral("Disk Scan|Disk scan aborted.|Disk scan aborted by user."));
     QVERIFY(idle() && shown("ScanButton") && map()->position() > 0 && shown("frame"));
@@ -232,11 +233,11 @@ void tst_ScanFlow::leftInMidRun()
     press(button.constData());
     auto *question = m_pWindow->findChild<ScanSwitchClass *>();
     QVERIFY(question->isVisible());
-    question->NoButton->click();
+    buttonOf(question, "NoButton")->click();
     QVERIFY(scanning() && page()->isVisible());
     child<QPushButton>("StopButton")->click();
     press(button.constData());
-    question->YesButton->click();
+    buttonOf(question, "YesButton")->click();
     QVERIFY(!m_pWindow->findChild<ConfarmetionClass *>()->isVisible());
     QVERIFY(!shown("StopButton"));
     select(0);
@@ -260,12 +261,12 @@ void tst_ScanFlow::closingAndRefreshing()
     auto *panel = m_pWindow->findChild<DestinitionWarning *>();
     QVERIFY(panel->isVisible());
     QCOMPARE(sleepState(), QByteArray("0x80000041"));
-    QCOMPARE(panel->WarningTxtLbl->text(), QStringLiteral("Disk scan running."));
+    QCOMPARE(labelOf(panel, "WarningTxtLbl")->text(), QStringLiteral("Disk scan running."));
     QEvent change(QEvent::LanguageChange);
     QCoreApplication::sendEvent(panel, &change);
-    QCOMPARE(panel->WarningTxtLbl->text(), QStringLiteral("Disk scan running."));
+    QCOMPARE(labelOf(panel, "WarningTxtLbl")->text(), QStringLiteral("Disk scan running."));
     m_pWindow->Onyes();
-    QCOMPARE(panel->WarningTxtLbl->text(), QStringLiteral("Scaning Running."));
+    QCOMPARE(labelOf(panel, "WarningTxtLbl")->text(), QStringLiteral("Scaning Running."));
     // Until the drive has answered a stopped scan still keeps the window.
     m_pWindow->OnStopConfirm();
     QVERIFY(!shown("StopButton"));

@@ -1,5 +1,6 @@
 #include "smart/SelfTestGlobals.h"
 #include "smart/SmartGlobals.h"
+#include "tests/ui/Named.h"
 #include "tests/ui/WindowFixture.h"
 #include "ui/dialogs/ConfarmetionClass.h"
 #include "ui/dialogs/DestinitionWarning.h"
@@ -181,7 +182,7 @@ void tst_SelfTestFlow::refused()
     QVERIFY(dialog && dialog->isVisible());
     QCOMPARE(commands(" -t "), 0);
     QVERIFY(!g_bSelfTestRunning && !g_bSelfTestResultOpen);
-    dialog->CloseButton->click();
+    buttonOf(dialog, "CloseButton")->click();
     QVERIFY(!dialog->isVisible());
     QVERIFY(child<QComboBox>("DriveCombobox")->isEnabled());
     QVERIFY(navigationIs(true) && child<MyButton>("ScanDiskButton")->isEnabled());
@@ -190,7 +191,7 @@ void tst_SelfTestFlow::refused()
     // What was refused is not shown under the next disk.
     start("radioButton_2");
     QVERIFY(!shown("frame_2"));
-    dialog->CloseButton->click();
+    buttonOf(dialog, "CloseButton")->click();
     select(1);
     QVERIFY(shown("frame_2"));
 }

@@ -2,19 +2,50 @@
 
 #include "ui/widgets/Style.h"
 
-#include <QEvent>
+#include <QApplication>
+#include <QLabel>
+#include <QPushButton>
+#include <QTimer>
 
-CloneWarning::CloneWarning(QWidget *parent) : QDialog(parent), m_Frame(this)
+namespace
 {
-    setupUi(this);
-    m_Frame.dress({CenterTitleLabel, ImageLbl, QStringLiteral("img_Warning.png"), CancelButton, StartButton,
-                   WarningLbl, CancelButton});
-    WarningTxtLbl_2->setFont(style::semiBold(10));
+
+const DialogShape Shape = {
+    "CloningWarningDialog",
+    560,
+    QT_TRANSLATE_NOOP("CloningWarningDialog", "Velmora Halvane"),
+    {"CenterTitleLabel", QT_TRANSLATE_NOOP("CloningWarningDialog", "Clone Disk")},
+    {"ImageLbl", "img_Warning.png"},
+    {{"WarningLbl", QT_TRANSLATE_NOOP("CloningWarningDialog", "Warning")},
+     {"WarningTxtLbl",
+      QT_TRANSLATE_NOOP(
+          "CloningWarningDialog",
+          "This action will create a clone of the source drive on the destination drive. Make sure that "
+          "source and destination disk selection is correct since this operation is irreversible.")},
+     {"WarningTxtLbl_2",
+      QT_TRANSLATE_NOOP("CloningWarningDialog", "Existing data on the destination disk will be lost.")},
+     {"SourceNameLbl"},
+     {"DestinationNameLbl"}},
+    {{"StartButton", QT_TRANSLATE_NOOP("CloningWarningDialog", "Start")},
+     {"CancelButton", QT_TRANSLATE_NOOP("CloningWarningDialog", "Cancel")}},
+    DialogButton::First};
+
+} // namespace
+
+CloneWarning::CloneWarning(QWidget *parent) : MessageDialog(Shape, parent)
+{
+    label("WarningTxtLbl_2")->setFont(style::semiBold(10));
 }
 
-void CloneWarning::changeEvent(QEvent *event)
+void CloneWarning::NameDisks(const QString &source, const QString &destination)
 {
-    if (event->type() == QEvent::LanguageChange)
-        retranslateUi(this);
-    QDialog::changeEvent(event);
+    label("SourceNameLbl")->setText(source);
+    label("DestinationNameLbl")->setText(destination);
+}
+
+void CloneWarning::HoldStart()
+{
+    QPushButton *start = m_Frame.button(DialogButton::First);
+    start->setEnabled(false);
+    QTimer::singleShot(QApplication::doubleClickInterval(), start, [start] { start->setEnabled(true); });
 }

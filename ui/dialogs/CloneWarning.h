@@ -1,22 +1,17 @@
 #pragma once
 
-#include "ui/dialogs/DialogFrame.h"
-
-#include <QDialog>
-
-#include "ui_CloneWarning.h"
+#include "ui/dialogs/MessageDialog.h"
 
 /// The last question before a disk is overwritten; names the two disks.
-class CloneWarning : public QDialog, public Ui::CloningWarningDialog
+class CloneWarning : public MessageDialog
 {
     Q_OBJECT
 
 public:
     explicit CloneWarning(QWidget *parent = nullptr);
 
-protected:
-    void changeEvent(QEvent *event) override;
-
-private:
-    DialogFrame m_Frame;
+    /// Shows what the disks are called.
+    void NameDisks(const QString &source, const QString &destination);
+    /// Takes no confirmation for as long as a double click may take.
+    void HoldStart();
 };

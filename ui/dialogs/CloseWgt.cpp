@@ -1,19 +1,32 @@
 #include "ui/dialogs/CloseWgt.h"
 
-#include <QEvent>
+#include <QPushButton>
+
+namespace
+{
+
+const DialogShape Shape = {"m_pCloseWgt",
+                           400,
+                           QT_TRANSLATE_NOOP("m_pCloseWgt", "Velmora Halvane"),
+                           {"HeaderLabel", QT_TRANSLATE_NOOP("m_pCloseWgt", "Exit")},
+                           {"ImageLbl", "img_Question.png"},
+                           {{"label", QT_TRANSLATE_NOOP("m_pCloseWgt", "Are you sure you want to exit?")}},
+                           {{"YesButton", QT_TRANSLATE_NOOP("m_pCloseWgt", "Yes")},
+                            {"NoButton", QT_TRANSLATE_NOOP("m_pCloseWgt", "No")}},
+                           DialogButton::None,
+                           DialogButton::First,
+                           "frame"};
+
+} // namespace
 
 CloseWgt::CloseWgt(QWidget *parent) : QWidget(parent), m_Frame(this)
 {
-    setupUi(this);
-    m_Frame.dress(
-        {HeaderLabel, ImageLbl, QStringLiteral("img_Question.png"), NoButton, nullptr, nullptr, YesButton});
-    for (QPushButton *button : {YesButton, NoButton})
+    m_Frame.build(Shape);
+    m_Frame.dress();
+    QPushButton *yes = m_Frame.button(DialogButton::First);
+    QPushButton *no = m_Frame.button(DialogButton::Last);
+    for (QPushButton *button : {yes, no})
         button->setStyleSheet(button->styleSheet() + QStringLiteral("QPushButton {color : #000000;}"));
-}
-
-void CloseWgt::changeEvent(QEvent *event)
-{
-    if (event->type() == QEvent::LanguageChange)
-        retranslateUi(this);
-    QWidget::changeEvent(event);
+    connect(yes, &QPushButton::clicked, this, &CloseWgt::confirmed);
+    connect(no, &QPushButton::clicked, this, &CloseWgt::dismissed);
 }

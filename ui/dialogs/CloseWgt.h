@@ -4,19 +4,18 @@
 
 #include <QWidget>
 
-#include "ui_CloseWgt.h"
-
 /// Asks before the program ends.
 /// Not modal: a job may be started beneath it.
-class CloseWgt : public QWidget, public Ui::m_pCloseWgt
+class CloseWgt : public QWidget
 {
     Q_OBJECT
 
 public:
     explicit CloseWgt(QWidget *parent = nullptr);
 
-protected:
-    void changeEvent(QEvent *event) override;
+signals:
+    void confirmed();
+    void dismissed();
 
 private:
     DialogFrame m_Frame;

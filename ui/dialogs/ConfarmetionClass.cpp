@@ -1,25 +1,18 @@
 #include "ui/dialogs/ConfarmetionClass.h"
 
-#include <QEvent>
-
-ConfarmetionClass::ConfarmetionClass(QWidget *parent) : QDialog(parent), m_Frame(this)
+namespace
 {
-    setupUi(this);
-    m_Frame.dress({CenterTitleLabel, ImageLbl, QStringLiteral("img_Question.png"), NoButton, YesButton,
-                   WarningTxtLbl, NoButton});
-}
 
-void ConfarmetionClass::SetTexts(const QString &title, const QString &first, const QString &second)
-{
-    CenterTitleLabel->setText(title);
-    WarningTxtLbl->setText(first);
-    WarningTxtLbl_2->setText(second);
-    m_Frame.fit();
-}
+const DialogShape Shape = {"ConfarmetionDialog",
+                           480,
+                           QT_TRANSLATE_NOOP("ConfarmetionDialog", "Velmora Halvane"),
+                           {"CenterTitleLabel"},
+                           {"ImageLbl", "img_Question.png"},
+                           {{"WarningTxtLbl"}, {"WarningTxtLbl_2"}},
+                           {{"YesButton", QT_TRANSLATE_NOOP("ConfarmetionDialog", "Yes")},
+                            {"NoButton", QT_TRANSLATE_NOOP("ConfarmetionDialog", "No")}},
+                           DialogButton::First};
 
-void ConfarmetionClass::changeEvent(QEvent *event)
-{
-    if (event->type() == QEvent::LanguageChange)
-        retranslateUi(this);
-    QDialog::changeEvent(event);
-}
+} // namespace
+
+ConfarmetionClass::ConfarmetionClass(QWidget *parent) : MessageDialog(Shape, parent) {}

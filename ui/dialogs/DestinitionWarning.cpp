@@ -1,37 +1,19 @@
 #include "ui/dialogs/DestinitionWarning.h"
 
-#include <QEvent>
-
-DestinitionWarning::DestinitionWarning(QWidget *parent) : QDialog(parent), m_Frame(this)
+namespace
 {
-    setupUi(this);
-    m_Frame.dress({CenterTitleLabel, ImageLbl, QStringLiteral("img_SelectRegion.png"), CloseButton,
-                   CloseButton, WarningTxtLbl});
-}
 
-void DestinitionWarning::SetTexts(const QString &title, const QString &first, const QString &second)
-{
-    CenterTitleLabel->setText(title);
-    WarningTxtLbl->setText(first);
-    WarningTxtLbl_2->setText(second);
-    m_bTextsSet = true;
-    m_Frame.fit();
-}
+const DialogShape Shape = {
+    "DestinitionWarningDailog",
+    480,
+    QT_TRANSLATE_NOOP("DestinitionWarningDailog", "Velmora Halvane"),
+    {"CenterTitleLabel", QT_TRANSLATE_NOOP("DestinitionWarningDailog", "Clone Disk")},
+    {"ImageLbl", "img_SelectRegion.png"},
+    {{"WarningTxtLbl", QT_TRANSLATE_NOOP("DestinitionWarningDailog", "Select target disk.")},
+     {"WarningTxtLbl_2",
+      QT_TRANSLATE_NOOP("DestinitionWarningDailog", "Select target disk to start cloning process.")}},
+    {{"CloseButton", QT_TRANSLATE_NOOP("DestinitionWarningDailog", "Close")}}};
 
-void DestinitionWarning::translateTexts()
-{
-    // What tells of a running job stays; the form's own question must not take its place.
-    const QString title = CenterTitleLabel->text();
-    const QString first = WarningTxtLbl->text();
-    const QString second = WarningTxtLbl_2->text();
-    retranslateUi(this);
-    if (m_bTextsSet)
-        SetTexts(title, first, second);
-}
+} // namespace
 
-void DestinitionWarning::changeEvent(QEvent *event)
-{
-    if (event->type() == QEvent::LanguageChange)
-        translateTexts();
-    QDialog::changeEvent(event);
-}
+DestinitionWarning::DestinitionWarning(QWidget *parent) : MessageDialog(Shape, parent) {}

@@ -3,6 +3,7 @@
 #include "ui/widgets/Images.h"
 #include "ui/widgets/Style.h"
 
+#include <QCoreApplication>
 #include <QDialog>
 #include <QEvent>
 #include <QFontMetrics>
@@ -44,13 +45,138 @@ void scaleLayout(QLayout *layout)
     }
 }
 
+template<typename Layout>
+Layout *makeLayout(QWidget *parent, const QMargins &margins, int spacing)
+{
+    auto *layout = new Layout(parent);
+    layout->setContentsMargins(margins);
+    layout->setSpacing(spacing);
+    return layout;
+}
+
+QFrame *addFrame(QVBoxLayout *rows, const char *name)
+{
+    auto *frame = new QFrame;
+    frame->setObjectName(QLatin1String(name));
+    rows->addWidget(frame);
+    return frame;
+}
+
+template<typename Widget>
+void say(Widget *widget, const char *context, const char *text)
+{
+    if (text)
+        widget->setText(QCoreApplication::translate(context, text));
+}
+
 } // namespace
 
 DialogFrame::DialogFrame(QWidget *window) : m_pWindow(window), m_Drag(window) {}
 
+QVBoxLayout *DialogFrame::build(const DialogShape &shape)
+{
+    m_Shape = shape;
+    m_pWindow->setObjectName(QLatin1String(shape.context));
+    m_pWindow->resize(shape.width, 0);
+    auto *rows = makeLayout<QVBoxLayout>(m_pWindow, {1, 1, 1, 1}, 0);
+    auto *strip = makeLayout<QHBoxLayout>(nullptr, {16, 0, 16, 0}, 0);
+    rows->addLayout(strip);
+    m_Look.title = addLabel(strip, shape.title.name);
+    m_Look.title->setFixedHeight(36);
+    addBody(rows);
+    if (!shape.buttons.empty())
+        addButtons(rows);
+    m_Look.dismiss = button(DialogButton::Last);
+    m_Look.confirm = button(shape.main);
+    m_Look.initial = button(shape.initial);
+    translate();
+    return m_pTexts;
+}
+
+void DialogFrame::addBody(QVBoxLayout *rows)
+{
+    QFrame *frame = addFrame(rows, m_Shape.frame);
+    const bool picture = m_Shape.picture.name;
+    auto *body =
+        makeLayout<QHBoxLayout>(frame, picture ? QMargins(20, 20, 20, 12) : QMargins(20, 16, 20, 20), 18);
+    if (picture) {
+        m_Look.picture = addLabel(body, m_Shape.picture.name);
+        m_Look.picture->setFixedSize(48, 48);
+        body->setAlignment(m_Look.picture, Qt::AlignTop);
+        m_Look.image = QLatin1String(m_Shape.picture.text);
+    }
+    m_pTexts = makeLayout<QVBoxLayout>(nullptr, {0, 0, 0, 0}, 8);
+    body->addLayout(m_pTexts);
+    if (m_Shape.lines.empty())
+        return;
+    m_pTexts->addStretch();
+    for (const DialogWord &line : m_Shape.lines) {
+        m_apLines.push_back(addLabel(m_pTexts, line.name));
+        m_apLines.back()->setWordWrap(true);
+    }
+    m_pTexts->addStretch();
+    if (m_apLines.size() > 1)
+        m_Look.heading = m_apLines.front();
+}
+
+void DialogFrame::addButtons(QVBoxLayout *rows)
+{
+    auto *row = makeLayout<QHBoxLayout>(addFrame(rows, m_Shape.bottomFrame), {20, 4, 20, 16}, 8);
+    row->addStretch();
+    for (const DialogWord &word : m_Shape.buttons) {
+        auto *button = new QPushButton;
+        button->setObjectName(QLatin1String(word.name));
+        button->setMinimumWidth(96);
+        button->setFixedHeight(32);
+        row->addWidget(button);
+        m_apButtons.push_back(button);
+    }
+}
+
+QLabel *DialogFrame::addLabel(QBoxLayout *layout, const char *name)
+{
+    auto *label = new QLabel;
+    label->setObjectName(QLatin1String(name));
+    layout->addWidget(label);
+    return label;
+}
+
+QPushButton *DialogFrame::button(DialogButton which) const
+{
+    if (which == DialogButton::None || m_apButtons.empty())
+        return nullptr;
+    return which == DialogButton::First ? m_apButtons.front() : m_apButtons.back();
+}
+
+void DialogFrame::translate() const
+{
+    m_pWindow->setWindowTitle(QCoreApplication::translate(m_Shape.context, m_Shape.windowTitle));
+    for (std::size_t i = 0; i < m_apButtons.size(); ++i)
+        say(m_apButtons[i], m_Shape.context, m_Shape.buttons[i].text);
+    if (m_bTextsSet)
+        return;
+    say(m_Look.title, m_Shape.context, m_Shape.title.text);
+    for (std::size_t i = 0; i < m_apLines.size(); ++i)
+        say(m_apLines[i], m_Shape.context, m_Shape.lines[i].text);
+}
+
+void DialogFrame::setTexts(const QString &title, const QString &first, const QString &second)
+{
+    m_bTextsSet = true;
+    m_Look.title->setText(title);
+    m_apLines[0]->setText(first);
+    m_apLines[1]->setText(second);
+    fit();
+}
+
 void DialogFrame::dress(const DialogLook &look)
 {
     m_Look = look;
+    dress();
+}
+
+void DialogFrame::dress()
+{
     m_nDesignWidth = m_pWindow->width();
     const bool dialog = m_pWindow->parentWidget() || qobject_cast<QDialog *>(m_pWindow);
     m_pWindow->setWindowFlags((dialog ? Qt::Dialog : Qt::Window) | Qt::FramelessWindowHint);
@@ -188,6 +314,10 @@ bool DialogFrame::eventFilter(QObject *watched, QEvent *event)
     }
     case QEvent::LayoutRequest:
         fit();
+        break;
+    case QEvent::LanguageChange:
+        if (m_Shape.context)
+            translate();
         break;
     case QEvent::KeyPress:
         return keyPressed(static_cast<QKeyEvent *>(event)->key());

@@ -5,10 +5,38 @@
 #include <QObject>
 #include <QString>
 
+#include <vector>
+
+class QBoxLayout;
 class QLabel;
-class QPaintEvent;
 class QPushButton;
+class QVBoxLayout;
 class QWidget;
+
+/// A widget of a dialog by its object name, and the English text that it shows; none where it is filled
+/// later.
+struct DialogWord {
+    const char *name = nullptr;
+    const char *text = nullptr;
+};
+
+enum class DialogButton { None, First, Last };
+
+/// A dialog in words: title strip, picture, lines of text, and buttons at the right. The last button is the
+/// one that Escape presses.
+struct DialogShape {
+    const char *context; ///< of the texts' translations; the object name of the window too
+    int width;           ///< design pixels
+    const char *windowTitle;
+    DialogWord title;
+    DialogWord picture;            ///< with the file in place of the text; without a name there is none
+    std::vector<DialogWord> lines; ///< the first of several is the heading
+    std::vector<DialogWord> buttons;
+    DialogButton main = DialogButton::Last;    ///< drawn as the main button
+    DialogButton initial = DialogButton::Last; ///< has the focus when the dialog shows
+    const char *frame = "MainFrame";           ///< name of the frame about picture and lines
+    const char *bottomFrame = "";              ///< and about the buttons
+};
 
 /// The parts of a dialog that all dialogs treat alike. Only `title` must be there.
 struct DialogLook {
@@ -22,17 +50,30 @@ struct DialogLook {
     QPushButton *initial = nullptr; ///< has the focus when the dialog shows; else `confirm`, else `dismiss`
 };
 
-/// Makes a top-level widget with a set-up form one of the product's dialogs: no system frame, white with a
-/// hairline border and a title strip, draggable, scaled to the display. The window is as wide as designed, or
-/// wider for long button texts, and as high as its texts need; word-wrapped labels without text take no room.
-/// The window must outlive it.
+/// Makes a top-level widget one of the product's dialogs: no system frame, white with a hairline border and a
+/// title strip, draggable, scaled to the display. The window is as wide as designed, or wider for long button
+/// texts, and as high as its texts need; word-wrapped labels without text take no room. The window must
+/// outlive it.
 class DialogFrame : public QObject
 {
 public:
     explicit DialogFrame(QWidget *window);
 
-    /// Dresses the window; once, when its form has been set up.
+    /// Fills the empty window with the widgets of a shape, whose texts follow the language from then on.
+    /// Gives the column of the lines, for what a dialog adds. dress() comes next.
+    QVBoxLayout *build(const DialogShape &shape);
+    /// Dresses the window that build() filled; once, when all its widgets are there.
+    void dress();
+    /// The same for a window with a form.
     void dress(const DialogLook &look);
+
+    /// A button of the shape; null where there is none.
+    QPushButton *button(DialogButton which) const;
+    /// Puts other texts in place of the title and of the first two lines. They stay as they are when the
+    /// language changes.
+    void setTexts(const QString &title, const QString &first, const QString &second);
+    /// Appends an empty label.
+    static QLabel *addLabel(QBoxLayout *layout, const char *name);
 
     /// Adapts the size to the texts, about the same centre. Runs by itself when the window is shown and when
     /// a visible text changes.
@@ -45,6 +86,9 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void addBody(QVBoxLayout *rows);
+    void addButtons(QVBoxLayout *rows);
+    void translate() const;
     void styleTexts() const;
     void styleButtons() const;
     void widenButtons() const;
@@ -52,6 +96,11 @@ private:
     bool keyPressed(int key) const;
 
     QWidget *m_pWindow;
+    DialogShape m_Shape{};
+    bool m_bTextsSet = false; ///< title and lines are no longer the shape's
+    QVBoxLayout *m_pTexts = nullptr;
+    std::vector<QLabel *> m_apLines;
+    std::vector<QPushButton *> m_apButtons;
     DialogLook m_Look;
     FramelessDrag m_Drag;
     int m_nDesignWidth = 0;

@@ -1,42 +1,40 @@
 #include "ui/dialogs/InfoDialogClass.h"
 
-#include <QEvent>
+#include <QLabel>
+#include <QPushButton>
 
-InfoDialogClass::InfoDialogClass(QWidget *parent) : QDialog(parent), m_Frame(this)
+namespace
 {
-    setupUi(this);
-    m_Frame.dress({HeaderLabel, InageLbl, QStringLiteral("img_Information.png"), OkButton, OkButton, label});
-    SaveButton->hide();
-    connect(OkButton, &QPushButton::clicked, this, &InfoDialogClass::hide);
+
+const DialogShape Shape = {"InfoDialog",
+                           480,
+                           QT_TRANSLATE_NOOP("InfoDialog", "Velmora Halvane"),
+                           {"HeaderLabel", QT_TRANSLATE_NOOP("InfoDialog", "Information")},
+                           {"InageLbl", "img_Information.png"},
+                           {{"label"}, {"label_2"}},
+                           {{"SaveButton", QT_TRANSLATE_NOOP("InfoDialog", "Save List")},
+                            {"OkButton", QT_TRANSLATE_NOOP("InfoDialog", "OK")}}};
+
+} // namespace
+
+InfoDialogClass::InfoDialogClass(QWidget *parent) : MessageDialog(Shape, parent)
+{
+    m_Frame.button(DialogButton::First)->hide();
+    connect(this, &MessageDialog::dismissed, this, &InfoDialogClass::hide);
 }
 
-void InfoDialogClass::SetTexts(const QString &title, const QString &text, const QString &second)
+QString InfoDialogClass::SecondText() const
 {
-    HeaderLabel->setText(title);
-    label->setText(text);
-    label_2->setText(second);
-    m_bTextsSet = true;
-    m_Frame.fit();
+    return label("label_2")->text();
+}
+
+void InfoDialogClass::SetSecondText(const QString &text)
+{
+    label("label_2")->setText(text);
 }
 
 void InfoDialogClass::OfferSaving(bool bOffer)
 {
-    SaveButton->setVisible(bOffer);
+    m_Frame.button(DialogButton::First)->setVisible(bOffer);
     m_Frame.fit();
-}
-
-void InfoDialogClass::translateTexts()
-{
-    // The title of an outcome stays; only the default one follows the language.
-    const QString title = HeaderLabel->text();
-    retranslateUi(this);
-    if (m_bTextsSet)
-        HeaderLabel->setText(title);
-}
-
-void InfoDialogClass::changeEvent(QEvent *event)
-{
-    if (event->type() == QEvent::LanguageChange)
-        translateTexts();
-    QDialog::changeEvent(event);
 }

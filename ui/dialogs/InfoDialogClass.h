@@ -1,29 +1,19 @@
 #pragma once
 
-#include "ui/dialogs/DialogFrame.h"
+#include "ui/dialogs/MessageDialog.h"
 
-#include <QDialog>
-
-#include "ui_InfoDialogClass.h"
-
-/// The message box for the outcome of a scan or a clone.
-class InfoDialogClass : public QDialog, public Ui::InfoDialog
+/// The message box for the outcome of a scan or a clone. Hides when it is dismissed; confirmed() asks to save
+/// a list.
+class InfoDialogClass : public MessageDialog
 {
     Q_OBJECT
 
 public:
     explicit InfoDialogClass(QWidget *parent = nullptr);
 
-    void SetTexts(const QString &title, const QString &text, const QString &second);
+    using MessageDialog::SetTexts;
+    QString SecondText() const;
+    void SetSecondText(const QString &text);
     /// Shows or hides the button that saves a list; what it does is up to who offers it.
     void OfferSaving(bool bOffer);
-
-protected:
-    void changeEvent(QEvent *event) override;
-
-private:
-    DialogFrame m_Frame;
-    void translateTexts();
-
-    bool m_bTextsSet = false;
 };

@@ -1,17 +1,22 @@
 #include "ui/dialogs/ScanSwitchClass.h"
 
-#include <QEvent>
-
-ScanSwitchClass::ScanSwitchClass(QWidget *parent) : QDialog(parent), m_Frame(this)
+namespace
 {
-    setupUi(this);
-    m_Frame.dress({CenterTitleLabel, ImageLbl, QStringLiteral("img_Question.png"), NoButton, YesButton,
-                   WarningTxtLbl, NoButton});
-}
 
-void ScanSwitchClass::changeEvent(QEvent *event)
-{
-    if (event->type() == QEvent::LanguageChange)
-        retranslateUi(this);
-    QDialog::changeEvent(event);
-}
+const DialogShape Shape = {
+    "ScanSwitchDialog",
+    480,
+    QT_TRANSLATE_NOOP("ScanSwitchDialog", "Velmora Halvane"),
+    {"CenterTitleLabel", QT_TRANSLATE_NOOP("ScanSwitchDialog", "Scan Disk")},
+    {"ImageLbl", "img_Question.png"},
+    {{"WarningTxtLbl",
+      QT_TRANSLATE_NOOP("ScanSwitchDialog", "Scan results will be lost if you move away from this screen. ")},
+     {"WarningTxtLbl_2",
+      QT_TRANSLATE_NOOP("ScanSwitchDialog", "Do you want to move away from this screen?")}},
+    {{"YesButton", QT_TRANSLATE_NOOP("ScanSwitchDialog", "Yes")},
+     {"NoButton", QT_TRANSLATE_NOOP("ScanSwitchDialog", "No")}},
+    DialogButton::First};
+
+} // namespace
+
+ScanSwitchClass::ScanSwitchClass(QWidget *parent) : MessageDialog(Shape, parent) {}

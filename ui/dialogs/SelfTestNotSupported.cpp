@@ -1,17 +1,19 @@
 #include "ui/dialogs/SelfTestNotSupported.h"
 
-#include <QEvent>
-
-SelfTestNotSupported::SelfTestNotSupported(QWidget *parent) : QDialog(parent), m_Frame(this)
+namespace
 {
-    setupUi(this);
-    m_Frame.dress({CenterTitleLabel, ImageLbl, QStringLiteral("img_SelectRegion.png"), CloseButton,
-                   CloseButton, WarningTxtLbl});
-}
 
-void SelfTestNotSupported::changeEvent(QEvent *event)
-{
-    if (event->type() == QEvent::LanguageChange)
-        retranslateUi(this);
-    QDialog::changeEvent(event);
-}
+const DialogShape Shape = {
+    "SelfTestNotSupportedDialog",
+    480,
+    QT_TRANSLATE_NOOP("SelfTestNotSupportedDialog", "Velmora Halvane"),
+    {"CenterTitleLabel", QT_TRANSLATE_NOOP("SelfTestNotSupportedDialog", "Drive Test")},
+    {"ImageLbl", "img_SelectRegion.png"},
+    {{"WarningTxtLbl", QT_TRANSLATE_NOOP("SelfTestNotSupportedDialog", "Self-test not supported.")},
+     {"WarningTxtLbl_2",
+      QT_TRANSLATE_NOOP("SelfTestNotSupportedDialog", "Selected disk doesn't support self test.")}},
+    {{"CloseButton", QT_TRANSLATE_NOOP("SelfTestNotSupportedDialog", "Close")}}};
+
+} // namespace
+
+SelfTestNotSupported::SelfTestNotSupported(QWidget *parent) : MessageDialog(Shape, parent) {}

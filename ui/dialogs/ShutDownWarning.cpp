@@ -2,14 +2,30 @@
 
 #include "state/SettingsStore.h"
 
-#include <QEvent>
-
-ShutDownWarning::ShutDownWarning(QWidget *parent) : QDialog(parent), m_Frame(this)
+namespace
 {
-    setupUi(this);
-    m_Frame.dress({CenterTitleLabel, ImageLbl, QStringLiteral("img_warning.png"), OkButton, ShutDownButton,
-                   WarningLbl, OkButton});
-    connect(OkButton, &QPushButton::clicked, this, &ShutDownWarning::OnOk);
+
+const DialogShape Shape = {
+    "SmartShutdownDialog",
+    480,
+    QT_TRANSLATE_NOOP("SmartShutdownDialog", "Velmora Halvane"),
+    {"CenterTitleLabel", QT_TRANSLATE_NOOP("SmartShutdownDialog", "Shutdown Warning")},
+    {"ImageLbl", "img_warning.png"},
+    {{"WarningLbl", QT_TRANSLATE_NOOP("SmartShutdownDialog", "Warning")},
+     {"MediaNameLbl"},
+     {"WarningTxtLbl",
+      QT_TRANSLATE_NOOP("SmartShutdownDialog", "Hard Disk's temperature has reached the shutdown value.")},
+     {"WarningBigLbl",
+      QT_TRANSLATE_NOOP("SmartShutdownDialog", "It is advisable to shutdown the system immediately.")}},
+    {{"ShutDownButton", QT_TRANSLATE_NOOP("SmartShutdownDialog", "Shutdown")},
+     {"OkButton", QT_TRANSLATE_NOOP("SmartShutdownDialog", "OK")}},
+    DialogButton::First};
+
+} // namespace
+
+ShutDownWarning::ShutDownWarning(QWidget *parent) : MessageDialog(Shape, parent)
+{
+    connect(this, &MessageDialog::dismissed, this, &ShutDownWarning::OnOk);
 }
 
 void ShutDownWarning::OnOk()
@@ -21,11 +37,4 @@ void ShutDownWarning::OnDontShowClicked()
 {
     SettingsStore().writeNumber(key::ShutDownDontShow, 1);
     hide();
-}
-
-void ShutDownWarning::changeEvent(QEvent *event)
-{
-    if (event->type() == QEvent::LanguageChange)
-        retranslateUi(this);
-    QDialog::changeEvent(event);
 }

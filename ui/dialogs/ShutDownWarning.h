@@ -1,13 +1,10 @@
 #pragma once
 
-#include "ui/dialogs/DialogFrame.h"
+#include "ui/dialogs/MessageDialog.h"
 
-#include <QDialog>
-
-#include "ui_ShutDownWarning.h"
-
-/// Tells that a disk has reached the temperature at which the PC had better be shut down.
-class ShutDownWarning : public QDialog, public Ui::SmartShutdownDialog
+/// Tells that a disk has reached the temperature at which the PC had better be shut down; confirmed() asks
+/// for that.
+class ShutDownWarning : public MessageDialog
 {
     Q_OBJECT
 
@@ -18,10 +15,4 @@ public slots:
     void OnOk();
     /// Stores that this warning is no longer wanted, and hides it.
     void OnDontShowClicked();
-
-protected:
-    void changeEvent(QEvent *event) override;
-
-private:
-    DialogFrame m_Frame;
 };

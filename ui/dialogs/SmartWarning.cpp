@@ -2,15 +2,32 @@
 
 #include "state/SettingsStore.h"
 
-#include <QEvent>
-
-SmartWarning::SmartWarning(QWidget *parent) : QDialog(parent), m_Frame(this)
+namespace
 {
-    setupUi(this);
-    m_Frame.dress(
-        {CenterTitleLabel, ImageLbl, QStringLiteral("img_warning.png"), OkButton, OkButton, WarningLbl});
-    connect(OkButton, &QPushButton::clicked, this, &SmartWarning::OnOk);
-    connect(DontShowButton, &QPushButton::clicked, this, &SmartWarning::OnDontShowClicked);
+
+const DialogShape Shape = {
+    "SmartWarningDialog",
+    480,
+    QT_TRANSLATE_NOOP("SmartWarningDialog", "Velmora Halvane"),
+    {"CenterTitleLabel", QT_TRANSLATE_NOOP("SmartWarningDialog", "SMART Warning")},
+    {"ImageLbl", "img_warning.png"},
+    {{"WarningLbl", QT_TRANSLATE_NOOP("SmartWarningDialog", "Warning")},
+     {"MediaNameLbl"},
+     {"WarningTxtLbl",
+      QT_TRANSLATE_NOOP("SmartWarningDialog", "Hard Disk's temperature exceed the threshold value.")},
+     {"WarningBigLbl",
+      QT_TRANSLATE_NOOP("SmartWarningDialog",
+                        "Your hard disk's temperature has exceeded threshold value. This may damage hard "
+                        "disk. It is advisable to shutdown the system immediately.")}},
+    {{"DontShowButton", QT_TRANSLATE_NOOP("SmartWarningDialog", "Don't show again")},
+     {"OkButton", QT_TRANSLATE_NOOP("SmartWarningDialog", "OK")}}};
+
+} // namespace
+
+SmartWarning::SmartWarning(QWidget *parent) : MessageDialog(Shape, parent)
+{
+    connect(this, &MessageDialog::confirmed, this, &SmartWarning::OnDontShowClicked);
+    connect(this, &MessageDialog::dismissed, this, &SmartWarning::OnOk);
 }
 
 void SmartWarning::OnOk()
@@ -22,11 +39,4 @@ void SmartWarning::OnDontShowClicked()
 {
     SettingsStore().writeNumber(key::DontShow, 1);
     hide();
-}
-
-void SmartWarning::changeEvent(QEvent *event)
-{
-    if (event->type() == QEvent::LanguageChange)
-        retranslateUi(this);
-    QDialog::changeEvent(event);
 }

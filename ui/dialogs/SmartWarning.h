@@ -1,13 +1,9 @@
 #pragma once
 
-#include "ui/dialogs/DialogFrame.h"
-
-#include <QDialog>
-
-#include "ui_SmartWarning.h"
+#include "ui/dialogs/MessageDialog.h"
 
 /// Tells that a disk is warmer than the warning threshold.
-class SmartWarning : public QDialog, public Ui::SmartWarningDialog
+class SmartWarning : public MessageDialog
 {
     Q_OBJECT
 
@@ -18,10 +14,4 @@ public slots:
     void OnOk();
     /// Stores that this warning is no longer wanted, and hides it.
     void OnDontShowClicked();
-
-protected:
-    void changeEvent(QEvent *event) override;
-
-private:
-    DialogFrame m_Frame;
 };

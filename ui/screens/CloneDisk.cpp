@@ -62,8 +62,8 @@ CloneDisk::CloneDisk(QWidget *parent) : QWidget(parent)
             &CloneDisk::OnActivatedSourceComboBox);
     connect(DestinationComboBox, QOverload<int>::of(&QComboBox::activated), this,
             &CloneDisk::OnActivatedDestinationComboBox);
-    connect(m_pMessageBox->OkButton, &QPushButton::clicked, this, &CloneDisk::OnOk);
-    connect(m_pMessageBox->SaveButton, &QPushButton::clicked, this, &CloneDisk::OnSaveLostSectors);
+    connect(m_pMessageBox, &MessageDialog::dismissed, this, &CloneDisk::OnOk);
+    connect(m_pMessageBox, &MessageDialog::confirmed, this, &CloneDisk::OnSaveLostSectors);
     connectThread();
 }
 
@@ -233,7 +233,7 @@ void CloneDisk::OnSaveLostSectors()
                                                       QStringLiteral("clone.map"), QStringLiteral("*.map"));
     const CloneOutcome &outcome = m_cloneThread.outcome();
     if (!path.isEmpty() && !rescuemap::save(path, outcome.lost, outcome.total))
-        m_pMessageBox->label_2->setText(tr("The list could not be saved."));
+        m_pMessageBox->SetSecondText(tr("The list could not be saved."));
 }
 
 void CloneDisk::OnCloningFailed()
@@ -244,7 +244,7 @@ void CloneDisk::OnCloningFailed()
 
 void CloneDisk::OnCloningAbort()
 {
-    ShowMessage(clonemessages::aborted(m_pMessageBox->label_2->text()));
+    ShowMessage(clonemessages::aborted(m_pMessageBox->SecondText()));
 }
 
 void CloneDisk::OnDriveCloneFinish()

@@ -50,7 +50,7 @@ ScanDisk::ScanDisk(QWidget *parent) : QWidget(parent)
     // A child of the window: the page's style sheets must not reach it.
     m_pResultBox = new InfoDialogClass(window());
     m_pResultBox->setObjectName(QStringLiteral("m_pResultBox"));
-    connect(m_pResultBox->OkButton, &QPushButton::clicked, this, &ScanDisk::OnResultRead);
+    connect(m_pResultBox, &MessageDialog::dismissed, this, &ScanDisk::OnResultRead);
     connect(m_pResultBox, &QDialog::rejected, this, &ScanDisk::OnResultRead);
     connectThread();
     styleChooser();

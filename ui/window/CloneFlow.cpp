@@ -13,9 +13,6 @@
 #include "ui/widgets/MyButton.h"
 #include "ui/widgets/Style.h"
 
-#include <QApplication>
-#include <QTimer>
-
 #include <initializer_list>
 
 namespace
@@ -44,10 +41,8 @@ void MainWindow::OnCloneStart()
         return;
     selectButton(navigation::CloneDiskScreen);
     m_askedPair = chosenPair();
-    m_pCloneWarning->SourceNameLbl->setText(tr("Source disk:     ") +
-                                            plaintext::isolated(m_askedPair.sourceText));
-    m_pCloneWarning->DestinationNameLbl->setText(tr("Destination disk:    ") +
-                                                 plaintext::isolated(m_askedPair.targetText));
+    m_pCloneWarning->NameDisks(tr("Source disk:     ") + plaintext::isolated(m_askedPair.sourceText),
+                               tr("Destination disk:    ") + plaintext::isolated(m_askedPair.targetText));
     style::centreOn(m_pCloneWarning, geometry());
     if (m_pCloneDiskPage->m_nDestinationIndex > 0)
         m_pCloneWarning->show();
@@ -61,8 +56,7 @@ void MainWindow::askForTarget()
     // A new dialog, as the old one may show the texts of a running job.
     delete m_pDestinitionWarning;
     m_pDestinitionWarning = new DestinitionWarning(this);
-    connect(m_pDestinitionWarning->CloseButton, &QPushButton::clicked, this,
-            &MainWindow::OnCloseDestinitionWarning);
+    connect(m_pDestinitionWarning, &MessageDialog::dismissed, this, &MainWindow::OnCloseDestinitionWarning);
     style::centreOn(m_pDestinitionWarning, geometry());
     m_pDestinitionWarning->show();
 }
@@ -101,9 +95,7 @@ void MainWindow::OnCloningStart()
     setMenuEntriesEnabled(true);
     OnCloneStart();
     // The second half of a double click must not answer a question that nobody has read.
-    m_pCloneWarning->StartButton->setEnabled(false);
-    QTimer::singleShot(QApplication::doubleClickInterval(), m_pCloneWarning->StartButton,
-                       [this] { m_pCloneWarning->StartButton->setEnabled(true); });
+    m_pCloneWarning->HoldStart();
 }
 
 void MainWindow::refuseClone(const clonemessages::Message &reason)

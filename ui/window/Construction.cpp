@@ -415,17 +415,16 @@ void MainWindow::connectAll()
     connect(m_pVideoAction, &QAction::triggered, this, &MainWindow::LaunchVideoRepair);
     connect(m_pPhotoAction, &QAction::triggered, this, &MainWindow::LaunchPhotoRepair);
 
-    connect(m_pCloseWgt->YesButton, &QPushButton::clicked, this, &MainWindow::Onyes);
-    connect(m_pCloseWgt->NoButton, &QPushButton::clicked, this, &MainWindow::OnNo);
-    connect(m_pConfirmation->YesButton, &QPushButton::clicked, this, &MainWindow::OnStopConfirm);
-    connect(m_pConfirmation->NoButton, &QPushButton::clicked, this, &MainWindow::OnStopCancel);
-    connect(m_pCloneWarning->StartButton, &QPushButton::clicked, this, &MainWindow::OnCloningStart);
-    connect(m_pCloneWarning->CancelButton, &QPushButton::clicked, this, &MainWindow::OnCloningCancel);
-    connect(m_pScanSwitch->YesButton, &QPushButton::clicked, this, &MainWindow::OnSwitchConfirm);
-    connect(m_pScanSwitch->NoButton, &QPushButton::clicked, this, &MainWindow::OnSwitchCancel);
-    connect(m_pDestinitionWarning->CloseButton, &QPushButton::clicked, this,
-            &MainWindow::OnCloseDestinitionWarning);
-    connect(m_pShutDownWarning->ShutDownButton, &QPushButton::clicked, this, &MainWindow::OnSystemShutDown);
+    connect(m_pCloseWgt, &CloseWgt::confirmed, this, &MainWindow::Onyes);
+    connect(m_pCloseWgt, &CloseWgt::dismissed, this, &MainWindow::OnNo);
+    connect(m_pConfirmation, &MessageDialog::confirmed, this, &MainWindow::OnStopConfirm);
+    connect(m_pConfirmation, &MessageDialog::dismissed, this, &MainWindow::OnStopCancel);
+    connect(m_pCloneWarning, &MessageDialog::confirmed, this, &MainWindow::OnCloningStart);
+    connect(m_pCloneWarning, &MessageDialog::dismissed, this, &MainWindow::OnCloningCancel);
+    connect(m_pScanSwitch, &MessageDialog::confirmed, this, &MainWindow::OnSwitchConfirm);
+    connect(m_pScanSwitch, &MessageDialog::dismissed, this, &MainWindow::OnSwitchCancel);
+    connect(m_pDestinitionWarning, &MessageDialog::dismissed, this, &MainWindow::OnCloseDestinitionWarning);
+    connect(m_pShutDownWarning, &MessageDialog::confirmed, this, &MainWindow::OnSystemShutDown);
     connect(m_pSettings->OkButton, &QPushButton::clicked, this, &MainWindow::OnSetSmartSettings);
     connect(m_pSettings->CloseButton, &QPushButton::clicked, this, &MainWindow::OnSetSmartSettings);
 

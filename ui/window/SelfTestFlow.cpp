@@ -57,7 +57,7 @@ void MainWindow::OnCheckShortTest1()
         showTestScreen();
         return;
     }
-    connect(m_pSelfTestNotSupported->CloseButton, &QPushButton::clicked, this,
+    connect(m_pSelfTestNotSupported, &MessageDialog::dismissed, this,
             &MainWindow::OnCloseSelfTestNotSupported, Qt::UniqueConnection);
     style::centreOn(m_pSelfTestNotSupported, geometry());
     m_pSelfTestNotSupported->show();
