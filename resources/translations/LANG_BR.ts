@@ -702,10 +702,6 @@
         <source>Downloading Files</source>
         <translation>Baixando arquivos</translation>
     </message>
-    <message>
-        <source>Downloading under progress...</source>
-        <translation>Download em andamento...</translation>
-    </message>
 </context>
 <context>
     <name>InfoDialog</name>

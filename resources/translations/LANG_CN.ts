@@ -702,10 +702,6 @@
         <source>Downloading Files</source>
         <translation>正在下载文件</translation>
     </message>
-    <message>
-        <source>Downloading under progress...</source>
-        <translation>正在下载...</translation>
-    </message>
 </context>
 <context>
     <name>InfoDialog</name>

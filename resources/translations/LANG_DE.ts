@@ -702,10 +702,6 @@
         <source>Downloading Files</source>
         <translation>Dateien werden heruntergeladen</translation>
     </message>
-    <message>
-        <source>Downloading under progress...</source>
-        <translation>Download läuft ...</translation>
-    </message>
 </context>
 <context>
     <name>InfoDialog</name>

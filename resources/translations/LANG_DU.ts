@@ -702,10 +702,6 @@
         <source>Downloading Files</source>
         <translation>Bestanden downloaden</translation>
     </message>
-    <message>
-        <source>Downloading under progress...</source>
-        <translation>Bezig met downloaden...</translation>
-    </message>
 </context>
 <context>
     <name>InfoDialog</name>

@@ -702,10 +702,6 @@
         <source>Downloading Files</source>
         <translation>Descargando archivos</translation>
     </message>
-    <message>
-        <source>Downloading under progress...</source>
-        <translation>Descarga en curso...</translation>
-    </message>
 </context>
 <context>
     <name>InfoDialog</name>

@@ -702,10 +702,6 @@
         <source>Downloading Files</source>
         <translation>Téléchargement des fichiers</translation>
     </message>
-    <message>
-        <source>Downloading under progress...</source>
-        <translation>Téléchargement en cours...</translation>
-    </message>
 </context>
 <context>
     <name>InfoDialog</name>

@@ -702,10 +702,6 @@
         <source>Downloading Files</source>
         <translation>फ़ाइलें डाउनलोड हो रही हैं</translation>
     </message>
-    <message>
-        <source>Downloading under progress...</source>
-        <translation>डाउनलोड जारी है...</translation>
-    </message>
 </context>
 <context>
     <name>InfoDialog</name>

@@ -702,10 +702,6 @@
         <source>Downloading Files</source>
         <translation>Download dei file</translation>
     </message>
-    <message>
-        <source>Downloading under progress...</source>
-        <translation>Download in corso...</translation>
-    </message>
 </context>
 <context>
     <name>InfoDialog</name>

@@ -702,10 +702,6 @@
         <source>Downloading Files</source>
         <translation>ファイルのダウンロード</translation>
     </message>
-    <message>
-        <source>Downloading under progress...</source>
-        <translation>ダウンロード中...</translation>
-    </message>
 </context>
 <context>
     <name>InfoDialog</name>

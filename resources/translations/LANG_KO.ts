@@ -702,10 +702,6 @@
         <source>Downloading Files</source>
         <translation>파일 다운로드</translation>
     </message>
-    <message>
-        <source>Downloading under progress...</source>
-        <translation>다운로드 중...</translation>
-    </message>
 </context>
 <context>
     <name>InfoDialog</name>

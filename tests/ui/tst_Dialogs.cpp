@@ -18,6 +18,7 @@
 
 #include <QScrollBar>
 #include <QTextBlock>
+#include <QTextEdit>
 #include <QTranslator>
 #include <QtTest>
 
@@ -267,13 +268,13 @@ void DialogsTest::aboutOpensSupportAndLicence()
     g_App.m_strAppFolderCopy = QDir::tempPath();
     SettingsStore().writeText(key::rxVersion, QStringLiteral("11.0.0.8"));
     AboutDlg about;
-    QCOMPARE(about.VersionLabel->text(), QStringLiteral("Version 11.0.0.8"));
-    QCOMPARE(about.SystemLabel->text(), QStringLiteral("Test system"));
+    QCOMPARE(labelOf(&about, "VersionLabel")->text(), QStringLiteral("Version 11.0.0.8"));
+    QCOMPARE(labelOf(&about, "SystemLabel")->text(), QStringLiteral("Test system"));
     about.OpenSupport();
     QVERIFY(pc->executed.isEmpty());
     SettingsStore().writeText(QStringLiteral("EN/SupportLink"), QStringLiteral("help@velmora.example"));
     about.OpenSupport();
-    about.LicenseButton->click();
+    buttonOf(&about, "LicenseButton")->click();
     QCOMPARE(pc->executed, QStringList({"Open mailto:help@velmora.example ",
                                         QUrl::fromLocalFile(links::agreement()).toString()}));
 }
@@ -290,18 +291,19 @@ void DialogsTest::updateMessageBlocks()
 {
     QFETCH(int, blankLines);
     SmallMessageDlg dialog;
+    const auto *text = dialog.findChild<QTextEdit *>();
     dialog.SetText(QStringLiteral("Old"), 1);
     dialog.SetText(QStringLiteral("No update available."), blankLines);
-    QTEST(dialog.textEdit->toPlainText(), "text");
-    const QTextBlock first = dialog.textEdit->document()->firstBlock();
-    const QTextBlock last = dialog.textEdit->document()->lastBlock();
+    QTEST(text->toPlainText(), "text");
+    const QTextBlock first = text->document()->firstBlock();
+    const QTextBlock last = text->document()->lastBlock();
     QCOMPARE(first.charFormat().fontPointSize(), 11.0);
     QCOMPARE(first.charFormat().fontWeight(), 75);
     QCOMPARE(last.begin().fragment().charFormat().fontPointSize(), 10.0);
     QCOMPARE(last.begin().fragment().charFormat().fontWeight(), 50);
     QCOMPARE(last.blockFormat().alignment() & Qt::AlignHCenter, Qt::AlignHCenter);
     dialog.show();
-    QVERIFY(dialog.textEdit->verticalScrollBar()->maximum() == 0);
+    QVERIFY(text->verticalScrollBar()->maximum() == 0);
 }
 
 QTEST_MAIN(DialogsTest)

@@ -1,4 +1,5 @@
 #include "tests/support/WebFolder.h"
+#include "tests/ui/Named.h"
 #include "tests/ui/WindowFixture.h"
 #include "ui/dialogs/QDownloadApp.h"
 #include "ui/dialogs/QMajorUpdate.h"
@@ -7,6 +8,8 @@
 #include "update/UpdateGlobals.h"
 
 #include <QMessageBox>
+#include <QProgressBar>
+#include <QTextEdit>
 
 using Files = QHash<QByteArray, WebFolder::File>;
 
@@ -80,8 +83,8 @@ void UpdateTest::initTestCase()
     auto *answers = new QTimer(this);
     connect(answers, &QTimer::timeout, this, [this] {
         if (auto *message = shown<SmallMessageDlg>()) {
-            m_messages << message->textEdit->toPlainText().trimmed();
-            message->OkButton->click();
+            m_messages << message->findChild<QTextEdit *>()->toPlainText().trimmed();
+            buttonOf(message, "OkButton")->click();
         } else if (auto *box = shown<QMessageBox>()) {
             m_messages << box->text();
             box->button(QMessageBox::Ok)->click();
@@ -147,11 +150,11 @@ void UpdateTest::checkAtStartOffersWhatIsNewer()
     const WebFolder web({{Versions, {versions}}});
     startWindow(pc(web.link(), installed));
     QShowUpdate *dialog = shown<QShowUpdate>();
-    QCOMPARE(dialog ? dialog->textEdit->toPlainText() : QString(), offer);
+    QCOMPARE(dialog ? dialog->findChild<QTextEdit *>()->toPlainText() : QString(), offer);
     if (dialog) {
         QVERIFY(g_bUpdateShown);
         QVERIFY(QFile::exists(m_strState + QStringLiteral("/temp/updatetmp/VelmoraHalvane.txt")));
-        dialog->CancelButton->click();
+        buttonOf(dialog, "CancelButton")->click();
         QVERIFY(!QFile::exists(m_strState + QStringLiteral("/temp/updatetmp/VelmoraHalvane.txt")));
     }
     QTest::qWait(50);
@@ -205,13 +208,14 @@ void UpdateTest::offerLeadsToThePage()
     startWindow(pc(web.link()));
     QShowUpdate *dialog = shown<QShowUpdate>();
     QVERIFY(dialog);
-    QVERIFY(dialog->LinkLabel->text().contains(QLatin1String("Visit Update Page")));
-    emit dialog->LinkLabel->linkActivated(QStringLiteral("https://velmora.example/new?a=1&b=2"));
+    QVERIFY(labelOf(dialog, "LinkLabel")->text().contains(QLatin1String("Visit Update Page")));
+    emit labelOf(dialog, "LinkLabel")->linkActivated(QStringLiteral("https://velmora.example/new?a=1&b=2"));
     QCOMPARE(logLines("opened.log").last(), QByteArray("url\thttps://velmora.example/new?a=1&b=2\t"));
     g_bMajorUpdate = false;
     const QMajorUpdate twin;
-    QVERIFY(twin.textEdit->toPlainText().startsWith(QLatin1String("A new major release 12.0.0.0 is")));
-    dialog->CancelButton->click();
+    QVERIFY(twin.findChild<QTextEdit *>()->toPlainText().startsWith(
+        QLatin1String("A new major release 12.0.0.0 is")));
+    buttonOf(dialog, "CancelButton")->click();
 }
 
 void UpdateTest::secondCheckBesideAnOffer()
@@ -223,7 +227,7 @@ void UpdateTest::secondCheckBesideAnOffer()
     m_pWindow->OnCheckUpdate();
     QVERIFY(!m_bManualCheck);
     for (QShowUpdate *offer = shown<QShowUpdate>(); offer; offer = shown<QShowUpdate>())
-        offer->CancelButton->click();
+        buttonOf(offer, "CancelButton")->click();
     QTRY_VERIFY(first.isNull());
     QCOMPARE(m_messages, QStringList());
     verifyUsable();
@@ -251,7 +255,7 @@ void UpdateTest::consoleLoadsWhatTheSystemCouldNot()
             " /c C:\\Windows\\system32\\bitsadmin.exe /transfer myDownloadJob /download /priority normal " +
             web.link() + "VelmoraHalvane.txt " + m_strState.toUtf8() + "/temp/updatetmp/VelmoraHalvane.txt"),
         1);
-    shown<QShowUpdate>()->CancelButton->click();
+    buttonOf(shown<QShowUpdate>(), "CancelButton")->click();
 }
 
 void UpdateTest::finishedDownloadStartsTheInstaller()
@@ -262,22 +266,22 @@ void UpdateTest::finishedDownloadStartsTheInstaller()
     const QString stale = m_strState + QStringLiteral("/temp/updatetmp/from-before/x");
     QVERIFY(QDir().mkpath(stale));
     QTimer::singleShot(0, this, [&] {
-        shown<QShowUpdate>()->UpdateButton->click();
+        buttonOf(shown<QShowUpdate>(), "UpdateButton")->click();
         QVERIFY(!QFile::exists(stale));
         auto *download = shown<QDownloadApp>();
         QVERIFY(download);
-        QCOMPARE(download->progressBar->maximum(), 4194304);
+        QCOMPARE(download->findChild<QProgressBar *>()->maximum(), 4194304);
         // There is no way to leave it.
         download->close();
         QTest::keyClick(download, Qt::Key_Escape);
         QVERIFY(download->isVisible());
         // A last piece of a few KB may still be on its way to the file.
         const QRegularExpression half(QStringLiteral("^1\\.(4[89]|50) MB copied\\) $"));
-        QTRY_VERIFY(half.match(download->CopiedLabel->text()).hasMatch());
-        QVERIFY(download->progressBar->value() > InstallerBytes / 2 - 32768);
-        QCOMPARE(download->InfoLabel->text(), QStringLiteral("Downloading under progress..."));
+        QTRY_VERIFY(half.match(labelOf(download, "CopiedLabel")->text()).hasMatch());
+        QVERIFY(download->findChild<QProgressBar *>()->value() > InstallerBytes / 2 - 32768);
+        QCOMPARE(labelOf(download, "InfoLabel")->text(), QStringLiteral("Downloading under progress..."));
         QVERIFY(QRegularExpression(QStringLiteral("^Time Elapsed: [01] sec $"))
-                    .match(download->TimeLabel->text())
+                    .match(labelOf(download, "TimeLabel")->text())
                     .hasMatch());
     });
     QTimer limit;
@@ -296,7 +300,7 @@ void UpdateTest::brokenDownloadIsToldAndLeavesTheWindow()
     const WebFolder web(
         {{Versions, {"12.0.0.0"}}, {Installer, {QByteArray(InstallerBytes, 'i'), InstallerBytes / 2}}});
     startWindow(pc(web.link()));
-    shown<QShowUpdate>()->UpdateButton->click();
+    buttonOf(shown<QShowUpdate>(), "UpdateButton")->click();
     QPointer<QDownloadApp> download = shown<QDownloadApp>();
     QTRY_COMPARE_WITH_TIMEOUT(
         m_messages, QStringList{QStringLiteral("Update failed \n\nUpdate failed due to partial download.")},
@@ -307,7 +311,7 @@ void UpdateTest::brokenDownloadIsToldAndLeavesTheWindow()
     verifyUsable();
     m_pWindow->OnCheckUpdate();
     QVERIFY(shown<QShowUpdate>());
-    shown<QShowUpdate>()->CancelButton->click();
+    buttonOf(shown<QShowUpdate>(), "CancelButton")->click();
 }
 
 void UpdateTest::ownProgressOfATransfer()
@@ -317,14 +321,14 @@ void UpdateTest::ownProgressOfATransfer()
     QDownloadApp download;
     download.OnDownloadStart();
     download.OnDownloadProgress(1048576, 2097152);
-    QCOMPARE(download.CopiedLabel->text(), QStringLiteral("1.00 MB of  2.00 MB copied) "));
+    QCOMPARE(labelOf(&download, "CopiedLabel")->text(), QStringLiteral("1.00 MB of  2.00 MB copied) "));
     QVERIFY(QRegularExpression(QStringLiteral("^Transfer Rate: [0-9]+\\.[0-9]{2} KB/sec $"))
-                .match(download.RateLabel->text())
+                .match(labelOf(&download, "RateLabel")->text())
                 .hasMatch());
-    QCOMPARE(download.progressBar->value(), 1048576);
+    QCOMPARE(download.findChild<QProgressBar *>()->value(), 1048576);
     // Beyond its maximum the bar stands still.
     download.OnDownloadProgress(5000000, 6000000);
-    QCOMPARE(download.progressBar->value(), 1048576);
+    QCOMPARE(download.findChild<QProgressBar *>()->value(), 1048576);
     QTRY_VERIFY_WITH_TIMEOUT(!m_messages.isEmpty(), 20000);
 }
 

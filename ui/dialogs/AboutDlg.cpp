@@ -5,40 +5,67 @@
 #include "ui/widgets/Style.h"
 #include "update/HelpLinks.h"
 
+#include <QBoxLayout>
 #include <QEvent>
+#include <QLabel>
+#include <QPushButton>
+
+namespace
+{
+
+const DialogShape Shape = {"AboutDialog",
+                           480,
+                           QT_TRANSLATE_NOOP("AboutDialog", "About Velmora Halvane"),
+                           {"HeaderLabel", QT_TRANSLATE_NOOP("AboutDialog", "About Velmora Halvane")},
+                           {"LabelPixmap", "img_Product.png"},
+                           {{"ProductLabel", QT_TRANSLATE_NOOP("AboutDialog", "Velmora Halvane")},
+                            {"VersionLabel"},
+                            {"SystemLabel"},
+                            {"LegalLabel"}},
+                           {{"LicenseButton", QT_TRANSLATE_NOOP("AboutDialog", "License Agreement")},
+                            {"OkButton", QT_TRANSLATE_NOOP("AboutDialog", "OK")}},
+                           DialogButton::Last,
+                           DialogButton::Last,
+                           "frame",
+                           "BottomFrame"};
+
+} // namespace
 
 AboutDlg::AboutDlg(QWidget *parent) : QDialog(parent), m_Frame(this)
 {
-    setupUi(this);
     setAttribute(Qt::WA_DeleteOnClose);
-    DialogLook look;
-    look.title = HeaderLabel;
-    look.picture = LabelPixmap;
-    look.image = QStringLiteral("img_Product.png");
-    look.dismiss = OkButton;
-    look.confirm = OkButton;
-    m_Frame.dress(look);
-    ProductLabel->setFont(style::semiBold(13));
-    for (QLabel *label : {SystemLabel, LegalLabel, SupportNameLabel})
-        label->setStyleSheet(style::GreyLabel);
-    connect(OkButton, &QPushButton::clicked, this, &AboutDlg::reject);
-    connect(LicenseButton, &QPushButton::clicked, this, &AboutDlg::OpenLicense);
-    connect(SupportLabel, &QLabel::linkActivated, this, &AboutDlg::OpenSupport);
+    QVBoxLayout *column = m_Frame.build(Shape);
+    column->setSpacing(4);
+    auto *row = new QHBoxLayout;
+    row->setContentsMargins(0, 8, 0, 0);
+    row->setSpacing(10);
+    column->addLayout(row);
+    DialogFrame::addLabel(row, "SupportNameLabel");
+    QLabel *support = DialogFrame::addLink(row, "SupportLabel");
+    row->addStretch();
+    m_Frame.dress();
+    m_Frame.label("ProductLabel")->setFont(style::semiBold(13));
+    for (const char *name : {"SystemLabel", "LegalLabel", "SupportNameLabel"})
+        m_Frame.label(name)->setStyleSheet(style::GreyLabel);
+    connect(m_Frame.button(DialogButton::Last), &QPushButton::clicked, this, &AboutDlg::reject);
+    connect(m_Frame.button(DialogButton::First), &QPushButton::clicked, this, &AboutDlg::OpenLicense);
+    connect(support, &QLabel::linkActivated, this, &AboutDlg::OpenSupport);
     translateTexts();
 }
 
 void AboutDlg::translateTexts()
 {
     const SettingsStore store;
-    VersionLabel->setText(tr("Version ") + store.text(key::rxVersion));
-    LegalLabel->setText(store.text(key::CopyrightText));
-    SystemLabel->setText(Platform::current().OperatingSystemName());
-    SupportNameLabel->setText(links::supportName());
+    m_Frame.label("VersionLabel")->setText(tr("Version ") + store.text(key::rxVersion));
+    m_Frame.label("LegalLabel")->setText(store.text(key::CopyrightText));
+    m_Frame.label("SystemLabel")->setText(Platform::current().OperatingSystemName());
+    m_Frame.label("SupportNameLabel")->setText(links::supportName());
     const QString address = links::supportAddress().toHtmlEscaped();
-    SupportLabel->setText(
-        address.isEmpty()
-            ? QString()
-            : QStringLiteral("<a href=\"mailto:%1\" style=\"color: #2a81e5;\">%1</a>").arg(address));
+    m_Frame.label("SupportLabel")
+        ->setText(
+            address.isEmpty()
+                ? QString()
+                : QStringLiteral("<a href=\"mailto:%1\" style=\"color: #2a81e5;\">%1</a>").arg(address));
     m_Frame.fit();
 }
 
@@ -54,9 +81,7 @@ void AboutDlg::OpenSupport()
 
 void AboutDlg::changeEvent(QEvent *event)
 {
-    if (event->type() == QEvent::LanguageChange) {
-        retranslateUi(this);
+    if (event->type() == QEvent::LanguageChange)
         translateTexts();
-    }
     QDialog::changeEvent(event);
 }

@@ -4,10 +4,8 @@
 
 #include <QDialog>
 
-#include "ui_AboutDialog.h"
-
 /// Version, system, legal line, and the ways to support and licence. Frees itself when closed.
-class AboutDlg : public QDialog, public Ui::AboutDialog
+class AboutDlg : public QDialog
 {
     Q_OBJECT
 

@@ -34,13 +34,13 @@ const DialogShape Shape = {
 
 CloneWarning::CloneWarning(QWidget *parent) : MessageDialog(Shape, parent)
 {
-    label("WarningTxtLbl_2")->setFont(style::semiBold(10));
+    m_Frame.label("WarningTxtLbl_2")->setFont(style::semiBold(10));
 }
 
 void CloneWarning::NameDisks(const QString &source, const QString &destination)
 {
-    label("SourceNameLbl")->setText(source);
-    label("DestinationNameLbl")->setText(destination);
+    m_Frame.label("SourceNameLbl")->setText(source);
+    m_Frame.label("DestinationNameLbl")->setText(destination);
 }
 
 void CloneWarning::HoldStart()

@@ -3,6 +3,7 @@
 #include "ui/widgets/Images.h"
 #include "ui/widgets/Style.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QCoreApplication>
 #include <QDialog>
 #include <QEvent>
@@ -12,7 +13,10 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QProgressBar>
 #include <QPushButton>
+#include <QTextBlock>
+#include <QTextEdit>
 #include <QVariant>
 #include <QWidget>
 
@@ -99,6 +103,7 @@ void DialogFrame::addBody(QVBoxLayout *rows)
     const bool picture = m_Shape.picture.name;
     auto *body =
         makeLayout<QHBoxLayout>(frame, picture ? QMargins(20, 20, 20, 12) : QMargins(20, 16, 20, 20), 18);
+    body->setObjectName(QStringLiteral("bodyLayout"));
     if (picture) {
         m_Look.picture = addLabel(body, m_Shape.picture.name);
         m_Look.picture->setFixedSize(48, 48);
@@ -139,6 +144,54 @@ QLabel *DialogFrame::addLabel(QBoxLayout *layout, const char *name)
     label->setObjectName(QLatin1String(name));
     layout->addWidget(label);
     return label;
+}
+
+QLabel *DialogFrame::addLink(QBoxLayout *layout, const char *name)
+{
+    QLabel *label = addLabel(layout, name);
+    label->setTextFormat(Qt::RichText);
+    label->setTextInteractionFlags(Qt::LinksAccessibleByKeyboard | Qt::LinksAccessibleByMouse);
+    return label;
+}
+
+QProgressBar *DialogFrame::addBar(QBoxLayout *layout)
+{
+    auto *bar = new QProgressBar;
+    bar->setObjectName(QStringLiteral("progressBar"));
+    bar->setFixedHeight(18);
+    bar->setTextVisible(false);
+    layout->addWidget(bar);
+    return bar;
+}
+
+QTextEdit *DialogFrame::addText(QBoxLayout *layout)
+{
+    auto *text = new QTextEdit;
+    text->setObjectName(QStringLiteral("textEdit"));
+    text->setFrameShape(QFrame::NoFrame);
+    text->setReadOnly(true);
+    text->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    text->setFont(style::font(10));
+    text->setStyleSheet(QStringLiteral("QTextEdit{background: transparent; color: #000000;}"));
+    text->document()->setDocumentMargin(0);
+    layout->addWidget(text);
+    return text;
+}
+
+void DialogFrame::fitText(QTextEdit *text, int block)
+{
+    fit();
+    m_pWindow->layout()->activate();
+    QTextDocument *document = text->document();
+    document->setTextWidth(text->viewport()->width());
+    const QRectF first = document->documentLayout()->blockBoundingRect(document->findBlockByNumber(block));
+    text->setFixedHeight(static_cast<int>(document->size().height() + first.top()) + style::px(2));
+    fit();
+}
+
+QLabel *DialogFrame::label(const char *name) const
+{
+    return m_pWindow->findChild<QLabel *>(QLatin1String(name));
 }
 
 QPushButton *DialogFrame::button(DialogButton which) const

@@ -9,7 +9,9 @@
 
 class QBoxLayout;
 class QLabel;
+class QProgressBar;
 class QPushButton;
+class QTextEdit;
 class QVBoxLayout;
 class QWidget;
 
@@ -72,8 +74,19 @@ public:
     /// Puts other texts in place of the title and of the first two lines. They stay as they are when the
     /// language changes.
     void setTexts(const QString &title, const QString &first, const QString &second);
-    /// Appends an empty label.
+    QLabel *label(const char *name) const;
+
+    /// \name Append an empty widget to a layout
+    /// @{
     static QLabel *addLabel(QBoxLayout *layout, const char *name);
+    static QLabel *addLink(QBoxLayout *layout, const char *name); ///< of rich text
+    static QProgressBar *addBar(QBoxLayout *layout);              ///< called progressBar
+    static QTextEdit *addText(QBoxLayout *layout);                ///< called textEdit, read only
+    /// @}
+
+    /// Makes a text edit as high as its text, so that nothing scrolls, with the same room below as lies above
+    /// its block number `block`; then fits the window.
+    void fitText(QTextEdit *text, int block = 0);
 
     /// Adapts the size to the texts, about the same centre. Runs by itself when the window is shown and when
     /// a visible text changes.

@@ -25,12 +25,12 @@ InfoDialogClass::InfoDialogClass(QWidget *parent) : MessageDialog(Shape, parent)
 
 QString InfoDialogClass::SecondText() const
 {
-    return label("label_2")->text();
+    return m_Frame.label("label_2")->text();
 }
 
 void InfoDialogClass::SetSecondText(const QString &text)
 {
-    label("label_2")->setText(text);
+    m_Frame.label("label_2")->setText(text);
 }
 
 void InfoDialogClass::OfferSaving(bool bOffer)

@@ -1,6 +1,5 @@
 #include "ui/dialogs/MessageDialog.h"
 
-#include <QLabel>
 #include <QPushButton>
 
 MessageDialog::MessageDialog(const DialogShape &shape, QWidget *parent) : QDialog(parent), m_Frame(this)
@@ -17,9 +16,4 @@ MessageDialog::MessageDialog(const DialogShape &shape, QWidget *parent) : QDialo
 void MessageDialog::SetTexts(const QString &title, const QString &first, const QString &second)
 {
     m_Frame.setTexts(title, first, second);
-}
-
-QLabel *MessageDialog::label(const char *name) const
-{
-    return findChild<QLabel *>(QLatin1String(name));
 }

@@ -18,7 +18,6 @@ protected:
 
     /// Puts other texts in place of the title and of the two lines.
     void SetTexts(const QString &title, const QString &first, const QString &second);
-    QLabel *label(const char *name) const;
 
     DialogFrame m_Frame;
 };

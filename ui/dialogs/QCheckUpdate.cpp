@@ -9,18 +9,35 @@
 #include "update/UpdateGlobals.h"
 #include "update/UpdateLink.h"
 
-#include <QEvent>
+#include <QBoxLayout>
 #include <QFileInfo>
+#include <QProgressBar>
 #include <QTimer>
 
 #include <algorithm>
 
+namespace
+{
+
+const DialogShape Shape = {"CheckUpdate",
+                           400,
+                           QT_TRANSLATE_NOOP("CheckUpdate", "Velmora Halvane"),
+                           {"HeaderLabel", QT_TRANSLATE_NOOP("CheckUpdate", "Velmora Halvane")},
+                           {},
+                           {{"label", QT_TRANSLATE_NOOP("CheckUpdate", "Checking for updates...")}},
+                           {},
+                           DialogButton::None,
+                           DialogButton::None,
+                           ""};
+
+} // namespace
+
 QCheckUpdate::QCheckUpdate(QWidget *parent) : QDialog(parent), m_Frame(this)
 {
-    setupUi(this);
-    DialogLook look;
-    look.title = HeaderLabel;
-    m_Frame.dress(look);
+    QVBoxLayout *column = m_Frame.build(Shape);
+    column->setSpacing(10);
+    m_pProgressBar = DialogFrame::addBar(column);
+    m_Frame.dress();
     setModal(true);
     // The offer opens in the middle of where this would be.
     style::centreOn(this, m_rcSplash);
@@ -46,7 +63,7 @@ void QCheckUpdate::check()
 void QCheckUpdate::downloadReadyReadTxt()
 {
     const qint64 bytes = QFileInfo(g_strUpdateFile).size();
-    progressBar->setValue(static_cast<int>(std::min<qint64>(bytes, progressBar->maximum())));
+    m_pProgressBar->setValue(static_cast<int>(std::min<qint64>(bytes, m_pProgressBar->maximum())));
 }
 
 void QCheckUpdate::downloadFinishedTxt()
@@ -91,11 +108,4 @@ void QCheckUpdate::showOffer()
         offer->raise();
         offer->activateWindow();
     });
-}
-
-void QCheckUpdate::changeEvent(QEvent *event)
-{
-    if (event->type() == QEvent::LanguageChange)
-        retranslateUi(this);
-    QDialog::changeEvent(event);
 }

@@ -4,14 +4,13 @@
 
 #include <QDialog>
 
-#include "ui_CheckUpdate.h"
-
+class QProgressBar;
 class QShowUpdate;
 
 /// Asks the web folder for a newer version. The constructor does all of it and blocks as long as the network
 /// does; the dialog itself never shows. Where there is an update, the offer opens and the object goes with
 /// it: make it on the heap, with a parent.
-class QCheckUpdate : public QDialog, public Ui::CheckUpdate
+class QCheckUpdate : public QDialog
 {
     Q_OBJECT
 
@@ -31,15 +30,13 @@ public slots:
     /// Something of it came.
     void downloadReadyReadTxt();
 
-protected:
-    void changeEvent(QEvent *event) override;
-
 private:
     void check();
     void tellNoUpdate();
     void showOffer();
 
     DialogFrame m_Frame;
+    QProgressBar *m_pProgressBar;
     QShowUpdate *m_pOffer = nullptr;
     bool m_bHttpRequestAborted = false;
     int m_nComparisons = 0; ///< of this object; only the first one counts

@@ -8,10 +8,13 @@
 #include "update/UpdateFetch.h"
 #include "update/UpdateLink.h"
 
+#include <QBoxLayout>
 #include <QCoreApplication>
 #include <QEvent>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPixmap>
+#include <QProgressBar>
 #include <QPushButton>
 
 #include <algorithm>
@@ -24,6 +27,17 @@ constexpr int ProgressInterval = 50; ///< ms
 const QString BarSheet = QStringLiteral(
     "QProgressBar:horizontal{border: 1px solid gray; border-radius: 3px; background: white;padding: 0px;}"
     "QProgressBar::chunk:horizontal{background-color: rgb(1,169,26);margin-right: 0px;width: 1px}");
+
+const DialogShape Shape = {"DownloadUpdate",
+                           440,
+                           QT_TRANSLATE_NOOP("DownloadUpdate", "Software Update"),
+                           {"HeaderLabel", QT_TRANSLATE_NOOP("DownloadUpdate", "Software Update")},
+                           {},
+                           {{"label", QT_TRANSLATE_NOOP("DownloadUpdate", "Downloading Files")}},
+                           {},
+                           DialogButton::None,
+                           DialogButton::None,
+                           "frame"};
 
 /// QMessageBox::information() in the look of the dialogs.
 void tellFailure(QWidget *parent, const QString &title, const QString &text)
@@ -45,16 +59,14 @@ void tellFailure(QWidget *parent, const QString &title, const QString &text)
 
 QDownloadApp::QDownloadApp(QWidget *parent) : QDialog(parent), m_Frame(this)
 {
-    setupUi(this);
-    DialogLook look;
-    look.title = HeaderLabel;
-    look.heading = label;
-    m_Frame.dress(look);
+    buildDetails();
+    m_Frame.dress();
+    m_Frame.label("label")->setFont(style::semiBold(10));
     setModal(true);
-    progressBar->setStyleSheet(BarSheet);
+    m_pProgressBar->setStyleSheet(BarSheet);
     update::removeVersions();
     update::removeLeftovers();
-    progressBar->setMaximum(update::expectedSize());
+    m_pProgressBar->setMaximum(update::expectedSize());
     m_thread.m_strUrl = update::link() + update::installerName();
     m_thread.m_limits = update::installerLimits(update::expectedSize());
     m_timer.setInterval(ProgressInterval);
@@ -67,31 +79,52 @@ QDownloadApp::QDownloadApp(QWidget *parent) : QDialog(parent), m_Frame(this)
         detail->setText(QStringLiteral(" "));
         detail->hide();
     }
-    progressBar->hide();
+    m_pProgressBar->hide();
     if (!m_thread.isRunning())
         m_thread.start(QThread::LowPriority);
 }
 
+void QDownloadApp::buildDetails()
+{
+    auto *frame = new QFrame;
+    frame->setObjectName(QStringLiteral("CentralFrame"));
+    m_Frame.build(Shape)->addWidget(frame);
+    auto *column = new QVBoxLayout(frame);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(8);
+    m_pInfoLabel = DialogFrame::addLabel(column, "InfoLabel");
+    m_pProgressBar = DialogFrame::addBar(column);
+    auto *row = new QHBoxLayout;
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(16);
+    column->addLayout(row);
+    m_pCopiedLabel = DialogFrame::addLabel(row, "CopiedLabel");
+    row->addStretch();
+    m_pTimeLabel = DialogFrame::addLabel(row, "TimeLabel");
+    m_pRateLabel = DialogFrame::addLabel(column, "RateLabel");
+}
+
 QList<QLabel *> QDownloadApp::details() const
 {
-    return {InfoLabel, CopiedLabel, TimeLabel, RateLabel};
+    return {m_pInfoLabel, m_pCopiedLabel, m_pTimeLabel, m_pRateLabel};
 }
 
 void QDownloadApp::OnDownloadStart()
 {
     m_elapsed.restart();
     m_timer.start();
-    InfoLabel->setText(tr("Downloading under progress..."));
-    for (QWidget *shown : std::initializer_list<QWidget *>{InfoLabel, progressBar, CopiedLabel, TimeLabel})
+    m_pInfoLabel->setText(tr("Downloading under progress..."));
+    for (QWidget *shown :
+         std::initializer_list<QWidget *>{m_pInfoLabel, m_pProgressBar, m_pCopiedLabel, m_pTimeLabel})
         shown->show();
 }
 
 void QDownloadApp::showProgress(qint64 bytes, const QString &copied)
 {
     // Behind its maximum the bar stays where it is.
-    progressBar->setValue(static_cast<int>(std::min<qint64>(bytes, std::numeric_limits<int>::max())));
-    CopiedLabel->setText(copied);
-    TimeLabel->setText(tr("Time Elapsed: ") + QString::number(m_elapsed.elapsed() / 1000) + tr(" sec "));
+    m_pProgressBar->setValue(static_cast<int>(std::min<qint64>(bytes, std::numeric_limits<int>::max())));
+    m_pCopiedLabel->setText(copied);
+    m_pTimeLabel->setText(tr("Time Elapsed: ") + QString::number(m_elapsed.elapsed() / 1000) + tr(" sec "));
 }
 
 void QDownloadApp::OnTimerLoadSlot()
@@ -117,8 +150,8 @@ void QDownloadApp::OnDownloadProgress(qlonglong bytesReceived, qlonglong bytesTo
                                     update::megabytes(bytesTotal) + tr(" MB copied) "));
     const double seconds = static_cast<double>(std::max<qint64>(1, m_elapsed.elapsed())) / 1000.0;
     const double rate = static_cast<double>(bytesReceived) / 1024.0 / seconds;
-    RateLabel->setText(tr("Transfer Rate: ") + QString::number(rate, 'f', 2) + tr(" KB/sec "));
-    RateLabel->show();
+    m_pRateLabel->setText(tr("Transfer Rate: ") + QString::number(rate, 'f', 2) + tr(" KB/sec "));
+    m_pRateLabel->show();
 }
 
 void QDownloadApp::clearProgress()
@@ -129,7 +162,7 @@ void QDownloadApp::clearProgress()
         detail->setText(QStringLiteral("      "));
         detail->hide();
     }
-    progressBar->hide();
+    m_pProgressBar->hide();
 }
 
 void QDownloadApp::OnDownloadFinish(QString strDownloadPath)
@@ -150,13 +183,8 @@ void QDownloadApp::OnDownloadFailed()
 
 void QDownloadApp::changeEvent(QEvent *event)
 {
-    if (event->type() == QEvent::LanguageChange) {
-        // What was blank stays so; the figures follow with their next tick.
-        const bool blank = InfoLabel->text().trimmed().isEmpty();
-        const QString before = InfoLabel->text();
-        retranslateUi(this);
-        if (blank)
-            InfoLabel->setText(before);
-    }
+    // What was blank stays so; the figures follow with their next tick.
+    if (event->type() == QEvent::LanguageChange && !m_pInfoLabel->text().trimmed().isEmpty())
+        m_pInfoLabel->setText(tr("Downloading under progress..."));
     QDialog::changeEvent(event);
 }

@@ -7,11 +7,11 @@
 #include <QElapsedTimer>
 #include <QTimer>
 
-#include "ui_DownloadUpdate.h"
+class QProgressBar;
 
 /// Loads the installer, starts it, and ends the program so that it can be replaced. The constructor begins
 /// the download, which cannot be stopped. Ends with finished() where it failed.
-class QDownloadApp : public QDialog, public Ui::DownloadUpdate
+class QDownloadApp : public QDialog
 {
     Q_OBJECT
 
@@ -36,9 +36,15 @@ protected:
 private:
     void showProgress(qint64 bytes, const QString &copied);
     void clearProgress();
+    void buildDetails();
     QList<QLabel *> details() const;
 
     DialogFrame m_Frame;
+    QLabel *m_pInfoLabel;
+    QProgressBar *m_pProgressBar;
+    QLabel *m_pCopiedLabel;
+    QLabel *m_pTimeLabel;
+    QLabel *m_pRateLabel;
     QTimer m_timer;
     QElapsedTimer m_elapsed;
     QDownloadThread m_thread;

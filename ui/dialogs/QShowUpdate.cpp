@@ -7,23 +7,44 @@
 #include "update/UpdateGlobals.h"
 #include "update/UpdateLink.h"
 
+#include <QBoxLayout>
 #include <QEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QTextEdit>
+
+namespace
+{
+
+const DialogShape Shape = {"ShowUpdateAvail",
+                           460,
+                           QT_TRANSLATE_NOOP("ShowUpdateAvail", "Velmora Halvane"),
+                           {"HeaderLabel", QT_TRANSLATE_NOOP("ShowUpdateAvail", "Velmora Halvane")},
+                           {"PixmapLabel", "img_Information.png"},
+                           {},
+                           {{"UpdateButton", QT_TRANSLATE_NOOP("ShowUpdateAvail", "Update")},
+                            {"CancelButton", QT_TRANSLATE_NOOP("ShowUpdateAvail", "Cancel")}},
+                           DialogButton::First,
+                           DialogButton::First,
+                           "",
+                           "BottomFrame"};
+
+} // namespace
 
 QShowUpdate::QShowUpdate(QWidget *parent) : QShowUpdate(parent, Kind::AsFound) {}
 
 QShowUpdate::QShowUpdate(QWidget *parent, Kind kind) : QDialog(parent), m_Frame(this), m_eKind(kind)
 {
-    setupUi(this);
-    m_Frame.dress(
-        {HeaderLabel, PixmapLabel, QStringLiteral("img_Information.png"), CancelButton, UpdateButton});
-    textEdit->setFont(style::font(10));
-    textEdit->setStyleSheet(QStringLiteral("QTextEdit{background: transparent; color: #000000;}"));
-    textEdit->document()->setDocumentMargin(0);
-    textEdit->setFocusPolicy(Qt::NoFocus);
+    QVBoxLayout *column = m_Frame.build(Shape);
+    m_pTextEdit = DialogFrame::addText(column);
+    m_pTextEdit->setFocusPolicy(Qt::NoFocus);
+    m_pLinkLabel = DialogFrame::addLink(column, "LinkLabel");
+    m_pLinkLabel->setWordWrap(true);
+    m_Frame.dress();
     setModal(true);
-    connect(UpdateButton, &QPushButton::clicked, this, &QShowUpdate::DownloadApp);
-    connect(CancelButton, &QPushButton::clicked, this, &QShowUpdate::CancelDownload);
-    connect(LinkLabel, &QLabel::linkActivated, this, [](const QString &page) { links::openPage(page); });
+    connect(m_Frame.button(DialogButton::First), &QPushButton::clicked, this, &QShowUpdate::DownloadApp);
+    connect(m_Frame.button(DialogButton::Last), &QPushButton::clicked, this, &QShowUpdate::CancelDownload);
+    connect(m_pLinkLabel, &QLabel::linkActivated, this, [](const QString &page) { links::openPage(page); });
     translateTexts();
 }
 
@@ -39,17 +60,12 @@ QString QShowUpdate::offerText() const
 
 void QShowUpdate::translateTexts()
 {
-    textEdit->setPlainText(offerText());
+    m_pTextEdit->setPlainText(offerText());
     const QString page = update::page();
-    LinkLabel->setText(page.isEmpty() ? QString()
-                                      : QStringLiteral("<a href=\"%1\" style=\"color: #2a81e5;\">%2</a>")
-                                            .arg(page.toHtmlEscaped(), tr("Visit Update Page")));
-    // As high as the text, so that nothing scrolls.
-    m_Frame.fit();
-    layout()->activate();
-    textEdit->document()->setTextWidth(textEdit->viewport()->width());
-    textEdit->setFixedHeight(static_cast<int>(textEdit->document()->size().height()) + style::px(2));
-    m_Frame.fit();
+    m_pLinkLabel->setText(page.isEmpty() ? QString()
+                                         : QStringLiteral("<a href=\"%1\" style=\"color: #2a81e5;\">%2</a>")
+                                               .arg(page.toHtmlEscaped(), tr("Visit Update Page")));
+    m_Frame.fitText(m_pTextEdit);
 }
 
 void QShowUpdate::DownloadApp()
@@ -69,9 +85,7 @@ void QShowUpdate::CancelDownload()
 
 void QShowUpdate::changeEvent(QEvent *event)
 {
-    if (event->type() == QEvent::LanguageChange) {
-        retranslateUi(this);
+    if (event->type() == QEvent::LanguageChange)
         translateTexts();
-    }
     QDialog::changeEvent(event);
 }

@@ -4,11 +4,11 @@
 
 #include <QDialog>
 
-#include "ui_ShowUpdateAvail.h"
+class QTextEdit;
 
 /// Offers the update that the last check found. Ends with finished(): behind Cancel, and behind a download
 /// that failed.
-class QShowUpdate : public QDialog, public Ui::ShowUpdateAvail
+class QShowUpdate : public QDialog
 {
     Q_OBJECT
 
@@ -33,4 +33,6 @@ private:
 
     DialogFrame m_Frame;
     const Kind m_eKind;
+    QTextEdit *m_pTextEdit;
+    QLabel *m_pLinkLabel;
 };

@@ -2,31 +2,51 @@
 
 #include "ui/widgets/Style.h"
 
-#include <QAbstractTextDocumentLayout>
-#include <QEvent>
-#include <QTextBlock>
+#include <QBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QTextEdit>
 
-SmallMessageDlg::SmallMessageDlg(QWidget *parent) : QDialog(parent), m_Frame(this)
+namespace
 {
-    setupUi(this);
-    m_Frame.dress({HeaderLabel, PixmapLabel, QStringLiteral("img_Information.png"), OkButton, OkButton});
-    textEdit->setFont(style::font(10));
-    textEdit->setStyleSheet(QStringLiteral("QTextEdit{background: transparent; color: #000000;}"));
-    textEdit->document()->setDocumentMargin(0);
-    connect(OkButton, &QPushButton::clicked, this, &QDialog::accept);
+
+const DialogShape Shape = {"SmallMsg",
+                           420,
+                           QT_TRANSLATE_NOOP("SmallMsg", "Velmora Halvane"),
+                           {"HeaderLabel", QT_TRANSLATE_NOOP("SmallMsg", "Velmora Halvane")},
+                           {"PixmapLabel", "img_Information.png"},
+                           {},
+                           {{"OkButton", QT_TRANSLATE_NOOP("SmallMsg", "OK")}},
+                           DialogButton::Last,
+                           DialogButton::Last,
+                           "",
+                           "BottomFrame"};
+
+} // namespace
+
+SmallMessageDlg::SmallMessageDlg(QWidget *parent)
+    : QDialog(parent), m_Frame(this), m_pTextEdit(DialogFrame::addText(m_Frame.build(Shape)))
+{
+    // The picture stands in the middle of the text's height.
+    auto *body = findChild<QHBoxLayout *>(QStringLiteral("bodyLayout"));
+    body->setContentsMargins(20, 8, 20, 8);
+    body->setSpacing(12);
+    body->setAlignment(m_Frame.label("PixmapLabel"), Qt::Alignment());
+    m_Frame.dress();
+    connect(m_Frame.button(DialogButton::Last), &QPushButton::clicked, this, &QDialog::accept);
 }
 
 void SmallMessageDlg::SetText(const QString &text, int leadingBlankLines)
 {
-    textEdit->clear();
-    textEdit->setAlignment(Qt::AlignCenter);
+    m_pTextEdit->clear();
+    m_pTextEdit->setAlignment(Qt::AlignCenter);
     QTextCharFormat heading;
     heading.setFont(style::font(11));
     heading.setFontWeight(QFont::Bold);
     QTextCharFormat body;
     body.setFont(style::font(10));
 
-    QTextCursor cursor = textEdit->textCursor();
+    QTextCursor cursor = m_pTextEdit->textCursor();
     cursor.setBlockCharFormat(heading);
     cursor.insertBlock();
     if (leadingBlankLines < 2)
@@ -35,21 +55,6 @@ void SmallMessageDlg::SetText(const QString &text, int leadingBlankLines)
     const int textBlock = cursor.blockNumber();
     cursor.insertText(text, body);
 
-    // As high as the text, so that nothing scrolls, and with as much room below as the empty blocks take
-    // above, so that the text stands beside the picture.
-    m_Frame.fit();
-    layout()->activate();
-    QTextDocument *document = textEdit->document();
-    document->setTextWidth(textEdit->viewport()->width());
-    const QRectF first =
-        document->documentLayout()->blockBoundingRect(document->findBlockByNumber(textBlock));
-    textEdit->setFixedHeight(static_cast<int>(document->size().height() + first.top()) + style::px(2));
-    m_Frame.fit();
-}
-
-void SmallMessageDlg::changeEvent(QEvent *event)
-{
-    if (event->type() == QEvent::LanguageChange)
-        retranslateUi(this);
-    QDialog::changeEvent(event);
+    // The same room below as the empty blocks take above, so that the text stands beside the picture.
+    m_Frame.fitText(m_pTextEdit, textBlock);
 }

@@ -4,10 +4,10 @@
 
 #include <QDialog>
 
-#include "ui_SmallMessageDlg.h"
+class QTextEdit;
 
 /// The plain message box of the update: a centred text.
-class SmallMessageDlg : public QDialog, public Ui::SmallMsg
+class SmallMessageDlg : public QDialog
 {
     Q_OBJECT
 
@@ -17,9 +17,7 @@ public:
     /// Replaces the text: an empty block as heading, one more below two leading blank lines, then `text`.
     void SetText(const QString &text, int leadingBlankLines);
 
-protected:
-    void changeEvent(QEvent *event) override;
-
 private:
     DialogFrame m_Frame;
+    QTextEdit *m_pTextEdit;
 };
