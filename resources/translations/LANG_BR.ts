@@ -1213,26 +1213,6 @@
         <translation>Aguarde. Obtendo as informações SMART...</translation>
     </message>
     <message>
-        <source>Performance</source>
-        <translation>Desempenho</translation>
-    </message>
-    <message>
-        <source>Health</source>
-        <translation>Saúde</translation>
-    </message>
-    <message>
-        <source>Hard Disk Life</source>
-        <translation>Vida útil do disco</translation>
-    </message>
-    <message>
-        <source>Power-on Time</source>
-        <translation>Tempo ligado</translation>
-    </message>
-    <message>
-        <source>Start/Stop Count</source>
-        <translation>Partidas/paradas</translation>
-    </message>
-    <message>
         <source>Graph : </source>
         <translation>Gráfico: </translation>
     </message>

@@ -1213,26 +1213,6 @@
         <translation>请稍候。正在获取 SMART 信息...</translation>
     </message>
     <message>
-        <source>Performance</source>
-        <translation>性能</translation>
-    </message>
-    <message>
-        <source>Health</source>
-        <translation>健康状态</translation>
-    </message>
-    <message>
-        <source>Hard Disk Life</source>
-        <translation>硬盘寿命</translation>
-    </message>
-    <message>
-        <source>Power-on Time</source>
-        <translation>通电时间</translation>
-    </message>
-    <message>
-        <source>Start/Stop Count</source>
-        <translation>启停次数</translation>
-    </message>
-    <message>
         <source>Graph : </source>
         <translation>图表: </translation>
     </message>

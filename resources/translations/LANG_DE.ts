@@ -1213,26 +1213,6 @@
         <translation>Bitte warten. SMART-Informationen werden abgerufen ...</translation>
     </message>
     <message>
-        <source>Performance</source>
-        <translation>Leistung</translation>
-    </message>
-    <message>
-        <source>Health</source>
-        <translation>Zustand</translation>
-    </message>
-    <message>
-        <source>Hard Disk Life</source>
-        <translation>Restlebensdauer</translation>
-    </message>
-    <message>
-        <source>Power-on Time</source>
-        <translation>Betriebszeit</translation>
-    </message>
-    <message>
-        <source>Start/Stop Count</source>
-        <translation>Start-Stopp-Zyklen</translation>
-    </message>
-    <message>
         <source>Graph : </source>
         <translation>Diagramm: </translation>
     </message>

@@ -1213,26 +1213,6 @@
         <translation>Een ogenblik geduld. SMART-gegevens worden opgehaald...</translation>
     </message>
     <message>
-        <source>Performance</source>
-        <translation>Prestaties</translation>
-    </message>
-    <message>
-        <source>Health</source>
-        <translation>Conditie</translation>
-    </message>
-    <message>
-        <source>Hard Disk Life</source>
-        <translation>Resterende levensduur</translation>
-    </message>
-    <message>
-        <source>Power-on Time</source>
-        <translation>Bedrijfstijd</translation>
-    </message>
-    <message>
-        <source>Start/Stop Count</source>
-        <translation>Start-stopcycli</translation>
-    </message>
-    <message>
         <source>Graph : </source>
         <translation>Grafiek: </translation>
     </message>

@@ -1213,26 +1213,6 @@
         <translation>Espere. Obteniendo la información SMART...</translation>
     </message>
     <message>
-        <source>Performance</source>
-        <translation>Rendimiento</translation>
-    </message>
-    <message>
-        <source>Health</source>
-        <translation>Salud</translation>
-    </message>
-    <message>
-        <source>Hard Disk Life</source>
-        <translation>Vida útil del disco</translation>
-    </message>
-    <message>
-        <source>Power-on Time</source>
-        <translation>Tiempo encendido</translation>
-    </message>
-    <message>
-        <source>Start/Stop Count</source>
-        <translation>Arranques/paradas</translation>
-    </message>
-    <message>
         <source>Graph : </source>
         <translation>Gráfico: </translation>
     </message>

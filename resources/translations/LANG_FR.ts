@@ -1213,26 +1213,6 @@
         <translation>Veuillez patienter. Lecture des informations SMART...</translation>
     </message>
     <message>
-        <source>Performance</source>
-        <translation>Performance</translation>
-    </message>
-    <message>
-        <source>Health</source>
-        <translation>Santé</translation>
-    </message>
-    <message>
-        <source>Hard Disk Life</source>
-        <translation>Durée de vie</translation>
-    </message>
-    <message>
-        <source>Power-on Time</source>
-        <translation>Temps de fonctionnement</translation>
-    </message>
-    <message>
-        <source>Start/Stop Count</source>
-        <translation>Démarrages/arrêts</translation>
-    </message>
-    <message>
         <source>Graph : </source>
         <translation>Graphique : </translation>
     </message>

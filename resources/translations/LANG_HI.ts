@@ -1213,26 +1213,6 @@
         <translation>कृपया प्रतीक्षा करें। SMART जानकारी ली जा रही है...</translation>
     </message>
     <message>
-        <source>Performance</source>
-        <translation>प्रदर्शन</translation>
-    </message>
-    <message>
-        <source>Health</source>
-        <translation>स्वास्थ्य</translation>
-    </message>
-    <message>
-        <source>Hard Disk Life</source>
-        <translation>हार्ड डिस्क का जीवन</translation>
-    </message>
-    <message>
-        <source>Power-on Time</source>
-        <translation>चालू समय</translation>
-    </message>
-    <message>
-        <source>Start/Stop Count</source>
-        <translation>चालू/बंद संख्या</translation>
-    </message>
-    <message>
         <source>Graph : </source>
         <translation>ग्राफ़: </translation>
     </message>

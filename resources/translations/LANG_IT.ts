@@ -1213,26 +1213,6 @@
         <translation>Attendere. Lettura delle informazioni SMART...</translation>
     </message>
     <message>
-        <source>Performance</source>
-        <translation>Prestazioni</translation>
-    </message>
-    <message>
-        <source>Health</source>
-        <translation>Salute</translation>
-    </message>
-    <message>
-        <source>Hard Disk Life</source>
-        <translation>Vita del disco</translation>
-    </message>
-    <message>
-        <source>Power-on Time</source>
-        <translation>Tempo di accensione</translation>
-    </message>
-    <message>
-        <source>Start/Stop Count</source>
-        <translation>Avvii/arresti</translation>
-    </message>
-    <message>
         <source>Graph : </source>
         <translation>Grafico: </translation>
     </message>

@@ -1213,26 +1213,6 @@
         <translation>お待ちください。SMART 情報を取得しています...</translation>
     </message>
     <message>
-        <source>Performance</source>
-        <translation>性能</translation>
-    </message>
-    <message>
-        <source>Health</source>
-        <translation>健康状態</translation>
-    </message>
-    <message>
-        <source>Hard Disk Life</source>
-        <translation>ディスクの寿命</translation>
-    </message>
-    <message>
-        <source>Power-on Time</source>
-        <translation>通電時間</translation>
-    </message>
-    <message>
-        <source>Start/Stop Count</source>
-        <translation>起動/停止回数</translation>
-    </message>
-    <message>
         <source>Graph : </source>
         <translation>グラフ: </translation>
     </message>

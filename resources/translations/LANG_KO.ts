@@ -1213,26 +1213,6 @@
         <translation>잠시 기다려 주십시오. SMART 정보를 가져오는 중...</translation>
     </message>
     <message>
-        <source>Performance</source>
-        <translation>성능</translation>
-    </message>
-    <message>
-        <source>Health</source>
-        <translation>건강 상태</translation>
-    </message>
-    <message>
-        <source>Hard Disk Life</source>
-        <translation>하드 디스크 수명</translation>
-    </message>
-    <message>
-        <source>Power-on Time</source>
-        <translation>전원 켜짐 시간</translation>
-    </message>
-    <message>
-        <source>Start/Stop Count</source>
-        <translation>시작/정지 횟수</translation>
-    </message>
-    <message>
         <source>Graph : </source>
         <translation>그래프: </translation>
     </message>

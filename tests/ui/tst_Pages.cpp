@@ -1,3 +1,4 @@
+#include "tests/ui/Named.h"
 #include "ui/screens/CloneDisk.h"
 #include "ui/screens/DiskPartition.h"
 #include "ui/screens/ScanDisk.h"
@@ -97,8 +98,8 @@ private slots:
         page.OnActivatedDestinationComboBox(1);
         QCOMPARE(g_App.m_pCloneDisk, findPhysicalDisk(129));
         QCOMPARE(page.m_nDestinationDrive, 1);
-        QVERIFY(page.TargetModelLbl->isVisibleTo(&page));
-        QCOMPARE(page.TargetModelLbl->text(), QStringLiteral("Model Number\t: B"));
+        QVERIFY(labelOf(&page, "TargetModelLbl")->isVisibleTo(&page));
+        QCOMPARE(labelOf(&page, "TargetModelLbl")->text(), QStringLiteral("Model Number\t: B"));
 
         moved.clear();
         page.SourceComboBox->setCurrentIndex(1);
@@ -106,11 +107,11 @@ private slots:
         QCOMPARE(moved.at(0).at(0).toInt(), 1);
         QCOMPARE(g_App.m_pCurrentDisk, findPhysicalDisk(129));
         QCOMPARE(page.m_nSourceSectors, quint64{129000});
-        QCOMPARE(page.ModelNLbl->text(), QStringLiteral("Model Number\t: B"));
+        QCOMPARE(labelOf(&page, "ModelNLbl")->text(), QStringLiteral("Model Number\t: B"));
         QCOMPARE(page.m_nDestinationIndex, 0);
         QCOMPARE(page.DestinationComboBox->currentIndex(), 0);
         QCOMPARE(page.DestinationComboBox->findData(129), -1);
-        QVERIFY(!page.TargetModelLbl->isVisibleTo(&page));
+        QVERIFY(!labelOf(&page, "TargetModelLbl")->isVisibleTo(&page));
     }
 
     void emptyingTheCombosMovesNothing()
@@ -130,7 +131,7 @@ private slots:
         g_App.m_diskList.clear();
         page.OnActivatedDestinationComboBox(1);
         QVERIFY(!g_App.m_pCloneDisk);
-        QVERIFY(!page.TargetModelLbl->isVisibleTo(&page));
+        QVERIFY(!labelOf(&page, "TargetModelLbl")->isVisibleTo(&page));
     }
 
     void theSmartTreeChangesItsKind()
@@ -163,18 +164,18 @@ private slots:
         DiskPartition page;
         g_nCurrentDiskIndex = 1;
         page.FillPartitionHeader();
-        QCOMPARE(page.CapcityValLbl->text(), QStringLiteral("129 GB"));
-        QCOMPARE(page.SerialNunValueLbl->text(), QStringLiteral("bus B"));
-        QCOMPARE(page.InterfaceValLbl->text(), QStringLiteral("ATA Disk"));
+        QCOMPARE(labelOf(&page, "CapcityValLbl")->text(), QStringLiteral("129 GB"));
+        QCOMPARE(labelOf(&page, "SerialNunValueLbl")->text(), QStringLiteral("bus B"));
+        QCOMPARE(labelOf(&page, "InterfaceValLbl")->text(), QStringLiteral("ATA Disk"));
         g_pWmicDiskListHead->pNext->szSmartSerial.assign(QStringLiteral("S129"));
         g_pWmicDiskListHead->pNext->szInterface.assign(QStringLiteral("USB"));
         page.FillPartitionHeader();
-        QCOMPARE(page.SerialNunValueLbl->text(), QStringLiteral("S129"));
-        QCOMPARE(page.InterfaceValLbl->text(), QStringLiteral("USB"));
+        QCOMPARE(labelOf(&page, "SerialNunValueLbl")->text(), QStringLiteral("S129"));
+        QCOMPARE(labelOf(&page, "InterfaceValLbl")->text(), QStringLiteral("USB"));
         g_nCurrentDiskIndex = 7;
         page.FillPartitionHeader();
-        QCOMPARE(page.CapcityValLbl->text(), QString());
-        QCOMPARE(page.SerialNunValueLbl->text(), QString());
+        QCOMPARE(labelOf(&page, "CapcityValLbl")->text(), QString());
+        QCOMPARE(labelOf(&page, "SerialNunValueLbl")->text(), QString());
     }
 
     void theChooserComesBackToTheSurfaceScan()
@@ -182,19 +183,19 @@ private slots:
         ScanDisk page;
         page.radioButton_3->setChecked(true);
         QVERIFY(!page.radioButton->isChecked());
-        page.frame_2->hide();
-        page.frame->show();
+        page.findChild<QFrame *>(QStringLiteral("frame_2"))->hide();
+        page.findChild<QFrame *>(QStringLiteral("frame"))->show();
         page.ShowChooser();
         QVERIFY(page.radioButton->isChecked());
         QVERIFY(!page.radioButton_3->isChecked());
-        QVERIFY(page.frame_2->isVisibleTo(&page));
-        QVERIFY(!page.frame->isVisibleTo(&page));
+        QVERIFY(page.findChild<QFrame *>(QStringLiteral("frame_2"))->isVisibleTo(&page));
+        QVERIFY(!page.findChild<QFrame *>(QStringLiteral("frame"))->isVisibleTo(&page));
         page.FillDisk(findPhysicalDisk(129));
-        QCOMPARE(page.DiskSizeValLbl->text(), QStringLiteral("129 GB"));
-        QCOMPARE(page.TotalBlkValLbl->text(), QStringLiteral("129000"));
+        QCOMPARE(labelOf(&page, "DiskSizeValLbl")->text(), QStringLiteral("129 GB"));
+        QCOMPARE(labelOf(&page, "TotalBlkValLbl")->text(), QStringLiteral("129000"));
         page.FillDisk(nullptr);
-        QCOMPARE(page.DiskSizeValLbl->text(), QString());
-        QCOMPARE(page.TotalBlkValLbl->text(), QStringLiteral("0"));
+        QCOMPARE(labelOf(&page, "DiskSizeValLbl")->text(), QString());
+        QCOMPARE(labelOf(&page, "TotalBlkValLbl")->text(), QStringLiteral("0"));
     }
 
     void aNewLanguageReachesEveryText()
@@ -218,10 +219,10 @@ private slots:
                     QVERIFY2(label->text().startsWith(QLatin1Char('~')), qPrintable(label->text()));
             }
         }
-        QCOMPARE(smart.SmartResultLabel->text(), QStringLiteral("~Passed"));
-        QCOMPARE(smart.GraphLabel->text(), QStringLiteral("~Graph"));
+        QCOMPARE(labelOf(&smart, "SmartResultLabel")->text(), QStringLiteral("~Passed"));
+        QCOMPARE(labelOf(&smart, "GraphLabel")->text(), QStringLiteral("~Graph"));
         QCOMPARE(smart.m_pAttributeTree->headerItem()->text(1), QStringLiteral("~Attribute Name"));
-        QCOMPARE(scan.TimeReLbl->text(), QStringLiteral("Time Remaining"));
+        QCOMPARE(labelOf(&scan, "TimeReLbl")->text(), QStringLiteral("Time Remaining"));
         QCOMPARE(scan.radioButton_2->text(), QStringLiteral("~Short Self-test"));
         QCOMPARE(clone.DestinationComboBox->itemText(0), QStringLiteral("~Select Destination"));
         QCOMPARE(clone.DestinationComboBox->count(), 3);
@@ -254,8 +255,9 @@ private slots:
         CloneDisk clone;
         const QString name = QStringLiteral("A Name & Sons <b>1");
         clone.SourceComboBox->addItem(name);
-        clone.ModelNLbl->setText(QStringLiteral("Model: ") + name);
-        for (QWidget *cut : std::initializer_list<QWidget *>{clone.ModelNLbl, clone.SourceComboBox}) {
+        labelOf(&clone, "ModelNLbl")->setText(QStringLiteral("Model: ") + name);
+        for (QWidget *cut :
+             std::initializer_list<QWidget *>{labelOf(&clone, "ModelNLbl"), clone.SourceComboBox}) {
             cut->setFixedWidth(90);
             cut->grab();
             QVERIFY(cut->toolTip().endsWith(QStringLiteral("A Name &amp; Sons &lt;b&gt;1")));
@@ -285,7 +287,7 @@ private slots:
         CloneDisk clone;
         for (const QWidget *page : std::initializer_list<const QWidget *>{&smart, &partition, &scan, &clone})
             QCOMPARE(page->size(), size);
-        QCOMPARE(scan.frame->minimumSize(),
+        QCOMPARE(scan.findChild<QFrame *>(QStringLiteral("frame"))->minimumSize(),
                  QSize(static_cast<int>(501 * scaleFactor), static_cast<int>(321 * scaleFactor)));
     }
 

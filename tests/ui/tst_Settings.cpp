@@ -8,6 +8,23 @@
 #include <QMenu>
 #include <QtTest>
 
+/// The settings window with its fields in reach.
+class OpenSettings : public Settings
+{
+public:
+    QComboBox *const degreeComboBox = findChild<QComboBox *>(QStringLiteral("degreeComboBox"));
+    QComboBox *const degreeComboBox_2 = findChild<QComboBox *>(QStringLiteral("degreeComboBox_2"));
+    QSpinBox *const WarningSpinBox = findChild<QSpinBox *>(QStringLiteral("WarningSpinBox"));
+    QSpinBox *const ShutDownSpinBox = findChild<QSpinBox *>(QStringLiteral("ShutDownSpinBox"));
+    QSpinBox *const LogLImitSpinBox = findChild<QSpinBox *>(QStringLiteral("LogLImitSpinBox"));
+    QCheckBox *const TrayChkBox = findChild<QCheckBox *>(QStringLiteral("TrayChkBox"));
+    QCheckBox *const WarningTemp = findChild<QCheckBox *>(QStringLiteral("WarningTemp"));
+    QCheckBox *const LogChkBox = findChild<QCheckBox *>(QStringLiteral("LogChkBox"));
+    QCheckBox *const SizeLimitChkBox = findChild<QCheckBox *>(QStringLiteral("SizeLimitChkBox"));
+    QLineEdit *const PathlineEdit = findChild<QLineEdit *>(QStringLiteral("PathlineEdit"));
+    QPushButton *const BrowsButton_2 = findChild<QPushButton *>(QStringLiteral("BrowsButton_2"));
+};
+
 /// The settings window on a store of its own.
 class SettingsTest : public QObject
 {
@@ -41,7 +58,7 @@ void SettingsTest::init()
 
 void SettingsTest::firstRunShowsFahrenheitAtItsLowest()
 {
-    Settings window;
+    OpenSettings window;
     window.ApplyFirstRunDefaults();
     QCOMPARE(window.degreeComboBox->currentIndex(), 1);
     // 45 and 50 lie below what Fahrenheit allows.
@@ -55,7 +72,7 @@ void SettingsTest::firstRunShowsFahrenheitAtItsLowest()
 void SettingsTest::laterRunOnlyChangesTheUnit()
 {
     SettingsStore().writeNumber(key::FirstTimeLaunch, 1);
-    Settings window;
+    OpenSettings window;
     window.ApplyFirstRunDefaults();
     QCOMPARE(window.degreeComboBox->currentIndex(), 1);
     QCOMPARE(window.WarningSpinBox->value(), 113);
@@ -65,7 +82,7 @@ void SettingsTest::laterRunOnlyChangesTheUnit()
 
 void SettingsTest::firstOpeningShowsDefaultsAndIsRemembered()
 {
-    Settings window;
+    OpenSettings window;
     window.ApplyFirstRunDefaults();
     window.LoadFromStore();
     QCOMPARE(window.degreeComboBox->currentIndex(), 0);
@@ -85,7 +102,7 @@ void SettingsTest::storedValuesAreShown()
         store.writeNumber(key::WarningValue, 131);
         store.writeNumber(key::ShutDownValue, 140);
     }
-    Settings window;
+    OpenSettings window;
     window.LoadFromStore();
     QCOMPARE(window.degreeComboBox->currentIndex(), 1);
     QVERIFY(window.TrayChkBox->isChecked());
@@ -100,7 +117,7 @@ void SettingsTest::storedValuesAreShown()
 void SettingsTest::valuesBelowTheLowestAreRaised()
 {
     SettingsStore().writeNumber(key::FirstTimeLaunch, 1);
-    Settings window;
+    OpenSettings window;
     window.LoadFromStore();
     QCOMPARE(window.WarningSpinBox->value(), 40);
     QCOMPARE(window.ShutDownSpinBox->value(), 50);
@@ -108,7 +125,7 @@ void SettingsTest::valuesBelowTheLowestAreRaised()
 
 void SettingsTest::unitChangeConvertsOneWay()
 {
-    Settings window;
+    OpenSettings window;
     window.WarningSpinBox->setValue(60);
     window.ShutDownSpinBox->setValue(70);
     window.degreeComboBox->setCurrentIndex(1);
@@ -124,7 +141,7 @@ void SettingsTest::unitChangeConvertsOneWay()
 
 void SettingsTest::savingStoresAllTogether()
 {
-    Settings window;
+    OpenSettings window;
     window.degreeComboBox->setCurrentIndex(1);
     window.WarningTemp->setChecked(true);
     window.WarningSpinBox->setValue(150);
@@ -143,7 +160,7 @@ void SettingsTest::savingStoresAllTogether()
 
 void SettingsTest::alarmOffIsStoredAsPair()
 {
-    Settings window;
+    OpenSettings window;
     window.WarningTemp->setChecked(false);
     window.PathlineEdit->clear();
     window.SaveToStore();
@@ -156,7 +173,7 @@ void SettingsTest::alarmOffIsStoredAsPair()
 
 void SettingsTest::checkBoxesEnableTheirFields()
 {
-    Settings window;
+    OpenSettings window;
     const QVector<QPair<QCheckBox *, QVector<QWidget *>>> rows = {
         {window.LogChkBox, {window.PathlineEdit, window.BrowsButton_2}},
         {window.SizeLimitChkBox, {window.LogLImitSpinBox}},

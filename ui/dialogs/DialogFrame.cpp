@@ -4,11 +4,11 @@
 #include "ui/widgets/Style.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QBoxLayout>
 #include <QCoreApplication>
 #include <QDialog>
 #include <QEvent>
 #include <QFontMetrics>
-#include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
@@ -29,25 +29,6 @@ const QColor BorderColour(0xc9, 0xd2, 0xdb);
 const QColor TitleLineColour(0xe6, 0xea, 0xee);
 constexpr int ButtonPadding = 16;
 constexpr char LeastWidth[] = "leastWidth"; ///< property of a button: its minimum before its text
-
-QSize scaledLimit(const QSize &limit)
-{
-    const auto scaled = [](int length) { return length == QWIDGETSIZE_MAX ? length : style::px(length); };
-    return QSize(scaled(limit.width()), scaled(limit.height()));
-}
-
-void scaleLayout(QLayout *layout)
-{
-    const QMargins margins = layout->contentsMargins();
-    layout->setContentsMargins(style::px(margins.left()), style::px(margins.top()),
-                               style::px(margins.right()), style::px(margins.bottom()));
-    if (auto *grid = qobject_cast<QGridLayout *>(layout)) {
-        grid->setHorizontalSpacing(style::px(grid->horizontalSpacing()));
-        grid->setVerticalSpacing(style::px(grid->verticalSpacing()));
-    } else {
-        layout->setSpacing(style::px(layout->spacing()));
-    }
-}
 
 template<typename Layout>
 Layout *makeLayout(QWidget *parent, const QMargins &margins, int spacing)
@@ -234,7 +215,7 @@ void DialogFrame::dress()
     const bool dialog = m_pWindow->parentWidget() || qobject_cast<QDialog *>(m_pWindow);
     m_pWindow->setWindowFlags((dialog ? Qt::Dialog : Qt::Window) | Qt::FramelessWindowHint);
     style::setWhiteBackground(m_pWindow);
-    scaleForm(m_pWindow);
+    style::scaleForm(m_pWindow);
     style::showTextsAsData(m_pWindow);
     styleTexts();
     styleButtons();
@@ -242,18 +223,6 @@ void DialogFrame::dress()
         images::setLabelImage(m_Look.picture, m_Look.image);
     m_pWindow->installEventFilter(this);
     fit();
-}
-
-void DialogFrame::scaleForm(QWidget *window)
-{
-    const auto layouts = window->findChildren<QLayout *>();
-    for (QLayout *layout : layouts)
-        scaleLayout(layout);
-    const auto children = window->findChildren<QWidget *>();
-    for (QWidget *child : children) {
-        child->setMinimumSize(scaledLimit(child->minimumSize()));
-        child->setMaximumSize(scaledLimit(child->maximumSize()));
-    }
 }
 
 void DialogFrame::styleTexts() const

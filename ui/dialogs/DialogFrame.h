@@ -92,9 +92,6 @@ public:
     /// a visible text changes.
     void fit();
 
-    /// Multiplies the margins, spacings and fixed sizes of a form by the display scale.
-    static void scaleForm(QWidget *window);
-
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 

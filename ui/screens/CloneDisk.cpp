@@ -9,7 +9,6 @@
 #include "ui/widgets/QRoundProgressBar.h"
 #include "ui/widgets/Style.h"
 
-#include <QEvent>
 #include <QFileDialog>
 
 #include <initializer_list>
@@ -40,7 +39,7 @@ const DetailRow detailRows[] = {
 
 } // namespace
 
-CloneDisk::CloneDisk(QWidget *parent) : QWidget(parent)
+CloneDisk::CloneDisk(QWidget *parent) : Page(parent)
 {
     setupUi(this);
     pagelook::makePage(this);
@@ -275,13 +274,10 @@ void CloneDisk::OnOk()
     emit DiskCloneFinished();
 }
 
-void CloneDisk::changeEvent(QEvent *event)
+void CloneDisk::retranslate()
 {
-    if (event->type() == QEvent::LanguageChange) {
-        retranslateUi(this);
-        setFixedTexts();
-        RefreshSourceDetails(findPhysicalDisk(SourceComboBox->currentData().toInt()));
-        stylePage();
-    }
-    QWidget::changeEvent(event);
+    retranslateUi(this);
+    setFixedTexts();
+    RefreshSourceDetails(findPhysicalDisk(SourceComboBox->currentData().toInt()));
+    stylePage();
 }

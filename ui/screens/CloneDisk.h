@@ -3,18 +3,18 @@
 #include "clone/CloneMessages.h"
 #include "clone/ThreadDriveClone.h"
 #include "state/DiskRecords.h"
+#include "ui/screens/Page.h"
 
 #include "ui_CloneDisk.h"
 
 #include <QTime>
-#include <QWidget>
 
 class InfoDialogClass;
 class QRoundProgressBar;
 
 /// The Clone Disk screen: the choice of a source and a destination with the details of both, and the clone
 /// itself with its gauge, its remaining time and the box that tells how it ended. Main thread only.
-class CloneDisk : public QWidget, public Ui::m_pCloneDiskwgt
+class CloneDisk : public Page, private Ui::m_pCloneDiskwgt
 {
     Q_OBJECT
 
@@ -33,6 +33,13 @@ public:
     void StartClone();
     /// Shows a message in the box, over the main window.
     void ShowMessage(const clonemessages::Message &message);
+
+    /// \name The choice of the disks
+    /// The main window fills the rows with those of its own combo.
+    /// @{
+    using Ui::m_pCloneDiskwgt::DestinationComboBox;
+    using Ui::m_pCloneDiskwgt::SourceComboBox;
+    /// @}
 
     int m_nDestinationIndex = 0;  ///< row in DestinationComboBox, 0: none chosen
     int m_nDestinationDrive = -1; ///< physical number of the disk chosen last, negative: none
@@ -60,7 +67,7 @@ public slots:
     void OnSaveLostSectors();
 
 protected:
-    void changeEvent(QEvent *event) override;
+    void retranslate() override;
 
 private:
     void stylePage();

@@ -5,7 +5,6 @@
 #include "ui/widgets/DonutChartView.h"
 #include "ui/widgets/Style.h"
 
-#include <QEvent>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QVBoxLayout>
@@ -74,7 +73,7 @@ bool reachesBelow(const QLabel *label)
 
 } // namespace
 
-DiskPartition::DiskPartition(QWidget *parent) : QWidget(parent)
+DiskPartition::DiskPartition(QWidget *parent) : Page(parent)
 {
     setupUi(this);
     pagelook::makePage(this);
@@ -287,12 +286,9 @@ void DiskPartition::LayOutFrames(int minimumHeight)
     m_pScrollArea->verticalScrollBar()->setValue(0);
 }
 
-void DiskPartition::changeEvent(QEvent *event)
+void DiskPartition::retranslate()
 {
-    if (event->type() == QEvent::LanguageChange) {
-        retranslateUi(this);
-        setFixedTexts();
-        FillPartitionHeader();
-    }
-    QWidget::changeEvent(event);
+    retranslateUi(this);
+    setFixedTexts();
+    FillPartitionHeader();
 }

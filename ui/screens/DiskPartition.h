@@ -1,11 +1,11 @@
 #pragma once
 
+#include "ui/screens/Page.h"
 #include "ui/widgets/DonutSeries.h"
 
 #include "ui_DiskPartition.h"
 
 #include <QList>
-#include <QWidget>
 
 #include <array>
 
@@ -24,7 +24,7 @@ struct VolumeTexts {
 
 /// The Disk Partition screen: the ring of the selected disk's volumes, its serial number and capacity above;
 /// below a frame for each volume. Main thread only.
-class DiskPartition : public QWidget, public Ui::m_pDiskPartitionWgt
+class DiskPartition : public Page, private Ui::m_pDiskPartitionWgt
 {
     Q_OBJECT
 
@@ -76,7 +76,7 @@ public:
     QVBoxLayout *m_pFrameColumn; ///< the frames, above what stretches below them
 
 protected:
-    void changeEvent(QEvent *event) override;
+    void retranslate() override;
 
 private:
     void makeDonut();

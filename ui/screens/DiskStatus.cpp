@@ -10,7 +10,6 @@
 #include "ui/widgets/Images.h"
 #include "ui/widgets/Style.h"
 
-#include <QEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -30,9 +29,15 @@ void setIfAny(QLabel *label, const std::optional<QString> &text)
         label->setText(*text);
 }
 
+void showPicture(QLabel *tile, const QString &file)
+{
+    if (!file.isEmpty())
+        images::setLabelImage(tile, file);
+}
+
 } // namespace
 
-DiskStatus::DiskStatus(QWidget *parent) : QWidget(parent)
+DiskStatus::DiskStatus(QWidget *parent) : Page(parent)
 {
     setupUi(this);
     healthTitleLbl = makeTileLabel(HelthLable, QStringLiteral("healthTitleLbl"));
@@ -255,6 +260,27 @@ void DiskStatus::showIdentity(const DiskIdentityTexts &texts)
     setIfAny(SectorValLbl, texts.sectors);
 }
 
+void DiskStatus::showModelAndSerial(const QString &model, const QString &serial)
+{
+    ModelNumValLbl->setText(model);
+    SerialValLbl->setText(serial);
+}
+
+void DiskStatus::showTemperaturePicture(const QString &file)
+{
+    showPicture(tempratureLbl, file);
+}
+
+void DiskStatus::showPerformancePicture(const QString &file)
+{
+    showPicture(PerformanceLbl, file);
+}
+
+void DiskStatus::showHealthPicture(const QString &file)
+{
+    showPicture(HelthLable, file);
+}
+
 void DiskStatus::showLife(const LifeTexts &texts)
 {
     DiskLifeValue->setText(texts.life);
@@ -298,21 +324,18 @@ void DiskStatus::redoDetails()
     showVerdict(g_driveVerdict);
 }
 
-void DiskStatus::changeEvent(QEvent *event)
+void DiskStatus::retranslate()
 {
-    if (event->type() == QEvent::LanguageChange) {
-        retranslateUi(this);
-        setStaticTexts();
-        ApplyLanguageMetrics();
-        if (!g_bReportPending) {
-            if (!g_bSmartAvailable) {
-                for (QLabel *value : {tempValueLbl, performanceValueLbl})
-                    value->setText(tr("Not Supported"));
-            }
-            if (!g_bSmartAvailable || !g_bHealthKnown)
-                healthValueLbl->setText(tr("Not Supported"));
-            redoDetails();
+    retranslateUi(this);
+    setStaticTexts();
+    ApplyLanguageMetrics();
+    if (!g_bReportPending) {
+        if (!g_bSmartAvailable) {
+            for (QLabel *value : {tempValueLbl, performanceValueLbl})
+                value->setText(tr("Not Supported"));
         }
+        if (!g_bSmartAvailable || !g_bHealthKnown)
+            healthValueLbl->setText(tr("Not Supported"));
+        redoDetails();
     }
-    QWidget::changeEvent(event);
 }

@@ -1,10 +1,9 @@
 #pragma once
 
 #include "state/DiskIdentityTexts.h"
+#include "ui/screens/Page.h"
 
 #include "ui_DiskStatus.h"
-
-#include <QWidget>
 
 class QGridLayout;
 enum class DriveVerdict;
@@ -12,7 +11,7 @@ struct LifeTexts;
 
 /// The first screen: three tiles with temperature, performance and health of the selected disk and a block of
 /// details. Holds labels only; the main window fills them.
-class DiskStatus : public QWidget, public Ui::m_pDiskStatus
+class DiskStatus : public Page, private Ui::m_pDiskStatus
 {
     Q_OBJECT
 
@@ -25,6 +24,17 @@ public:
 
     /// Shows the identity fields; a field without a value stays.
     void showIdentity(const DiskIdentityTexts &texts);
+
+    /// Shows how the disk of a self-test calls itself.
+    void showModelAndSerial(const QString &model, const QString &serial);
+
+    /// \name The pictures of the tiles
+    /// Without a file the one before stays.
+    /// @{
+    void showTemperaturePicture(const QString &file);
+    void showPerformancePicture(const QString &file);
+    void showHealthPicture(const QString &file);
+    /// @}
 
     /// Shows the three life fields.
     void showLife(const LifeTexts &texts);
@@ -43,7 +53,7 @@ public:
     QLabel *tempTitleLbl;
 
 protected:
-    void changeEvent(QEvent *event) override;
+    void retranslate() override;
 
 private:
     QLabel *makeTileLabel(QLabel *tile, const QString &name);

@@ -1,7 +1,6 @@
 #include "ui/screens/PageLook.h"
 
 #include "smart/Rating.h"
-#include "ui/dialogs/DialogFrame.h"
 #include "ui/widgets/Style.h"
 
 #include <QAbstractScrollArea>
@@ -33,7 +32,7 @@ void styleLabels(std::initializer_list<QLabel *> labels, const QFont &font, cons
 
 void makePage(QWidget *page)
 {
-    DialogFrame::scaleForm(page);
+    style::scaleForm(page);
     page->setFixedSize(style::px(PageWidth), style::px(PageHeight));
     style::setWhiteBackground(page);
 }

@@ -11,7 +11,6 @@
 #include "ui/widgets/Style.h"
 
 #include <QButtonGroup>
-#include <QEvent>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -36,7 +35,7 @@ void styleChoice(QFrame *card, bool chosen)
 
 } // namespace
 
-ScanDisk::ScanDisk(QWidget *parent) : QWidget(parent)
+ScanDisk::ScanDisk(QWidget *parent) : Page(parent)
 {
     setupUi(this);
     pagelook::makePage(this);
@@ -381,15 +380,12 @@ void ScanDisk::showResult(const QString &verdict)
     m_pResultBox->show();
 }
 
-void ScanDisk::changeEvent(QEvent *event)
+void ScanDisk::retranslate()
 {
-    if (event->type() == QEvent::LanguageChange) {
-        retranslateUi(this);
-        setFixedTexts();
-        // A finished scan leaves the times empty, captions included.
-        if (g_bJobRunning)
-            setTimeCaptions();
-        showCounts();
-    }
-    QWidget::changeEvent(event);
+    retranslateUi(this);
+    setFixedTexts();
+    // A finished scan leaves the times empty, captions included.
+    if (g_bJobRunning)
+        setTimeCaptions();
+    showCounts();
 }

@@ -3,11 +3,11 @@
 #include "scan/QScanDriveThread.h"
 #include "scan/ScanClock.h"
 #include "state/DiskRecords.h"
+#include "ui/screens/Page.h"
 
 #include "ui_ScanDisk.h"
 
 #include <QElapsedTimer>
-#include <QWidget>
 
 class InfoDialogClass;
 class QGridView;
@@ -16,7 +16,7 @@ class SelfTestPanel;
 
 /// The Scan Disk screen: the choice among a surface scan and the two drive self-tests, and the surface scan
 /// itself with its counters, its map and its result. Main thread only.
-class ScanDisk : public QWidget, public Ui::m_pScanDiskwgt
+class ScanDisk : public Page, private Ui::m_pScanDiskwgt
 {
     Q_OBJECT
 
@@ -48,6 +48,13 @@ public:
     /// Takes the box away unread.
     void HideResult();
 
+    /// \name The choice of a test
+    /// @{
+    using Ui::m_pScanDiskwgt::radioButton;   ///< surface scan
+    using Ui::m_pScanDiskwgt::radioButton_2; ///< short self-test
+    using Ui::m_pScanDiskwgt::radioButton_3; ///< extended self-test
+    /// @}
+
     SelfTestPanel *m_pSelfTestPanel = nullptr; ///< in frame_3
     QGridView *m_pGridView = nullptr;          ///< in frame
 
@@ -71,7 +78,7 @@ public slots:
     void OnAllBlockProcessed(qlonglong i64ProcessedBlocks);
 
 protected:
-    void changeEvent(QEvent *event) override;
+    void retranslate() override;
 
 private:
     void hideParts();

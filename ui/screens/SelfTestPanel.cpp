@@ -1,11 +1,9 @@
 #include "ui/screens/SelfTestPanel.h"
 
-#include "ui/dialogs/DialogFrame.h"
 #include "ui/screens/PageLook.h"
 #include "ui/widgets/Style.h"
 
 #include <QCoreApplication>
-#include <QEvent>
 
 namespace
 {
@@ -34,10 +32,10 @@ QString nameOf(std::optional<SelfTestKind> kind)
 
 } // namespace
 
-SelfTestPanel::SelfTestPanel(QWidget *parent) : QWidget(parent)
+SelfTestPanel::SelfTestPanel(QWidget *parent) : Page(parent)
 {
     setupUi(this);
-    DialogFrame::scaleForm(this);
+    style::scaleForm(this);
     pagelook::styleHeadings({TestNameLbl});
     pagelook::styleNames({TestModelLbl, TestSerialLbl, TestBarLbl, TestStatusLbl, PollingTimeLbl,
                           TestRemainingLbl, TestElapsedLbl});
@@ -126,11 +124,8 @@ void SelfTestPanel::SetElapsed(const QString &text)
     TestElapsedValLbl->setText(text);
 }
 
-void SelfTestPanel::changeEvent(QEvent *event)
+void SelfTestPanel::retranslate()
 {
-    if (event->type() == QEvent::LanguageChange) {
-        retranslateUi(this);
-        showTexts();
-    }
-    QWidget::changeEvent(event);
+    retranslateUi(this);
+    showTexts();
 }

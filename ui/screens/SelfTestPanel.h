@@ -2,16 +2,15 @@
 
 #include "smart/SelfTestGlobals.h"
 #include "smart/SelfTestText.h"
+#include "ui/screens/Page.h"
 
 #include "ui_SelfTestPanel.h"
-
-#include <QWidget>
 
 #include <optional>
 
 /// What the Scan Disk page shows of a self-test: the disk, the progress and the times. Keeps what it shows,
 /// so that a change of the language reaches all of it.
-class SelfTestPanel : public QWidget, public Ui::SelfTestPanelForm
+class SelfTestPanel : public Page, private Ui::SelfTestPanelForm
 {
     Q_OBJECT
 
@@ -31,7 +30,7 @@ public:
     void SetElapsed(const QString &text);
 
 protected:
-    void changeEvent(QEvent *event) override;
+    void retranslate() override;
 
 private:
     void showTexts();

@@ -117,6 +117,8 @@ void Settings::styleFields()
 void Settings::connectFields()
 {
     connect(CloseButton, &QPushButton::clicked, this, &Settings::CloseWindow);
+    for (const QPushButton *button : {OkButton, CloseButton})
+        connect(button, &QPushButton::clicked, this, &Settings::left);
     connect(LogChkBox, &QCheckBox::stateChanged, this, &Settings::OnLogEventStateChanged);
     connect(SizeLimitChkBox, &QCheckBox::stateChanged, this, &Settings::SizeLimittStateChanged);
     connect(WarningTemp, &QCheckBox::stateChanged, this, &Settings::WarningTempStateChanged);

@@ -15,7 +15,7 @@ class QMenu;
 /// The settings window: temperature unit and alarm, log path, tray, language. A top-level window without a
 /// parent, made once and shown on demand; the main window stays live beside it. Nothing is stored before
 /// SaveToStore().
-class Settings : public QWidget, public Ui::m_pSettingswgt
+class Settings : public QWidget, private Ui::m_pSettingswgt
 {
     Q_OBJECT
 
@@ -37,6 +37,13 @@ public:
     QPushButton *m_pUpdateButton = nullptr;
     QPushButton *m_pHelpButton = nullptr;
     QPushButton *m_pLanguageButton = nullptr;
+
+    /// Whether the status is to show in the tray.
+    bool WantsTray() const { return TrayChkBox->isChecked(); }
+
+signals:
+    /// OK or the close button was pressed.
+    void left();
 
 public slots:
     void CloseWindow();

@@ -11,7 +11,6 @@
 #include "ui/widgets/SmartChartView.h"
 #include "ui/widgets/Style.h"
 
-#include <QEvent>
 #include <QHeaderView>
 #include <QStyledItemDelegate>
 #include <QTreeWidget>
@@ -59,7 +58,7 @@ void fillItem(QTreeWidgetItem *item, const AttributeRow &row)
 
 } // namespace
 
-SmartStatus::SmartStatus(QWidget *parent) : QWidget(parent)
+SmartStatus::SmartStatus(QWidget *parent) : Page(parent)
 {
     setupUi(this);
     pagelook::makePage(this);
@@ -207,14 +206,17 @@ void SmartStatus::RetranslateSmartTable()
         ShowRows(CurrentRows());
 }
 
+void SmartStatus::ShowResult(OverallResult result)
+{
+    pagelook::showResult(SmartResultLabel, result);
+}
+
 void SmartStatus::showOverallResult()
 {
     if (g_bReportPending)
         return;
     const bool passed = g_bSmartAvailable && g_driveVerdict != DriveVerdict::Failed;
-    pagelook::showResult(SmartResultLabel, passed
-                                               ? OverallResult::Passed
-                                               : overallResult(false, GetDiskTemperature(), g_driveVerdict));
+    ShowResult(passed ? OverallResult::Passed : overallResult(false, GetDiskTemperature(), g_driveVerdict));
     m_pHeadingResultLabel->setText(passed ? tr("PASSED") : tr("FAIELD"));
     GraphLabel->setText(g_bSmartAvailable ? tr("Graph") : QString());
 }
@@ -230,15 +232,12 @@ void SmartStatus::showSelectedDisk()
     InterfaceValLbl->setText(named ? record->szInterface.text() : tr("ATA Disk"));
 }
 
-void SmartStatus::changeEvent(QEvent *event)
+void SmartStatus::retranslate()
 {
-    if (event->type() == QEvent::LanguageChange) {
-        retranslateUi(this);
-        setFixedTexts();
-        showOverallResult();
-        RetranslateSmartTable();
-        showSelectedDisk();
-        FormatSmartTable();
-    }
-    QWidget::changeEvent(event);
+    retranslateUi(this);
+    setFixedTexts();
+    showOverallResult();
+    RetranslateSmartTable();
+    showSelectedDisk();
+    FormatSmartTable();
 }

@@ -1,18 +1,19 @@
 #pragma once
 
-#include "ui_SmartStatus.h"
+#include "ui/screens/Page.h"
 
-#include <QWidget>
+#include "ui_SmartStatus.h"
 
 #include <vector>
 
 class QTreeWidget;
 class SmartChartView;
+enum class OverallResult;
 struct AttributeRow;
 
 /// The SMART Status screen: the overall result, one row per attribute of the selected disk, and the graph of
 /// one of them. The main window fills it.
-class SmartStatus : public QWidget, public Ui::m_pSmartWgt
+class SmartStatus : public Page, private Ui::m_pSmartWgt
 {
     Q_OBJECT
 
@@ -27,6 +28,13 @@ public:
     static std::vector<AttributeRow> CurrentRows();
     /// Puts rows in the place of those that show, and selects the first.
     void ShowRows(const std::vector<AttributeRow> &rows);
+    /// The overall result, and what stands above the tree and the graph.
+    void ShowResult(OverallResult result);
+    void ShowInterface(const QString &text) { InterfaceValLbl->setText(text); }
+    void ShowSerial(const QString &text) { SerialNunValueLbl->setText(text); }
+    void ShowCapacity(const QString &text) { CapcityValLbl->setText(text); }
+    void ShowGraphTitle(const QString &text) { GraphLabel->setText(text); }
+
     /// Shows nothing of any disk.
     void ClearDisk();
     /// Writes the rows anew, in the language that is loaded. Neither history nor graph change.
@@ -38,7 +46,7 @@ public:
     QLabel *m_pHeadingResultLabel; ///< in ImageLabel, hidden with it
 
 protected:
-    void changeEvent(QEvent *event) override;
+    void retranslate() override;
 
 private:
     void makeTree();

@@ -3,6 +3,7 @@
 #include "state/GlobalApp.h"
 #include "state/Scale.h"
 
+#include <QGridLayout>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QPalette>
@@ -29,6 +30,25 @@ QFont makeFont(const QString &family, int points, bool italic)
     QFont font(family, points);
     font.setItalic(italic);
     return font;
+}
+
+QSize scaledLimit(const QSize &limit)
+{
+    const auto scaled = [](int length) { return length == QWIDGETSIZE_MAX ? length : px(length); };
+    return QSize(scaled(limit.width()), scaled(limit.height()));
+}
+
+void scaleLayout(QLayout *layout)
+{
+    const QMargins margins = layout->contentsMargins();
+    layout->setContentsMargins(px(margins.left()), px(margins.top()), px(margins.right()),
+                               px(margins.bottom()));
+    if (auto *grid = qobject_cast<QGridLayout *>(layout)) {
+        grid->setHorizontalSpacing(px(grid->horizontalSpacing()));
+        grid->setVerticalSpacing(px(grid->verticalSpacing()));
+    } else {
+        layout->setSpacing(px(layout->spacing()));
+    }
 }
 
 /// Path of a decoration for a style sheet; the nearest set where the scale has none of its own.
@@ -61,6 +81,18 @@ void setWhiteBackground(QWidget *widget)
     palette.setBrush(QPalette::Window, Qt::white);
     widget->setPalette(palette);
     widget->setAutoFillBackground(true);
+}
+
+void scaleForm(QWidget *window)
+{
+    const auto layouts = window->findChildren<QLayout *>();
+    for (QLayout *layout : layouts)
+        scaleLayout(layout);
+    const auto children = window->findChildren<QWidget *>();
+    for (QWidget *child : children) {
+        child->setMinimumSize(scaledLimit(child->minimumSize()));
+        child->setMaximumSize(scaledLimit(child->maximumSize()));
+    }
 }
 
 void scaleWidget(QWidget *widget)

@@ -25,6 +25,9 @@ int px(int size);
 /// White window background that fills the widget.
 void setWhiteBackground(QWidget *widget);
 
+/// Multiplies the margins, spacings and fixed sizes of a form by the display scale.
+void scaleForm(QWidget *window);
+
 /// Multiplies a widget's size and place by the display scale, truncated.
 void scaleWidget(QWidget *widget);
 

@@ -425,8 +425,7 @@ void MainWindow::connectAll()
     connect(m_pScanSwitch, &MessageDialog::dismissed, this, &MainWindow::OnSwitchCancel);
     connect(m_pDestinitionWarning, &MessageDialog::dismissed, this, &MainWindow::OnCloseDestinitionWarning);
     connect(m_pShutDownWarning, &MessageDialog::confirmed, this, &MainWindow::OnSystemShutDown);
-    connect(m_pSettings->OkButton, &QPushButton::clicked, this, &MainWindow::OnSetSmartSettings);
-    connect(m_pSettings->CloseButton, &QPushButton::clicked, this, &MainWindow::OnSetSmartSettings);
+    connect(m_pSettings, &Settings::left, this, &MainWindow::OnSetSmartSettings);
 
     connect(&m_smartThread, &SMARTThread::OnLodingSmarInfo, this, &MainWindow::OnInitializeSmart);
     connect(&m_refreshThread, &QRefThreadDevicesLoad::OnLoadingDevices, this, &MainWindow::OnInitialize);

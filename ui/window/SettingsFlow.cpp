@@ -48,7 +48,7 @@ void MainWindow::OnSetSmartSettings()
     m_pDiskStatusPage->tempValueLbl->setText(g_bReportPending ? waitingTemperatureText(unit)
                                              : celsius < 1    ? tr("Not Supported")
                                                               : g_strTemperatureText);
-    const bool tray = m_pSettings->TrayChkBox->isChecked();
+    const bool tray = m_pSettings->WantsTray();
     if (tray) {
         Platform::current().CreateLogonTask(companionTask());
         companion::ensureRunning();

@@ -35,12 +35,6 @@ void showPercent(QLabel *label, bool known, const QString &percent)
     label->setText(known ? percent : MainWindow::tr("Not Supported"));
 }
 
-void showImage(QLabel *tile, const QString &file)
-{
-    if (!file.isEmpty())
-        images::setLabelImage(tile, file);
-}
-
 QString interfaceOrDefault(const QString &text)
 {
     return text.isEmpty() ? MainWindow::tr("ATA Disk") : text;
@@ -217,20 +211,19 @@ void MainWindow::initializeSmartStatus()
     g_strTemperatureText = loadTemperatureText(celsius, SettingsStore().text(key::TempValue));
     g_bSmartAvailable = celsius != 0;
     m_pSmartStatusPage->m_pChartView->setVisible(g_bSmartAvailable);
-    pagelook::showResult(m_pSmartStatusPage->SmartResultLabel,
-                         overallResult(g_bSmartAvailable, celsius, g_driveVerdict));
+    m_pSmartStatusPage->ShowResult(overallResult(g_bSmartAvailable, celsius, g_driveVerdict));
 
     showSmartHeading();
     const QString interfaceText = interfaceOrDefault(record ? record->szInterface.text() : QString());
-    m_pSmartStatusPage->InterfaceValLbl->setText(interfaceText);
+    m_pSmartStatusPage->ShowInterface(interfaceText);
     InterfaceTypeLabel->setText(interfaceText);
     if (record)
-        m_pSmartStatusPage->SerialNunValueLbl->setText(record->szSmartSerial.text());
+        m_pSmartStatusPage->ShowSerial(record->szSmartSerial.text());
     if (node && node->nKind == FixedDisk && !g_strSerialNumber.trimmed().isEmpty())
-        m_pSmartStatusPage->SerialNunValueLbl->setText(g_strSerialNumber.trimmed());
+        m_pSmartStatusPage->ShowSerial(g_strSerialNumber.trimmed());
     if (node)
-        m_pSmartStatusPage->CapcityValLbl->setText(node->szSize.text());
-    m_pSmartStatusPage->GraphLabel->clear();
+        m_pSmartStatusPage->ShowCapacity(node->szSize.text());
+    m_pSmartStatusPage->ShowGraphTitle(QString());
     m_pSmartStatusPage->m_pAttributeTree->clear();
     FillSmartTable();
 }
@@ -263,24 +256,22 @@ void MainWindow::showTemperature(int celsius)
 {
     g_strTemperatureText = loadTemperatureText(celsius, SettingsStore().text(key::TempValue));
     m_pDiskStatusPage->tempValueLbl->setText(celsius < 1 ? tr("Not Supported") : g_strTemperatureText);
-    showImage(m_pDiskStatusPage->tempratureLbl, loadTemperatureImage(celsius));
+    m_pDiskStatusPage->showTemperaturePicture(loadTemperatureImage(celsius));
 }
 
 void MainWindow::ComputePerformance()
 {
     RatePerformance();
-    m_pDiskStatusPage->performanceTitleLbl->setText(tr("Performance"));
     showPercent(m_pDiskStatusPage->performanceValueLbl, g_bSmartAvailable, g_strPerformanceText);
-    showImage(m_pDiskStatusPage->PerformanceLbl, performanceImage(g_nPerformancePercent, g_App.m_fScale));
+    m_pDiskStatusPage->showPerformancePicture(performanceImage(g_nPerformancePercent, g_App.m_fScale));
 }
 
 void MainWindow::ComputeHealth()
 {
     RateHealth();
-    m_pDiskStatusPage->healthTitleLbl->setText(tr("Health"));
     showPercent(m_pDiskStatusPage->healthValueLbl, g_bSmartAvailable && g_bHealthKnown, g_strHealthText);
     const std::optional<int> percent = g_bHealthKnown ? std::optional<int>(g_nHealthPercent) : std::nullopt;
-    showImage(m_pDiskStatusPage->HelthLable, healthImage(percent, g_App.m_fScale));
+    m_pDiskStatusPage->showHealthPicture(healthImage(percent, g_App.m_fScale));
 }
 
 void MainWindow::ShowDiskLifeDetails()
@@ -306,9 +297,6 @@ void MainWindow::showOverallResult()
 
 void MainWindow::showLifeFields(const DiskNode *node)
 {
-    m_pDiskStatusPage->DiskLifeString->setText(tr("Hard Disk Life"));
-    m_pDiskStatusPage->PowerOnTimeString->setText(tr("Power-on Time"));
-    m_pDiskStatusPage->StartStopString->setText(tr("Start/Stop Count"));
     const LifeKind kind =
         lifeKind(g_App.m_bNVMe, node && node->nKind == RemovableDisk, !g_smartTable.rows.isEmpty());
     if (kind == LifeKind::Known)
@@ -328,7 +316,7 @@ void MainWindow::GetSmartTemprature()
     RefreshTemperatureReport(currentComboDisk());
     const int celsius = GetDiskTemperature();
     m_pDiskStatusPage->tempValueLbl->setText(pollTemperatureText(celsius, unit));
-    showImage(m_pDiskStatusPage->tempratureLbl, pollTemperatureImage(celsius));
+    m_pDiskStatusPage->showTemperaturePicture(pollTemperatureImage(celsius));
 }
 
 void MainWindow::OnSystemShutDown()
@@ -345,8 +333,7 @@ void MainWindow::DetailsforSelftest()
             findWmicDisk(static_cast<std::uint32_t>(g_nCurrentDiskIndex + PhysicalDriveBase))) {
         g_strSelfTestModel = record->szSmartModel.text();
         g_strSelfTestSerial = record->szSmartSerial.text();
-        m_pDiskStatusPage->ModelNumValLbl->setText(g_strSelfTestModel);
-        m_pDiskStatusPage->SerialValLbl->setText(g_strSelfTestSerial);
+        m_pDiskStatusPage->showModelAndSerial(g_strSelfTestModel, g_strSelfTestSerial);
     }
     g_strSelfTestDevice = selfTestDevice(g_nCurrentDiskIndex, comboIndex);
 }

@@ -60,6 +60,6 @@ void MainWindow::GraphWithAttributes(QTreeWidgetItem *item, int /*column*/)
     if (!model)
         return;
     g_strGraphTitle = tr("Graph : ") + item->text(NameColumn);
-    m_pSmartStatusPage->GraphLabel->setText(g_strGraphTitle);
+    m_pSmartStatusPage->ShowGraphTitle(g_strGraphTitle);
     m_pSmartStatusPage->m_pChartView->ShowGraph(*model);
 }

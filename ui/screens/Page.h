@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QEvent>
+#include <QWidget>
+
+/// A widget of the main window that writes its texts anew when the language changes. Its form is its own
+/// affair: others use its methods.
+class Page : public QWidget
+{
+public:
+    using QWidget::QWidget;
+
+protected:
+    /// The language is another one now.
+    virtual void retranslate() = 0;
+
+    void changeEvent(QEvent *event) final
+    {
+        if (event->type() == QEvent::LanguageChange)
+            retranslate();
+        QWidget::changeEvent(event);
+    }
+};
