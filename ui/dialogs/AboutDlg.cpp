@@ -10,9 +10,6 @@
 #include <QLabel>
 #include <QPushButton>
 
-namespace
-{
-
 const DialogShape Shape = {"AboutDialog",
                            480,
                            QT_TRANSLATE_NOOP("AboutDialog", "About Velmora Halvane"),
@@ -28,8 +25,6 @@ const DialogShape Shape = {"AboutDialog",
                            DialogButton::Last,
                            "frame",
                            "BottomFrame"};
-
-} // namespace
 
 AboutDlg::AboutDlg(QWidget *parent) : QDialog(parent), m_Frame(this)
 {

@@ -7,9 +7,6 @@
 #include <QPushButton>
 #include <QTimer>
 
-namespace
-{
-
 const DialogShape Shape = {
     "CloningWarningDialog",
     560,
@@ -29,8 +26,6 @@ const DialogShape Shape = {
     {{"StartButton", QT_TRANSLATE_NOOP("CloningWarningDialog", "Start")},
      {"CancelButton", QT_TRANSLATE_NOOP("CloningWarningDialog", "Cancel")}},
     DialogButton::First};
-
-} // namespace
 
 CloneWarning::CloneWarning(QWidget *parent) : MessageDialog(Shape, parent)
 {

@@ -2,9 +2,6 @@
 
 #include <QPushButton>
 
-namespace
-{
-
 const DialogShape Shape = {"m_pCloseWgt",
                            400,
                            QT_TRANSLATE_NOOP("m_pCloseWgt", "Velmora Halvane"),
@@ -16,8 +13,6 @@ const DialogShape Shape = {"m_pCloseWgt",
                            DialogButton::None,
                            DialogButton::First,
                            "frame"};
-
-} // namespace
 
 CloseWgt::CloseWgt(QWidget *parent) : QWidget(parent), m_Frame(this)
 {

@@ -1,8 +1,5 @@
 #include "ui/dialogs/ConfarmetionClass.h"
 
-namespace
-{
-
 const DialogShape Shape = {"ConfarmetionDialog",
                            480,
                            QT_TRANSLATE_NOOP("ConfarmetionDialog", "Velmora Halvane"),
@@ -12,7 +9,5 @@ const DialogShape Shape = {"ConfarmetionDialog",
                            {{"YesButton", QT_TRANSLATE_NOOP("ConfarmetionDialog", "Yes")},
                             {"NoButton", QT_TRANSLATE_NOOP("ConfarmetionDialog", "No")}},
                            DialogButton::First};
-
-} // namespace
 
 ConfarmetionClass::ConfarmetionClass(QWidget *parent) : MessageDialog(Shape, parent) {}

@@ -1,8 +1,5 @@
 #include "ui/dialogs/DestinitionWarning.h"
 
-namespace
-{
-
 const DialogShape Shape = {
     "DestinitionWarningDailog",
     480,
@@ -13,7 +10,5 @@ const DialogShape Shape = {
      {"WarningTxtLbl_2",
       QT_TRANSLATE_NOOP("DestinitionWarningDailog", "Select target disk to start cloning process.")}},
     {{"CloseButton", QT_TRANSLATE_NOOP("DestinitionWarningDailog", "Close")}}};
-
-} // namespace
 
 DestinitionWarning::DestinitionWarning(QWidget *parent) : MessageDialog(Shape, parent) {}

@@ -3,9 +3,6 @@
 #include <QLabel>
 #include <QPushButton>
 
-namespace
-{
-
 const DialogShape Shape = {"InfoDialog",
                            480,
                            QT_TRANSLATE_NOOP("InfoDialog", "Velmora Halvane"),
@@ -14,8 +11,6 @@ const DialogShape Shape = {"InfoDialog",
                            {{"label"}, {"label_2"}},
                            {{"SaveButton", QT_TRANSLATE_NOOP("InfoDialog", "Save List")},
                             {"OkButton", QT_TRANSLATE_NOOP("InfoDialog", "OK")}}};
-
-} // namespace
 
 InfoDialogClass::InfoDialogClass(QWidget *parent) : MessageDialog(Shape, parent)
 {

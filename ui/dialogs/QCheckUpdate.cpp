@@ -16,9 +16,6 @@
 
 #include <algorithm>
 
-namespace
-{
-
 const DialogShape Shape = {"CheckUpdate",
                            400,
                            QT_TRANSLATE_NOOP("CheckUpdate", "Velmora Halvane"),
@@ -29,8 +26,6 @@ const DialogShape Shape = {"CheckUpdate",
                            DialogButton::None,
                            DialogButton::None,
                            ""};
-
-} // namespace
 
 QCheckUpdate::QCheckUpdate(QWidget *parent) : QDialog(parent), m_Frame(this)
 {

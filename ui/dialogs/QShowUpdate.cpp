@@ -13,9 +13,6 @@
 #include <QPushButton>
 #include <QTextEdit>
 
-namespace
-{
-
 const DialogShape Shape = {"ShowUpdateAvail",
                            460,
                            QT_TRANSLATE_NOOP("ShowUpdateAvail", "Velmora Halvane"),
@@ -28,8 +25,6 @@ const DialogShape Shape = {"ShowUpdateAvail",
                            DialogButton::First,
                            "",
                            "BottomFrame"};
-
-} // namespace
 
 QShowUpdate::QShowUpdate(QWidget *parent) : QShowUpdate(parent, Kind::AsFound) {}
 

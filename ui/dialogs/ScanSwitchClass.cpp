@@ -1,8 +1,5 @@
 #include "ui/dialogs/ScanSwitchClass.h"
 
-namespace
-{
-
 const DialogShape Shape = {
     "ScanSwitchDialog",
     480,
@@ -16,7 +13,5 @@ const DialogShape Shape = {
     {{"YesButton", QT_TRANSLATE_NOOP("ScanSwitchDialog", "Yes")},
      {"NoButton", QT_TRANSLATE_NOOP("ScanSwitchDialog", "No")}},
     DialogButton::First};
-
-} // namespace
 
 ScanSwitchClass::ScanSwitchClass(QWidget *parent) : MessageDialog(Shape, parent) {}

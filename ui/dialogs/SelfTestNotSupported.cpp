@@ -1,8 +1,5 @@
 #include "ui/dialogs/SelfTestNotSupported.h"
 
-namespace
-{
-
 const DialogShape Shape = {
     "SelfTestNotSupportedDialog",
     480,
@@ -13,7 +10,5 @@ const DialogShape Shape = {
      {"WarningTxtLbl_2",
       QT_TRANSLATE_NOOP("SelfTestNotSupportedDialog", "Selected disk doesn't support self test.")}},
     {{"CloseButton", QT_TRANSLATE_NOOP("SelfTestNotSupportedDialog", "Close")}}};
-
-} // namespace
 
 SelfTestNotSupported::SelfTestNotSupported(QWidget *parent) : MessageDialog(Shape, parent) {}

@@ -2,9 +2,6 @@
 
 #include "state/SettingsStore.h"
 
-namespace
-{
-
 const DialogShape Shape = {
     "SmartShutdownDialog",
     480,
@@ -20,8 +17,6 @@ const DialogShape Shape = {
     {{"ShutDownButton", QT_TRANSLATE_NOOP("SmartShutdownDialog", "Shutdown")},
      {"OkButton", QT_TRANSLATE_NOOP("SmartShutdownDialog", "OK")}},
     DialogButton::First};
-
-} // namespace
 
 ShutDownWarning::ShutDownWarning(QWidget *parent) : MessageDialog(Shape, parent)
 {

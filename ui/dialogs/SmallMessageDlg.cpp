@@ -7,9 +7,6 @@
 #include <QPushButton>
 #include <QTextEdit>
 
-namespace
-{
-
 const DialogShape Shape = {"SmallMsg",
                            420,
                            QT_TRANSLATE_NOOP("SmallMsg", "Velmora Halvane"),
@@ -21,8 +18,6 @@ const DialogShape Shape = {"SmallMsg",
                            DialogButton::Last,
                            "",
                            "BottomFrame"};
-
-} // namespace
 
 SmallMessageDlg::SmallMessageDlg(QWidget *parent)
     : QDialog(parent), m_Frame(this), m_pTextEdit(DialogFrame::addText(m_Frame.build(Shape)))

@@ -2,9 +2,6 @@
 
 #include "state/SettingsStore.h"
 
-namespace
-{
-
 const DialogShape Shape = {
     "SmartWarningDialog",
     480,
@@ -21,8 +18,6 @@ const DialogShape Shape = {
                         "disk. It is advisable to shutdown the system immediately.")}},
     {{"DontShowButton", QT_TRANSLATE_NOOP("SmartWarningDialog", "Don't show again")},
      {"OkButton", QT_TRANSLATE_NOOP("SmartWarningDialog", "OK")}}};
-
-} // namespace
 
 SmartWarning::SmartWarning(QWidget *parent) : MessageDialog(Shape, parent)
 {

@@ -29,12 +29,6 @@ void setIfAny(QLabel *label, const std::optional<QString> &text)
         label->setText(*text);
 }
 
-void showPicture(QLabel *tile, const QString &file)
-{
-    if (!file.isEmpty())
-        images::setLabelImage(tile, file);
-}
-
 } // namespace
 
 DiskStatus::DiskStatus(QWidget *parent) : Page(parent)
@@ -266,19 +260,13 @@ void DiskStatus::showModelAndSerial(const QString &model, const QString &serial)
     SerialValLbl->setText(serial);
 }
 
-void DiskStatus::showTemperaturePicture(const QString &file)
+void DiskStatus::showPicture(Picture picture, const QString &file)
 {
-    showPicture(tempratureLbl, file);
-}
-
-void DiskStatus::showPerformancePicture(const QString &file)
-{
-    showPicture(PerformanceLbl, file);
-}
-
-void DiskStatus::showHealthPicture(const QString &file)
-{
-    showPicture(HelthLable, file);
+    if (!file.isEmpty())
+        images::setLabelImage(picture == Picture::Temperature   ? tempratureLbl
+                              : picture == Picture::Performance ? PerformanceLbl
+                                                                : HelthLable,
+                              file);
 }
 
 void DiskStatus::showLife(const LifeTexts &texts)

@@ -28,13 +28,9 @@ public:
     /// Shows how the disk of a self-test calls itself.
     void showModelAndSerial(const QString &model, const QString &serial);
 
-    /// \name The pictures of the tiles
-    /// Without a file the one before stays.
-    /// @{
-    void showTemperaturePicture(const QString &file);
-    void showPerformancePicture(const QString &file);
-    void showHealthPicture(const QString &file);
-    /// @}
+    enum class Picture { Temperature, Performance, Health };
+    /// Shows the picture of a tile; without a file the one before stays.
+    void showPicture(Picture picture, const QString &file);
 
     /// Shows the three life fields.
     void showLife(const LifeTexts &texts);

@@ -256,14 +256,15 @@ void MainWindow::showTemperature(int celsius)
 {
     g_strTemperatureText = loadTemperatureText(celsius, SettingsStore().text(key::TempValue));
     m_pDiskStatusPage->tempValueLbl->setText(celsius < 1 ? tr("Not Supported") : g_strTemperatureText);
-    m_pDiskStatusPage->showTemperaturePicture(loadTemperatureImage(celsius));
+    m_pDiskStatusPage->showPicture(DiskStatus::Picture::Temperature, loadTemperatureImage(celsius));
 }
 
 void MainWindow::ComputePerformance()
 {
     RatePerformance();
     showPercent(m_pDiskStatusPage->performanceValueLbl, g_bSmartAvailable, g_strPerformanceText);
-    m_pDiskStatusPage->showPerformancePicture(performanceImage(g_nPerformancePercent, g_App.m_fScale));
+    m_pDiskStatusPage->showPicture(DiskStatus::Picture::Performance,
+                                   performanceImage(g_nPerformancePercent, g_App.m_fScale));
 }
 
 void MainWindow::ComputeHealth()
@@ -271,7 +272,7 @@ void MainWindow::ComputeHealth()
     RateHealth();
     showPercent(m_pDiskStatusPage->healthValueLbl, g_bSmartAvailable && g_bHealthKnown, g_strHealthText);
     const std::optional<int> percent = g_bHealthKnown ? std::optional<int>(g_nHealthPercent) : std::nullopt;
-    m_pDiskStatusPage->showHealthPicture(healthImage(percent, g_App.m_fScale));
+    m_pDiskStatusPage->showPicture(DiskStatus::Picture::Health, healthImage(percent, g_App.m_fScale));
 }
 
 void MainWindow::ShowDiskLifeDetails()
@@ -316,7 +317,7 @@ void MainWindow::GetSmartTemprature()
     RefreshTemperatureReport(currentComboDisk());
     const int celsius = GetDiskTemperature();
     m_pDiskStatusPage->tempValueLbl->setText(pollTemperatureText(celsius, unit));
-    m_pDiskStatusPage->showTemperaturePicture(pollTemperatureImage(celsius));
+    m_pDiskStatusPage->showPicture(DiskStatus::Picture::Temperature, pollTemperatureImage(celsius));
 }
 
 void MainWindow::OnSystemShutDown()
