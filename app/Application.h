@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 /// The entry of the program: everything from process start to its end. The executable's main() is this call

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "bench/NoisyPc.h"
 #include "clone/ThreadDriveClone.h"
 #include "platform/NativePlatform.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "bench/NoisyPc.h"
 #include "inventory/RawAccess.h"
 #include "scan/QScanDriveThread.h"

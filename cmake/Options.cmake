@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Flags that every target of ours is built with, and the way floors are made.
 
 find_program(HALVANE_CCACHE ccache)

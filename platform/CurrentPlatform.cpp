@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Which platform the program runs on: the one file that knows them all.
 
 #include "platform/Platform.h"

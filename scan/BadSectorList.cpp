@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "scan/BadSectorList.h"
 
 void BadSectorList::append(qint64 first, qint64 count)

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "smart/AttributeHistory.h"
 
 #include "inventory/CommandRunner.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 /// What is known of the disk that is chosen, in the globals of this folder and of state/Globals.h:

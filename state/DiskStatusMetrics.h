@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 /// Widths in design pixels of the eight lower labels of Disk Status, which depend on the language.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "tour/ScreenRecorder.h"
 
 #include "tour/ChartRecorder.h"

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # shellcheck shell=bash disable=SC2154
 # Sourced by ./run, ./test and .ci/run: what all of them do first. Expects the root of the tree in $root.
 

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # shellcheck shell=bash disable=SC2154
 # Sourced by the scripts beside it. Expects the root of the tree in $root.
 . "$root/packaging/linux/setup.sh"

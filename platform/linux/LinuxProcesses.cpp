@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The part of LinuxPlatform that starts other programs and asks them about the PC.
 
 #include "platform/OwnFiles.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/simulated/ImageLayout.h"
 
 #include "platform/SparseFile.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/simulated/DiskScripts.h"
 #include "platform/simulated/SimulatedPlatform.h"
 #include "platform/tools/SystemTools.h"

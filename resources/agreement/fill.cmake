@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Puts the text of the licence where a summary says @LICENSE@: cmake -D PAGE=… -D LICENSE=… -D OUT=… -P fill.cmake
 cmake_minimum_required(VERSION 3.25)
 

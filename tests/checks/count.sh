@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # count.sh <root>: lines of the sources by folder, the longest file and the longest function. Tells only, judges nothing.
 . "$(dirname "${BASH_SOURCE[0]}")/files.sh"
 

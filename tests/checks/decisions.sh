@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Each row of "Where is it decided?" in docs/architecture.md names a file that exists and functions that this file
 # defines or, where it is a header, declares.
 . "$(dirname "${BASH_SOURCE[0]}")/files.sh"

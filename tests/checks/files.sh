@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # shellcheck shell=bash
 # Sourced by the checks. Goes to the root of the tree, which is the first argument.
 set -euo pipefail

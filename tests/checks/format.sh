@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Every source file is as clang-format leaves it. Other versions than Debian 12's format differently.
 . "$(dirname "${BASH_SOURCE[0]}")/files.sh"
 

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # The help: every page that the program can open is there, is well-formed, says its language and title, describes its
 # pictures, and refers to nothing that is missing or outside. No picture lies about unused.
 . "$(dirname "${BASH_SOURCE[0]}")/files.sh"

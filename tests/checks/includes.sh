@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # includes.sh <root> <folder of widget headers…>: an include never points upwards, the floors without widgets include no
 # header of QtWidgets or QtCharts, and every quoted include begins at the root of the tree.
 . "$(dirname "${BASH_SOURCE[0]}")/files.sh"

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # A file above 500 lines is two, unless tests/checks/long-files.txt tells why it is one.
 . "$(dirname "${BASH_SOURCE[0]}")/files.sh"
 

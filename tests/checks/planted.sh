@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # planted.sh <root> <folder of widget headers…>: each check finds the fault that is planted in a small tree for it, and
 # passes the same tree without the fault.
 set -euo pipefail

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Only platform/ and its tests know the operating system that they are compiled for.
 . "$(dirname "${BASH_SOURCE[0]}")/files.sh"
 

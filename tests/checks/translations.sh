@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # translations.sh <root>: every text of the program has a finished translation in each language, with the source's
 # placeholders and blanks; the words that a drive's report is searched for stay English; and the sources are those of
 # the code, as resources/translations/update finds them.

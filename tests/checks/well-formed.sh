@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Forms, drawings and translations are well-formed XML; described PCs and other settings are strict JSON.
 . "$(dirname "${BASH_SOURCE[0]}")/files.sh"
 

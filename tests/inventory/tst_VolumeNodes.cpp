@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "inventory/CCreateDiskDriveList.h"
 #include "inventory/PartitionWalk.h"
 #include "state/GlobalApp.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/DeviceNotifier.h"
 #include "platform/IoControl.h"
 #include "platform/JsonSettings.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "scan/BadSectorList.h"
 #include "scan/BlockMap.h"
 #include "scan/ScanClock.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/HttpDownload.h"
 #include "state/GlobalApp.h"
 #include "state/Languages.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "smart/ToolInvocation.h"
 
 #include "tests/smart/SampleReports.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "state/DiskIdentityTexts.h"
 #include "state/DriveTexts.h"
 #include "state/FixedText.h"

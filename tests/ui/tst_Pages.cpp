@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/ui/Named.h"
 #include "ui/screens/CloneDisk.h"
 #include "ui/screens/DiskPartition.h"

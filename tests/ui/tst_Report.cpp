@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "smart/PreviousTest.h"
 #include "smart/SmartGlobals.h"
 #include "tests/ui/WindowFixture.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "scan/BlockMap.h"
 #include "scan/ScanGlobals.h"
 #include "tests/ui/Named.h"

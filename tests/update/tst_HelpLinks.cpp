@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "state/GlobalApp.h"
 #include "state/Languages.h"
 #include "state/SettingsStore.h"

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Draws the frames of one animation from its template and joins them to a GIF.
 #
 # MASTER    template; @ANGLE@ is the frame's share of a full turn in degrees, @SHIFT@ its share of WAY
