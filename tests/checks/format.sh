@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Every source file is as clang-format leaves it. Other versions than Debian 12's format differently.
+# Every source file begins with its licence and is as clang-format leaves it. Other versions than Debian 12's format differently.
 . "$(dirname "${BASH_SOURCE[0]}")/files.sh"
 
 clang-format --version | grep -q 'version 14\.' || {
@@ -8,5 +8,8 @@ clang-format --version | grep -q 'version 14\.' || {
     exit 77
 }
 list=$(files '*.cpp' '*.h')
+# shellcheck disable=SC2086  # one word per file; none of ours has a blank
+awk -v licence='// SPDX-License-Identifier: GPL-3.0-or-later' 'FNR == 1 && $0 != licence { print FILENAME }' $list |
+    verdict "These do not begin with their licence:"
 xargs -P "$(nproc)" -n 20 clang-format --style=file --dry-run --Werror <<<"$list" 2>&1 |
     { grep -E ': error:' || [ $? -eq 1 ]; } | verdict "Not formatted (clang-format -i mends it):"

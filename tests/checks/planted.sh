@@ -9,6 +9,7 @@ headers=("${@:2}")
 tree=$(mktemp -d)
 trap 'rm -rf "$tree"' EXIT
 failures=0
+licence='// SPDX-License-Identifier: GPL-3.0-or-later'
 help=help/velmora-halvane-11-windows-standard
 
 # translation <name> [what becomes which other text]: the translations of the small tree, with one fault at most.
@@ -67,6 +68,7 @@ sound() {
     mkdir "$tree/docs"
     printf 'int health(int raw)\n{\n    return rate(raw);\n}\n' >"$tree/smart/Health.cpp"
     decisions '' '' >"$tree/docs/architecture.md"
+    find "$tree" -name '*.cpp' -o -name '*.h' | xargs sed -i "1i $licence"
 }
 
 # finds <check> <what the complaint has to name> <file> <contents>
@@ -100,7 +102,8 @@ finds includes 'begin at the root' ui/Near.cpp '#include "Page.h"\n'
 finds platforms 'smart/Os.cpp:1' smart/Os.cpp '#ifdef Q_OS_LINUX\n#endif\n'
 finds platforms 'ui/Os.cpp:1' ui/Os.cpp '#if defined(_WIN32)\n#endif\n'
 finds platforms 'tests/Os.cpp:1' tests/Os.cpp '#if defined(__linux__)\n#endif\n'
-finds format 'smart/Ugly.cpp:1' smart/Ugly.cpp 'int  main( ) {return 0;}\n'
+finds format 'smart/Ugly.cpp:2' smart/Ugly.cpp "$licence\\nint  main( ) {return 0;}\n"
+finds format 'smart/Free.cpp' smart/Free.cpp '// A line\n'
 finds words 'smart/Words.cpp:1' smart/Words.cpp '// see the s''pec\n'
 finds words 'README.md:2' README.md 'A line\nas in P''art 3.2\n'
 finds words 'README.md:1' README.md 'The C''EO asks\n'
