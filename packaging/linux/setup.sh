@@ -1,14 +1,14 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # shellcheck shell=bash disable=SC2154
-# Sourced by ./run, ./test and .ci/run: what all of them do first. Expects the root of the tree in $root.
+# Functions for scripts that install packages and build. $root is the root of the tree.
 
 fail() {
     printf '%s\n' "$*" >&2
     exit 1
 }
 
-# install_packages [system…]: installs the packages in packages.txt of these systems (linux) that are missing. If it
-# cannot, it names them and ends with 1.
+# install_packages [system…]: installs the missing packages of packaging/<system>/packages.txt, by default those of linux.
+# If it cannot, it names them and ends with 1.
 install_packages() {
     local wanted missing as_root=() lists=()
     local system
@@ -45,7 +45,7 @@ quietly() {
     rm -f "$log"
 }
 
-# build <preset> <folder> [target…]: configures where that was not done yet, and builds. One at a time per folder.
+# build <preset> <folder> [target…]: configures if that was not done yet, and builds. One build at a time per folder.
 build() {
     local preset=$1 folder=$root/$2 lock
     shift 2

@@ -1,19 +1,18 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # shellcheck shell=bash disable=SC2154
-# Sourced by the scripts beside it. Expects the root of the tree in $root.
+# Functions for the scripts beside it. $root is the root of the tree.
 . "$root/packaging/linux/setup.sh"
 
 host=x86_64-w64-mingw32
 build_folder=$root/build-windows
 dist_folder=$root/dist/windows
 
-# fetch_source <package> <folder>: unpacks Debian's source of a package below the folder and names its tree in
-# $source_tree.
+# fetch_source <package> <folder>: unpacks Debian's source of a package below the folder and sets $source_tree to its path.
 fetch_source() {
     local package=$1 folder=$2 uri release
     local -a apt
     mkdir -p "$folder/lists/partial"
-    # The mirror that the machine installs from has the sources too, though its list may not say so.
+    # The mirror of this machine has sources, too, even if it is not set up for them.
     read -r uri release < <(apt-get indextargets --format '$(REPO_URI) $(CODENAME) $(COMPONENT)' \
         'Created-By: Packages' | awk '$3 == "main" && $2 !~ /-/ { print $1, $2; exit }') ||
         fail "No list of Debian packages is set up."
@@ -28,8 +27,7 @@ fetch_source() {
     [ -d "$source_tree" ] || fail "The source of $package did not unpack."
 }
 
-# Names the folder of the Qt for Windows in $qt_folder: the one unpacked last time, the ready-made one beside the
-# tree, or one made now.
+# Sets $qt_folder to the Qt for Windows: the one unpacked last time, else the archive beside the tree, else one made now.
 provide_qt() {
     local ready
     qt_folder=$build_folder/qt
