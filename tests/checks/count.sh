@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
-# count.sh <root>: lines of the sources by folder, the longest file and the longest function. Tells only, judges nothing.
+# count.sh <root>: prints lines of the sources by folder, the longest file and the longest function. It never fails.
 . "$(dirname "${BASH_SOURCE[0]}")/files.sh"
 
 list=$(files '*.cpp' '*.h' '*.ui')
-# A function's braces stand alone on their lines, as those of classes and namespaces do; its length is that of its body.
+# The length of a function is that of its body. Its braces are alone on their lines, like those of classes and namespaces.
 # shellcheck disable=SC2086  # one word per file; none of ours has a blank
 awk '
     function folderOf(path) {

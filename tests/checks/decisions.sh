@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Each row of "Where is it decided?" in docs/architecture.md names a file that exists and functions that this file
-# defines or, where it is a header, declares.
+# Each row of "Where is it decided?" in docs/architecture.md names a file that exists and functions that this file defines.
+# A header may also only declare them.
 . "$(dirname "${BASH_SOURCE[0]}")/files.sh"
 
 page=docs/architecture.md
@@ -21,10 +21,10 @@ rows() {
         }' "$page"
 }
 
-# A definition stands at the left margin, or one step in from it where a class holds it. What stands ahead of the name is
-# a type; a call has nothing there, or a keyword.
+# A definition begins at the left margin, or one step in if it is in a class. It has a type before the name; a call has
+# nothing there, or a keyword.
 defines() {
-    # Not -q: it would end before the first grep, whose broken pipe counts as a failure.
+    # Not -q: the second grep would end first, and the broken pipe of the first one would count as a failure.
     grep -vE '^ *(//|return |else |throw |delete )' "$1" |
         grep -E "^( {4})?[A-Za-z][A-Za-z0-9_:<>*&, ]*[ *&>]$2\(" >/dev/null
 }

@@ -5,7 +5,7 @@ set -euo pipefail
 export LC_ALL=C.UTF-8
 cd "$1"
 
-# All files of the tree: what git tracks, or everything where the tree is not under git.
+# All files of the tree: those that git tracks, or all if the tree is not under git.
 tree() {
     if [ -e .git ]; then
         git -c safe.directory='*' -c core.quotePath=false ls-files
@@ -14,8 +14,8 @@ tree() {
     fi
 }
 
-# files <pattern…>: those that fit a pattern, in which * goes across folders too. Ends the check where there are none:
-# then it looks in the wrong place.
+# files <pattern…>: those that match a pattern; * also matches a slash. Fails if there are none, because the check then
+# looks in the wrong place.
 files() {
     local path pattern some=""
     while IFS= read -r path; do
@@ -34,7 +34,7 @@ files() {
     }
 }
 
-# verdict <sentence>: reads complaints, and ends the check by whether there were any.
+# verdict <sentence>: ends the check. It fails if there are complaints on standard input.
 verdict() {
     local complaints
     complaints=$(cat)

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Every source file begins with its licence and is as clang-format leaves it. Other versions than Debian 12's format differently.
+# Every source file begins with its licence and has the format of clang-format 14, Debian 12's. Other versions differ.
 . "$(dirname "${BASH_SOURCE[0]}")/files.sh"
 
 clang-format --version | grep -q 'version 14\.' || {

@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
-# The help: every page that the program can open is there, is well-formed, says its language and title, describes its
-# pictures, and refers to nothing that is missing or outside. No picture lies about unused.
+# The help: every page that the program can open exists and is well-formed. It names its language and title, describes its
+# pictures, and has no link to something missing or outside. Every picture is used.
 . "$(dirname "${BASH_SOURCE[0]}")/files.sh"
 
 list=$(files 'help/*')
-# The words in quotes that stand in the braces behind a name in the code.
+# The words in quotes in the braces after a name in the code.
 words() {
     { tr '\n' ' ' <update/HelpLinks.cpp | grep -oE "$1\{[^}]*" | grep -oE '"[a-z-]+"' || true; } | tr -d '"'
 }
@@ -17,7 +17,7 @@ there() { grep -qxF "$1" <<<"$list"; }
 # as_xml <page>: the same with void elements closed.
 as_xml() { sed -zE 's#<(meta|link|img|br|hr|col|wbr)\b([^>]*[^/>])?>#<\1\2/>#g' "$1"; }
 
-# The program names them after the product; all languages have the first one, English has the rest too.
+# All languages have the first page, only English has the others.
 pages_complete() {
     local code page number=0
     for page in $pages; do

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
-# includes.sh <root> <folder of widget headers…>: an include never points upwards, the floors without widgets include no
-# header of QtWidgets or QtCharts, and every quoted include begins at the root of the tree.
+# includes.sh <root> <folder of widget headers…>: an include never points to a higher floor, files do not include each other
+# in a ring, the floors below the reports include no header of QtWidgets or QtCharts, and every quoted include begins at
+# the root of the tree.
 . "$(dirname "${BASH_SOURCE[0]}")/files.sh"
 shift
 
@@ -15,7 +16,7 @@ patterns=()
 for floor in $floors; do patterns+=("$floor/*.cpp" "$floor/*.h"); done
 list=$(files "${patterns[@]}")
 
-# A file and its header are one; the header of a form is its maker's.
+# A file and its header count as one. The header of a form is generated and left out.
 # shellcheck disable=SC2086  # one word per file; none of ours has a blank
 rings=$(awk '
     function unit(path) { sub(/\.(h|cpp)$/, "", path); return path }

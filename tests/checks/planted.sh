@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
-# planted.sh <root> <folder of widget headers…>: each check finds the fault that is planted in a small tree for it, and
-# passes the same tree without the fault.
+# planted.sh <root> <folder of widget headers…>: plants faults in a small tree. Each check has to find its fault, and has to
+# pass the same tree without it.
 set -euo pipefail
 checks=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 root=$1

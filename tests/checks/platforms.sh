@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Only platform/ and its tests know the operating system that they are compiled for.
+# Only platform/ and its tests may have code for one operating system.
 . "$(dirname "${BASH_SOURCE[0]}")/files.sh"
 
 list=$(files '*.cpp' '*.h' | grep -vE '^(tests/)?platform/')

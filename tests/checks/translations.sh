@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
-# translations.sh <root>: every text of the program has a finished translation in each language, with the source's
-# placeholders and blanks; the words that a drive's report is searched for stay English; and the sources are those of
-# the code, as resources/translations/update finds them.
+# translations.sh <root>: every text of the program has a finished translation in each language, with the placeholders and
+# blanks of its source. Words that a drive's report is searched for stay English. The sources are those that
+# resources/translations/update finds in the code.
 . "$(dirname "${BASH_SOURCE[0]}")/files.sh"
 
 if ! command -v /usr/lib/qt5/bin/lupdate lupdate >/dev/null || ! command -v python3 >/dev/null; then
@@ -11,7 +11,7 @@ if ! command -v /usr/lib/qt5/bin/lupdate lupdate >/dev/null || ! command -v pyth
 fi
 list=$(files 'resources/translations/*.ts')
 parser=$(files 'smart/ReportParser*.cpp')
-# From nothing, so that a tool that writes nothing is noticed.
+# A new folder, so that a tool that writes nothing is noticed.
 fresh=$(mktemp -d)
 trap 'rm -rf "$fresh"' EXIT
 bash resources/translations/update "$fresh"

@@ -4,7 +4,7 @@
 . "$(dirname "${BASH_SOURCE[0]}")/files.sh"
 
 xml=$(files '*.ui' '*.svg' '*.svg.in' '*.ts' '*.qrc')
-# Data of the tests may be broken on purpose.
+# Data of the tests may be wrong on purpose.
 json=$(files '*.json' | grep -v '^tests/data/')
 {
     while IFS= read -r path; do

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
-# The tree explains itself: it refers to its own code and documents, never to papers that a reader does not have.
+# The tree refers to its own code and documents only, never to papers that a reader does not have.
 . "$(dirname "${BASH_SOURCE[0]}")/files.sh"
 
 # The licence and the reports that real tools wrote stay as they are.
