@@ -20,7 +20,7 @@ private slots:
 
 private:
     static QProcessEnvironment environment(const DescribedFolder &folder);
-    /// Starts the program and waits until its splash stands.
+    /// Starts the program and waits until its splash is shown.
     static void startProgram(QProcess &process, const DescribedFolder &folder, int expectedStarts);
     static int starts(const DescribedFolder &folder);
 };
@@ -44,7 +44,7 @@ QProcessEnvironment tst_Startup::environment(const DescribedFolder &folder)
 
 int tst_Startup::starts(const DescribedFolder &folder)
 {
-    // The splash is the one that asks the machine to stay awake.
+    // Only the splash asks the machine to stay awake.
     return DescribedFolder::contents(folder.state() + QStringLiteral("/execution-state.log"))
         .count("0x80000041");
 }

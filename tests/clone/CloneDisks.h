@@ -14,7 +14,7 @@ constexpr qint64 BlockSectors = 32768;
 constexpr qint64 SectorBytes = 512;
 constexpr qint64 BlockBytes = BlockSectors * SectorBytes;
 
-/// Bytes that repeat nowhere, the same for the same seed.
+/// Bytes without repetition; the same seed gives the same bytes.
 inline QByteArray noise(qint64 sectors, quint32 seed)
 {
     QVector<quint32> words(static_cast<int>(sectors * SectorBytes / 4));
@@ -35,7 +35,7 @@ inline QByteArray readFile(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/// The two disks that a clone takes from the application's state, and what its thread says.
+/// Sets the two disks that a clone takes from the application's state, and records its thread's signals.
 class CloneDisks
 {
 public:
@@ -59,7 +59,7 @@ public:
     DiskDetails &destination() { return *m_destination.pDetails; }
     bool holdsHandles() const { return m_source.pDetails->hDisk != 0 || m_destination.pDetails->hDisk != 0; }
 
-    /// Notes the thread's signals in their order, progress as `positions`.
+    /// Records the thread's signals in their order, progress in `positions`.
     void listen(ThreadDriveClone &thread)
     {
         const auto note = [this](const char *event) {

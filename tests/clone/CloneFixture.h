@@ -10,7 +10,7 @@
 constexpr int Source = 1;
 constexpr int Destination = 2;
 constexpr int Bystander = 3;
-constexpr int Sectors = 40000; ///< of a disk whose size does not count: a block and a part of one
+constexpr int Sectors = 40000; ///< of a disk if the size does not matter: a block and a part of one
 constexpr int BystanderSectors = 5000;
 using Runs = QVector<QPair<int, int>>; ///< first sector and count
 using End = CloneOutcome::End;
@@ -27,7 +27,7 @@ class CloneFixture
 protected:
     void setUp()
     {
-        qputenv("COMSPEC", "x /c diskpart /s evil.txt |"); // nobody asks for it
+        qputenv("COMSPEC", "x /c diskpart /s evil.txt |"); // must not be used
         g_bAbortJob = false;
         g_bJobRunning = false;
         g_bCloneFailed = false;
@@ -78,8 +78,8 @@ protected:
         QVERIFY(!disks.holdsHandles());
     }
 
-    /// What the destination has to hold: the source with zeros behind it up to the block's end, zeros where
-    /// it could not be read, and the rest as the preparation left it.
+    /// The content that the destination must have: the source, with zeros where it could not be read; zeros
+    /// up to the end of the block; behind them what the preparation left.
     QByteArray expected(qint64 destinationSectors, const Runs &unread, const Runs &kept,
                         bool tail = true) const
     {

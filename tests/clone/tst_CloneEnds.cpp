@@ -3,7 +3,7 @@
 
 #include <atomic>
 
-/// How a clone ends that does not copy everything.
+/// The ends of clones that do not copy everything.
 class tst_CloneEnds : public QObject, private CloneFixture
 {
     Q_OBJECT
@@ -26,13 +26,13 @@ private slots:
 void tst_CloneEnds::stops_data()
 {
     QTest::addColumn<QString>("phase");
-    QTest::addColumn<int>("count"); // of what that phase does
+    QTest::addColumn<int>("count"); // which of the transfers or commands of that phase the stop comes with
     QTest::addColumn<Runs>("kept");
     QTest::addColumn<int>("commands");
     constexpr int All = 3 * BlockSectors + 500;
     const QString command = QStringLiteral("command");
     const QString write = QStringLiteral("write");
-    // The first sector that is written by itself asks whether the disk is still there.
+    // Of the sectors that are written singly, the first is the check whether the disk is still there.
     const auto from = [](int sector) { return Runs{{sector, All - sector}}; };
     QTest::newRow("before") << QStringLiteral("start") << 1 << from(0) << 0;
     QTest::newRow("in the first script") << command << 1 << from(0) << 5;
@@ -157,7 +157,7 @@ void tst_CloneEnds::refuses()
     if (inThePause || fault < int(CloneFault::SourceIsAnother))
         return;
     QVERIFY(readFile(m_pc->imageFile(Destination)) == noise(Sectors, 2));
-    // The next one starts anew.
+    // The fault does not stay for the next clone.
     differ(false);
     disks.events.clear();
     runClone(disks);
@@ -167,7 +167,7 @@ void tst_CloneEnds::refuses()
 void tst_CloneEnds::diesOnTheWay_data()
 {
     QTest::addColumn<bool>("destination");
-    QTest::addColumn<int>("from"); // the first sector that it refuses, and all from then on
+    QTest::addColumn<int>("from"); // all transfers fail after the one at this sector
     QTest::newRow("source, at once") << false << 0;
     QTest::newRow("source, in the third block") << false << 65536;
     QTest::newRow("source, in a bad block again") << false << 128;
@@ -175,7 +175,7 @@ void tst_CloneEnds::diesOnTheWay_data()
     QTest::newRow("destination, in the third block") << true << 65536;
 }
 
-/// No error tells of it: every transfer is refused from then on.
+/// The disk gives no special error: all its transfers fail.
 void tst_CloneEnds::diesOnTheWay()
 {
     QFETCH(bool, destination);
@@ -236,7 +236,7 @@ void tst_CloneEnds::startsAndStopsManyTimes()
         CloneDisks disks(Source, 4 * BlockSectors, Destination);
         ThreadDriveClone thread;
         disks.listen(thread);
-        // Later and later, until a stop has met one that was copying.
+        // Each stop comes later, until one has met a clone that was copying.
         for (; runs < fewest || (aborted == 0 && runs < most); ++runs) {
             g_bAbortJob = false;
             thread.start(QThread::InheritPriority);

@@ -6,7 +6,7 @@
 
 Q_DECLARE_METATYPE(clonemessages::Side)
 
-/// What the clone screen works out without a disk: its time, its refusals and where the gauge draws.
+/// What the clone screen calculates without a disk: times, refusals and the geometry of the gauge.
 class tst_CloneGauge : public QObject
 {
     Q_OBJECT
@@ -96,7 +96,7 @@ void tst_CloneGauge::placesItsParts()
     const QRectF inner = gauge::innerRect(210, 210 * 0.84);
     QVERIFY(qFuzzyCompare(inner.x(), 16.8) && qFuzzyCompare(inner.width(), 176.4));
     QCOMPARE(gauge::sweep(0, 100, 35), 94.5);
-    QCOMPARE(gauge::sweep(50, 100, 75), 405.0); // the minimum stays in
+    QCOMPARE(gauge::sweep(50, 100, 75), 405.0); // the minimum is not subtracted
     QVERIFY(!gauge::hasEndCap(gauge::percent(0, 100, 99)));
     QVERIFY(gauge::hasEndCap(gauge::percent(0, 100, 100)));
 }

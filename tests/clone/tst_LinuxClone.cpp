@@ -88,12 +88,12 @@ void tst_LinuxClone::clonesPartitionsAndFileSystems()
     QVERIFY(bystander.contents() == noise(sourceBytes / SectorBytes, 3));
     const QByteArray copy = destination.contents();
     QVERIFY(copy.left(original.size()) == original);
-    // Zeros to the end of the last block, from there on what was there.
+    // Zeros up to the end of the last block; behind it the old content.
     const auto copied = static_cast<int>(
         qMin<qint64>((sourceBytes + BlockBytes - 1) / BlockBytes * BlockBytes, destinationBytes));
     QCOMPARE(copy.mid(original.size(), copied - original.size()).count('\0'), copied - original.size());
 
-    // The kernel knows the partitions that came along.
+    // The kernel knows the copied partitions.
     QVERIFY(QFile::exists(loops[2].partition(1)));
     QVERIFY(QFile::exists(loops[2].partition(2)));
     QVERIFY(
@@ -114,7 +114,7 @@ void tst_LinuxClone::diskInUse_data()
     QTest::newRow("mounted behind the last look") << "late" << int(CloneFault::DestinationTakesNothing);
 }
 
-/// Equal or refused, whatever uses the destination.
+/// Whatever uses the destination, the clone is refused or the copy is equal.
 void tst_LinuxClone::diskInUse()
 {
     QFETCH(QString, use);
@@ -150,7 +150,7 @@ void tst_LinuxClone::diskInUse()
         !runs(QStringLiteral("dmsetup"), {QStringLiteral("create"), mapped, QStringLiteral("--table"),
                                           QStringLiteral("0 2048 linear %1 0").arg(partition)}))
         QSKIP("no mapped devices here");
-    // As the kernel itself opens the members of arrays and pools.
+    // The kernel opens the members of arrays and pools like this.
     const int held = use == QLatin1String("held")
                          ? ::open(QFile::encodeName(partition).constData(), O_RDONLY | O_EXCL | O_CLOEXEC)
                          : -1;
@@ -186,7 +186,7 @@ void tst_LinuxClone::diskInUse()
     QCOMPARE(int(thread.outcome().fault), fault);
     const bool refused = thread.outcome().end == CloneOutcome::End::Refused;
     QCOMPARE(slept, !refused);
-    if (refused) // mounting writes, too, but not there
+    if (refused) // a mount writes to the disk, but not there
         QVERIFY(images[1].contents().left(SectorBytes) == before.left(SectorBytes));
     else if (fault == int(CloneFault::None))
         QVERIFY(images[1].contents() == noise(bytes / SectorBytes, 5));
@@ -201,7 +201,7 @@ void tst_LinuxClone::swappedDiskIsLeftAlone_data()
     QTest::newRow("source") << 0 << true;
 }
 
-/// Another disk has got the node of one that the list shows.
+/// Another disk has taken the node of one that the list shows.
 void tst_LinuxClone::swappedDiskIsLeftAlone()
 {
     QFETCH(int, swapped);
@@ -228,7 +228,7 @@ void tst_LinuxClone::swappedDiskIsLeftAlone()
     Platform::current().GetLogicalDriveStringsW();
     if (!inThePause)
         swap();
-    // A look at the disks that is none of the list's.
+    // This reads the disks without a new list, so the numbers keep their media.
     destination::runScripts(destination::finishScripts(1 - swapped));
 
     g_bCloneFailed = false;

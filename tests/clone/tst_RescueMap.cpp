@@ -8,7 +8,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-/// The list of what a copy lacks, as a person and as another tool read it.
+/// The list of lost sectors, as the message tells it and as ddrescue reads it.
 class tst_RescueMap : public QObject
 {
     Q_OBJECT
@@ -51,7 +51,7 @@ void tst_RescueMap::text()
                                             "4 sectors could not be written."));
 }
 
-/// It copies what is missing, and nothing else.
+/// With the map ddrescue copies the lost sectors and nothing else.
 void tst_RescueMap::otherToolReadsIt()
 {
     if (QStandardPaths::findExecutable(QStringLiteral("ddrescue")).isEmpty())

@@ -11,7 +11,7 @@ namespace
 
 using Blocks = QVector<int>;
 
-/// With this machine's own line ends.
+/// The text with the line ends of this system.
 QByteArray asText(const char *lines)
 {
     QTemporaryFile file;
@@ -51,7 +51,7 @@ void tst_ThreadDriveClone::copies_data()
     QTest::addColumn<QByteArray>("destinationMore");
     QTest::addColumn<Runs>("unread");
     QTest::addColumn<Runs>("unwritten");
-    QTest::addColumn<bool>("tail"); // becomes zeros
+    QTest::addColumn<bool>("tail"); // whether the rest of the last block becomes zeros
     const auto row = [](const char *name, qint64 from, qint64 onto, const QByteArray &fromMore = {},
                         const QByteArray &ontoMore = {}, bool tail = true, const Runs &unread = {},
                         const Runs &unwritten = {}) {
@@ -179,7 +179,7 @@ void tst_ThreadDriveClone::progress()
     QFETCH(bool, estimated);
     const qint64 sectors = blocks * BlockSectors;
     openPc(sectors, sectors, sourceMore, destinationMore);
-    // Long enough for an estimate that no later block uses up.
+    // So long that the estimate is not over before the last block.
     m_watched->onTransfer = [](bool isWrite, qint64 sector, quint32 bytes) {
         if (isWrite && sector == 0 && bytes == BlockBytes)
             QThread::msleep(200);
@@ -192,7 +192,7 @@ void tst_ThreadDriveClone::progress()
     QCOMPARE(disks.positions.mid(0, wanted.size()), wanted);
     for (const qlonglong remaining : disks.remainders.mid(0, wanted.size()))
         QCOMPARE(remaining != 0, estimated);
-    // Behind that how much is copied, up to all.
+    // The second pass then tells how much is copied, up to all sectors.
     const auto again = disks.positions.mid(wanted.size());
     QCOMPARE(again.isEmpty(), sourceMore.isEmpty());
     QVERIFY(std::is_sorted(again.begin(), again.end()));
@@ -201,7 +201,7 @@ void tst_ThreadDriveClone::progress()
 
 void tst_ThreadDriveClone::remainingTime()
 {
-    // The last block is half a one: the estimate goes by sectors.
+    // The last block is only half full, so the estimate has to count sectors.
     const qint64 sectors = 19 * BlockSectors / 2;
     openPc(sectors, sectors);
     QElapsedTimer clock;
@@ -227,7 +227,7 @@ void tst_ThreadDriveClone::countsRetriedSectors()
     openPc(2 * BlockSectors, 2 * BlockSectors, {}, ",\"unwritable\":[33000]");
     CloneDisks disks(Source, 2 * BlockSectors, Destination);
     runClone(disks);
-    // Every sector that went counts like a block, all at the begin of the failed one.
+    // Each sector that was written singly counts like a block, at the begin of the failed block.
     QCOMPARE(disks.positions.count(BlockSectors), int(BlockSectors - 1) / 3);
 }
 

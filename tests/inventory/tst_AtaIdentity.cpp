@@ -44,13 +44,13 @@ QByteArray smartData()
         data.replace(2 + slot * 12, sizeof bytes, bytes, sizeof bytes);
     };
     entry(0, 5, 100, 99, 0);
-    entry(2, 194, 66, 50, 34); // a slot between stays empty
+    entry(2, 194, 66, 50, 34); // slot 1 stays empty
     entry(3, 194, 60, 50, 77);
     entry(29, 199, 0, 0, 1);
     return data;
 }
 
-/// "features count number low high head command reserved buffer drive", in hexadecimal but for the buffer.
+/// "features count number low high head command reserved buffer drive", the registers in hexadecimal.
 QString textOf(const io::SendCmdInParams &params)
 {
     const io::IdeRegs &regs = params.regs;
@@ -62,7 +62,7 @@ QString textOf(const io::SendCmdInParams &params)
     return parts.join(QLatin1Char(' '));
 }
 
-/// The drive interface of a disk with the devices of a map; keeps what it was asked.
+/// The drive interface of a disk. `map` tells which devices it has; `asked` keeps the questions.
 struct Drive {
     quint8 map = 1;
     bool refusesEnable = false;
@@ -119,7 +119,7 @@ void AtaIdentityTest::cutsText_data()
     row("leading blanks removed", "      SN42", "SN42");
     row("leading blanks, only the last word stays", "    SN 42X", "42X");
     row("leading and trailing blanks leave nothing", "    SN42  ", "");
-    // One leading blank: the stored first byte is the second character.
+    // With one leading blank, the first byte of the data is the second character.
     row("one leading blank", " SN4", "");
     row("second character blank, no trailing one", "A BC", "BC");
     row("blanks", "        ", "");
@@ -151,7 +151,7 @@ void AtaIdentityTest::namesAttributes()
 
 void AtaIdentityTest::ratesAttributes()
 {
-    // Worst state of the list: each slot gets its own threshold.
+    // The state of the whole list is its worst one. Each slot has a threshold of its own.
     ata::ThresholdTable thresholds{};
     DiskIdentity fine;
     ata::decodeAttributes(smartData().replace(2 + 29 * 12 + 3, 1, "\x05"), &fine, thresholds);

@@ -100,7 +100,7 @@ void BootSectorTest::sniffsBytes_data()
 {
     QTest::addColumn<int>("letter");
     QTest::addColumn<bool>("removable");
-    QTest::addColumn<int>("sector"); ///< that bears the name
+    QTest::addColumn<int>("sector"); ///< that has the name
     QTest::addColumn<QByteArray>("name");
     QTest::addColumn<QString>("fileSystem"); ///< empty: no volume
     QTest::newRow("fixed A:") << 0 << false << 0 << QByteArray("NTFS") << QString();
@@ -158,7 +158,7 @@ void BootSectorTest::tellsFatWidth()
     const QByteArray volume = madeBy(command, mebibytes * MiB);
     QTEST(bootsector::isFat16(sectorOf(volume, 0)), "is16");
     QVERIFY(!bootsector::isNtfs(sectorOf(volume, 0)));
-    // The border itself.
+    // The size at which FAT16 begins.
     QByteArray bytes = volume.left(512);
     bytes[22] = 12;
     bytes[23] = 0;

@@ -76,7 +76,7 @@ void CCreateDiskDriveListTest::writesCapacity_data()
     QTest::newRow("1 MiB") << quint64(MiB) << kb << QStringLiteral("1.00 MB");
     QTest::newRow("small disk") << quint64(512 * 1024) << kb << QStringLiteral("512.00 KB");
     QTest::newRow("small volume") << quint64(512 * 1024) << mb << QStringLiteral("512.00 MB");
-    // Half a hundredth goes to the even digit.
+    // A tie is rounded to the even digit.
     const struct {
         const char *name;
         quint64 eighths; // of a GiB
@@ -216,7 +216,7 @@ void CCreateDiskDriveListTest::listsLettersByFirstExtent()
         opened += opening.name.at(4);
         QCOMPARE(opening, (FakePlatform::Opening{opening.name, 0x80000000u, 3, 3}));
     }
-    // Each once for the disks and the volumes together, and the network share not at all.
+    // Each volume is opened once, for disks and volumes together; the network share is not opened.
     QCOMPARE(opened, QStringLiteral("CDEFG"));
     QCOMPARE(fake->openHandles(), 0);
 }

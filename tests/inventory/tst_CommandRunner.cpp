@@ -150,7 +150,7 @@ void CommandRunnerTest::decodesBothKindsOfTool()
 
 void CommandRunnerTest::readsNoBreakBlanks()
 {
-    // Where a byte ahead of it is beyond ASCII it is a part of a letter.
+    // After a byte beyond ASCII, 0xA0 is a part of a letter.
     const QByteArray output = "18\xA0"
                               "250\xA0"
                               "344\r\n" +

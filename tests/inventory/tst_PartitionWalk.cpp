@@ -35,7 +35,7 @@ Found walk(int driveCode)
     return found;
 }
 
-/// The Linux partitions by the words of the tool, in the order of their numbers.
+/// The Linux partitions as sfdisk lists them, in the order of their numbers.
 Found linuxPartitions(const QJsonObject &table, const QVector<int> &extOnBasicData)
 {
     const bool gpt = table[QStringLiteral("label")].toString() == QLatin1String("gpt");
@@ -245,7 +245,7 @@ void PartitionWalkTest::endsLongChains()
     QCOMPARE(int(g_partitionWalk.currentBase), 0);
 }
 
-/// Every table names the four that follow it: as many ways as there are tables to the power of four.
+/// Each table names the next three, so the number of ways grows with each table. Each is read once.
 void PartitionWalkTest::endsBranchingTables()
 {
     constexpr int Tables = 300;
@@ -275,7 +275,7 @@ void PartitionWalkTest::keepsWhatItFound()
     fake->disks[0].badSectors << 112;
     const Found beforeArrayFails{{100, 10, 109}, {120, 10, 129}};
     QCOMPARE(walk(128), beforeArrayFails + Found({{130, 10, 139}, {10, 5, 15}}));
-    // The array cannot be read on: that ends its table, slots behind it included.
+    // If the array cannot be read any further, the walk leaves its table, slots behind it included.
     fake->disks[0].badSectors << 3;
     QCOMPARE(walk(128), beforeArrayFails);
     fake->disks[0].badSectors = {1};

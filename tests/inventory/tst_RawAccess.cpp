@@ -46,7 +46,7 @@ void RawAccessTest::namesTargets()
     QFETCH(int, code);
     OpenDisk(code);
     QFETCH(QString, name);
-    // Read and write, shared for all that others may do, and never made anew.
+    // For reading and writing; others may read, write and delete; a missing file is not made.
     QCOMPARE(fake->openings, QVector<FakePlatform::Opening>({{name, 0xC0000000u, 7, 3}}));
 }
 
@@ -57,7 +57,7 @@ void RawAccessTest::readsAndCloses()
         QVERIFY(ReadWriteSectors(code, 2, buffer.data(), 1024));
         QCOMPARE(buffer, QByteArray(512, '2') + QByteArray(512, '3'));
 
-        // Cut at the end: one sector comes, the rest stays.
+        // Cut at the end: one sector is read, the rest of the buffer stays.
         buffer.fill('x');
         QVERIFY(ReadWriteSectors(code, 3, buffer.data(), 1024));
         QCOMPARE(buffer, QByteArray(512, '3') + QByteArray(512, 'x'));

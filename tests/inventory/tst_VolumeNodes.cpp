@@ -41,7 +41,7 @@ QByteArray bootSector(const QByteArray &name, quint16 sectorsPerFat, bool isSign
     return disk.bytes;
 }
 
-/// A disk with one MBR partition for each name; a name stands as mount point in its superblock.
+/// A disk with one MBR partition for each name, which is the mount point in its superblock.
 QByteArray linuxDisk(const QVector<QByteArray> &names)
 {
     HandMadeDisk disk(64);
@@ -117,7 +117,7 @@ void VolumeNodesTest::takesTypes()
     add('E', "NTFS", total).type = type;
     const auto nodes = build();
     QCOMPARE(nodes.size(), text.isEmpty() ? 0 : 1);
-    // A volume that is not listed is not asked for its label: a dead network share would not answer.
+    // A volume that is not listed is not asked for its label: a network share that is gone answers late.
     QCOMPARE(fake->labelsAsked.size(), nodes.size());
     if (nodes.isEmpty())
         return;
@@ -158,7 +158,7 @@ void VolumeNodesTest::codesFileSystems()
 
 void VolumeNodesTest::fillsVolumes()
 {
-    add('A', "", 0); // fixed and nameless: no node, and no id either
+    add('A', "", 0); // fixed and without a name: no node, and no id is used up
     add('C', "NTFS", 3 * GiB + 1, 7).label = QStringLiteral("Sys\u202Etem");
     add('E', "RAW", 5 * MiB);
     const auto nodes = build();
@@ -253,14 +253,14 @@ void VolumeNodesTest::tiesToDisks()
         FakePlatform::Volume &volume = add('E', fileSystem, 10 * MiB);
         volume.type = type;
         volume.extents.clear();
-        // The length is no whole number of sectors.
+        // The length is not a multiple of a sector.
         for (const quint32 disk : disks)
             volume.extents << io::DiskExtent{disk, 0, qint64(MiB), 4095 * 512 + 511};
         const LogicalDetails &node = *build().at(0)->pLogical;
         const QVector<quint64> place{node.nStartSector, node.nSectorCount, node.nEndSector, node.nParentId,
                                      node.bSpanned};
         QTEST(place, "place");
-        // A volume that is not fixed is not asked, and the answer has room for 42.
+        // Only fixed volumes are asked for extents, and the answer has room for 42.
         const bool answered = type == io::DriveFixed && disks.size() <= 42;
         QCOMPARE(node.disks, answered ? QVector<int>(disks.cbegin(), disks.cend()) : QVector<int>());
     }
@@ -316,7 +316,7 @@ void VolumeNodesTest::listsLinuxPartitions()
     add('C', "NTFS", MiB);
     auto nodes = build();
     QCOMPARE(nodes.size(), 6);
-    // Fixed disks come first; the number counts every partition, across disks.
+    // Fixed disks come first. The number counts the partitions of all disks.
     const QStringList names{QStringLiteral("/home"), QStringLiteral("Volume 2"), QStringLiteral("Volume 3"),
                             QStringLiteral("Volume 4"), QStringLiteral("/a-path-longer-t")};
     const QVector<int> parents{129, 129, 130, 128, 128};

@@ -86,7 +86,7 @@ private slots:
     void findsSystemDisk();
 
 private:
-    /// What a command that contains the key prints; a command without an entry does not start.
+    /// What a command prints that contains the key. A command without an entry does not start.
     QMap<QString, QByteArray> outputs;
     FakePlatform *fake = nullptr;
 };
@@ -235,7 +235,7 @@ void WmicInventoryTest::loadsDiskDrives()
     LoadDiskDrives(ignoreIdentity);
     QTEST(diskRecords(), "records");
     QVERIFY(!QFile::exists(tempFile(QStringLiteral("DiskInfo.txt"))));
-    // No disk is the one of a blank line.
+    // The record of a blank line belongs to no disk.
     const WmicDiskRecord *last = g_pWmicDiskListTail;
     QCOMPARE(last->nDiskId, last->nIndex == wmic::Nobody ? wmic::Nobody : last->nIndex + 128);
 }
@@ -301,7 +301,7 @@ void WmicInventoryTest::loadsLogicalDisks()
                {QStringLiteral("-status D:"), sample(QStringLiteral("manage-bde-c-decrypted-win11.txt"))},
                {QStringLiteral("-status "), sample(QStringLiteral("manage-bde-access-denied.txt"))},
                {QStringLiteral("partition"), sample(QStringLiteral("partition-diskindex.txt"))}};
-    // The most telling key must win over the general one.
+    // The longest key that fits decides.
     fake->onCommand = [this](const QString &line) {
         QString best;
         for (auto it = outputs.cbegin(); it != outputs.cend(); ++it) {

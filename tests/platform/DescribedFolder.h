@@ -24,7 +24,7 @@ public:
             qFatal("a test file cannot be written");
     }
 
-    /// The PC of `json`; ends the test program if that is no description.
+    /// The PC of `json`; ends the test program if the description is wrong.
     std::unique_ptr<SimulatedPlatform> open(const QByteArray &json, simulated::Clock clock = {}) const
     {
         add(QStringLiteral("pc.json"), json);
@@ -46,7 +46,7 @@ private:
     QTemporaryDir m_state;
 };
 
-/// What a command of the PC leaves in a file.
+/// The output file of a command on the PC.
 inline QByteArray outputOf(Platform &pc, const QString &command)
 {
     const QString file = pc.GetTempPathW() + QLatin1String("out.txt");

@@ -23,14 +23,14 @@ inline bool runs(const QString &program, const QStringList &arguments, QByteArra
     return ended && process.exitCode() == 0;
 }
 
-/// Gives the process a mount table of its own, so that its mounts end with it, however it ends. Before any
-/// thread is started. False without the rights for it.
+/// Gives the process a mount table of its own, so that its mounts end with it, however it ends. Call it
+/// before any thread is started. False without the rights for it.
 inline bool keepMountsToOurselves()
 {
     return unshare(CLONE_NEWNS) == 0 && mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
 }
 
-/// A loop device on an image of the test's own. The kernel takes it away when the process ends, however it
+/// A loop device on an image of the test's own. The kernel detaches it when the process ends, however it
 /// ends. Without root or loop devices node() is empty.
 class LoopDevice
 {
@@ -63,7 +63,7 @@ public:
 
     QString node() const { return m_node; }
     QString partition(int number) const { return QStringLiteral("%1p%2").arg(m_node).arg(number); }
-    /// Makes the kernel know the partitions of the image's table, also one that cannot read tables itself.
+    /// Tells the kernel the partitions of the image, even if it cannot read their table.
     bool showPartitions() const { return runs(QStringLiteral("partx"), {QStringLiteral("-u"), m_node}); }
 
 private:
@@ -81,7 +81,7 @@ private:
     int m_held = -1;
 };
 
-/// A mounted file system; unmounted again by unmount() or when it goes.
+/// A mounted file system; unmount() or the destructor unmounts it.
 class Mount
 {
 public:

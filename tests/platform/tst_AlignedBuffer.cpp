@@ -5,7 +5,7 @@
 
 #include <cstring>
 
-/// What a raw device is handed: aligned memory and whole sectors, whatever the program reads and writes.
+/// A raw device gets aligned memory and whole sectors, whatever the program reads and writes.
 class tst_AlignedBuffer : public QObject
 {
     Q_OBJECT

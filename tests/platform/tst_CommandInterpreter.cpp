@@ -135,7 +135,7 @@ void tst_CommandInterpreter::cutsTheTargetAtABlank()
     const QString wanted = folder + QStringLiteral("/out.txt");
     QVERIFY(runLine("echo64 a >> " + wanted.toUtf8() + ' '));
     QVERIFY(!QFile::exists(wanted));
-    // What was cut away is one more word for the tool.
+    // What stands behind the blank is one more argument of the tool.
     QCOMPARE(contentOf(m_folder->filePath(QStringLiteral("John"))), QByteArray("a+Doe/out.txt\n"));
 }
 
@@ -153,7 +153,7 @@ void tst_CommandInterpreter::slowToolWritesInPieces()
     QVERIFY(first.open(QIODevice::ReadOnly));
     QVERIFY(first.size() < 1000);
 #ifdef Q_OS_WIN
-    constexpr bool keeps = true; // a file that a process writes to
+    constexpr bool keeps = true; // Windows does not remove a file that a process writes to
 #else
     constexpr bool keeps = false;
 #endif
@@ -161,7 +161,7 @@ void tst_CommandInterpreter::slowToolWritesInPieces()
     QVERIFY(process->wait(10000));
     QVERIFY(clock.elapsed() >= 400);
     QCOMPARE(removed, !keeps);
-    // The rest went to the file that it had opened, not to a new one of that name.
+    // The tool wrote the rest to the file that it had opened, not to a new one of that name.
     QCOMPARE(QFileInfo::exists(m_target), keeps);
     QCOMPARE(first.size(), 1000);
 }

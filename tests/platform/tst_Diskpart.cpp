@@ -10,7 +10,7 @@
 namespace
 {
 
-/// Notes what is asked of the disks 1 and 12; cleaning ends as told.
+/// Records the actions on the disks 1 and 12. The outcome of a clean is set by the test.
 class NotedDisks : public tools::ScriptedDisks
 {
 public:
@@ -120,7 +120,7 @@ void tst_Diskpart::wipesAndPartitions_data()
 {
     QTest::addColumn<int>("sectors");
     QTest::addColumn<int>("bytesPerSector");
-    QTest::addColumn<int>("first"); // of the partition; 0: there is none
+    QTest::addColumn<int>("first"); // sector of the partition; 0: there is none
     QTest::newRow("some MiB") << 20480 << 512 << 2048;
     QTest::newRow("larger sectors") << 20480 << 4096 << 256;
     QTest::newRow("a sector of room") << 2049 << 512 << 2048;

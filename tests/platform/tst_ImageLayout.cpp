@@ -52,7 +52,7 @@ QByteArray described(const QByteArray &systems, const QByteArray &more = QByteAr
 
 } // namespace
 
-/// Images with partition tables and file systems by the real tools.
+/// Images with partition tables and file systems, made by the real tools.
 class TestImageLayout : public QObject
 {
     Q_OBJECT
@@ -81,7 +81,7 @@ void TestImageLayout::fileSystems_data()
     QTest::addColumn<QByteArray>("system");
     QTest::addColumn<int>("at"); // offset in the partition
     QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QStringList>("check"); // finds no fault in it
+    QTest::addColumn<QStringList>("check"); // a tool that must find no fault
     const QStringList e2fsck{QStringLiteral("e2fsck"), QStringLiteral("-fn")};
     const QStringList fat{QStringLiteral("fsck.vfat"), QStringLiteral("-n")};
     const QByteArray hidden("\0\x08\0\0", 4); // sectors in front of the partition

@@ -15,7 +15,7 @@ constexpr int ImageBytes = 8 * 1024 * 1024;
 
 } // namespace
 
-/// The partition tool on loop devices of the test's own. Skipped where there are none.
+/// The partition tool on loop devices of the test's own. Skipped if there are none.
 class tst_LinuxDiskpart : public QObject
 {
     Q_OBJECT
@@ -162,7 +162,7 @@ void tst_LinuxDiskpart::cleansADiskInUse()
     busy.close();
     const QByteArray cleaned = run("SELECT DISK 1\nclean\nEXIT");
     QVERIFY2(cleaned.contains("DiskPart succeeded in cleaning the disk."), cleaned.constData());
-    QVERIFY(!mount.unmount()); // it no longer is
+    QVERIFY(!mount.unmount()); // it is unmounted already
 }
 
 void tst_LinuxDiskpart::sparesTheRunningSystem()
@@ -170,7 +170,7 @@ void tst_LinuxDiskpart::sparesTheRunningSystem()
     if (!m_pc || !m_ownMounts)
         QSKIP("no loop devices or mounts here");
     QVERIFY(runs(QStringLiteral("mke2fs"), {QStringLiteral("-q"), QStringLiteral("-F"), m_loops[1]->node()}));
-    // In this process's own table of mounts alone.
+    // Mounted in this process's own mount table only.
     Mount mount(m_loops[1]->node(), QStringLiteral("/boot"));
     if (!mount.isMounted())
         QSKIP("this kernel mounts no such file system");

@@ -154,14 +154,14 @@ void tst_LinuxPlatform::checkReads(Platform &pc, Platform::RawHandle handle)
     QByteArray buffer(content.size() + SectorSize, 'x');
     quint32 got = 0;
 
-    // Whole, from an odd address, over the end.
+    // The whole disk, to an odd address, past the end.
     QVERIFY(pc.ReadFile(handle, buffer.data() + 1, quint32(content.size() + 100), &got));
     QCOMPARE(got, quint32(content.size()));
     QCOMPARE(buffer.mid(1, content.size()), content);
     QVERIFY(!pc.ReadFile(handle, buffer.data(), SectorSize, &got));
     QCOMPARE(got, 0u);
 
-    // The last sector of four asked for; then two in a row from a place within the disk.
+    // Four sectors are asked for at the last one, which is read; then two sectors one after the other.
     QVERIFY(pc.SetFilePointer(handle, (Sectors - 1) * SectorSize));
     QVERIFY(pc.ReadFile(handle, buffer.data(), 4 * SectorSize, &got));
     QCOMPARE(got, quint32(SectorSize));
@@ -171,7 +171,7 @@ void tst_LinuxPlatform::checkReads(Platform &pc, Platform::RawHandle handle)
     QVERIFY(pc.ReadFile(handle, buffer.data() + SectorSize, SectorSize, &got));
     QCOMPARE(buffer.left(2 * SectorSize), content.mid(7 * SectorSize, 2 * SectorSize));
 
-    // A piece of a sector.
+    // A part of a sector.
     QVERIFY(pc.SetFilePointer(handle, SectorSize + 100));
     QVERIFY(pc.ReadFile(handle, buffer.data(), 600, &got));
     QCOMPARE(buffer.left(600), content.mid(SectorSize + 100, 600));
@@ -355,7 +355,7 @@ void tst_LinuxPlatform::smartctlOutput()
     const QString line = QStringLiteral("smartctl64Bit.exe -a  -d sat,12 /dev/sda >> ") + path("out.txt");
     const auto rootAgain = qScopeGuard([] { (void)seteuid(getuid()); });
     if (getuid() == 0) {
-        // Root takes no tool from the search path.
+        // As root no tool is taken from the search path.
         QVERIFY(runLine(*pc, line));
         QVERIFY(!contentOf(path("out.txt")).contains("asked"));
         QVERIFY(QFile::remove(path("out.txt")));

@@ -106,13 +106,13 @@ void tst_LinuxUser::tempFolder()
 {
     const auto pc = linuxPcIn(m_home.path());
     QCOMPARE(pc->GetTempPathW(), m_home.path() + QStringLiteral("/velmora-halvane/"));
-    // Where no folder of that name can be had, a fresh one does.
+    // If that folder cannot be used, a fresh one is made.
     QVERIFY(QFile::link(m_home.path(), path("spoilt")));
     QTest::ignoreMessage(QtWarningMsg,
                          QRegularExpression(QStringLiteral("temp folder cannot be used: .*/spoilt: ")));
     const QString fresh = folders::chooseTemp({path("spoilt")});
     QVERIFY(fresh.startsWith(QLatin1String("/tmp/velmora-halvane-")) && QDir().rmdir(fresh));
-    // What the program would make in the root of drive C: goes there too, and nothing else does.
+    // A path on C: leads below the root folder, not into the temp folder.
     QCOMPARE(pc->NativePath(QStringLiteral("C:\\updatetmps\\a")), QStringLiteral("/updatetmps/a"));
 }
 

@@ -19,7 +19,7 @@ namespace
 
 constexpr qint64 Megabyte = 1024 * 1024;
 constexpr quint32 ReadWrite = io::GenericRead | io::GenericWrite;
-constexpr int Settled = 1500; ///< milliseconds after which nothing more is told
+constexpr int Settled = 1500; ///< milliseconds after which no more notices come
 const QString FirstDisk = QStringLiteral("\\\\.\\PHYSICALDRIVE0");
 const char *const ProbeVariable = "HALVANE_TEST_PROBE";
 
@@ -66,7 +66,7 @@ QByteArray listOfDisks()
     return lines;
 }
 
-/// What a process of another user sees. Without an event loop, as there is no application.
+/// Prints what a process of another user sees. Runs without an application, so without an event loop.
 int probe(const QByteArray &user)
 {
     const auto id = static_cast<uid_t>(user.toUInt());
@@ -82,7 +82,7 @@ int probe(const QByteArray &user)
 
 } // namespace
 
-/// Real block devices, made by the test: what the platform shows of them, and what it tells when they change.
+/// Real block devices, made by the test: how the platform shows them, and its notices when they change.
 class tst_LinuxVolumes : public QObject
 {
     Q_OBJECT
@@ -137,7 +137,7 @@ void tst_LinuxVolumes::init()
 
 void tst_LinuxVolumes::cleanup()
 {
-    // The platform goes first, as it may hold the devices open.
+    // The platform is deleted first, as it may have the devices open.
     Platform::install(nullptr);
     m_parted.reset();
     m_whole.reset();
@@ -274,7 +274,7 @@ QByteArray tst_LinuxVolumes::probeAs(const char *user, QByteArray *errors)
 void tst_LinuxVolumes::withoutRights()
 {
     QVERIFY(makeVolumes());
-    // The folder of the images is closed to others, and a volume in it would be out of their sight.
+    // Others may not enter the folder of the images, and would not see a volume mounted in it.
     QVERIFY(QFile::setPermissions(m_folder->path(), QFile::Permissions(0x7755)));
     const Mount mounted(m_parted->partition(2), path("a"));
     QVERIFY(mounted.isMounted());
@@ -303,7 +303,7 @@ void tst_LinuxVolumes::mountingTells()
     QCOMPARE(changesOf(spy), Changes{DeviceChange::Arrival});
     QCOMPARE(pc.GetLogicalDriveStringsW(), QStringList{"D:\\"});
 
-    // A volume in a second place has its letter already.
+    // A second mount of a volume is no new volume.
     QVERIFY(runs(QStringLiteral("mount"), {QStringLiteral("--bind"), path("a"), path("b")}));
     QVERIFY(runs(QStringLiteral("umount"), {path("b")}));
     QTest::qWait(Settled);
@@ -315,7 +315,7 @@ void tst_LinuxVolumes::mountingTells()
     QCOMPARE(changesOf(spy), Changes{DeviceChange::RemoveComplete});
     QVERIFY(pc.GetLogicalDriveStringsW().isEmpty());
 
-    // Two volumes at once are one event.
+    // Two volumes at the same time give one notice.
     spy.clear();
     const Mount second(m_parted->partition(2), path("b"));
     const Mount third(m_whole->node(), path("c"));
@@ -349,7 +349,7 @@ void tst_LinuxVolumes::attachingTells()
     QTest::qWait(Settled);
     QCOMPARE(changesOf(spy), Changes{DeviceChange::Arrival});
 
-    // A medium that takes the place of another at once.
+    // Another medium on the same node at once.
     spy.clear();
     stick.reset();
     stick = std::make_unique<LoopDevice>(image);
@@ -365,8 +365,8 @@ void tst_LinuxVolumes::lookingTellsNothing()
     const QStringList nodes{m_parted->node(), m_whole->node()};
     Platform &pc = platformOn(nodes);
     QSignalSpy spy(pc.deviceNotifier(), &DeviceNotifier::deviceChange);
-    // The system looks at a disk anew when a descriptor for writing is closed: it watches the nodes like
-    // this.
+    // The system reads a disk anew when a descriptor for writing is closed. It watches the nodes as this
+    // does.
     const int watch = inotify_init1(IN_CLOEXEC | IN_NONBLOCK);
     for (const QString &node : nodes)
         QVERIFY(inotify_add_watch(watch, QFile::encodeName(node).constData(), IN_CLOSE_WRITE) >= 0);

@@ -117,7 +117,7 @@ void tst_LsblkInventory::partitionsOfAWorkstation()
 {
     QCOMPARE(describeAll(parseFile("lsblk-workstation.json").machine.partitions),
              (QStringList{
-                 // As the volumes of the other test.
+                 // The same volumes as in the other test.
                  QStringLiteral("Disk #0, Partition #1; GPT: Unknown; 107374182400; 0"),
                  QStringLiteral("Disk #0, Partition #0; GPT: System; 536870912; 0"),
                  QStringLiteral("Disk #0, Partition #2; GPT: Unknown; 300000000000; 0"),

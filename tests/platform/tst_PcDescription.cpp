@@ -71,7 +71,7 @@ void TestPcDescription::readsEveryKey()
     QCOMPARE(disk.identity->smart, QByteArray("\x01\xff"));
     QCOMPARE(disk.selfTestEnd.status, 7);
     QCOMPARE(disk.selfTestEnd.remainingTenths, 6);
-    QCOMPARE(pc->disk(1)->selfTestEnd.status, 6); // the PC's own word
+    QCOMPARE(pc->disk(1)->selfTestEnd.status, 6); // from the PC's own "selfTest"
     QCOMPARE(pc->disk(1)->reports.size(), 1);
 
     const inventory::Volume &volume = *pc->volume(QLatin1Char('C'));
@@ -201,7 +201,7 @@ void TestPcDescription::missingPlaces()
 void TestPcDescription::ranges_data()
 {
     QTest::addColumn<QVector<QPair<int, int>>>("added");
-    QTest::addColumn<QString>("inside"); // of the sectors 0 to 9
+    QTest::addColumn<QString>("inside"); // which of the sectors 0 to 9
     using Pairs = QVector<QPair<int, int>>;
     QTest::newRow("none") << Pairs{} << "";
     QTest::newRow("unsorted") << Pairs{{7, 1}, {2, 2}} << "237";

@@ -22,7 +22,7 @@ const QByteArray Described = R"({
 
 } // namespace
 
-/// Volumes and disks that come and go by touches on the state folder.
+/// Volumes and disks that files in the state folder plug in and pull out.
 class TestPlugging : public QObject
 {
     Q_OBJECT
@@ -37,7 +37,7 @@ private slots:
     void openHandlesFail();
 
 private:
-    /// Makes the files and waits until the PC has taken them away.
+    /// Makes the files and waits until the PC has removed them.
     void touch(const QStringList &names);
     QString letters() const;
     bool opens(const QString &name) const;
@@ -83,7 +83,7 @@ bool TestPlugging::opens(const QString &name) const
 
 void TestPlugging::touches_data()
 {
-    QTest::addColumn<QStringList>("steps"); // files of one step are parted by blanks
+    QTest::addColumn<QStringList>("steps"); // the files of one step have blanks between them
     QTest::addColumn<QString>("notices");   // + arrival, - removal
     QTest::addColumn<QString>("letters");
     const auto row = [](const char *steps, const char *notices, const char *letters) {

@@ -109,7 +109,7 @@ void TestSimulatedDisks::writes()
     QCOMPARE(data, QByteArray(512, '\0') + sector);
     QCOMPARE(readAt(*pc, handle, 50 * 512, 512, &data), 512);
     QCOMPARE(data, QByteArray(512, '\0'));
-    // A transfer goes on where the one before it ended.
+    // A transfer begins where the one before it ended.
     quint32 moved = 0;
     QVERIFY(pc->SetFilePointer(handle, 48 * 512));
     QVERIFY(pc->ReadFile(handle, data.data(), 512, &moved) &&
@@ -177,7 +177,7 @@ void TestSimulatedDisks::imageOfTheFolderStaysAsItIs()
     QCOMPARE(readAt(*pc, handle, 999 * 512, 512), 512); // the image grew to the disk's size
     QCOMPARE(writeAt(*pc, handle, 0, QByteArray(512, 'n')), 512);
     QCOMPARE(DescribedFolder::contents(folder.path() + QStringLiteral("/disk.img")), image);
-    // The state outlives the program.
+    // The state stays when the program ends.
     pc = folder.open(json);
     handle = openRaw(*pc, "\\\\.\\PHYSICALDRIVE0");
     QCOMPARE(readAt(*pc, handle, 0, 512, &data), 512);
@@ -218,7 +218,7 @@ void TestSimulatedDisks::volumesLieOnDisks()
     QByteArray data;
     QCOMPARE(readAt(*pc, spanned, 512, 1024, &data), 1024);
     QCOMPARE(data, QByteArray(512, 'A') + QByteArray(512, 'B'));
-    QCOMPARE(readAt(*pc, spanned, 512, 1536), -1); // reaches the bad sector of the second disk
+    QCOMPARE(readAt(*pc, spanned, 512, 1536), -1); // includes the bad sector of the second disk
     QCOMPARE(readAt(*pc, spanned, 2048, 512), -1); // the volume ends before the disk
     QCOMPARE(writeAt(*pc, spanned, 0, QByteArray(512, 'n')), 512);
     QCOMPARE(readAt(*pc, openRaw(*pc, "\\\\.\\PHYSICALDRIVE0"), 1024, 512, &data), 512);

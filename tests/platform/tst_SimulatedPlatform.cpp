@@ -220,7 +220,7 @@ void TestSimulatedPlatform::settingsOfOtherPaths()
     QVERIFY(pc->OpenSettings(QStringLiteral("HKEY_CURRENT_USER\\Elsewhere"))->allKeys().isEmpty());
     const QString file = jsonsettings::fileOf(QStringLiteral("/state"), QStringLiteral("A\\..\\B//C:D"));
     QCOMPARE(file, QStringLiteral("/state/A/B/C_D.json"));
-    // A file that is no JSON reads as empty and is not lost by reading it.
+    // A file that is no JSON reads as empty, and reading does not change it.
     const QString broken =
         jsonsettings::fileOf(folder.state() + QStringLiteral("/registry"), QStringLiteral("X"));
     QFile out(broken);
@@ -236,7 +236,7 @@ void TestSimulatedPlatform::settingsThatKeepNothing()
     const auto pc = folder.open("{}");
     pc->OpenSettings(QString())->setValue(QStringLiteral("LanguageType"), QStringLiteral("7"));
     QVERIFY(pc->OpenSettings(QString())->allKeys().isEmpty());
-    // The same where the place cannot be written: a file stands where a folder would have to be.
+    // The same if the folder cannot be made, because a file has its name.
     QFile blocker(folder.state() + QStringLiteral("/registry/HKEY_LOCAL_MACHINE"));
     QVERIFY(blocker.open(QIODevice::WriteOnly));
     pc->OpenSettings(productPath)->setValue(QStringLiteral("LanguageType"), QStringLiteral("7"));
@@ -363,7 +363,7 @@ void TestSimulatedPlatform::stateOfItsOwn()
     QVERIFY(pc != nullptr);
     const QString state = pc->stateFolder();
     QVERIFY(!state.contains(QLatin1Char(' ')));
-#ifndef Q_OS_WIN // there the access list of the user's temp folder keeps others out
+#ifndef Q_OS_WIN // on Windows the access list of the user's temp folder keeps others out
     QCOMPARE(QFile::permissions(state) &
                  (QFile::ReadGroup | QFile::ReadOther | QFile::ExeGroup | QFile::ExeOther),
              QFile::Permissions());

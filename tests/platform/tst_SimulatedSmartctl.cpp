@@ -21,7 +21,7 @@ const QByteArray oldLog =
     "Num  Test_Description    Status                  Remaining  LifeTime(hours)  LBA_of_first_error\n"
     "# 1  Extended offline    Completed without error       00%     17092         -\n";
 
-/// One disk, a minute of its tests taking one second; `%1` are more keys of the disk.
+/// One disk; a minute of its tests takes one second. `%1` are more keys of the disk.
 QByteArray pcWith(const QByteArray &keys)
 {
     return R"({"disks": [{"number": 1, "sectors": 100, "capabilities": "c.txt"
@@ -147,7 +147,7 @@ void TestSimulatedSmartctl::testRunsToItsEnd()
     QCOMPARE(outputOf(*pc, QStringLiteral("smartctl64Bit.exe -l selftest /dev/sdb")), oldLog);
 
     m_now += 1;
-    pc = folder.open(json, clock()); // a drive does not care whether the program runs
+    pc = folder.open(json, clock()); // a test goes on while the program does not run
     QCOMPARE(status(*pc), QStringLiteral("( 0) The previous self-test routine completed without error or no "
                                          "self-test has ever been run."));
     const QList<QByteArray> lines =

@@ -5,7 +5,7 @@
 
 #include <QtTest>
 
-/// What Windows' storage interface answers, up to what the disk list reads of it.
+/// Answers of Windows' storage interface, and the table that the disk list reads from them.
 class tst_StorageRecords : public QObject
 {
     Q_OBJECT
@@ -67,7 +67,7 @@ void tst_StorageRecords::disks()
         wmic::parseDiskDrive(QStringLiteral("3  %1  %2  OK  ").arg(disk.interfaceType, disk.model));
     QTEST(disk.media + QLatin1Char(' ') + line.interfaceText + QLatin1Char(':') + line.model, "shown");
     QCOMPARE(disk.serial, bus == 0 ? QString() : QStringLiteral("QD40 17"));
-    // An answer that ends in the middle: nothing behind it is read.
+    // An answer that ends in the middle; nothing behind its end may be read.
     QCOMPARE(storage::readDisk(3, record.bytes.left(18)).model, QStringLiteral("Disk 3 HDD Device"));
 }
 

@@ -12,7 +12,7 @@ using inventory::Disk;
 using inventory::Machine;
 using inventory::Volume;
 
-/// The tables are compared as the bytes that a redirected tool leaves.
+/// The tables are compared byte by byte, as a tool writes them to a file.
 QByteArray utf16(const char *text)
 {
     QByteArray bytes("\xFF\xFE");
@@ -180,7 +180,7 @@ void tst_SystemTools::wmicRefuses()
 void tst_SystemTools::wmicWithoutRows()
 {
     QCOMPARE(ask(Machine(), "diskdrive get model"), QByteArray());
-    // Nor does a model make a row of its own.
+    // A line end in a model makes no row of its own.
     Machine pc;
     pc.disks = {disk(0, "A\r\n1", "IDE", "fixed", 1)};
     QCOMPARE(ask(pc, "diskdrive get model").count('\n'), 3);

@@ -14,9 +14,9 @@
 #include <dbt.h>
 #include <sddl.h>
 
-/// The Windows platform on the machine itself. packaging/windows/wine-test prepares what some cases need and
-/// names it: HALVANE_TEST_IMAGE is a file that stands behind \\.\PHYSICALDRIVE0, HALVANE_TEST_URL a web
-/// folder with "page.txt".
+/// The Windows platform on the machine itself. Some cases need variables that packaging/windows/wine-test
+/// sets: HALVANE_TEST_IMAGE is the file behind \\.\PHYSICALDRIVE0, HALVANE_TEST_URL a web folder with
+/// "page.txt".
 class tst_WindowsPlatform : public QObject
 {
     Q_OBJECT
@@ -37,7 +37,7 @@ private slots:
 
 private:
     QString path(const QString &name) const { return m_folder->filePath(name); }
-    /// A handle on the first disk, once it is sure that nothing but the image stands behind it.
+    /// A handle of the first disk, after a check that it is the image and nothing else.
     Platform::RawHandle openImage(quint32 access);
 
     QScopedPointer<QTemporaryDir> m_folder;
@@ -78,7 +78,7 @@ const wchar_t *wide(const QString &text)
     return reinterpret_cast<const wchar_t *>(text.utf16());
 }
 
-/// The type of a registry value; REG_NONE where there is none.
+/// The type of a registry value; REG_NONE if there is none.
 DWORD registryType(const QString &subKey, const QString &name)
 {
     DWORD type = REG_NONE;
@@ -107,7 +107,7 @@ Platform::RawHandle tst_WindowsPlatform::openImage(quint32 access)
     Platform &pc = Platform::current();
     const auto handle =
         pc.CreateFileW(FirstDisk, access, io::ShareRead | io::ShareWrite | io::ShareDelete, io::OpenExisting);
-    // A disk of the machine holds no such thing.
+    // No real disk has this content.
     QByteArray start(SectorSize, '\0');
     if (pc.ReadFile(handle, start.data(), SectorSize, nullptr) && start == pattern().left(SectorSize) &&
         pc.SetFilePointer(handle, 0))
@@ -129,14 +129,14 @@ void tst_WindowsPlatform::readsRawDisk()
     QByteArray buffer(content.size() + SectorSize, 'x');
     quint32 got = 0;
 
-    // Whole, over the end; then from the end.
+    // The whole disk and more; then behind its end.
     QVERIFY(pc.ReadFile(handle, buffer.data(), quint32(buffer.size()), &got));
     QCOMPARE(got, quint32(content.size()));
     QCOMPARE(buffer.left(content.size()), content);
     QVERIFY(!pc.ReadFile(handle, buffer.data(), SectorSize, &got));
     QCOMPARE(got, 0u);
 
-    // The last sector of four asked for; then two in a row from a place within the disk.
+    // Four sectors are asked for at the last one, which is read; then two sectors one after the other.
     QVERIFY(pc.SetFilePointer(handle, (Sectors - 1) * SectorSize));
     QVERIFY(pc.ReadFile(handle, buffer.data(), 4 * SectorSize, &got));
     QCOMPARE(got, quint32(SectorSize));
@@ -159,7 +159,7 @@ void tst_WindowsPlatform::writesRawDisk()
 {
     if (m_strImage.isEmpty())
         QSKIP("no image stands behind the first disk");
-    // Large enough that an offset needs its high half.
+    // So large that the offset does not fit 32 bits.
     constexpr qint64 Far = (qint64{1} << 32) + 5 * SectorSize;
     QVERIFY(writeFile(m_strImage, pattern()));
     QVERIFY(QFile::resize(m_strImage, Far + SectorSize));
@@ -261,7 +261,7 @@ void tst_WindowsPlatform::foldersAndNames()
     QCOMPARE(pc.HistoryFolder(m_folder->path()), path(QStringLiteral("history")));
     const QString other = pc.HistoryFolder(path(QStringLiteral("missing")));
     QVERIFY(QDir(other).exists() && !other.startsWith(m_folder->path()));
-    // Nor is one that all may write to.
+    // A folder that all may write to is not used either.
     PSECURITY_DESCRIPTOR everybody = nullptr;
     QVERIFY(::ConvertStringSecurityDescriptorToSecurityDescriptorW(L"D:(A;OICI;FA;;;WD)", SDDL_REVISION_1,
                                                                    &everybody, nullptr));
@@ -269,7 +269,7 @@ void tst_WindowsPlatform::foldersAndNames()
     const BOOL opened = ::SetFileSecurityW(name.c_str(), DACL_SECURITY_INFORMATION, everybody);
     ::LocalFree(everybody);
     QVERIFY(opened);
-    // Wine does not keep the owner of the other one, which is then not taken up again.
+    // Not compared with `other`: Wine does not keep the owner of that folder, so it is not used again.
     QVERIFY(pc.HistoryFolder(m_folder->path()) != path(QStringLiteral("history")));
 }
 

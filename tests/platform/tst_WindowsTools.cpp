@@ -22,8 +22,8 @@
 
 #include <taskschd.h>
 
-/// The tools of Windows as the program runs and reads them, its other programs, and the task at logon. What
-/// Wine is known not to do is expected to fail there, and only there.
+/// The tools of Windows as the program runs and reads them, the companion, and the task at logon. What Wine
+/// cannot do is expected to fail under Wine, and only there.
 class tst_WindowsTools : public QObject
 {
     Q_OBJECT
@@ -48,7 +48,7 @@ private slots:
 
 private:
     QString path(const QString &name) const { return m_folder->filePath(name); }
-    /// Starts a copy of this program under another name, which waits for its end.
+    /// Starts a copy of this program under another name; it runs until it is ended.
     bool startAs(const QString &name, QProcess *process) const;
 
     QScopedPointer<QTemporaryDir> m_folder;
@@ -82,7 +82,7 @@ QString ownProgram()
     return QDir::toNativeSeparators(QCoreApplication::applicationFilePath());
 }
 
-/// The root folder of the task scheduler, past the platform. COM has to be up.
+/// The root folder of the task scheduler, without the platform. COM has to be initialised.
 class TaskFolder
 {
 public:
@@ -107,7 +107,7 @@ public:
 
     bool isOpen() const { return m_folder; }
 
-    /// The definition of a task; empty where there is none.
+    /// The definition of a task; empty if there is none.
     QString xmlOf(const QString &name) const
     {
         const BSTR wanted = ::SysAllocString(wide(name));
@@ -145,7 +145,7 @@ private:
     ITaskFolder *m_folder = nullptr;
 };
 
-/// The record of the system's volume, once it is sure that its file system is told right; null without one.
+/// The record of the system's volume, after a check of its file system; null if there is none.
 const LogicalDiskRecord *systemVolume()
 {
     const QString system = Platform::current().GetSystemDirectoryW().left(2);
@@ -173,7 +173,7 @@ QString firstLine(const QString &command)
     return line;
 }
 
-/// What copies of this program do for the cases; -1 where the arguments are not for one.
+/// What copies of this program do for the cases; -1 if the arguments are not for a copy.
 int actAsTool(int argc, char **argv)
 {
     const QByteArray what = argc > 1 ? argv[1] : "";
@@ -198,7 +198,7 @@ void tst_WindowsTools::initTestCase()
 {
     m_bWine = ::GetProcAddress(::GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
     Platform::install(makeNativePlatform());
-    // The libraries of the copies lie above the tests; no variable leads tools there.
+    // The copies need the libraries in the folder above. Tools get no PATH that names it.
     Platform::current().SetCurrentDirectoryW(QCoreApplication::applicationDirPath() + QStringLiteral("/.."));
     g_App.m_strSystemFolder = Platform::current().GetSystemDirectoryW();
 }
@@ -211,7 +211,7 @@ void tst_WindowsTools::init()
 
 void tst_WindowsTools::runsToolsHidden()
 {
-    // The tool takes its time, has no console that shows, and its exit code tells nothing.
+    // The tool is slow, has no visible console, and its exit code is not used.
     QStringList lines;
     QVERIFY(runner::runAndRead(
         ownProgram() + QStringLiteral(" --console"), QStringLiteral("HalvaneRun.txt"),
@@ -219,7 +219,7 @@ void tst_WindowsTools::runsToolsHidden()
     QCOMPARE(lines, QStringList({QStringLiteral("console hidden"), QString()}));
     QVERIFY(!QFile::exists(tempFile(QStringLiteral("HalvaneRun.txt"))));
 
-    // A tool that is missing still leaves its file, which is empty.
+    // A missing tool leaves an empty file.
     bool read = false;
     QVERIFY(runner::runAndRead(QStringLiteral("no-such-tool.exe -a"), QStringLiteral("HalvaneRun.txt"),
                                [&read](QTextStream &stream) { read = stream.atEnd(); }));
@@ -228,8 +228,8 @@ void tst_WindowsTools::runsToolsHidden()
 
 void tst_WindowsTools::runsToolsOfTheWorkingFolder()
 {
-    // The tool that is called by its bare name is the one beside the program, wherever a file dialog went
-    // since.
+    // A tool named without a folder is the one in the program's folder, even if a file dialog has changed the
+    // working folder.
     Platform &pc = Platform::current();
     for (const char *folder : {"own", "planted"}) {
         QVERIFY(QDir(m_folder->path()).mkdir(QLatin1String(folder)));
@@ -250,7 +250,7 @@ void tst_WindowsTools::programWorksInItsOwnFolder()
     const QString tool = QStringLiteral("smartctl64Bit.exe");
     if (!installed.exists(tool) || !installed.exists(QStringLiteral("VelmoraHalvane.exe")))
         QSKIP("no installation lies around the tests");
-    // Started elsewhere, it takes its own tool along, not the one that lies there.
+    // Started in another folder, it copies its own tool, not the one of that folder.
     QVERIFY(writeFile(path(tool), "planted"));
     const auto copies = [&tool] {
         QVector<qint64> sizes;
@@ -274,7 +274,7 @@ void tst_WindowsTools::programWorksInItsOwnFolder()
 
 void tst_WindowsTools::toolsComeFromOurFolders()
 {
-    // A tool that only the user's search path has is not found, wherever that leads.
+    // A tool that only the user's search path has is not found.
     QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("planted")));
     QVERIFY(QFile::copy(QString::fromWCharArray(::_wgetenv(L"COMSPEC")),
                         path(QStringLiteral("planted/hvtool.exe"))));
@@ -282,7 +282,7 @@ void tst_WindowsTools::toolsComeFromOurFolders()
     const auto restore = qScopeGuard([&before] { qputenv("PATH", before); });
     qputenv("PATH", QFile::encodeName(path(QStringLiteral("planted"))) + ';' + before);
     QCOMPARE(firstLine(QStringLiteral("hvtool.exe /c echo found")), QString());
-    // Nor do the letters of a user's name stand in a line.
+    // The temp folder has no letters that mean something in a line, whatever the user's name is.
     QVERIFY(!tools::CommandInterpreter::breaksCommands(Platform::current().GetTempPathW()));
 }
 
@@ -325,7 +325,7 @@ void tst_WindowsTools::diskTable()
 
 void tst_WindowsTools::tablesWithoutTheTool()
 {
-    // Wine's own goes for as long as this takes. A system of today has none.
+    // Wine's tool is renamed meanwhile. Current systems have none.
     const QString tool = g_App.m_strSystemFolder + QStringLiteral("\\wbem\\WMIC.exe");
     const QString hidden = tool + QStringLiteral(".hidden");
     if (!m_bWine && QFile::exists(tool))
@@ -418,7 +418,7 @@ void tst_WindowsTools::countsTheUsesOfCom()
 {
     Platform &pc = Platform::current();
     pc.InitializeCom();
-    // Where a step fails, as it does under Wine, COM stays what it was.
+    // A failed step, as under Wine, does not release COM once too often.
     for (int i = 0; i < 3; ++i)
         pc.CreateLogonTask({QStringLiteral("HalvaneTest"), QString(), QString(), QString()});
     pc.DeleteLogonTask(QStringLiteral("HalvaneTest"));
@@ -440,7 +440,7 @@ void tst_WindowsTools::deletesTheLogonTask()
     QVERIFY2(found.contains(QLatin1String("<Exec")), qPrintable(found));
     Platform::current().DeleteLogonTask(name);
     QVERIFY(TaskFolder().xmlOf(name).isEmpty());
-    // Nothing is said of a task that is not there.
+    // A missing task is no error.
     Platform::current().DeleteLogonTask(name);
     QVERIFY(TaskFolder().xmlOf(name).isEmpty());
 }

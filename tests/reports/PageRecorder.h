@@ -9,7 +9,7 @@
 
 #include <cmath>
 
-/// A page of the report's size that keeps what is painted on it.
+/// A page of the report's size that records what is painted on it.
 class PageRecorder : public QPaintDevice
 {
 public:
@@ -27,7 +27,7 @@ public:
     };
 
     QVector<Text> texts;
-    QVector<QLineF> rules; ///< lines of the rules' pen only
+    QVector<QLineF> rules; ///< only lines with the pen of the rules
     QVector<Picture> pictures;
 
     /// The first text that reads so; empty if there is none.

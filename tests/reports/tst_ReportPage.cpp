@@ -27,7 +27,7 @@ struct Line {
     QColor ink = Black;
 };
 
-/// A report of so many rows, with texts that tell where they come from.
+/// A report with this many rows; each text names the field that it is from.
 SmartReport made(bool nvme, int rows = 1)
 {
     SmartReport report;
@@ -42,7 +42,7 @@ SmartReport made(bool nvme, int rows = 1)
 
 } // namespace
 
-/// What stands where on the printed page, and that a real file of it says what the drive's report said.
+/// The places of texts and pictures on the printed page, and the text of a real PDF file.
 class tst_ReportPage : public QObject
 {
     Q_OBJECT
@@ -95,7 +95,7 @@ void tst_ReportPage::init()
     g_strLastTestResult.clear();
 }
 
-/// Takes a report of tests/data/smart in, as the window does.
+/// Reads a report of tests/data/smart, as the window does.
 void tst_ReportPage::take(const char *file)
 {
     const QString path = samples::stage(samples::bytesOf(QLatin1String(file)));
@@ -221,7 +221,7 @@ void tst_ReportPage::frame()
     const double width = QFontMetricsF(face, &page).horizontalAdvance(name.text);
     QVERIFY2(std::abs(name.x + width / 2 - middle) < 5, qPrintable(QString::number(name.x)));
 
-    // Watermark, mark of the brand, icon, and the mark again for the second record.
+    // The watermark, the brand's mark, the icon, and the mark once more, as it is painted twice.
     QCOMPARE(page.pictures.size(), 4);
     QCOMPARE(page.pictures[0].target, watermark);
     for (const int mark : {1, 3})
@@ -360,7 +360,7 @@ void tst_ReportPage::ataRows()
         QCOMPARE(row[i].x, xs[i]);
         QCOMPARE(row[i].ink, inks[i]);
     }
-    // The next row starts in black again.
+    // The next row is black again.
     for (const auto &text : page.within({0, 7500, 9000, 150}))
         QCOMPARE(text.ink, Black);
 }
@@ -393,7 +393,7 @@ void tst_ReportPage::rowsGoOnToAnotherPage()
         QCOMPARE(page.find(QStringLiteral("row %1").arg(fitting - 1)).y, nvme ? 12850 : 12750);
         QCOMPARE(page.find(QStringLiteral("row %1").arg(fitting)).y, 2050);
         QCOMPARE(page.find(QStringLiteral("row %1").arg(fitting + 44)).y, 2050);
-        // Head, foot and the heading of the table stand on each page, the fields on the first one.
+        // Head, foot and the header of the table are on each page, the fields on the first one.
         const auto count = [&page](const char *text) {
             return std::count_if(page.texts.cbegin(), page.texts.cend(),
                                  [text](const auto &shown) { return shown.text == QLatin1String(text); });
@@ -406,7 +406,7 @@ void tst_ReportPage::rowsGoOnToAnotherPage()
     }
 }
 
-/// Taller letters of another face do not sink their line, and nothing runs over what stands beside it.
+/// Taller letters of another font do not lower their line, and no text covers the one beside it.
 void tst_ReportPage::linesOfOneHeight()
 {
     SmartReport report = made(false);
@@ -436,7 +436,7 @@ void tst_ReportPage::imagesByScale()
         report.scaleFactor = factor;
         PageRecorder page;
         paint(page, report);
-        QCOMPARE(page.pictures.size(), factor == 1.4F ? 1 : 3); // between two sets there is none
+        QCOMPARE(page.pictures.size(), factor == 1.4F ? 1 : 3); // no image set has this factor
     }
 }
 
@@ -458,7 +458,7 @@ void tst_ReportPage::realReports_data()
     }
 }
 
-/// The text of the file, read back by another program, holds the identity and, line by line, all rows.
+/// Another program reads the text of the file: it has the identity and, line by line, all rows.
 void tst_ReportPage::realReports()
 {
     if (QStandardPaths::findExecutable(QStringLiteral("pdftotext")).isEmpty())

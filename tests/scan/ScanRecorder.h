@@ -11,7 +11,7 @@
 
 #include <functional>
 
-/// Makes a disk the selected one for as long as it lives.
+/// While it lives, this disk is the selected one.
 class SelectedDisk
 {
 public:
@@ -33,11 +33,11 @@ private:
     DiskNode m_node;
 };
 
-/// Writes down what this thread's event loop hears of a scan, in its order.
+/// Records the signals of a scan in the order in which this thread gets them.
 class ScanRecorder
 {
 public:
-    /// `hear`, called on the scan's own thread with each line but the counts, may act in the middle of the
+    /// `hear` is called on the scan's own thread with each line except the counts, so it can act during the
     /// scan.
     explicit ScanRecorder(QScanDriveThread &thread, std::function<void(const QString &)> hear = {})
         : m_hear(std::move(hear))
@@ -107,7 +107,7 @@ inline QStringList scanned(qint64 total, const std::function<void(const QString 
     return recorder.lines;
 }
 
-/// What the counters of the process are before the first scan.
+/// Sets the globals of the scan as they are before the first one.
 inline void forgetScans()
 {
     g_BadSectors.clear();

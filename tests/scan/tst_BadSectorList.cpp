@@ -49,7 +49,7 @@ void tst_BadSectorList::keepsWhatWasFound()
 {
     QFETCH(Sectors, sectors);
     BadSectorList list;
-    // Emptied, a list is like a new one.
+    // An emptied list is like a new one.
     for (int round = 0; round < 2; ++round) {
         for (const qint64 sector : qAsConst(sectors))
             list.append(sector);
@@ -89,7 +89,7 @@ void tst_BadSectorList::isWalkedWhileItGrows()
     writer->start();
     for (bool last = false; !last; walked = true) {
         last = done;
-        // Each walk sees whole runs from the beginning, of which only the last one may be growing.
+        // Each walk sees the runs from the beginning. All but the last one are complete.
         qint64 next = 0;
         qint64 length = 2;
         bool right = true;

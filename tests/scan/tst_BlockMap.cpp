@@ -36,7 +36,7 @@ void tst_BlockMap::cells_data()
     QTest::addColumn<qint64>("total");
     QTest::addColumn<qint64>("position");
     QTest::addColumn<Sectors>("bad");
-    QTest::addColumn<QString>("shown"); // runs of letters: #processed .empty wworking bad
+    QTest::addColumn<QString>("shown"); // count and letter: # read, . empty, w at work, b bad
     QTest::newRow("no disk") << qint64{0} << qint64{0} << Sectors{5} << "400.";
     QTest::newRow("a total that is none") << qint64{-8} << qint64{50} << Sectors() << "400.";
     QTest::newRow("nothing yet") << qint64{4000} << qint64{9} << Sectors() << "400.";
@@ -84,7 +84,7 @@ void tst_BlockMap::cells()
     QTEST(shown, "shown");
 }
 
-/// A run of neighbours colours what its sectors would colour one by one, also with a gap in between.
+/// A run of neighbours colours the same cells as its single sectors would, also with gaps between runs.
 void tst_BlockMap::runsEqualSingleSectors()
 {
     const blockmap::Metrics sizes = blockmap::metrics(1.0F);
@@ -103,7 +103,7 @@ void tst_BlockMap::runsEqualSingleSectors()
 void tst_BlockMap::sizes_data()
 {
     QTest::addColumn<float>("scale");
-    QTest::addColumn<QVector<int>>("sizes"); // cell, width, height, tool tip's columns
+    QTest::addColumn<QVector<int>>("sizes"); // cell, width, height, columns of the tool tip
     QTest::newRow("1") << 1.0F << QVector<int>{20, 500, 320, 25};
     QTest::newRow("1.25") << 1.25F << QVector<int>{25, 625, 400, 31};
     QTest::newRow("1.5") << 1.5F << QVector<int>{30, 750, 480, 37};
@@ -126,14 +126,14 @@ void tst_BlockMap::toolTip_data()
 {
     QTest::addColumn<float>("scale");
     QTest::addColumn<QPoint>("place");
-    QTest::addColumn<QString>("text"); // start, end; or the text itself
+    QTest::addColumn<QString>("text"); // first and last sector, or the whole text
     QTest::newRow("first") << 1.0F << QPoint(19, 19) << "0 251";
     QTest::newRow("second row") << 1.0F << QPoint(20, 39) << "6526 6777";
     QTest::newRow("last ends with the disk") << 1.0F << QPoint(499, 319) << "100149 100001";
     QTest::newRow("below the last row") << 1.0F << QPoint(0, 320) << "100400 to 100001";
     QTest::newRow("beside that") << 1.0F << QPoint(20, 320) << "";
     QTest::newRow("left of the map") << 1.0F << QPoint(-21, 0) << "";
-    // 31 columns where 25 are painted.
+    // The tool tip counts 31 columns, though 25 are painted.
     QTest::newRow("second row at 1.25") << 1.25F << QPoint(0, 25) << "7781 8032";
 }
 

@@ -16,7 +16,7 @@ constexpr int SectorSize = 512;
 
 } // namespace
 
-/// A scan of a real block device, made for the test, that has lost its end.
+/// A scan of a real block device, made for the test, whose end cannot be read any more.
 class tst_LinuxScan : public QObject
 {
     Q_OBJECT
@@ -63,7 +63,7 @@ void tst_LinuxScan::findsWhatTheKernelRefuses()
     const SelectedDisk disk(0, total);
     const QStringList lines = scanned(total);
 
-    // From the chunk of the cut on all chunks fail; each gives its own sectors and the one behind it.
+    // All chunks fail from the one with the cut on. Each lists its own sectors and the one behind it.
     QVector<qint64> expected;
     for (qint64 first = readable / Chunk * Chunk; readable < total && first < total; first += Chunk) {
         for (qint64 sector = std::max(first, readable); sector <= std::min(first + Chunk, total); ++sector)

@@ -15,22 +15,21 @@ namespace
 using Sectors = QVector<qint64>;
 constexpr qint64 Chunk = 16384;
 
-/// What a scan says and finds, by another road: all from one set of bad sectors, without reading.
+/// The signals and results that a scan must have, calculated from its bad sectors without reading.
 struct Expectation {
     QStringList lines;
     Sectors found;
 
     Expectation(qint64 total, std::set<qint64> bad)
     {
-        bad.insert(total); // what lies behind the end cannot be read
+        bad.insert(total); // the sector behind the end cannot be read
         const qint64 step = (total + 399) / 400;
         lines << QStringLiteral("begin") << QStringLiteral("progress 2") << QStringLiteral("progress 1");
         qint64 progress = 2;
         for (qint64 first = 0; first < total; first += Chunk) {
             const qint64 next = std::min(first + Chunk, total);
             lines << QStringLiteral("chunk %1 %2 %3").arg(first).arg(total).arg(step);
-            // A chunk with a bad sector of its own gives all of its range, which ends with the next one's
-            // first.
+            // A chunk with a bad sector is read sector by sector, up to the first sector of the next chunk.
             const auto own = bad.lower_bound(first);
             if (own != bad.end() && *own < next) {
                 for (auto sector = own; sector != bad.end() && *sector <= next; ++sector) {
@@ -49,17 +48,17 @@ struct Expectation {
     }
 };
 
-/// A disk of any size that costs no time: reads leave the buffer as it is, and those fail that touch a sector
-/// that is bad or behind the end.
+/// A disk of any size that costs no time. Reads leave the buffer as it is; they fail if they include a bad
+/// sector or one behind the end.
 class QuickDisk : public FakePlatform
 {
 public:
     qint64 sectors = 0;
     std::set<qint64> bad;
     std::atomic<bool> refuses{false};
-    std::atomic<bool> gone{false}; ///< that it was pulled out the system has noticed as well
-    int looks = -1;                ///< after how many questions the system notices that it refuses; -1: never
-    /// Called at each read that may not fail; sector and bytes.
+    std::atomic<bool> gone{false}; ///< the system has noticed that it was pulled out
+    int looks = -1;                ///< the number of questions until the system notices; -1: never
+    /// Called at each read, with sector and bytes.
     std::function<void(qint64 sector, quint32 bytes)> onRead;
 
     RawHandle CreateFileW(const QString &, quint32, quint32, quint32) override
@@ -157,7 +156,7 @@ void tst_QScanDriveThread::keepsItsInterface()
 void tst_QScanDriveThread::findsEveryBadSector_data()
 {
     QTest::addColumn<qint64>("total");
-    QTest::addColumn<Sectors>("stretches"); // first and count in turn
+    QTest::addColumn<Sectors>("stretches"); // pairs of first and count
     const auto row = [](const char *name, qint64 total, const Sectors &stretches) {
         QTest::newRow(name) << total << stretches;
     };
@@ -203,7 +202,7 @@ void tst_QScanDriveThread::findsEveryBadSector()
                         .toLatin1()));
     SelectedDisk disk(3, total);
     const Expectation expected(total, bad);
-    // A second scan begins with an empty list.
+    // The second scan begins with an empty list.
     for (int run = 0; run < 2; ++run) {
         QCOMPARE(scanned(total), expected.lines);
         QCOMPARE(g_BadSectors.toVector(), expected.found);
@@ -261,7 +260,7 @@ void tst_QScanDriveThread::saysWordByWord()
 void tst_QScanDriveThread::goesBeyond32Bits()
 {
     const qint64 total = (qint64(1) << 32) + Chunk + 7;
-    // The sectors at which a byte offset, a signed and an unsigned sector number would leave 32 bits.
+    // At these sectors a byte offset, a signed and an unsigned sector number do not fit 32 bits any more.
     const std::set<qint64> bad{qint64(1) << 23, qint64(1) << 31, qint64(1) << 32, total - 1};
     installQuickDisk(total, bad);
     const SelectedDisk disk(0, total);
@@ -273,10 +272,10 @@ void tst_QScanDriveThread::goesBeyond32Bits()
 
 void tst_QScanDriveThread::stops_data()
 {
-    QTest::addColumn<qint64>("at"); // the read in which the stop comes; sector, bytes
+    QTest::addColumn<qint64>("at"); // sector and bytes of the read during which the stop comes
     QTest::addColumn<quint32>("bytes");
     QTest::addColumn<Sectors>("bad");
-    QTest::addColumn<QStringList>("lines"); // from the chunk of it on
+    QTest::addColumn<QStringList>("lines"); // from that chunk on
     QTest::addColumn<Sectors>("found");
     const auto row = [](const char *name, qint64 at, quint32 bytes, const Sectors &bad, const char *lines,
                         const Sectors &found) {
@@ -288,7 +287,7 @@ void tst_QScanDriveThread::stops_data()
         "chunk 0 40000 100, bad 1, bad 2, first 16384 40000, progress 1, progress 1, blocks 0, bad 2, finish "
         "Pass",
         {10, 20});
-    // It is listed, and not counted any more.
+    // The bad sector is listed but not counted.
     row("at a bad sector", 20, 512, {10, 20, 30},
         "chunk 0 40000 100, bad 1, first 16384 40000, progress 1, progress 1, blocks 0, bad 1, finish Pass",
         {10, 20});
@@ -330,7 +329,7 @@ void tst_QScanDriveThread::failsOnce()
     QCOMPARE(scanned(40000), words("begin, progress 2") << QStringLiteral("all %1").arg(total)
                                                         << words("blocks 0, bad 0, finish Failed"));
     QVERIFY(g_bScanFailed && !g_bScanDiskGone);
-    // The next one begins anew.
+    // The next scan is not affected.
     quick->gone = false;
     SelectedDisk healthy(0, 40000);
     QCOMPARE(scanned(40000), Expectation(40000, {}).lines);
@@ -338,9 +337,9 @@ void tst_QScanDriveThread::failsOnce()
 
 void tst_QScanDriveThread::endsWithItsDisk_data()
 {
-    QTest::addColumn<qint64>("at"); // the read in which it is pulled out; sector, bytes
+    QTest::addColumn<qint64>("at"); // sector and bytes of the read during which it is pulled out
     QTest::addColumn<quint32>("bytes");
-    QTest::addColumn<int>("looks"); // that it takes until the system has noticed
+    QTest::addColumn<int>("looks"); // the number of questions until the system has noticed
     QTest::newRow("in a chunk") << 2 * Chunk << quint32(0x800000) << 0;
     QTest::newRow("in a chunk, noticed late") << 2 * Chunk << quint32(0x800000) << 9;
     QTest::newRow("among the sectors of one") << Chunk + 700 << quint32(512) << 0;
@@ -361,7 +360,7 @@ void tst_QScanDriveThread::endsWithItsDisk()
     };
     const SelectedDisk disk(0, total);
     const QStringList lines = scanned(total);
-    // What was found before stays.
+    // The sectors found before stay in the list.
     QCOMPARE(g_BadSectors.toVector(), bytes == 512 ? (Sectors{7, 8}) : (Sectors{7, 8, Chunk + 600}));
     QCOMPARE(lines.mid(lines.size() - 4), words("progress 1, blocks 0")
                                               << QStringLiteral("bad %1").arg(g_BadSectors.count())
@@ -369,7 +368,7 @@ void tst_QScanDriveThread::endsWithItsDisk()
     QVERIFY(g_bScanDiskGone && lines.filter(QStringLiteral("all ")).isEmpty());
 }
 
-/// A disk that refuses everything and is still there has failed altogether.
+/// A disk that refuses everything and is still plugged in has failed: all its sectors are bad.
 void tst_QScanDriveThread::readsOnWhereAllIsRefused()
 {
     const qint64 total = 3 * Chunk + 5;
@@ -410,7 +409,7 @@ void tst_QScanDriveThread::keepsItsFlags()
         QVERIFY(g_bScanFinished);
         QVERIFY(!g_bScanBegun);
 
-        // Stopped before it began: the picture of the last scan stays.
+        // If it is stopped before it begins, the picture of the last scan stays.
         g_bAbortJob = true;
         thread.StartScan(nullptr, 3);
         QVERIFY(thread.wait(30000));
@@ -447,7 +446,8 @@ void tst_QScanDriveThread::waitsForWhoListens()
     thread.StartScan(nullptr, 3);
     loop.exec();
     QVERIFY(thread.wait(30000));
-    // Every chunk brings its own sectors and the one behind it: one is told, one on its way, one just found.
+    // Each chunk finds its own sectors and the one behind it. At most three chunks are ahead of the count:
+    // one told, one on its way, one just found.
     QCOMPARE(heard, total + 6);
     QVERIFY2(furthest <= 3 * (Chunk + 1), qPrintable(QString::number(furthest)));
 }
@@ -473,7 +473,7 @@ void tst_QScanDriveThread::startsAndStopsUnderAReader()
                 ++length;
             });
             longest = std::max(longest.load(), length);
-            QThread::usleep(100); // a lock has no queue: who empties the list has to get in between
+            QThread::usleep(100); // locks have no queue, so clear() needs a gap to get the lock
         }
     }));
     reader->start();

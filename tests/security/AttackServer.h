@@ -22,7 +22,7 @@ public:
     QString link() const { return QString::fromLatin1(LoopbackServer::link()); }
 
     std::atomic<int> requests{0};
-    std::atomic<qint64> sent{0}; ///< bytes that somebody took
+    std::atomic<qint64> sent{0}; ///< bytes that were taken
 
 protected:
     void serve(QTcpSocket *client) override

@@ -107,7 +107,7 @@ void DescribedPcsTest::strangeDescription()
 
 void DescribedPcsTest::strangeStates()
 {
-    // Links to a file of the user's: a log, a drive's folder, an image.
+    // Links to a file of the user, in the place of a log, a drive's folder and an image.
     for (const char *link : {"commands.log", "drives/C", "images/disk0.img"}) {
         const DescribedFolder folder;
         folder.add(QStringLiteral("pc.json"), R"({"disks": [{"number": 0, "sectors": 16}]})");
@@ -119,7 +119,7 @@ void DescribedPcsTest::strangeStates()
                                            QLatin1String(": no regular file"));
         QVERIFY(QFile::remove(path));
     }
-    // An image that appears later is not followed either.
+    // A link that replaces an image later is not followed either.
     const DescribedFolder folder;
     folder.add(QStringLiteral("own"), "mine");
     const auto pc = folder.open(R"({"disks": [{"number": 0, "sectors": 16}]})");
@@ -147,7 +147,7 @@ void DescribedPcsTest::foldersOfOthers()
     QString error;
     QVERIFY(!SimulatedPlatform::open(other.path(), folder.state(), &error));
     QCOMPARE(error, belongs + QStringLiteral(", and this program runs as an administrator"));
-    // Nor a folder of root's behind a link of theirs, nor one that all may write to.
+    // Root does not take a folder behind a link of another user either, nor one that all may write to.
     QVERIFY(QFile::link(folder.path(), other.path() + QStringLiteral("/root's")));
     QCOMPARE(ownfiles::strangerOn(other.path() + QStringLiteral("/root's")), belongs);
     QCOMPARE(chown(name.constData(), 0, 0), 0);
@@ -155,7 +155,7 @@ void DescribedPcsTest::foldersOfOthers()
     QCOMPARE(ownfiles::strangerOn(other.path() + QStringLiteral("/state")),
              other.path() + QStringLiteral(": others may write to it"));
     QVERIFY(QFile::remove(other.path() + QStringLiteral("/root's")));
-    // Nor one that all may add to, where nothing is anybody's yet, nor a part of somebody else's.
+    // Root does not take an empty folder that all may add to either, nor one with a file of another user.
     QCOMPARE(chmod(name.constData(), 01777), 0);
     QCOMPARE(openingError(folder, other.path()),
              notKept + other.path() + QStringLiteral(": others may write to it"));
@@ -196,7 +196,7 @@ void DescribedPcsTest::slowDisk()
     QVERIFY(clock.elapsed() < 8000);
 }
 
-/// The toolkit makes the type that a value names, and goes down as deep as its lists go.
+/// QSettings builds the type that a value names, however deep its lists are nested.
 void DescribedPcsTest::typesInTheHistory()
 {
     const DescribedFolder folder;

@@ -14,7 +14,7 @@
 
 #include <QtTest>
 
-/// What a network, and a setting that names a place in it, could do to the program.
+/// What a network, or a setting with an address, could do to the program.
 class NetworkTest : public QObject
 {
     Q_OBJECT
@@ -62,7 +62,7 @@ void NetworkTest::hostileServers()
     clock.start();
     QVERIFY(httpDownload(server.link(), target(), {1500, 65536}) != 0);
     QVERIFY2(clock.elapsed() < 3000, qPrintable(QString::number(clock.elapsed())));
-    // What the system's own buffers take is not counted by us.
+    // The system's buffers take more than the program counts.
     QVERIFY2(server.sent < 16 * 1024 * 1024, qPrintable(QString::number(server.sent)));
     QCOMPARE(QDir(m_folder.path()).entryList(QDir::Files), QStringList());
 }
@@ -85,7 +85,7 @@ void NetworkTest::checkHasItsLimits()
     };
     QVERIFY(!update::fetchVersions(QStringLiteral("https://update.example/")));
     QCOMPARE(limit, 65536);
-    // What was refused is not asked for in another way.
+    // A refused download is not tried with the transfer tool.
     QCOMPARE(pc->commands(), QStringList());
     QCOMPARE(update::installerLimits(1000).bytes, 40 * 1024 * 1024);
     QCOMPARE(update::installerLimits(20 * 1024 * 1024).bytes, 80 * 1024 * 1024);
@@ -95,8 +95,9 @@ void NetworkTest::plantedInstaller()
 {
     FakePlatform *pc = FakePlatform::install();
     const QTemporaryDir here;
-    QVERIFY(QDir::setCurrent(here.path())); // where the fake machine has its drive C:
-    // Whoever waits for the console plants a file where an update has been looked for, and the console fails.
+    QVERIFY(QDir::setCurrent(here.path())); // the fake machine has its drive C: there
+    // While the console runs, another program puts a file where the installer would be. Then the console
+    // fails.
     pc->onCommand = [](const QString &) {
         QFile planted(QStringLiteral("C:/updatetmp/VelmoraHalvane.exe"));
         return QDir().mkpath(QStringLiteral("C:/updatetmp")) && planted.open(QIODevice::WriteOnly) &&
@@ -130,7 +131,7 @@ void NetworkTest::consoleThatLoadsTooMuch()
 void NetworkTest::linksThatAreNoPages()
 {
     FakePlatform *pc = FakePlatform::install();
-    languages::setFlag(5); // whose agreement and help are links of the settings
+    languages::setFlag(5); // its agreement and help are links of the settings
     g_App.m_bStandalone = false;
     g_App.m_bHelpOnline = true;
     for (const char *link :
@@ -167,7 +168,7 @@ void NetworkTest::describedPcAsksNobody()
     const auto open = folder.open(R"({"network": true})");
     QCOMPARE(open->URLDownloadToFileW(QStringLiteral("https://192.0.2.1/"), target(), {1500, 65536}),
              Platform::DownloadRefused);
-    // A proxy would be another PC.
+    // A proxy is another PC, so it is not asked.
     qputenv("http_proxy", "http://192.0.2.1:3128");
     QCOMPARE(open->URLDownloadToFileW(server.link(), target(), {1500, 65536}), 0);
     qunsetenv("http_proxy");

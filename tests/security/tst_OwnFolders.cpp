@@ -29,7 +29,7 @@ namespace
 constexpr uid_t Nobody = 65534;
 constexpr int AttackMilliseconds = 2000;
 
-/// Somebody else who does a thing again and again while it lives.
+/// Another user who repeats an attack while this lives.
 class Attacker
 {
 public:
@@ -56,7 +56,7 @@ private:
 
 } // namespace
 
-/// Other users of the machine, who prepare folders and links for a program that root runs.
+/// Attacks of other users, who prepare folders and links for a program that root runs.
 class OwnFoldersTest : public QObject
 {
     Q_OBJECT
@@ -80,7 +80,7 @@ private:
     {
         return QFile::encodeName(m_folder->filePath(QLatin1String(name)));
     }
-    /// What lies in the folder that only root may enter.
+    /// The files in the folder that only root may enter.
     QStringList inSecret() const
     {
         return QDir(m_folder->filePath(QStringLiteral("secret")))
@@ -103,7 +103,7 @@ void OwnFoldersTest::initTestCase()
         QSKIP("only root can become another user");
 }
 
-/// "secret" is root's alone, "foreign" somebody else's, "open" free for all as /tmp is.
+/// Only root may use "secret". "foreign" belongs to another user. "open" is for all, like /tmp.
 void OwnFoldersTest::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
@@ -115,12 +115,13 @@ void OwnFoldersTest::init()
     QCOMPARE(chmod(path("open").constData(), 01777), 0);
 }
 
-/// The usual name in /tmp is taken by somebody else. Before all others: this process asks for no folder yet.
+/// Another user has taken the usual name in /tmp. The first case, as this process must not have chosen its
+/// folders yet.
 void OwnFoldersTest::instanceWithoutATempFolder()
 {
     constexpr uid_t User = 64321;
     const QByteArray usual = "/tmp/velmora-halvane-" + QByteArray::number(User);
-    rmdir(usual.constData()); // of a run that was ended
+    rmdir(usual.constData()); // left by a run that was ended
     QVERIFY2(mkdir(usual.constData(), 0700) == 0 && chown(usual.constData(), Nobody, Nobody) == 0, usual);
     const auto clean = qScopeGuard([&] { rmdir(usual.constData()); });
     QCOMPARE(mkdir(path("home").constData(), 0700), 0);
@@ -153,7 +154,7 @@ void OwnFoldersTest::variablesOfAUser()
 {
     for (const char *name : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"})
         qputenv(name, path("foreign"));
-    // A bus that is a command, libraries, tools, and a catalogue of texts.
+    // The address of a bus that is a command; folders of libraries, tools and translations.
     const QByteArray command = "unixexec:path=/usr/bin/touch,argv1=" + path("secret/ran");
     const QVector<QPair<const char *, QByteArray>> variables{
         {"DBUS_SYSTEM_BUS_ADDRESS", command},      {"DBUS_SESSION_BUS_ADDRESS", command},
@@ -180,7 +181,7 @@ void OwnFoldersTest::variablesOfAUser()
     QVERIFY(QDir(QString::fromUtf8(path("foreign"))).isEmpty());
 }
 
-/// One that says: user 65534 may write. The rights of the group alone do not show it.
+/// The list lets user 65534 write; the mode of the folder does not show that.
 void OwnFoldersTest::folderWithAnAccessList()
 {
     struct Entry {
@@ -279,7 +280,7 @@ void OwnFoldersTest::linkForSettings()
              QStringList{QStringLiteral("config")});
 }
 
-/// What root saves in a folder of somebody else's takes the place of their links.
+/// A file that root saves in a folder of another user replaces his links.
 void OwnFoldersTest::savedThroughLinks()
 {
     const auto link = [this](const char *target, const char *name) {
@@ -323,7 +324,7 @@ void OwnFoldersTest::openedForTheUser()
     QCOMPARE(QString::fromLocal8Bit(ownfiles::contents(out)), wanted);
 }
 
-/// What an instance was once known by: a segment that all can name.
+/// Earlier versions knew an instance by a segment of shared memory, which anybody can make.
 void OwnFoldersTest::instanceOfSomebodyElse()
 {
     DescribedFolder folder;
@@ -348,17 +349,17 @@ void OwnFoldersTest::instanceOfSomebodyElse()
     environment.insert(QStringLiteral("HALVANE_PC_STATE"), folder.state());
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
     program.setProcessEnvironment(environment);
-    // Nor does a pipe hold the start, that lies where the program is started.
+    // A pipe in the folder where the program is started does not stop the start either.
     QCOMPARE(mkfifo(path("foreign/smartctl64Bit.exe").constData(), 0666), 0);
     program.setWorkingDirectory(QString::fromUtf8(path("foreign")));
     program.start(QStringLiteral(HALVANE_BIN "/VelmoraHalvane"), QStringList());
-    // The main window is the one that writes settings.
+    // Only the main window writes settings.
     const QString settings = folder.state() + QStringLiteral("/registry");
     QTRY_VERIFY_WITH_TIMEOUT(!QDir(settings).isEmpty(), 20000);
     program.kill();
     program.waitForFinished();
     QSharedMemory left(name);
-    left.attach(); // the last one to let go of it removes it
+    left.attach(); // detached again at its end, which removes the segment
 }
 
 QTEST_MAIN(OwnFoldersTest)

@@ -114,7 +114,7 @@ private slots:
         addRecord(130, QString(), QStringLiteral("Twin"), QStringLiteral("S2"));
         const auto disks = clonetexts::destinations(g_App.m_diskList, 131);
         QCOMPARE(disks.size(), std::size_t{3});
-        // The number stays where the other twin is the source and is not offered.
+        // The number stays even if the other disk of that model is the source and not in the list.
         QCOMPARE(disks[1].text, QStringLiteral("Twin | S1 | 1.82 TB | Disk Drive 1"));
         QCOMPARE(disks[2].text, QStringLiteral("Twin | S2 | 1.82 TB"));
         const auto entries = drivetexts::entries(g_App.m_diskList);

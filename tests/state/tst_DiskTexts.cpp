@@ -6,7 +6,7 @@
 
 #include <QtTest>
 
-/// What the combos and the identity fields say of a disk.
+/// The texts of a disk in the combos and the identity fields.
 class tst_DiskTexts : public QObject
 {
     Q_OBJECT
@@ -233,7 +233,7 @@ void tst_DiskTexts::fieldsAreCutAtCharacters()
     FixedText<5> field;
     field.assign(QStringLiteral("abcdef"));
     QCOMPARE(field.text(), QStringLiteral("abcd"));
-    field.assign(QStringLiteral("abc\u2019d")); // the apostrophe takes three bytes and would be torn
+    field.assign(QStringLiteral("abc\u2019d")); // the apostrophe takes three bytes and does not fit
     QCOMPARE(field.text(), QStringLiteral("abc"));
     field.assign(QString());
     QVERIFY(field.isEmpty());

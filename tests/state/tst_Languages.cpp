@@ -10,7 +10,7 @@
 
 #include <set>
 
-/// The tables that go by language, and the choice at start.
+/// The table of languages, and the choice at start.
 class tst_Languages : public QObject
 {
     Q_OBJECT

@@ -26,7 +26,7 @@ LogicalDiskRecord volume(const QString &caption, qint64 freeBytes, qint64 sizeBy
 
 } // namespace
 
-/// What Disk Partition says of volumes.
+/// The texts of volumes on Disk Partition.
 class tst_PartitionTexts : public QObject
 {
     Q_OBJECT

@@ -10,12 +10,11 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
-/// An image file of a disk or a volume, worked on with the real tools. A tool that fails ends the test
-/// program.
+/// An image file of a disk or a volume, changed by the real tools. A tool that fails ends the test program.
 class DiskImage
 {
 public:
-    /// The first tool that this machine does not have; empty if all are there.
+    /// The first tool that is missing on this machine; empty if all are there.
     static QString missingTool()
     {
         for (const char *tool : {"sfdisk", "mke2fs", "mkfs.vfat", "mkfs.ntfs", "mkfs.exfat"}) {
@@ -34,7 +33,7 @@ public:
 
     QString path() const { return m_folder.filePath(QStringLiteral("image")); }
 
-    /// Runs a tool with the image as its last argument and gives what it prints.
+    /// Runs a tool with the image as its last argument, and returns its output.
     QByteArray run(QStringList command, const QByteArray &input = {}) const
     {
         QProcess process;

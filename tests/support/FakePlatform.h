@@ -16,13 +16,12 @@
 #include <cstring>
 #include <functional>
 
-/// A machine for tests: nothing but what a test puts into it. Folders are in a private temp folder. Fields
-/// are set before the code under test runs; command lines may come from any thread.
+/// A machine for tests, empty until a test fills it. Its folders are in a private temp folder. Set the fields
+/// before the code under test runs; command lines may come from any thread.
 class FakePlatform : public Platform
 {
 public:
-    /// A physical disk. `bytes` may be shorter than `size`: what lies behind it reads as zeros and takes no
-    /// writes.
+    /// A physical disk. `bytes` may be shorter than `size`: the rest reads as zeros, and writes there fail.
     struct Disk {
         QByteArray bytes;
         quint32 mediaType = io::MediaFixed;
@@ -32,9 +31,9 @@ public:
         bool gone = false;       ///< pulled out: refuses every transfer
         bool hasSize = true;     ///< false: the extended geometry is refused
         QByteArray serial;       ///< as the system tells it; empty: not at all
-        QSet<qint64> badSectors; ///< reads that touch one fail
-        QSet<qint64> unwritable; ///< writes that touch one fail
-        /// Answers the SMART codes; absent: they are refused.
+        QSet<qint64> badSectors; ///< reads that include one fail
+        QSet<qint64> unwritable; ///< writes that include one fail
+        /// Answers the SMART codes; without it they fail.
         std::function<bool(quint32 code, const QByteArray &in, QByteArray *out)> smart;
 
         qint64 length() const { return size < 0 ? qint64(bytes.size()) : size; }
@@ -50,7 +49,7 @@ public:
         Disk raw; ///< the volume's own bytes
     };
 
-    /// What CreateFileW was asked for.
+    /// A call of CreateFileW.
     struct Opening {
         QString name;
         quint32 access;
@@ -63,7 +62,7 @@ public:
         }
     };
 
-    /// Makes one, installs it and gives it to the test to fill. Owned by the seam.
+    /// Makes one, installs it, and returns it for the test to fill. Owned by Platform.
     static FakePlatform *install()
     {
         auto made = std::make_unique<FakePlatform>();
@@ -81,14 +80,14 @@ public:
     int dotsPerInch = 96;
     std::function<qint32(const QString &url, const QString &path, const DownloadLimits &limits)> onDownload;
 
-    /// What was asked of the machine, in order.
+    /// The calls of the machine, in order.
     QStringList commands() const
     {
         const QMutexLocker lock(&m_mutex);
         return m_commands;
     }
     QStringList openedNames;   ///< of CreateFileW
-    QVector<Opening> openings; ///< the same calls, with all that was asked for
+    QVector<Opening> openings; ///< the same calls with all arguments
     QStringList labelsAsked;   ///< roots given to GetVolumeInformationW
     QVector<bool> hiddenFlags; ///< of the commands
     QStringList executed;      ///< "<verb> <file> <parameters>" of ShellExecuteW, and pages opened
@@ -97,7 +96,8 @@ public:
     quint64 slept = 0; ///< ms
     int openHandles() const { return m_handles.size(); }
 
-    /// Where a command line redirects to, on this machine; empty if it does not. Up to the next blank.
+    /// The file of this machine that a command line redirects to, up to the next blank; empty if there is
+    /// none.
     static QString target(const QString &line)
     {
         const int mark = line.indexOf(QLatin1String(">> "));
@@ -235,7 +235,7 @@ public:
     }
 
     QString GetTempPathW() override { return m_folder.path() + m_tempFolder + QLatin1Char('/'); }
-    /// Moves the temp folder one folder down, to one with that name.
+    /// Moves the temp folder into a new folder with that name.
     void useTempFolder(const QString &name)
     {
         m_tempFolder = QLatin1Char('/') + name;
@@ -276,7 +276,7 @@ public:
                 tasks.remove(i);
         }
     }
-    /// An INI file, so numbers come back as texts once the file was written.
+    /// An INI file: after it was written, numbers are read as texts.
     std::unique_ptr<QSettings> OpenSettings(const QString &registryPath) override
     {
         QString name = registryPath;

@@ -6,7 +6,7 @@
 
 #include <initializer_list>
 
-/// Partition tables byte by byte, for what no tool would write.
+/// Partition tables written byte by byte, for those that no tool would make.
 class HandMadeDisk
 {
 public:
@@ -18,7 +18,7 @@ public:
 
     explicit HandMadeDisk(int sectorCount = 0) : bytes(sectorCount * 512, '\0') {}
 
-    /// Writes the slots of the table at `sector`; without a signature, which nobody looks for.
+    /// Writes the slots of the table at `sector`. It has no signature; the reader does not look for one.
     HandMadeDisk &table(int sector, std::initializer_list<Slot> entries)
     {
         int at = sector * 512 + 446;
@@ -56,7 +56,7 @@ public:
         return *this;
     }
 
-    /// Writes a number little-endian into bytes that are there.
+    /// Overwrites bytes with a number, little-endian.
     template<typename Number>
     static void putNumber(QByteArray *into, int at, Number value)
     {

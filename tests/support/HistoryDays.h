@@ -6,7 +6,7 @@
 
 #include <QDateTime>
 
-/// A machine whose history lies in a folder that a test looks into.
+/// A machine that keeps its history in a folder of the test.
 class HistoryMachine : public FakePlatform
 {
 public:
@@ -17,7 +17,7 @@ private:
     QString m_history;
 };
 
-/// The days of a disk that gets older: the value of a day follows from its date.
+/// The days of a disk that ages: the values of a day are calculated from its date.
 namespace days
 {
 

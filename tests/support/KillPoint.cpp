@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Linked into a program, these stand before the C library's calls that open or change files. The process dies
-// by SIGKILL when it makes the call number HALVANE_KILL_AT of those that touch the folder
-// HALVANE_KILL_FOLDER; a write does half of its work before. Linux only.
+// Linked into a program, these functions replace the C library's calls that open or change files, and count
+// those for the folder HALVANE_KILL_FOLDER. At the call number HALVANE_KILL_AT the process ends by SIGKILL; a
+// write writes half of its bytes before. Linux only.
 
 #include <csignal>
 #include <cstdarg>

@@ -5,7 +5,7 @@
 
 #include <QDir>
 
-/// A Linux PC whose folders lie below `home`, whoever runs the test.
+/// A Linux PC with its folders below `home`, whoever runs the test.
 inline std::unique_ptr<Platform> linuxPcIn(const QString &home)
 {
     const folders::Places places{folders::chooseTemp({home + QStringLiteral("/velmora-halvane")}),

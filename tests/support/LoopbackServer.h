@@ -6,15 +6,15 @@
 #include <QTcpSocket>
 #include <QThread>
 
-/// A server on the loopback address, on a thread of its own. Whoever derives from it calls begin() at the end
-/// of the constructor and end() in the destructor.
+/// A server on the loopback address, on a thread of its own. A derived class calls begin() at the end of its
+/// constructor and end() in its destructor.
 class LoopbackServer : public QThread
 {
 public:
     QByteArray link() const { return "http://127.0.0.1:" + QByteArray::number(m_nPort) + '/'; }
 
 protected:
-    /// Something can be read from a client. On the server's thread.
+    /// Called when a client has sent something. On the server's thread.
     virtual void serve(QTcpSocket *client) = 0;
 
     void begin()

@@ -10,8 +10,8 @@
 
 #include <functional>
 
-/// Another platform, with a test looking on. The hooks are set before the code under test runs and are called
-/// on its threads, before the call goes on.
+/// Another platform, whose calls a test can watch. Set the hooks before the code under test runs. They are
+/// called on its threads, before the call is made.
 class WatchedPlatform : public Platform
 {
 public:
@@ -21,10 +21,10 @@ public:
     std::function<void(const QString &line)> onCommand;
     /// `sector` of the device, `bytes` as they were asked for.
     std::function<void(bool isWrite, qint64 sector, quint32 bytes)> onTransfer;
-    /// True: the transfer fails.
+    /// Returns true to make the transfer fail.
     std::function<bool(bool isWrite, qint64 sector)> refuses;
     std::function<DiskUse()> onDismount;
-    std::function<bool()> onFlush; ///< false: what was written is not confirmed
+    std::function<bool()> onFlush; ///< returns false to make the flush fail
 
     bool pauses = true; ///< false: Sleep() takes no time
 
@@ -136,7 +136,7 @@ public:
     }
 
 private:
-    /// Whether the transfer goes on.
+    /// Whether the transfer is made.
     bool tell(bool isWrite, RawHandle handle, quint32 bytes)
     {
         m_mutex.lock();

@@ -6,8 +6,8 @@
 #include <QHash>
 #include <QTimer>
 
-/// A web folder on the loopback address, served by a thread of its own: the program asks while its main
-/// thread waits.
+/// A web folder on the loopback address. It has a thread of its own, because the main thread of the program
+/// waits for the answer.
 class WebFolder : public LoopbackServer
 {
 public:
@@ -46,5 +46,5 @@ protected:
     }
 
 private:
-    QHash<QByteArray, File> m_files; ///< the thread's own once it runs
+    QHash<QByteArray, File> m_files; ///< only for the thread, once it runs
 };

@@ -18,7 +18,7 @@
 
 #include <memory>
 
-/// A view that tells its values as the ring of the partitions does.
+/// A view with the properties of the partitions' ring.
 class DonutChartView : public QWidget
 {
     Q_OBJECT
@@ -29,7 +29,7 @@ public:
     QVariantList sliceValues() const { return {63000000000.0, 1000.0}; }
 };
 
-/// And one that tells them as the block map does.
+/// A view with the properties of the block map.
 class QGridView : public QWidget
 {
     Q_OBJECT
@@ -44,7 +44,7 @@ public:
     QVariantList m_bad{4095};
 };
 
-/// What a window shows, as data, and what is found wrong in it.
+/// The contents of a window as data, and the faults found in it.
 class tst_Recorders : public QObject
 {
     Q_OBJECT

@@ -11,7 +11,7 @@
 
 #include <memory>
 
-/// The tour as a program: started on a PC that is made up here, judged by its exit status and what it leaves.
+/// The tour as a program, on a made-up PC: its exit status and the files that it leaves.
 class tst_Tour : public QObject
 {
     Q_OBJECT
@@ -107,7 +107,7 @@ void tst_Tour::describePc(int dpi, bool pauses, const QJsonObject &wishes) const
         QFile::copy(smart + QStringLiteral("ata-toshiba-mq01abd050.txt"), path(QStringLiteral("ata.txt"))));
     QVERIFY(
         QFile::copy(smart + QStringLiteral("nvme-swissbit-sfpc020.txt"), path(QStringLiteral("nvme.txt"))));
-    // A scan of the first takes two seconds, and so does its short self-test.
+    // A scan of the first disk takes two seconds, and so does its short self-test.
     QJsonObject first = disk(FirstDisk, QStringLiteral("IDE"), 327680, QStringLiteral("ata.txt"));
     first[QStringLiteral("bytesPerSecond")] = 80000000;
     first[QStringLiteral("badSectors")] = QJsonArray{40000, 40001, 120000};
@@ -153,7 +153,7 @@ QJsonObject tst_Tour::screens(const QString &out) const
     return QJsonDocument::fromJson(file.readAll()).object();
 }
 
-/// What the tests see that only look: the data of a tour that the first of them takes.
+/// The data of one tour for all tests that only look at it; the first of them takes it.
 QJsonObject tst_Tour::oneTour() const
 {
     static QJsonObject data;
@@ -345,7 +345,7 @@ void tst_Tour::hurries_data()
     QTest::addColumn<QByteArray>("laterReport");
     QTest::addColumn<int>("status");
     QTest::newRow("each shows its disk") << QByteArray() << 0;
-    // It tells of another one from its twentieth run on.
+    // From the tenth run on the tool prints the report of the first disk.
     QTest::newRow("the second disk shows the first one") << QByteArray("ata.txt") << 1;
 }
 

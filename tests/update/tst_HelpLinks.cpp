@@ -9,7 +9,7 @@
 
 using links::Topic;
 
-/// Which page, file, address and document belong to a language.
+/// The help page, file, address and agreement of each language.
 class tst_HelpLinks : public QObject
 {
     Q_OBJECT
@@ -60,7 +60,7 @@ void tst_HelpLinks::pageOfTheTopic_data()
 {
     QTest::addColumn<int>("language");
     QTest::addColumn<int>("topic");
-    QTest::addColumn<QString>("page"); ///< behind the common words, or the whole address
+    QTest::addColumn<QString>("page"); ///< the part after the common words, or the whole address
     const auto row = [](const char *name, int language, Topic topic, const char *page) {
         QTest::newRow(name) << language << static_cast<int>(topic) << QString(page);
     };

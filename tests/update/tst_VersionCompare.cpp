@@ -3,7 +3,7 @@
 
 #include <QtTest>
 
-/// Which versions count as newer: the form is read by positions, so it has its oddities.
+/// Which versions count as newer. Fields are read at fixed positions, so some results are odd.
 class VersionCompareTest : public QObject
 {
     Q_OBJECT
