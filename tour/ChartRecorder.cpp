@@ -28,13 +28,13 @@ QString sideName(Qt::Alignment side)
     return side & Qt::AlignTop ? QStringLiteral("top") : QStringLiteral("bottom");
 }
 
-/// A category axis is a value axis by class, so it is asked first.
+/// A category axis also is a value axis, so it is tried first.
 QJsonObject axisRecord(const QAbstractAxis *axis)
 {
     QJsonObject record{{QStringLiteral("side"), sideName(axis->alignment())},
                        {QStringLiteral("visible"), axis->isVisible()}};
     if (const auto *named = qobject_cast<const QCategoryAxis *>(axis)) {
-        // The accessor of the labels is not const in this release of the toolkit.
+        // In this version of Qt the function for the labels is not const.
         const QStringList labels = const_cast<QCategoryAxis *>(named)->categoriesLabels();
         record[QStringLiteral("kind")] = QStringLiteral("category");
         record[QStringLiteral("labels")] = QJsonArray::fromStringList(labels);
@@ -77,7 +77,7 @@ QJsonObject seriesRecord(const QAbstractSeries *series)
     return {{QStringLiteral("points"), points}};
 }
 
-/// The title of a graph stands on a label beside it where the chart has none of its own.
+/// The title of the chart, else the label beside it.
 QString titleOf(const QChart *chart, const QWidget *window)
 {
     if (!chart->title().isEmpty())

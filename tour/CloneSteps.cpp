@@ -29,14 +29,14 @@ struct Wish {
     }
 };
 
-/// What the gauge shows; -1 where none does. GUI thread.
+/// The percentage of the gauge; -1 if none shows. GUI thread.
 double percent()
 {
     const QWidget *gauge = windows::byClass(QStringLiteral("QRoundProgressBar"));
     return gauge ? gauge->property("value").toDouble() : -1;
 }
 
-/// Sectors that the page tells of one of its disks, -1 where it tells none. GUI thread.
+/// The sectors that the page shows for one of its disks; -1 if it shows none. GUI thread.
 qint64 sectorsOf(const char *label)
 {
     const auto *told = qobject_cast<QLabel *>(
@@ -81,7 +81,7 @@ void seeSameDisk(Walk &walk, const Wish &wish)
     closeRefusal(walk);
 }
 
-/// The other way round, where that is the smaller one.
+/// Source and destination exchanged, if that destination is too small.
 void seeSmallTarget(Walk &walk, const Wish &wish)
 {
     openPage(walk, wish.target);
@@ -108,7 +108,7 @@ void startClone(Walk &walk, const Wish &wish)
     walk.waitFor(QStringLiteral("the start of the clone"), []() { return percent() >= 0; });
 }
 
-/// Waits until so many percent have been copied. False where the clone ended before that was seen.
+/// Waits until so many percent are copied. False if the clone ended before.
 bool waitForPercent(Walk &walk, double wanted)
 {
     walk.waitWhileRising(QStringLiteral("the progress of the clone"), percent,

@@ -14,7 +14,7 @@ void askToClose(Walk &walk)
     walk.waitForWindow(QuestionClass);
 }
 
-/// The first time the person changes their mind.
+/// At the first question the answer is No.
 void stay(Walk &walk)
 {
     askToClose(walk);

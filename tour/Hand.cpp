@@ -11,8 +11,7 @@
 namespace
 {
 
-/// The native window of a top-level widget, if that still is one and is shown: its address may be stale by
-/// now.
+/// The native window of a widget, if there still is a shown top-level widget at that address.
 QWindow *nativeWindow(QWidget *widget)
 {
     if (!QApplication::topLevelWidgets().contains(widget) || !widget->isVisible())
@@ -20,7 +19,8 @@ QWindow *nativeWindow(QWidget *widget)
     return widget->windowHandle();
 }
 
-/// A display tells a window when the mouse leaves it. Offscreen nothing does, and a button would stay lit.
+/// Tells the widgets that the mouse has left. A display does that by itself; without one a button would stay
+/// highlighted.
 void leave(QWidget *window)
 {
     QList<QWidget *> all = window->findChildren<QWidget *>();
@@ -84,7 +84,7 @@ void fill(QWidget *field, const QString &text)
 {
     if (auto *line = qobject_cast<QLineEdit *>(field)) {
         line->setFocus();
-        line->setText(text); // typing would bring up a list of completions that eats the next key
+        line->setText(text); // typing would open a list of completions, which takes the next key
     }
 }
 

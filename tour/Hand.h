@@ -7,13 +7,13 @@
 class QString;
 class QWidget;
 
-/// Mouse and keyboard. The events enter where those of the display do, so modal windows, open menus and
-/// widgets on top get them as they would from a person. GUI thread only; a press may run an event loop of the
-/// program and return only after it.
+/// Mouse and keyboard. The events take the way of those from the display, so modal windows, open menus and
+/// widgets on top get them as from a person. GUI thread only. A press may run an event loop of the program,
+/// and then returns only after it.
 namespace hand
 {
 
-/// A point of a widget in the window that it is in, as one value that stays good when the widget goes.
+/// A point of a widget in its window. Stays valid when the widget is deleted.
 struct Place {
     QWidget *window = nullptr;
     QPoint point;
@@ -27,7 +27,7 @@ void press(const Place &place);
 void release(const Place &place);
 void key(QWidget *window, Qt::Key key);
 
-/// Makes `text` all that a field holds, as a paste over what it held.
+/// Replaces the text of a field by `text`, as a paste would.
 void fill(QWidget *field, const QString &text);
 
 } // namespace hand

@@ -9,11 +9,10 @@ namespace hurrycheck
 {
 
 /// The texts, pictures, tables, graphs and rings of a recorded window that belong to its disk, each under a
-/// name of its own. Left out are the navigation's looks, which go by the mouse.
+/// name of its own. The navigation buttons are left out, as their look depends on the mouse.
 QJsonObject figures(const QJsonObject &contents);
 
-/// The first of `wanted` that `seen` has not, or that it has besides, with both values; empty where they
-/// agree.
+/// The first difference between `wanted` and `seen`, with both values; empty if there is none.
 QString difference(const QJsonObject &wanted, const QJsonObject &seen);
 
 } // namespace hurrycheck

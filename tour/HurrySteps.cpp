@@ -18,18 +18,18 @@ constexpr int ChoicesPerLook = 5;
 constexpr int ShortPause = 40; ///< ms, every other time
 constexpr int LongPause = 400; ///< ms
 
-/// What a person who takes the time sees, by place in the drive combo and by screen.
+/// The screens as they look without hurry, by place in the drive combo and screen.
 using Patient = std::map<std::pair<int, QString>, QJsonObject>;
 
 struct Hurry {
     Patient patient;
     std::mt19937 random;
 
-    /// The same numbers on every machine.
+    /// Random numbers below `end`, the same on every machine.
     int below(int end) { return static_cast<int>(random() % static_cast<unsigned>(end)); }
 };
 
-/// The page that shows; the first one where none does.
+/// The page that shows; the first one if none does.
 Page shownPage()
 {
     const auto found = std::find_if(pages().cbegin(), pages().cend(), [](const Page &page) {
@@ -38,7 +38,7 @@ Page shownPage()
     return found == pages().cend() ? pages().front() : *found;
 }
 
-/// What the drive combo says, and the screen that shows. GUI thread.
+/// The drive combo's text and index, and the screen that shows. GUI thread.
 QJsonObject place()
 {
     const QComboBox *drives =

@@ -11,7 +11,7 @@ namespace
 const QString SettingsClass = QStringLiteral("Settings");
 constexpr int SettleTime = 600; ///< ms
 
-/// Changes the language as a person does, and looks at Settings in it.
+/// Changes the language in Settings, and records Settings in it.
 void chooseLanguage(Walk &walk, const QString &language)
 {
     const Expectation settings(&walk, SettingsClass);
@@ -21,7 +21,7 @@ void chooseLanguage(Walk &walk, const QString &language)
     walk.press(SettingsClass, {QStringLiteral("m_pLanguageButton")});
     walk.waitFor(QStringLiteral("the menu of languages"), []() { return windows::openMenu() != nullptr; });
     walk.chooseInMenu(language);
-    // The windows lay out their new texts when they come to rest.
+    // The windows need some time to lay out their new texts.
     walk.program().pause(SettleTime);
     walk.record(QStringLiteral("settings"), SettingsClass);
     walk.press(SettingsClass, {QStringLiteral("CloseButton")});

@@ -64,7 +64,7 @@ std::optional<Cut> richCut(const QLabel *label, const QSize &have)
     return Cut{need, have};
 }
 
-/// One line may reach beyond its label with the blank part of its line height; only ink counts.
+/// The line height has blank parts that may reach beyond the label; only the letters have to fit.
 bool inkFits(const QFontMetrics &metrics, const QString &text, int height, Qt::Alignment alignment)
 {
     const QRect ink = metrics.tightBoundingRect(text);
@@ -77,8 +77,8 @@ bool inkFits(const QFontMetrics &metrics, const QString &text, int height, Qt::A
     return baseline + ink.top() >= 0 && baseline + ink.bottom() < height;
 }
 
-/// The part of a widget that its parents do not cut off. All of a scroll area counts, as it can be scrolled
-/// to.
+/// The part of a widget that its parents do not cut off. A scroll area counts as a whole, as it can be
+/// scrolled.
 QRect inSight(const QWidget *widget)
 {
     QRect sight = widget->rect();
@@ -99,7 +99,7 @@ bool isRich(const QLabel *label)
            (label->textFormat() == Qt::AutoText && Qt::mightBeRichText(label->text()));
 }
 
-/// Where the text of a widget lies in it: the lines of a plain label, else all of the widget.
+/// The place of a widget's text: the lines of a plain label, else the whole widget.
 QRect textRect(const QWidget *widget)
 {
     const auto *label = qobject_cast<const QLabel *>(widget);

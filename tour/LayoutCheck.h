@@ -6,7 +6,7 @@
 
 class QWidget;
 
-/// What looks wrong in a window whatever its contents are. GUI thread only.
+/// Finds faults of the layout that do not depend on the contents. GUI thread only.
 namespace layoutcheck
 {
 

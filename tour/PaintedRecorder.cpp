@@ -38,7 +38,7 @@ QJsonValue gauge(const QWidget *view)
 
 struct View {
     const char *className;
-    const char *property; ///< the one without which it cannot be read
+    const char *property; ///< views without it are not recorded
     const char *key;      ///< in screens.json
     QJsonValue (*read)(const QWidget *);
 };

@@ -4,8 +4,8 @@
 class QJsonObject;
 class QWidget;
 
-/// What the self-drawn views of a window show, as data. A view is known by its class name and tells its
-/// values in its properties; a new kind of view is a new row of the table. GUI thread only.
+/// The contents of the self-drawn views of a window as data. A view is found by its class name and has its
+/// values in properties; a new kind of view is a new row of the table. GUI thread only.
 namespace paintedrecorder
 {
 

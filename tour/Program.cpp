@@ -56,7 +56,7 @@ void Program::runInGui(std::function<void()> call)
     });
 
     std::unique_lock<std::mutex> lock(m_mutex);
-    // A step that is late may still ask the program, to find out why.
+    // A step whose time is over may still ask the program, to find out why.
     const Clock::time_point patience = std::max(m_deadline, Clock::now() + AnswerTime);
     m_changed.wait_until(lock, patience, [&]() { return request->done || m_bEnded; });
     if (request->done)

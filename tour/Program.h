@@ -19,16 +19,16 @@ public:
     explicit StepFailed(const QString &reason) : std::runtime_error(reason.toStdString()) {}
 };
 
-/// The program ended, or its event loop no longer turns: no step can follow.
+/// The program ended or hangs: no step can follow.
 class ProgramGone : public StepFailed
 {
 public:
     using StepFailed::StepFailed;
 };
 
-/// The running program as the tour's own thread reaches it. Everything that looks at a widget or sends it an
-/// event is carried to the GUI thread as an event there, so it also gets through while the program sits in an
-/// event loop of a menu or a modal message.
+/// Access to the running program from the tour's own thread. What looks at a widget or sends it an event runs
+/// on the GUI thread, as an event there. So it also works while the program is in the event loop of a menu or
+/// a modal message.
 class Program
 {
 public:
@@ -37,16 +37,16 @@ public:
     /// GUI thread, once the application object is being made.
     void attach();
 
-    /// The program ended; wakes whoever waits. Any thread.
+    /// The program ended; wakes those who wait. Any thread.
     void markEnded();
     bool hasEnded() const;
 
-    /// Until when ask() and the waits of the present step may take. Tour thread.
+    /// The time at which ask() and the waits of this step have to end. Tour thread.
     void setDeadline(Clock::time_point deadline) { m_deadline = deadline; }
     bool isLate() const { return Clock::now() >= m_deadline; }
 
-    /// Runs `call` on the GUI thread and gives what it returns. Throws ProgramGone when the program does not
-    /// get to it before the deadline, or in the few seconds that a late step is given.
+    /// Runs `call` on the GUI thread and returns its result. Throws ProgramGone if the program does not run
+    /// it before the deadline, or, after the deadline, within a few seconds.
     template<typename Call>
     auto ask(Call call) -> std::invoke_result_t<Call>
     {
@@ -60,10 +60,10 @@ public:
         }
     }
 
-    /// Runs `call` on the GUI thread and does not wait: what it starts may run an event loop of its own.
+    /// Runs `call` on the GUI thread without waiting, as it may run an event loop of its own.
     void act(std::function<void()> call);
 
-    /// Lets the program run for so long, or to its end.
+    /// Waits for this time, or until the program ends.
     void pause(int milliseconds);
 
 private:

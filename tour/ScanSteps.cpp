@@ -34,7 +34,7 @@ void openChooser(Walk &walk, int disk)
     walk.press(MainWindowClass, {QStringLiteral("radioButton")});
 }
 
-/// Waits until so much of the disk has been read. False where the scan ended before that was seen.
+/// Waits until so much of the disk is read. False if the scan ended before.
 bool waitForShare(Walk &walk, double share)
 {
     walk.waitWhileRising(QStringLiteral("the progress of the scan"), position, [share]() {
@@ -79,7 +79,7 @@ void seeFinished(Walk &walk)
     closeResult(walk, QStringLiteral("scan-finished"));
 }
 
-/// False where the scan ended first, which takes the question along.
+/// False if the scan ended first; then its question is closed, too.
 bool stopScan(Walk &walk)
 {
     try {
@@ -96,7 +96,7 @@ bool stopScan(Walk &walk)
     return true;
 }
 
-/// From the results of the scan before, with one more scan of the disk.
+/// Scans the disk once more, from the page with the last results, and stops.
 void seeStopped(Walk &walk)
 {
     const Expectation result(&walk, ResultClass);
@@ -108,7 +108,7 @@ void seeStopped(Walk &walk)
         walk.answer(ResultClass, QStringLiteral("OkButton"));
 }
 
-/// Gives up the results, so that the other chapters find the program as they expect it.
+/// Leaves the results, as the next chapter expects.
 void leaveResults(Walk &walk)
 {
     walk.goTo(QStringLiteral("DiskStatusButton"), QStringLiteral("DiskStatus"));

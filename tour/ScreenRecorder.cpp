@@ -34,7 +34,7 @@ QJsonObject widgetRecord(const QWidget *widget, const QWidget *window)
     return record;
 }
 
-/// A label of the form is recorded even if it is empty; an empty spacer is not.
+/// A label with a name is recorded even if it is empty; a spacer without a name is not.
 bool isTold(const QWidget *widget)
 {
     return !widget->objectName().isEmpty() || !widgettexts::text(widget).isEmpty() ||

@@ -6,7 +6,7 @@
 
 class QWidget;
 
-/// Turns what a window shows into plain data. Looks only; GUI thread.
+/// Turns the contents of a window into plain data. Changes nothing; GUI thread.
 namespace screenrecorder
 {
 

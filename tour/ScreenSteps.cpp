@@ -18,7 +18,7 @@ void goTo(Walk &walk, const Page &page)
 constexpr int NoDrive = -1;
 constexpr int DiskStatusPage = 0; ///< in pages()
 
-/// The first screen with a disk chosen in its combo. At the very start that screen is there already.
+/// Disk Status of a disk. For the first disk that screen shows already.
 void seeDiskStatus(Walk &walk, int drive)
 {
     const Page &page = pages()[DiskStatusPage];
@@ -53,7 +53,7 @@ StepList screenSteps(Walk &walk)
 {
     StepList steps;
     const int drives = walk.driveCount();
-    // A PC without a disk shows its screens all the same.
+    // A PC without disks shows its screens, too.
     for (int drive = drives > 0 ? 0 : NoDrive; drive < drives; ++drive) {
         for (const Page &page : pages()) {
             const bool first = &page == &pages()[DiskStatusPage];

@@ -25,7 +25,7 @@ struct Wish {
     }
 };
 
-/// Percent that the drive says to have done; -1 where no test runs. GUI thread.
+/// The percentage of the test that is done; -1 if no test runs. GUI thread.
 double percent()
 {
     const QWidget *page = windows::byClass(QStringLiteral("ScanDisk"));
@@ -42,7 +42,7 @@ bool canPress(const QString &button)
     return windows::button(windows::byClass(MainWindowClass), {button}) != nullptr;
 }
 
-/// False where the drive has no self-tests; that was recorded then.
+/// False if the drive has no self-tests; the message about it is recorded.
 bool startTest(Walk &walk, const Wish &wish)
 {
     const Expectation refusal(&walk, RefusalClass);

@@ -17,15 +17,16 @@ namespace
 
 const QString TreeName = QStringLiteral("m_pAttributeTree");
 constexpr int NameColumn = 1;
-constexpr int KeyColumns[] = {7, 3}; ///< of ATA, of NVMe; the other one is empty or of another meaning
+/// Of ATA and NVMe. In a table of the other kind the column is empty or has another meaning.
+constexpr int KeyColumns[] = {7, 3};
 
 struct Row {
     int number = 0;
     QString name;
-    QString key; ///< the name in no language
+    QString key; ///< the name that is not translated
 };
 
-/// Whose graphs are worth a picture: for each line the first name that a row has.
+/// Rows whose graphs are recorded: of each line the first name that the table has.
 const QVector<QStringList> &wanted()
 {
     static const QVector<QStringList> names{
@@ -41,7 +42,7 @@ const QWidget *page()
     return windows::byClass(QStringLiteral("SmartStatus"));
 }
 
-/// The rows that the tree shows; none where no graph can be seen beside it. GUI thread.
+/// The rows that the tree shows; none if no graph shows beside it. GUI thread.
 QVector<Row> shownRows()
 {
     QVector<Row> rows;
@@ -83,14 +84,14 @@ bool showsGraphOf(const QString &name)
     return title && title->text().endsWith(name);
 }
 
-/// The first row's graph stands there when the disk has been read; it is part of the page's own picture.
+/// The first row's graph shows after a read and is in the picture of the page; these are further ones.
 void seeGraphs(Walk &walk)
 {
     const QVector<Row> rows = chosenRows(walk.program().ask(shownRows));
     for (const Row &row : rows) {
         walk.clickRow(TreeName, row.number);
         walk.record(QStringLiteral("smart-status"));
-        // The history of a drive that tells no serial number may not be found again.
+        // A drive without a serial number may have no history, so a missing graph is no failure.
         const bool lost =
             walk.program().ask([row]() { return !g_strSerialNumber.isEmpty() && !showsGraphOf(row.name); });
         if (lost)
@@ -98,7 +99,7 @@ void seeGraphs(Walk &walk)
     }
 }
 
-/// Saves what a button of the page makes. Without SMART there is nothing to press.
+/// Presses a button that saves a file. Without SMART the button is disabled and nothing is pressed.
 void save(Walk &walk, const QString &button, const QString &pattern)
 {
     if (walk.program().ask([]() { return g_bSmartAvailable; })) {

@@ -11,7 +11,7 @@ namespace
 const QString SplashClass = QStringLiteral("QWaitClass");
 const QString MainWindowClass = QStringLiteral("MainWindow");
 
-/// The splash fades in: it is pictured once it is fully there.
+/// The splash fades in; its picture is taken when it is fully visible.
 void seeSplash(Walk &walk)
 {
     walk.waitFor(QStringLiteral("the splash"), []() {

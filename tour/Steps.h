@@ -10,9 +10,9 @@ class Walk;
 
 /// One thing that the tour does, with a time limit of its own.
 struct Step {
-    QString name; ///< as a failure of it is named
+    QString name; ///< of the step in `failed`
     std::function<void(Walk &)> run;
-    bool essential = false; ///< nothing can follow where it fails
+    bool essential = false; ///< if it fails, the tour ends
 };
 
 using StepList = std::vector<Step>;
@@ -27,12 +27,11 @@ struct Page {
 /// All of them, in the order of the navigation.
 const std::vector<Page> &pages();
 
-/// A stretch of the walk. Its steps are asked for when it begins, so they may depend on what the program
-/// shows.
+/// A part of the tour. Its steps are made when it begins, so they may depend on what the program shows.
 struct Chapter {
     QString name;
     std::function<StepList(Walk &)> steps;
-    bool onWish = false; ///< walked only where "tour" of the described PC asks for it under this name
+    bool onWish = false; ///< done only if "tour" of the described PC has this name
 };
 
 /// \name Chapters, each in a file of its own
@@ -51,7 +50,7 @@ StepList aboutSteps(Walk &walk);
 StepList closeSteps(Walk &walk);
 /// @}
 
-/// Graphs, report and screenshot of a drive, for when its SMART Status shows. By its place in the combo.
+/// Graphs, report and screenshot of a drive whose SMART Status shows. By its place in the combo.
 StepList smartSteps(int drive);
 
 /// The five screens once, for the disk that is chosen.

@@ -12,10 +12,10 @@
 namespace
 {
 
-/// Exit status of a tour whose program had to be abandoned.
+/// Exit status of a tour whose program hung.
 constexpr int HungStatus = 2;
 
-/// Thrown by a step that nothing can follow.
+/// Thrown by a step after which no other step can run.
 struct WalkOver {
 };
 

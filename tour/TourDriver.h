@@ -11,7 +11,7 @@
 
 class Walk;
 
-/// Walks through the running program on a thread of its own and brings the findings together.
+/// Runs the steps on a thread of its own and collects the results.
 class TourDriver
 {
 public:
@@ -22,8 +22,9 @@ public:
     /// Begins the walk. GUI thread, while the application object is being made.
     void start();
 
-    /// The program has ended, with this exit code. Waits for the walk's own end and gives the exit status of
-    /// the tour: 0 if every step was done and the program ended well, else 1. Any thread but the walk's.
+    /// Call it when the program has ended, with its exit code. Waits for the end of the steps and returns the
+    /// exit status of the tour: 0 if every step was done and the program ended with 0, else 1. Any thread but
+    /// that of the steps.
     int finish(int exitCode);
 
 private:

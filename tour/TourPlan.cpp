@@ -15,7 +15,7 @@ constexpr const char *PcVariable = "HALVANE_PC";
 constexpr const char *StateVariable = "HALVANE_PC_STATE";
 constexpr const char *LimitVariable = "HALVANE_TOUR_LIMIT";
 
-/// The PC of the command line, else of the environment, else the demo PC.
+/// The PC of the command line, else that of the environment, else the demo PC.
 QString chosenPc(const QString &argument)
 {
     if (!argument.isEmpty())
@@ -95,7 +95,7 @@ void setEnvironment(const TourPlan &plan, const QString &stateFolder)
     qputenv(PcVariable, QFile::encodeName(plan.pcFolder));
     setDefault(StateVariable, QFile::encodeName(stateFolder));
     setDefault("QT_QPA_PLATFORM", "offscreen");
-    // With this, point sizes follow the display's scale, as they do on a desktop.
+    // With this, fonts have the scale of the display, as on a desktop.
     qputenv("QT_FONT_DPI", QByteArray::number(plan.dpi));
     setDefault("QT_LOGGING_RULES", "*.debug=false;qt.qpa.*=false");
 }

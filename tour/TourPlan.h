@@ -21,11 +21,11 @@ struct TourPlan {
 namespace tourplan
 {
 
-/// Reads `halvane_tour [--pc DIR] OUT` and the described PC. False, with one line in `error`, where they make
-/// no sense. Needs no application object.
+/// Reads `halvane_tour [--pc DIR] OUT` and the described PC. If one is wrong, returns false and one line in
+/// `error`. Needs no application object.
 bool read(int argc, char **argv, TourPlan *plan, QString *error);
 
-/// Sets the environment that the program is to run in. `stateFolder` is used where none is named already.
+/// Sets the environment of the program. `stateFolder` is used unless the environment names one.
 void setEnvironment(const TourPlan &plan, const QString &stateFolder);
 
 } // namespace tourplan

@@ -54,7 +54,7 @@ void TourReport::log(const QString &line)
 
 QString TourReport::pictureName(const Screen &screen) const
 {
-    // The colon of "dialog:<class>" is no character for file names everywhere.
+    // File names cannot have the colon of "dialog:<class>" on all systems.
     QString name = QStringLiteral("%1-%2")
                        .arg(m_steps.size() + 1, 2, 10, QLatin1Char('0'))
                        .arg(QString(screen.step).replace(QLatin1Char(':'), QLatin1Char('-')));
@@ -90,7 +90,7 @@ void TourReport::add(const Screen &screen)
     step[QStringLiteral("picture")] = picture;
     m_steps.append(step);
 
-    // The run's own language is the one that it began in.
+    // The language of the tour is the one that it began in.
     if (m_strLanguage.isEmpty()) {
         m_strLanguage = screen.language;
         m_dScale = screen.scale;

@@ -6,15 +6,15 @@
 #include <QJsonObject>
 #include <QString>
 
-/// What the tour has seen so far, kept on disk after every step so that it outlives whatever happens to the
-/// program. Tour thread only.
+/// The results of the tour so far. They are written after every step, so that they stay whatever happens to
+/// the program. Tour thread only.
 class TourReport
 {
 public:
     /// `folder` is made; what an earlier tour left in it is removed.
     TourReport(const QString &folder, const QString &pcName);
 
-    /// What one window showed.
+    /// The contents of one window.
     struct Screen {
         QString step;
         int disk = -1; ///< -1: none
@@ -36,7 +36,7 @@ public:
 
     bool hasFailures() const { return !m_failed.isEmpty(); }
 
-    /// Writes screens.json anew. False if the folder does not take it.
+    /// Writes screens.json anew. False if that fails.
     bool write() const;
 
     /// One line on standard error.

@@ -10,8 +10,8 @@ const QString SettingsClass = QStringLiteral("Settings");
 const QString MessageClass = QStringLiteral("SmallMessageDlg");
 const QString OfferClass = QStringLiteral("QShowUpdate");
 
-/// Asks for an update. Whether there is one depends on who serves the link of the described PC; an offer is
-/// looked at and not taken.
+/// Asks for an update. There is one only if somebody serves it at the link of the described PC; an offer is
+/// recorded and not accepted.
 void askForUpdate(Walk &walk)
 {
     const Expectation settings(&walk, SettingsClass);

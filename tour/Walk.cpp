@@ -22,15 +22,15 @@ namespace
 {
 
 constexpr int PollInterval = 25;     ///< ms
-constexpr int SettleTime = 300;      ///< ms that the program must be idle before the next press
-constexpr int DialogPatience = 3000; ///< ms that a dialog may take to go
+constexpr int SettleTime = 300;      ///< ms in which the program must be idle before the next press
+constexpr int DialogPatience = 3000; ///< ms in which a dialog has to close
 const QString MainWindowClass = QStringLiteral("MainWindow");
 const QString DriveCombo = QStringLiteral("DriveCombobox");
 const QString SwitchQuestionClass = QStringLiteral("ScanSwitchClass");
 const QString NoticeClass = QStringLiteral("AccessNotice");
 const QString FileDialogClass = QStringLiteral("QFileDialog");
 
-/// Buttons that close a dialog without doing what it asks for, best first.
+/// Buttons that close a dialog without doing what it asks for, in the order in which they are tried.
 const QStringList &dismissals()
 {
     static const QStringList names{
@@ -86,7 +86,7 @@ void Walk::beginStep()
     m_pProgram->setDeadline(Program::Clock::now() + std::chrono::seconds(m_pPlan->stepLimit));
 }
 
-/// One round of waiting is over and was in vain.
+/// Called after each round of waiting without success.
 void Walk::endRound(const QString &what)
 {
     if (m_pProgram->isLate())
@@ -114,7 +114,7 @@ void Walk::waitForNoWindow(const QString &windowClass)
 
 void Walk::waitIdle()
 {
-    // Between two reads the busy frame may be gone for a moment.
+    // Between two reads the busy frame may be hidden for a moment.
     const auto settled = [this]() {
         for (int waited = 0; waited < SettleTime; waited += PollInterval) {
             m_pProgram->pause(PollInterval);
@@ -163,7 +163,7 @@ void Walk::click(const QString &what, const std::function<hand::Place()> &find)
     if (!place.window)
         throw StepFailed(what + QStringLiteral(" went away"));
     m_pProgram->ask([place]() { hand::move(place); });
-    // The press may open a menu or a modal message and return only when that is closed.
+    // The press may open a menu or a modal message, and then returns only when that is closed.
     m_pProgram->act([place]() { hand::press(place); });
     m_pProgram->act([place]() { hand::release(place); });
 }
@@ -205,7 +205,7 @@ void Walk::goTo(const QString &buttonName, const QString &pageClass)
 {
     const Expectation question(this, SwitchQuestionClass);
     press(MainWindowClass, {buttonName});
-    // Where no disk may be opened a notice stands in the place of every page.
+    // If no disk may be opened, a notice replaces every page.
     const QString wanted = sees(NoticeClass) ? NoticeClass : pageClass;
     waitFor(wanted, [wanted]() { return windows::byClass(SwitchQuestionClass) || windows::byClass(wanted); });
     if (sees(SwitchQuestionClass))
@@ -231,7 +231,7 @@ void Walk::chooseItem(const QString &comboName, int index)
     });
     waitFor(QStringLiteral("the list of ") + comboName,
             [find]() { return find() && find()->view()->isVisible(); });
-    // A release soon after the press that opened the list counts as the end of that press.
+    // A release soon after the press that opened the list would count as the end of that press.
     m_pProgram->pause(m_pProgram->ask([]() { return QApplication::doubleClickInterval(); }) + PollInterval);
     const QString item = QStringLiteral("item %1 of %2").arg(index).arg(comboName);
     click(item, [find, index]() {

@@ -14,9 +14,9 @@
 
 class QWidget;
 
-/// The verbs that the steps of the tour are told in: what a person does at the program, sees and waits for.
-/// Windows and pages are named by their class, what is in them by object name or text. A verb that cannot be
-/// done before the step's time is up throws StepFailed. Tour thread only.
+/// The operations of which the steps of the tour consist: what a person does, sees and waits for. Windows and
+/// pages are named by their class, widgets by object name or text. An operation that is not done before the
+/// step's time is over throws StepFailed. Tour thread only.
 class Walk
 {
 public:
@@ -28,16 +28,16 @@ public:
     /// Begins a step: its time starts now.
     void beginStep();
 
-    /// Waits until `condition`, asked on the GUI thread, holds. `what` says in the log what was waited for.
+    /// Waits until `condition` is true; it runs on the GUI thread. `what` names it in the log.
     void waitFor(const QString &what, const std::function<bool()> &condition);
     void waitForWindow(const QString &className);
     void waitForNoWindow(const QString &className);
-    /// Waits until no report is being read and the reader has come to rest.
+    /// Waits until no report is read and nothing else runs.
     void waitIdle();
     /// Waits until the program has ended.
     void waitForEnd();
-    /// Like waitFor, for work that takes as long as it takes: the step's time begins anew whenever
-    /// `progress`, asked on the GUI thread, has risen.
+    /// Like waitFor, for long work: the step's time begins anew whenever `progress` has risen. Both run on
+    /// the GUI thread.
     void waitWhileRising(const QString &what, const std::function<double()> &progress,
                          const std::function<bool()> &condition);
     /// Whether any visible window or page is of that class.
@@ -45,12 +45,14 @@ public:
 
     /// Presses and releases the mouse on the button of that window.
     void press(const QString &windowClass, const QStringList &buttonNames);
-    /// Answers a dialog that the step expects: waits for it, records it, presses a button of it, sees it go.
+    /// Answers a dialog that the step expects: waits for it, records it, presses a button, waits until it
+    /// closes.
     void answer(const QString &windowClass, const QString &buttonName);
-    /// Presses a button that asks for a file name and gives it `name` in the folder of the tour. The dialog
-    /// is not recorded, as it shows the machine's own folders. Waits for the file.
+    /// Presses a button that opens a file dialog, and enters `name` in the folder of the tour. The dialog is
+    /// not recorded, as it shows folders of the machine. Waits for the file.
     void saveAs(const QString &buttonName, const QString &name);
-    /// Presses a navigation button and waits for its page; gives up the results of a test if it is asked to.
+    /// Presses a navigation button and waits for its page. Answers Yes if the results of a test would be
+    /// lost.
     void goTo(const QString &buttonName, const QString &pageClass);
     /// Chooses an item of the drive combo with the mouse and waits until the disk has been read.
     void selectDrive(int index);
@@ -75,20 +77,20 @@ public:
     /// Presses a navigation button and waits for nothing.
     void hurryTo(const QString &buttonName) { press(QStringLiteral("MainWindow"), {buttonName}); }
 
-    /// Records what a window shows as `step`, `more` beside it.
+    /// Records the contents of a window as `step`, with `more` in it.
     void record(const QString &step, const QString &windowClass = QStringLiteral("MainWindow"),
                 const QJsonObject &more = {});
-    /// What the main window shows, unrecorded.
+    /// The contents of the main window, without recording them.
     QJsonObject contents();
     void recordMenu(const QString &step);
     /// Records a window that a step expects as `dialog:<class>`, unless it was recorded with the same texts.
     void recordDialog(const QString &windowClass);
 
-    /// A window of that class belongs to the walk from now on: it is not sent away as a surprise.
+    /// A window of that class is expected from now on: it is not closed as an unexpected one.
     void expect(const QString &windowClass) { m_expected.insert(windowClass); }
     void noLongerExpect(const QString &windowClass) { m_expected.remove(windowClass); }
 
-    /// Records and sends away the dialogs that nobody expects.
+    /// Records and closes the dialogs that no step expects.
     void sweepDialogs();
 
 private:
@@ -105,7 +107,7 @@ private:
     const TourPlan *m_pPlan;
     QSet<QString> m_expected;
     QSet<QString> m_seenDialogs; ///< class and texts
-    QSet<quintptr> m_dismissed;  ///< windows that were told to go and may not have gone yet
+    QSet<quintptr> m_dismissed;  ///< windows that were closed and may still show
 };
 
 /// Expects windows of a class for as long as it lives.

@@ -21,7 +21,7 @@
 namespace
 {
 
-/// One row for each kind of widget that bears a text.
+/// One row for each kind of widget with a text.
 struct Kind {
     const char *className;
     QString (*text)(const QWidget *);
@@ -53,7 +53,7 @@ const Kind *kindOf(const QWidget *widget)
     return found == std::end(kinds) ? nullptr : found;
 }
 
-/// Widgets whose inner parts are left out.
+/// Widgets whose inner parts are not recorded.
 bool isClosedField(const QWidget *widget)
 {
     return qobject_cast<const QAbstractSpinBox *>(widget) || qobject_cast<const QComboBox *>(widget) ||
@@ -74,8 +74,8 @@ void collect(const QWidget *parent, QVector<QWidget *> *found)
     }
 }
 
-/// Widget classes of the toolkit begin with Q like some of the program's own, but lie in its library: their
-/// meta objects are known by name.
+/// Whether a class is Qt's own. Some classes of the program begin with Q, too, so the name alone does not
+/// tell.
 bool isToolkitClass(const QString &className)
 {
     static const QStringList classes{

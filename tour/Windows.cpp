@@ -13,14 +13,14 @@
 namespace
 {
 
-/// Shown instead of, or before, the main window; not dialogs.
+/// The main window and the splash, which are no dialogs.
 const QStringList &shellClasses()
 {
     static const QStringList classes{QStringLiteral("MainWindow"), QStringLiteral("QWaitClass")};
     return classes;
 }
 
-/// A combo item's data is the physical disk number and this.
+/// The data of a combo item is this plus the physical number of the disk.
 constexpr int DiskIdBase = 128;
 
 bool isOfClass(const QWidget *widget, const QString &className)

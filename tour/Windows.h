@@ -10,8 +10,8 @@ class QComboBox;
 class QMenu;
 class QWidget;
 
-/// Finds the parts of the program by class names and object names, as the program knows nothing of the
-/// tour. GUI thread only; null for what is not there.
+/// Finds the parts of the program by class names and object names, as the program has no code for the tour.
+/// GUI thread only; null if there is no such part.
 namespace windows
 {
 
@@ -21,8 +21,8 @@ QWidget *byClass(const QString &className);
 /// The visible child of `window` with that object name.
 QWidget *child(QWidget *window, const QString &name);
 
-/// The visible and enabled button of `window` whose object name or text is the first of `names` that there
-/// is.
+/// The visible and enabled button of `window` that fits the first of `names`, by object name or text, for
+/// which there is one.
 QWidget *button(QWidget *window, const QStringList &names);
 
 /// The combo of that name below `window`, visible or not.
@@ -34,10 +34,10 @@ QMenu *openMenu();
 /// The visible action of `menu` with that object name or that text.
 QAction *action(const QMenu *menu, const QString &name);
 
-/// Whatever is open beside the main window, the splash, menus and tool tips.
+/// All open windows except the main window, the splash, menus and tool tips.
 QVector<QWidget *> dialogs();
 
-/// Where a combo of the main window lists the disk of that physical number; -1 if it does not.
+/// The place of the disk with that physical number in a combo of the main window; -1 if it is not listed.
 int diskIndex(const QString &comboName, int disk);
 
 /// Physical number of the disk that the drive combo selects; -1 if none.

@@ -11,8 +11,8 @@
 #include <cstdlib>
 #include <memory>
 
-/// The tour: starts the program as its own main() does and walks it as a person would.
-/// Exit status: 0 all seen, 1 a step failed, 2 the program hung, 64 wrong command line.
+/// The tour: starts the program as its own main() does, and uses it as a person would.
+/// Exit status: 0 all steps done, 1 a step failed, 2 the program hung, 64 wrong command line.
 
 namespace
 {
@@ -37,21 +37,21 @@ int finish(int exitCode)
     return status;
 }
 
-/// Called on the walk's thread while the program hangs on its own.
+/// Ends the process if the program hangs. Called on the tour's thread.
 void abandon(int status)
 {
     stateFolder.reset();
     std::_Exit(status);
 }
 
-/// The offscreen platform says at every window what it leaves to real displays.
+/// Leaves out the lines that the offscreen platform writes for every window.
 void message(QtMsgType, const QMessageLogContext &, const QString &text)
 {
     if (!text.startsWith(QLatin1String("This plugin does not support")))
         std::fprintf(stderr, "%s\n", qPrintable(text));
 }
 
-/// The program may end without coming back from its entry function: a second instance does.
+/// The program may call exit(), as a second instance does.
 void finishEarly()
 {
     if (driver)
@@ -75,9 +75,9 @@ int main(int argc, char **argv)
     std::atexit(finishEarly);
     qInstallMessageHandler(message);
 
-    // A file dialog of the system's own is out of the tour's reach.
+    // The tour cannot use a file dialog of the system.
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    // The program gets no argument: what the command line says is for the tour.
+    // The program gets no arguments; those of the command line are for the tour.
     char *arguments[] = {argv[0], nullptr};
     return finish(runApplication(1, arguments));
 }

@@ -167,7 +167,7 @@ void tst_CloneEnds::refuses()
 void tst_CloneEnds::diesOnTheWay_data()
 {
     QTest::addColumn<bool>("destination");
-    QTest::addColumn<int>("from"); // all transfers fail after the one at this sector
+    QTest::addColumn<int>("from"); // the transfer of this sector is the first that fails
     QTest::newRow("source, at once") << false << 0;
     QTest::newRow("source, in the third block") << false << 65536;
     QTest::newRow("source, in a bad block again") << false << 128;

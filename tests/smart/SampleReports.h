@@ -12,14 +12,14 @@
 #include <QTextStream>
 #include <QVector>
 
-/// The real reports of tests/data/smart and what a person makes of them: expected.tsv was worked out from the
-/// reports' texts by other means than the code under test.
+/// The real reports of tests/data/smart with the figures that they should give. These stand in expected.tsv,
+/// which was not made by the code under test.
 namespace samples
 {
 
 struct Sample {
     QString file;
-    QString kind; ///< "ata", "nvme", "-" where no section line tells
+    QString kind; ///< "ata", "nvme", or "-" if no section line tells
     int rows = 0;
     bool passed = false;
     QString model;
@@ -27,7 +27,7 @@ struct Sample {
     QString firmware;
     QString ataVersion;
     int celsius = 0;
-    int health = 0; ///< by the rows; 100 where they tell none
+    int health = 0; ///< from the rows; 100 if they have none
     bool rated = true;
     int performance = 0;
     LifeFigures life;
@@ -57,7 +57,7 @@ inline QVector<Sample> all()
     return found;
 }
 
-/// Lays a report where the tool would leave it.
+/// Writes a report to the file that the tool would write.
 inline QString stage(const QByteArray &bytes)
 {
     const QString path = tempFile(QStringLiteral("SMART.txt"));
@@ -67,7 +67,7 @@ inline QString stage(const QByteArray &bytes)
     return path;
 }
 
-/// As if no report had been read yet.
+/// Resets the globals, as if no report had been read yet.
 inline void forget()
 {
     g_smartTable = {};

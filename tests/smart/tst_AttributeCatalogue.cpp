@@ -7,7 +7,7 @@
 namespace
 {
 
-/// Answers in the catalogue's context only, and shows blanks at the end.
+/// Translates only texts of the catalogue, and makes blanks at the end visible.
 class Brackets : public QTranslator
 {
 public:
@@ -75,7 +75,7 @@ private slots:
         row("Free Fall Event Count", 254, "Free Fall Event Count", "Free Fall Event Count");
         row("", 0, "", "");
         row("POWER ON HOURS", 9, "POWER ON HOURS", "[Power On Hours]");
-        // Of two names the list's first shows, wherever they stand.
+        // If a text has two names of the list, the first one of the list counts.
         row("Spin Up Time Raw Read Error Rate", 1, "[Raw Read Error Rate]", "[Raw Read Error Rate]");
         row("Write Error Rate Multi Zone Error Rate", 1, "[Multi Zone Error Rate]",
             "[Multi Zone Error Rate]");

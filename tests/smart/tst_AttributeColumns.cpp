@@ -35,7 +35,7 @@ private slots:
 
     void bothKindsSetEveryColumn()
     {
-        // A column that one kind left out would keep the other kind's visibility.
+        // Without a row for a column, it would keep the visibility of the other kind of drive.
         for (bool nvme : {false, true})
             QCOMPARE(attributecolumns::columns(nvme).size(), std::size_t{attributecolumns::Count});
         for (const attributecolumns::Column &column : attributecolumns::columns(false))

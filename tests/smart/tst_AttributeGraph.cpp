@@ -97,7 +97,7 @@ void AttributeGraphTest::axisOfEveryName_data()
     row(GraphKind::Ata, "Head Flying Hours", "4: 30 to 500", "6: 30 to 5000000");
     row(GraphKind::Ata, "Total LBAs Written", "3: 30 to 500", "6: 0 to 4882");
     row(GraphKind::Ata, "Total LBAs Read", "3: 30 to 500", "6: 0 to 4882");
-    // Named in the tree, or by NVMe disks, and not here.
+    // Names of the tree or of NVMe disks that have no axis of their own here.
     for (const char *key :
          {"Free Fall Sensor", "Throughput Performance", "Power Cycles", "power on hours", ""})
         row(GraphKind::Ata, key, "20: 30 to 500", "20: 30 to 5000000");
@@ -153,7 +153,7 @@ void AttributeGraphTest::axis_data()
     row("sectors without a difference", "Total LBAs Read", {2000000, 2000000}, "6: 0 to 1953");
     row("least number", "Power Cycle Count", {Lowest, 5}, "3: -9223372036854775808 to 5");
     row("all numbers", "Another", {Lowest, Highest}, "20: -9223372036854775808 to 9223372036854775808");
-    // Of two names the list's first decides, wherever they stand.
+    // If a key has two names of the list, the first one of the list decides.
     row("hours ahead of retries", "Spin Retry Count Power On Hours", {1, 2}, "6: 1 to 2");
     row("rate ahead of hours", "Power On Hours Raw Read Error Rate", {1, 2}, "3: 1 to 2");
     row("degrees ahead of events", "Reallocated Event Count Temperature Celsius", {1, 2}, "6: 0 to 2");
@@ -257,7 +257,7 @@ void AttributeGraphTest::singleDay()
     }
     QCOMPARE(model.xMax, 80.0);
     QCOMPARE(model.xTicks, 2);
-    // The day on which it is drawn, which need not be the stored one.
+    // The label is the day of the drawing, which may differ from the stored day.
     QCOMPARE(model.labels, std::vector<QString>{QStringLiteral("15-Nov")});
     QCOMPARE(model.labelEnd, 80.0);
 }
@@ -274,7 +274,7 @@ void AttributeGraphTest::missingValues()
     const GraphModel model = *graphModel(GraphKind::Ata, QStringLiteral("Another"), dates, {4}, QDate());
     QCOMPARE(model.series[0].points.size(), std::size_t{201});
     QCOMPARE(model.series[0].points[1].y, 0.0);
-    // A list this long is damaged, and the chart has to bear it.
+    // So long a list is damaged; the chart has to show it all the same.
     QCOMPARE(model.yTicks, 1000);
 }
 

@@ -39,7 +39,7 @@ private slots:
 private:
     QString file(const QString &name) const { return m_folder->filePath(name); }
     void put(const QString &name, const QByteArray &text) const;
-    /// With the line ends of this platform as line feeds.
+    /// The text of a file, with line feeds for the line ends of this platform.
     QByteArray textOf(const QString &name) const;
     QByteArray bytesOf(const QString &name) const;
     QStringList sections(const QString &name) const;
@@ -255,7 +255,8 @@ void TestAttributeHistory::tornValues()
              (std::vector<qint64>{5, 0, days::valueOn(m_first)}));
 }
 
-/// The toolkit knows a file by its size and time, so the time has to rise even where the clock does not.
+/// QSettings takes a file of the same size and time for the old one, so the time has to rise even if the
+/// clock does not.
 void TestAttributeHistory::rewrittenWithinATick()
 {
     days::record(m_serial, m_first, 10);
@@ -296,7 +297,7 @@ void TestAttributeHistory::noFolder()
     QVERIFY(!QFile::exists(file(QStringLiteral("missing"))));
 }
 
-/// A drive that bears the name of a file of the program's or of another drive, and a pair of earlier days.
+/// Serial numbers that are names of other files, and files that an earlier version wrote.
 void TestAttributeHistory::earlierNames()
 {
     const QByteArray dates("24-10-2026\r\n23-1");

@@ -30,7 +30,7 @@ QString asText(const AttributeRow &row)
     return cells.join(QLatin1Char('|'));
 }
 
-/// A language that has no word for a sector.
+/// A language without a word for a sector.
 class Foreign : public QTranslator
 {
 public:

@@ -3,8 +3,8 @@
 
 #include <QtTest>
 
-/// A row is a story: "0" to "9" asks for that disk, "." ends the tool that runs, "f" forgets, "t" takes the
-/// report. What comes back is told in the same letters.
+/// Each row is a list of calls: "0" to "9" asks for that disk, "." ends the tool that runs, "f" forgets, "t"
+/// takes the report. The answers are written in the same letters.
 class tst_CurrentRead : public QObject
 {
     Q_OBJECT

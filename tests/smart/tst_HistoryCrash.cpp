@@ -7,7 +7,7 @@
 
 #include <csignal>
 
-/// Kills a process that records history at each of its calls that touch the folder, one after the other.
+/// Kills a process that records history, at each of its calls for the folder in turn.
 class TestHistoryCrash : public QObject
 {
     Q_OBJECT
@@ -18,7 +18,7 @@ private slots:
 
 private:
     bool runKilledAt(int call, const QDate &first, int count);
-    /// The days of the list whose values are right; -1 if a file is not what it should be.
+    /// The number of days with the right values; -1 if a file is damaged.
     int readableDays(bool anyDay);
     QStringList sectionsBeside(const std::vector<QString> &listed);
     QDate dayNumber(int number) const { return QDate(2026, 10, 25).addDays(number - 1); }
@@ -48,7 +48,7 @@ bool TestHistoryCrash::runKilledAt(int call, const QDate &first, int count)
 
 int TestHistoryCrash::readableDays(bool anyDay)
 {
-    // Under a name of its own, so that nothing that was read before is taken for the content.
+    // A new name each time, because QSettings may keep what it read from a file before.
     static int copies = 0;
     const QString values = m_root->filePath(QStringLiteral("values%1").arg(++copies));
     QFile list(historyPaths(m_serial).dates);
@@ -70,7 +70,7 @@ int TestHistoryCrash::readableDays(bool anyDay)
     return right;
 }
 
-/// The sections of values that no date leads to.
+/// The sections of values without a date in the list.
 QStringList TestHistoryCrash::sectionsBeside(const std::vector<QString> &listed)
 {
     QStringList sections = QSettings(historyPaths(m_serial).values, QSettings::IniFormat).childGroups();
@@ -81,10 +81,10 @@ QStringList TestHistoryCrash::sectionsBeside(const std::vector<QString> &listed)
 
 void TestHistoryCrash::killedAnywhere_data()
 {
-    QTest::addColumn<int>("before"); // days that are there
+    QTest::addColumn<int>("before"); // days that are recorded already
     QTest::addColumn<int>("first");  // number of the first day recorded by the killed process
     QTest::addColumn<int>("count");
-    QTest::addColumn<int>("kept"); // days that are readable at least, whenever it dies
+    QTest::addColumn<int>("kept"); // days that must be readable at least, whenever it is killed
     QTest::newRow("first visit") << 0 << 1 << 1 << 0;
     QTest::newRow("third day") << 2 << 3 << 1 << 2;
     QTest::newRow("second visit of a day") << 10 << 10 << 1 << 10;
@@ -114,7 +114,7 @@ void TestHistoryCrash::killedAnywhere()
         QVERIFY2(readable >= kept,
                  qPrintable(QStringLiteral("killed at call %1: %2 days are left").arg(call).arg(readable)));
 
-        // The next visit finds nothing to stumble over; what its day needs is whole again.
+        // The next run works as if nothing had happened, and its day is complete.
         const int last = first + count - 1;
         QVERIFY(!runKilledAt(0, dayNumber(last), 1));
         const std::vector<QString> listed = readHistoryDates(historyPaths(m_serial).dates, nullptr);
@@ -125,7 +125,7 @@ void TestHistoryCrash::killedAnywhere()
             QVERIFY(readableDays(false) >= kept);
         QCOMPARE(sectionsBeside(listed), QStringList());
     }
-    // Made, filled, flushed and put in place: two files.
+    // Each of the two files is made, filled, flushed and renamed.
     QVERIFY2(call > 8, qPrintable(QStringLiteral("only %1 calls were seen").arg(call - 1)));
 }
 

@@ -119,7 +119,7 @@ void tst_Rating::ataHealth_data()
     based("spin 20", "Spin_Retry_Count=20", 40);
     based("spin 21", "Spin_Retry_Count=21", 40);
     based("spin 1", "Spin_Retry_Count=1", 97);
-    // Three times the count does not fit 32 bits, and must not come out as a small damage.
+    // Three times the count does not fit 32 bits; it must not wrap to a small damage.
     based("spin beyond 32 bits", "Spin_Retry_Count=1431655766", 40);
     based("spin 1000000000", "Spin_Retry_Count=1000000000", 40);
     based("events 51, truncated 30", "Reallocated_Event_Count=51", 69);
@@ -366,7 +366,7 @@ void tst_Rating::lifeKinds()
 void tst_Rating::healthImages_data()
 {
     QTest::addColumn<int>("percent");
-    QTest::addColumn<QString>("plain"); // at 1.0 and from 1.5
+    QTest::addColumn<QString>("plain"); // for the factor 1.0, and from 1.5 on
     QTest::addColumn<QString>("middle");
     const QString good = "img_Health.png";
     const QString average = "img_HealthAverage.png";
@@ -395,7 +395,7 @@ void tst_Rating::performanceImages_data()
 {
     QTest::addColumn<int>("percent");
     QTest::addColumn<QString>("plain");
-    QTest::addColumn<QString>("larger"); // at 1.25 and from 1.5
+    QTest::addColumn<QString>("larger"); // for the factor 1.25, and from 1.5 on
     const QString good = "img_Performance.png";
     const QString bad = "img_PerformanceHigh.png";
     QTest::newRow("81") << 81 << good << good;

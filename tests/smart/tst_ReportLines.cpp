@@ -231,7 +231,7 @@ void tst_ReportLines::ataRow()
     QTEST(got.join('|'), "fields");
 }
 
-// The lines of the head are looked for in the first row too, and in no later one.
+// Lines of the report's head are also looked for in the first row of the table, but in no later one.
 void tst_ReportLines::headLineInTheTable()
 {
     const QByteArray row = "9 Serial Number: X\n";

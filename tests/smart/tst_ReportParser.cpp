@@ -103,7 +103,7 @@ void tst_ReportParser::realReports()
 {
     QFETCH(int, index);
     const samples::Sample sample = samples::all().at(index);
-    g_App.m_bNVMe = sample.kind == "ata"; // has to be turned round where the report tells
+    g_App.m_bNVMe = sample.kind == "ata"; // wrong at first; the report has to correct it
     const QByteArray bytes = samples::bytesOf(sample.file);
     QVERIFY(!bytes.isEmpty());
     const QString path = samples::stage(bytes);
@@ -142,7 +142,7 @@ void tst_ReportParser::realReports()
 void tst_ReportParser::verdict_data()
 {
     QTest::addColumn<QString>("file");
-    QTest::addColumn<QString>("changes"); // "what stands there>what in its place|..."
+    QTest::addColumn<QString>("changes"); // "old text>new text|…"
     QTest::addColumn<int>("verdict");
     const auto row = [](const char *name, const char *file, const char *changes, DriveVerdict verdict) {
         QTest::newRow(name) << file << changes << int(verdict);
@@ -185,7 +185,7 @@ void tst_ReportParser::tornReports_data()
         QTest::newRow(file) << file;
 }
 
-// A report cut anywhere has the rows that lie before the cut; the last of them may be cut too.
+// A report that is cut anywhere has the rows before the cut. The last of them may be cut, too.
 void tst_ReportParser::tornReports()
 {
     QFETCH(QString, file);
@@ -325,7 +325,7 @@ void tst_ReportParser::missingLinesKeepTheirTexts()
     QCOMPARE(g_strSerialNumber, QString("new"));
     QCOMPARE(g_strFirmware, QString("f"));
     QCOMPARE(g_strAtaVersion, QString("v"));
-    // The drive has what this report says, not what the disk before it said.
+    // The texts are those of this report, not of the disk before.
     QCOMPARE(g_smartTable.drive.SerialNumber.text(), QString("new"));
     QVERIFY(g_smartTable.drive.DeviceModel.isEmpty());
     QVERIFY(g_smartTable.drive.AtaVersion.isEmpty());

@@ -24,7 +24,7 @@ private slots:
     void destructorWaits();
 
 private:
-    /// Makes the tool slow; `m_entered` tells of its start, `m_ended` is set at its end.
+    /// Makes the tool slow. `m_entered` is signalled at its start, `m_ended` is set at its end.
     void slowTool(unsigned long milliseconds);
 
     FakePlatform *m_fake = nullptr;
@@ -79,7 +79,7 @@ void tst_SMARTThread::runsAgainForTheNextRequest()
 
 void tst_SMARTThread::lastRequestDuringAReadIsReadBehindIt()
 {
-    // The tool goes on only when it is let.
+    // The tool waits until the test lets it go on.
     QSemaphore mayEnd;
     m_fake->onCommand = [&](const QString &) {
         m_entered.release();

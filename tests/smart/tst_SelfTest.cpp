@@ -8,7 +8,7 @@
 
 #include <QtTest>
 
-/// The drive's own self-test without a window: one status reading and one tick a second.
+/// The drive's own self-test without a window: each second one reading of the status and one tick.
 class tst_SelfTest : public QObject
 {
     Q_OBJECT
@@ -23,7 +23,7 @@ private slots:
     void aborted();
 
 private:
-    /// Prepares and starts a test of a drive that says so many minutes for either kind.
+    /// Prepares and starts a test; the drive names these minutes for the two kinds.
     bool start(SelfTest &test, SelfTestKind kind, int shortMinutes, int extendedMinutes);
 
     FakePlatform *m_fake = nullptr;
@@ -75,7 +75,8 @@ void tst_SelfTest::minutesFall()
         if (tick.steps.first().minutes)
             drops << second << *tick.steps.first().minutes;
     }
-    // The count ends with the polling time, the tick behind it takes its reading's place; the time runs on.
+    // The seconds are counted up to the polling time; the minute drops at the tick after its end. The time
+    // shown goes on.
     QCOMPARE(drops, (QVector<int>{61, 1, 121, 0}));
     QCOMPARE(g_nRemainingMinutes[own], 0);
     QCOMPARE(g_nRemainingMinutes[1 - own], 7);
@@ -107,7 +108,7 @@ void tst_SelfTest::aReadingThatIsMissed()
     const QByteArray running = std::exchange(m_status, QByteArray());
     QVERIFY(test.tick().steps.isEmpty());
     m_status = running;
-    // Only the 60th tick takes a minute, and it has gone by.
+    // Only the 60th tick counts a minute, and that tick had no reading.
     QVERIFY(!test.tick().steps.first().minutes);
     QCOMPARE(g_nMinuteTicks, 62);
 }

@@ -28,7 +28,7 @@ QString told(const QVector<StatusEvent> &events)
     return words.join(QLatin1String(", "));
 }
 
-/// The status of the code and the words, set as the tool does it.
+/// A status with this code and these words, in the layout of the tool.
 QByteArray coded(int code, QByteArray words)
 {
     return "Self-test execution status:      (" + QByteArray::number(code).rightJustified(4) + ")\t" +

@@ -227,7 +227,7 @@ void tst_ToolInvocation::loadReportStartsAfresh()
     LoadSmartReport(0);
     QVERIFY(!wasThere);
     QFile file(path);
-    QVERIFY(file.open(QIODevice::ReadOnly)); // it stays for the main thread
+    QVERIFY(file.open(QIODevice::ReadOnly)); // the file stays, as the main thread reads it
     QCOMPARE(file.readAll(), QByteArray("new"));
 }
 
@@ -244,7 +244,7 @@ void tst_ToolInvocation::refreshTakesTheReportIn()
     QVERIFY(g_App.m_bNVMe);
     QCOMPARE(samples::length(g_nvmeTable.rows), 17);
     QVERIFY(g_bSmartAvailable);
-    // The names of the latest read by the thread are not its business.
+    // The device and path of the thread's last read do not change.
     QCOMPARE(g_strSmartDevice, QString("before"));
     QCOMPARE(g_strSmartReportPath, QString("before"));
 }

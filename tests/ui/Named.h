@@ -4,7 +4,7 @@
 #include <QLabel>
 #include <QPushButton>
 
-/// The widgets of a window by their names.
+/// Finds the widgets of a window by name.
 inline QPushButton *buttonOf(const QObject *window, const char *name)
 {
     return window->findChild<QPushButton *>(QLatin1String(name));

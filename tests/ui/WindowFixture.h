@@ -19,7 +19,7 @@ protected:
     static void setUpProgram()
     {
         Q_INIT_RESOURCE(images);
-        // A file dialog of the system's own is out of a test's reach.
+        // A test cannot use a file dialog of the system.
         QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
         g_App.m_fScale = 1.0F;
         g_App.m_bUse64BitTool = true;
@@ -38,7 +38,7 @@ protected:
         return DescribedFolder::contents(QStringLiteral(HALVANE_TEST_DATA "/smart/") + QLatin1String(name));
     }
 
-    /// Installs the PC of `json` and loads its disks; the reports have to lie there by now.
+    /// Installs the PC of `json` and loads its disks. Its reports have to exist already.
     void startPc(const QByteArray &json)
     {
         auto pc = m_pFolder->open(json);
@@ -63,8 +63,8 @@ protected:
         g_bScanResultOpen = false;
         g_bSelfTestResultOpen = false;
         m_pWindow.reset();
-        g_Jobs = JobState(); // a page takes its job along
-        // Its refresh ended with it, and nobody heard of the lists.
+        g_Jobs = JobState(); // the job ended with its page
+        // The refresh ended with the window, so its signal did not clear this flag.
         g_bListsLoading = false;
         g_bListsStale = false;
         m_pFolder = std::make_unique<DescribedFolder>();
@@ -87,7 +87,7 @@ protected:
         QTest::mouseRelease(child<MyButton>(button), Qt::LeftButton);
     }
 
-    /// How often a test that repeats itself does so; HALVANE_ROUNDS asks for another number.
+    /// How often a repeating test runs; HALVANE_ROUNDS changes the number.
     static int rounds()
     {
         const int asked = qEnvironmentVariableIntValue("HALVANE_ROUNDS");

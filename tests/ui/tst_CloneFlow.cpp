@@ -22,7 +22,7 @@ namespace
 
 constexpr int SourceSectors = 5 * 32768 + 100;
 
-/// Two disks of one size, slow enough to be looked at, one of a sector less, and a slow one with bad sectors.
+/// Two slow disks of one size, one with a sector less, and a slow one with bad sectors.
 const QByteArray Described = R"({"pauses": false, "settings": {"FirstTimeLaunch": 1}, "disks": [
     {"number": 0, "model": "A", "interface": "IDE", "sectors": 163940, "bytesPerSecond": 200000000},
     {"number": 1, "model": "B", "interface": "IDE", "sectors": 163940, "bytesPerSecond": 200000000},
@@ -144,7 +144,7 @@ void tst_CloneFlow::pullOut(int disk)
     QVERIFY(pc().deviceNotifier()); // watches what is pulled out
     QFile unplugged(m_strState + QStringLiteral("/volumes-changed/remove-disk%1").arg(disk));
     QVERIFY(unplugged.open(QIODevice::WriteOnly));
-    unplugged.close(); // a file that is open stays where it is on Windows
+    unplugged.close(); // Windows does not remove an open file
     QTRY_VERIFY(!unplugged.exists());
 }
 
@@ -161,7 +161,7 @@ bool tst_CloneFlow::running() const
            !shown("TargetModelLbl") && shown("m_pRoundProgressBar") && shown("TimeLabel2");
 }
 
-/// As a running clone leaves the shell.
+/// Whether the buttons and menus are as during a clone.
 bool tst_CloneFlow::locked() const
 {
     for (const char *name : {"DiskStatusButton", "SmartStatusButton", "DiskPartitionButton", "ScanDiskButton",
@@ -206,7 +206,7 @@ void tst_CloneFlow::copiesTheDisk()
     QCOMPARE(gauge->Text(), QStringLiteral("0%\nComplete"));
     QCOMPARE(text("TimeLabel"), QString());
 
-    // Nothing ends or disturbs it.
+    // None of these ends or disturbs the clone.
     m_pWindow->OnClose();
     QCOMPARE(labelOf(dialog<DestinitionWarning>(), "WarningTxtLbl")->text(),
              QStringLiteral("Cloning process running."));
@@ -253,7 +253,7 @@ void tst_CloneFlow::refuses()
     QFETCH(QString, reason);
     choose(0, target);
     child<QPushButton>("CloneButton")->click();
-    // The question leaves the page usable.
+    // While the question is open, another source can be chosen.
     auto *from = child<QComboBox>("SourceComboBox");
     from->setCurrentIndex(from->findData(128 + sourceAtTheEnd));
     buttonOf(dialog<CloneWarning>(), "StartButton")->click();
@@ -273,7 +273,7 @@ void tst_CloneFlow::asksForATarget()
              QStringLiteral("Select target disk."));
     buttonOf(dialog<DestinitionWarning>(), "CloseButton")->click();
     QVERIFY(!dialog<DestinitionWarning>());
-    // A press that comes out of nowhere starts nothing, either.
+    // A start without a question starts nothing either.
     m_pWindow->OnCloningStart();
     QVERIFY(!locked() && dialog<DestinitionWarning>());
     QCOMPARE(commands("diskpart"), 0);
@@ -286,7 +286,7 @@ void tst_CloneFlow::asksAnewWhenTheChoiceHasGone_data()
     QTest::newRow("new lists") << true;
 }
 
-/// The question named two disks that are not chosen any more.
+/// The chosen disks are not those of the question any more.
 void tst_CloneFlow::asksAnewWhenTheChoiceHasGone()
 {
     QFETCH(bool, refresh);
@@ -308,7 +308,7 @@ void tst_CloneFlow::asksAnewWhenTheChoiceHasGone()
     QCOMPARE(commands("diskpart"), 0);
 }
 
-/// A disk of another size stands behind the number that the question named.
+/// The number of the question belongs to a disk of another size by now.
 void tst_CloneFlow::readsTheDisksAnewWhenOneIsAnother()
 {
     choose(0, 1);
@@ -357,7 +357,7 @@ void tst_CloneFlow::stops()
     QTRY_VERIFY_WITH_TIMEOUT(commands("diskpart") == 3, 10000); // prepared
     QTest::qWait(50);
     buttonOf(question, "YesButton")->click();
-    // It goes on until the disk is back in the system, and the lists stay for as long.
+    // The clone runs until the disk is back in the system. Until then the lists do not change.
     m_pWindow->OnRefresh();
     m_pWindow->Onyes();
     QVERIFY(locked() && !g_bListsLoading);
@@ -387,7 +387,7 @@ void tst_CloneFlow::goesOnBehindAnotherScreen()
     buttonOf(dialog<ScanSwitchClass>(), "NoButton")->click();
     QVERIFY(locked() && running() && !dialog<ScanSwitchClass>());
 
-    // Nothing there starts a scan, or takes the clone for one.
+    // Scan Disk starts no scan, and does not show the clone as one.
     leaveFor("ScanDiskButton");
     QVERIFY(!page->isVisible() && !shown("StopButton"));
     QVERIFY(!child<QPushButton>("ScanButton")->isEnabled() &&
@@ -440,7 +440,7 @@ void tst_CloneFlow::diskPulledOutOnTheWay()
     QFETCH(int, source);
     QFETCH(QString, text);
     start(source, 3 - source);
-    // In the middle of the copy: at its begin the disk would be one that does not open.
+    // In the middle of the copy. At its begin the disk would not open, which is another fault.
     QTRY_VERIFY_WITH_TIMEOUT(m_pWindow->findChild<QRoundProgressBar *>()->Value() > 0, 10000);
     pullOut(3);
     waitForEnd();

@@ -30,7 +30,7 @@ namespace
 
 using Maker = std::function<QWidget *()>;
 
-/// A language in which every text is as long again.
+/// A language in which every text is twice as long.
 class LongLanguage : public QTranslator
 {
 public:
@@ -48,7 +48,7 @@ Maker maker()
     return [] { return new Dialog; };
 }
 
-/// The name of a widget whose text has too little room; empty where all have enough.
+/// The name of a widget whose text has too little room; empty if all have enough.
 QString cutText(const QWidget &dialog)
 {
     const auto labels = dialog.findChildren<QLabel *>();
@@ -74,7 +74,7 @@ QString cutText(const QWidget &dialog)
 
 Q_DECLARE_METATYPE(Maker)
 
-/// What all dialogs have from their frame, and what single ones add.
+/// What all dialogs have from their frame, and what each adds.
 class DialogsTest : public QObject
 {
     Q_OBJECT
@@ -131,7 +131,7 @@ void DialogsTest::longTextsAreNotCut()
     LongLanguage language;
     QCoreApplication::installTranslator(&language);
     dialog->show();
-    // The texts change after the window was sized, so that it has to follow them.
+    // The texts change after the window got its size, so it has to adapt.
     QTRY_COMPARE(dialog->windowTitle().count(QLatin1String("Velmora Halvane")), 2);
     QTRY_COMPARE(cutText(*dialog), QString());
     for (const QLabel *label : dialog->findChildren<QLabel *>())
@@ -207,7 +207,7 @@ void DialogsTest::growsAboutItsCentre()
     QVERIFY(box.height() > height);
     QVERIFY(!labelOf(&box, "label_2")->isHidden());
     QVERIFY((box.geometry().center() - centre).manhattanLength() <= 2);
-    // A text that is set past the frame is noticed too.
+    // The frame also notices a text that is set on the label itself.
     labelOf(&box, "label")->setText(QStringLiteral("Short."));
     QTRY_VERIFY(box.height() < height + 60);
 }

@@ -7,7 +7,7 @@
 
 #include <QTreeWidget>
 
-/// What a read leaves on the screens, by what the report says and whether the companion is wanted.
+/// The screens after a read, for different reports, with and without the companion.
 class tst_DiskStatusRead : public QObject, private WindowFixture
 {
     Q_OBJECT
@@ -31,7 +31,7 @@ private slots:
 
 private:
     static QByteArray report(const QByteArray &identity, const char *verdict, const char *rows);
-    /// Disk 10 fails and tells its temperature, 12 passed and does not, 13 says nothing of itself.
+    /// Disk 10 has failed and tells its temperature. 12 passed and tells none. 13 has an empty report.
     void startWith(const QByteArray &settings, const QByteArray &lists = QByteArray());
     void startAndRead();
 };
@@ -97,7 +97,7 @@ void tst_DiskStatusRead::diskStatus_data()
     QTest::addColumn<QString>("result");
     QTest::addColumn<QString>("style");
     QTest::addColumn<QString>("verdict");
-    // The temperature alone tells whether there is SMART. A drive that gives itself up has failed.
+    // A disk with a temperature has SMART. A drive that calls itself failed reads "Failed".
     QTest::newRow("failed, with a temperature") << 0 << "36\u00B0C"
                                                 << "90%"
                                                 << "50%"
@@ -159,7 +159,7 @@ void tst_DiskStatusRead::smartStatus_data()
     QTest::addColumn<int>("health");
     QTest::addColumn<QString>("result");
     QTest::addColumn<QString>("style");
-    // A report with either is rated; the label goes by the temperature.
+    // Both reports are rated; the label depends on the temperature.
     QTest::newRow("failed, with a temperature") << "NW1" << 90 << "Failed"
                                                 << "QLabel {color : #FF0000;}";
     QTest::newRow("passed, without") << "NW2" << 90 << "Not Supported"
@@ -192,7 +192,7 @@ void tst_DiskStatusRead::noIdentityShowsNoTexts()
     QCOMPARE(texts(), QStringList({"NW1", "SN1", "FW1"}));
     select(2);
     QCOMPARE(text("tempValueLbl"), QStringLiteral("40\u00B0C"));
-    QCOMPARE(texts(), QStringList({"X Y", "", ""})); // what the system's table knows
+    QCOMPARE(texts(), QStringList({"X Y", "", ""})); // from the system's table
 }
 
 void tst_DiskStatusRead::choicesDuringARead()
@@ -206,14 +206,14 @@ void tst_DiskStatusRead::choicesDuringARead()
         emit child<QComboBox>("DriveCombobox")->activated(index);
     };
     choose(1);
-    // Nothing of the disk before is told of this one.
+    // No figure of the previous disk shows.
     QCOMPARE(text("ModelNumValLbl") + text("SerialValLbl") + text("DiskLifeValue"), QString());
     QCOMPARE(g_nDiskLifeDays, 0U);
     QVERIFY(!GetDiskTemperature());
     QTRY_COMPARE(commands(" -a "), reads + 1);
     choose(0);
     choose(2);
-    // A poll finds the tool at work.
+    // A poll of the temperature while the tool runs.
     child<MyButton>("DiskStatusButton")->setDown(false);
     child<MyButton>("DiskPartitionButton")->setDown(true);
     m_pWindow->GetSmartTemprature();
@@ -230,7 +230,7 @@ void tst_DiskStatusRead::companion_data()
 {
     QTest::addColumn<QByteArray>("lists");
     QTest::addColumn<QStringList>("opened");
-    // The window starts it, and the read behind that once more.
+    // The window starts it, and the first read once more.
     const QString byPath = QStringLiteral("\tC:\\Halvane\\VelmoraSMART.exe\t");
     QTest::newRow("runs") << QByteArray(R"(, "processes": ["VelmoraSMART.exe"])") << QStringList();
     QTest::newRow("starts") << QByteArray(R"(, "installed": ["VelmoraSMART.exe"])") << QStringList(byPath);
@@ -259,7 +259,7 @@ void tst_DiskStatusRead::unreadableTaskListShowsTheDisk()
     startAndRead();
     QCOMPARE(commands("TASKKILL.exe"), 1);
     SettingsStore().writeNumber(key::ShowTrayIcon, 1);
-    QVERIFY(QDir(m_strState).mkpath(QStringLiteral("temp/tmpFile"))); // a folder in the file's place
+    QVERIFY(QDir(m_strState).mkpath(QStringLiteral("temp/tmpFile"))); // a folder with the name of the file
     auto *combo = child<QComboBox>("DriveCombobox");
     combo->setCurrentIndex(1);
     emit combo->activated(1);
@@ -274,7 +274,7 @@ void tst_DiskStatusRead::selfTestDeviceByComboPlace()
 {
     startWith("");
     startAndRead();
-    // The eleventh device goes by the place in the combo, so disk 10 has none at place 0.
+    // For disk 10 the place in the combo counts, so at place 0 it has no device.
     g_strSelfTestDevice = QStringLiteral("before");
     m_pWindow->DetailsforSelftest();
     QCOMPARE(g_strSelfTestDevice, QString());

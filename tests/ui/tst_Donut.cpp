@@ -5,7 +5,7 @@
 
 #include <limits>
 
-/// The arithmetic of the ring.
+/// The geometry of the ring.
 class tst_Donut : public QObject
 {
     Q_OBJECT

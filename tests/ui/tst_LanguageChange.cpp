@@ -14,13 +14,13 @@
 namespace
 {
 
-/// What differs for good between a start in a language and a change to it.
+/// What stays different between a start in a language and a change to it.
 const QSet<QString> Differs{
-    QStringLiteral("PowerOnTimeValue text"),      // takes another separator
-    QStringLiteral("performanceTitleLbl height"), // its fixed height comes with the first change
+    QStringLiteral("PowerOnTimeValue text"),      // has another separator
+    QStringLiteral("performanceTitleLbl height"), // gets its fixed height at the first change
 };
 
-/// Where the build put the translations: beside the program, or beside the folder of the tests.
+/// The folder of the translations: beside the program, or beside the folder of the tests.
 QString programFolder()
 {
     const QDir own(QCoreApplication::applicationDirPath());
@@ -80,7 +80,7 @@ Look lookOf(const QWidget *window)
 
 } // namespace
 
-/// The window after many changes of the language beside one that was started in it.
+/// A window after many changes of the language looks like one that was started in it.
 class tst_LanguageChange : public QObject, private WindowFixture
 {
     Q_OBJECT
@@ -93,9 +93,9 @@ private slots:
 
 private:
     void start(int type);
-    /// That of the window when its layout has come to rest.
+    /// The look of the window when its layout does not change any more.
     Look settledLook() const;
-    /// All five screens and Settings, as they show one after the other.
+    /// The looks of the five screens and of Settings.
     Look walk();
 };
 

@@ -144,7 +144,7 @@ void tst_MainWindow::eachDiskShowsItsOwn()
         QCOMPARE(text("healthValueLbl"), health);
     QTEST(text("DiskLifeValue"), "life");
     QTEST(text("DisknumberValLbl"), "number");
-    // Back on the first disk nothing of the other is left.
+    // The first disk shows nothing of the other one.
     select(0);
     QCOMPARE(text("ModelNumValLbl"), QStringLiteral("WDC WD10EZEX-00RKKA0"));
     QVERIFY(text("DiskLifeValue").endsWith(QStringLiteral(" days")));
@@ -225,7 +225,7 @@ void tst_MainWindow::openResultsAskFirst()
     QVERIFY(child<MyButton>("ScanDiskButton")->styleSheet().contains(QLatin1String("Sel")));
     QVERIFY(!child<MyButton>("DiskPartitionButton")->styleSheet().contains(QLatin1String("Sel")));
 
-    // The last press counts.
+    // The last pressed button counts.
     press("DiskPartitionButton");
     press("SmartStatusButton");
     buttonOf(question, "YesButton")->click();
@@ -258,7 +258,7 @@ void tst_MainWindow::aNoticeDuringARefreshIsNotLost()
     const int before = commands("diskdrive get");
     m_pWindow->OnRefresh();
     m_pWindow->OnRefresh();
-    // Until the lists stand they are the loader's, whatever the user does.
+    // During the load only the loader may use the lists, whatever the user does.
     QVERIFY(!findPhysicalDisk(128));
     auto *combo = child<QComboBox>("DriveCombobox");
     combo->setCurrentIndex(1);
@@ -266,7 +266,7 @@ void tst_MainWindow::aNoticeDuringARefreshIsNotLost()
     press("ScanDiskButton");
     press("CloneDiskButton");
     press("DiskStatusButton");
-    // Two of each load: the one of the first notice, and one more behind it.
+    // Two loads: the one of the first notice, and one more after it.
     QTRY_COMPARE_WITH_TIMEOUT(commands("diskdrive get"), before + 4, 10000);
     QTRY_VERIFY_WITH_TIMEOUT(findPhysicalDisk(128), 10000);
     waitForRead();

@@ -17,7 +17,7 @@
 namespace
 {
 
-/// Marks every text, so that one that was not translated again shows.
+/// Marks every text, so that a text which was not translated anew is found.
 class MarkingTranslator : public QTranslator
 {
 public:

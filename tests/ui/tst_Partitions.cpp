@@ -22,7 +22,7 @@
 namespace
 {
 
-/// Marks every text, so that one that went through translation shows.
+/// Marks every translated text.
 class MarkingTranslator : public QTranslator
 {
 public:
@@ -33,7 +33,7 @@ public:
     }
 };
 
-/// Counts the paintings of a widget.
+/// Counts how often a widget is painted.
 class PaintCounter : public QObject
 {
 public:
@@ -82,8 +82,8 @@ QByteArray description()
                 {"bitLocker", i == 0 ? "2.0" : "None"},
                 {"extents", QJsonArray{QJsonObject{
                                 {"disk", number}, {"offset", 1048576.0 * (i + 1)}, {"length", size}}}}});
-            // One partition without a letter on disk 3: from there on the lines of the two tables do not
-            // meet.
+            // Disk 3 has a partition without a letter. From there on the lines of the two tables do not fit
+            // each other.
             if (number == 3 && i == 0)
                 partitions.append(QJsonObject{{"name", "Recovery"}, {"type", "x"}, {"size", 1}, {"disk", 2}});
             partitions.append(
@@ -105,7 +105,7 @@ QByteArray description()
 
 } // namespace
 
-/// Disk Partition in the real window, on a PC with disks of all numbers of volumes.
+/// Disk Partition in the real window, on a PC whose disks have different numbers of volumes.
 class tst_Partitions : public QObject
 {
     Q_OBJECT
@@ -215,7 +215,7 @@ void tst_Partitions::everyDisk()
 {
     QFETCH(int, number);
     const int count = volumeCounts.at(number);
-    // Both ways past the disk, so that it does not rest on what showed before.
+    // Disk 3 first, so that nothing of an earlier choice of this disk shows.
     select(3);
     select(number);
     QCOMPARE(texts("m_apVolumeName").size(), count);
@@ -247,7 +247,7 @@ void tst_Partitions::frames()
     QCOMPARE(texts("m_apPercentage").first(), QStringLiteral("25% Free"));
     QCOMPARE(texts("m_apSpaceTitle").first(), QStringLiteral("Space"));
     QCOMPARE(texts("m_apBlankLabel").first(), QString());
-    // Each letter begins at the first place again.
+    // Each letter uses the first place of the arrays, so the others stay empty.
     QVERIFY(page()->m_apFrame[0]);
     QVERIFY(!page()->m_apFrame[1]);
     QCOMPARE(page()->m_apVolumeName[0]->text(), QStringLiteral("E: (NTFS)"));
@@ -306,7 +306,7 @@ void tst_Partitions::allFramesCanBeScrolledTo()
         bottom = frame->geometry().bottom();
     }
     QVERIFY(bottom < page()->m_pFrameHost->height());
-    // The wheel reaches the last one, but moves nothing where there is no bar.
+    // The wheel scrolls to the last volume; without a scroll bar it moves nothing.
     QScrollBar *bar = page()->m_pScrollArea->verticalScrollBar();
     const auto turn = [this] {
         QWidget *viewport = page()->m_pScrollArea->viewport();
@@ -321,7 +321,7 @@ void tst_Partitions::allFramesCanBeScrolledTo()
     select(0);
     turn();
     QCOMPARE(bar->value(), 0);
-    // All three show without it.
+    // All three volumes show without a scroll bar.
     const auto *last = page()->m_pFrameHost->findChildren<QFrame *>(QStringLiteral("m_apFrame")).last();
     QCOMPARE(last->visibleRegion().boundingRect(), last->rect());
 }
@@ -349,11 +349,11 @@ void tst_Partitions::language()
     QCOMPARE(texts("m_apSpaceValue").first(), QStringLiteral("25 GB~ Free of 100 GB"));
     QCOMPARE(texts("m_apPercentage").first(), QStringLiteral("25~% Free"));
     QCOMPARE(texts("m_apSpaceTitle").first(), QStringLiteral("~Space"));
-    // A selection writes the mark as it is.
+    // The choice of a disk writes the mark as it is.
     select(0);
     QCOMPARE(texts("m_apVolumeName").first(), QStringLiteral("C: (NTFS)(BitLocker)"));
 
-    // On another screen the frames stay as they are until the screen shows again.
+    // While another screen shows, the frames do not change.
     press("ScanDiskButton");
     QCoreApplication::removeTranslator(&m_translator);
     QCoreApplication::processEvents();
@@ -379,7 +379,7 @@ void tst_Partitions::theRing()
     QVERIFY(view->width() >= 300);
     QVERIFY(view->height() >= 143);
     const QPoint centre(view->width() / 4 + 10, view->height() / 2);
-    const int middle = (side / 4 + side / 2 - 20) / 2; // between the hole and the edge
+    const int middle = (side / 4 + side / 2 - 20) / 2; // the middle between hole and edge
     // Counter-clockwise from the right: 100 : 50 : 33.
     QCOMPARE(view->m_pImage->pixelColor(centre + QPoint(0, -middle)), QColor(29, 207, 250));
     QCOMPARE(view->m_pImage->pixelColor(centre + QPoint(-middle, middle / 2)), QColor(0, 140, 249));

@@ -35,7 +35,7 @@ const QByteArray Described = R"({
 
 } // namespace
 
-/// Counts how often what it watches is shown.
+/// Counts how often the watched widget is shown.
 class ShowCounter : public QObject
 {
 public:
@@ -128,7 +128,7 @@ void tst_Plugging::touch(const QString &name)
     const QString path = m_strState + QStringLiteral("/volumes-changed/") + name;
     QFile file(path);
     QVERIFY(file.open(QIODevice::WriteOnly));
-    // A file that is open stays where it is on Windows.
+    // Windows does not remove an open file.
     file.close();
     QTRY_VERIFY(!QFileInfo::exists(path));
     QCoreApplication::processEvents();
@@ -168,7 +168,7 @@ void tst_Plugging::removedDiskLeavesTheList()
     emit m_pCombo->activated(1);
     waitForRest();
     QCOMPARE(g_nCurrentDiskIndex, 4);
-    // The busy frame may be gone again before anybody can look at it.
+    // The busy frame may be hidden again before the test can look at it.
     ShowCounter busy;
     m_pWindow->findChild<QFrame *>(QStringLiteral("GifFrame"))->installEventFilter(&busy);
     touch(QStringLiteral("remove-disk4"));
@@ -191,8 +191,8 @@ void tst_Plugging::arrivingDiskJoinsTheList()
 
 void tst_Plugging::noticeBehindARefreshCatchesUp()
 {
-    // Two notices for the volumes of one disk and one for the other: all but the first meet a refresh that
-    // has begun, and may be too late for it.
+    // Two notices for the volumes of one disk and one for the other. All but the first come during a refresh,
+    // which may not show their changes.
     touch(QStringLiteral("remove-disk4"));
     touch(QStringLiteral("arrive-disk6"));
     waitForRest();
@@ -249,11 +249,11 @@ void tst_Plugging::jobsDropNotices()
     QTest::qWait(200);
     QVERIFY(!busy->isVisible());
     g_bJobRunning = false;
-    QTest::qWait(300); // and nothing was put off
+    QTest::qWait(300); // no refresh is waiting
     QVERIFY(!busy->isVisible());
     QCOMPARE(loads(), before);
     QCOMPARE(disks(), listed);
-    // A job's end reads the lists anew where something in them has gone.
+    // The end of a job reads the lists anew if a listed volume or disk has gone.
     QCOMPARE(g_bListsStale, touched.startsWith(QLatin1String("remove")));
     m_pWindow->OnFinishScanDisk();
     QCOMPARE(g_bListsLoading.load(), touched.startsWith(QLatin1String("remove")));

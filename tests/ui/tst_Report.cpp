@@ -8,7 +8,7 @@
 #include <QFileDialog>
 #include <QLineEdit>
 
-/// The two buttons of the SMART Status screen: what they ask, what they leave, and when they do nothing.
+/// The two buttons of SMART Status: their dialogs, their files, and when they do nothing.
 class tst_Report : public QObject, private WindowFixture
 {
     Q_OBJECT
@@ -114,7 +114,7 @@ void tst_Report::report()
 {
     QFETCH(int, disk);
     select(disk);
-    // The path is taken as it is given.
+    // The path is not changed.
     const QString path = newFile("report of today");
     const Asked asked = click("ReportSaveButton", path);
     QVERIFY(asked.ofWindow);
@@ -131,7 +131,7 @@ void tst_Report::report()
 
 void tst_Report::reportThatCannotBeWritten()
 {
-    // A file is no folder, not even the administrator's.
+    // A path below a file cannot be written, not even by an administrator.
     const QString blocker = newFile("blocker");
     QFile file(blocker);
     QVERIFY(file.open(QIODevice::WriteOnly));
@@ -155,7 +155,7 @@ void tst_Report::screenshot()
     QVERIFY(DescribedFolder::contents(path).startsWith("\xff\xd8"));
     const QImage picture(path);
     QCOMPARE(picture.size(), m_pWindow->findChild<SmartStatus *>()->size());
-    // The page's own texts are in it, on white.
+    // The picture has the page's texts, on white.
     QCOMPARE(picture.pixelColor(picture.width() - 3, picture.height() - 3), QColor(Qt::white));
     const QLabel *result = child<QLabel>("SmartResultLabel");
     const QImage part =

@@ -89,7 +89,7 @@ void tst_Scale::windowsStayOnTheirScreen_data()
 void tst_Scale::windowsStayOnTheirScreen()
 {
     QFETCH(QRect, window);
-    const QRect area(0, 30, 1400, 1000); // behind a bar at the top
+    const QRect area(0, 30, 1400, 1000); // below a bar at the top
     QTEST(style::placeWithin(window, area), "place");
     QTEST(style::placeWithin(window.translated(-1400, 0), area.translated(-1400, 0)) + QPoint(1400, 0),
           "place");

@@ -151,7 +151,7 @@ void tst_ScanFlow::finished()
     waitForResult();
     QCOMPARE(resultTexts(), QStringLiteral("Scan Completed|Scan Completed.|"));
     QVERIFY(idle() && shown("ScanButton") && shown("BackTestButton") && shown("frame"));
-    // The sector at the begin of the second chunk is found twice, as is what lies behind the last one.
+    // The first sector of the second chunk is found twice, and so is the sector behind the end.
     QCOMPARE(text("BadBlkValLbl"), QStringLiteral("7"));
     QCOMPARE(text("ProcessedVal"), QString::number(QuickSectors));
     QCOMPARE(text("TotalBlkValLbl"), QString::number(QuickSectors));
@@ -166,7 +166,7 @@ void tst_ScanFlow::finished()
              QStringLiteral("Start Sector of current block: 163590\nEnd Sector of current block: 163840\n"
                             "Current Block Size : 410 MB"));
 
-    // The way back asks, and takes the results along.
+    // The back button asks, and then clears the results.
     closeResult();
     QTest::mousePress(child<MyButton1>("BackTestButton"), Qt::LeftButton);
     QVERIFY(shown("frame") && !g_BadSectors.isEmpty());
@@ -212,7 +212,7 @@ void tst_ScanFlow::stopped()
     QCOMPARE(resultTexts(), QStringLiteral("Disk Scan|Disk scan aborted.|Disk scan aborted by user."));
     QVERIFY(idle() && shown("ScanButton") && map()->position() > 0 && shown("frame"));
     closeResult();
-    // From here it starts anew, without the choice.
+    // A new scan starts from here, without the choice of a test.
     child<QPushButton>("ScanButton")->click();
     QVERIFY(scanning());
     QCOMPARE(map()->position(), qlonglong{0});
@@ -268,13 +268,13 @@ void tst_ScanFlow::closingAndRefreshing()
     QCOMPARE(labelOf(panel, "WarningTxtLbl")->text(), QStringLiteral("Disk scan running."));
     m_pWindow->Onyes();
     QCOMPARE(labelOf(panel, "WarningTxtLbl")->text(), QStringLiteral("Scaning Running."));
-    // Until the drive has answered a stopped scan still keeps the window.
+    // The window does not close until the drive has answered the last read of the stopped scan.
     m_pWindow->OnStopConfirm();
     QVERIFY(!shown("StopButton"));
     panel->hide();
     m_pWindow->OnClose();
     QVERIFY(panel->isVisible());
-    child<QPushButton>("ScanButton")->click(); // hidden, and of no effect
+    child<QPushButton>("ScanButton")->click(); // hidden; it has no effect
     waitForResult();
     QCOMPARE(commands("diskdrive get"), before);
     QVERIFY(idle());
@@ -330,7 +330,7 @@ void tst_ScanFlow::anotherDisk()
     select(0);
     QCOMPARE(text("BadBlkValLbl") + QLatin1Char(' ') + QString::number(map()->position()),
              QStringLiteral("7 163840"));
-    // Other disks may be looked at, without the results; the next scan takes the one that is selected then.
+    // Other disks can be chosen, without the results. The next scan reads the chosen one.
     select(2);
     QCOMPARE(text("TotalBlkValLbl"), QStringLiteral("0"));
     select(1);
@@ -354,7 +354,7 @@ void tst_ScanFlow::anotherDisk()
 
 void tst_ScanFlow::failed()
 {
-    // A disk without a volume goes without a notice.
+    // A disk without a volume is pulled out without a notice.
     pullOut(0);
     startOn(0);
     waitForResult();
@@ -362,7 +362,7 @@ void tst_ScanFlow::failed()
     QVERIFY(idle());
 }
 
-/// What was found shows until it was read; then the disk leaves the lists.
+/// The result shows until it was closed; then the disk leaves the lists.
 void tst_ScanFlow::pulledOut()
 {
     startOn(1);
@@ -371,7 +371,7 @@ void tst_ScanFlow::pulledOut()
     waitForResult();
     QCOMPARE(resultTexts(), QStringLiteral("Scan Failed|Scan Failed.|The disk is no longer connected."));
     QVERIFY(idle() && shown("frame"));
-    // Those from before are found, and none behind the pulling.
+    // Only the bad sectors before the disk was pulled out are listed.
     QCOMPARE(text("BadBlkValLbl"), QStringLiteral("2"));
     QCOMPARE(g_BadSectors.toVector(), (QVector<qint64>{40000, 40020}));
     QVERIFY(map()->position() > 0 && map()->position() < SlowSectors);
@@ -418,7 +418,7 @@ void tst_ScanFlow::languageChange()
     QCOMPARE(text("TimeReLbl"), QStringLiteral("Time Remaining"));
 }
 
-/// Nothing of one scan reaches into the next, whatever ends it, and the window can go in the middle of one.
+/// No scan affects the next one, however it ends, and the window can be deleted during a scan.
 void tst_ScanFlow::overAndOver()
 {
     press("ScanDiskButton");

@@ -42,7 +42,8 @@ private:
         return DescribedFolder::contents(QStringLiteral(HALVANE_TEST_DATA "/selftest/") +
                                          QLatin1String(name));
     }
-    /// A PC with two disks; `more` are further keys of the PC, `report` and `text` what its tool tells.
+    /// A PC with two disks. `more` are further keys of the PC; its tool prints `report` and the capabilities
+    /// `text`.
     void startOn(const QByteArray &text, const QByteArray &more,
                  const QByteArray &report = sample("ata-seagate-st3250318as.txt"));
     void start(const char *radio);
@@ -70,7 +71,7 @@ void tst_SelfTestFlow::start(const char *radio)
     child<QPushButton>("ScanButton")->click();
 }
 
-/// The four buttons that a running test locks.
+/// Whether the four buttons that a running test disables are enabled.
 bool tst_SelfTestFlow::navigationIs(bool enabled) const
 {
     for (const char *name :
@@ -121,10 +122,10 @@ void tst_SelfTestFlow::runsToItsEnd()
     QVERIFY(!shown("StopTestButton") && !shown("TestProgressBar") && !shown("TestElapsedValLbl"));
     QVERIFY(navigationIs(true));
     const int ticks = commands("ShortTestStatus.txt");
-    QTest::qWait(1200); // the clock has stopped
+    QTest::qWait(1200); // no tick runs any more
     QCOMPARE(commands("ShortTestStatus.txt"), ticks);
 
-    // The result would be lost, so the way back asks.
+    // The result would be lost, so the back button asks.
     QTest::mousePress(child<MyButton1>("BackTestButton"), Qt::LeftButton);
     QVERIFY(shown("frame_3"));
     m_pWindow->OnSwitchConfirm();
@@ -154,7 +155,7 @@ void tst_SelfTestFlow::aborted()
     QVERIFY(g_bSelfTestRunning && !shown("StopTestButton"));
     const int readings = commands("ShortTestStatus.txt");
     QTRY_VERIFY_WITH_TIMEOUT(!g_bSelfTestRunning, 3000);
-    QCOMPARE(commands("ShortTestStatus.txt"), readings + 1); // the tick that tells of it reads all the same
+    QCOMPARE(commands("ShortTestStatus.txt"), readings + 1); // the last tick reads the status, too
     QCOMPARE(text("TestStatusValLbl"), QStringLiteral("Test Aborted by User"));
     QCOMPARE(sheet("TestStatusValLbl"), QStringLiteral("QLabel {color : Red;}"));
     QVERIFY(navigationIs(true));
@@ -189,7 +190,7 @@ void tst_SelfTestFlow::refused()
     QVERIFY(navigationIs(true) && child<MyButton>("ScanDiskButton")->isEnabled());
     QTest::mousePress(child<MyButton1>("BackTestButton"), Qt::LeftButton);
     QVERIFY(shown("frame_2"));
-    // What was refused is not shown under the next disk.
+    // A refused test does not show for the next disk.
     start("radioButton_2");
     QVERIFY(!shown("frame_2"));
     buttonOf(dialog, "CloseButton")->click();
@@ -197,7 +198,7 @@ void tst_SelfTestFlow::refused()
     QVERIFY(shown("frame_2"));
 }
 
-/// The report that was read last is of another disk, whose kind says nothing of this one.
+/// The last report is of an NVMe disk; that must not refuse the test of this disk.
 void tst_SelfTestFlow::behindAnNvmeDisk()
 {
     addReport("n.txt", sample("nvme-samsung-970evoplus-500gb.txt"));
@@ -243,12 +244,12 @@ void tst_SelfTestFlow::everyOtherEnd()
     QVERIFY(!g_bSelfTestRunning && navigationIs(true) && shown("ScanButton") && shown("BackTestButton"));
 }
 
-/// A drive that answers no more has its test end, but not at the first time.
+/// A drive without answers ends its test, but not at the first missing answer.
 void tst_SelfTestFlow::silence()
 {
     startOn(capabilities("caps-idle-62.txt"), R"(, "selfTest": {"secondsPerMinute": 3600})");
     start("radioButton_3");
-    g_strSelfTestDevice = QStringLiteral("/dev/sdn"); // where there is none
+    g_strSelfTestDevice = QStringLiteral("/dev/sdn"); // no such disk
     for (int reading = 0; reading < 9; ++reading)
         m_pWindow->CheckShortTestStatus1();
     QVERIFY(g_bSelfTestRunning);
@@ -267,7 +268,7 @@ void tst_SelfTestFlow::notDuringARefresh()
     QVERIFY(shown("frame_2") && shown("ScanButton") && !g_bTestPending);
 }
 
-/// Its ticks lock the navigation of the other screens too, but nobody is caught there.
+/// The ticks disable the navigation on other screens, too, but the user can leave these.
 void tst_SelfTestFlow::keepsItsDisk()
 {
     startOn(capabilities("caps-idle-62.txt"), R"(, "selfTest": {"secondsPerMinute": 3600})");
@@ -300,7 +301,7 @@ void tst_SelfTestFlow::leftRunning()
     QVERIFY(navigationIs(true));
 }
 
-/// Nothing of one test reaches into the next, whatever ends it, and the window can go in the middle of one.
+/// No test affects the next one, however it ends, and the window can be deleted during a test.
 void tst_SelfTestFlow::overAndOver()
 {
     startOn(capabilities("caps-idle-62.txt"), R"(, "selfTest": {"secondsPerMinute": 3600})");

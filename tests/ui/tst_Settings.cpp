@@ -9,7 +9,7 @@
 #include <QMenu>
 #include <QtTest>
 
-/// The settings window with its fields in reach.
+/// The settings window with access to its fields.
 class OpenSettings : public Settings
 {
 public:
@@ -62,7 +62,7 @@ void SettingsTest::firstRunShowsFahrenheitAtItsLowest()
     OpenSettings window;
     window.ApplyFirstRunDefaults();
     QCOMPARE(window.degreeComboBox->currentIndex(), 1);
-    // 45 and 50 lie below what Fahrenheit allows.
+    // 45 and 50 are below the minimum in Fahrenheit.
     QCOMPARE(window.WarningSpinBox->value(), 104);
     QCOMPARE(window.ShutDownSpinBox->value(), 122);
     QCOMPARE(window.LogLImitSpinBox->value(), 99);

@@ -37,7 +37,7 @@ private:
     QTreeWidget *tree() const { return child<QTreeWidget>("m_pAttributeTree"); }
     QChart *chart() const { return g_pSmartChartView->chart(); }
     QVector<QPointF> points() const;
-    /// As a person does it: with the mouse on the row's name.
+    /// Clicks the name of the row with the mouse.
     void click(int row);
     QStringList stored(const QString &serial, const char *key) const;
 };
@@ -196,7 +196,7 @@ void tst_SmartTable::languageChangeKeepsHistoryAndGraph()
     const QChart *shown = chart();
     const HistoryPaths paths = historyPaths(QStringLiteral("SN0"));
     QVERIFY(QFile::remove(paths.dates) && QFile::remove(paths.values));
-    // As a disk without SMART looks behind it.
+    // As after a disk without SMART.
     g_bSmartAvailable = false;
     tree()->topLevelItem(1)->setText(1, QStringLiteral("other language"));
     QEvent change(QEvent::LanguageChange);
@@ -212,18 +212,18 @@ void tst_SmartTable::languageChangeKeepsHistoryAndGraph()
 void tst_SmartTable::unopenableDatesDrawNoGraph()
 {
     startOn(0);
-    QVERIFY(QDir().mkpath(historyPaths(QStringLiteral("SN1")).dates)); // a folder in the file's place
+    QVERIFY(QDir().mkpath(historyPaths(QStringLiteral("SN1")).dates)); // a folder with the name of the file
     select(1);
     QCOMPARE(tree()->topLevelItemCount(), 3);
-    // Nor does the graph of the disk before stay.
+    // The graph of the previous disk does not stay either.
     QCOMPARE(chart()->series().size(), 0);
     QCOMPARE(text("GraphLabel") + g_strGraphTitle, QString());
 }
 
 void tst_SmartTable::serialOfTheDiskTable()
 {
-    // Its serial number was read at the load, and is missing since. The day is kept under no name; the graph
-    // goes by the table's.
+    // The load read a serial number, later reports have none. So the day is recorded without a name, and the
+    // graph uses the number of the table.
     startOn(3);
     QCOMPARE(g_strSerialNumber, QStringLiteral("SN3"));
     QVERIFY(!readHistoryDates(historyPaths(QString()).dates, nullptr).empty());

@@ -70,7 +70,7 @@ private:
         startPc(json);
         makeWindow();
     }
-    /// Presses the update button of Settings; gives what the messages said, each answered with its button.
+    /// Presses the update button of Settings and closes each message by its button. Returns their texts.
     QStringList askForUpdate();
     void verifyUsable();
 
@@ -165,7 +165,7 @@ void UpdateTest::checkAtStartOffersWhatIsNewer()
 
 void UpdateTest::checkAskedForTellsThatThereIsNone_data()
 {
-    QTest::addColumn<QByteArray>("link"); ///< empty: of the folder
+    QTest::addColumn<QByteArray>("link"); ///< empty: the web folder
     QTest::addColumn<Files>("files");
     QTest::addColumn<QByteArray>("installed");
     QTest::addColumn<QByteArray>("prefix");
@@ -272,11 +272,11 @@ void UpdateTest::finishedDownloadStartsTheInstaller()
         auto *download = shown<QDownloadApp>();
         QVERIFY(download);
         QCOMPARE(download->findChild<QProgressBar *>()->maximum(), 4194304);
-        // There is no way to leave it.
+        // The dialog cannot be closed.
         download->close();
         QTest::keyClick(download, Qt::Key_Escape);
         QVERIFY(download->isVisible());
-        // A last piece of a few KB may still be on its way to the file.
+        // The last few KB may not be in the file yet.
         const QRegularExpression half(QStringLiteral("^1\\.(4[89]|50) MB copied\\) $"));
         QTRY_VERIFY(half.match(labelOf(download, "CopiedLabel")->text()).hasMatch());
         QVERIFY(download->findChild<QProgressBar *>()->value() > InstallerBytes / 2 - 32768);
@@ -327,7 +327,7 @@ void UpdateTest::ownProgressOfATransfer()
                 .match(labelOf(&download, "RateLabel")->text())
                 .hasMatch());
     QCOMPARE(download.findChild<QProgressBar *>()->value(), 1048576);
-    // Beyond its maximum the bar stands still.
+    // A value above the maximum does not move the bar.
     download.OnDownloadProgress(5000000, 6000000);
     QCOMPARE(download.findChild<QProgressBar *>()->value(), 1048576);
     QTRY_VERIFY_WITH_TIMEOUT(!m_messages.isEmpty(), 20000);
