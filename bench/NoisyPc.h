@@ -18,14 +18,14 @@
 #include <memory>
 #include <vector>
 
-/// What the benchmarks of the jobs measure on and beside.
+/// The disks of the benchmarks, and the tools that they compare with.
 namespace bench
 {
 
 constexpr qint64 MiB = 1 << 20;
 constexpr int SectorSize = 512;
 
-/// Fills an image with noise, so that nothing is saved on holes.
+/// Fills an image with noise, so that it has no holes.
 inline void fill(const QString &image, qint64 bytes, quint32 seed)
 {
     QDir().mkpath(QFileInfo(image).absolutePath());
@@ -41,7 +41,7 @@ inline void fill(const QString &image, qint64 bytes, quint32 seed)
     }
 }
 
-/// A node of the list for a disk of that size.
+/// A node of the disk list for a disk of that size.
 inline std::unique_ptr<DiskNode> makeNode(int number, qint64 bytes)
 {
     auto node = std::make_unique<DiskNode>();
@@ -56,7 +56,7 @@ inline std::unique_ptr<DiskNode> makeNode(int number, qint64 bytes)
 class NoisyPc
 {
 public:
-    /// `more`: further members of each disk's description, behind a comma.
+    /// `more`: further keys of each disk, after a comma.
     NoisyPc(int disks, qint64 bytes, const QByteArray &more = QByteArray())
     {
         QFile description(m_folder.filePath(QStringLiteral("pc.json")));
@@ -99,7 +99,7 @@ inline double seconds(const QElapsedTimer &clock)
     return static_cast<double>(clock.nsecsElapsed()) / 1e9;
 }
 
-/// Seconds that a tool takes; negative where it is not installed or fails.
+/// Seconds that a tool takes; negative if it is not installed or fails.
 inline double toolTime(const QString &tool, const QStringList &arguments)
 {
     QString program = QStandardPaths::findExecutable(tool);

@@ -16,12 +16,12 @@ namespace
 {
 
 using bench::MiB;
-constexpr int Rounds = 11;                 ///< of which the first fills the cache
-constexpr double WantedShare = 0.97;       ///< of what dd does, on images
-constexpr double WantedOnLoops = 1.0;      ///< of what each of the others does
+constexpr int Rounds = 11;                 ///< the first one fills the cache
+constexpr double WantedShare = 0.97;       ///< of the speed of dd, on images
+constexpr double WantedOnLoops = 1.0;      ///< of the speed of each other tool
 constexpr qint64 WantedMemory = 40 * 1024; ///< kB above idle
 
-/// Seconds of a whole clone, preparation and end included.
+/// Seconds of a whole clone, with its preparation and end.
 double clone()
 {
     ThreadDriveClone thread;
@@ -52,7 +52,7 @@ public:
         qputenv("HALVANE_DISKS", (node(0) + QLatin1Char(':') + node(1)).toUtf8());
         auto watched = std::make_unique<WatchedPlatform>(makeNativePlatform());
         watched->pauses = false;
-        // The copy alone, up to the confirmation that all is stored: the tools around it take their own time.
+        // The copy alone, with its flush: the tools before and after it have times of their own.
         watched->onSleep = [this](quint32) { m_clock.start(); };
         watched->onFlush = [this] {
             m_seconds = bench::seconds(m_clock);
@@ -87,7 +87,8 @@ private:
     double m_seconds = 0;
 };
 
-/// Writes out what the system holds of a block device, and forgets it. Seconds; none for an image.
+/// Writes the cached data of a block device to it, and empties the cache. Returns the seconds; 0 for an
+/// image.
 double flush(const QString &node)
 {
     return node.startsWith(QLatin1String("/dev/"))
@@ -95,8 +96,8 @@ double flush(const QString &node)
                : 0;
 }
 
-/// Seconds until the copy of a tool lies on the other disk, as the clone's does when it ends; negative where
-/// the tool is not installed. The system holds nothing of the source beforehand.
+/// Seconds until the copy of a tool is on the other disk, as that of a clone is at its end; negative if the
+/// tool is not installed. Nothing of the source is in the cache before.
 double copyTime(const QString &tool, const QStringList &arguments, const QString &from, const QString &onto)
 {
     flush(from);
@@ -123,8 +124,8 @@ double median(std::vector<double> values)
     return values.empty() ? -1 : values[values.size() / 2];
 }
 
-/// How the clone compares with dd and ddrescue: above 1 it is the faster one. Taken in turn, so that what
-/// else the machine does meets all, and compared within a turn.
+/// Compares the clone with dd and ddrescue; above 1 the clone is faster. They run in turns and are compared
+/// within a turn, so that other work of the machine slows all of them.
 template<typename Copy>
 bool compare(const char *what, qint64 bytes, const QString &from, const QString &onto, Copy copy,
              double wantedOfDd, double wantedOfRescue)
@@ -156,7 +157,7 @@ bool compare(const char *what, qint64 bytes, const QString &from, const QString 
     return median(ofDd) >= wantedOfDd && (ofRescue.empty() || median(ofRescue) >= wantedOfRescue);
 }
 
-/// A line of this process's status, in kB; -1 where the system has none.
+/// A line of this process's status, in kB; -1 if the system has none.
 qint64 memory(const char *name)
 {
     QFile status(QStringLiteral("/proc/self/status"));
@@ -207,9 +208,9 @@ bool benchLoops(qint64 bytes)
 
 } // namespace
 
-/// bench_clone [MiB of a disk, 1024 where nothing is said]
-/// Ends with 1 where the clone is slower than 0.97 of dd, on loop devices slower than dd or ddrescue, or
-/// takes more than 40 MiB.
+/// bench_clone [MiB of a disk, 1024 by default]
+/// Ends with 1 if the clone has less than 0.97 of dd's speed, on loop devices less than that of dd or
+/// ddrescue, or if it takes more than 40 MiB.
 int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);

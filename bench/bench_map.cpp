@@ -34,7 +34,7 @@ double measure(const std::function<void()> &work)
     return spent[Rounds / 2];
 }
 
-/// The same picture made step by step: a rectangle for each cell and for each bad sector, in plain loops.
+/// The same picture, made in plain loops: a rectangle for each cell and for each bad sector.
 void paintPlainly(QImage *image, const QVector<qint64> &badSectors, qint64 position)
 {
     constexpr int Side = 20;

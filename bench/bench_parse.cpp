@@ -34,7 +34,7 @@ QByteArray noiseBytes()
     return noise;
 }
 
-/// Milliseconds of `work` per run, the best of three rounds; what `prepare` takes is not counted.
+/// Milliseconds of `work` per run, the best of three rounds, without those of `prepare`.
 double measure(int runs, const std::function<void()> &prepare, const std::function<void()> &work)
 {
     qint64 best = -1;
@@ -57,12 +57,11 @@ void print(const char *what, double milliseconds)
     std::printf("%-44s %10.3f ms\n", what, milliseconds);
 }
 
-/// What the program does with a report once the tool has written it: three readings from disk, then the
-/// rating.
+/// The work of the program on a report that the tool has written: it is read three times, then rated.
 void benchReport(const char *what, const QByteArray &bytes, int runs)
 {
     const QString path = tempFile(QStringLiteral("bench_parse.txt"));
-    // Reading removes the file, so each run gets it anew.
+    // Reading removes the file, so it is written for each run.
     const auto write = [&] {
         QFile file(nativePath(path));
         if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
@@ -77,7 +76,7 @@ void benchReport(const char *what, const QByteArray &bytes, int runs)
           }));
 }
 
-/// What a person without the program does: starts a tool that reads the same.
+/// Starts a tool that reads the same, as a user without the program would.
 void benchAlternative(const QString &program, const QStringList &arguments)
 {
     const QByteArray what = "beside it: one start of " + program.toUtf8();

@@ -22,14 +22,14 @@ using bench::MiB;
 using bench::SectorSize;
 constexpr qint64 SectorsPerChunk = 16384;
 constexpr int Pairs = 9;
-constexpr double WantedShare = 0.97; ///< of what the same reads take by themselves
+constexpr double WantedShare = 0.97; ///< of the speed of the same reads without a scan
 
-/// What a scan took.
+/// The cost of a scan.
 struct Times {
     double wall = 0;    ///< seconds
     double cpu = 0;     ///< seconds of all threads of this process
     double chunks = 0;  ///< seconds from the first chunk on
-    qlonglong told = 0; ///< counts of bad sectors, the one at the end among them
+    qlonglong told = 0; ///< signals with a count of bad sectors, with the one at the end
 };
 
 /// A disk to scan.
@@ -42,7 +42,7 @@ public:
     using NoisyPc::node;
     QString image() const { return image(0); }
 
-    /// Scans the disk. An event loop hears of every bad sector, as the window's does.
+    /// Scans the disk. An event loop gets the signal of every bad sector, as that of the window does.
     Times scan() const
     {
         QScanDriveThread thread;
@@ -87,8 +87,8 @@ double median(QVector<double> values)
     return values.at(values.size() / 2);
 }
 
-/// Compares by pairs taken in turn, so that what else the machine does meets both. False where the median is
-/// below the wanted share. The first pair, which fills the cache, does not count.
+/// Runs the two in turns, so that other work of the machine slows both. False if the median is below the
+/// wanted share. The first pair fills the cache and does not count.
 bool compare(const char *what, const char *reference, qint64 bytes,
              const std::function<double()> &referenceTime, const std::function<double()> &time)
 {
@@ -119,7 +119,7 @@ bool benchThroughput(qint64 bytes)
         [&] { return pc.scan().wall; });
 }
 
-/// Reads all sectors one by one and does nothing else, on a thread of its own as the scan does.
+/// Reads all sectors one by one and nothing else, on a thread of its own, as a scan does.
 double singleReads(const Pc &pc)
 {
     const int drive = pc.node(0)->pDetails->nDevice;
@@ -146,7 +146,7 @@ bool benchNarrowing()
     const qint64 bytes = Chunks * SectorsPerChunk * SectorSize;
     const auto narrowing = [](const Pc &pc, qlonglong counts) {
         const Times times = pc.scan();
-        if (times.told != counts + 1) // once more at the end
+        if (times.told != counts + 1) // there is one more signal at the end
             qFatal("%lld counts told", static_cast<long long>(times.told));
         return times.chunks;
     };
@@ -154,7 +154,7 @@ bool benchNarrowing()
     QByteArrayList inEach;
     for (qint64 chunk = 0; chunk < Chunks; ++chunk)
         inEach << QByteArray::number(chunk * SectorsPerChunk + 1);
-    // The sector behind a chunk that failed is read as well, also behind the disk.
+    // The sector behind a failed chunk is read, too, even behind the end of the disk.
     bool fastEnough = true;
     {
         const Pc pc(bytes, ", \"badSectors\": [" + inEach.join(", ") + "]");
@@ -163,7 +163,7 @@ bool benchNarrowing()
             [&] { return narrowing(pc, Chunks + 1); });
     }
     const Pc pc(bytes, ", \"badSectors\": [[0, " + QByteArray::number(Chunks * SectorsPerChunk) + "]]");
-    // A read that is refused costs nothing on a described PC, so one that is not is the measure.
+    // On a described PC a refused read costs nothing, so a good one is measured.
     return compare(
                "  narrowing, all bad", "dd bs=512, all good", bytes,
                [&] { return ddTime(pc.image(), {QStringLiteral("bs=512")}); },
@@ -183,8 +183,9 @@ void benchSlowDisk()
 
 } // namespace
 
-/// bench_scan [MiB of the healthy disk, 4096 where nothing is said]
-/// Ends with 1 where a scan or the narrowing reaches less than 0.97 of the reads themselves.
+/// bench_scan [MiB of the healthy disk, 4096 by default]
+/// Ends with 1 if a scan, or the sector-by-sector reading, has less than 0.97 of the speed of the reads
+/// alone.
 int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);

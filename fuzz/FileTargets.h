@@ -5,8 +5,8 @@
 
 #include <QString>
 
-/// Readers of what lies in files: settings, described PCs, the history, what a web folder or a tool tells.
-/// Each says what is wrong with the result, empty if nothing is.
+/// Readers of files: settings, described PCs, the history, the files of a web folder, the output of tools.
+/// Each returns what is wrong with the result; empty if nothing is.
 namespace filetargets
 {
 

@@ -28,7 +28,7 @@ quint64 Mutator::below(quint64 end)
     return end == 0 ? 0 : next() % end;
 }
 
-/// A number as it may stand in a table: mostly a sector of the disk, else one at a border.
+/// A number for a table: mostly a sector of the disk, else one at a limit.
 quint64 Mutator::number(quint64 sectors)
 {
     static constexpr std::array<quint64, 12> borders{
@@ -93,7 +93,7 @@ void Mutator::writeSlot(QByteArray *disk)
     const int sectors = disk->size() / SectorSize;
     if (sectors == 0)
         return;
-    // Few sectors bear tables, so that chains close to cycles.
+    // Few sectors have tables, so that chains often become cycles.
     const int table = int(below(below(2) ? 8 : quint64(sectors))) % sectors;
     const int slot = table * SectorSize + 446 + 16 * int(below(4));
     (*disk)[slot + 4] = char(kinds[below(kinds.size())]);
@@ -104,7 +104,7 @@ void Mutator::writeSlot(QByteArray *disk)
     writeName(disk, quint64(table) + first + 2);
 }
 
-/// Writes a path to one of the places for names of a superblock, often one without an end.
+/// Writes a path to one of the fields for names of a superblock, often without a terminator.
 void Mutator::writeName(QByteArray *disk, quint64 sector)
 {
     if (sector >= quint64(disk->size() / SectorSize) || below(4))
@@ -124,7 +124,7 @@ void Mutator::writeGptEntry(QByteArray *disk)
     const quint64 first = number(quint64(sectors));
     HandMadeDisk::putNumber(disk, entry + 32, first);
     HandMadeDisk::putNumber(disk, entry + 40, number(quint64(sectors)));
-    // What the partition holds, if it lies on the disk: mostly an ext file system.
+    // The contents of the partition, if it is on the disk: mostly an ext file system.
     if (first < quint64(sectors) - 2 && below(4))
         HandMadeDisk::putNumber(disk, int(first) * SectorSize + 1080, quint16(0xEF53));
     writeName(disk, first + 2);

@@ -4,7 +4,7 @@
 #include <QByteArray>
 #include <QVector>
 
-/// Makes inputs out of sound ones. Everything follows from the seed, so that an input can be made again.
+/// Makes inputs from sound ones. The same seed gives the same inputs, so that one can be made again.
 class Mutator
 {
 public:

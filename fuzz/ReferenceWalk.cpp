@@ -19,7 +19,7 @@ bool ReferenceWalk::readable(quint64 sector) const
     return sector < (quint64(m_disk.size()) + 511) / 512;
 }
 
-/// What lies behind the disk's end reads as zeros.
+/// Reads behind the disk's end give zeros.
 QByteArray ReferenceWalk::read(quint64 sector, int bytes) const
 {
     const QByteArray there = m_disk.mid(int(sector) * 512, bytes);

@@ -7,8 +7,8 @@
 
 #include <array>
 
-/// The partition walk told as plainly as can be, by recursion: what the program's own walk has to agree with.
-/// For small disks only, as its depth is that of the tables.
+/// A simple recursive search for partitions. The program's own walk has to find the same. For small disks
+/// only, as its depth is that of the tables.
 class ReferenceWalk
 {
 public:

@@ -6,7 +6,7 @@
 #include <QString>
 #include <QVector>
 
-/// One thing that is given inputs.
+/// A reader that gets inputs.
 struct Target {
     const char *name; ///< also of its folder of sound inputs
     QByteArray (Mutator::*make)(const QVector<QByteArray> &corpus);
@@ -18,5 +18,5 @@ struct Target {
 /// All of them. They run on the simulated machine that freshMachine() made last.
 const QVector<Target> &allTargets();
 
-/// Installs an empty machine. It logs all that is asked of it, so make a new one from time to time.
+/// Installs an empty machine. It keeps a log of all calls, so make a new one from time to time.
 void freshMachine();

@@ -17,7 +17,7 @@ namespace
 constexpr unsigned SecondsPerInput = 20;
 constexpr quint64 InputsPerMachine = 2000;
 
-/// What is being taken in, for the last words of the process.
+/// The input that is read, for the last line of the process.
 quint64 currentSeed = 0;
 quint64 currentInput = 0;
 int onlyTarget = -1;       ///< -1: each in its turn
@@ -31,7 +31,7 @@ void nameInput()
                  onlyTarget < 0 ? "" : " --only ", onlyName);
 }
 
-/// The process ends anyhow, so even calls that are not safe in a signal handler will do.
+/// The process ends anyhow, so calls that are not safe in a signal handler are allowed.
 void onAlarm(int)
 {
     std::fputs("An input takes too long.\n", stderr);
@@ -50,7 +50,7 @@ QVector<QByteArray> readCorpus(const QString &folder)
     return corpus;
 }
 
-/// Makes an input and has it taken in. False, with a line on standard error, if something is wrong.
+/// Makes an input and gives it to its reader. False, with a line on standard error, if something is wrong.
 bool runInput(const QVector<QVector<QByteArray>> &corpora, quint64 seed, quint64 input)
 {
     currentInput = input;
