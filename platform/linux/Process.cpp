@@ -7,6 +7,7 @@
 #include <QByteArray>
 #include <QCryptographicHash>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QRegularExpression>
 #include <QSysInfo>
 #include <QtEndian>
@@ -138,6 +139,10 @@ void prepareNativeProcess()
     // one.
     qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
     qputenv("NO_AT_BRIDGE", "1");
+    // The desktop's own theme loads the libraries that any program on the display names, and the display
+    // names the one that draws for it.
+    QGuiApplication::setDesktopSettingsAware(false);
+    qputenv("QT_XCB_GL_INTEGRATION", "none");
     const QString temp = folders::places().temp;
     if (!temp.isEmpty())
         qputenv("XDG_RUNTIME_DIR", QFile::encodeName(temp));

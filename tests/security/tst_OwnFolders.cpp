@@ -167,6 +167,9 @@ void OwnFoldersTest::variablesOfAUser()
     for (const auto &variable : variables)
         QVERIFY2(!qgetenv(variable.first).contains(variable.second), variable.first);
     QCOMPARE(qgetenv("QT_FONT_DPI"), QByteArray("120"));
+    // Nor a library that a program on the display names for the desktop's theme, or the display for drawing.
+    QVERIFY(!QGuiApplication::desktopSettingsAware());
+    QCOMPARE(qgetenv("QT_XCB_GL_INTEGRATION"), QByteArray("none"));
     QProcess::execute(linuxtools::find(QStringLiteral("systemd-inhibit")), {QStringLiteral("true")});
     QCOMPARE(inSecret(), QStringList());
     const QString home = QDir::homePath();
