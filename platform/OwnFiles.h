@@ -38,8 +38,8 @@ QString makeFolder(const QString &path);
 /// empty if there is none. Parts that are still missing do not count.
 QString strangerOn(const QString &path);
 
-/// The same of a folder with all that lies below it. Here it counts, too, where somebody else may only add to
-/// a folder.
+/// The same of a folder with all that lies below it, files included. Here it counts, too, where somebody else
+/// may only add to a folder.
 QString strangerIn(const QString &folder);
 
 /// The first thing below a folder that is neither a folder nor a regular file, such as a link; empty if there

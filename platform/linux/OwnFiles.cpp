@@ -267,7 +267,7 @@ QString strangerIn(const QString &folder)
         if (handle < 0)
             continue;
         const bool told = ::fstat(handle, &status) == 0;
-        const bool open = told && S_ISDIR(status.st_mode) && othersMayAdd(handle, status);
+        const bool open = told && !S_ISLNK(status.st_mode) && othersMayAdd(handle, status);
         ::close(handle);
         if (!told || !isOurs(status))
             return belongsToAnother(path);

@@ -160,6 +160,14 @@ void DescribedPcsTest::foldersOfOthers()
     QCOMPARE(openingError(folder, other.path()),
              notKept + other.path() + QStringLiteral(": others may write to it"));
     QCOMPARE(chmod(name.constData(), 0755), 0);
+    // Nor a file that all may write to.
+    const QByteArray json = name + "/pc.json";
+    const QString open = QString::fromUtf8(json) + QStringLiteral(": others may write to it");
+    QCOMPARE(chmod(json.constData(), 0666), 0);
+    QCOMPARE(openingError(folder, other.path()), notKept + open);
+    QVERIFY(!SimulatedPlatform::open(other.path(), folder.state(), &error));
+    QCOMPARE(error, open + QStringLiteral(", and this program runs as an administrator"));
+    QCOMPARE(chmod(json.constData(), 0644), 0);
     for (const QString &part : {QStringLiteral("/pc.json"), QStringLiteral("/temp")}) {
         const QString path = other.path() + part;
         QVERIFY(QFile::exists(path) || QDir().mkdir(path));
