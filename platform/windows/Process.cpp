@@ -3,11 +3,32 @@
 #include "platform/OwnFiles.h"
 #include "platform/windows/PrivateFolder.h"
 
+#include <QByteArrayList>
+
+#include <cwchar>
+
 namespace
 {
 
 /// Looks for libraries in the program's folder and the system's only. Older headers lack this constant.
 constexpr DWORD SearchDefaultFolders = 0x1000;
+
+/// Takes out what could name a library for the toolkit or for its secure connections. A user's own programs
+/// set his variables, and these go along with what he starts as an administrator.
+void clearEnvironment()
+{
+    const QByteArrayList kept{"QT_QPA_PLATFORM", "QT_FONT_DPI", "QT_SCALE_FACTOR"};
+    QByteArrayList names;
+    wchar_t *const own = ::GetEnvironmentStringsW();
+    for (const wchar_t *entry = own; entry && *entry; entry += ::wcslen(entry) + 1)
+        names.append(QString::fromWCharArray(entry).section(QLatin1Char('='), 0, 0).toUpper().toLatin1());
+    ::FreeEnvironmentStringsW(own);
+    for (const QByteArray &name : qAsConst(names)) {
+        const bool loads = name.startsWith("QT_") || name.startsWith("OPENSSL_") || name.startsWith("SSL_");
+        if (loads && !kept.contains(name))
+            qunsetenv(name.constData());
+    }
+}
 
 } // namespace
 
@@ -20,6 +41,8 @@ void prepareNativeProcess()
         reinterpret_cast<SetDefaultFolders>(reinterpret_cast<void *>(found))(SearchDefaultFolders);
     // Takes the working folder out of every other search for libraries.
     ::SetDllDirectoryW(L"");
+    if (ownfiles::isElevated())
+        clearEnvironment();
 }
 
 bool takeNativeInstance(const QString &key)

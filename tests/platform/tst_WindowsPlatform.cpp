@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/IoControl.h"
 #include "platform/NativePlatform.h"
+#include "platform/OwnFiles.h"
 
 #include <QDir>
 #include <QFile>
@@ -34,6 +35,7 @@ private slots:
     void downloads();
     void decodesMessages_data();
     void decodesMessages();
+    void variablesOfTheUser();
 
 private:
     QString path(const QString &name) const { return m_folder->filePath(name); }
@@ -354,6 +356,22 @@ void tst_WindowsPlatform::decodesMessages()
     QCOMPARE(change.has_value(), deviceType >= 0);
     QVERIFY(!change || (change->event == event && change->deviceType == quint32(deviceType)));
     QVERIFY(!Platform::current().decodeDeviceMessage(eventType, nullptr));
+}
+
+/// A user's own programs set them, and they go along with what he starts as an administrator.
+void tst_WindowsPlatform::variablesOfTheUser()
+{
+    if (!ownfiles::isElevated())
+        QSKIP("the variables of a user without more rights are his own");
+    for (const char *name :
+         {"QT_PLUGIN_PATH", "QT_QPA_PLATFORM_PLUGIN_PATH", "qt_opengl_dll", "OPENSSL_CONF"})
+        qputenv(name, "C:\\evil");
+    qputenv("QT_FONT_DPI", "120");
+    prepareNativeProcess();
+    for (const char *name :
+         {"QT_PLUGIN_PATH", "QT_QPA_PLATFORM_PLUGIN_PATH", "QT_OPENGL_DLL", "OPENSSL_CONF"})
+        QVERIFY2(!qEnvironmentVariableIsSet(name), name);
+    QCOMPARE(qgetenv("QT_FONT_DPI"), QByteArray("120"));
 }
 
 QTEST_GUILESS_MAIN(tst_WindowsPlatform)
