@@ -68,6 +68,10 @@ bool start(const User &user, const QString &program, const QStringList &argument
                          arguments);
     process.setProcessEnvironment(environmentOf(user));
     process.setWorkingDirectory(QStringLiteral("/"));
+    // What root's program was started with, such as a log of root's, is not for him.
+    process.setStandardInputFile(QProcess::nullDevice());
+    process.setStandardOutputFile(QProcess::nullDevice());
+    process.setStandardErrorFile(QProcess::nullDevice());
     return !process.program().isEmpty() && process.startDetached();
 }
 

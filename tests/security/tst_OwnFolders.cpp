@@ -319,11 +319,13 @@ void OwnFoldersTest::openedForTheUser()
     QVERIFY(user);
     qputenv("HALVANE_PROBE", "root's");
     const QString out = QString::fromUtf8(path("foreign/out"));
-    const QString script =
-        QStringLiteral("echo $(id -u) $(id -g) $HOME $XDG_RUNTIME_DIR $HALVANE_PROBE >%1.new; mv %1.new %1");
+    const QString script = QStringLiteral(
+        "echo $(id -u) $(id -g) $HOME $XDG_RUNTIME_DIR $HALVANE_PROBE $(readlink /proc/$$/fd/1 "
+        "/proc/$$/fd/2) >%1.new; mv %1.new %1");
     QVERIFY(desktopuser::start(*user, QStringLiteral("/bin/sh"), {QStringLiteral("-c"), script.arg(out)}));
     QTRY_VERIFY(QFile::exists(out));
-    const QString wanted = QStringLiteral("65534 65534 %1 /run/user/65534\n").arg(user->home);
+    const QString wanted =
+        QStringLiteral("65534 65534 %1 /run/user/65534 /dev/null /dev/null\n").arg(user->home);
     QCOMPARE(QString::fromLocal8Bit(ownfiles::contents(out)), wanted);
 }
 
