@@ -52,7 +52,8 @@ std::wstring toolEnvironment(const QString &systemFolder)
     std::wstring block;
     wchar_t *const own = ::GetEnvironmentStringsW();
     for (const wchar_t *entry = own; entry && *entry; entry += ::wcslen(entry) + 1) {
-        if (::_wcsnicmp(entry, L"PATH=", 5) != 0)
+        // Without the other one the interpreter takes itself where it starts a second one, as for a pipe.
+        if (::_wcsnicmp(entry, L"PATH=", 5) != 0 && ::_wcsnicmp(entry, L"COMSPEC=", 8) != 0)
             block.append(entry).push_back(L'\0');
     }
     ::FreeEnvironmentStringsW(own);

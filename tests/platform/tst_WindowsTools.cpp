@@ -293,6 +293,8 @@ void tst_WindowsTools::interpreterThatIsMissing()
     const auto restore = qScopeGuard([&before] { qputenv("COMSPEC", before); });
     qputenv("COMSPEC", "C:\\no-such-folder\\cmd.exe");
     QCOMPARE(firstLine(QStringLiteral("echo found")), QStringLiteral("found"));
+    // Nor does the interpreter ask that variable for a second one.
+    QVERIFY(!firstLine(QStringLiteral("echo %COMSPEC%")).contains(QLatin1String("no-such")));
 }
 
 void tst_WindowsTools::volumeTable()
