@@ -339,7 +339,7 @@ void OwnFoldersTest::instanceOfSomebodyElse()
     const QString name = QStringLiteral("7c41e9d2-a06b-4f37-66mm-d3f02a91c5b8-") + QString::fromLatin1(hash);
     int ready[2];
     QCOMPARE(pipe(ready), 0);
-    const Attacker attacker([&] {
+    auto attacker = std::make_unique<Attacker>([&] {
         QSharedMemory segment(name);
         const bool held = segment.create(512);
         (void)!write(ready[1], held ? "y" : "n", 1);
@@ -363,6 +363,7 @@ void OwnFoldersTest::instanceOfSomebodyElse()
     QTRY_VERIFY_WITH_TIMEOUT(!QDir(settings).isEmpty(), 20000);
     program.kill();
     program.waitForFinished();
+    attacker.reset();
     QSharedMemory left(name);
     left.attach(); // detached again at its end, which removes the segment
 }
