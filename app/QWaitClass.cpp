@@ -51,7 +51,8 @@ QWaitClass::QWaitClass()
     setWindowFlags(Qt::FramelessWindowHint);
     style::setWhiteBackground(this);
     style::showTextsAsData(this);
-    g_App.m_fScale = scale::factorForDpi(Platform::current().LogPixelsX());
+    const int percent = scale::percentForDpi(Platform::current().LogPixelsX());
+    g_App.m_fScale = static_cast<float>(percent) / 100.0F;
     setTextRectangle();
     setSideImage();
     scaleWidgets();
@@ -87,7 +88,7 @@ void QWaitClass::setSideImage()
         file = QStringLiteral("img_SideImageKorvane.png");
     else if (g_App.m_bKorean && g_App.m_bKoreanImages)
         file = QStringLiteral("img_SideImage_KO.png");
-    images::setLabelImage(label_3, file, scale::Family::Folder);
+    images::setLabelImage(label_3, file, images::Family::Folder);
 }
 
 void QWaitClass::scaleWidgets()

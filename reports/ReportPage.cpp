@@ -3,7 +3,6 @@
 
 #include "platform/OwnFiles.h"
 #include "reports/SmartReport.h"
-#include "state/Scale.h"
 
 #include <QBuffer>
 #include <QCoreApplication>
@@ -214,11 +213,8 @@ class PagePainter
 public:
     PagePainter(QPainter &painter, const SmartReport &report, const std::function<void()> &newPage)
         : m_painter(painter), m_report(report), m_newPage(newPage),
-          m_layout(report.nvme ? nvmeLayout() : ataLayout()),
-          m_logo(ofSet(report.secondBrand ? QStringLiteral("img_Korvane.png")
-                                          : QStringLiteral("img_Velmora.png"))),
-          m_watermark(ofSet(QStringLiteral("img_WaterMark.png"))),
-          m_icon(printImage(QStringLiteral(":/images/Halvane48.png")))
+          m_layout(report.nvme ? nvmeLayout() : ataLayout()), m_logo(printImage(report.logo)),
+          m_watermark(printImage(report.watermark)), m_icon(printImage(report.icon))
     {
     }
 
@@ -244,13 +240,6 @@ public:
     }
 
 private:
-    /// Null where the display scale has no set.
-    QImage ofSet(const QString &file) const
-    {
-        const QString path = scale::imagePath(file, m_report.scaleFactor, scale::Family::Folder);
-        return path.isEmpty() ? QImage() : printImage(path);
-    }
-
     /// `source` in pixels of the design size.
     void drawImage(const QRect &target, const QImage &image, const QRect &source)
     {

@@ -92,7 +92,6 @@ SmartReport gatherSmartReport()
     SmartReport report;
     report.nvme = g_App.m_bNVMe;
     report.secondBrand = g_App.m_bKorvaneBrand;
-    report.scaleFactor = g_App.m_fScale;
     if (report.nvme)
         takeNvme(report, g_nvmeTable);
     else

@@ -15,7 +15,10 @@ struct SmartReport {
 
     bool nvme = false; ///< which of the two layouts
     bool secondBrand = false;
-    float scaleFactor = 1.0F; ///< of the display; picks the set of images
+    /// Files of the pictures; none is painted where the name is empty.
+    QString logo;
+    QString watermark;
+    QString icon;
 
     QString make;
     QString model;

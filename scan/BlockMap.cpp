@@ -49,10 +49,10 @@ qint64 roundedUp(qint64 value, qint64 unit)
 
 } // namespace
 
-Metrics metrics(float scaleFactor)
+Metrics metrics(int scalePercent)
 {
     // At least one pixel, even if a display claims to have almost no dots per inch.
-    const auto px = [scaleFactor](int length) { return qMax(1, scale::scaled(length, scaleFactor)); };
+    const auto px = [scalePercent](int length) { return qMax(1, scale::scaled(length, scalePercent)); };
     return {px(20), px(500), px(320), px(20), px(25)};
 }
 

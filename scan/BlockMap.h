@@ -27,14 +27,14 @@ struct Metrics {
     int width = 0;
     int height = 0;
     int toolTipCell = 0;
-    int toolTipColumns = 0; ///< scaled like a length, so that above a scale of 1 it is not columns()
+    int toolTipColumns = 0; ///< scaled like a length, so that above 100 percent it is not columns()
 
     int columns() const { return width / cell; }
     int rowsInSight() const { return (height + cell - 1) / cell; }
 };
 
-/// For a display scale of at least 1.
-Metrics metrics(float scaleFactor);
+/// For a display scale of at least 100 percent.
+Metrics metrics(int scalePercent);
 
 /// How many cells a disk of `total` sectors has: 400, or one for each sector of a smaller one.
 qint64 cellCount(const Metrics &sizes, qint64 total);

@@ -42,24 +42,23 @@ const std::vector<Column> &columns(bool nvme)
     return nvme ? nvmeColumns : ata;
 }
 
-int width(const Column &column, bool nvme, float scaleFactor)
+int width(const Column &column, bool nvme, int scalePercent)
 {
-    return nvme ? column.width : scale::scaled(column.width, scaleFactor);
+    return nvme ? column.width : scale::scaled(column.width, scalePercent);
 }
 
-int headerFontPixels(float scaleFactor, bool wideLanguage)
+int headerFontPixels(int scalePercent, bool wideLanguage)
 {
-    switch (scale::imageSet(scaleFactor)) {
-    case scale::ImageSet::None:
-        break;
-    case scale::ImageSet::Dpi96:
+    switch (scale::imageSet(scalePercent)) {
+    case 96:
         return 14;
-    case scale::ImageSet::Dpi120:
+    case 120:
         return wideLanguage ? 17 : 18;
-    case scale::ImageSet::Dpi144:
+    case 144:
         return wideLanguage ? 21 : 22;
+    default:
+        return 0;
     }
-    return 0;
 }
 
 } // namespace attributecolumns

@@ -19,10 +19,10 @@ struct Column {
 const std::vector<Column> &columns(bool nvme);
 
 /// Width of a column in pixels, 0 where it has none of its own. Those of NVMe disks do not follow the scale.
-int width(const Column &column, bool nvme, float scaleFactor);
+int width(const Column &column, bool nvme, int scalePercent);
 
 /// Font size of the header in pixels, 0 where the scale has none. Languages with wide header words take a
 /// smaller one.
-int headerFontPixels(float scaleFactor, bool wideLanguage);
+int headerFontPixels(int scalePercent, bool wideLanguage);
 
 } // namespace attributecolumns

@@ -6,7 +6,6 @@
 #include "smart/SmartGlobals.h"
 #include "state/GlobalApp.h"
 #include "state/Globals.h"
-#include "state/Scale.h"
 
 #include <QCoreApplication>
 
@@ -210,33 +209,26 @@ void RatePerformance()
     g_strPerformanceText = percentText(g_nPerformancePercent);
 }
 
-QString healthImage(std::optional<int> percent, float factor)
+TilePicture healthPicture(std::optional<int> percent, int scalePercent)
 {
-    const scale::ImageSet set = scale::imageSet(factor);
-    if (set == scale::ImageSet::None)
-        return QString();
     if (!percent)
-        return QStringLiteral("img_HealthUnknown.png");
+        return TilePicture::Unknown;
     if (*percent > 75)
-        return QStringLiteral("img_Health.png");
-    // The middle set alone has a picture for 65.
-    const int averageFrom = set == scale::ImageSet::Dpi120 ? 65 : 66;
-    if (*percent >= averageFrom)
-        return QStringLiteral("img_HealthAverage.png");
-    return *percent < 65 ? QStringLiteral("img_HealthHigh.png") : QString();
+        return TilePicture::Good;
+    // At 125 percent alone there is a picture for 65.
+    if (*percent >= (scalePercent == 125 ? 65 : 66))
+        return TilePicture::Average;
+    return *percent < 65 ? TilePicture::Bad : TilePicture::Same;
 }
 
-QString performanceImage(int percent, float factor)
+TilePicture performancePicture(int percent, int scalePercent)
 {
-    const scale::ImageSet set = scale::imageSet(factor);
-    if (set == scale::ImageSet::None)
-        return QString();
-    const bool plain = set == scale::ImageSet::Dpi96;
+    const bool plain = scalePercent == 100;
     if (percent >= (plain ? 80 : 81))
-        return QStringLiteral("img_Performance.png");
+        return TilePicture::Good;
     if (percent < 65)
-        return QStringLiteral("img_PerformanceHigh.png");
-    return plain ? QStringLiteral("img_PerformanceAve.png") : QString();
+        return TilePicture::Bad;
+    return plain ? TilePicture::Average : TilePicture::Same;
 }
 
 OverallResult overallResult(bool available, int temperature, DriveVerdict verdict)

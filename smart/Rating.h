@@ -3,6 +3,7 @@
 
 #include "smart/DriveVerdict.h"
 #include "smart/SmartRecords.h"
+#include "smart/TilePicture.h"
 
 #include <QString>
 
@@ -40,9 +41,9 @@ void RateHealth();
 /// The same for g_nPerformancePercent and g_strPerformanceText.
 void RatePerformance();
 
-/// File name of the tile's picture at a display scale; an empty text means that the picture stays.
-QString healthImage(std::optional<int> percent, float factor);
-QString performanceImage(int percent, float factor);
+/// What the tile's picture tells at a display scale, in percent.
+TilePicture healthPicture(std::optional<int> percent, int scalePercent);
+TilePicture performancePicture(int percent, int scalePercent);
 
 enum class OverallResult { Passed, NotSupported, Failed };
 /// `temperature` in °C, 0 if it is not known. A drive that gives itself up has failed, whatever else is

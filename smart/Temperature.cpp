@@ -67,14 +67,14 @@ QString waitingTemperatureText(const QString &unit)
     return text.isEmpty() ? QString(QLatin1Char('0')) + DegreeSign : text;
 }
 
-QString loadTemperatureImage(int celsius)
+TilePicture loadTemperaturePicture(int celsius)
 {
     if (celsius < 50)
-        return QStringLiteral("img_temprature.png");
-    return celsius <= 65 ? QStringLiteral("img_temAverage.png") : QStringLiteral("img_HighTemp96.png");
+        return TilePicture::Good;
+    return celsius <= 65 ? TilePicture::Average : TilePicture::Bad;
 }
 
-QString pollTemperatureImage(int celsius)
+TilePicture pollTemperaturePicture(int celsius)
 {
-    return celsius >= 50 ? QStringLiteral("img_temprature.png") : QString();
+    return celsius >= 50 ? TilePicture::Good : TilePicture::Same;
 }

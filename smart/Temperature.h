@@ -2,6 +2,7 @@
 #pragma once
 
 #include "smart/SmartRecords.h"
+#include "smart/TilePicture.h"
 
 #include <QString>
 
@@ -26,8 +27,8 @@ QString pollTemperatureText(int celsius, const QString &unit);
 /// Text of the tile while a disk loads: "0°" and the letter of the unit, none for a unit that is neither.
 QString waitingTemperatureText(const QString &unit);
 
-/// File name of the tile's picture after a load.
-QString loadTemperatureImage(int celsius);
+/// What the tile's picture tells after a load.
+TilePicture loadTemperaturePicture(int celsius);
 
-/// File name of the tile's picture after a poll; empty means that the picture stays.
-QString pollTemperatureImage(int celsius);
+/// The same after a poll.
+TilePicture pollTemperaturePicture(int celsius);

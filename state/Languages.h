@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "state/DiskStatusMetrics.h"
 #include "state/GlobalApp.h"
 
 #include <QString>
@@ -21,6 +20,19 @@ enum class LanguageType {
     Dutch,
     Brazil,
     Hindi
+};
+
+/// Widths in design pixels of the eight lower labels of Disk Status.
+struct DiskStatusMetrics {
+    int lifeName;
+    int lifeValue;
+    int powerOnName;
+    int powerOnValue;
+    int startStopName;
+    int startStopValue;
+    int verdictName;
+    int verdictValue;
+    int performanceTitleHeight;
 };
 
 /// The languages of the program as a table, in the order of LanguageType: all that goes by language.

@@ -72,7 +72,7 @@ void tst_BlockMap::cells()
     QFETCH(Sectors, bad);
     BadSectorList list;
     fill(&list, bad);
-    const QVector<Cell> cells = blockmap::cells(blockmap::metrics(1.0F), total, position, list);
+    const QVector<Cell> cells = blockmap::cells(blockmap::metrics(100), total, position, list);
     QString shown;
     for (int first = 0; first < cells.size();) {
         int end = first;
@@ -87,7 +87,7 @@ void tst_BlockMap::cells()
 /// A run of neighbours colours the same cells as its single sectors would, also with gaps between runs.
 void tst_BlockMap::runsEqualSingleSectors()
 {
-    const blockmap::Metrics sizes = blockmap::metrics(1.0F);
+    const blockmap::Metrics sizes = blockmap::metrics(100);
     for (qint64 first = 0; first < 60; ++first) {
         BadSectorList runs;
         BadSectorList singles;
@@ -102,20 +102,20 @@ void tst_BlockMap::runsEqualSingleSectors()
 
 void tst_BlockMap::sizes_data()
 {
-    QTest::addColumn<float>("scale");
-    QTest::addColumn<QVector<int>>("sizes"); // cell, width, height, columns of the tool tip
-    QTest::newRow("1") << 1.0F << QVector<int>{20, 500, 320, 25};
-    QTest::newRow("1.25") << 1.25F << QVector<int>{25, 625, 400, 31};
-    QTest::newRow("1.5") << 1.5F << QVector<int>{30, 750, 480, 37};
-    QTest::newRow("next to no dots") << 0.01F << QVector<int>{1, 5, 3, 1};
+    QTest::addColumn<int>("scale");
+    QTest::addColumn<QVector<int>>("sizes"); // cell, width, height, tool tip's columns
+    QTest::newRow("1") << 100 << QVector<int>{20, 500, 320, 25};
+    QTest::newRow("1.25") << 125 << QVector<int>{25, 625, 400, 31};
+    QTest::newRow("1.5") << 150 << QVector<int>{30, 750, 480, 37};
+    QTest::newRow("next to no dots") << 1 << QVector<int>{1, 5, 3, 1};
 }
 
 void tst_BlockMap::sizes()
 {
-    QFETCH(float, scale);
+    QFETCH(int, scale);
     const blockmap::Metrics found = blockmap::metrics(scale);
     QTEST((QVector<int>{found.cell, found.width, found.height, found.toolTipColumns}), "sizes");
-    if (scale >= 1.0F) {
+    if (scale >= 100) {
         QCOMPARE(found.columns(), 25);
         QCOMPARE(blockmap::cellCount(found, 1000000), qint64{400});
     }
@@ -124,22 +124,22 @@ void tst_BlockMap::sizes()
 
 void tst_BlockMap::toolTip_data()
 {
-    QTest::addColumn<float>("scale");
+    QTest::addColumn<int>("scale");
     QTest::addColumn<QPoint>("place");
-    QTest::addColumn<QString>("text"); // first and last sector, or the whole text
-    QTest::newRow("first") << 1.0F << QPoint(19, 19) << "0 251";
-    QTest::newRow("second row") << 1.0F << QPoint(20, 39) << "6526 6777";
-    QTest::newRow("last ends with the disk") << 1.0F << QPoint(499, 319) << "100149 100001";
-    QTest::newRow("below the last row") << 1.0F << QPoint(0, 320) << "100400 to 100001";
-    QTest::newRow("beside that") << 1.0F << QPoint(20, 320) << "";
-    QTest::newRow("left of the map") << 1.0F << QPoint(-21, 0) << "";
-    // The tool tip counts 31 columns, though 25 are painted.
-    QTest::newRow("second row at 1.25") << 1.25F << QPoint(0, 25) << "7781 8032";
+    QTest::addColumn<QString>("text"); // start, end; or the text itself
+    QTest::newRow("first") << 100 << QPoint(19, 19) << "0 251";
+    QTest::newRow("second row") << 100 << QPoint(20, 39) << "6526 6777";
+    QTest::newRow("last ends with the disk") << 100 << QPoint(499, 319) << "100149 100001";
+    QTest::newRow("below the last row") << 100 << QPoint(0, 320) << "100400 to 100001";
+    QTest::newRow("beside that") << 100 << QPoint(20, 320) << "";
+    QTest::newRow("left of the map") << 100 << QPoint(-21, 0) << "";
+    // 31 columns where 25 are painted.
+    QTest::newRow("second row at 1.25") << 125 << QPoint(0, 25) << "7781 8032";
 }
 
 void tst_BlockMap::toolTip()
 {
-    QFETCH(float, scale);
+    QFETCH(int, scale);
     QFETCH(QPoint, place);
     QFETCH(QString, text);
     const QStringList range = text.split(QLatin1Char(' '));

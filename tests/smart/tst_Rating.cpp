@@ -16,6 +16,8 @@ using samples::NvmeList;
 
 constexpr int NotRated = -1000;
 
+Q_DECLARE_METATYPE(TilePicture)
+
 class tst_Rating : public QObject
 {
     Q_OBJECT
@@ -43,10 +45,8 @@ private slots:
     void lifeLabels_data();
     void lifeLabels();
     void lifeKinds();
-    void healthImages_data();
-    void healthImages();
-    void performanceImages_data();
-    void performanceImages();
+    void pictures_data();
+    void pictures();
     void overall();
     void keys();
 };
@@ -363,57 +363,37 @@ void tst_Rating::lifeKinds()
     QVERIFY(lifeKind(false, false, true) == LifeKind::Known);
 }
 
-void tst_Rating::healthImages_data()
+void tst_Rating::pictures_data()
 {
     QTest::addColumn<int>("percent");
-    QTest::addColumn<QString>("plain"); // for the factor 1.0, and from 1.5 on
-    QTest::addColumn<QString>("middle");
-    const QString good = "img_Health.png";
-    const QString average = "img_HealthAverage.png";
-    const QString bad = "img_HealthHigh.png";
-    QTest::newRow("100") << 100 << good << good;
-    QTest::newRow("76") << 76 << good << good;
-    QTest::newRow("75") << 75 << average << average;
-    QTest::newRow("66") << 66 << average << average;
-    QTest::newRow("65") << 65 << "" << average;
-    QTest::newRow("64") << 64 << bad << bad;
-    QTest::newRow("-20") << -20 << bad << bad;
+    QTest::addColumn<QVector<TilePicture>>("health"); // at 100, 125, 150 and 200 percent
+    QTest::addColumn<QVector<TilePicture>>("performance");
+    using Row = QVector<TilePicture>;
+    constexpr auto Good = TilePicture::Good;
+    constexpr auto Average = TilePicture::Average;
+    constexpr auto Bad = TilePicture::Bad;
+    constexpr auto Same = TilePicture::Same;
+    QTest::newRow("81") << 81 << Row(4, Good) << Row(4, Good);
+    QTest::newRow("80") << 80 << Row(4, Good) << Row{Good, Same, Same, Same};
+    QTest::newRow("76") << 76 << Row(4, Good) << Row{Average, Same, Same, Same};
+    QTest::newRow("75") << 75 << Row(4, Average) << Row{Average, Same, Same, Same};
+    QTest::newRow("66") << 66 << Row(4, Average) << Row{Average, Same, Same, Same};
+    QTest::newRow("65") << 65 << Row{Same, Average, Same, Same} << Row{Average, Same, Same, Same};
+    QTest::newRow("64") << 64 << Row(4, Bad) << Row(4, Bad);
+    QTest::newRow("-20") << -20 << Row(4, Bad) << Row(4, Bad);
 }
 
-void tst_Rating::healthImages()
+void tst_Rating::pictures()
 {
     QFETCH(int, percent);
-    QTEST(healthImage(percent, 1.0F), "plain");
-    QTEST(healthImage(percent, 1.25F), "middle");
-    QTEST(healthImage(percent, 1.5F), "plain");
-    QTEST(healthImage(percent, 2.0F), "plain");
-    QCOMPARE(healthImage(percent, 1.3F), QString());
-    QCOMPARE(healthImage(std::nullopt, 1.0F), QString("img_HealthUnknown.png"));
-}
-
-void tst_Rating::performanceImages_data()
-{
-    QTest::addColumn<int>("percent");
-    QTest::addColumn<QString>("plain");
-    QTest::addColumn<QString>("larger"); // for the factor 1.25, and from 1.5 on
-    const QString good = "img_Performance.png";
-    const QString bad = "img_PerformanceHigh.png";
-    QTest::newRow("81") << 81 << good << good;
-    QTest::newRow("80") << 80 << good << "";
-    QTest::newRow("79") << 79 << "img_PerformanceAve.png"
-                        << "";
-    QTest::newRow("65") << 65 << "img_PerformanceAve.png"
-                        << "";
-    QTest::newRow("64") << 64 << bad << bad;
-}
-
-void tst_Rating::performanceImages()
-{
-    QFETCH(int, percent);
-    QTEST(performanceImage(percent, 1.0F), "plain");
-    QTEST(performanceImage(percent, 1.25F), "larger");
-    QTEST(performanceImage(percent, 1.5F), "larger");
-    QCOMPARE(performanceImage(percent, 1.1F), QString());
+    QFETCH(QVector<TilePicture>, health);
+    QFETCH(QVector<TilePicture>, performance);
+    const int scales[] = {100, 125, 150, 200};
+    for (int i = 0; i < 4; ++i) {
+        QVERIFY(healthPicture(percent, scales[i]) == health[i]);
+        QVERIFY(performancePicture(percent, scales[i]) == performance[i]);
+    }
+    QVERIFY(healthPicture(std::nullopt, 100) == TilePicture::Unknown);
 }
 
 void tst_Rating::overall()

@@ -30,8 +30,7 @@ private slots:
     void display();
     void texts_data();
     void texts();
-    void images_data();
-    void images();
+    void pictures();
 };
 
 void tst_Temperature::realReports_data()
@@ -181,24 +180,22 @@ void tst_Temperature::texts()
     QTEST(waitingTemperatureText(unit), "waiting");
 }
 
-void tst_Temperature::images_data()
+void tst_Temperature::pictures()
 {
-    QTest::addColumn<int>("celsius");
-    QTest::addColumn<QString>("load");
-    QTest::addColumn<QString>("poll");
-    const QString low = "img_temprature.png";
-    QTest::newRow("0") << 0 << low << "";
-    QTest::newRow("49") << 49 << low << "";
-    QTest::newRow("50") << 50 << "img_temAverage.png" << low;
-    QTest::newRow("65") << 65 << "img_temAverage.png" << low;
-    QTest::newRow("66") << 66 << "img_HighTemp96.png" << low;
-}
-
-void tst_Temperature::images()
-{
-    QFETCH(int, celsius);
-    QTEST(loadTemperatureImage(celsius), "load");
-    QTEST(pollTemperatureImage(celsius), "poll");
+    using P = TilePicture;
+    const struct {
+        int celsius;
+        P load;
+        P poll;
+    } rows[] = {{0, P::Good, P::Same},
+                {49, P::Good, P::Same},
+                {50, P::Average, P::Good},
+                {65, P::Average, P::Good},
+                {66, P::Bad, P::Good}};
+    for (const auto &row : rows) {
+        QVERIFY2(loadTemperaturePicture(row.celsius) == row.load, qPrintable(QString::number(row.celsius)));
+        QVERIFY2(pollTemperaturePicture(row.celsius) == row.poll, qPrintable(QString::number(row.celsius)));
+    }
 }
 
 QTEST_GUILESS_MAIN(tst_Temperature)

@@ -2,7 +2,6 @@
 #include "state/Globals.h"
 #include "state/Languages.h"
 #include "state/LogFolder.h"
-#include "state/Navigation.h"
 #include "state/SettingsStore.h"
 #include "tests/support/FakePlatform.h"
 
@@ -23,7 +22,6 @@ private slots:
     void folders();
     void missingFilesLeaveEnglish();
     void changeIsKept();
-    void navigationSheets();
     void logFolder();
 };
 
@@ -112,23 +110,6 @@ void tst_Languages::changeIsKept()
     QCOMPARE(Platform::current().OpenSettings(g_App.m_strSiblingKey2)->value(key::LanguageType).toString(),
              QStringLiteral("10"));
     g_App.m_strSiblingKey2.clear();
-}
-
-void tst_Languages::navigationSheets()
-{
-    using namespace navigation;
-    QCOMPARE(styleSheet(DiskStatusScreen, Look::Normal, 1.0F),
-             QStringLiteral(
-                 "QPushButton{border-image: url(:/images/img_DiskStatusNor.png)}QPushButton{Text-align:left}"
-                 "QPushButton {color : rgb(0,0,0);}"));
-    QCOMPARE(styleSheet(CloneDiskScreen, Look::Selected, 1.5F),
-             QStringLiteral("QPushButton{border-image: url(:/images/Resources/144-DPI/img_CLoneDiskSel.png)}"
-                            "QPushButton{Text-align:left}QPushButton {color : rgb(42,129,229);}"));
-    QVERIFY(styleSheet(ScanDiskScreen, Look::Hover, 1.25F)
-                .contains(QLatin1String(
-                    "120-DPI/img_ScanDiskHov.png)}QPushButton{Text-align:left}QPushButton {color : "
-                    "rgb(42,129,229);}")));
-    QVERIFY(!styleSheet(ScanDiskScreen, Look::Hover, 1.3F).contains(QLatin1String("border-image")));
 }
 
 void tst_Languages::logFolder()

@@ -209,7 +209,9 @@ void tst_MainWindow::hoverFollowsTheDownState()
     QVERIFY(status->styleSheet().contains(QLatin1String("img_DiskStatusSel")));
     QVERIFY(scan->styleSheet().contains(QLatin1String("img_ScanDiskHov")));
     emit scan->OnUpdatePixmap();
-    QVERIFY(scan->styleSheet().contains(QLatin1String("img_ScanDiskNo.png")));
+    QCOMPARE(scan->styleSheet(), QStringLiteral("QPushButton{border-image: url(:/images/img_ScanDiskNo.png)}"
+                                                "QPushButton{Text-align:left}"
+                                                "QPushButton {color : rgb(0,0,0);}"));
 }
 
 void tst_MainWindow::openResultsAskFirst()

@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "state/GlobalApp.h"
 #include "state/Scale.h"
+#include "ui/widgets/Images.h"
 #include "ui/widgets/Style.h"
 
 #include <QtTest>
+
+Q_DECLARE_METATYPE(images::Family)
 
 /// How the display's dots per inch become sizes and image sets.
 class tst_Scale : public QObject
@@ -22,58 +26,62 @@ private slots:
 void tst_Scale::factor_data()
 {
     QTest::addColumn<int>("dpi");
-    QTest::addColumn<float>("expected");
-    QTest::newRow("96") << 96 << 1.0F;
-    QTest::newRow("just above 96 goes up to 1.25") << 97 << 1.25F;
-    QTest::newRow("110 percent") << 110 << 1.25F;
-    QTest::newRow("120") << 120 << 1.25F;
-    QTest::newRow("just above 120 goes up to 1.5") << 121 << 1.5F;
-    QTest::newRow("144") << 144 << 1.5F;
-    QTest::newRow("168 stays 1.75") << 168 << 1.75F;
-    QTest::newRow("192") << 192 << 2.0F;
-    QTest::newRow("72 stays below one") << 72 << 0.75F;
+    QTest::addColumn<int>("expected");
+    QTest::newRow("96") << 96 << 100;
+    QTest::newRow("just above 96 goes up to 125") << 97 << 125;
+    QTest::newRow("119") << 119 << 125;
+    QTest::newRow("120") << 120 << 125;
+    QTest::newRow("just above 120 goes up to 150") << 121 << 150;
+    QTest::newRow("144") << 144 << 150;
+    QTest::newRow("168 stays 175") << 168 << 175;
+    QTest::newRow("192") << 192 << 200;
+    QTest::newRow("72 stays below 100") << 72 << 75;
 }
 
 void tst_Scale::factor()
 {
     QFETCH(int, dpi);
-    QFETCH(float, expected);
-    QCOMPARE(scale::factorForDpi(dpi), expected);
+    QFETCH(int, expected);
+    QCOMPARE(scale::percentForDpi(dpi), expected);
 }
 
 void tst_Scale::imagePath_data()
 {
     QTest::addColumn<float>("factor");
-    QTest::addColumn<int>("family");
+    QTest::addColumn<images::Family>("family");
     QTest::addColumn<QString>("expected");
-    const int plain = static_cast<int>(scale::Family::Plain);
-    const int folder = static_cast<int>(scale::Family::Folder);
-    const int others = static_cast<int>(scale::Family::Others);
-    QTest::newRow("plain at 1") << 1.0F << plain << ":/images/a.png";
-    QTest::newRow("folder at 1") << 1.0F << folder << ":/images/Resources/96-DPI/a.png";
-    QTest::newRow("second family at 1") << 1.0F << others << ":/images/Resources/Others/96-DPI/a.png";
-    QTest::newRow("plain at 1.25") << 1.25F << plain << ":/images/Resources/120-DPI/a.png";
-    QTest::newRow("a hair off 1.25") << 1.2500001F << plain << ":/images/Resources/120-DPI/a.png";
-    QTest::newRow("1.5") << 1.5F << plain << ":/images/Resources/144-DPI/a.png";
-    QTest::newRow("1.75") << 1.75F << plain << ":/images/Resources/144-DPI/a.png";
-    QTest::newRow("second family at 2") << 2.0F << others << ":/images/Resources/Others/144-DPI/a.png";
-    QTest::newRow("between the sets") << 1.3F << plain << QString();
-    QTest::newRow("below one") << 0.75F << folder << QString();
+    constexpr auto Plain = images::Family::Plain;
+    constexpr auto Folder = images::Family::Folder;
+    constexpr auto MoreTools = images::Family::MoreTools;
+    QTest::newRow("plain at 1") << 1.0F << Plain << ":/images/a.png";
+    QTest::newRow("folder at 1") << 1.0F << Folder << ":/images/Resources/96-DPI/a.png";
+    QTest::newRow("second family at 1") << 1.0F << MoreTools << ":/images/Resources/Others/96-DPI/a.png";
+    QTest::newRow("plain at 1.25") << 1.25F << Plain << ":/images/Resources/120-DPI/a.png";
+    QTest::newRow("a hair off 1.25") << 1.2500001F << Plain << ":/images/Resources/120-DPI/a.png";
+    QTest::newRow("1.5") << 1.5F << Plain << ":/images/Resources/144-DPI/a.png";
+    QTest::newRow("1.75") << 1.75F << Plain << ":/images/Resources/144-DPI/a.png";
+    QTest::newRow("second family at 2") << 2.0F << MoreTools << ":/images/Resources/Others/144-DPI/a.png";
+    QTest::newRow("between the sets") << 1.3F << Plain << QString();
+    QTest::newRow("below one") << 0.75F << Folder << QString();
 }
 
 void tst_Scale::imagePath()
 {
     QFETCH(float, factor);
-    QFETCH(int, family);
+    QFETCH(images::Family, family);
     QFETCH(QString, expected);
-    QCOMPARE(scale::imagePath(QStringLiteral("a.png"), factor, static_cast<scale::Family>(family)), expected);
+    g_App.m_fScale = factor;
+    QCOMPARE(images::path(QStringLiteral("a.png"), family), expected);
+    // What has to have a picture takes that of 96 DPI.
+    if (expected.isEmpty())
+        QCOMPARE(images::nearestPath(QStringLiteral("a.png")), QStringLiteral(":/images/a.png"));
 }
 
 void tst_Scale::sizesAreTruncated()
 {
-    QCOMPARE(scale::scaled(55, 1.25F), 68);
-    QCOMPARE(scale::scaled(905, 1.25F), 1131);
-    QCOMPARE(scale::scaled(-15, 1.5F), -22);
+    QCOMPARE(scale::scaled(55, 125), 68);
+    QCOMPARE(scale::scaled(905, 125), 1131);
+    QCOMPARE(scale::scaled(-15, 150), -22);
 }
 
 void tst_Scale::windowsStayOnTheirScreen_data()

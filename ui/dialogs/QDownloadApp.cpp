@@ -2,8 +2,7 @@
 #include "ui/dialogs/QDownloadApp.h"
 
 #include "platform/Platform.h"
-#include "state/GlobalApp.h"
-#include "state/Scale.h"
+#include "ui/widgets/Images.h"
 #include "ui/widgets/Style.h"
 #include "update/UpdateCheck.h"
 #include "update/UpdateFetch.h"
@@ -50,7 +49,7 @@ void tellFailure(QWidget *parent, const QString &title, const QString &text)
     QAbstractButton *ok = box.button(QMessageBox::Ok);
     style::styleButton(qobject_cast<QPushButton *>(ok), style::ButtonRole::Main);
     ok->setMinimumSize(style::px(96), style::px(32));
-    const QPixmap picture(scale::imagePath(QStringLiteral("img_Information.png"), g_App.m_fScale));
+    const QPixmap picture(images::path(QStringLiteral("img_Information.png")));
     if (!picture.isNull())
         box.setIconPixmap(picture);
     box.exec();

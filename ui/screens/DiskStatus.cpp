@@ -3,10 +3,11 @@
 
 #include "smart/Rating.h"
 #include "smart/SmartGlobals.h"
-#include "state/DiskStatusMetrics.h"
+#include "smart/TilePicture.h"
 #include "state/GlobalApp.h"
 #include "state/Globals.h"
 #include "state/Languages.h"
+#include "state/Scale.h"
 #include "ui/widgets/FittingLabel.h"
 #include "ui/widgets/Images.h"
 #include "ui/widgets/Style.h"
@@ -176,11 +177,8 @@ void DiskStatus::layOutPage()
         tileRow->addWidget(tile);
 
     auto *upperSpacer = new QLabel(this);
-    const scale::ImageSet set = scale::imageSet(g_App.m_fScale);
-    if (set == scale::ImageSet::Dpi96)
-        upperSpacer->setFixedHeight(35);
-    else if (set != scale::ImageSet::None)
-        upperSpacer->setFixedHeight(style::px(6));
+    if (const int set = scale::imageSet(scale::percent()))
+        upperSpacer->setFixedHeight(set == 96 ? 35 : style::px(6));
     auto *lowerSpacer = new QLabel(this);
     lowerSpacer->setFixedHeight(style::px(88));
 
@@ -261,13 +259,20 @@ void DiskStatus::showModelAndSerial(const QString &model, const QString &serial)
     SerialValLbl->setText(serial);
 }
 
-void DiskStatus::showPicture(Picture picture, const QString &file)
+void DiskStatus::showPicture(Picture tile, TilePicture picture)
 {
-    if (!file.isEmpty())
-        images::setLabelImage(picture == Picture::Temperature   ? tempratureLbl
-                              : picture == Picture::Performance ? PerformanceLbl
-                                                                : HelthLable,
-                              file);
+    const struct {
+        QLabel *label;
+        std::array<const char *, 4> files; ///< good, average, bad, unknown
+    } tiles[] = {
+        {tempratureLbl, {"img_temprature.png", "img_temAverage.png", "img_HighTemp96.png"}},
+        {PerformanceLbl, {"img_Performance.png", "img_PerformanceAve.png", "img_PerformanceHigh.png"}},
+        {HelthLable,
+         {"img_Health.png", "img_HealthAverage.png", "img_HealthHigh.png", "img_HealthUnknown.png"}},
+    };
+    const auto &shown = tiles[static_cast<int>(tile)];
+    if (picture != TilePicture::Same)
+        images::setLabelImage(shown.label, QLatin1String(shown.files[static_cast<std::size_t>(picture)]));
 }
 
 void DiskStatus::showLife(const LifeTexts &texts)
@@ -288,9 +293,8 @@ void DiskStatus::showVerdict(DriveVerdict verdict)
 
 void DiskStatus::showFirstPictures()
 {
-    images::setLabelImage(tempratureLbl, QStringLiteral("img_temprature.png"));
-    images::setLabelImage(PerformanceLbl, QStringLiteral("img_Performance.png"));
-    images::setLabelImage(HelthLable, QStringLiteral("img_Health.png"));
+    for (const Picture tile : {Picture::Temperature, Picture::Performance, Picture::Health})
+        showPicture(tile, TilePicture::Good);
 }
 
 void DiskStatus::clearDisk()

@@ -8,6 +8,7 @@
 
 class QGridLayout;
 enum class DriveVerdict;
+enum class TilePicture;
 struct LifeTexts;
 
 /// The first screen: three tiles with temperature, performance and health of the selected disk and a block of
@@ -30,8 +31,8 @@ public:
     void showModelAndSerial(const QString &model, const QString &serial);
 
     enum class Picture { Temperature, Performance, Health };
-    /// Shows the picture of a tile; without a file the one before stays.
-    void showPicture(Picture picture, const QString &file);
+    /// Shows the picture of a tile.
+    void showPicture(Picture tile, TilePicture picture);
 
     /// Shows the three life fields.
     void showLife(const LifeTexts &texts);

@@ -2,12 +2,12 @@
 #include "ui/screens/Settings.h"
 
 #include "state/Languages.h"
-#include "state/Scale.h"
 #include "state/SettingsRules.h"
 #include "state/SettingsStore.h"
 #include "ui/dialogs/ManualCheck.h"
 #include "ui/dialogs/QCheckUpdate.h"
 #include "ui/dialogs/UpdateMessage.h"
+#include "ui/widgets/Images.h"
 #include "ui/widgets/Style.h"
 #include "update/HelpLinks.h"
 
@@ -22,13 +22,6 @@
 namespace
 {
 
-/// Path of a picture for a style sheet; the nearest set where the scale has none of its own.
-QString picture(const QString &file)
-{
-    const QString path = scale::imagePath(file, g_App.m_fScale);
-    return path.isEmpty() ? QStringLiteral(":/images/") + file : path;
-}
-
 /// A flat picture button of the title strip.
 void styleTitleButton(QPushButton *button, const QString &file)
 {
@@ -37,7 +30,7 @@ void styleTitleButton(QPushButton *button, const QString &file)
                                          "QPushButton:hover, QPushButton:focus{background: #e4f0fd;}"
                                          "QPushButton::menu-indicator{image: none; width: 0px;}")
                               .arg(style::px(4))
-                              .arg(picture(file)));
+                              .arg(images::nearestPath(file)));
     button->setCursor(Qt::PointingHandCursor);
 }
 
@@ -110,7 +103,7 @@ void Settings::styleFields()
                                                   "QMenu::indicator:checked{image: url(%3);}")
                                        .arg(style::px(8))
                                        .arg(style::px(14))
-                                       .arg(picture(QStringLiteral("img_CheckOn.png"))));
+                                       .arg(images::nearestPath(QStringLiteral("img_CheckOn.png"))));
     m_pUpdateButton->setHidden(g_App.m_bHideUpdateButton);
     m_pLanguageButton->setVisible(g_App.m_bShowLanguageMenu);
 }

@@ -8,6 +8,7 @@
 #include "smart/Temperature.h"
 #include "state/GlobalApp.h"
 #include "state/Globals.h"
+#include "state/Scale.h"
 #include "ui/screens/PageLook.h"
 #include "ui/widgets/SmartChartView.h"
 #include "ui/widgets/Style.h"
@@ -119,7 +120,7 @@ void SmartStatus::makeHeading()
 
 void SmartStatus::layOutPage()
 {
-    SmartResultLabel->setFixedHeight(static_cast<int>(23.5F * g_App.m_fScale));
+    SmartResultLabel->setFixedHeight(style::px(47) / 2);
     AttributeColumn->setSpacing(5);
     AttributeColumn->insertWidget(0, newSpacer(DitaledFrame));
     AttributeColumn->insertWidget(1, m_pAttributeTree);
@@ -149,7 +150,7 @@ void SmartStatus::FormatSmartTable()
             header->setText(index, text);
             header->setToolTip(index, style::wholeTip(text.trimmed()));
         }
-        const int width = attributecolumns::width(column, nvme, g_App.m_fScale);
+        const int width = attributecolumns::width(column, nvme, scale::percent());
         if (width > 0)
             m_pAttributeTree->setColumnWidth(index, width);
         m_pAttributeTree->setColumnHidden(index, column.hidden);
@@ -166,7 +167,7 @@ void SmartStatus::FormatSmartTable()
     view->setTextElideMode(nvme ? Qt::ElideNone : Qt::ElideRight);
     QString sheet = QStringLiteral("QHeaderView::section{color : #000000}");
     const int pixels =
-        attributecolumns::headerFontPixels(g_App.m_fScale, g_App.m_bItalian || g_App.m_bKorean);
+        attributecolumns::headerFontPixels(scale::percent(), g_App.m_bItalian || g_App.m_bKorean);
     if (pixels > 0)
         sheet += QStringLiteral("QHeaderView{font-size : %1px}").arg(pixels);
     // The padding is the margin that the cells below leave.

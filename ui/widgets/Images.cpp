@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/widgets/Images.h"
 
-#include "state/GlobalApp.h"
+#include "state/Scale.h"
 
 #include <QLabel>
 #include <QMovie>
@@ -13,18 +13,40 @@ namespace images
 
 namespace
 {
+
 constexpr char PathProperty[] = "imagePath";
+
+QString pathInSet(int set, const QString &file, Family family)
+{
+    if (set == 96 && family == Family::Plain)
+        return QStringLiteral(":/images/") + file;
+    const QString folder = family == Family::MoreTools ? QStringLiteral("Others/") : QString();
+    return QStringLiteral(":/images/Resources/%1%2-DPI/%3").arg(folder, QString::number(set), file);
 }
 
-void setLabelImage(QLabel *label, const QString &file, scale::Family family)
+} // namespace
+
+QString path(const QString &file, Family family)
 {
-    const QString path = scale::imagePath(file, g_App.m_fScale, family);
-    if (path.isEmpty())
+    const int set = scale::imageSet(scale::percent());
+    return set == 0 ? QString() : pathInSet(set, file, family);
+}
+
+QString nearestPath(const QString &file, Family family)
+{
+    const int set = scale::imageSet(scale::percent());
+    return pathInSet(set == 0 ? 96 : set, file, family);
+}
+
+void setLabelImage(QLabel *label, const QString &file, Family family)
+{
+    const QString found = path(file, family);
+    if (found.isEmpty())
         return;
-    label->setPixmap(QPixmap(path));
-    if (g_App.m_fScale > 1.5F)
+    label->setPixmap(QPixmap(found));
+    if (scale::percent() > 150)
         label->setScaledContents(true);
-    label->setProperty(PathProperty, path);
+    label->setProperty(PathProperty, found);
 }
 
 QString labelImage(const QLabel *label)
@@ -34,10 +56,7 @@ QString labelImage(const QLabel *label)
 
 QMovie *newMovie(const QString &file, QObject *parent)
 {
-    QString path = scale::imagePath(file, g_App.m_fScale, scale::Family::Folder);
-    if (path.isEmpty())
-        path = QStringLiteral(":/images/Resources/96-DPI/") + file;
-    return new QMovie(path, QByteArray(), parent);
+    return new QMovie(nearestPath(file, Family::Folder), QByteArray(), parent);
 }
 
 } // namespace images

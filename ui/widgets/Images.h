@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "state/Scale.h"
-
 #include <QString>
 
 class QLabel;
@@ -13,15 +11,26 @@ class QObject;
 namespace images
 {
 
-/// Shows an image of the display's set on a label and keeps its resource path as the label's property
-/// "imagePath". Where the scale has no set, the label keeps what it had. Above a scale of 1.5 the picture is
-/// stretched.
-void setLabelImage(QLabel *label, const QString &file, scale::Family family = scale::Family::Plain);
+/// Where the picture of a set lies.
+enum class Family {
+    Plain,    ///< 96 DPI pictures straight below `:/images/`
+    Folder,   ///< 96 DPI pictures in a folder of their own, as the early ones are
+    MoreTools ///< the second family
+};
+
+/// Resource path of a picture in the display's set; empty where the display's scale has no set.
+QString path(const QString &file, Family family = Family::Plain);
+/// The same, with the set of 96 DPI where the scale has none.
+QString nearestPath(const QString &file, Family family = Family::Plain);
+
+/// Shows a picture on a label and keeps its path as the label's property "imagePath". Where the scale has no
+/// set, the label keeps what it had. Above a scale of 150 percent the picture is stretched.
+void setLabelImage(QLabel *label, const QString &file, Family family = Family::Plain);
 
 /// The resource path that a label shows; empty if none was set.
 QString labelImage(const QLabel *label);
 
-/// A new animation of the display's set, the child of `parent`; the nearest set where the scale has none.
+/// A new animation, the child of `parent`.
 QMovie *newMovie(const QString &file, QObject *parent);
 
 } // namespace images

@@ -3,8 +3,8 @@
 
 #include "scan/BlockMap.h"
 #include "scan/ScanGlobals.h"
-#include "state/GlobalApp.h"
 #include "state/Globals.h"
+#include "state/Scale.h"
 #include "ui/widgets/Style.h"
 
 #include <QMouseEvent>
@@ -86,7 +86,7 @@ QSize QGridView::sizeHint() const
 void QGridView::mouseMoveEvent(QMouseEvent *event)
 {
     const QString text =
-        blockmap::toolTip(blockmap::metrics(g_App.m_fScale), mapFromGlobal(event->globalPos()), m_i64Start,
+        blockmap::toolTip(blockmap::metrics(scale::percent()), mapFromGlobal(event->globalPos()), m_i64Start,
                           m_i64End, g_nBlockStep);
     if (text.isEmpty())
         QToolTip::hideText();
@@ -116,7 +116,7 @@ void QGridView::timerEvent(QTimerEvent *event)
 
 void QGridView::drawCells(QPainter *painter) const
 {
-    const blockmap::Metrics sizes = blockmap::metrics(g_App.m_fScale);
+    const blockmap::Metrics sizes = blockmap::metrics(scale::percent());
     const QVector<blockmap::Cell> cells =
         blockmap::cells(sizes, g_nMapTotalSectors, m_i64Position, g_BadSectors);
     const int columns = sizes.columns();
@@ -134,7 +134,7 @@ void QGridView::drawCells(QPainter *painter) const
 
 void QGridView::drawGrid(QPainter *painter) const
 {
-    const blockmap::Metrics sizes = blockmap::metrics(g_App.m_fScale);
+    const blockmap::Metrics sizes = blockmap::metrics(scale::percent());
     painter->setPen(QPen(QColor::fromRgba(blockmap::GridColour), 1));
     for (int x = 0; x <= sizes.width; x += sizes.cell)
         painter->drawLine(x, 0, x, sizes.height);

@@ -2,7 +2,7 @@
 #include "ui/widgets/QRoundProgressBar.h"
 
 #include "clone/GaugeGeometry.h"
-#include "state/GlobalApp.h"
+#include "state/Scale.h"
 #include "ui/widgets/Style.h"
 
 #include <QConicalGradient>
@@ -32,8 +32,8 @@ QPen penOf(const QBrush &brush, double width, Qt::PenCapStyle cap)
 /// A side of so many pixels, in design pixels.
 int designSide(int pixels)
 {
-    return g_App.m_fScale > 0.0F ? qRound(static_cast<double>(pixels) / static_cast<double>(g_App.m_fScale))
-                                 : pixels;
+    const int percent = scale::percent();
+    return percent > 0 ? qRound(pixels * 100.0 / percent) : pixels;
 }
 
 } // namespace

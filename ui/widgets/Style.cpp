@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/widgets/Style.h"
 
-#include "state/GlobalApp.h"
 #include "state/Scale.h"
+#include "ui/widgets/Images.h"
 
 #include <QGridLayout>
 #include <QGuiApplication>
@@ -52,13 +52,6 @@ void scaleLayout(QLayout *layout)
     }
 }
 
-/// Path of a decoration for a style sheet; the nearest set where the scale has none of its own.
-QString decoration(const QString &file)
-{
-    const QString path = scale::imagePath(file, g_App.m_fScale);
-    return path.isEmpty() ? QStringLiteral(":/images/") + file : path;
-}
-
 } // namespace
 
 QFont font(int points, bool italic)
@@ -73,7 +66,7 @@ QFont semiBold(int points, bool italic)
 
 int px(int size)
 {
-    return scale::scaled(size, g_App.m_fScale);
+    return scale::scaled(size, scale::percent());
 }
 
 void setWhiteBackground(QWidget *widget)
@@ -196,13 +189,13 @@ QString fieldSheet()
         .arg(px(4))
         .arg(px(10))
         .arg(px(28))
-        .arg(decoration(QStringLiteral("img_ComboArrow.png")))
-        .arg(decoration(QStringLiteral("img_SpinUp.png")))
-        .arg(decoration(QStringLiteral("img_SpinDown.png")))
-        .arg(decoration(QStringLiteral("img_CheckOn.png")))
-        .arg(decoration(QStringLiteral("img_CheckOff.png")))
-        .arg(decoration(QStringLiteral("img_RadioOn.png")))
-        .arg(decoration(QStringLiteral("img_RadioOff.png")))
+        .arg(images::nearestPath(QStringLiteral("img_ComboArrow.png")))
+        .arg(images::nearestPath(QStringLiteral("img_SpinUp.png")))
+        .arg(images::nearestPath(QStringLiteral("img_SpinDown.png")))
+        .arg(images::nearestPath(QStringLiteral("img_CheckOn.png")))
+        .arg(images::nearestPath(QStringLiteral("img_CheckOff.png")))
+        .arg(images::nearestPath(QStringLiteral("img_RadioOn.png")))
+        .arg(images::nearestPath(QStringLiteral("img_RadioOff.png")))
         .arg(px(10));
 }
 

@@ -6,7 +6,6 @@
 #include "state/GlobalApp.h"
 #include "state/Globals.h"
 #include "state/Languages.h"
-#include "state/Scale.h"
 #include "state/SettingsStore.h"
 #include "state/StartArgument.h"
 #include "ui/dialogs/CloneWarning.h"
@@ -66,17 +65,13 @@ QPushButton *makeToolButton(QWidget *parent, const QString &name, int x)
 /// A header button is its picture; the hover twin of the picture bears the suffix "Hov".
 void dressToolButton(QPushButton *button, const QString &image)
 {
-    const auto path = [&image](const char *suffix) {
-        const QString file = image + QLatin1String(suffix) + QStringLiteral(".png");
-        const QString found = scale::imagePath(file, g_App.m_fScale);
-        return found.isEmpty() ? QStringLiteral(":/images/") + file : found;
-    };
     button->setFocusPolicy(Qt::NoFocus);
     button->setStyleSheet(
         QStringLiteral("QPushButton{border-image: url(%1)}QPushButton:hover{border-image: url(%2)}"
                        "QPushButton::menu-indicator{image: none; width: 0px;}"
                        "QPushButton:pressed{border:none}")
-            .arg(path(""), path("Hov")));
+            .arg(images::nearestPath(image + QStringLiteral(".png")),
+                 images::nearestPath(image + QStringLiteral("Hov.png"))));
 }
 
 } // namespace
@@ -312,8 +307,7 @@ void MainWindow::buildToolButtons()
                  {m_pVideoAction, "img_RepairVideo.png"},
                  {m_pPhotoAction, "img_RepairPhoto.png"}};
     for (const auto &entry : icons)
-        entry.action->setIcon(
-            QIcon(scale::imagePath(QLatin1String(entry.image), g_App.m_fScale, scale::Family::Others)));
+        entry.action->setIcon(QIcon(images::path(QLatin1String(entry.image), images::Family::MoreTools)));
     for (PopupMenu *menu : {m_pMainMenu, m_pMoreToolsMenu})
         menu->setFont(style::font(10));
 }

@@ -194,7 +194,8 @@ private:
     /// @{
     MyButton *button(Screen screen) const;
     bool isOnShow(Screen screen) const { return m_screen == screen; }
-    void setLook(Screen screen, navigation::Look look);
+    enum class Look;
+    void setLook(Screen screen, Look look);
     void hoverNavigation(Screen screen);
     void leaveNavigation(Screen screen);
     void pressNavigation(Screen screen);

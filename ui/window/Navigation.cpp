@@ -3,18 +3,46 @@
 
 #include "state/GlobalApp.h"
 #include "state/Globals.h"
-#include "state/Scale.h"
 #include "ui/dialogs/ConfarmetionClass.h"
 #include "ui/dialogs/ScanSwitchClass.h"
 #include "ui/screens/AccessNotice.h"
 #include "ui/screens/CloneDisk.h"
 #include "ui/screens/ScanDisk.h"
+#include "ui/widgets/Images.h"
 #include "ui/widgets/MyButton.h"
 #include "ui/widgets/Style.h"
 
 #include <initializer_list>
 
-using navigation::Look;
+enum class MainWindow::Look { Normal, Hover, Selected };
+
+namespace
+{
+
+/// The pictures of a button: normal, below the pointer, selected.
+using Images = std::array<const char *, 3>;
+
+constexpr std::array<Images, navigation::ScreenCount> ScreenImages = {{
+    {"img_DiskStatusNor", "img_DiskStatusHo", "img_DiskStatusSel"},
+    {"img_SmartStatusNor", "img_SmartStatusHov", "img_SmartStatusSel"},
+    {"img_DiskPartitionNor", "img_DiskPartitionHo", "img_DiskPartitionSel"},
+    {"img_ScanDiskNo", "img_ScanDiskHov", "img_ScanDiskSel"},
+    {"img_CloneDiskNormal", "img_CloneDiskHo", "img_CLoneDiskSel"},
+}};
+constexpr Images BackImages = {"img_BackTestNor", "img_BackTestHov", "img_BackTestHov"};
+
+/// Shows a picture, with the text blue but in the normal look. At a scale without pictures the text is all.
+void dress(QPushButton *button, const Images &files, std::size_t look)
+{
+    const QString path = images::path(QLatin1String(files[look]) + QStringLiteral(".png"));
+    const QString picture =
+        path.isEmpty() ? QString() : QStringLiteral("QPushButton{border-image: url(%1)}").arg(path);
+    button->setStyleSheet(picture + QStringLiteral("QPushButton{Text-align:left}") +
+                          (look == 0 ? QStringLiteral("QPushButton {color : rgb(0,0,0);}")
+                                     : QStringLiteral("QPushButton {color : rgb(42,129,229);}")));
+}
+
+} // namespace
 
 MyButton *MainWindow::button(Screen screen) const
 {
@@ -23,7 +51,7 @@ MyButton *MainWindow::button(Screen screen) const
 
 void MainWindow::setLook(Screen screen, Look look)
 {
-    button(screen)->setStyleSheet(navigation::styleSheet(screen, look, g_App.m_fScale));
+    dress(button(screen), ScreenImages[static_cast<std::size_t>(screen)], static_cast<std::size_t>(look));
 }
 
 void MainWindow::hoverNavigation(Screen screen)
@@ -224,12 +252,12 @@ void MainWindow::OnStopConfirm()
 
 void MainWindow::OnBackTestHoverImage()
 {
-    BackTestButton->setStyleSheet(navigation::backButtonSheet(navigation::Look::Hover, g_App.m_fScale));
+    dress(BackTestButton, BackImages, 1);
 }
 
 void MainWindow::OnBackTestNormalImage()
 {
-    BackTestButton->setStyleSheet(navigation::backButtonSheet(navigation::Look::Normal, g_App.m_fScale));
+    dress(BackTestButton, BackImages, 0);
 }
 
 void MainWindow::OnBackTestReleaseImage()

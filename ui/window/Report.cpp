@@ -9,6 +9,7 @@
 #include "smart/ToolInvocation.h"
 #include "state/Globals.h"
 #include "ui/screens/SmartStatus.h"
+#include "ui/widgets/Images.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
@@ -50,6 +51,11 @@ void MainWindow::SavePDFReport()
         return;
     // Gathered before the dialog opens: a refresh may rebuild the lists while it is open.
     SmartReport report = gatherSmartReport();
+    report.logo = images::path(report.secondBrand ? QStringLiteral("img_Korvane.png")
+                                                  : QStringLiteral("img_Velmora.png"),
+                               images::Family::Folder);
+    report.watermark = images::path(QStringLiteral("img_WaterMark.png"), images::Family::Folder);
+    report.icon = QStringLiteral(":/images/Halvane48.png");
     const QString path = askForPath(this, {tr("Save File"), suggestedReportName(report),
                                            QStringLiteral("*.pdf"), QStringLiteral(".pdf")});
     if (path.isEmpty())

@@ -13,6 +13,7 @@
 #include "state/GlobalApp.h"
 #include "state/Globals.h"
 #include "state/LogFolder.h"
+#include "state/Scale.h"
 #include "state/SettingsStore.h"
 #include "state/StartArgument.h"
 #include "ui/screens/CloneDisk.h"
@@ -257,7 +258,7 @@ void MainWindow::showTemperature(int celsius)
 {
     g_strTemperatureText = loadTemperatureText(celsius, SettingsStore().text(key::TempValue));
     m_pDiskStatusPage->tempValueLbl->setText(celsius < 1 ? tr("Not Supported") : g_strTemperatureText);
-    m_pDiskStatusPage->showPicture(DiskStatus::Picture::Temperature, loadTemperatureImage(celsius));
+    m_pDiskStatusPage->showPicture(DiskStatus::Picture::Temperature, loadTemperaturePicture(celsius));
 }
 
 void MainWindow::ComputePerformance()
@@ -265,7 +266,7 @@ void MainWindow::ComputePerformance()
     RatePerformance();
     showPercent(m_pDiskStatusPage->performanceValueLbl, g_bSmartAvailable, g_strPerformanceText);
     m_pDiskStatusPage->showPicture(DiskStatus::Picture::Performance,
-                                   performanceImage(g_nPerformancePercent, g_App.m_fScale));
+                                   performancePicture(g_nPerformancePercent, scale::percent()));
 }
 
 void MainWindow::ComputeHealth()
@@ -273,7 +274,7 @@ void MainWindow::ComputeHealth()
     RateHealth();
     showPercent(m_pDiskStatusPage->healthValueLbl, g_bSmartAvailable && g_bHealthKnown, g_strHealthText);
     const std::optional<int> percent = g_bHealthKnown ? std::optional<int>(g_nHealthPercent) : std::nullopt;
-    m_pDiskStatusPage->showPicture(DiskStatus::Picture::Health, healthImage(percent, g_App.m_fScale));
+    m_pDiskStatusPage->showPicture(DiskStatus::Picture::Health, healthPicture(percent, scale::percent()));
 }
 
 void MainWindow::ShowDiskLifeDetails()
@@ -318,7 +319,7 @@ void MainWindow::GetSmartTemprature()
     RefreshTemperatureReport(currentComboDisk());
     const int celsius = GetDiskTemperature();
     m_pDiskStatusPage->tempValueLbl->setText(pollTemperatureText(celsius, unit));
-    m_pDiskStatusPage->showPicture(DiskStatus::Picture::Temperature, pollTemperatureImage(celsius));
+    m_pDiskStatusPage->showPicture(DiskStatus::Picture::Temperature, pollTemperaturePicture(celsius));
 }
 
 void MainWindow::OnSystemShutDown()
