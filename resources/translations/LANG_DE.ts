@@ -505,10 +505,6 @@
 <context>
     <name>CloningWarningDialog</name>
     <message>
-        <source>Velmora Halvane</source>
-        <translation>Velmora Halvane</translation>
-    </message>
-    <message>
         <source>Clone Disk</source>
         <translation>Laufwerk klonen</translation>
     </message>
@@ -536,10 +532,6 @@
 <context>
     <name>ConfarmetionDialog</name>
     <message>
-        <source>Velmora Halvane</source>
-        <translation>Velmora Halvane</translation>
-    </message>
-    <message>
         <source>Yes</source>
         <translation>Ja</translation>
     </message>
@@ -550,10 +542,6 @@
 </context>
 <context>
     <name>DestinitionWarningDailog</name>
-    <message>
-        <source>Velmora Halvane</source>
-        <translation>Velmora Halvane</translation>
-    </message>
     <message>
         <source>Clone Disk</source>
         <translation>Laufwerk klonen</translation>
@@ -705,10 +693,6 @@
 </context>
 <context>
     <name>InfoDialog</name>
-    <message>
-        <source>Velmora Halvane</source>
-        <translation>Velmora Halvane</translation>
-    </message>
     <message>
         <source>Information</source>
         <translation>Information</translation>
@@ -1512,10 +1496,6 @@ Das Update ist fehlgeschlagen, weil der Download unvollständig war.</translatio
 <context>
     <name>ScanSwitchDialog</name>
     <message>
-        <source>Velmora Halvane</source>
-        <translation>Velmora Halvane</translation>
-    </message>
-    <message>
         <source>Scan Disk</source>
         <translation>Laufwerk scannen</translation>
     </message>
@@ -1538,10 +1518,6 @@ Das Update ist fehlgeschlagen, weil der Download unvollständig war.</translatio
 </context>
 <context>
     <name>SelfTestNotSupportedDialog</name>
-    <message>
-        <source>Velmora Halvane</source>
-        <translation>Velmora Halvane</translation>
-    </message>
     <message>
         <source>Drive Test</source>
         <translation>Laufwerkstest</translation>
@@ -1637,10 +1613,6 @@ Das Update ist fehlgeschlagen, weil der Download unvollständig war.</translatio
 </context>
 <context>
     <name>SmartShutdownDialog</name>
-    <message>
-        <source>Velmora Halvane</source>
-        <translation>Velmora Halvane</translation>
-    </message>
     <message>
         <source>Shutdown Warning</source>
         <translation>Abschaltwarnung</translation>
@@ -1764,10 +1736,6 @@ Das Update ist fehlgeschlagen, weil der Download unvollständig war.</translatio
 <context>
     <name>SmartWarningDialog</name>
     <message>
-        <source>Velmora Halvane</source>
-        <translation>Velmora Halvane</translation>
-    </message>
-    <message>
         <source>SMART Warning</source>
         <translation>SMART-Warnung</translation>
     </message>
@@ -1794,10 +1762,6 @@ Das Update ist fehlgeschlagen, weil der Download unvollständig war.</translatio
 </context>
 <context>
     <name>m_pCloseWgt</name>
-    <message>
-        <source>Velmora Halvane</source>
-        <translation>Velmora Halvane</translation>
-    </message>
     <message>
         <source>Exit</source>
         <translation>Beenden</translation>

@@ -505,10 +505,6 @@
 <context>
     <name>CloningWarningDialog</name>
     <message>
-        <source>Velmora Halvane</source>
-        <translation>Velmora Halvane</translation>
-    </message>
-    <message>
         <source>Clone Disk</source>
         <translation>Schijf klonen</translation>
     </message>
@@ -536,10 +532,6 @@
 <context>
     <name>ConfarmetionDialog</name>
     <message>
-        <source>Velmora Halvane</source>
-        <translation>Velmora Halvane</translation>
-    </message>
-    <message>
         <source>Yes</source>
         <translation>Ja</translation>
     </message>
@@ -550,10 +542,6 @@
 </context>
 <context>
     <name>DestinitionWarningDailog</name>
-    <message>
-        <source>Velmora Halvane</source>
-        <translation>Velmora Halvane</translation>
-    </message>
     <message>
         <source>Clone Disk</source>
         <translation>Schijf klonen</translation>
@@ -705,10 +693,6 @@
 </context>
 <context>
     <name>InfoDialog</name>
-    <message>
-        <source>Velmora Halvane</source>
-        <translation>Velmora Halvane</translation>
-    </message>
     <message>
         <source>Information</source>
         <translation>Informatie</translation>
@@ -1512,10 +1496,6 @@ De update is mislukt doordat de download onvolledig was.</translation>
 <context>
     <name>ScanSwitchDialog</name>
     <message>
-        <source>Velmora Halvane</source>
-        <translation>Velmora Halvane</translation>
-    </message>
-    <message>
         <source>Scan Disk</source>
         <translation>Schijf scannen</translation>
     </message>
@@ -1538,10 +1518,6 @@ De update is mislukt doordat de download onvolledig was.</translation>
 </context>
 <context>
     <name>SelfTestNotSupportedDialog</name>
-    <message>
-        <source>Velmora Halvane</source>
-        <translation>Velmora Halvane</translation>
-    </message>
     <message>
         <source>Drive Test</source>
         <translation>Schijftest</translation>
@@ -1637,10 +1613,6 @@ De update is mislukt doordat de download onvolledig was.</translation>
 </context>
 <context>
     <name>SmartShutdownDialog</name>
-    <message>
-        <source>Velmora Halvane</source>
-        <translation>Velmora Halvane</translation>
-    </message>
     <message>
         <source>Shutdown Warning</source>
         <translation>Afsluitwaarschuwing</translation>
@@ -1764,10 +1736,6 @@ De update is mislukt doordat de download onvolledig was.</translation>
 <context>
     <name>SmartWarningDialog</name>
     <message>
-        <source>Velmora Halvane</source>
-        <translation>Velmora Halvane</translation>
-    </message>
-    <message>
         <source>SMART Warning</source>
         <translation>SMART-waarschuwing</translation>
     </message>
@@ -1794,10 +1762,6 @@ De update is mislukt doordat de download onvolledig was.</translation>
 </context>
 <context>
     <name>m_pCloseWgt</name>
-    <message>
-        <source>Velmora Halvane</source>
-        <translation>Velmora Halvane</translation>
-    </message>
     <message>
         <source>Exit</source>
         <translation>Afsluiten</translation>

@@ -505,10 +505,6 @@
 <context>
     <name>CloningWarningDialog</name>
     <message>
-        <source>Velmora Halvane</source>
-        <translation>Velmora Halvane</translation>
-    </message>
-    <message>
         <source>Clone Disk</source>
         <translation>Cloner le disque</translation>
     </message>
@@ -536,10 +532,6 @@
 <context>
     <name>ConfarmetionDialog</name>
     <message>
-        <source>Velmora Halvane</source>
-        <translation>Velmora Halvane</translation>
-    </message>
-    <message>
         <source>Yes</source>
         <translation>Oui</translation>
     </message>
@@ -550,10 +542,6 @@
 </context>
 <context>
     <name>DestinitionWarningDailog</name>
-    <message>
-        <source>Velmora Halvane</source>
-        <translation>Velmora Halvane</translation>
-    </message>
     <message>
         <source>Clone Disk</source>
         <translation>Cloner le disque</translation>
@@ -705,10 +693,6 @@
 </context>
 <context>
     <name>InfoDialog</name>
-    <message>
-        <source>Velmora Halvane</source>
-        <translation>Velmora Halvane</translation>
-    </message>
     <message>
         <source>Information</source>
         <translation>Informations</translation>
@@ -1512,10 +1496,6 @@ La mise à jour a échoué : le téléchargement est incomplet.</translation>
 <context>
     <name>ScanSwitchDialog</name>
     <message>
-        <source>Velmora Halvane</source>
-        <translation>Velmora Halvane</translation>
-    </message>
-    <message>
         <source>Scan Disk</source>
         <translation>Analyser le disque</translation>
     </message>
@@ -1538,10 +1518,6 @@ La mise à jour a échoué : le téléchargement est incomplet.</translation>
 </context>
 <context>
     <name>SelfTestNotSupportedDialog</name>
-    <message>
-        <source>Velmora Halvane</source>
-        <translation>Velmora Halvane</translation>
-    </message>
     <message>
         <source>Drive Test</source>
         <translation>Test du disque</translation>
@@ -1637,10 +1613,6 @@ La mise à jour a échoué : le téléchargement est incomplet.</translation>
 </context>
 <context>
     <name>SmartShutdownDialog</name>
-    <message>
-        <source>Velmora Halvane</source>
-        <translation>Velmora Halvane</translation>
-    </message>
     <message>
         <source>Shutdown Warning</source>
         <translation>Avertissement d&apos;arrêt</translation>
@@ -1764,10 +1736,6 @@ La mise à jour a échoué : le téléchargement est incomplet.</translation>
 <context>
     <name>SmartWarningDialog</name>
     <message>
-        <source>Velmora Halvane</source>
-        <translation>Velmora Halvane</translation>
-    </message>
-    <message>
         <source>SMART Warning</source>
         <translation>Alerte SMART</translation>
     </message>
@@ -1794,10 +1762,6 @@ La mise à jour a échoué : le téléchargement est incomplet.</translation>
 </context>
 <context>
     <name>m_pCloseWgt</name>
-    <message>
-        <source>Velmora Halvane</source>
-        <translation>Velmora Halvane</translation>
-    </message>
     <message>
         <source>Exit</source>
         <translation>Quitter</translation>

@@ -6,7 +6,6 @@
 #include "state/Globals.h"
 #include "state/Languages.h"
 #include "tests/platform/DescribedFolder.h"
-#include "ui/widgets/Images.h"
 #include "ui/widgets/MyButton.h"
 #include "ui/window/MainWindow.h"
 
@@ -100,7 +99,7 @@ protected:
         return m_pWindow->findChild<Widget *>(QLatin1String(name));
     }
     QString text(const char *label) const { return child<QLabel>(label)->text(); }
-    QString image(const char *label) const { return images::labelImage(child<QLabel>(label)); }
+    QString image(const char *label) const { return child<QLabel>(label)->property("imagePath").toString(); }
 
     /// The lines of a log of the PC, without the last, empty one.
     QList<QByteArray> logLines(const char *file) const

@@ -4,17 +4,9 @@
 #include "tests/support/FakePlatform.h"
 #include "tests/ui/Named.h"
 #include "ui/dialogs/AboutDlg.h"
-#include "ui/dialogs/CloneWarning.h"
-#include "ui/dialogs/CloseWgt.h"
-#include "ui/dialogs/ConfarmetionClass.h"
-#include "ui/dialogs/DestinitionWarning.h"
-#include "ui/dialogs/InfoDialogClass.h"
+#include "ui/dialogs/MessageDialog.h"
 #include "ui/dialogs/QShowUpdate.h"
-#include "ui/dialogs/ScanSwitchClass.h"
-#include "ui/dialogs/SelfTestNotSupported.h"
-#include "ui/dialogs/ShutDownWarning.h"
 #include "ui/dialogs/SmallMessageDlg.h"
-#include "ui/dialogs/SmartWarning.h"
 #include "update/HelpLinks.h"
 
 #include <QScrollBar>

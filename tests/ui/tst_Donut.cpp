@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ui/widgets/DonutSeries.h"
+#include "ui/widgets/DonutChartView.h"
 
 #include <QtTest>
 

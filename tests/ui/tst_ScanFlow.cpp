@@ -3,10 +3,7 @@
 #include "scan/ScanGlobals.h"
 #include "tests/ui/Named.h"
 #include "tests/ui/WindowFixture.h"
-#include "ui/dialogs/ConfarmetionClass.h"
-#include "ui/dialogs/DestinitionWarning.h"
-#include "ui/dialogs/InfoDialogClass.h"
-#include "ui/dialogs/ScanSwitchClass.h"
+#include "ui/dialogs/MessageDialog.h"
 #include "ui/screens/ScanDisk.h"
 #include "ui/widgets/QGridView.h"
 

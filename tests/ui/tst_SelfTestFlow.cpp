@@ -3,9 +3,7 @@
 #include "smart/SmartGlobals.h"
 #include "tests/ui/Named.h"
 #include "tests/ui/WindowFixture.h"
-#include "ui/dialogs/ConfarmetionClass.h"
-#include "ui/dialogs/DestinitionWarning.h"
-#include "ui/dialogs/SelfTestNotSupported.h"
+#include "ui/dialogs/MessageDialog.h"
 
 #include <QComboBox>
 #include <QProgressBar>

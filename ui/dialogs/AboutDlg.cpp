@@ -4,16 +4,13 @@
 #include "platform/Platform.h"
 #include "state/SettingsStore.h"
 #include "ui/widgets/Style.h"
-#include "update/HelpLinks.h"
 
 #include <QBoxLayout>
-#include <QEvent>
 #include <QLabel>
 #include <QPushButton>
 
 const DialogShape Shape = {"AboutDialog",
                            480,
-                           QT_TRANSLATE_NOOP("AboutDialog", "About Velmora Halvane"),
                            {"HeaderLabel", QT_TRANSLATE_NOOP("AboutDialog", "About Velmora Halvane")},
                            {"LabelPixmap", "img_Product.png"},
                            {{"ProductLabel", QT_TRANSLATE_NOOP("AboutDialog", "Velmora Halvane")},
@@ -25,7 +22,8 @@ const DialogShape Shape = {"AboutDialog",
                            DialogButton::Last,
                            DialogButton::Last,
                            "frame",
-                           "BottomFrame"};
+                           "BottomFrame",
+                           true};
 
 AboutDlg::AboutDlg(QWidget *parent) : QDialog(parent), m_Frame(this)
 {
@@ -46,7 +44,7 @@ AboutDlg::AboutDlg(QWidget *parent) : QDialog(parent), m_Frame(this)
     connect(m_Frame.button(DialogButton::Last), &QPushButton::clicked, this, &AboutDlg::reject);
     connect(m_Frame.button(DialogButton::First), &QPushButton::clicked, this, &AboutDlg::OpenLicense);
     connect(support, &QLabel::linkActivated, this, &AboutDlg::OpenSupport);
-    translateTexts();
+    m_Frame.keepTranslated([this] { translateTexts(); });
 }
 
 void AboutDlg::translateTexts()
@@ -63,21 +61,4 @@ void AboutDlg::translateTexts()
                 ? QString()
                 : QStringLiteral("<a href=\"mailto:%1\" style=\"color: #2a81e5;\">%1</a>").arg(address));
     m_Frame.fit();
-}
-
-void AboutDlg::OpenLicense()
-{
-    links::openAgreement();
-}
-
-void AboutDlg::OpenSupport()
-{
-    links::openSupport();
-}
-
-void AboutDlg::changeEvent(QEvent *event)
-{
-    if (event->type() == QEvent::LanguageChange)
-        translateTexts();
-    QDialog::changeEvent(event);
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "ui/dialogs/DialogFrame.h"
+#include "update/HelpLinks.h"
 
 #include <QDialog>
 
@@ -15,12 +16,9 @@ public:
 
 public slots:
     /// Opens the agreement in the language in use.
-    void OpenLicense();
+    void OpenLicense() { links::openAgreement(); }
     /// Begins a mail to the support. Does nothing where no address is set.
-    void OpenSupport();
-
-protected:
-    void changeEvent(QEvent *event) override;
+    void OpenSupport() { links::openSupport(); }
 
 private:
     void translateTexts();

@@ -12,7 +12,6 @@
 #include <QFontMetrics>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QMouseEvent>
 #include <QPainter>
 #include <QProgressBar>
 #include <QPushButton>
@@ -67,14 +66,14 @@ QVBoxLayout *DialogFrame::build(const DialogShape &shape)
     auto *rows = makeLayout<QVBoxLayout>(m_pWindow, {1, 1, 1, 1}, 0);
     auto *strip = makeLayout<QHBoxLayout>(nullptr, {16, 0, 16, 0}, 0);
     rows->addLayout(strip);
-    m_Look.title = addLabel(strip, shape.title.name);
-    m_Look.title->setFixedHeight(36);
+    m_pTitle = addLabel(strip, shape.title.name);
+    m_pTitle->setFixedHeight(36);
     addBody(rows);
     if (!shape.buttons.empty())
         addButtons(rows);
-    m_Look.dismiss = button(DialogButton::Last);
-    m_Look.confirm = button(shape.main);
-    m_Look.initial = button(shape.initial);
+    m_pDismiss = button(DialogButton::Last);
+    m_pMain = button(shape.main);
+    m_pInitial = button(shape.initial);
     translate();
     return m_pTexts;
 }
@@ -87,10 +86,9 @@ void DialogFrame::addBody(QVBoxLayout *rows)
         makeLayout<QHBoxLayout>(frame, picture ? QMargins(20, 20, 20, 12) : QMargins(20, 16, 20, 20), 18);
     body->setObjectName(QStringLiteral("bodyLayout"));
     if (picture) {
-        m_Look.picture = addLabel(body, m_Shape.picture.name);
-        m_Look.picture->setFixedSize(48, 48);
-        body->setAlignment(m_Look.picture, Qt::AlignTop);
-        m_Look.image = QLatin1String(m_Shape.picture.text);
+        QLabel *image = addLabel(body, m_Shape.picture.name);
+        image->setFixedSize(48, 48);
+        body->setAlignment(image, Qt::AlignTop);
     }
     m_pTexts = makeLayout<QVBoxLayout>(nullptr, {0, 0, 0, 0}, 8);
     body->addLayout(m_pTexts);
@@ -102,8 +100,6 @@ void DialogFrame::addBody(QVBoxLayout *rows)
         m_apLines.back()->setWordWrap(true);
     }
     m_pTexts->addStretch();
-    if (m_apLines.size() > 1)
-        m_Look.heading = m_apLines.front();
 }
 
 void DialogFrame::addButtons(QVBoxLayout *rows)
@@ -185,12 +181,14 @@ QPushButton *DialogFrame::button(DialogButton which) const
 
 void DialogFrame::translate() const
 {
-    m_pWindow->setWindowTitle(QCoreApplication::translate(m_Shape.context, m_Shape.windowTitle));
+    m_pWindow->setWindowTitle(m_Shape.ownTitle
+                                  ? QCoreApplication::translate(m_Shape.context, m_Shape.title.text)
+                                  : QCoreApplication::translate("MainWindow", "Velmora Halvane"));
     for (std::size_t i = 0; i < m_apButtons.size(); ++i)
         say(m_apButtons[i], m_Shape.context, m_Shape.buttons[i].text);
     if (m_bTextsSet)
         return;
-    say(m_Look.title, m_Shape.context, m_Shape.title.text);
+    say(m_pTitle, m_Shape.context, m_Shape.title.text);
     for (std::size_t i = 0; i < m_apLines.size(); ++i)
         say(m_apLines[i], m_Shape.context, m_Shape.lines[i].text);
 }
@@ -198,15 +196,17 @@ void DialogFrame::translate() const
 void DialogFrame::setTexts(const QString &title, const QString &first, const QString &second)
 {
     m_bTextsSet = true;
-    m_Look.title->setText(title);
+    m_pTitle->setText(title);
     m_apLines[0]->setText(first);
     m_apLines[1]->setText(second);
     fit();
 }
 
-void DialogFrame::dress(const DialogLook &look)
+void DialogFrame::dress(QLabel *title, QPushButton *dismiss, QPushButton *main)
 {
-    m_Look = look;
+    m_pTitle = title;
+    m_pDismiss = dismiss;
+    m_pMain = m_pInitial = main;
     dress();
 }
 
@@ -220,10 +220,16 @@ void DialogFrame::dress()
     style::showTextsAsData(m_pWindow);
     styleTexts();
     styleButtons();
-    if (m_Look.picture)
-        images::setLabelImage(m_Look.picture, m_Look.image);
+    if (m_Shape.picture.name)
+        images::setLabelImage(label(m_Shape.picture.name), QLatin1String(m_Shape.picture.text));
     m_pWindow->installEventFilter(this);
     fit();
+}
+
+void DialogFrame::keepTranslated(std::function<void()> translate)
+{
+    m_translate = std::move(translate);
+    m_translate();
 }
 
 void DialogFrame::styleTexts() const
@@ -233,16 +239,16 @@ void DialogFrame::styleTexts() const
         label->setFont(style::font(10));
         label->setStyleSheet(style::BlackLabel);
     }
-    m_Look.title->setFont(style::semiBold(10));
-    if (m_Look.heading)
-        m_Look.heading->setFont(style::semiBold(10));
+    m_pTitle->setFont(style::semiBold(10));
+    if (m_apLines.size() > 1)
+        m_apLines.front()->setFont(style::semiBold(10));
 }
 
 void DialogFrame::styleButtons() const
 {
     const auto buttons = m_pWindow->findChildren<QPushButton *>();
     for (QPushButton *button : buttons) {
-        const bool main = button == m_Look.confirm;
+        const bool main = button == m_pMain;
         style::styleButton(button, main ? style::ButtonRole::Main : style::ButtonRole::Light);
         const QString focus = main ? QStringLiteral("QPushButton:focus{border-color: #14569f;}")
                                    : QStringLiteral("QPushButton:focus{border-color: #2a81e5;}");
@@ -290,7 +296,7 @@ void DialogFrame::fit()
 void DialogFrame::paint() const
 {
     QPainter painter(m_pWindow);
-    const int line = m_Look.title->mapTo(m_pWindow, QPoint(0, m_Look.title->height() - 1)).y();
+    const int line = m_pTitle->mapTo(m_pWindow, QPoint(0, m_pTitle->height() - 1)).y();
     painter.setPen(TitleLineColour);
     painter.drawLine(0, line, m_pWindow->width() - 1, line);
     painter.setPen(BorderColour);
@@ -300,8 +306,8 @@ void DialogFrame::paint() const
 bool DialogFrame::keyPressed(int key) const
 {
     if (key == Qt::Key_Escape) {
-        if (m_Look.dismiss)
-            m_Look.dismiss->click();
+        if (m_pDismiss)
+            m_pDismiss->click();
         return true;
     }
     // A QDialog presses its default button by itself.
@@ -316,42 +322,33 @@ bool DialogFrame::keyPressed(int key) const
 bool DialogFrame::eventFilter(QObject *watched, QEvent *event)
 {
     switch (event->type()) {
-    case QEvent::MouseButtonPress:
-        m_Drag.press(static_cast<QMouseEvent *>(event));
-        break;
-    case QEvent::MouseMove:
-        m_Drag.move(static_cast<QMouseEvent *>(event));
-        break;
-    case QEvent::MouseButtonRelease:
-        m_Drag.release(static_cast<QMouseEvent *>(event));
-        break;
     case QEvent::Paint:
         paint();
         break;
-    case QEvent::Show: {
+    case QEvent::Show:
         fit();
-        QPushButton *other = m_Look.confirm ? m_Look.confirm : m_Look.dismiss;
-        if (QPushButton *first = m_Look.initial ? m_Look.initial : other)
-            first->setFocus();
+        if (m_pInitial)
+            m_pInitial->setFocus();
         break;
-    }
     case QEvent::LayoutRequest:
         fit();
         break;
     case QEvent::LanguageChange:
         if (m_Shape.context)
             translate();
+        if (m_translate)
+            m_translate();
         break;
     case QEvent::KeyPress:
         return keyPressed(static_cast<QKeyEvent *>(event)->key());
     case QEvent::Close:
         // The button's action first: it may leave the window's pages in order.
-        if (!m_Look.dismiss) {
+        if (!m_pDismiss) {
             event->ignore();
             return true;
         }
         if (m_pWindow->isVisible())
-            m_Look.dismiss->click();
+            m_pDismiss->click();
         break;
     default:
         break;

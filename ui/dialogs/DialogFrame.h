@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QString>
 
+#include <functional>
 #include <vector>
 
 class QBoxLayout;
@@ -30,7 +31,6 @@ enum class DialogButton { None, First, Last };
 struct DialogShape {
     const char *context; ///< of the texts' translations; the object name of the window too
     int width;           ///< design pixels
-    const char *windowTitle;
     DialogWord title;
     DialogWord picture;            ///< with the file in place of the text; without a name there is none
     std::vector<DialogWord> lines; ///< the first of several is the heading
@@ -39,18 +39,7 @@ struct DialogShape {
     DialogButton initial = DialogButton::Last; ///< has the focus when the dialog shows
     const char *frame = "MainFrame";           ///< name of the frame about picture and lines
     const char *bottomFrame = "";              ///< and about the buttons
-};
-
-/// The parts of a dialog that all dialogs treat alike. Only `title` must be there.
-struct DialogLook {
-    QLabel *title = nullptr;
-    QLabel *picture = nullptr;
-    QString image; ///< file of the picture
-    /// What Escape and the system's close command press; without one they do nothing.
-    QPushButton *dismiss = nullptr;
-    QPushButton *confirm = nullptr; ///< drawn as the main button
-    QLabel *heading = nullptr;      ///< first line, where more lines follow
-    QPushButton *initial = nullptr; ///< has the focus when the dialog shows; else `confirm`, else `dismiss`
+    bool ownTitle = false;                     ///< the window is called as the strip, not as the product
 };
 
 /// Makes a top-level widget one of the product's dialogs: no system frame, white with a hairline border and a
@@ -67,8 +56,10 @@ public:
     QVBoxLayout *build(const DialogShape &shape);
     /// Dresses the window that build() filled; once, when all its widgets are there.
     void dress();
-    /// The same for a window with a form.
-    void dress(const DialogLook &look);
+    /// The same for a window with a form. Escape and the system's close command press `dismiss`.
+    void dress(QLabel *title, QPushButton *dismiss, QPushButton *main);
+    /// Calls `translate` now and after each change of language.
+    void keepTranslated(std::function<void()> translate);
 
     /// A button of the shape; null where there is none.
     QPushButton *button(DialogButton which) const;
@@ -112,7 +103,11 @@ private:
     QVBoxLayout *m_pTexts = nullptr;
     std::vector<QLabel *> m_apLines;
     std::vector<QPushButton *> m_apButtons;
-    DialogLook m_Look;
+    QLabel *m_pTitle = nullptr;
+    QPushButton *m_pDismiss = nullptr;
+    QPushButton *m_pMain = nullptr;
+    QPushButton *m_pInitial = nullptr;
+    std::function<void()> m_translate;
     FramelessDrag m_Drag;
     int m_nDesignWidth = 0;
 };

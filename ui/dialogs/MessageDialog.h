@@ -5,10 +5,14 @@
 
 #include <QDialog>
 
-/// A dialog that shows a shape and nothing else: what the product's questions and messages are.
+/// A dialog that shows a shape and nothing else. The product's questions and messages are kinds of it.
 class MessageDialog : public QDialog
 {
     Q_OBJECT
+
+public:
+    /// Puts other texts in place of the title and of the two lines.
+    void SetTexts(const QString &title, const QString &first, const QString &second);
 
 signals:
     void confirmed(); ///< the first of two buttons was pressed
@@ -17,8 +21,122 @@ signals:
 protected:
     MessageDialog(const DialogShape &shape, QWidget *parent);
 
-    /// Puts other texts in place of the title and of the two lines.
-    void SetTexts(const QString &title, const QString &first, const QString &second);
-
     DialogFrame m_Frame;
+};
+
+/// Asks before the program ends.
+/// Not modal: a job may be started beneath it.
+class CloseWgt : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit CloseWgt(QWidget *parent = nullptr);
+
+signals:
+    void confirmed();
+    void dismissed();
+
+private:
+    DialogFrame m_Frame;
+};
+
+/// Asks whether a running job is to be stopped.
+class ConfarmetionClass : public MessageDialog
+{
+    Q_OBJECT
+
+public:
+    explicit ConfarmetionClass(QWidget *parent = nullptr);
+};
+
+/// Asks before results on screen are lost by moving to another screen.
+class ScanSwitchClass : public MessageDialog
+{
+    Q_OBJECT
+
+public:
+    explicit ScanSwitchClass(QWidget *parent = nullptr);
+};
+
+/// Two lines and a close button: asks for a clone target, or tells what must end first.
+class DestinitionWarning : public MessageDialog
+{
+    Q_OBJECT
+
+public:
+    explicit DestinitionWarning(QWidget *parent = nullptr);
+};
+
+/// Tells that the selected disk has no self-test.
+class SelfTestNotSupported : public MessageDialog
+{
+    Q_OBJECT
+
+public:
+    explicit SelfTestNotSupported(QWidget *parent = nullptr);
+};
+
+/// The last question before a disk is overwritten; names the two disks.
+class CloneWarning : public MessageDialog
+{
+    Q_OBJECT
+
+public:
+    explicit CloneWarning(QWidget *parent = nullptr);
+
+    /// Shows what the disks are called.
+    void NameDisks(const QString &source, const QString &destination);
+    /// Takes no confirmation for as long as a double click may take.
+    void HoldStart();
+};
+
+/// The outcome of a scan or a clone. Hides when it is dismissed; confirmed() asks to save a list.
+class InfoDialogClass : public MessageDialog
+{
+    Q_OBJECT
+
+public:
+    explicit InfoDialogClass(QWidget *parent = nullptr);
+
+    QString SecondText() const;
+    void SetSecondText(const QString &text);
+    /// Shows or hides the button that saves a list; what it does is up to who offers it.
+    void OfferSaving(bool bOffer);
+};
+
+/// Tells that a disk is too warm. Hides when it is dismissed.
+class TemperatureWarning : public MessageDialog
+{
+    Q_OBJECT
+
+public slots:
+    void OnOk() { hide(); }
+    /// Stores that this warning is no longer wanted, and hides it.
+    void OnDontShowClicked();
+
+protected:
+    /// `setting` is the one that stores so.
+    TemperatureWarning(const DialogShape &shape, const QString &setting, QWidget *parent);
+
+private:
+    const QString m_strSetting;
+};
+
+/// The disk is warmer than the warning threshold.
+class SmartWarning : public TemperatureWarning
+{
+    Q_OBJECT
+
+public:
+    explicit SmartWarning(QWidget *parent = nullptr);
+};
+
+/// The disk is so warm that the PC had better be shut down; confirmed() asks for that.
+class ShutDownWarning : public TemperatureWarning
+{
+    Q_OBJECT
+
+public:
+    explicit ShutDownWarning(QWidget *parent = nullptr);
 };

@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/dialogs/QCheckUpdate.h"
 
+#include "platform/Platform.h"
+#include "state/GlobalApp.h"
 #include "state/Globals.h"
+#include "state/JobState.h"
 #include "state/SettingsStore.h"
 #include "ui/dialogs/QShowUpdate.h"
-#include "ui/dialogs/UpdateMessage.h"
+#include "ui/dialogs/SmallMessageDlg.h"
 #include "ui/widgets/Style.h"
+#include "update/HelpLinks.h"
 #include "update/UpdateCheck.h"
 #include "update/UpdateGlobals.h"
 #include "update/UpdateLink.h"
@@ -19,7 +23,6 @@
 
 const DialogShape Shape = {"CheckUpdate",
                            400,
-                           QT_TRANSLATE_NOOP("CheckUpdate", "Velmora Halvane"),
                            {"HeaderLabel", QT_TRANSLATE_NOOP("CheckUpdate", "Velmora Halvane")},
                            {},
                            {{"label", QT_TRANSLATE_NOOP("CheckUpdate", "Checking for updates...")}},
@@ -104,4 +107,25 @@ void QCheckUpdate::showOffer()
         offer->raise();
         offer->activateWindow();
     });
+}
+
+QCheckUpdate *checkForUpdates(QWidget *owner)
+{
+    // An update that is taken ends the program.
+    if (!g_Jobs.isIdle())
+        return nullptr;
+    if (g_App.m_bKorvaneBrand && g_App.m_bChinese && m_bChineseUpdatePage) {
+        const QUrl page = links::pageOf(
+            SettingsStore().text(key::ofLanguage(QStringLiteral("CN"), QStringLiteral("CN_Update_Lnk"))));
+        if (page.isValid())
+            Platform::current().ShellExecuteW(QString::fromLatin1(page.toEncoded()), QString(),
+                                              QStringLiteral("open"), Platform::Show::Maximised);
+        return nullptr;
+    }
+    m_bManualCheck = true;
+    auto *check = new QCheckUpdate(owner);
+    style::centreOn(check, m_rcSplash);
+    if (!check->HasOffer())
+        check->deleteLater();
+    return check;
 }

@@ -42,3 +42,8 @@ private:
     bool m_bHttpRequestAborted = false;
     int m_nComparisons = 0; ///< of this object; only the first one counts
 };
+
+/// The user asks for an update: checks at once, blocking, with `owner` as parent of the dialogs, and tells
+/// the outcome. Null where nothing was checked: while a job runs, which an update would end, and where the
+/// brand opens a page instead. What is not null stays for as long as its offer does.
+QCheckUpdate *checkForUpdates(QWidget *owner);

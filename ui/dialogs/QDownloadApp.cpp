@@ -10,7 +10,6 @@
 
 #include <QBoxLayout>
 #include <QCoreApplication>
-#include <QEvent>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPixmap>
@@ -30,14 +29,15 @@ const QString BarSheet = QStringLiteral(
 
 const DialogShape Shape = {"DownloadUpdate",
                            440,
-                           QT_TRANSLATE_NOOP("DownloadUpdate", "Software Update"),
                            {"HeaderLabel", QT_TRANSLATE_NOOP("DownloadUpdate", "Software Update")},
                            {},
                            {{"label", QT_TRANSLATE_NOOP("DownloadUpdate", "Downloading Files")}},
                            {},
                            DialogButton::None,
                            DialogButton::None,
-                           "frame"};
+                           "frame",
+                           "",
+                           true};
 
 /// QMessageBox::information() in the look of the dialogs.
 void tellFailure(QWidget *parent, const QString &title, const QString &text)
@@ -74,12 +74,12 @@ QDownloadApp::QDownloadApp(QWidget *parent) : QDialog(parent), m_Frame(this)
     connect(&m_thread, &QDownloadThread::OnDownloadStart, this, &QDownloadApp::OnDownloadStart);
     connect(&m_thread, &QDownloadThread::OnDownloadFailed, this, &QDownloadApp::OnDownloadFailed);
     connect(&m_thread, &QDownloadThread::OnDownloadFinish, this, &QDownloadApp::OnDownloadFinish);
-    const auto labels = details();
-    for (QLabel *detail : labels) {
-        detail->setText(QStringLiteral(" "));
-        detail->hide();
-    }
-    m_pProgressBar->hide();
+    clearProgress(QStringLiteral(" "));
+    // What was blank stays so; the figures follow with their next tick.
+    m_Frame.keepTranslated([this] {
+        if (!m_pInfoLabel->text().trimmed().isEmpty())
+            m_pInfoLabel->setText(tr("Downloading under progress..."));
+    });
     if (!m_thread.isRunning())
         m_thread.start(QThread::LowPriority);
 }
@@ -102,11 +102,6 @@ void QDownloadApp::buildDetails()
     row->addStretch();
     m_pTimeLabel = DialogFrame::addLabel(row, "TimeLabel");
     m_pRateLabel = DialogFrame::addLabel(column, "RateLabel");
-}
-
-QList<QLabel *> QDownloadApp::details() const
-{
-    return {m_pInfoLabel, m_pCopiedLabel, m_pTimeLabel, m_pRateLabel};
 }
 
 void QDownloadApp::OnDownloadStart()
@@ -133,11 +128,6 @@ void QDownloadApp::OnTimerLoadSlot()
     showProgress(bytes, update::megabytes(bytes) + tr(" MB copied) "));
 }
 
-void QDownloadApp::downloadReadyRead()
-{
-    OnTimerLoadSlot();
-}
-
 void QDownloadApp::downloadFinished()
 {
     m_timer.stop();
@@ -154,12 +144,11 @@ void QDownloadApp::OnDownloadProgress(qlonglong bytesReceived, qlonglong bytesTo
     m_pRateLabel->show();
 }
 
-void QDownloadApp::clearProgress()
+void QDownloadApp::clearProgress(const QString &blank)
 {
     m_timer.stop();
-    const auto labels = details();
-    for (QLabel *detail : labels) {
-        detail->setText(QStringLiteral("      "));
+    for (QLabel *detail : {m_pInfoLabel, m_pCopiedLabel, m_pTimeLabel, m_pRateLabel}) {
+        detail->setText(blank);
         detail->hide();
     }
     m_pProgressBar->hide();
@@ -167,7 +156,7 @@ void QDownloadApp::clearProgress()
 
 void QDownloadApp::OnDownloadFinish(QString strDownloadPath)
 {
-    clearProgress();
+    clearProgress(QStringLiteral("      "));
     hide();
     Platform::current().ShellExecuteW(strDownloadPath, QString(), QString());
     QCoreApplication::quit();
@@ -175,16 +164,8 @@ void QDownloadApp::OnDownloadFinish(QString strDownloadPath)
 
 void QDownloadApp::OnDownloadFailed()
 {
-    clearProgress();
+    clearProgress(QStringLiteral("      "));
     hide();
     tellFailure(this, tr("Software Update"), tr("Update failed \n\nUpdate failed due to partial download."));
     reject();
-}
-
-void QDownloadApp::changeEvent(QEvent *event)
-{
-    // What was blank stays so; the figures follow with their next tick.
-    if (event->type() == QEvent::LanguageChange && !m_pInfoLabel->text().trimmed().isEmpty())
-        m_pInfoLabel->setText(tr("Downloading under progress..."));
-    QDialog::changeEvent(event);
 }

@@ -27,18 +27,14 @@ public slots:
     void OnTimerLoadSlot();
     /// A transfer that tells its own progress has ended, or has brought more.
     void downloadFinished();
-    void downloadReadyRead();
+    void downloadReadyRead() { OnTimerLoadSlot(); }
     /// Shows such a transfer's progress, in bytes.
     void OnDownloadProgress(qlonglong bytesReceived, qlonglong bytesTotal);
 
-protected:
-    void changeEvent(QEvent *event) override;
-
 private:
     void showProgress(qint64 bytes, const QString &copied);
-    void clearProgress();
+    void clearProgress(const QString &blank);
     void buildDetails();
-    QList<QLabel *> details() const;
 
     DialogFrame m_Frame;
     QLabel *m_pInfoLabel;

@@ -9,14 +9,12 @@
 #include "update/UpdateLink.h"
 
 #include <QBoxLayout>
-#include <QEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QTextEdit>
 
 const DialogShape Shape = {"ShowUpdateAvail",
                            460,
-                           QT_TRANSLATE_NOOP("ShowUpdateAvail", "Velmora Halvane"),
                            {"HeaderLabel", QT_TRANSLATE_NOOP("ShowUpdateAvail", "Velmora Halvane")},
                            {"PixmapLabel", "img_Information.png"},
                            {},
@@ -27,9 +25,7 @@ const DialogShape Shape = {"ShowUpdateAvail",
                            "",
                            "BottomFrame"};
 
-QShowUpdate::QShowUpdate(QWidget *parent) : QShowUpdate(parent, Kind::AsFound) {}
-
-QShowUpdate::QShowUpdate(QWidget *parent, Kind kind) : QDialog(parent), m_Frame(this), m_eKind(kind)
+QShowUpdate::QShowUpdate(QWidget *parent, bool major) : QDialog(parent), m_Frame(this), m_bMajor(major)
 {
     QVBoxLayout *column = m_Frame.build(Shape);
     m_pTextEdit = DialogFrame::addText(column);
@@ -41,12 +37,12 @@ QShowUpdate::QShowUpdate(QWidget *parent, Kind kind) : QDialog(parent), m_Frame(
     connect(m_Frame.button(DialogButton::First), &QPushButton::clicked, this, &QShowUpdate::DownloadApp);
     connect(m_Frame.button(DialogButton::Last), &QPushButton::clicked, this, &QShowUpdate::CancelDownload);
     connect(m_pLinkLabel, &QLabel::linkActivated, this, [](const QString &page) { links::openPage(page); });
-    translateTexts();
+    m_Frame.keepTranslated([this] { translateTexts(); });
 }
 
 QString QShowUpdate::offerText() const
 {
-    const bool major = m_eKind == Kind::Major || g_bMajorUpdate;
+    const bool major = m_bMajor || g_bMajorUpdate;
     // Either line of the file may have brought either kind.
     const QString &own = major ? g_strLatestMajor : g_strLatestMinor;
     const QString &other = major ? g_strLatestMinor : g_strLatestMajor;
@@ -77,11 +73,4 @@ void QShowUpdate::CancelDownload()
 {
     update::removeVersions();
     reject();
-}
-
-void QShowUpdate::changeEvent(QEvent *event)
-{
-    if (event->type() == QEvent::LanguageChange)
-        translateTexts();
-    QDialog::changeEvent(event);
 }

@@ -14,26 +14,29 @@ class QShowUpdate : public QDialog
     Q_OBJECT
 
 public:
-    explicit QShowUpdate(QWidget *parent = nullptr);
+    /// With `major` it speaks of a major release, whatever was found.
+    explicit QShowUpdate(QWidget *parent = nullptr, bool major = false);
 
 public slots:
     /// Hides the offer and begins the download.
     void DownloadApp();
     void CancelDownload();
 
-protected:
-    /// Whether the offer is of a release or of an update.
-    enum class Kind { AsFound, Major };
-    QShowUpdate(QWidget *parent, Kind kind);
-
-    void changeEvent(QEvent *event) override;
-
 private:
     void translateTexts();
     QString offerText() const;
 
     DialogFrame m_Frame;
-    const Kind m_eKind;
+    const bool m_bMajor;
     QTextEdit *m_pTextEdit;
     QLabel *m_pLinkLabel;
+};
+
+/// The twin that always speaks of a major release. The check itself opens QShowUpdate, which tells both.
+class QMajorUpdate : public QShowUpdate
+{
+    Q_OBJECT
+
+public:
+    explicit QMajorUpdate(QWidget *parent = nullptr) : QShowUpdate(parent, true) {}
 };

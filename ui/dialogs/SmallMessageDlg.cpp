@@ -3,14 +3,15 @@
 
 #include "ui/widgets/Style.h"
 
+#include <QApplication>
 #include <QBoxLayout>
 #include <QLabel>
+#include <QPointer>
 #include <QPushButton>
 #include <QTextEdit>
 
 const DialogShape Shape = {"SmallMsg",
                            420,
-                           QT_TRANSLATE_NOOP("SmallMsg", "Velmora Halvane"),
                            {"HeaderLabel", QT_TRANSLATE_NOOP("SmallMsg", "Velmora Halvane")},
                            {"PixmapLabel", "img_Information.png"},
                            {},
@@ -53,4 +54,13 @@ void SmallMessageDlg::SetText(const QString &text, int leadingBlankLines)
 
     // The same room below as the empty blocks take above, so that the text stands beside the picture.
     m_Frame.fitText(m_pTextEdit, textBlock);
+}
+
+void ShowUpdateMessage(const QString &text, int leadingBlankLines)
+{
+    // The window below may go while the message is up, and takes its children with it.
+    QPointer<SmallMessageDlg> dialog = new SmallMessageDlg(QApplication::activeWindow());
+    dialog->SetText(text, leadingBlankLines);
+    dialog->exec();
+    delete dialog;
 }

@@ -22,3 +22,7 @@ private:
     DialogFrame m_Frame;
     QTextEdit *m_pTextEdit;
 };
+
+/// Shows a message of the update in a modal SmallMessageDlg and returns when it was closed. With fewer than
+/// two leading blank lines the text begins one line lower. Main thread only.
+void ShowUpdateMessage(const QString &text, int leadingBlankLines);

@@ -5,7 +5,7 @@
 #include "state/CloneTexts.h"
 #include "state/GlobalApp.h"
 #include "state/JobState.h"
-#include "ui/dialogs/InfoDialogClass.h"
+#include "ui/dialogs/MessageDialog.h"
 #include "ui/screens/PageLook.h"
 #include "ui/widgets/QRoundProgressBar.h"
 #include "ui/widgets/Style.h"

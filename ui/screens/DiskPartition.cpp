@@ -3,7 +3,6 @@
 
 #include "state/Globals.h"
 #include "ui/screens/PageLook.h"
-#include "ui/widgets/DonutChartView.h"
 #include "ui/widgets/Style.h"
 
 #include <QScrollArea>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "ui/screens/Page.h"
-#include "ui/widgets/DonutSeries.h"
+#include "ui/widgets/DonutChartView.h"
 
 #include "ui_DiskPartition.h"
 

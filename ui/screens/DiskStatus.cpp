@@ -8,7 +8,7 @@
 #include "state/Globals.h"
 #include "state/Languages.h"
 #include "state/Scale.h"
-#include "ui/widgets/FittingLabel.h"
+#include "ui/widgets/FittingTexts.h"
 #include "ui/widgets/Images.h"
 #include "ui/widgets/Style.h"
 

@@ -4,7 +4,7 @@
 #include "scan/ScanGlobals.h"
 #include "state/GlobalApp.h"
 #include "state/JobState.h"
-#include "ui/dialogs/InfoDialogClass.h"
+#include "ui/dialogs/MessageDialog.h"
 #include "ui/screens/PageLook.h"
 #include "ui/screens/SelfTestPanel.h"
 #include "ui/widgets/Images.h"

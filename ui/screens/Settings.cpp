@@ -4,9 +4,8 @@
 #include "state/Languages.h"
 #include "state/SettingsRules.h"
 #include "state/SettingsStore.h"
-#include "ui/dialogs/ManualCheck.h"
 #include "ui/dialogs/QCheckUpdate.h"
-#include "ui/dialogs/UpdateMessage.h"
+#include "ui/dialogs/SmallMessageDlg.h"
 #include "ui/widgets/Images.h"
 #include "ui/widgets/Style.h"
 #include "update/HelpLinks.h"
@@ -41,11 +40,7 @@ Settings::Settings() : m_Frame(this), m_pLanguageMenu(new QMenu(this))
     setupUi(this);
     addHeaderButtons();
     fillFields();
-    DialogLook look;
-    look.title = HeaderLabel;
-    look.dismiss = CloseButton;
-    look.confirm = OkButton;
-    m_Frame.dress(look);
+    m_Frame.dress(HeaderLabel, CloseButton, OkButton);
     styleFields();
     BuildLanguageMenu();
     translateTexts();

@@ -6,7 +6,6 @@
 
 #include <QPainter>
 #include <QPixmap>
-#include <QTimerEvent>
 
 #include <algorithm>
 
@@ -37,7 +36,48 @@ QSize halfOf(const QWidget *widget)
     return QSize(widget->width() / 2, widget->height());
 }
 
+int spanOf(double value, double total, int circle)
+{
+    // Also true for values that are no numbers.
+    if (!(total < 0 || total > 0))
+        return 0;
+    const double limit = circle;
+    return static_cast<int>(std::clamp(value * limit / total, -limit, limit));
+}
+
 } // namespace
+
+DonutSeries::~DonutSeries()
+{
+    Clear();
+}
+
+void DonutSeries::AddSlice(double value, const QString &label, const QString &colourText)
+{
+    listSlices.append(new DonutSlice{label, value, colourText});
+    dTotal = 0;
+    for (const DonutSlice *slice : qAsConst(listSlices))
+        dTotal += slice->dValue;
+}
+
+void DonutSeries::Clear()
+{
+    qDeleteAll(listSlices);
+    listSlices.clear();
+    dTotal = 0;
+}
+
+int DonutSeries::SpanSixteenths(double value) const
+{
+    constexpr int Circle = 5760;
+    return spanOf(value, dTotal, Circle);
+}
+
+int DonutSeries::SpanDegrees(double value) const
+{
+    constexpr int Circle = 360;
+    return spanOf(value, dTotal, Circle);
+}
 
 DonutChartView::DonutChartView(DonutSeries *series, DonutLegend *legend, QWidget *parent)
     : QWidget(parent), m_pSeries(series), m_pLegend(legend)
@@ -147,18 +187,5 @@ void DonutChartView::paintEvent(QPaintEvent *event)
         if (g_nCurrentDiskIndex >= 0)
             painter.drawText(rect, Qt::AlignCenter, tr("Disk ") + QString::number(g_nCurrentDiskIndex));
     }
-    // Paints itself again and again while it is visible, but not more often than a display can show: as
-    // fast as the event loop allows, this took half a core. update() does nothing for a hidden widget, but
-    // may for one in a minimised window.
-    constexpr int FrameMilliseconds = 16;
-    if (!window()->isMinimized() && !m_nextPaint.isActive())
-        m_nextPaint.start(FrameMilliseconds, this);
-}
-
-void DonutChartView::timerEvent(QTimerEvent *event)
-{
-    if (event->timerId() != m_nextPaint.timerId())
-        return;
-    m_nextPaint.stop();
-    update();
+    style::paintAgain(this);
 }

@@ -10,36 +10,34 @@
 FramelessDrag::FramelessDrag(QWidget *window, int titleHeight)
     : m_pWindow(window), m_nTitleHeight(titleHeight)
 {
+    window->installEventFilter(this);
 }
 
-void FramelessDrag::press(const QMouseEvent *event)
+bool FramelessDrag::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->button() != Qt::LeftButton)
-        return;
-    g_bDragging = false;
-    m_nPressX = event->pos().x();
-    m_nPressY = event->pos().y();
-    m_ptDrag = m_pWindow->frameGeometry().topLeft();
-    g_bDragging = true;
+    const QEvent::Type type = event->type();
+    if (type != QEvent::MouseButtonPress && type != QEvent::MouseMove && type != QEvent::MouseButtonRelease)
+        return QObject::eventFilter(watched, event);
+    const auto *mouse = static_cast<QMouseEvent *>(event);
+    if (type == QEvent::MouseMove) {
+        if (g_bDragging && (mouse->buttons() & Qt::LeftButton))
+            moveWindow(mouse->globalPos());
+    } else if (mouse->button() == Qt::LeftButton) {
+        g_bDragging = type == QEvent::MouseButtonPress;
+        if (g_bDragging) {
+            m_nPressX = mouse->pos().x();
+            m_nPressY = mouse->pos().y();
+        }
+        m_ptDrag = g_bDragging ? m_pWindow->frameGeometry().topLeft() : mouse->globalPos();
+    }
+    return false;
 }
 
-void FramelessDrag::move(QMouseEvent *event)
+void FramelessDrag::moveWindow(const QPoint &pointer)
 {
-    if (!(event->buttons() & Qt::LeftButton) || !g_bDragging)
-        return;
     if (m_nTitleHeight >= 0 && m_nPressY > style::px(m_nTitleHeight))
         return;
     // The spot under the pointer stays on the screen, so that the window can be dragged back.
-    const QRect reach = style::availableArea(event->globalPos());
-    const QPoint held = style::placeWithin(QRect(event->globalPos(), QSize(1, 1)), reach);
+    const QPoint held = style::placeWithin(QRect(pointer, QSize(1, 1)), style::availableArea(pointer));
     m_pWindow->move(held - QPoint(m_nPressX, m_nPressY));
-    event->accept();
-}
-
-void FramelessDrag::release(const QMouseEvent *event)
-{
-    if (event->button() != Qt::LeftButton)
-        return;
-    m_ptDrag = event->globalPos();
-    g_bDragging = false;
 }

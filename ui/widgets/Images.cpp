@@ -14,8 +14,6 @@ namespace images
 namespace
 {
 
-constexpr char PathProperty[] = "imagePath";
-
 QString pathInSet(int set, const QString &file, Family family)
 {
     if (set == 96 && family == Family::Plain)
@@ -46,12 +44,7 @@ void setLabelImage(QLabel *label, const QString &file, Family family)
     label->setPixmap(QPixmap(found));
     if (scale::percent() > 150)
         label->setScaledContents(true);
-    label->setProperty(PathProperty, found);
-}
-
-QString labelImage(const QLabel *label)
-{
-    return label->property(PathProperty).toString();
+    label->setProperty("imagePath", found);
 }
 
 QMovie *newMovie(const QString &file, QObject *parent)

@@ -27,9 +27,6 @@ QString nearestPath(const QString &file, Family family = Family::Plain);
 /// set, the label keeps what it had. Above a scale of 150 percent the picture is stretched.
 void setLabelImage(QLabel *label, const QString &file, Family family = Family::Plain);
 
-/// The resource path that a label shows; empty if none was set.
-QString labelImage(const QLabel *label);
-
 /// A new animation, the child of `parent`.
 QMovie *newMovie(const QString &file, QObject *parent);
 

@@ -22,47 +22,7 @@ MyButton::MyButton(QWidget *parent) : QPushButton(parent)
     initialise(this);
 }
 
-void MyButton::enterEvent(QEvent *)
-{
-    emit ChangePixmap();
-}
-
-void MyButton::leaveEvent(QEvent *)
-{
-    emit OnUpdatePixmap();
-}
-
-void MyButton::mousePressEvent(QMouseEvent *)
-{
-    emit OnPressPixmap();
-}
-
-void MyButton::mouseReleaseEvent(QMouseEvent *)
-{
-    emit OnReleasePixmap();
-}
-
 MyButton1::MyButton1(QWidget *parent) : QPushButton(parent)
 {
     initialise(this);
-}
-
-void MyButton1::enterEvent(QEvent *)
-{
-    emit ChangePixmap1();
-}
-
-void MyButton1::leaveEvent(QEvent *)
-{
-    emit OnUpdatePixmap1();
-}
-
-void MyButton1::mousePressEvent(QMouseEvent *)
-{
-    emit OnPressPixmap1();
-}
-
-void MyButton1::mouseReleaseEvent(QMouseEvent *)
-{
-    emit OnReleasePixmap1();
 }

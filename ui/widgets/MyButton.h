@@ -3,8 +3,8 @@
 
 #include <QPushButton>
 
-/// A navigation button that only tells what the mouse does: press and release do no click handling, the down
-/// state is set by the application and stays until it is cleared.
+/// A navigation button that only tells what the mouse does: press and release do no click handling. The
+/// application sets the down state, which stays until it is cleared.
 class MyButton : public QPushButton
 {
     Q_OBJECT
@@ -19,10 +19,10 @@ signals:
     void OnReleasePixmap(); ///< and up again
 
 protected:
-    void enterEvent(QEvent *event) override;
-    void leaveEvent(QEvent *event) override;
-    void mousePressEvent(QMouseEvent *event) override;
-    void mouseReleaseEvent(QMouseEvent *event) override;
+    void enterEvent(QEvent *) override { emit ChangePixmap(); }
+    void leaveEvent(QEvent *) override { emit OnUpdatePixmap(); }
+    void mousePressEvent(QMouseEvent *) override { emit OnPressPixmap(); }
+    void mouseReleaseEvent(QMouseEvent *) override { emit OnReleasePixmap(); }
 };
 
 /// The same with signal names of its own: the back button of the self-test page.
@@ -34,14 +34,14 @@ public:
     explicit MyButton1(QWidget *parent = nullptr);
 
 signals:
-    void ChangePixmap1();
-    void OnUpdatePixmap1();
-    void OnPressPixmap1();
-    void OnReleasePixmap1();
+    void ChangePixmap1();    ///< the pointer came over the button
+    void OnUpdatePixmap1();  ///< the pointer left it
+    void OnPressPixmap1();   ///< a mouse button went down on it
+    void OnReleasePixmap1(); ///< and up again
 
 protected:
-    void enterEvent(QEvent *event) override;
-    void leaveEvent(QEvent *event) override;
-    void mousePressEvent(QMouseEvent *event) override;
-    void mouseReleaseEvent(QMouseEvent *event) override;
+    void enterEvent(QEvent *) override { emit ChangePixmap1(); }
+    void leaveEvent(QEvent *) override { emit OnUpdatePixmap1(); }
+    void mousePressEvent(QMouseEvent *) override { emit OnPressPixmap1(); }
+    void mouseReleaseEvent(QMouseEvent *) override { emit OnReleasePixmap1(); }
 };

@@ -9,7 +9,6 @@
 
 #include <QMouseEvent>
 #include <QPainter>
-#include <QTimerEvent>
 #include <QToolTip>
 
 namespace
@@ -17,17 +16,9 @@ namespace
 
 QColor colourOf(blockmap::Cell cell)
 {
-    switch (cell) {
-    case blockmap::Cell::Processed:
-        return QColor::fromRgba(blockmap::ProcessedColour);
-    case blockmap::Cell::Working:
-        return QColor::fromRgba(blockmap::WorkingColour);
-    case blockmap::Cell::Bad:
-        return QColor::fromRgba(blockmap::BadColour);
-    case blockmap::Cell::Empty:
-        break;
-    }
-    return QColor::fromRgba(blockmap::BackgroundColour);
+    constexpr QRgb colours[] = {blockmap::BackgroundColour, blockmap::ProcessedColour,
+                                blockmap::WorkingColour, blockmap::BadColour};
+    return QColor::fromRgba(colours[static_cast<int>(cell)]);
 }
 
 } // namespace
@@ -99,19 +90,7 @@ void QGridView::paintEvent(QPaintEvent *)
     QPainter painter(this);
     drawCells(&painter);
     drawGrid(&painter);
-    // Paints itself again and again while it is visible, but not more often than a display can show, and
-    // not in a minimised window.
-    constexpr int FrameMilliseconds = 16;
-    if (!window()->isMinimized() && !m_nextPaint.isActive())
-        m_nextPaint.start(FrameMilliseconds, this);
-}
-
-void QGridView::timerEvent(QTimerEvent *event)
-{
-    if (event->timerId() != m_nextPaint.timerId())
-        return;
-    m_nextPaint.stop();
-    update();
+    style::paintAgain(this);
 }
 
 void QGridView::drawCells(QPainter *painter) const

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QBasicTimer>
 #include <QVariantList>
 #include <QWidget>
 
@@ -38,7 +37,6 @@ public:
 protected:
     void mouseMoveEvent(QMouseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
-    void timerEvent(QTimerEvent *event) override;
 
 private:
     void drawCells(QPainter *painter) const;
@@ -47,5 +45,4 @@ private:
     int m_nSizeHint;
     qlonglong m_i64Start = 0;
     qlonglong m_i64End = 0;
-    QBasicTimer m_nextPaint;
 };

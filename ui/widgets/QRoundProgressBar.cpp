@@ -45,8 +45,12 @@ void QRoundProgressBar::keepInBounds()
     if (m_dMaximum < m_dMinimum)
         std::swap(m_dMinimum, m_dMaximum);
     m_dValue = std::clamp(m_dValue, m_dMinimum, m_dMaximum);
-    if (!m_vecGradientStops.isEmpty())
-        m_bRebuildBrush = true;
+    repaintBar();
+}
+
+void QRoundProgressBar::repaintBar()
+{
+    m_bRebuildBrush = m_bRebuildBrush || !m_vecGradientStops.isEmpty();
     update();
 }
 
@@ -75,9 +79,7 @@ void QRoundProgressBar::SetNullPosition(double degrees)
     if (qFuzzyIsNull(m_dNullPosition - degrees))
         return;
     m_dNullPosition = degrees;
-    if (!m_vecGradientStops.isEmpty())
-        m_bRebuildBrush = true;
-    update();
+    repaintBar();
 }
 
 void QRoundProgressBar::SetBarStyle(int style)

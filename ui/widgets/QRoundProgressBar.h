@@ -56,6 +56,7 @@ protected:
 
 private:
     void keepInBounds();
+    void repaintBar();
     void rebuildBrush();
     void paintRing(QPainter &painter, const QRectF &rect, double value, double delta);
 

@@ -88,7 +88,7 @@ QValueAxis *addHiddenAxis(QChart *chart, const GraphModel &model)
 }
 
 /// Numbers as texts, for those that the library cannot tell apart.
-QValueAxis *addNamedAxis(QChart *chart, const GraphModel &model)
+QValueAxis *namedAxis(const GraphModel &model)
 {
     auto *axis = new QCategoryAxis;
     axis->setLabelsPosition(QCategoryAxis::AxisLabelsPositionOnValue);
@@ -97,20 +97,16 @@ QValueAxis *addNamedAxis(QChart *chart, const GraphModel &model)
     double number = 0;
     for (const QString &label : model.yLabels)
         axis->append(label, model.yMin + (model.yMax - model.yMin) * number++ / steps);
-    axis->setRange(model.yMin, model.yMax);
-    dressAxis(axis);
-    chart->addAxis(axis, Qt::AlignLeft);
     return axis;
 }
 
 QValueAxis *addValueAxis(QChart *chart, const GraphModel &model)
 {
-    if (!model.yLabels.empty())
-        return addNamedAxis(chart, model);
-    auto *axis = new QValueAxis;
-    axis->setLabelFormat(numberFormat(model.yMin, model.yMax));
+    QValueAxis *axis = model.yLabels.empty() ? new QValueAxis : namedAxis(model);
     axis->setRange(model.yMin, model.yMax);
-    if (model.yTicks > 0)
+    if (model.yLabels.empty())
+        axis->setLabelFormat(numberFormat(model.yMin, model.yMax));
+    if (model.yLabels.empty() && model.yTicks > 0)
         axis->setTickCount(model.yTicks);
     dressAxis(axis);
     if (axis->tickCount() > RoomyTicks) {
@@ -122,6 +118,13 @@ QValueAxis *addValueAxis(QChart *chart, const GraphModel &model)
     }
     chart->addAxis(axis, Qt::AlignLeft);
     return axis;
+}
+
+void addDayAxis(QChart *chart, QAbstractAxis *days)
+{
+    dressAxis(days);
+    days->setGridLineVisible(false);
+    chart->addAxis(days, Qt::AlignBottom);
 }
 
 /// The labels, made distinct: the axis drops one that it has already, and days of different years can look
@@ -143,9 +146,7 @@ void addCross(QChart *chart, const GraphModel &model, QValueAxis *values)
     auto *day = new QCategoryAxis;
     for (const QString &label : model.labels)
         day->append(label, model.labelEnd);
-    dressAxis(day);
-    day->setGridLineVisible(false);
-    chart->addAxis(day, Qt::AlignBottom);
+    addDayAxis(chart, day);
     for (const GraphSeries &each : model.series) {
         QLineSeries *series = addSeries(chart, each);
         series->attachAxis(across);
@@ -165,9 +166,7 @@ QLineSeries *addLine(QChart *chart, const GraphModel &model, QValueAxis *values)
     chart->addSeries(labelled);
     auto *days = new QBarCategoryAxis;
     days->append(distinctLabels(model.labels));
-    dressAxis(days);
-    days->setGridLineVisible(false);
-    chart->addAxis(days, Qt::AlignBottom);
+    addDayAxis(chart, days);
     labelled->attachAxis(days);
     addHiddenAxis(chart, model);
     return line;
@@ -202,16 +201,20 @@ void SmartChartView::ShowGraph(const GraphModel &model)
     else
         m_pLine = addLine(fresh.get(), model, values);
     m_pDenseAxis = values->tickCount() > RoomyTicks ? values : nullptr;
-    const std::unique_ptr<QChart> previous(chart());
-    setChart(fresh.release());
+    replaceChart(std::move(fresh));
 }
 
 void SmartChartView::Clear()
 {
     m_pLine = nullptr;
     m_pDenseAxis = nullptr;
+    replaceChart(newChart());
+}
+
+void SmartChartView::replaceChart(std::unique_ptr<QChart> fresh)
+{
     const std::unique_ptr<QChart> previous(chart());
-    setChart(newChart().release());
+    setChart(fresh.release());
 }
 
 void SmartChartView::drawForeground(QPainter *painter, const QRectF &rect)

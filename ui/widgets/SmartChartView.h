@@ -5,6 +5,8 @@
 
 #include <QtCharts/QChartView>
 
+#include <memory>
+
 namespace QtCharts
 {
 class QLineSeries;
@@ -29,6 +31,7 @@ protected:
     void drawForeground(QPainter *painter, const QRectF &rect) override;
 
 private:
+    void replaceChart(std::unique_ptr<QtCharts::QChart> fresh);
     void drawScale(QPainter *painter, const QtCharts::QValueAxis &axis) const;
     void drawLine(QPainter *painter, const QtCharts::QLineSeries &line) const;
 

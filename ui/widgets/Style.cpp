@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QTextDocument>
+#include <QTimer>
 #include <QWidget>
 
 #include <algorithm>
@@ -150,6 +151,21 @@ void setWholeTip(QWidget *widget, const QString &text)
     const QString tip = wholeTip(text);
     if (widget->toolTip() != tip)
         widget->setToolTip(tip);
+}
+
+void paintAgain(QWidget *widget)
+{
+    // As fast as the event loop allows, it would take half a core.
+    constexpr int FrameMilliseconds = 16;
+    auto *timer = widget->findChild<QTimer *>();
+    if (!timer) {
+        timer = new QTimer(widget);
+        timer->setSingleShot(true);
+        QObject::connect(timer, &QTimer::timeout, widget, QOverload<>::of(&QWidget::update));
+    }
+    // update() does nothing for a hidden widget, but may for one in a minimised window.
+    if (!widget->window()->isMinimized() && !timer->isActive())
+        timer->start(FrameMilliseconds);
 }
 
 QString fieldSheet()

@@ -55,6 +55,10 @@ QString wholeTip(const QString &text);
 /// empty one. May be called while it paints.
 void setWholeTip(QWidget *widget, const QString &text);
 
+/// Paints a widget again with the display's next frame, unless its window is minimised. Call it at the end of
+/// paintEvent() of a widget whose picture changes all the time.
+void paintAgain(QWidget *widget);
+
 /// The look of the window's fields: combos, spin boxes, line edits, check boxes and scroll bars. Belongs on a
 /// top-level window.
 QString fieldSheet();

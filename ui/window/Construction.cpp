@@ -8,15 +8,7 @@
 #include "state/Languages.h"
 #include "state/SettingsStore.h"
 #include "state/StartArgument.h"
-#include "ui/dialogs/CloneWarning.h"
-#include "ui/dialogs/CloseWgt.h"
-#include "ui/dialogs/ConfarmetionClass.h"
-#include "ui/dialogs/DestinitionWarning.h"
-#include "ui/dialogs/InfoDialogClass.h"
-#include "ui/dialogs/ScanSwitchClass.h"
-#include "ui/dialogs/SelfTestNotSupported.h"
-#include "ui/dialogs/ShutDownWarning.h"
-#include "ui/dialogs/SmartWarning.h"
+#include "ui/dialogs/MessageDialog.h"
 #include "ui/screens/AccessNotice.h"
 #include "ui/screens/CloneDisk.h"
 #include "ui/screens/DiskPartition.h"
@@ -32,7 +24,6 @@
 
 #include <QAction>
 #include <QEvent>
-#include <QMouseEvent>
 #include <QTimer>
 #include <QTreeWidget>
 
@@ -467,19 +458,4 @@ void MainWindow::changeEvent(QEvent *event)
     if (event->type() == QEvent::WindowStateChange && m_pDiskPartitionPage)
         m_pDiskPartitionPage->m_pDonutView->update();
     QMainWindow::changeEvent(event);
-}
-
-void MainWindow::mousePressEvent(QMouseEvent *event)
-{
-    m_drag.press(event);
-}
-
-void MainWindow::mouseMoveEvent(QMouseEvent *event)
-{
-    m_drag.move(event);
-}
-
-void MainWindow::mouseReleaseEvent(QMouseEvent *event)
-{
-    m_drag.release(event);
 }

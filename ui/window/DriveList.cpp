@@ -7,7 +7,7 @@
 #include "state/GlobalApp.h"
 #include "state/Globals.h"
 #include "state/StartArgument.h"
-#include "ui/dialogs/CloneWarning.h"
+#include "ui/dialogs/MessageDialog.h"
 #include "ui/screens/CloneDisk.h"
 #include "ui/screens/ScanDisk.h"
 

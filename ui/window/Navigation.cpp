@@ -3,8 +3,7 @@
 
 #include "state/GlobalApp.h"
 #include "state/Globals.h"
-#include "ui/dialogs/ConfarmetionClass.h"
-#include "ui/dialogs/ScanSwitchClass.h"
+#include "ui/dialogs/MessageDialog.h"
 #include "ui/screens/AccessNotice.h"
 #include "ui/screens/CloneDisk.h"
 #include "ui/screens/ScanDisk.h"

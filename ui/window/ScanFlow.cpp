@@ -5,7 +5,7 @@
 #include "smart/SelfTestGlobals.h"
 #include "state/GlobalApp.h"
 #include "state/Globals.h"
-#include "ui/dialogs/ConfarmetionClass.h"
+#include "ui/dialogs/MessageDialog.h"
 #include "ui/screens/CloneDisk.h"
 #include "ui/screens/ScanDisk.h"
 #include "ui/screens/SelfTestPanel.h"

@@ -3,8 +3,7 @@
 
 #include "smart/SmartGlobals.h"
 #include "state/Globals.h"
-#include "ui/dialogs/ConfarmetionClass.h"
-#include "ui/dialogs/SelfTestNotSupported.h"
+#include "ui/dialogs/MessageDialog.h"
 #include "ui/screens/ScanDisk.h"
 #include "ui/screens/SelfTestPanel.h"
 #include "ui/widgets/MyButton.h"

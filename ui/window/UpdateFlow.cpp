@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "state/Globals.h"
-#include "ui/dialogs/ManualCheck.h"
 #include "ui/dialogs/QCheckUpdate.h"
 #include "ui/widgets/Style.h"
 #include "ui/window/MainWindow.h"

@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/widgets/FittingTexts.h"
+
+#include "ui/widgets/Style.h"
+
+#include <QPainter>
+#include <QStyleOptionComboBox>
+#include <QStylePainter>
+
+#include <algorithm>
+
+namespace
+{
+
+/// Draws as the style draws a label, so that the style sheet's colour holds.
+void drawLine(QLabel *label, const QString &text, const QFont &font)
+{
+    QStylePainter painter(label);
+    painter.setFont(font);
+    QStyleOption option;
+    option.initFrom(label);
+    painter.drawItemText(label->contentsRect(),
+                         QStyle::visualAlignment(label->layoutDirection(), label->alignment()),
+                         option.palette, label->isEnabled(), text, label->foregroundRole());
+}
+
+QFont captionFont(const QFont &font)
+{
+    return style::semiBold(font.pointSize());
+}
+
+} // namespace
+
+QSize ElidingLabel::minimumSizeHint() const
+{
+    constexpr int FewestCharacters = 4;
+    const QSize whole = QLabel::minimumSizeHint();
+    return QSize(qMin(whole.width(), FewestCharacters * fontMetrics().averageCharWidth()), whole.height());
+}
+
+void ElidingLabel::paintEvent(QPaintEvent *)
+{
+    const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width());
+    style::setWholeTip(this, shown == text() ? QString() : text());
+    drawLine(this, shown, font());
+}
+
+void FittingLabel::paintEvent(QPaintEvent *)
+{
+    constexpr int SmallestPoints = 8;
+    QFont fitting = font();
+    while (fitting.pointSize() > SmallestPoints &&
+           QFontMetrics(fitting, this).horizontalAdvance(text()) > m_nRoom)
+        fitting.setPointSize(fitting.pointSize() - 1);
+    drawLine(this, text(), fitting);
+}
+
+DetailLabel::Parts DetailLabel::parts(const QString &text)
+{
+    // The wide colon is that of the East Asian translations.
+    const auto colon = std::find_if(text.cbegin(), text.cend(), [](QChar letter) {
+        return letter == QLatin1Char(':') || letter == QChar(0xFF1A);
+    });
+    const int length = static_cast<int>(colon - text.cbegin());
+    return {text.left(length).trimmed(), text.mid(length).trimmed()};
+}
+
+void DetailLabel::align(std::initializer_list<DetailLabel *> labels)
+{
+    int widest = 0;
+    for (const DetailLabel *label : labels) {
+        const QFontMetrics metrics(captionFont(label->font()));
+        widest = std::max(widest, metrics.horizontalAdvance(parts(label->text()).caption));
+    }
+    for (DetailLabel *label : labels) {
+        label->m_nValueX = widest + style::px(8);
+        label->updateGeometry();
+        label->update();
+    }
+}
+
+QSize DetailLabel::sizeHint() const
+{
+    const QFontMetrics metrics(font());
+    return {m_nValueX + metrics.horizontalAdvance(parts(text()).value), metrics.height()};
+}
+
+QSize DetailLabel::minimumSizeHint() const
+{
+    return {m_nValueX, QFontMetrics(font()).height()};
+}
+
+void DetailLabel::paintEvent(QPaintEvent *)
+{
+    constexpr int Flags = Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine;
+    const Parts shown = parts(text());
+    const int room = std::max(0, width() - m_nValueX);
+    QPainter painter(this);
+    painter.setPen(palette().color(foregroundRole()));
+    painter.setFont(captionFont(font()));
+    painter.drawText(rect(), Flags, shown.caption);
+    painter.setFont(font());
+    const QString value = QFontMetrics(font()).elidedText(shown.value, Qt::ElideRight, room);
+    style::setWholeTip(this, value == shown.value ? QString() : shown.caption + shown.value);
+    painter.drawText(QRect(m_nValueX, 0, room, height()), Flags, value);
+}
+
+void ElidingComboBox::showPopup()
+{
+    for (int i = 0; i < count(); ++i)
+        setItemData(i, style::wholeTip(itemText(i)), Qt::ToolTipRole);
+    QComboBox::showPopup();
+}
+
+void ElidingComboBox::paintEvent(QPaintEvent *)
+{
+    QStylePainter painter(this);
+    painter.setPen(palette().color(QPalette::Text));
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    const QRect field =
+        style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+    // The style keeps a pixel free at either side of the text.
+    option.currentText = fontMetrics().elidedText(currentText(), Qt::ElideRight, field.width() - 2);
+    style::setWholeTip(this, option.currentText == currentText() ? QString() : currentText());
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+}

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QComboBox>
+#include <QLabel>
+
+#include <initializer_list>
+
+/// Labels and combos for texts that can be too long for their room. All are without Q_OBJECT, so that their
+/// class names stay QLabel and QComboBox.
+
+/// A label of one plain line that elides a text too long for it; a tool tip holds the whole text then. It
+/// asks for the text's width and makes do with less.
+class ElidingLabel : public QLabel
+{
+public:
+    using QLabel::QLabel;
+
+    QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+};
+
+/// A label of one plain line that draws a text too long for its room in smaller letters.
+class FittingLabel : public QLabel
+{
+public:
+    /// `room` is the width in pixels that a text may take.
+    explicit FittingLabel(int room, QWidget *parent = nullptr) : QLabel(parent), m_nRoom(room) {}
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    const int m_nRoom;
+};
+
+/// A label of a caption and a value in one text, "Capacity\t: 931.51 GB". The caption is semibold. The value
+/// begins with the colon, at a place that several labels share, so that their values stand in one column.
+/// Tabs and blanks that pad the caption are dropped. A value that does not fit is elided, and a tool tip
+/// holds the whole text.
+class DetailLabel : public QLabel
+{
+public:
+    using QLabel::QLabel;
+
+    /// A detail text taken apart at its first colon; all caption where there is none.
+    struct Parts {
+        QString caption; ///< trimmed
+        QString value;   ///< with the colon
+    };
+    static Parts parts(const QString &text);
+
+    /// Puts the values of the labels of one column at the same place, behind the widest caption.
+    static void align(std::initializer_list<DetailLabel *> labels);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    int m_nValueX = 0; ///< pixels
+};
+
+/// A combo box that elides a current text too long for it; a tool tip holds the whole text then, and that of
+/// each entry of the list.
+class ElidingComboBox : public QComboBox
+{
+public:
+    using QComboBox::QComboBox;
+
+    void showPopup() override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+};
