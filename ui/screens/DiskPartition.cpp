@@ -126,7 +126,6 @@ void DiskPartition::makeScrollArea()
     m_pScrollArea->setFrameShape(QFrame::NoFrame);
     m_pScrollArea->setWidgetResizable(true);
     m_pScrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    pagelook::styleVerticalScrollBar(m_pScrollArea);
     style::setWhiteBackground(m_pScrollArea);
 
     m_pFrameHost = new QFrame;

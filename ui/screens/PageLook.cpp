@@ -4,11 +4,9 @@
 #include "smart/Rating.h"
 #include "ui/widgets/Style.h"
 
-#include <QAbstractScrollArea>
 #include <QCoreApplication>
 #include <QFrame>
 #include <QLabel>
-#include <QScrollBar>
 
 #include <algorithm>
 
@@ -85,19 +83,6 @@ void styleCard(QFrame *frame)
     frame->setStyleSheet(
         QStringLiteral(".QFrame{background: #ffffff; border: 1px solid #dfe5eb; border-radius: %1px;}")
             .arg(style::px(8)));
-}
-
-void styleVerticalScrollBar(QAbstractScrollArea *area)
-{
-    static const char *const sheet =
-        "QScrollBar:vertical{background: #f5f5f5; width: %1px; margin: 0px; border: none;}"
-        "QScrollBar::handle:vertical{background: #c9d2db; border-radius: %2px; min-height: %3px; margin: "
-        "1px;}"
-        "QScrollBar::handle:vertical:hover{background: #2a81e5;}"
-        "QScrollBar::add-line:vertical, QScrollBar::sub-line:vertical{height: 0px;}"
-        "QScrollBar::add-page:vertical, QScrollBar::sub-page:vertical{background: none;}";
-    area->verticalScrollBar()->setStyleSheet(
-        QString::fromLatin1(sheet).arg(style::px(10)).arg(style::px(4)).arg(style::px(28)));
 }
 
 } // namespace pagelook

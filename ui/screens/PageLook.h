@@ -5,7 +5,6 @@
 
 #include <initializer_list>
 
-class QAbstractScrollArea;
 class QFrame;
 class QLabel;
 class QWidget;
@@ -33,8 +32,5 @@ void showResult(QLabel *label, OverallResult result);
 
 /// A white card with a hairline border and round corners.
 void styleCard(QFrame *frame);
-
-/// The vertical bar of a view or scroll area.
-void styleVerticalScrollBar(QAbstractScrollArea *area);
 
 } // namespace pagelook

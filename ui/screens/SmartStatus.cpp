@@ -96,7 +96,6 @@ void SmartStatus::makeTree()
     m_pAttributeTree->setItemDelegate(new CellDelegate(m_pAttributeTree));
     m_pAttributeTree->setColumnCount(attributecolumns::Count);
     m_pAttributeTree->setStyleSheet(QStringLiteral(".QTreeWidget{ border: 1px solid #e0d0e0;}"));
-    pagelook::styleVerticalScrollBar(m_pAttributeTree);
 
     QPalette palette = m_pAttributeTree->palette();
     palette.setColor(QPalette::Base, Qt::white);
