@@ -7,7 +7,7 @@
 
 #include <array>
 
-/// The values of the setting of that name.
+/// The values of the setting LanguageType.
 enum class LanguageType {
     English,
     German,
@@ -35,7 +35,7 @@ struct DiskStatusMetrics {
     int performanceTitleHeight;
 };
 
-/// The languages of the program as a table, in the order of LanguageType: all that goes by language.
+/// A table of the languages, in the order of LanguageType, with all that differs by language.
 namespace languages
 {
 
@@ -50,7 +50,7 @@ struct Language {
     int screenshotWidth; ///< of the button Screenshot, in design pixels
     DiskStatusMetrics diskStatus;
 
-    /// Place in GlobalApp::m_abLanguageOffered, and in whatever else goes by LanguageType.
+    /// Place in GlobalApp::m_abLanguageOffered and other tables in the order of LanguageType.
     std::size_t index() const { return static_cast<std::size_t>(type); }
 };
 

@@ -3,7 +3,7 @@
 
 #include <array>
 
-/// The five screens, their buttons and what of the shell shows on them, as tables.
+/// Tables of the five screens: their buttons, and which job buttons of the window they show.
 namespace navigation
 {
 
@@ -17,7 +17,7 @@ struct Button {
 
 extern const std::array<Button, ScreenCount> buttons;
 
-/// Which of the shell's job buttons a screen shows.
+/// Which job buttons of the window a screen shows.
 struct ShellButtons {
     bool scan;
     bool clone;

@@ -6,7 +6,7 @@
 
 #include <QDialog>
 
-/// Version, system, legal line, and the ways to support and licence. Frees itself when closed.
+/// The About box: version, system, legal line, and links to support and licence. Frees itself when closed.
 class AboutDlg : public QDialog
 {
     Q_OBJECT

@@ -28,7 +28,7 @@ namespace
 const QColor BorderColour(0xc9, 0xd2, 0xdb);
 const QColor TitleLineColour(0xe6, 0xea, 0xee);
 constexpr int ButtonPadding = 16;
-constexpr char LeastWidth[] = "leastWidth"; ///< property of a button: its minimum before its text
+constexpr char LeastWidth[] = "leastWidth"; ///< property of a button: its minimum width, whatever its text
 
 template<typename Layout>
 Layout *makeLayout(QWidget *parent, const QMargins &margins, int spacing)
@@ -342,7 +342,7 @@ bool DialogFrame::eventFilter(QObject *watched, QEvent *event)
     case QEvent::KeyPress:
         return keyPressed(static_cast<QKeyEvent *>(event)->key());
     case QEvent::Close:
-        // The button's action first: it may leave the window's pages in order.
+        // The button's action tidies up behind the dialog, so it comes first.
         if (!m_pDismiss) {
             event->ignore();
             return true;

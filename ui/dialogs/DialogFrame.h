@@ -17,8 +17,7 @@ class QTextEdit;
 class QVBoxLayout;
 class QWidget;
 
-/// A widget of a dialog by its object name, and the English text that it shows; none where it is filled
-/// later.
+/// A widget of a dialog: its object name and its English text. Without a text it is filled later.
 struct DialogWord {
     const char *name = nullptr;
     const char *text = nullptr;
@@ -26,35 +25,35 @@ struct DialogWord {
 
 enum class DialogButton { None, First, Last };
 
-/// A dialog in words: title strip, picture, lines of text, and buttons at the right. The last button is the
-/// one that Escape presses.
+/// What a dialog shows: title strip, picture, lines of text, and buttons at the right. Escape presses the
+/// last button.
 struct DialogShape {
     const char *context; ///< of the texts' translations; the object name of the window too
     int width;           ///< design pixels
     DialogWord title;
-    DialogWord picture;            ///< with the file in place of the text; without a name there is none
-    std::vector<DialogWord> lines; ///< the first of several is the heading
+    DialogWord picture;            ///< its text is the file; without a name there is no picture
+    std::vector<DialogWord> lines; ///< where there are several, the first is the heading
     std::vector<DialogWord> buttons;
     DialogButton main = DialogButton::Last;    ///< drawn as the main button
     DialogButton initial = DialogButton::Last; ///< has the focus when the dialog shows
     const char *frame = "MainFrame";           ///< name of the frame about picture and lines
-    const char *bottomFrame = "";              ///< and about the buttons
-    bool ownTitle = false;                     ///< the window is called as the strip, not as the product
+    const char *bottomFrame = "";              ///< name of the frame about the buttons
+    bool ownTitle = false;                     ///< the window has the strip's title, not the product's name
 };
 
 /// Makes a top-level widget one of the product's dialogs: no system frame, white with a hairline border and a
-/// title strip, draggable, scaled to the display. The window is as wide as designed, or wider for long button
-/// texts, and as high as its texts need; word-wrapped labels without text take no room. The window must
+/// title strip, draggable, scaled to the display. The window has its design width, or more for long button
+/// texts. Its height follows its texts; word-wrapped labels without text take no room. The window must
 /// outlive it.
 class DialogFrame : public QObject
 {
 public:
     explicit DialogFrame(QWidget *window);
 
-    /// Fills the empty window with the widgets of a shape, whose texts follow the language from then on.
-    /// Gives the column of the lines, for what a dialog adds. dress() comes next.
+    /// Fills the empty window with the widgets of a shape. From then on their texts follow the language.
+    /// Returns the column of the lines, where a dialog may add widgets. Call dress() behind that.
     QVBoxLayout *build(const DialogShape &shape);
-    /// Dresses the window that build() filled; once, when all its widgets are there.
+    /// Dresses the window that build() filled. Call it once, when all widgets are there.
     void dress();
     /// The same for a window with a form. Escape and the system's close command press `dismiss`.
     void dress(QLabel *title, QPushButton *dismiss, QPushButton *main);
@@ -76,12 +75,12 @@ public:
     static QTextEdit *addText(QBoxLayout *layout);                ///< called textEdit, read only
     /// @}
 
-    /// Makes a text edit as high as its text, so that nothing scrolls, with the same room below as lies above
-    /// its block number `block`; then fits the window.
+    /// Makes a text edit as high as its text, so that nothing scrolls, and fits the window. Below the text it
+    /// leaves as much room as there is above the block number `block`.
     void fitText(QTextEdit *text, int block = 0);
 
-    /// Adapts the size to the texts, about the same centre. Runs by itself when the window is shown and when
-    /// a visible text changes.
+    /// Adapts the window's size to its texts; its centre stays. Runs by itself when the window is shown and
+    /// when a visible text changes.
     void fit();
 
 protected:
@@ -99,7 +98,7 @@ private:
 
     QWidget *m_pWindow;
     DialogShape m_Shape{};
-    bool m_bTextsSet = false; ///< title and lines are no longer the shape's
+    bool m_bTextsSet = false; ///< setTexts() was called
     QVBoxLayout *m_pTexts = nullptr;
     std::vector<QLabel *> m_apLines;
     std::vector<QPushButton *> m_apButtons;

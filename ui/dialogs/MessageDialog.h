@@ -16,7 +16,7 @@ public:
 
 signals:
     void confirmed(); ///< the first of two buttons was pressed
-    void dismissed(); ///< the last button was pressed, by Escape too
+    void dismissed(); ///< the last button was pressed, by hand or by Escape
 
 protected:
     MessageDialog(const DialogShape &shape, QWidget *parent);
@@ -24,8 +24,7 @@ protected:
     DialogFrame m_Frame;
 };
 
-/// Asks before the program ends.
-/// Not modal: a job may be started beneath it.
+/// Asks before the program ends. Not modal: a job may be started while it is open.
 class CloseWgt : public QWidget
 {
     Q_OBJECT
@@ -87,7 +86,7 @@ public:
 
     /// Shows what the disks are called.
     void NameDisks(const QString &source, const QString &destination);
-    /// Takes no confirmation for as long as a double click may take.
+    /// Keeps the start button grey for the time of a double click, so that a second click starts nothing.
     void HoldStart();
 };
 
@@ -101,7 +100,7 @@ public:
 
     QString SecondText() const;
     void SetSecondText(const QString &text);
-    /// Shows or hides the button that saves a list; what it does is up to who offers it.
+    /// Shows or hides the button that saves a list. The caller connects confirmed() to the saving.
     void OfferSaving(bool bOffer);
 };
 
@@ -116,7 +115,7 @@ public slots:
     void OnDontShowClicked();
 
 protected:
-    /// `setting` is the one that stores so.
+    /// `setting`: its key, for OnDontShowClicked().
     TemperatureWarning(const DialogShape &shape, const QString &setting, QWidget *parent);
 
 private:

@@ -38,7 +38,7 @@ QCheckUpdate::QCheckUpdate(QWidget *parent) : QDialog(parent), m_Frame(this)
     m_pProgressBar = DialogFrame::addBar(column);
     m_Frame.dress();
     setModal(true);
-    // The offer opens in the middle of where this would be.
+    // The offer opens over the middle of this dialog, although that is hidden.
     style::centreOn(this, m_rcSplash);
     check();
 }
@@ -102,7 +102,7 @@ void QCheckUpdate::showOffer()
     connect(m_pOffer, &QDialog::finished, this, &QObject::deleteLater);
     style::centreOn(m_pOffer, geometry());
     m_pOffer->show();
-    // At the start the main window shows behind this, and would lie above.
+    // At the program's start the main window shows a moment later, and would cover the offer.
     QTimer::singleShot(0, m_pOffer, [offer = m_pOffer] {
         offer->raise();
         offer->activateWindow();
@@ -111,7 +111,7 @@ void QCheckUpdate::showOffer()
 
 QCheckUpdate *checkForUpdates(QWidget *owner)
 {
-    // An update that is taken ends the program.
+    // To install an update ends the program, and with it the job.
     if (!g_Jobs.isIdle())
         return nullptr;
     if (g_App.m_bKorvaneBrand && g_App.m_bChinese && m_bChineseUpdatePage) {

@@ -8,9 +8,9 @@
 class QProgressBar;
 class QShowUpdate;
 
-/// Asks the web folder for a newer version. The constructor does all of it and blocks as long as the network
-/// does; the dialog itself never shows. Where there is an update, the offer opens and the object goes with
-/// it: make it on the heap, with a parent.
+/// Asks the web folder for a newer version. The constructor does all the work and waits for the network; the
+/// dialog itself never shows. If there is an update, the offer opens, and the object deletes itself when the
+/// offer closes: make it on the heap, with a parent.
 class QCheckUpdate : public QDialog
 {
     Q_OBJECT
@@ -26,9 +26,9 @@ signals:
     void NoUpdates();
 
 public slots:
-    /// The file with the versions has come, or will not come: compares and tells.
+    /// The download of the versions has ended, well or not: compares them and tells the outcome.
     void downloadFinishedTxt();
-    /// Something of it came.
+    /// A part of the file has come.
     void downloadReadyReadTxt();
 
 private:
@@ -40,10 +40,10 @@ private:
     QProgressBar *m_pProgressBar;
     QShowUpdate *m_pOffer = nullptr;
     bool m_bHttpRequestAborted = false;
-    int m_nComparisons = 0; ///< of this object; only the first one counts
+    int m_nComparisons = 0; ///< done by this object; it compares only once
 };
 
-/// The user asks for an update: checks at once, blocking, with `owner` as parent of the dialogs, and tells
-/// the outcome. Null where nothing was checked: while a job runs, which an update would end, and where the
-/// brand opens a page instead. What is not null stays for as long as its offer does.
+/// The user asks for an update: checks at once, waits for the network, and tells the outcome. `owner` is the
+/// parent of the dialogs. Null where nothing was checked: a job runs, which an update would end, or the brand
+/// opens a web page instead. The object lives as long as its offer is open.
 QCheckUpdate *checkForUpdates(QWidget *owner);

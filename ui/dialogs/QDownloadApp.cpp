@@ -75,7 +75,7 @@ QDownloadApp::QDownloadApp(QWidget *parent) : QDialog(parent), m_Frame(this)
     connect(&m_thread, &QDownloadThread::OnDownloadFailed, this, &QDownloadApp::OnDownloadFailed);
     connect(&m_thread, &QDownloadThread::OnDownloadFinish, this, &QDownloadApp::OnDownloadFinish);
     clearProgress(QStringLiteral(" "));
-    // What was blank stays so; the figures follow with their next tick.
+    // A blank label stays blank. The numbers are written anew with the next tick.
     m_Frame.keepTranslated([this] {
         if (!m_pInfoLabel->text().trimmed().isEmpty())
             m_pInfoLabel->setText(tr("Downloading under progress..."));
@@ -116,7 +116,7 @@ void QDownloadApp::OnDownloadStart()
 
 void QDownloadApp::showProgress(qint64 bytes, const QString &copied)
 {
-    // Behind its maximum the bar stays where it is.
+    // A value above the maximum does not move the bar.
     m_pProgressBar->setValue(static_cast<int>(std::min<qint64>(bytes, std::numeric_limits<int>::max())));
     m_pCopiedLabel->setText(copied);
     m_pTimeLabel->setText(tr("Time Elapsed: ") + QString::number(m_elapsed.elapsed() / 1000) + tr(" sec "));

@@ -11,7 +11,7 @@
 class QProgressBar;
 
 /// Loads the installer, starts it, and ends the program so that it can be replaced. The constructor begins
-/// the download, which cannot be stopped. Ends with finished() where it failed.
+/// the download, which cannot be stopped. Emits finished() where it failed.
 class QDownloadApp : public QDialog
 {
     Q_OBJECT
@@ -23,12 +23,12 @@ public slots:
     void OnDownloadStart();
     void OnDownloadFailed();
     void OnDownloadFinish(QString strDownloadPath);
-    /// Shows how much lies in the update's folder by now.
+    /// Shows how many bytes are in the update's folder by now.
     void OnTimerLoadSlot();
-    /// A transfer that tells its own progress has ended, or has brought more.
+    /// A network reply has ended, or has brought more.
     void downloadFinished();
     void downloadReadyRead() { OnTimerLoadSlot(); }
-    /// Shows such a transfer's progress, in bytes.
+    /// Shows the progress of a network reply, in bytes.
     void OnDownloadProgress(qlonglong bytesReceived, qlonglong bytesTotal);
 
 private:

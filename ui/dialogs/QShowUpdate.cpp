@@ -43,7 +43,7 @@ QShowUpdate::QShowUpdate(QWidget *parent, bool major) : QDialog(parent), m_Frame
 QString QShowUpdate::offerText() const
 {
     const bool major = m_bMajor || g_bMajorUpdate;
-    // Either line of the file may have brought either kind.
+    // The version of an update can stand in the file's line for releases, and the other way round.
     const QString &own = major ? g_strLatestMajor : g_strLatestMinor;
     const QString &other = major ? g_strLatestMinor : g_strLatestMajor;
     return (major ? tr("A new major release ") : tr("A new minor update ")) + (own.isEmpty() ? other : own) +

@@ -7,8 +7,8 @@
 
 class QTextEdit;
 
-/// Offers the update that the last check found. Ends with finished(): behind Cancel, and behind a download
-/// that failed.
+/// Offers the update that the last check found. Emits finished() after Cancel, and after a download that
+/// failed.
 class QShowUpdate : public QDialog
 {
     Q_OBJECT

@@ -24,7 +24,7 @@ const DialogShape Shape = {"SmallMsg",
 SmallMessageDlg::SmallMessageDlg(QWidget *parent)
     : QDialog(parent), m_Frame(this), m_pTextEdit(DialogFrame::addText(m_Frame.build(Shape)))
 {
-    // The picture stands in the middle of the text's height.
+    // Beside the middle of the text, not beside its top.
     auto *body = findChild<QHBoxLayout *>(QStringLiteral("bodyLayout"));
     body->setContentsMargins(20, 8, 20, 8);
     body->setSpacing(12);
@@ -52,13 +52,13 @@ void SmallMessageDlg::SetText(const QString &text, int leadingBlankLines)
     const int textBlock = cursor.blockNumber();
     cursor.insertText(text, body);
 
-    // The same room below as the empty blocks take above, so that the text stands beside the picture.
+    // The empty blocks take room above the text. The same room below keeps the text beside the picture.
     m_Frame.fitText(m_pTextEdit, textBlock);
 }
 
 void ShowUpdateMessage(const QString &text, int leadingBlankLines)
 {
-    // The window below may go while the message is up, and takes its children with it.
+    // The parent may be deleted while the message is open, and deletes the message with it.
     QPointer<SmallMessageDlg> dialog = new SmallMessageDlg(QApplication::activeWindow());
     dialog->SetText(text, leadingBlankLines);
     dialog->exec();

@@ -15,7 +15,8 @@ class SmallMessageDlg : public QDialog
 public:
     explicit SmallMessageDlg(QWidget *parent = nullptr);
 
-    /// Replaces the text: an empty block as heading, one more below two leading blank lines, then `text`.
+    /// Replaces the text: an empty block as heading, a second one if `leadingBlankLines` is below 2, then
+    /// `text`.
     void SetText(const QString &text, int leadingBlankLines);
 
 private:
@@ -23,6 +24,6 @@ private:
     QTextEdit *m_pTextEdit;
 };
 
-/// Shows a message of the update in a modal SmallMessageDlg and returns when it was closed. With fewer than
-/// two leading blank lines the text begins one line lower. Main thread only.
+/// Shows a message of the update in a modal SmallMessageDlg, as its SetText() does, and returns when it was
+/// closed. Main thread only.
 void ShowUpdateMessage(const QString &text, int leadingBlankLines);

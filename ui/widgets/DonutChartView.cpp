@@ -25,7 +25,7 @@ void fillColours()
                           QColor(204, 0, 0)};
 }
 
-/// A square of `side` in the middle of `size`, halves cut off.
+/// A square of `side` in the middle of `size`, its place rounded down.
 QRect centred(const QSize &size, int side)
 {
     return QRect((size.width() - side) / 2, (size.height() - side) / 2, side, side);
@@ -38,7 +38,7 @@ QSize halfOf(const QWidget *widget)
 
 int spanOf(double value, double total, int circle)
 {
-    // Also true for values that are no numbers.
+    // Holds for 0 and for NaN.
     if (!(total < 0 || total > 0))
         return 0;
     const double limit = circle;
@@ -183,7 +183,7 @@ void DonutChartView::paintEvent(QPaintEvent *event)
             painter.drawImage(0, 0, *m_pImage);
         painter.setFont(style::font(8));
         painter.setPen(QColor(47, 47, 47));
-        // Without a disk there is nothing to name.
+        // A negative index: no disk is selected.
         if (g_nCurrentDiskIndex >= 0)
             painter.drawText(rect, Qt::AlignCenter, tr("Disk ") + QString::number(g_nCurrentDiskIndex));
     }

@@ -17,7 +17,7 @@ struct DonutSlice {
     QString strColorText;
 };
 
-/// The slices of a ring and how they are drawn. Owns its slices; belongs to the owner of the view.
+/// The slices of a ring and how they are drawn. It owns its slices. The owner of the view owns it.
 class DonutSeries
 {
 public:
@@ -29,8 +29,8 @@ public:
     void AddSlice(double value, const QString &label, const QString &colourText);
     void Clear();
 
-    /// The part of the circle that a value takes, cut off to whole sixteenths of a degree; 0 while the total
-    /// is.
+    /// The part of the circle that a value takes, in whole sixteenths of a degree, cut off. 0 if the total is
+    /// 0.
     int SpanSixteenths(double value) const;
     /// The same in whole degrees.
     int SpanDegrees(double value) const;
@@ -40,12 +40,12 @@ public:
     int nOffsetX = 0;           ///< stored only
     int nSliceInset = 0;        ///< pixels by which the ring is smaller than its square, on each side
     bool bFlagA = true;         ///< stored only
-    bool bColourSlices = false; ///< while false, a slice has the brush of the one before it
+    bool bColourSlices = false; ///< if false, all slices have the same brush
     QColor colorBase;           ///< stored only
     double dTotal = 0;
 };
 
-/// The legend of a ring. It is not drawn: it only says in which half of the view the ring stands.
+/// The legend of a ring. It is not drawn. It only tells in which half of the view the ring stands.
 struct DonutLegend {
     int nStyleA = 1;
     int nStyleB = 1;
@@ -68,7 +68,7 @@ class DonutChartView : public QWidget
     Q_PROPERTY(QVariantList sliceValues READ sliceValues)
 
 public:
-    /// Neither series nor legend is owned; both may be null and have to outlive the view.
+    /// Series and legend may be null. They are not owned, and must outlive the view.
     DonutChartView(DonutSeries *series, DonutLegend *legend, QWidget *parent = nullptr);
     ~DonutChartView() override;
 

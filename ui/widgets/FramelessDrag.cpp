@@ -37,7 +37,7 @@ void FramelessDrag::moveWindow(const QPoint &pointer)
 {
     if (m_nTitleHeight >= 0 && m_nPressY > style::px(m_nTitleHeight))
         return;
-    // The spot under the pointer stays on the screen, so that the window can be dragged back.
+    // The pointer counts as inside the screen, so a part of the window stays there and can be dragged back.
     const QPoint held = style::placeWithin(QRect(pointer, QSize(1, 1)), style::availableArea(pointer));
     m_pWindow->move(held - QPoint(m_nPressX, m_nPressY));
 }

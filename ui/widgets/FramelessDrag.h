@@ -6,13 +6,13 @@
 
 class QWidget;
 
-/// Lets a frameless window be dragged with the left button. One global flag tells that a drag is on, as one
-/// window at a time can be dragged. Main thread only.
+/// Lets a frameless window be dragged with the left button. g_bDragging tells for all windows that one is
+/// being dragged. Main thread only.
 class FramelessDrag : public QObject
 {
 public:
-    /// `window` must outlive this object. Only presses at most `titleHeight` design pixels from the window's
-    /// top drag; a negative height means the whole window.
+    /// Watches `window`, which must outlive this object. The window is dragged only by its uppermost
+    /// `titleHeight` design pixels, or by all of it if that is negative.
     explicit FramelessDrag(QWidget *window, int titleHeight = -1);
 
 protected:
@@ -23,7 +23,7 @@ private:
 
     QWidget *m_pWindow;
     int m_nTitleHeight;
-    QPoint m_ptDrag; ///< the window's place at the press, then the last place of the pointer
+    QPoint m_ptDrag; ///< the window's place at the press; from the release on, the pointer's
     int m_nPressX = 0;
     int m_nPressY = 0;
 };

@@ -3,8 +3,8 @@
 
 #include <QPushButton>
 
-/// A navigation button that only tells what the mouse does: press and release do no click handling. The
-/// application sets the down state, which stays until it is cleared.
+/// A navigation button that only tells what the mouse does; a press is no click. The application sets and
+/// clears its down state.
 class MyButton : public QPushButton
 {
     Q_OBJECT

@@ -3,8 +3,8 @@
 
 #include <QMenu>
 
-/// A drop-down menu of a header button: a little below its place, or with its right edge on the main
-/// window's.
+/// A drop-down menu of a header button. It opens a little below the button, or with its right edge on that of
+/// the main window.
 class PopupMenu : public QMenu
 {
     Q_OBJECT

@@ -117,7 +117,7 @@ void QGridView::drawGrid(QPainter *painter) const
     painter->setPen(QPen(QColor::fromRgba(blockmap::GridColour), 1));
     for (int x = 0; x <= sizes.width; x += sizes.cell)
         painter->drawLine(x, 0, x, sizes.height);
-    // Those below the map are cut by the widget.
+    // The widget cuts off the lines below the map.
     for (int y = 0; y <= sizes.width; y += sizes.cell)
         painter->drawLine(0, y, sizes.width, y);
     painter->drawRect(0, 0, sizes.width, sizes.height);

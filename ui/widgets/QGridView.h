@@ -4,9 +4,9 @@
 #include <QVariantList>
 #include <QWidget>
 
-/// The block map of a surface scan: 25 by 16 cells, done in blue, in work in grey, bad in red. Draws what its
-/// page tells it and the list of bad sectors (scan/ScanGlobals.h). Hovering tells the sectors of a cell.
-/// Main thread only.
+/// The block map of a surface scan: 25 by 16 cells, blue when read, grey in work, red with bad sectors. It
+/// draws the progress that its page sets, and the bad sectors of scan/ScanGlobals.h. A tool tip tells the
+/// sectors of a cell. Main thread only.
 class QGridView : public QWidget
 {
     Q_OBJECT
@@ -17,22 +17,22 @@ class QGridView : public QWidget
 public:
     explicit QGridView(QWidget *parent = nullptr);
 
-    /// Takes the progress back to the disk's begin.
+    /// Sets the progress to 0.
     void Reset();
-    /// Sets both lengths of the size hint, unless a stop was asked for.
+    /// Sets width and height of the size hint, unless a stop was asked for.
     void SetHint(int size);
     /// The sectors that the tool tips tell.
     void SetRange(qlonglong start, qlonglong end);
 
     qlonglong totalSectors() const;
     qlonglong position() const { return m_i64Position; }
-    /// The first ones that were found.
+    /// The first MostBadSectors of them.
     QVariantList badSectors() const;
-    static constexpr int MostBadSectors = 10000; ///< in badSectors(); a disk that has gone has millions
+    static constexpr int MostBadSectors = 10000; ///< a disk that was pulled out has millions
 
     QSize sizeHint() const override;
 
-    qlonglong m_i64Position = 0; ///< sectors done; update() shows a new value
+    qlonglong m_i64Position = 0; ///< sectors read so far; call update() behind a change
 
 protected:
     void mouseMoveEvent(QMouseEvent *event) override;

@@ -4,8 +4,8 @@
 #include <QGradient>
 #include <QWidget>
 
-/// A gauge of 270 degrees that is open at the bottom, with its value in the middle. Drawn in design pixels
-/// and scaled to the display; its caps fit a side of 210. Main thread only.
+/// A gauge of 270 degrees, open at the bottom, with its value in the middle. It is drawn in design pixels and
+/// scaled to the display. Its caps fit a side of 210. Main thread only.
 class QRoundProgressBar : public QWidget
 {
     Q_OBJECT
@@ -17,7 +17,7 @@ public:
 
     explicit QRoundProgressBar(QWidget *parent = nullptr);
 
-    /// A bound that crosses the other one is swapped with it; the value is kept between them.
+    /// If the minimum is above the maximum, they are swapped. The value stays between them.
     void SetMinimum(double minimum);
     void SetMaximum(double maximum);
     void SetValue(int value);
@@ -26,7 +26,7 @@ public:
     void SetBarStyle(int style);
     /// Digits behind the point; a negative number is ignored.
     void SetDecimals(int decimals);
-    /// Colours of the palette's highlight along the gauge, used by the line style.
+    /// Colours along the bar; the line style alone shows them.
     void SetGradientStops(const QGradientStops &stops);
 
     double Value() const { return m_dValue; }

@@ -27,7 +27,7 @@ const QColor GridColour(0xe9, 0xec, 0xef);
 constexpr int RingRadius = 3;
 constexpr int LabelGap = 4;
 constexpr int DenseSteps = 5;
-constexpr int RoomyTicks = 10; ///< the most whose labels the library writes out at this height
+constexpr int RoomyTicks = 10; ///< with more, Qt Charts has no room to write the labels out
 
 QPen dashedPen()
 {
@@ -47,7 +47,7 @@ void dressAxis(QAbstractAxis *axis)
     axis->setGridLinePen(QPen(GridColour, 1));
 }
 
-/// Whole numbers. The library takes those of a plain "%i" for 32 bits wide.
+/// For whole numbers. Qt Charts takes "%i" for a number of 32 bits.
 QString numberFormat(double low, double high)
 {
     return std::max(std::abs(low), std::abs(high)) > std::numeric_limits<qint32>::max()
@@ -87,7 +87,7 @@ QValueAxis *addHiddenAxis(QChart *chart, const GraphModel &model)
     return axis;
 }
 
-/// Numbers as texts, for those that the library cannot tell apart.
+/// For numbers so large that Qt Charts cannot tell them apart: the labels are texts.
 QValueAxis *namedAxis(const GraphModel &model)
 {
     auto *axis = new QCategoryAxis;
@@ -127,8 +127,8 @@ void addDayAxis(QChart *chart, QAbstractAxis *days)
     chart->addAxis(days, Qt::AlignBottom);
 }
 
-/// The labels, made distinct: the axis drops one that it has already, and days of different years can look
-/// alike.
+/// The labels, made distinct by blanks. Days of different years can look alike, and the axis drops a label
+/// that it has already.
 QStringList distinctLabels(const std::vector<QString> &labels)
 {
     QStringList distinct;
@@ -160,8 +160,8 @@ QLineSeries *addLine(QChart *chart, const GraphModel &model, QValueAxis *values)
 {
     QLineSeries *line = addSeries(chart, model.series.front());
     line->attachAxis(values);
-    // The labels belong to an empty series of their own, and share the width evenly; the line has its own
-    // hidden axis, and fills the width with its days.
+    // The line has a hidden axis and fills the whole width. The labels share the width evenly, so they belong
+    // to an empty series with an axis of its own.
     auto *labelled = new QLineSeries;
     chart->addSeries(labelled);
     auto *days = new QBarCategoryAxis;
@@ -247,8 +247,8 @@ void SmartChartView::drawScale(QPainter *painter, const QValueAxis &axis) const
 
 void SmartChartView::drawLine(QPainter *painter, const QLineSeries &line) const
 {
-    // Draws the line once more, with its points as rings: the chart cuts off half of a line along the
-    // plot's edge.
+    // The chart cuts off half of a line along the plot's edge. So the line is drawn once more, with its
+    // points as rings.
     QPolygonF places;
     const QVector<QPointF> points = line.pointsVector();
     for (const QPointF &point : points)

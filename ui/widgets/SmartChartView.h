@@ -35,9 +35,9 @@ private:
     void drawScale(QPainter *painter, const QtCharts::QValueAxis &axis) const;
     void drawLine(QPainter *painter, const QtCharts::QLineSeries &line) const;
 
-    const QtCharts::QLineSeries *m_pLine = nullptr;     ///< of many days; its points are drawn as rings
-    const QtCharts::QValueAxis *m_pDenseAxis = nullptr; ///< has more ticks than room for their labels
+    const QtCharts::QLineSeries *m_pLine = nullptr;     ///< the graph of several days; its points are rings
+    const QtCharts::QValueAxis *m_pDenseAxis = nullptr; ///< has more ticks than there is room for labels
 };
 
-/// The one of the SMART Status screen; null before the first is made.
+/// The view of the SMART Status screen; null before it is made.
 extern SmartChartView *g_pSmartChartView;

@@ -170,7 +170,7 @@ void paintAgain(QWidget *widget)
 
 QString fieldSheet()
 {
-    // Lengths are spelt %1 for the border radius, %2 for the side padding, %3 for the arrow column.
+    // %1 is the border radius, %2 the side padding, %3 the width of the arrows, %11 that of a scroll bar.
     static const char *const sheet =
         "QComboBox{background: white; border: 1px solid #c9d2db; border-radius: %1px; padding: 0px %2px; "
         "color: #000000;}"

@@ -32,11 +32,11 @@ void scaleForm(QWidget *window);
 /// Multiplies a widget's size and place by the display scale, truncated.
 void scaleWidget(QWidget *widget);
 
-/// The area of the nearest screen that windows may take, without the desktop's own bars.
+/// The area for windows on the screen nearest to `place`, without the desktop's own bars.
 QRect availableArea(const QPoint &place);
 
-/// The position nearest to the window's own at which all of it lies in `area`. If it is too large, its
-/// upper left corner lies there.
+/// The position nearest to the window's own at which all of it lies in `area`. Of a window that is too large,
+/// the upper left corner does.
 QPoint placeWithin(const QRect &window, const QRect &area);
 
 /// Moves a window to `place`, or as near to it as possible within the screen on which its middle would lie.
@@ -48,11 +48,11 @@ void centreOn(QWidget *window, const QRect &rect);
 /// Makes all labels of a window show plain text. A label that shows links has that set in its form.
 void showTextsAsData(QWidget *window);
 
-/// A text as a tool tip shows it: letter by letter, whatever a drive calls itself.
+/// A text for a tool tip, which shows it letter by letter: the name of a drive could be taken for HTML.
 QString wholeTip(const QString &text);
 
-/// Gives a widget that draws less than its text the whole of it as a tool tip, and takes it back with an
-/// empty one. May be called while it paints.
+/// Sets the tool tip of a widget whose text is cut: the whole text; an empty one takes the tip away. May be
+/// called in paintEvent().
 void setWholeTip(QWidget *widget, const QString &text);
 
 /// Paints a widget again with the display's next frame, unless its window is minimised. Call it at the end of

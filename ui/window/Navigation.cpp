@@ -18,7 +18,7 @@ enum class MainWindow::Look { Normal, Hover, Selected };
 namespace
 {
 
-/// The pictures of a button: normal, below the pointer, selected.
+/// The pictures of a button: normal, under the pointer, selected.
 using Images = std::array<const char *, 3>;
 
 constexpr std::array<Images, navigation::ScreenCount> ScreenImages = {{
@@ -30,7 +30,8 @@ constexpr std::array<Images, navigation::ScreenCount> ScreenImages = {{
 }};
 constexpr Images BackImages = {"img_BackTestNor", "img_BackTestHov", "img_BackTestHov"};
 
-/// Shows a picture, with the text blue but in the normal look. At a scale without pictures the text is all.
+/// Shows a picture and the text, black in the normal look, else blue. At a scale without pictures, the text
+/// alone.
 void dress(QPushButton *button, const Images &files, std::size_t look)
 {
     const QString path = images::path(QLatin1String(files[look]) + QStringLiteral(".png"));
