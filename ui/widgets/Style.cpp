@@ -27,13 +27,6 @@ const QString FailedLabel = QStringLiteral("QLabel {color : #FF0000;}");
 namespace
 {
 
-QFont makeFont(const QString &family, int points, bool italic)
-{
-    QFont font(family, points);
-    font.setItalic(italic);
-    return font;
-}
-
 QSize scaledLimit(const QSize &limit)
 {
     const auto scaled = [](int length) { return length == QWIDGETSIZE_MAX ? length : px(length); };
@@ -57,12 +50,12 @@ void scaleLayout(QLayout *layout)
 
 QFont font(int points, bool italic)
 {
-    return makeFont(QStringLiteral("Segoe UI"), points, italic);
+    return QFont(QStringLiteral("Segoe UI"), points, QFont::Normal, italic);
 }
 
 QFont semiBold(int points, bool italic)
 {
-    return makeFont(QStringLiteral("Segoe UI SemiBold"), points, italic);
+    return QFont(QStringLiteral("Segoe UI SemiBold"), points, QFont::Normal, italic);
 }
 
 int px(int size)
