@@ -42,6 +42,7 @@ constexpr KeptVariable KeptVariables[] = {
     {"XAUTHORITY", Anything},
     {"QT_QPA_PLATFORM", "((xcb|wayland|wayland-egl|offscreen|minimal);?)*"},
     {"QT_FONT_DPI", Word},
+    {"QT_LOGGING_RULES", "[A-Za-z0-9_.*=;]*"},
     {"QT_SCALE_FACTOR", Word},
     {"XDG_CURRENT_DESKTOP", Word},
     {"XDG_SESSION_TYPE", Word},

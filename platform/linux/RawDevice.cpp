@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/linux/RawDevice.h"
 
+#include "platform/Log.h"
+
 #include <QFile>
 
 #include <algorithm>
 #include <cerrno>
 #include <cstdint>
+#include <cstring>
 #include <fcntl.h>
 #include <linux/fs.h>
 #include <sys/ioctl.h>
@@ -92,8 +95,10 @@ std::unique_ptr<RawDevice> RawDevice::open(const QString &node, bool writable)
     const bool direct = isBlock && descriptor >= 0;
     if (isBlock && descriptor < 0 && errno == EINVAL)
         descriptor = openNode(path, O_RDONLY);
-    if (descriptor < 0)
+    if (descriptor < 0) {
+        qCDebug(logs::platform, "%s does not open: %s", path.constData(), std::strerror(errno));
         return nullptr;
+    }
     // Another device may have taken the name meanwhile.
     if (fstat(descriptor, &status) != 0 || !(isBlock ? S_ISBLK(status.st_mode) : S_ISREG(status.st_mode)) ||
         (writable && !mayWrite(descriptor, path, isBlock))) {
