@@ -91,7 +91,7 @@ void chooseRegistryPaths()
 void readStartSettings(int *languageType)
 {
     const SettingsStore store;
-    *languageType = store.number(key::LanguageType);
+    *languageType = store.text(key::LanguageType).toInt();
     const QString scheduled = QStringLiteral("Schedular");
     g_strRunMode = store.text(key::TaskName) == scheduled ? scheduled : QString();
 }
@@ -102,7 +102,7 @@ void forgetTool()
 {
     SettingsStore store;
     if (!store.text(key::SmartctlFolderPath).isEmpty())
-        store.writeText(key::SmartctlFolderPath, QString());
+        store.write(key::SmartctlFolderPath, QString());
 }
 
 [[noreturn]] void refuseSecondInstance()

@@ -13,75 +13,39 @@ namespace languages
 namespace
 {
 
-constexpr DiskStatusMetrics CommonMetrics = {120, 190, 120, 140, 120, 140, 120, 170, 20};
+constexpr DiskStatusMetrics Common{120, 190, 120, 140, 120, 140, 120, 170, 20};
+constexpr DiskStatusMetrics ForGerman{185, 190, 130, 140, 130, 140, 130, 170, 25};
+constexpr DiskStatusMetrics ForFrench{180, 190, 180, 145, 180, 140, 180, 145, 20};
+constexpr DiskStatusMetrics ForItalian{140, 190, 140, 140, 170, 140, 140, 175, 20};
+constexpr DiskStatusMetrics ForSpanish{140, 190, 140, 140, 200, 140, 140, 150, 20};
+constexpr DiskStatusMetrics ForDutch{160, 190, 130, 140, 130, 140, 140, 185, 20};
+constexpr DiskStatusMetrics ForBrazil{160, 190, 150, 140, 175, 140, 150, 165, 20};
 
 } // namespace
 
 const std::array<Language, LanguageCount> table = {{
-    {LanguageType::English, &GlobalApp::m_bEnglish, "EN", QT_TRANSLATE_NOOP("MainWindow", "English"), true,
-     172, 117, 128, CommonMetrics},
-    {LanguageType::German,
-     &GlobalApp::m_bGerman,
-     "DE",
-     QT_TRANSLATE_NOOP("MainWindow", "German"),
-     true,
-     172,
-     128,
-     128,
-     {185, 190, 130, 140, 130, 140, 130, 170, 25}},
-    {LanguageType::French,
-     &GlobalApp::m_bFrench,
-     "FR",
-     QT_TRANSLATE_NOOP("MainWindow", "French"),
-     true,
-     172,
-     152,
-     180,
-     {180, 190, 180, 145, 180, 140, 180, 145, 20}},
-    {LanguageType::Italian,
-     &GlobalApp::m_bItalian,
-     "IT",
-     QT_TRANSLATE_NOOP("MainWindow", "Italian"),
-     true,
-     172,
-     117,
-     160,
-     {140, 190, 140, 140, 170, 140, 140, 175, 20}},
-    {LanguageType::Spanish,
-     &GlobalApp::m_bSpanish,
-     "ES",
-     QT_TRANSLATE_NOOP("MainWindow", "Spanish"),
-     true,
-     172,
-     122,
-     128,
-     {140, 190, 140, 140, 200, 140, 140, 150, 20}},
-    {LanguageType::Japanese, &GlobalApp::m_bJapanese, "JA", QT_TRANSLATE_NOOP("MainWindow", "Japanese"), true,
-     180, 117, 128, CommonMetrics},
-    {LanguageType::Chinese, &GlobalApp::m_bChinese, "CN", QT_TRANSLATE_NOOP("MainWindow", "Chinese"), true,
-     172, 117, 128, CommonMetrics},
-    {LanguageType::Korean, &GlobalApp::m_bKorean, "KO", QT_TRANSLATE_NOOP("MainWindow", "Korean"), false, 172,
-     117, 128, CommonMetrics},
-    {LanguageType::Dutch,
-     &GlobalApp::m_bDutch,
-     "DU",
-     QT_TRANSLATE_NOOP("MainWindow", "Dutch"),
-     true,
-     172,
-     117,
-     128,
-     {160, 190, 130, 140, 130, 140, 140, 185, 20}},
-    {LanguageType::Brazil,
-     &GlobalApp::m_bBrazil,
-     "BR",
-     QT_TRANSLATE_NOOP("MainWindow", "Brazil"),
-     true,
-     172,
-     130,
-     128,
-     {160, 190, 150, 140, 175, 140, 150, 165, 20}},
-    {LanguageType::Hindi, &GlobalApp::m_bHindi, "HI", QT_TRANSLATE_NOOP("MainWindow", "Hindi"), false, 172,
-     122, 128, CommonMetrics},
+    {LanguageType::English, &GlobalApp::m_bEnglish, "EN", "en", QT_TRANSLATE_NOOP("MainWindow", "English"),
+     true, 172, 117, 128, Common},
+    {LanguageType::German, &GlobalApp::m_bGerman, "DE", "de", QT_TRANSLATE_NOOP("MainWindow", "German"), true,
+     172, 128, 128, ForGerman},
+    {LanguageType::French, &GlobalApp::m_bFrench, "FR", "fr", QT_TRANSLATE_NOOP("MainWindow", "French"), true,
+     172, 152, 180, ForFrench},
+    {LanguageType::Italian, &GlobalApp::m_bItalian, "IT", "it", QT_TRANSLATE_NOOP("MainWindow", "Italian"),
+     true, 172, 117, 160, ForItalian},
+    {LanguageType::Spanish, &GlobalApp::m_bSpanish, "ES", "es", QT_TRANSLATE_NOOP("MainWindow", "Spanish"),
+     true, 172, 122, 128, ForSpanish},
+    {LanguageType::Japanese, &GlobalApp::m_bJapanese, "JA", "jp", QT_TRANSLATE_NOOP("MainWindow", "Japanese"),
+     true, 180, 117, 128, Common},
+    {LanguageType::Chinese, &GlobalApp::m_bChinese, "CN", "", QT_TRANSLATE_NOOP("MainWindow", "Chinese"),
+     true, 172, 117, 128, Common},
+    {LanguageType::Korean, &GlobalApp::m_bKorean, "KO", "ko", QT_TRANSLATE_NOOP("MainWindow", "Korean"),
+     false, 172, 117, 128, Common},
+    {LanguageType::Dutch, &GlobalApp::m_bDutch, "DU", "nl", QT_TRANSLATE_NOOP("MainWindow", "Dutch"), true,
+     172, 117, 128, ForDutch},
+    {LanguageType::Brazil, &GlobalApp::m_bBrazil, "BR", "pt", QT_TRANSLATE_NOOP("MainWindow", "Brazil"), true,
+     172, 130, 128, ForBrazil},
+    {LanguageType::Hindi, &GlobalApp::m_bHindi, "HI", "hi", QT_TRANSLATE_NOOP("MainWindow", "Hindi"), false,
+     172, 122, 128, Common},
 }};
 
 namespace
@@ -108,9 +72,9 @@ const Language &current()
     return table.front();
 }
 
-QString storedText(const QString &name)
+QString storedText(const TextSetting &setting)
 {
-    return SettingsStore().text(key::ofLanguage(QLatin1String(current().folder), name));
+    return SettingsStore().text(setting, QLatin1String(current().folder) + QLatin1Char('/'));
 }
 
 void setFlag(int type)
@@ -164,7 +128,7 @@ void change(LanguageType type)
     if (g_App.m_bWriteSiblingLanguage)
         stores << g_App.m_strSiblingKey1 << g_App.m_strSiblingKey2 << g_App.m_strSiblingKey3;
     for (const QString &path : stores)
-        SettingsStore(path).writeText(key::LanguageType, QString::number(static_cast<int>(type)));
+        SettingsStore(path).write(key::LanguageType, QString::number(static_cast<int>(type)));
     for (const Language &language : table) {
         if (language.type == type)
             continue;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "state/GlobalApp.h"
+#include "state/SettingsStore.h"
 
 #include <QString>
 
@@ -42,12 +43,13 @@ namespace languages
 struct Language {
     LanguageType type;
     bool GlobalApp::*flag;
-    const char *folder;  ///< also the prefix of the language's settings
-    const char *text;    ///< in the menus, English
-    bool ofSecondBrand;  ///< in the menu of the second brand, too
-    int sideWidth;       ///< of the pale strip behind the navigation, in design pixels
-    int reportWidth;     ///< of the button Save Report, in design pixels
-    int screenshotWidth; ///< of the button Screenshot, in design pixels
+    const char *folder;   ///< also the prefix of the language's settings
+    const char *helpCode; ///< in the names of the help pages; empty: no help
+    const char *text;     ///< in the menus, English
+    bool ofSecondBrand;   ///< in the menu of the second brand, too
+    int sideWidth;        ///< of the pale strip behind the navigation, in design pixels
+    int reportWidth;      ///< of the button Save Report, in design pixels
+    int screenshotWidth;  ///< of the button Screenshot, in design pixels
     DiskStatusMetrics diskStatus;
 
     /// Place in GlobalApp::m_abLanguageOffered and other tables in the order of LanguageType.
@@ -59,9 +61,8 @@ extern const std::array<Language, LanguageCount> table;
 /// The language whose flag is set; English where none is.
 const Language &current();
 
-/// A setting that exists once for each language, such as "rxUpdateLink", in the language in use. Main thread
-/// only.
-QString storedText(const QString &name);
+/// A setting that exists once for each language, in the language in use. Main thread only.
+QString storedText(const TextSetting &setting);
 
 /// Clears all flags and sets that of a stored LanguageType; none for a value outside the table.
 void setFlag(int type);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "state/SettingsRules.h"
 
+#include "state/SettingsStore.h"
+
 #include <QDir>
 
 namespace settings
@@ -16,14 +18,44 @@ int fahrenheit(int celsius)
 
 } // namespace
 
-AlarmLimits limitsForUnit(TemperatureUnit unit, int warning, int shutDown)
+Values firstRun()
+{
+    return {key::ShowTrayIcon.first != 0, Celsius, key::ShowWarning.first != 0, key::WarningValue.first,
+            key::ShutDownValue.first};
+}
+
+Values load()
+{
+    SettingsStore store;
+    if (!store.flag(key::FirstTimeLaunch)) {
+        store.write(key::FirstTimeLaunch, 1);
+        return firstRun();
+    }
+    return {store.flag(key::ShowTrayIcon),
+            store.text(key::TempValue) == unitText(Fahrenheit) ? Fahrenheit : Celsius,
+            store.flag(key::ShowWarning), store.number(key::WarningValue), store.number(key::ShutDownValue)};
+}
+
+void save(const Values &values, const QString &logPath)
+{
+    SettingsStore store;
+    for (const TextSetting &unit : {key::WarningtemValue, key::ShutDowntemValue, key::TempValue})
+        store.write(unit, unitText(values.unit));
+    store.write(key::ShowWarning, values.alarm ? 1 : 0);
+    store.write(key::DontShow, values.alarm ? 0 : 1);
+    store.write(key::WarningValue, values.warning);
+    store.write(key::ShutDownValue, values.shutDown);
+    store.write(key::LogSavePath, logPath);
+}
+
+AlarmLimits limitsForUnit(int unit, int warning, int shutDown)
 {
     if (unit == Fahrenheit)
         return {fahrenheit(warning), fahrenheit(shutDown), 104, 122};
     return {40, 50, 40, 50};
 }
 
-QString unitText(TemperatureUnit unit)
+QString unitText(int unit)
 {
     return unit == Fahrenheit ? QStringLiteral("F") : QStringLiteral("C");
 }
@@ -34,6 +66,15 @@ QString defaultLogPath(const QString &systemFolder)
     for (const char *part : {"\\Windows", "\\windows", "\\system32", "\\System32"})
         path.remove(QLatin1String(part));
     return QDir::toNativeSeparators(path + QStringLiteral("\\VelmoraHalvane\\SmartLog\\log.txt"));
+}
+
+QString logFolderOf(const QString &logPath)
+{
+    const QStringList parts = logPath.split(QLatin1Char('\\'), Qt::SkipEmptyParts);
+    QString folder;
+    for (int i = 0; i + 1 < parts.size(); ++i)
+        folder += parts[i] + QLatin1Char('\\');
+    return folder;
 }
 
 } // namespace settings

@@ -10,6 +10,24 @@ namespace settings
 /// Indexes of the unit choice.
 enum TemperatureUnit { Celsius = 0, Fahrenheit = 1 };
 
+/// What the window shows, and stores when it is left. The thresholds are in the unit.
+struct Values {
+    bool tray;
+    int unit; ///< TemperatureUnit
+    bool alarm;
+    int warning;
+    int shutDown;
+};
+
+/// What a first run begins with.
+Values firstRun();
+
+/// What is stored. Before the first start has finished that of a first run, and the start counts as finished.
+Values load();
+
+/// Stores all but the tray, and the path of the log file.
+void save(const Values &values, const QString &logPath);
+
 /// Thresholds of the temperature alarm, in the unit in use, and their lowest values.
 struct AlarmLimits {
     int warning;
@@ -18,18 +36,18 @@ struct AlarmLimits {
     int lowestShutDown;
 };
 
-/// Thresholds that a first start begins with, °C.
-constexpr int FirstWarning = 45;
-constexpr int FirstShutDown = 50;
-
 /// The thresholds after the unit was changed to `unit`, from those shown before. Fahrenheit converts the
 /// numbers as if they were °C; Celsius does not convert back but begins at its lowest values.
-AlarmLimits limitsForUnit(TemperatureUnit unit, int warning, int shutDown);
+AlarmLimits limitsForUnit(int unit, int warning, int shutDown);
 
 /// The text of a unit as the settings store keeps it: "C" or "F".
-QString unitText(TemperatureUnit unit);
+QString unitText(int unit);
 
 /// The log file on the drive of the system folder.
 QString defaultLogPath(const QString &systemFolder);
+
+/// The folder part of a log path as the settings hold it: all its parts but the last, each one followed by a
+/// backslash. Empty parts do not count.
+QString logFolderOf(const QString &logPath);
 
 } // namespace settings

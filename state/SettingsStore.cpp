@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "state/SettingsStore.h"
 
+#include "platform/Log.h"
 #include "platform/Platform.h"
 #include "state/GlobalApp.h"
 
@@ -18,29 +19,38 @@ SettingsStore::SettingsStore(const QString &registryPath)
 {
 }
 
-SettingsStore::~SettingsStore() = default;
-
-QString SettingsStore::text(const QString &key) const
+SettingsStore::~SettingsStore()
 {
-    return m_pSettings->value(key).toString();
+    if (!m_bWritten)
+        return;
+    m_pSettings->sync();
+    if (m_pSettings->status() != QSettings::NoError)
+        qCDebug(logs::state) << "settings were not written:" << m_pSettings->fileName();
 }
 
-int SettingsStore::number(const QString &key) const
+QString SettingsStore::text(const TextSetting &setting, const QString &prefix) const
 {
-    return m_pSettings->value(key).toInt();
+    return m_pSettings->value(prefix + QLatin1String(setting.name)).toString();
 }
 
-bool SettingsStore::flag(const QString &key) const
+int SettingsStore::number(const NumberSetting &setting) const
 {
-    return m_pSettings->value(key).toBool();
+    return m_pSettings->value(QLatin1String(setting.name)).toInt();
 }
 
-void SettingsStore::writeText(const QString &key, const QString &value)
+bool SettingsStore::flag(const NumberSetting &setting) const
 {
-    m_pSettings->setValue(key, value);
+    return m_pSettings->value(QLatin1String(setting.name)).toBool();
 }
 
-void SettingsStore::writeNumber(const QString &key, int value)
+void SettingsStore::write(const TextSetting &setting, const QString &value)
 {
-    m_pSettings->setValue(key, value);
+    m_pSettings->setValue(QLatin1String(setting.name), value);
+    m_bWritten = true;
+}
+
+void SettingsStore::write(const NumberSetting &setting, int value)
+{
+    m_pSettings->setValue(QLatin1String(setting.name), value);
+    m_bWritten = true;
 }

@@ -7,9 +7,21 @@
 
 class QSettings;
 
+/// A setting that is stored as text: its name, and what a first run begins with.
+struct TextSetting {
+    const char *name;
+    const char *first = "";
+};
+
+/// A setting that is stored as number, or as 0 and 1.
+struct NumberSetting {
+    const char *name;
+    int first = 0;
+};
+
 /// The settings of the program, shared with the installer and the companion. Make one on the stack where a
-/// setting is needed and let it go: values are kept when it goes. An absent key reads as 0, false or an empty
-/// text; a failed write is not noticed. Main thread only.
+/// setting is needed and let it go: values are kept when it goes. An absent setting reads as 0, false or an
+/// empty text; a failed write is only logged. Main thread only.
 class SettingsStore
 {
 public:
@@ -19,48 +31,63 @@ public:
     explicit SettingsStore(const QString &registryPath);
     ~SettingsStore();
 
-    QString text(const QString &key) const;
-    int number(const QString &key) const;
-    bool flag(const QString &key) const;
+    /// `prefix` stands before the name of a setting that exists once for each language.
+    QString text(const TextSetting &setting, const QString &prefix = QString()) const;
+    int number(const NumberSetting &setting) const;
+    bool flag(const NumberSetting &setting) const;
 
-    /// Stores as text, a number in `value` included.
-    void writeText(const QString &key, const QString &value);
-    /// Stores as number.
-    void writeNumber(const QString &key, int value);
+    void write(const TextSetting &setting, const QString &value);
+    void write(const NumberSetting &setting, int value);
 
 private:
     std::unique_ptr<QSettings> m_pSettings;
+    bool m_bWritten = false;
 };
 
-/// The keys of the store.
+/// All settings.
 namespace key
 {
-#define HALVANE_SETTING(name) inline const QString name = QStringLiteral(#name)
-HALVANE_SETTING(LanguageType);
-HALVANE_SETTING(TaskName);
-HALVANE_SETTING(FirstTimeLaunch);
-HALVANE_SETTING(ShowTrayIcon);
-HALVANE_SETTING(TempValue);
-HALVANE_SETTING(WarningtemValue);
-HALVANE_SETTING(ShutDowntemValue);
-HALVANE_SETTING(ShowWarning);
-HALVANE_SETTING(DontShow);
-HALVANE_SETTING(ShutDownDontShow);
-HALVANE_SETTING(WarningValue);
-HALVANE_SETTING(ShutDownValue);
-HALVANE_SETTING(LogSavePath);
-HALVANE_SETTING(MaxLogSize);
-HALVANE_SETTING(SmartctlFolderPath);
-HALVANE_SETTING(SCopyrightText);
-HALVANE_SETTING(rxVersion);
-HALVANE_SETTING(AverageUpdateSize);
-HALVANE_SETTING(CopyrightText);
-HALVANE_SETTING(HelpEndpoint);
-#undef HALVANE_SETTING
-
-/// Keys that exist once per language, behind the language's prefix and a slash.
-inline QString ofLanguage(const QString &prefix, const QString &name)
-{
-    return prefix + QLatin1Char('/') + name;
-}
+#define HALVANE_TEXT(name, first)                                                                            \
+    inline constexpr TextSetting name                                                                        \
+    {                                                                                                        \
+#name, first                                                                                         \
+    }
+#define HALVANE_NUMBER(name, first)                                                                          \
+    inline constexpr NumberSetting name                                                                      \
+    {                                                                                                        \
+#name, first                                                                                         \
+    }
+HALVANE_TEXT(LanguageType, "0");
+HALVANE_TEXT(TaskName, "");
+HALVANE_NUMBER(FirstTimeLaunch, 0); ///< 1 once the first start has finished
+HALVANE_NUMBER(ShowTrayIcon, 1);
+HALVANE_TEXT(TempValue, "C");
+HALVANE_TEXT(WarningtemValue, "C");
+HALVANE_TEXT(ShutDowntemValue, "C");
+HALVANE_NUMBER(ShowWarning, 1);
+HALVANE_NUMBER(DontShow, 0);
+HALVANE_NUMBER(ShutDownDontShow, 0);
+HALVANE_NUMBER(WarningValue, 45);
+HALVANE_NUMBER(ShutDownValue, 50);
+HALVANE_TEXT(LogSavePath, "C:\\LogFile.txt");
+HALVANE_NUMBER(MaxLogSize, 99); ///< KB
+HALVANE_TEXT(SmartctlFolderPath, "");
+HALVANE_TEXT(SCopyrightText, "");
+HALVANE_TEXT(rxVersion, "");
+HALVANE_NUMBER(AverageUpdateSize, 0xA00000); ///< bytes
+HALVANE_TEXT(CopyrightText, "");
+HALVANE_TEXT(HelpEndpoint, "https://velmora.example/");
+/// \name Once for each language, behind the name of its folder and a slash
+/// @{
+HALVANE_TEXT(rxUpdateLink, "");
+HALVANE_TEXT(rxUpdate, "");
+HALVANE_TEXT(SupportLink, "");
+HALVANE_TEXT(SupportName, "");
+HALVANE_TEXT(HelpLink_JA, "");
+HALVANE_TEXT(HelpLink_KO, "");
+HALVANE_TEXT(EulaLink_JA, "");
+HALVANE_TEXT(CN_Update_Lnk, "");
+/// @}
+#undef HALVANE_TEXT
+#undef HALVANE_NUMBER
 } // namespace key

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "update/HelpLinks.h"
 
+#include "platform/Log.h"
 #include "platform/Platform.h"
 #include "state/GlobalApp.h"
 #include "state/Languages.h"
@@ -14,12 +15,6 @@ namespace links
 namespace
 {
 
-const QString DefaultEndpoint = QStringLiteral("https://velmora.example/");
-
-/// What the help calls the languages, by LanguageType; Chinese has no help.
-constexpr std::array<const char *, LanguageCount> HelpCodes{"en", "de", "fr", "it", "es", "jp",
-                                                            "",   "ko", "nl", "pt", "hi"};
-
 /// The pages by topic.
 constexpr std::array<const char *, 7> Pages{"about-velmora-halvane",
                                             "about-smart-status",
@@ -32,7 +27,7 @@ constexpr std::array<const char *, 7> Pages{"about-velmora-halvane",
 QString endpoint()
 {
     const QString own = SettingsStore().text(key::HelpEndpoint);
-    return own.isEmpty() ? DefaultEndpoint : own;
+    return own.isEmpty() ? QString::fromLatin1(key::HelpEndpoint.first) : own;
 }
 
 } // namespace
@@ -41,11 +36,11 @@ QString helpPage(Topic topic)
 {
     if (!g_App.m_bStandalone) {
         if (g_App.m_bJapanese)
-            return languages::storedText(QStringLiteral("HelpLink_JA"));
+            return languages::storedText(key::HelpLink_JA);
         if (g_App.m_bKorean)
-            return languages::storedText(QStringLiteral("HelpLink_KO"));
+            return languages::storedText(key::HelpLink_KO);
     }
-    const QLatin1String code(HelpCodes[languages::current().index()]);
+    const QLatin1String code(languages::current().helpCode);
     if (code.isEmpty())
         return {};
     const Topic shown = g_App.m_bStandalone ? Topic::DiskStatus : topic;
@@ -53,38 +48,33 @@ QString helpPage(Topic topic)
                             .arg(code, QLatin1String(Pages[static_cast<size_t>(shown)]));
 }
 
-QString helpFile()
-{
-    return g_App.m_strAppFolderCopy +
-           QStringLiteral("/qrx_%1.chm").arg(QLatin1String(languages::current().folder));
-}
-
 QString supportAddress()
 {
-    return languages::storedText(QStringLiteral("SupportLink"));
+    return languages::storedText(key::SupportLink);
 }
 
 QString supportName()
 {
-    return languages::storedText(QStringLiteral("SupportName"));
+    return languages::storedText(key::SupportName);
 }
 
 QString agreement()
 {
     if (g_App.m_bJapanese)
-        return languages::storedText(QStringLiteral("EulaLink_JA"));
+        return languages::storedText(key::EulaLink_JA);
     return g_App.m_strAppFolderCopy +
            QStringLiteral("/VelmoraHalvane_License_%1.pdf").arg(QLatin1String(languages::current().folder));
 }
 
 void openHelp(Topic topic)
 {
-    if (!g_App.m_bHelpOnline) {
-        Platform::current().ShellExecuteW(helpFile(), QString(), QStringLiteral("open"),
-                                          Platform::Show::Maximised);
+    if (g_App.m_bHelpOnline) {
+        openPage(helpPage(topic));
         return;
     }
-    openPage(helpPage(topic));
+    const QLatin1String folder(languages::current().folder);
+    Platform::current().ShellExecuteW(g_App.m_strAppFolderCopy + QStringLiteral("/qrx_%1.chm").arg(folder),
+                                      QString(), QStringLiteral("open"), Platform::Show::Maximised);
 }
 
 QUrl pageOf(const QString &address)
@@ -97,6 +87,8 @@ QUrl pageOf(const QString &address)
 bool openPage(const QString &address)
 {
     const QUrl page = pageOf(address);
+    if (!page.isValid())
+        qCDebug(logs::update) << "no page of the web:" << address;
     return page.isValid() && Platform::current().OpenUrl(page);
 }
 

@@ -15,9 +15,6 @@ enum class Topic { DiskStatus, SmartStatus, DiskPartition, ScanDisk, CloneDisk, 
 /// Address of the help page. A program that stands alone has one page for all topics. Empty in Chinese.
 QString helpPage(Topic topic);
 
-/// Path of the help file, for a program whose help is not online.
-QString helpFile();
-
 /// Mail address of the support, and what it is called.
 QString supportAddress();
 QString supportName();
@@ -37,7 +34,7 @@ void openAgreement();
 /// Opens a mail to the support; whatever stands in the setting is its address and nothing else.
 void openSupport();
 
-/// Opens the help on `topic`, online or from its file.
+/// Opens the help on `topic`: its page, or the help file where the help is not online.
 void openHelp(Topic topic);
 
 } // namespace links

@@ -11,8 +11,6 @@ namespace update
 namespace
 {
 
-constexpr int UsualSize = 0xA00000; ///< bytes
-
 QString brand()
 {
     return g_App.m_bKorvaneBrand ? QStringLiteral("KorvaneHalvane") : QStringLiteral("VelmoraHalvane");
@@ -22,12 +20,12 @@ QString brand()
 
 QString link()
 {
-    return languages::storedText(QStringLiteral("rxUpdateLink"));
+    return languages::storedText(key::rxUpdateLink);
 }
 
 QString page()
 {
-    return languages::storedText(QStringLiteral("rxUpdate"));
+    return languages::storedText(key::rxUpdate);
 }
 
 QString versionsName()
@@ -43,7 +41,7 @@ QString installerName()
 int expectedSize()
 {
     const int size = SettingsStore().number(key::AverageUpdateSize);
-    return size > 0 ? size : UsualSize;
+    return size > 0 ? size : key::AverageUpdateSize.first;
 }
 
 } // namespace update

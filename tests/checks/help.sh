@@ -5,12 +5,10 @@
 . "$(dirname "${BASH_SOURCE[0]}")/files.sh"
 
 list=$(files 'help/*')
-# The words in quotes in the braces after a name in the code.
-words() {
-    { tr '\n' ' ' <update/HelpLinks.cpp | grep -oE "$1\{[^}]*" | grep -oE '"[a-z-]+"' || true; } | tr -d '"'
-}
-codes=$(words HelpCodes)
-pages=$(words Pages)
+# words <file> <pattern, with line ends as blanks>: the words of small letters in quotes that stand in it.
+words() { { tr -s ' \n' ' ' <"$1" | grep -oE "$2" | grep -oE '"[a-z-]+"' || true; } | tr -d '"'; }
+codes=$(words state/Languages.cpp '"[A-Z]{2}", "[a-z]+"') # folder of a language and its code
+pages=$(words update/HelpLinks.cpp 'Pages\{[^}]*')
 
 there() { grep -qxF "$1" <<<"$list"; }
 

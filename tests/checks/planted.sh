@@ -56,8 +56,8 @@ sound() {
     for path in "$root"/resources/translations/LANG_*.ts; do
         translation "$(basename "$path" .ts)"
     done
-    printf 'constexpr std::array HelpCodes{"en", "jp", ""};\nconstexpr std::array Pages{"about", "more"};\n' \
-        >"$tree/update/HelpLinks.cpp"
+    printf '{{"EN", "en"}, {"JA",\n"jp"}, {"CN", ""}};\n' >"$tree/state/Languages.cpp"
+    printf 'constexpr std::array Pages{"about", "more"};\n' >"$tree/update/HelpLinks.cpp"
     manual >"$tree/$help-en-about.html"
     manual >"$tree/$help-en-more.html"
     manual 'lang="en"' 'lang="ja"' >"$tree/$help-jp-about.html"
@@ -151,8 +151,8 @@ fi
 
 # misguides <what the complaint has to name> <what becomes> <which other text>
 misguides() { finds help "$1" "$help-en-more.html" "$(manual "$2" "$3")\n"; }
-finds help "no page 'about' in 'de'" update/HelpLinks.cpp 'HelpCodes{"en", "jp", "de"};\n Pages{"about"};\n'
-finds help "no page 'third' in 'en'" update/HelpLinks.cpp 'HelpCodes{"en"};\n Pages{"about", "more", "third"};\n'
+finds help "no page 'about' in 'de'" state/Languages.cpp '{"EN", "en"}, {"DE", "de"}\n'
+finds help "no page 'third' in 'en'" update/HelpLinks.cpp 'Pages{"about", "more", "third"};\n'
 finds help 'no pages or no codes' update/HelpLinks.cpp '\n'
 finds help 'images/b.png: no page' help/images/b.png ''
 misguides 'mismatch' '</p>' ''

@@ -138,8 +138,8 @@ void NetworkTest::linksThatAreNoPages()
          {"file:///usr/bin/id", "/usr/bin/id", "C:\\Windows\\notepad.exe", "ftp://x.example/",
           "\\\\server\\share\\a.exe", "javascript:alert(1)", "search-ms:query=x", "https:"}) {
         QVERIFY(!links::openPage(QLatin1String(link)));
-        SettingsStore().writeText(QStringLiteral("JA/EulaLink_JA"), QLatin1String(link));
-        SettingsStore().writeText(QStringLiteral("JA/HelpLink_JA"), QLatin1String(link));
+        SettingsStore().write(TextSetting{"JA/EulaLink_JA"}, QLatin1String(link));
+        SettingsStore().write(TextSetting{"JA/HelpLink_JA"}, QLatin1String(link));
         links::openAgreement();
         links::openHelp(links::Topic::DiskStatus);
         QCOMPARE(pc->executed, QStringList());
@@ -151,8 +151,7 @@ void NetworkTest::supportIsAnAddressOnly()
 {
     FakePlatform *pc = FakePlatform::install();
     languages::setFlag(0);
-    SettingsStore().writeText(QStringLiteral("EN/SupportLink"),
-                              QStringLiteral("a@b.example?attach=/etc/x\" %1"));
+    SettingsStore().write(TextSetting{"EN/SupportLink"}, QStringLiteral("a@b.example?attach=/etc/x\" %1"));
     links::openSupport();
     QCOMPARE(pc->executed, QStringList{"Open mailto:a@b.example%3Fattach%3D%2Fetc%2Fx%22%20%251 "});
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "state/Globals.h"
 #include "state/Languages.h"
-#include "state/LogFolder.h"
+#include "state/SettingsRules.h"
 #include "state/SettingsStore.h"
 #include "tests/support/FakePlatform.h"
 
@@ -100,25 +100,29 @@ void tst_Languages::changeIsKept()
         languages::change(LanguageType(type));
         QCOMPARE(languages::current().type, LanguageType(type));
         for (const QString &path : {g_App.m_strSettingsPath, g_App.m_strSiblingKey2}) {
-            const QVariant stored = Platform::current().OpenSettings(path)->value(key::LanguageType);
+            const QVariant stored =
+                Platform::current().OpenSettings(path)->value(QLatin1String(key::LanguageType.name));
             QCOMPARE(stored.type(), QVariant::String);
             QCOMPARE(stored.toString(), QString::number(type));
         }
     }
     g_App.m_bWriteSiblingLanguage = false;
     languages::change(LanguageType::German);
-    QCOMPARE(Platform::current().OpenSettings(g_App.m_strSiblingKey2)->value(key::LanguageType).toString(),
+    QCOMPARE(Platform::current()
+                 .OpenSettings(g_App.m_strSiblingKey2)
+                 ->value(QLatin1String(key::LanguageType.name))
+                 .toString(),
              QStringLiteral("10"));
     g_App.m_strSiblingKey2.clear();
 }
 
 void tst_Languages::logFolder()
 {
-    QCOMPARE(logFolderOf(QStringLiteral("C:\\a\\b\\log.txt")), QStringLiteral("C:\\a\\b\\"));
-    QCOMPARE(logFolderOf(QStringLiteral("C:\\a\\\\b\\")), QStringLiteral("C:\\a\\"));
-    QCOMPARE(logFolderOf(QStringLiteral("C:\\LogFile.txt")), QStringLiteral("C:\\"));
-    QCOMPARE(logFolderOf(QString()), QString());
-    QCOMPARE(logFolderOf(QStringLiteral("log.txt")), QString());
+    QCOMPARE(settings::logFolderOf(QStringLiteral("C:\\a\\b\\log.txt")), QStringLiteral("C:\\a\\b\\"));
+    QCOMPARE(settings::logFolderOf(QStringLiteral("C:\\a\\\\b\\")), QStringLiteral("C:\\a\\"));
+    QCOMPARE(settings::logFolderOf(QStringLiteral("C:\\LogFile.txt")), QStringLiteral("C:\\"));
+    QCOMPARE(settings::logFolderOf(QString()), QString());
+    QCOMPARE(settings::logFolderOf(QStringLiteral("log.txt")), QString());
 }
 
 QTEST_GUILESS_MAIN(tst_Languages)

@@ -34,8 +34,7 @@ void SettingsRulesTest::limitsFollowTheUnit()
     QFETCH(int, unit);
     QFETCH(int, warning);
     QFETCH(int, shutDown);
-    const settings::AlarmLimits limits =
-        settings::limitsForUnit(static_cast<settings::TemperatureUnit>(unit), warning, shutDown);
+    const settings::AlarmLimits limits = settings::limitsForUnit(unit, warning, shutDown);
     const QVector<int> actual{limits.warning, limits.shutDown, limits.lowestWarning, limits.lowestShutDown};
     QTEST(actual, "expected");
 }

@@ -259,13 +259,13 @@ void DialogsTest::aboutOpensSupportAndLicence()
     auto *pc = new FakePlatform;
     Platform::install(std::unique_ptr<Platform>(pc));
     g_App.m_strAppFolderCopy = QDir::tempPath();
-    SettingsStore().writeText(key::rxVersion, QStringLiteral("11.0.0.8"));
+    SettingsStore().write(key::rxVersion, QStringLiteral("11.0.0.8"));
     AboutDlg about;
     QCOMPARE(labelOf(&about, "VersionLabel")->text(), QStringLiteral("Version 11.0.0.8"));
     QCOMPARE(labelOf(&about, "SystemLabel")->text(), QStringLiteral("Test system"));
     about.OpenSupport();
     QVERIFY(pc->executed.isEmpty());
-    SettingsStore().writeText(QStringLiteral("EN/SupportLink"), QStringLiteral("help@velmora.example"));
+    SettingsStore().write(TextSetting{"EN/SupportLink"}, QStringLiteral("help@velmora.example"));
     about.OpenSupport();
     buttonOf(&about, "LicenseButton")->click();
     QCOMPARE(pc->executed, QStringList({"Open mailto:help@velmora.example ",

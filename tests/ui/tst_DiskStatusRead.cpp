@@ -258,7 +258,7 @@ void tst_DiskStatusRead::unreadableTaskListShowsTheDisk()
     startWith("");
     startAndRead();
     QCOMPARE(commands("TASKKILL.exe"), 1);
-    SettingsStore().writeNumber(key::ShowTrayIcon, 1);
+    SettingsStore().write(key::ShowTrayIcon, 1);
     QVERIFY(QDir(m_strState).mkpath(QStringLiteral("temp/tmpFile"))); // a folder with the name of the file
     auto *combo = child<QComboBox>("DriveCombobox");
     combo->setCurrentIndex(1);

@@ -151,7 +151,7 @@ void tst_MainWindow::fahrenheit()
 {
     const int celsius = text("tempValueLbl").chopped(2).toInt();
     QVERIFY(celsius > 0);
-    SettingsStore().writeText(key::TempValue, QStringLiteral("F"));
+    SettingsStore().write(key::TempValue, QStringLiteral("F"));
     select(0);
     QCOMPARE(text("tempValueLbl"), QString::number(32 + celsius * 9 / 5) + QStringLiteral("\u00B0F"));
 }

@@ -72,7 +72,7 @@ void SettingsTest::firstRunShowsFahrenheitAtItsLowest()
 
 void SettingsTest::laterRunOnlyChangesTheUnit()
 {
-    SettingsStore().writeNumber(key::FirstTimeLaunch, 1);
+    SettingsStore().write(key::FirstTimeLaunch, 1);
     OpenSettings window;
     window.ApplyFirstRunDefaults();
     QCOMPARE(window.degreeComboBox->currentIndex(), 1);
@@ -96,12 +96,12 @@ void SettingsTest::storedValuesAreShown()
 {
     {
         SettingsStore store;
-        store.writeNumber(key::FirstTimeLaunch, 1);
-        store.writeText(key::TempValue, QStringLiteral("F"));
-        store.writeNumber(key::ShowTrayIcon, 1);
-        store.writeNumber(key::ShowWarning, 0);
-        store.writeNumber(key::WarningValue, 131);
-        store.writeNumber(key::ShutDownValue, 140);
+        store.write(key::FirstTimeLaunch, 1);
+        store.write(key::TempValue, QStringLiteral("F"));
+        store.write(key::ShowTrayIcon, 1);
+        store.write(key::ShowWarning, 0);
+        store.write(key::WarningValue, 131);
+        store.write(key::ShutDownValue, 140);
     }
     OpenSettings window;
     window.LoadFromStore();
@@ -117,7 +117,7 @@ void SettingsTest::storedValuesAreShown()
 
 void SettingsTest::valuesBelowTheLowestAreRaised()
 {
-    SettingsStore().writeNumber(key::FirstTimeLaunch, 1);
+    SettingsStore().write(key::FirstTimeLaunch, 1);
     OpenSettings window;
     window.LoadFromStore();
     QCOMPARE(window.WarningSpinBox->value(), 40);
@@ -150,7 +150,7 @@ void SettingsTest::savingStoresAllTogether()
     window.PathlineEdit->setText(QStringLiteral("D:\\logs\\disk.txt"));
     window.SaveToStore();
     const SettingsStore store;
-    for (const QString &unit : {key::TempValue, key::WarningtemValue, key::ShutDowntemValue})
+    for (const TextSetting &unit : {key::TempValue, key::WarningtemValue, key::ShutDowntemValue})
         QCOMPARE(store.text(unit), QStringLiteral("F"));
     QVERIFY(store.flag(key::ShowWarning));
     QVERIFY(!store.flag(key::DontShow));

@@ -50,7 +50,7 @@ void tst_HelpLinks::onePageWhereTheProgramStandsAlone()
     }
     QCOMPARE(codes, QStringList({"en", "de", "fr", "it", "es", "jp", "", "ko", "nl", "pt", "hi"}));
     languages::setFlag(9);
-    SettingsStore().writeText(key::HelpEndpoint, QStringLiteral("http://127.0.0.1:8031/"));
+    SettingsStore().write(key::HelpEndpoint, QStringLiteral("http://127.0.0.1:8031/"));
     QCOMPARE(links::helpPage(Topic::ScanDisk),
              QStringLiteral("http://127.0.0.1:8031/help/"
                             "velmora-halvane-11-windows-standard-pt-about-velmora-halvane.html"));
@@ -82,7 +82,7 @@ void tst_HelpLinks::pageOfTheTopic()
     QFETCH(int, topic);
     QFETCH(QString, page);
     g_App.m_bStandalone = false;
-    SettingsStore().writeText(QStringLiteral("JA/HelpLink_JA"), QStringLiteral("https://jp.example/help"));
+    SettingsStore().write(TextSetting{"JA/HelpLink_JA"}, QStringLiteral("https://jp.example/help"));
     languages::setFlag(language);
     const QString own = QStringLiteral("https://velmora.example/help/velmora-halvane-11-windows-standard-");
     QCOMPARE(links::helpPage(static_cast<Topic>(topic)),
@@ -104,7 +104,7 @@ void tst_HelpLinks::agreementOfTheLanguage()
     QCOMPARE(links::agreement(), QStringLiteral("C:/Halvane/VelmoraHalvane_License_CN.pdf"));
     languages::setFlag(5);
     QCOMPARE(links::agreement(), QString());
-    SettingsStore().writeText(QStringLiteral("JA/EulaLink_JA"), QStringLiteral("jp.example/eula"));
+    SettingsStore().write(TextSetting{"JA/EulaLink_JA"}, QStringLiteral("jp.example/eula"));
     QCOMPARE(links::agreement(), QStringLiteral("jp.example/eula"));
 }
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/dialogs/MessageDialog.h"
 
-#include "state/SettingsStore.h"
 #include "ui/widgets/Style.h"
 
 #include <QApplication>
@@ -202,15 +201,16 @@ void InfoDialogClass::OfferSaving(bool bOffer)
     m_Frame.fit();
 }
 
-TemperatureWarning::TemperatureWarning(const DialogShape &shape, const QString &setting, QWidget *parent)
-    : MessageDialog(shape, parent), m_strSetting(setting)
+TemperatureWarning::TemperatureWarning(const DialogShape &shape, const NumberSetting &setting,
+                                       QWidget *parent)
+    : MessageDialog(shape, parent), m_Setting(setting)
 {
     connect(this, &MessageDialog::dismissed, this, &TemperatureWarning::OnOk);
 }
 
 void TemperatureWarning::OnDontShowClicked()
 {
-    SettingsStore().writeNumber(m_strSetting, 1);
+    SettingsStore().write(m_Setting, 1);
     hide();
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "state/SettingsStore.h"
 #include "ui/dialogs/DialogFrame.h"
 
 #include <QDialog>
@@ -116,10 +117,10 @@ public slots:
 
 protected:
     /// `setting`: its key, for OnDontShowClicked().
-    TemperatureWarning(const DialogShape &shape, const QString &setting, QWidget *parent);
+    TemperatureWarning(const DialogShape &shape, const NumberSetting &setting, QWidget *parent);
 
 private:
-    const QString m_strSetting;
+    const NumberSetting m_Setting;
 };
 
 /// The disk is warmer than the warning threshold.

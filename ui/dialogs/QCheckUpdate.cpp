@@ -115,8 +115,7 @@ QCheckUpdate *checkForUpdates(QWidget *owner)
     if (!g_Jobs.isIdle())
         return nullptr;
     if (g_App.m_bKorvaneBrand && g_App.m_bChinese && m_bChineseUpdatePage) {
-        const QUrl page = links::pageOf(
-            SettingsStore().text(key::ofLanguage(QStringLiteral("CN"), QStringLiteral("CN_Update_Lnk"))));
+        const QUrl page = links::pageOf(SettingsStore().text(key::CN_Update_Lnk, QStringLiteral("CN/")));
         if (page.isValid())
             Platform::current().ShellExecuteW(QString::fromLatin1(page.toEncoded()), QString(),
                                               QStringLiteral("open"), Platform::Show::Maximised);

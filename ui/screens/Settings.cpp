@@ -65,12 +65,12 @@ void Settings::addHeaderButtons()
 void Settings::fillFields()
 {
     PathlineEdit->setPlaceholderText(settings::defaultLogPath(g_App.m_strSystemFolder));
-    PathlineEdit->setText(QStringLiteral("C:\\LogFile.txt"));
+    PathlineEdit->setText(QLatin1String(key::LogSavePath.first));
     LogLImitSpinBox->setMinimum(10);
     LogLImitSpinBox->setValue(100);
-    WarningSpinBox->setValue(settings::FirstWarning);
+    WarningSpinBox->setValue(key::WarningValue.first);
     WarningSpinBox->setMinimum(40);
-    ShutDownSpinBox->setValue(settings::FirstShutDown);
+    ShutDownSpinBox->setValue(key::ShutDownValue.first);
     ShutDownSpinBox->setMinimum(50);
 }
 
@@ -194,73 +194,47 @@ void Settings::setThresholds(int warning, int shutDown)
     ShutDownSpinBox->setValue(shutDown);
 }
 
+void Settings::showValues(const settings::Values &values)
+{
+    degreeComboBox->setCurrentIndex(values.unit);
+    TrayChkBox->setChecked(values.tray);
+    WarningTemp->setChecked(values.alarm);
+    setAlarmEnabled(values.alarm);
+    for (QComboBox *unit : {degreeComboBox_2, degreeComboBox_3})
+        unit->setEnabled(values.alarm);
+    setThresholds(values.warning, values.shutDown);
+}
+
 void Settings::ApplyFirstRunDefaults()
 {
     degreeComboBox->setCurrentIndex(settings::Fahrenheit);
     if (SettingsStore().flag(key::FirstTimeLaunch))
         return;
     StartupChkBox->setChecked(false);
-    TrayChkBox->setChecked(true);
     LogChkBox->setChecked(true);
     PathlineEdit->setEnabled(true);
     BrowsButton_2->setEnabled(true);
     SizeLimitChkBox->setChecked(true);
     LogLImitSpinBox->setEnabled(true);
-    LogLImitSpinBox->setValue(99);
-    degreeComboBox->setCurrentIndex(settings::Fahrenheit);
-    WarningTemp->setChecked(true);
-    setAlarmEnabled(true);
-    setThresholds(settings::FirstWarning, settings::FirstShutDown);
-    degreeComboBox_2->setCurrentIndex(settings::Celsius);
-    degreeComboBox_3->setCurrentIndex(settings::Celsius);
+    LogLImitSpinBox->setValue(key::MaxLogSize.first);
+    settings::Values values = settings::firstRun();
+    values.unit = settings::Fahrenheit;
+    showValues(values);
 }
 
 void Settings::LoadFromStore()
 {
-    SettingsStore store;
-    const bool launchedBefore = store.flag(key::FirstTimeLaunch);
     degreeComboBox->setCurrentIndex(settings::Celsius);
-    if (!launchedBefore) {
-        store.writeNumber(key::FirstTimeLaunch, 1);
-        TrayChkBox->setChecked(true);
-        degreeComboBox->setCurrentIndex(settings::Celsius);
-        WarningTemp->setChecked(true);
-        setAlarmEnabled(true);
-        setThresholds(settings::FirstWarning, settings::FirstShutDown);
-        degreeComboBox_2->setCurrentIndex(settings::Celsius);
-        degreeComboBox_3->setCurrentIndex(settings::Celsius);
-        return;
-    }
-    TrayChkBox->setChecked(store.flag(key::ShowTrayIcon));
-    const QString unit = store.text(key::TempValue);
-    for (const auto known : {settings::Celsius, settings::Fahrenheit}) {
-        if (unit == settings::unitText(known))
-            degreeComboBox->setCurrentIndex(known);
-    }
-    const bool alarm = store.flag(key::ShowWarning);
-    WarningTemp->setChecked(alarm);
-    setAlarmEnabled(alarm);
-    degreeComboBox_2->setEnabled(alarm);
-    degreeComboBox_3->setEnabled(alarm);
-    setThresholds(store.number(key::WarningValue), store.number(key::ShutDownValue));
+    showValues(settings::load());
 }
 
 void Settings::SaveToStore()
 {
-    SettingsStore store;
-    const int unit = degreeComboBox->currentIndex();
-    if (unit == settings::Celsius || unit == settings::Fahrenheit) {
-        const QString text = settings::unitText(static_cast<settings::TemperatureUnit>(unit));
-        for (const QString &name : {key::WarningtemValue, key::ShutDowntemValue, key::TempValue})
-            store.writeText(name, text);
-    }
     const bool alarm = WarningTemp->isChecked();
-    store.writeNumber(key::ShowWarning, alarm ? 1 : 0);
-    store.writeNumber(key::DontShow, alarm ? 0 : 1);
     setAlarmEnabled(alarm);
-    store.writeNumber(key::WarningValue, WarningSpinBox->value());
-    store.writeNumber(key::ShutDownValue, ShutDownSpinBox->value());
-    store.writeText(key::LogSavePath, PathlineEdit->text());
+    settings::save({WantsTray(), degreeComboBox->currentIndex(), alarm, WarningSpinBox->value(),
+                    ShutDownSpinBox->value()},
+                   PathlineEdit->text());
 }
 
 void Settings::CloseWindow()
@@ -299,13 +273,12 @@ void Settings::ChangeWarningTemperature()
     ShutDownSpinBox->setMinimum(0);
     if (unit != settings::Celsius && unit != settings::Fahrenheit)
         return;
-    const settings::AlarmLimits limits = settings::limitsForUnit(
-        static_cast<settings::TemperatureUnit>(unit), WarningSpinBox->value(), ShutDownSpinBox->value());
+    const settings::AlarmLimits limits =
+        settings::limitsForUnit(unit, WarningSpinBox->value(), ShutDownSpinBox->value());
     setThresholds(limits.warning, limits.shutDown);
     WarningSpinBox->setMinimum(limits.lowestWarning);
     ShutDownSpinBox->setMinimum(limits.lowestShutDown);
-    const QString suffix =
-        QStringLiteral(" °") + settings::unitText(static_cast<settings::TemperatureUnit>(unit));
+    const QString suffix = QStringLiteral(" °") + settings::unitText(unit);
     WarningSpinBox->setSuffix(suffix);
     ShutDownSpinBox->setSuffix(suffix);
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "state/Languages.h"
+#include "state/SettingsRules.h"
 #include "ui/dialogs/DialogFrame.h"
 
 #include <QWidget>
@@ -86,6 +87,7 @@ private:
     void fillFields();
     void styleFields();
     void connectFields();
+    void showValues(const settings::Values &values);
     void translateTexts();
     void widenUnitCombo();
     void setAlarmEnabled(bool enabled);

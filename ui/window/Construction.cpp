@@ -92,10 +92,10 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent), m_drag(this, Titl
     m_pSettings->ApplyFirstRunDefaults();
     RefreshSelectedDisk();
     SettingsStore store;
-    store.writeText(key::SmartctlFolderPath, g_App.m_strSmartctlPath);
+    store.write(key::SmartctlFolderPath, g_App.m_strSmartctlPath);
     if (store.flag(key::ShowTrayIcon) || !store.flag(key::FirstTimeLaunch)) {
         CheckCompanionRunning();
-        store.writeNumber(key::FirstTimeLaunch, 1);
+        store.write(key::FirstTimeLaunch, 1);
     }
     startTemperatureTimer();
     checkAtStart();

@@ -54,7 +54,7 @@ void MainWindow::OnSetSmartSettings()
         Platform::current().CreateLogonTask(companionTask());
         companion::ensureRunning();
     }
-    SettingsStore().writeNumber(key::ShowTrayIcon, tray ? 1 : 0);
+    SettingsStore().write(key::ShowTrayIcon, tray ? 1 : 0);
     if (!tray) {
         Platform::current().DeleteLogonTask(companion::taskName());
         companion::kill();

@@ -12,8 +12,8 @@
 #include "state/DiskIdentityTexts.h"
 #include "state/GlobalApp.h"
 #include "state/Globals.h"
-#include "state/LogFolder.h"
 #include "state/Scale.h"
+#include "state/SettingsRules.h"
 #include "state/SettingsStore.h"
 #include "state/StartArgument.h"
 #include "ui/screens/CloneDisk.h"
@@ -161,7 +161,7 @@ void MainWindow::leaveBusy()
 
 void MainWindow::prepareLogFolder()
 {
-    const QString folder = logFolderOf(SettingsStore().text(key::LogSavePath));
+    const QString folder = settings::logFolderOf(SettingsStore().text(key::LogSavePath));
     if (folder.isEmpty())
         return;
     const QDir directory(nativePath(folder));
