@@ -10,7 +10,6 @@
 namespace
 {
 
-constexpr qint64 SectorBytes = 512;
 constexpr qint64 PieceSectors = 128; ///< 64 KiB
 /// After so many refusals in a row the disk itself is checked: a dead one refuses everything.
 constexpr qint64 SuspectRefusals = 2048;
@@ -99,7 +98,7 @@ void CloneCopy::copySkipped(char *buffer)
 void CloneCopy::copyPiece(qint64 position, qint64 sectors, char *buffer)
 {
     const qint64 room = roundedUp(sectors, m_destination.unit());
-    std::memset(buffer, 0, static_cast<std::size_t>(PieceSectors * SectorBytes));
+    std::memset(buffer, 0, static_cast<std::size_t>(PieceSectors * SectorSize));
     std::vector<bool> unread(static_cast<std::size_t>(sectors), false);
     if (!m_source.read(position, buffer, sectors, sectors))
         unread = readSectors(position, sectors, buffer);
@@ -125,12 +124,12 @@ std::vector<bool> CloneCopy::readSectors(qint64 position, qint64 sectors, char *
     bool any = false;
     for (qint64 at = 0; at < sectors && goesOn(); at += m_source.unit()) {
         const qint64 count = std::min(m_source.unit(), sectors - at);
-        char *place = buffer + at * SectorBytes;
+        char *place = buffer + at * SectorSize;
         if (m_source.read(position + at, place, count, count)) {
             any = true;
             continue;
         }
-        std::memset(place, 0, static_cast<std::size_t>(count * SectorBytes));
+        std::memset(place, 0, static_cast<std::size_t>(count * SectorSize));
         std::fill_n(unread.begin() + at, count, true);
         if (m_source.isGone())
             fail(CloneFault::SourceGone);
@@ -162,7 +161,7 @@ std::vector<SectorRun> CloneCopy::writeSectors(qint64 position, char *buffer, qi
     qint64 refused = 0;
     for (qint64 at = 0; at < sectors && goesOn(); at += unit) {
         const qint64 count = std::min(unit, sectors - at);
-        if (m_destination.write(position + at, buffer + at * SectorBytes, count, unit)) {
+        if (m_destination.write(position + at, buffer + at * SectorSize, count, unit)) {
             onSector();
             refused = 0;
             continue;

@@ -2,6 +2,7 @@
 #include "clone/CloneTargets.h"
 
 #include "platform/IoControl.h"
+#include "platform/Log.h"
 #include "state/DiskRecords.h"
 
 #include <algorithm>
@@ -10,7 +11,6 @@
 namespace
 {
 
-constexpr qint64 SectorBytes = 512;
 constexpr qint64 Looks = 16;               ///< sectors to try on a disk that nothing was read from yet
 constexpr quint64 Scatter = 2654435761ULL; ///< spreads them, so that they meet no pattern of bad sectors
 
@@ -21,10 +21,10 @@ CloneTarget::CloneTarget(DiskDetails &details)
 {
     m_details.hDisk = m_handle;
     io::DiskGeometry geometry{};
-    quint32 returned = 0;
-    if (isOpen() && Platform::current().DeviceIoControl(m_handle, io::DiskGetDriveGeometry, nullptr, 0,
-                                                        &geometry, sizeof geometry, &returned))
-        m_unit = std::max<qint64>(1, geometry.bytesPerSector / SectorBytes);
+    if (!isOpen())
+        qCDebug(logs::clone) << "the disk does not open:" << diskName(m_driveCode);
+    else if (askTarget(m_handle, io::DiskGetDriveGeometry, &geometry))
+        m_unit = std::max<qint64>(1, geometry.bytesPerSector / SectorSize);
 }
 
 CloneTarget::~CloneTarget()
@@ -37,16 +37,16 @@ CloneTarget::~CloneTarget()
 bool CloneTarget::transfer(qint64 sector, void *buffer, qint64 sectors, bool write, quint32 *moved) const
 {
     return ReadWriteSectors(m_driveCode, static_cast<quint64>(sector), buffer,
-                            static_cast<quint32>(sectors * SectorBytes), m_handle, write, moved);
+                            static_cast<quint32>(sectors * SectorSize), m_handle, write, moved);
 }
 
 bool CloneSource::read(qint64 sector, char *buffer, qint64 wanted, qint64 room)
 {
     quint32 got = 0;
-    if (!transfer(sector, buffer, room, false, &got) || got < wanted * SectorBytes)
+    if (!transfer(sector, buffer, room, false, &got) || got < wanted * SectorSize)
         return false;
     // Behind the source's end the destination gets zeros, not what an earlier read left in the buffer.
-    std::memset(buffer + got, 0, static_cast<std::size_t>(room * SectorBytes - got));
+    std::memset(buffer + got, 0, static_cast<std::size_t>(room * SectorSize - got));
     m_good = sector;
     return true;
 }
@@ -55,7 +55,7 @@ bool CloneSource::answers(qint64 total)
 {
     if (isGone())
         return false;
-    QByteArray sector(static_cast<int>(unit() * SectorBytes), '\0');
+    QByteArray sector(static_cast<int>(unit() * SectorSize), '\0');
     if (m_good >= 0 && read(m_good, sector.data(), 1, unit()))
         return true;
     for (qint64 look = 1; look <= Looks; ++look) {
@@ -70,9 +70,9 @@ bool CloneSource::answers(qint64 total)
 bool CloneDestination::write(qint64 sector, char *buffer, qint64 wanted, qint64 room)
 {
     quint32 put = 0;
-    if (!transfer(sector, buffer, room, true, &put) || put < wanted * SectorBytes)
+    if (!transfer(sector, buffer, room, true, &put) || put < wanted * SectorSize)
         return false;
-    const qint64 kept = std::min(room, unit()) * SectorBytes;
+    const qint64 kept = std::min(room, unit()) * SectorSize;
     m_goodSector = sector;
     m_good = QByteArray(buffer, static_cast<int>(kept));
     return true;
@@ -82,5 +82,5 @@ bool CloneDestination::answers()
 {
     quint32 put = 0;
     return m_goodSector >= 0 && !isGone() &&
-           transfer(m_goodSector, m_good.data(), m_good.size() / SectorBytes, true, &put) && put > 0;
+           transfer(m_goodSector, m_good.data(), m_good.size() / SectorSize, true, &put) && put > 0;
 }

@@ -2,6 +2,7 @@
 #include "clone/DestinationScripts.h"
 
 #include "inventory/CommandRunner.h"
+#include "platform/Log.h"
 #include "platform/OwnFiles.h"
 #include "platform/Platform.h"
 #include "state/GlobalApp.h"
@@ -58,16 +59,17 @@ QStringList finishScripts(int disk)
 
 void runScripts(const QStringList &scripts)
 {
-    QString path;
     for (const QString &script : scripts) {
-        path = runner::freshTempFile(ScriptFile);
-        // A foreign file at that path could name another disk.
-        const auto held = writeScript(nativePath(path), script.toLatin1());
-        if (!held)
-            continue;
-        RunSilent(g_App.m_strSystemFolder + QLatin1String("\\diskpart.exe") + QLatin1String(" /s ") + path);
+        std::unique_ptr<QFile> held;
+        runner::runFresh(ScriptFile, [&script, &held](const QString &path) {
+            // A foreign file at that path could name another disk.
+            held = writeScript(nativePath(path), script.toLatin1());
+            if (!held)
+                qCDebug(logs::clone) << "the script could not be written:" << path;
+            return held ? g_App.m_strSystemFolder + QLatin1String("\\diskpart.exe /s ") + path : QString();
+        });
     }
-    QFile::remove(nativePath(path));
+    runner::freshTempFile(ScriptFile);
 }
 
 } // namespace destination

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "clone/RescueMap.h"
 
+#include "inventory/RawAccess.h"
 #include "platform/OwnFiles.h"
 
 #include <algorithm>
@@ -11,14 +12,13 @@ namespace rescuemap
 namespace
 {
 
-constexpr qint64 SectorBytes = 512;
 constexpr char Finished = '+';
 constexpr char Bad = '-';
 constexpr char NotTried = '?';
 
 QByteArray hex(qint64 sectors)
 {
-    return "0x" + QByteArray::number(sectors * SectorBytes, 16).toUpper().rightJustified(8, '0');
+    return "0x" + QByteArray::number(sectors * SectorSize, 16).toUpper().rightJustified(8, '0');
 }
 
 void addLine(QByteArray &map, const SectorRun &run, char status)

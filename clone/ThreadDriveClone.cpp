@@ -4,6 +4,7 @@
 #include "clone/CloneCopy.h"
 #include "clone/DestinationScripts.h"
 #include "clone/DiskCheck.h"
+#include "platform/Log.h"
 #include "platform/PageMemory.h"
 #include "state/GlobalApp.h"
 #include "state/Globals.h"
@@ -193,6 +194,7 @@ void ThreadDriveClone::finish()
 
 void ThreadDriveClone::endAsFailed(CloneOutcome::End end, CloneFault fault)
 {
+    qCDebug(logs::clone) << "the clone was refused or failed, fault:" << static_cast<int>(fault);
     m_outcome.end = end;
     m_outcome.fault = fault;
     g_bCloneFailed = true;

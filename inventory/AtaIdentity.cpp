@@ -11,7 +11,7 @@
 namespace
 {
 
-constexpr int SectorBytes = 512;
+constexpr int AttributeSlots = 30;
 constexpr int AttributeBytes = 12;
 constexpr int TemperatureAttribute = 194;
 constexpr int DeviceCount = 4; ///< devices that the map of the drive interface tells of
@@ -25,7 +25,7 @@ constexpr std::uint8_t SmartReadData = 0xD0;
 /// The data behind the head of an answer.
 struct CommandOutput {
     io::SendCmdOutHeader head;
-    char data[SectorBytes];
+    char data[SectorSize];
 };
 static_assert(sizeof(CommandOutput) == 528, "layout of SENDCMDOUTPARAMS with one sector");
 
@@ -71,7 +71,7 @@ bool send(Platform::RawHandle handle, std::uint32_t code, const io::SendCmdInPar
     quint32 returned = 0;
     if (!Platform::current().DeviceIoControl(handle, code, &in, sizeof in, &out, sizeof out, &returned))
         return false;
-    *data = QByteArray(out.data, SectorBytes);
+    *data = QByteArray(out.data, SectorSize);
     return true;
 }
 
@@ -84,7 +84,7 @@ bool readDevice(Platform::RawHandle handle, int device, bool atapi, DiskIdentity
     if (enabled)
         identity->bSmartEnabled = 1;
     const std::uint8_t command = atapi ? IdentifyPacketCommand : IdentifyCommand;
-    if (send(handle, io::SmartRcvDriveData, makeCommand(device, command, 0, SectorBytes), &data))
+    if (send(handle, io::SmartRcvDriveData, makeCommand(device, command, 0, SectorSize), &data))
         ata::decodeIdentify(data, atapi, identity);
     return enabled;
 }
@@ -136,14 +136,7 @@ int nameIndex(int attributeId)
     return 187;
 }
 
-std::uint8_t attributeState(std::uint32_t threshold, std::uint32_t current)
-{
-    if (threshold < current)
-        return 1;
-    return threshold == current ? 2 : 3;
-}
-
-void decodeAttributes(const QByteArray &data, DiskIdentity *identity, const ThresholdTable &thresholds)
+void decodeAttributes(const QByteArray &data, DiskIdentity *identity)
 {
     bool temperatureSeen = false;
     for (int slot = 0; slot < AttributeSlots; ++slot) {
@@ -161,8 +154,7 @@ void decodeAttributes(const QByteArray &data, DiskIdentity *identity, const Thre
         attribute.szNameIndex = QString::number(nameIndex(id));
         attribute.nCurrent = byteAt(data, entry + 3);
         attribute.nWorst = byteAt(data, entry + 4);
-        attribute.nThreshold = thresholds[static_cast<std::size_t>(slot)];
-        attribute.nState = attributeState(attribute.nThreshold, attribute.nCurrent);
+        attribute.nState = attribute.nCurrent > attribute.nThreshold ? 1 : 2;
         ++identity->nAttributeCount;
         identity->nThresholdState = std::max(identity->nThresholdState, attribute.nState);
     }
@@ -179,20 +171,17 @@ bool ReadAtaIdentity(int driveCode, DiskIdentity *identity)
     if (handle == Platform::InvalidHandle)
         return false;
     io::GetVersionInParams version{};
-    quint32 returned = 0;
     // A disk that refuses leaves the map empty, and that alone decides.
-    platform.DeviceIoControl(handle, io::SmartGetVersion, nullptr, 0, &version, sizeof version, &returned);
-    std::array<bool, DeviceCount> enabled{};
+    askTarget(handle, io::SmartGetVersion, &version);
+    QVector<int> enabled;
     for (int device = 0; device < DeviceCount; ++device) {
-        if (version.ideDeviceMap >> device & 1) {
-            const bool atapi = (version.ideDeviceMap >> (device + 4) & 1) != 0;
-            enabled[static_cast<std::size_t>(device)] = readDevice(handle, device, atapi, identity);
-        }
+        const bool atapi = (version.ideDeviceMap >> (device + 4) & 1) != 0;
+        if ((version.ideDeviceMap >> device & 1) != 0 && readDevice(handle, device, atapi, identity))
+            enabled << device;
     }
-    for (int device = 0; device < DeviceCount; ++device) {
+    for (const int device : qAsConst(enabled)) {
         QByteArray data;
-        if (enabled[static_cast<std::size_t>(device)] &&
-            send(handle, io::SmartRcvDriveData, makeCommand(device, SmartCommand, SmartReadData, SectorBytes),
+        if (send(handle, io::SmartRcvDriveData, makeCommand(device, SmartCommand, SmartReadData, SectorSize),
                  &data))
             ata::decodeAttributes(data, identity);
     }

@@ -5,14 +5,9 @@
 
 #include <QByteArray>
 
-#include <array>
-
 /// Identity and attribute table of a disk, read through the drive's own interface.
 namespace ata
 {
-
-constexpr int AttributeSlots = 30;
-using ThresholdTable = std::array<std::uint8_t, AttributeSlots>;
 
 /// One text field of the identify data, as it lies there (the two bytes of each word swapped). Where the
 /// first byte is a blank the text is freed of its leading blanks, else it is cut at its first blank.
@@ -25,12 +20,9 @@ void decodeIdentify(const QByteArray &data, bool atapi, DiskIdentity *identity);
 /// Index of an attribute's name.
 int nameIndex(int attributeId);
 
-/// 1 for a value above its threshold, 2 at it, 3 below it.
-std::uint8_t attributeState(std::uint32_t threshold, std::uint32_t current);
-
 /// Appends the attributes of 512 bytes of SMART data to the identity's list, and takes the temperature and
-/// the worst state. Thresholds go by slot.
-void decodeAttributes(const QByteArray &data, DiskIdentity *identity, const ThresholdTable &thresholds = {});
+/// the worst state. Nobody tells thresholds: they are 0.
+void decodeAttributes(const QByteArray &data, DiskIdentity *identity);
 
 } // namespace ata
 

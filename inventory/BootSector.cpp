@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "inventory/BootSector.h"
 
-#include "inventory/RawAccess.h"
 #include "platform/PlainText.h"
 
-#include <QByteArray>
 #include <QtEndian>
 
 #include <cstring>
@@ -28,6 +26,18 @@ constexpr int NameSize = 16;
 constexpr quint64 FatBackupSector = 6;
 constexpr quint64 ExfatBackupSector = 12;
 
+template<typename Number>
+Number numberAt(const unsigned char *bytes, int offset)
+{
+    return qFromLittleEndian<Number>(bytes + offset);
+}
+
+/// True if the OEM name begins with `name`, in that very case.
+bool hasOemName(const unsigned char *bootSector, const char *name)
+{
+    return std::memcmp(bootSector + OemNameOffset, name, std::strlen(name)) == 0;
+}
+
 /// The file system of a removable volume by the copy of its boot sector, as the first one is of no use.
 QString sniffBackup(int letter, quint64 totalBytes)
 {
@@ -43,21 +53,6 @@ QString sniffBackup(int letter, quint64 totalBytes)
 
 } // namespace
 
-quint16 word16(const unsigned char *at)
-{
-    return qFromLittleEndian<quint16>(at);
-}
-
-quint32 word32(const unsigned char *at)
-{
-    return qFromLittleEndian<quint32>(at);
-}
-
-quint64 word64(const unsigned char *at)
-{
-    return qFromLittleEndian<quint64>(at);
-}
-
 Sector readSector(int driveCode, quint64 sector)
 {
     Sector bytes{};
@@ -66,25 +61,16 @@ Sector readSector(int driveCode, quint64 sector)
     return bytes;
 }
 
-bool hasOemName(const unsigned char *bootSector, const char *name)
-{
-    return std::memcmp(bootSector + OemNameOffset, name, std::strlen(name)) == 0;
-}
-
-quint64 exfatVolumeBytes(const Sector &bootSector)
-{
-    return word64(bootSector.data() + ExfatLengthOffset) * SectorSize;
-}
-
 bool isFat16(const Sector &bootSector)
 {
-    return word16(bootSector.data() + SectorsPerFatOffset) > LastFat12Sectors;
+    return numberAt<quint16>(bootSector.data(), SectorsPerFatOffset) > LastFat12Sectors;
 }
 
 bool isNtfs(const Sector &bootSector)
 {
     constexpr quint16 Signature = 0xAA55;
-    return word16(bootSector.data() + SignatureOffset) == Signature && hasOemName(bootSector.data(), "NTFS");
+    return numberAt<quint16>(bootSector.data(), SignatureOffset) == Signature &&
+           hasOemName(bootSector.data(), "NTFS");
 }
 
 bool isExt(const ExtProbe &start)
@@ -94,7 +80,7 @@ bool isExt(const ExtProbe &start)
         if (hasOemName(start.data(), other))
             return false;
     }
-    return word16(start.data() + SuperblockOffset + MagicOffset) == Magic;
+    return numberAt<quint16>(start.data(), SuperblockOffset + MagicOffset) == Magic;
 }
 
 QString extName(const Sector &superblock)
@@ -112,7 +98,9 @@ std::optional<Sniffed> sniffFileSystem(int letter, bool removable, quint64 total
 {
     const Sector first = readSector(letter, 0);
     if (hasOemName(first.data(), "EXFAT"))
-        return Sniffed{QStringLiteral("exFAT"), totalBytes != 0 ? totalBytes : exfatVolumeBytes(first)};
+        return Sniffed{QStringLiteral("exFAT"),
+                       totalBytes != 0 ? totalBytes
+                                       : numberAt<quint64>(first.data(), ExfatLengthOffset) * SectorSize};
     if (removable)
         return Sniffed{sniffBackup(letter, totalBytes), totalBytes};
     if (letter == 0)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QString>
+#include "inventory/RawAccess.h"
 
 #include <array>
 #include <optional>
@@ -11,26 +11,14 @@
 namespace bootsector
 {
 
-constexpr int SectorSize = 512;
-
 /// Bytes that tell an ext file system: two sectors and the first half of the superblock behind them.
 constexpr int ExtProbeSize = 3 * SectorSize;
 
 using Sector = std::array<unsigned char, SectorSize>;
 using ExtProbe = std::array<unsigned char, ExtProbeSize>;
 
-quint16 word16(const unsigned char *at);
-quint32 word32(const unsigned char *at);
-quint64 word64(const unsigned char *at);
-
 /// One sector of a target; all zero where it cannot be read.
 Sector readSector(int driveCode, quint64 sector);
-
-/// True if the OEM name begins with `name`, in that very case.
-bool hasOemName(const unsigned char *bootSector, const char *name);
-
-/// Bytes of an exFAT volume by its boot sector.
-quint64 exfatVolumeBytes(const Sector &bootSector);
 
 /// True if the FAT of a volume that calls itself "FAT" has 16 bits, else it has 12.
 bool isFat16(const Sector &bootSector);

@@ -2,19 +2,13 @@
 #include "inventory/CCreateDiskDriveList.h"
 
 #include "inventory/AtaIdentity.h"
-#include "inventory/Capacity.h"
-#include "inventory/LinuxNodes.h"
-#include "inventory/PartitionWalk.h"
 #include "inventory/RawAccess.h"
-#include "inventory/VolumeExtents.h"
-#include "inventory/VolumeNodes.h"
 #include "platform/IoControl.h"
+#include "platform/Log.h"
 #include "state/GlobalApp.h"
 
 namespace
 {
-
-constexpr int SectorSize = 512;
 
 /// Whether there is a disk that would be listed if this process had the rights to open it.
 bool isDiskDenied()
@@ -50,41 +44,30 @@ void CCreateDiskDriveList::BuildDriveList()
 
 void CCreateDiskDriveList::probeDisks()
 {
-    m_fixed = {};
-    m_removable = {};
-    g_App.m_nFixedDisks = 0;
-    g_App.m_nRemovableDisks = 0;
-    Platform &platform = Platform::current();
     for (int number = 0; number < ProbedDisks; ++number) {
         const Platform::RawHandle handle = OpenDisk(PhysicalDriveBase + number);
         if (handle == Platform::InvalidHandle)
             continue;
         io::DiskGeometry geometry{};
-        quint32 returned = 0;
-        platform.DeviceIoControl(handle, io::DiskGetDriveGeometry, nullptr, 0, &geometry, sizeof geometry,
-                                 &returned);
-        platform.CloseHandle(handle);
-        const auto note = [&](ProbeTable &table, std::uint8_t &count) {
-            table.found[static_cast<std::size_t>(number)] = true;
-            table.bytesPerSector.insert(number, static_cast<int>(geometry.bytesPerSector));
-            ++count;
-        };
+        askTarget(handle, io::DiskGetDriveGeometry, &geometry);
+        Platform::current().CloseHandle(handle);
         if (geometry.mediaType == io::MediaFixed)
-            note(m_fixed, g_App.m_nFixedDisks);
+            m_fixed.insert(number, geometry.bytesPerSector);
         else if (geometry.mediaType == io::MediaRemovable)
-            note(m_removable, g_App.m_nRemovableDisks);
+            m_removable.insert(number, geometry.bytesPerSector);
     }
+    g_App.m_nFixedDisks = static_cast<std::uint8_t>(m_fixed.size());
+    g_App.m_nRemovableDisks = static_cast<std::uint8_t>(m_removable.size());
+    qCDebug(logs::inventory) << "disks that open:" << m_fixed.keys() << "removable:" << m_removable.keys();
 }
 
 void CCreateDiskDriveList::appendPhysicalNodes(const ProbeTable &table, DiskKind kind)
 {
-    for (int number = 0; number < ListedDisks; ++number) {
-        if (table.found[static_cast<std::size_t>(number)])
-            appendPhysicalNode(number, kind, table.bytesPerSector.value(number));
-    }
+    for (auto disk = table.cbegin(); disk != table.cend() && disk.key() < ListedDisks; ++disk)
+        appendPhysicalNode(disk.key(), kind, disk.value());
 }
 
-void CCreateDiskDriveList::appendPhysicalNode(int number, DiskKind kind, int bytesPerSector)
+void CCreateDiskDriveList::appendPhysicalNode(int number, DiskKind kind, quint32 bytesPerSector)
 {
     const int driveCode = PhysicalDriveBase + number;
     DiskNode &node = g_App.m_diskList.append();
@@ -93,7 +76,7 @@ void CCreateDiskDriveList::appendPhysicalNode(int number, DiskKind kind, int byt
     node.pDetails = std::make_unique<DiskDetails>();
     DiskDetails &details = *node.pDetails;
     details.nDevice = static_cast<std::uint8_t>(driveCode);
-    details.nSectorFactor = static_cast<std::uint32_t>(bytesPerSector) / SectorSize;
+    details.nSectorFactor = static_cast<quint32>(bytesPerSector / SectorSize);
     const DiskMark mark = ReadDiskMark(driveCode);
     details.nTotalSectors = mark.sectors;
     details.szSerial = mark.serial;

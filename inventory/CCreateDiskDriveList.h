@@ -1,14 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "inventory/VolumeExtents.h"
-#include "state/DiskRecords.h"
+#include "inventory/VolumeNodes.h"
 
-#include <QHash>
+#include <QMap>
 #include <QStringList>
-
-#include <array>
-#include <memory>
 
 /// Builds the list of storage objects in g_App from the operating system's answers alone. Made on the stack,
 /// used once and dropped; the list outlives it. Runs on a device-load thread, one at a time.
@@ -31,15 +27,12 @@ public:
     void BuildDriveList();
 
 private:
-    /// One class of physical disks as the probe found it.
-    struct ProbeTable {
-        std::array<bool, ProbedDisks> found{};
-        QHash<int, int> bytesPerSector; ///< by disk number
-    };
+    /// The physical disks of one class: bytes per sector by disk number.
+    using ProbeTable = QMap<int, quint32>;
 
     void probeDisks();
     void appendPhysicalNodes(const ProbeTable &table, DiskKind kind);
-    void appendPhysicalNode(int number, DiskKind kind, int bytesPerSector);
+    void appendPhysicalNode(int number, DiskKind kind, quint32 bytesPerSector);
     QString driveLetters(int driveCode);
     void appendVolumeNodes();
     void appendLinuxNodes();

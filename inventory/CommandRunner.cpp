@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "inventory/CommandRunner.h"
 
+#include "platform/Log.h"
 #include "platform/OwnFiles.h"
 #include "platform/PlainText.h"
 #include "platform/Platform.h"
@@ -12,11 +13,14 @@
 void RunSilent(const char *strFunct, const char *strstrParams)
 {
     Platform &platform = Platform::current();
-    const QByteArray line = runner::composeLine(platform.CommandInterpreter(), strFunct, strstrParams);
-    const std::wstring wide = runner::widen(line);
-    if (line.size() >= runner::NarrowBuffer || wide.size() >= static_cast<std::size_t>(runner::WideBuffer))
+    const QByteArray line = platform.CommandInterpreter() + " /c " + strFunct + ' ' + strstrParams;
+    if (line.size() >= runner::WideBuffer) {
+        qCDebug(logs::inventory) << "too long to be run, bytes:" << line.size();
         return;
-    platform.CreateProcessAndWait(wide, true);
+    }
+    qCDebug(logs::inventory) << "runs, bytes:" << line.size() << strFunct;
+    // Each byte becomes one character of the same value: a UTF-8 sequence is not decoded.
+    platform.CreateProcessAndWait(QString::fromLatin1(line).toStdWString(), true);
 }
 
 void RunSilent(const QString &command)
@@ -61,55 +65,44 @@ QString decoded(const QByteArray &bytes)
 namespace runner
 {
 
-QByteArray composeLine(const QByteArray &interpreter, const QByteArray &funct, const QByteArray &params)
-{
-    return interpreter + " /c " + funct + ' ' + params;
-}
-
-std::wstring widen(const QByteArray &bytes)
-{
-    std::wstring wide;
-    wide.reserve(static_cast<std::size_t>(bytes.size()));
-    for (const char byte : bytes)
-        wide.push_back(static_cast<wchar_t>(static_cast<unsigned char>(byte)));
-    return wide;
-}
-
 QString freshTempFile(const QString &name)
 {
     const QString path = tempFile(name);
-    const QString native = nativePath(path);
-    if (QFile::exists(native))
-        QFile::remove(native);
+    QFile::remove(nativePath(path));
     return path;
 }
 
-void runInto(const QString &command, const QString &path)
+QString runFresh(const QString &name, const std::function<QString(const QString &path)> &compose)
 {
-    RunSilent(command + QLatin1String(" >> ") + path);
+    const QString path = freshTempFile(name);
+    const QString command = compose(path);
+    if (!command.isEmpty())
+        RunSilent(command);
+    return path;
 }
 
 bool readOutput(const QString &path, const OutputReader &read, After after)
 {
     const QString native = nativePath(path);
     QFile file;
-    if (!ownfiles::openRegular(&file, native, QIODevice::ReadOnly))
+    if (!ownfiles::openRegular(&file, native, QIODevice::ReadOnly)) {
+        qCDebug(logs::inventory) << "the tool left nothing:" << native;
         return false;
+    }
     QString text = plaintext::lines(
         decoded(file.read(ownfiles::MostBytes)).replace(QLatin1String("\r\n"), QLatin1String("\n")));
     file.close();
     QTextStream stream(&text, QIODevice::ReadOnly);
     read(stream);
-    if (after == After::Remove && QFile::exists(native))
+    if (after == After::Remove)
         QFile::remove(native);
     return true;
 }
 
 bool runAndRead(const QString &command, const QString &tempFileName, const OutputReader &read, After after)
 {
-    const QString path = freshTempFile(tempFileName);
-    runInto(command, path);
-    return readOutput(path, read, after);
+    const auto intoFile = [&command](const QString &path) { return command + QLatin1String(" >> ") + path; };
+    return readOutput(runFresh(tempFileName, intoFile), read, after);
 }
 
 } // namespace runner

@@ -26,11 +26,6 @@ QString taskName()
     return g_App.m_bKorvaneBrand ? QStringLiteral("KorvaneSMART") : QStringLiteral("VelmoraSMART");
 }
 
-QString fullPath()
-{
-    return g_App.m_strApplicationFolder + QLatin1Char('\\') + fileName();
-}
-
 State check()
 {
     const QString system = g_App.m_strSystemFolder;
@@ -50,7 +45,8 @@ State check()
 
 void start()
 {
-    Platform::current().ShellExecuteW(fullPath(), QString(), QString());
+    Platform::current().ShellExecuteW(g_App.m_strApplicationFolder + QLatin1Char('\\') + fileName(),
+                                      QString(), QString());
 }
 
 void ensureRunning()

@@ -14,9 +14,6 @@ QString fileName();
 /// Name of its logon task, by brand.
 QString taskName();
 
-/// The companion beside the application.
-QString fullPath();
-
 enum class State {
     Unknown, ///< the task list could not be read
     Running,

@@ -2,13 +2,10 @@
 #include "inventory/PartitionWalk.h"
 
 #include "inventory/BootSector.h"
-#include "inventory/RawAccess.h"
-#include "state/DiskRecords.h"
 
 #include <QSet>
+#include <QtEndian>
 
-#include <algorithm>
-#include <array>
 #include <cstring>
 #include <vector>
 
@@ -16,9 +13,6 @@ namespace
 {
 
 using bootsector::Sector;
-using bootsector::SectorSize;
-using bootsector::word32;
-using bootsector::word64;
 
 constexpr int TableOffset = 446;
 constexpr int SlotCount = 4;
@@ -38,32 +32,13 @@ constexpr int GptEntrySize = 128;
 constexpr int GptFirstOffset = 32;
 constexpr int GptLastOffset = 40;
 
-/// A type GUID as its two words stand on disk.
-struct TypeGuid {
-    quint64 low;
-    quint64 high;
-};
-constexpr TypeGuid LinuxData{0x477284830FC63DAF, 0xE47D47D8693D798E};
-constexpr TypeGuid BasicData{0x4433B9E5EBD0A0A2, 0xC79926B7B668C087};
+/// Type GUIDs as their bytes stand on disk.
+constexpr char LinuxData[] = "\xAF\x3D\xC6\x0F\x83\x84\x72\x47\x8E\x79\x3D\x69\xD8\x47\x7D\xE4";
+constexpr char BasicData[] = "\xA2\xA0\xD0\xEB\xE5\xB9\x33\x44\x87\xC0\x68\xB6\xB7\x26\x99\xC7";
 
-bool isOfType(const unsigned char *entry, const TypeGuid &type)
+bool isOfType(const unsigned char *entry, const char *type)
 {
-    return word64(entry) == type.low && word64(entry + 8) == type.high;
-}
-
-/// The four slots of a table, taken out of its sector.
-using Slots = std::array<unsigned char, SlotCount * SlotSize>;
-
-Slots slotsOf(const Sector &sector)
-{
-    Slots entries;
-    std::copy_n(sector.cbegin() + TableOffset, entries.size(), entries.begin());
-    return entries;
-}
-
-bool isZero(const Sector &sector)
-{
-    return std::all_of(sector.cbegin(), sector.cend(), [](unsigned char byte) { return byte == 0; });
+    return std::memcmp(entry, type, 16) == 0;
 }
 
 /// The walk of one disk. A table whose extended entry is being followed waits in m_open, so that a long chain
@@ -77,8 +52,8 @@ public:
 private:
     struct Table {
         quint64 sector = 0;
-        Slots entries{};
-        int next = 0;              ///< slot to look at
+        Sector bytes{};
+        int next = SlotCount;      ///< slot to look at; a table that is not taken in counts as one without
         quint32 baseToRestore = 0; ///< currentBase of the table that led here
     };
 
@@ -88,7 +63,10 @@ private:
     void follow(quint32 first);
     bool takeGpt(Table *table);
     void takeGptEntry(const unsigned char *entry);
-    bool read(quint64 sector, Sector *bytes) const;
+    bool read(quint64 sector, Sector *bytes) const
+    {
+        return ReadWriteSectors(m_drive, sector, bytes->data(), SectorSize);
+    }
     void add(quint64 start, quint64 count, quint64 end) const;
 
     int m_drive;
@@ -112,15 +90,10 @@ void Walk::open(quint64 sector, quint32 baseToRestore)
     Table table;
     table.sector = sector;
     table.baseToRestore = baseToRestore;
-    // A table that is not taken in is one without slots.
-    table.next = SlotCount;
-    Sector bytes;
     if (m_seen.size() < MaxPartitionTables && !m_seen.contains(sector)) {
         m_seen.insert(sector);
-        if (read(sector, &bytes)) {
-            table.entries = slotsOf(bytes);
+        if (read(sector, &table.bytes))
             table.next = 0;
-        }
     }
     m_open.push_back(table);
 }
@@ -136,8 +109,8 @@ void Walk::close()
 void Walk::takeSlot(int index)
 {
     Table &table = m_open.back();
-    const unsigned char *slot = table.entries.data() + index * SlotSize;
-    const quint32 first = word32(slot + SlotFirstOffset);
+    const unsigned char *slot = table.bytes.data() + TableOffset + index * SlotSize;
+    const auto first = qFromLittleEndian<quint32>(slot + SlotFirstOffset);
     switch (slot[SlotTypeOffset]) {
     case ExtendedType:
     case ExtendedLbaType:
@@ -145,7 +118,7 @@ void Walk::takeSlot(int index)
         break;
     case LinuxPartitionType: {
         const quint64 start = quint64(first) + g_partitionWalk.currentBase;
-        const quint32 count = word32(slot + SlotCountOffset);
+        const auto count = qFromLittleEndian<quint32>(slot + SlotCountOffset);
         add(start, count, start + count);
         break;
     }
@@ -176,17 +149,17 @@ void Walk::follow(quint32 first)
 /// False if a sector of the tables cannot be read, which ends the table that led here.
 bool Walk::takeGpt(Table *table)
 {
-    Sector bytes;
-    if (!read(GptHeaderSector, &bytes))
-        return false;
     // The header takes the place of the table that led to it: the slots that are left are read from there.
-    table->entries = slotsOf(bytes);
-    if (std::memcmp(bytes.data(), "EFI PART", 8) != 0)
+    table->bytes = {};
+    if (!read(GptHeaderSector, &table->bytes))
+        return false;
+    if (std::memcmp(table->bytes.data(), "EFI PART", 8) != 0)
         return true;
     for (quint64 sector = GptArraySector; sector < GptArrayLimit; ++sector) {
+        Sector bytes{};
         if (!read(sector, &bytes))
             return false;
-        if (isZero(bytes))
+        if (bytes == Sector{})
             return true;
         for (int offset = 0; offset < SectorSize; offset += GptEntrySize)
             takeGptEntry(bytes.data() + offset);
@@ -196,8 +169,8 @@ bool Walk::takeGpt(Table *table)
 
 void Walk::takeGptEntry(const unsigned char *entry)
 {
-    const quint64 first = word64(entry + GptFirstOffset);
-    const quint64 last = word64(entry + GptLastOffset);
+    const auto first = qFromLittleEndian<quint64>(entry + GptFirstOffset);
+    const auto last = qFromLittleEndian<quint64>(entry + GptLastOffset);
     if (isOfType(entry, BasicData)) {
         // A partition whose start is unreadable or lies behind the disk's end is none of ours; the table that
         // names it is sound, so the walk goes on.
@@ -209,12 +182,6 @@ void Walk::takeGptEntry(const unsigned char *entry)
         return;
     }
     add(first, last - first + 1, last);
-}
-
-bool Walk::read(quint64 sector, Sector *bytes) const
-{
-    bytes->fill(0);
-    return ReadWriteSectors(m_drive, sector, bytes->data(), SectorSize);
 }
 
 void Walk::add(quint64 start, quint64 count, quint64 end) const

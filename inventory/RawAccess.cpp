@@ -2,6 +2,7 @@
 #include "inventory/RawAccess.h"
 
 #include "platform/IoControl.h"
+#include "platform/Log.h"
 #include "state/DiskRecords.h"
 
 #include <array>
@@ -11,7 +12,6 @@
 namespace
 {
 
-constexpr int SectorSize = 512;
 constexpr quint32 DescriptorSize = 1024; ///< room for what a drive says of itself, a zero at the end
 
 bool transfer(Platform::RawHandle handle, quint64 sector, void *buffer, quint32 byteCount, bool write,
@@ -54,6 +54,9 @@ bool ReadWriteSectors(int driveCode, quint64 sector, void *buffer, quint32 byteC
     const bool done = transfer(handle, sector, buffer, byteCount, write, &moved);
     if (ownHandle)
         Platform::current().CloseHandle(handle);
+    if (!done)
+        qCDebug(logs::inventory) << (write ? "not written:" : "not read:") << diskName(driveCode) << "sector"
+                                 << sector << "bytes" << byteCount;
     if (transferred)
         *transferred = moved;
     return done;
@@ -65,9 +68,7 @@ DiskMark DiskMarkOf(Platform::RawHandle handle)
     Platform &platform = Platform::current();
     quint32 returned = 0;
     io::DiskGeometryEx geometry{};
-    if (platform.DeviceIoControl(handle, io::DiskGetDriveGeometryEx, nullptr, 0, &geometry, sizeof geometry,
-                                 &returned) &&
-        geometry.diskSize > 0)
+    if (askTarget(handle, io::DiskGetDriveGeometryEx, &geometry) && geometry.diskSize > 0)
         mark.sectors = static_cast<quint64>(geometry.diskSize) / SectorSize;
     const io::StoragePropertyQuery query{};
     std::array<char, DescriptorSize> answer{};
@@ -89,9 +90,4 @@ DiskMark ReadDiskMark(int driveCode)
     const DiskMark mark = DiskMarkOf(handle);
     Platform::current().CloseHandle(handle);
     return mark;
-}
-
-void GetDiskSectorCount(int driveCode, quint64 *result)
-{
-    *result = ReadDiskMark(driveCode).sectors;
 }

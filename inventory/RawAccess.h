@@ -7,6 +7,8 @@
 /// below 128 a drive letter, 0 for A. Sectors are of 512 bytes whatever the disk reports. Any thread may
 /// call.
 
+constexpr qint64 SectorSize = 512;
+
 /// Stands for "no handle" in ReadWriteSectors().
 constexpr Platform::RawHandle NoDiskHandle = 0;
 
@@ -41,5 +43,11 @@ DiskMark DiskMarkOf(Platform::RawHandle handle);
 /// The same by its drive code; an empty mark where it does not open.
 DiskMark ReadDiskMark(int driveCode);
 
-/// Count of sectors of the target in `result`, 0 on failure.
-void GetDiskSectorCount(int driveCode, quint64 *result);
+/// Asks the target behind an open handle a question without data. False where it refuses; `answer` then
+/// stays as it is.
+template<typename Answer>
+bool askTarget(Platform::RawHandle handle, quint32 code, Answer *answer)
+{
+    quint32 returned = 0;
+    return Platform::current().DeviceIoControl(handle, code, nullptr, 0, answer, sizeof *answer, &returned);
+}

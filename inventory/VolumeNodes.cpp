@@ -2,19 +2,18 @@
 #include "inventory/VolumeNodes.h"
 
 #include "inventory/BootSector.h"
-#include "inventory/Capacity.h"
 #include "platform/IoControl.h"
 #include "platform/PlainText.h"
 #include "platform/Platform.h"
 
 #include <algorithm>
 #include <array>
-#include <optional>
+#include <charconv>
+#include <cstddef>
+#include <cstring>
 
 namespace
 {
-
-using bootsector::SectorSize;
 
 const QString Fixed = QStringLiteral("FIXED");
 const QString Removable = QStringLiteral("REMOVABLE");
@@ -142,6 +141,65 @@ void takeSizeFromExtents(LogicalDetails *volume)
     }
 }
 
+constexpr std::size_t ExtentBytes = 1024;
+
+/// Extents of a volume in the room that the system call gets; further ones lie behind the first.
+union ExtentBuffer {
+    io::VolumeDiskExtents extents;
+    std::uint8_t bytes[ExtentBytes];
+};
+
+std::optional<VolumeExtents> readVolumeExtents(QChar letter)
+{
+    Platform &platform = Platform::current();
+    if (platform.GetDriveTypeW(letter + QLatin1String(":\\")) == io::DriveRemote)
+        return std::nullopt;
+    const Platform::RawHandle handle =
+        platform.CreateFileW(QStringLiteral("\\\\.\\%1:").arg(letter), io::GenericRead,
+                             io::ShareRead | io::ShareWrite, io::OpenExisting);
+    if (handle == Platform::InvalidHandle)
+        return std::nullopt;
+    ExtentBuffer buffer{};
+    const bool answered = askTarget(handle, io::VolumeGetVolumeDiskExtents, &buffer);
+    platform.CloseHandle(handle);
+    if (!answered || buffer.extents.numberOfDiskExtents == 0)
+        return std::nullopt;
+    const io::DiskExtent &first = buffer.extents.extents[0];
+    const auto start = static_cast<quint64>(first.startingOffset);
+    VolumeExtents found{buffer.extents.numberOfDiskExtents,
+                        first.diskNumber,
+                        start / SectorSize,
+                        (start + static_cast<quint64>(first.extentLength)) / SectorSize,
+                        {}};
+    std::size_t at = offsetof(io::VolumeDiskExtents, extents);
+    for (quint32 i = 0; i < found.count && at + sizeof(io::DiskExtent) <= ExtentBytes; ++i) {
+        io::DiskExtent extent;
+        std::memcpy(&extent, buffer.bytes + at, sizeof extent);
+        found.disks.append(static_cast<int>(extent.diskNumber));
+        at += sizeof extent;
+    }
+    return found;
+}
+
+constexpr quint64 SuperblockSector = 2;
+
+QString displayName(const LinuxPartitionEntry &entry, int number)
+{
+    const QString name =
+        bootsector::extName(bootsector::readSector(entry.nDrive, entry.nStartSector + SuperblockSector));
+    return name.isEmpty() ? QStringLiteral("Volume %1").arg(number) : name;
+}
+
+/// "%.2f" as C prints it, ties to even, with a point in every locale.
+QString twoDecimals(double amount)
+{
+    constexpr int Decimals = 2;
+    std::array<char, 64> text;
+    const auto end =
+        std::to_chars(text.data(), text.data() + text.size(), amount, std::chars_format::fixed, Decimals).ptr;
+    return QString::fromLatin1(text.data(), static_cast<int>(end - text.data()));
+}
+
 } // namespace
 
 std::unique_ptr<DiskNode> makeVolumeNode(const QString &root, const RemovableDisks &removable)
@@ -188,4 +246,43 @@ void tieVolumeToDisk(DiskNode *node, KnownExtents *known)
     }
     if (volume.nSectorCount == 0)
         takeSizeFromExtents(&volume);
+}
+
+std::optional<VolumeExtents> KnownExtents::of(QChar letter)
+{
+    const auto known = m_known.constFind(letter);
+    return known != m_known.constEnd() ? *known : *m_known.insert(letter, readVolumeExtents(letter));
+}
+
+std::unique_ptr<DiskNode> makeLinuxNode(const LinuxPartitionEntry &entry, int number)
+{
+    auto node = std::make_unique<DiskNode>();
+    node->nKind = LinuxPartition;
+    node->pLogical = std::make_unique<LogicalDetails>();
+    LogicalDetails &details = *node->pLogical;
+    details.nStartSector = entry.nStartSector;
+    details.nSectorCount = entry.nSectorCount;
+    details.nEndSector = entry.nEndSector;
+    details.nFsCode = entry.nType;
+    details.nParentId = entry.nDrive;
+    details.nTotalBytes = entry.nSectorCount * SectorSize;
+    details.szFileSystem = QStringLiteral("EXTx");
+    details.szType = QStringLiteral("FIXED");
+    details.szLabel = QStringLiteral("Linux Disk");
+    details.szRoot = displayName(entry, number);
+    details.szCapacity = volumeCapacity(details.nTotalBytes);
+    return node;
+}
+
+QString capacityText(quint64 bytes, const QString &smallUnit)
+{
+    const auto in = [bytes](int power, const QString &unit) {
+        const double amount = static_cast<double>(bytes) / static_cast<double>(quint64(1) << power);
+        return twoDecimals(amount) + QLatin1Char(' ') + unit;
+    };
+    if (bytes >> 30)
+        return in(30, QStringLiteral("GB"));
+    if (bytes >> 20)
+        return in(20, QStringLiteral("MB"));
+    return in(10, smallUnit);
 }

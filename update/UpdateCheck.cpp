@@ -21,11 +21,6 @@ constexpr qint64 BytesOfTwoLines = 4096; ///< more than any two versions take
 
 } // namespace
 
-void beginCheck()
-{
-    removeVersions();
-}
-
 bool fetchVersions(const QString &link)
 {
     g_strUpdateFile = fetch(link + versionsName(), versionsName(), VersionsLimits);
@@ -40,12 +35,6 @@ void removeVersions()
     g_strUpdateFile.clear();
 }
 
-QStringList readVersions()
-{
-    QFile file(g_strUpdateFile);
-    return file.open(QIODevice::ReadOnly) ? versionLines(file.read(BytesOfTwoLines)) : QStringList();
-}
-
 QStringList versionLines(const QByteArray &text)
 {
     QStringList lines;
@@ -57,7 +46,10 @@ QStringList versionLines(const QByteArray &text)
 
 void compareVersions(const QString &installed)
 {
-    const version::Offer offer = version::offerOf(installed, readVersions());
+    QFile file(g_strUpdateFile);
+    const bool opened = file.open(QIODevice::ReadOnly);
+    const version::Offer offer =
+        version::offerOf(installed, opened ? versionLines(file.read(BytesOfTwoLines)) : QStringList());
     g_bMajorUpdate = offer.major;
     g_bMinorUpdate = offer.minor;
     g_strLatestMajor = offer.latestMajor;

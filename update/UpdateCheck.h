@@ -12,15 +12,10 @@ namespace update
 /// short to hold a version. Blocks for as long as VersionsLimits allows; main thread.
 bool fetchVersions(const QString &link);
 
-/// Takes the local file of an earlier check away.
-void beginCheck();
-
 /// Takes the local file away.
 void removeVersions();
 
-/// The first two lines of the local file, trimmed; fewer where it has no more.
-QStringList readVersions();
-/// The same of a text.
+/// The first two lines of a text, trimmed; fewer where it has no more.
 QStringList versionLines(const QByteArray &text);
 
 /// Compares the local file with the installed version, and puts what comes of it into the globals.

@@ -2,6 +2,7 @@
 #include "update/UpdateFetch.h"
 
 #include "inventory/CommandRunner.h"
+#include "platform/Log.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -70,14 +71,17 @@ QString fetch(const QString &url, const QString &name, const DownloadLimits &lim
     QElapsedTimer clock;
     clock.start();
     const QString folder = freshFolder();
-    if (folder.isEmpty())
+    if (folder.isEmpty()) {
+        qCDebug(logs::update) << "no private folder can be made";
         return QString();
+    }
     const QString path = nativePath(folder + QLatin1Char('\\') + name);
     const qint32 result = Platform::current().URLDownloadToFileW(url, path, limits);
     // What a rule or a limit forbade is not tried in another way.
     if (result != 0 && result != Platform::DownloadRefused)
         fetchByConsole(url, path, static_cast<qint32>(limits.milliseconds - clock.elapsed()));
     const QFileInfo file(path);
+    qCDebug(logs::update) << "the download ended with" << result << "and left bytes:" << file.size();
     if (file.isFile() && file.size() <= limits.bytes)
         return path;
     removeLeftovers();

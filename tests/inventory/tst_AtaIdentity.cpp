@@ -151,22 +151,13 @@ void AtaIdentityTest::namesAttributes()
 
 void AtaIdentityTest::ratesAttributes()
 {
-    // The state of the whole list is its worst one. Each slot has a threshold of its own.
-    ata::ThresholdTable thresholds{};
     DiskIdentity fine;
-    ata::decodeAttributes(smartData().replace(2 + 29 * 12 + 3, 1, "\x05"), &fine, thresholds);
+    ata::decodeAttributes(smartData().replace(2 + 29 * 12 + 3, 1, "\x05"), &fine);
     QCOMPARE(int(fine.nThresholdState), 1);
-    thresholds[2] = 66;
     DiskIdentity equal;
-    ata::decodeAttributes(smartData(), &equal, thresholds);
+    ata::decodeAttributes(smartData(), &equal);
     QCOMPARE(int(equal.nThresholdState), 2);
-    QCOMPARE(int(equal.attributes.head->pNext->nState), 2);
-    thresholds[0] = 101;
-    DiskIdentity below;
-    ata::decodeAttributes(smartData(), &below, thresholds);
-    QCOMPARE(int(below.nThresholdState), 3);
-    QCOMPARE(int(below.attributes.head->nState), 3);
-    QCOMPARE(below.attributes.head->nThreshold, 101u);
+    QCOMPARE(int(equal.attributes.tail->nState), 2);
 }
 
 void AtaIdentityTest::takesShortData()

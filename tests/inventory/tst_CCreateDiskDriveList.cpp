@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "inventory/CCreateDiskDriveList.h"
-#include "inventory/Capacity.h"
+#include "inventory/VolumeNodes.h"
 #include "state/GlobalApp.h"
 #include "tests/support/FakePlatform.h"
 

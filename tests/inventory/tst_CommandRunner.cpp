@@ -14,9 +14,6 @@ class CommandRunnerTest : public QObject
 private slots:
     void init() { fake = FakePlatform::install(); }
 
-    void composesLine_data();
-    void composesLine();
-    void widensByteByByte();
     void runsThroughTheInterpreter();
     void leavesOutLinesThatDoNotFit();
     void removesLeftover();
@@ -57,36 +54,6 @@ QByteArray inLocale(const QString &text)
 
 } // namespace
 
-void CommandRunnerTest::composesLine_data()
-{
-    QTest::addColumn<QByteArray>("interpreter");
-    QTest::addColumn<QByteArray>("funct");
-    QTest::addColumn<QByteArray>("params");
-    QTest::addColumn<QByteArray>("line");
-    QTest::newRow("usual: ends in a blank")
-        << QByteArray("C:\\cmd.exe") << QByteArray("tool.exe -a >> C:\\T\\F.txt") << QByteArray()
-        << QByteArray("C:\\cmd.exe /c tool.exe -a >> C:\\T\\F.txt ");
-    QTest::newRow("parameters") << QByteArray("C:\\cmd.exe") << QByteArray("shutdown /s") << QByteArray("/f")
-                                << QByteArray("C:\\cmd.exe /c shutdown /s /f");
-    QTest::newRow("nothing is quoted") << QByteArray("C:\\My Tools\\c.exe") << QByteArray("a b")
-                                       << QByteArray() << QByteArray("C:\\My Tools\\c.exe /c a b ");
-}
-
-void CommandRunnerTest::composesLine()
-{
-    QFETCH(QByteArray, interpreter);
-    QFETCH(QByteArray, funct);
-    QFETCH(QByteArray, params);
-    QTEST(runner::composeLine(interpreter, funct, params), "line");
-}
-
-void CommandRunnerTest::widensByteByByte()
-{
-    const std::wstring wide = runner::widen(QByteArray("a\xC3\xBC\xFF"));
-    const std::wstring expected{L'a', wchar_t(0xC3), wchar_t(0xBC), wchar_t(0xFF)};
-    QVERIFY(wide == expected);
-}
-
 void CommandRunnerTest::runsThroughTheInterpreter()
 {
     qputenv("COMSPEC", "x /c diskpart /s evil.txt |");
@@ -101,13 +68,13 @@ void CommandRunnerTest::runsThroughTheInterpreter()
 
 void CommandRunnerTest::leavesOutLinesThatDoNotFit()
 {
-    const int frame = runner::composeLine(fake->CommandInterpreter(), {}, {}).size();
+    const int frame = (fake->CommandInterpreter() + " /c  ").size();
     const QString longest(runner::WideBuffer - 1 - frame, QLatin1Char('x'));
     RunSilent(longest);
     QCOMPARE(fake->commands().size(), 1);
     QCOMPARE(fake->commands().first().size(), runner::WideBuffer - 1);
     RunSilent(longest + QLatin1Char('x'));
-    RunSilent(QString(runner::NarrowBuffer * 2, QLatin1Char('x')));
+    RunSilent(QString(8192, QLatin1Char('x')));
     QCOMPARE(fake->commands().size(), 1);
 }
 

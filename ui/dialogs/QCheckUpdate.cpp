@@ -51,7 +51,7 @@ QCheckUpdate::~QCheckUpdate()
 void QCheckUpdate::check()
 {
     m_bHttpRequestAborted = false;
-    update::beginCheck();
+    update::removeVersions();
     const QString link = update::link();
     if (link.isEmpty())
         return;
