@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "clone/LostSectors.h"
+#include "inventory/SectorRuns.h"
 
 #include <QString>
 
@@ -23,6 +23,15 @@ enum class CloneFault {
     DestinationTakesNothing,
     SourceGone,
     DestinationGone,
+};
+
+/// What a copy lacks. A sector is in one of the two lists at most.
+struct LostSectors {
+    SectorRuns unread;        ///< could not be read; zeros on the destination
+    SectorRuns unwritten;     ///< could not be written
+    bool unconfirmed = false; ///< the destination did not confirm that what was written is stored
+
+    bool any() const { return unread.count() > 0 || unwritten.count() > 0 || unconfirmed; }
 };
 
 /// How a clone ended.

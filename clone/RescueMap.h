@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "clone/LostSectors.h"
+#include "clone/CloneOutcome.h"
 
 #include <QByteArray>
 #include <QString>

@@ -18,29 +18,13 @@ QString text(const char *source)
     return QCoreApplication::translate("QGridView", source);
 }
 
-/// Cells by number; those that lie beside or below the map are not kept.
-class Picture
+/// Fills the cells from `first` up to, not including, `end`; some may lie beside or below the map.
+void fill(QVector<Cell> &cells, qint64 first, qint64 end, Cell state)
 {
-public:
-    explicit Picture(int count) : m_cells(count, Cell::Empty) {}
-
-    void set(qint64 cell, Cell state)
-    {
-        if (cell >= 0 && cell < m_cells.size())
-            m_cells[static_cast<int>(cell)] = state;
-    }
-    /// From `first` up to, not including, `end`.
-    void fill(qint64 first, qint64 end, Cell state)
-    {
-        const qint64 last = qMin<qint64>(end, m_cells.size());
-        for (qint64 cell = qMax<qint64>(first, 0); cell < last; ++cell)
-            m_cells[static_cast<int>(cell)] = state;
-    }
-    QVector<Cell> take() { return std::move(m_cells); }
-
-private:
-    QVector<Cell> m_cells;
-};
+    const qint64 last = qMin<qint64>(end, cells.size());
+    for (qint64 cell = qMax<qint64>(first, 0); cell < last; ++cell)
+        cells[static_cast<int>(cell)] = state;
+}
 
 qint64 roundedUp(qint64 value, qint64 unit)
 {
@@ -69,29 +53,28 @@ qint64 sectorsPerCell(const Metrics &sizes, qint64 total)
 
 QVector<Cell> cells(const Metrics &sizes, qint64 total, qint64 position, const BadSectorList &badSectors)
 {
-    Picture picture(sizes.columns() * sizes.rowsInSight());
+    QVector<Cell> picture(sizes.columns() * sizes.rowsInSight(), Cell::Empty);
     const qint64 perCell = sectorsPerCell(sizes, total);
     if (perCell == 0)
-        return picture.take();
+        return picture;
 
     const qint64 processed = position / perCell;
-    picture.fill(0, processed, Cell::Processed);
+    fill(picture, 0, processed, Cell::Processed);
     // At the disk's end the last row is filled, even if the disk has no cells for all of it.
     if (position == total)
-        picture.fill(processed, roundedUp(processed, sizes.columns()), Cell::Processed);
+        fill(picture, processed, roundedUp(processed, sizes.columns()), Cell::Processed);
     else
-        picture.set(processed - 1, Cell::Working);
+        fill(picture, processed - 1, processed, Cell::Working);
 
     qint64 lastBad = 0;
-    badSectors.forEachRun([&](qint64 first, qint64 count) {
-        lastBad = first + count - 1;
-        const qint64 cell = badCell(first, perCell);
-        picture.fill(cell, (count == 1 ? cell : badCell(lastBad, perCell)) + 1, Cell::Bad);
-    });
+    for (const SectorRun &run : badSectors.runs()) {
+        lastBad = run.first + run.count - 1;
+        fill(picture, badCell(run.first, perCell), badCell(lastBad, perCell) + 1, Cell::Bad);
+    }
     // The newest bad cell stays grey until the scan has passed it, or is at its end.
     if (position != 0 && position != total && lastBad >= position)
-        picture.set(badCell(lastBad, perCell), Cell::Working);
-    return picture.take();
+        fill(picture, badCell(lastBad, perCell), badCell(lastBad, perCell) + 1, Cell::Working);
+    return picture;
 }
 
 QString toolTip(const Metrics &sizes, const QPoint &place, qint64 start, qint64 end, qint64 blockStep)

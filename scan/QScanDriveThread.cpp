@@ -2,6 +2,7 @@
 #include "scan/QScanDriveThread.h"
 
 #include "inventory/RawAccess.h"
+#include "platform/Log.h"
 #include "platform/PageMemory.h"
 #include "scan/ScanGlobals.h"
 #include "state/GlobalApp.h"
@@ -16,7 +17,6 @@
 namespace
 {
 
-constexpr int SectorSize = 512;
 constexpr quint32 ChunkBytes = 0x800000;
 constexpr qint64 SectorsPerChunk = ChunkBytes / SectorSize;
 
@@ -147,6 +147,7 @@ void QScanDriveThread::scan()
     if (disk)
         disk->hDisk = m_handle;
     if (m_handle == Platform::InvalidHandle) {
+        qCDebug(logs::scan) << "the disk does not open:" << m_nDrive;
         g_bScanFailed = true;
     } else {
         emit ScanProgressValue(1);
@@ -219,17 +220,14 @@ void QScanDriveThread::narrowDown(qint64 position, qint64 sectors)
          ++sector) {
         const bool bad = !read(sector, probe, SectorSize);
         if (bad) {
-            if (!m_found.isEmpty() && m_found.last().first + m_found.last().count == sector)
-                ++m_found.last().count;
-            else
-                m_found.append({sector, 1});
+            m_found.add(sector, 1);
             uncounted = g_bAbortJob ? 1 : 0;
         }
         // Asking for the time costs a good part of a quick read, so it is not done after each of these.
         if (bad != wasBad)
             readsPerLook = 1;
         wasBad = bad;
-        if (m_found.isEmpty() || uncounted > 0 || sector % readsPerLook != 0)
+        if (m_found.count() == 0 || uncounted > 0 || sector % readsPerLook != 0)
             continue;
         const qint64 now = m_sinceTaken.elapsed();
         readsPerLook = now == lastLook ? ReadsPerLook : 1;
@@ -242,21 +240,23 @@ void QScanDriveThread::narrowDown(qint64 position, qint64 sectors)
 
 void QScanDriveThread::takeFound(int uncounted)
 {
-    if (m_found.isEmpty())
+    if (m_found.count() == 0)
         return;
     if (isStillThere()) {
         const qlonglong told = m_nBadSectors;
-        for (const Run &run : qAsConst(m_found)) {
+        for (const SectorRun &run : m_found.runs()) {
             g_BadSectors.append(run.first, run.count);
             m_nBadSectors += run.count;
         }
+        qCDebug(logs::scan) << "bad sectors, in all:" << m_nBadSectors;
         m_nBadSectors -= uncounted;
         if (m_nBadSectors > told)
             tellCounts(told + 1, m_nBadSectors);
     } else {
+        qCDebug(logs::scan) << "the disk has gone:" << m_nDrive;
         g_bScanDiskGone = true;
     }
-    m_found.clear();
+    m_found = {};
     m_sinceTaken.start();
 }
 
@@ -279,7 +279,7 @@ bool QScanDriveThread::isStillThere()
             return false;
         // A stop was asked for, and it is not known whether the last refusals were bad sectors.
         if (g_bAbortJob) {
-            m_found.clear();
+            m_found = {};
             return true;
         }
     }

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "inventory/SectorRuns.h"
 #include "platform/Platform.h"
 
 #include <QElapsedTimer>
 #include <QMutex>
 #include <QString>
 #include <QThread>
-#include <QVector>
 
 #include <atomic>
 
@@ -62,11 +62,6 @@ protected:
     void run() override;
 
 private:
-    struct Run {
-        qint64 first;
-        qint64 count;
-    };
-
     void scan();
     void readChunks(char *buffer);
     bool read(qint64 sector, char *buffer, quint32 bytes);
@@ -89,7 +84,7 @@ private:
     qint64 m_total = 0;        ///< sectors
     qlonglong m_progress = 0;  ///< in blocks
     qint64 m_nGoodSector = -1; ///< the latest that could be read
-    QVector<Run> m_found;      ///< not in the list yet
+    SectorRuns m_found;        ///< not in the list yet
     QElapsedTimer m_sinceTaken;
 
     std::atomic<int> m_nEventsOut{0};   ///< counts on their way to the receivers' thread

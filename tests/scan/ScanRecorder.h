@@ -11,7 +11,17 @@
 
 #include <functional>
 
-/// While it lives, this disk is the selected one.
+inline QVector<qint64> sectorsOf(const BadSectorList &list)
+{
+    QVector<qint64> sectors;
+    for (const SectorRun &run : list.runs()) {
+        for (qint64 i = 0; i < run.count; ++i)
+            sectors.append(run.first + i);
+    }
+    return sectors;
+}
+
+/// Makes a disk the selected one for as long as it lives.
 class SelectedDisk
 {
 public:

@@ -69,7 +69,7 @@ void tst_LinuxScan::findsWhatTheKernelRefuses()
         for (qint64 sector = std::max(first, readable); sector <= std::min(first + Chunk, total); ++sector)
             expected.append(sector);
     }
-    QCOMPARE(g_BadSectors.toVector(), expected);
+    QCOMPARE(sectorsOf(g_BadSectors), expected);
     QCOMPARE(lines.last(), QStringLiteral("finish Pass"));
     QCOMPARE(lines.at(lines.size() - 2), QStringLiteral("bad %1").arg(expected.size()));
     QCOMPARE(lines.filter(QStringLiteral("chunk ")).size(), int((total + Chunk - 1) / Chunk));

@@ -205,7 +205,7 @@ void tst_QScanDriveThread::findsEveryBadSector()
     // The second scan begins with an empty list.
     for (int run = 0; run < 2; ++run) {
         QCOMPARE(scanned(total), expected.lines);
-        QCOMPARE(g_BadSectors.toVector(), expected.found);
+        QCOMPARE(sectorsOf(g_BadSectors), expected.found);
         QCOMPARE(g_BadSectors.count(), qint64(expected.found.size()));
         QCOMPARE(g_nBlockStep.load(), (total + 399) / 400);
     }
@@ -254,7 +254,7 @@ void tst_QScanDriveThread::saysWordByWord()
     installQuickDisk(total, {bad.cbegin(), bad.cend()});
     const SelectedDisk disk(0, total);
     QTEST(scanned(total), "lines");
-    QTEST(g_BadSectors.toVector(), "found");
+    QTEST(sectorsOf(g_BadSectors), "found");
 }
 
 void tst_QScanDriveThread::goesBeyond32Bits()
@@ -266,7 +266,7 @@ void tst_QScanDriveThread::goesBeyond32Bits()
     const SelectedDisk disk(0, total);
     const Expectation expected(total, bad);
     QVERIFY(scanned(total) == expected.lines);
-    QCOMPARE(g_BadSectors.toVector(), expected.found);
+    QCOMPARE(sectorsOf(g_BadSectors), expected.found);
     QCOMPARE(expected.found.size(), 5);
 }
 
@@ -306,7 +306,7 @@ void tst_QScanDriveThread::stops()
     const SelectedDisk disk(0, 40000);
     const QStringList said = scanned(40000);
     QCOMPARE(said.mid(said.indexOf(lines.first())), lines);
-    QTEST(g_BadSectors.toVector(), "found");
+    QTEST(sectorsOf(g_BadSectors), "found");
 }
 
 void tst_QScanDriveThread::failsOnce_data()
@@ -360,8 +360,8 @@ void tst_QScanDriveThread::endsWithItsDisk()
     };
     const SelectedDisk disk(0, total);
     const QStringList lines = scanned(total);
-    // The sectors found before stay in the list.
-    QCOMPARE(g_BadSectors.toVector(), bytes == 512 ? (Sectors{7, 8}) : (Sectors{7, 8, Chunk + 600}));
+    // What was found before stays.
+    QCOMPARE(sectorsOf(g_BadSectors), bytes == 512 ? (Sectors{7, 8}) : (Sectors{7, 8, Chunk + 600}));
     QCOMPARE(lines.mid(lines.size() - 4), words("progress 1, blocks 0")
                                               << QStringLiteral("bad %1").arg(g_BadSectors.count())
                                               << QStringLiteral("finish Failed"));
@@ -383,7 +383,7 @@ void tst_QScanDriveThread::readsOnWhereAllIsRefused()
         lost.insert(sector);
     const Expectation expected(total, lost);
     QCOMPARE(lines, expected.lines);
-    QCOMPARE(g_BadSectors.toVector(), expected.found);
+    QCOMPARE(sectorsOf(g_BadSectors), expected.found);
 }
 
 void tst_QScanDriveThread::keepsItsFlags()
@@ -416,7 +416,7 @@ void tst_QScanDriveThread::keepsItsFlags()
         QCoreApplication::processEvents();
         QCOMPARE(recorder.lines.filter(QStringLiteral("begin")).size(), 1);
         QCOMPARE(recorder.lines.filter(QStringLiteral("finish Pass")).size(), 2);
-        QCOMPARE(g_BadSectors.toVector(), (Sectors{3}));
+        QCOMPARE(sectorsOf(g_BadSectors), (Sectors{3}));
         g_bAbortJob = false;
     }
     QVERIFY(g_bAbortJob);
@@ -467,13 +467,12 @@ void tst_QScanDriveThread::startsAndStopsUnderAReader()
         while (!done) {
             qint64 last = -1;
             qint64 length = 0;
-            g_BadSectors.forEachRun([&](qint64 first, qint64 count) {
-                wrong += count != 1 || first % 3 != 0 || first < last;
-                last = first;
+            for (const SectorRun &run : g_BadSectors.runs()) {
+                wrong += run.count != 1 || run.first % 3 != 0 || run.first < last;
+                last = run.first;
                 ++length;
-            });
+            }
             longest = std::max(longest.load(), length);
-            QThread::usleep(100); // locks have no queue, so clear() needs a gap to get the lock
         }
     }));
     reader->start();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "scan/BlockMap.h"
 #include "scan/ScanGlobals.h"
+#include "tests/scan/ScanRecorder.h"
 #include "tests/ui/Named.h"
 #include "tests/ui/WindowFixture.h"
 #include "ui/dialogs/MessageDialog.h"
@@ -370,7 +371,7 @@ void tst_ScanFlow::pulledOut()
     QVERIFY(idle() && shown("frame"));
     // Only the bad sectors before the disk was pulled out are listed.
     QCOMPARE(text("BadBlkValLbl"), QStringLiteral("2"));
-    QCOMPARE(g_BadSectors.toVector(), (QVector<qint64>{40000, 40020}));
+    QCOMPARE(sectorsOf(g_BadSectors), (QVector<qint64>{40000, 40020}));
     QVERIFY(map()->position() > 0 && map()->position() < SlowSectors);
     QVERIFY(!g_bListsLoading);
     closeResult();

@@ -61,11 +61,11 @@ qlonglong QGridView::totalSectors() const
 QVariantList QGridView::badSectors() const
 {
     QVariantList sectors;
-    g_BadSectors.forEachRun([&sectors](qint64 first, qint64 count) {
-        const qint64 room = qMin<qint64>(count, MostBadSectors - sectors.size());
+    for (const SectorRun &run : g_BadSectors.runs()) {
+        const qint64 room = qMin<qint64>(run.count, MostBadSectors - sectors.size());
         for (qint64 i = 0; i < room; ++i)
-            sectors.append(first + i);
-    });
+            sectors.append(run.first + i);
+    }
     return sectors;
 }
 
