@@ -11,21 +11,8 @@ namespace clonemessages
 namespace
 {
 
-constexpr qint64 Second = 1000;
-constexpr qint64 Minute = 60 * Second;
+constexpr qint64 Minute = 60000; ///< ms
 constexpr qint64 Hour = 60 * Minute;
-
-struct Unit {
-    qint64 length; ///< ms
-    const char *name;
-};
-
-/// The first unit that fits into the time is shown. Seconds never are, as the shortest time is a minute.
-const Unit units[] = {
-    {Hour, QT_TRANSLATE_NOOP("CloneDisk", " hours")},
-    {Minute, QT_TRANSLATE_NOOP("CloneDisk", " minutes")},
-    {Second, QT_TRANSLATE_NOOP("CloneDisk", " seconds")},
-};
 
 QString translated(const char *text)
 {
@@ -126,19 +113,19 @@ Message aborted(const QString &second)
 
 Message finished(const CloneOutcome &outcome)
 {
-    const QString title = translated(QT_TRANSLATE_NOOP("CloneDisk", "Clone Disk"));
+    const char *const usual = QT_TRANSLATE_NOOP("CloneDisk", "Clone Disk");
     switch (outcome.end) {
     case CloneOutcome::End::Complete:
-        return {title, translated(QT_TRANSLATE_NOOP("CloneDisk", "Disk Cloning complete.")),
-                translated(QT_TRANSLATE_NOOP("CloneDisk", "Disk cloning process completed successfully."))};
+        return message(usual, QT_TRANSLATE_NOOP("CloneDisk", "Disk Cloning complete."),
+                       QT_TRANSLATE_NOOP("CloneDisk", "Disk cloning process completed successfully."));
     case CloneOutcome::End::WithErrors:
-        return {title, translated(QT_TRANSLATE_NOOP("CloneDisk", "Disk Cloning complete with errors.")),
-                lossText(outcome.lost)};
+        return message(usual, QT_TRANSLATE_NOOP("CloneDisk", "Disk Cloning complete with errors."),
+                       lossText(outcome.lost));
     case CloneOutcome::End::Stopped:
-        return {title, translated(QT_TRANSLATE_NOOP("CloneDisk", "Cloning aborted.")),
-                translated(QT_TRANSLATE_NOOP("CloneDisk", "Cloning process aborted by the user."))};
+        return message(usual, QT_TRANSLATE_NOOP("CloneDisk", "Cloning aborted."),
+                       QT_TRANSLATE_NOOP("CloneDisk", "Cloning process aborted by the user."));
     case CloneOutcome::End::Refused:
-        return {title, faultText(outcome),
+        return {translated(usual), faultText(outcome),
                 translated(QT_TRANSLATE_NOOP("CloneDisk", "Nothing was written on any disk."))};
     case CloneOutcome::End::Failed:
         break;
@@ -149,12 +136,10 @@ Message finished(const CloneOutcome &outcome)
 
 QString remainingText(qint64 remaining)
 {
-    const qint64 shown = std::max(remaining, Minute);
-    for (const Unit &unit : units) {
-        if (shown >= unit.length)
-            return QString::number(shown / unit.length) + translated(unit.name);
-    }
-    return QString();
+    if (remaining >= Hour)
+        return QString::number(remaining / Hour) + translated(QT_TRANSLATE_NOOP("CloneDisk", " hours"));
+    return QString::number(std::max<qint64>(1, remaining / Minute)) +
+           translated(QT_TRANSLATE_NOOP("CloneDisk", " minutes"));
 }
 
 int percentDone(qint64 position, quint64 total)

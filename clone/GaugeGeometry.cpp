@@ -10,7 +10,6 @@ namespace
 constexpr int BaseStart = 5072; ///< 317 degrees
 constexpr int BaseSpan = 4256;  ///< 266 degrees
 constexpr double FullSweep = 270;
-constexpr double EndCapAbove = 99;
 
 /// Where each placeholder stands for its bit.
 struct Sign {
@@ -53,11 +52,6 @@ double sweep(double minimum, double maximum, double value)
 double percent(double minimum, double maximum, double value)
 {
     return maximum > minimum ? (value - minimum) / (maximum - minimum) * 100 : 0;
-}
-
-bool hasEndCap(double percent)
-{
-    return percent > EndCapAbove;
 }
 
 int placeholders(const QString &format)

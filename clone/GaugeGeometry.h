@@ -21,8 +21,9 @@ struct Arc {
 
 /// Rounds off the start of the bar.
 constexpr Arc StartCap{QRect(32, 169, 8, 8), -2160, 2960};
-/// Rounds off its end, where the value is above 99 percent.
+/// Rounds off its end, where the value is above so many percent.
 constexpr QRect EndCap(171, 167, 8, 8);
+constexpr double EndCapAbove = 99;
 
 /// The square around the bar; `side` is the gauge's.
 QRectF baseRect(double side);
@@ -34,7 +35,6 @@ QRectF innerRect(double side, double innerSide);
 /// Degrees that the bar takes, clockwise. The minimum is not subtracted from the value.
 double sweep(double minimum, double maximum, double value);
 double percent(double minimum, double maximum, double value);
-bool hasEndCap(double percent);
 
 /// The placeholders of a format, as bits.
 enum Placeholder { ValuePlaceholder = 1, PercentPlaceholder = 2, StepsPlaceholder = 4 };

@@ -3,15 +3,12 @@
 
 #include "clone/CloneCopy.h"
 #include "clone/DestinationScripts.h"
-#include "clone/DiskCheck.h"
 #include "platform/Log.h"
 #include "platform/PageMemory.h"
 #include "state/GlobalApp.h"
 #include "state/Globals.h"
 
 #include <QElapsedTimer>
-
-#include <array>
 
 namespace
 {
@@ -22,16 +19,50 @@ constexpr quint32 SettlePause = 4000; ///< ms
 constexpr int ProgressPeriod = 3;     ///< blocks
 constexpr qint64 TellPeriod = 200;    ///< ms, while small pieces are copied
 
+/// The mark of a disk as the lists have it; the question before the clone named this disk.
+DiskMark listed(const DiskDetails &details)
+{
+    return {details.nTotalSectors, details.szSerial};
+}
+
+/// The first thing that is wrong with the disks as they are now: one does not open, or is another one than
+/// was listed, the source has no sectors, or the destination too few.
+CloneFault compare(const CloneTarget &source, const DiskMark &listedSource, const CloneTarget &destination,
+                   const DiskMark &listedDestination)
+{
+    if (!source.isOpen())
+        return CloneFault::SourceNotOpen;
+    if (!destination.isOpen())
+        return CloneFault::DestinationNotOpen;
+    if (!(source.mark() == listedSource))
+        return CloneFault::SourceIsAnother;
+    if (!(destination.mark() == listedDestination))
+        return CloneFault::DestinationIsAnother;
+    if (listedSource.sectors == 0)
+        return CloneFault::SourceEmpty;
+    return listedDestination.sectors < listedSource.sectors ? CloneFault::DestinationSmaller
+                                                            : CloneFault::None;
+}
+
+/// The fault that a use of the destination stands for.
+CloneFault faultOf(DiskUse::Kind use)
+{
+    switch (use) {
+    case DiskUse::Free:
+        return CloneFault::None;
+    case DiskUse::System:
+        return CloneFault::DestinationOfSystem;
+    case DiskUse::Mounted:
+        return CloneFault::DestinationMounted;
+    case DiskUse::Held:
+        return CloneFault::DestinationHeld;
+    case DiskUse::Unknown:
+        break;
+    }
+    return CloneFault::DestinationUnknown;
+}
+
 } // namespace
-
-/// One is filled while the other is written.
-struct ThreadDriveClone::Buffers {
-    const PageMemory first = pageMemory(BufferSize);
-    const PageMemory second = pageMemory(BufferSize);
-
-    bool areThere() const { return first && second; }
-    std::array<char *, 2> both() const { return {first.get(), second.get()}; }
-};
 
 /// Counts what has been done and says now and then how far it is.
 class ThreadDriveClone::Progress
@@ -112,8 +143,10 @@ void ThreadDriveClone::cloneDisk()
         endAsFailed(CloneOutcome::End::Refused, CloneFault::NoDisks);
         return;
     }
-    const Buffers buffers;
-    if (!buffers.areThere()) {
+    // One is filled while the other is written.
+    const PageMemory first = pageMemory(BufferSize);
+    const PageMemory second = pageMemory(BufferSize);
+    if (!first || !second) {
         endAsFailed(CloneOutcome::End::Refused, CloneFault::NoMemory);
         return;
     }
@@ -128,18 +161,17 @@ void ThreadDriveClone::cloneDisk()
     }
     destination::runScripts(destination::prepareScripts(m_pDestination->nDevice - PhysicalDriveBase));
     Platform::current().Sleep(SettlePause);
-    copy(buffers);
+    copy({first.get(), second.get()});
     finish();
 }
 
 bool ThreadDriveClone::mayUse(const CloneTarget &source, const CloneTarget &destination)
 {
-    m_outcome.fault = diskcheck::compare(source, diskcheck::listed(*m_pSource), destination,
-                                         diskcheck::listed(*m_pDestination));
+    m_outcome.fault = compare(source, listed(*m_pSource), destination, listed(*m_pDestination));
     if (m_outcome.fault != CloneFault::None)
         return false;
     const DiskUse use = Platform::current().DismountDisk(m_pDestination->nDevice - PhysicalDriveBase);
-    m_outcome.fault = diskcheck::faultOf(use.kind);
+    m_outcome.fault = faultOf(use.kind);
     m_outcome.detail = use.by;
     return m_outcome.fault == CloneFault::None;
 }
@@ -151,7 +183,7 @@ bool ThreadDriveClone::checkBeforeErasing()
     return mayUse(source, destination);
 }
 
-void ThreadDriveClone::copy(const Buffers &buffers)
+void ThreadDriveClone::copy(const std::array<char *, 2> &buffers)
 {
     CloneSource source(*m_pSource);
     CloneDestination destination(*m_pDestination);
@@ -165,7 +197,7 @@ void ThreadDriveClone::copy(const Buffers &buffers)
     CloneCopy copying(source, destination, total,
                       {[&progress](qint64 position) { progress.step(position); },
                        [&progress](qint64 left, qint64 skipped) { progress.again(left, skipped); }});
-    m_outcome = copying.run(buffers.both());
+    m_outcome = copying.run(buffers);
     if (m_outcome.fault == CloneFault::DestinationGone || destination.flush())
         return;
     m_outcome.lost.unconfirmed = true;

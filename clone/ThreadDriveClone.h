@@ -5,6 +5,7 @@
 
 #include <QThread>
 
+#include <array>
 #include <atomic>
 
 class CloneTarget;
@@ -53,13 +54,12 @@ protected:
 
 private:
     class Progress;
-    struct Buffers;
 
     void cloneDisk();
     /// Whether the disks may be used; keeps the reason where they may not.
     bool mayUse(const CloneTarget &source, const CloneTarget &destination);
     bool checkBeforeErasing();
-    void copy(const Buffers &buffers);
+    void copy(const std::array<char *, 2> &buffers);
     void finish();
     void endAsFailed(CloneOutcome::End end, CloneFault fault);
 

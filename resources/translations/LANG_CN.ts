@@ -342,10 +342,6 @@
         <translation> 分钟</translation>
     </message>
     <message>
-        <source> seconds</source>
-        <translation> 秒</translation>
-    </message>
-    <message>
         <source>Source and destination disks are same.</source>
         <translation>源磁盘和目标磁盘相同。</translation>
     </message>

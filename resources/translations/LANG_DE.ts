@@ -342,10 +342,6 @@
         <translation> Minuten</translation>
     </message>
     <message>
-        <source> seconds</source>
-        <translation> Sekunden</translation>
-    </message>
-    <message>
         <source>Source and destination disks are same.</source>
         <translation>Quell- und Ziellaufwerk sind identisch.</translation>
     </message>

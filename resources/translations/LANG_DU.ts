@@ -342,10 +342,6 @@
         <translation> minuten</translation>
     </message>
     <message>
-        <source> seconds</source>
-        <translation> seconden</translation>
-    </message>
-    <message>
         <source>Source and destination disks are same.</source>
         <translation>De bronschijf en de doelschijf zijn dezelfde.</translation>
     </message>

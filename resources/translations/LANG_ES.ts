@@ -342,10 +342,6 @@
         <translation> minutos</translation>
     </message>
     <message>
-        <source> seconds</source>
-        <translation> segundos</translation>
-    </message>
-    <message>
         <source>Source and destination disks are same.</source>
         <translation>Los discos de origen y destino son el mismo.</translation>
     </message>

@@ -342,10 +342,6 @@
         <translation> minutes</translation>
     </message>
     <message>
-        <source> seconds</source>
-        <translation> secondes</translation>
-    </message>
-    <message>
         <source>Source and destination disks are same.</source>
         <translation>Les disques source et cible sont identiques.</translation>
     </message>

@@ -342,10 +342,6 @@
         <translation> मिनट</translation>
     </message>
     <message>
-        <source> seconds</source>
-        <translation> सेकंड</translation>
-    </message>
-    <message>
         <source>Source and destination disks are same.</source>
         <translation>स्रोत और गंतव्य डिस्क एक ही हैं।</translation>
     </message>

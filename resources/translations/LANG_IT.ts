@@ -342,10 +342,6 @@
         <translation> minuti</translation>
     </message>
     <message>
-        <source> seconds</source>
-        <translation> secondi</translation>
-    </message>
-    <message>
         <source>Source and destination disks are same.</source>
         <translation>Il disco di origine e quello di destinazione coincidono.</translation>
     </message>

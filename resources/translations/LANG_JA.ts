@@ -342,10 +342,6 @@
         <translation> 分</translation>
     </message>
     <message>
-        <source> seconds</source>
-        <translation> 秒</translation>
-    </message>
-    <message>
         <source>Source and destination disks are same.</source>
         <translation>コピー元とコピー先のディスクが同じです。</translation>
     </message>

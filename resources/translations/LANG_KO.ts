@@ -342,10 +342,6 @@
         <translation> 분</translation>
     </message>
     <message>
-        <source> seconds</source>
-        <translation> 초</translation>
-    </message>
-    <message>
         <source>Source and destination disks are same.</source>
         <translation>원본 디스크와 대상 디스크가 같습니다.</translation>
     </message>

@@ -84,11 +84,11 @@ public:
 private:
     static void fill(DiskNode &node, int number, qint64 sectors)
     {
-        node.nId = static_cast<std::uint16_t>(PhysicalDriveBase + number);
+        node.nId = static_cast<quint16>(PhysicalDriveBase + number);
         node.pDetails = std::make_unique<DiskDetails>();
-        node.pDetails->nDevice = static_cast<std::uint8_t>(node.nId);
+        node.pDetails->nDevice = static_cast<quint8>(node.nId);
         const DiskMark mark = ReadDiskMark(node.nId);
-        node.pDetails->nTotalSectors = mark.sectors > 0 ? mark.sectors : static_cast<std::uint64_t>(sectors);
+        node.pDetails->nTotalSectors = mark.sectors > 0 ? mark.sectors : static_cast<quint64>(sectors);
         node.pDetails->szSerial = mark.serial;
     }
 

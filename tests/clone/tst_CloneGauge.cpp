@@ -96,9 +96,8 @@ void tst_CloneGauge::placesItsParts()
     const QRectF inner = gauge::innerRect(210, 210 * 0.84);
     QVERIFY(qFuzzyCompare(inner.x(), 16.8) && qFuzzyCompare(inner.width(), 176.4));
     QCOMPARE(gauge::sweep(0, 100, 35), 94.5);
-    QCOMPARE(gauge::sweep(50, 100, 75), 405.0); // the minimum is not subtracted
-    QVERIFY(!gauge::hasEndCap(gauge::percent(0, 100, 99)));
-    QVERIFY(gauge::hasEndCap(gauge::percent(0, 100, 100)));
+    QCOMPARE(gauge::sweep(50, 100, 75), 405.0); // the minimum stays in
+    QCOMPARE(gauge::percent(0, 100, 99), gauge::EndCapAbove);
 }
 
 void tst_CloneGauge::fillsTheFormat_data()

@@ -197,7 +197,7 @@ void QRoundProgressBar::paintRing(QPainter &painter, const QRectF &rect, double 
 
     painter.setPen(QPen(BarColour, CapPenWidth));
     painter.drawArc(gauge::StartCap.rect, gauge::StartCap.start, gauge::StartCap.span);
-    if (gauge::hasEndCap(gauge::percent(m_dMinimum, m_dMaximum, value)))
+    if (gauge::percent(m_dMinimum, m_dMaximum, value) > gauge::EndCapAbove)
         painter.drawEllipse(gauge::EndCap);
 }
 
