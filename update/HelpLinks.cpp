@@ -48,16 +48,6 @@ QString helpPage(Topic topic)
                             .arg(code, QLatin1String(Pages[static_cast<size_t>(shown)]));
 }
 
-QString supportAddress()
-{
-    return languages::storedText(key::SupportLink);
-}
-
-QString supportName()
-{
-    return languages::storedText(key::SupportName);
-}
-
 QString agreement()
 {
     if (g_App.m_bJapanese)
@@ -102,7 +92,8 @@ void openAgreement()
 
 void openSupport()
 {
-    const QString address = QString::fromLatin1(QUrl::toPercentEncoding(supportAddress(), "@"));
+    const QString address =
+        QString::fromLatin1(QUrl::toPercentEncoding(languages::storedText(key::SupportLink), "@"));
     if (!address.isEmpty())
         Platform::current().ShellExecuteW(QStringLiteral("mailto:") + address, QString(),
                                           QStringLiteral("Open"));

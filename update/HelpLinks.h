@@ -15,10 +15,6 @@ enum class Topic { DiskStatus, SmartStatus, DiskPartition, ScanDisk, CloneDisk, 
 /// Address of the help page. A program that stands alone has one page for all topics. Empty in Chinese.
 QString helpPage(Topic topic);
 
-/// Mail address of the support, and what it is called.
-QString supportAddress();
-QString supportName();
-
 /// Path or address of the licence agreement.
 QString agreement();
 

@@ -2,7 +2,6 @@
 #include "update/QDownloadThread.h"
 
 #include "update/UpdateFetch.h"
-#include "update/UpdateLink.h"
 
 QDownloadThread::QDownloadThread(QObject *parent) : QThread(parent) {}
 

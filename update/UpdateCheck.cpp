@@ -3,7 +3,6 @@
 
 #include "update/UpdateFetch.h"
 #include "update/UpdateGlobals.h"
-#include "update/UpdateLink.h"
 #include "update/VersionCompare.h"
 
 #include <QFile>

@@ -3,6 +3,8 @@
 
 #include "inventory/CommandRunner.h"
 #include "platform/Log.h"
+#include "state/GlobalApp.h"
+#include "state/SettingsStore.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -25,6 +27,11 @@ constexpr qint32 CancelMs = 2000; ///< for the end of a transfer that took too l
 /// The folder of the last fetch; empty where there is none.
 QMutex folderMutex;
 QString currentFolder;
+
+QString brand()
+{
+    return g_App.m_bKorvaneBrand ? QStringLiteral("KorvaneHalvane") : QStringLiteral("VelmoraHalvane");
+}
 
 QString folderNow()
 {
@@ -59,6 +66,22 @@ void fetchByConsole(const QString &url, const QString &path, qint32 milliseconds
 }
 
 } // namespace
+
+QString versionsName()
+{
+    return brand() + QLatin1String(".txt");
+}
+
+QString installerName()
+{
+    return brand() + QLatin1String(".exe");
+}
+
+int expectedSize()
+{
+    const int size = SettingsStore().number(key::AverageUpdateSize);
+    return size > 0 ? size : key::AverageUpdateSize.first;
+}
 
 DownloadLimits installerLimits(qint64 expectedBytes)
 {

@@ -5,9 +5,18 @@
 
 #include <QString>
 
-/// How the files of an update come to this PC.
+/// Where the files of an update lie, and how they come to this PC.
 namespace update
 {
+
+/// \name Files of the web folder that the setting rxUpdateLink names, by brand
+/// @{
+QString versionsName();
+QString installerName();
+/// @}
+
+/// Size of the installer in bytes as the settings tell it, 10 MiB where they do not. Main thread only.
+int expectedSize();
 
 /// What the file with the versions may take.
 constexpr DownloadLimits VersionsLimits{15000, 64 * 1024};

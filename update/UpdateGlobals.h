@@ -3,7 +3,8 @@
 
 #include <QString>
 
-/// State of the update that its dialogs share. Main thread only.
+/// State of the update that its dialogs share. Main thread only. Two are called m_... like members: they tell
+/// the dialog of the check what to do before there is one.
 
 inline bool g_bMajorUpdate = false;       ///< the last check found a newer major release
 inline bool g_bMinorUpdate = false;       ///< it found a newer minor update

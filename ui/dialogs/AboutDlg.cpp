@@ -2,7 +2,7 @@
 #include "ui/dialogs/AboutDlg.h"
 
 #include "platform/Platform.h"
-#include "state/SettingsStore.h"
+#include "state/Languages.h"
 #include "ui/widgets/Style.h"
 
 #include <QBoxLayout>
@@ -53,8 +53,8 @@ void AboutDlg::translateTexts()
     m_Frame.label("VersionLabel")->setText(tr("Version ") + store.text(key::rxVersion));
     m_Frame.label("LegalLabel")->setText(store.text(key::CopyrightText));
     m_Frame.label("SystemLabel")->setText(Platform::current().OperatingSystemName());
-    m_Frame.label("SupportNameLabel")->setText(links::supportName());
-    const QString address = links::supportAddress().toHtmlEscaped();
+    m_Frame.label("SupportNameLabel")->setText(languages::storedText(key::SupportName));
+    const QString address = languages::storedText(key::SupportLink).toHtmlEscaped();
     m_Frame.label("SupportLabel")
         ->setText(
             address.isEmpty()

@@ -5,14 +5,15 @@
 #include "state/GlobalApp.h"
 #include "state/Globals.h"
 #include "state/JobState.h"
+#include "state/Languages.h"
 #include "state/SettingsStore.h"
 #include "ui/dialogs/QShowUpdate.h"
 #include "ui/dialogs/SmallMessageDlg.h"
 #include "ui/widgets/Style.h"
 #include "update/HelpLinks.h"
 #include "update/UpdateCheck.h"
+#include "update/UpdateFetch.h"
 #include "update/UpdateGlobals.h"
-#include "update/UpdateLink.h"
 
 #include <QBoxLayout>
 #include <QFileInfo>
@@ -52,7 +53,7 @@ void QCheckUpdate::check()
 {
     m_bHttpRequestAborted = false;
     update::removeVersions();
-    const QString link = update::link();
+    const QString link = languages::storedText(key::rxUpdateLink);
     if (link.isEmpty())
         return;
     m_bHttpRequestAborted = !update::fetchVersions(link);

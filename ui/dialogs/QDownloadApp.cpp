@@ -2,11 +2,13 @@
 #include "ui/dialogs/QDownloadApp.h"
 
 #include "platform/Platform.h"
+#include "state/GlobalApp.h"
+#include "state/Languages.h"
+#include "state/Scale.h"
 #include "ui/widgets/Images.h"
 #include "ui/widgets/Style.h"
 #include "update/UpdateCheck.h"
 #include "update/UpdateFetch.h"
-#include "update/UpdateLink.h"
 
 #include <QBoxLayout>
 #include <QCoreApplication>
@@ -67,7 +69,7 @@ QDownloadApp::QDownloadApp(QWidget *parent) : QDialog(parent), m_Frame(this)
     update::removeVersions();
     update::removeLeftovers();
     m_pProgressBar->setMaximum(update::expectedSize());
-    m_thread.m_strUrl = update::link() + update::installerName();
+    m_thread.m_strUrl = languages::storedText(key::rxUpdateLink) + update::installerName();
     m_thread.m_limits = update::installerLimits(update::expectedSize());
     m_timer.setInterval(ProgressInterval);
     connect(&m_timer, &QTimer::timeout, this, &QDownloadApp::OnTimerLoadSlot);

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/dialogs/QShowUpdate.h"
 
+#include "state/Languages.h"
 #include "ui/dialogs/QDownloadApp.h"
 #include "ui/widgets/Style.h"
 #include "update/HelpLinks.h"
 #include "update/UpdateCheck.h"
+#include "update/UpdateFetch.h"
 #include "update/UpdateGlobals.h"
-#include "update/UpdateLink.h"
 
 #include <QBoxLayout>
 #include <QLabel>
@@ -53,7 +54,7 @@ QString QShowUpdate::offerText() const
 void QShowUpdate::translateTexts()
 {
     m_pTextEdit->setPlainText(offerText());
-    const QString page = update::page();
+    const QString page = languages::storedText(key::rxUpdate);
     m_pLinkLabel->setText(page.isEmpty() ? QString()
                                          : QStringLiteral("<a href=\"%1\" style=\"color: #2a81e5;\">%2</a>")
                                                .arg(page.toHtmlEscaped(), tr("Visit Update Page")));
