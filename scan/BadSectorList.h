@@ -18,7 +18,7 @@ public:
     qint64 count() const;
     bool isEmpty() const { return count() == 0; }
 
-    /// A copy of the runs as they are now: whoever walks it holds up nobody.
+    /// A copy of the runs as they are now, so that a walk does not hold up the scan.
     std::vector<SectorRun> runs() const;
 
 private:

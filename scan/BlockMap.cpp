@@ -37,7 +37,7 @@ Metrics metrics(int scalePercent)
 {
     // At least one pixel, even if a display claims to have almost no dots per inch.
     const auto px = [scalePercent](int length) { return qMax(1, scale::scaled(length, scalePercent)); };
-    return {px(20), px(500), px(320), px(20), px(25)};
+    return {px(20), px(500), px(320), px(25)};
 }
 
 qint64 cellCount(const Metrics &sizes, qint64 total)
@@ -79,8 +79,8 @@ QVector<Cell> cells(const Metrics &sizes, qint64 total, qint64 position, const B
 
 QString toolTip(const Metrics &sizes, const QPoint &place, qint64 start, qint64 end, qint64 blockStep)
 {
-    const qint64 block = static_cast<qint64>(place.y() / sizes.toolTipCell) * sizes.toolTipColumns +
-                         place.x() / sizes.toolTipCell;
+    const qint64 block =
+        static_cast<qint64>(place.y() / sizes.cell) * sizes.toolTipColumns + place.x() / sizes.cell;
     if (block < 0 || block > ScanBlockCount)
         return QString();
     const qint64 from = start + block * blockStep;

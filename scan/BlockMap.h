@@ -26,7 +26,6 @@ struct Metrics {
     int cell = 0; ///< side of a cell
     int width = 0;
     int height = 0;
-    int toolTipCell = 0;
     int toolTipColumns = 0; ///< scaled like a length, so that above 100 percent it is not columns()
 
     int columns() const { return width / cell; }

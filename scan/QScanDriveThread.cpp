@@ -8,8 +8,6 @@
 #include "state/GlobalApp.h"
 #include "state/Globals.h"
 
-#include <QCoreApplication>
-#include <QEvent>
 #include <QMutexLocker>
 
 #include <cstring>
@@ -26,25 +24,6 @@ constexpr int PartingMs = 2000;  ///< that a system may take to notice that a di
 constexpr int PartingLooks = 40;
 constexpr int PatienceMs = 200; ///< then the receivers' event loop counts as standing still
 constexpr int NapMs = 1;        ///< between looks at what is waited for
-
-/// Counts that the receivers' thread has yet to tell.
-class CountsEvent : public QEvent
-{
-public:
-    CountsEvent(qlonglong first, qlonglong last) : QEvent(type()), m_first(first), m_last(last) {}
-
-    static Type type()
-    {
-        static const int registered = registerEventType();
-        return static_cast<Type>(registered);
-    }
-    qlonglong first() const { return m_first; }
-    qlonglong last() const { return m_last; }
-
-private:
-    qlonglong m_first;
-    qlonglong m_last;
-};
 
 /// A difference that wraps instead of being undefined.
 qint64 difference(qint64 end, qint64 start)
@@ -96,23 +75,9 @@ void QScanDriveThread::SetRange(qint64 start, qint64 end)
     g_nScanEndSector = end;
 }
 
-bool QScanDriveThread::event(QEvent *event)
-{
-    if (event->type() != CountsEvent::type())
-        return QThread::event(event);
-    --m_nEventsOut;
-    const auto *counts = static_cast<CountsEvent *>(event);
-    for (qlonglong count = counts->first(); count <= counts->last(); ++count) {
-        emit ExactBadSectorCount(count);
-        m_nHeard.store(count, std::memory_order_relaxed);
-    }
-    return true;
-}
-
 void QScanDriveThread::run()
 {
     const QMutexLocker lock(&m_mutex);
-    g_bScanBegun = false;
     g_bJobRunning = true;
     // The flags of the last scan say nothing about this disk.
     g_bScanFailed = false;
@@ -120,7 +85,6 @@ void QScanDriveThread::run()
     if (!g_bAbortJob)
         scan();
     emit OnFinish(g_bScanFailed ? QStringLiteral("Failed") : QStringLiteral("Pass"));
-    g_bScanFinished = true;
     g_bJobRunning = false;
 }
 
@@ -141,7 +105,7 @@ void QScanDriveThread::scan()
     g_nBlockStep = blockStep(m_total);
 
     // Once a stop has been confirmed the lists may be rebuilt: from here on the record is left alone.
-    const qlonglong diskSectors = disk ? static_cast<qlonglong>(disk->nTotalSectors) : 0;
+    const qint64 diskSectors = disk ? static_cast<qint64>(disk->nTotalSectors) : 0;
     m_nDrive = disk ? disk->nDevice : 0;
     m_handle = disk ? OpenDisk(m_nDrive) : Platform::InvalidHandle;
     if (disk)
@@ -183,7 +147,7 @@ void QScanDriveThread::readChunks(char *buffer)
             return;
         if (position == 0)
             emit setRemainingTime(bytes / SectorSize, g_nScanEndSector);
-        m_progress = qMax<qlonglong>(position / step, 1);
+        m_progress = qMax<qint64>(position / step, 1);
         emit ScanProgressValue(m_progress);
     }
 }
@@ -243,7 +207,7 @@ void QScanDriveThread::takeFound(int uncounted)
     if (m_found.count() == 0)
         return;
     if (isStillThere()) {
-        const qlonglong told = m_nBadSectors;
+        const qint64 told = m_nBadSectors;
         for (const SectorRun &run : m_found.runs()) {
             g_BadSectors.append(run.first, run.count);
             m_nBadSectors += run.count;
@@ -287,12 +251,12 @@ bool QScanDriveThread::isStillThere()
     return true;
 }
 
-void QScanDriveThread::tellCounts(qlonglong first, qlonglong last)
+void QScanDriveThread::tellCounts(qint64 first, qint64 last)
 {
     // One event is on its way at a time. A dead disk refuses sectors faster than a window can show them,
     // and an endless queue would fill the memory and hold up every click. An event loop that stands still
     // is not waited for.
-    qlonglong heard = m_nHeard;
+    qint64 heard = m_nHeard;
     int waited = heard == m_nStoodStillAt ? PatienceMs : 0;
     while (m_nEventsOut > 0 && waited < PatienceMs && !g_bAbortJob) {
         msleep(NapMs);
@@ -300,7 +264,13 @@ void QScanDriveThread::tellCounts(qlonglong first, qlonglong last)
         heard = m_nHeard;
     }
     m_nStoodStillAt = waited < PatienceMs ? -1 : heard;
-    auto *counts = new CountsEvent(first, last);
     ++m_nEventsOut;
-    QCoreApplication::postEvent(this, counts);
+    const auto tell = [this, first, last] {
+        --m_nEventsOut;
+        for (qint64 count = first; count <= last; ++count) {
+            emit ExactBadSectorCount(count);
+            m_nHeard.store(count, std::memory_order_relaxed);
+        }
+    };
+    QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
 }

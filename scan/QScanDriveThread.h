@@ -35,8 +35,6 @@ public:
     /// The sectors to scan are 0 to `end` - `start`. Waits for the end of a run that is under way.
     void SetRange(qint64 start, qint64 end);
 
-    bool event(QEvent *event) override;
-
 signals:
     // The order and the spelling belong to the interface. "never" marks signals that nothing emits.
     void WrtiteText(qlonglong value);                              ///< never
@@ -73,21 +71,21 @@ private:
     void takeFound(int uncounted);
     bool isStillThere();
     /// Makes the receivers' thread emit the counts from `first` to `last`.
-    void tellCounts(qlonglong first, qlonglong last);
+    void tellCounts(qint64 first, qint64 last);
 
     QMutex m_mutex; ///< held by a whole run
-    qlonglong m_nBadSectors = 0;
+    qint64 m_nBadSectors = 0;
 
     // Of the run under way.
     int m_nDrive = 0; ///< drive code
     Platform::RawHandle m_handle = Platform::InvalidHandle;
     qint64 m_total = 0;        ///< sectors
-    qlonglong m_progress = 0;  ///< in blocks
+    qint64 m_progress = 0;     ///< in blocks
     qint64 m_nGoodSector = -1; ///< the latest that could be read
     SectorRuns m_found;        ///< not in the list yet
     QElapsedTimer m_sinceTaken;
 
-    std::atomic<int> m_nEventsOut{0};   ///< counts on their way to the receivers' thread
-    std::atomic<qlonglong> m_nHeard{0}; ///< the count that it told last
-    qlonglong m_nStoodStillAt = -1;     ///< the count at which waiting for that thread was given up
+    std::atomic<int> m_nEventsOut{0}; ///< counts on their way to the receivers' thread
+    std::atomic<qint64> m_nHeard{0};  ///< the count that it told last
+    qint64 m_nStoodStillAt = -1;      ///< the count at which waiting for that thread was given up
 };

@@ -25,21 +25,16 @@ qint64 scaledBy(qint64 a, qint64 b, qint64 c)
 
 void ScanClock::takeFirstChunk(qint64 sectors, qint64 endSector, qint64 elapsed)
 {
-    m_estimate = sectors > 0 ? scaledBy(elapsed, endSector, sectors) : 0;
-    m_firstSectors = sectors;
-}
-
-void ScanClock::forgetEstimate()
-{
-    m_firstSectors = 0;
-    m_estimate = 0;
+    m_estimate.reset();
+    if (sectors > 0)
+        m_estimate = scaledBy(elapsed, endSector, sectors);
 }
 
 std::optional<QString> ScanClock::remainingText(qint64 elapsed) const
 {
-    if (m_firstSectors <= 0)
+    if (!m_estimate)
         return std::nullopt;
-    qint64 remaining = m_estimate - elapsed;
+    qint64 remaining = *m_estimate - elapsed;
     if (remaining < 0)
         remaining = Second;
     return remaining >= Hour ? withUnit(remaining / Hour, QT_TRANSLATE_NOOP("ScanDisk", " hours"))

@@ -15,7 +15,7 @@ public:
     void takeFirstChunk(qint64 sectors, qint64 endSector, qint64 elapsed);
 
     /// From here on there is no estimate.
-    void forgetEstimate();
+    void forgetEstimate() { m_estimate.reset(); }
 
     /// "3 hours" or "12 minutes", the last minute is "0 minutes"; nothing before the first chunk.
     std::optional<QString> remainingText(qint64 elapsed) const;
@@ -24,6 +24,5 @@ public:
     static QString elapsedText(qint64 elapsed);
 
 private:
-    qint64 m_firstSectors = 0; ///< above 0: there is an estimate
-    qint64 m_estimate = 0;     ///< ms
+    std::optional<qint64> m_estimate; ///< ms
 };

@@ -15,8 +15,6 @@ inline BadSectorList g_BadSectors;
 
 inline std::atomic<bool> g_bScanFailed{false};   ///< the disk of the last scan did not open, or has gone
 inline std::atomic<bool> g_bScanDiskGone{false}; ///< it has gone in mid-scan
-inline std::atomic<bool> g_bScanBegun{false};    ///< cleared when a run begins
-inline std::atomic<bool> g_bScanFinished{false}; ///< set when a run has ended
 
 inline std::atomic<qint64> g_nScanStartSector{0}; ///< set through QScanDriveThread::SetRange
 inline std::atomic<qint64> g_nScanEndSector{0};

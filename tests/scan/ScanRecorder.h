@@ -27,10 +27,10 @@ class SelectedDisk
 public:
     SelectedDisk(int number, qint64 sectors)
     {
-        m_node.nId = static_cast<std::uint16_t>(PhysicalDriveBase + number);
+        m_node.nId = static_cast<quint16>(PhysicalDriveBase + number);
         m_node.pDetails = std::make_unique<DiskDetails>();
-        m_node.pDetails->nDevice = static_cast<std::uint8_t>(PhysicalDriveBase + number);
-        m_node.pDetails->nTotalSectors = static_cast<std::uint64_t>(sectors);
+        m_node.pDetails->nDevice = static_cast<quint8>(PhysicalDriveBase + number);
+        m_node.pDetails->nTotalSectors = static_cast<quint64>(sectors);
         g_App.m_pCurrentDisk = &m_node;
     }
     ~SelectedDisk() { g_App.m_pCurrentDisk = nullptr; }

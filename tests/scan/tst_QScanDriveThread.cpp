@@ -209,7 +209,7 @@ void tst_QScanDriveThread::findsEveryBadSector()
         QCOMPARE(g_BadSectors.count(), qint64(expected.found.size()));
         QCOMPARE(g_nBlockStep.load(), (total + 399) / 400);
     }
-    QCOMPARE(disk.node().pDetails->hDisk, std::int64_t(0));
+    QCOMPARE(disk.node().pDetails->hDisk, qint64(0));
 }
 
 void tst_QScanDriveThread::saysWordByWord_data()
@@ -406,8 +406,6 @@ void tst_QScanDriveThread::keepsItsFlags()
         QVERIFY(running);
         QCOMPARE(priority, QThread::LowPriority);
         QVERIFY(!g_bJobRunning);
-        QVERIFY(g_bScanFinished);
-        QVERIFY(!g_bScanBegun);
 
         // If it is stopped before it begins, the picture of the last scan stays.
         g_bAbortJob = true;
