@@ -84,7 +84,7 @@ QString runTable(const QByteArray &input, Mutator &)
         const wmic::LogicalDiskLine volume = wmic::parseLogicalDisk(line);
         if (drive.model.size() > line.size() || volume.caption.contains(QLatin1Char(' ')))
             complaint = QStringLiteral("a field is no piece of its line");
-        if (wmic::bitLockerState(line) == QLatin1String("NO") && !wmic::isBitLockerLine(line))
+        if (!wmic::bitLockerState(line).isEmpty() && !line.contains(QLatin1String("BitLocker Version:")))
             complaint = QStringLiteral("a state out of nowhere");
         numbers << wmic::partitionDisk(line).toInt();
         LogicalDiskRecord &record = volumes.append();

@@ -16,11 +16,11 @@ constexpr int AttributeBytes = 12;
 constexpr int TemperatureAttribute = 194;
 constexpr int DeviceCount = 4; ///< devices that the map of the drive interface tells of
 
-constexpr std::uint8_t IdentifyCommand = 0xEC;
-constexpr std::uint8_t IdentifyPacketCommand = 0xA1;
-constexpr std::uint8_t SmartCommand = 0xB0;
-constexpr std::uint8_t SmartEnable = 0xD8;
-constexpr std::uint8_t SmartReadData = 0xD0;
+constexpr quint8 IdentifyCommand = 0xEC;
+constexpr quint8 IdentifyPacketCommand = 0xA1;
+constexpr quint8 SmartCommand = 0xB0;
+constexpr quint8 SmartEnable = 0xD8;
+constexpr quint8 SmartReadData = 0xD0;
 
 /// The data behind the head of an answer.
 struct CommandOutput {
@@ -29,15 +29,15 @@ struct CommandOutput {
 };
 static_assert(sizeof(CommandOutput) == 528, "layout of SENDCMDOUTPARAMS with one sector");
 
-std::uint8_t byteAt(const QByteArray &data, int offset)
+quint8 byteAt(const QByteArray &data, int offset)
 {
-    return offset < data.size() ? static_cast<std::uint8_t>(data.at(offset)) : std::uint8_t(0);
+    return offset < data.size() ? static_cast<quint8>(data.at(offset)) : quint8(0);
 }
 
 /// Little-endian word of the identify data.
-std::uint16_t wordAt(const QByteArray &data, int word)
+quint16 wordAt(const QByteArray &data, int word)
 {
-    return static_cast<std::uint16_t>(byteAt(data, 2 * word) | byteAt(data, 2 * word + 1) << 8);
+    return static_cast<quint16>(byteAt(data, 2 * word) | byteAt(data, 2 * word + 1) << 8);
 }
 
 template<std::size_t Width>
@@ -48,7 +48,7 @@ void takeText(const QByteArray &data, int firstWord, int lastWord, FixedText<Wid
     text->assign(plaintext::line(QString::fromLatin1(told)));
 }
 
-io::SendCmdInParams makeCommand(int device, std::uint8_t command, std::uint8_t features, std::uint32_t bytes)
+io::SendCmdInParams makeCommand(int device, quint8 command, quint8 features, quint32 bytes)
 {
     io::SendCmdInParams in{};
     in.bufferSize = bytes;
@@ -61,11 +61,11 @@ io::SendCmdInParams makeCommand(int device, std::uint8_t command, std::uint8_t f
     }
     in.regs.driveHead = (device & 1) != 0 ? 0xB0 : 0xA0;
     in.regs.command = command;
-    in.driveNumber = static_cast<std::uint8_t>(device);
+    in.driveNumber = static_cast<quint8>(device);
     return in;
 }
 
-bool send(Platform::RawHandle handle, std::uint32_t code, const io::SendCmdInParams &in, QByteArray *data)
+bool send(Platform::RawHandle handle, quint32 code, const io::SendCmdInParams &in, QByteArray *data)
 {
     CommandOutput out{};
     quint32 returned = 0;
@@ -83,7 +83,7 @@ bool readDevice(Platform::RawHandle handle, int device, bool atapi, DiskIdentity
                                         makeCommand(device, SmartCommand, SmartEnable, 0), &data);
     if (enabled)
         identity->bSmartEnabled = 1;
-    const std::uint8_t command = atapi ? IdentifyPacketCommand : IdentifyCommand;
+    const quint8 command = atapi ? IdentifyPacketCommand : IdentifyCommand;
     if (send(handle, io::SmartRcvDriveData, makeCommand(device, command, 0, SectorSize), &data))
         ata::decodeIdentify(data, atapi, identity);
     return enabled;
@@ -116,7 +116,7 @@ QByteArray identifyText(const QByteArray &field)
 
 void decodeIdentify(const QByteArray &data, bool atapi, DiskIdentity *identity)
 {
-    identity->nTotalLba = static_cast<std::uint32_t>(wordAt(data, 61)) << 16 | wordAt(data, 60);
+    identity->nTotalLba = static_cast<quint32>(wordAt(data, 61)) << 16 | wordAt(data, 60);
     if (!atapi) {
         identity->nCylinders = wordAt(data, 1);
         identity->nHeads = wordAt(data, 3);
@@ -141,13 +141,13 @@ void decodeAttributes(const QByteArray &data, DiskIdentity *identity)
     bool temperatureSeen = false;
     for (int slot = 0; slot < AttributeSlots; ++slot) {
         const int entry = 2 + slot * AttributeBytes;
-        const std::uint8_t id = byteAt(data, entry);
+        const quint8 id = byteAt(data, entry);
         if (id == 0)
             continue;
         if (id == TemperatureAttribute && !temperatureSeen) {
             temperatureSeen = true;
             identity->nTemperature = byteAt(data, entry + 5);
-            identity->nTemperatureCopy = static_cast<std::uint16_t>(identity->nTemperature);
+            identity->nTemperatureCopy = static_cast<quint16>(identity->nTemperature);
         }
         IdentityAttribute &attribute = identity->attributes.append();
         attribute.nAttrId = id;

@@ -56,36 +56,32 @@ void CCreateDiskDriveList::probeDisks()
         else if (geometry.mediaType == io::MediaRemovable)
             m_removable.insert(number, geometry.bytesPerSector);
     }
-    g_App.m_nFixedDisks = static_cast<std::uint8_t>(m_fixed.size());
-    g_App.m_nRemovableDisks = static_cast<std::uint8_t>(m_removable.size());
+    g_App.m_nFixedDisks = static_cast<quint8>(m_fixed.size());
+    g_App.m_nRemovableDisks = static_cast<quint8>(m_removable.size());
     qCDebug(logs::inventory) << "disks that open:" << m_fixed.keys() << "removable:" << m_removable.keys();
 }
 
 void CCreateDiskDriveList::appendPhysicalNodes(const ProbeTable &table, DiskKind kind)
 {
-    for (auto disk = table.cbegin(); disk != table.cend() && disk.key() < ListedDisks; ++disk)
-        appendPhysicalNode(disk.key(), kind, disk.value());
-}
-
-void CCreateDiskDriveList::appendPhysicalNode(int number, DiskKind kind, quint32 bytesPerSector)
-{
-    const int driveCode = PhysicalDriveBase + number;
-    DiskNode &node = g_App.m_diskList.append();
-    node.nId = static_cast<std::uint16_t>(driveCode);
-    node.nKind = kind;
-    node.pDetails = std::make_unique<DiskDetails>();
-    DiskDetails &details = *node.pDetails;
-    details.nDevice = static_cast<std::uint8_t>(driveCode);
-    details.nSectorFactor = static_cast<quint32>(bytesPerSector / SectorSize);
-    const DiskMark mark = ReadDiskMark(driveCode);
-    details.nTotalSectors = mark.sectors;
-    details.szSerial = mark.serial;
-    details.szCapacity = capacityText(mark.sectors * SectorSize, QStringLiteral("KB"));
-    if (kind == FixedDisk) {
-        details.pIdentity = std::make_unique<DiskIdentity>();
-        ReadAtaIdentity(driveCode, details.pIdentity.get());
+    for (auto disk = table.cbegin(); disk != table.cend() && disk.key() < ListedDisks; ++disk) {
+        const int driveCode = PhysicalDriveBase + disk.key();
+        DiskNode &node = g_App.m_diskList.append();
+        node.nId = static_cast<quint16>(driveCode);
+        node.nKind = kind;
+        node.pDetails = std::make_unique<DiskDetails>();
+        DiskDetails &details = *node.pDetails;
+        details.nDevice = static_cast<quint8>(driveCode);
+        details.nSectorFactor = static_cast<quint32>(disk.value() / SectorSize);
+        const DiskMark mark = ReadDiskMark(driveCode);
+        details.nTotalSectors = mark.sectors;
+        details.szSerial = mark.serial;
+        details.szCapacity = capacityText(mark.sectors * SectorSize, QStringLiteral("KB"));
+        if (kind == FixedDisk) {
+            details.pIdentity = std::make_unique<DiskIdentity>();
+            ReadAtaIdentity(driveCode, details.pIdentity.get());
+        }
+        details.szDrives = QStringLiteral("Drive: ") + driveLetters(driveCode);
     }
-    details.szDrives = QStringLiteral("Drive: ") + driveLetters(driveCode);
 }
 
 QString CCreateDiskDriveList::driveLetters(int driveCode)

@@ -14,7 +14,7 @@ public:
     static constexpr int ProbedDisks = 128; ///< disk numbers that are tried
     static constexpr int ListedDisks = 24;  ///< disk numbers that can become nodes
     static constexpr int Letters = 26;      ///< volumes that can become nodes
-    static constexpr std::uint16_t FirstLogicalId = 257;
+    static constexpr quint16 FirstLogicalId = 257;
 
     /// Frees the previous list, and the Linux partitions that the last walk found.
     CCreateDiskDriveList();
@@ -32,7 +32,6 @@ private:
 
     void probeDisks();
     void appendPhysicalNodes(const ProbeTable &table, DiskKind kind);
-    void appendPhysicalNode(int number, DiskKind kind, quint32 bytesPerSector);
     QString driveLetters(int driveCode);
     void appendVolumeNodes();
     void appendLinuxNodes();

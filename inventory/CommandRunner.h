@@ -39,8 +39,8 @@ using OutputReader = std::function<void(QTextStream &stream)>;
 /// tempFile() with a left-over of that name removed, as commands append to their file.
 QString freshTempFile(const QString &name);
 
-/// Runs the command that `compose` makes of the path of a fresh temp file; none where that is empty. Returns
-/// the path.
+/// Makes a fresh temp file, asks `compose` for the command that uses its path, runs it, and returns the path.
+/// An empty command is not run.
 QString runFresh(const QString &name, const std::function<QString(const QString &path)> &compose);
 
 /// Opens the file at `path` (of tempFile()), hands its first 16 MiB to `read`, and removes it behind that.

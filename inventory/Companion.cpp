@@ -31,16 +31,12 @@ State check()
     const QString system = g_App.m_strSystemFolder;
     const QString command =
         system + QStringLiteral("\\tasklist.exe | ") + system + QStringLiteral("\\findstr.exe ") + fileName();
-    State state = State::NotRunning;
-    const bool read = runner::runAndRead(command, TaskListFile, [&state](QTextStream &stream) {
-        while (!stream.atEnd()) {
-            if (stream.readLine().contains(fileName(), Qt::CaseInsensitive)) {
-                state = State::Running;
-                return;
-            }
-        }
+    State state = State::Unknown;
+    runner::runAndRead(command, TaskListFile, [&state](QTextStream &stream) {
+        state =
+            stream.readAll().contains(fileName(), Qt::CaseInsensitive) ? State::Running : State::NotRunning;
     });
-    return read ? state : State::Unknown;
+    return state;
 }
 
 void start()

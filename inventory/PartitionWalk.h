@@ -28,19 +28,18 @@ struct PartitionWalkState {
 
 constexpr quint8 LinuxPartitionType = 131;
 
-/// Tables of one walk: a chain of more is broken off there. No real chain comes near it, and the ids of list
-/// nodes have 16 bits.
+/// The most tables of one walk. No real chain comes near it, and the ids of list nodes have 16 bits.
 constexpr int MaxPartitionTables = 65536;
 
 inline PartitionWalkState g_partitionWalk;
-/// What the last walk found, until the next one or the next list. Goes with the process.
+/// What the last walk found, until the next one or the next list. Never freed.
 inline RecordList<LinuxPartitionEntry> &g_linuxPartitions = *new RecordList<LinuxPartitionEntry>;
 
 /// Frees the entries and zeroes the state, as every walk of a disk has to begin.
 void ResetPartitionWalk();
 
-/// Appends an entry to the list for each Linux partition in the table at `sector` and in those that hang off
-/// it; a disk is entered with sector 0. An unreadable table ends that table alone, and nothing is reported.
-/// Any content ends: each table is taken in once, so that a cycle is cut where it closes, and no more than
-/// MaxPartitionTables of them. Memory and time grow with the tables, the stack does not.
+/// Appends an entry to the list for each Linux partition in the table at `sector`, and in the tables that it
+/// leads to. The first table of a disk is at sector 0. A table that cannot be read counts as empty. The walk
+/// always ends: each table is read once, so a cycle ends, and at most MaxPartitionTables are read. Memory and
+/// time grow with the tables, the stack does not.
 void ScanPartitionTable(int driveCode, quint64 sector);

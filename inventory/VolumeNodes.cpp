@@ -6,7 +6,6 @@
 #include "platform/PlainText.h"
 #include "platform/Platform.h"
 
-#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cstddef>
@@ -129,13 +128,10 @@ void takeSizeFromExtents(LogicalDetails *volume)
     volume->nSectorCount = volume->nEndSector - volume->nStartSector;
     volume->nTotalBytes = volume->nSectorCount * SectorSize;
     volume->szCapacity = volumeCapacity(volume->nTotalBytes);
-    static const std::array<QLatin1String, 5> known{QLatin1String("NTFS"), QLatin1String("FAT32"),
-                                                    QLatin1String("FAT12"), QLatin1String("FAT16"),
-                                                    QLatin1String("exFAT")};
-    const bool isKnown = std::any_of(known.cbegin(), known.cend(), [volume](const QLatin1String &name) {
-        return volume->szFileSystem == name;
-    });
-    if (!isKnown && bootsector::isNtfs(bootsector::readSector(volume->nLetter, 0))) {
+    static const QStringList known{QStringLiteral("NTFS"), QStringLiteral("FAT32"), QStringLiteral("FAT12"),
+                                   QStringLiteral("FAT16"), QStringLiteral("exFAT")};
+    if (!known.contains(volume->szFileSystem) &&
+        bootsector::isNtfs(bootsector::readSector(volume->nLetter, 0))) {
         volume->szFileSystem = NtfsCode.name;
         setFileSystemCode(volume, NtfsCode);
     }
@@ -146,7 +142,7 @@ constexpr std::size_t ExtentBytes = 1024;
 /// Extents of a volume in the room that the system call gets; further ones lie behind the first.
 union ExtentBuffer {
     io::VolumeDiskExtents extents;
-    std::uint8_t bytes[ExtentBytes];
+    quint8 bytes[ExtentBytes];
 };
 
 std::optional<VolumeExtents> readVolumeExtents(QChar letter)

@@ -22,8 +22,8 @@ struct VolumeExtents {
     QVector<int> disks;    ///< numbers of the disks of all extents
 };
 
-/// The extents of the volumes. Each letter is opened once, when it is first asked for; a network share, which
-/// may be long dead, never. Lives for one load.
+/// The extents of the volumes. Each letter is opened once, when it is first asked for. A network share is
+/// never opened: it may not answer for minutes. Lives for one load.
 class KnownExtents
 {
 public:

@@ -39,20 +39,18 @@ void eachDataLine(QTextStream &stream, const QLatin1String &headerWord, Take tak
     }
 }
 
+/// The model of a line as people know it: "NW500 ATA Device" gives "NW500". Empty where a cell is missing.
+QString nameIn(const QString &line)
+{
+    static const QRegularExpression driver(QStringLiteral(" (SCSI Disk|[A-Z]{3,4}) Device$"));
+    // Two blanks part the columns, one stands in a name.
+    const QStringList cells = line.split(QStringLiteral("  "), Qt::SkipEmptyParts);
+    return cells.size() < 4 ? QString() : cells.at(2).trimmed().remove(driver);
+}
+
 QString wmicCommand(const char *question)
 {
     return g_App.m_strSystemFolder + QLatin1String("\\wbem\\WMIC.exe ") + QLatin1String(question);
-}
-
-WmicDiskRecord diskRecord(const wmic::DiskDriveLine &line)
-{
-    WmicDiskRecord record;
-    record.nIndex = line.index;
-    record.szInterface.assign(line.interfaceText);
-    record.nDiskId = line.index == wmic::Nobody ? wmic::Nobody : line.index + PhysicalDriveBase;
-    record.szModel.assign(line.model);
-    record.szStatus.assign(line.status);
-    return record;
 }
 
 /// What the drive said of itself through its own interface; null where it said nothing.
@@ -96,30 +94,13 @@ void addMissingSerials()
         });
 }
 
-LogicalDiskRecord logicalRecord(const wmic::LogicalDiskLine &line)
-{
-    LogicalDiskRecord record;
-    if (line.fileSystem.isEmpty())
-        return record;
-    record.szCaption.assign(line.caption);
-    record.nFreeBytes = line.freeBytes;
-    record.nSizeBytes = line.sizeBytes;
-    record.szFileSystem.assign(line.fileSystem);
-    return record;
-}
-
 /// Asks whether a volume is protected. False if the tool could not be run.
 bool readBitLocker(const QString &caption, LogicalDiskRecord &record)
 {
     const QString command = g_App.m_strSystemFolder + QLatin1String("\\manage-bde.exe -status ") + caption;
     return runner::runAndRead(command, BitLockerFile, [&record](QTextStream &stream) {
-        while (!stream.atEnd()) {
-            const QString line = stream.readLine();
-            if (wmic::isBitLockerLine(line)) {
-                record.szBitLocker.assign(wmic::bitLockerState(line));
-                return;
-            }
-        }
+        while (!stream.atEnd() && record.szBitLocker.isEmpty())
+            record.szBitLocker.assign(wmic::bitLockerState(stream.readLine()));
     });
 }
 
@@ -132,7 +113,14 @@ bool readLogicalDisks(QTextStream &stream)
         if (!complete)
             return;
         const wmic::LogicalDiskLine line = wmic::parseLogicalDisk(text);
-        complete = readBitLocker(line.caption, g_logicalDisks.append(logicalRecord(line)));
+        LogicalDiskRecord &record = g_logicalDisks.append();
+        if (!line.fileSystem.isEmpty()) {
+            record.szCaption.assign(line.caption);
+            record.nFreeBytes = line.freeBytes;
+            record.nSizeBytes = line.sizeBytes;
+            record.szFileSystem.assign(line.fileSystem);
+        }
+        complete = readBitLocker(line.caption, record);
     });
     return complete;
 }
@@ -147,7 +135,12 @@ void LoadDiskDrives(const IdentityProbe &probe)
         // A blank line makes a record too: lists that go by the table's lines count it.
         eachDataLine(stream, QLatin1String("Index"), [&probe](const QString &text) {
             const wmic::DiskDriveLine line = wmic::parseDiskDrive(text);
-            WmicDiskRecord &record = g_wmicDisks.append(diskRecord(line));
+            WmicDiskRecord &record = g_wmicDisks.append();
+            record.nIndex = line.index;
+            record.nDiskId = line.index == wmic::Nobody ? wmic::Nobody : line.index + PhysicalDriveBase;
+            record.szInterface.assign(line.interfaceText);
+            record.szModel.assign(line.model);
+            record.szStatus.assign(line.status);
             if (line.index == wmic::Nobody)
                 return;
             const ProbedIdentity told = probe(static_cast<int>(line.index), line.interfaceText);
@@ -210,18 +203,10 @@ DiskDriveLine parseDiskDrive(const QString &line)
     for (int i = 2; i <= count - 3; ++i)
         result.model += fields.at(i) + QLatin1Char(' ');
     result.model.chop(4);
-    result.name = wmic::diskName(line);
+    result.name = nameIn(line);
     if (count > 1)
         result.interfaceText = fields.at(1);
     return result;
-}
-
-QString diskName(const QString &line)
-{
-    static const QRegularExpression driver(QStringLiteral(" (SCSI Disk|[A-Z]{3,4}) Device$"));
-    // Two blanks part the columns, one stands in a name.
-    const QStringList cells = line.split(QStringLiteral("  "), Qt::SkipEmptyParts);
-    return cells.size() < 4 ? QString() : cells.at(2).trimmed().remove(driver);
 }
 
 LogicalDiskLine parseLogicalDisk(const QString &line)
@@ -232,15 +217,13 @@ LogicalDiskLine parseLogicalDisk(const QString &line)
             std::max<qint64>(0, fields.value(3).toLongLong())};
 }
 
-bool isBitLockerLine(const QString &line)
-{
-    return line.trimmed().startsWith(QLatin1String("BitLocker Version:"));
-}
-
 QString bitLockerState(const QString &line)
 {
-    return line.trimmed().startsWith(QLatin1String("BitLocker Version:    None")) ? QStringLiteral("NO")
-                                                                                  : QStringLiteral("YES");
+    const QString told = line.trimmed();
+    if (!told.startsWith(QLatin1String("BitLocker Version:")))
+        return QString();
+    return told.startsWith(QLatin1String("BitLocker Version:    None")) ? QStringLiteral("NO")
+                                                                        : QStringLiteral("YES");
 }
 
 QString partitionDisk(const QString &line)

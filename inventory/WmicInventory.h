@@ -15,13 +15,13 @@ struct ProbedIdentity {
     QString firmware;
 };
 
-/// Reads a disk's report. Handed in from above, as the reports are no business of this floor.
+/// Reads a disk's report. The caller gives it, as this floor knows no reports.
 using IdentityProbe = std::function<ProbedIdentity(int diskIndex, const QString &interfaceText)>;
 
 /// Rebuilds the list g_wmicDisks from the system's disk table, asking `probe` for each disk. A
-/// blank line makes a record that is no disk's. A disk whose report names no model or serial has those that
-/// the system knows. Where the table cannot be had the old list stays. Device-load threads only, behind the
-/// list of the physical disks.
+/// blank line makes a record of no disk. A disk whose report names no model or serial gets those that the
+/// system knows. If the table cannot be read, the old list stays. Device-load threads only, after the list of
+/// the physical disks.
 void LoadDiskDrives(const IdentityProbe &probe);
 
 /// Rebuilds the list g_logicalDisks from the system's volume table. Where the table cannot be had
@@ -58,17 +58,10 @@ struct LogicalDiskLine {
 /// Index, InterfaceType, Model, Status.
 DiskDriveLine parseDiskDrive(const QString &line);
 
-/// The model of such a line as people know it: "NW500 ATA Device" gives "NW500". Empty where a cell is
-/// missing.
-QString diskName(const QString &line);
-
 /// Caption, FileSystem, FreeSpace, Size.
 LogicalDiskLine parseLogicalDisk(const QString &line);
 
-/// True for the line of the encryption tool that tells of a volume's state.
-bool isBitLockerLine(const QString &line);
-
-/// "NO" or "YES" from such a line.
+/// "NO" or "YES" from the line of the encryption tool that tells of a volume's state; empty from any other.
 QString bitLockerState(const QString &line);
 
 /// The disk number of a line of the partition table.
