@@ -23,7 +23,7 @@ QString knownOrNot(const QString &value)
     return trimmed.isEmpty() ? translated(QT_TRANSLATE_NOOP("CloneDisk", "Not Available")) : trimmed;
 }
 
-Details fieldCaptions()
+Details captionsOfDisk()
 {
     Details texts;
     texts.diskNumber = translated(QT_TRANSLATE_NOOP("CloneDisk", "Disk Number \t: "));
@@ -40,7 +40,7 @@ Details fieldCaptions()
 
 Details captions()
 {
-    Details texts = fieldCaptions();
+    Details texts = captionsOfDisk();
     texts.model = translated(QT_TRANSLATE_NOOP("CloneDisk", "Model Number : "));
     texts.capacity = translated(QT_TRANSLATE_NOOP("CloneDisk", "Capacity           : "));
     return texts;
@@ -51,7 +51,7 @@ Details details(const DiskNode &node, const WmicDiskRecord *record)
     static const WmicDiskRecord unknown;
     const WmicDiskRecord &known = record ? *record : unknown;
 
-    Details texts = fieldCaptions();
+    Details texts = captionsOfDisk();
     texts.diskNumber += QString::number(node.nId - PhysicalDriveBase);
     texts.model += knownOrNot(known.szSmartModel.text());
     texts.serial += knownOrNot(known.szSmartSerial.text());

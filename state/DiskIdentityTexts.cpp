@@ -6,11 +6,18 @@
 namespace
 {
 
-std::optional<QString> sectorsOf(const DiskNode &node)
+/// What both have in common.
+DiskIdentityTexts textsOf(const DiskNode *node, const WmicDiskRecord *record, int diskNumber)
 {
-    if (!node.pDetails)
-        return std::nullopt;
-    return QString::number(node.pDetails->nTotalSectors);
+    DiskIdentityTexts texts;
+    texts.diskNumber = QString::number(diskNumber);
+    if (node && node->pDetails)
+        texts.sectors = QString::number(node->pDetails->nTotalSectors);
+    if (node && record) {
+        texts.model = record->szSmartModel.text();
+        texts.interfaceText = record->szInterface.text();
+    }
+    return texts;
 }
 
 /// What the report tells, else what the system knows.
@@ -26,18 +33,15 @@ QString toldOrKnown(const QString &told, const WmicDiskRecord *record, FixedText
 DiskIdentityTexts identityTextsAfterRead(const DiskNode *node, const WmicDiskRecord *record, int diskNumber,
                                          const ReportIdentity &report)
 {
-    DiskIdentityTexts texts;
-    texts.diskNumber = QString::number(diskNumber);
+    DiskIdentityTexts texts = textsOf(node, record, diskNumber);
     if (!node)
         return texts;
     const bool removable = node->nKind == RemovableDisk;
     if (record) {
-        texts.model = record->szSmartModel.text();
         // On a removable disk this stays: its serial field shows the system's model text.
         texts.serial = record->szModel.text();
         texts.summary = record->szSmartSerial.text() + QStringLiteral(" ( ") + record->szInterface.text() +
                         QStringLiteral("  ") + node->szSize.text() + QStringLiteral(" )");
-        texts.interfaceText = record->szInterface.text();
     }
     if (!removable) {
         texts.model = toldOrKnown(report.model, record, &WmicDiskRecord::szSmartModel);
@@ -48,24 +52,17 @@ DiskIdentityTexts identityTextsAfterRead(const DiskNode *node, const WmicDiskRec
         if (texts.model.value_or(QString()).isEmpty())
             texts.model = texts.firmware;
     }
-    texts.sectors = sectorsOf(*node);
     return texts;
 }
 
 DiskIdentityTexts identityTextsAfterLanguageChange(const DiskNode *node, const WmicDiskRecord *record,
                                                    int diskNumber)
 {
-    DiskIdentityTexts texts;
-    texts.diskNumber = QString::number(diskNumber);
-    if (!node)
+    DiskIdentityTexts texts = textsOf(node, record, diskNumber);
+    if (!node || !record)
         return texts;
     const bool removable = node->nKind == RemovableDisk;
-    if (record) {
-        texts.serial = removable ? record->szModel.text() : record->szSmartSerial.text();
-        texts.interfaceText = record->szInterface.text();
-        texts.model = record->szSmartModel.text();
-        texts.firmware = removable ? QString() : record->szSmartFirmware.text();
-    }
-    texts.sectors = sectorsOf(*node);
+    texts.serial = removable ? record->szModel.text() : record->szSmartSerial.text();
+    texts.firmware = removable ? QString() : record->szSmartFirmware.text();
     return texts;
 }

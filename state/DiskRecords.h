@@ -7,7 +7,6 @@
 #include <QString>
 #include <QVector>
 
-#include <cstdint>
 #include <memory>
 
 /// The disk records that cross screens. All of them hang in singly linked lists that are freed and rebuilt at
@@ -20,7 +19,7 @@
 constexpr int PhysicalDriveBase = 128;
 
 /// Kinds of a DiskNode.
-enum DiskKind : std::uint8_t {
+enum DiskKind : quint8 {
     FixedDisk = 0,
     VolumeNode = 1,
     RemovableDisk = 4,
@@ -29,7 +28,7 @@ enum DiskKind : std::uint8_t {
 };
 
 /// True for the kinds 0 and 4: a test that accepts physical disks masks with 251.
-constexpr bool isPhysicalKind(std::uint8_t kind)
+constexpr bool isPhysicalKind(quint8 kind)
 {
     return (kind & 251u) == 0;
 }
@@ -37,12 +36,12 @@ constexpr bool isPhysicalKind(std::uint8_t kind)
 /// One row of a drive's own attribute table, as the drive's interface gives it.
 struct IdentityAttribute {
     IdentityAttribute *pNext = nullptr;
-    std::uint8_t nAttrId = 0;
+    quint8 nAttrId = 0;
     QString szNameIndex; ///< decimal text
-    std::uint32_t nCurrent = 0;
-    std::uint32_t nThreshold = 0;
-    std::uint32_t nWorst = 0;
-    std::uint8_t nState = 0; ///< 1 above the threshold, 2 at it, 3 below it
+    quint32 nCurrent = 0;
+    quint32 nThreshold = 0;
+    quint32 nWorst = 0;
+    quint8 nState = 0; ///< 1 above the threshold, 2 at it, 3 below it
 };
 
 /// What the drive's own interface says of a fixed disk.
@@ -51,24 +50,24 @@ struct DiskIdentity {
     FixedText<41> szModel;
     FixedText<21> szSerial;
     FixedText<9> szFirmware;
-    std::uint32_t nTemperature = 0; ///< first raw byte of attribute 194, 0 if absent
-    std::uint16_t nTemperatureCopy = 0;
-    std::uint8_t bSmartEnabled = 0;
-    std::uint8_t nThresholdState = 0; ///< worst state of the attribute list
-    std::uint16_t nCylinders = 0;
-    std::uint16_t nHeads = 0;
-    std::uint16_t nSectors = 0;
-    std::uint32_t nTotalLba = 0; ///< capped by its 32-bit field
-    std::uint8_t nAttributeCount = 0;
+    quint32 nTemperature = 0; ///< first raw byte of attribute 194, 0 if absent
+    quint16 nTemperatureCopy = 0;
+    quint8 bSmartEnabled = 0;
+    quint8 nThresholdState = 0; ///< worst state of the attribute list
+    quint16 nCylinders = 0;
+    quint16 nHeads = 0;
+    quint16 nSectors = 0;
+    quint32 nTotalLba = 0; ///< capped by its 32-bit field
+    quint8 nAttributeCount = 0;
 };
 
 /// Details of a physical disk.
 struct DiskDetails {
-    std::uint8_t nDevice = 0;                ///< low byte of the node's nId
-    std::int64_t hDisk = 0;                  ///< open handle of the clone engine, else zero
-    std::uint64_t nTotalSectors = 0;         ///< sectors of 512 bytes
+    quint8 nDevice = 0;                      ///< low byte of the node's nId
+    qint64 hDisk = 0;                        ///< open handle of the clone engine, else zero
+    quint64 nTotalSectors = 0;               ///< sectors of 512 bytes
     QString szSerial;                        ///< as the system tells it; empty where it does not
-    std::uint32_t nSectorFactor = 0;         ///< bytes per sector of the drive, divided by 512
+    quint32 nSectorFactor = 0;               ///< bytes per sector of the drive, divided by 512
     QString szCapacity;                      ///< "931.51 GB"
     QString szDrives;                        ///< "Drive: " and each letter with colon and a blank
     std::unique_ptr<DiskIdentity> pIdentity; ///< null for a removable disk
@@ -76,20 +75,20 @@ struct DiskDetails {
 
 /// Details of a volume or a Linux partition. Sectors of 512 bytes.
 struct LogicalDetails {
-    std::uint8_t nLetter = 0;
+    quint8 nLetter = 0;
     QString szRoot;
     QString szLabel;
     QString szType;
-    std::uint64_t nFreeBytes = 0;
-    std::uint64_t nTotalBytes = 0;
+    quint64 nFreeBytes = 0;
+    quint64 nTotalBytes = 0;
     QString szFileSystem;
-    std::uint8_t bSpanned = 0;
-    std::uint8_t nParentId = 0;
-    std::uint64_t nStartSector = 0;
-    std::uint64_t nSectorCount = 0;
-    std::uint64_t nEndSector = 0;
-    std::uint8_t nFsCode = 0;
-    std::uint8_t nFsClass = 0;
+    quint8 bSpanned = 0;
+    quint8 nParentId = 0;
+    quint64 nStartSector = 0;
+    quint64 nSectorCount = 0;
+    quint64 nEndSector = 0;
+    quint8 nFsCode = 0;
+    quint8 nFsClass = 0;
     QString szCapacity;
     QVector<int> disks; ///< numbers of the disks that its extents name; empty where they are not known
 };
@@ -97,34 +96,34 @@ struct LogicalDetails {
 /// One node for each physical disk (fixed, then removable), then one for each volume and Linux partition.
 struct DiskNode {
     DiskNode *pNext = nullptr;
-    std::uint16_t nId = 0;
-    std::uint8_t nKind = FixedDisk;
+    quint16 nId = 0;
+    quint8 nKind = FixedDisk;
     std::unique_ptr<DiskDetails> pDetails;    ///< physical kinds only
     std::unique_ptr<LogicalDetails> pLogical; ///< the other kinds only
     QString szDisplay;
-    FixedText<32> szSize;            ///< capacity as shown; empty means no size
-    std::uint32_t nDisplayBytes = 0; ///< length of szDisplay in bytes of 16-bit characters
+    FixedText<32> szSize;      ///< capacity as shown; empty means no size
+    quint32 nDisplayBytes = 0; ///< length of szDisplay in bytes of 16-bit characters
 };
 
 /// One line of the system's disk table, joined with the identity that the SMART report gives.
 struct WmicDiskRecord {
-    std::uint32_t nIndex = 0;
+    quint32 nIndex = 0;
     FixedText<128> szModel;
     FixedText<32> szInterface;
     FixedText<28> szStatus;
     FixedText<128> szSmartModel;
     FixedText<128> szSmartSerial;
     FixedText<128> szSmartFirmware;
-    std::uint32_t nDiskId = 0; ///< nIndex + 128
+    quint32 nDiskId = 0; ///< nIndex + 128
     WmicDiskRecord *pNext = nullptr;
 };
 
 /// One line of the system's volume table.
 struct LogicalDiskRecord {
     FixedText<5> szCaption; ///< "C:"
-    std::int64_t nFreeBytes = 0;
-    std::int64_t nSizeBytes = 0;
-    std::int32_t nDiskIndex = 0; ///< paired by position with the partition table's disk numbers
+    qint64 nFreeBytes = 0;
+    qint64 nSizeBytes = 0;
+    qint32 nDiskIndex = 0; ///< paired by position with the partition table's disk numbers
     FixedText<32> szFileSystem;
     FixedText<32> szBitLocker; ///< "YES", "NO" or empty
     LogicalDiskRecord *pNext = nullptr;

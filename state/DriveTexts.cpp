@@ -82,20 +82,14 @@ std::vector<Entry> entries(const RecordList<DiskNode> &disks)
     return list;
 }
 
-QString displayName(const DiskNode &node)
-{
-    if (node.nKind == RemovableDisk)
-        return QStringLiteral("Removable Drive");
-    if (!node.pDetails || !node.pDetails->pIdentity)
-        return QString();
-    const DiskIdentity &identity = *node.pDetails->pIdentity;
-    return identity.szModel.text() + QStringLiteral(" (") + identity.szSerial.text() + QLatin1Char(')');
-}
-
 void fillDisplayFields(DiskNode &node)
 {
-    node.szDisplay = displayName(node);
-    node.nDisplayBytes = static_cast<std::uint32_t>(node.szDisplay.size()) * 2;
+    const DiskIdentity *identity = node.pDetails ? node.pDetails->pIdentity.get() : nullptr;
+    if (node.nKind == RemovableDisk)
+        node.szDisplay = QStringLiteral("Removable Drive");
+    else if (identity)
+        node.szDisplay = QStringLiteral("%1 (%2)").arg(identity->szModel.text(), identity->szSerial.text());
+    node.nDisplayBytes = static_cast<quint32>(node.szDisplay.size()) * 2;
     if (node.pDetails)
         node.szSize.assign(node.pDetails->szCapacity);
 }

@@ -29,10 +29,8 @@ struct Entry {
 /// the drive's text ends in the disk's number, and the source has the text of the drive.
 std::vector<Entry> entries(const RecordList<DiskNode> &disks);
 
-/// The node's own display name: identity model and serial, or "Removable Drive".
-QString displayName(const DiskNode &node);
-
-/// Writes szSize, szDisplay and nDisplayBytes of a physical node.
+/// Writes szSize, szDisplay (identity model and serial, or "Removable Drive") and nDisplayBytes of a physical
+/// node.
 void fillDisplayFields(DiskNode &node);
 
 } // namespace drivetexts

@@ -9,7 +9,6 @@
 
 #include <array>
 #include <atomic>
-#include <cstdint>
 
 /// Number of languages that the program knows.
 constexpr int LanguageCount = 11;
@@ -20,17 +19,17 @@ constexpr int LanguageCount = 11;
 class GlobalApp : public QObject
 {
 public:
-    /// Goes with the process: a worker that is still reading at its end may be walking it.
+    /// Never freed: a worker may still walk it while the process ends.
     RecordList<DiskNode> &m_diskList = *new RecordList<DiskNode>;
     DiskNode *&m_pDiskListTail = m_diskList.tail;
     DiskNode *&m_pDiskListHead = m_diskList.head;
     DiskNode *m_pCurrentDisk = nullptr; ///< must be looked up again after a load
     DiskNode *m_pCloneDisk = nullptr;
-    std::uint8_t m_nFixedDisks = 0;
-    std::uint8_t m_nRemovableDisks = 0;
+    quint8 m_nFixedDisks = 0;
+    quint8 m_nRemovableDisks = 0;
     /// No disk is listed, as this process may not open those that are there.
     std::atomic<bool> m_bAccessDenied{false};
-    std::uint16_t m_nNextLogicalId = 0;
+    quint16 m_nNextLogicalId = 0;
     bool m_bWriteSiblingLanguage = false;
     QString m_strApplicationFolder;
     QString m_strUserName;
@@ -74,4 +73,4 @@ public:
 };
 
 /// The one object.
-extern GlobalApp g_App;
+inline GlobalApp g_App;

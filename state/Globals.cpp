@@ -3,7 +3,7 @@
 
 #include "state/GlobalApp.h"
 
-const WmicDiskRecord *findWmicDisk(std::uint32_t diskId)
+const WmicDiskRecord *findWmicDisk(quint32 diskId)
 {
     if (g_bListsLoading)
         return nullptr;

@@ -3,30 +3,29 @@
 
 #include "state/Globals.h"
 
-/// What runs, what is about to, and whose result shows. The flags of Globals.h are filled from here, but for
-/// g_bJobRunning, which the workers set and clear by themselves, too; nothing else combines them. Main
-/// thread.
+/// What runs, what was asked for, and whose result is on show. This class sets the flags of Globals.h, and no
+/// other code combines them. The workers, too, set and clear g_bJobRunning. Main thread.
 class JobState
 {
 public:
     enum class Job { Scan, Clone, SelfTest };
 
-    /// A job begins. A scan or a clone asks nobody to stop.
+    /// A job begins. For a scan or a clone this clears the stop request.
     void begin(Job job);
-    /// It is at rest: its thread has ended, and the disks are free. Nothing where it does not run.
+    /// The thread of the job has ended. Does nothing where the job does not run.
     void end(Job job);
     /// From begin() to end(). A scan or a clone that was stopped runs on until the drive has answered.
     bool runs(Job job) const;
-    /// A scan or a clone runs: its thread holds the disks, and takes the current one by itself.
+    /// A scan or a clone runs: its thread has disks open, and reads m_pCurrentDisk.
     bool holdsDisks() const { return m_bScanning || m_bCloning; }
 
-    /// A scan was asked for; begin() or dropPlan() come next.
+    /// A scan was asked for. begin() or dropPlan() follows.
     void planScan() { g_bScanStarted = true; }
     void dropPlan() { g_bScanStarted = false; }
 
-    /// The user stops the job: it counts as ended where nobody asks for its thread.
+    /// The user stops the job. g_bJobRunning is false from now on; the thread needs some time to end.
     void stop();
-    /// Its results are not wanted any more. The thread ends by itself.
+    /// Asks the job to stop, as nobody wants its results.
     void giveUp() { g_bAbortJob = true; }
     /// The user takes the stop back.
     void withdrawStop() { g_bAbortJob = false; }
@@ -39,16 +38,16 @@ public:
     bool resultOpen() const { return g_bScanResultOpen || g_bSelfTestResultOpen; }
     /// @}
 
-    /// A scan or a clone may start: the lists stand, and no thread holds the disks. A scan that was stopped
-    /// would take the stop request of the next job for its own.
+    /// A scan or a clone may start: no refresh rebuilds the lists, and no scan or clone runs. A scan that was
+    /// stopped, and has not ended yet, would go on when begin() clears the stop request.
     bool mayStart() const { return !g_bListsLoading && !holdsDisks(); }
-    /// Nothing would be cut off by the end of the program.
+    /// The program may end: no job runs.
     bool mayClose() const { return mayQuit() && !g_bSelfTestRunning; }
-    /// The same, but for a self-test: the drive goes on with that by itself.
+    /// The same, except that a self-test may run: the drive goes on with it by itself.
     bool mayQuit() const { return !g_bJobRunning && !holdsDisks(); }
-    /// The program may be taken up by settings or an update: nothing runs, and nothing is about to.
+    /// Settings or an update may open: no job runs, and no scan was asked for.
     bool isIdle() const { return mayClose() && !g_bScanStarted; }
-    /// Going to another screen leaves neither a clone nor a result.
+    /// The user may go to another screen: no clone runs, and no result is on show.
     bool mayLeave() const { return !resultOpen() && !m_bCloning; }
 
 private:

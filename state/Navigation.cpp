@@ -8,27 +8,17 @@ namespace navigation
 
 const std::array<Button, ScreenCount> buttons = {{
     {QT_TRANSLATE_NOOP("MainWindow", "   Disk Status"),
-     QT_TRANSLATE_NOOP("MainWindow", "View the health status of your hard disk")},
+     QT_TRANSLATE_NOOP("MainWindow", "View the health status of your hard disk"), false, false, false, false},
     {QT_TRANSLATE_NOOP("MainWindow", "   SMART Status"),
-     QT_TRANSLATE_NOOP("MainWindow", "Detailed SMART status of the hard disk")},
+     QT_TRANSLATE_NOOP("MainWindow", "Detailed SMART status of the hard disk"), false, false, true, true},
     {QT_TRANSLATE_NOOP("MainWindow", "   Disk Partition"),
-     QT_TRANSLATE_NOOP("MainWindow", "View description of partitions in your hard disk")},
+     QT_TRANSLATE_NOOP("MainWindow", "View description of partitions in your hard disk"), false, false, false,
+     false},
     {QT_TRANSLATE_NOOP("MainWindow", "   Scan Disk"),
-     QT_TRANSLATE_NOOP("MainWindow", "Scan your hard disk for bad sectors")},
+     QT_TRANSLATE_NOOP("MainWindow", "Scan your hard disk for bad sectors"), true, false, false, false},
     {QT_TRANSLATE_NOOP("MainWindow", "   Clone Disk"),
-     QT_TRANSLATE_NOOP("MainWindow", "Clone hard disk to avoid impending disk issues")},
+     QT_TRANSLATE_NOOP("MainWindow", "Clone hard disk to avoid impending disk issues"), false, true, false,
+     false},
 }};
-
-const ShellButtons &shellButtons(Screen screen)
-{
-    static const std::array<ShellButtons, ScreenCount> table = {{
-        {false, false, false, false},
-        {false, false, true, true},
-        {false, false, false, false},
-        {true, false, false, false},
-        {false, true, false, false},
-    }};
-    return table[static_cast<std::size_t>(screen)];
-}
 
 } // namespace navigation

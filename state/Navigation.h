@@ -13,18 +13,15 @@ constexpr int ScreenCount = 5;
 struct Button {
     const char *text;    ///< with three leading blanks; context MainWindow
     const char *toolTip; ///< context MainWindow
-};
-
-extern const std::array<Button, ScreenCount> buttons;
-
-/// Which job buttons of the window a screen shows.
-struct ShellButtons {
+    /// \name Which of the shell's job buttons the screen shows
+    /// @{
     bool scan;
     bool clone;
     bool report;
     bool screenshot;
+    /// @}
 };
 
-const ShellButtons &shellButtons(Screen screen);
+extern const std::array<Button, ScreenCount> buttons;
 
 } // namespace navigation

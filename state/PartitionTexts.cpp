@@ -14,8 +14,7 @@ namespace partitiontexts
 namespace
 {
 
-constexpr std::array<const char *, 4> Units = {" KB", " MB", " GB", " TB"};
-constexpr std::size_t UnitsOfTotal = 3;
+constexpr std::array<const char *, UnitsOfFree> Units = {" KB", " MB", " GB", " TB"};
 
 QString translated(const char *text)
 {
@@ -33,20 +32,16 @@ float oneDecimal(float amount)
     return amount;
 }
 
-QString sizeText(qint64 bytes, std::size_t unitCount)
+/// The free part as a whole percentage, cut off; 0 for a volume without a size.
+qint64 freePercent(qint64 freeBytes, qint64 sizeBytes)
 {
-    constexpr qint64 Kilo = 1024;
-    constexpr float PerKilo = 0.0009765625F;
-    constexpr int Digits = 6;
-    if (bytes <= Kilo)
-        return QString();
-    float amount = oneDecimal(static_cast<float>(bytes / Kilo));
-    std::size_t unit = 0;
-    while (amount > static_cast<float>(Kilo) && unit + 1 < unitCount) {
-        amount = oneDecimal(amount * PerKilo);
-        ++unit;
-    }
-    return QString::number(static_cast<double>(amount), 'g', Digits) + QLatin1String(Units[unit]);
+    constexpr qint64 Whole = 100;
+    if (sizeBytes <= 0 || freeBytes < 0)
+        return 0;
+    // Beyond this the product does not fit, and the hundredth part of the size is exact enough.
+    if (freeBytes > std::numeric_limits<qint64>::max() / Whole)
+        return freeBytes / std::max<qint64>(1, sizeBytes / Whole);
+    return freeBytes * Whole / sizeBytes;
 }
 
 } // namespace
@@ -96,7 +91,7 @@ QString healthWord(const QVector<int> &disks, const RecordList<WmicDiskRecord> &
     const auto isSound = [&table](int disk) {
         QString status;
         for (const WmicDiskRecord &record : table) {
-            if (record.nIndex == static_cast<std::uint32_t>(disk))
+            if (record.nIndex == static_cast<quint32>(disk))
                 status = record.szStatus.text();
         }
         return status == QLatin1String("OK");
@@ -106,38 +101,34 @@ QString healthWord(const QVector<int> &disks, const RecordList<WmicDiskRecord> &
                  : translated(QT_TRANSLATE_NOOP("MainWindow", "Not Healthy"));
 }
 
-qint64 freePercent(qint64 freeBytes, qint64 sizeBytes)
-{
-    constexpr qint64 Whole = 100;
-    if (sizeBytes <= 0 || freeBytes < 0)
-        return 0;
-    // Beyond this the product does not fit, and the hundredth part of the size is exact enough.
-    if (freeBytes > std::numeric_limits<qint64>::max() / Whole)
-        return freeBytes / std::max<qint64>(1, sizeBytes / Whole);
-    return freeBytes * Whole / sizeBytes;
-}
-
 QString percentText(const LogicalDiskRecord &volume)
 {
     return QString::number(freePercent(volume.nFreeBytes, volume.nSizeBytes)) +
            translated(QT_TRANSLATE_NOOP("MainWindow", "% Free"));
 }
 
-QString freeText(qint64 bytes)
+QString sizeText(qint64 bytes, int unitCount)
 {
-    return sizeText(bytes, Units.size());
-}
-
-QString totalText(qint64 bytes)
-{
-    return sizeText(bytes, UnitsOfTotal);
+    constexpr qint64 Kilo = 1024;
+    constexpr float PerKilo = 0.0009765625F;
+    constexpr int Digits = 6;
+    if (bytes <= Kilo)
+        return QString();
+    float amount = oneDecimal(static_cast<float>(bytes / Kilo));
+    int unit = 0;
+    while (amount > static_cast<float>(Kilo) && unit + 1 < unitCount) {
+        amount = oneDecimal(amount * PerKilo);
+        ++unit;
+    }
+    return QString::number(static_cast<double>(amount), 'g', Digits) +
+           QLatin1String(Units[static_cast<std::size_t>(unit)]);
 }
 
 QString spaceText(const LogicalDiskRecord &volume, bool korean)
 {
-    const QString text = freeText(volume.nFreeBytes) +
+    const QString text = sizeText(volume.nFreeBytes, UnitsOfFree) +
                          translated(QT_TRANSLATE_NOOP("MainWindow", " Free of ")) +
-                         totalText(volume.nSizeBytes);
+                         sizeText(volume.nSizeBytes, UnitsOfTotal);
     return korean ? text + translated(QT_TRANSLATE_NOOP("MainWindow", " Available")) : text;
 }
 

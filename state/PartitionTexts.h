@@ -30,17 +30,15 @@ QVector<int> disksOfVolume(const QString &letter, const RecordList<DiskNode> &no
 /// last one counts; without any it is "Not Healthy".
 QString healthWord(const QVector<int> &disks, const RecordList<WmicDiskRecord> &table);
 
-/// The free part as a whole percentage, cut off; 0 for a volume without a size.
-qint64 freePercent(qint64 freeBytes, qint64 sizeBytes);
-
 /// "38% Free".
 QString percentText(const LogicalDiskRecord &volume);
 
-/// The size in bytes with one decimal, in KB to TB. Empty up to 1024 bytes.
-QString freeText(qint64 bytes);
+/// Units of the free part of a volume, KB to TB, and of the whole one, KB to GB.
+constexpr int UnitsOfFree = 4;
+constexpr int UnitsOfTotal = 3;
 
-/// As freeText(), but not beyond GB.
-QString totalText(qint64 bytes);
+/// A size in bytes with one decimal, in one of so many units. Empty up to 1024 bytes.
+QString sizeText(qint64 bytes, int unitCount);
 
 /// "181.4 GB Free of 476.3 GB"; Korean puts " Available" behind it.
 QString spaceText(const LogicalDiskRecord &volume, bool korean);

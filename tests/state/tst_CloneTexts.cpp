@@ -13,7 +13,7 @@ namespace
 DiskNode *addNode(int id, DiskKind kind, const QString &size = QString())
 {
     DiskNode &node = g_App.m_diskList.append();
-    node.nId = static_cast<std::uint16_t>(id);
+    node.nId = static_cast<quint16>(id);
     node.nKind = kind;
     node.szSize.assign(size);
     return &node;
@@ -22,7 +22,7 @@ DiskNode *addNode(int id, DiskKind kind, const QString &size = QString())
 WmicDiskRecord *addRecord(int id, const QString &model, const QString &smartModel, const QString &serial)
 {
     WmicDiskRecord &record = g_wmicDisks.append();
-    record.nDiskId = static_cast<std::uint32_t>(id);
+    record.nDiskId = static_cast<quint32>(id);
     record.szModel.assign(model);
     record.szSmartModel.assign(smartModel);
     record.szSmartSerial.assign(serial);

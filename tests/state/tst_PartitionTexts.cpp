@@ -163,8 +163,8 @@ void tst_PartitionTexts::sizes_data()
 void tst_PartitionTexts::sizes()
 {
     QFETCH(qint64, bytes);
-    QTEST(partitiontexts::freeText(bytes), "freeText");
-    QTEST(partitiontexts::totalText(bytes), "totalText");
+    QTEST(partitiontexts::sizeText(bytes, partitiontexts::UnitsOfFree), "freeText");
+    QTEST(partitiontexts::sizeText(bytes, partitiontexts::UnitsOfTotal), "totalText");
 }
 
 void tst_PartitionTexts::space()

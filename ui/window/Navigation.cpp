@@ -97,7 +97,7 @@ void MainWindow::pressNavigation(Screen screen)
         return;
     }
     selectButton(screen);
-    const navigation::ShellButtons &shown = navigation::shellButtons(screen);
+    const navigation::Button &shown = navigation::buttons[static_cast<std::size_t>(screen)];
     if (!shown.scan)
         ScanButton->hide();
     if (!shown.clone)
@@ -127,7 +127,7 @@ void MainWindow::showScreen(Screen screen)
 {
     for (int i = 0; i < navigation::ScreenCount; ++i)
         m_apScreens[static_cast<std::size_t>(i)]->setVisible(i == screen);
-    const navigation::ShellButtons &shown = navigation::shellButtons(screen);
+    const navigation::Button &shown = navigation::buttons[static_cast<std::size_t>(screen)];
     ScanButton->setVisible(shown.scan);
     const bool cloning = g_Jobs.runs(Job::Clone);
     // OnShowCloneDisk() can run while Scan Disk is the screen on show.
