@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "inventory/CommandRunner.h"
-#include "smart/Rating.h"
-#include "smart/ReportParser.h"
+#include "smart/DiskFigures.h"
 
 #include <QByteArray>
 #include <QCoreApplication>
@@ -68,11 +67,10 @@ void benchReport(const char *what, const QByteArray &bytes, int runs)
             qFatal("cannot write the report");
     };
     print(what, measure(runs, write, [&] {
-              DetectReportKind(path);
-              ParseSmartReport(path);
-              RateHealth();
-              RatePerformance();
-              UpdateLifeFigures();
+              takeReportIn(path);
+              rateHealth();
+              ratePerformance();
+              updateLifeFigures();
           }));
 }
 

@@ -136,7 +136,7 @@ QString runVersions(const QByteArray &input, Mutator &)
 QString runSelfTests(const QByteArray &input, Mutator &mutator)
 {
     QTextStream log(input);
-    takePreviousTest(log);
+    newestTest(log);
     QTextStream capabilities(input);
     selftest::readCapabilities(capabilities, SelfTestKind(mutator.below(2)));
     QTextStream status(input);

@@ -1,11 +1,36 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-/// What is known of the disk that is chosen, in the globals of this folder and of state/Globals.h:
-/// attribute lists, ratings, life, last self-test, title of the graph. Main thread only.
+#include "smart/PreviousTest.h"
+#include "smart/Rating.h"
+#include "smart/ToolInvocation.h"
+
+/// Puts what the engines give into the globals: of SmartGlobals.h, and the identity, the texts of the
+/// ratings, g_bSmartAvailable and g_App.m_bNVMe. Main thread only.
 
 constexpr int NoDisk = -1;
 
-/// Makes `disk` (its physical number, or NoDisk) the one that all this is of. Where that was another one
+/// Makes `disk` (its physical number, or NoDisk) the one that the globals are of. Where that was another one
 /// everything is forgotten but the three identity texts, g_bReportPending is set, and true comes back.
 bool takeUpDisk(int disk);
+
+/// Where the report lies that SMARTThread read, and its device.
+void publish(const LoadedReport &loaded);
+
+/// Reads the report at `path` into the table of its kind and removes the file. A file that does not open
+/// changes nothing, and a name that the report does not tell stays.
+void takeReportIn(const QString &path);
+
+/// Runs the full report of a disk and takes it in. Blocks.
+void RefreshTemperatureReport(int diskIndex);
+
+/// Rates the disk whose report was taken in last. One whose SMART is not available counts as 100.
+void rateHealth();
+void ratePerformance();
+
+/// The figures in the globals, and taking all rows of the ATA table into them.
+LifeFigures storedLifeFigures();
+void updateLifeFigures();
+
+/// What the log does not tell stays.
+void publish(const PreviousTest &test);

@@ -8,9 +8,6 @@ class QTextStream;
 /// What a drive says of itself.
 enum class DriveVerdict { NotTold, Passed, Failed };
 
-/// Of the drive whose report was read last. Main thread only.
-inline DriveVerdict g_driveVerdict = DriveVerdict::NotTold;
-
 /// The verdict in a report's own line, of ATA and NVMe or of SCSI, where only heat is no failure. NotTold
 /// where the line is missing or says neither.
 DriveVerdict readVerdictLine(QTextStream &stream);

@@ -46,24 +46,26 @@ const char *shownFor(const QString &line, const Phrase (&phrases)[N])
 
 } // namespace
 
-void takePreviousTest(QTextStream &log)
+PreviousTest newestTest(QTextStream &log)
 {
+    PreviousTest test;
     while (!log.atEnd()) {
         const QString line = log.readLine();
         const char *type = shownFor(line, Types);
         if (!type)
             continue;
-        g_strLastTestType = QCoreApplication::translate("MainWindow", type);
+        test.type = QCoreApplication::translate("MainWindow", type);
         if (!log.atEnd())
-            g_strLastTestResult = QCoreApplication::translate("MainWindow", shownFor(line, Results));
-        return;
+            test.result = QCoreApplication::translate("MainWindow", shownFor(line, Results));
+        break;
     }
+    return test;
 }
 
-void ReadPreviousTest(const QString &device)
+PreviousTest ReadPreviousTest(const QString &device)
 {
-    const ToolPurpose purpose = ToolPurpose::SelfTestLog;
-    const QString path = runner::freshTempFile(toolFileName(purpose));
-    RunSilent(commandLine(purpose, device, path));
-    runner::readOutput(path, takePreviousTest);
+    PreviousTest test;
+    runner::readOutput(runTool(ToolPurpose::SelfTestLog, device),
+                       [&test](QTextStream &log) { test = newestTest(log); });
+    return test;
 }

@@ -5,14 +5,14 @@
 
 class QTextStream;
 
-/// The newest self-test of a disk, for the report. Translated. A log that names no test leaves them. Main
-/// thread only.
-inline QString g_strLastTestType;
-inline QString g_strLastTestResult;
+/// The newest self-test of a disk. Translated; null where the log does not tell.
+struct PreviousTest {
+    QString type;
+    QString result; ///< null also of a test on the very last line
+};
 
-/// Reads the text of a self-test log up to its newest test. A test on the very last line leaves the result
-/// as it was.
-void takePreviousTest(QTextStream &log);
+/// Reads the text of a self-test log up to its newest test.
+PreviousTest newestTest(QTextStream &log);
 
-/// Has the report tool tell the log of the disk of that device string, and takes it. Blocks.
-void ReadPreviousTest(const QString &device);
+/// Has the report tool tell the log of the disk of that device string, and reads it. Blocks.
+PreviousTest ReadPreviousTest(const QString &device);

@@ -3,9 +3,6 @@
 
 #include "smart/AttributeKey.h"
 #include "smart/HealthCatalogue.h"
-#include "smart/SmartGlobals.h"
-#include "state/GlobalApp.h"
-#include "state/Globals.h"
 
 #include <QCoreApplication>
 
@@ -16,8 +13,7 @@
 namespace
 {
 
-constexpr int FullPercent = 100;
-constexpr std::uint32_t ExpectedLifeDays = 5 * 365;
+constexpr quint32 ExpectedLifeDays = 5 * 365;
 
 /// 100 less the damage. A raw value is of 32 bits; differences and products are taken in 64, as a huge count
 /// must not wrap to a good rating.
@@ -145,13 +141,8 @@ std::optional<float> startOfHealth(const SmartAttributeList &rows)
     if (const SmartAttributeRecord *blocks = firstNamed(rows, healthcatalogue::BlockRows))
         return byReallocatedSectors(0.0F, rawOf(*blocks));
     if (const SmartAttributeRecord *life = firstNamed(rows, healthcatalogue::LifeRows))
-        return static_cast<float>(qMin<std::uint32_t>(life->Value, FullPercent));
+        return static_cast<float>(qMin<quint32>(life->Value, FullPercent));
     return std::nullopt;
-}
-
-QString percentText(int percent)
-{
-    return QString::number(percent) + QLatin1Char('%');
 }
 
 } // namespace
@@ -192,23 +183,6 @@ int performanceOf(const QString &ataVersion)
     return containsAny(ataVersion, {"ATA2", "ATA1"}) ? 50 : 100;
 }
 
-void RateHealth()
-{
-    std::optional<int> health = FullPercent;
-    if (g_bSmartAvailable)
-        health = g_App.m_bNVMe ? healthOfNvme(g_nvmeTable.rows) : healthOfAta(g_smartTable.rows);
-    g_bHealthKnown = health.has_value();
-    g_nHealthPercent = health.value_or(FullPercent);
-    g_strHealthText = percentText(g_nHealthPercent);
-}
-
-void RatePerformance()
-{
-    const bool byVersion = !g_App.m_bNVMe && g_bSmartAvailable;
-    g_nPerformancePercent = byVersion ? performanceOf(g_strAtaVersion) : 100;
-    g_strPerformanceText = percentText(g_nPerformancePercent);
-}
-
 TilePicture healthPicture(std::optional<int> percent, int scalePercent)
 {
     if (!percent)
@@ -240,11 +214,11 @@ OverallResult overallResult(bool available, int temperature, DriveVerdict verdic
     return available ? OverallResult::Passed : OverallResult::Failed;
 }
 
-std::uint32_t diskLifeDays(int powerOnDays, int healthPercent)
+quint32 diskLifeDays(int powerOnDays, int healthPercent)
 {
     const float factor = static_cast<float>(healthPercent) / 100.0F;
-    const float rest = static_cast<float>(ExpectedLifeDays - static_cast<std::uint32_t>(powerOnDays));
-    return truncated<std::uint32_t>(static_cast<double>(rest * factor * factor));
+    const float rest = static_cast<float>(ExpectedLifeDays - static_cast<quint32>(powerOnDays));
+    return truncated<quint32>(static_cast<double>(rest * factor * factor));
 }
 
 void takeLifeRow(LifeFigures &figures, const SmartAttributeRecord &row, int healthPercent)
@@ -259,22 +233,6 @@ void takeLifeRow(LifeFigures &figures, const SmartAttributeRecord &row, int heal
     }
     if (key.contains(QLatin1String("Start Stop Count")))
         figures.nStartStopCount = raw.toInt();
-}
-
-LifeFigures storedLifeFigures()
-{
-    return {g_nDiskLifeDays, g_nPowerOnDays, g_nPowerOnRestHours, g_nStartStopCount, g_bHealthKnown};
-}
-
-void UpdateLifeFigures()
-{
-    LifeFigures figures = storedLifeFigures();
-    for (const SmartAttributeRecord &row : g_smartTable.rows)
-        takeLifeRow(figures, row, g_nHealthPercent);
-    g_nDiskLifeDays = figures.nDiskLifeDays;
-    g_nPowerOnDays = figures.nPowerOnDays;
-    g_nPowerOnRestHours = figures.nPowerOnRestHours;
-    g_nStartStopCount = figures.nStartStopCount;
 }
 
 LifeKind lifeKind(bool nvme, bool removable, bool hasRows)

@@ -2,10 +2,7 @@
 #include "smart/ReportParser.h"
 
 #include "inventory/CommandRunner.h"
-#include "smart/SmartGlobals.h"
 #include "smart/TextCuts.h"
-#include "state/GlobalApp.h"
-#include "state/Globals.h"
 
 #include <QCoreApplication>
 #include <QTextStream>
@@ -52,11 +49,27 @@ void applyRules(const QVector<LineRule<Drive>> &rules, Drive &seen, const QStrin
     }
 }
 
+template<std::size_t Width>
+void put(FixedText<Width> &field, const QString &value)
+{
+    field.assign(value);
+}
+
+void put(std::optional<QString> &field, const QString &value)
+{
+    field = value;
+}
+
+QString valueOf(const QString &line)
+{
+    return cuts::lastPart(line, QStringLiteral(":"));
+}
+
 /// The value behind the line's last colon, into a field.
 template<auto Field, typename Drive>
 void takeValue(Drive &seen, const QString &line)
 {
-    (seen.*Field).assign(cuts::lastPart(line, QStringLiteral(":")));
+    put(seen.*Field, valueOf(line));
 }
 
 /// The amount in brackets, into a field.
@@ -80,19 +93,19 @@ void takeNothing(Drive &, const QString &)
 
 void takeSectorSize(SmartIdentity &seen, const QString &line)
 {
-    const QString sizes = cuts::lastPart(line, QStringLiteral(":"));
+    const QString sizes = valueOf(line);
     seen.SectorSize.assign(
         cuts::firstParts(sizes, QLatin1Char(','), 1).value(0).remove(QLatin1String("logical")));
 }
 
 void takeSataVersion(SmartIdentity &seen, const QString &line)
 {
-    seen.SataVersion.assign(cuts::lastPart(line, QStringLiteral(":")).remove(QLatin1Char(')')));
+    seen.SataVersion.assign(valueOf(line).remove(QLatin1Char(')')));
 }
 
 void takeSelfTestStatus(SmartIdentity &seen, const QString &line)
 {
-    if (cuts::lastPart(line, QStringLiteral(":")).contains(QLatin1String("completed")))
+    if (valueOf(line).contains(QLatin1String("completed")))
         seen.SelfTestStatus.assign(QStringLiteral("Successfully Completed"));
 }
 
@@ -105,7 +118,7 @@ void takeOfflineTime(SmartIdentity &seen, const QString &line)
 /// The three lines look alike and go by their order. Each field strips literals of its own.
 void takePollTime(SmartIdentity &seen, const QString &line)
 {
-    const QString value = cuts::lastPart(line, QStringLiteral(":"));
+    const QString value = valueOf(line);
     if (seen.ShortPollTime.isEmpty())
         seen.ShortPollTime.assign(cuts::without(value, {"(   ", "(  ", "( ", "(", ")", "."}));
     else if (seen.ExtendedPollTime.isEmpty())
@@ -160,9 +173,7 @@ const QVector<LineRule<NvmeIdentity>> &nvmeRules()
         {Rule::Anywhere, {"Size/Capacity:"}, takeBracketed<&R::Capacity>},
         {Rule::Anywhere,
          {"Formatted LBA Size:"},
-         [](R &seen, const QString &line) {
-             seen.LbaSize.assign(cuts::lastPart(line, QStringLiteral(":")) + QLatin1String(" bytes"));
-         }},
+         [](R &seen, const QString &line) { seen.LbaSize.assign(valueOf(line) + QLatin1String(" bytes")); }},
         {Rule::AtStart, {"Local Time is:"}, takeLocalTime<R>},
         {Rule::Anywhere, {"Maximum Data Transfer Size:"}, takeValue<&R::MaxTransferSize>},
     };
@@ -239,27 +250,6 @@ Table readTable(QTextStream &stream, const QVector<LineRule<Drive>> &rules, cons
     return table;
 }
 
-QString valueOf(const QString &line)
-{
-    return cuts::lastPart(line, QStringLiteral(":"));
-}
-
-/// The three lines that both readings of the head know, in the order in which they are looked for. The member
-/// that was set, null where the line is another one.
-std::optional<QString> *takeIdentityLine(Identity &identity, const QString &line)
-{
-    std::optional<QString> *target = nullptr;
-    if (line.contains(QLatin1String("Device Model:")) || line.contains(QLatin1String("Model Number:")))
-        target = &identity.model;
-    else if (line.contains(QLatin1String("Serial Number:")))
-        target = &identity.serial;
-    else if (line.contains(QLatin1String("Firmware Version:")))
-        target = &identity.firmware;
-    if (target)
-        *target = valueOf(line);
-    return target;
-}
-
 } // namespace
 
 Markers translatedMarkers()
@@ -284,33 +274,36 @@ std::optional<bool> detectKind(QTextStream &stream)
     return nvme;
 }
 
-Identity readIdentity(QTextStream &stream)
+/// Reads on until `last` is known, at most to the attribute section.
+Identity readIdentity(QTextStream &stream, std::optional<QString> Identity::*last)
 {
+    using R = Identity;
+    using Rule = LineRule<R>;
+    static const QVector<Rule> rules = {
+        {Rule::Anywhere, {"Device Model:", "Model Number:"}, takeValue<&R::model>},
+        {Rule::Anywhere, {"Serial Number:"}, takeValue<&R::serial>},
+        {Rule::Anywhere, {"Firmware Version:"}, takeValue<&R::firmware>},
+        // The SATA line would do too, but it comes behind this one.
+        {Rule::Anywhere, {"ATA Version is:"}, takeValue<&R::ataVersion>},
+    };
     Identity identity;
-    while (!stream.atEnd()) {
+    while (!(identity.*last) && !stream.atEnd()) {
         const QString line = stream.readLine();
         if (line.contains(AtaSection))
             break;
-        if (takeIdentityLine(identity, line))
-            continue;
-        // The SATA line would do too, but it comes behind this one.
-        if (line.contains(QLatin1String("ATA Version is:"))) {
-            identity.ataVersion = valueOf(line);
-            break;
-        }
+        applyRules(rules, identity, line);
     }
     return identity;
 }
 
+Identity readIdentity(QTextStream &stream)
+{
+    return readIdentity(stream, &Identity::ataVersion);
+}
+
 Identity readProbedIdentity(QTextStream &stream)
 {
-    Identity identity;
-    while (!stream.atEnd()) {
-        const QString line = stream.readLine();
-        if (line.contains(AtaSection) || takeIdentityLine(identity, line) == &identity.firmware)
-            break;
-    }
-    return identity;
+    return readIdentity(stream, &Identity::firmware);
 }
 
 SmartTable readAtaTable(QTextStream &stream, const Markers &markers)
@@ -344,31 +337,19 @@ Report read(QTextStream &stream, bool nvme)
     return report;
 }
 
-void publish(Report &&report)
-{
-    g_strModelName = report.identity.model.value_or(g_strModelName);
-    g_strSerialNumber = report.identity.serial.value_or(g_strSerialNumber);
-    g_strFirmware = report.identity.firmware.value_or(g_strFirmware);
-    g_strAtaVersion = report.identity.ataVersion.value_or(g_strAtaVersion);
-    g_driveVerdict = report.verdict;
-    g_bSmartAvailable = report.nvme ? report.log.passed : report.ata.passed;
-    if (report.nvme)
-        g_nvmeTable = std::move(report.log);
-    else
-        g_smartTable = std::move(report.ata);
-}
-
 } // namespace report
 
-void DetectReportKind(const QString &path)
+std::optional<bool> DetectReportKind(const QString &path)
 {
+    std::optional<bool> nvme;
     runner::readOutput(
-        path, [](QTextStream &stream) { g_App.m_bNVMe = report::detectKind(stream).value_or(g_App.m_bNVMe); },
-        runner::After::Keep);
+        path, [&nvme](QTextStream &stream) { nvme = report::detectKind(stream); }, runner::After::Keep);
+    return nvme;
 }
 
-void ParseSmartReport(const QString &path)
+std::optional<report::Report> ParseSmartReport(const QString &path, bool nvme)
 {
-    runner::readOutput(path,
-                       [](QTextStream &stream) { report::publish(report::read(stream, g_App.m_bNVMe)); });
+    std::optional<report::Report> report;
+    runner::readOutput(path, [&](QTextStream &stream) { report = report::read(stream, nvme); });
+    return report;
 }

@@ -11,14 +11,6 @@
 
 class QTextStream;
 
-/// Looks which kind of drive the report at `path` is of and sets g_App.m_bNVMe; a report without either
-/// section, or a file that does not open, leaves it. Main thread only.
-void DetectReportKind(const QString &path);
-
-/// Reads the report at `path` by the kind that DetectReportKind() found, publishes it and removes the file. A
-/// file that does not open changes nothing. Main thread only.
-void ParseSmartReport(const QString &path);
-
 /// The steps of reading a report: text in, records out. Linear in the text's size; nothing in a text is an
 /// error.
 namespace report
@@ -65,9 +57,10 @@ struct Report {
 };
 Report read(QTextStream &stream, bool nvme);
 
-/// Makes it the report that was read last: its table becomes that of its kind, its names, as far as it tells
-/// them, g_strModelName, g_strSerialNumber, g_strFirmware and g_strAtaVersion, the rest g_bSmartAvailable and
-/// g_driveVerdict. Main thread only.
-void publish(Report &&report);
-
 } // namespace report
+
+/// Whether the report at `path` is of an NVMe drive. Nothing where it has neither section, or does not open.
+std::optional<bool> DetectReportKind(const QString &path);
+
+/// Reads the report at `path` as one of that kind, and removes the file. Nothing where it does not open.
+std::optional<report::Report> ParseSmartReport(const QString &path, bool nvme);

@@ -20,12 +20,9 @@ std::size_t current()
     return static_cast<std::size_t>(currentSelfTest());
 }
 
-/// Runs the tool for a purpose of the self-test's disk; its fresh file's path comes back.
 QString runFor(ToolPurpose purpose)
 {
-    const QString path = runner::freshTempFile(toolFileName(purpose));
-    RunSilent(commandLine(purpose, storedDevice(purpose), path));
-    return path;
+    return runTool(purpose, storedDevice(purpose));
 }
 
 } // namespace

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "smart/SmartRecords.h"
+#include "smart/DriveVerdict.h"
 
 #include <QString>
 
-/// What is known of the disk whose report was read last. Main thread only.
+/// What is known of the disk whose report was read last. DiskFigures.h writes it. Main thread only.
 
 inline SmartTable g_smartTable;
 inline SmartAttributeRecord *&g_pSmartAttributeHead = g_smartTable.rows.head;
@@ -19,6 +19,20 @@ inline NvmeAttributeRecord *&g_pNvmeAttributeTail = g_nvmeTable.rows.tail;
 inline bool g_bReportPending = false;
 inline QString g_strGraphTitle; ///< of the graph drawn last, empty before the first; offered as a file name
 inline QString g_strAtaVersion; ///< stays as it was where a later report of the disk names no version
+inline DriveVerdict g_driveVerdict = DriveVerdict::NotTold;
+
+inline int g_nHealthPercent = 0;
+inline bool g_bHealthKnown = true; ///< false: the report holds nothing to rate, and the percentage is 100
+inline int g_nPerformancePercent = 0;
+/// The four life figures stay where a later report of the same disk has no such row.
+inline quint32 g_nDiskLifeDays = 0;
+inline int g_nPowerOnDays = 0;
+inline int g_nPowerOnRestHours = 0;
+inline int g_nStartStopCount = 0;
+
+/// The newest self-test, for the report. Translated. A log that names no test leaves them.
+inline QString g_strLastTestType;
+inline QString g_strLastTestResult;
 
 inline QString g_strSmartReportPath; ///< where the report lies that SMARTThread read last
 inline QString g_strSmartDevice;     ///< its device, USB prefix included

@@ -45,14 +45,6 @@ QString toolProgram(ToolPurpose purpose)
     return g_App.m_bUse64BitTool ? QStringLiteral("smartctl64Bit.exe") : QStringLiteral("smartctl.exe");
 }
 
-/// Runs the full report into a fresh file, whose path comes back.
-QString runFullReport(const QString &device)
-{
-    const QString path = runner::freshTempFile(toolFileName(ToolPurpose::FullReport));
-    RunSilent(commandLine(ToolPurpose::FullReport, device, path));
-    return path;
-}
-
 } // namespace
 
 QString deviceName(int diskIndex)
@@ -66,12 +58,6 @@ QString deviceString(int diskIndex, const QString &interfaceText)
 {
     const QString name = deviceName(diskIndex);
     return interfaceText == QLatin1String("USB") ? QStringLiteral(" -d sat,12 ") + name : name;
-}
-
-QString interfaceOfDisk(int diskIndex)
-{
-    const WmicDiskRecord *record = findWmicDisk(static_cast<std::uint32_t>(diskIndex + PhysicalDriveBase));
-    return record ? record->szInterface.text() : QString();
 }
 
 QString selfTestDevice(int diskIndex, int comboIndex)
@@ -107,28 +93,23 @@ QString commandLine(ToolPurpose purpose, const QString &device, const QString &f
            QLatin1String(" >> ") + file;
 }
 
+QString runTool(ToolPurpose purpose, const QString &device)
+{
+    const QString path = runner::freshTempFile(toolFileName(purpose));
+    RunSilent(commandLine(purpose, device, path));
+    return path;
+}
+
 LoadedReport LoadSmartReport(int diskIndex)
 {
-    const QString device = deviceString(diskIndex, interfaceOfDisk(diskIndex));
-    return {diskIndex, device, runFullReport(device)};
-}
-
-void publish(const LoadedReport &loaded)
-{
-    g_strSmartReportPath = loaded.path;
-    g_strSmartDevice = loaded.device;
-}
-
-void RefreshTemperatureReport(int diskIndex)
-{
-    const QString path = LoadSmartReport(diskIndex).path;
-    DetectReportKind(path);
-    ParseSmartReport(path);
+    const WmicDiskRecord *record = findWmicDisk(static_cast<quint32>(diskIndex + PhysicalDriveBase));
+    const QString device = deviceString(diskIndex, record ? record->szInterface.text() : QString());
+    return {diskIndex, device, runTool(ToolPurpose::FullReport, device)};
 }
 
 ProbedIdentity ProbeDiskIdentity(int diskIndex, const QString &interfaceText)
 {
-    const QString path = runFullReport(deviceString(diskIndex, interfaceText));
+    const QString path = runTool(ToolPurpose::FullReport, deviceString(diskIndex, interfaceText));
     report::Identity identity;
     runner::readOutput(path,
                        [&identity](QTextStream &stream) { identity = report::readProbedIdentity(stream); });

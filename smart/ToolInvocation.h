@@ -25,9 +25,6 @@ QString deviceName(int diskIndex);
 /// The device name, behind " -d sat,12 " where the interface is exactly "USB".
 QString deviceString(int diskIndex, const QString &interfaceText);
 
-/// The interface of the disk in the system's disk table; empty if it is not there.
-QString interfaceOfDisk(int diskIndex);
-
 /// The device name for self-test commands. The row of "/dev/sdk" goes by the combo index, all others by the
 /// disk index; the first row that fits decides.
 QString selfTestDevice(int diskIndex, int comboIndex);
@@ -43,6 +40,9 @@ QString storedDevice(ToolPurpose purpose);
 /// started runs full reports with the tool's copy in the temp folder, as it has no useful current directory.
 QString commandLine(ToolPurpose purpose, const QString &device, const QString &file);
 
+/// Runs the tool for a purpose into its fresh temp file, whose path comes back. Blocks.
+QString runTool(ToolPurpose purpose, const QString &device);
+
 /// A report that waits to be taken in.
 struct LoadedReport {
     int disk = 0; ///< its physical number
@@ -52,12 +52,6 @@ struct LoadedReport {
 
 /// Runs the full report of a disk. Blocks; any thread, one at a time.
 LoadedReport LoadSmartReport(int diskIndex);
-
-/// Makes it that of g_strSmartReportPath and g_strSmartDevice. Main thread only.
-void publish(const LoadedReport &loaded);
-
-/// Runs the full report of a disk and takes it in. Blocks; main thread only.
-void RefreshTemperatureReport(int diskIndex);
 
 /// Runs the full report of a disk of that interface. What it does not name is empty. Blocks; device-load
 /// threads only.

@@ -2,8 +2,6 @@
 #include "reports/ReportPage.h"
 
 #include "reports/SmartReport.h"
-#include "smart/PreviousTest.h"
-#include "smart/ReportParser.h"
 #include "smart/Temperature.h"
 #include "tests/reports/PageRecorder.h"
 #include "tests/smart/SampleReports.h"
@@ -103,11 +101,10 @@ void tst_ReportPage::init()
 void tst_ReportPage::take(const char *file)
 {
     const QString path = samples::stage(samples::bytesOf(QLatin1String(file)));
-    DetectReportKind(path);
-    ParseSmartReport(path);
+    takeReportIn(path);
     g_strTemperatureText = loadTemperatureText(GetDiskTemperature(), QStringLiteral("C"));
-    RatePerformance();
-    RateHealth();
+    ratePerformance();
+    rateHealth();
 }
 
 void tst_ReportPage::compareFields(const SmartReport &report, const QVector<Line> &lines, int valueX)

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "inventory/CommandRunner.h"
-#include "smart/Rating.h"
+#include "smart/DiskFigures.h"
 #include "smart/SmartGlobals.h"
 #include "state/GlobalApp.h"
 #include "state/Globals.h"

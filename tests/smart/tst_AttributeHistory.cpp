@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "smart/AttributeHistory.h"
 #include "smart/AttributeRows.h"
-#include "smart/ReportParser.h"
 #include "tests/smart/SampleReports.h"
 #include "tests/support/HistoryDays.h"
 
@@ -348,8 +347,7 @@ void TestAttributeHistory::demoEndsWithItsReports()
     QFile in(report);
     QVERIFY(in.open(QIODevice::ReadOnly));
     const QString path = samples::stage(in.readAll());
-    DetectReportKind(path);
-    ParseSmartReport(path);
+    takeReportIn(path);
     const auto rows = g_App.m_bNVMe ? nvmeRows(g_nvmeTable.rows) : ataRows(g_smartTable.rows);
     QVERIFY(rows.size() > 15);
     const QString demo = QStringLiteral(HALVANE_SOURCE_DIR "/demo/history/") + g_strSerialNumber;

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "smart/AttributeRows.h"
 
-#include "smart/ReportParser.h"
 #include "tests/smart/SampleReports.h"
 #include "tests/support/FakePlatform.h"
 
@@ -16,8 +15,7 @@ namespace
 std::vector<AttributeRow> rowsOf(const QString &file)
 {
     const QString path = samples::stage(samples::bytesOf(file));
-    DetectReportKind(path);
-    ParseSmartReport(path);
+    takeReportIn(path);
     return g_App.m_bNVMe ? nvmeRows(g_nvmeTable.rows) : ataRows(g_smartTable.rows);
 }
 

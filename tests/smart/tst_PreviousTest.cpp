@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "smart/PreviousTest.h"
+#include "smart/DiskFigures.h"
 
 #include "tests/smart/SampleReports.h"
 #include "tests/support/FakePlatform.h"
@@ -69,7 +69,7 @@ void tst_PreviousTest::logs()
 {
     QFETCH(QByteArray, log);
     m_fake->onCommand = [log](const QString &line) { return FakePlatform::answer(line, log); };
-    ReadPreviousTest(QStringLiteral(" -d sat,12 /dev/sdc"));
+    publish(ReadPreviousTest(QStringLiteral(" -d sat,12 /dev/sdc")));
     QTEST(g_strLastTestType, "type");
     QTEST(g_strLastTestResult, "result");
     const QString path = tempFile(QStringLiteral("PreviousResult.txt"));
@@ -82,7 +82,7 @@ void tst_PreviousTest::logs()
 void tst_PreviousTest::aLogThatWasNotWritten()
 {
     m_fake->onCommand = [](const QString &) { return false; };
-    ReadPreviousTest(QStringLiteral(" -d sat,12 /dev/sdc"));
+    publish(ReadPreviousTest(QStringLiteral(" -d sat,12 /dev/sdc")));
     QCOMPARE(g_strLastTestType, QStringLiteral("old type"));
     QCOMPARE(g_strLastTestResult, QStringLiteral("old result"));
 }

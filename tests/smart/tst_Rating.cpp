@@ -3,7 +3,6 @@
 
 #include "smart/AttributeKey.h"
 #include "smart/HealthCatalogue.h"
-#include "smart/ReportParser.h"
 #include "tests/smart/SampleReports.h"
 #include "tests/support/FakePlatform.h"
 
@@ -65,18 +64,17 @@ void tst_Rating::realReports()
     QFETCH(int, index);
     const samples::Sample sample = samples::all().at(index);
     const QString path = samples::stage(samples::bytesOf(sample.file));
-    DetectReportKind(path);
-    ParseSmartReport(path);
+    takeReportIn(path);
     g_bSmartAvailable = true;
-    RateHealth();
-    RatePerformance();
+    rateHealth();
+    ratePerformance();
     QCOMPARE(g_nHealthPercent, sample.health);
     QCOMPARE(g_bHealthKnown, sample.rated);
     QCOMPARE(g_strHealthText, QString::number(sample.health) + '%');
     QCOMPARE(g_nPerformancePercent, sample.performance);
     QCOMPARE(g_strPerformanceText, QString::number(sample.performance) + '%');
     if (!g_App.m_bNVMe)
-        UpdateLifeFigures();
+        updateLifeFigures();
     QCOMPARE(g_nDiskLifeDays, sample.life.nDiskLifeDays);
     QCOMPARE(g_nPowerOnDays, sample.life.nPowerOnDays);
     QCOMPARE(g_nPowerOnRestHours, sample.life.nPowerOnRestHours);
@@ -228,8 +226,8 @@ void tst_Rating::availability()
     g_strAtaVersion = "ATA2";
     g_App.m_bNVMe = nvme;
     g_bSmartAvailable = available;
-    RateHealth();
-    RatePerformance();
+    rateHealth();
+    ratePerformance();
     QTEST(g_nHealthPercent, "health");
     QTEST(g_nPerformancePercent, "performance");
 }
@@ -316,11 +314,11 @@ void tst_Rating::figuresOutliveTheDisk()
     AtaList first;
     first.addAll("Power_On_Hours=24 Start_Stop_Count=9");
     g_smartTable.rows = std::move(first);
-    UpdateLifeFigures();
+    updateLifeFigures();
     AtaList second;
     second.addAll("Start_Stop_Count=10");
     g_smartTable.rows = std::move(second);
-    UpdateLifeFigures();
+    updateLifeFigures();
     QCOMPARE(g_nPowerOnDays, 1);
     QCOMPARE(g_nDiskLifeDays, 1824u);
     QCOMPARE(g_nStartStopCount, 10);

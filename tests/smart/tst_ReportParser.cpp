@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "smart/ReportParser.h"
 
-#include "smart/DriveVerdict.h"
 #include "tests/smart/SampleReports.h"
 #include "tests/support/FakePlatform.h"
 
@@ -41,8 +40,7 @@ QStringList rowTexts()
 void readReport(const QByteArray &bytes)
 {
     const QString path = samples::stage(bytes);
-    DetectReportKind(path);
-    ParseSmartReport(path);
+    takeReportIn(path);
 }
 
 /// Translates one text of the main window and no other.
@@ -107,10 +105,8 @@ void tst_ReportParser::realReports()
     const QByteArray bytes = samples::bytesOf(sample.file);
     QVERIFY(!bytes.isEmpty());
     const QString path = samples::stage(bytes);
-    DetectReportKind(path);
-    QVERIFY(QFile::exists(nativePath(path)));
+    takeReportIn(path);
     QCOMPARE(g_App.m_bNVMe, sample.kind == "nvme");
-    ParseSmartReport(path);
     QVERIFY(!QFile::exists(nativePath(path)));
 
     QCOMPARE(g_bSmartAvailable, sample.passed);
@@ -226,7 +222,7 @@ void tst_ReportParser::kind()
     QFETCH(QByteArray, text);
     QFETCH(bool, before);
     g_App.m_bNVMe = before;
-    DetectReportKind(samples::stage(text));
+    takeReportIn(samples::stage(text));
     QTEST(g_App.m_bNVMe, "after");
 }
 
@@ -293,8 +289,7 @@ void tst_ReportParser::missingFileChangesNothing()
     QVERIFY(head && g_bSmartAvailable);
     const QString path = tempFile("SMART.txt");
     QFile::remove(nativePath(path));
-    DetectReportKind(path);
-    ParseSmartReport(path);
+    takeReportIn(path);
     QCOMPARE(g_pSmartAttributeHead, head);
     QCOMPARE(rowTexts(), rows);
     QVERIFY(g_bSmartAvailable);

@@ -4,8 +4,6 @@
 #include "tests/smart/SampleReports.h"
 #include "tests/support/FakePlatform.h"
 
-#include "smart/ReportParser.h"
-
 #include <QtTest>
 
 using samples::AtaList;
@@ -47,8 +45,7 @@ void tst_Temperature::realReports()
 {
     QFETCH(QString, file);
     const QString path = samples::stage(samples::bytesOf(file));
-    DetectReportKind(path);
-    ParseSmartReport(path);
+    takeReportIn(path);
     QTEST(GetDiskTemperature(), "celsius");
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/screens/DiskStatus.h"
 
-#include "smart/Rating.h"
+#include "smart/DiskFigures.h"
 #include "smart/SmartGlobals.h"
 #include "smart/TilePicture.h"
 #include "state/GlobalApp.h"

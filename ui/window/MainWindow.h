@@ -213,7 +213,6 @@ private:
     void showWaitingTiles();
     void clearIdentityTexts();
     void startRead();
-    void takeReportIn();
     void updateReportButtons();
     bool reportKnown() const;
     void enterBusy(const QString &text);

@@ -4,9 +4,8 @@
 #include "platform/Platform.h"
 #include "reports/ReportPage.h"
 #include "reports/SmartReport.h"
-#include "smart/PreviousTest.h"
+#include "smart/DiskFigures.h"
 #include "smart/SmartGlobals.h"
-#include "smart/ToolInvocation.h"
 #include "state/Globals.h"
 #include "ui/screens/SmartStatus.h"
 #include "ui/widgets/Images.h"
@@ -42,7 +41,7 @@ QString askForPath(QWidget *parent, const FileQuestion &question)
 
 void MainWindow::OnCheckPreviousTestResult()
 {
-    ReadPreviousTest(storedDevice(ToolPurpose::SelfTestLog));
+    publish(ReadPreviousTest(storedDevice(ToolPurpose::SelfTestLog)));
 }
 
 void MainWindow::SavePDFReport()
@@ -63,7 +62,7 @@ void MainWindow::SavePDFReport()
     if (!report.nvme) {
         g_strLastTestType.clear();
         g_strLastTestResult.clear();
-        ReadPreviousTest(report.device);
+        publish(ReadPreviousTest(report.device));
         report.lastTestType = g_strLastTestType;
         report.lastTestResult = g_strLastTestResult;
     }

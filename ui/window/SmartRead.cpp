@@ -4,11 +4,8 @@
 #include "inventory/CommandRunner.h"
 #include "inventory/Companion.h"
 #include "smart/DiskFigures.h"
-#include "smart/Rating.h"
-#include "smart/ReportParser.h"
 #include "smart/SmartGlobals.h"
 #include "smart/Temperature.h"
-#include "smart/ToolInvocation.h"
 #include "state/DiskIdentityTexts.h"
 #include "state/GlobalApp.h"
 #include "state/Globals.h"
@@ -188,17 +185,10 @@ void MainWindow::OnInitializeSmart()
     leaveBusy();
 }
 
-/// Reads the report that the reader thread has written.
-void MainWindow::takeReportIn()
-{
-    DetectReportKind(g_strSmartReportPath);
-    ParseSmartReport(g_strSmartReportPath);
-    g_bReportPending = false;
-}
-
 void MainWindow::initializeSmartStatus()
 {
-    takeReportIn();
+    takeReportIn(g_strSmartReportPath);
+    g_bReportPending = false;
     const int celsius = GetDiskTemperature();
     // A drive that fails its own check has attributes, too, so it is rated.
     if (celsius != 0)
@@ -241,7 +231,8 @@ void MainWindow::showSmartHeading()
 
 void MainWindow::initializeDiskStatus()
 {
-    takeReportIn();
+    takeReportIn(g_strSmartReportPath);
+    g_bReportPending = false;
     const int celsius = GetDiskTemperature();
     if (!SettingsStore().flag(key::ShowTrayIcon))
         companion::killAfterRead();
@@ -263,7 +254,7 @@ void MainWindow::showTemperature(int celsius)
 
 void MainWindow::ComputePerformance()
 {
-    RatePerformance();
+    ratePerformance();
     showPercent(m_pDiskStatusPage->performanceValueLbl, g_bSmartAvailable, g_strPerformanceText);
     m_pDiskStatusPage->showPicture(DiskStatus::Picture::Performance,
                                    performancePicture(g_nPerformancePercent, scale::percent()));
@@ -271,7 +262,7 @@ void MainWindow::ComputePerformance()
 
 void MainWindow::ComputeHealth()
 {
-    RateHealth();
+    rateHealth();
     showPercent(m_pDiskStatusPage->healthValueLbl, g_bSmartAvailable && g_bHealthKnown, g_strHealthText);
     const std::optional<int> percent = g_bHealthKnown ? std::optional<int>(g_nHealthPercent) : std::nullopt;
     m_pDiskStatusPage->showPicture(DiskStatus::Picture::Health, healthPicture(percent, scale::percent()));
@@ -303,7 +294,7 @@ void MainWindow::showLifeFields(const DiskNode *node)
     const LifeKind kind =
         lifeKind(g_App.m_bNVMe, node && node->nKind == RemovableDisk, !g_smartTable.rows.isEmpty());
     if (kind == LifeKind::Known)
-        UpdateLifeFigures();
+        updateLifeFigures();
     m_pDiskStatusPage->showLife(lifeTexts(kind, storedLifeFigures()));
     m_pDiskStatusPage->showVerdict(g_driveVerdict);
 }
