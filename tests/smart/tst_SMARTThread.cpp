@@ -18,9 +18,8 @@ private slots:
     void init();
 
     void readsAndReports();
-    void runsAgainForTheNextRequest();
-    void lastRequestDuringAReadIsReadBehindIt();
-    void forgottenReadHasNoReport();
+    void stories_data();
+    void stories();
     void destructorWaits();
 
 private:
@@ -66,54 +65,69 @@ void tst_SMARTThread::readsAndReports()
     QVERIFY(!thread.takeReport());
 }
 
-void tst_SMARTThread::runsAgainForTheNextRequest()
+// "0" to "9" asks for that disk, "." ends the tool that runs, "f" forgets, "t" takes the report. What comes
+// back: the disks that are read, "-" for the end of a run; of "t" the disk or "n".
+void tst_SMARTThread::stories_data()
 {
-    SMARTThread thread;
-    for (const int index : {0, 1}) {
-        thread.RequestSmartRead(index);
-        QVERIFY(thread.wait(10000));
-    }
-    QCOMPARE(m_fake->commands().size(), 2);
-    QVERIFY(m_fake->commands().at(1).contains(" -a /dev/sdb >> "));
+    QTest::addColumn<QByteArray>("story");
+    QTest::addColumn<QByteArray>("told");
+    const struct {
+        const char *name;
+        const char *story;
+        const char *told;
+    } rows[] = {
+        {"one read, taken once", "3.tt", "3-3n"},
+        {"nothing to take while it runs", "3t.", "3n-"},
+        {"of several the last one counts", "123..t", "13-3"},
+        {"the disk that is being read again", "1.1.t", "1-1-1"},
+        {"back to the disk that is being read", "121.t", "1-1"},
+        {"a newer request voids a report", "1.2t.t", "1-2n-2"},
+        {"forgotten in mid-read", "12f.t", "1-n"},
+        {"forgotten before it is taken", "1.ft", "1-n"},
+    };
+    for (const auto &row : rows)
+        QTest::newRow(row.name) << QByteArray(row.story) << QByteArray(row.told);
 }
 
-void tst_SMARTThread::lastRequestDuringAReadIsReadBehindIt()
+void tst_SMARTThread::stories()
 {
-    // The tool waits until the test lets it go on.
+    QFETCH(QByteArray, story);
+    QByteArray told;
+    bool runs = false;
+    QSemaphore moved; // a tool has begun, or a run has ended
     QSemaphore mayEnd;
-    m_fake->onCommand = [&](const QString &) {
-        m_entered.release();
+    m_fake->onCommand = [&](const QString &line) {
+        told += QByteArray::number(line.at(line.indexOf("/dev/sd") + 7).unicode() - 'a');
+        moved.release();
         mayEnd.acquire();
         return true;
     };
     SMARTThread thread;
-    QSignalSpy told(&thread, &SMARTThread::OnLodingSmarInfo);
-    thread.RequestSmartRead(0);
-    QVERIFY(m_entered.tryAcquire(1, 10000));
-    thread.RequestSmartRead(5);
-    thread.RequestSmartRead(7);
-    QVERIFY(thread.isReading());
-    mayEnd.release(2);
-    QVERIFY(thread.wait(10000));
-    QCOMPARE(m_fake->commands().size(), 2);
-    QVERIFY(m_fake->commands().at(1).contains("/dev/sdh"));
-    QCOMPARE(told.count(), 1);
-    const std::optional<LoadedReport> loaded = thread.takeReport();
-    QVERIFY(loaded && loaded->disk == 7);
-    QVERIFY(!g_bAbortJob);
-}
-
-void tst_SMARTThread::forgottenReadHasNoReport()
-{
-    slowTool(50);
-    SMARTThread thread;
-    thread.RequestSmartRead(0);
-    QVERIFY(m_entered.tryAcquire(1, 10000));
-    thread.RequestSmartRead(1);
-    thread.forget();
-    QVERIFY(thread.wait(10000));
-    QCOMPARE(m_fake->commands().size(), 1);
-    QVERIFY(!thread.takeReport() && !thread.isReading());
+    const auto ended = [&] {
+        told += '-';
+        runs = false;
+        moved.release();
+    };
+    connect(&thread, &SMARTThread::OnLodingSmarInfo, &thread, ended, Qt::DirectConnection);
+    for (const char step : story) {
+        if (step == 't') {
+            const std::optional<LoadedReport> loaded = thread.takeReport();
+            told += loaded ? QByteArray::number(loaded->disk) : QByteArray("n");
+        } else if (step == 'f') {
+            thread.forget();
+        } else {
+            const bool waits = step == '.' || !runs;
+            if (step == '.') {
+                mayEnd.release();
+            } else {
+                runs = true;
+                thread.RequestSmartRead(step - '0');
+            }
+            QVERIFY(!waits || moved.tryAcquire(1, 10000));
+        }
+        QVERIFY(thread.isReading() || !runs);
+    }
+    QTEST(told, "told");
 }
 
 void tst_SMARTThread::destructorWaits()
