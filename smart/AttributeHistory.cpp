@@ -2,9 +2,11 @@
 #include "smart/AttributeHistory.h"
 
 #include "inventory/CommandRunner.h"
+#include "platform/Log.h"
 #include "platform/Platform.h"
 #include "smart/TextCuts.h"
 
+#include <QByteArrayList>
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QFile>
@@ -15,13 +17,12 @@
 #include <QTemporaryDir>
 
 #include <algorithm>
-#include <cstddef>
 #include <optional>
 
 namespace
 {
 
-constexpr std::size_t DaysKept = 10;
+constexpr int DaysKept = 10;
 
 /// A serial number comes from the drive, which may say anything.
 QString fileNameOf(const QString &serial)
@@ -31,51 +32,43 @@ QString fileNameOf(const QString &serial)
 }
 
 /// Nothing if the file does not open.
-std::optional<std::vector<QByteArray>> linesOf(const QString &path, QIODevice::OpenMode mode)
+std::optional<QByteArrayList> linesOf(const QString &path, QIODevice::OpenMode mode)
 {
     QFile file(path);
     if (!file.open(mode | QIODevice::Text))
         return std::nullopt;
-    std::vector<QByteArray> lines;
-    while (!file.atEnd()) {
-        QByteArray line = file.readLine();
-        if (line.endsWith('\n'))
-            line.chop(1);
-        lines.push_back(line);
-    }
+    QByteArrayList lines = file.readAll().split('\n');
+    if (lines.last().isEmpty())
+        lines.removeLast();
     return lines;
 }
 
-QByteArray textOf(const std::vector<QByteArray> &lines)
+QByteArray textOf(const QByteArrayList &lines)
 {
-    QByteArray text;
-    for (const QByteArray &line : lines)
-        text += line + '\n';
-    return text;
+    return lines.isEmpty() ? QByteArray() : lines.join('\n') + '\n';
 }
 
-/// The old file stays what it is until the new one is on the disk, under a name of its own.
+/// Writes a new file under another name, and puts it in place of the old one when it is on the disk.
 void replaceFile(const QString &path, const QByteArray &content, QIODevice::OpenMode mode)
 {
     const QFileInfo old(path);
     QSaveFile file(path);
-    if (old.isDir() || !file.open(QIODevice::WriteOnly | mode))
-        return;
-    if (file.write(content) != content.size() || !file.flush()) {
-        file.cancelWriting();
-        return;
-    }
+    const bool written = !old.isDir() && file.open(QIODevice::WriteOnly | mode) &&
+                         file.write(content) == content.size() && file.flush();
     // QSettings takes a file of the same size and time for the one that it read before.
-    if (old.exists()) {
+    if (written && old.exists()) {
         const QDateTime later = old.lastModified().addMSecs(1);
         file.setFileTime(std::max(QDateTime::currentDateTime(), later), QFileDevice::FileModificationTime);
     }
-    file.commit();
+    if (!written)
+        file.cancelWriting();
+    if (!written || !file.commit())
+        qCDebug(logs::smart) << "history is not written:" << file.errorString();
 }
 
-/// The values as they stand in the file, each as a text. The toolkit alone would make any type of a text that
-/// begins with `@` and names one, however deep its lists go. QSettings works on a copy: beside the file it
-/// would leave a lock when it is killed, and then wait for it.
+/// The values of the file, each as a text. QSettings turns a text that begins with `@` into whatever type it
+/// names, so it reads a copy in which no value begins so. It would also put a lock beside the file: killed,
+/// it leaves the lock, and the next one waits for it.
 class StoredTexts
 {
 public:
@@ -100,7 +93,7 @@ public:
     }
 
 private:
-    /// Every value begins with a dot in the copy, and there is no comma, behind which another would begin.
+    /// In the copy a dot stands before each value, and a mark for each comma: QSettings would split there.
     bool copyFrom(const QString &valuePath) const
     {
         QFile from(valuePath);
@@ -144,25 +137,25 @@ void writeValues(const QString &valuePath, const QDateTime &now, const std::vect
         replaceFile(valuePath, written.readAll(), QIODevice::NotOpen);
 }
 
-/// Whether a file begins as one of the values does, and all lines of another are dates, or what is left of
-/// one.
+/// Whether the value file begins with the section of a date, and each line of the date list is a date or the
+/// rest of one.
 bool isHistory(const QString &datePath, const QString &valuePath)
 {
     static const QRegularExpression header(QStringLiteral("^\\[\\d\\d-\\d\\d-\\d{4}\\]$"));
     static const QRegularExpression date(QStringLiteral("^[\\d-]{0,10}$"));
-    const auto all = [](const std::vector<QByteArray> &lines, const QRegularExpression &pattern) {
+    const auto all = [](const QByteArrayList &lines, const QRegularExpression &pattern) {
         return std::all_of(lines.cbegin(), lines.cend(), [&pattern](const QByteArray &line) {
             return pattern.match(QString::fromLatin1(line).trimmed()).hasMatch();
         });
     };
     const auto dates = linesOf(datePath, QIODevice::ReadOnly);
     const auto values = linesOf(valuePath, QIODevice::ReadOnly);
-    return dates && values && !dates->empty() && !values->empty() && all(*dates, date) &&
-           all({values->front()}, header);
+    return dates && values && !dates->isEmpty() && !values->isEmpty() && all(*dates, date) &&
+           all({values->first()}, header);
 }
 
 /// Earlier versions named the files after the serial number alone, in this folder or in the one above, which
-/// may be the program's. Theirs are moved, the dates last: where that is cut short, the next call goes on.
+/// may be the program's. These are moved, the dates last: after a crash the next call goes on.
 void takeOver(const QString &folder, const QString &serial, const HistoryPaths &paths)
 {
     if (serial.isEmpty() || QFileInfo::exists(paths.dates))
@@ -201,9 +194,9 @@ void AppendHistoryDate(const QString &datePath, const QString &date)
 {
     auto lines = linesOf(datePath, QIODevice::ReadWrite);
     const QByteArray day = date.toUtf8();
-    if (!lines || (!lines->empty() && lines->back() == day))
+    if (!lines || (!lines->isEmpty() && lines->last() == day))
         return;
-    lines->push_back(day);
+    lines->append(day);
     replaceFile(datePath, textOf(*lines), QIODevice::Text);
 }
 
@@ -212,11 +205,11 @@ void PruneHistory(const QString &datePath, const QString &valuePath)
     auto lines = linesOf(datePath, QIODevice::ReadOnly);
     if (!lines || lines->size() <= DaysKept)
         return;
-    const QByteArray oldest = lines->front();
-    // The values go first: killed in between, the next call finds the date in the list and does it all again.
-    // The other way round the section would stay for ever.
+    const QByteArray oldest = lines->first();
+    // The values go first: after a crash in between the next call finds the date in the list and does both
+    // again. The other way round the section would stay for ever.
     RemoveHistoryGroup(QString::fromUtf8(oldest), valuePath);
-    lines->erase(std::remove(lines->begin(), lines->end(), oldest), lines->end());
+    lines->removeAll(oldest);
     replaceFile(datePath, textOf(*lines), QIODevice::Text);
 }
 
@@ -227,12 +220,12 @@ void RemoveHistoryGroup(const QString &date, const QString &valuePath)
         return;
     const QByteArray removed = date.toUtf8();
     QByteArray section;
-    std::vector<QByteArray> kept;
+    QByteArrayList kept;
     for (const QByteArray &line : *lines) {
         if (line.contains('[') && line.contains(']'))
             section = line.mid(line.indexOf('[') + 1, line.indexOf(']') - 1);
         if (section != removed)
-            kept.push_back(line);
+            kept.append(line);
     }
     replaceFile(valuePath, textOf(kept), QIODevice::Text);
 }
@@ -253,7 +246,7 @@ std::vector<QString> readHistoryDates(const QString &datePath, bool *opened)
     if (opened)
         *opened = lines.has_value();
     std::vector<QString> dates;
-    for (const QByteArray &line : lines.value_or(std::vector<QByteArray>()))
+    for (const QByteArray &line : lines.value_or(QByteArrayList()))
         dates.push_back(QString::fromUtf8(line));
     return dates;
 }

@@ -24,9 +24,9 @@ struct HistoryValue {
     QString value;
 };
 
-/// "dates-<serial>.txt" and "values-<serial>" in the platform's history folder, so that no serial number
-/// makes the name of another file; characters that a file name must not have become "_". What an earlier
-/// version kept of that disk is moved there. Both empty where there is no folder for them.
+/// "dates-<serial>.txt" and "values-<serial>" in the platform's history folder: no serial number makes the
+/// name of another file. Characters that a file name must not have become "_". Files of an earlier version
+/// are moved there. Both are empty where there is no folder.
 HistoryPaths historyPaths(const QString &serial);
 
 /// "dd-MM-yyyy", as the day stands in both files.
