@@ -6,7 +6,6 @@
 #include "platform/simulated/PcDescription.h"
 #include "platform/simulated/SelfTestText.h"
 #include "smart/AttributeHistory.h"
-#include "smart/PreviousTest.h"
 #include "smart/SelfTestText.h"
 #include "update/UpdateCheck.h"
 #include "update/VersionCompare.h"
@@ -136,7 +135,7 @@ QString runVersions(const QByteArray &input, Mutator &)
 QString runSelfTests(const QByteArray &input, Mutator &mutator)
 {
     QTextStream log(input);
-    newestTest(log);
+    selftest::newestTest(log);
     QTextStream capabilities(input);
     selftest::readCapabilities(capabilities, SelfTestKind(mutator.below(2)));
     QTextStream status(input);

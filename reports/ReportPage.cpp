@@ -5,7 +5,6 @@
 #include "reports/SmartReport.h"
 
 #include <QBuffer>
-#include <QCoreApplication>
 #include <QFileInfo>
 #include <QImage>
 #include <QPainter>
@@ -17,9 +16,6 @@
 namespace
 {
 
-constexpr int Centred = Qt::AlignCenter;
-constexpr int RegularWeight = QFont::Normal;
-constexpr int BoldWeight = QFont::Bold;
 constexpr int BodyPoints = 8;
 constexpr int RowStep = 250;
 constexpr int FootRuleY = 13150;
@@ -30,27 +26,22 @@ constexpr int LaterTableY = 1800;
 constexpr int LaterRowY = 2050;
 constexpr int ImageDensity = 4; ///< the images for print are that many times their design size
 
-enum class Ink { Black, Red, Green };
-
 struct Value {
     QString text;
-    Ink ink = Ink::Black;
+    Qt::GlobalColor ink = Qt::black;
     int shift = 0; ///< from the value column
 };
 
+/// A line of a label and its value, at its place in each layout; 0: the layout does not have it.
 struct Field {
-    int y;
+    int ataY;
+    int nvmeY;
     const char *label;
     Value (*value)(const SmartReport &report);
 };
 
-struct Heading {
-    int y;
-    const char *text;
-};
-
-struct Column {
-    int x;
+struct Caption {
+    int place; ///< y of a heading, x of a column
     const char *text;
 };
 
@@ -58,33 +49,43 @@ struct Column {
 struct Layout {
     int watermarkRise; ///< above the middle of the page
     int valueX;
-    std::vector<Heading> headings;
-    std::vector<Field> fields;
+    std::vector<Caption> headings;
     int tableY;
-    std::vector<Column> columns;
+    std::vector<Caption> columns;
     int firstRowY;
 };
 
-/// The texts are translated in the context of the window that the report is saved from.
-struct Texts {
-    Q_DECLARE_TR_FUNCTIONS(MainWindow)
-};
-
-template<QString SmartReport::*Text>
-Value plain(const SmartReport &report)
+template<auto Field>
+Value ata(const SmartReport &report)
 {
-    return {report.*Text};
+    return {(report.ata.*Field).text()};
+}
+
+template<auto Ata, auto Nvme>
+Value told(const SmartReport &report)
+{
+    return {report.nvme ? (report.log.*Nvme).text() : (report.ata.*Ata).text()};
 }
 
 template<QString SmartReport::*Text>
 Value orNotAvailable(const SmartReport &report)
 {
-    return {(report.*Text).isEmpty() ? Texts::tr("Not Available") : report.*Text};
+    return {(report.*Text).isEmpty() ? ReportTexts::tr("Not Available") : report.*Text};
+}
+
+Value temperature(const SmartReport &report)
+{
+    return {report.temperature};
+}
+
+Value largestTransfer(const SmartReport &report)
+{
+    return {report.log.MaxTransferSize.text()};
 }
 
 Value status(const SmartReport &report)
 {
-    return {report.smartStatus, report.smartFailed ? Ink::Red : Ink::Green};
+    return {report.smartStatus, report.smartFailed ? Qt::red : Qt::darkGreen};
 }
 
 /// A rating of exactly 40 is neither, and stays without a value.
@@ -93,7 +94,7 @@ Value rated(int percent, const QString &good, const QString &bad, int badShift)
     constexpr int Limit = 40;
     if (percent == Limit)
         return {};
-    return percent > Limit ? Value{good, Ink::Green} : Value{bad, Ink::Red, badShift};
+    return percent > Limit ? Value{good, Qt::darkGreen} : Value{bad, Qt::red, badShift};
 }
 
 Value performance(const SmartReport &report)
@@ -105,96 +106,90 @@ Value health(const SmartReport &report)
 {
     constexpr int NvmeBadShift = -500;
     if (!report.healthKnown)
-        return {Texts::tr("Not Available")};
-    return rated(report.health, Texts::tr("Good"), Texts::tr("Bad"), report.nvme ? NvmeBadShift : 0);
+        return {ReportTexts::tr("Not Available")};
+    return rated(report.health, ReportTexts::tr("Good"), ReportTexts::tr("Bad"),
+                 report.nvme ? NvmeBadShift : 0);
 }
 
-template<QString SmartReport::*Time>
+template<auto Time>
 Value supported(const SmartReport &report)
 {
-    return (report.*Time).isEmpty() ? Value{Texts::tr("Not Supported"), Ink::Red}
-                                    : Value{Texts::tr("Supported"), Ink::Green};
+    return (report.ata.*Time).isEmpty() ? Value{ReportTexts::tr("Not Supported"), Qt::red}
+                                        : Value{ReportTexts::tr("Supported"), Qt::darkGreen};
 }
 
-template<QString SmartReport::*Time>
+template<auto Time>
 Value completionTime(const SmartReport &report)
 {
-    return {(report.*Time).isEmpty() ? Texts::tr("NA") : report.*Time};
+    return {(report.ata.*Time).isEmpty() ? ReportTexts::tr("NA") : (report.ata.*Time).text()};
 }
 
-const Layout &nvmeLayout()
+const std::vector<Field> &fields()
 {
-    using R = SmartReport;
-    static const Layout layout = {
-        3000,
-        4500,
-        {{1500, QT_TRANSLATE_NOOP("MainWindow", "Disk Information:")},
-         {4300, QT_TRANSLATE_NOOP("MainWindow", "S.M.A.R.T. Details:")}},
-        {{1800, QT_TRANSLATE_NOOP("MainWindow", "Model Number:"), plain<&R::model>},
-         {2000, QT_TRANSLATE_NOOP("MainWindow", "Serial Number:"), plain<&R::serial>},
-         {2200, QT_TRANSLATE_NOOP("MainWindow", "Firmware Version:"), plain<&R::firmware>},
-         {2400, QT_TRANSLATE_NOOP("MainWindow", "Capacity:"), plain<&R::capacity>},
-         {2600, QT_TRANSLATE_NOOP("MainWindow", "Sector Size:"), plain<&R::sectorSize>},
-         {2800, QT_TRANSLATE_NOOP("MainWindow", "Local  Time:"), plain<&R::localTime>},
-         {3000, QT_TRANSLATE_NOOP("MainWindow", "Maximum Data Transfer Size:"), plain<&R::maxTransferSize>},
-         {3200, QT_TRANSLATE_NOOP("MainWindow", "SMART Status:"), status},
-         {3400, QT_TRANSLATE_NOOP("MainWindow", "Current Temperature:"), plain<&R::temperature>},
-         {3600, QT_TRANSLATE_NOOP("MainWindow", "Performance:"), performance},
-         {3800, QT_TRANSLATE_NOOP("MainWindow", "Health:"), health}},
-        4600,
-        {{0, QT_TRANSLATE_NOOP("MainWindow", "ID")},
-         {500, QT_TRANSLATE_NOOP("MainWindow", "Attribute Name")},
-         {4500, QT_TRANSLATE_NOOP("MainWindow", "Values")}},
-        4850};
-    return layout;
+    using A = SmartIdentity;
+    using N = NvmeIdentity;
+    static const std::vector<Field> all = {
+        {1800, 0, QT_TRANSLATE_NOOP("MainWindow", "Make:"), ata<&A::ModelFamily>},
+        {2000, 1800, QT_TRANSLATE_NOOP("MainWindow", "Model Number:"),
+         told<&A::DeviceModel, &N::ModelNumber>},
+        {2200, 2000, QT_TRANSLATE_NOOP("MainWindow", "Serial Number:"),
+         told<&A::SerialNumber, &N::SerialNumber>},
+        {2400, 2200, QT_TRANSLATE_NOOP("MainWindow", "Firmware Version:"), told<&A::Firmware, &N::Firmware>},
+        {2600, 2400, QT_TRANSLATE_NOOP("MainWindow", "Capacity:"), told<&A::UserCapacity, &N::Capacity>},
+        {2800, 2600, QT_TRANSLATE_NOOP("MainWindow", "Sector Size:"), told<&A::SectorSize, &N::LbaSize>},
+        {3000, 0, QT_TRANSLATE_NOOP("MainWindow", "Rotation Rate:"), ata<&A::RotationRate>},
+        {3200, 0, QT_TRANSLATE_NOOP("MainWindow", "ATA Version:"), ata<&A::AtaVersion>},
+        {3400, 0, QT_TRANSLATE_NOOP("MainWindow", "SATA Version:"), ata<&A::SataVersion>},
+        {3600, 2800, QT_TRANSLATE_NOOP("MainWindow", "Local  Time:"), told<&A::LocalTime, &N::LocalTime>},
+        {0, 3000, QT_TRANSLATE_NOOP("MainWindow", "Maximum Data Transfer Size:"), largestTransfer},
+        {3800, 3200, QT_TRANSLATE_NOOP("MainWindow", "SMART Status:"), status},
+        {4000, 3400, QT_TRANSLATE_NOOP("MainWindow", "Current Temperature:"), temperature},
+        {4200, 3600, QT_TRANSLATE_NOOP("MainWindow", "Performance:"), performance},
+        {4400, 3800, QT_TRANSLATE_NOOP("MainWindow", "Health:"), health},
+        {5200, 0, QT_TRANSLATE_NOOP("MainWindow", "Short Self-test:"), supported<&A::ShortPollTime>},
+        {5400, 0, QT_TRANSLATE_NOOP("MainWindow", "Estimated Completion Time:"),
+         completionTime<&A::ShortPollTime>},
+        {5600, 0, QT_TRANSLATE_NOOP("MainWindow", "Extended Self-test:"), supported<&A::ExtendedPollTime>},
+        {5800, 0, QT_TRANSLATE_NOOP("MainWindow", "Estimated Completion Time:"),
+         completionTime<&A::ExtendedPollTime>},
+        {6000, 0, QT_TRANSLATE_NOOP("MainWindow", "Last Run Self-test:"),
+         orNotAvailable<&SmartReport::lastTestType>},
+        {6200, 0, QT_TRANSLATE_NOOP("MainWindow", "Last Self-Test Result:"),
+         orNotAvailable<&SmartReport::lastTestResult>},
+    };
+    return all;
 }
 
-const Layout &ataLayout()
+const Layout &layoutOf(bool nvme)
 {
-    using R = SmartReport;
-    static const Layout layout = {
-        2600,
-        3100,
-        {{1500, QT_TRANSLATE_NOOP("MainWindow", "Disk Information:")},
-         {4900, QT_TRANSLATE_NOOP("MainWindow", "Self Test Details:")},
-         {6700, QT_TRANSLATE_NOOP("MainWindow", "S.M.A.R.T. Details")}},
-        {{1800, QT_TRANSLATE_NOOP("MainWindow", "Make:"), plain<&R::make>},
-         {2000, QT_TRANSLATE_NOOP("MainWindow", "Model Number:"), plain<&R::model>},
-         {2200, QT_TRANSLATE_NOOP("MainWindow", "Serial Number:"), plain<&R::serial>},
-         {2400, QT_TRANSLATE_NOOP("MainWindow", "Firmware Version:"), plain<&R::firmware>},
-         {2600, QT_TRANSLATE_NOOP("MainWindow", "Capacity:"), plain<&R::capacity>},
-         {2800, QT_TRANSLATE_NOOP("MainWindow", "Sector Size:"), plain<&R::sectorSize>},
-         {3000, QT_TRANSLATE_NOOP("MainWindow", "Rotation Rate:"), plain<&R::rotationRate>},
-         {3200, QT_TRANSLATE_NOOP("MainWindow", "ATA Version:"), plain<&R::ataVersion>},
-         {3400, QT_TRANSLATE_NOOP("MainWindow", "SATA Version:"), plain<&R::sataVersion>},
-         {3600, QT_TRANSLATE_NOOP("MainWindow", "Local  Time:"), plain<&R::localTime>},
-         {3800, QT_TRANSLATE_NOOP("MainWindow", "SMART Status:"), status},
-         {4000, QT_TRANSLATE_NOOP("MainWindow", "Current Temperature:"), plain<&R::temperature>},
-         {4200, QT_TRANSLATE_NOOP("MainWindow", "Performance:"), performance},
-         {4400, QT_TRANSLATE_NOOP("MainWindow", "Health:"), health},
-         {5200, QT_TRANSLATE_NOOP("MainWindow", "Short Self-test:"), supported<&R::shortTestTime>},
-         {5400, QT_TRANSLATE_NOOP("MainWindow", "Estimated Completion Time:"),
-          completionTime<&R::shortTestTime>},
-         {5600, QT_TRANSLATE_NOOP("MainWindow", "Extended Self-test:"), supported<&R::extendedTestTime>},
-         {5800, QT_TRANSLATE_NOOP("MainWindow", "Estimated Completion Time:"),
-          completionTime<&R::extendedTestTime>},
-         {6000, QT_TRANSLATE_NOOP("MainWindow", "Last Run Self-test:"), orNotAvailable<&R::lastTestType>},
-         {6200, QT_TRANSLATE_NOOP("MainWindow", "Last Self-Test Result:"),
-          orNotAvailable<&R::lastTestResult>}},
-        7000,
-        {{0, QT_TRANSLATE_NOOP("MainWindow", "ID")},
-         {500, QT_TRANSLATE_NOOP("MainWindow", "Attribute Name")},
-         {3100, QT_TRANSLATE_NOOP("MainWindow", "Status")},
-         {4000, QT_TRANSLATE_NOOP("MainWindow", "Value")},
-         {4900, QT_TRANSLATE_NOOP("MainWindow", "Worst")},
-         {5800, QT_TRANSLATE_NOOP("MainWindow", "Threshold")},
-         {7000, QT_TRANSLATE_NOOP("MainWindow", "Raw Value")}},
-        7250};
-    return layout;
+    static const Layout ofNvme = {3000,
+                                  4500,
+                                  {{1500, QT_TRANSLATE_NOOP("MainWindow", "Disk Information:")},
+                                   {4300, QT_TRANSLATE_NOOP("MainWindow", "S.M.A.R.T. Details:")}},
+                                  4600,
+                                  {{0, QT_TRANSLATE_NOOP("MainWindow", "ID")},
+                                   {500, QT_TRANSLATE_NOOP("MainWindow", "Attribute Name")},
+                                   {4500, QT_TRANSLATE_NOOP("MainWindow", "Values")}},
+                                  4850};
+    static const Layout ofAta = {2600,
+                                 3100,
+                                 {{1500, QT_TRANSLATE_NOOP("MainWindow", "Disk Information:")},
+                                  {4900, QT_TRANSLATE_NOOP("MainWindow", "Self Test Details:")},
+                                  {6700, QT_TRANSLATE_NOOP("MainWindow", "S.M.A.R.T. Details")}},
+                                 7000,
+                                 {{0, QT_TRANSLATE_NOOP("MainWindow", "ID")},
+                                  {500, QT_TRANSLATE_NOOP("MainWindow", "Attribute Name")},
+                                  {3100, QT_TRANSLATE_NOOP("MainWindow", "Status")},
+                                  {4000, QT_TRANSLATE_NOOP("MainWindow", "Value")},
+                                  {4900, QT_TRANSLATE_NOOP("MainWindow", "Worst")},
+                                  {5800, QT_TRANSLATE_NOOP("MainWindow", "Threshold")},
+                                  {7000, QT_TRANSLATE_NOOP("MainWindow", "Raw Value")}},
+                                 7250};
+    return nvme ? ofNvme : ofAta;
 }
 
-/// An image for paper. What is transparent in it is white below: viewers that shrink the picture mix the two
-/// at its edges, and black would give it an outline.
+/// An image for paper. Its transparent pixels are white: a viewer that shrinks the image mixes them into its
+/// edges, and black ones would give it an outline.
 QImage printImage(const QString &path)
 {
     QImage image = QImage(path).convertToFormat(QImage::Format_ARGB32);
@@ -212,9 +207,9 @@ class PagePainter
 {
 public:
     PagePainter(QPainter &painter, const SmartReport &report, const std::function<void()> &newPage)
-        : m_painter(painter), m_report(report), m_newPage(newPage),
-          m_layout(report.nvme ? nvmeLayout() : ataLayout()), m_logo(printImage(report.logo)),
-          m_watermark(printImage(report.watermark)), m_icon(printImage(report.icon))
+        : m_painter(painter), m_report(report), m_newPage(newPage), m_layout(layoutOf(report.nvme)),
+          m_logo(printImage(report.logo)), m_watermark(printImage(report.watermark)),
+          m_icon(printImage(report.icon))
     {
     }
 
@@ -248,28 +243,26 @@ private:
                                 QRect(source.topLeft() * ImageDensity, source.size() * ImageDensity));
     }
 
-    void setInk(Ink ink)
+    void setInk(Qt::GlobalColor ink)
     {
-        if (ink == Ink::Black)
+        if (ink == Qt::black)
             m_painter.setPen(QPen(Qt::black, 6.0, Qt::SolidLine, Qt::RoundCap, Qt::BevelJoin));
         else
-            m_painter.setPen(ink == Ink::Red ? Qt::red : Qt::darkGreen);
+            m_painter.setPen(ink);
     }
 
     void setFont(int points, int weight)
     {
         QFont face(QStringLiteral("Segoe UI"), points, weight);
-        // So that a text that is searched or copied out of the file is the one that was written: a spacing
-        // too small to be seen keeps letters from being tied into ligatures, and readers take tight pairs for
-        // two words.
+        // A text that is searched in the file or copied from it has to be the one that was written. A
+        // spacing too small to be seen prevents ligatures. Kerned pairs would be read as two words.
         face.setLetterSpacing(QFont::AbsoluteSpacing, 0.02);
         face.setKerning(points > BodyPoints);
         m_painter.setFont(face);
     }
 
-    /// One line with its top at `y`, cut with dots where there is less room. All lines of that height have
-    /// one baseline, that of the page's own face: left to itself, a line sinks with the taller face of its
-    /// script.
+    /// One line with its top at `y`, cut with dots where there is less room. All lines at one height share
+    /// the baseline of the page's own font. Else a line in a script with taller letters would stand lower.
     void drawLine(int x, int y, int room, const QString &text)
     {
         const QFontMetricsF metrics(m_painter.font(), m_painter.device());
@@ -287,7 +280,7 @@ private:
 
     void paintFrame()
     {
-        setInk(Ink::Black);
+        setInk(Qt::black);
         const int right = m_painter.viewport().width() - 24;
         m_painter.drawLine(0, 800, right, 800);
         m_painter.drawLine(0, FootRuleY, right, FootRuleY);
@@ -296,29 +289,30 @@ private:
 
     void paintHeadAndFoot()
     {
-        setFont(14, RegularWeight);
-        m_painter.drawText(QRect(350, 4, m_report.secondBrand ? 2620 : 2400, 750), Centred,
-                           Texts::tr("Velmora Halvane"));
+        setFont(14, QFont::Normal);
+        m_painter.drawText(QRect(350, 4, m_report.secondBrand ? 2620 : 2400, 750), Qt::AlignCenter,
+                           ReportTexts::tr("Velmora Halvane"));
         drawImage({-120, 4, 1650, 580}, m_icon, {0, -8, 160, 45});
-        m_painter.drawText(QRect(2000, 1100, 5000, 300), Centred, Texts::tr("S.M.A.R.T. Report"));
+        m_painter.drawText(QRect(2000, 1100, 5000, 300), Qt::AlignCenter,
+                           ReportTexts::tr("S.M.A.R.T. Report"));
 
-        setFont(BodyPoints, RegularWeight);
+        setFont(BodyPoints, QFont::Normal);
         drawLine(1700, 13380, roomFrom(1700),
-                 Texts::tr("The information contained in this report has been generated by the "
-                           "Velmora Halvane profiling process."));
+                 ReportTexts::tr("The information contained in this report has been generated by the "
+                                 "Velmora Halvane profiling process."));
         drawLine(1700, 13560, roomFrom(1700),
-                 m_report.secondBrand ? Texts::tr("Velmora Halvane is a product of Korvane.")
-                                      : Texts::tr("Velmora Halvane is a product of Velmora."));
+                 m_report.secondBrand ? ReportTexts::tr("Velmora Halvane is a product of Korvane.")
+                                      : ReportTexts::tr("Velmora Halvane is a product of Velmora."));
     }
 
     void paintFixedParts()
     {
         paintHeadAndFoot();
-        for (const Heading &heading : m_layout.headings)
-            paintHeading(heading.y, heading.text);
-        setFont(BodyPoints, RegularWeight);
-        for (const Field &field : m_layout.fields)
-            paintField(field);
+        for (const Caption &heading : m_layout.headings)
+            paintHeading(heading.place, heading.text);
+        setFont(BodyPoints, QFont::Normal);
+        for (const Field &field : fields())
+            paintField(field, m_report.nvme ? field.nvmeY : field.ataY);
         paintTableHeading(m_layout.tableY);
     }
 
@@ -331,41 +325,43 @@ private:
 
     void paintHeading(int y, const char *text)
     {
-        setFont(10, BoldWeight);
-        drawLine(0, y, roomFrom(0), Texts::tr(text));
+        setFont(10, QFont::Bold);
+        drawLine(0, y, roomFrom(0), ReportTexts::tr(text));
     }
 
-    void paintField(const Field &field)
+    void paintField(const Field &field, int y)
     {
-        drawLine(0, field.y, m_layout.valueX - ColumnGap, Texts::tr(field.label));
+        if (y == 0)
+            return;
+        drawLine(0, y, m_layout.valueX - ColumnGap, ReportTexts::tr(field.label));
         const Value value = field.value(m_report);
         const int x = m_layout.valueX + value.shift;
         setInk(value.ink);
-        drawLine(x, field.y, roomFrom(x), value.text);
-        setInk(Ink::Black);
+        drawLine(x, y, roomFrom(x), value.text);
+        setInk(Qt::black);
     }
 
     void paintTableHeading(int y)
     {
-        setFont(BodyPoints, BoldWeight);
+        setFont(BodyPoints, QFont::Bold);
         for (std::size_t i = 0; i < m_layout.columns.size(); ++i)
-            drawLine(m_layout.columns[i].x, y, columnRoom(i), Texts::tr(m_layout.columns[i].text));
-        setFont(BodyPoints, RegularWeight);
+            drawLine(m_layout.columns[i].place, y, columnRoom(i), ReportTexts::tr(m_layout.columns[i].text));
+        setFont(BodyPoints, QFont::Normal);
     }
 
     void paintRow(const SmartReport::Row &row, int y)
     {
         for (std::size_t i = 0; i < row.size(); ++i) {
-            setInk(row[i].red ? Ink::Red : Ink::Black);
-            drawLine(m_layout.columns[i].x, y, columnRoom(i), row[i].text);
+            setInk(row[i].red ? Qt::red : Qt::black);
+            drawLine(m_layout.columns[i].place, y, columnRoom(i), row[i].text);
         }
     }
 
     /// Up to the next column, or the page's edge.
     int columnRoom(std::size_t column) const
     {
-        const int x = m_layout.columns[column].x;
-        return column + 1 < m_layout.columns.size() ? m_layout.columns[column + 1].x - ColumnGap - x
+        const int x = m_layout.columns[column].place;
+        return column + 1 < m_layout.columns.size() ? m_layout.columns[column + 1].place - ColumnGap - x
                                                     : roomFrom(x);
     }
 
@@ -394,7 +390,7 @@ bool writeReport(const QString &path, const SmartReport &report)
     writer.setTitle(suggestedReportName(report));
     writer.setCreator(QStringLiteral("Velmora Halvane"));
     writer.setPageSize(QPageSize(QPageSize::A4));
-    // In the layout's own unit. The rows of the footer are set for a page with margins as narrow as these.
+    // The footer's rows are set for margins as narrow as these.
     writer.setPageMargins(QMarginsF(20, 10, 20, 10));
     QPainter painter;
     if (!painter.begin(&writer))

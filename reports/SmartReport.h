@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "smart/SmartRecords.h"
+
+#include <QCoreApplication>
 #include <QString>
 
 #include <vector>
@@ -20,17 +23,8 @@ struct SmartReport {
     QString watermark;
     QString icon;
 
-    QString make;
-    QString model;
-    QString serial;
-    QString firmware;
-    QString capacity;
-    QString sectorSize;
-    QString rotationRate;
-    QString ataVersion;
-    QString sataVersion;
-    QString localTime;
-    QString maxTransferSize;
+    SmartIdentity ata; ///< of the kind that the report is of; the other one is empty
+    NvmeIdentity log;
     QString smartStatus; ///< "Passed", "Failed" or the drive's own words
     bool smartFailed = false;
     QString temperature;
@@ -38,12 +32,15 @@ struct SmartReport {
     int performance = 0; ///< percent
     int health = 0;      ///< percent
     bool healthKnown = true;
-    QString shortTestTime;
-    QString extendedTestTime;
     QString lastTestType;
     QString lastTestResult;
     QString device;        ///< as the tool takes it
     std::vector<Row> rows; ///< none: only the watermark is painted
+};
+
+/// The report's texts are translated in the context of the window that it is saved from.
+struct ReportTexts {
+    Q_DECLARE_TR_FUNCTIONS(MainWindow)
 };
 
 /// What is known of the disk whose report was read last. Translated; main thread only.

@@ -4,18 +4,16 @@
 #include <QCoreApplication>
 
 #include <array>
+#include <optional>
 
 namespace
 {
-
-/// The report's list differs from the tree's in a few rows.
-enum class Use { Both, Tree, Report };
 
 struct AtaName {
     const char *text;           ///< shown, before translation; null: the key itself
     const char *word = nullptr; ///< what the key has to contain; null: the text
     quint32 id = 0;             ///< what the row's number has to be; 0: any
-    Use use = Use::Both;
+    std::optional<NameIn> only = std::nullopt;
 };
 
 struct NvmeName {
@@ -32,7 +30,7 @@ constexpr std::array<AtaName, 42> AtaNames = {{
     {QT_TRANSLATE_NOOP("AttributeCatalogue", "Spin Up Time")},
     {QT_TRANSLATE_NOOP("AttributeCatalogue", "Start Stop Count")},
     {QT_TRANSLATE_NOOP("AttributeCatalogue", "Reallocated Sector Count"), "Reallocated Sector Ct"},
-    {QT_TRANSLATE_NOOP("AttributeCatalogue", "Reallocated Sector Count"), nullptr, 0, Use::Tree},
+    {QT_TRANSLATE_NOOP("AttributeCatalogue", "Reallocated Sector Count"), nullptr, 0, NameIn::Tree},
     {QT_TRANSLATE_NOOP("AttributeCatalogue", "Seek Error Rate")},
     {QT_TRANSLATE_NOOP("AttributeCatalogue", "Power On Hours")},
     {QT_TRANSLATE_NOOP("AttributeCatalogue", "Spin Retry Count")},
@@ -51,7 +49,7 @@ constexpr std::array<AtaName, 42> AtaNames = {{
     {QT_TRANSLATE_NOOP("AttributeCatalogue", "SSD Erase Fail Count"), Unknown, 172},
     {QT_TRANSLATE_NOOP("AttributeCatalogue", "SSD Wear Leveling Count"), Unknown, 173},
     {QT_TRANSLATE_NOOP("AttributeCatalogue", "Unexpected power loss count"), Unknown, 174},
-    {nullptr, Unknown, 0, Use::Report},
+    {nullptr, Unknown, 0, NameIn::Report},
     {QT_TRANSLATE_NOOP("AttributeCatalogue", "Throughput Performance")},
     {QT_TRANSLATE_NOOP("AttributeCatalogue", "Read Channel Margin")},
     {QT_TRANSLATE_NOOP("AttributeCatalogue", "Seek Time Performance")},
@@ -64,9 +62,9 @@ constexpr std::array<AtaName, 42> AtaNames = {{
     {QT_TRANSLATE_NOOP("AttributeCatalogue", "Airflow Temperature Cel")},
     {QT_TRANSLATE_NOOP("AttributeCatalogue", "G-Sense Error Rate")},
     {QT_TRANSLATE_NOOP("AttributeCatalogue", "Hardware ECC Recovered")},
-    // Never reached behind the row without the blank; the translations know it.
+    // Never reached, as the row without the blank comes first. The translations have it.
     {QT_TRANSLATE_NOOP("AttributeCatalogue", "Multi Zone Error Rate "), "Multi Zone Error Rate", 0,
-     Use::Tree},
+     NameIn::Tree},
     {QT_TRANSLATE_NOOP("AttributeCatalogue", "Write Error Rate")},
     {QT_TRANSLATE_NOOP("AttributeCatalogue", "Head Flying Hours")},
     {QT_TRANSLATE_NOOP("AttributeCatalogue", "Total LBAs Written")},
@@ -93,9 +91,9 @@ constexpr std::array<NvmeName, 15> NvmeNames = {{
     {QT_TRANSLATE_NOOP("AttributeCatalogue", "Error Information Log Entries")},
 }};
 
-Qt::CaseSensitivity caseOf(Use use)
+Qt::CaseSensitivity caseIn(NameIn place)
 {
-    return use == Use::Tree ? Qt::CaseSensitive : Qt::CaseInsensitive;
+    return place == NameIn::Tree ? Qt::CaseSensitive : Qt::CaseInsensitive;
 }
 
 QString translated(const char *text)
@@ -103,49 +101,26 @@ QString translated(const char *text)
     return QCoreApplication::translate("AttributeCatalogue", text);
 }
 
-QString ataName(const QString &key, quint32 id, Use use)
+} // namespace
+
+QString ataName(const QString &key, quint32 id, NameIn place)
 {
     for (const AtaName &row : AtaNames) {
-        if (row.use != Use::Both && row.use != use)
+        if (row.only.value_or(place) != place || (row.id != 0 && row.id != id))
             continue;
-        if (row.id != 0 && row.id != id)
-            continue;
-        if (key.contains(QLatin1String(row.word ? row.word : row.text), caseOf(use)))
+        if (key.contains(QLatin1String(row.word ? row.word : row.text), caseIn(place)))
             return row.text ? translated(row.text) : key;
     }
     return key;
 }
 
-QString nvmeName(const QString &name, Use use)
+QString nvmeName(const QString &name, NameIn place)
 {
     for (const NvmeName &row : NvmeNames) {
-        const char *word = use == Use::Report && row.reportWord ? row.reportWord : row.text;
-        if (!name.contains(QLatin1String(word), caseOf(use)))
-            continue;
-        if (!row.without || !name.contains(QLatin1String(row.without), caseOf(use)))
+        const char *word = place == NameIn::Report && row.reportWord ? row.reportWord : row.text;
+        if (name.contains(QLatin1String(word), caseIn(place)) &&
+            !(row.without && name.contains(QLatin1String(row.without), caseIn(place))))
             return translated(row.text);
     }
     return name;
-}
-
-} // namespace
-
-QString ataDisplayName(const QString &key, quint32 id)
-{
-    return ataName(key, id, Use::Tree);
-}
-
-QString nvmeDisplayName(const QString &reportName)
-{
-    return nvmeName(reportName, Use::Tree);
-}
-
-QString ataReportName(const QString &key, quint32 id)
-{
-    return ataName(key, id, Use::Report);
-}
-
-QString nvmeReportName(const QString &reportName)
-{
-    return nvmeName(reportName, Use::Report);
 }

@@ -6,10 +6,9 @@
 /// The names under which attributes are shown, in the language that is loaded. A name that the catalogue does
 /// not know is returned as it came.
 
-/// Name in the attribute tree. `key` is the one of keyOf(); case counts.
-QString ataDisplayName(const QString &key, quint32 id);
-QString nvmeDisplayName(const QString &reportName);
+/// Where a name is shown. The lists of the two differ in a few rows, and in the tree alone case counts.
+enum class NameIn { Tree, Report };
 
-/// Name in the printed report. Case does not count.
-QString ataReportName(const QString &key, quint32 id);
-QString nvmeReportName(const QString &reportName);
+/// `key` is SmartAttributeRecord::key().
+QString ataName(const QString &key, quint32 id, NameIn place);
+QString nvmeName(const QString &reportName, NameIn place);

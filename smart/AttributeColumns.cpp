@@ -8,9 +8,9 @@
 namespace attributecolumns
 {
 
-const std::vector<Column> &columns(bool nvme)
+const std::array<Column, Count> &columns(bool nvme)
 {
-    static const std::vector<Column> ata = {
+    static constexpr std::array<Column, Count> ata = {{
         {QT_TRANSLATE_NOOP("SmartStatus", "     ID"), 55, false},
         {QT_TRANSLATE_NOOP("SmartStatus", "Attribute Name"), 150, false},
         {QT_TRANSLATE_NOOP("SmartStatus", "Status"), 90, false},
@@ -23,22 +23,14 @@ const std::vector<Column> &columns(bool nvme)
         {QT_TRANSLATE_NOOP("SmartStatus", "Failed"), 100, true},
         {QT_TRANSLATE_NOOP("SmartStatus", "Raw Value"), 100, true},
         {QT_TRANSLATE_NOOP("SmartStatus", "Better"), 100, true},
-        {QT_TRANSLATE_NOOP("SmartStatus", "Overall Status"), 0, true},
-    };
-    static const std::vector<Column> nvmeColumns = {
+        {QT_TRANSLATE_NOOP("SmartStatus", "Overall Status")},
+    }};
+    static constexpr std::array<Column, Count> nvmeColumns = {{
         {QT_TRANSLATE_NOOP("SmartStatus", "     ID"), 55, false},
         {QT_TRANSLATE_NOOP("SmartStatus", "Attribute Name"), 300, false},
         {QT_TRANSLATE_NOOP("SmartStatus", "Values"), 90, false},
-        {QT_TRANSLATE_NOOP("SmartStatus", "AttName"), 0, true},
-        {nullptr, 0, true},
-        {nullptr, 0, true},
-        {nullptr, 0, true},
-        {nullptr, 0, true},
-        {nullptr, 0, true},
-        {nullptr, 0, true},
-        {nullptr, 0, true},
-        {nullptr, 0, true},
-    };
+        {QT_TRANSLATE_NOOP("SmartStatus", "AttName")},
+    }};
     return nvme ? nvmeColumns : ata;
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <vector>
+#include <array>
 
 /// The columns of the attribute tree.
 namespace attributecolumns
@@ -10,13 +10,13 @@ namespace attributecolumns
 constexpr int Count = 12;
 
 struct Column {
-    const char *header; ///< context SmartStatus; null: keeps what it has
-    int width;          ///< 0: as it comes
-    bool hidden;
+    const char *header = nullptr; ///< context SmartStatus; null: keeps what it has
+    int width = 0;                ///< 0: as it comes
+    bool hidden = true;
 };
 
 /// All columns for the reports of NVMe disks or those of all others.
-const std::vector<Column> &columns(bool nvme);
+const std::array<Column, Count> &columns(bool nvme);
 
 /// Width of a column in pixels, 0 where it has none of its own. Those of NVMe disks do not follow the scale.
 int width(const Column &column, bool nvme, int scalePercent);

@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "smart/AttributeGraph.h"
 
+#include "smart/TextCuts.h"
+
+#include <QLocale>
+#include <QStringList>
+
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <limits>
 
@@ -27,72 +31,51 @@ struct Axis {
     bool divideHigh = false;
 };
 
+/// The axis of a key, by whether the highest value has few digits.
 struct AxisRule {
-    const char *word;
-    Axis small;
-    Axis other;
-    const char *without = nullptr;
+    QStringList words; ///< the key holds one of them; none: any key
+    Axis small{3};
+    Axis other{6};
+    const char *without = nullptr; ///< the key must not hold it
 };
 
-constexpr Axis Three{3};
-constexpr Axis Six{6};
 constexpr Axis FromZero{6, Low::Zero};
 
-/// The first word that a key contains decides, so the order counts.
-constexpr std::array<AxisRule, 32> AtaRules = {{
-    {"Raw Read Error Rate", Three, Six},
-    {"Spin Up Time", Three, Six},
-    {"Start Stop Count", Three, Six},
-    {"Reallocated Sector Ct", Three, Six},
-    {"Reallocated Sector Count", Three, Six},
-    {"Seek Error Rate", Three, Six},
-    {"Power On Hours", Six, Six},
-    {"Spin Retry Count", Three, Six},
-    {"Calibration Retry Count", Three, Six},
-    {"Power Cycle Count", {3, Low::OneLess}, Six},
-    {"Power-Off Retract Count", Six, Six},
-    {"Load Cycle Count", {6, Low::SixLess}, Six},
-    {"Temperature Celsius", FromZero, Six},
-    {"Reallocated Event Count", Three, Six},
-    {"Current Pending Sector", Three, Six},
-    {"Offline Uncorrectable", Three, Six},
-    {"UDMA CRC Error Count", Three, Six},
-    {"Runtime Bad Block", Three, Six},
-    {"Multi Zone Error Rate", Three, Six},
-    {"Soft Read Error Rate", Three, Six},
-    {"End-to-End Error", Three, Six},
-    {"Reported Uncorrect", Three, Six},
-    {"Command Timeout", Three, Six},
-    {"High Fly Writes", Three, Six},
-    {"Airflow Temperature Cel", FromZero, Six},
-    {"G-Sense Error Rate", Three, Six},
-    {"Hardware ECC Recovered", Three, FromZero},
-    {"Write Error Rate", Three, Six},
-    {"Head Flying Hours", {4}, Six},
-    {"Total LBAs Written", Three, {6, Low::Zero, true}},
-    {"Total LBAs Read", Three, {6, Low::Zero, true}},
-    {"Free Fall Event Count", Three, Six},
-}};
-constexpr Axis AtaOther{TicksByDays};
-
-constexpr std::array<AxisRule, 15> NvmeRules = {{
-    {"Power Cycles", {3, Low::OneLess}, Six},
-    {"Critical Warning", Three, Six},
-    {"Temperature", Three, Six},
-    {"Available Spare", Three, Six, "Threshold"},
-    {"Available Spare Threshold", Three, Six},
-    {"Percentage Used", Three, Six},
-    {"Data Units Read", Three, Six},
-    {"Data Units Written", Three, Six},
-    {"Host Read Commands", Three, Six},
-    {"Host Write Commands", Three, Six},
-    {"Controller Busy Time", Three, Six},
-    {"Power On Hours", Three, Six},
-    {"Unsafe Shutdowns", Three, Six},
-    {"Media and Data Integrity Errors", Three, Six},
-    {"Error Information Log Entries", Three, Six},
-}};
-constexpr Axis NvmeOther{0};
+/// The first rule that fits decides.
+const std::vector<AxisRule> &axisRules(GraphKind kind)
+{
+    static const std::vector<AxisRule> ata = {
+        {{"Raw Read Error Rate", "Spin Up Time", "Start Stop Count", "Reallocated Sector Ct",
+          "Reallocated Sector Count", "Seek Error Rate"}},
+        {{"Power On Hours"}, {6}},
+        {{"Spin Retry Count", "Calibration Retry Count"}},
+        {{"Power Cycle Count"}, {3, Low::OneLess}},
+        {{"Power-Off Retract Count"}, {6}},
+        {{"Load Cycle Count"}, {6, Low::SixLess}},
+        {{"Temperature Celsius"}, FromZero},
+        {{"Reallocated Event Count", "Current Pending Sector", "Offline Uncorrectable",
+          "UDMA CRC Error Count", "Runtime Bad Block", "Multi Zone Error Rate", "Soft Read Error Rate",
+          "End-to-End Error", "Reported Uncorrect", "Command Timeout", "High Fly Writes"}},
+        {{"Airflow Temperature Cel"}, FromZero},
+        {{"G-Sense Error Rate"}},
+        {{"Hardware ECC Recovered"}, {3}, FromZero},
+        {{"Write Error Rate"}},
+        {{"Head Flying Hours"}, {4}},
+        {{"Total LBAs Written", "Total LBAs Read"}, {3}, {6, Low::Zero, true}},
+        {{"Free Fall Event Count"}},
+        {{}, {TicksByDays}, {TicksByDays}},
+    };
+    static const std::vector<AxisRule> nvme = {
+        {{"Power Cycles"}, {3, Low::OneLess}},
+        {{"Critical Warning", "Temperature", "Available Spare Threshold", "Percentage Used",
+          "Data Units Read", "Data Units Written", "Host Read Commands", "Host Write Commands",
+          "Controller Busy Time", "Power On Hours", "Unsafe Shutdowns", "Media and Data Integrity Errors",
+          "Error Information Log Entries"}},
+        {{"Available Spare"}, {3}, {6}, "Threshold"},
+        {{}, {0}, {0}},
+    };
+    return kind == GraphKind::Ata ? ata : nvme;
+}
 
 int digitsOf(qint64 value)
 {
@@ -102,20 +85,14 @@ int digitsOf(qint64 value)
     return digits;
 }
 
-bool fits(const AxisRule &rule, const QString &key)
+const Axis &axisOf(GraphKind kind, const QString &key, bool small)
 {
-    return key.contains(QLatin1String(rule.word)) &&
-           !(rule.without && key.contains(QLatin1String(rule.without)));
-}
-
-template<std::size_t Count>
-Axis axisOf(const std::array<AxisRule, Count> &rules, const Axis &fallback, const QString &key, bool small)
-{
-    const auto rule =
-        std::find_if(rules.begin(), rules.end(), [&](const AxisRule &each) { return fits(each, key); });
-    if (rule == rules.end())
-        return fallback;
-    return small ? rule->small : rule->other;
+    for (const AxisRule &rule : axisRules(kind)) {
+        if ((rule.words.isEmpty() || cuts::holdsOneOf(key, rule.words)) &&
+            !(rule.without && key.contains(QLatin1String(rule.without))))
+            return small ? rule.small : rule.other;
+    }
+    Q_UNREACHABLE();
 }
 
 qint64 lowered(qint64 low, Low change)
@@ -135,11 +112,11 @@ qint64 lowered(qint64 low, Low change)
 
 bool isDivided(GraphKind kind, const QString &key)
 {
-    return kind == GraphKind::Ata && (key.contains(QLatin1String("Total LBAs Written")) ||
-                                      key.contains(QLatin1String("Total LBAs Read")));
+    return kind == GraphKind::Ata && cuts::holdsOneOf(key, {"Total LBAs Written", "Total LBAs Read"});
 }
 
-/// The chart takes ends for equal that differ by no more of their size, and draws nothing then.
+/// The chart takes two ends for one where they differ by less than this part of their size. It draws nothing
+/// then.
 bool tooCloseToDraw(qint64 low, qint64 high)
 {
     constexpr double Least = 2e-12;
@@ -147,7 +124,7 @@ bool tooCloseToDraw(qint64 low, qint64 high)
     return width < Least * std::max(std::abs(static_cast<double>(low)), std::abs(static_cast<double>(high)));
 }
 
-/// value + step, also where the sum does not fit a number of 64 bits. Steps are small, and the value is not.
+/// value + step, also where the sum does not fit 64 bits. The step is small against the value.
 QString sumText(qint64 value, qint64 step)
 {
     const quint64 by = static_cast<quint64>(step);
@@ -157,7 +134,7 @@ QString sumText(qint64 value, qint64 step)
     return QLatin1Char('-') + QString::number(magnitude - by);
 }
 
-/// From base + first to base + last. Three have room for as many digits.
+/// From base + first to base + last. There is no room for more than three numbers of that length.
 std::vector<QString> labelsBetween(qint64 base, qint64 first, qint64 last)
 {
     return {sumText(base, first), sumText(base, first + (last - first) / 2), sumText(base, last)};
@@ -190,13 +167,12 @@ GraphModel singleDay(qint64 value, const QDate &today)
     return model;
 }
 
-/// Returns the number that stands at 0 of the axis.
+/// Sets the Y axis of the model. Returns the value that its 0 stands for.
 qint64 setYAxis(GraphModel &model, GraphKind kind, const QString &key, const std::vector<qint64> &values)
 {
     const auto [lowest, highest] = std::minmax_element(values.begin(), values.end());
     const bool small = digitsOf(*highest) <= SmallDigits;
-    const Axis axis = kind == GraphKind::Ata ? axisOf(AtaRules, AtaOther, key, small)
-                                             : axisOf(NvmeRules, NvmeOther, key, small);
+    const Axis &axis = axisOf(kind, key, small);
     const qint64 low = lowered(*lowest, axis.low);
     const qint64 high = axis.divideHigh ? *highest / Divisor : *highest;
     const int margin = low == high ? 1 : 0;
@@ -226,7 +202,7 @@ GraphModel manyDays(GraphKind kind, const QString &key, const std::vector<QStrin
         line.points.push_back({x, static_cast<double>(divided && large ? value / Divisor : value - base)});
         x += DayStep;
     }
-    // Holds the line out to the right edge.
+    // The line goes on to the right edge.
     line.points.push_back({x, line.points.back().y});
     model.series = {line};
     model.xMax = 100;
@@ -240,16 +216,11 @@ GraphModel manyDays(GraphKind kind, const QString &key, const std::vector<QStrin
 
 QString dayLabel(const QString &date)
 {
-    static const std::array<QString, 12> months = {
-        QStringLiteral("-Jan"), QStringLiteral("-Feb"), QStringLiteral("-Mar"), QStringLiteral("-Apr"),
-        QStringLiteral("-May"), QStringLiteral("-Jun"), QStringLiteral("-Jul"), QStringLiteral("-Aug"),
-        QStringLiteral("-Sep"), QStringLiteral("-Oct"), QStringLiteral("-Nov"), QStringLiteral("-Dec")};
     const QString digits = date.mid(3, 2);
-    for (std::size_t month = 0; month < months.size(); ++month) {
-        if (digits == QStringLiteral("%1").arg(month + 1, 2, 10, QLatin1Char('0')))
-            return date.left(2) + months.at(month);
-    }
-    return date.left(2);
+    const int month = digits.toInt();
+    if (month < 1 || month > 12 || digits != QStringLiteral("%1").arg(month, 2, 10, QLatin1Char('0')))
+        return date.left(2);
+    return date.left(2) + QLatin1Char('-') + QLocale::c().monthName(month, QLocale::ShortFormat);
 }
 
 std::optional<GraphModel> graphModel(GraphKind kind, const QString &key, const std::vector<QString> &dates,

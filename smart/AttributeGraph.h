@@ -31,8 +31,8 @@ struct GraphModel {
     double yMin = 0;
     double yMax = 0;
     int yTicks = 0; ///< 0: the axis keeps its default
-    /// The numbers beside the Y axis, evenly apart, where they are too large and too close to each other for
-    /// the chart to tell them apart; the points and the axis count from a value among them then. Else empty.
+    /// The numbers beside the Y axis, evenly apart, where the chart cannot tell the values apart because they
+    /// are large and close to each other. Points and axis then count from one of them. Else empty.
     std::vector<QString> yLabels;
     std::vector<QString> labels; ///< of the days, oldest first
     double labelEnd = 0;         ///< where the one label of a single day ends on the hidden axis

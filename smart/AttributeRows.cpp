@@ -2,7 +2,6 @@
 #include "smart/AttributeRows.h"
 
 #include "smart/AttributeCatalogue.h"
-#include "smart/AttributeKey.h"
 #include "smart/TextCuts.h"
 
 #include <QCoreApplication>
@@ -11,7 +10,7 @@
 namespace
 {
 
-constexpr std::uint32_t TemperatureId = 194;
+constexpr quint32 TemperatureId = 194;
 constexpr int HotCelsius = 50;
 constexpr int RawColumn = 6;
 
@@ -26,57 +25,43 @@ QString statusText(bool failed)
                   : QCoreApplication::translate("AttributeRows", "OK");
 }
 
-/// Goes by the name on show, so a language without these words shows no red.
-bool countsBadSectors(const QString &displayName)
+/// A key that is not in `taken`, which holds those of the rows before: of rows with one name the later ones
+/// have their ID behind it.
+QString ownKey(QSet<QString> *taken, QString key, const QString &id)
 {
-    return displayName.contains(QLatin1String("Sector Ct")) ||
-           displayName.contains(QLatin1String("Sector Count"));
+    while (taken->contains(key))
+        key += QLatin1Char(' ') + id;
+    taken->insert(key);
+    return key;
 }
 
-/// The keys of one table, each once: of rows with one name the later ones have their ID behind it.
-class Keys
-{
-public:
-    QString own(QString key, const QString &id)
-    {
-        while (m_taken.contains(key))
-            key += QLatin1Char(' ') + id;
-        m_taken.insert(key);
-        return key;
-    }
-
-private:
-    QSet<QString> m_taken;
-};
-
-AttributeRow ataRow(const SmartAttributeRecord &record, Keys &keys)
+AttributeRow ataRow(const SmartAttributeRecord &record, QSet<QString> *taken)
 {
     AttributeRow row;
-    const QString name = keyOf(record.AttributeName.text());
-    row.key = keys.own(name, QString::number(record.Id));
+    const QString name = record.key();
+    row.key = ownKey(taken, name, QString::number(record.Id));
     row.historyValue = record.RawValue.text();
-    const QString display = ataDisplayName(name, record.Id);
     row.cells = {QString::number(record.Id),
-                 display,
+                 ataName(name, record.Id, NameIn::Tree),
                  statusText(attributeFailed(record)),
                  QString::number(record.Value),
                  QString::number(record.Worst),
                  QString::number(record.Threshold),
                  row.historyValue,
                  row.key};
-    if (countsBadSectors(display) && row.historyValue.toLongLong() > 0)
+    if (redInTree(name, row.historyValue))
         row.redCell = RawColumn;
     return row;
 }
 
-AttributeRow nvmeRow(const NvmeAttributeRecord &record, const QString &number, Keys &keys)
+AttributeRow nvmeRow(const NvmeAttributeRecord &record, const QString &number, QSet<QString> *taken)
 {
     AttributeRow row;
     const QString name = record.Name.text();
-    row.key = keys.own(name, number);
+    row.key = ownKey(taken, name, number);
     const QString value = record.Value.text().trimmed();
     row.historyValue = cleanedNvmeValue(value);
-    row.cells = {number, nvmeDisplayName(name), value, row.key};
+    row.cells = {number, nvmeName(name, NameIn::Tree), value, row.key};
     return row;
 }
 
@@ -85,18 +70,18 @@ AttributeRow nvmeRow(const NvmeAttributeRecord &record, const QString &number, K
 std::vector<AttributeRow> ataRows(const SmartAttributeList &rows)
 {
     std::vector<AttributeRow> shown;
-    Keys keys;
+    QSet<QString> taken;
     for (const SmartAttributeRecord &record : rows)
-        shown.push_back(ataRow(record, keys));
+        shown.push_back(ataRow(record, &taken));
     return shown;
 }
 
 std::vector<AttributeRow> nvmeRows(const NvmeAttributeList &rows)
 {
     std::vector<AttributeRow> shown;
-    Keys keys;
+    QSet<QString> taken;
     for (const NvmeAttributeRecord &record : rows)
-        shown.push_back(nvmeRow(record, QString::number(shown.size()), keys));
+        shown.push_back(nvmeRow(record, QString::number(shown.size()), &taken));
     return shown;
 }
 
@@ -108,6 +93,20 @@ bool attributeFailed(const SmartAttributeRecord &record)
 bool reportStatusFailed(const SmartAttributeRecord &record)
 {
     return record.Id == TemperatureId ? tooHot(record) : record.Value < record.Threshold;
+}
+
+bool redInTree(const QString &key, const QString &raw)
+{
+    return raw.toLongLong() > 0 &&
+           cuts::holdsOneOf(key, {"Sector Ct", "Sector Count", "Current Pending Sector"});
+}
+
+bool redInReport(const QString &key, const QString &raw)
+{
+    return raw.toLongLong() > 0 &&
+           cuts::holdsOneOf(key,
+                            {"Current Pending Sector", "Reallocated Sector Count", "Reallocated Sector Ct"},
+                            Qt::CaseInsensitive);
 }
 
 QString cleanedNvmeValue(const QString &value)

@@ -28,6 +28,11 @@ bool attributeFailed(const SmartAttributeRecord &record);
 /// Status in the printed report, which differs: a value equal to its threshold is still good.
 bool reportStatusFailed(const SmartAttributeRecord &record);
 
+/// Whether the raw value is red: sectors that are bad or about to be. The printed report knows fewer keys, in
+/// any case of letters. The key is in no language, so both hold in every one.
+bool redInTree(const QString &key, const QString &raw);
+bool redInReport(const QString &key, const QString &raw);
+
 /// The number of an NVMe value without grouping, unit and remarks: "1,234,567 [632 GB]" gives "1234567", with
 /// whatever stands between the groups.
 QString cleanedNvmeValue(const QString &value);

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "smart/DiskFigures.h"
 
+#include "platform/Log.h"
 #include "smart/ReportParser.h"
+#include "smart/SelfTestText.h"
 #include "smart/SmartGlobals.h"
 #include "state/GlobalApp.h"
 #include "state/Globals.h"
@@ -42,11 +44,9 @@ bool takeUpDisk(int disk)
     g_App.m_bNVMe = false;
     g_smartTable = {};
     g_nvmeTable = {};
-    for (int *number : {&g_nHealthPercent, &g_nPerformancePercent, &g_nPowerOnDays, &g_nPowerOnRestHours,
-                        &g_nStartStopCount})
-        *number = 0;
-    g_nDiskLifeDays = 0;
-    g_bHealthKnown = true;
+    g_nHealthPercent = 0;
+    g_nPerformancePercent = 0;
+    g_lifeFigures = {};
     g_driveVerdict = DriveVerdict::NotTold;
     for (QString *text : {&g_strHealthText, &g_strPerformanceText, &g_strTemperatureText, &g_strInterface,
                           &g_strAtaVersion, &g_strGraphTitle, &g_strLastTestType, &g_strLastTestResult})
@@ -63,7 +63,10 @@ void publish(const LoadedReport &loaded)
 void takeReportIn(const QString &path)
 {
     g_App.m_bNVMe = DetectReportKind(path).value_or(g_App.m_bNVMe);
-    if (auto report = ParseSmartReport(path, g_App.m_bNVMe))
+    auto report = ParseSmartReport(path, g_App.m_bNVMe);
+    if (!report || (report->ata.rows.isEmpty() && report->log.rows.isEmpty()))
+        qCDebug(logs::smart) << (report ? "a report without attributes" : "no report is there");
+    if (report)
         publish(std::move(*report));
 }
 
@@ -89,24 +92,26 @@ void ratePerformance()
     g_strPerformanceText = percentText(g_nPerformancePercent);
 }
 
-LifeFigures storedLifeFigures()
-{
-    return {g_nDiskLifeDays, g_nPowerOnDays, g_nPowerOnRestHours, g_nStartStopCount, g_bHealthKnown};
-}
-
 void updateLifeFigures()
 {
-    LifeFigures figures = storedLifeFigures();
     for (const SmartAttributeRecord &row : g_smartTable.rows)
-        takeLifeRow(figures, row, g_nHealthPercent);
-    g_nDiskLifeDays = figures.nDiskLifeDays;
-    g_nPowerOnDays = figures.nPowerOnDays;
-    g_nPowerOnRestHours = figures.nPowerOnRestHours;
-    g_nStartStopCount = figures.nStartStopCount;
+        takeLifeRow(g_lifeFigures, row, g_nHealthPercent);
 }
 
-void publish(const PreviousTest &test)
+QString serialOfGraph()
 {
+    const WmicDiskRecord *record =
+        g_strSerialNumber.isEmpty()
+            ? findWmicDisk(static_cast<quint32>(PhysicalDriveBase + g_nCurrentDiskIndex))
+            : nullptr;
+    return record ? record->szSmartSerial.text() : g_strSerialNumber;
+}
+
+void ReadPreviousTest(const QString &device)
+{
+    selftest::PreviousTest test;
+    readTool(ToolPurpose::SelfTestLog, device,
+             [&test](QTextStream &log) { test = selftest::newestTest(log); });
     if (!test.type.isNull())
         g_strLastTestType = test.type;
     if (!test.result.isNull())

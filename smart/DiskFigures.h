@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "smart/PreviousTest.h"
 #include "smart/Rating.h"
 #include "smart/ToolInvocation.h"
 
@@ -28,9 +27,12 @@ void RefreshTemperatureReport(int diskIndex);
 void rateHealth();
 void ratePerformance();
 
-/// The figures in the globals, and taking all rows of the ATA table into them.
-LifeFigures storedLifeFigures();
+/// Takes all rows of the ATA table into the figures of life.
 void updateLifeFigures();
 
-/// What the log does not tell stays.
-void publish(const PreviousTest &test);
+/// The serial number whose history is drawn: the report's or, where it tells none, that of the disk table.
+QString serialOfGraph();
+
+/// Has the report tool tell the self-tests of the disk of that device string, and takes the newest. What the
+/// log does not tell stays. Blocks.
+void ReadPreviousTest(const QString &device);

@@ -12,9 +12,9 @@ enum class DriveVerdict { NotTold, Passed, Failed };
 /// where the line is missing or says neither.
 DriveVerdict readVerdictLine(QTextStream &stream);
 
-/// `line` is what readVerdictLine() found. An attribute that is failing now and by which the drive foretells
-/// its end makes it Failed as well; one of old age, or one that failed in the past, does not.
+/// `line` is what readVerdictLine() found. A "Pre-fail" attribute that is "FAILING_NOW" makes it Failed, too.
+/// One of old age, or one that failed in the past, does not.
 DriveVerdict ataVerdict(DriveVerdict line, const SmartAttributeList &rows);
 
-/// Any bit of the critical warning but that of heat is a failure. The line says "FAILED!" of heat, too.
+/// Any bit of the critical warning is a failure, except that of heat, of which the line says "FAILED!", too.
 DriveVerdict nvmeVerdict(DriveVerdict line, const NvmeAttributeList &rows);

@@ -3,9 +3,9 @@
 
 #include <array>
 
-/// Where the health of an ATA drive begins that does not count reallocated sectors by their usual name. Names
-/// are whole, as the report has them: "Initial_Bad_Block_Count" and its like count what left the factory bad.
-/// Of the rows of a table the one named first here is taken.
+/// The rows with which the health of an ATA drive begins that has no row of reallocated sectors. A name has
+/// to match as a whole: "Initial_Bad_Block_Count" and its like count what was bad in the new drive. Where a
+/// table has several of these rows, the one that stands first here counts.
 namespace healthcatalogue
 {
 

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "smart/Rating.h"
 
-#include "smart/AttributeKey.h"
 #include "smart/HealthCatalogue.h"
+#include "smart/TextCuts.h"
+#include "state/Scale.h"
 
 #include <QCoreApplication>
 
@@ -14,13 +15,6 @@ namespace
 {
 
 constexpr quint32 ExpectedLifeDays = 5 * 365;
-
-/// 100 less the damage. A raw value is of 32 bits; differences and products are taken in 64, as a huge count
-/// must not wrap to a good rating.
-float rest(qint64 damage)
-{
-    return static_cast<float>(FullPercent - damage);
-}
 
 /// Truncates; what is out of range goes to its end, no number to 0.
 template<typename Integer>
@@ -36,58 +30,34 @@ Integer truncated(double value)
     return static_cast<Integer>(value);
 }
 
-float scaledBy(float health, float percent)
-{
-    return health * percent / 100.0F;
-}
-
-float byReallocatedSectors(float, qint32 raw)
-{
-    return raw <= 70 ? rest(raw) : 30.0F;
-}
-
-float bySpinRetries(float health, qint32 raw)
-{
-    const qint64 damage = qint64(raw) * 3;
-    return scaledBy(health, damage <= 60 ? rest(damage) : 40.0F);
-}
-
-float byEvents(float health, qint32 raw, int limit, float floorPercent)
-{
-    const float damage = static_cast<float>(raw) * 0.6F;
-    return scaledBy(health,
-                    truncated<qint32>(static_cast<double>(damage)) <= limit ? 100.0F - damage : floorPercent);
-}
-
-float byReallocationEvents(float health, qint32 raw)
-{
-    return byEvents(health, raw, 30, 70.0F);
-}
-
-float byPendingSectors(float health, qint32 raw)
-{
-    return byEvents(health, raw, 48, 52.0F);
-}
-
-float byUncorrectable(float health, qint32 raw)
-{
-    return scaledBy(health, raw <= 70 ? rest(raw) : 30.0F);
-}
-
+/// What a row's raw value leaves of the health: 100 % less its damage, or the floor where that is above the
+/// limit. A float holds any product of a raw value, so that a huge count does not wrap to a good rating.
 struct HealthRule {
     const char *name;
-    float (*apply)(float health, qint32 raw);
+    float damagePerUnit;
+    int limit; ///< of the damage, truncated
+    float floorPercent;
+    bool isBase = false; ///< sets the health, whatever it was; the others scale it
 };
 
 /// The first name that an attribute contains decides.
 constexpr std::array<HealthRule, 6> HealthRules = {{
-    {"Reallocated_Sector_Ct", byReallocatedSectors},
-    {"Reallocated_Sector_Count", byReallocatedSectors},
-    {"Spin_Retry_Count", bySpinRetries},
-    {"Reallocated_Event_Count", byReallocationEvents},
-    {"Current_Pending_Sector", byPendingSectors},
-    {"Offline_Uncorrectable", byUncorrectable},
+    {"Reallocated_Sector_Ct", 1, 70, 30, true},
+    {"Reallocated_Sector_Count", 1, 70, 30, true},
+    {"Spin_Retry_Count", 3, 60, 40},
+    {"Reallocated_Event_Count", 0.6F, 30, 70},
+    {"Current_Pending_Sector", 0.6F, 48, 52},
+    {"Offline_Uncorrectable", 1, 70, 30},
 }};
+
+/// A raw number that does not fit 32 bits reads as 0, a perfect one.
+float healthBy(const HealthRule &rule, float health, const SmartAttributeRecord &row)
+{
+    const float damage = static_cast<float>(row.RawValue.text().toInt()) * rule.damagePerUnit;
+    const bool within = truncated<qint32>(static_cast<double>(damage)) <= rule.limit;
+    const float percent = within ? 100.0F - damage : rule.floorPercent;
+    return rule.isBase ? percent : health * percent / 100.0F;
+}
 
 /// Null for a row without a rule.
 const HealthRule *ruleOf(const SmartAttributeRecord &row)
@@ -98,21 +68,6 @@ const HealthRule *ruleOf(const SmartAttributeRecord &row)
             return &rule;
     }
     return nullptr;
-}
-
-bool containsAny(const QString &text, std::initializer_list<const char *> words)
-{
-    for (const char *word : words) {
-        if (text.contains(QLatin1String(word)))
-            return true;
-    }
-    return false;
-}
-
-/// A number that does not fit 32 bits reads as 0, a perfect one.
-qint32 rawOf(const SmartAttributeRecord &row)
-{
-    return row.RawValue.text().toInt();
 }
 
 /// The row whose name comes first in the list of names.
@@ -129,17 +84,17 @@ const SmartAttributeRecord *firstNamed(const SmartAttributeList &rows, const Nam
     return nullptr;
 }
 
-/// What the rules begin with: nothing ahead of the base, which assigns, else the row that stands for it.
+/// What the rules begin with: 0 where there is a base, which sets the health, else the row in its place.
 std::optional<float> startOfHealth(const SmartAttributeList &rows)
 {
     const auto isBase = [](const SmartAttributeRecord &row) {
         const HealthRule *rule = ruleOf(row);
-        return rule && rule->apply == byReallocatedSectors;
+        return rule && rule->isBase;
     };
     if (rows.find(isBase))
         return 0.0F;
     if (const SmartAttributeRecord *blocks = firstNamed(rows, healthcatalogue::BlockRows))
-        return byReallocatedSectors(0.0F, rawOf(*blocks));
+        return healthBy(HealthRules.front(), 0.0F, *blocks);
     if (const SmartAttributeRecord *life = firstNamed(rows, healthcatalogue::LifeRows))
         return static_cast<float>(qMin<quint32>(life->Value, FullPercent));
     return std::nullopt;
@@ -157,7 +112,7 @@ std::optional<int> healthOfAta(const SmartAttributeList &rows)
     float health = *start;
     for (const SmartAttributeRecord &row : rows) {
         if (const HealthRule *rule = ruleOf(row))
-            health = rule->apply(health, rawOf(row));
+            health = healthBy(*rule, health, row);
     }
     return qMin(truncated<int>(static_cast<double>(health) + 0.5), FullPercent);
 }
@@ -178,9 +133,9 @@ std::optional<int> healthOfNvme(const NvmeAttributeList &rows)
 
 int performanceOf(const QString &ataVersion)
 {
-    if (containsAny(ataVersion, {"ATA8", "ATA7", "ATA6", "ATA5", "ATA4", "ATA3"}))
+    if (cuts::holdsOneOf(ataVersion, {"ATA8", "ATA7", "ATA6", "ATA5", "ATA4", "ATA3"}))
         return 100;
-    return containsAny(ataVersion, {"ATA2", "ATA1"}) ? 50 : 100;
+    return cuts::holdsOneOf(ataVersion, {"ATA2", "ATA1"}) ? 50 : 100;
 }
 
 TilePicture healthPicture(std::optional<int> percent, int scalePercent)
@@ -223,9 +178,9 @@ quint32 diskLifeDays(int powerOnDays, int healthPercent)
 
 void takeLifeRow(LifeFigures &figures, const SmartAttributeRecord &row, int healthPercent)
 {
-    const QString key = keyOf(row.AttributeName.text());
+    const QString key = row.key();
     const QString raw = row.RawValue.text();
-    if (containsAny(key, {"Power On Hours", "Power On Half Minutes"})) {
+    if (cuts::holdsOneOf(key, {"Power On Hours", "Power On Half Minutes"})) {
         const int hours = raw.left(raw.indexOf(QLatin1Char('h'))).toInt();
         figures.nPowerOnRestHours = hours % 24;
         figures.nPowerOnDays = hours / 24;

@@ -16,24 +16,26 @@ namespace
 {
 
 const QString AtaSection = QStringLiteral("START OF READ SMART DATA SECTION");
-const QString NvmeSection = QStringLiteral("SMART/Health Information (NVMe Log");
 const QString Passed = QStringLiteral("PASSED");
+
+/// Words of the header line. The tool writes them in no other language; the translations hold exact copies.
+const QString NvmeSection =
+    QStringLiteral(QT_TRANSLATE_NOOP("MainWindow", "SMART/Health Information (NVMe Log"));
+const QStringList AtaHeaders = {
+    QT_TRANSLATE_NOOP("MainWindow", "ID#"), QT_TRANSLATE_NOOP("MainWindow", "ATTRIBUTE_NAME"),
+    QT_TRANSLATE_NOOP("MainWindow", "FLAG"), QT_TRANSLATE_NOOP("MainWindow", "VALUE")};
 
 /// A line that a report is searched for, and what becomes of it in a drive's identity.
 template<typename Drive>
 struct LineRule {
     enum Place { Anywhere, AtStart };
     Place place;
-    QStringList markers; ///< one of them is enough
-    void (*take)(Drive &seen, const QString &line);
+    QStringList markers; ///< one of them is enough; at the start only the first counts
+    void (*take)(Drive &seen, const QString &line); ///< null: nothing becomes of it
 
     bool holds(const QString &line) const
     {
-        for (const QString &marker : markers) {
-            if (place == AtStart ? line.startsWith(marker) : line.contains(marker))
-                return true;
-        }
-        return false;
+        return place == AtStart ? line.startsWith(markers.first()) : cuts::holdsOneOf(line, markers);
     }
 };
 
@@ -43,7 +45,8 @@ void applyRules(const QVector<LineRule<Drive>> &rules, Drive &seen, const QStrin
 {
     for (const LineRule<Drive> &rule : rules) {
         if (rule.holds(line)) {
-            rule.take(seen, line);
+            if (rule.take)
+                rule.take(seen, line);
             return;
         }
     }
@@ -65,54 +68,48 @@ QString valueOf(const QString &line)
     return cuts::lastPart(line, QStringLiteral(":"));
 }
 
-/// The value behind the line's last colon, into a field.
-template<auto Field, typename Drive>
-void takeValue(Drive &seen, const QString &line)
+QString inBrackets(const QString &line)
 {
-    put(seen.*Field, valueOf(line));
-}
-
-/// The amount in brackets, into a field.
-template<auto Field, typename Drive>
-void takeBracketed(Drive &seen, const QString &line)
-{
-    (seen.*Field).assign(cuts::lastPart(line, QStringLiteral("[")).remove(QLatin1Char(']')));
+    return cuts::lastPart(line, QStringLiteral("[")).remove(QLatin1Char(']'));
 }
 
 /// The time keeps its colons.
-template<typename Drive>
-void takeLocalTime(Drive &seen, const QString &line)
+QString localTime(const QString &line)
 {
-    seen.LocalTime.assign(cuts::lastPart(line, QStringLiteral("Local Time is:")));
+    return cuts::lastPart(line, QStringLiteral("Local Time is:"));
 }
 
-template<typename Drive>
-void takeNothing(Drive &, const QString &)
+QString logicalSize(const QString &line)
 {
+    return cuts::firstParts(valueOf(line), QLatin1Char(','), 1).value(0).remove(QLatin1String("logical"));
 }
 
-void takeSectorSize(SmartIdentity &seen, const QString &line)
+QString inBytes(const QString &line)
 {
-    const QString sizes = valueOf(line);
-    seen.SectorSize.assign(
-        cuts::firstParts(sizes, QLatin1Char(','), 1).value(0).remove(QLatin1String("logical")));
+    return valueOf(line) + QLatin1String(" bytes");
 }
 
-void takeSataVersion(SmartIdentity &seen, const QString &line)
+QString sataSpeed(const QString &line)
 {
-    seen.SataVersion.assign(valueOf(line).remove(QLatin1Char(')')));
+    return valueOf(line).remove(QLatin1Char(')'));
+}
+
+QString offlineTime(const QString &line)
+{
+    return cuts::without(cuts::lastPart(line, QStringLiteral("data collection:")), {"(  ", ")", "."});
+}
+
+/// What `Cut` takes from the line, into a field.
+template<auto Field, QString (*Cut)(const QString &) = valueOf, typename Drive>
+void take(Drive &seen, const QString &line)
+{
+    put(seen.*Field, Cut(line));
 }
 
 void takeSelfTestStatus(SmartIdentity &seen, const QString &line)
 {
     if (valueOf(line).contains(QLatin1String("completed")))
         seen.SelfTestStatus.assign(QStringLiteral("Successfully Completed"));
-}
-
-void takeOfflineTime(SmartIdentity &seen, const QString &line)
-{
-    seen.OfflineTotalTime.assign(
-        cuts::without(cuts::lastPart(line, QStringLiteral("data collection:")), {"(  ", ")", "."}));
 }
 
 /// The three lines look alike and go by their order. Each field strips literals of its own.
@@ -132,21 +129,21 @@ const QVector<LineRule<SmartIdentity>> &ataRules()
     using R = SmartIdentity;
     using Rule = LineRule<R>;
     static const QVector<Rule> rules = {
-        {Rule::Anywhere, {"Model Family:"}, takeValue<&R::ModelFamily>},
-        {Rule::Anywhere, {"Device Model:", "Model Number:"}, takeValue<&R::DeviceModel>},
-        {Rule::Anywhere, {"Serial Number:"}, takeValue<&R::SerialNumber>},
-        {Rule::Anywhere, {"LU WWN Device Id:"}, takeValue<&R::Wwn>},
-        {Rule::Anywhere, {"Firmware Version:"}, takeValue<&R::Firmware>},
-        {Rule::Anywhere, {"User Capacity:"}, takeBracketed<&R::UserCapacity>},
-        {Rule::Anywhere, {"Sector Size:", "Sector Sizes:"}, takeSectorSize},
-        {Rule::Anywhere, {"Rotation Rate:"}, takeValue<&R::RotationRate>},
-        {Rule::AtStart, {"ATA Version is:"}, takeValue<&R::AtaVersion>},
-        {Rule::AtStart, {"SATA Version is:"}, takeSataVersion},
-        {Rule::AtStart, {"Local Time is:"}, takeLocalTime<R>},
+        {Rule::Anywhere, {"Model Family:"}, take<&R::ModelFamily>},
+        {Rule::Anywhere, {"Device Model:", "Model Number:"}, take<&R::DeviceModel>},
+        {Rule::Anywhere, {"Serial Number:"}, take<&R::SerialNumber>},
+        {Rule::Anywhere, {"LU WWN Device Id:"}, take<&R::Wwn>},
+        {Rule::Anywhere, {"Firmware Version:"}, take<&R::Firmware>},
+        {Rule::Anywhere, {"User Capacity:"}, take<&R::UserCapacity, inBrackets>},
+        {Rule::Anywhere, {"Sector Size:", "Sector Sizes:"}, take<&R::SectorSize, logicalSize>},
+        {Rule::Anywhere, {"Rotation Rate:"}, take<&R::RotationRate>},
+        {Rule::AtStart, {"ATA Version is:"}, take<&R::AtaVersion>},
+        {Rule::AtStart, {"SATA Version is:"}, take<&R::SataVersion, sataSpeed>},
+        {Rule::AtStart, {"Local Time is:"}, take<&R::LocalTime, localTime>},
         // Comes twice; the later one, "Enabled", stays.
-        {Rule::Anywhere, {"SMART support is:"}, takeValue<&R::SmartSupport>},
-        {Rule::Anywhere, {"Self-test supported."}, takeNothing<R>},
-        {Rule::Anywhere, {"Offline data collection status:"}, takeNothing<R>},
+        {Rule::Anywhere, {"SMART support is:"}, take<&R::SmartSupport>},
+        {Rule::Anywhere, {"Self-test supported."}, nullptr},
+        {Rule::Anywhere, {"Offline data collection status:"}, nullptr},
         {Rule::Anywhere,
          {"was never started."},
          [](R &seen, const QString &) { seen.OfflineStatus.assign(QStringLiteral("Never Started")); }},
@@ -156,7 +153,7 @@ const QVector<LineRule<SmartIdentity>> &ataRules()
              seen.OfflineStatus.assign(QStringLiteral("Successfully Completed"));
          }},
         {Rule::Anywhere, {"Self-test execution status:"}, takeSelfTestStatus},
-        {Rule::Anywhere, {"data collection:"}, takeOfflineTime},
+        {Rule::Anywhere, {"data collection:"}, take<&R::OfflineTotalTime, offlineTime>},
         {Rule::Anywhere, {"recommended polling time:"}, takePollTime},
     };
     return rules;
@@ -167,15 +164,13 @@ const QVector<LineRule<NvmeIdentity>> &nvmeRules()
     using R = NvmeIdentity;
     using Rule = LineRule<R>;
     static const QVector<Rule> rules = {
-        {Rule::Anywhere, {"Model Number:"}, takeValue<&R::ModelNumber>},
-        {Rule::Anywhere, {"Serial Number:"}, takeValue<&R::SerialNumber>},
-        {Rule::Anywhere, {"Firmware Version:"}, takeValue<&R::Firmware>},
-        {Rule::Anywhere, {"Size/Capacity:"}, takeBracketed<&R::Capacity>},
-        {Rule::Anywhere,
-         {"Formatted LBA Size:"},
-         [](R &seen, const QString &line) { seen.LbaSize.assign(valueOf(line) + QLatin1String(" bytes")); }},
-        {Rule::AtStart, {"Local Time is:"}, takeLocalTime<R>},
-        {Rule::Anywhere, {"Maximum Data Transfer Size:"}, takeValue<&R::MaxTransferSize>},
+        {Rule::Anywhere, {"Model Number:"}, take<&R::ModelNumber>},
+        {Rule::Anywhere, {"Serial Number:"}, take<&R::SerialNumber>},
+        {Rule::Anywhere, {"Firmware Version:"}, take<&R::Firmware>},
+        {Rule::Anywhere, {"Size/Capacity:"}, take<&R::Capacity, inBrackets>},
+        {Rule::Anywhere, {"Formatted LBA Size:"}, take<&R::LbaSize, inBytes>},
+        {Rule::AtStart, {"Local Time is:"}, take<&R::LocalTime, localTime>},
+        {Rule::Anywhere, {"Maximum Data Transfer Size:"}, take<&R::MaxTransferSize>},
     };
     return rules;
 }
@@ -210,15 +205,6 @@ bool fillRow(NvmeAttributeRecord &row, const QString &line)
     return true;
 }
 
-bool containsAny(const QString &line, const QStringList &markers)
-{
-    for (const QString &marker : markers) {
-        if (line.contains(marker))
-            return true;
-    }
-    return false;
-}
-
 /// A report's second reading, the same for both kinds.
 template<typename Table, typename Drive>
 Table readTable(QTextStream &stream, const QVector<LineRule<Drive>> &rules, const QStringList &headers)
@@ -239,7 +225,7 @@ Table readTable(QTextStream &stream, const QVector<LineRule<Drive>> &rules, cons
                 table.rows.append(std::move(row));
                 ++count;
             }
-        } else if (containsAny(line, headers)) {
+        } else if (cuts::holdsOneOf(line, headers)) {
             inTable = true;
         } else if (line.contains(Passed)) {
             table.passed = true;
@@ -251,15 +237,6 @@ Table readTable(QTextStream &stream, const QVector<LineRule<Drive>> &rules, cons
 }
 
 } // namespace
-
-Markers translatedMarkers()
-{
-    return {{QCoreApplication::translate("MainWindow", "ID#"),
-             QCoreApplication::translate("MainWindow", "ATTRIBUTE_NAME"),
-             QCoreApplication::translate("MainWindow", "FLAG"),
-             QCoreApplication::translate("MainWindow", "VALUE")},
-            QCoreApplication::translate("MainWindow", "SMART/Health Information (NVMe Log")};
-}
 
 std::optional<bool> detectKind(QTextStream &stream)
 {
@@ -280,11 +257,11 @@ Identity readIdentity(QTextStream &stream, std::optional<QString> Identity::*las
     using R = Identity;
     using Rule = LineRule<R>;
     static const QVector<Rule> rules = {
-        {Rule::Anywhere, {"Device Model:", "Model Number:"}, takeValue<&R::model>},
-        {Rule::Anywhere, {"Serial Number:"}, takeValue<&R::serial>},
-        {Rule::Anywhere, {"Firmware Version:"}, takeValue<&R::firmware>},
-        // The SATA line would do too, but it comes behind this one.
-        {Rule::Anywhere, {"ATA Version is:"}, takeValue<&R::ataVersion>},
+        {Rule::Anywhere, {"Device Model:", "Model Number:"}, take<&R::model>},
+        {Rule::Anywhere, {"Serial Number:"}, take<&R::serial>},
+        {Rule::Anywhere, {"Firmware Version:"}, take<&R::firmware>},
+        // The line of the SATA version fits as well, but comes after this one.
+        {Rule::Anywhere, {"ATA Version is:"}, take<&R::ataVersion>},
     };
     Identity identity;
     while (!(identity.*last) && !stream.atEnd()) {
@@ -306,17 +283,17 @@ Identity readProbedIdentity(QTextStream &stream)
     return readIdentity(stream, &Identity::firmware);
 }
 
-SmartTable readAtaTable(QTextStream &stream, const Markers &markers)
+SmartTable readAtaTable(QTextStream &stream)
 {
-    SmartTable table = readTable<SmartTable>(stream, ataRules(), markers.ataHeaders);
+    SmartTable table = readTable<SmartTable>(stream, ataRules(), AtaHeaders);
     if (table.drive.DeviceModel.isEmpty())
         table.drive.Wwn.clear();
     return table;
 }
 
-NvmeTable readNvmeLog(QTextStream &stream, const Markers &markers)
+NvmeTable readNvmeLog(QTextStream &stream)
 {
-    return readTable<NvmeTable>(stream, nvmeRules(), {markers.nvmeHeader});
+    return readTable<NvmeTable>(stream, nvmeRules(), {NvmeSection});
 }
 
 Report read(QTextStream &stream, bool nvme)
@@ -328,10 +305,10 @@ Report read(QTextStream &stream, bool nvme)
     const DriveVerdict line = readVerdictLine(stream);
     stream.seek(0);
     if (nvme) {
-        report.log = readNvmeLog(stream, translatedMarkers());
+        report.log = readNvmeLog(stream);
         report.verdict = nvmeVerdict(line, report.log.rows);
     } else {
-        report.ata = readAtaTable(stream, translatedMarkers());
+        report.ata = readAtaTable(stream);
         report.verdict = ataVerdict(line, report.ata.rows);
     }
     return report;

@@ -19,13 +19,6 @@ namespace report
 /// Rows kept of one report. A drive's table holds a few dozen; more is not a report.
 constexpr int MaxRows = 16384;
 
-/// Words by which a table begins. They pass through the translation.
-struct Markers {
-    QStringList ataHeaders;
-    QString nvmeHeader;
-};
-Markers translatedMarkers();
-
 /// What the head of a report says; nothing where the line is missing.
 struct Identity {
     std::optional<QString> model;
@@ -44,8 +37,8 @@ Identity readIdentity(QTextStream &stream);
 Identity readProbedIdentity(QTextStream &stream);
 
 /// The attribute table of an ATA drive, and the health log of an NVMe drive.
-SmartTable readAtaTable(QTextStream &stream, const Markers &markers);
-NvmeTable readNvmeLog(QTextStream &stream, const Markers &markers);
+SmartTable readAtaTable(QTextStream &stream);
+NvmeTable readNvmeLog(QTextStream &stream);
 
 /// What a report of one kind tells.
 struct Report {

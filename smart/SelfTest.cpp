@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "smart/SelfTest.h"
 
-#include "inventory/CommandRunner.h"
 #include "smart/ToolInvocation.h"
 #include "state/GlobalApp.h"
 #include "state/JobState.h"
@@ -20,9 +19,9 @@ std::size_t current()
     return static_cast<std::size_t>(currentSelfTest());
 }
 
-QString runFor(ToolPurpose purpose)
+bool readFor(ToolPurpose purpose, const runner::OutputReader &read)
 {
-    return runTool(purpose, storedDevice(purpose));
+    return readTool(purpose, storedDevice(purpose), read);
 }
 
 } // namespace
@@ -35,8 +34,8 @@ void SelfTest::prepare(std::optional<SelfTestKind> kind)
     g_bAbortSent = false;
     // A drive whose capabilities cannot be had runs no test, whatever the disk before could do.
     selftest::Capabilities found;
-    runner::readOutput(runFor(ToolPurpose::Capabilities),
-                       [kind, &found](QTextStream &text) { found = selftest::readCapabilities(text, kind); });
+    readFor(ToolPurpose::Capabilities,
+            [kind, &found](QTextStream &text) { found = selftest::readCapabilities(text, kind); });
     g_bSelfTestSupported = found.supported;
     if (!kind || !found.minutes)
         return;
@@ -47,7 +46,7 @@ void SelfTest::prepare(std::optional<SelfTestKind> kind)
 
 bool SelfTest::canRun() const
 {
-    // The kind is that of the disk whose report was read last, which may be another one.
+    // m_bNVMe is of the disk whose report was read last. That may be another disk.
     const bool ofThisDisk =
         storedDevice(ToolPurpose::SelfTestLog).endsWith(storedDevice(ToolPurpose::Capabilities));
     return g_bSelfTestSupported && !(g_App.m_bNVMe && ofThisDisk);
@@ -69,8 +68,8 @@ bool SelfTest::start()
     }
     g_Jobs.begin(JobState::Job::SelfTest);
     g_Jobs.openResult(JobState::Job::SelfTest);
-    // That there is a file is enough: what the drive makes of the start its status tells.
-    if (runner::readOutput(runFor(purpose), [](QTextStream &) {}))
+    // A file is enough here. Whether the drive runs the test its status tells.
+    if (readFor(purpose, [](QTextStream &) {}))
         return true;
     end();
     return false;
@@ -86,10 +85,10 @@ SelfTest::Tick SelfTest::tick()
     }
     g_nElapsedLimit[current()] = static_cast<qint32>(static_cast<quint32>(currentPollingMinutes()) * 60u);
     QVector<selftest::StatusEvent> events{{selftest::Told::NoStatus}};
-    tick.opened = runner::readOutput(runFor(ToolPurpose::TestProgress),
-                                     [&events](QTextStream &text) { events = selftest::readStatus(text); });
+    tick.opened = readFor(ToolPurpose::TestProgress,
+                          [&events](QTextStream &text) { events = selftest::readStatus(text); });
     for (const selftest::StatusEvent &event : qAsConst(events)) {
-        // Behind an abort a drive may still be on its way to the end: only what its test found is told then.
+        // After an abort the drive may still report progress. Then only a result of its test counts.
         if (!passesOver(event.told != selftest::Told::NoStatus) &&
             (!tick.aborted || selftest::isResult(event.told)))
             tick.steps.append(stepOf(event));
@@ -101,7 +100,7 @@ SelfTest::Tick SelfTest::tick()
 
 void SelfTest::abort()
 {
-    runFor(ToolPurpose::AbortTest);
+    runTool(ToolPurpose::AbortTest, storedDevice(ToolPurpose::AbortTest));
     g_bAbortSent = true;
 }
 
@@ -111,8 +110,8 @@ void SelfTest::end()
     g_Jobs.end(JobState::Job::SelfTest);
 }
 
-/// Counts a reading by whether it found a status. True while one without is passed over: a drive that is busy
-/// or was reset answers again, one that keeps silent has gone.
+/// Counts the readings in a row that found no status. True while such a reading is ignored: a drive that is
+/// busy or was reset answers again. One that stays silent is gone.
 bool SelfTest::passesOver(bool found)
 {
     m_nSilentTicks = found ? 0 : m_nSilentTicks + 1;

@@ -28,7 +28,7 @@ public:
     bool canRun() const;
     /// Starts the prepared test. False where there is none, or where the tool did not run: then it has ended.
     bool start();
-    /// Reads how the test stands; meant to come once a second. Behind the polling time the remaining minutes
+    /// Reads how the test stands; meant to come once a second. After the polling time the remaining minutes
     /// fall no further.
     Tick tick();
     /// Tells the drive to abort; the next tick ends the test.

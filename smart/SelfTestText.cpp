@@ -8,6 +8,8 @@
 #include <QStringList>
 #include <QTextStream>
 
+#include <algorithm>
+
 namespace selftest
 {
 
@@ -29,6 +31,15 @@ std::optional<QString> readOnTo(QTextStream &text, const char *phrase)
 int numberOf(const QString &line, std::initializer_list<const char *> around)
 {
     return cuts::without(cuts::lastPart(line, QStringLiteral(":")), around).toInt();
+}
+
+/// The first row whose words the line holds; null if there is none.
+template<typename Row, std::size_t N>
+const Row *firstHeld(const QString &line, const Row (&rows)[N])
+{
+    const auto held = [&line](const Row &row) { return line.contains(QLatin1String(row.words)); };
+    const Row *found = std::find_if(rows, rows + N, held);
+    return found == rows + N ? nullptr : found;
 }
 
 struct StatusPhrase {
@@ -69,6 +80,29 @@ constexpr NvmeResult NvmeResults[] = {
     {"Aborted: unknown reason", Told::FatalError},
     {"Completed: unknown failed segment", Told::UnknownElement},
     {"Completed: failed segments", Told::UnknownElement},
+};
+
+struct LogPhrase {
+    const char *words;
+    const char *shown;
+};
+
+constexpr LogPhrase LogTypes[] = {
+    {"Extended offline", QT_TRANSLATE_NOOP("MainWindow", "Extended Self-test")},
+    {"Short offline", QT_TRANSLATE_NOOP("MainWindow", "Short Self-test")},
+};
+
+constexpr LogPhrase LogResults[] = {
+    {"Aborted by host", QT_TRANSLATE_NOOP("MainWindow", "Aborted by User")},
+    {"Completed without error", QT_TRANSLATE_NOOP("MainWindow", "Successfully Completed")},
+    {"Completed: read failure", QT_TRANSLATE_NOOP("MainWindow", "Failed by Read Element")},
+    {"Interrupted (host reset)", QT_TRANSLATE_NOOP("MainWindow", "Test Interrupted by the Host")},
+    {"Fatal or unknown error", QT_TRANSLATE_NOOP("MainWindow", "Test ended by Fatal or Unknown Error")},
+    {"Completed: unknown failure", QT_TRANSLATE_NOOP("MainWindow", "Test failed by Unknown Element")},
+    {"Completed: electrical failure", QT_TRANSLATE_NOOP("MainWindow", "Test failed by Electrical Element")},
+    {"Completed: servo/seek failure", QT_TRANSLATE_NOOP("MainWindow", "Test failed by Servo Element")},
+    {"Completed: handling damage", QT_TRANSLATE_NOOP("MainWindow", "Test failed, Handling Damage suspected")},
+    {"", QT_TRANSLATE_NOOP("MainWindow", "Not Available")}, // any other line
 };
 
 /// In the order of Told.
@@ -140,11 +174,8 @@ std::optional<StatusEvent> readNvme(const QStringList &lines)
             return StatusEvent{Told::InProgress, 100 - match.captured(1).toInt()};
         if (!newest.match(line).hasMatch())
             continue;
-        for (const NvmeResult &result : NvmeResults) {
-            if (line.contains(QLatin1String(result.words)))
-                return StatusEvent{result.told};
-        }
-        return StatusEvent{Told::UnknownStatus};
+        const NvmeResult *result = firstHeld(line, NvmeResults);
+        return StatusEvent{result ? result->told : Told::UnknownStatus};
     }
     return std::nullopt;
 }
@@ -174,6 +205,22 @@ QVector<StatusEvent> readStatus(QTextStream &text)
     if (events.isEmpty())
         events.append({Told::NoStatus});
     return events;
+}
+
+PreviousTest newestTest(QTextStream &log)
+{
+    PreviousTest test;
+    while (!log.atEnd()) {
+        const QString line = log.readLine();
+        const LogPhrase *type = firstHeld(line, LogTypes);
+        if (!type)
+            continue;
+        test.type = QCoreApplication::translate("MainWindow", type->shown);
+        if (!log.atEnd())
+            test.result = QCoreApplication::translate("MainWindow", firstHeld(line, LogResults)->shown);
+        break;
+    }
+    return test;
 }
 
 const char *shownWords(Told told)

@@ -9,7 +9,7 @@
 
 class QTextStream;
 
-/// What the report tool's capabilities text tells of a drive's self-tests. A text is read in one pass, so the
+/// What the report tool's texts tell of a drive's self-tests. A text is read in one pass, so the
 /// order of its lines counts: what stands before the line that is looked for is not seen again.
 namespace selftest
 {
@@ -47,6 +47,15 @@ struct StatusEvent {
 /// What a status text tells, in its order; at least one. The words of the tool decide, and the drive's number
 /// where they tell nothing. The results of an NVMe drive's log count too.
 QVector<StatusEvent> readStatus(QTextStream &text);
+
+/// The newest self-test of a log. Translated; null where the log does not tell.
+struct PreviousTest {
+    QString type;
+    QString result; ///< null also of a test on the very last line
+};
+
+/// Reads the text of a self-test log up to its newest test.
+PreviousTest newestTest(QTextStream &log);
 
 /// The words that a status is shown with: English, of the context MainWindow.
 const char *shownWords(Told told);

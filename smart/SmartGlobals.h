@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "smart/DriveVerdict.h"
+#include "smart/Rating.h"
 
 #include <QString>
 
@@ -22,13 +22,14 @@ inline QString g_strAtaVersion; ///< stays as it was where a later report of the
 inline DriveVerdict g_driveVerdict = DriveVerdict::NotTold;
 
 inline int g_nHealthPercent = 0;
-inline bool g_bHealthKnown = true; ///< false: the report holds nothing to rate, and the percentage is 100
 inline int g_nPerformancePercent = 0;
-/// The four life figures stay where a later report of the same disk has no such row.
-inline quint32 g_nDiskLifeDays = 0;
-inline int g_nPowerOnDays = 0;
-inline int g_nPowerOnRestHours = 0;
-inline int g_nStartStopCount = 0;
+/// The four figures of life stay where a later report of the same disk has no such row.
+inline LifeFigures g_lifeFigures;
+inline bool &g_bHealthKnown = g_lifeFigures.bLifeKnown; ///< false: nothing to rate, and the percentage is 100
+inline quint32 &g_nDiskLifeDays = g_lifeFigures.nDiskLifeDays;
+inline int &g_nPowerOnDays = g_lifeFigures.nPowerOnDays;
+inline int &g_nPowerOnRestHours = g_lifeFigures.nPowerOnRestHours;
+inline int &g_nStartStopCount = g_lifeFigures.nStartStopCount;
 
 /// The newest self-test, for the report. Translated. A log that names no test leaves them.
 inline QString g_strLastTestType;

@@ -4,8 +4,6 @@
 #include "state/FixedText.h"
 #include "state/RecordList.h"
 
-#include <cstdint>
-
 /// What an ATA report says of its drive. A value that the report does not have is an empty text.
 struct SmartIdentity {
     FixedText<128> ModelFamily;
@@ -30,17 +28,21 @@ struct SmartIdentity {
 
 /// One row of an ATA drive's attribute table. What the row does not have is an empty text or 0.
 struct SmartAttributeRecord {
-    std::uint32_t Id = 0;
+    quint32 Id = 0;
     FixedText<256> AttributeName; ///< with its underscores
     FixedText<128> Flag;
-    std::uint32_t Value = 0;
-    std::uint32_t Worst = 0;
-    std::uint32_t Threshold = 0;
+    quint32 Value = 0;
+    quint32 Worst = 0;
+    quint32 Threshold = 0;
     FixedText<128> Type;
     FixedText<128> Updated;
     FixedText<256> WhenFailed;
     FixedText<128> RawValue; ///< first word of the raw column
     SmartAttributeRecord *Next = nullptr;
+
+    /// The name by which the attribute goes in catalogue, history and graph: that of the report with blanks
+    /// for underscores. Never translated.
+    QString key() const { return AttributeName.text().replace(QLatin1Char('_'), QLatin1Char(' ')); }
 };
 
 /// What an NVMe report says of its drive.

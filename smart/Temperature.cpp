@@ -9,12 +9,6 @@ namespace
 
 constexpr QChar DegreeSign(0xB0);
 
-QString withUnit(int celsius, bool fahrenheit)
-{
-    return QString::number(displayTemperature(celsius, fahrenheit)) + DegreeSign +
-           QLatin1Char(fahrenheit ? 'F' : 'C');
-}
-
 } // namespace
 
 int GetDiskTemperature()
@@ -52,7 +46,9 @@ int displayTemperature(int celsius, bool fahrenheit)
 
 QString loadTemperatureText(int celsius, const QString &unit)
 {
-    return withUnit(celsius, unit == QLatin1String("F"));
+    const bool fahrenheit = unit == QLatin1String("F");
+    return QString::number(displayTemperature(celsius, fahrenheit)) + DegreeSign +
+           QLatin1Char(fahrenheit ? 'F' : 'C');
 }
 
 QString pollTemperatureText(int celsius, const QString &unit)

@@ -3,6 +3,8 @@
 
 #include <QRegularExpression>
 
+#include <algorithm>
+
 namespace cuts
 {
 
@@ -28,6 +30,12 @@ QStringList firstParts(const QString &line, QChar separator, int count)
         start = end + 1;
     }
     return parts;
+}
+
+bool holdsOneOf(const QString &text, const QStringList &words, Qt::CaseSensitivity letters)
+{
+    return std::any_of(words.begin(), words.end(),
+                       [&](const QString &word) { return text.contains(word, letters); });
 }
 
 QString without(QString text, std::initializer_list<const char *> literals)

@@ -17,6 +17,10 @@ QString lastPart(const QString &line, const QString &separator);
 /// The first parts of a line split on `separator`, at most `count`, untrimmed.
 QStringList firstParts(const QString &line, QChar separator, int count);
 
+/// Whether the text holds one of the words.
+bool holdsOneOf(const QString &text, const QStringList &words,
+                Qt::CaseSensitivity letters = Qt::CaseSensitive);
+
 /// The text without the literals, taken out one after the other wherever they stand.
 QString without(QString text, std::initializer_list<const char *> literals);
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "smart/ToolInvocation.h"
 
-#include "inventory/CommandRunner.h"
+#include "platform/Log.h"
 #include "smart/ReportParser.h"
 #include "smart/SmartGlobals.h"
 #include "state/GlobalApp.h"
@@ -100,6 +100,14 @@ QString runTool(ToolPurpose purpose, const QString &device)
     return path;
 }
 
+bool readTool(ToolPurpose purpose, const QString &device, const runner::OutputReader &read)
+{
+    const bool opened = runner::readOutput(runTool(purpose, device), read);
+    if (!opened)
+        qCDebug(logs::smart) << "the tool wrote no file:" << commandOf(purpose).arguments << device;
+    return opened;
+}
+
 LoadedReport LoadSmartReport(int diskIndex)
 {
     const WmicDiskRecord *record = findWmicDisk(static_cast<quint32>(diskIndex + PhysicalDriveBase));
@@ -109,10 +117,9 @@ LoadedReport LoadSmartReport(int diskIndex)
 
 ProbedIdentity ProbeDiskIdentity(int diskIndex, const QString &interfaceText)
 {
-    const QString path = runTool(ToolPurpose::FullReport, deviceString(diskIndex, interfaceText));
     report::Identity identity;
-    runner::readOutput(path,
-                       [&identity](QTextStream &stream) { identity = report::readProbedIdentity(stream); });
+    readTool(ToolPurpose::FullReport, deviceString(diskIndex, interfaceText),
+             [&identity](QTextStream &stream) { identity = report::readProbedIdentity(stream); });
     return {identity.model.value_or(QString()), identity.serial.value_or(QString()),
             identity.firmware.value_or(QString())};
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "inventory/CommandRunner.h"
 #include "inventory/WmicInventory.h"
 
 #include <QString>
@@ -42,6 +43,9 @@ QString commandLine(ToolPurpose purpose, const QString &device, const QString &f
 
 /// Runs the tool for a purpose into its fresh temp file, whose path comes back. Blocks.
 QString runTool(ToolPurpose purpose, const QString &device);
+
+/// The same, and hands what the tool wrote to `read`. False, with `read` not called, where it wrote nothing.
+bool readTool(ToolPurpose purpose, const QString &device, const runner::OutputReader &read);
 
 /// A report that waits to be taken in.
 struct LoadedReport {

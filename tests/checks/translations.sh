@@ -24,7 +24,7 @@ import xml.etree.ElementTree as tree
 # What stands for a value: of Qt (%1, %L1, %n), of the chart formats (%v, %p, %m) and of printf.
 PLACEHOLDER = re.compile(r"%(?:L?\d{1,2}|L?n|[vpm]|[-+#0]*\d*(?:\.\d+)?(?:hh|h|ll|l|z|j|t)?[sdiuoxXeEfFgGc])")
 # Words that the parser looks for in a report.
-MARKER = re.compile(r'translate\(\s*"(\w+)"\s*,\s*"([^"]*)"')
+MARKER = re.compile(r'(?:translate|TRANSLATE_NOOP)\(\s*"(\w+)"\s*,\s*"([^"]*)"')
 
 
 def messages(path):

@@ -277,7 +277,7 @@ void tst_ReportPage::ratings()
 void tst_ReportPage::selfTestsThatAreMissing()
 {
     SmartReport report = made(false);
-    report.shortTestTime = QStringLiteral("2 minutes");
+    report.ata.ShortPollTime.assign(QStringLiteral("2 minutes"));
     compareFields(report,
                   {{5200, "Short Self-test:", "Supported", Green},
                    {5400, "Estimated Completion Time:", "2 minutes"},
@@ -411,8 +411,8 @@ void tst_ReportPage::rowsGoOnToAnotherPage()
 void tst_ReportPage::linesOfOneHeight()
 {
     SmartReport report = made(false);
-    report.model = QString(200, QLatin1Char('W'));
-    report.serial = QStringLiteral("\u78C1\u76D8 \u0921\u093F\u0938\u094D\u0915");
+    report.ata.DeviceModel.assign(QString(200, QLatin1Char('W')));
+    report.ata.SerialNumber.assign(QStringLiteral("\u78C1\u76D8 \u0921\u093F\u0938\u094D\u0915"));
     PageRecorder page;
     paint(page, report);
     const auto model = page.within({3100, 2000, 6000, 20});
@@ -440,7 +440,7 @@ void tst_ReportPage::picturesThatAreMissing()
 void tst_ReportPage::fileNames()
 {
     SmartReport report;
-    report.model = QStringLiteral("A/B\\C:D 500GB");
+    report.ata.DeviceModel.assign(QStringLiteral("A/B\\C:D 500GB"));
     QCOMPARE(suggestedReportName(report), QStringLiteral("Velmora Smart Report A-B-C-D 500GB"));
     report.secondBrand = true;
     QCOMPARE(suggestedReportName(report), QStringLiteral("Korvane Smart Report A-B-C-D 500GB"));
@@ -473,7 +473,8 @@ void tst_ReportPage::realReports()
     const QString text = QString::fromUtf8(reader.readAllStandardOutput());
     QCOMPARE(text.count(QLatin1Char('\f')), report.rows.size() <= (report.nvme ? 33u : 23u) ? 1 : 2);
     const QString flat = text.simplified();
-    QStringList parts = {report.model, report.serial, report.firmware, report.localTime};
+    const QString time = (report.nvme ? report.log.LocalTime : report.ata.LocalTime).text();
+    QStringList parts = {g_strModelName, g_strSerialNumber, g_strFirmware, time};
     parts += {"Velmora Halvane profiling process.", "Velmora Halvane is a product of Velmora."};
     for (const SmartReport::Row &cells : report.rows) {
         QString row;

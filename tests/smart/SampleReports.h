@@ -79,9 +79,8 @@ inline void forget()
     g_strFirmware.clear();
     g_strAtaVersion.clear();
     g_driveVerdict = DriveVerdict::NotTold;
-    g_bHealthKnown = true;
-    g_nDiskLifeDays = 0;
-    g_nHealthPercent = g_nPowerOnDays = g_nPowerOnRestHours = g_nStartStopCount = 0;
+    g_nHealthPercent = 0;
+    g_lifeFigures = {};
 }
 
 template<typename List>

@@ -90,8 +90,8 @@ private slots:
     {
         QFETCH(QString, key);
         QFETCH(quint32, id);
-        QTEST(ataDisplayName(key, id), "tree");
-        QTEST(ataReportName(key, id), "report");
+        QTEST(ataName(key, id, NameIn::Tree), "tree");
+        QTEST(ataName(key, id, NameIn::Report), "report");
     }
 
     void nvme_data()
@@ -123,8 +123,8 @@ private slots:
     void nvme()
     {
         QFETCH(QString, name);
-        QTEST(nvmeDisplayName(name), "tree");
-        QTEST(nvmeReportName(name), "report");
+        QTEST(nvmeName(name, NameIn::Tree), "tree");
+        QTEST(nvmeName(name, NameIn::Report), "report");
     }
 
 private:

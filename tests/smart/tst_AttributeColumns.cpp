@@ -33,15 +33,6 @@ private slots:
         QCOMPARE(visible, widths);
     }
 
-    void bothKindsSetEveryColumn()
-    {
-        // Without a row for a column, it would keep the visibility of the other kind of drive.
-        for (bool nvme : {false, true})
-            QCOMPARE(attributecolumns::columns(nvme).size(), std::size_t{attributecolumns::Count});
-        for (const attributecolumns::Column &column : attributecolumns::columns(false))
-            QVERIFY(column.header);
-    }
-
     void headerFont_data()
     {
         QTest::addColumn<int>("scale");

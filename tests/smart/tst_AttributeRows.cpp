@@ -57,7 +57,7 @@ private slots:
     void status();
     void red_data();
     void red();
-    void redGoesByTheNameOnShow();
+    void redGoesByTheKeyInEveryLanguage();
     void cleanedValue_data();
     void cleanedValue();
     void noRecords();
@@ -200,7 +200,7 @@ void AttributeRowsTest::red()
     QTEST(ataRows(list).front().redCell, "redCell");
 }
 
-void AttributeRowsTest::redGoesByTheNameOnShow()
+void AttributeRowsTest::redGoesByTheKeyInEveryLanguage()
 {
     samples::AtaList list;
     list.add(QStringLiteral("Reallocated_Sector_Ct"), QStringLiteral("7"));
@@ -208,7 +208,7 @@ void AttributeRowsTest::redGoesByTheNameOnShow()
     QCoreApplication::installTranslator(&language);
     const AttributeRow row = ataRows(list).front();
     QCoreApplication::removeTranslator(&language);
-    QCOMPARE(row.redCell, -1);
+    QCOMPARE(row.redCell, 6);
     QCOMPARE(row.cells[1], QStringLiteral("x"));
     QCOMPARE(row.cells[2], QStringLiteral("x"));
     QCOMPARE(row.key, QStringLiteral("Reallocated Sector Ct"));

@@ -69,7 +69,7 @@ void tst_PreviousTest::logs()
 {
     QFETCH(QByteArray, log);
     m_fake->onCommand = [log](const QString &line) { return FakePlatform::answer(line, log); };
-    publish(ReadPreviousTest(QStringLiteral(" -d sat,12 /dev/sdc")));
+    ReadPreviousTest(QStringLiteral(" -d sat,12 /dev/sdc"));
     QTEST(g_strLastTestType, "type");
     QTEST(g_strLastTestResult, "result");
     const QString path = tempFile(QStringLiteral("PreviousResult.txt"));
@@ -82,7 +82,7 @@ void tst_PreviousTest::logs()
 void tst_PreviousTest::aLogThatWasNotWritten()
 {
     m_fake->onCommand = [](const QString &) { return false; };
-    publish(ReadPreviousTest(QStringLiteral(" -d sat,12 /dev/sdc")));
+    ReadPreviousTest(QStringLiteral(" -d sat,12 /dev/sdc"));
     QCOMPARE(g_strLastTestType, QStringLiteral("old type"));
     QCOMPARE(g_strLastTestResult, QStringLiteral("old result"));
 }

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "smart/Rating.h"
 
-#include "smart/AttributeKey.h"
 #include "smart/HealthCatalogue.h"
 #include "tests/smart/SampleReports.h"
 #include "tests/support/FakePlatform.h"
@@ -47,7 +46,6 @@ private slots:
     void pictures_data();
     void pictures();
     void overall();
-    void keys();
 };
 
 void tst_Rating::realReports_data()
@@ -401,12 +399,6 @@ void tst_Rating::overall()
     QVERIFY(overallResult(false, 0, DriveVerdict::Passed) == OverallResult::NotSupported);
     QVERIFY(overallResult(false, 36, DriveVerdict::Passed) == OverallResult::Failed);
     QVERIFY(overallResult(false, 0, DriveVerdict::Failed) == OverallResult::Failed);
-}
-
-void tst_Rating::keys()
-{
-    QCOMPARE(keyOf("Reallocated_Sector_Ct"), QString("Reallocated Sector Ct"));
-    QCOMPARE(keyOf("_a__b_"), QString(" a  b "));
 }
 
 QTEST_GUILESS_MAIN(tst_Rating)

@@ -14,21 +14,16 @@ const QByteArray AtaHeader =
 const QByteArray AtaRow = "  1 Raw_Read 0x000f   118   099   006    Pre-fail  Always       -       7\n";
 const QByteArray NvmeHeader = "SMART/Health Information (NVMe Log 0x02)\n";
 
-report::Markers englishMarkers()
-{
-    return {{"ID#", "ATTRIBUTE_NAME", "FLAG", "VALUE"}, "SMART/Health Information (NVMe Log"};
-}
-
 SmartTable ataTable(QString text)
 {
     QTextStream stream(&text);
-    return report::readAtaTable(stream, englishMarkers());
+    return report::readAtaTable(stream);
 }
 
 NvmeTable nvmeLog(QString text)
 {
     QTextStream stream(&text);
-    return report::readNvmeLog(stream, englishMarkers());
+    return report::readNvmeLog(stream);
 }
 
 template<std::size_t N>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "smart/PreviousTest.h"
+#include "smart/DiskFigures.h"
 #include "smart/SmartGlobals.h"
 #include "tests/ui/WindowFixture.h"
 #include "ui/screens/SmartStatus.h"

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/screens/DiskStatus.h"
 
-#include "smart/DiskFigures.h"
 #include "smart/SmartGlobals.h"
 #include "smart/TilePicture.h"
 #include "state/GlobalApp.h"
@@ -313,7 +312,7 @@ void DiskStatus::redoDetails()
     showIdentity(identityTextsAfterLanguageChange(node, record, g_nCurrentDiskIndex));
     const LifeKind kind =
         lifeKind(g_App.m_bNVMe, node && node->nKind == RemovableDisk, !g_smartTable.rows.isEmpty());
-    showLife(lifeTexts(kind, storedLifeFigures(), RetranslateSeparator));
+    showLife(lifeTexts(kind, g_lifeFigures, RetranslateSeparator));
     showVerdict(g_driveVerdict);
 }
 

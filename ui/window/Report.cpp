@@ -41,7 +41,7 @@ QString askForPath(QWidget *parent, const FileQuestion &question)
 
 void MainWindow::OnCheckPreviousTestResult()
 {
-    publish(ReadPreviousTest(storedDevice(ToolPurpose::SelfTestLog)));
+    ReadPreviousTest(storedDevice(ToolPurpose::SelfTestLog));
 }
 
 void MainWindow::SavePDFReport()
@@ -62,7 +62,7 @@ void MainWindow::SavePDFReport()
     if (!report.nvme) {
         g_strLastTestType.clear();
         g_strLastTestResult.clear();
-        publish(ReadPreviousTest(report.device));
+        ReadPreviousTest(report.device);
         report.lastTestType = g_strLastTestType;
         report.lastTestResult = g_strLastTestResult;
     }

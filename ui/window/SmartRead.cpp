@@ -295,7 +295,7 @@ void MainWindow::showLifeFields(const DiskNode *node)
         lifeKind(g_App.m_bNVMe, node && node->nKind == RemovableDisk, !g_smartTable.rows.isEmpty());
     if (kind == LifeKind::Known)
         updateLifeFigures();
-    m_pDiskStatusPage->showLife(lifeTexts(kind, storedLifeFigures()));
+    m_pDiskStatusPage->showLife(lifeTexts(kind, g_lifeFigures));
     m_pDiskStatusPage->showVerdict(g_driveVerdict);
 }
 

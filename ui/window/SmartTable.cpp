@@ -4,6 +4,7 @@
 #include "smart/AttributeGraph.h"
 #include "smart/AttributeHistory.h"
 #include "smart/AttributeRows.h"
+#include "smart/DiskFigures.h"
 #include "smart/SmartGlobals.h"
 #include "state/GlobalApp.h"
 #include "state/Globals.h"
@@ -44,12 +45,7 @@ void MainWindow::GraphWithAttributes(QTreeWidgetItem *item, int /*column*/)
     // During a refresh only its thread may use the identity texts; at its end the table is filled anew.
     if (!item || g_bListsLoading)
         return;
-    if (g_strSerialNumber.isEmpty()) {
-        if (const WmicDiskRecord *record =
-                findWmicDisk(static_cast<std::uint32_t>(PhysicalDriveBase + g_nCurrentDiskIndex)))
-            g_strSerialNumber = record->szSmartSerial.text();
-    }
-    const HistoryPaths paths = historyPaths(g_strSerialNumber);
+    const HistoryPaths paths = historyPaths(serialOfGraph());
     const GraphKind kind = g_App.m_bNVMe ? GraphKind::Nvme : GraphKind::Ata;
     const QString key = item->text(g_App.m_bNVMe ? NvmeKeyColumn : AtaKeyColumn);
     bool opened = false;
