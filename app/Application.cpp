@@ -56,44 +56,30 @@ void setDefaults()
 /// The registry paths by packaging and brand. Every settings object opens the one with the redirection node.
 void chooseRegistryPaths()
 {
-    struct Paths {
-        const char *redirected;
-        const char *native;
-    };
-    static const Paths standalone = {
-        "HKEY_LOCAL_MACHINE\\Software\\Wow6432Node\\Velmora Data Rescue\\Velmora Halvane "
-        "for Windows",
-        "HKEY_LOCAL_MACHINE\\SOFTWARE\\Velmora Data Rescue\\Velmora Halvane for Windows"};
-    static const Paths korvane = {
-        "HKEY_LOCAL_MACHINE\\Software\\Wow6432Node\\Kestrin Korvane\\EasyMend\\Korvane "
-        "Halvane for Windows",
-        "HKEY_LOCAL_MACHINE\\Software\\Kestrin Korvane\\EasyMend\\Korvane Halvane for Windows"};
-    static const Paths bundled = {
-        "HKEY_LOCAL_MACHINE\\Software\\Wow6432Node\\Velmora Data Rescue\\Data "
-        "Rescue\\Velmora Halvane for Windows",
-        "HKEY_LOCAL_MACHINE\\SOFTWARE\\Velmora Data Rescue\\Data Rescue\\Velmora Halvane for "
-        "Windows"};
-    const Paths &paths = g_App.m_bStandalone ? standalone : g_App.m_bKorvaneBrand ? korvane : bundled;
-    g_App.m_strSettingsPath = QLatin1String(paths.redirected);
-    g_App.m_strNativeSettingsPath = QLatin1String(paths.native);
+    const bool korvane = g_App.m_bKorvaneBrand && !g_App.m_bStandalone;
+    const QString machine = QStringLiteral("HKEY_LOCAL_MACHINE\\");
+    const QString maker = korvane               ? QStringLiteral("Kestrin Korvane\\EasyMend\\")
+                          : g_App.m_bStandalone ? QStringLiteral("Velmora Data Rescue\\")
+                                                : QStringLiteral("Velmora Data Rescue\\Data Rescue\\");
+    const QString brand = korvane ? QStringLiteral("Korvane ") : QStringLiteral("Velmora ");
+    const QString redirected = machine + QStringLiteral("Software\\Wow6432Node\\") + maker;
+    const QString native = machine + (korvane ? QStringLiteral("Software\\") : QStringLiteral("SOFTWARE\\"));
+    g_App.m_strSettingsPath = redirected + brand + QStringLiteral("Halvane for Windows");
+    g_App.m_strNativeSettingsPath = native + maker + brand + QStringLiteral("Halvane for Windows");
     if (g_App.m_bStandalone)
         return;
-    const QString root =
-        g_App.m_bKorvaneBrand
-            ? QStringLiteral("HKEY_LOCAL_MACHINE\\Software\\Wow6432Node\\Kestrin Korvane\\EasyMend\\")
-            : QStringLiteral("HKEY_LOCAL_MACHINE\\Software\\Wow6432Node\\Velmora Data Rescue\\Data Rescue\\");
-    const QString brand = g_App.m_bKorvaneBrand ? QStringLiteral("Korvane ") : QStringLiteral("Velmora ");
-    g_App.m_strSiblingKey1 = root + brand + QStringLiteral("Data Rescue for Windows");
-    g_App.m_strSiblingKey2 = root + brand + QStringLiteral("Film Mender for Windows");
-    g_App.m_strSiblingKey3 = root + brand + QStringLiteral("Snapshot Mender for Windows");
+    g_App.m_strSiblingKey1 = redirected + brand + QStringLiteral("Data Rescue for Windows");
+    g_App.m_strSiblingKey2 = redirected + brand + QStringLiteral("Film Mender for Windows");
+    g_App.m_strSiblingKey3 = redirected + brand + QStringLiteral("Snapshot Mender for Windows");
 }
 
-void readStartSettings(int *languageType)
+/// Takes the run mode from the settings, and gives the type of the language.
+int readStartSettings()
 {
     const SettingsStore store;
-    *languageType = store.text(key::LanguageType).toInt();
     const QString scheduled = QStringLiteral("Schedular");
     g_strRunMode = store.text(key::TaskName) == scheduled ? scheduled : QString();
+    return store.text(key::LanguageType).toInt();
 }
 
 /// The setting names the temp folder of the program's last run. That goes now, and others could make one of
@@ -105,27 +91,12 @@ void forgetTool()
         store.write(key::SmartctlFolderPath, QString());
 }
 
-[[noreturn]] void refuseSecondInstance()
+/// Says why the program does not start, and ends it.
+[[noreturn]] void refuse(QMessageBox::Icon icon, const char *reason, int code)
 {
-    QMessageBox::information(
-        nullptr, QString(),
-        QCoreApplication::translate(
-            "QObject",
-            "Velmora Halvane already running. Cannot start more than one instance of the application."),
-        QMessageBox::Ok);
-    std::exit(0);
-}
-
-/// Without a temp folder no tool can be run.
-[[noreturn]] void refuseToStart()
-{
-    QMessageBox::critical(
-        nullptr, QString(),
-        QCoreApplication::translate(
-            "QObject", "Velmora Halvane cannot start: there is no folder for its temporary files that other "
-                       "users cannot change."),
-        QMessageBox::Ok);
-    std::exit(1);
+    QMessageBox box(icon, QString(), QCoreApplication::translate("QObject", reason), QMessageBox::Ok);
+    box.exec();
+    std::exit(code);
 }
 
 void readMachine()
@@ -155,21 +126,27 @@ int runApplication(int argc, char **argv)
     // The tools beside the program are called without a folder.
     platform.SetCurrentDirectoryW(g_strApplicationFolder);
     chooseRegistryPaths();
-    int languageType = 0;
-    readStartSettings(&languageType);
-    languages::setFlag(languageType);
+    languages::setFlag(readStartSettings());
     substituteFonts();
     languages::setOffered();
     languages::loadAtStart();
 
     if (!platform.TakeInstance(InstanceKey))
-        refuseSecondInstance();
+        refuse(QMessageBox::Information,
+               QT_TRANSLATE_NOOP("QObject",
+                                 "Velmora Halvane already running. Cannot start more than one instance "
+                                 "of the application."),
+               0);
     forgetTool();
+    // Without a temp folder no tool can be run.
     if (platform.GetTempPathW().isEmpty())
-        refuseToStart();
+        refuse(QMessageBox::Critical,
+               QT_TRANSLATE_NOOP("QObject",
+                                 "Velmora Halvane cannot start: there is no folder for its temporary "
+                                 "files that other users cannot change."),
+               1);
     readMachine();
 
-    auto *splash = new QWaitClass;
-    splash->show();
+    (new QWaitClass)->show();
     return QApplication::exec();
 }

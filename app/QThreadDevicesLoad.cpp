@@ -3,23 +3,13 @@
 
 #include "inventory/CommandRunner.h"
 #include "platform/OwnFiles.h"
-#include "platform/Platform.h"
-#include "smart/DeviceLoad.h"
 #include "state/GlobalApp.h"
 #include "state/Globals.h"
 
 #include <QFile>
 
-QThreadDevicesLoad::~QThreadDevicesLoad()
+void QThreadDevicesLoad::prepare()
 {
-    m_condition.wakeOne();
-    wait();
-}
-
-void QThreadDevicesLoad::run()
-{
-    QMutexLocker lock(&m_mutex);
-    Platform::current().Sleep(deviceload::PauseMilliseconds);
     const QString tool = QStringLiteral("smartctl64Bit.exe");
     g_App.m_strSmartctlPath = tempFile(tool);
     // From the program's own folder: whatever lies where it was started, such as a pipe, could hold the
@@ -28,6 +18,4 @@ void QThreadDevicesLoad::run()
     QFile copy;
     if (!content.isEmpty() && ownfiles::makeFile(&copy, nativePath(g_App.m_strSmartctlPath)))
         copy.write(content);
-    deviceload::loadLists();
-    emit OnLoadingDevices();
 }

@@ -1,32 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QMutex>
-#include <QThread>
-#include <QWaitCondition>
+#include "ui/window/QRefThreadDevicesLoad.h"
 
 /// The first load of the disk lists, behind the splash. Before it, the SMART tool is copied to the temp
 /// folder for runs that have no useful current directory.
-class QThreadDevicesLoad : public QThread
+class QThreadDevicesLoad : public QRefThreadDevicesLoad
 {
     Q_OBJECT
 
 public:
-    using QThread::QThread;
-    /// Waits for a run without a time limit.
-    ~QThreadDevicesLoad() override;
-
-signals:
-    /// The lists are complete.
-    void OnLoadingDevices();
-
-public slots:
-    void OnDriveLoad() {}
+    using QRefThreadDevicesLoad::QRefThreadDevicesLoad;
+    ~QThreadDevicesLoad() override { wait(); }
 
 protected:
-    void run() override;
-
-private:
-    QMutex m_mutex;
-    QWaitCondition m_condition;
+    void prepare() override;
 };

@@ -55,7 +55,9 @@ QWaitClass::QWaitClass()
     g_App.m_fScale = static_cast<float>(percent) / 100.0F;
     setTextRectangle();
     setSideImage();
-    scaleWidgets();
+    setFixedSize(style::px(width()), style::px(height()));
+    for (QLabel *child : {label_3, InitTextLabel, ProgressLabel, SplaceCoptLabel})
+        style::scaleWidget(child);
     styleBrand();
     InitTextLabel->setText(tr("Initializing Velmora Halvane..."));
     InitTextLabel->setStyleSheet(QStringLiteral("QLabel { color : black;}"));
@@ -68,17 +70,13 @@ QWaitClass::QWaitClass()
         connect(notifier, &DeviceNotifier::deviceChange, this, &QWaitClass::onDeviceChange);
 }
 
-QWaitClass::~QWaitClass() = default;
-
 void QWaitClass::setTextRectangle()
 {
-    m_rcText = {65, 218, 110, 21};
-    if (g_App.m_bFrench || g_App.m_bSpanish)
-        m_rcText.x = 85;
-    else if (g_App.m_bItalian)
-        m_rcText.x = 75;
-    else if (g_App.m_bEnglish)
-        m_rcText = {60, 218, 86, 21};
+    const int x = g_App.m_bFrench || g_App.m_bSpanish ? 85
+                  : g_App.m_bItalian                  ? 75
+                  : g_App.m_bEnglish                  ? 60
+                                                      : 65;
+    m_rcText = QRect(x, 218, g_App.m_bEnglish ? 86 : 110, 21);
 }
 
 void QWaitClass::setSideImage()
@@ -89,13 +87,6 @@ void QWaitClass::setSideImage()
     else if (g_App.m_bKorean && g_App.m_bKoreanImages)
         file = QStringLiteral("img_SideImage_KO.png");
     images::setLabelImage(label_3, file, images::Family::Folder);
-}
-
-void QWaitClass::scaleWidgets()
-{
-    setFixedSize(style::px(width()), style::px(height()));
-    for (QLabel *child : {label_3, InitTextLabel, ProgressLabel, SplaceCoptLabel})
-        style::scaleWidget(child);
 }
 
 void QWaitClass::styleBrand()
@@ -115,8 +106,6 @@ void QWaitClass::startFadeIn()
     m_pFadeInTimer = new QTimer(this);
     setWindowFlags(Qt::SplashScreen);
     setWindowOpacity(0.0);
-    m_fFadeIn = 0.0F;
-    m_fFadeOut = 0.0F;
     Platform::current().SetThreadExecutionState(StayAwake);
     m_pFadeInTimer->start(FadeTick);
     connect(&m_loadThread, &QThreadDevicesLoad::OnLoadingDevices, this, &QWaitClass::OnInitialize);
@@ -187,18 +176,14 @@ void QWaitClass::GetDriveRefresh()
 
 void QWaitClass::onDeviceChange(quint32 event, quint32 deviceType)
 {
-    if (deviceType != DeviceChange::Volume)
+    const bool arrived = event == DeviceChange::Arrival;
+    if (deviceType != DeviceChange::Volume || (!arrived && event != DeviceChange::RemoveComplete))
         return;
-    if (event != DeviceChange::Arrival && event != DeviceChange::RemoveComplete)
-        return;
-    m_bDeviceChanged = true;
-    if (g_bJobRunning) {
-        // A volume that came can wait for the next load. One that went is still in the lists: they are
-        // stale.
-        g_bListsStale = g_bListsStale || event == DeviceChange::RemoveComplete;
-        return;
-    }
-    if (event == DeviceChange::Arrival)
+    // A volume that came during a job can wait for the next load. One that went is still in the lists: they
+    // are stale.
+    if (g_bJobRunning)
+        g_bListsStale = g_bListsStale || !arrived;
+    else if (arrived)
         emit DriveArrived();
     else
         emit DriveRemoved();

@@ -7,8 +7,6 @@
 
 #include <QDialog>
 
-#include <optional>
-
 class MainWindow;
 class QMovie;
 class QTimer;
@@ -16,13 +14,12 @@ class QTimer;
 /// The splash. It fades in, loads the disks on a thread of its own, fades out and brings up the main window.
 /// Hidden, it stays for the whole run, because the notices of volumes that come and go arrive at it. Main
 /// thread only.
-class QWaitClass : public QDialog, public Ui::WaitDlg
+class QWaitClass : public QDialog, private Ui::WaitDlg
 {
     Q_OBJECT
 
 public:
     QWaitClass();
-    ~QWaitClass() override;
 
 signals:
     void IntimateToRefreshDrives();
@@ -44,21 +41,13 @@ protected:
 private:
     void setTextRectangle();
     void setSideImage();
-    void scaleWidgets();
     void styleBrand();
     void startFadeIn();
     void startLoading();
     void showMainWindow();
     void onDeviceChange(quint32 event, quint32 deviceType);
 
-    struct TextRectangle {
-        int x;
-        int y;
-        int w;
-        int h;
-    };
-
-    TextRectangle m_rcText{}; ///< kept per language, read by nothing
+    QRect m_rcText; ///< kept per language, read by nothing
     QThreadDevicesLoad m_loadThread;
     QMovie *m_pMovie = nullptr;
     MainWindow *m_pMain = nullptr;
@@ -66,5 +55,4 @@ private:
     QTimer *m_pFadeInTimer = nullptr;
     float m_fFadeOut = 0.0F;
     float m_fFadeIn = 0.0F;
-    bool m_bDeviceChanged = false; ///< a volume came or went
 };

@@ -4,12 +4,6 @@
 #include "platform/Platform.h"
 #include "smart/DeviceLoad.h"
 
-QRefThreadDevicesLoad::~QRefThreadDevicesLoad()
-{
-    m_condition.wakeOne();
-    wait();
-}
-
 void QRefThreadDevicesLoad::startBehind(QThread &reader)
 {
     // A run that has signalled still takes a moment to end, and a start in that moment would be lost.
@@ -21,11 +15,11 @@ void QRefThreadDevicesLoad::startBehind(QThread &reader)
 
 void QRefThreadDevicesLoad::run()
 {
-    QMutexLocker lock(&m_mutex);
     if (m_pReader)
         m_pReader->wait();
     // A newly attached volume needs a moment to appear.
     Platform::current().Sleep(deviceload::PauseMilliseconds);
+    prepare();
     deviceload::loadLists();
     m_bComplete = true;
     emit OnLoadingDevices();

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QMutex>
 #include <QThread>
-#include <QWaitCondition>
 
 #include <atomic>
 
@@ -16,7 +14,7 @@ class QRefThreadDevicesLoad : public QThread
 public:
     using QThread::QThread;
     /// Waits for a run without a time limit.
-    ~QRefThreadDevicesLoad() override;
+    ~QRefThreadDevicesLoad() override { wait(); }
 
     /// Starts a run that waits for the end of `reader` before it loads. Not to be called while a run is under
     /// way, that is from here to its signal.
@@ -33,10 +31,10 @@ public slots:
 
 protected:
     void run() override;
+    /// What a run does between its pause and the load.
+    virtual void prepare() {}
 
 private:
     QThread *m_pReader = nullptr;
     std::atomic<bool> m_bComplete{false};
-    QMutex m_mutex;
-    QWaitCondition m_condition;
 };
