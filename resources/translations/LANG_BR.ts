@@ -394,22 +394,6 @@
         <translation>Clonagem cancelada pelo usuário.</translation>
     </message>
     <message>
-        <source>Disk Details</source>
-        <translation>Detalhes do disco</translation>
-    </message>
-    <message>
-        <source>Source Disk</source>
-        <translation>Disco de origem</translation>
-    </message>
-    <message>
-        <source>Target Disk</source>
-        <translation>Disco de destino</translation>
-    </message>
-    <message>
-        <source>Remaining Time</source>
-        <translation>Tempo restante</translation>
-    </message>
-    <message>
         <source>Select Destination</source>
         <translation>Selecione o destino</translation>
     </message>
@@ -558,26 +542,6 @@
 <context>
     <name>DiskPartition</name>
     <message>
-        <source>Disk Partition</source>
-        <translation>Partições do disco</translation>
-    </message>
-    <message>
-        <source>Partition Details</source>
-        <translation>Detalhes das partições</translation>
-    </message>
-    <message>
-        <source>Serial Number</source>
-        <translation>Número de série</translation>
-    </message>
-    <message>
-        <source>Capacity</source>
-        <translation>Capacidade</translation>
-    </message>
-    <message>
-        <source>Interface Type</source>
-        <translation>Tipo de interface</translation>
-    </message>
-    <message>
         <source>ATA Disk</source>
         <translation>Disco ATA</translation>
     </message>
@@ -609,52 +573,8 @@
         <translation>Saúde</translation>
     </message>
     <message>
-        <source>Disk Details</source>
-        <translation>Detalhes do disco</translation>
-    </message>
-    <message>
-        <source>Disk Number</source>
-        <translation>Número do disco</translation>
-    </message>
-    <message>
-        <source>Model Number</source>
-        <translation>Número do modelo</translation>
-    </message>
-    <message>
-        <source>Firmware Revision</source>
-        <translation>Revisão do firmware</translation>
-    </message>
-    <message>
-        <source>Interface Type</source>
-        <translation>Tipo de interface</translation>
-    </message>
-    <message>
-        <source>Serial Number</source>
-        <translation>Número de série</translation>
-    </message>
-    <message>
-        <source>Total Sectors</source>
-        <translation>Total de setores</translation>
-    </message>
-    <message>
-        <source>Hard Disk Life</source>
-        <translation>Vida útil do disco</translation>
-    </message>
-    <message>
-        <source>Power-on Time</source>
-        <translation>Tempo ligado</translation>
-    </message>
-    <message>
-        <source>Start/Stop Count</source>
-        <translation>Partidas/paradas</translation>
-    </message>
-    <message>
         <source>Not Supported</source>
         <translation>Sem suporte</translation>
-    </message>
-    <message>
-        <source>Drive&apos;s verdict</source>
-        <translation>Veredito do disco</translation>
     </message>
     <message>
         <source>Failed: back up your data</source>
@@ -1073,34 +993,6 @@
         <translation>Interrompa a verificação antes de sair.</translation>
     </message>
     <message>
-        <source>Start</source>
-        <translation>Iniciar</translation>
-    </message>
-    <message>
-        <source>Clone</source>
-        <translation>Clonar</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Parar</translation>
-    </message>
-    <message>
-        <source>Back</source>
-        <translation>Voltar</translation>
-    </message>
-    <message>
-        <source>Save Report</source>
-        <translation>Salvar relatório</translation>
-    </message>
-    <message>
-        <source>Screenshot</source>
-        <translation>Captura de tela</translation>
-    </message>
-    <message>
-        <source>Serial Number</source>
-        <translation>Número de série</translation>
-    </message>
-    <message>
         <source>SMART Status</source>
         <translation>Status SMART</translation>
     </message>
@@ -1131,10 +1023,6 @@
     <message>
         <source>Repair Photo</source>
         <translation>Reparar foto</translation>
-    </message>
-    <message>
-        <source>Select Destination</source>
-        <translation>Selecione o destino</translation>
     </message>
     <message>
         <source>Please wait. Application Refreshing...</source>
@@ -1183,10 +1071,6 @@
     <message>
         <source>Do you wish to abort the Self-test?</source>
         <translation>Deseja cancelar o autoteste?</translation>
-    </message>
-    <message>
-        <source>ATA Disk</source>
-        <translation>Disco ATA</translation>
     </message>
     <message>
         <source>Please wait. Getting SMART information...</source>
@@ -1395,54 +1279,6 @@ A atualização falhou porque o download ficou incompleto.</translation>
     <message>
         <source> seconds</source>
         <translation> segundos</translation>
-    </message>
-    <message>
-        <source>Scan Disk</source>
-        <translation>Verificar disco</translation>
-    </message>
-    <message>
-        <source>Disk Size</source>
-        <translation>Tamanho do disco</translation>
-    </message>
-    <message>
-        <source>Total Sectors</source>
-        <translation>Total de setores</translation>
-    </message>
-    <message>
-        <source>Block Size</source>
-        <translation>Tamanho do bloco</translation>
-    </message>
-    <message>
-        <source>  Processed</source>
-        <translation>  Processados</translation>
-    </message>
-    <message>
-        <source>  Bad Sectors</source>
-        <translation>  Setores defeituosos</translation>
-    </message>
-    <message>
-        <source>  Processing</source>
-        <translation>  Em processamento</translation>
-    </message>
-    <message>
-        <source>Short Self-test</source>
-        <translation>Autoteste curto</translation>
-    </message>
-    <message>
-        <source>Extended Self-test</source>
-        <translation>Autoteste estendido</translation>
-    </message>
-    <message>
-        <source>Perform a surface scan on the selected disk to identify if the disk has bad sectors.</source>
-        <translation>Verifique a superfície do disco selecionado para descobrir se ele tem setores defeituosos.</translation>
-    </message>
-    <message>
-        <source>Run this test to check the electrical and mechanical performance of a device along with the read/write operations on a portion of the disk. This test may take few minutes to complete.</source>
-        <translation>Este teste verifica o desempenho elétrico e mecânico do dispositivo, além da leitura e da gravação em uma parte do disco. Pode levar alguns minutos.</translation>
-    </message>
-    <message>
-        <source>This test is same as a short self-test with a complete disk surface examination. This test may take up to few hours to complete.</source>
-        <translation>Este teste é igual ao autoteste curto, com um exame completo da superfície do disco. Pode levar algumas horas.</translation>
     </message>
     <message>
         <source>Time Remaining</source>
@@ -1689,26 +1525,6 @@ A atualização falhou porque o download ficou incompleto.</translation>
         <translation>AttName</translation>
     </message>
     <message>
-        <source>SMART Status : </source>
-        <translation>Status SMART: </translation>
-    </message>
-    <message>
-        <source>Serial Number</source>
-        <translation>Número de série</translation>
-    </message>
-    <message>
-        <source>Capacity</source>
-        <translation>Capacidade</translation>
-    </message>
-    <message>
-        <source>Interface Type</source>
-        <translation>Tipo de interface</translation>
-    </message>
-    <message>
-        <source>Save Report</source>
-        <translation>Salvar relatório</translation>
-    </message>
-    <message>
         <source>Smart Status</source>
         <translation>Status SMART</translation>
     </message>
@@ -1757,6 +1573,25 @@ A atualização falhou porque o download ficou incompleto.</translation>
     </message>
 </context>
 <context>
+    <name>m_pCloneDiskwgt</name>
+    <message>
+        <source>Disk Details</source>
+        <translation>Detalhes do disco</translation>
+    </message>
+    <message>
+        <source>Source Disk</source>
+        <translation>Disco de origem</translation>
+    </message>
+    <message>
+        <source>Target Disk</source>
+        <translation>Disco de destino</translation>
+    </message>
+    <message>
+        <source>Remaining Time</source>
+        <translation>Tempo restante</translation>
+    </message>
+</context>
+<context>
     <name>m_pCloseWgt</name>
     <message>
         <source>Exit</source>
@@ -1773,6 +1608,29 @@ A atualização falhou porque o download ficou incompleto.</translation>
     <message>
         <source>No</source>
         <translation>Não</translation>
+    </message>
+</context>
+<context>
+    <name>m_pDiskPartitionWgt</name>
+    <message>
+        <source>Disk Partition</source>
+        <translation>Partições do disco</translation>
+    </message>
+    <message>
+        <source>Partition Details</source>
+        <translation>Detalhes das partições</translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>Número de série</translation>
+    </message>
+    <message>
+        <source>Capacity</source>
+        <translation>Capacidade</translation>
+    </message>
+    <message>
+        <source>Interface Type</source>
+        <translation>Tipo de interface</translation>
     </message>
 </context>
 <context>
@@ -1859,6 +1717,57 @@ A atualização falhou porque o download ficou incompleto.</translation>
     <message>
         <source>Screenshot</source>
         <translation>Captura de tela</translation>
+    </message>
+</context>
+<context>
+    <name>m_pScanDiskwgt</name>
+    <message>
+        <source>Scan Disk</source>
+        <translation>Verificar disco</translation>
+    </message>
+    <message>
+        <source>Disk Size</source>
+        <translation>Tamanho do disco</translation>
+    </message>
+    <message>
+        <source>Total Sectors</source>
+        <translation>Total de setores</translation>
+    </message>
+    <message>
+        <source>Block Size</source>
+        <translation>Tamanho do bloco</translation>
+    </message>
+    <message>
+        <source>  Processed</source>
+        <translation>  Processados</translation>
+    </message>
+    <message>
+        <source>  Bad Sectors</source>
+        <translation>  Setores defeituosos</translation>
+    </message>
+    <message>
+        <source>  Processing</source>
+        <translation>  Em processamento</translation>
+    </message>
+    <message>
+        <source>Short Self-test</source>
+        <translation>Autoteste curto</translation>
+    </message>
+    <message>
+        <source>Extended Self-test</source>
+        <translation>Autoteste estendido</translation>
+    </message>
+    <message>
+        <source>Perform a surface scan on the selected disk to identify if the disk has bad sectors.</source>
+        <translation>Verifique a superfície do disco selecionado para descobrir se ele tem setores defeituosos.</translation>
+    </message>
+    <message>
+        <source>Run this test to check the electrical and mechanical performance of a device along with the read/write operations on a portion of the disk. This test may take few minutes to complete.</source>
+        <translation>Este teste verifica o desempenho elétrico e mecânico do dispositivo, além da leitura e da gravação em uma parte do disco. Pode levar alguns minutos.</translation>
+    </message>
+    <message>
+        <source>This test is same as a short self-test with a complete disk surface examination. This test may take up to few hours to complete.</source>
+        <translation>Este teste é igual ao autoteste curto, com um exame completo da superfície do disco. Pode levar algumas horas.</translation>
     </message>
 </context>
 <context>
@@ -1970,6 +1879,29 @@ A atualização falhou porque o download ficou incompleto.</translation>
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>m_pSmartWgt</name>
+    <message>
+        <source>SMART Status : </source>
+        <translation>Status SMART: </translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>Número de série</translation>
+    </message>
+    <message>
+        <source>Capacity</source>
+        <translation>Capacidade</translation>
+    </message>
+    <message>
+        <source>Interface Type</source>
+        <translation>Tipo de interface</translation>
+    </message>
+    <message>
+        <source>Save Report</source>
+        <translation>Salvar relatório</translation>
     </message>
 </context>
 </TS>

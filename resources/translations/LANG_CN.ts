@@ -394,22 +394,6 @@
         <translation>用户已中止克隆过程。</translation>
     </message>
     <message>
-        <source>Disk Details</source>
-        <translation>磁盘详细信息</translation>
-    </message>
-    <message>
-        <source>Source Disk</source>
-        <translation>源磁盘</translation>
-    </message>
-    <message>
-        <source>Target Disk</source>
-        <translation>目标磁盘</translation>
-    </message>
-    <message>
-        <source>Remaining Time</source>
-        <translation>剩余时间</translation>
-    </message>
-    <message>
         <source>Select Destination</source>
         <translation>选择目标</translation>
     </message>
@@ -558,26 +542,6 @@
 <context>
     <name>DiskPartition</name>
     <message>
-        <source>Disk Partition</source>
-        <translation>磁盘分区</translation>
-    </message>
-    <message>
-        <source>Partition Details</source>
-        <translation>分区详细信息</translation>
-    </message>
-    <message>
-        <source>Serial Number</source>
-        <translation>序列号</translation>
-    </message>
-    <message>
-        <source>Capacity</source>
-        <translation>容量</translation>
-    </message>
-    <message>
-        <source>Interface Type</source>
-        <translation>接口类型</translation>
-    </message>
-    <message>
         <source>ATA Disk</source>
         <translation>ATA 磁盘</translation>
     </message>
@@ -609,52 +573,8 @@
         <translation>健康状态</translation>
     </message>
     <message>
-        <source>Disk Details</source>
-        <translation>磁盘详细信息</translation>
-    </message>
-    <message>
-        <source>Disk Number</source>
-        <translation>磁盘编号</translation>
-    </message>
-    <message>
-        <source>Model Number</source>
-        <translation>型号</translation>
-    </message>
-    <message>
-        <source>Firmware Revision</source>
-        <translation>固件版本</translation>
-    </message>
-    <message>
-        <source>Interface Type</source>
-        <translation>接口类型</translation>
-    </message>
-    <message>
-        <source>Serial Number</source>
-        <translation>序列号</translation>
-    </message>
-    <message>
-        <source>Total Sectors</source>
-        <translation>扇区总数</translation>
-    </message>
-    <message>
-        <source>Hard Disk Life</source>
-        <translation>硬盘寿命</translation>
-    </message>
-    <message>
-        <source>Power-on Time</source>
-        <translation>通电时间</translation>
-    </message>
-    <message>
-        <source>Start/Stop Count</source>
-        <translation>启停次数</translation>
-    </message>
-    <message>
         <source>Not Supported</source>
         <translation>不支持</translation>
-    </message>
-    <message>
-        <source>Drive&apos;s verdict</source>
-        <translation>硬盘自身结论</translation>
     </message>
     <message>
         <source>Failed: back up your data</source>
@@ -1073,34 +993,6 @@
         <translation>请先停止扫描再退出。</translation>
     </message>
     <message>
-        <source>Start</source>
-        <translation>开始</translation>
-    </message>
-    <message>
-        <source>Clone</source>
-        <translation>克隆</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>停止</translation>
-    </message>
-    <message>
-        <source>Back</source>
-        <translation>返回</translation>
-    </message>
-    <message>
-        <source>Save Report</source>
-        <translation>保存报告</translation>
-    </message>
-    <message>
-        <source>Screenshot</source>
-        <translation>屏幕截图</translation>
-    </message>
-    <message>
-        <source>Serial Number</source>
-        <translation>序列号</translation>
-    </message>
-    <message>
         <source>SMART Status</source>
         <translation>SMART 状态</translation>
     </message>
@@ -1131,10 +1023,6 @@
     <message>
         <source>Repair Photo</source>
         <translation>修复照片</translation>
-    </message>
-    <message>
-        <source>Select Destination</source>
-        <translation>选择目标</translation>
     </message>
     <message>
         <source>Please wait. Application Refreshing...</source>
@@ -1183,10 +1071,6 @@
     <message>
         <source>Do you wish to abort the Self-test?</source>
         <translation>要中止自检吗？</translation>
-    </message>
-    <message>
-        <source>ATA Disk</source>
-        <translation>ATA 磁盘</translation>
     </message>
     <message>
         <source>Please wait. Getting SMART information...</source>
@@ -1395,54 +1279,6 @@ Update failed due to partial download.</source>
     <message>
         <source> seconds</source>
         <translation> 秒</translation>
-    </message>
-    <message>
-        <source>Scan Disk</source>
-        <translation>扫描磁盘</translation>
-    </message>
-    <message>
-        <source>Disk Size</source>
-        <translation>磁盘大小</translation>
-    </message>
-    <message>
-        <source>Total Sectors</source>
-        <translation>扇区总数</translation>
-    </message>
-    <message>
-        <source>Block Size</source>
-        <translation>块大小</translation>
-    </message>
-    <message>
-        <source>  Processed</source>
-        <translation>  已处理</translation>
-    </message>
-    <message>
-        <source>  Bad Sectors</source>
-        <translation>  坏扇区</translation>
-    </message>
-    <message>
-        <source>  Processing</source>
-        <translation>  处理中</translation>
-    </message>
-    <message>
-        <source>Short Self-test</source>
-        <translation>快速自检</translation>
-    </message>
-    <message>
-        <source>Extended Self-test</source>
-        <translation>扩展自检</translation>
-    </message>
-    <message>
-        <source>Perform a surface scan on the selected disk to identify if the disk has bad sectors.</source>
-        <translation>对所选磁盘进行表面扫描，检查磁盘是否有坏扇区。</translation>
-    </message>
-    <message>
-        <source>Run this test to check the electrical and mechanical performance of a device along with the read/write operations on a portion of the disk. This test may take few minutes to complete.</source>
-        <translation>此测试检查设备的电气和机械性能，以及磁盘部分区域的读写操作。测试可能需要几分钟。</translation>
-    </message>
-    <message>
-        <source>This test is same as a short self-test with a complete disk surface examination. This test may take up to few hours to complete.</source>
-        <translation>此测试与快速自检相同，并会检查整个磁盘表面。测试可能需要几个小时。</translation>
     </message>
     <message>
         <source>Time Remaining</source>
@@ -1689,26 +1525,6 @@ Update failed due to partial download.</source>
         <translation>AttName</translation>
     </message>
     <message>
-        <source>SMART Status : </source>
-        <translation>SMART 状态: </translation>
-    </message>
-    <message>
-        <source>Serial Number</source>
-        <translation>序列号</translation>
-    </message>
-    <message>
-        <source>Capacity</source>
-        <translation>容量</translation>
-    </message>
-    <message>
-        <source>Interface Type</source>
-        <translation>接口类型</translation>
-    </message>
-    <message>
-        <source>Save Report</source>
-        <translation>保存报告</translation>
-    </message>
-    <message>
         <source>Smart Status</source>
         <translation>SMART 状态</translation>
     </message>
@@ -1757,6 +1573,25 @@ Update failed due to partial download.</source>
     </message>
 </context>
 <context>
+    <name>m_pCloneDiskwgt</name>
+    <message>
+        <source>Disk Details</source>
+        <translation>磁盘详细信息</translation>
+    </message>
+    <message>
+        <source>Source Disk</source>
+        <translation>源磁盘</translation>
+    </message>
+    <message>
+        <source>Target Disk</source>
+        <translation>目标磁盘</translation>
+    </message>
+    <message>
+        <source>Remaining Time</source>
+        <translation>剩余时间</translation>
+    </message>
+</context>
+<context>
     <name>m_pCloseWgt</name>
     <message>
         <source>Exit</source>
@@ -1773,6 +1608,29 @@ Update failed due to partial download.</source>
     <message>
         <source>No</source>
         <translation>否</translation>
+    </message>
+</context>
+<context>
+    <name>m_pDiskPartitionWgt</name>
+    <message>
+        <source>Disk Partition</source>
+        <translation>磁盘分区</translation>
+    </message>
+    <message>
+        <source>Partition Details</source>
+        <translation>分区详细信息</translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>序列号</translation>
+    </message>
+    <message>
+        <source>Capacity</source>
+        <translation>容量</translation>
+    </message>
+    <message>
+        <source>Interface Type</source>
+        <translation>接口类型</translation>
     </message>
 </context>
 <context>
@@ -1859,6 +1717,57 @@ Update failed due to partial download.</source>
     <message>
         <source>Screenshot</source>
         <translation>屏幕截图</translation>
+    </message>
+</context>
+<context>
+    <name>m_pScanDiskwgt</name>
+    <message>
+        <source>Scan Disk</source>
+        <translation>扫描磁盘</translation>
+    </message>
+    <message>
+        <source>Disk Size</source>
+        <translation>磁盘大小</translation>
+    </message>
+    <message>
+        <source>Total Sectors</source>
+        <translation>扇区总数</translation>
+    </message>
+    <message>
+        <source>Block Size</source>
+        <translation>块大小</translation>
+    </message>
+    <message>
+        <source>  Processed</source>
+        <translation>  已处理</translation>
+    </message>
+    <message>
+        <source>  Bad Sectors</source>
+        <translation>  坏扇区</translation>
+    </message>
+    <message>
+        <source>  Processing</source>
+        <translation>  处理中</translation>
+    </message>
+    <message>
+        <source>Short Self-test</source>
+        <translation>快速自检</translation>
+    </message>
+    <message>
+        <source>Extended Self-test</source>
+        <translation>扩展自检</translation>
+    </message>
+    <message>
+        <source>Perform a surface scan on the selected disk to identify if the disk has bad sectors.</source>
+        <translation>对所选磁盘进行表面扫描，检查磁盘是否有坏扇区。</translation>
+    </message>
+    <message>
+        <source>Run this test to check the electrical and mechanical performance of a device along with the read/write operations on a portion of the disk. This test may take few minutes to complete.</source>
+        <translation>此测试检查设备的电气和机械性能，以及磁盘部分区域的读写操作。测试可能需要几分钟。</translation>
+    </message>
+    <message>
+        <source>This test is same as a short self-test with a complete disk surface examination. This test may take up to few hours to complete.</source>
+        <translation>此测试与快速自检相同，并会检查整个磁盘表面。测试可能需要几个小时。</translation>
     </message>
 </context>
 <context>
@@ -1970,6 +1879,29 @@ Update failed due to partial download.</source>
     <message>
         <source>OK</source>
         <translation>确定</translation>
+    </message>
+</context>
+<context>
+    <name>m_pSmartWgt</name>
+    <message>
+        <source>SMART Status : </source>
+        <translation>SMART 状态: </translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>序列号</translation>
+    </message>
+    <message>
+        <source>Capacity</source>
+        <translation>容量</translation>
+    </message>
+    <message>
+        <source>Interface Type</source>
+        <translation>接口类型</translation>
+    </message>
+    <message>
+        <source>Save Report</source>
+        <translation>保存报告</translation>
     </message>
 </context>
 </TS>

@@ -394,22 +394,6 @@
         <translation>Der Klonvorgang wurde vom Benutzer abgebrochen.</translation>
     </message>
     <message>
-        <source>Disk Details</source>
-        <translation>Laufwerksdetails</translation>
-    </message>
-    <message>
-        <source>Source Disk</source>
-        <translation>Quelllaufwerk</translation>
-    </message>
-    <message>
-        <source>Target Disk</source>
-        <translation>Ziellaufwerk</translation>
-    </message>
-    <message>
-        <source>Remaining Time</source>
-        <translation>Verbleibende Zeit</translation>
-    </message>
-    <message>
         <source>Select Destination</source>
         <translation>Ziel auswählen</translation>
     </message>
@@ -558,26 +542,6 @@
 <context>
     <name>DiskPartition</name>
     <message>
-        <source>Disk Partition</source>
-        <translation>Partitionen</translation>
-    </message>
-    <message>
-        <source>Partition Details</source>
-        <translation>Partitionsdetails</translation>
-    </message>
-    <message>
-        <source>Serial Number</source>
-        <translation>Seriennummer</translation>
-    </message>
-    <message>
-        <source>Capacity</source>
-        <translation>Kapazität</translation>
-    </message>
-    <message>
-        <source>Interface Type</source>
-        <translation>Schnittstelle</translation>
-    </message>
-    <message>
         <source>ATA Disk</source>
         <translation>ATA-Laufwerk</translation>
     </message>
@@ -609,52 +573,8 @@
         <translation>Zustand</translation>
     </message>
     <message>
-        <source>Disk Details</source>
-        <translation>Laufwerksdetails</translation>
-    </message>
-    <message>
-        <source>Disk Number</source>
-        <translation>Laufwerksnummer</translation>
-    </message>
-    <message>
-        <source>Model Number</source>
-        <translation>Modellnummer</translation>
-    </message>
-    <message>
-        <source>Firmware Revision</source>
-        <translation>Firmwareversion</translation>
-    </message>
-    <message>
-        <source>Interface Type</source>
-        <translation>Schnittstelle</translation>
-    </message>
-    <message>
-        <source>Serial Number</source>
-        <translation>Seriennummer</translation>
-    </message>
-    <message>
-        <source>Total Sectors</source>
-        <translation>Sektoren gesamt</translation>
-    </message>
-    <message>
-        <source>Hard Disk Life</source>
-        <translation>Restlebensdauer</translation>
-    </message>
-    <message>
-        <source>Power-on Time</source>
-        <translation>Betriebszeit</translation>
-    </message>
-    <message>
-        <source>Start/Stop Count</source>
-        <translation>Start-Stopp-Zyklen</translation>
-    </message>
-    <message>
         <source>Not Supported</source>
         <translation>Nicht unterstützt</translation>
-    </message>
-    <message>
-        <source>Drive&apos;s verdict</source>
-        <translation>Laufwerksurteil</translation>
     </message>
     <message>
         <source>Failed: back up your data</source>
@@ -1073,34 +993,6 @@
         <translation>Bitte stoppen Sie vor dem Beenden den Scan.</translation>
     </message>
     <message>
-        <source>Start</source>
-        <translation>Start</translation>
-    </message>
-    <message>
-        <source>Clone</source>
-        <translation>Klonen</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Stopp</translation>
-    </message>
-    <message>
-        <source>Back</source>
-        <translation>Zurück</translation>
-    </message>
-    <message>
-        <source>Save Report</source>
-        <translation>Bericht speichern</translation>
-    </message>
-    <message>
-        <source>Screenshot</source>
-        <translation>Screenshot</translation>
-    </message>
-    <message>
-        <source>Serial Number</source>
-        <translation>Seriennummer</translation>
-    </message>
-    <message>
         <source>SMART Status</source>
         <translation>SMART-Status</translation>
     </message>
@@ -1131,10 +1023,6 @@
     <message>
         <source>Repair Photo</source>
         <translation>Foto reparieren</translation>
-    </message>
-    <message>
-        <source>Select Destination</source>
-        <translation>Ziel auswählen</translation>
     </message>
     <message>
         <source>Please wait. Application Refreshing...</source>
@@ -1183,10 +1071,6 @@
     <message>
         <source>Do you wish to abort the Self-test?</source>
         <translation>Möchten Sie den Selbsttest abbrechen?</translation>
-    </message>
-    <message>
-        <source>ATA Disk</source>
-        <translation>ATA-Laufwerk</translation>
     </message>
     <message>
         <source>Please wait. Getting SMART information...</source>
@@ -1395,54 +1279,6 @@ Das Update ist fehlgeschlagen, weil der Download unvollständig war.</translatio
     <message>
         <source> seconds</source>
         <translation> Sekunden</translation>
-    </message>
-    <message>
-        <source>Scan Disk</source>
-        <translation>Laufwerk scannen</translation>
-    </message>
-    <message>
-        <source>Disk Size</source>
-        <translation>Laufwerksgröße</translation>
-    </message>
-    <message>
-        <source>Total Sectors</source>
-        <translation>Sektoren gesamt</translation>
-    </message>
-    <message>
-        <source>Block Size</source>
-        <translation>Blockgröße</translation>
-    </message>
-    <message>
-        <source>  Processed</source>
-        <translation>  Geprüft</translation>
-    </message>
-    <message>
-        <source>  Bad Sectors</source>
-        <translation>  Defekte Sektoren</translation>
-    </message>
-    <message>
-        <source>  Processing</source>
-        <translation>  In Bearbeitung</translation>
-    </message>
-    <message>
-        <source>Short Self-test</source>
-        <translation>Kurzer Selbsttest</translation>
-    </message>
-    <message>
-        <source>Extended Self-test</source>
-        <translation>Erweiterter Selbsttest</translation>
-    </message>
-    <message>
-        <source>Perform a surface scan on the selected disk to identify if the disk has bad sectors.</source>
-        <translation>Führt einen Oberflächenscan des ausgewählten Laufwerks durch, um festzustellen, ob es defekte Sektoren enthält.</translation>
-    </message>
-    <message>
-        <source>Run this test to check the electrical and mechanical performance of a device along with the read/write operations on a portion of the disk. This test may take few minutes to complete.</source>
-        <translation>Dieser Test prüft die elektrische und mechanische Leistung eines Geräts sowie die Lese- und Schreibvorgänge auf einem Teil des Laufwerks. Er kann einige Minuten dauern.</translation>
-    </message>
-    <message>
-        <source>This test is same as a short self-test with a complete disk surface examination. This test may take up to few hours to complete.</source>
-        <translation>Dieser Test entspricht dem kurzen Selbsttest, prüft aber zusätzlich die gesamte Laufwerksoberfläche. Er kann einige Stunden dauern.</translation>
     </message>
     <message>
         <source>Time Remaining</source>
@@ -1689,26 +1525,6 @@ Das Update ist fehlgeschlagen, weil der Download unvollständig war.</translatio
         <translation>AttName</translation>
     </message>
     <message>
-        <source>SMART Status : </source>
-        <translation>SMART-Status: </translation>
-    </message>
-    <message>
-        <source>Serial Number</source>
-        <translation>Seriennummer</translation>
-    </message>
-    <message>
-        <source>Capacity</source>
-        <translation>Kapazität</translation>
-    </message>
-    <message>
-        <source>Interface Type</source>
-        <translation>Schnittstelle</translation>
-    </message>
-    <message>
-        <source>Save Report</source>
-        <translation>Bericht speichern</translation>
-    </message>
-    <message>
         <source>Smart Status</source>
         <translation>SMART-Status</translation>
     </message>
@@ -1757,6 +1573,25 @@ Das Update ist fehlgeschlagen, weil der Download unvollständig war.</translatio
     </message>
 </context>
 <context>
+    <name>m_pCloneDiskwgt</name>
+    <message>
+        <source>Disk Details</source>
+        <translation>Laufwerksdetails</translation>
+    </message>
+    <message>
+        <source>Source Disk</source>
+        <translation>Quelllaufwerk</translation>
+    </message>
+    <message>
+        <source>Target Disk</source>
+        <translation>Ziellaufwerk</translation>
+    </message>
+    <message>
+        <source>Remaining Time</source>
+        <translation>Verbleibende Zeit</translation>
+    </message>
+</context>
+<context>
     <name>m_pCloseWgt</name>
     <message>
         <source>Exit</source>
@@ -1773,6 +1608,29 @@ Das Update ist fehlgeschlagen, weil der Download unvollständig war.</translatio
     <message>
         <source>No</source>
         <translation>Nein</translation>
+    </message>
+</context>
+<context>
+    <name>m_pDiskPartitionWgt</name>
+    <message>
+        <source>Disk Partition</source>
+        <translation>Partitionen</translation>
+    </message>
+    <message>
+        <source>Partition Details</source>
+        <translation>Partitionsdetails</translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>Seriennummer</translation>
+    </message>
+    <message>
+        <source>Capacity</source>
+        <translation>Kapazität</translation>
+    </message>
+    <message>
+        <source>Interface Type</source>
+        <translation>Schnittstelle</translation>
     </message>
 </context>
 <context>
@@ -1859,6 +1717,57 @@ Das Update ist fehlgeschlagen, weil der Download unvollständig war.</translatio
     <message>
         <source>Screenshot</source>
         <translation>Screenshot</translation>
+    </message>
+</context>
+<context>
+    <name>m_pScanDiskwgt</name>
+    <message>
+        <source>Scan Disk</source>
+        <translation>Laufwerk scannen</translation>
+    </message>
+    <message>
+        <source>Disk Size</source>
+        <translation>Laufwerksgröße</translation>
+    </message>
+    <message>
+        <source>Total Sectors</source>
+        <translation>Sektoren gesamt</translation>
+    </message>
+    <message>
+        <source>Block Size</source>
+        <translation>Blockgröße</translation>
+    </message>
+    <message>
+        <source>  Processed</source>
+        <translation>  Geprüft</translation>
+    </message>
+    <message>
+        <source>  Bad Sectors</source>
+        <translation>  Defekte Sektoren</translation>
+    </message>
+    <message>
+        <source>  Processing</source>
+        <translation>  In Bearbeitung</translation>
+    </message>
+    <message>
+        <source>Short Self-test</source>
+        <translation>Kurzer Selbsttest</translation>
+    </message>
+    <message>
+        <source>Extended Self-test</source>
+        <translation>Erweiterter Selbsttest</translation>
+    </message>
+    <message>
+        <source>Perform a surface scan on the selected disk to identify if the disk has bad sectors.</source>
+        <translation>Führt einen Oberflächenscan des ausgewählten Laufwerks durch, um festzustellen, ob es defekte Sektoren enthält.</translation>
+    </message>
+    <message>
+        <source>Run this test to check the electrical and mechanical performance of a device along with the read/write operations on a portion of the disk. This test may take few minutes to complete.</source>
+        <translation>Dieser Test prüft die elektrische und mechanische Leistung eines Geräts sowie die Lese- und Schreibvorgänge auf einem Teil des Laufwerks. Er kann einige Minuten dauern.</translation>
+    </message>
+    <message>
+        <source>This test is same as a short self-test with a complete disk surface examination. This test may take up to few hours to complete.</source>
+        <translation>Dieser Test entspricht dem kurzen Selbsttest, prüft aber zusätzlich die gesamte Laufwerksoberfläche. Er kann einige Stunden dauern.</translation>
     </message>
 </context>
 <context>
@@ -1970,6 +1879,29 @@ Das Update ist fehlgeschlagen, weil der Download unvollständig war.</translatio
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>m_pSmartWgt</name>
+    <message>
+        <source>SMART Status : </source>
+        <translation>SMART-Status: </translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>Seriennummer</translation>
+    </message>
+    <message>
+        <source>Capacity</source>
+        <translation>Kapazität</translation>
+    </message>
+    <message>
+        <source>Interface Type</source>
+        <translation>Schnittstelle</translation>
+    </message>
+    <message>
+        <source>Save Report</source>
+        <translation>Bericht speichern</translation>
     </message>
 </context>
 </TS>

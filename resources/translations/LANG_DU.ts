@@ -394,22 +394,6 @@
         <translation>Het klonen is door de gebruiker afgebroken.</translation>
     </message>
     <message>
-        <source>Disk Details</source>
-        <translation>Schijfdetails</translation>
-    </message>
-    <message>
-        <source>Source Disk</source>
-        <translation>Bronschijf</translation>
-    </message>
-    <message>
-        <source>Target Disk</source>
-        <translation>Doelschijf</translation>
-    </message>
-    <message>
-        <source>Remaining Time</source>
-        <translation>Resterende tijd</translation>
-    </message>
-    <message>
         <source>Select Destination</source>
         <translation>Doel selecteren</translation>
     </message>
@@ -558,26 +542,6 @@
 <context>
     <name>DiskPartition</name>
     <message>
-        <source>Disk Partition</source>
-        <translation>Partities</translation>
-    </message>
-    <message>
-        <source>Partition Details</source>
-        <translation>Partitiedetails</translation>
-    </message>
-    <message>
-        <source>Serial Number</source>
-        <translation>Serienummer</translation>
-    </message>
-    <message>
-        <source>Capacity</source>
-        <translation>Capaciteit</translation>
-    </message>
-    <message>
-        <source>Interface Type</source>
-        <translation>Interfacetype</translation>
-    </message>
-    <message>
         <source>ATA Disk</source>
         <translation>ATA-schijf</translation>
     </message>
@@ -609,52 +573,8 @@
         <translation>Conditie</translation>
     </message>
     <message>
-        <source>Disk Details</source>
-        <translation>Schijfdetails</translation>
-    </message>
-    <message>
-        <source>Disk Number</source>
-        <translation>Schijfnummer</translation>
-    </message>
-    <message>
-        <source>Model Number</source>
-        <translation>Modelnummer</translation>
-    </message>
-    <message>
-        <source>Firmware Revision</source>
-        <translation>Firmwareversie</translation>
-    </message>
-    <message>
-        <source>Interface Type</source>
-        <translation>Interfacetype</translation>
-    </message>
-    <message>
-        <source>Serial Number</source>
-        <translation>Serienummer</translation>
-    </message>
-    <message>
-        <source>Total Sectors</source>
-        <translation>Aantal sectoren</translation>
-    </message>
-    <message>
-        <source>Hard Disk Life</source>
-        <translation>Resterende levensduur</translation>
-    </message>
-    <message>
-        <source>Power-on Time</source>
-        <translation>Bedrijfstijd</translation>
-    </message>
-    <message>
-        <source>Start/Stop Count</source>
-        <translation>Start-stopcycli</translation>
-    </message>
-    <message>
         <source>Not Supported</source>
         <translation>Niet ondersteund</translation>
-    </message>
-    <message>
-        <source>Drive&apos;s verdict</source>
-        <translation>Oordeel van schijf</translation>
     </message>
     <message>
         <source>Failed: back up your data</source>
@@ -1073,34 +993,6 @@
         <translation>Stop de scan voordat u afsluit.</translation>
     </message>
     <message>
-        <source>Start</source>
-        <translation>Start</translation>
-    </message>
-    <message>
-        <source>Clone</source>
-        <translation>Klonen</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Stop</translation>
-    </message>
-    <message>
-        <source>Back</source>
-        <translation>Terug</translation>
-    </message>
-    <message>
-        <source>Save Report</source>
-        <translation>Rapport opslaan</translation>
-    </message>
-    <message>
-        <source>Screenshot</source>
-        <translation>Schermafdruk</translation>
-    </message>
-    <message>
-        <source>Serial Number</source>
-        <translation>Serienummer</translation>
-    </message>
-    <message>
         <source>SMART Status</source>
         <translation>SMART-status</translation>
     </message>
@@ -1131,10 +1023,6 @@
     <message>
         <source>Repair Photo</source>
         <translation>Foto herstellen</translation>
-    </message>
-    <message>
-        <source>Select Destination</source>
-        <translation>Doel selecteren</translation>
     </message>
     <message>
         <source>Please wait. Application Refreshing...</source>
@@ -1183,10 +1071,6 @@
     <message>
         <source>Do you wish to abort the Self-test?</source>
         <translation>Wilt u de zelftest afbreken?</translation>
-    </message>
-    <message>
-        <source>ATA Disk</source>
-        <translation>ATA-schijf</translation>
     </message>
     <message>
         <source>Please wait. Getting SMART information...</source>
@@ -1395,54 +1279,6 @@ De update is mislukt doordat de download onvolledig was.</translation>
     <message>
         <source> seconds</source>
         <translation> seconden</translation>
-    </message>
-    <message>
-        <source>Scan Disk</source>
-        <translation>Schijf scannen</translation>
-    </message>
-    <message>
-        <source>Disk Size</source>
-        <translation>Schijfgrootte</translation>
-    </message>
-    <message>
-        <source>Total Sectors</source>
-        <translation>Aantal sectoren</translation>
-    </message>
-    <message>
-        <source>Block Size</source>
-        <translation>Blokgrootte</translation>
-    </message>
-    <message>
-        <source>  Processed</source>
-        <translation>  Gescand</translation>
-    </message>
-    <message>
-        <source>  Bad Sectors</source>
-        <translation>  Slechte sectoren</translation>
-    </message>
-    <message>
-        <source>  Processing</source>
-        <translation>  Bezig</translation>
-    </message>
-    <message>
-        <source>Short Self-test</source>
-        <translation>Korte zelftest</translation>
-    </message>
-    <message>
-        <source>Extended Self-test</source>
-        <translation>Uitgebreide zelftest</translation>
-    </message>
-    <message>
-        <source>Perform a surface scan on the selected disk to identify if the disk has bad sectors.</source>
-        <translation>Voer een oppervlaktescan uit op de geselecteerde schijf om na te gaan of de schijf slechte sectoren heeft.</translation>
-    </message>
-    <message>
-        <source>Run this test to check the electrical and mechanical performance of a device along with the read/write operations on a portion of the disk. This test may take few minutes to complete.</source>
-        <translation>Voer deze test uit om de elektrische en mechanische prestaties van een apparaat en de lees- en schrijfbewerkingen op een deel van de schijf te controleren. Deze test kan enkele minuten duren.</translation>
-    </message>
-    <message>
-        <source>This test is same as a short self-test with a complete disk surface examination. This test may take up to few hours to complete.</source>
-        <translation>Deze test is gelijk aan een korte zelftest, maar controleert ook het volledige schijfoppervlak. Deze test kan enkele uren duren.</translation>
     </message>
     <message>
         <source>Time Remaining</source>
@@ -1689,26 +1525,6 @@ De update is mislukt doordat de download onvolledig was.</translation>
         <translation>AttName</translation>
     </message>
     <message>
-        <source>SMART Status : </source>
-        <translation>SMART-status: </translation>
-    </message>
-    <message>
-        <source>Serial Number</source>
-        <translation>Serienummer</translation>
-    </message>
-    <message>
-        <source>Capacity</source>
-        <translation>Capaciteit</translation>
-    </message>
-    <message>
-        <source>Interface Type</source>
-        <translation>Interfacetype</translation>
-    </message>
-    <message>
-        <source>Save Report</source>
-        <translation>Rapport opslaan</translation>
-    </message>
-    <message>
         <source>Smart Status</source>
         <translation>SMART-status</translation>
     </message>
@@ -1757,6 +1573,25 @@ De update is mislukt doordat de download onvolledig was.</translation>
     </message>
 </context>
 <context>
+    <name>m_pCloneDiskwgt</name>
+    <message>
+        <source>Disk Details</source>
+        <translation>Schijfdetails</translation>
+    </message>
+    <message>
+        <source>Source Disk</source>
+        <translation>Bronschijf</translation>
+    </message>
+    <message>
+        <source>Target Disk</source>
+        <translation>Doelschijf</translation>
+    </message>
+    <message>
+        <source>Remaining Time</source>
+        <translation>Resterende tijd</translation>
+    </message>
+</context>
+<context>
     <name>m_pCloseWgt</name>
     <message>
         <source>Exit</source>
@@ -1773,6 +1608,29 @@ De update is mislukt doordat de download onvolledig was.</translation>
     <message>
         <source>No</source>
         <translation>Nee</translation>
+    </message>
+</context>
+<context>
+    <name>m_pDiskPartitionWgt</name>
+    <message>
+        <source>Disk Partition</source>
+        <translation>Partities</translation>
+    </message>
+    <message>
+        <source>Partition Details</source>
+        <translation>Partitiedetails</translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>Serienummer</translation>
+    </message>
+    <message>
+        <source>Capacity</source>
+        <translation>Capaciteit</translation>
+    </message>
+    <message>
+        <source>Interface Type</source>
+        <translation>Interfacetype</translation>
     </message>
 </context>
 <context>
@@ -1859,6 +1717,57 @@ De update is mislukt doordat de download onvolledig was.</translation>
     <message>
         <source>Screenshot</source>
         <translation>Schermafdruk</translation>
+    </message>
+</context>
+<context>
+    <name>m_pScanDiskwgt</name>
+    <message>
+        <source>Scan Disk</source>
+        <translation>Schijf scannen</translation>
+    </message>
+    <message>
+        <source>Disk Size</source>
+        <translation>Schijfgrootte</translation>
+    </message>
+    <message>
+        <source>Total Sectors</source>
+        <translation>Aantal sectoren</translation>
+    </message>
+    <message>
+        <source>Block Size</source>
+        <translation>Blokgrootte</translation>
+    </message>
+    <message>
+        <source>  Processed</source>
+        <translation>  Gescand</translation>
+    </message>
+    <message>
+        <source>  Bad Sectors</source>
+        <translation>  Slechte sectoren</translation>
+    </message>
+    <message>
+        <source>  Processing</source>
+        <translation>  Bezig</translation>
+    </message>
+    <message>
+        <source>Short Self-test</source>
+        <translation>Korte zelftest</translation>
+    </message>
+    <message>
+        <source>Extended Self-test</source>
+        <translation>Uitgebreide zelftest</translation>
+    </message>
+    <message>
+        <source>Perform a surface scan on the selected disk to identify if the disk has bad sectors.</source>
+        <translation>Voer een oppervlaktescan uit op de geselecteerde schijf om na te gaan of de schijf slechte sectoren heeft.</translation>
+    </message>
+    <message>
+        <source>Run this test to check the electrical and mechanical performance of a device along with the read/write operations on a portion of the disk. This test may take few minutes to complete.</source>
+        <translation>Voer deze test uit om de elektrische en mechanische prestaties van een apparaat en de lees- en schrijfbewerkingen op een deel van de schijf te controleren. Deze test kan enkele minuten duren.</translation>
+    </message>
+    <message>
+        <source>This test is same as a short self-test with a complete disk surface examination. This test may take up to few hours to complete.</source>
+        <translation>Deze test is gelijk aan een korte zelftest, maar controleert ook het volledige schijfoppervlak. Deze test kan enkele uren duren.</translation>
     </message>
 </context>
 <context>
@@ -1970,6 +1879,29 @@ De update is mislukt doordat de download onvolledig was.</translation>
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>m_pSmartWgt</name>
+    <message>
+        <source>SMART Status : </source>
+        <translation>SMART-status: </translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>Serienummer</translation>
+    </message>
+    <message>
+        <source>Capacity</source>
+        <translation>Capaciteit</translation>
+    </message>
+    <message>
+        <source>Interface Type</source>
+        <translation>Interfacetype</translation>
+    </message>
+    <message>
+        <source>Save Report</source>
+        <translation>Rapport opslaan</translation>
     </message>
 </context>
 </TS>

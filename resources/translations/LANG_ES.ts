@@ -394,22 +394,6 @@
         <translation>El usuario ha anulado la clonación.</translation>
     </message>
     <message>
-        <source>Disk Details</source>
-        <translation>Detalles del disco</translation>
-    </message>
-    <message>
-        <source>Source Disk</source>
-        <translation>Disco de origen</translation>
-    </message>
-    <message>
-        <source>Target Disk</source>
-        <translation>Disco de destino</translation>
-    </message>
-    <message>
-        <source>Remaining Time</source>
-        <translation>Tiempo restante</translation>
-    </message>
-    <message>
         <source>Select Destination</source>
         <translation>Seleccione el destino</translation>
     </message>
@@ -558,26 +542,6 @@
 <context>
     <name>DiskPartition</name>
     <message>
-        <source>Disk Partition</source>
-        <translation>Particiones del disco</translation>
-    </message>
-    <message>
-        <source>Partition Details</source>
-        <translation>Detalles de las particiones</translation>
-    </message>
-    <message>
-        <source>Serial Number</source>
-        <translation>Número de serie</translation>
-    </message>
-    <message>
-        <source>Capacity</source>
-        <translation>Capacidad</translation>
-    </message>
-    <message>
-        <source>Interface Type</source>
-        <translation>Tipo de interfaz</translation>
-    </message>
-    <message>
         <source>ATA Disk</source>
         <translation>Disco ATA</translation>
     </message>
@@ -609,52 +573,8 @@
         <translation>Salud</translation>
     </message>
     <message>
-        <source>Disk Details</source>
-        <translation>Detalles del disco</translation>
-    </message>
-    <message>
-        <source>Disk Number</source>
-        <translation>Número de disco</translation>
-    </message>
-    <message>
-        <source>Model Number</source>
-        <translation>Número de modelo</translation>
-    </message>
-    <message>
-        <source>Firmware Revision</source>
-        <translation>Revisión de firmware</translation>
-    </message>
-    <message>
-        <source>Interface Type</source>
-        <translation>Tipo de interfaz</translation>
-    </message>
-    <message>
-        <source>Serial Number</source>
-        <translation>Número de serie</translation>
-    </message>
-    <message>
-        <source>Total Sectors</source>
-        <translation>Total de sectores</translation>
-    </message>
-    <message>
-        <source>Hard Disk Life</source>
-        <translation>Vida útil del disco</translation>
-    </message>
-    <message>
-        <source>Power-on Time</source>
-        <translation>Tiempo encendido</translation>
-    </message>
-    <message>
-        <source>Start/Stop Count</source>
-        <translation>Arranques/paradas</translation>
-    </message>
-    <message>
         <source>Not Supported</source>
         <translation>No admitido</translation>
-    </message>
-    <message>
-        <source>Drive&apos;s verdict</source>
-        <translation>Veredicto del disco</translation>
     </message>
     <message>
         <source>Failed: back up your data</source>
@@ -1073,34 +993,6 @@
         <translation>Detenga el análisis antes de salir.</translation>
     </message>
     <message>
-        <source>Start</source>
-        <translation>Iniciar</translation>
-    </message>
-    <message>
-        <source>Clone</source>
-        <translation>Clonar</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Detener</translation>
-    </message>
-    <message>
-        <source>Back</source>
-        <translation>Atrás</translation>
-    </message>
-    <message>
-        <source>Save Report</source>
-        <translation>Guardar informe</translation>
-    </message>
-    <message>
-        <source>Screenshot</source>
-        <translation>Captura</translation>
-    </message>
-    <message>
-        <source>Serial Number</source>
-        <translation>Número de serie</translation>
-    </message>
-    <message>
         <source>SMART Status</source>
         <translation>Estado SMART</translation>
     </message>
@@ -1131,10 +1023,6 @@
     <message>
         <source>Repair Photo</source>
         <translation>Reparar foto</translation>
-    </message>
-    <message>
-        <source>Select Destination</source>
-        <translation>Seleccione el destino</translation>
     </message>
     <message>
         <source>Please wait. Application Refreshing...</source>
@@ -1183,10 +1071,6 @@
     <message>
         <source>Do you wish to abort the Self-test?</source>
         <translation>¿Desea anular la autoprueba?</translation>
-    </message>
-    <message>
-        <source>ATA Disk</source>
-        <translation>Disco ATA</translation>
     </message>
     <message>
         <source>Please wait. Getting SMART information...</source>
@@ -1395,54 +1279,6 @@ La actualización falló porque la descarga quedó incompleta.</translation>
     <message>
         <source> seconds</source>
         <translation> segundos</translation>
-    </message>
-    <message>
-        <source>Scan Disk</source>
-        <translation>Analizar disco</translation>
-    </message>
-    <message>
-        <source>Disk Size</source>
-        <translation>Tamaño del disco</translation>
-    </message>
-    <message>
-        <source>Total Sectors</source>
-        <translation>Total de sectores</translation>
-    </message>
-    <message>
-        <source>Block Size</source>
-        <translation>Tamaño de bloque</translation>
-    </message>
-    <message>
-        <source>  Processed</source>
-        <translation>  Procesados</translation>
-    </message>
-    <message>
-        <source>  Bad Sectors</source>
-        <translation>  Sectores defectuosos</translation>
-    </message>
-    <message>
-        <source>  Processing</source>
-        <translation>  En proceso</translation>
-    </message>
-    <message>
-        <source>Short Self-test</source>
-        <translation>Autoprueba corta</translation>
-    </message>
-    <message>
-        <source>Extended Self-test</source>
-        <translation>Autoprueba extendida</translation>
-    </message>
-    <message>
-        <source>Perform a surface scan on the selected disk to identify if the disk has bad sectors.</source>
-        <translation>Analiza la superficie del disco seleccionado para averiguar si tiene sectores defectuosos.</translation>
-    </message>
-    <message>
-        <source>Run this test to check the electrical and mechanical performance of a device along with the read/write operations on a portion of the disk. This test may take few minutes to complete.</source>
-        <translation>Esta prueba comprueba el funcionamiento eléctrico y mecánico del dispositivo, así como la lectura y escritura en una parte del disco. Puede tardar unos minutos.</translation>
-    </message>
-    <message>
-        <source>This test is same as a short self-test with a complete disk surface examination. This test may take up to few hours to complete.</source>
-        <translation>Esta prueba equivale a la autoprueba corta con un examen completo de la superficie del disco. Puede tardar varias horas.</translation>
     </message>
     <message>
         <source>Time Remaining</source>
@@ -1689,26 +1525,6 @@ La actualización falló porque la descarga quedó incompleta.</translation>
         <translation>AttName</translation>
     </message>
     <message>
-        <source>SMART Status : </source>
-        <translation>Estado SMART: </translation>
-    </message>
-    <message>
-        <source>Serial Number</source>
-        <translation>Número de serie</translation>
-    </message>
-    <message>
-        <source>Capacity</source>
-        <translation>Capacidad</translation>
-    </message>
-    <message>
-        <source>Interface Type</source>
-        <translation>Tipo de interfaz</translation>
-    </message>
-    <message>
-        <source>Save Report</source>
-        <translation>Guardar informe</translation>
-    </message>
-    <message>
         <source>Smart Status</source>
         <translation>Estado SMART</translation>
     </message>
@@ -1757,6 +1573,25 @@ La actualización falló porque la descarga quedó incompleta.</translation>
     </message>
 </context>
 <context>
+    <name>m_pCloneDiskwgt</name>
+    <message>
+        <source>Disk Details</source>
+        <translation>Detalles del disco</translation>
+    </message>
+    <message>
+        <source>Source Disk</source>
+        <translation>Disco de origen</translation>
+    </message>
+    <message>
+        <source>Target Disk</source>
+        <translation>Disco de destino</translation>
+    </message>
+    <message>
+        <source>Remaining Time</source>
+        <translation>Tiempo restante</translation>
+    </message>
+</context>
+<context>
     <name>m_pCloseWgt</name>
     <message>
         <source>Exit</source>
@@ -1773,6 +1608,29 @@ La actualización falló porque la descarga quedó incompleta.</translation>
     <message>
         <source>No</source>
         <translation>No</translation>
+    </message>
+</context>
+<context>
+    <name>m_pDiskPartitionWgt</name>
+    <message>
+        <source>Disk Partition</source>
+        <translation>Particiones del disco</translation>
+    </message>
+    <message>
+        <source>Partition Details</source>
+        <translation>Detalles de las particiones</translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>Número de serie</translation>
+    </message>
+    <message>
+        <source>Capacity</source>
+        <translation>Capacidad</translation>
+    </message>
+    <message>
+        <source>Interface Type</source>
+        <translation>Tipo de interfaz</translation>
     </message>
 </context>
 <context>
@@ -1859,6 +1717,57 @@ La actualización falló porque la descarga quedó incompleta.</translation>
     <message>
         <source>Screenshot</source>
         <translation>Captura</translation>
+    </message>
+</context>
+<context>
+    <name>m_pScanDiskwgt</name>
+    <message>
+        <source>Scan Disk</source>
+        <translation>Analizar disco</translation>
+    </message>
+    <message>
+        <source>Disk Size</source>
+        <translation>Tamaño del disco</translation>
+    </message>
+    <message>
+        <source>Total Sectors</source>
+        <translation>Total de sectores</translation>
+    </message>
+    <message>
+        <source>Block Size</source>
+        <translation>Tamaño de bloque</translation>
+    </message>
+    <message>
+        <source>  Processed</source>
+        <translation>  Procesados</translation>
+    </message>
+    <message>
+        <source>  Bad Sectors</source>
+        <translation>  Sectores defectuosos</translation>
+    </message>
+    <message>
+        <source>  Processing</source>
+        <translation>  En proceso</translation>
+    </message>
+    <message>
+        <source>Short Self-test</source>
+        <translation>Autoprueba corta</translation>
+    </message>
+    <message>
+        <source>Extended Self-test</source>
+        <translation>Autoprueba extendida</translation>
+    </message>
+    <message>
+        <source>Perform a surface scan on the selected disk to identify if the disk has bad sectors.</source>
+        <translation>Analiza la superficie del disco seleccionado para averiguar si tiene sectores defectuosos.</translation>
+    </message>
+    <message>
+        <source>Run this test to check the electrical and mechanical performance of a device along with the read/write operations on a portion of the disk. This test may take few minutes to complete.</source>
+        <translation>Esta prueba comprueba el funcionamiento eléctrico y mecánico del dispositivo, así como la lectura y escritura en una parte del disco. Puede tardar unos minutos.</translation>
+    </message>
+    <message>
+        <source>This test is same as a short self-test with a complete disk surface examination. This test may take up to few hours to complete.</source>
+        <translation>Esta prueba equivale a la autoprueba corta con un examen completo de la superficie del disco. Puede tardar varias horas.</translation>
     </message>
 </context>
 <context>
@@ -1970,6 +1879,29 @@ La actualización falló porque la descarga quedó incompleta.</translation>
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>m_pSmartWgt</name>
+    <message>
+        <source>SMART Status : </source>
+        <translation>Estado SMART: </translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>Número de serie</translation>
+    </message>
+    <message>
+        <source>Capacity</source>
+        <translation>Capacidad</translation>
+    </message>
+    <message>
+        <source>Interface Type</source>
+        <translation>Tipo de interfaz</translation>
+    </message>
+    <message>
+        <source>Save Report</source>
+        <translation>Guardar informe</translation>
     </message>
 </context>
 </TS>

@@ -394,22 +394,6 @@
         <translation>Le clonage a été abandonné par l&apos;utilisateur.</translation>
     </message>
     <message>
-        <source>Disk Details</source>
-        <translation>Détails du disque</translation>
-    </message>
-    <message>
-        <source>Source Disk</source>
-        <translation>Disque source</translation>
-    </message>
-    <message>
-        <source>Target Disk</source>
-        <translation>Disque cible</translation>
-    </message>
-    <message>
-        <source>Remaining Time</source>
-        <translation>Temps restant</translation>
-    </message>
-    <message>
         <source>Select Destination</source>
         <translation>Sélectionnez la cible</translation>
     </message>
@@ -558,26 +542,6 @@
 <context>
     <name>DiskPartition</name>
     <message>
-        <source>Disk Partition</source>
-        <translation>Partitions du disque</translation>
-    </message>
-    <message>
-        <source>Partition Details</source>
-        <translation>Détails des partitions</translation>
-    </message>
-    <message>
-        <source>Serial Number</source>
-        <translation>Numéro de série</translation>
-    </message>
-    <message>
-        <source>Capacity</source>
-        <translation>Capacité</translation>
-    </message>
-    <message>
-        <source>Interface Type</source>
-        <translation>Type d&apos;interface</translation>
-    </message>
-    <message>
         <source>ATA Disk</source>
         <translation>Disque ATA</translation>
     </message>
@@ -609,52 +573,8 @@
         <translation>Santé</translation>
     </message>
     <message>
-        <source>Disk Details</source>
-        <translation>Détails du disque</translation>
-    </message>
-    <message>
-        <source>Disk Number</source>
-        <translation>Numéro du disque</translation>
-    </message>
-    <message>
-        <source>Model Number</source>
-        <translation>Numéro de modèle</translation>
-    </message>
-    <message>
-        <source>Firmware Revision</source>
-        <translation>Révision du firmware</translation>
-    </message>
-    <message>
-        <source>Interface Type</source>
-        <translation>Type d&apos;interface</translation>
-    </message>
-    <message>
-        <source>Serial Number</source>
-        <translation>Numéro de série</translation>
-    </message>
-    <message>
-        <source>Total Sectors</source>
-        <translation>Total des secteurs</translation>
-    </message>
-    <message>
-        <source>Hard Disk Life</source>
-        <translation>Durée de vie</translation>
-    </message>
-    <message>
-        <source>Power-on Time</source>
-        <translation>Temps de fonctionnement</translation>
-    </message>
-    <message>
-        <source>Start/Stop Count</source>
-        <translation>Démarrages/arrêts</translation>
-    </message>
-    <message>
         <source>Not Supported</source>
         <translation>Non géré</translation>
-    </message>
-    <message>
-        <source>Drive&apos;s verdict</source>
-        <translation>Verdict du disque</translation>
     </message>
     <message>
         <source>Failed: back up your data</source>
@@ -1073,34 +993,6 @@
         <translation>Arrêtez l&apos;analyse avant de quitter.</translation>
     </message>
     <message>
-        <source>Start</source>
-        <translation>Démarrer</translation>
-    </message>
-    <message>
-        <source>Clone</source>
-        <translation>Cloner</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Arrêter</translation>
-    </message>
-    <message>
-        <source>Back</source>
-        <translation>Retour</translation>
-    </message>
-    <message>
-        <source>Save Report</source>
-        <translation>Enregistrer le rapport</translation>
-    </message>
-    <message>
-        <source>Screenshot</source>
-        <translation>Capture d&apos;écran</translation>
-    </message>
-    <message>
-        <source>Serial Number</source>
-        <translation>Numéro de série</translation>
-    </message>
-    <message>
         <source>SMART Status</source>
         <translation>État SMART</translation>
     </message>
@@ -1131,10 +1023,6 @@
     <message>
         <source>Repair Photo</source>
         <translation>Réparer une photo</translation>
-    </message>
-    <message>
-        <source>Select Destination</source>
-        <translation>Sélectionnez la cible</translation>
     </message>
     <message>
         <source>Please wait. Application Refreshing...</source>
@@ -1183,10 +1071,6 @@
     <message>
         <source>Do you wish to abort the Self-test?</source>
         <translation>Voulez-vous abandonner l&apos;autotest ?</translation>
-    </message>
-    <message>
-        <source>ATA Disk</source>
-        <translation>Disque ATA</translation>
     </message>
     <message>
         <source>Please wait. Getting SMART information...</source>
@@ -1395,54 +1279,6 @@ La mise à jour a échoué : le téléchargement est incomplet.</translation>
     <message>
         <source> seconds</source>
         <translation> secondes</translation>
-    </message>
-    <message>
-        <source>Scan Disk</source>
-        <translation>Analyser le disque</translation>
-    </message>
-    <message>
-        <source>Disk Size</source>
-        <translation>Taille du disque</translation>
-    </message>
-    <message>
-        <source>Total Sectors</source>
-        <translation>Total des secteurs</translation>
-    </message>
-    <message>
-        <source>Block Size</source>
-        <translation>Taille de bloc</translation>
-    </message>
-    <message>
-        <source>  Processed</source>
-        <translation>  Traités</translation>
-    </message>
-    <message>
-        <source>  Bad Sectors</source>
-        <translation>  Secteurs défectueux</translation>
-    </message>
-    <message>
-        <source>  Processing</source>
-        <translation>  En traitement</translation>
-    </message>
-    <message>
-        <source>Short Self-test</source>
-        <translation>Autotest court</translation>
-    </message>
-    <message>
-        <source>Extended Self-test</source>
-        <translation>Autotest étendu</translation>
-    </message>
-    <message>
-        <source>Perform a surface scan on the selected disk to identify if the disk has bad sectors.</source>
-        <translation>Analyse la surface du disque sélectionné pour savoir s&apos;il contient des secteurs défectueux.</translation>
-    </message>
-    <message>
-        <source>Run this test to check the electrical and mechanical performance of a device along with the read/write operations on a portion of the disk. This test may take few minutes to complete.</source>
-        <translation>Ce test vérifie le fonctionnement électrique et mécanique du disque ainsi que la lecture et l&apos;écriture sur une partie du disque. Il peut durer quelques minutes.</translation>
-    </message>
-    <message>
-        <source>This test is same as a short self-test with a complete disk surface examination. This test may take up to few hours to complete.</source>
-        <translation>Ce test est identique à l&apos;autotest court, avec un examen complet de la surface du disque. Il peut durer plusieurs heures.</translation>
     </message>
     <message>
         <source>Time Remaining</source>
@@ -1689,26 +1525,6 @@ La mise à jour a échoué : le téléchargement est incomplet.</translation>
         <translation>AttName</translation>
     </message>
     <message>
-        <source>SMART Status : </source>
-        <translation>État SMART : </translation>
-    </message>
-    <message>
-        <source>Serial Number</source>
-        <translation>Numéro de série</translation>
-    </message>
-    <message>
-        <source>Capacity</source>
-        <translation>Capacité</translation>
-    </message>
-    <message>
-        <source>Interface Type</source>
-        <translation>Type d&apos;interface</translation>
-    </message>
-    <message>
-        <source>Save Report</source>
-        <translation>Enregistrer le rapport</translation>
-    </message>
-    <message>
         <source>Smart Status</source>
         <translation>État SMART</translation>
     </message>
@@ -1757,6 +1573,25 @@ La mise à jour a échoué : le téléchargement est incomplet.</translation>
     </message>
 </context>
 <context>
+    <name>m_pCloneDiskwgt</name>
+    <message>
+        <source>Disk Details</source>
+        <translation>Détails du disque</translation>
+    </message>
+    <message>
+        <source>Source Disk</source>
+        <translation>Disque source</translation>
+    </message>
+    <message>
+        <source>Target Disk</source>
+        <translation>Disque cible</translation>
+    </message>
+    <message>
+        <source>Remaining Time</source>
+        <translation>Temps restant</translation>
+    </message>
+</context>
+<context>
     <name>m_pCloseWgt</name>
     <message>
         <source>Exit</source>
@@ -1773,6 +1608,29 @@ La mise à jour a échoué : le téléchargement est incomplet.</translation>
     <message>
         <source>No</source>
         <translation>Non</translation>
+    </message>
+</context>
+<context>
+    <name>m_pDiskPartitionWgt</name>
+    <message>
+        <source>Disk Partition</source>
+        <translation>Partitions du disque</translation>
+    </message>
+    <message>
+        <source>Partition Details</source>
+        <translation>Détails des partitions</translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>Numéro de série</translation>
+    </message>
+    <message>
+        <source>Capacity</source>
+        <translation>Capacité</translation>
+    </message>
+    <message>
+        <source>Interface Type</source>
+        <translation>Type d&apos;interface</translation>
     </message>
 </context>
 <context>
@@ -1859,6 +1717,57 @@ La mise à jour a échoué : le téléchargement est incomplet.</translation>
     <message>
         <source>Screenshot</source>
         <translation>Capture d&apos;écran</translation>
+    </message>
+</context>
+<context>
+    <name>m_pScanDiskwgt</name>
+    <message>
+        <source>Scan Disk</source>
+        <translation>Analyser le disque</translation>
+    </message>
+    <message>
+        <source>Disk Size</source>
+        <translation>Taille du disque</translation>
+    </message>
+    <message>
+        <source>Total Sectors</source>
+        <translation>Total des secteurs</translation>
+    </message>
+    <message>
+        <source>Block Size</source>
+        <translation>Taille de bloc</translation>
+    </message>
+    <message>
+        <source>  Processed</source>
+        <translation>  Traités</translation>
+    </message>
+    <message>
+        <source>  Bad Sectors</source>
+        <translation>  Secteurs défectueux</translation>
+    </message>
+    <message>
+        <source>  Processing</source>
+        <translation>  En traitement</translation>
+    </message>
+    <message>
+        <source>Short Self-test</source>
+        <translation>Autotest court</translation>
+    </message>
+    <message>
+        <source>Extended Self-test</source>
+        <translation>Autotest étendu</translation>
+    </message>
+    <message>
+        <source>Perform a surface scan on the selected disk to identify if the disk has bad sectors.</source>
+        <translation>Analyse la surface du disque sélectionné pour savoir s&apos;il contient des secteurs défectueux.</translation>
+    </message>
+    <message>
+        <source>Run this test to check the electrical and mechanical performance of a device along with the read/write operations on a portion of the disk. This test may take few minutes to complete.</source>
+        <translation>Ce test vérifie le fonctionnement électrique et mécanique du disque ainsi que la lecture et l&apos;écriture sur une partie du disque. Il peut durer quelques minutes.</translation>
+    </message>
+    <message>
+        <source>This test is same as a short self-test with a complete disk surface examination. This test may take up to few hours to complete.</source>
+        <translation>Ce test est identique à l&apos;autotest court, avec un examen complet de la surface du disque. Il peut durer plusieurs heures.</translation>
     </message>
 </context>
 <context>
@@ -1970,6 +1879,29 @@ La mise à jour a échoué : le téléchargement est incomplet.</translation>
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>m_pSmartWgt</name>
+    <message>
+        <source>SMART Status : </source>
+        <translation>État SMART : </translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>Numéro de série</translation>
+    </message>
+    <message>
+        <source>Capacity</source>
+        <translation>Capacité</translation>
+    </message>
+    <message>
+        <source>Interface Type</source>
+        <translation>Type d&apos;interface</translation>
+    </message>
+    <message>
+        <source>Save Report</source>
+        <translation>Enregistrer le rapport</translation>
     </message>
 </context>
 </TS>

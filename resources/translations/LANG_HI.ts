@@ -394,22 +394,6 @@
         <translation>उपयोगकर्ता ने क्लोनिंग रद्द की।</translation>
     </message>
     <message>
-        <source>Disk Details</source>
-        <translation>डिस्क विवरण</translation>
-    </message>
-    <message>
-        <source>Source Disk</source>
-        <translation>स्रोत डिस्क</translation>
-    </message>
-    <message>
-        <source>Target Disk</source>
-        <translation>गंतव्य डिस्क</translation>
-    </message>
-    <message>
-        <source>Remaining Time</source>
-        <translation>शेष समय</translation>
-    </message>
-    <message>
         <source>Select Destination</source>
         <translation>गंतव्य चुनें</translation>
     </message>
@@ -558,26 +542,6 @@
 <context>
     <name>DiskPartition</name>
     <message>
-        <source>Disk Partition</source>
-        <translation>डिस्क पार्टिशन</translation>
-    </message>
-    <message>
-        <source>Partition Details</source>
-        <translation>पार्टिशन विवरण</translation>
-    </message>
-    <message>
-        <source>Serial Number</source>
-        <translation>सीरियल नंबर</translation>
-    </message>
-    <message>
-        <source>Capacity</source>
-        <translation>क्षमता</translation>
-    </message>
-    <message>
-        <source>Interface Type</source>
-        <translation>इंटरफ़ेस प्रकार</translation>
-    </message>
-    <message>
         <source>ATA Disk</source>
         <translation>ATA डिस्क</translation>
     </message>
@@ -609,52 +573,8 @@
         <translation>स्वास्थ्य</translation>
     </message>
     <message>
-        <source>Disk Details</source>
-        <translation>डिस्क विवरण</translation>
-    </message>
-    <message>
-        <source>Disk Number</source>
-        <translation>डिस्क नंबर</translation>
-    </message>
-    <message>
-        <source>Model Number</source>
-        <translation>मॉडल नंबर</translation>
-    </message>
-    <message>
-        <source>Firmware Revision</source>
-        <translation>फ़र्मवेयर संस्करण</translation>
-    </message>
-    <message>
-        <source>Interface Type</source>
-        <translation>इंटरफ़ेस प्रकार</translation>
-    </message>
-    <message>
-        <source>Serial Number</source>
-        <translation>सीरियल नंबर</translation>
-    </message>
-    <message>
-        <source>Total Sectors</source>
-        <translation>कुल सेक्टर</translation>
-    </message>
-    <message>
-        <source>Hard Disk Life</source>
-        <translation>हार्ड डिस्क का जीवन</translation>
-    </message>
-    <message>
-        <source>Power-on Time</source>
-        <translation>चालू समय</translation>
-    </message>
-    <message>
-        <source>Start/Stop Count</source>
-        <translation>चालू/बंद संख्या</translation>
-    </message>
-    <message>
         <source>Not Supported</source>
         <translation>समर्थित नहीं</translation>
-    </message>
-    <message>
-        <source>Drive&apos;s verdict</source>
-        <translation>ड्राइव का निर्णय</translation>
     </message>
     <message>
         <source>Failed: back up your data</source>
@@ -1073,34 +993,6 @@
         <translation>बाहर निकलने के लिए स्कैन रोकें।</translation>
     </message>
     <message>
-        <source>Start</source>
-        <translation>शुरू करें</translation>
-    </message>
-    <message>
-        <source>Clone</source>
-        <translation>क्लोन करें</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>रोकें</translation>
-    </message>
-    <message>
-        <source>Back</source>
-        <translation>वापस</translation>
-    </message>
-    <message>
-        <source>Save Report</source>
-        <translation>रिपोर्ट सहेजें</translation>
-    </message>
-    <message>
-        <source>Screenshot</source>
-        <translation>स्क्रीनशॉट</translation>
-    </message>
-    <message>
-        <source>Serial Number</source>
-        <translation>सीरियल नंबर</translation>
-    </message>
-    <message>
         <source>SMART Status</source>
         <translation>SMART स्थिति</translation>
     </message>
@@ -1131,10 +1023,6 @@
     <message>
         <source>Repair Photo</source>
         <translation>फ़ोटो सुधारें</translation>
-    </message>
-    <message>
-        <source>Select Destination</source>
-        <translation>गंतव्य चुनें</translation>
     </message>
     <message>
         <source>Please wait. Application Refreshing...</source>
@@ -1183,10 +1071,6 @@
     <message>
         <source>Do you wish to abort the Self-test?</source>
         <translation>क्या आप स्व-परीक्षण रद्द करना चाहते हैं?</translation>
-    </message>
-    <message>
-        <source>ATA Disk</source>
-        <translation>ATA डिस्क</translation>
     </message>
     <message>
         <source>Please wait. Getting SMART information...</source>
@@ -1395,54 +1279,6 @@ Update failed due to partial download.</source>
     <message>
         <source> seconds</source>
         <translation> सेकंड</translation>
-    </message>
-    <message>
-        <source>Scan Disk</source>
-        <translation>डिस्क स्कैन</translation>
-    </message>
-    <message>
-        <source>Disk Size</source>
-        <translation>डिस्क आकार</translation>
-    </message>
-    <message>
-        <source>Total Sectors</source>
-        <translation>कुल सेक्टर</translation>
-    </message>
-    <message>
-        <source>Block Size</source>
-        <translation>ब्लॉक आकार</translation>
-    </message>
-    <message>
-        <source>  Processed</source>
-        <translation>  जाँचे गए</translation>
-    </message>
-    <message>
-        <source>  Bad Sectors</source>
-        <translation>  ख़राब सेक्टर</translation>
-    </message>
-    <message>
-        <source>  Processing</source>
-        <translation>  जाँच जारी</translation>
-    </message>
-    <message>
-        <source>Short Self-test</source>
-        <translation>लघु स्व-परीक्षण</translation>
-    </message>
-    <message>
-        <source>Extended Self-test</source>
-        <translation>विस्तृत स्व-परीक्षण</translation>
-    </message>
-    <message>
-        <source>Perform a surface scan on the selected disk to identify if the disk has bad sectors.</source>
-        <translation>चुनी हुई डिस्क की सतह स्कैन करके पता लगाएँ कि उसमें ख़राब सेक्टर हैं या नहीं।</translation>
-    </message>
-    <message>
-        <source>Run this test to check the electrical and mechanical performance of a device along with the read/write operations on a portion of the disk. This test may take few minutes to complete.</source>
-        <translation>यह परीक्षण डिवाइस के विद्युत और यांत्रिक प्रदर्शन तथा डिस्क के एक भाग पर पढ़ने-लिखने की जाँच करता है। इसमें कुछ मिनट लग सकते हैं।</translation>
-    </message>
-    <message>
-        <source>This test is same as a short self-test with a complete disk surface examination. This test may take up to few hours to complete.</source>
-        <translation>यह परीक्षण लघु स्व-परीक्षण जैसा ही है और डिस्क की पूरी सतह की भी जाँच करता है। इसमें कुछ घंटे लग सकते हैं।</translation>
     </message>
     <message>
         <source>Time Remaining</source>
@@ -1689,26 +1525,6 @@ Update failed due to partial download.</source>
         <translation>AttName</translation>
     </message>
     <message>
-        <source>SMART Status : </source>
-        <translation>SMART स्थिति: </translation>
-    </message>
-    <message>
-        <source>Serial Number</source>
-        <translation>सीरियल नंबर</translation>
-    </message>
-    <message>
-        <source>Capacity</source>
-        <translation>क्षमता</translation>
-    </message>
-    <message>
-        <source>Interface Type</source>
-        <translation>इंटरफ़ेस प्रकार</translation>
-    </message>
-    <message>
-        <source>Save Report</source>
-        <translation>रिपोर्ट सहेजें</translation>
-    </message>
-    <message>
         <source>Smart Status</source>
         <translation>SMART स्थिति</translation>
     </message>
@@ -1757,6 +1573,25 @@ Update failed due to partial download.</source>
     </message>
 </context>
 <context>
+    <name>m_pCloneDiskwgt</name>
+    <message>
+        <source>Disk Details</source>
+        <translation>डिस्क विवरण</translation>
+    </message>
+    <message>
+        <source>Source Disk</source>
+        <translation>स्रोत डिस्क</translation>
+    </message>
+    <message>
+        <source>Target Disk</source>
+        <translation>गंतव्य डिस्क</translation>
+    </message>
+    <message>
+        <source>Remaining Time</source>
+        <translation>शेष समय</translation>
+    </message>
+</context>
+<context>
     <name>m_pCloseWgt</name>
     <message>
         <source>Exit</source>
@@ -1773,6 +1608,29 @@ Update failed due to partial download.</source>
     <message>
         <source>No</source>
         <translation>नहीं</translation>
+    </message>
+</context>
+<context>
+    <name>m_pDiskPartitionWgt</name>
+    <message>
+        <source>Disk Partition</source>
+        <translation>डिस्क पार्टिशन</translation>
+    </message>
+    <message>
+        <source>Partition Details</source>
+        <translation>पार्टिशन विवरण</translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>सीरियल नंबर</translation>
+    </message>
+    <message>
+        <source>Capacity</source>
+        <translation>क्षमता</translation>
+    </message>
+    <message>
+        <source>Interface Type</source>
+        <translation>इंटरफ़ेस प्रकार</translation>
     </message>
 </context>
 <context>
@@ -1859,6 +1717,57 @@ Update failed due to partial download.</source>
     <message>
         <source>Screenshot</source>
         <translation>स्क्रीनशॉट</translation>
+    </message>
+</context>
+<context>
+    <name>m_pScanDiskwgt</name>
+    <message>
+        <source>Scan Disk</source>
+        <translation>डिस्क स्कैन</translation>
+    </message>
+    <message>
+        <source>Disk Size</source>
+        <translation>डिस्क आकार</translation>
+    </message>
+    <message>
+        <source>Total Sectors</source>
+        <translation>कुल सेक्टर</translation>
+    </message>
+    <message>
+        <source>Block Size</source>
+        <translation>ब्लॉक आकार</translation>
+    </message>
+    <message>
+        <source>  Processed</source>
+        <translation>  जाँचे गए</translation>
+    </message>
+    <message>
+        <source>  Bad Sectors</source>
+        <translation>  ख़राब सेक्टर</translation>
+    </message>
+    <message>
+        <source>  Processing</source>
+        <translation>  जाँच जारी</translation>
+    </message>
+    <message>
+        <source>Short Self-test</source>
+        <translation>लघु स्व-परीक्षण</translation>
+    </message>
+    <message>
+        <source>Extended Self-test</source>
+        <translation>विस्तृत स्व-परीक्षण</translation>
+    </message>
+    <message>
+        <source>Perform a surface scan on the selected disk to identify if the disk has bad sectors.</source>
+        <translation>चुनी हुई डिस्क की सतह स्कैन करके पता लगाएँ कि उसमें ख़राब सेक्टर हैं या नहीं।</translation>
+    </message>
+    <message>
+        <source>Run this test to check the electrical and mechanical performance of a device along with the read/write operations on a portion of the disk. This test may take few minutes to complete.</source>
+        <translation>यह परीक्षण डिवाइस के विद्युत और यांत्रिक प्रदर्शन तथा डिस्क के एक भाग पर पढ़ने-लिखने की जाँच करता है। इसमें कुछ मिनट लग सकते हैं।</translation>
+    </message>
+    <message>
+        <source>This test is same as a short self-test with a complete disk surface examination. This test may take up to few hours to complete.</source>
+        <translation>यह परीक्षण लघु स्व-परीक्षण जैसा ही है और डिस्क की पूरी सतह की भी जाँच करता है। इसमें कुछ घंटे लग सकते हैं।</translation>
     </message>
 </context>
 <context>
@@ -1970,6 +1879,29 @@ Update failed due to partial download.</source>
     <message>
         <source>OK</source>
         <translation>ठीक</translation>
+    </message>
+</context>
+<context>
+    <name>m_pSmartWgt</name>
+    <message>
+        <source>SMART Status : </source>
+        <translation>SMART स्थिति: </translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>सीरियल नंबर</translation>
+    </message>
+    <message>
+        <source>Capacity</source>
+        <translation>क्षमता</translation>
+    </message>
+    <message>
+        <source>Interface Type</source>
+        <translation>इंटरफ़ेस प्रकार</translation>
+    </message>
+    <message>
+        <source>Save Report</source>
+        <translation>रिपोर्ट सहेजें</translation>
     </message>
 </context>
 </TS>

@@ -394,22 +394,6 @@
         <translation>Clonazione interrotta dall&apos;utente.</translation>
     </message>
     <message>
-        <source>Disk Details</source>
-        <translation>Dettagli del disco</translation>
-    </message>
-    <message>
-        <source>Source Disk</source>
-        <translation>Disco di origine</translation>
-    </message>
-    <message>
-        <source>Target Disk</source>
-        <translation>Disco di destinazione</translation>
-    </message>
-    <message>
-        <source>Remaining Time</source>
-        <translation>Tempo rimanente</translation>
-    </message>
-    <message>
         <source>Select Destination</source>
         <translation>Seleziona destinazione</translation>
     </message>
@@ -558,26 +542,6 @@
 <context>
     <name>DiskPartition</name>
     <message>
-        <source>Disk Partition</source>
-        <translation>Partizioni del disco</translation>
-    </message>
-    <message>
-        <source>Partition Details</source>
-        <translation>Dettagli delle partizioni</translation>
-    </message>
-    <message>
-        <source>Serial Number</source>
-        <translation>Numero di serie</translation>
-    </message>
-    <message>
-        <source>Capacity</source>
-        <translation>Capacità</translation>
-    </message>
-    <message>
-        <source>Interface Type</source>
-        <translation>Tipo di interfaccia</translation>
-    </message>
-    <message>
         <source>ATA Disk</source>
         <translation>Disco ATA</translation>
     </message>
@@ -609,52 +573,8 @@
         <translation>Salute</translation>
     </message>
     <message>
-        <source>Disk Details</source>
-        <translation>Dettagli del disco</translation>
-    </message>
-    <message>
-        <source>Disk Number</source>
-        <translation>Numero del disco</translation>
-    </message>
-    <message>
-        <source>Model Number</source>
-        <translation>Numero di modello</translation>
-    </message>
-    <message>
-        <source>Firmware Revision</source>
-        <translation>Revisione firmware</translation>
-    </message>
-    <message>
-        <source>Interface Type</source>
-        <translation>Tipo di interfaccia</translation>
-    </message>
-    <message>
-        <source>Serial Number</source>
-        <translation>Numero di serie</translation>
-    </message>
-    <message>
-        <source>Total Sectors</source>
-        <translation>Settori totali</translation>
-    </message>
-    <message>
-        <source>Hard Disk Life</source>
-        <translation>Vita del disco</translation>
-    </message>
-    <message>
-        <source>Power-on Time</source>
-        <translation>Tempo di accensione</translation>
-    </message>
-    <message>
-        <source>Start/Stop Count</source>
-        <translation>Avvii/arresti</translation>
-    </message>
-    <message>
         <source>Not Supported</source>
         <translation>Non supportato</translation>
-    </message>
-    <message>
-        <source>Drive&apos;s verdict</source>
-        <translation>Verdetto del disco</translation>
     </message>
     <message>
         <source>Failed: back up your data</source>
@@ -1073,34 +993,6 @@
         <translation>Interrompere la scansione prima di uscire.</translation>
     </message>
     <message>
-        <source>Start</source>
-        <translation>Avvia</translation>
-    </message>
-    <message>
-        <source>Clone</source>
-        <translation>Clona</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Ferma</translation>
-    </message>
-    <message>
-        <source>Back</source>
-        <translation>Indietro</translation>
-    </message>
-    <message>
-        <source>Save Report</source>
-        <translation>Salva report</translation>
-    </message>
-    <message>
-        <source>Screenshot</source>
-        <translation>Schermata</translation>
-    </message>
-    <message>
-        <source>Serial Number</source>
-        <translation>Numero di serie</translation>
-    </message>
-    <message>
         <source>SMART Status</source>
         <translation>Stato SMART</translation>
     </message>
@@ -1131,10 +1023,6 @@
     <message>
         <source>Repair Photo</source>
         <translation>Ripara foto</translation>
-    </message>
-    <message>
-        <source>Select Destination</source>
-        <translation>Seleziona destinazione</translation>
     </message>
     <message>
         <source>Please wait. Application Refreshing...</source>
@@ -1183,10 +1071,6 @@
     <message>
         <source>Do you wish to abort the Self-test?</source>
         <translation>Interrompere l&apos;autotest?</translation>
-    </message>
-    <message>
-        <source>ATA Disk</source>
-        <translation>Disco ATA</translation>
     </message>
     <message>
         <source>Please wait. Getting SMART information...</source>
@@ -1395,54 +1279,6 @@ L&apos;aggiornamento non è riuscito perché il download è incompleto.</transla
     <message>
         <source> seconds</source>
         <translation> secondi</translation>
-    </message>
-    <message>
-        <source>Scan Disk</source>
-        <translation>Scansione disco</translation>
-    </message>
-    <message>
-        <source>Disk Size</source>
-        <translation>Dimensione disco</translation>
-    </message>
-    <message>
-        <source>Total Sectors</source>
-        <translation>Settori totali</translation>
-    </message>
-    <message>
-        <source>Block Size</source>
-        <translation>Dimensione blocco</translation>
-    </message>
-    <message>
-        <source>  Processed</source>
-        <translation>  Elaborati</translation>
-    </message>
-    <message>
-        <source>  Bad Sectors</source>
-        <translation>  Settori danneggiati</translation>
-    </message>
-    <message>
-        <source>  Processing</source>
-        <translation>  In elaborazione</translation>
-    </message>
-    <message>
-        <source>Short Self-test</source>
-        <translation>Autotest breve</translation>
-    </message>
-    <message>
-        <source>Extended Self-test</source>
-        <translation>Autotest esteso</translation>
-    </message>
-    <message>
-        <source>Perform a surface scan on the selected disk to identify if the disk has bad sectors.</source>
-        <translation>Esegue una scansione della superficie del disco selezionato per verificare se contiene settori danneggiati.</translation>
-    </message>
-    <message>
-        <source>Run this test to check the electrical and mechanical performance of a device along with the read/write operations on a portion of the disk. This test may take few minutes to complete.</source>
-        <translation>Questo test verifica le prestazioni elettriche e meccaniche del dispositivo e le operazioni di lettura e scrittura su una parte del disco. Può richiedere alcuni minuti.</translation>
-    </message>
-    <message>
-        <source>This test is same as a short self-test with a complete disk surface examination. This test may take up to few hours to complete.</source>
-        <translation>Questo test equivale all&apos;autotest breve con un esame completo della superficie del disco. Può richiedere alcune ore.</translation>
     </message>
     <message>
         <source>Time Remaining</source>
@@ -1689,26 +1525,6 @@ L&apos;aggiornamento non è riuscito perché il download è incompleto.</transla
         <translation>AttName</translation>
     </message>
     <message>
-        <source>SMART Status : </source>
-        <translation>Stato SMART: </translation>
-    </message>
-    <message>
-        <source>Serial Number</source>
-        <translation>Numero di serie</translation>
-    </message>
-    <message>
-        <source>Capacity</source>
-        <translation>Capacità</translation>
-    </message>
-    <message>
-        <source>Interface Type</source>
-        <translation>Tipo di interfaccia</translation>
-    </message>
-    <message>
-        <source>Save Report</source>
-        <translation>Salva report</translation>
-    </message>
-    <message>
         <source>Smart Status</source>
         <translation>Stato SMART</translation>
     </message>
@@ -1757,6 +1573,25 @@ L&apos;aggiornamento non è riuscito perché il download è incompleto.</transla
     </message>
 </context>
 <context>
+    <name>m_pCloneDiskwgt</name>
+    <message>
+        <source>Disk Details</source>
+        <translation>Dettagli del disco</translation>
+    </message>
+    <message>
+        <source>Source Disk</source>
+        <translation>Disco di origine</translation>
+    </message>
+    <message>
+        <source>Target Disk</source>
+        <translation>Disco di destinazione</translation>
+    </message>
+    <message>
+        <source>Remaining Time</source>
+        <translation>Tempo rimanente</translation>
+    </message>
+</context>
+<context>
     <name>m_pCloseWgt</name>
     <message>
         <source>Exit</source>
@@ -1773,6 +1608,29 @@ L&apos;aggiornamento non è riuscito perché il download è incompleto.</transla
     <message>
         <source>No</source>
         <translation>No</translation>
+    </message>
+</context>
+<context>
+    <name>m_pDiskPartitionWgt</name>
+    <message>
+        <source>Disk Partition</source>
+        <translation>Partizioni del disco</translation>
+    </message>
+    <message>
+        <source>Partition Details</source>
+        <translation>Dettagli delle partizioni</translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>Numero di serie</translation>
+    </message>
+    <message>
+        <source>Capacity</source>
+        <translation>Capacità</translation>
+    </message>
+    <message>
+        <source>Interface Type</source>
+        <translation>Tipo di interfaccia</translation>
     </message>
 </context>
 <context>
@@ -1859,6 +1717,57 @@ L&apos;aggiornamento non è riuscito perché il download è incompleto.</transla
     <message>
         <source>Screenshot</source>
         <translation>Schermata</translation>
+    </message>
+</context>
+<context>
+    <name>m_pScanDiskwgt</name>
+    <message>
+        <source>Scan Disk</source>
+        <translation>Scansione disco</translation>
+    </message>
+    <message>
+        <source>Disk Size</source>
+        <translation>Dimensione disco</translation>
+    </message>
+    <message>
+        <source>Total Sectors</source>
+        <translation>Settori totali</translation>
+    </message>
+    <message>
+        <source>Block Size</source>
+        <translation>Dimensione blocco</translation>
+    </message>
+    <message>
+        <source>  Processed</source>
+        <translation>  Elaborati</translation>
+    </message>
+    <message>
+        <source>  Bad Sectors</source>
+        <translation>  Settori danneggiati</translation>
+    </message>
+    <message>
+        <source>  Processing</source>
+        <translation>  In elaborazione</translation>
+    </message>
+    <message>
+        <source>Short Self-test</source>
+        <translation>Autotest breve</translation>
+    </message>
+    <message>
+        <source>Extended Self-test</source>
+        <translation>Autotest esteso</translation>
+    </message>
+    <message>
+        <source>Perform a surface scan on the selected disk to identify if the disk has bad sectors.</source>
+        <translation>Esegue una scansione della superficie del disco selezionato per verificare se contiene settori danneggiati.</translation>
+    </message>
+    <message>
+        <source>Run this test to check the electrical and mechanical performance of a device along with the read/write operations on a portion of the disk. This test may take few minutes to complete.</source>
+        <translation>Questo test verifica le prestazioni elettriche e meccaniche del dispositivo e le operazioni di lettura e scrittura su una parte del disco. Può richiedere alcuni minuti.</translation>
+    </message>
+    <message>
+        <source>This test is same as a short self-test with a complete disk surface examination. This test may take up to few hours to complete.</source>
+        <translation>Questo test equivale all&apos;autotest breve con un esame completo della superficie del disco. Può richiedere alcune ore.</translation>
     </message>
 </context>
 <context>
@@ -1970,6 +1879,29 @@ L&apos;aggiornamento non è riuscito perché il download è incompleto.</transla
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>m_pSmartWgt</name>
+    <message>
+        <source>SMART Status : </source>
+        <translation>Stato SMART: </translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>Numero di serie</translation>
+    </message>
+    <message>
+        <source>Capacity</source>
+        <translation>Capacità</translation>
+    </message>
+    <message>
+        <source>Interface Type</source>
+        <translation>Tipo di interfaccia</translation>
+    </message>
+    <message>
+        <source>Save Report</source>
+        <translation>Salva report</translation>
     </message>
 </context>
 </TS>

@@ -394,22 +394,6 @@
         <translation>クローンはユーザーによって中止されました。</translation>
     </message>
     <message>
-        <source>Disk Details</source>
-        <translation>ディスクの詳細</translation>
-    </message>
-    <message>
-        <source>Source Disk</source>
-        <translation>コピー元ディスク</translation>
-    </message>
-    <message>
-        <source>Target Disk</source>
-        <translation>コピー先ディスク</translation>
-    </message>
-    <message>
-        <source>Remaining Time</source>
-        <translation>残り時間</translation>
-    </message>
-    <message>
         <source>Select Destination</source>
         <translation>コピー先を選択</translation>
     </message>
@@ -558,26 +542,6 @@
 <context>
     <name>DiskPartition</name>
     <message>
-        <source>Disk Partition</source>
-        <translation>ディスクパーティション</translation>
-    </message>
-    <message>
-        <source>Partition Details</source>
-        <translation>パーティションの詳細</translation>
-    </message>
-    <message>
-        <source>Serial Number</source>
-        <translation>シリアル番号</translation>
-    </message>
-    <message>
-        <source>Capacity</source>
-        <translation>容量</translation>
-    </message>
-    <message>
-        <source>Interface Type</source>
-        <translation>インターフェース</translation>
-    </message>
-    <message>
         <source>ATA Disk</source>
         <translation>ATA ディスク</translation>
     </message>
@@ -609,52 +573,8 @@
         <translation>健康状態</translation>
     </message>
     <message>
-        <source>Disk Details</source>
-        <translation>ディスクの詳細</translation>
-    </message>
-    <message>
-        <source>Disk Number</source>
-        <translation>ディスク番号</translation>
-    </message>
-    <message>
-        <source>Model Number</source>
-        <translation>モデル番号</translation>
-    </message>
-    <message>
-        <source>Firmware Revision</source>
-        <translation>ファームウェア</translation>
-    </message>
-    <message>
-        <source>Interface Type</source>
-        <translation>インターフェース</translation>
-    </message>
-    <message>
-        <source>Serial Number</source>
-        <translation>シリアル番号</translation>
-    </message>
-    <message>
-        <source>Total Sectors</source>
-        <translation>総セクタ数</translation>
-    </message>
-    <message>
-        <source>Hard Disk Life</source>
-        <translation>ディスクの寿命</translation>
-    </message>
-    <message>
-        <source>Power-on Time</source>
-        <translation>通電時間</translation>
-    </message>
-    <message>
-        <source>Start/Stop Count</source>
-        <translation>起動/停止回数</translation>
-    </message>
-    <message>
         <source>Not Supported</source>
         <translation>非対応</translation>
-    </message>
-    <message>
-        <source>Drive&apos;s verdict</source>
-        <translation>ドライブの判定</translation>
     </message>
     <message>
         <source>Failed: back up your data</source>
@@ -1073,34 +993,6 @@
         <translation>終了するにはスキャンを停止してください。</translation>
     </message>
     <message>
-        <source>Start</source>
-        <translation>開始</translation>
-    </message>
-    <message>
-        <source>Clone</source>
-        <translation>クローン</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>停止</translation>
-    </message>
-    <message>
-        <source>Back</source>
-        <translation>戻る</translation>
-    </message>
-    <message>
-        <source>Save Report</source>
-        <translation>レポート保存</translation>
-    </message>
-    <message>
-        <source>Screenshot</source>
-        <translation>画面キャプチャ</translation>
-    </message>
-    <message>
-        <source>Serial Number</source>
-        <translation>シリアル番号</translation>
-    </message>
-    <message>
         <source>SMART Status</source>
         <translation>SMART の状態</translation>
     </message>
@@ -1131,10 +1023,6 @@
     <message>
         <source>Repair Photo</source>
         <translation>写真を修復</translation>
-    </message>
-    <message>
-        <source>Select Destination</source>
-        <translation>コピー先を選択</translation>
     </message>
     <message>
         <source>Please wait. Application Refreshing...</source>
@@ -1183,10 +1071,6 @@
     <message>
         <source>Do you wish to abort the Self-test?</source>
         <translation>セルフテストを中止しますか?</translation>
-    </message>
-    <message>
-        <source>ATA Disk</source>
-        <translation>ATA ディスク</translation>
     </message>
     <message>
         <source>Please wait. Getting SMART information...</source>
@@ -1395,54 +1279,6 @@ Update failed due to partial download.</source>
     <message>
         <source> seconds</source>
         <translation> 秒</translation>
-    </message>
-    <message>
-        <source>Scan Disk</source>
-        <translation>ディスクスキャン</translation>
-    </message>
-    <message>
-        <source>Disk Size</source>
-        <translation>ディスクサイズ</translation>
-    </message>
-    <message>
-        <source>Total Sectors</source>
-        <translation>総セクタ数</translation>
-    </message>
-    <message>
-        <source>Block Size</source>
-        <translation>ブロックサイズ</translation>
-    </message>
-    <message>
-        <source>  Processed</source>
-        <translation>  処理済み</translation>
-    </message>
-    <message>
-        <source>  Bad Sectors</source>
-        <translation>  不良セクタ</translation>
-    </message>
-    <message>
-        <source>  Processing</source>
-        <translation>  処理中</translation>
-    </message>
-    <message>
-        <source>Short Self-test</source>
-        <translation>ショートセルフテスト</translation>
-    </message>
-    <message>
-        <source>Extended Self-test</source>
-        <translation>拡張セルフテスト</translation>
-    </message>
-    <message>
-        <source>Perform a surface scan on the selected disk to identify if the disk has bad sectors.</source>
-        <translation>選択したディスクの表面をスキャンし、不良セクタがあるかどうかを調べます。</translation>
-    </message>
-    <message>
-        <source>Run this test to check the electrical and mechanical performance of a device along with the read/write operations on a portion of the disk. This test may take few minutes to complete.</source>
-        <translation>デバイスの電気的・機械的な性能と、ディスクの一部での読み書き動作を検査します。このテストには数分かかることがあります。</translation>
-    </message>
-    <message>
-        <source>This test is same as a short self-test with a complete disk surface examination. This test may take up to few hours to complete.</source>
-        <translation>ショートセルフテストに加えて、ディスク表面全体を検査します。このテストには数時間かかることがあります。</translation>
     </message>
     <message>
         <source>Time Remaining</source>
@@ -1689,26 +1525,6 @@ Update failed due to partial download.</source>
         <translation>AttName</translation>
     </message>
     <message>
-        <source>SMART Status : </source>
-        <translation>SMART の状態: </translation>
-    </message>
-    <message>
-        <source>Serial Number</source>
-        <translation>シリアル番号</translation>
-    </message>
-    <message>
-        <source>Capacity</source>
-        <translation>容量</translation>
-    </message>
-    <message>
-        <source>Interface Type</source>
-        <translation>インターフェース</translation>
-    </message>
-    <message>
-        <source>Save Report</source>
-        <translation>レポート保存</translation>
-    </message>
-    <message>
         <source>Smart Status</source>
         <translation>SMART の状態</translation>
     </message>
@@ -1757,6 +1573,25 @@ Update failed due to partial download.</source>
     </message>
 </context>
 <context>
+    <name>m_pCloneDiskwgt</name>
+    <message>
+        <source>Disk Details</source>
+        <translation>ディスクの詳細</translation>
+    </message>
+    <message>
+        <source>Source Disk</source>
+        <translation>コピー元ディスク</translation>
+    </message>
+    <message>
+        <source>Target Disk</source>
+        <translation>コピー先ディスク</translation>
+    </message>
+    <message>
+        <source>Remaining Time</source>
+        <translation>残り時間</translation>
+    </message>
+</context>
+<context>
     <name>m_pCloseWgt</name>
     <message>
         <source>Exit</source>
@@ -1773,6 +1608,29 @@ Update failed due to partial download.</source>
     <message>
         <source>No</source>
         <translation>いいえ</translation>
+    </message>
+</context>
+<context>
+    <name>m_pDiskPartitionWgt</name>
+    <message>
+        <source>Disk Partition</source>
+        <translation>ディスクパーティション</translation>
+    </message>
+    <message>
+        <source>Partition Details</source>
+        <translation>パーティションの詳細</translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>シリアル番号</translation>
+    </message>
+    <message>
+        <source>Capacity</source>
+        <translation>容量</translation>
+    </message>
+    <message>
+        <source>Interface Type</source>
+        <translation>インターフェース</translation>
     </message>
 </context>
 <context>
@@ -1859,6 +1717,57 @@ Update failed due to partial download.</source>
     <message>
         <source>Screenshot</source>
         <translation>画面キャプチャ</translation>
+    </message>
+</context>
+<context>
+    <name>m_pScanDiskwgt</name>
+    <message>
+        <source>Scan Disk</source>
+        <translation>ディスクスキャン</translation>
+    </message>
+    <message>
+        <source>Disk Size</source>
+        <translation>ディスクサイズ</translation>
+    </message>
+    <message>
+        <source>Total Sectors</source>
+        <translation>総セクタ数</translation>
+    </message>
+    <message>
+        <source>Block Size</source>
+        <translation>ブロックサイズ</translation>
+    </message>
+    <message>
+        <source>  Processed</source>
+        <translation>  処理済み</translation>
+    </message>
+    <message>
+        <source>  Bad Sectors</source>
+        <translation>  不良セクタ</translation>
+    </message>
+    <message>
+        <source>  Processing</source>
+        <translation>  処理中</translation>
+    </message>
+    <message>
+        <source>Short Self-test</source>
+        <translation>ショートセルフテスト</translation>
+    </message>
+    <message>
+        <source>Extended Self-test</source>
+        <translation>拡張セルフテスト</translation>
+    </message>
+    <message>
+        <source>Perform a surface scan on the selected disk to identify if the disk has bad sectors.</source>
+        <translation>選択したディスクの表面をスキャンし、不良セクタがあるかどうかを調べます。</translation>
+    </message>
+    <message>
+        <source>Run this test to check the electrical and mechanical performance of a device along with the read/write operations on a portion of the disk. This test may take few minutes to complete.</source>
+        <translation>デバイスの電気的・機械的な性能と、ディスクの一部での読み書き動作を検査します。このテストには数分かかることがあります。</translation>
+    </message>
+    <message>
+        <source>This test is same as a short self-test with a complete disk surface examination. This test may take up to few hours to complete.</source>
+        <translation>ショートセルフテストに加えて、ディスク表面全体を検査します。このテストには数時間かかることがあります。</translation>
     </message>
 </context>
 <context>
@@ -1970,6 +1879,29 @@ Update failed due to partial download.</source>
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>m_pSmartWgt</name>
+    <message>
+        <source>SMART Status : </source>
+        <translation>SMART の状態: </translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>シリアル番号</translation>
+    </message>
+    <message>
+        <source>Capacity</source>
+        <translation>容量</translation>
+    </message>
+    <message>
+        <source>Interface Type</source>
+        <translation>インターフェース</translation>
+    </message>
+    <message>
+        <source>Save Report</source>
+        <translation>レポート保存</translation>
     </message>
 </context>
 </TS>

@@ -394,22 +394,6 @@
         <translation>사용자가 복제를 중단했습니다.</translation>
     </message>
     <message>
-        <source>Disk Details</source>
-        <translation>디스크 세부 정보</translation>
-    </message>
-    <message>
-        <source>Source Disk</source>
-        <translation>원본 디스크</translation>
-    </message>
-    <message>
-        <source>Target Disk</source>
-        <translation>대상 디스크</translation>
-    </message>
-    <message>
-        <source>Remaining Time</source>
-        <translation>남은 시간</translation>
-    </message>
-    <message>
         <source>Select Destination</source>
         <translation>대상 선택</translation>
     </message>
@@ -558,26 +542,6 @@
 <context>
     <name>DiskPartition</name>
     <message>
-        <source>Disk Partition</source>
-        <translation>디스크 파티션</translation>
-    </message>
-    <message>
-        <source>Partition Details</source>
-        <translation>파티션 세부 정보</translation>
-    </message>
-    <message>
-        <source>Serial Number</source>
-        <translation>일련 번호</translation>
-    </message>
-    <message>
-        <source>Capacity</source>
-        <translation>용량</translation>
-    </message>
-    <message>
-        <source>Interface Type</source>
-        <translation>인터페이스 유형</translation>
-    </message>
-    <message>
         <source>ATA Disk</source>
         <translation>ATA 디스크</translation>
     </message>
@@ -609,52 +573,8 @@
         <translation>건강 상태</translation>
     </message>
     <message>
-        <source>Disk Details</source>
-        <translation>디스크 세부 정보</translation>
-    </message>
-    <message>
-        <source>Disk Number</source>
-        <translation>디스크 번호</translation>
-    </message>
-    <message>
-        <source>Model Number</source>
-        <translation>모델 번호</translation>
-    </message>
-    <message>
-        <source>Firmware Revision</source>
-        <translation>펌웨어 버전</translation>
-    </message>
-    <message>
-        <source>Interface Type</source>
-        <translation>인터페이스 유형</translation>
-    </message>
-    <message>
-        <source>Serial Number</source>
-        <translation>일련 번호</translation>
-    </message>
-    <message>
-        <source>Total Sectors</source>
-        <translation>총 섹터 수</translation>
-    </message>
-    <message>
-        <source>Hard Disk Life</source>
-        <translation>하드 디스크 수명</translation>
-    </message>
-    <message>
-        <source>Power-on Time</source>
-        <translation>전원 켜짐 시간</translation>
-    </message>
-    <message>
-        <source>Start/Stop Count</source>
-        <translation>시작/정지 횟수</translation>
-    </message>
-    <message>
         <source>Not Supported</source>
         <translation>지원되지 않음</translation>
-    </message>
-    <message>
-        <source>Drive&apos;s verdict</source>
-        <translation>드라이브 자체 판정</translation>
     </message>
     <message>
         <source>Failed: back up your data</source>
@@ -1073,34 +993,6 @@
         <translation>종료하려면 검사를 중지하십시오.</translation>
     </message>
     <message>
-        <source>Start</source>
-        <translation>시작</translation>
-    </message>
-    <message>
-        <source>Clone</source>
-        <translation>복제</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>중지</translation>
-    </message>
-    <message>
-        <source>Back</source>
-        <translation>뒤로</translation>
-    </message>
-    <message>
-        <source>Save Report</source>
-        <translation>보고서 저장</translation>
-    </message>
-    <message>
-        <source>Screenshot</source>
-        <translation>스크린샷</translation>
-    </message>
-    <message>
-        <source>Serial Number</source>
-        <translation>일련 번호</translation>
-    </message>
-    <message>
         <source>SMART Status</source>
         <translation>SMART 상태</translation>
     </message>
@@ -1131,10 +1023,6 @@
     <message>
         <source>Repair Photo</source>
         <translation>사진 복구</translation>
-    </message>
-    <message>
-        <source>Select Destination</source>
-        <translation>대상 선택</translation>
     </message>
     <message>
         <source>Please wait. Application Refreshing...</source>
@@ -1183,10 +1071,6 @@
     <message>
         <source>Do you wish to abort the Self-test?</source>
         <translation>자가 진단을 중단하시겠습니까?</translation>
-    </message>
-    <message>
-        <source>ATA Disk</source>
-        <translation>ATA 디스크</translation>
     </message>
     <message>
         <source>Please wait. Getting SMART information...</source>
@@ -1395,54 +1279,6 @@ Update failed due to partial download.</source>
     <message>
         <source> seconds</source>
         <translation> 초</translation>
-    </message>
-    <message>
-        <source>Scan Disk</source>
-        <translation>디스크 검사</translation>
-    </message>
-    <message>
-        <source>Disk Size</source>
-        <translation>디스크 크기</translation>
-    </message>
-    <message>
-        <source>Total Sectors</source>
-        <translation>총 섹터 수</translation>
-    </message>
-    <message>
-        <source>Block Size</source>
-        <translation>블록 크기</translation>
-    </message>
-    <message>
-        <source>  Processed</source>
-        <translation>  처리됨</translation>
-    </message>
-    <message>
-        <source>  Bad Sectors</source>
-        <translation>  불량 섹터</translation>
-    </message>
-    <message>
-        <source>  Processing</source>
-        <translation>  처리 중</translation>
-    </message>
-    <message>
-        <source>Short Self-test</source>
-        <translation>짧은 자가 진단</translation>
-    </message>
-    <message>
-        <source>Extended Self-test</source>
-        <translation>확장 자가 진단</translation>
-    </message>
-    <message>
-        <source>Perform a surface scan on the selected disk to identify if the disk has bad sectors.</source>
-        <translation>선택한 디스크의 표면을 검사하여 불량 섹터가 있는지 확인합니다.</translation>
-    </message>
-    <message>
-        <source>Run this test to check the electrical and mechanical performance of a device along with the read/write operations on a portion of the disk. This test may take few minutes to complete.</source>
-        <translation>장치의 전기적, 기계적 성능과 디스크 일부에 대한 읽기/쓰기 작업을 확인합니다. 이 진단은 몇 분 정도 걸릴 수 있습니다.</translation>
-    </message>
-    <message>
-        <source>This test is same as a short self-test with a complete disk surface examination. This test may take up to few hours to complete.</source>
-        <translation>짧은 자가 진단과 함께 디스크 표면 전체를 검사합니다. 이 진단은 몇 시간 정도 걸릴 수 있습니다.</translation>
     </message>
     <message>
         <source>Time Remaining</source>
@@ -1689,26 +1525,6 @@ Update failed due to partial download.</source>
         <translation>AttName</translation>
     </message>
     <message>
-        <source>SMART Status : </source>
-        <translation>SMART 상태: </translation>
-    </message>
-    <message>
-        <source>Serial Number</source>
-        <translation>일련 번호</translation>
-    </message>
-    <message>
-        <source>Capacity</source>
-        <translation>용량</translation>
-    </message>
-    <message>
-        <source>Interface Type</source>
-        <translation>인터페이스 유형</translation>
-    </message>
-    <message>
-        <source>Save Report</source>
-        <translation>보고서 저장</translation>
-    </message>
-    <message>
         <source>Smart Status</source>
         <translation>SMART 상태</translation>
     </message>
@@ -1757,6 +1573,25 @@ Update failed due to partial download.</source>
     </message>
 </context>
 <context>
+    <name>m_pCloneDiskwgt</name>
+    <message>
+        <source>Disk Details</source>
+        <translation>디스크 세부 정보</translation>
+    </message>
+    <message>
+        <source>Source Disk</source>
+        <translation>원본 디스크</translation>
+    </message>
+    <message>
+        <source>Target Disk</source>
+        <translation>대상 디스크</translation>
+    </message>
+    <message>
+        <source>Remaining Time</source>
+        <translation>남은 시간</translation>
+    </message>
+</context>
+<context>
     <name>m_pCloseWgt</name>
     <message>
         <source>Exit</source>
@@ -1773,6 +1608,29 @@ Update failed due to partial download.</source>
     <message>
         <source>No</source>
         <translation>아니요</translation>
+    </message>
+</context>
+<context>
+    <name>m_pDiskPartitionWgt</name>
+    <message>
+        <source>Disk Partition</source>
+        <translation>디스크 파티션</translation>
+    </message>
+    <message>
+        <source>Partition Details</source>
+        <translation>파티션 세부 정보</translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>일련 번호</translation>
+    </message>
+    <message>
+        <source>Capacity</source>
+        <translation>용량</translation>
+    </message>
+    <message>
+        <source>Interface Type</source>
+        <translation>인터페이스 유형</translation>
     </message>
 </context>
 <context>
@@ -1859,6 +1717,57 @@ Update failed due to partial download.</source>
     <message>
         <source>Screenshot</source>
         <translation>스크린샷</translation>
+    </message>
+</context>
+<context>
+    <name>m_pScanDiskwgt</name>
+    <message>
+        <source>Scan Disk</source>
+        <translation>디스크 검사</translation>
+    </message>
+    <message>
+        <source>Disk Size</source>
+        <translation>디스크 크기</translation>
+    </message>
+    <message>
+        <source>Total Sectors</source>
+        <translation>총 섹터 수</translation>
+    </message>
+    <message>
+        <source>Block Size</source>
+        <translation>블록 크기</translation>
+    </message>
+    <message>
+        <source>  Processed</source>
+        <translation>  처리됨</translation>
+    </message>
+    <message>
+        <source>  Bad Sectors</source>
+        <translation>  불량 섹터</translation>
+    </message>
+    <message>
+        <source>  Processing</source>
+        <translation>  처리 중</translation>
+    </message>
+    <message>
+        <source>Short Self-test</source>
+        <translation>짧은 자가 진단</translation>
+    </message>
+    <message>
+        <source>Extended Self-test</source>
+        <translation>확장 자가 진단</translation>
+    </message>
+    <message>
+        <source>Perform a surface scan on the selected disk to identify if the disk has bad sectors.</source>
+        <translation>선택한 디스크의 표면을 검사하여 불량 섹터가 있는지 확인합니다.</translation>
+    </message>
+    <message>
+        <source>Run this test to check the electrical and mechanical performance of a device along with the read/write operations on a portion of the disk. This test may take few minutes to complete.</source>
+        <translation>장치의 전기적, 기계적 성능과 디스크 일부에 대한 읽기/쓰기 작업을 확인합니다. 이 진단은 몇 분 정도 걸릴 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>This test is same as a short self-test with a complete disk surface examination. This test may take up to few hours to complete.</source>
+        <translation>짧은 자가 진단과 함께 디스크 표면 전체를 검사합니다. 이 진단은 몇 시간 정도 걸릴 수 있습니다.</translation>
     </message>
 </context>
 <context>
@@ -1970,6 +1879,29 @@ Update failed due to partial download.</source>
     <message>
         <source>OK</source>
         <translation>확인</translation>
+    </message>
+</context>
+<context>
+    <name>m_pSmartWgt</name>
+    <message>
+        <source>SMART Status : </source>
+        <translation>SMART 상태: </translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <translation>일련 번호</translation>
+    </message>
+    <message>
+        <source>Capacity</source>
+        <translation>용량</translation>
+    </message>
+    <message>
+        <source>Interface Type</source>
+        <translation>인터페이스 유형</translation>
+    </message>
+    <message>
+        <source>Save Report</source>
+        <translation>보고서 저장</translation>
     </message>
 </context>
 </TS>

@@ -8,7 +8,9 @@
 #include "state/GlobalApp.h"
 #include "state/Globals.h"
 
+#include <QComboBox>
 #include <QCoreApplication>
+#include <QRadioButton>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTranslator>
@@ -43,10 +45,20 @@ DiskNode *addDisk(int id, const QString &model, DiskKind kind = FixedDisk)
     return &node;
 }
 
+QComboBox *comboOf(const CloneDisk &page, const char *name)
+{
+    return page.findChild<QComboBox *>(QLatin1String(name));
+}
+
 void addSources(CloneDisk &page)
 {
     for (const DiskNode &node : g_App.m_diskList)
-        page.SourceComboBox->addItem(QString::number(node.nId), node.nId);
+        comboOf(page, "SourceComboBox")->addItem(QString::number(node.nId), node.nId);
+}
+
+QRadioButton *radioOf(const ScanDisk &page, const char *name)
+{
+    return page.findChild<QRadioButton *>(QLatin1String(name));
 }
 
 QStringList choices(const QComboBox *combo)
@@ -89,29 +101,29 @@ private slots:
         CloneDisk page;
         QSignalSpy moved(&page, &CloneDisk::ComboboxIndexChange);
         addSources(page);
-        QCOMPARE(choices(page.DestinationComboBox),
+        QCOMPARE(choices(comboOf(page, "DestinationComboBox")),
                  (QStringList{QStringLiteral("Select Destination"), QStringLiteral("B |  | 129 GB"),
                               QStringLiteral("bus C ")}));
-        QCOMPARE(page.DestinationComboBox->itemData(0, Qt::SizeHintRole).toSize(), QSize(0, 0));
-        QVERIFY(!page.DestinationComboBox->itemData(0).isValid());
+        QCOMPARE(comboOf(page, "DestinationComboBox")->itemData(0, Qt::SizeHintRole).toSize(), QSize(0, 0));
+        QVERIFY(!comboOf(page, "DestinationComboBox")->itemData(0).isValid());
 
-        page.DestinationComboBox->setCurrentIndex(1);
+        comboOf(page, "DestinationComboBox")->setCurrentIndex(1);
         page.OnActivatedDestinationComboBox(1);
         QCOMPARE(g_App.m_pCloneDisk, findPhysicalDisk(129));
-        QCOMPARE(page.m_nDestinationDrive, 1);
+        QVERIFY(page.HasDestination());
+        QCOMPARE(page.DestinationId(), 129);
         QVERIFY(labelOf(&page, "TargetModelLbl")->isVisibleTo(&page));
         QCOMPARE(labelOf(&page, "TargetModelLbl")->text(), QStringLiteral("Model Number\t: B"));
 
         moved.clear();
-        page.SourceComboBox->setCurrentIndex(1);
+        comboOf(page, "SourceComboBox")->setCurrentIndex(1);
         QCOMPARE(moved.count(), 1);
         QCOMPARE(moved.at(0).at(0).toInt(), 1);
         QCOMPARE(g_App.m_pCurrentDisk, findPhysicalDisk(129));
-        QCOMPARE(page.m_nSourceSectors, quint64{129000});
         QCOMPARE(labelOf(&page, "ModelNLbl")->text(), QStringLiteral("Model Number\t: B"));
-        QCOMPARE(page.m_nDestinationIndex, 0);
-        QCOMPARE(page.DestinationComboBox->currentIndex(), 0);
-        QCOMPARE(page.DestinationComboBox->findData(129), -1);
+        QVERIFY(!page.HasDestination());
+        QCOMPARE(comboOf(page, "DestinationComboBox")->currentIndex(), 0);
+        QCOMPARE(comboOf(page, "DestinationComboBox")->findData(129), -1);
         QVERIFY(!labelOf(&page, "TargetModelLbl")->isVisibleTo(&page));
     }
 
@@ -120,7 +132,7 @@ private slots:
         CloneDisk page;
         addSources(page);
         QSignalSpy moved(&page, &CloneDisk::ComboboxIndexChange);
-        page.SourceComboBox->clear();
+        comboOf(page, "SourceComboBox")->clear();
         QCOMPARE(moved.count(), 0);
         QCOMPARE(g_App.m_pCurrentDisk, findPhysicalDisk(128));
     }
@@ -138,10 +150,11 @@ private slots:
     void theSmartTreeChangesItsKind()
     {
         SmartStatus page;
-        const auto hidden = [&page] {
+        const auto *tree = page.findChild<QTreeWidget *>();
+        const auto hidden = [tree] {
             QList<int> columns;
-            for (int i = 0; i < page.m_pAttributeTree->columnCount(); ++i) {
-                if (page.m_pAttributeTree->isColumnHidden(i))
+            for (int i = 0; i < tree->columnCount(); ++i) {
+                if (tree->isColumnHidden(i))
                     columns.append(i);
             }
             return columns;
@@ -151,13 +164,13 @@ private slots:
         g_App.m_bNVMe = true;
         page.FormatSmartTable();
         QCOMPARE(hidden(), (QList<int>{3, 4, 5, 6} + lookedUp));
-        QCOMPARE(page.m_pAttributeTree->columnWidth(1), 300);
-        QCOMPARE(page.m_pAttributeTree->headerItem()->text(2), QStringLiteral("Values"));
+        QCOMPARE(tree->columnWidth(1), 300);
+        QCOMPARE(tree->headerItem()->text(2), QStringLiteral("Values"));
         g_App.m_bNVMe = false;
         page.FormatSmartTable();
         QCOMPARE(hidden(), lookedUp);
-        QCOMPARE(page.m_pAttributeTree->columnWidth(1), 150);
-        QCOMPARE(page.m_pAttributeTree->headerItem()->text(2), QStringLiteral("Status"));
+        QCOMPARE(tree->columnWidth(1), 150);
+        QCOMPARE(tree->headerItem()->text(2), QStringLiteral("Status"));
     }
 
     void thePartitionHeaderFollowsTheSelection()
@@ -182,13 +195,13 @@ private slots:
     void theChooserComesBackToTheSurfaceScan()
     {
         ScanDisk page;
-        page.radioButton_3->setChecked(true);
-        QVERIFY(!page.radioButton->isChecked());
+        radioOf(page, "radioButton_3")->setChecked(true);
+        QVERIFY(!radioOf(page, "radioButton")->isChecked());
         page.findChild<QFrame *>(QStringLiteral("frame_2"))->hide();
         page.findChild<QFrame *>(QStringLiteral("frame"))->show();
         page.ShowChooser();
-        QVERIFY(page.radioButton->isChecked());
-        QVERIFY(!page.radioButton_3->isChecked());
+        QVERIFY(radioOf(page, "radioButton")->isChecked());
+        QVERIFY(!radioOf(page, "radioButton_3")->isChecked());
         QVERIFY(page.findChild<QFrame *>(QStringLiteral("frame_2"))->isVisibleTo(&page));
         QVERIFY(!page.findChild<QFrame *>(QStringLiteral("frame"))->isVisibleTo(&page));
         page.FillDisk(findPhysicalDisk(129));
@@ -222,11 +235,11 @@ private slots:
         }
         QCOMPARE(labelOf(&smart, "SmartResultLabel")->text(), QStringLiteral("~Passed"));
         QCOMPARE(labelOf(&smart, "GraphLabel")->text(), QStringLiteral("~Graph"));
-        QCOMPARE(smart.m_pAttributeTree->headerItem()->text(1), QStringLiteral("~Attribute Name"));
+        QCOMPARE(smart.findChild<QTreeWidget *>()->headerItem()->text(1), QStringLiteral("~Attribute Name"));
         QCOMPARE(labelOf(&scan, "TimeReLbl")->text(), QStringLiteral("Time Remaining"));
-        QCOMPARE(scan.radioButton_2->text(), QStringLiteral("~Short Self-test"));
-        QCOMPARE(clone.DestinationComboBox->itemText(0), QStringLiteral("~Select Destination"));
-        QCOMPARE(clone.DestinationComboBox->count(), 3);
+        QCOMPARE(radioOf(scan, "radioButton_2")->text(), QStringLiteral("~Short Self-test"));
+        QCOMPARE(comboOf(clone, "DestinationComboBox")->itemText(0), QStringLiteral("~Select Destination"));
+        QCOMPARE(comboOf(clone, "DestinationComboBox")->count(), 3);
     }
 
     void detailLabelsKeepTheirText_data()
@@ -255,10 +268,10 @@ private slots:
     {
         CloneDisk clone;
         const QString name = QStringLiteral("A Name & Sons <b>1");
-        clone.SourceComboBox->addItem(name);
+        comboOf(clone, "SourceComboBox")->addItem(name);
         labelOf(&clone, "ModelNLbl")->setText(QStringLiteral("Model: ") + name);
-        for (QWidget *cut :
-             std::initializer_list<QWidget *>{labelOf(&clone, "ModelNLbl"), clone.SourceComboBox}) {
+        for (QWidget *cut : std::initializer_list<QWidget *>{labelOf(&clone, "ModelNLbl"),
+                                                             comboOf(clone, "SourceComboBox")}) {
             cut->setFixedWidth(90);
             cut->grab();
             QVERIFY(cut->toolTip().endsWith(QStringLiteral("A Name &amp; Sons &lt;b&gt;1")));

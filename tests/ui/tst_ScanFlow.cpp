@@ -57,7 +57,7 @@ private:
         QVERIFY(!result()->isVisible());
     }
     ScanDisk *page() const { return m_pWindow->findChild<ScanDisk *>(); }
-    QGridView *map() const { return page()->m_pGridView; }
+    QGridView *map() const { return page()->findChild<QGridView *>(); }
     InfoDialogClass *result() const { return child<InfoDialogClass>("m_pResultBox"); }
     QString resultTexts() const
     {

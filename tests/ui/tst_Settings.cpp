@@ -3,6 +3,7 @@
 #include "state/Languages.h"
 #include "state/SettingsStore.h"
 #include "tests/support/FakePlatform.h"
+#include "tests/ui/Named.h"
 #include "ui/screens/Settings.h"
 
 #include <QAction>
@@ -214,12 +215,13 @@ void SettingsTest::menuOffersLanguages()
     g_App.m_bKorvaneBrand = secondBrand;
     const Settings window;
     QStringList texts;
-    const auto actions = window.m_pLanguageButton->menu()->actions();
+    const auto actions = buttonOf(&window, "m_pLanguageButton")->menu()->actions();
     for (const QAction *action : actions)
         texts << action->text();
     QTEST(texts, "offered");
     QStringList marked;
-    for (const QAction *action : window.m_apLanguageActions) {
+    for (const languages::Language &language : languages::table) {
+        const auto *action = window.findChild<QAction *>(QLatin1String(language.text));
         QVERIFY(action->isCheckable());
         if (action->isChecked())
             marked << action->text();

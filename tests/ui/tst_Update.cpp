@@ -107,7 +107,7 @@ void UpdateTest::cleanup()
 QStringList UpdateTest::askForUpdate()
 {
     m_messages.clear();
-    shown<Settings>()->m_pUpdateButton->click();
+    buttonOf(shown<Settings>(), "m_pUpdateButton")->click();
     return m_messages;
 }
 

@@ -5,18 +5,10 @@
 #include "ui/widgets/Images.h"
 #include "ui/widgets/Style.h"
 
-#include <QEvent>
 #include <QLabel>
 #include <QVBoxLayout>
 
-namespace
-{
-
-constexpr int TextWidth = 520;
-
-}
-
-AccessNotice::AccessNotice(QWidget *parent) : QWidget(parent)
+AccessNotice::AccessNotice(QWidget *parent) : Page(parent)
 {
     style::setWhiteBackground(this);
     auto *column = new QVBoxLayout(this);
@@ -25,11 +17,11 @@ AccessNotice::AccessNotice(QWidget *parent) : QWidget(parent)
     auto *picture = new QLabel(this);
     images::setLabelImage(picture, QStringLiteral("img_Locked.png"));
     column->addWidget(picture, 0, Qt::AlignHCenter);
-    m_pHeading = addText(QStringLiteral("m_pHeading"), style::font(13));
+    m_pHeading = addText("m_pHeading", style::font(13));
     m_pHeading->setStyleSheet(style::BlackLabel);
-    m_pReason = addText(QStringLiteral("m_pReason"), style::font(10));
-    m_pAdvice = addText(QStringLiteral("m_pAdvice"), style::font(10));
-    m_pCommand = addText(QStringLiteral("m_pCommand"), style::font(10));
+    m_pReason = addText("m_pReason", style::font(10));
+    m_pAdvice = addText("m_pAdvice", style::font(10));
+    m_pCommand = addText("m_pCommand", style::font(10));
     m_pCommand->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_pCommand->setCursor(Qt::IBeamCursor);
     m_pCommand->setStyleSheet(
@@ -38,13 +30,14 @@ AccessNotice::AccessNotice(QWidget *parent) : QWidget(parent)
             .arg(style::px(4))
             .arg(style::px(8)));
     column->addStretch(2);
-    setTexts();
+    retranslate();
 }
 
-QLabel *AccessNotice::addText(const QString &name, const QFont &font)
+QLabel *AccessNotice::addText(const char *name, const QFont &font)
 {
+    constexpr int TextWidth = 520;
     auto *label = new QLabel(this);
-    label->setObjectName(name);
+    label->setObjectName(QLatin1String(name));
     label->setFont(font);
     label->setStyleSheet(style::GreyLabel);
     label->setTextFormat(Qt::PlainText);
@@ -55,7 +48,7 @@ QLabel *AccessNotice::addText(const QString &name, const QFont &font)
     return label;
 }
 
-void AccessNotice::setTexts()
+void AccessNotice::retranslate()
 {
     const QString command = Platform::current().AdministratorCommand();
     m_pHeading->setText(tr("No disk can be opened"));
@@ -72,11 +65,4 @@ void AccessNotice::setTexts()
         if (!label->text().isEmpty())
             label->setFixedHeight(label->heightForWidth(label->width()));
     }
-}
-
-void AccessNotice::changeEvent(QEvent *event)
-{
-    if (event->type() == QEvent::LanguageChange)
-        setTexts();
-    QWidget::changeEvent(event);
 }

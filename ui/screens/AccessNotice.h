@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QWidget>
+#include "ui/screens/Page.h"
 
 class QLabel;
 
 /// Stands in the place of every screen while this process may open no disk: says so, and how to start the
 /// program with the rights to.
-class AccessNotice : public QWidget
+class AccessNotice : public Page
 {
     Q_OBJECT
 
@@ -15,11 +15,10 @@ public:
     explicit AccessNotice(QWidget *parent = nullptr);
 
 protected:
-    void changeEvent(QEvent *event) override;
+    void retranslate() override;
 
 private:
-    QLabel *addText(const QString &name, const QFont &font);
-    void setTexts();
+    QLabel *addText(const char *name, const QFont &font);
 
     QLabel *m_pHeading = nullptr;
     QLabel *m_pReason = nullptr;

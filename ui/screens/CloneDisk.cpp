@@ -3,6 +3,7 @@
 
 #include "clone/RescueMap.h"
 #include "state/CloneTexts.h"
+#include "state/DriveTexts.h"
 #include "state/GlobalApp.h"
 #include "state/JobState.h"
 #include "ui/dialogs/MessageDialog.h"
@@ -44,17 +45,14 @@ CloneDisk::CloneDisk(QWidget *parent) : Page(parent)
 {
     setupUi(this);
     pagelook::makePage(this);
-    m_pRoundProgressBar = new QRoundProgressBar(ProgressLabel);
-    m_pRoundProgressBar->setObjectName(QStringLiteral("m_pRoundProgressBar"));
+    m_pRoundProgressBar = pagelook::named(new QRoundProgressBar(ProgressLabel), "m_pRoundProgressBar");
     m_pRoundProgressBar->setGeometry(0, 0, GaugeSide, GaugeSide);
     style::scaleWidget(m_pRoundProgressBar);
     style::setWhiteBackground(m_pRoundProgressBar);
     m_pRoundProgressBar->SetDecimals(0);
     // A child of the window: the page's style sheets must not reach it.
-    m_pMessageBox = new InfoDialogClass(window());
-    m_pMessageBox->setObjectName(QStringLiteral("m_pMessageBox"));
+    m_pMessageBox = pagelook::named(new InfoDialogClass(window()), "m_pMessageBox");
     stylePage();
-    setFixedTexts();
     RefreshSourceDetails(nullptr);
     connect(SourceComboBox, QOverload<int>::of(&QComboBox::activated), this,
             &CloneDisk::OnActivatedSourceComboBox);
@@ -62,13 +60,10 @@ CloneDisk::CloneDisk(QWidget *parent) : Page(parent)
             &CloneDisk::OnActivatedSourceComboBox);
     connect(DestinationComboBox, QOverload<int>::of(&QComboBox::activated), this,
             &CloneDisk::OnActivatedDestinationComboBox);
+    connect(DestinationComboBox, QOverload<int>::of(&QComboBox::activated), this,
+            &CloneDisk::DestinationActivated);
     connect(m_pMessageBox, &MessageDialog::dismissed, this, &CloneDisk::OnOk);
     connect(m_pMessageBox, &MessageDialog::confirmed, this, &CloneDisk::OnSaveLostSectors);
-    connectThread();
-}
-
-void CloneDisk::connectThread()
-{
     connect(&m_cloneThread, &ThreadDriveClone::OnCloningFinish, this, &CloneDisk::OnDriveCloneFinish);
     connect(&m_cloneThread, &ThreadDriveClone::SetProgressValue, this, &CloneDisk::OnSetProgressValue);
     connect(&m_cloneThread, &ThreadDriveClone::CloningFailed, this, &CloneDisk::OnCloningFailed);
@@ -84,20 +79,29 @@ void CloneDisk::stylePage()
         pagelook::styleValues({this->*row.source, this->*row.target});
     pagelook::styleCard(SourceFrame);
     pagelook::styleCard(DesitanionFrame);
-    SourceComboBox->setFont(style::font(10));
-    DestinationComboBox->setFont(style::font(10));
-    // A long name must not widen the combo, which has the width of its card.
-    for (QComboBox *combo : {SourceComboBox, DestinationComboBox})
+    for (QComboBox *combo : {SourceComboBox, DestinationComboBox}) {
+        combo->setFont(style::font(10));
+        // A long name must not widen the combo, which has the width of its card.
         combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    }
+    pagelook::alignNames({SourceDisk, TargetDiskLbl});
 }
 
-void CloneDisk::setFixedTexts()
+void CloneDisk::FillSources(const std::vector<drivetexts::Entry> &disks)
 {
-    DiskDetailLbl->setText(tr("Disk Details"));
-    SourceDisk->setText(tr("Source Disk"));
-    TargetDiskLbl->setText(tr("Target Disk"));
-    TimeLabel2->setText(tr("Remaining Time"));
-    pagelook::alignNames({SourceDisk, TargetDiskLbl});
+    const QSignalBlocker block(SourceComboBox);
+    SourceComboBox->clear();
+    clearDestinations();
+    m_nDestinationDrive = -1;
+    g_App.m_pCloneDisk = nullptr;
+    for (const drivetexts::Entry &entry : disks)
+        SourceComboBox->addItem(entry.texts.source, static_cast<int>(entry.node->nId));
+}
+
+CloneDisk::Pair CloneDisk::ChosenPair() const
+{
+    return {{SourceComboBox->currentData().toInt(), SourceComboBox->currentText()},
+            {DestinationComboBox->currentData().toInt(), DestinationComboBox->currentText()}};
 }
 
 void CloneDisk::RefreshSourceDetails(const DiskNode *pNode)
@@ -115,7 +119,12 @@ void CloneDisk::RefreshSourceDetails(const DiskNode *pNode)
                         TargetCpaLbl, TargetSLbl});
     DetailLabel::align(
         {FirmWareLbl, InterfaceLBL, SectorLbl, TargetFrmLbl, TargetInterfaceLbl, TargetSectorLBl});
-    rebuildDestinations(pNode);
+    clearDestinations();
+    if (g_bListsLoading)
+        return;
+    for (const clonetexts::Destination &disk :
+         clonetexts::destinations(g_App.m_diskList, pNode ? pNode->nId : 0))
+        DestinationComboBox->addItem(disk.text, disk.diskId);
 }
 
 void CloneDisk::ShowTargetDetails(bool bShow)
@@ -124,26 +133,14 @@ void CloneDisk::ShowTargetDetails(bool bShow)
         (this->*row.target)->setVisible(bShow);
 }
 
-void CloneDisk::rebuildDestinations(const DiskNode *pSource)
+void CloneDisk::clearDestinations()
 {
     g_strSelectDestination = tr("Select Destination");
     DestinationComboBox->clear();
     DestinationComboBox->addItem(g_strSelectDestination);
     // With a size of 0 this entry does not show in the drop-down.
     DestinationComboBox->setItemData(0, QSize(0, 0), Qt::SizeHintRole);
-    const int sourceId = pSource ? pSource->nId : 0;
     m_nDestinationIndex = 0;
-    if (g_bListsLoading)
-        return;
-    for (const clonetexts::Destination &disk : clonetexts::destinations(g_App.m_diskList, sourceId))
-        DestinationComboBox->addItem(disk.text, disk.diskId);
-}
-
-void CloneDisk::ForgetDestination()
-{
-    m_nDestinationIndex = 0;
-    m_nDestinationDrive = -1;
-    g_App.m_pCloneDisk = nullptr;
 }
 
 void CloneDisk::OnActivatedSourceComboBox(int index)
@@ -180,10 +177,9 @@ void CloneDisk::showRunning(bool bRunning)
          std::initializer_list<QWidget *>{DiskDetailLbl, ExtraLbl, SourceFrame, DesitanionFrame, SourceDisk,
                                           TargetDiskLbl, SourceComboBox, DestinationComboBox})
         choice->setVisible(!bRunning);
-    for (const DetailRow &row : detailRows) {
+    for (const DetailRow &row : detailRows)
         (this->*row.source)->setVisible(!bRunning);
-        (this->*row.target)->setVisible(!bRunning);
-    }
+    ShowTargetDetails(!bRunning);
     for (QWidget *progress :
          std::initializer_list<QWidget *>{ProgressLabel, TimeLabel, TimeLabel2, TimeSpaceLbl, TimeSpaceLbl_2})
         progress->setVisible(bRunning);
@@ -196,7 +192,6 @@ void CloneDisk::StartClone()
     m_strLastMinutes.clear();
     TimeLabel->clear();
     showRunning(true);
-    m_timeStarted = QTime::currentTime();
     m_pRoundProgressBar->SetMinimum(0.0);
     m_pRoundProgressBar->SetMaximum(100.0);
     m_pRoundProgressBar->SetValue(0);
@@ -278,7 +273,6 @@ void CloneDisk::OnOk()
 void CloneDisk::retranslate()
 {
     retranslateUi(this);
-    setFixedTexts();
     RefreshSourceDetails(findPhysicalDisk(SourceComboBox->currentData().toInt()));
     stylePage();
 }

@@ -8,7 +8,13 @@
 
 #include "ui_CloneDisk.h"
 
-#include <QTime>
+#include <utility>
+#include <vector>
+
+namespace drivetexts
+{
+struct Entry;
+}
 
 class InfoDialogClass;
 class QRoundProgressBar;
@@ -22,29 +28,30 @@ class CloneDisk : public Page, private Ui::m_pCloneDiskwgt
 public:
     explicit CloneDisk(QWidget *parent = nullptr);
 
+    /// Fills the combo of the sources, and takes back the choice of a destination: the disk numbers may
+    /// belong to other disks now. Nothing is told of it.
+    void FillSources(const std::vector<drivetexts::Entry> &disks);
+    /// Chooses a row of that combo.
+    void ChooseSource(int index) { SourceComboBox->setCurrentIndex(index); }
+    int SourceIndex() const { return SourceComboBox->currentIndex(); }
+    QString SourceText(int index) const { return SourceComboBox->itemText(index); }
     /// Shows the details of the source, hides those of the target and rebuilds the list of destinations; the
     /// choice of a destination goes back to none. Null: no source, and any physical disk is a destination.
     void RefreshSourceDetails(const DiskNode *pNode);
     /// Shows or hides the details of the target.
     void ShowTargetDetails(bool bShow);
-    /// Takes back the choice of a destination: the disk numbers may belong to other disks now.
-    void ForgetDestination();
+
+    /// Source and target as their combos show them: drive code and name.
+    using Pair = std::pair<std::pair<int, QString>, std::pair<int, QString>>;
+    Pair ChosenPair() const;
+    bool HasDestination() const { return m_nDestinationIndex > 0; }
+    /// Drive code of the destination that was chosen last.
+    int DestinationId() const { return m_nDestinationDrive + PhysicalDriveBase; }
 
     /// Copies the current disk onto the clone disk, which loses all that it holds. Only while no clone runs.
     void StartClone();
     /// Shows a message in the box, over the main window.
     void ShowMessage(const clonemessages::Message &message);
-
-    /// \name The choice of the disks
-    /// The main window fills the rows with those of its own combo.
-    /// @{
-    using Ui::m_pCloneDiskwgt::DestinationComboBox;
-    using Ui::m_pCloneDiskwgt::SourceComboBox;
-    /// @}
-
-    int m_nDestinationIndex = 0;  ///< row in DestinationComboBox, 0: none chosen
-    int m_nDestinationDrive = -1; ///< physical number of the disk chosen last, negative: none
-    quint64 m_nSourceSectors = 0; ///< sectors of 512 bytes
 
 signals:
     /// A clone has ended, and its result shows.
@@ -53,6 +60,8 @@ signals:
     void DiskCloneFinished();
     /// The source combo went to another row; it has the rows of the main window's drive combo.
     void ComboboxIndexChange(int index);
+    /// The user has chosen a row of the destinations.
+    void DestinationActivated(int index);
     /// The clone was refused, or failed.
     void CloningProcesFailed();
 
@@ -72,14 +81,14 @@ protected:
 
 private:
     void stylePage();
-    void setFixedTexts();
-    void rebuildDestinations(const DiskNode *pSource);
-    void connectThread();
+    void clearDestinations();
     void showRunning(bool bRunning);
 
-    QString m_strLastMinutes; ///< the remaining time shown last
+    int m_nDestinationIndex = 0;  ///< row in DestinationComboBox, 0: none chosen
+    int m_nDestinationDrive = -1; ///< physical number of the disk chosen last, negative: none
+    quint64 m_nSourceSectors = 0; ///< sectors of 512 bytes
+    QString m_strLastMinutes;     ///< the remaining time shown last
     QRoundProgressBar *m_pRoundProgressBar = nullptr;
     InfoDialogClass *m_pMessageBox = nullptr;
-    QTime m_timeStarted;
     ThreadDriveClone m_cloneThread;
 };

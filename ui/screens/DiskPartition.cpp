@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/screens/DiskPartition.h"
 
+#include "state/GlobalApp.h"
 #include "state/Globals.h"
+#include "state/PartitionTexts.h"
 #include "ui/screens/PageLook.h"
 #include "ui/widgets/Style.h"
 
+#include <QCoreApplication>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QVBoxLayout>
-
-#include <algorithm>
 
 namespace
 {
@@ -23,26 +24,14 @@ constexpr int Overlap = 72;
 constexpr int ScrollBarFrom = 4; ///< volumes
 constexpr int SliceInset = 20;
 constexpr double EmptyRing = 12.0;
+constexpr int HeightPerFrame = 300; ///< of the frames' host, in pixels at every scale
 
 const QString PercentLabel = QStringLiteral("QLabel {color : #1F82F9;}");
 const QString BlankLabel = QStringLiteral("QLabel {color : #64778b;}");
 
-enum LookIndex : std::size_t {
-    PartitionTitle,
-    StatusTitle,
-    VolumeName,
-    StatusValue,
-    SpaceTitle,
-    Blank,
-    SpaceValue,
-    Percentage,
-    LookCount
-};
-
-/// A label of a volume's frame; the first four stand left of the separator.
+/// A label of a volume's frame.
 struct LabelLook {
     const char *name;
-    DiskPartition::LabelArray DiskPartition::*array;
     bool semiBold;
     const QString *sheet;
     bool centred;
@@ -51,16 +40,18 @@ struct LabelLook {
     int stretch; ///< share of the column
 };
 
-const std::array<LabelLook, LookCount> looks = {{
-    {"m_apPartitionTitle", &DiskPartition::m_apPartitionTitle, true, &style::GreyLabel, false, 0, 0, 208},
-    {"m_apStatusTitle", &DiskPartition::m_apStatusTitle, true, &style::GreyLabel, false, 0, 1, 112},
-    {"m_apVolumeName", &DiskPartition::m_apVolumeName, false, &style::GreyLabel, false, 1, 0, 208},
-    {"m_apStatusValue", &DiskPartition::m_apStatusValue, false, &style::GreyLabel, false, 1, 1, 112},
-    {"m_apSpaceTitle", &DiskPartition::m_apSpaceTitle, true, &style::GreyLabel, true, 0, 0, 230},
-    {"m_apBlankLabel", &DiskPartition::m_apBlankLabel, true, &BlankLabel, false, 0, 1, 112},
-    {"m_apSpaceValue", &DiskPartition::m_apSpaceValue, false, &style::GreyLabel, true, 1, 0, 230},
-    {"m_apPercentage", &DiskPartition::m_apPercentage, true, &PercentLabel, true, 1, 1, 112},
-}};
+constexpr int LeftLooks = 4; ///< so many stand left of the separator
+
+const LabelLook looks[] = {
+    {"m_apPartitionTitle", true, &style::GreyLabel, false, 0, 0, 208},
+    {"m_apStatusTitle", true, &style::GreyLabel, false, 0, 1, 112},
+    {"m_apVolumeName", false, &style::GreyLabel, false, 1, 0, 208},
+    {"m_apStatusValue", false, &style::GreyLabel, false, 1, 1, 112},
+    {"m_apSpaceTitle", true, &style::GreyLabel, true, 0, 0, 230},
+    {"m_apBlankLabel", true, &BlankLabel, false, 0, 1, 112},
+    {"m_apSpaceValue", false, &style::GreyLabel, true, 1, 0, 230},
+    {"m_apPercentage", true, &PercentLabel, true, 1, 1, 112},
+};
 
 /// True if the font is so high that letters would be cut off at the bottom of a label that centres its
 /// text. A label that aligns its text at the bottom cuts off only the blank part above the letters.
@@ -69,6 +60,22 @@ bool reachesBelow(const QLabel *label)
     const QFontMetrics metrics = label->fontMetrics();
     const int baseline = (label->height() - metrics.height()) / 2 + metrics.ascent();
     return baseline + metrics.tightBoundingRect(QStringLiteral("gjpqy(")).bottom() >= label->height();
+}
+
+void addLabel(QGridLayout *grid, const LabelLook &look, const QString &text, QFrame *frame)
+{
+    auto *label = pagelook::named(new QLabel(text, frame), look.name);
+    label->setTextFormat(Qt::PlainText);
+    pagelook::styleLabels({label}, look.semiBold ? style::semiBold(10) : style::font(10), *look.sheet);
+    label->setFixedHeight(style::px(16));
+    // The columns of all frames stand below each other, whatever is written in them.
+    label->setMinimumWidth(1);
+    if (look.centred)
+        label->setAlignment(Qt::AlignCenter);
+    if (reachesBelow(label))
+        label->setAlignment((label->alignment() & Qt::AlignHorizontal_Mask) | Qt::AlignBottom);
+    grid->addWidget(label, look.row, look.column);
+    grid->setColumnStretch(look.column, look.stretch);
 }
 
 } // namespace
@@ -83,7 +90,6 @@ DiskPartition::DiskPartition(QWidget *parent) : Page(parent)
     DetailGrid->setColumnMinimumWidth(0, style::px(115));
     makeDonut();
     makeScrollArea();
-    setFixedTexts();
 }
 
 DiskPartition::~DiskPartition()
@@ -109,8 +115,7 @@ void DiskPartition::makeDonut()
     m_pDonutLegend->fontTitle = QFont(QStringLiteral("Times"), 12, QFont::Bold);
     m_pDonutLegend->fontBody = QFont(QStringLiteral("Times"), 10);
 
-    m_pDonutView = new DonutChartView(m_pDonutSeries, m_pDonutLegend, this);
-    m_pDonutView->setObjectName(QStringLiteral("m_pDonutView"));
+    m_pDonutView = pagelook::named(new DonutChartView(m_pDonutSeries, m_pDonutLegend, this), "m_pDonutView");
     m_pDonutView->setMinimumSize(style::px(MinimumDonutWidth), style::px(MinimumDonutHeight));
     m_pDonutView->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     m_pDonutView->lower();
@@ -121,21 +126,18 @@ void DiskPartition::makeDonut()
 
 void DiskPartition::makeScrollArea()
 {
-    m_pScrollArea = new QScrollArea(this);
-    m_pScrollArea->setObjectName(QStringLiteral("m_pScrollArea"));
+    m_pScrollArea = pagelook::named(new QScrollArea(this), "m_pScrollArea");
     m_pScrollArea->setFrameShape(QFrame::NoFrame);
     m_pScrollArea->setWidgetResizable(true);
     m_pScrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     style::setWhiteBackground(m_pScrollArea);
 
-    m_pFrameHost = new QFrame;
-    m_pFrameHost->setObjectName(QStringLiteral("m_pFrameHost"));
+    m_pFrameHost = pagelook::named(new QFrame, "m_pFrameHost");
     style::setWhiteBackground(m_pFrameHost);
     auto *column = new QVBoxLayout(m_pFrameHost);
     column->setSpacing(0);
     column->setContentsMargins(0, style::px(5), style::px(5), 0);
-    m_pFrameColumn = new QVBoxLayout;
-    m_pFrameColumn->setObjectName(QStringLiteral("m_pFrameColumn"));
+    m_pFrameColumn = pagelook::named(new QVBoxLayout, "m_pFrameColumn");
     m_pFrameColumn->setSpacing(style::px(5));
     column->addLayout(m_pFrameColumn);
     auto *stretch = new QLabel;
@@ -147,15 +149,6 @@ void DiskPartition::makeScrollArea()
     column->addWidget(stretch, 1);
     m_pScrollArea->setWidget(m_pFrameHost);
     PageColumn->addWidget(m_pScrollArea);
-}
-
-void DiskPartition::setFixedTexts()
-{
-    DiskPartitionLbl->setText(tr("Disk Partition"));
-    TreeStringLbl->setText(tr("Partition Details"));
-    SerialNumberLbl->setText(tr("Serial Number"));
-    CapacityLbl->setText(tr("Capacity"));
-    InterfaceLbl->setText(tr("Interface Type"));
 }
 
 void DiskPartition::FillPartitionHeader()
@@ -174,8 +167,9 @@ void DiskPartition::FillPartitionHeader()
     InterfaceValLbl->setText(record->szInterface.isEmpty() ? tr("ATA Disk") : record->szInterface.text());
 }
 
-void DiskPartition::ShowSizes()
+void DiskPartition::ShowSizes(const QList<qint64> &sizes)
 {
+    m_listSizes = sizes;
     const bool scrolls = m_listSizes.size() >= ScrollBarFrom;
     m_pScrollArea->setVerticalScrollBarPolicy(scrolls ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
     m_pScrollArea->verticalScrollBar()->setEnabled(scrolls);
@@ -188,39 +182,13 @@ void DiskPartition::ShowSizes()
     if (g_bNoPartitions)
         m_pDonutSeries->AddSlice(EmptyRing, QString(), QString());
     m_pDonutView->Redraw();
-    m_pDonutView->update();
+    RepaintRing();
     update();
 }
 
-void DiskPartition::addLabel(QFrame *frame, QGridLayout *grid, std::size_t look, int place,
-                             const QString &text)
+QFrame *DiskPartition::addFrame(const QStringList &texts)
 {
-    const LabelLook &entry = looks.at(look);
-    auto *label = new QLabel(text, frame);
-    label->setObjectName(QLatin1String(entry.name));
-    label->setTextFormat(Qt::PlainText);
-    label->setFont(entry.semiBold ? style::semiBold(10) : style::font(10));
-    label->setStyleSheet(*entry.sheet);
-    label->setFixedHeight(style::px(16));
-    // The columns of all frames stand below each other, whatever is written in them.
-    label->setMinimumWidth(1);
-    if (entry.centred)
-        label->setAlignment(Qt::AlignCenter);
-    if (reachesBelow(label))
-        label->setAlignment((label->alignment() & Qt::AlignHorizontal_Mask) | Qt::AlignBottom);
-    grid->addWidget(label, entry.row, entry.column);
-    grid->setColumnStretch(entry.column, entry.stretch);
-    if (place >= 0 && static_cast<std::size_t>(place) < MaxFrames)
-        (this->*entry.array)[static_cast<std::size_t>(place)] = label;
-}
-
-QFrame *DiskPartition::AddFrame(int place, const VolumeTexts &texts)
-{
-    const std::array<QString, LookCount> contents = {tr("Partition"), tr("Status"),    texts.name,
-                                                     texts.status,    tr("Space"),     QString(),
-                                                     texts.space,     texts.percentage};
-    auto *frame = new QFrame;
-    frame->setObjectName(QStringLiteral("m_apFrame"));
+    auto *frame = pagelook::named(new QFrame, "m_apFrame");
     frame->setFixedHeight(style::px(50));
     frame->setFrameShape(QFrame::Box);
     frame->setFrameShadow(QFrame::Raised);
@@ -229,18 +197,16 @@ QFrame *DiskPartition::AddFrame(int place, const VolumeTexts &texts)
     auto *row = new QHBoxLayout(frame);
     row->setContentsMargins(style::px(12), 0, style::px(12), 0);
     row->setSpacing(0);
-    std::array<QGridLayout *, 2> grids{};
-    for (QGridLayout *&grid : grids) {
-        grid = new QGridLayout;
+    QGridLayout *const grids[] = {new QGridLayout, new QGridLayout};
+    for (QGridLayout *grid : grids) {
         grid->setHorizontalSpacing(0);
         grid->setVerticalSpacing(style::px(3));
         grid->setContentsMargins(0, style::px(6), 0, style::px(6));
     }
-    for (std::size_t i = 0; i < LookCount; ++i)
-        addLabel(frame, grids[i < SpaceTitle ? 0 : 1], i, place, contents[i]);
+    for (int i = 0; i < texts.size(); ++i)
+        addLabel(grids[i < LeftLooks ? 0 : 1], looks[i], texts.at(i), frame);
 
-    auto *separator = new QLabel(frame);
-    separator->setObjectName(QStringLiteral("m_apSeparator"));
+    auto *separator = pagelook::named(new QLabel(frame), "m_apSeparator");
     const QString picture = QStringLiteral(":/images/line.png");
     separator->setPixmap(QPixmap(picture));
     separator->setProperty("imagePath", picture);
@@ -249,45 +215,75 @@ QFrame *DiskPartition::AddFrame(int place, const VolumeTexts &texts)
     row->addLayout(grids[0], 320);
     row->addWidget(separator);
     row->addLayout(grids[1], 342);
-    if (place >= 0 && static_cast<std::size_t>(place) < MaxFrames) {
-        m_apFrame[static_cast<std::size_t>(place)] = frame;
-        m_apSeparator[static_cast<std::size_t>(place)] = separator;
-    }
     m_pFrameColumn->addWidget(frame);
     frame->show();
     return frame;
 }
 
-QLabel *DiskPartition::AddNotice(const QString &text)
+void DiskPartition::addFrames(const QString &letter, const QString &mark)
 {
-    auto *notice = new QLabel(text);
-    notice->setObjectName(QStringLiteral("m_pNoPartition"));
-    notice->setTextFormat(Qt::PlainText);
-    notice->setFont(style::font(13));
-    notice->setStyleSheet(style::BlackLabel);
-    m_pFrameColumn->addWidget(notice);
-    notice->show();
-    return notice;
+    // Of the last letter alone, so the height that goes by it is that of one volume.
+    m_nFrameCount = 0;
+    const QVector<int> disks = partitiontexts::disksOfVolume(letter, g_App.m_diskList);
+    for (const LogicalDiskRecord &volume : g_logicalDisks) {
+        if (volume.szCaption.text() != letter)
+            continue;
+        const QString health = partitiontexts::healthWord(
+            disks.isEmpty() ? QVector<int>{volume.nDiskIndex} : disks, g_wmicDisks);
+        m_listFrames.append(
+            addFrame({tr("Partition"), tr("Status"), partitiontexts::volumeName(volume, mark), health,
+                      tr("Space"), QString(), partitiontexts::spaceText(volume, g_App.m_bKorean),
+                      partitiontexts::percentText(volume)}));
+        ++m_nFrameCount;
+    }
 }
 
-void DiskPartition::ForgetFrames()
+void DiskPartition::dropFrames()
 {
-    m_apFrame.fill(nullptr);
-    m_apSeparator.fill(nullptr);
-    for (const LabelLook &look : looks)
-        (this->*look.array).fill(nullptr);
+    qDeleteAll(m_listFrames);
+    qDeleteAll(m_listNotices);
+    m_listFrames.clear();
+    m_listNotices.clear();
 }
 
-void DiskPartition::LayOutFrames(int minimumHeight)
+void DiskPartition::ClearVolumes()
 {
-    m_pFrameHost->setMinimumHeight(minimumHeight);
+    dropFrames();
+    FillPartitionHeader();
+    ShowSizes({});
+}
+
+void DiskPartition::ShowVolumes(const QString &mark)
+{
+    dropFrames();
+    FillPartitionHeader();
+    const DiskNode *node = findPhysicalDisk(PhysicalDriveBase + g_nCurrentDiskIndex);
+    const QStringList letters =
+        partitiontexts::driveLetters(node && node->pDetails ? node->pDetails->szDrives : QString());
+    ShowSizes(partitiontexts::volumeSizes(letters, g_logicalDisks));
+    for (const QString &letter : letters)
+        addFrames(letter, mark);
+    if (g_bNoPartitions) {
+        auto *notice = pagelook::named(
+            new QLabel(QCoreApplication::translate("MainWindow", "No Partition Found")), "m_pNoPartition");
+        notice->setTextFormat(Qt::PlainText);
+        pagelook::styleHeadings({notice});
+        m_pFrameColumn->addWidget(notice);
+        notice->show();
+        m_listNotices.append(notice);
+    }
+    m_pFrameHost->setMinimumHeight(m_nFrameCount * HeightPerFrame);
     m_pFrameHost->layout()->activate();
     m_pScrollArea->verticalScrollBar()->setValue(0);
+}
+
+void DiskPartition::RepaintRing()
+{
+    m_pDonutView->update();
 }
 
 void DiskPartition::retranslate()
 {
     retranslateUi(this);
-    setFixedTexts();
     FillPartitionHeader();
 }

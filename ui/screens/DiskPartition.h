@@ -8,20 +8,9 @@
 
 #include <QList>
 
-#include <array>
-
 class DonutChartView;
-class QGridLayout;
 class QScrollArea;
 class QVBoxLayout;
-
-/// The texts of the frame of one volume.
-struct VolumeTexts {
-    QString name;
-    QString status;
-    QString space;
-    QString percentage;
-};
 
 /// The Disk Partition screen: the ring of the selected disk's volumes, its serial number and capacity above;
 /// below a frame for each volume. Main thread only.
@@ -35,46 +24,15 @@ public:
 
     /// Shows serial number, interface and capacity of the selected disk; empty where there is no record.
     void FillPartitionHeader();
-
-    /// Draws the ring of m_listSizes, grey where there are none. Shows the scroll bar from four entries on.
-    void ShowSizes();
-
-    /// Appends a frame to the column and puts its widgets into the arrays at `place`; beyond them the frame
-    /// only shows. The caller owns the frame.
-    QFrame *AddFrame(int place, const VolumeTexts &texts);
-    /// Appends a line of text to the column. The caller owns the label.
-    QLabel *AddNotice(const QString &text);
-    /// Empties the arrays. Call before the frames are deleted.
-    void ForgetFrames();
-    /// Gives the frames' host its minimum height, in pixels, and scrolls to its top.
-    void LayOutFrames(int minimumHeight);
-
-    static constexpr std::size_t MaxFrames = 40;
-    using LabelArray = std::array<QLabel *, MaxFrames>;
-
-    DonutSeries *m_pDonutSeries; ///< owned
-    DonutLegend *m_pDonutLegend; ///< owned
-    DonutChartView *m_pDonutView;
-    QList<qint64> m_listSizes; ///< bytes of the volumes that show
-
-    /// \name The widgets of the frames
-    /// Not owned; null where there is none.
-    /// @{
-    std::array<QFrame *, MaxFrames> m_apFrame{};
-    LabelArray m_apPartitionTitle{};
-    LabelArray m_apStatusTitle{};
-    LabelArray m_apSpaceTitle{};
-    LabelArray m_apVolumeName{};
-    LabelArray m_apStatusValue{};
-    LabelArray m_apSpaceValue{};
-    LabelArray m_apBlankLabel{};
-    LabelArray m_apPercentage{};
-    LabelArray m_apSeparator{};
-    /// @}
-
-    QScrollArea *m_pScrollArea;
-    QFrame *m_pFrameHost;
-    QVBoxLayout *m_pFrameColumn; ///< the frames, above what stretches below them
+    /// Shows the volumes of the selected disk: the ring and a frame for each, with `mark` behind the name of
+    /// an encrypted one. Where there is none, the ring is grey and a line says so.
+    void ShowVolumes(const QString &mark);
+    /// Draws the ring of such sizes, in bytes; grey where there are none. The frames scroll from four on.
+    void ShowSizes(const QList<qint64> &sizes);
+    /// Shows the head of the selected disk, and no volumes.
+    void ClearVolumes();
+    /// Paints the ring again, which does not paint itself in a minimised window.
+    void RepaintRing();
 
 protected:
     void retranslate() override;
@@ -82,6 +40,19 @@ protected:
 private:
     void makeDonut();
     void makeScrollArea();
-    void addLabel(QFrame *frame, QGridLayout *grid, std::size_t look, int place, const QString &text);
-    void setFixedTexts();
+    void dropFrames();
+    void addFrames(const QString &letter, const QString &mark);
+    QFrame *addFrame(const QStringList &texts);
+
+    DonutSeries *m_pDonutSeries; ///< owned
+    DonutLegend *m_pDonutLegend; ///< owned
+    DonutChartView *m_pDonutView;
+    QList<qint64> m_listSizes;     ///< bytes of the volumes that show
+    QList<QFrame *> m_listFrames;  ///< all that show
+    QList<QLabel *> m_listNotices; ///< the line that stands there instead of frames
+    int m_nFrameCount = 0;         ///< frames of the letter shown last
+
+    QScrollArea *m_pScrollArea;
+    QFrame *m_pFrameHost;
+    QVBoxLayout *m_pFrameColumn; ///< the frames, above what stretches below them
 };

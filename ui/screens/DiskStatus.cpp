@@ -3,26 +3,24 @@
 
 #include "smart/SmartGlobals.h"
 #include "smart/TilePicture.h"
+#include "state/DiskIdentityTexts.h"
 #include "state/GlobalApp.h"
 #include "state/Globals.h"
 #include "state/Languages.h"
 #include "state/Scale.h"
+#include "ui/screens/PageLook.h"
 #include "ui/widgets/FittingTexts.h"
 #include "ui/widgets/Images.h"
 #include "ui/widgets/Style.h"
 
 #include <QGridLayout>
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QVBoxLayout>
 
 namespace
 {
 
-constexpr int TileWidth = 218;
-constexpr int TileHeight = 96;
-constexpr int FieldHeight = 20;
+constexpr int TileRoom = 134; ///< of a value, up to the picture of its tile
 constexpr int HighestTitle = 22;
+constexpr std::size_t FirstLowerRow = 3; ///< of the details: from here the widths go by the language
 
 void setIfAny(QLabel *label, const std::optional<QString> &text)
 {
@@ -34,87 +32,64 @@ void setIfAny(QLabel *label, const std::optional<QString> &text)
 
 DiskStatus::DiskStatus(QWidget *parent) : Page(parent)
 {
+    using pagelook::named;
     setupUi(this);
-    healthTitleLbl = makeTileLabel(HelthLable, QStringLiteral("healthTitleLbl"));
-    healthValueLbl = makeTileValue(HelthLable, QStringLiteral("healthValueLbl"));
-    performanceTitleLbl = makeTileLabel(PerformanceLbl, QStringLiteral("performanceTitleLbl"));
-    performanceValueLbl = makeTileValue(PerformanceLbl, QStringLiteral("performanceValueLbl"));
-    tempValueLbl = makeTileValue(tempratureLbl, QStringLiteral("tempValueLbl"));
-    tempTitleLbl = makeTileLabel(tempratureLbl, QStringLiteral("tempTitleLbl"));
+    healthTitleLbl = named(new QLabel(HelthLable), "healthTitleLbl");
+    healthValueLbl = named(new FittingLabel(style::px(TileRoom), HelthLable), "healthValueLbl");
+    performanceTitleLbl = named(new QLabel(PerformanceLbl), "performanceTitleLbl");
+    performanceValueLbl = named(new FittingLabel(style::px(TileRoom), PerformanceLbl), "performanceValueLbl");
+    tempValueLbl = named(new FittingLabel(style::px(TileRoom), tempratureLbl), "tempValueLbl");
+    tempTitleLbl = named(new QLabel(tempratureLbl), "tempTitleLbl");
 
     style::setWhiteBackground(this);
     styleTexts();
-    setStaticTexts();
+    setTileTitles();
     ApplyLanguageMetrics();
     layOutTiles();
     layOutPage();
-
-    DisknumberLbl->hide();
-    DisknumberValLbl->hide();
-    InterFaceLbl->hide();
-    InterFaceValLbl->hide();
+    const DetailRow hidden = details().front();
+    for (QLabel *label : hidden)
+        label->hide();
+    clearDisk();
     DisknumberValLbl->setText(QStringLiteral("0"));
-    showFirstPictures();
 }
 
-DiskStatus::~DiskStatus() = default;
-
-QLabel *DiskStatus::makeTileLabel(QLabel *tile, const QString &name)
+std::array<DiskStatus::DetailRow, 5> DiskStatus::details() const
 {
-    auto *label = new QLabel(tile);
-    label->setObjectName(name);
-    return label;
-}
-
-QLabel *DiskStatus::makeTileValue(QLabel *tile, const QString &name)
-{
-    constexpr int Room = 134; // up to the picture of the tile
-    auto *label = new FittingLabel(style::px(Room), tile);
-    label->setObjectName(name);
-    return label;
+    return {{{DisknumberLbl, DisknumberValLbl, InterFaceLbl, InterFaceValLbl}, // hidden
+             {ModelNumberLbl, ModelNumValLbl, Seriallbl, SerialValLbl},
+             {FrimvareVersionLbl, FrimvareVersValLbl, SectorLbl, SectorValLbl},
+             {DiskLifeString, DiskLifeValue, PowerOnTimeString, PowerOnTimeValue},
+             {StartStopString, StartStopValue, DriveVerdictString, DriveVerdictValue}}};
 }
 
 void DiskStatus::styleTexts()
 {
-    detailedLbl->setFont(style::font(13));
-    detailedLbl->setStyleSheet(style::BlackLabel);
-    for (QLabel *name : std::initializer_list<QLabel *>{
-             DisknumberLbl, ModelNumberLbl, FrimvareVersionLbl, InterFaceLbl, Seriallbl, SectorLbl,
-             DiskLifeString, PowerOnTimeString, StartStopString, DriveVerdictString}) {
-        name->setFont(style::semiBold(10));
-        name->setStyleSheet(style::GreyLabel);
+    const QString black = QStringLiteral("QLabel {color : black;}");
+    pagelook::styleHeadings({detailedLbl});
+    for (const DetailRow &row : details()) {
+        pagelook::styleNames({row[0], row[2]});
+        pagelook::styleLabels({row[1], row[3]}, style::font(10), style::GreyLabel);
     }
-    for (QLabel *value : std::initializer_list<QLabel *>{
-             DisknumberValLbl, ModelNumValLbl, FrimvareVersValLbl, InterFaceValLbl, SerialValLbl,
-             SectorValLbl, DiskLifeValue, PowerOnTimeValue, StartStopValue, DriveVerdictValue}) {
-        value->setFont(style::font(10));
-        value->setStyleSheet(style::GreyLabel);
-    }
-    for (QLabel *title : {healthTitleLbl, performanceTitleLbl, tempTitleLbl}) {
-        title->setFont(style::font(12));
-        title->setStyleSheet(QStringLiteral("QLabel {color : black;}"));
-    }
-    for (QLabel *value : {healthValueLbl, performanceValueLbl, tempValueLbl}) {
-        value->setFont(style::font(15, true));
-        value->setStyleSheet(QStringLiteral("QLabel {color : black;}"));
-    }
+    pagelook::styleLabels({healthTitleLbl, performanceTitleLbl, tempTitleLbl}, style::font(12), black);
+    pagelook::styleLabels({healthValueLbl, performanceValueLbl, tempValueLbl}, style::font(15, true), black);
 }
 
 void DiskStatus::layOutTiles()
 {
-    struct Tile {
+    struct Parts {
         QLabel *tile;
         QLabel *title;
         QLabel *value;
         int titleHeight; ///< 0: not fixed
         int valueHeight;
     };
-    const Tile tiles[] = {
+    const Parts tiles[] = {
         {tempratureLbl, tempTitleLbl, tempValueLbl, 0, 0},
         {PerformanceLbl, performanceTitleLbl, performanceValueLbl, 22, 28},
         {HelthLable, healthTitleLbl, healthValueLbl, 20, 28},
     };
-    for (const Tile &entry : tiles) {
+    for (const Parts &entry : tiles) {
         auto *column = new QVBoxLayout(entry.tile);
         column->setContentsMargins(style::px(10), style::px(10), 0, style::px(20));
         column->setSpacing(0);
@@ -138,28 +113,22 @@ QGridLayout *DiskStatus::makeDetailsGrid()
 {
     constexpr int Spacing = 5;
     constexpr int RowHeight = 27; // a field of 20 stands in the middle of its row
-    constexpr int FirstFixedRow =
-        3; // from here the labels have widths of their own, which the columns must not take
-    constexpr Qt::Alignment fills = Qt::AlignVCenter;
     auto *grid = new QGridLayout;
     grid->setSpacing(Spacing);
     grid->setContentsMargins(0, 0, 0, 0);
-    QLabel *const rows[][4] = {
-        {ModelNumberLbl, ModelNumValLbl, Seriallbl, SerialValLbl},
-        {FrimvareVersionLbl, FrimvareVersValLbl, SectorLbl, SectorValLbl},
-        {DiskLifeString, DiskLifeValue, PowerOnTimeString, PowerOnTimeValue},
-        {StartStopString, StartStopValue, DriveVerdictString, DriveVerdictValue},
-    };
-    int row = 1;
-    for (const auto &labels : rows) {
+    const auto rows = details();
+    for (std::size_t row = 1; row < rows.size(); ++row) {
+        // The columns must not take the widths that the lower labels have of their own.
+        const Qt::Alignment alignment =
+            row < FirstLowerRow ? Qt::AlignVCenter : Qt::AlignLeft | Qt::AlignVCenter;
+        const int line = static_cast<int>(row);
         int column = 0;
-        for (QLabel *label : labels) {
-            grid->addWidget(label, row, column, row < FirstFixedRow ? fills : Qt::AlignLeft | fills);
+        for (QLabel *label : rows[row]) {
+            grid->addWidget(label, line, column, alignment);
             // Column 2 stays empty between the two pairs.
             column += column == 1 ? 2 : 1;
         }
-        grid->setRowMinimumHeight(row, style::px(RowHeight));
-        ++row;
+        grid->setRowMinimumHeight(line, style::px(RowHeight));
     }
     grid->setColumnMinimumWidth(0, style::px(126));
     grid->setColumnMinimumWidth(2, style::px(10));
@@ -203,53 +172,62 @@ void DiskStatus::layOutPage()
 void DiskStatus::ApplyLanguageMetrics()
 {
     const DiskStatusMetrics &metrics = languages::current().diskStatus;
+    const std::array<std::array<int, 4>, 2> lowerWidths = {
+        {{metrics.lifeName, metrics.lifeValue, metrics.powerOnName, metrics.powerOnValue},
+         {metrics.startStopName, metrics.startStopValue, metrics.verdictName, metrics.verdictValue}}};
     for (QLabel *tile : {tempratureLbl, PerformanceLbl, HelthLable})
-        tile->setFixedSize(style::px(TileWidth), style::px(TileHeight));
+        tile->setFixedSize(style::px(218), style::px(96));
     detailedLbl->setFixedHeight(style::px(32));
-    for (QLabel *label : std::initializer_list<QLabel *>{
-             ModelNumberLbl, ModelNumValLbl, Seriallbl, SerialValLbl, FrimvareVersionLbl, FrimvareVersValLbl,
-             SectorLbl, SectorValLbl, DisknumberLbl, DisknumberValLbl, InterFaceLbl, InterFaceValLbl})
-        label->setFixedHeight(style::px(FieldHeight));
-    const struct {
-        QLabel *label;
-        int width;
-    } lower[] = {
-        {DiskLifeString, metrics.lifeName},        {DiskLifeValue, metrics.lifeValue},
-        {PowerOnTimeString, metrics.powerOnName},  {PowerOnTimeValue, metrics.powerOnValue},
-        {StartStopString, metrics.startStopName},  {StartStopValue, metrics.startStopValue},
-        {DriveVerdictString, metrics.verdictName}, {DriveVerdictValue, metrics.verdictValue},
-    };
-    for (const auto &entry : lower)
-        entry.label->setFixedSize(style::px(entry.width), style::px(FieldHeight));
+    const auto rows = details();
+    for (std::size_t row = 0; row < rows.size(); ++row) {
+        for (std::size_t column = 0; column < rows[row].size(); ++column) {
+            rows[row][column]->setFixedHeight(style::px(20));
+            if (row >= FirstLowerRow)
+                rows[row][column]->setFixedWidth(style::px(lowerWidths[row - FirstLowerRow][column]));
+        }
+    }
     performanceTitleLbl->setFixedHeight(style::px(metrics.performanceTitleHeight));
 }
 
-void DiskStatus::setStaticTexts()
+void DiskStatus::setTileTitles()
 {
     tempTitleLbl->setText(tr("Temperature"));
     performanceTitleLbl->setText(tr("Performance"));
     healthTitleLbl->setText(tr("Health"));
-    detailedLbl->setText(tr("Disk Details"));
-    DisknumberLbl->setText(tr("Disk Number"));
-    ModelNumberLbl->setText(tr("Model Number"));
-    FrimvareVersionLbl->setText(tr("Firmware Revision"));
-    InterFaceLbl->setText(tr("Interface Type"));
-    Seriallbl->setText(tr("Serial Number"));
-    SectorLbl->setText(tr("Total Sectors"));
-    DiskLifeString->setText(tr("Hard Disk Life"));
-    PowerOnTimeString->setText(tr("Power-on Time"));
-    StartStopString->setText(tr("Start/Stop Count"));
-    DriveVerdictString->setText(tr("Drive's verdict"));
 }
 
-void DiskStatus::showIdentity(const DiskIdentityTexts &texts)
+void DiskStatus::showTile(Tile tile, const QString &value, TilePicture picture)
 {
-    DisknumberValLbl->setText(texts.diskNumber);
-    setIfAny(ModelNumValLbl, texts.model);
-    setIfAny(SerialValLbl, texts.serial);
-    setIfAny(FrimvareVersValLbl, texts.firmware);
-    setIfAny(InterFaceValLbl, texts.interfaceText);
-    setIfAny(SectorValLbl, texts.sectors);
+    QLabel *const values[] = {tempValueLbl, performanceValueLbl, healthValueLbl};
+    values[tile]->setText(value);
+    showPicture(tile, picture);
+}
+
+LifeKind DiskStatus::lifeKindOf(const DiskNode *node)
+{
+    return lifeKind(g_App.m_bNVMe, node && node->nKind == RemovableDisk, !g_smartTable.rows.isEmpty());
+}
+
+void DiskStatus::showDetails(const DiskIdentityTexts &identity, const QString &separator)
+{
+    DisknumberValLbl->setText(identity.diskNumber);
+    setIfAny(ModelNumValLbl, identity.model);
+    setIfAny(SerialValLbl, identity.serial);
+    setIfAny(FrimvareVersValLbl, identity.firmware);
+    setIfAny(InterFaceValLbl, identity.interfaceText);
+    setIfAny(SectorValLbl, identity.sectors);
+
+    const DiskNode *node = findPhysicalDisk(PhysicalDriveBase + g_nCurrentDiskIndex);
+    const LifeTexts life = lifeTexts(lifeKindOf(node), storedLifeFigures(), separator);
+    DiskLifeValue->setText(life.life);
+    PowerOnTimeValue->setText(life.powerOn);
+    StartStopValue->setText(life.startStop);
+
+    const bool failed = g_driveVerdict == DriveVerdict::Failed;
+    DriveVerdictValue->setText(failed                                   ? tr("Failed: back up your data")
+                               : g_driveVerdict == DriveVerdict::Passed ? tr("Passed")
+                                                                        : tr("Not told"));
+    DriveVerdictValue->setStyleSheet(failed ? style::FailedLabel : style::GreyLabel);
 }
 
 void DiskStatus::showModelAndSerial(const QString &model, const QString &serial)
@@ -258,7 +236,17 @@ void DiskStatus::showModelAndSerial(const QString &model, const QString &serial)
     SerialValLbl->setText(serial);
 }
 
-void DiskStatus::showPicture(Picture tile, TilePicture picture)
+void DiskStatus::clearDisk()
+{
+    for (const DetailRow &row : details()) {
+        row[1]->clear();
+        row[3]->clear();
+    }
+    for (const Tile tile : {Temperature, Performance, Health})
+        showPicture(tile, TilePicture::Good);
+}
+
+void DiskStatus::showPicture(Tile tile, TilePicture picture)
 {
     const struct {
         QLabel *label;
@@ -269,65 +257,25 @@ void DiskStatus::showPicture(Picture tile, TilePicture picture)
         {HelthLable,
          {"img_Health.png", "img_HealthAverage.png", "img_HealthHigh.png", "img_HealthUnknown.png"}},
     };
-    const auto &shown = tiles[static_cast<int>(tile)];
     if (picture != TilePicture::Same)
-        images::setLabelImage(shown.label, QLatin1String(shown.files[static_cast<std::size_t>(picture)]));
-}
-
-void DiskStatus::showLife(const LifeTexts &texts)
-{
-    DiskLifeValue->setText(texts.life);
-    PowerOnTimeValue->setText(texts.powerOn);
-    StartStopValue->setText(texts.startStop);
-}
-
-void DiskStatus::showVerdict(DriveVerdict verdict)
-{
-    const bool failed = verdict == DriveVerdict::Failed;
-    DriveVerdictValue->setText(failed                            ? tr("Failed: back up your data")
-                               : verdict == DriveVerdict::Passed ? tr("Passed")
-                                                                 : tr("Not told"));
-    DriveVerdictValue->setStyleSheet(failed ? style::FailedLabel : style::GreyLabel);
-}
-
-void DiskStatus::showFirstPictures()
-{
-    for (const Picture tile : {Picture::Temperature, Picture::Performance, Picture::Health})
-        showPicture(tile, TilePicture::Good);
-}
-
-void DiskStatus::clearDisk()
-{
-    const QString none;
-    showIdentity({none, none, none, none, none, none, none});
-    showLife({});
-    DriveVerdictValue->clear();
-    showFirstPictures();
-}
-
-void DiskStatus::redoDetails()
-{
-    const DiskNode *node = findPhysicalDisk(PhysicalDriveBase + g_nCurrentDiskIndex);
-    const WmicDiskRecord *record = node ? findWmicDisk(node->nId) : nullptr;
-    showIdentity(identityTextsAfterLanguageChange(node, record, g_nCurrentDiskIndex));
-    const LifeKind kind =
-        lifeKind(g_App.m_bNVMe, node && node->nKind == RemovableDisk, !g_smartTable.rows.isEmpty());
-    showLife(lifeTexts(kind, g_lifeFigures, RetranslateSeparator));
-    showVerdict(g_driveVerdict);
+        images::setLabelImage(tiles[tile].label,
+                              QLatin1String(tiles[tile].files[static_cast<std::size_t>(picture)]));
 }
 
 void DiskStatus::retranslate()
 {
     retranslateUi(this);
-    setStaticTexts();
+    setTileTitles();
     ApplyLanguageMetrics();
-    if (!g_bReportPending) {
-        if (!g_bSmartAvailable) {
-            for (QLabel *value : {tempValueLbl, performanceValueLbl})
-                value->setText(tr("Not Supported"));
-        }
-        if (!g_bSmartAvailable || !g_bHealthKnown)
-            healthValueLbl->setText(tr("Not Supported"));
-        redoDetails();
+    if (g_bReportPending)
+        return;
+    if (!g_bSmartAvailable) {
+        showTile(Temperature, tr("Not Supported"), TilePicture::Same);
+        showTile(Performance, tr("Not Supported"), TilePicture::Same);
     }
+    if (!g_bSmartAvailable || !g_bHealthKnown)
+        showTile(Health, tr("Not Supported"), TilePicture::Same);
+    const DiskNode *node = findPhysicalDisk(PhysicalDriveBase + g_nCurrentDiskIndex);
+    const WmicDiskRecord *record = node ? findWmicDisk(node->nId) : nullptr;
+    showDetails(identityTextsAfterLanguageChange(node, record, g_nCurrentDiskIndex), RetranslateSeparator);
 }

@@ -1,47 +1,54 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "state/DiskIdentityTexts.h"
 #include "ui/screens/Page.h"
 
 #include "ui_DiskStatus.h"
 
+#include <array>
+
 class QGridLayout;
-enum class DriveVerdict;
+enum class LifeKind;
 enum class TilePicture;
-struct LifeTexts;
+struct DiskIdentityTexts;
+struct DiskNode;
 
 /// The first screen: three tiles with temperature, performance and health of the selected disk and a block of
-/// details. Holds labels only; the main window fills them.
+/// details.
 class DiskStatus : public Page, private Ui::m_pDiskStatus
 {
     Q_OBJECT
 
 public:
     explicit DiskStatus(QWidget *parent = nullptr);
-    ~DiskStatus() override;
 
-    /// Sets the fixed sizes that depend on the language.
-    void ApplyLanguageMetrics();
+    enum Tile { Temperature, Performance, Health };
+    /// Shows the value of a tile and its picture.
+    void showTile(Tile tile, const QString &value, TilePicture picture);
 
-    /// Shows the identity fields; a field without a value stays.
-    void showIdentity(const DiskIdentityTexts &texts);
-
+    /// Which life figures a disk has: null as a fixed disk.
+    static LifeKind lifeKindOf(const DiskNode *node);
+    /// Shows the details of the selected disk: its identity, where a field without a value stays, its life
+    /// with `separator` between days and hours, and its verdict, a failure in red.
+    void showDetails(const DiskIdentityTexts &identity, const QString &separator);
     /// Shows how the disk of a self-test calls itself.
     void showModelAndSerial(const QString &model, const QString &serial);
-
-    enum class Picture { Temperature, Performance, Health };
-    /// Shows the picture of a tile.
-    void showPicture(Picture tile, TilePicture picture);
-
-    /// Shows the three life fields.
-    void showLife(const LifeTexts &texts);
-
-    /// Shows what the drive says of itself, a failure in red.
-    void showVerdict(DriveVerdict verdict);
-
     /// Shows no details, and the tiles' first pictures.
     void clearDisk();
+
+protected:
+    void retranslate() override;
+
+private:
+    void showPicture(Tile tile, TilePicture picture);
+    using DetailRow = std::array<QLabel *, 4>; ///< name, value, name, value
+    std::array<DetailRow, 5> details() const;
+    void ApplyLanguageMetrics();
+    void styleTexts();
+    void layOutTiles();
+    void layOutPage();
+    QGridLayout *makeDetailsGrid();
+    void setTileTitles();
 
     QLabel *healthTitleLbl;
     QLabel *healthValueLbl;
@@ -49,18 +56,4 @@ public:
     QLabel *performanceValueLbl;
     QLabel *tempValueLbl;
     QLabel *tempTitleLbl;
-
-protected:
-    void retranslate() override;
-
-private:
-    QLabel *makeTileLabel(QLabel *tile, const QString &name);
-    QLabel *makeTileValue(QLabel *tile, const QString &name);
-    void styleTexts();
-    void layOutTiles();
-    void layOutPage();
-    QGridLayout *makeDetailsGrid();
-    void setStaticTexts();
-    void showFirstPictures();
-    void redoDetails();
 };

@@ -4,8 +4,8 @@
 #include <QEvent>
 #include <QWidget>
 
-/// A widget of the main window that writes its texts anew when the language changes. Its form is its own
-/// affair: others use its methods.
+/// A widget that writes its texts anew when the language changes. Its form is private: others use its
+/// methods.
 class Page : public QWidget
 {
 public:

@@ -19,6 +19,8 @@ namespace
 constexpr int PageWidth = 764;
 constexpr int PageHeight = 452;
 
+} // namespace
+
 void styleLabels(std::initializer_list<QLabel *> labels, const QFont &font, const QString &sheet)
 {
     for (QLabel *label : labels) {
@@ -26,8 +28,6 @@ void styleLabels(std::initializer_list<QLabel *> labels, const QFont &font, cons
         label->setStyleSheet(sheet);
     }
 }
-
-} // namespace
 
 void makePage(QWidget *page)
 {
@@ -49,10 +49,8 @@ void styleNames(std::initializer_list<QLabel *> labels)
 void styleValues(std::initializer_list<QLabel *> labels)
 {
     styleLabels(labels, style::font(10), style::GreyLabel);
-    for (QLabel *label : labels) {
-        // Set by hand it takes the place of the text's own width.
-        label->setMinimumWidth(1);
-    }
+    for (QLabel *label : labels)
+        label->setMinimumWidth(1); // set by hand it takes the place of the text's own width
 }
 
 void alignNames(std::initializer_list<QLabel *> labels)

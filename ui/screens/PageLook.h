@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QString>
+#include <QLatin1String>
 
 #include <initializer_list>
 
+class QFont;
 class QFrame;
 class QLabel;
 class QWidget;
@@ -18,6 +19,15 @@ namespace pagelook
 /// Call right after setupUi().
 void makePage(QWidget *page);
 
+/// Gives a new widget or layout its object name.
+template<typename Object>
+Object *named(Object *object, const char *name)
+{
+    object->setObjectName(QLatin1String(name));
+    return object;
+}
+
+void styleLabels(std::initializer_list<QLabel *> labels, const QFont &font, const QString &sheet);
 void styleHeadings(std::initializer_list<QLabel *> labels); ///< 13 point, black
 void styleNames(std::initializer_list<QLabel *> labels);    ///< semibold 10 point, grey
 /// 10 point, grey; plain text that can be wider than its room without pushing its neighbours away.

@@ -6,7 +6,6 @@
 #include "state/JobState.h"
 #include "ui/dialogs/MessageDialog.h"
 #include "ui/screens/PageLook.h"
-#include "ui/screens/SelfTestPanel.h"
 #include "ui/widgets/Images.h"
 #include "ui/widgets/QGridView.h"
 #include "ui/widgets/Style.h"
@@ -44,19 +43,16 @@ ScanDisk::ScanDisk(QWidget *parent) : Page(parent)
     auto *testColumn = new QVBoxLayout(frame_3);
     testColumn->setContentsMargins(0, 0, 0, 0);
     testColumn->addWidget(m_pSelfTestPanel);
-    m_pGridView = new QGridView(frame);
-    m_pGridView->setObjectName(QStringLiteral("m_pGridView"));
+    m_pGridView = pagelook::named(new QGridView(frame), "m_pGridView");
     m_pGridView->setGeometry(QRect(QPoint(0, 0), frame->minimumSize()));
     // A child of the window: the page's style sheets must not reach it.
-    m_pResultBox = new InfoDialogClass(window());
-    m_pResultBox->setObjectName(QStringLiteral("m_pResultBox"));
+    m_pResultBox = pagelook::named(new InfoDialogClass(window()), "m_pResultBox");
     connect(m_pResultBox, &MessageDialog::dismissed, this, &ScanDisk::OnResultRead);
     connect(m_pResultBox, &QDialog::rejected, this, &ScanDisk::OnResultRead);
     connectThread();
     styleChooser();
     styleCounters();
     showCounts();
-    setFixedTexts();
     setTimeCaptions();
     FillDisk(nullptr);
     ShowChooser();
@@ -92,8 +88,7 @@ void ScanDisk::styleChooser()
         {ChoiceCard3, radioButton_3, label_3},
     };
     for (const auto &choice : choices) {
-        choice.text->setFont(style::font(10));
-        choice.text->setStyleSheet(style::BlackLabel);
+        pagelook::styleLabels({choice.text}, style::font(10), style::BlackLabel);
         choice.radio->setFont(strongFont());
         tests->addButton(choice.radio);
         QFrame *card = choice.card;
@@ -106,43 +101,15 @@ void ScanDisk::styleChooser()
 void ScanDisk::styleCounters()
 {
     pagelook::styleValues({DiskSizeValLbl, TotalBlkValLbl, BlockSizeValLbl, ElapsedValLbl, RemTimeValLbl});
-    for (QLabel *plain : {ProcessesLbl, BadBlkLbl, ProcessNameLbl}) {
-        plain->setFont(style::font(10));
-        plain->setStyleSheet(style::GreyLabel);
-    }
-    for (QLabel *strong :
-         {DiskSizeLbl, TotalBlkLbl, BlockSizeLbl, TimeElapsedLbl, TimeReLbl, ProcessedVal, BadBlkValLbl}) {
-        strong->setFont(strongFont());
-        strong->setStyleSheet(style::GreyLabel);
-    }
-    ScanDiskLbl->setFont(style::font(13));
-    ScanDiskLbl->setStyleSheet(style::GreyLabel);
+    pagelook::styleLabels({ProcessesLbl, BadBlkLbl, ProcessNameLbl}, style::font(10), style::GreyLabel);
+    pagelook::styleLabels(
+        {DiskSizeLbl, TotalBlkLbl, BlockSizeLbl, TimeElapsedLbl, TimeReLbl, ProcessedVal, BadBlkValLbl},
+        strongFont(), style::GreyLabel);
+    pagelook::styleLabels({ScanDiskLbl}, style::font(13), style::GreyLabel);
     images::setLabelImage(BlueClrLbl, QStringLiteral("img_BlueLegend.png"));
     images::setLabelImage(RedClrLBl, QStringLiteral("img_RedLegend.png"));
     images::setLabelImage(ProcesClrLl, QStringLiteral("img_GrayLegend.png"));
     pagelook::styleCard(frame_4);
-}
-
-void ScanDisk::setFixedTexts()
-{
-    ScanDiskLbl->setText(tr("Scan Disk"));
-    TestHeadingLabel->setText(tr("Scan Disk"));
-    DiskSizeLbl->setText(tr("Disk Size"));
-    TotalBlkLbl->setText(tr("Total Sectors"));
-    BlockSizeLbl->setText(tr("Block Size"));
-    ProcessesLbl->setText(tr("  Processed"));
-    BadBlkLbl->setText(tr("  Bad Sectors"));
-    ProcessNameLbl->setText(tr("  Processing"));
-    radioButton->setText(tr("Scan Disk"));
-    radioButton_2->setText(tr("Short Self-test"));
-    radioButton_3->setText(tr("Extended Self-test"));
-    label->setText(
-        tr("Perform a surface scan on the selected disk to identify if the disk has bad sectors."));
-    label_2->setText(tr("Run this test to check the electrical and mechanical performance of a device along "
-                        "with the read/write operations on a portion of the disk. This test may take few "
-                        "minutes to complete."));
-    label_3->setText(tr("This test is same as a short self-test with a complete disk surface examination. "
-                        "This test may take up to few hours to complete."));
 }
 
 void ScanDisk::setTimeCaptions()
@@ -170,40 +137,53 @@ void ScanDisk::clearCounts()
     showCounts();
 }
 
-void ScanDisk::hideParts()
+std::optional<SelfTestKind> ScanDisk::ChosenTest() const
 {
-    for (QWidget *part : std::initializer_list<QWidget *>{
-             ScanDiskLbl, TestHeadingLabel, frame, frame_3, frame_4, BlueClrLbl, ProcessesLbl, ProcessedVal,
-             RedClrLBl, BadBlkLbl, BadBlkValLbl, ProcesClrLl, ProcessNameLbl})
-        part->hide();
+    return radioButton_2->isChecked()   ? std::optional(SelfTestKind::Short)
+           : radioButton_3->isChecked() ? std::optional(SelfTestKind::Extended)
+                                        : std::nullopt;
+}
+
+/// Shows one of the three parts: the choice of a test, the counters, or the panel of a self-test.
+void ScanDisk::showPart(const QFrame *part)
+{
+    for (QWidget *other : std::initializer_list<QWidget *>{TestHeadingLabel, frame, frame_4})
+        other->hide();
+    for (QWidget *counter :
+         std::initializer_list<QWidget *>{ScanDiskLbl, BlueClrLbl, ProcessesLbl, ProcessedVal, RedClrLBl,
+                                          BadBlkLbl, BadBlkValLbl, ProcesClrLl, ProcessNameLbl})
+        counter->setVisible(part == frame_4);
+    frame_2->setVisible(part == frame_2);
+    frame_3->setVisible(part == frame_3);
 }
 
 void ScanDisk::ShowChooser()
 {
-    hideParts();
     frame_2->setWindowModality(Qt::WindowModal);
     frame_2->raise();
-    frame_2->show();
+    showPart(frame_2);
     radioButton->setChecked(true);
 }
 
 void ScanDisk::ShowCounters()
 {
-    hideParts();
-    frame_2->hide();
-    for (QWidget *part :
-         std::initializer_list<QWidget *>{ScanDiskLbl, BlueClrLbl, ProcessesLbl, ProcessedVal, RedClrLBl,
-                                          BadBlkLbl, BadBlkValLbl, ProcesClrLl, ProcessNameLbl})
-        part->show();
+    showPart(frame_4);
 }
 
-void ScanDisk::ShowSelfTest()
+void ScanDisk::ShowSelfTest(const SelfTestPanel::Shown &shown)
 {
-    hideParts();
-    frame_2->hide();
-    m_pSelfTestPanel->ShowProgress(true);
-    m_pSelfTestPanel->ShowTimes(true);
-    frame_3->show();
+    TellSelfTest(shown);
+    showPart(frame_3);
+}
+
+void ScanDisk::TellSelfTest(const SelfTestPanel::Shown &shown)
+{
+    m_pSelfTestPanel->Show(shown);
+}
+
+bool ScanDisk::IsSelfTestShown() const
+{
+    return m_pSelfTestPanel->isVisible();
 }
 
 void ScanDisk::FillDisk(const DiskNode *pNode)
@@ -286,8 +266,6 @@ void ScanDisk::CentreResult()
     style::centreOn(m_pResultBox, window()->geometry());
 }
 
-void ScanDisk::onWrtiteText(qlonglong) {}
-
 // A signal that is still on its way from a scan that was given up is not about the disk on show.
 void ScanDisk::ScanMaxProgressForDisk()
 {
@@ -305,10 +283,6 @@ void ScanDisk::ScanProgValForDisk(qlonglong value)
     m_pGridView->update();
 }
 
-void ScanDisk::BadSectorProgressDisk(uint) {}
-
-void ScanDisk::OnBadBlockCount(qlonglong) {}
-
 void ScanDisk::OnTotalBlockCount(qlonglong position, qlonglong, qlonglong step)
 {
     if (m_bDropped)
@@ -323,7 +297,7 @@ void ScanDisk::OnExactBadSectorCount(qlonglong count)
     if (m_bDropped)
         return;
     m_i64BadSectors = count;
-    BadBlkValLbl->setText(QString::number(count));
+    showCounts();
 }
 
 void ScanDisk::OnAllBlockProcessed(qlonglong i64ProcessedBlocks)
@@ -384,7 +358,6 @@ void ScanDisk::showResult(const QString &verdict)
 void ScanDisk::retranslate()
 {
     retranslateUi(this);
-    setFixedTexts();
     // A finished scan leaves the times empty, captions included.
     if (g_bJobRunning)
         setTimeCaptions();

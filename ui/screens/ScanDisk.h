@@ -4,7 +4,7 @@
 #include "scan/QScanDriveThread.h"
 #include "scan/ScanClock.h"
 #include "state/DiskRecords.h"
-#include "ui/screens/Page.h"
+#include "ui/screens/SelfTestPanel.h"
 
 #include "ui_ScanDisk.h"
 
@@ -13,7 +13,6 @@
 class InfoDialogClass;
 class QGridView;
 class QTimer;
-class SelfTestPanel;
 
 /// The Scan Disk screen: the choice among a surface scan and the two drive self-tests, and the surface scan
 /// itself with its counters, its map and its result. Main thread only.
@@ -26,10 +25,15 @@ public:
 
     /// Shows the choice of the test with the surface scan preselected; counters, legend and map are hidden.
     void ShowChooser();
+    /// The self-test that is chosen; none where it is the surface scan.
+    std::optional<SelfTestKind> ChosenTest() const;
     /// Shows the counters and the legend of a surface scan in place of the choice.
     void ShowCounters();
-    /// Shows the panel of a self-test, with its progress and its times, and nothing of the others.
-    void ShowSelfTest();
+    /// Shows the panel of a self-test in place of the choice.
+    void ShowSelfTest(const SelfTestPanel::Shown &shown);
+    /// Changes what the panel of a self-test shows, wherever the page stands.
+    void TellSelfTest(const SelfTestPanel::Shown &shown);
+    bool IsSelfTestShown() const;
     /// Shows the size and the sectors of a disk; nothing and "0" where it is null.
     void FillDisk(const DiskNode *pNode);
     /// Makes the map an empty one of a disk with so many sectors.
@@ -49,16 +53,6 @@ public:
     /// Takes the box away unread.
     void HideResult();
 
-    /// \name The choice of a test
-    /// @{
-    using Ui::m_pScanDiskwgt::radioButton;   ///< surface scan
-    using Ui::m_pScanDiskwgt::radioButton_2; ///< short self-test
-    using Ui::m_pScanDiskwgt::radioButton_3; ///< extended self-test
-    /// @}
-
-    SelfTestPanel *m_pSelfTestPanel = nullptr; ///< in frame_3
-    QGridView *m_pGridView = nullptr;          ///< in frame
-
 signals:
     /// The result of a scan shows.
     void OnScanFinished();
@@ -66,11 +60,11 @@ signals:
     void OnResultRead();
 
 public slots:
-    void onWrtiteText(qlonglong value);
+    void onWrtiteText(qlonglong) {}
     void ScanMaxProgressForDisk();
     void ScanProgValForDisk(qlonglong value);
-    void BadSectorProgressDisk(uint value);
-    void OnBadBlockCount(qlonglong count);
+    void BadSectorProgressDisk(uint) {}
+    void OnBadBlockCount(qlonglong) {}
     void OnTotalBlockCount(qlonglong position, qlonglong total, qlonglong step);
     void OnScanFinish(QString verdict);
     void OnExactBadSectorCount(qlonglong count);
@@ -82,18 +76,18 @@ protected:
     void retranslate() override;
 
 private:
-    void hideParts();
+    void showPart(const QFrame *part);
     void styleChooser();
     void styleCounters();
-    void setFixedTexts();
     void setTimeCaptions();
     void connectThread();
     void clearTimes();
     void showCounts();
+    void clearCounts();
     void showResult(const QString &verdict);
 
-    void clearCounts();
-
+    SelfTestPanel *m_pSelfTestPanel = nullptr; ///< in frame_3
+    QGridView *m_pGridView = nullptr;          ///< in frame
     InfoDialogClass *m_pResultBox = nullptr;
     QTimer *m_pUpdateTimer = nullptr; ///< of the latest scan
     ScanClock m_clock;

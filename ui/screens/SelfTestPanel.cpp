@@ -52,81 +52,38 @@ SelfTestPanel::SelfTestPanel(QWidget *parent) : Page(parent)
         QStringLiteral("QProgressBar{background: #e9eef3; border: none; border-radius: %1px;}"
                        "QProgressBar::chunk{background: #2a81e5; border-radius: %1px;}")
             .arg(style::px(4)));
-    SetProgress(0);
-    showTexts();
+    Show({});
 }
 
-void SelfTestPanel::showTexts()
+void SelfTestPanel::Show(const Shown &shown)
 {
+    m_shown = shown;
     // The names of the two cards share a column.
     pagelook::alignNames({TestModelLbl, TestSerialLbl, TestStatusLbl});
-    TestNameLbl->setText(nameOf(m_kind));
-    TestBarLbl->setText(nameOf(m_kind));
-    TestStatusValLbl->setStyleSheet(sheetOf(m_status.value_or(selftest::Told::InProgress)));
-    TestStatusValLbl->setText(
-        m_status ? QCoreApplication::translate("MainWindow", selftest::shownWords(*m_status)) : QString());
-    TestStatusLbl->setVisible(m_status.has_value());
-    PollingTimeValLbl->setText(minutesText(m_pollingMinutes));
-    TestRemainingValLbl->setText(minutesText(m_remainingMinutes));
-}
-
-void SelfTestPanel::SetTestName(std::optional<SelfTestKind> kind)
-{
-    m_kind = kind;
-    showTexts();
-}
-
-void SelfTestPanel::SetDisk(const QString &model, const QString &serial)
-{
-    TestModelValLbl->setText(model);
-    TestSerialValLbl->setText(serial);
-}
-
-void SelfTestPanel::ShowProgress(bool shown)
-{
-    TestProgressBar->setVisible(shown);
-    TestPercentValLbl->setVisible(shown);
-}
-
-void SelfTestPanel::ShowTimes(bool shown)
-{
+    TestModelValLbl->setText(shown.model);
+    TestSerialValLbl->setText(shown.serial);
+    for (QLabel *name : {TestNameLbl, TestBarLbl})
+        name->setText(nameOf(shown.kind));
+    if (shown.percent >= 0 && shown.percent <= 100) {
+        TestProgressBar->setValue(shown.percent);
+        TestPercentValLbl->setText(QString::number(shown.percent) + QLatin1Char('%'));
+    }
+    TestProgressBar->setVisible(shown.progress);
+    TestPercentValLbl->setVisible(shown.progress);
     for (QFrame *card : {PollingCard, RemainingCard, ElapsedCard})
-        card->setVisible(shown);
-}
-
-void SelfTestPanel::SetProgress(int percent)
-{
-    if (percent < 0 || percent > 100)
-        return;
-    TestProgressBar->setValue(percent);
-    TestPercentValLbl->setText(QString::number(percent) + QLatin1Char('%'));
-}
-
-void SelfTestPanel::SetStatus(std::optional<selftest::Told> status)
-{
-    m_status = status;
-    showTexts();
-}
-
-void SelfTestPanel::SetPollingMinutes(std::optional<int> minutes)
-{
-    m_pollingMinutes = minutes;
-    showTexts();
-}
-
-void SelfTestPanel::SetRemainingMinutes(std::optional<int> minutes)
-{
-    m_remainingMinutes = minutes;
-    showTexts();
-}
-
-void SelfTestPanel::SetElapsed(const QString &text)
-{
-    TestElapsedValLbl->setText(text);
+        card->setVisible(shown.times);
+    TestStatusValLbl->setStyleSheet(sheetOf(shown.status.value_or(selftest::Told::InProgress)));
+    TestStatusValLbl->setText(
+        shown.status ? QCoreApplication::translate("MainWindow", selftest::shownWords(*shown.status))
+                     : QString());
+    TestStatusLbl->setVisible(shown.status.has_value());
+    PollingTimeValLbl->setText(minutesText(shown.pollingMinutes));
+    TestRemainingValLbl->setText(minutesText(shown.remainingMinutes));
+    TestElapsedValLbl->setText(shown.elapsed);
 }
 
 void SelfTestPanel::retranslate()
 {
     retranslateUi(this);
-    showTexts();
+    Show(m_shown);
 }

@@ -16,28 +16,27 @@ class SelfTestPanel : public Page, private Ui::SelfTestPanelForm
     Q_OBJECT
 
 public:
+    struct Shown {
+        std::optional<SelfTestKind> kind;
+        QString model;
+        QString serial;
+        int percent = 0;
+        bool progress = true; ///< the progress bar and the percentage beside it
+        bool times = true;    ///< the cards of the three times
+        std::optional<selftest::Told> status;
+        std::optional<int> pollingMinutes;
+        std::optional<int> remainingMinutes;
+        QString elapsed;
+    };
+
     explicit SelfTestPanel(QWidget *parent = nullptr);
 
-    void SetTestName(std::optional<SelfTestKind> kind); ///< empty without a kind
-    void SetDisk(const QString &model, const QString &serial);
-    /// The progress bar and the percentage beside it.
-    void ShowProgress(bool shown);
-    void ShowTimes(bool shown);
-    /// Percent, 0 to 100; any other number is not shown.
-    void SetProgress(int percent);
-    void SetStatus(std::optional<selftest::Told> status); ///< empty without one
-    void SetPollingMinutes(std::optional<int> minutes);
-    void SetRemainingMinutes(std::optional<int> minutes);
-    void SetElapsed(const QString &text);
+    /// A percentage below 0 or above 100 leaves the one before.
+    void Show(const Shown &shown);
 
 protected:
     void retranslate() override;
 
 private:
-    void showTexts();
-
-    std::optional<SelfTestKind> m_kind;
-    std::optional<int> m_pollingMinutes;
-    std::optional<int> m_remainingMinutes;
-    std::optional<selftest::Told> m_status;
+    Shown m_shown;
 };

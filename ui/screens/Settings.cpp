@@ -6,13 +6,13 @@
 #include "state/SettingsStore.h"
 #include "ui/dialogs/QCheckUpdate.h"
 #include "ui/dialogs/SmallMessageDlg.h"
+#include "ui/screens/PageLook.h"
 #include "ui/widgets/Images.h"
 #include "ui/widgets/Style.h"
 #include "update/HelpLinks.h"
 
 #include <QAction>
 #include <QCoreApplication>
-#include <QEvent>
 #include <QFileDialog>
 #include <QMenu>
 
@@ -35,7 +35,7 @@ void styleTitleButton(QPushButton *button, const QString &file)
 
 } // namespace
 
-Settings::Settings() : m_Frame(this), m_pLanguageMenu(new QMenu(this))
+Settings::Settings() : Page(nullptr), m_Frame(this), m_pLanguageMenu(new QMenu(this))
 {
     setupUi(this);
     addHeaderButtons();
@@ -43,7 +43,7 @@ Settings::Settings() : m_Frame(this), m_pLanguageMenu(new QMenu(this))
     m_Frame.dress(HeaderLabel, CloseButton, OkButton);
     styleFields();
     BuildLanguageMenu();
-    translateTexts();
+    retranslate();
     connectFields();
     m_Frame.fit();
 }
@@ -51,15 +51,16 @@ Settings::Settings() : m_Frame(this), m_pLanguageMenu(new QMenu(this))
 void Settings::addHeaderButtons()
 {
     int place = titleLayout->indexOf(CloseButton);
-    for (QPushButton **button : {&m_pUpdateButton, &m_pHelpButton, &m_pLanguageButton}) {
-        *button = new QPushButton(this);
-        (*button)->setMinimumSize(CloseButton->minimumSize());
-        (*button)->setMaximumSize(CloseButton->maximumSize());
-        titleLayout->insertWidget(place++, *button);
-    }
-    m_pUpdateButton->setObjectName(QStringLiteral("m_pUpdateButton"));
-    m_pHelpButton->setObjectName(QStringLiteral("m_pHelpButton"));
-    m_pLanguageButton->setObjectName(QStringLiteral("m_pLanguageButton"));
+    const auto add = [this, &place](const char *name) {
+        auto *button = pagelook::named(new QPushButton(this), name);
+        button->setMinimumSize(CloseButton->minimumSize());
+        button->setMaximumSize(CloseButton->maximumSize());
+        titleLayout->insertWidget(place++, button);
+        return button;
+    };
+    m_pUpdateButton = add("m_pUpdateButton");
+    m_pHelpButton = add("m_pHelpButton");
+    m_pLanguageButton = add("m_pLanguageButton");
 }
 
 void Settings::fillFields()
@@ -158,7 +159,7 @@ void Settings::changeLanguage(LanguageType type)
     checkCurrentLanguage();
 }
 
-void Settings::translateTexts()
+void Settings::retranslate()
 {
     retranslateUi(this);
     m_pUpdateButton->setToolTip(tr("Check for Updates"));
@@ -212,8 +213,7 @@ void Settings::ApplyFirstRunDefaults()
         return;
     StartupChkBox->setChecked(false);
     LogChkBox->setChecked(true);
-    PathlineEdit->setEnabled(true);
-    BrowsButton_2->setEnabled(true);
+    OnLogEventStateChanged(Qt::Checked);
     SizeLimitChkBox->setChecked(true);
     LogLImitSpinBox->setEnabled(true);
     LogLImitSpinBox->setValue(key::MaxLogSize.first);
@@ -237,25 +237,10 @@ void Settings::SaveToStore()
                    PathlineEdit->text());
 }
 
-void Settings::CloseWindow()
-{
-    hide();
-}
-
 void Settings::OnLogEventStateChanged(int state)
 {
     PathlineEdit->setEnabled(state == Qt::Checked);
     BrowsButton_2->setEnabled(state == Qt::Checked);
-}
-
-void Settings::SizeLimittStateChanged(int state)
-{
-    LogLImitSpinBox->setEnabled(state == Qt::Checked);
-}
-
-void Settings::WarningTempStateChanged(int state)
-{
-    setAlarmEnabled(state == Qt::Checked);
 }
 
 void Settings::OnSelectLogPath()
@@ -278,9 +263,8 @@ void Settings::ChangeWarningTemperature()
     setThresholds(limits.warning, limits.shutDown);
     WarningSpinBox->setMinimum(limits.lowestWarning);
     ShutDownSpinBox->setMinimum(limits.lowestShutDown);
-    const QString suffix = QStringLiteral(" °") + settings::unitText(unit);
-    WarningSpinBox->setSuffix(suffix);
-    ShutDownSpinBox->setSuffix(suffix);
+    for (QSpinBox *threshold : {WarningSpinBox, ShutDownSpinBox})
+        threshold->setSuffix(QStringLiteral(" °") + settings::unitText(unit));
 }
 
 void Settings::OnOpenSettingsHelp()
@@ -296,19 +280,7 @@ void Settings::OnCheckUpdate()
     }
 }
 
-void Settings::CheckUpdate()
-{
-    OnCheckUpdate();
-}
-
 void Settings::OnNoUpdateAvailable()
 {
     ShowUpdateMessage(tr("Your Software has all latest updates installed."), 1);
-}
-
-void Settings::changeEvent(QEvent *event)
-{
-    if (event->type() == QEvent::LanguageChange)
-        translateTexts();
-    QWidget::changeEvent(event);
 }

@@ -4,8 +4,7 @@
 #include "state/Languages.h"
 #include "state/SettingsRules.h"
 #include "ui/dialogs/DialogFrame.h"
-
-#include <QWidget>
+#include "ui/screens/Page.h"
 
 #include <array>
 
@@ -17,7 +16,7 @@ class QMenu;
 /// The settings window: temperature unit and alarm, log path, tray, language. A top-level window without a
 /// parent, made once and shown on demand; the main window stays live beside it. Nothing is stored before
 /// SaveToStore().
-class Settings : public QWidget, private Ui::m_pSettingswgt
+class Settings : public Page, private Ui::m_pSettingswgt
 {
     Q_OBJECT
 
@@ -34,12 +33,6 @@ public:
     /// Stores units, alarm, thresholds (as shown, in the shown unit) and log path.
     void SaveToStore();
 
-    /// By LanguageType. All eleven are there, also those that the menu leaves out.
-    std::array<QAction *, LanguageCount> m_apLanguageActions{};
-    QPushButton *m_pUpdateButton = nullptr;
-    QPushButton *m_pHelpButton = nullptr;
-    QPushButton *m_pLanguageButton = nullptr;
-
     /// Whether the status is to show in the tray.
     bool WantsTray() const { return TrayChkBox->isChecked(); }
 
@@ -48,17 +41,17 @@ signals:
     void left();
 
 public slots:
-    void CloseWindow();
+    void CloseWindow() { hide(); }
     void OnLogEventStateChanged(int state);
-    void SizeLimittStateChanged(int state);
-    void WarningTempStateChanged(int state);
+    void SizeLimittStateChanged(int state) { LogLImitSpinBox->setEnabled(state == Qt::Checked); }
+    void WarningTempStateChanged(int state) { setAlarmEnabled(state == Qt::Checked); }
     void OnSelectLogPath();
     /// Adapts the two thresholds and their lowest values to the unit chosen.
     void ChangeWarningTemperature();
     void OnCheckUpdate();
     /// Opens the help on the settings.
     void OnOpenSettingsHelp();
-    void CheckUpdate();
+    void CheckUpdate() { OnCheckUpdate(); }
     void OnNoUpdateAvailable();
     /// \name One door for each language, in the order of LanguageType
     /// @{
@@ -76,7 +69,7 @@ public slots:
     /// @}
 
 protected:
-    void changeEvent(QEvent *event) override;
+    void retranslate() override;
 
 private:
     void addHeaderButtons();
@@ -88,11 +81,15 @@ private:
     void styleFields();
     void connectFields();
     void showValues(const settings::Values &values);
-    void translateTexts();
     void widenUnitCombo();
     void setAlarmEnabled(bool enabled);
     void setThresholds(int warning, int shutDown);
 
+    /// By LanguageType. All eleven are there, also those that the menu leaves out.
+    std::array<QAction *, LanguageCount> m_apLanguageActions{};
+    QPushButton *m_pUpdateButton = nullptr;
+    QPushButton *m_pHelpButton = nullptr;
+    QPushButton *m_pLanguageButton = nullptr;
     DialogFrame m_Frame;
     QMenu *m_pLanguageMenu;
 };

@@ -13,6 +13,7 @@
 #include "ui/widgets/SmartChartView.h"
 #include "ui/widgets/Style.h"
 
+#include <QCoreApplication>
 #include <QHeaderView>
 #include <QStyledItemDelegate>
 #include <QTreeWidget>
@@ -66,25 +67,18 @@ SmartStatus::SmartStatus(QWidget *parent) : Page(parent)
     pagelook::makePage(this);
     pagelook::styleHeadings({TreeStringLbl, GraphLabel});
     SmartResultLabel->setFont(style::font(13));
-    for (QLabel *name : {SerialNumberLbl, InterfaceLbl, CapacityLbl}) {
-        name->setFont(style::semiBold(10));
-        name->setStyleSheet(BlueGreyLabel);
-    }
-    for (QLabel *value : {SerialNunValueLbl, InterfaceValLbl, CapcityValLbl}) {
-        value->setFont(style::font(10));
-        value->setStyleSheet(BlueGreyLabel);
-    }
+    pagelook::styleLabels({SerialNumberLbl, InterfaceLbl, CapacityLbl}, style::semiBold(10), BlueGreyLabel);
+    pagelook::styleLabels({SerialNunValueLbl, InterfaceValLbl, CapcityValLbl}, style::font(10),
+                          BlueGreyLabel);
     makeTree();
     makeHeading();
     layOutPage();
-    setFixedTexts();
     FormatSmartTable();
 }
 
 void SmartStatus::makeTree()
 {
-    m_pAttributeTree = new QTreeWidget(DitaledFrame);
-    m_pAttributeTree->setObjectName(QStringLiteral("m_pAttributeTree"));
+    m_pAttributeTree = pagelook::named(new QTreeWidget(DitaledFrame), "m_pAttributeTree");
     m_pAttributeTree->setAlternatingRowColors(true);
     m_pAttributeTree->setRootIsDecorated(false);
     m_pAttributeTree->setFixedHeight(style::px(126));
@@ -96,6 +90,7 @@ void SmartStatus::makeTree()
     m_pAttributeTree->setItemDelegate(new CellDelegate(m_pAttributeTree));
     m_pAttributeTree->setColumnCount(attributecolumns::Count);
     m_pAttributeTree->setStyleSheet(QStringLiteral(".QTreeWidget{ border: 1px solid #e0d0e0;}"));
+    connect(m_pAttributeTree, &QTreeWidget::itemClicked, this, &SmartStatus::rowClicked);
 
     QPalette palette = m_pAttributeTree->palette();
     palette.setColor(QPalette::Base, Qt::white);
@@ -107,12 +102,13 @@ void SmartStatus::makeTree()
 
 void SmartStatus::makeHeading()
 {
-    m_pHeadingLabel = new QLabel(ImageLabel);
-    m_pHeadingLabel->setObjectName(QStringLiteral("m_pHeadingLabel"));
+    const QString white = QStringLiteral("QLabel {color : white;}");
+    m_pHeadingLabel = pagelook::named(new QLabel(tr("Smart Status"), ImageLabel), "m_pHeadingLabel");
     m_pHeadingLabel->setFixedHeight(style::px(20));
-    m_pHeadingResultLabel = new QLabel(ImageLabel);
-    m_pHeadingResultLabel->setObjectName(QStringLiteral("m_pHeadingResultLabel"));
+    m_pHeadingResultLabel = pagelook::named(new QLabel(ImageLabel), "m_pHeadingResultLabel");
     m_pHeadingResultLabel->setFixedHeight(style::px(28));
+    pagelook::styleLabels({m_pHeadingLabel}, style::semiBold(12), white);
+    pagelook::styleLabels({m_pHeadingResultLabel}, style::semiBold(13, true), white);
     HeadingGrid->addWidget(m_pHeadingLabel, 0, 0, 1, 2);
     HeadingGrid->addWidget(m_pHeadingResultLabel, 1, 0, 1, 2);
 }
@@ -126,16 +122,6 @@ void SmartStatus::layOutPage()
     AttributeColumn->insertWidget(2, newSpacer(DitaledFrame));
     m_pChartView = new SmartChartView(DitaledFrame);
     AttributeColumn->addWidget(m_pChartView);
-}
-
-void SmartStatus::setFixedTexts()
-{
-    TreeStringLbl->setText(tr("SMART Status : "));
-    SerialNumberLbl->setText(tr("Serial Number"));
-    CapacityLbl->setText(tr("Capacity"));
-    InterfaceLbl->setText(tr("Interface Type"));
-    SaveReportButton->setText(tr("Save Report"));
-    m_pHeadingLabel->setText(tr("Smart Status"));
 }
 
 void SmartStatus::FormatSmartTable()
@@ -181,7 +167,7 @@ std::vector<AttributeRow> SmartStatus::CurrentRows()
     return g_App.m_bNVMe ? nvmeRows(g_nvmeTable.rows) : ataRows(g_smartTable.rows);
 }
 
-void SmartStatus::ShowRows(const std::vector<AttributeRow> &rows)
+QTreeWidgetItem *SmartStatus::ShowRows(const std::vector<AttributeRow> &rows)
 {
     FormatSmartTable();
     m_pAttributeTree->clear();
@@ -189,6 +175,12 @@ void SmartStatus::ShowRows(const std::vector<AttributeRow> &rows)
         fillItem(new QTreeWidgetItem(m_pAttributeTree), row);
     m_pAttributeTree->scrollToTop();
     m_pAttributeTree->setCurrentItem(m_pAttributeTree->topLevelItem(0));
+    return m_pAttributeTree->topLevelItem(0);
+}
+
+void SmartStatus::ClearRows()
+{
+    m_pAttributeTree->clear();
 }
 
 void SmartStatus::ClearDisk()
@@ -200,6 +192,12 @@ void SmartStatus::ClearDisk()
         label->clear();
 }
 
+void SmartStatus::ShowGraph(const QString &title, const GraphModel &graph)
+{
+    GraphLabel->setText(title);
+    m_pChartView->ShowGraph(graph);
+}
+
 void SmartStatus::RetranslateSmartTable()
 {
     // There are no rows while a disk is being read.
@@ -207,19 +205,18 @@ void SmartStatus::RetranslateSmartTable()
         ShowRows(CurrentRows());
 }
 
-void SmartStatus::ShowResult(OverallResult result)
+void SmartStatus::ShowReading(OverallResult result)
 {
+    m_pChartView->setVisible(g_bSmartAvailable);
     pagelook::showResult(SmartResultLabel, result);
+    m_pHeadingLabel->setText(QCoreApplication::translate("MainWindow", "SMART Status"));
+    showSelectedDisk();
+    GraphLabel->clear();
 }
 
-void SmartStatus::showOverallResult()
+QString SmartStatus::InterfaceText() const
 {
-    if (g_bReportPending)
-        return;
-    const bool passed = g_bSmartAvailable && g_driveVerdict != DriveVerdict::Failed;
-    ShowResult(passed ? OverallResult::Passed : overallResult(false, GetDiskTemperature(), g_driveVerdict));
-    m_pHeadingResultLabel->setText(passed ? tr("PASSED") : tr("FAIELD"));
-    GraphLabel->setText(g_bSmartAvailable ? tr("Graph") : QString());
+    return InterfaceValLbl->text();
 }
 
 void SmartStatus::showSelectedDisk()
@@ -231,13 +228,24 @@ void SmartStatus::showSelectedDisk()
     const WmicDiskRecord *record = findWmicDisk(node->nId);
     const bool named = record && !record->szInterface.isEmpty();
     InterfaceValLbl->setText(named ? record->szInterface.text() : tr("ATA Disk"));
+    if (record)
+        SerialNunValueLbl->setText(record->szSmartSerial.text());
+    if (node->nKind == FixedDisk && !g_strSerialNumber.trimmed().isEmpty())
+        SerialNunValueLbl->setText(g_strSerialNumber.trimmed());
 }
 
 void SmartStatus::retranslate()
 {
     retranslateUi(this);
-    setFixedTexts();
-    showOverallResult();
+    m_pHeadingLabel->setText(tr("Smart Status"));
+    if (!g_bReportPending) {
+        const bool passed = g_bSmartAvailable && g_driveVerdict != DriveVerdict::Failed;
+        pagelook::showResult(SmartResultLabel,
+                             passed ? OverallResult::Passed
+                                    : overallResult(false, GetDiskTemperature(), g_driveVerdict));
+        m_pHeadingResultLabel->setText(passed ? tr("PASSED") : tr("FAIELD"));
+        GraphLabel->setText(g_bSmartAvailable ? tr("Graph") : QString());
+    }
     RetranslateSmartTable();
     showSelectedDisk();
     FormatSmartTable();

@@ -5,15 +5,18 @@
 
 #include "ui_SmartStatus.h"
 
+#include <QTreeWidgetItem>
+
 #include <vector>
 
 class QTreeWidget;
 class SmartChartView;
 enum class OverallResult;
 struct AttributeRow;
+struct GraphModel;
 
 /// The SMART Status screen: the overall result, one row per attribute of the selected disk, and the graph of
-/// one of them. The main window fills it.
+/// one of them.
 class SmartStatus : public Page, private Ui::m_pSmartWgt
 {
     Q_OBJECT
@@ -27,24 +30,23 @@ public:
 
     /// The rows of the report that was read last, of its kind.
     static std::vector<AttributeRow> CurrentRows();
-    /// Puts rows in the place of those that show, and selects the first.
-    void ShowRows(const std::vector<AttributeRow> &rows);
-    /// The overall result, and what stands above the tree and the graph.
-    void ShowResult(OverallResult result);
-    void ShowInterface(const QString &text) { InterfaceValLbl->setText(text); }
-    void ShowSerial(const QString &text) { SerialNunValueLbl->setText(text); }
-    void ShowCapacity(const QString &text) { CapcityValLbl->setText(text); }
-    void ShowGraphTitle(const QString &text) { GraphLabel->setText(text); }
+    /// Puts rows in the place of those that show. Selects and gives the first; null where there is none.
+    QTreeWidgetItem *ShowRows(const std::vector<AttributeRow> &rows);
+    void ClearRows();
+    /// Shows a graph in place of the one before.
+    void ShowGraph(const QString &title, const GraphModel &graph);
+    /// Shows what stands above rows and graph for the selected disk, whose report was read.
+    void ShowReading(OverallResult result);
+    /// What ShowReading() showed of the disk's interface.
+    QString InterfaceText() const;
 
     /// Shows nothing of any disk.
     void ClearDisk();
     /// Writes the rows anew, in the language that is loaded. Neither history nor graph change.
     void RetranslateSmartTable();
 
-    QTreeWidget *m_pAttributeTree;
-    SmartChartView *m_pChartView;
-    QLabel *m_pHeadingLabel;       ///< in ImageLabel, hidden with it
-    QLabel *m_pHeadingResultLabel; ///< in ImageLabel, hidden with it
+signals:
+    void rowClicked(QTreeWidgetItem *item, int column);
 
 protected:
     void retranslate() override;
@@ -53,7 +55,10 @@ private:
     void makeTree();
     void makeHeading();
     void layOutPage();
-    void setFixedTexts();
-    void showOverallResult();
     void showSelectedDisk();
+
+    QTreeWidget *m_pAttributeTree;
+    SmartChartView *m_pChartView;
+    QLabel *m_pHeadingLabel;       ///< in ImageLabel, hidden with it
+    QLabel *m_pHeadingResultLabel; ///< in ImageLabel, hidden with it
 };

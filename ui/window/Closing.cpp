@@ -49,8 +49,7 @@ void MainWindow::showRunningPanel(bool fromYes)
                                         tr("Please halt the scan process to exit."));
     else
         return;
-    style::centreOn(m_pDestinitionWarning, geometry());
-    m_pDestinitionWarning->show();
+    showCentred(m_pDestinitionWarning);
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)
@@ -75,39 +74,16 @@ void MainWindow::OnClose()
 
 void MainWindow::Onyes()
 {
-    if (!g_Jobs.mayQuit()) {
+    if (g_Jobs.mayQuit())
+        QCoreApplication::quit();
+    else
         showRunningPanel(true);
-        return;
-    }
-    QCoreApplication::quit();
-}
-
-void MainWindow::OnNo()
-{
-    m_pCloseWgt->hide();
-}
-
-void MainWindow::OnCloseDestinitionWarning()
-{
-    m_pDestinitionWarning->hide();
-}
-
-void MainWindow::OnCloseSelfTestNotSupported()
-{
-    m_pSelfTestNotSupported->hide();
-    DriveCombobox->setEnabled(true);
-}
-
-void MainWindow::OnMinimized()
-{
-    showMinimized();
 }
 
 void MainWindow::iconActivated(QSystemTrayIcon::ActivationReason reason)
 {
-    if (reason != QSystemTrayIcon::Trigger)
-        return;
-    setVisible(!isVisible());
+    if (reason == QSystemTrayIcon::Trigger)
+        setVisible(!isVisible());
 }
 
 void MainWindow::launchSibling(const QString &fileName)
@@ -117,19 +93,4 @@ void MainWindow::launchSibling(const QString &fileName)
     Platform::current().ShellExecuteW(g_App.m_strApplicationFolder + QLatin1Char('\\') + fileName, QString(),
                                       QStringLiteral("Open"));
     QCoreApplication::quit();
-}
-
-void MainWindow::LaunchDataRecovery()
-{
-    launchSibling(g_App.m_strSibling1);
-}
-
-void MainWindow::LaunchVideoRepair()
-{
-    launchSibling(g_App.m_strSibling2);
-}
-
-void MainWindow::LaunchPhotoRepair()
-{
-    launchSibling(g_App.m_strSibling3);
 }

@@ -1,18 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/window/MainWindow.h"
 
-#include "inventory/Companion.h"
 #include "platform/Platform.h"
-#include "state/GlobalApp.h"
-#include "state/Globals.h"
 #include "state/Languages.h"
 #include "state/SettingsStore.h"
 #include "state/StartArgument.h"
 #include "ui/dialogs/MessageDialog.h"
+#include "ui/dialogs/QCheckUpdate.h"
 #include "ui/screens/AccessNotice.h"
 #include "ui/screens/CloneDisk.h"
 #include "ui/screens/DiskPartition.h"
 #include "ui/screens/DiskStatus.h"
+#include "ui/screens/PageLook.h"
 #include "ui/screens/ScanDisk.h"
 #include "ui/screens/Settings.h"
 #include "ui/screens/SmartStatus.h"
@@ -25,7 +24,6 @@
 #include <QAction>
 #include <QEvent>
 #include <QTimer>
-#include <QTreeWidget>
 
 namespace
 {
@@ -39,18 +37,13 @@ constexpr int FirstNavigationY = 55;
 constexpr int NavigationStep = 44;
 const QString PaleBackground = QStringLiteral("background: rgb(245,245,245);");
 
-bool startsOnClonePage()
+template<typename Widget>
+Widget *makeHeaderWidget(QWidget *parent, const char *name, const QRect &place)
 {
-    return startargument::asksForClone(g_strStartArgument);
-}
-
-QPushButton *makeToolButton(QWidget *parent, const QString &name, int x)
-{
-    auto *button = new QPushButton(parent);
-    button->setObjectName(name);
-    button->setGeometry(x, 8, 28, 28);
-    style::scaleWidget(button);
-    return button;
+    auto *widget = pagelook::named(new Widget(parent), name);
+    widget->setGeometry(place);
+    style::scaleWidget(widget);
+    return widget;
 }
 
 /// A header button is its picture; the hover twin of the picture bears the suffix "Hov".
@@ -65,6 +58,17 @@ void dressToolButton(QPushButton *button, const QString &image)
                  images::nearestPath(image + QStringLiteral("Hov.png"))));
 }
 
+/// An entry with its picture, if it has one, and a separator above it unless it is the first.
+QAction *addEntry(QMenu *menu, const char *name, const char *image = nullptr)
+{
+    if (!menu->isEmpty())
+        menu->addSeparator();
+    QAction *entry = pagelook::named(menu->addAction(QString()), name);
+    if (image)
+        entry->setIcon(QIcon(images::path(QLatin1String(image), images::Family::MoreTools)));
+    return entry;
+}
+
 } // namespace
 
 MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent), m_drag(this, TitleStripHeight)
@@ -73,7 +77,6 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent), m_drag(this, Titl
     setObjectName(QStringLiteral("MainWindow"));
     ::m_pMainWindow = this;
     scaleGeometry();
-    m_abSwitchTarget.fill(false);
     setWindowFlags(Qt::FramelessWindowHint | Qt::Window);
     Platform::current().InitializeCom();
     styleShell();
@@ -86,8 +89,10 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent), m_drag(this, Titl
     retranslateShell();
     FillDriveCombos();
     connectAll();
-    selectButton(startsOnClonePage() ? navigation::CloneDiskScreen : navigation::DiskStatusScreen);
-    showScreen(startsOnClonePage() ? navigation::CloneDiskScreen : navigation::DiskStatusScreen);
+    const Screen first = startargument::asksForClone(g_strStartArgument) ? navigation::CloneDiskScreen
+                                                                         : navigation::DiskStatusScreen;
+    selectButton(first);
+    showScreen(first);
 
     m_pSettings->ApplyFirstRunDefaults();
     RefreshSelectedDisk();
@@ -98,7 +103,8 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent), m_drag(this, Titl
         store.write(key::FirstTimeLaunch, 1);
     }
     startTemperatureTimer();
-    checkAtStart();
+    m_pCheckUpdate = new QCheckUpdate(this);
+    style::centreOn(m_pCheckUpdate, m_rcSplash);
 }
 
 MainWindow::~MainWindow()
@@ -110,35 +116,8 @@ MainWindow::~MainWindow()
 void MainWindow::scaleGeometry()
 {
     setFixedSize(style::px(WindowWidth), style::px(WindowHeight));
-    for (QWidget *widget : std::initializer_list<QWidget *>{MainFrame,
-                                                            HeaderLabel,
-                                                            PixmapLabel,
-                                                            ButtonLabel,
-                                                            minimizeButton,
-                                                            CloseButton,
-                                                            line,
-                                                            SideButtonLabel,
-                                                            line_2,
-                                                            WidgetFrame,
-                                                            DriveCombobox,
-                                                            GifFrame,
-                                                            Giflabel,
-                                                            label,
-                                                            SerialNumLabel,
-                                                            SerialNumValLabel,
-                                                            InterfaceTypeLabel,
-                                                            CapacityValLabel,
-                                                            SmartStatusLabel,
-                                                            ResultLabel,
-                                                            line_3,
-                                                            BottamLabel,
-                                                            BackTestButton,
-                                                            ScanButton,
-                                                            CloneButton,
-                                                            StopButton,
-                                                            StopTestButton,
-                                                            ReportSaveButton,
-                                                            ScreenshotButton})
+    const auto widgets = centralWidget()->findChildren<QWidget *>();
+    for (QWidget *widget : widgets)
         style::scaleWidget(widget);
     // The hairlines stay one pixel thin, and the frames meet them at every scale.
     const int header = line->y();
@@ -172,19 +151,12 @@ void MainWindow::styleShell()
     BottamLabel->setStyleSheet(QStringLiteral("QLabel#BottamLabel{%1}").arg(PaleBackground) +
                                QStringLiteral("MyButton1{padding-left: %1px;}").arg(style::px(32)));
 
-    label->setFont(style::font(8));
-    label->setStyleSheet(style::BlackLabel);
+    pagelook::styleLabels({label}, style::font(8), style::BlackLabel);
     GifFrame->hide();
     images::setLabelImage(PixmapLabel, QStringLiteral("img_HalvaneSmallLogo.png"));
     PixmapLabel->setScaledContents(true);
-
-    m_pHeaderText = new QLabel(HeaderLabel);
-    m_pHeaderText->setObjectName(QStringLiteral("m_pHeaderText"));
-    m_pHeaderText->setGeometry(52, 8, 300, 29);
-    style::scaleWidget(m_pHeaderText);
-    m_pHeaderText->setFont(style::semiBold(11));
-    m_pHeaderText->setStyleSheet(style::BlackLabel);
-
+    m_pHeaderText = makeHeaderWidget<QLabel>(HeaderLabel, "m_pHeaderText", QRect(52, 8, 300, 29));
+    pagelook::styleLabels({m_pHeaderText}, style::semiBold(11), style::BlackLabel);
     for (QLabel *name : {SerialNumLabel, InterfaceTypeLabel, SmartStatusLabel})
         name->setFont(style::semiBold(8));
     for (QLabel *value : {SerialNumValLabel, CapacityValLabel, ResultLabel})
@@ -195,21 +167,22 @@ void MainWindow::styleShell()
         style::styleButton(button, style::ButtonRole::Light);
     for (QPushButton *button : {ScanButton, CloneButton, ReportSaveButton})
         style::styleButton(button, style::ButtonRole::Main);
-    for (QPushButton *button :
-         {ScanButton, CloneButton, ReportSaveButton, ScreenshotButton, StopButton, StopTestButton})
+    for (QWidget *button :
+         std::initializer_list<QWidget *>{ScanButton, CloneButton, ReportSaveButton, ScreenshotButton,
+                                          StopButton, StopTestButton, BackTestButton})
         button->hide();
-    BackTestButton->hide();
 }
 
 void MainWindow::buildScreens()
 {
-    m_apScreens[navigation::DiskStatusScreen] = m_pDiskStatusPage = new DiskStatus(WidgetFrame);
-    m_apScreens[navigation::SmartStatusScreen] = m_pSmartStatusPage = new SmartStatus(WidgetFrame);
-    m_apScreens[navigation::DiskPartitionScreen] = m_pDiskPartitionPage = new DiskPartition(WidgetFrame);
-    m_apScreens[navigation::ScanDiskScreen] = m_pScanDiskPage = new ScanDisk(WidgetFrame);
-    m_apScreens[navigation::CloneDiskScreen] = m_pCloneDiskPage = new CloneDisk(WidgetFrame);
-    m_pAccessNotice = new AccessNotice(WidgetFrame);
-    m_pAccessNotice->setObjectName(QStringLiteral("m_pAccessNotice"));
+    m_pDiskStatusPage = new DiskStatus(WidgetFrame);
+    m_pSmartStatusPage = new SmartStatus(WidgetFrame);
+    m_pDiskPartitionPage = new DiskPartition(WidgetFrame);
+    m_pScanDiskPage = new ScanDisk(WidgetFrame);
+    m_pCloneDiskPage = new CloneDisk(WidgetFrame);
+    m_apScreens = {m_pDiskStatusPage, m_pSmartStatusPage, m_pDiskPartitionPage, m_pScanDiskPage,
+                   m_pCloneDiskPage};
+    m_pAccessNotice = pagelook::named(new AccessNotice(WidgetFrame), "m_pAccessNotice");
     QList<QWidget *> pages(m_apScreens.cbegin(), m_apScreens.cend());
     for (QWidget *screen : pages << m_pAccessNotice) {
         screen->setFixedSize(style::px(PageGeometry.width()), style::px(PageGeometry.height()));
@@ -238,13 +211,12 @@ void MainWindow::buildNavigation()
 {
     static const char *const names[navigation::ScreenCount] = {
         "DiskStatusButton", "SmartStatusButton", "DiskPartitionButton", "ScanDiskButton", "CloneDiskButton"};
-    for (int i = 0; i < navigation::ScreenCount; ++i) {
-        auto *navigationButton = new MyButton(SideButtonLabel);
-        navigationButton->setObjectName(QLatin1String(names[i]));
-        navigationButton->setFont(style::font(10));
-        navigationButton->setFixedSize(style::px(172), style::px(40));
-        navigationButton->move(0, style::px(FirstNavigationY + i * NavigationStep));
-        m_apNavigation[static_cast<std::size_t>(i)] = navigationButton;
+    for (const Screen screen : Screens) {
+        auto *button = pagelook::named(new MyButton(SideButtonLabel), names[screen]);
+        button->setFont(style::font(10));
+        button->setFixedSize(style::px(172), style::px(40));
+        button->move(0, style::px(FirstNavigationY + screen * NavigationStep));
+        m_apNavigation[screen] = button;
     }
     BackTestButton->setFont(style::font(10));
     BackTestButton->setIconSize(QSize(style::px(32), style::px(30)));
@@ -253,58 +225,49 @@ void MainWindow::buildNavigation()
 
 void MainWindow::buildToolButtons()
 {
-    m_pHelpButton = makeToolButton(ButtonLabel, QStringLiteral("m_pHelpButton"), 101);
-    m_pMoreToolsButton = makeToolButton(ButtonLabel, QStringLiteral("m_pMoreToolsButton"), 133);
-    m_pMenuButton = makeToolButton(ButtonLabel, QStringLiteral("m_pMenuButton"), 165);
-    m_pCompanyLogo = new QLabel(ButtonLabel);
-    m_pCompanyLogo->setObjectName(QStringLiteral("m_pCompanyLogo"));
-    m_pCompanyLogo->setGeometry(58, 8, 29, 29);
-    style::scaleWidget(m_pCompanyLogo);
-    images::setLabelImage(m_pCompanyLogo, g_App.m_bKorvaneBrand ? QStringLiteral("img_CompanyLogoKorvane.png")
-                                                                : QStringLiteral("img_CompanyLogo.png"));
+    const auto makeButton = [this](const char *name, int x) {
+        return makeHeaderWidget<QPushButton>(ButtonLabel, name, QRect(x, 8, 28, 28));
+    };
+    m_pHelpButton = makeButton("m_pHelpButton", 101);
+    m_pMoreToolsButton = makeButton("m_pMoreToolsButton", 133);
+    m_pMenuButton = makeButton("m_pMenuButton", 165);
+    images::setLabelImage(makeHeaderWidget<QLabel>(ButtonLabel, "m_pCompanyLogo", QRect(58, 8, 29, 29)),
+                          g_App.m_bKorvaneBrand ? QStringLiteral("img_CompanyLogoKorvane.png")
+                                                : QStringLiteral("img_CompanyLogo.png"));
     dressToolButton(m_pHelpButton, QStringLiteral("img_Help"));
     dressToolButton(m_pMoreToolsButton, QStringLiteral("img_MoreTools"));
     dressToolButton(m_pMenuButton, QStringLiteral("img_Menu"));
     dressToolButton(minimizeButton, QStringLiteral("img_Minimize"));
     dressToolButton(CloseButton, QStringLiteral("img_Close"));
 
-    m_pMainMenu = new PopupMenu(true, m_pMenuButton);
-    m_pSettingsAction = m_pMainMenu->addAction(QString());
-    m_pMainMenu->addSeparator();
-    m_pAboutAction = m_pMainMenu->addAction(QString());
-    m_pMenuButton->setMenu(m_pMainMenu);
-
-    m_pMoreToolsMenu = new PopupMenu(false, m_pMoreToolsButton);
-    m_pRecoverAction = m_pMoreToolsMenu->addAction(QString());
-    m_pMoreToolsMenu->addSeparator();
-    m_pVideoAction = m_pMoreToolsMenu->addAction(QString());
-    m_pMoreToolsMenu->addSeparator();
-    m_pPhotoAction = m_pMoreToolsMenu->addAction(QString());
-    m_pMoreToolsButton->setMenu(m_pMoreToolsMenu);
-    const struct {
-        QAction *action;
-        const char *name;
-    } names[] = {{m_pSettingsAction, "m_pSettingsAction"},
-                 {m_pAboutAction, "m_pAboutAction"},
-                 {m_pRecoverAction, "m_pRecoverAction"},
-                 {m_pVideoAction, "m_pVideoAction"},
-                 {m_pPhotoAction, "m_pPhotoAction"}};
-    for (const auto &entry : names)
-        entry.action->setObjectName(QLatin1String(entry.name));
-    const struct {
-        QAction *action;
-        const char *image;
-    } icons[] = {{m_pRecoverAction, "img_RecoverData.png"},
-                 {m_pVideoAction, "img_RepairVideo.png"},
-                 {m_pPhotoAction, "img_RepairPhoto.png"}};
-    for (const auto &entry : icons)
-        entry.action->setIcon(QIcon(images::path(QLatin1String(entry.image), images::Family::MoreTools)));
-    for (PopupMenu *menu : {m_pMainMenu, m_pMoreToolsMenu})
+    auto *mainMenu = new PopupMenu(true, m_pMenuButton);
+    m_pSettingsAction = addEntry(mainMenu, "m_pSettingsAction");
+    m_pAboutAction = addEntry(mainMenu, "m_pAboutAction");
+    m_pMenuButton->setMenu(mainMenu);
+    auto *moreToolsMenu = new PopupMenu(false, m_pMoreToolsButton);
+    m_pRecoverAction = addEntry(moreToolsMenu, "m_pRecoverAction", "img_RecoverData.png");
+    m_pVideoAction = addEntry(moreToolsMenu, "m_pVideoAction", "img_RepairVideo.png");
+    m_pPhotoAction = addEntry(moreToolsMenu, "m_pPhotoAction", "img_RepairPhoto.png");
+    m_pMoreToolsButton->setMenu(moreToolsMenu);
+    for (QMenu *menu : {mainMenu, moreToolsMenu})
         menu->setFont(style::font(10));
 }
 
-void MainWindow::applyLanguageWidths()
+void MainWindow::retranslateShell()
 {
+    m_pHeaderText->setText(windowTitle());
+    for (const Screen screen : Screens) {
+        m_apNavigation[screen]->setText(tr(navigation::buttons[screen].text));
+        m_apNavigation[screen]->setToolTip(tr(navigation::buttons[screen].toolTip));
+    }
+    m_pHelpButton->setToolTip(tr("View Velmora Halvane help document"));
+    m_pMoreToolsButton->setToolTip(tr("More Tools"));
+    m_pSettingsAction->setText(tr("Settings"));
+    m_pAboutAction->setText(tr("About"));
+    m_pRecoverAction->setText(tr("Recover Data"));
+    m_pVideoAction->setText(tr("Repair Video"));
+    m_pPhotoAction->setText(tr("Repair Photo"));
+
     const languages::Language &language = languages::current();
     SideButtonLabel->setFixedWidth(style::px(language.sideWidth));
     constexpr int Gap = 10;
@@ -316,44 +279,11 @@ void MainWindow::applyLanguageWidths()
     ReportSaveButton->move(ScreenshotButton->x() - style::px(Gap) - ReportSaveButton->width(), y);
 }
 
-void MainWindow::retranslateShell()
-{
-    setWindowTitle(tr("Velmora Halvane"));
-    m_pHeaderText->setText(tr("Velmora Halvane"));
-    for (int i = 0; i < navigation::ScreenCount; ++i) {
-        const navigation::Button &entry = navigation::buttons[static_cast<std::size_t>(i)];
-        m_apNavigation[static_cast<std::size_t>(i)]->setText(tr(entry.text));
-        m_apNavigation[static_cast<std::size_t>(i)]->setToolTip(tr(entry.toolTip));
-    }
-    ScanButton->setText(tr("Start"));
-    CloneButton->setText(tr("Clone"));
-    StopButton->setText(tr("Stop"));
-    StopTestButton->setText(tr("Stop"));
-    BackTestButton->setText(tr("Back"));
-    ReportSaveButton->setText(tr("Save Report"));
-    ScreenshotButton->setText(tr("Screenshot"));
-    SerialNumLabel->setText(tr("Serial Number"));
-    SmartStatusLabel->setText(tr("SMART Status"));
-    m_pHelpButton->setToolTip(tr("View Velmora Halvane help document"));
-    m_pMoreToolsButton->setToolTip(tr("More Tools"));
-    m_pSettingsAction->setText(tr("Settings"));
-    m_pAboutAction->setText(tr("About"));
-    m_pRecoverAction->setText(tr("Recover Data"));
-    m_pVideoAction->setText(tr("Repair Video"));
-    m_pPhotoAction->setText(tr("Repair Photo"));
-    applyLanguageWidths();
-}
-
 void MainWindow::connectNavigation()
 {
     using Slot = void (MainWindow::*)();
-    struct ButtonSlots {
-        Slot hover;
-        Slot normal;
-        Slot press;
-        Slot release;
-    };
-    static const std::array<ButtonSlots, navigation::ScreenCount> table = {{
+    /// For pointer on the button, pointer gone, press and release.
+    static const Slot table[navigation::ScreenCount][4] = {
         {&MainWindow::OnShowHoverImage, &MainWindow::OnShowNormalImage, &MainWindow::OnShowPressImage,
          &MainWindow::OnShowReleaseImageImage},
         {&MainWindow::OnSmartHoverImage, &MainWindow::OnSmartNormalImage, &MainWindow::OnSmartPressImage,
@@ -364,13 +294,14 @@ void MainWindow::connectNavigation()
          &MainWindow::OnScanDiskPressImage, &MainWindow::OnScanDiskReleaseImageImage},
         {&MainWindow::OnCloneDiskHoverImage, &MainWindow::OnCloneDiskNormalImage,
          &MainWindow::OnCloneDiskPressImage, &MainWindow::OnCloneDiskReleaseImageImage},
-    }};
-    for (std::size_t i = 0; i < table.size(); ++i) {
-        connect(m_apNavigation[i], &MyButton::ChangePixmap, this, table[i].hover);
-        connect(m_apNavigation[i], &MyButton::OnUpdatePixmap, this, table[i].normal);
-        connect(m_apNavigation[i], &MyButton::OnPressPixmap, this, table[i].press);
-        connect(m_apNavigation[i], &MyButton::OnReleasePixmap, this, table[i].release);
-        m_apNavigation[i]->installEventFilter(this);
+    };
+    for (const Screen screen : Screens) {
+        MyButton *button = m_apNavigation[screen];
+        connect(button, &MyButton::ChangePixmap, this, table[screen][0]);
+        connect(button, &MyButton::OnUpdatePixmap, this, table[screen][1]);
+        connect(button, &MyButton::OnPressPixmap, this, table[screen][2]);
+        connect(button, &MyButton::OnReleasePixmap, this, table[screen][3]);
+        button->installEventFilter(this);
     }
     connect(BackTestButton, &MyButton1::ChangePixmap1, this, &MainWindow::OnBackTestHoverImage);
     connect(BackTestButton, &MyButton1::OnUpdatePixmap1, this, &MainWindow::OnBackTestNormalImage);
@@ -381,6 +312,7 @@ void MainWindow::connectNavigation()
 void MainWindow::connectAll()
 {
     connectNavigation();
+    connectPages();
     connect(DriveCombobox, QOverload<int>::of(&QComboBox::activated), this,
             &MainWindow::OnActivatedDriveCombo);
     connect(minimizeButton, &QPushButton::clicked, this, &MainWindow::OnMinimized);
@@ -388,8 +320,6 @@ void MainWindow::connectAll()
     connect(StopButton, &QPushButton::clicked, this, &MainWindow::OnStop);
     connect(StopTestButton, &QPushButton::clicked, this, &MainWindow::OnClickStopTestButton);
     connect(ScanButton, &QPushButton::clicked, this, &MainWindow::OnScanStart);
-    connect(m_pScanDiskPage, &ScanDisk::OnScanFinished, this, &MainWindow::OnFinishScanDisk);
-    connect(m_pScanDiskPage, &ScanDisk::OnResultRead, this, &MainWindow::refreshBehindJob);
     connect(CloneButton, &QPushButton::clicked, this, &MainWindow::OnCloneStart);
     connect(ReportSaveButton, &QPushButton::clicked, this, &MainWindow::SavePDFReport);
     connect(ScreenshotButton, &QPushButton::clicked, this, &MainWindow::TakeScreenshot);
@@ -410,21 +340,24 @@ void MainWindow::connectAll()
     connect(m_pScanSwitch, &MessageDialog::confirmed, this, &MainWindow::OnSwitchConfirm);
     connect(m_pScanSwitch, &MessageDialog::dismissed, this, &MainWindow::OnSwitchCancel);
     connect(m_pDestinitionWarning, &MessageDialog::dismissed, this, &MainWindow::OnCloseDestinitionWarning);
+    connect(m_pSelfTestNotSupported, &MessageDialog::dismissed, this,
+            &MainWindow::OnCloseSelfTestNotSupported);
     connect(m_pShutDownWarning, &MessageDialog::confirmed, this, &MainWindow::OnSystemShutDown);
     connect(m_pSettings, &Settings::left, this, &MainWindow::OnSetSmartSettings);
-
     connect(&m_smartThread, &SMARTThread::OnLodingSmarInfo, this, &MainWindow::OnInitializeSmart);
     connect(&m_refreshThread, &QRefThreadDevicesLoad::OnLoadingDevices, this, &MainWindow::OnInitialize);
-    connect(m_pSmartStatusPage->m_pAttributeTree, &QTreeWidget::itemClicked, this,
-            &MainWindow::GraphWithAttributes);
+}
+
+void MainWindow::connectPages()
+{
+    connect(m_pSmartStatusPage, &SmartStatus::rowClicked, this, &MainWindow::GraphWithAttributes);
+    connect(m_pScanDiskPage, &ScanDisk::OnScanFinished, this, &MainWindow::OnFinishScanDisk);
+    connect(m_pScanDiskPage, &ScanDisk::OnResultRead, this, &MainWindow::refreshBehindJob);
     connect(m_pCloneDiskPage, &CloneDisk::OnCloneFinish, this, &MainWindow::OnCloningFinish);
     connect(m_pCloneDiskPage, &CloneDisk::DiskCloneFinished, this, &MainWindow::OnFinishDiskCloning);
     connect(m_pCloneDiskPage, &CloneDisk::ComboboxIndexChange, this, &MainWindow::OnComboboxIndexChange);
     connect(m_pCloneDiskPage, &CloneDisk::CloningProcesFailed, this, &MainWindow::OnCloningProcesFailed);
-    connect(m_pCloneDiskPage->SourceComboBox, QOverload<int>::of(&QComboBox::activated), this,
-            &MainWindow::OnSourceIndexChange);
-    connect(m_pCloneDiskPage->DestinationComboBox, QOverload<int>::of(&QComboBox::activated), this,
-            &MainWindow::OnTargetChangeIndex);
+    connect(m_pCloneDiskPage, &CloneDisk::DestinationActivated, this, &MainWindow::OnTargetChangeIndex);
 }
 
 void MainWindow::startTemperatureTimer()
@@ -436,17 +369,13 @@ void MainWindow::startTemperatureTimer()
     connect(m_pTemperatureTimer, &QTimer::timeout, this, &MainWindow::GetSmartTemprature);
 }
 
-void MainWindow::CheckCompanionRunning()
-{
-    companion::ensureRunning();
-}
-
 void MainWindow::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange) {
         retranslateUi(this);
         retranslateShell();
-        retranslatePartitions();
+        if (isOnShow(navigation::DiskPartitionScreen))
+            ShowPartitions(tr("(BitLocker)"));
         if (!ResultLabel->text().isEmpty())
             showOverallResult();
         if (SettingsStore().flag(key::ShowTrayIcon)) {
@@ -456,6 +385,6 @@ void MainWindow::changeEvent(QEvent *event)
     }
     // The ring does not paint itself in a minimised window; this starts it again.
     if (event->type() == QEvent::WindowStateChange && m_pDiskPartitionPage)
-        m_pDiskPartitionPage->m_pDonutView->update();
+        m_pDiskPartitionPage->RepaintRing();
     QMainWindow::changeEvent(event);
 }

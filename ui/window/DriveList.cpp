@@ -4,8 +4,6 @@
 #include "inventory/WmicInventory.h"
 #include "smart/DiskFigures.h"
 #include "state/DriveTexts.h"
-#include "state/GlobalApp.h"
-#include "state/Globals.h"
 #include "state/StartArgument.h"
 #include "ui/dialogs/MessageDialog.h"
 #include "ui/screens/CloneDisk.h"
@@ -13,30 +11,21 @@
 
 void MainWindow::FillDriveCombos()
 {
-    QComboBox *source = m_pCloneDiskPage->SourceComboBox;
-    QComboBox *target = m_pCloneDiskPage->DestinationComboBox;
-    const QSignalBlocker blockDrive(DriveCombobox);
-    const QSignalBlocker blockSource(source);
-    const QSignalBlocker blockTarget(target);
+    const QSignalBlocker block(DriveCombobox);
     DriveCombobox->clear();
-    source->clear();
-    target->clear();
     m_hashComboToDisk.clear();
-    m_pCloneDiskPage->ForgetDestination();
-    g_strSelectDestination = tr("Select Destination");
-    target->addItem(g_strSelectDestination);
-
     for (DiskNode &node : g_App.m_diskList) {
         if (!isPhysicalKind(node.nKind))
             continue;
         drivetexts::fillDisplayFields(node);
         g_strSelectedSize = node.szSize.text();
     }
-    for (const drivetexts::Entry &entry : drivetexts::entries(g_App.m_diskList)) {
+    const std::vector<drivetexts::Entry> disks = drivetexts::entries(g_App.m_diskList);
+    for (const drivetexts::Entry &entry : disks) {
         m_hashComboToDisk.insert(DriveCombobox->count(), entry.node->nId);
         DriveCombobox->addItem(entry.texts.drive, static_cast<int>(entry.node->nId));
-        source->addItem(entry.texts.source, static_cast<int>(entry.node->nId));
     }
+    m_pCloneDiskPage->FillSources(disks);
 }
 
 void MainWindow::LookUpDisk(int comboIndex)
@@ -60,11 +49,6 @@ void MainWindow::OnActivatedDriveCombo(int)
     refreshBehindJob();
 }
 
-void MainWindow::OnComboboxIndexChange(int index)
-{
-    DriveCombobox->setCurrentIndex(index);
-}
-
 void MainWindow::OnTargetChangeIndex(int nIndex)
 {
     m_pCloneDiskPage->ShowTargetDetails(nIndex != 0);
@@ -72,18 +56,14 @@ void MainWindow::OnTargetChangeIndex(int nIndex)
         CloneButton->setEnabled(true);
 }
 
-void MainWindow::OnSourceIndexChange(int) {}
-
 void MainWindow::selectCloneArgument()
 {
-    QComboBox *source = m_pCloneDiskPage->SourceComboBox;
-    if (const auto disk = startargument::cloneDiskText(g_strStartArgument)) {
-        for (int i = 0; i < DriveCombobox->count(); ++i) {
-            if (startargument::matchesDisk(DriveCombobox->itemText(i), *disk) ||
-                startargument::matchesDisk(source->itemText(i), *disk)) {
-                DriveCombobox->setCurrentIndex(i);
-                break;
-            }
+    const auto disk = startargument::cloneDiskText(g_strStartArgument);
+    for (int i = 0; disk && i < DriveCombobox->count(); ++i) {
+        if (startargument::matchesDisk(DriveCombobox->itemText(i), *disk) ||
+            startargument::matchesDisk(m_pCloneDiskPage->SourceText(i), *disk)) {
+            DriveCombobox->setCurrentIndex(i);
+            return;
         }
     }
 }
@@ -95,8 +75,7 @@ void MainWindow::refreshClonePage()
     if (g_bListsLoading || g_Jobs.runs(Job::Clone))
         return;
     clearIdentityTexts();
-    QComboBox *source = m_pCloneDiskPage->SourceComboBox;
-    source->setCurrentIndex(DriveCombobox->currentIndex());
+    m_pCloneDiskPage->ChooseSource(DriveCombobox->currentIndex());
     LookUpDisk(DriveCombobox->currentIndex());
     m_pCloneDiskPage->RefreshSourceDetails(g_App.m_pCurrentDisk);
 }
@@ -151,7 +130,7 @@ void MainWindow::OnInitialize()
         // selection stays at the first item.
         if (DriveCombobox->itemData(i).toInt() == systemDisk) {
             DriveCombobox->setCurrentIndex(i);
-            m_pCloneDiskPage->SourceComboBox->setCurrentIndex(i);
+            m_pCloneDiskPage->ChooseSource(i);
         }
     }
     keepScannedDisk();

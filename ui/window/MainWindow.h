@@ -1,11 +1,28 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "clone/CloneMessages.h"
+#include "inventory/Companion.h"
 #include "smart/SMARTThread.h"
 #include "smart/SelfTest.h"
+#include "state/GlobalApp.h"
 #include "state/JobState.h"
 #include "state/Navigation.h"
+#include "ui/dialogs/CloneWarning.h"
+#include "ui/dialogs/CloseWgt.h"
+#include "ui/dialogs/ConfarmetionClass.h"
+#include "ui/dialogs/DestinitionWarning.h"
+#include "ui/dialogs/InfoDialogClass.h"
+#include "ui/dialogs/ScanSwitchClass.h"
+#include "ui/dialogs/SelfTestNotSupported.h"
+#include "ui/dialogs/ShutDownWarning.h"
+#include "ui/dialogs/SmartWarning.h"
+#include "ui/screens/AccessNotice.h"
+#include "ui/screens/CloneDisk.h"
+#include "ui/screens/DiskPartition.h"
+#include "ui/screens/DiskStatus.h"
+#include "ui/screens/ScanDisk.h"
+#include "ui/screens/Settings.h"
+#include "ui/screens/SmartStatus.h"
 #include "ui/widgets/FramelessDrag.h"
 #include "ui/window/QRefThreadDevicesLoad.h"
 #include "update/HelpLinks.h"
@@ -17,38 +34,16 @@
 #include <QPointer>
 #include <QSystemTrayIcon>
 
-#include <array>
-#include <optional>
-#include <utility>
-
-class AccessNotice;
-class CloneDisk;
-class CloneWarning;
-class CloseWgt;
-class ConfarmetionClass;
-class DestinitionWarning;
-class DiskPartition;
-class DiskStatus;
-class InfoDialogClass;
 class MyButton;
 class PopupMenu;
 class QCheckUpdate;
 class QMovie;
 class QTimer;
-class QTreeWidgetItem;
-class ScanDisk;
-class ScanSwitchClass;
-class SelfTestNotSupported;
-class Settings;
-class ShutDownWarning;
-class SmartStatus;
-class SmartWarning;
-struct DiskNode;
 
 /// The frameless window with its five screens, of which one shows at a time, and the wiring between them and
 /// the engines below. Created once, never deleted. Main thread only. The definitions are split by screen in
 /// ui/window/.
-class MainWindow : public QMainWindow, public Ui::m_pMainWindow
+class MainWindow : public QMainWindow, private Ui::m_pMainWindow
 {
     Q_OBJECT
 
@@ -62,14 +57,12 @@ public:
     void FillDriveCombos();
     /// Makes the disk of a combo index the current one; none where there is no such disk.
     void LookUpDisk(int comboIndex);
-    /// How the mark of an encrypted volume reads.
-    enum class BitLockerMark { AsWritten, Translated };
-    /// Shows the volumes of the selected disk on Disk Partition: the ring and a frame for each.
-    void ShowPartitions(BitLockerMark mark);
+    /// Shows the volumes of the selected disk on Disk Partition, with `mark` behind an encrypted one.
+    void ShowPartitions(const QString &mark);
     /// Has the report of a physical disk read in the background.
     void RequestSmartRead(int diskIndex);
     /// Starts the companion unless it runs.
-    void CheckCompanionRunning();
+    void CheckCompanionRunning() { companion::ensureRunning(); }
 
     void ComputePerformance();
     void ComputeHealth();
@@ -80,9 +73,9 @@ public:
 
 public slots:
     void OnSystemShutDown();
-    void OnCloningProcesFailed();
+    void OnCloningProcesFailed() { DriveCombobox->setEnabled(true); }
     void OnInitializeSmart();
-    void OnComboboxIndexChange(int index);
+    void OnComboboxIndexChange(int index) { DriveCombobox->setCurrentIndex(index); }
     void OnFinishDiskCloning();
     void OnStopCancel();
     void OnStopConfirm();
@@ -110,17 +103,17 @@ public slots:
     void OnShowCloneDisk();
     void OnShowSmartStatus();
     void OnShowSettings();
-    void OnOpenHelp();
-    void OnMinimized();
+    void OnOpenHelp() { links::openHelp(helpTopic()); }
+    void OnMinimized() { showMinimized(); }
     void OnClose();
     void Onyes();
-    void OnNo();
+    void OnNo() { m_pCloseWgt->hide(); }
     void OnHideButtons() {}
     void OnCloseSelfTestNotSupported();
     void OnActivatedDriveCombo(int nIndex);
     void OnTargetChangeIndex(int nIndex);
-    void OnSourceIndexChange(int nIndex);
-    void OnCloseDestinitionWarning();
+    void OnSourceIndexChange(int) {}
+    void OnCloseDestinitionWarning() { m_pDestinitionWarning->hide(); }
 
     void OnShowHoverImage() { hoverNavigation(navigation::DiskStatusScreen); }
     void OnShowNormalImage() { leaveNavigation(navigation::DiskStatusScreen); }
@@ -143,24 +136,24 @@ public slots:
     void OnCloneDiskPressImage() { pressNavigation(navigation::CloneDiskScreen); }
     void OnCloneDiskReleaseImageImage() { releaseNavigation(navigation::CloneDiskScreen); }
     void OnBackTestPressImage();
-    void OnBackTestHoverImage();
-    void OnBackTestReleaseImage();
-    void OnBackTestNormalImage();
+    void OnBackTestHoverImage() { setBackLook(Look::Hover); }
+    void OnBackTestReleaseImage() { OnBackTestNormalImage(); }
+    void OnBackTestNormalImage() { setBackLook(Look::Normal); }
 
     void SystemTrayQuit() {}
     void iconActivated(QSystemTrayIcon::ActivationReason reason);
     void OnSetSmartSettings();
     void GetSmartTemprature();
     void GraphWithAttributes(QTreeWidgetItem *item, int column);
-    void OnCloningCancel();
+    void OnCloningCancel() { m_pCloneWarning->hide(); }
     void OnCloningStart();
     void OnSwitchCancel();
     void OnSwitchConfirm();
     void OnInitialize();
     void TakeScreenshot();
-    void LaunchDataRecovery();
-    void LaunchVideoRepair();
-    void LaunchPhotoRepair();
+    void LaunchDataRecovery() { launchSibling(g_App.m_strSibling1); }
+    void LaunchVideoRepair() { launchSibling(g_App.m_strSibling2); }
+    void LaunchPhotoRepair() { launchSibling(g_App.m_strSibling3); }
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -170,6 +163,9 @@ protected:
 private:
     using Screen = navigation::Screen;
     using Job = JobState::Job;
+    static constexpr std::array<Screen, navigation::ScreenCount> Screens = {
+        navigation::DiskStatusScreen, navigation::SmartStatusScreen, navigation::DiskPartitionScreen,
+        navigation::ScanDiskScreen, navigation::CloneDiskScreen};
 
     /// \name Construction
     /// @{
@@ -181,29 +177,27 @@ private:
     void buildToolButtons();
     void connectAll();
     void connectNavigation();
+    void connectPages();
     void startTemperatureTimer();
-    void checkAtStart();
-    void applyLanguageWidths();
     void retranslateShell();
     /// @}
 
     /// \name Navigation
     /// @{
-    MyButton *button(Screen screen) const;
     bool isOnShow(Screen screen) const { return m_screen == screen; }
-    enum class Look;
+    enum class Look { Normal, Hover, Selected };
     void setLook(Screen screen, Look look);
     void hoverNavigation(Screen screen);
     void leaveNavigation(Screen screen);
     void pressNavigation(Screen screen);
-    void releaseNavigation(Screen screen);
+    void releaseNavigation(Screen screen) { setLook(screen, Look::Selected); }
+    void setBackLook(Look look);
     void selectButton(Screen screen);
-    void applyLooks();
     void showScreen(Screen screen);
     void showAccess();
     void callShowSlot(Screen screen);
-    void askForSwitch();
-    void setSwitchTarget(Screen screen);
+    void showCentred(QWidget *dialog);
+    void askToStop(const QString &title, const QString &warning, const QString &question);
     links::Topic helpTopic() const;
     /// @}
 
@@ -218,22 +212,17 @@ private:
     void enterBusy(const QString &text);
     void leaveBusy();
     void prepareLogFolder();
+    int takeReading();
     void initializeSmartStatus();
-    void showSmartHeading();
     void initializeDiskStatus();
-    void showTemperature(int celsius);
     void showOverallResult();
-    void showLifeFields(const DiskNode *node);
     void refreshBehindJob();
     void selectCloneArgument();
     void refreshClonePage();
     int currentComboDisk() const;
-    void clearPartitions();
-    void addVolumeFrames(const QString &letter, const QString &mark);
-    void retranslatePartitions();
     /// @}
 
-    /// \name Surface scan
+    /// \name Jobs
     /// @{
     using ChosenDisk = std::pair<int, QString>; ///< drive code, and the name that the combo shows
     ChosenDisk chosenDisk() const;
@@ -242,55 +231,28 @@ private:
     void startSurfaceScan();
     void setMenuEntriesEnabled(bool enabled);
     void dropScanResults();
-    /// @}
-
-    /// \name Clone
-    /// @{
-    /// Two disks as a person chose them: drive codes and the names that were shown.
-    struct ClonePair {
-        int source = 0;
-        int target = 0;
-        QString sourceText;
-        QString targetText;
-
-        bool operator==(const ClonePair &other) const
-        {
-            return source == other.source && target == other.target && sourceText == other.sourceText &&
-                   targetText == other.targetText;
-        }
-    };
-    ClonePair chosenPair() const;
-    void askForTarget();
-    void refuseClone(const clonemessages::Message &reason);
-    void startClone();
-    /// @}
-
-    /// \name Self-test
-    /// @{
-    void showTestScreen();
-    void showTestButtons(bool running);
+    void lockShell(Screen screen);
+    void releaseShell();
     void setNavigationEnabled(Screen screen, bool enabled);
-    void enableNavigation();
-    void showTestStep(const SelfTest::Step &step);
-    void showTestEnd(selftest::Told how);
-    void showTestOver(selftest::Told how);
-    /// @}
-
-    /// \name Closing
-    /// @{
+    void enableNavigation(bool enabled = true);
+    void showTestButtons(bool running);
+    void takeTestStep(const SelfTest::Step &step);
+    void takeTestEnd(selftest::Told how);
+    void takeTestOver(selftest::Told how);
     void showRunningPanel(bool fromYes);
     void keepAwake();
     void launchSibling(const QString &fileName);
     /// @}
 
+    /// Buttons and pages by navigation::Screen.
     std::array<MyButton *, navigation::ScreenCount> m_apNavigation{};
+    std::array<QWidget *, navigation::ScreenCount> m_apScreens{};
     std::optional<Screen> m_screen; ///< the one on show; its button is down
     DiskStatus *m_pDiskStatusPage = nullptr;
     SmartStatus *m_pSmartStatusPage = nullptr;
     DiskPartition *m_pDiskPartitionPage = nullptr;
     ScanDisk *m_pScanDiskPage = nullptr;
     CloneDisk *m_pCloneDiskPage = nullptr;
-    std::array<QWidget *, navigation::ScreenCount> m_apScreens{};
     AccessNotice *m_pAccessNotice = nullptr; ///< in the place of the screens while no disk may be opened
     Settings *m_pSettings = nullptr;         ///< top-level, without a parent
 
@@ -305,12 +267,9 @@ private:
     SelfTestNotSupported *m_pSelfTestNotSupported = nullptr;
 
     QLabel *m_pHeaderText = nullptr;
-    QLabel *m_pCompanyLogo = nullptr;
     QPushButton *m_pMenuButton = nullptr;
     QPushButton *m_pHelpButton = nullptr;
     QPushButton *m_pMoreToolsButton = nullptr;
-    PopupMenu *m_pMainMenu = nullptr;
-    PopupMenu *m_pMoreToolsMenu = nullptr;
     QAction *m_pSettingsAction = nullptr;
     QAction *m_pAboutAction = nullptr;
     QAction *m_pRecoverAction = nullptr;
@@ -320,13 +279,11 @@ private:
     /// The screen asked for while a job's results are open.
     std::array<bool, navigation::ScreenCount> m_abSwitchTarget{};
     ChosenDisk m_scannedDisk;           ///< whose results show: of a scan, or of a self-test
-    ClonePair m_askedPair;              ///< named in the question before a clone
+    SelfTestPanel::Shown m_shownTest;   ///< what the page shows of the self-test
+    CloneDisk::Pair m_askedPair;        ///< named in the question before a clone
     QHash<int, int> m_hashComboToDisk;  ///< combo index to DiskNode::nId
     QList<QAction *> m_listHeldEntries; ///< menu entries that a scan made grey
     QMovie *m_pMovie = nullptr;
-    int m_nFrameCount = 0;         ///< frames of the letter shown last
-    QList<QFrame *> m_listFrames;  ///< all frames on Disk Partition
-    QList<QLabel *> m_listNotices; ///< the line that stands there instead of frames
     bool m_bRefreshing = false;
     bool m_bRefreshAgain = false; ///< a volume came or went during a refresh
     QTimer *m_pTemperatureTimer = nullptr;

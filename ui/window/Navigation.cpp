@@ -13,8 +13,6 @@
 
 #include <initializer_list>
 
-enum class MainWindow::Look { Normal, Hover, Selected };
-
 namespace
 {
 
@@ -44,14 +42,9 @@ void dress(QPushButton *button, const Images &files, std::size_t look)
 
 } // namespace
 
-MyButton *MainWindow::button(Screen screen) const
-{
-    return m_apNavigation[static_cast<std::size_t>(screen)];
-}
-
 void MainWindow::setLook(Screen screen, Look look)
 {
-    dress(button(screen), ScreenImages[static_cast<std::size_t>(screen)], static_cast<std::size_t>(look));
+    dress(m_apNavigation[screen], ScreenImages[screen], static_cast<std::size_t>(look));
 }
 
 void MainWindow::hoverNavigation(Screen screen)
@@ -64,36 +57,21 @@ void MainWindow::leaveNavigation(Screen screen)
     setLook(screen, isOnShow(screen) ? Look::Selected : Look::Normal);
 }
 
-void MainWindow::releaseNavigation(Screen screen)
-{
-    setLook(screen, Look::Selected);
-}
-
-void MainWindow::setSwitchTarget(Screen screen)
-{
-    m_abSwitchTarget.fill(false);
-    m_abSwitchTarget[static_cast<std::size_t>(screen)] = true;
-}
-
 void MainWindow::selectButton(Screen screen)
 {
     m_screen = screen;
-    for (int i = 0; i < navigation::ScreenCount; ++i)
-        button(static_cast<Screen>(i))->setDown(i == screen);
-    applyLooks();
-}
-
-void MainWindow::applyLooks()
-{
-    for (int i = 0; i < navigation::ScreenCount; ++i)
-        leaveNavigation(static_cast<Screen>(i));
+    for (const Screen other : Screens) {
+        m_apNavigation[other]->setDown(other == screen);
+        leaveNavigation(other);
+    }
 }
 
 void MainWindow::pressNavigation(Screen screen)
 {
-    setSwitchTarget(screen);
+    m_abSwitchTarget.fill(false);
+    m_abSwitchTarget[screen] = true;
     if (!g_Jobs.mayLeave()) {
-        askForSwitch();
+        showCentred(m_pScanSwitch);
         return;
     }
     selectButton(screen);
@@ -107,27 +85,26 @@ void MainWindow::pressNavigation(Screen screen)
     callShowSlot(screen);
 }
 
-void MainWindow::askForSwitch()
+void MainWindow::showCentred(QWidget *dialog)
 {
-    style::centreOn(m_pScanSwitch, geometry());
-    m_pScanSwitch->show();
+    style::centreOn(dialog, geometry());
+    dialog->show();
 }
 
 void MainWindow::callShowSlot(Screen screen)
 {
     using Slot = void (MainWindow::*)();
-    static const std::array<Slot, navigation::ScreenCount> table = {
+    static constexpr Slot table[navigation::ScreenCount] = {
         &MainWindow::OnShowDiskStatus, &MainWindow::OnShowSmartStatus, &MainWindow::OnShowDiskPartition,
         &MainWindow::OnShowScanDisk, &MainWindow::OnShowCloneDisk};
-    const Slot showSlot = table[static_cast<std::size_t>(screen)];
-    (this->*showSlot)();
+    (this->*table[screen])();
 }
 
 void MainWindow::showScreen(Screen screen)
 {
-    for (int i = 0; i < navigation::ScreenCount; ++i)
-        m_apScreens[static_cast<std::size_t>(i)]->setVisible(i == screen);
-    const navigation::Button &shown = navigation::buttons[static_cast<std::size_t>(screen)];
+    for (const Screen other : Screens)
+        m_apScreens[other]->setVisible(other == screen);
+    const navigation::Button &shown = navigation::buttons[screen];
     ScanButton->setVisible(shown.scan);
     const bool cloning = g_Jobs.runs(Job::Clone);
     // OnShowCloneDisk() can run while Scan Disk is the screen on show.
@@ -150,10 +127,8 @@ void MainWindow::showAccess()
     if (!denied && m_pAccessNotice->isHidden())
         return;
     m_pAccessNotice->setVisible(denied);
-    for (int i = 0; i < navigation::ScreenCount; ++i) {
-        const auto screen = static_cast<Screen>(i);
-        m_apScreens[static_cast<std::size_t>(i)]->setVisible(!denied && isOnShow(screen));
-    }
+    for (const Screen screen : Screens)
+        m_apScreens[screen]->setVisible(!denied && isOnShow(screen));
     for (QWidget *idle : std::initializer_list<QWidget *>{DriveCombobox, ScanButton, CloneButton,
                                                           ReportSaveButton, ScreenshotButton})
         idle->setEnabled(!denied);
@@ -191,11 +166,11 @@ void MainWindow::OnSwitchConfirm()
     g_Jobs.closeResults();
     g_Jobs.dropPlan();
     DriveCombobox->setEnabled(!g_Jobs.runs(Job::Clone));
-    for (int i = 0; i < navigation::ScreenCount; ++i) {
-        if (!m_abSwitchTarget[static_cast<std::size_t>(i)])
+    for (const Screen screen : Screens) {
+        if (!m_abSwitchTarget[screen])
             continue;
-        selectButton(static_cast<Screen>(i));
-        callShowSlot(static_cast<Screen>(i));
+        selectButton(screen);
+        callShowSlot(screen);
         return;
     }
     if (m_bBackRequested) {
@@ -207,22 +182,25 @@ void MainWindow::OnSwitchConfirm()
 
 void MainWindow::OnSwitchCancel()
 {
-    applyLooks();
+    for (const Screen screen : Screens)
+        leaveNavigation(screen);
     m_pScanSwitch->hide();
+}
+
+void MainWindow::askToStop(const QString &title, const QString &warning, const QString &question)
+{
+    m_pConfirmation->SetTexts(title, warning, question);
+    showCentred(m_pConfirmation);
 }
 
 void MainWindow::OnStop()
 {
     if (isOnShow(navigation::CloneDiskScreen))
-        m_pConfirmation->SetTexts(tr("Stop Clone"), tr("Cloning can not be resumed from the current stage."),
-                                  tr("Do you wish to abort the cloning?"));
+        askToStop(tr("Stop Clone"), tr("Cloning can not be resumed from the current stage."),
+                  tr("Do you wish to abort the cloning?"));
     else if (isOnShow(navigation::ScanDiskScreen))
-        m_pConfirmation->SetTexts(tr("Stop Scan"), tr("Scan can not be resumed from the current stage."),
-                                  tr("Do you wish to abort the scan?"));
-    else
-        return;
-    style::centreOn(m_pConfirmation, geometry());
-    m_pConfirmation->show();
+        askToStop(tr("Stop Scan"), tr("Scan can not be resumed from the current stage."),
+                  tr("Do you wish to abort the scan?"));
 }
 
 void MainWindow::OnStopCancel()
@@ -241,7 +219,7 @@ void MainWindow::OnStopConfirm()
     g_Jobs.stop();
     if (m_pCloneDiskPage->isVisible()) {
         setLook(navigation::CloneDiskScreen, Look::Selected);
-        button(navigation::CloneDiskScreen)->setDown(true);
+        m_apNavigation[navigation::CloneDiskScreen]->setDown(true);
         m_screen = navigation::CloneDiskScreen;
     } else if (g_bStopRequested) {
         StopConfirm();
@@ -250,19 +228,9 @@ void MainWindow::OnStopConfirm()
     m_pConfirmation->hide();
 }
 
-void MainWindow::OnBackTestHoverImage()
+void MainWindow::setBackLook(Look look)
 {
-    dress(BackTestButton, BackImages, 1);
-}
-
-void MainWindow::OnBackTestNormalImage()
-{
-    dress(BackTestButton, BackImages, 0);
-}
-
-void MainWindow::OnBackTestReleaseImage()
-{
-    OnBackTestNormalImage();
+    dress(BackTestButton, BackImages, static_cast<std::size_t>(look));
 }
 
 void MainWindow::OnBackTestPressImage()
@@ -270,7 +238,7 @@ void MainWindow::OnBackTestPressImage()
     m_abSwitchTarget.fill(false);
     if (g_Jobs.resultOpen()) {
         m_bBackRequested = true;
-        askForSwitch();
+        showCentred(m_pScanSwitch);
         return;
     }
     OnShowScanDisk();

@@ -6,6 +6,7 @@
 #include "reports/SmartReport.h"
 #include "smart/DiskFigures.h"
 #include "smart/SmartGlobals.h"
+#include "smart/ToolInvocation.h"
 #include "state/Globals.h"
 #include "ui/screens/SmartStatus.h"
 #include "ui/widgets/Images.h"
@@ -18,23 +19,16 @@
 namespace
 {
 
-struct FileQuestion {
-    QString title;
-    QString name;
-    QString filter;
-    QString ending;
-};
-
 /// The path to write to; empty where nobody wants one.
-QString askForPath(QWidget *parent, const FileQuestion &question)
+QString askForPath(QWidget *parent, const QString &title, const QString &name, const QString &filter,
+                   const QString &ending)
 {
-    const QString chosen =
-        QFileDialog::getSaveFileName(parent, question.title, question.name, question.filter);
-    const QString path = savedPath(chosen, question.name, question.ending);
+    const QString chosen = QFileDialog::getSaveFileName(parent, title, name, filter);
+    const QString path = savedPath(chosen, name, ending);
     if (path == chosen || !QFileInfo::exists(path))
         return path;
     // The dialog has asked about the name without its ending only.
-    return QFileDialog::getSaveFileName(parent, question.title, path, question.filter);
+    return QFileDialog::getSaveFileName(parent, title, path, filter);
 }
 
 } // namespace
@@ -55,8 +49,8 @@ void MainWindow::SavePDFReport()
                                images::Family::Folder);
     report.watermark = images::path(QStringLiteral("img_WaterMark.png"), images::Family::Folder);
     report.icon = QStringLiteral(":/images/Halvane48.png");
-    const QString path = askForPath(this, {tr("Save File"), suggestedReportName(report),
-                                           QStringLiteral("*.pdf"), QStringLiteral(".pdf")});
+    const QString path = askForPath(this, tr("Save File"), suggestedReportName(report),
+                                    QStringLiteral("*.pdf"), QStringLiteral(".pdf"));
     if (path.isEmpty())
         return;
     if (!report.nvme) {
@@ -81,8 +75,8 @@ void MainWindow::TakeScreenshot()
     m_pSmartStatusPage->render(&painter, QPoint(0, 0), QRegion(),
                                QWidget::DrawWindowBackground | QWidget::DrawChildren);
     painter.end();
-    const QString path = askForPath(nullptr, {QStringLiteral("Save File"), fileNamePart(g_strGraphTitle),
-                                              QStringLiteral("JPEG (*.jpg);"), QStringLiteral(".jpg")});
+    const QString path = askForPath(nullptr, QStringLiteral("Save File"), fileNamePart(g_strGraphTitle),
+                                    QStringLiteral("JPEG (*.jpg);"), QStringLiteral(".jpg"));
     if (!path.isEmpty())
         writePicture(path, picture);
 }

@@ -15,6 +15,8 @@
 #include <QEvent>
 #include <QTimer>
 
+#include <initializer_list>
+
 namespace
 {
 
@@ -29,13 +31,12 @@ void MainWindow::OnShowScanDisk()
 {
     g_Jobs.closeResults();
     // Set on the way to the start of a scan.
-    if (m_pScanDiskPage->radioButton->isChecked() && g_bScanStarted)
+    if (!m_pScanDiskPage->ChosenTest() && g_bScanStarted)
         m_pScanDiskPage->ShowCounters();
     else
         m_pScanDiskPage->ShowChooser();
     DriveCombobox->setEnabled(!g_Jobs.runs(Job::Clone));
     showScreen(navigation::ScanDiskScreen);
-    m_pScanDiskPage->radioButton->setChecked(true);
     refreshScanPage();
 }
 
@@ -46,7 +47,7 @@ void MainWindow::refreshScanPage()
     const DiskNode *node = findPhysicalDisk(DriveCombobox->currentData().toInt());
     m_pScanDiskPage->FillDisk(node);
     // The panel of a refused test still names the previous disk.
-    if (m_pScanDiskPage->m_pSelfTestPanel->isVisible() && !g_bSelfTestResultOpen)
+    if (m_pScanDiskPage->IsSelfTestShown() && !g_bSelfTestResultOpen)
         ChooseScanType();
     // The results of a scan are those of its disk alone.
     if (g_bScanResultOpen && chosenDisk() == m_scannedDisk)
@@ -73,7 +74,7 @@ void MainWindow::keepScannedDisk()
     if (index < 0 || DriveCombobox->itemText(index) != m_scannedDisk.second)
         return;
     DriveCombobox->setCurrentIndex(index);
-    m_pCloneDiskPage->SourceComboBox->setCurrentIndex(index);
+    m_pCloneDiskPage->ChooseSource(index);
 }
 
 void MainWindow::OnScanStart()
@@ -82,7 +83,7 @@ void MainWindow::OnScanStart()
         return;
     // Without a disk there is nothing that could fail.
     LookUpDisk(DriveCombobox->currentIndex());
-    if (m_pScanDiskPage->radioButton->isChecked() && !g_App.m_pCurrentDisk)
+    if (!m_pScanDiskPage->ChosenTest() && !g_App.m_pCurrentDisk)
         return;
     OnCheckRadioButton();
     if (g_bTestPending) {
@@ -99,14 +100,7 @@ void MainWindow::startSurfaceScan()
     // this scan.
     if (m_pTestTimer)
         m_pTestTimer->stop();
-    setMenuEntriesEnabled(false);
-    for (QWidget *idle : std::initializer_list<QWidget *>{ScanButton, BackTestButton, StopTestButton})
-        idle->hide();
-    StopButton->show();
-    DriveCombobox->setEnabled(false);
-    for (int i = 0; i < navigation::ScreenCount; ++i)
-        setNavigationEnabled(static_cast<Screen>(i), false);
-    selectButton(navigation::ScanDiskScreen);
+    lockShell(navigation::ScanDiskScreen);
     m_pScanDiskPage->StartScan(sectorsOf(g_App.m_pCurrentDisk));
     keepAwake();
     m_scannedDisk = chosenDisk();
@@ -116,14 +110,7 @@ void MainWindow::startSurfaceScan()
 
 void MainWindow::OnFinishScanDisk()
 {
-    setMenuEntriesEnabled(true);
-    enableNavigation();
-    // There is nothing left to be stopped.
-    m_pConfirmation->hide();
-    StopButton->hide();
-    ScanButton->setEnabled(true);
-    DriveCombobox->setEnabled(true);
-    keepAwake();
+    releaseShell();
     // If the disk did not open, or does not any more, the lists are stale.
     if (g_bScanFailed)
         g_bListsStale = true;
@@ -139,7 +126,46 @@ void MainWindow::OnFinishScanDisk()
     selectButton(navigation::ScanDiskScreen);
 }
 
-/// The menu entries that lead away from a scan. Entries without a function stay grey.
+/// The shell while a scan or a clone runs: nothing leads away from it but the Stop button.
+void MainWindow::lockShell(Screen screen)
+{
+    setMenuEntriesEnabled(false);
+    for (QWidget *idle : std::initializer_list<QWidget *>{ScanButton, CloneButton, ScreenshotButton,
+                                                          BackTestButton, StopTestButton})
+        idle->hide();
+    StopButton->show();
+    DriveCombobox->setEnabled(false);
+    enableNavigation(false);
+    selectButton(screen);
+}
+
+/// And behind it.
+void MainWindow::releaseShell()
+{
+    setMenuEntriesEnabled(true);
+    keepAwake();
+    // There is nothing left to be stopped.
+    m_pConfirmation->hide();
+    StopButton->hide();
+    ScanButton->setEnabled(true);
+    DriveCombobox->setEnabled(true);
+    enableNavigation();
+}
+
+/// A button that is disabled or enabled stays down or up.
+void MainWindow::setNavigationEnabled(Screen screen, bool enabled)
+{
+    m_apNavigation[screen]->setEnabled(enabled);
+    m_apNavigation[screen]->setDown(isOnShow(screen));
+}
+
+void MainWindow::enableNavigation(bool enabled)
+{
+    for (const Screen screen : Screens)
+        setNavigationEnabled(screen, enabled);
+}
+
+/// The menu entries that lead away from a job. Entries without a function stay grey.
 void MainWindow::setMenuEntriesEnabled(bool enabled)
 {
     if (enabled) {

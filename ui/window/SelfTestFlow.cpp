@@ -2,12 +2,12 @@
 #include "ui/window/MainWindow.h"
 
 #include "smart/SmartGlobals.h"
+#include "smart/ToolInvocation.h"
 #include "state/Globals.h"
 #include "ui/dialogs/MessageDialog.h"
 #include "ui/screens/ScanDisk.h"
 #include "ui/screens/SelfTestPanel.h"
 #include "ui/widgets/MyButton.h"
-#include "ui/widgets/Style.h"
 
 #include <QTimer>
 
@@ -16,59 +16,57 @@ namespace
 
 constexpr int TickInterval = 1000;
 
-std::optional<SelfTestKind> chosenKind(const ScanDisk &page)
-{
-    if (page.radioButton_2->isChecked())
-        return SelfTestKind::Short;
-    if (page.radioButton_3->isChecked())
-        return SelfTestKind::Extended;
-    return std::nullopt;
 }
-
-} // namespace
 
 void MainWindow::OnCheckRadioButton()
 {
     // The names of the disk come from the lists, which a refresh is rebuilding.
     if (g_bListsLoading)
         return;
-    if (!chosenKind(*m_pScanDiskPage)) {
+    if (!m_pScanDiskPage->ChosenTest()) {
         g_Jobs.planScan();
         g_Jobs.end(Job::SelfTest);
         OnShowScanDisk();
         return;
     }
     g_bTestPending = true;
-    m_pScanDiskPage->m_pSelfTestPanel->SetDisk(QString(), QString());
-    m_pScanDiskPage->ShowSelfTest();
+    m_shownTest = {};
+    m_pScanDiskPage->ShowSelfTest(m_shownTest);
     g_Jobs.end(Job::SelfTest);
     DetailsforSelftest();
     OnCheckShortTest1();
 }
 
-void MainWindow::OnCheckShortTest1()
+void MainWindow::DetailsforSelftest()
 {
-    SelfTestPanel *panel = m_pScanDiskPage->m_pSelfTestPanel;
-    panel->SetProgress(0);
-    panel->SetDisk(g_strSelfTestModel, g_strSelfTestSerial);
-    m_selfTest.prepare(chosenKind(*m_pScanDiskPage));
-    panel->SetTestName(currentSelfTest());
-    if (m_selfTest.canRun()) {
-        showTestScreen();
-        return;
+    g_nCurrentDiskIndex = currentComboDisk();
+    const int comboIndex = DriveCombobox->currentIndex();
+    LookUpDisk(comboIndex);
+    if (const WmicDiskRecord *record =
+            findWmicDisk(static_cast<std::uint32_t>(g_nCurrentDiskIndex + PhysicalDriveBase))) {
+        g_strSelfTestModel = record->szSmartModel.text();
+        g_strSelfTestSerial = record->szSmartSerial.text();
+        m_pDiskStatusPage->showModelAndSerial(g_strSelfTestModel, g_strSelfTestSerial);
     }
-    connect(m_pSelfTestNotSupported, &MessageDialog::dismissed, this,
-            &MainWindow::OnCloseSelfTestNotSupported, Qt::UniqueConnection);
-    style::centreOn(m_pSelfTestNotSupported, geometry());
-    m_pSelfTestNotSupported->show();
-    // The way back to the choice of a test.
-    BackTestButton->show();
+    g_strSelfTestDevice = selfTestDevice(g_nCurrentDiskIndex, comboIndex);
 }
 
-void MainWindow::showTestScreen()
+void MainWindow::OnCheckShortTest1()
 {
+    m_selfTest.prepare(m_pScanDiskPage->ChosenTest());
+    m_shownTest.kind = currentSelfTest();
+    m_shownTest.model = g_strSelfTestModel;
+    m_shownTest.serial = g_strSelfTestSerial;
+    m_shownTest.percent = 0;
+    m_pScanDiskPage->TellSelfTest(m_shownTest);
+    if (!m_selfTest.canRun()) {
+        showCentred(m_pSelfTestNotSupported);
+        // The way back to the choice of a test.
+        BackTestButton->show();
+        return;
+    }
     DriveCombobox->setEnabled(false);
-    m_pScanDiskPage->ShowSelfTest();
+    m_pScanDiskPage->ShowSelfTest(m_shownTest);
     showTestButtons(true);
     g_bOnTestScreen = true;
     m_pScanDiskPage->show();
@@ -88,42 +86,30 @@ void MainWindow::showTestButtons(bool running)
     BottamLabel->show();
 }
 
-/// A button that is disabled or enabled stays down or up.
-void MainWindow::setNavigationEnabled(Screen screen, bool enabled)
-{
-    button(screen)->setEnabled(enabled);
-    button(screen)->setDown(isOnShow(screen));
-}
-
-void MainWindow::enableNavigation()
-{
-    for (int i = 0; i < navigation::ScreenCount; ++i)
-        setNavigationEnabled(static_cast<Screen>(i), true);
-}
-
 void MainWindow::OnStartShortSelfTest()
 {
-    SelfTestPanel *panel = m_pScanDiskPage->m_pSelfTestPanel;
     const bool canRun = m_selfTest.canRun();
     const bool started = m_selfTest.start();
     keepAwake();
     m_scannedDisk = chosenDisk();
     setNavigationEnabled(navigation::ScanDiskScreen, !canRun);
-    panel->SetStatus(std::nullopt);
-    panel->SetElapsed(QString());
-    panel->SetPollingMinutes(std::nullopt);
-    panel->SetRemainingMinutes(std::nullopt);
-    m_pScanDiskPage->ShowSelfTest();
-    panel->ShowTimes(canRun);
+    m_shownTest.status.reset();
+    m_shownTest.elapsed.clear();
+    m_shownTest.pollingMinutes.reset();
+    m_shownTest.remainingMinutes.reset();
+    m_shownTest.progress = true;
+    m_shownTest.times = canRun;
+    m_pScanDiskPage->ShowSelfTest(m_shownTest);
     selectButton(navigation::ScanDiskScreen);
     if (!canRun)
         return;
     if (!started) {
-        showTestEnd(selftest::Told::NoStatus);
+        takeTestEnd(selftest::Told::NoStatus);
+        m_pScanDiskPage->TellSelfTest(m_shownTest);
         return;
     }
-    panel->SetPollingMinutes(currentPollingMinutes());
-    panel->SetRemainingMinutes(currentPollingMinutes());
+    m_shownTest.pollingMinutes = currentPollingMinutes();
+    m_shownTest.remainingMinutes = currentPollingMinutes();
     CheckShortTestStatus1();
     if (!g_Jobs.runs(Job::SelfTest))
         return;
@@ -138,58 +124,62 @@ void MainWindow::CheckShortTestStatus1()
 {
     const SelfTest::Tick tick = m_selfTest.tick();
     if (tick.aborted)
-        showTestOver(selftest::Told::Aborted);
+        takeTestOver(selftest::Told::Aborted);
     for (const SelfTest::Step &step : tick.steps)
-        showTestStep(step);
+        takeTestStep(step);
     if (tick.opened)
-        m_pScanDiskPage->m_pSelfTestPanel->SetElapsed(m_selfTest.elapsedText());
+        m_shownTest.elapsed = m_selfTest.elapsedText();
+    m_pScanDiskPage->TellSelfTest(m_shownTest);
 }
 
-void MainWindow::showTestStep(const SelfTest::Step &step)
+void MainWindow::takeTestStep(const SelfTest::Step &step)
 {
     if (step.told != selftest::Told::InProgress) {
-        showTestEnd(step.told);
+        takeTestEnd(step.told);
         return;
     }
-    SelfTestPanel *panel = m_pScanDiskPage->m_pSelfTestPanel;
-    panel->SetProgress(step.percent);
-    for (const Screen other : {navigation::DiskStatusScreen, navigation::SmartStatusScreen,
-                               navigation::DiskPartitionScreen, navigation::CloneDiskScreen})
-        setNavigationEnabled(other, false);
+    for (const Screen screen : Screens) {
+        if (screen != navigation::ScanDiskScreen)
+            setNavigationEnabled(screen, false);
+    }
     StopTestButton->show();
+    m_shownTest.percent = step.percent;
+    m_shownTest.status = step.told;
     if (step.minutes)
-        panel->SetRemainingMinutes(*step.minutes);
-    panel->SetStatus(step.told);
+        m_shownTest.remainingMinutes = step.minutes;
 }
 
-void MainWindow::showTestEnd(selftest::Told how)
+void MainWindow::takeTestEnd(selftest::Told how)
 {
-    SelfTestPanel *panel = m_pScanDiskPage->m_pSelfTestPanel;
     m_pConfirmation->hide();
-    panel->SetProgress(100);
-    panel->SetRemainingMinutes(0);
-    panel->ShowTimes(false);
-    showTestOver(how);
+    m_shownTest.percent = 100;
+    m_shownTest.remainingMinutes = 0;
+    m_shownTest.times = false;
+    takeTestOver(how);
 }
 
 /// Of a test that was aborted the times go on showing.
-void MainWindow::showTestOver(selftest::Told how)
+void MainWindow::takeTestOver(selftest::Told how)
 {
     if (m_pTestTimer)
         m_pTestTimer->stop();
     enableNavigation();
     showTestButtons(false);
-    m_pScanDiskPage->m_pSelfTestPanel->ShowProgress(false);
-    m_pScanDiskPage->m_pSelfTestPanel->SetStatus(how);
+    m_shownTest.progress = false;
+    m_shownTest.status = how;
 }
 
 void MainWindow::OnClickStopTestButton()
 {
     g_bStopRequested = true;
-    m_pConfirmation->SetTexts(tr("Stop Scan"), tr("Self-test can not be resumed from the current stage."),
-                              tr("Do you wish to abort the Self-test?"));
-    style::centreOn(m_pConfirmation, geometry());
-    m_pConfirmation->show();
+    askToStop(tr("Stop Scan"), tr("Self-test can not be resumed from the current stage."),
+              tr("Do you wish to abort the Self-test?"));
+}
+
+void MainWindow::OnCloseSelfTestNotSupported()
+{
+    m_pSelfTestNotSupported->hide();
+    DriveCombobox->setEnabled(true);
 }
 
 void MainWindow::ChooseScanType()

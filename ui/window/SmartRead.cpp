@@ -2,7 +2,9 @@
 #include "ui/window/MainWindow.h"
 
 #include "inventory/CommandRunner.h"
-#include "inventory/Companion.h"
+#include "smart/AttributeGraph.h"
+#include "smart/AttributeHistory.h"
+#include "smart/AttributeRows.h"
 #include "smart/DiskFigures.h"
 #include "smart/SmartGlobals.h"
 #include "smart/Temperature.h"
@@ -13,31 +15,20 @@
 #include "state/SettingsRules.h"
 #include "state/SettingsStore.h"
 #include "state/StartArgument.h"
-#include "ui/screens/CloneDisk.h"
-#include "ui/screens/DiskPartition.h"
-#include "ui/screens/DiskStatus.h"
 #include "ui/screens/PageLook.h"
-#include "ui/screens/SmartStatus.h"
 #include "ui/widgets/Images.h"
-#include "ui/widgets/SmartChartView.h"
-#include "ui/widgets/Style.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QMovie>
-#include <QTreeWidget>
+#include <QTreeWidgetItem>
 
 namespace
 {
 
-void showPercent(QLabel *label, bool known, const QString &percent)
-{
-    label->setText(known ? percent : MainWindow::tr("Not Supported"));
-}
-
-QString interfaceOrDefault(const QString &text)
-{
-    return text.isEmpty() ? MainWindow::tr("ATA Disk") : text;
-}
+constexpr int NameColumn = 1;
+constexpr int AtaKeyColumn = 7;
+constexpr int NvmeKeyColumn = 3;
 
 } // namespace
 
@@ -61,9 +52,7 @@ void MainWindow::takeUpChosenDisk()
         return;
     m_pDiskStatusPage->clearDisk();
     m_pSmartStatusPage->ClearDisk();
-    clearPartitions();
-    m_pDiskPartitionPage->FillPartitionHeader();
-    m_pDiskPartitionPage->ShowSizes();
+    m_pDiskPartitionPage->ClearVolumes();
     for (QLabel *value : {SerialNumValLabel, InterfaceTypeLabel, CapacityValLabel, ResultLabel})
         value->clear();
     showWaitingTiles();
@@ -77,11 +66,12 @@ void MainWindow::clearIdentityTexts()
 
 void MainWindow::showWaitingTiles()
 {
-    m_pDiskStatusPage->tempValueLbl->setText(waitingTemperatureText(SettingsStore().text(key::TempValue)));
     g_strHealthText = QStringLiteral("0%");
     g_strPerformanceText = QStringLiteral("0%");
-    m_pDiskStatusPage->healthValueLbl->setText(g_strHealthText);
-    m_pDiskStatusPage->performanceValueLbl->setText(g_strPerformanceText);
+    m_pDiskStatusPage->showTile(DiskStatus::Temperature,
+                                waitingTemperatureText(SettingsStore().text(key::TempValue)));
+    m_pDiskStatusPage->showTile(DiskStatus::Health, g_strHealthText);
+    m_pDiskStatusPage->showTile(DiskStatus::Performance, g_strPerformanceText);
     for (QLabel *summary : {SerialNumLabel, SerialNumValLabel, InterfaceTypeLabel, CapacityValLabel,
                             SmartStatusLabel, ResultLabel})
         summary->hide();
@@ -103,7 +93,7 @@ void MainWindow::RefreshSelectedDisk()
     if (isOnShow(navigation::DiskStatusScreen)) {
         startRead();
     } else if (isOnShow(navigation::SmartStatusScreen)) {
-        m_pSmartStatusPage->m_pAttributeTree->clear();
+        m_pSmartStatusPage->ClearRows();
         startRead();
     } else if (isOnShow(navigation::ScanDiskScreen)) {
         refreshScanPage();
@@ -113,9 +103,15 @@ void MainWindow::RefreshSelectedDisk()
         if (startargument::asksForClone(g_strStartArgument))
             OnCloneDiskPressImage();
     } else if (isOnShow(navigation::DiskPartitionScreen)) {
-        m_pDiskPartitionPage->FillPartitionHeader();
-        ShowPartitions(BitLockerMark::AsWritten);
+        ShowPartitions(QStringLiteral("(BitLocker)"));
     }
+}
+
+void MainWindow::ShowPartitions(const QString &mark)
+{
+    // The refresh's end shows them anew.
+    if (!g_bListsLoading)
+        m_pDiskPartitionPage->ShowVolumes(mark);
 }
 
 void MainWindow::startRead()
@@ -185,87 +181,63 @@ void MainWindow::OnInitializeSmart()
     leaveBusy();
 }
 
-void MainWindow::initializeSmartStatus()
+/// Takes in the report that the reader thread has written, and gives its temperature in °C.
+int MainWindow::takeReading()
 {
     takeReportIn(g_strSmartReportPath);
     g_bReportPending = false;
     const int celsius = GetDiskTemperature();
+    // The report that may be saved tells it.
+    g_strTemperatureText = loadTemperatureText(celsius, SettingsStore().text(key::TempValue));
+    return celsius;
+}
+
+void MainWindow::initializeSmartStatus()
+{
+    const int celsius = takeReading();
     // A drive that fails its own check has attributes, too, so it is rated.
     if (celsius != 0)
         g_bSmartAvailable = true;
     ComputePerformance();
     ComputeHealth();
-
-    LookUpDisk(DriveCombobox->currentIndex());
-    const DiskNode *node = g_App.m_pCurrentDisk;
-    const WmicDiskRecord *record = node ? findWmicDisk(node->nId) : nullptr;
-    // The report that may be saved from here tells it.
-    g_strTemperatureText = loadTemperatureText(celsius, SettingsStore().text(key::TempValue));
     g_bSmartAvailable = celsius != 0;
-    m_pSmartStatusPage->m_pChartView->setVisible(g_bSmartAvailable);
-    m_pSmartStatusPage->ShowResult(overallResult(g_bSmartAvailable, celsius, g_driveVerdict));
-
-    showSmartHeading();
-    const QString interfaceText = interfaceOrDefault(record ? record->szInterface.text() : QString());
-    m_pSmartStatusPage->ShowInterface(interfaceText);
-    InterfaceTypeLabel->setText(interfaceText);
-    if (record)
-        m_pSmartStatusPage->ShowSerial(record->szSmartSerial.text());
-    if (node && node->nKind == FixedDisk && !g_strSerialNumber.trimmed().isEmpty())
-        m_pSmartStatusPage->ShowSerial(g_strSerialNumber.trimmed());
-    if (node)
-        m_pSmartStatusPage->ShowCapacity(node->szSize.text());
-    m_pSmartStatusPage->ShowGraphTitle(QString());
-    m_pSmartStatusPage->m_pAttributeTree->clear();
+    LookUpDisk(DriveCombobox->currentIndex());
+    m_pSmartStatusPage->ShowReading(overallResult(g_bSmartAvailable, celsius, g_driveVerdict));
+    InterfaceTypeLabel->setText(m_pSmartStatusPage->InterfaceText());
     FillSmartTable();
-}
-
-void MainWindow::showSmartHeading()
-{
-    m_pSmartStatusPage->m_pHeadingLabel->setText(tr("SMART Status"));
-    m_pSmartStatusPage->m_pHeadingLabel->setFont(style::semiBold(12));
-    m_pSmartStatusPage->m_pHeadingLabel->setStyleSheet(QStringLiteral("QLabel {color : white;}"));
-    m_pSmartStatusPage->m_pHeadingResultLabel->setFont(style::semiBold(13, true));
-    m_pSmartStatusPage->m_pHeadingResultLabel->setStyleSheet(QStringLiteral("QLabel {color : white;}"));
 }
 
 void MainWindow::initializeDiskStatus()
 {
-    takeReportIn(g_strSmartReportPath);
-    g_bReportPending = false;
-    const int celsius = GetDiskTemperature();
+    const int celsius = takeReading();
     if (!SettingsStore().flag(key::ShowTrayIcon))
         companion::killAfterRead();
     else
         companion::ensureRunning();
-    showTemperature(celsius);
+    m_pDiskStatusPage->showTile(DiskStatus::Temperature,
+                                celsius < 1 ? tr("Not Supported") : g_strTemperatureText,
+                                loadTemperaturePicture(celsius));
     g_bSmartAvailable = celsius != 0;
     ComputePerformance();
     ComputeHealth();
     ShowDiskLifeDetails();
 }
 
-void MainWindow::showTemperature(int celsius)
-{
-    g_strTemperatureText = loadTemperatureText(celsius, SettingsStore().text(key::TempValue));
-    m_pDiskStatusPage->tempValueLbl->setText(celsius < 1 ? tr("Not Supported") : g_strTemperatureText);
-    m_pDiskStatusPage->showPicture(DiskStatus::Picture::Temperature, loadTemperaturePicture(celsius));
-}
-
 void MainWindow::ComputePerformance()
 {
     ratePerformance();
-    showPercent(m_pDiskStatusPage->performanceValueLbl, g_bSmartAvailable, g_strPerformanceText);
-    m_pDiskStatusPage->showPicture(DiskStatus::Picture::Performance,
-                                   performancePicture(g_nPerformancePercent, scale::percent()));
+    m_pDiskStatusPage->showTile(DiskStatus::Performance,
+                                g_bSmartAvailable ? g_strPerformanceText : tr("Not Supported"),
+                                performancePicture(g_nPerformancePercent, scale::percent()));
 }
 
 void MainWindow::ComputeHealth()
 {
     rateHealth();
-    showPercent(m_pDiskStatusPage->healthValueLbl, g_bSmartAvailable && g_bHealthKnown, g_strHealthText);
+    const bool shown = g_bSmartAvailable && g_bHealthKnown;
     const std::optional<int> percent = g_bHealthKnown ? std::optional<int>(g_nHealthPercent) : std::nullopt;
-    m_pDiskStatusPage->showPicture(DiskStatus::Picture::Health, healthPicture(percent, scale::percent()));
+    m_pDiskStatusPage->showTile(DiskStatus::Health, shown ? g_strHealthText : tr("Not Supported"),
+                                healthPicture(percent, scale::percent()));
 }
 
 void MainWindow::ShowDiskLifeDetails()
@@ -275,13 +247,14 @@ void MainWindow::ShowDiskLifeDetails()
     const DiskIdentityTexts texts =
         identityTextsAfterRead(node, record, g_nCurrentDiskIndex,
                                {g_strModelName, g_strSerialNumber, g_strFirmware, g_bSmartAvailable});
-    m_pDiskStatusPage->showIdentity(texts);
     if (texts.summary)
         SerialNumValLabel->setText(*texts.summary);
     if (texts.interfaceText)
         g_strInterface = *texts.interfaceText;
     showOverallResult();
-    showLifeFields(node);
+    if (DiskStatus::lifeKindOf(node) == LifeKind::Known)
+        updateLifeFigures();
+    m_pDiskStatusPage->showDetails(texts, LoadSeparator);
 }
 
 void MainWindow::showOverallResult()
@@ -289,14 +262,35 @@ void MainWindow::showOverallResult()
     pagelook::showResult(ResultLabel, overallResult(g_bSmartAvailable, GetDiskTemperature(), g_driveVerdict));
 }
 
-void MainWindow::showLifeFields(const DiskNode *node)
+void MainWindow::FillSmartTable()
 {
-    const LifeKind kind =
-        lifeKind(g_App.m_bNVMe, node && node->nKind == RemovableDisk, !g_smartTable.rows.isEmpty());
-    if (kind == LifeKind::Known)
-        updateLifeFigures();
-    m_pDiskStatusPage->showLife(lifeTexts(kind, g_lifeFigures));
-    m_pDiskStatusPage->showVerdict(g_driveVerdict);
+    const std::vector<AttributeRow> rows = SmartStatus::CurrentRows();
+    std::vector<HistoryValue> values;
+    for (const AttributeRow &row : rows)
+        values.push_back({row.key, row.historyValue});
+    recordHistory(g_strSerialNumber, QDateTime::currentDateTime(), values);
+    if (QTreeWidgetItem *first = m_pSmartStatusPage->ShowRows(rows))
+        GraphWithAttributes(first, 0);
+}
+
+void MainWindow::GraphWithAttributes(QTreeWidgetItem *item, int)
+{
+    // During a refresh only its thread may use the identity texts; at its end the table is filled anew.
+    if (!item || g_bListsLoading)
+        return;
+    const HistoryPaths paths = historyPaths(serialOfGraph());
+    const GraphKind kind = g_App.m_bNVMe ? GraphKind::Nvme : GraphKind::Ata;
+    const QString key = item->text(g_App.m_bNVMe ? NvmeKeyColumn : AtaKeyColumn);
+    bool opened = false;
+    const std::vector<QString> dates = readHistoryDates(paths.dates, &opened);
+    if (!opened)
+        return;
+    const auto model =
+        graphModel(kind, key, dates, readHistoryValues(paths.values, dates, key), QDate::currentDate());
+    if (!model)
+        return;
+    g_strGraphTitle = tr("Graph : ") + item->text(NameColumn);
+    m_pSmartStatusPage->ShowGraph(g_strGraphTitle, *model);
 }
 
 void MainWindow::GetSmartTemprature()
@@ -309,25 +303,11 @@ void MainWindow::GetSmartTemprature()
     const QString unit = SettingsStore().text(key::TempValue);
     RefreshTemperatureReport(currentComboDisk());
     const int celsius = GetDiskTemperature();
-    m_pDiskStatusPage->tempValueLbl->setText(pollTemperatureText(celsius, unit));
-    m_pDiskStatusPage->showPicture(DiskStatus::Picture::Temperature, pollTemperaturePicture(celsius));
+    m_pDiskStatusPage->showTile(DiskStatus::Temperature, pollTemperatureText(celsius, unit),
+                                pollTemperaturePicture(celsius));
 }
 
 void MainWindow::OnSystemShutDown()
 {
     RunSilent("shutdown /s", "");
-}
-
-void MainWindow::DetailsforSelftest()
-{
-    g_nCurrentDiskIndex = currentComboDisk();
-    const int comboIndex = DriveCombobox->currentIndex();
-    LookUpDisk(comboIndex);
-    if (const WmicDiskRecord *record =
-            findWmicDisk(static_cast<std::uint32_t>(g_nCurrentDiskIndex + PhysicalDriveBase))) {
-        g_strSelfTestModel = record->szSmartModel.text();
-        g_strSelfTestSerial = record->szSmartSerial.text();
-        m_pDiskStatusPage->showModelAndSerial(g_strSelfTestModel, g_strSelfTestSerial);
-    }
-    g_strSelfTestDevice = selfTestDevice(g_nCurrentDiskIndex, comboIndex);
 }
