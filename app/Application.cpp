@@ -82,8 +82,8 @@ int readStartSettings()
     return store.text(key::LanguageType).toInt();
 }
 
-/// The setting names the temp folder of the program's last run. That goes now, and others could make one of
-/// its name: the companion would run what lies there.
+/// The setting names the temp folder of the last run, which is gone. Others could make a folder of that
+/// name, and the companion would run what lies there.
 void forgetTool()
 {
     SettingsStore store;

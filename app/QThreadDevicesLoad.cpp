@@ -12,8 +12,8 @@ void QThreadDevicesLoad::prepare()
 {
     const QString tool = QStringLiteral("smartctl64Bit.exe");
     g_App.m_strSmartctlPath = tempFile(tool);
-    // From the program's own folder: whatever lies where it was started, such as a pipe, could hold the
-    // start.
+    // Read from the program's own folder. In the working folder the name may be that of a pipe, and the
+    // start would wait for it.
     const QByteArray content = ownfiles::contents(g_strApplicationFolder + QLatin1Char('/') + tool);
     QFile copy;
     if (!content.isEmpty() && ownfiles::makeFile(&copy, nativePath(g_App.m_strSmartctlPath)))

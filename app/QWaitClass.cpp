@@ -63,8 +63,8 @@ QWaitClass::QWaitClass()
     InitTextLabel->setStyleSheet(QStringLiteral("QLabel { color : black;}"));
     InitTextLabel->setFont(style::font(10));
     startFadeIn();
-    // The main window takes its place from the splash, so a place that the window manager chose will not
-    // do.
+    // The main window takes the splash's place later, so that must not be left to the window
+    // manager.
     style::centreOn(this, style::availableArea(QCursor::pos()));
     if (DeviceNotifier *notifier = Platform::current().deviceNotifier())
         connect(notifier, &DeviceNotifier::deviceChange, this, &QWaitClass::onDeviceChange);

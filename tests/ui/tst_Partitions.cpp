@@ -1,13 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "smart/DeviceLoad.h"
-#include "state/GlobalApp.h"
-#include "state/Globals.h"
-#include "state/Languages.h"
-#include "tests/platform/DescribedFolder.h"
-#include "ui/screens/DiskPartition.h"
+#include "tests/ui/WindowFixture.h"
 #include "ui/widgets/DonutChartView.h"
-#include "ui/widgets/MyButton.h"
-#include "ui/window/MainWindow.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -15,7 +8,6 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTranslator>
-#include <QtTest>
 
 #include <algorithm>
 #include <cmath>
@@ -106,13 +98,13 @@ QByteArray description()
 
 } // namespace
 
-/// Disk Partition in the real window, on a PC whose disks have different numbers of volumes.
-class tst_Partitions : public QObject
+/// Disk Partition in the real window, on a PC with disks of all numbers of volumes.
+class tst_Partitions : public QObject, private WindowFixture
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase();
+    void initTestCase() { setUpProgram(); }
     void init();
     void cleanup();
 
@@ -129,9 +121,8 @@ private slots:
     void onlyWhatShowsIsPainted();
 
 private:
-    void makeWindow();
-    void select(int number);
-    void press(const char *button);
+    void showPage();
+    void selectDisk(int number);
     void setLanguageChange();
     QStringList texts(const char *label) const;
     DiskPartition *page() const { return m_pWindow->findChild<DiskPartition *>(); }
@@ -139,62 +130,34 @@ private:
     QScrollArea *scrollArea() const { return page()->findChild<QScrollArea *>(); }
     QWidget *host() const { return scrollArea()->widget(); }
 
-    std::unique_ptr<DescribedFolder> m_pFolder;
-    std::unique_ptr<MainWindow> m_pWindow;
     MarkingTranslator m_translator;
 };
-
-void tst_Partitions::initTestCase()
-{
-    Q_INIT_RESOURCE(images);
-    g_App.m_bUse64BitTool = true;
-}
 
 void tst_Partitions::init()
 {
     g_App.m_fScale = 1.0F;
     languages::setFlag(0);
-    m_pFolder = std::make_unique<DescribedFolder>();
-    auto pc = m_pFolder->open(description());
-    g_App.m_strSystemFolder = pc->GetSystemDirectoryW();
-    Platform::install(std::move(pc));
-    g_App.m_strSettingsPath = QStringLiteral("HKEY_LOCAL_MACHINE\\Software\\Velmora Halvane for Windows");
-    g_strStartArgument.clear();
-    deviceload::loadLists();
-    makeWindow();
+    startPc(description());
+    showPage();
 }
 
 void tst_Partitions::cleanup()
 {
     QCoreApplication::removeTranslator(&m_translator);
-    m_pWindow.reset();
-    m_pFolder.reset();
+    tearDown();
 }
 
-void tst_Partitions::makeWindow()
+void tst_Partitions::showPage()
 {
-    m_pWindow = std::make_unique<MainWindow>();
-    m_pWindow->show();
-    auto *busy = m_pWindow->findChild<QFrame *>(QStringLiteral("GifFrame"));
-    QTRY_VERIFY_WITH_TIMEOUT(!busy->isVisible(), 10000);
+    makeWindow();
+    waitForRead();
     press("DiskPartitionButton");
 }
 
-void tst_Partitions::select(int number)
+void tst_Partitions::selectDisk(int number)
 {
-    auto *combo = m_pWindow->findChild<QComboBox *>(QStringLiteral("DriveCombobox"));
-    const int index = combo->findData(PhysicalDriveBase + number);
-    QVERIFY(index >= 0);
-    combo->setCurrentIndex(index);
-    emit combo->activated(index);
+    select(child<QComboBox>("DriveCombobox")->findData(PhysicalDriveBase + number));
     QCoreApplication::processEvents();
-}
-
-void tst_Partitions::press(const char *button)
-{
-    auto *pressed = m_pWindow->findChild<MyButton *>(QLatin1String(button));
-    QTest::mousePress(pressed, Qt::LeftButton);
-    QTest::mouseRelease(pressed, Qt::LeftButton);
 }
 
 QStringList tst_Partitions::texts(const char *label) const
@@ -218,9 +181,9 @@ void tst_Partitions::everyDisk()
 {
     QFETCH(int, number);
     const int count = volumeCounts.at(number);
-    // Disk 3 first, so that nothing of an earlier choice of this disk shows.
-    select(3);
-    select(number);
+    // Both ways past the disk, so that it does not rest on what showed before.
+    selectDisk(3);
+    selectDisk(number);
     QCOMPARE(texts("m_apVolumeName").size(), count);
     const QVariantList sizes = ring()->sliceValues();
     QCOMPARE(sizes.size(), std::max(count, 1));
@@ -239,7 +202,7 @@ void tst_Partitions::everyDisk()
 
 void tst_Partitions::frames()
 {
-    select(0);
+    selectDisk(0);
     QCOMPARE(texts("m_apPartitionTitle"), (QStringList{"Partition", "Partition", "Partition"}));
     QCOMPARE(texts("m_apVolumeName"), (QStringList{"C: (NTFS)(BitLocker)", "D: (NTFS)", "E: (NTFS)"}));
     QCOMPARE(texts("m_apSpaceValue"),
@@ -257,7 +220,7 @@ void tst_Partitions::frames()
 void tst_Partitions::healthOfTheOwnDisk()
 {
     for (int number = 0; number < volumeCounts.size(); ++number) {
-        select(number);
+        selectDisk(number);
         QStringList words;
         for (int i = 0; i < volumeCounts.at(number); ++i)
             words.append(number == 2 ? QStringLiteral("Not Healthy") : QStringLiteral("Healthy"));
@@ -267,11 +230,11 @@ void tst_Partitions::healthOfTheOwnDisk()
 
 void tst_Partitions::nothingStaysOfTheLastDisk()
 {
-    select(3);
+    selectDisk(3);
     QScrollBar *bar = scrollArea()->verticalScrollBar();
     bar->setValue(bar->maximum());
     QVERIFY(bar->value() > 0);
-    select(0);
+    selectDisk(0);
     QCOMPARE(bar->value(), 0);
     QVERIFY(host()->visibleRegion().boundingRect().top() == 0);
 }
@@ -289,8 +252,8 @@ void tst_Partitions::allFramesCanBeScrolledTo()
     QFETCH(float, scaleFactor);
     m_pWindow.reset();
     g_App.m_fScale = scaleFactor;
-    makeWindow();
-    select(3);
+    showPage();
+    selectDisk(3);
     int bottom = 0;
     for (const QFrame *frame : host()->findChildren<QFrame *>(QStringLiteral("m_apFrame"))) {
         QVERIFY(frame->y() > bottom);
@@ -310,7 +273,7 @@ void tst_Partitions::allFramesCanBeScrolledTo()
     };
     turn();
     QCOMPARE(bar->value(), bar->maximum());
-    select(0);
+    selectDisk(0);
     turn();
     QCOMPARE(bar->value(), 0);
     // All three show without it.
@@ -331,8 +294,8 @@ void tst_Partitions::language()
     QCOMPARE(texts("m_apSpaceValue").first(), QStringLiteral("25 GB~ Free of 100 GB"));
     QCOMPARE(texts("m_apPercentage").first(), QStringLiteral("25~% Free"));
     QCOMPARE(texts("m_apSpaceTitle").first(), QStringLiteral("~Space"));
-    // The choice of a disk writes the mark as it is.
-    select(0);
+    // A selection writes the mark as it is.
+    selectDisk(0);
     QCOMPARE(texts("m_apVolumeName").first(), QStringLiteral("C: (NTFS)(BitLocker)"));
 
     // While another screen shows, the frames do not change.
@@ -347,14 +310,14 @@ void tst_Partitions::language()
 void tst_Partitions::korean()
 {
     languages::setFlag(7);
-    select(0);
+    selectDisk(0);
     QCOMPARE(texts("m_apSpaceValue").first(), QStringLiteral("25 GB Free of 100 GB Available"));
     languages::setFlag(0);
 }
 
 void tst_Partitions::theRing()
 {
-    select(0);
+    selectDisk(0);
     DonutChartView *view = ring();
     QCOMPARE(view->m_listRegions.size(), 3);
     const int side = std::min(view->width() / 2, view->height());

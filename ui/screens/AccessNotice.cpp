@@ -2,6 +2,7 @@
 #include "ui/screens/AccessNotice.h"
 
 #include "platform/Platform.h"
+#include "ui/screens/PageLook.h"
 #include "ui/widgets/Images.h"
 #include "ui/widgets/Style.h"
 
@@ -36,10 +37,8 @@ AccessNotice::AccessNotice(QWidget *parent) : Page(parent)
 QLabel *AccessNotice::addText(const char *name, const QFont &font)
 {
     constexpr int TextWidth = 520;
-    auto *label = new QLabel(this);
-    label->setObjectName(QLatin1String(name));
-    label->setFont(font);
-    label->setStyleSheet(style::GreyLabel);
+    auto *label = pagelook::named(new QLabel(this), name);
+    pagelook::styleLabels({label}, font, style::GreyLabel);
     label->setTextFormat(Qt::PlainText);
     label->setAlignment(Qt::AlignCenter);
     label->setWordWrap(true);

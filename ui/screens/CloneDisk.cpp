@@ -209,11 +209,6 @@ void CloneDisk::OnSetProgressValue(qlonglong position, qlonglong remaining)
     m_pRoundProgressBar->repaint();
 }
 
-void CloneDisk::OnUpdateTime()
-{
-    TimeLabel->setText(m_strLastMinutes);
-}
-
 void CloneDisk::ShowMessage(const clonemessages::Message &message)
 {
     m_pMessageBox->OfferSaving(false);

@@ -73,7 +73,7 @@ public slots:
     void OnCloningFailed();
     void OnCloningAbort();
     void OnOk();
-    void OnUpdateTime();
+    void OnUpdateTime() { TimeLabel->setText(m_strLastMinutes); }
     void OnSaveLostSectors();
 
 protected:

@@ -222,7 +222,7 @@ QFrame *DiskPartition::addFrame(const QStringList &texts)
 
 void DiskPartition::addFrames(const QString &letter, const QString &mark)
 {
-    // Of the last letter alone, so the height that goes by it is that of one volume.
+    // Begins anew with each letter, so the height goes by the frames of the last one.
     m_nFrameCount = 0;
     const QVector<int> disks = partitiontexts::disksOfVolume(letter, g_App.m_diskList);
     for (const LogicalDiskRecord &volume : g_logicalDisks) {
@@ -275,11 +275,6 @@ void DiskPartition::ShowVolumes(const QString &mark)
     m_pFrameHost->setMinimumHeight(m_nFrameCount * HeightPerFrame);
     m_pFrameHost->layout()->activate();
     m_pScrollArea->verticalScrollBar()->setValue(0);
-}
-
-void DiskPartition::RepaintRing()
-{
-    m_pDonutView->update();
 }
 
 void DiskPartition::retranslate()

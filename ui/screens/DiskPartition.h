@@ -8,7 +8,6 @@
 
 #include <QList>
 
-class DonutChartView;
 class QScrollArea;
 class QVBoxLayout;
 
@@ -32,7 +31,7 @@ public:
     /// Shows the head of the selected disk, and no volumes.
     void ClearVolumes();
     /// Paints the ring again, which does not paint itself in a minimised window.
-    void RepaintRing();
+    void RepaintRing() { m_pDonutView->update(); }
 
 protected:
     void retranslate() override;

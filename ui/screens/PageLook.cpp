@@ -58,7 +58,7 @@ void alignNames(std::initializer_list<QLabel *> labels)
     int widest = 0;
     for (QLabel *label : labels) {
         label->ensurePolished();
-        // The hint of a label is never below the width that the texts before asked for.
+        // A label's size hint is at least its minimum width, so the old one goes first.
         label->setMinimumWidth(0);
         widest = std::max(widest, label->sizeHint().width());
     }

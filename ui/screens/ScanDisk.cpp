@@ -17,7 +17,7 @@
 namespace
 {
 
-/// The semibold cut of the plain family, for the words that head a value or a text.
+/// The plain font in semibold, for captions.
 QFont strongFont()
 {
     QFont font = style::font(10);
@@ -31,6 +31,11 @@ void styleChoice(QFrame *card, bool chosen)
                             .arg(chosen ? QStringLiteral("#f3f8fe") : QStringLiteral("#ffffff"),
                                  chosen ? QStringLiteral("#2a81e5") : QStringLiteral("#dfe5eb"))
                             .arg(style::px(8)));
+}
+
+qint64 sectorsOf(const DiskNode *node)
+{
+    return node && node->pDetails ? static_cast<qint64>(node->pDetails->nTotalSectors) : 0;
 }
 
 } // namespace
@@ -52,7 +57,7 @@ ScanDisk::ScanDisk(QWidget *parent) : Page(parent)
     connectThread();
     styleChooser();
     styleCounters();
-    showCounts();
+    clearCounts();
     setTimeCaptions();
     FillDisk(nullptr);
     ShowChooser();
@@ -118,12 +123,10 @@ void ScanDisk::setTimeCaptions()
     TimeElapsedLbl->setText(tr("Time Elapsed"));
 }
 
-void ScanDisk::showCounts()
+void ScanDisk::showBlockSize()
 {
     constexpr qlonglong SectorSize = 512;
     constexpr qlonglong Megabyte = 1048576;
-    BadBlkValLbl->setText(QString::number(m_i64BadSectors));
-    ProcessedVal->setText(QString::number(m_i64Processed));
     BlockSizeValLbl->setText(m_i64BlockStep == 0
                                  ? QStringLiteral("0")
                                  : QString::number(m_i64BlockStep * SectorSize / Megabyte) + tr(" MB"));
@@ -131,10 +134,10 @@ void ScanDisk::showCounts()
 
 void ScanDisk::clearCounts()
 {
-    m_i64BadSectors = 0;
-    m_i64Processed = 0;
+    BadBlkValLbl->setText(QStringLiteral("0"));
+    ProcessedVal->setText(QStringLiteral("0"));
     m_i64BlockStep = 0;
-    showCounts();
+    showBlockSize();
 }
 
 std::optional<SelfTestKind> ScanDisk::ChosenTest() const
@@ -165,46 +168,30 @@ void ScanDisk::ShowChooser()
     radioButton->setChecked(true);
 }
 
-void ScanDisk::ShowCounters()
-{
-    showPart(frame_4);
-}
-
 void ScanDisk::ShowSelfTest(const SelfTestPanel::Shown &shown)
 {
     TellSelfTest(shown);
     showPart(frame_3);
 }
 
-void ScanDisk::TellSelfTest(const SelfTestPanel::Shown &shown)
-{
-    m_pSelfTestPanel->Show(shown);
-}
-
-bool ScanDisk::IsSelfTestShown() const
-{
-    return m_pSelfTestPanel->isVisible();
-}
-
 void ScanDisk::FillDisk(const DiskNode *pNode)
 {
     DiskSizeValLbl->setText(pNode ? pNode->szSize.text() : QString());
-    const quint64 sectors = pNode && pNode->pDetails ? pNode->pDetails->nTotalSectors : 0;
-    TotalBlkValLbl->setText(QString::number(sectors));
+    TotalBlkValLbl->setText(QString::number(sectorsOf(pNode)));
 }
 
-void ScanDisk::PrepareMap(qint64 totalSectors)
+void ScanDisk::PrepareMap(const DiskNode *pNode)
 {
     constexpr int MapSizeHint = 1439;
-    g_nMapTotalSectors = totalSectors;
+    g_nMapTotalSectors = sectorsOf(pNode);
     m_pGridView->SetHint(MapSizeHint);
     m_pGridView->Reset();
     g_nMapStep = 0;
     m_pGridView->show();
-    m_pGridView->SetRange(0, totalSectors);
+    m_pGridView->SetRange(0, g_nMapTotalSectors);
 }
 
-void ScanDisk::StartScan(qint64 totalSectors)
+void ScanDisk::StartScan()
 {
     constexpr int UpdateInterval = 2000;
     constexpr int ScanMode = 3;
@@ -221,12 +208,12 @@ void ScanDisk::StartScan(qint64 totalSectors)
     m_clock.forgetEstimate();
     m_sinceStart.start();
     setTimeCaptions();
-    PrepareMap(totalSectors);
-    if (totalSectors > ScanBlockCount)
-        g_nMapStep = totalSectors / ScanBlockCount;
+    PrepareMap(g_App.m_pCurrentDisk);
+    if (g_nMapTotalSectors > ScanBlockCount)
+        g_nMapStep = g_nMapTotalSectors / ScanBlockCount;
     g_Jobs.begin(JobState::Job::Scan);
     m_bDropped = false;
-    m_scanThread.SetRange(0, totalSectors);
+    m_scanThread.SetRange(0, g_nMapTotalSectors);
     m_scanThread.StartScan(g_App.m_pCurrentDisk, ScanMode);
     clearCounts();
 }
@@ -245,16 +232,6 @@ void ScanDisk::DropResults()
     }
 }
 
-bool ScanDisk::IsResultUnread() const
-{
-    return m_pResultBox->isVisible();
-}
-
-void ScanDisk::HideResult()
-{
-    m_pResultBox->hide();
-}
-
 void ScanDisk::clearTimes()
 {
     for (QLabel *time : {ElapsedValLbl, RemTimeValLbl, TimeElapsedLbl, TimeReLbl})
@@ -266,7 +243,7 @@ void ScanDisk::CentreResult()
     style::centreOn(m_pResultBox, window()->geometry());
 }
 
-// A signal that is still on its way from a scan that was given up is not about the disk on show.
+// Signals of a scan that was given up may still arrive. They do not belong to the disk on show.
 void ScanDisk::ScanMaxProgressForDisk()
 {
     if (m_bDropped)
@@ -288,24 +265,20 @@ void ScanDisk::OnTotalBlockCount(qlonglong position, qlonglong, qlonglong step)
     if (m_bDropped)
         return;
     m_i64BlockStep = step;
-    m_i64Processed = position;
-    showCounts();
+    showBlockSize();
+    ProcessedVal->setText(QString::number(position));
 }
 
 void ScanDisk::OnExactBadSectorCount(qlonglong count)
 {
-    if (m_bDropped)
-        return;
-    m_i64BadSectors = count;
-    showCounts();
+    if (!m_bDropped)
+        BadBlkValLbl->setText(QString::number(count));
 }
 
 void ScanDisk::OnAllBlockProcessed(qlonglong i64ProcessedBlocks)
 {
-    if (m_bDropped)
-        return;
-    m_i64Processed = i64ProcessedBlocks;
-    showCounts();
+    if (!m_bDropped)
+        ProcessedVal->setText(QString::number(i64ProcessedBlocks));
 }
 
 void ScanDisk::OnSetRemainingTime(qlonglong sectors, qlonglong endSector)
@@ -361,5 +334,5 @@ void ScanDisk::retranslate()
     // A finished scan leaves the times empty, captions included.
     if (g_bJobRunning)
         setTimeCaptions();
-    showCounts();
+    showBlockSize();
 }

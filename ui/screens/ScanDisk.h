@@ -4,13 +4,13 @@
 #include "scan/QScanDriveThread.h"
 #include "scan/ScanClock.h"
 #include "state/DiskRecords.h"
+#include "ui/dialogs/InfoDialogClass.h"
 #include "ui/screens/SelfTestPanel.h"
 
 #include "ui_ScanDisk.h"
 
 #include <QElapsedTimer>
 
-class InfoDialogClass;
 class QGridView;
 class QTimer;
 
@@ -28,19 +28,19 @@ public:
     /// The self-test that is chosen; none where it is the surface scan.
     std::optional<SelfTestKind> ChosenTest() const;
     /// Shows the counters and the legend of a surface scan in place of the choice.
-    void ShowCounters();
+    void ShowCounters() { showPart(frame_4); }
     /// Shows the panel of a self-test in place of the choice.
     void ShowSelfTest(const SelfTestPanel::Shown &shown);
     /// Changes what the panel of a self-test shows, wherever the page stands.
-    void TellSelfTest(const SelfTestPanel::Shown &shown);
-    bool IsSelfTestShown() const;
+    void TellSelfTest(const SelfTestPanel::Shown &shown) { m_pSelfTestPanel->Show(shown); }
+    bool IsSelfTestShown() const { return m_pSelfTestPanel->isVisible(); }
     /// Shows the size and the sectors of a disk; nothing and "0" where it is null.
     void FillDisk(const DiskNode *pNode);
-    /// Makes the map an empty one of a disk with so many sectors.
-    void PrepareMap(qint64 totalSectors);
+    /// Makes the map an empty one of a disk, without a cell where it is null.
+    void PrepareMap(const DiskNode *pNode);
 
     /// Scans the selected disk from its begin. Only while no scan runs.
-    void StartScan(qint64 totalSectors);
+    void StartScan();
     /// Forgets how long the scan will take.
     void ForgetEstimate() { m_clock.forgetEstimate(); }
     /// Moves the result box over the window.
@@ -49,9 +49,9 @@ public:
     /// once, or when the scan that finds them has ended.
     void DropResults();
     /// Whether the box with a result waits to be read.
-    bool IsResultUnread() const;
+    bool IsResultUnread() const { return m_pResultBox->isVisible(); }
     /// Takes the box away unread.
-    void HideResult();
+    void HideResult() { m_pResultBox->hide(); }
 
 signals:
     /// The result of a scan shows.
@@ -82,7 +82,7 @@ private:
     void setTimeCaptions();
     void connectThread();
     void clearTimes();
-    void showCounts();
+    void showBlockSize();
     void clearCounts();
     void showResult(const QString &verdict);
 
@@ -92,8 +92,6 @@ private:
     QTimer *m_pUpdateTimer = nullptr; ///< of the latest scan
     ScanClock m_clock;
     QElapsedTimer m_sinceStart;
-    qlonglong m_i64BadSectors = 0;
-    qlonglong m_i64Processed = 0;
     qlonglong m_i64BlockStep = 0; ///< sectors of a block; 0 before a scan
     bool m_bDropped = false;      ///< the results of the scan under way were given up
     QScanDriveThread m_scanThread;

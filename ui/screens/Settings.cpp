@@ -9,7 +9,6 @@
 #include "ui/screens/PageLook.h"
 #include "ui/widgets/Images.h"
 #include "ui/widgets/Style.h"
-#include "update/HelpLinks.h"
 
 #include <QAction>
 #include <QCoreApplication>
@@ -265,11 +264,6 @@ void Settings::ChangeWarningTemperature()
     ShutDownSpinBox->setMinimum(limits.lowestShutDown);
     for (QSpinBox *threshold : {WarningSpinBox, ShutDownSpinBox})
         threshold->setSuffix(QStringLiteral(" °") + settings::unitText(unit));
-}
-
-void Settings::OnOpenSettingsHelp()
-{
-    links::openHelp(links::Topic::Settings);
 }
 
 void Settings::OnCheckUpdate()

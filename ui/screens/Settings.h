@@ -5,6 +5,7 @@
 #include "state/SettingsRules.h"
 #include "ui/dialogs/DialogFrame.h"
 #include "ui/screens/Page.h"
+#include "update/HelpLinks.h"
 
 #include <array>
 
@@ -50,7 +51,7 @@ public slots:
     void ChangeWarningTemperature();
     void OnCheckUpdate();
     /// Opens the help on the settings.
-    void OnOpenSettingsHelp();
+    void OnOpenSettingsHelp() { links::openHelp(links::Topic::Settings); }
     void CheckUpdate() { OnCheckUpdate(); }
     void OnNoUpdateAvailable();
     /// \name One door for each language, in the order of LanguageType

@@ -16,7 +16,6 @@
 #include <QCoreApplication>
 #include <QHeaderView>
 #include <QStyledItemDelegate>
-#include <QTreeWidget>
 
 namespace
 {
@@ -45,7 +44,7 @@ protected:
     }
 };
 
-/// One cell after the other, up to and with the hidden key.
+/// Fills all cells of a row; the hidden key is the last one.
 void fillItem(QTreeWidgetItem *item, const AttributeRow &row)
 {
     int column = 0;
@@ -155,7 +154,7 @@ void SmartStatus::FormatSmartTable()
         attributecolumns::headerFontPixels(scale::percent(), g_App.m_bItalian || g_App.m_bKorean);
     if (pixels > 0)
         sheet += QStringLiteral("QHeaderView{font-size : %1px}").arg(pixels);
-    // The padding is the margin that the cells below leave.
+    // The padding is as wide as the margin of the cells below.
     sheet += QStringLiteral("QHeaderView{background : #f8fafc}"
                             "QHeaderView::section{background : #f8fafc; border : none; "
                             "border-bottom : 1px solid #e0d0e0; padding-left : 3px; padding-right : 0px}");
@@ -176,11 +175,6 @@ QTreeWidgetItem *SmartStatus::ShowRows(const std::vector<AttributeRow> &rows)
     m_pAttributeTree->scrollToTop();
     m_pAttributeTree->setCurrentItem(m_pAttributeTree->topLevelItem(0));
     return m_pAttributeTree->topLevelItem(0);
-}
-
-void SmartStatus::ClearRows()
-{
-    m_pAttributeTree->clear();
 }
 
 void SmartStatus::ClearDisk()
@@ -212,11 +206,6 @@ void SmartStatus::ShowReading(OverallResult result)
     m_pHeadingLabel->setText(QCoreApplication::translate("MainWindow", "SMART Status"));
     showSelectedDisk();
     GraphLabel->clear();
-}
-
-QString SmartStatus::InterfaceText() const
-{
-    return InterfaceValLbl->text();
 }
 
 void SmartStatus::showSelectedDisk()

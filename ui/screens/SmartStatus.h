@@ -5,11 +5,10 @@
 
 #include "ui_SmartStatus.h"
 
-#include <QTreeWidgetItem>
+#include <QTreeWidget>
 
 #include <vector>
 
-class QTreeWidget;
 class SmartChartView;
 enum class OverallResult;
 struct AttributeRow;
@@ -32,13 +31,13 @@ public:
     static std::vector<AttributeRow> CurrentRows();
     /// Puts rows in the place of those that show. Selects and gives the first; null where there is none.
     QTreeWidgetItem *ShowRows(const std::vector<AttributeRow> &rows);
-    void ClearRows();
+    void ClearRows() { m_pAttributeTree->clear(); }
     /// Shows a graph in place of the one before.
     void ShowGraph(const QString &title, const GraphModel &graph);
     /// Shows what stands above rows and graph for the selected disk, whose report was read.
     void ShowReading(OverallResult result);
     /// What ShowReading() showed of the disk's interface.
-    QString InterfaceText() const;
+    QString InterfaceText() const { return InterfaceValLbl->text(); }
 
     /// Shows nothing of any disk.
     void ClearDisk();

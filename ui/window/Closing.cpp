@@ -15,9 +15,9 @@
 
 namespace
 {
-/// The system may sleep again: the continuous state alone ends what was asked for before.
+/// The continuous state alone: what was asked for before is over, and the system may sleep again.
 constexpr quint32 ExecutionContinuous = 0x80000000u;
-/// The same with system required and away mode required: it must not.
+/// With system required and away mode required: the system must not sleep.
 constexpr quint32 StayAwake = 0x80000041u;
 
 /// A window without a parent may lie behind the main window, where showing it again would change nothing.
@@ -30,7 +30,7 @@ void bringUp(QWidget *window)
 
 } // namespace
 
-/// To be called when a job has begun or ended: the machine does not sleep meanwhile.
+/// Call it when a job has begun or ended: the machine stays awake while one runs.
 void MainWindow::keepAwake()
 {
     Platform::current().SetThreadExecutionState(g_Jobs.mayClose() ? ExecutionContinuous : StayAwake);

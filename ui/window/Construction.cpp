@@ -46,7 +46,7 @@ Widget *makeHeaderWidget(QWidget *parent, const char *name, const QRect &place)
     return widget;
 }
 
-/// A header button is its picture; the hover twin of the picture bears the suffix "Hov".
+/// Shows a header button as its picture. The picture under the pointer has the suffix "Hov".
 void dressToolButton(QPushButton *button, const QString &image)
 {
     button->setFocusPolicy(Qt::NoFocus);
@@ -282,7 +282,7 @@ void MainWindow::retranslateShell()
 void MainWindow::connectNavigation()
 {
     using Slot = void (MainWindow::*)();
-    /// For pointer on the button, pointer gone, press and release.
+    /// By columns: pointer on the button, pointer gone, press, release.
     static const Slot table[navigation::ScreenCount][4] = {
         {&MainWindow::OnShowHoverImage, &MainWindow::OnShowNormalImage, &MainWindow::OnShowPressImage,
          &MainWindow::OnShowReleaseImageImage},

@@ -92,7 +92,7 @@ void MainWindow::OnRefresh()
     }
     g_bListsStale = false;
     m_bRefreshing = true;
-    // In the new lists its numbers may belong to other disks.
+    // The disk numbers in this question may belong to other disks in the new lists.
     m_pCloneWarning->hide();
     enterBusy(tr("Please wait. Application Refreshing..."));
     label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -109,7 +109,7 @@ void MainWindow::OnRefresh()
     m_refreshThread.startBehind(m_smartThread);
 }
 
-/// After a job: takes what went meanwhile out of the lists.
+/// After a job: reads the lists again if a disk went during it.
 void MainWindow::refreshBehindJob()
 {
     if (g_bListsStale)
@@ -126,7 +126,7 @@ void MainWindow::OnInitialize()
     FillDriveCombos();
     const int systemDisk = GetSystemDiskIndex().toInt();
     for (int i = 0; i < DriveCombobox->count(); ++i) {
-        // The plain disk number against the item's 128 + number: on a normal machine nothing matches, and the
+        // Compares the plain disk number with 128 + number: on a normal machine nothing matches, and the
         // selection stays at the first item.
         if (DriveCombobox->itemData(i).toInt() == systemDisk) {
             DriveCombobox->setCurrentIndex(i);

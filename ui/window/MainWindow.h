@@ -219,7 +219,7 @@ private:
     void refreshBehindJob();
     void selectCloneArgument();
     void refreshClonePage();
-    int currentComboDisk() const;
+    int currentComboDisk() const { return DriveCombobox->currentData().toInt() - PhysicalDriveBase; }
     /// @}
 
     /// \name Jobs

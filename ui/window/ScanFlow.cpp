@@ -17,20 +17,10 @@
 
 #include <initializer_list>
 
-namespace
-{
-
-qint64 sectorsOf(const DiskNode *node)
-{
-    return node && node->pDetails ? static_cast<qint64>(node->pDetails->nTotalSectors) : 0;
-}
-
-} // namespace
-
 void MainWindow::OnShowScanDisk()
 {
     g_Jobs.closeResults();
-    // Set on the way to the start of a scan.
+    // The start of a scan has set the flag just now.
     if (!m_pScanDiskPage->ChosenTest() && g_bScanStarted)
         m_pScanDiskPage->ShowCounters();
     else
@@ -56,7 +46,7 @@ void MainWindow::refreshScanPage()
         m_pScanDiskPage->HideResult();
     g_Jobs.closeScanResult();
     m_pScanDiskPage->DropResults();
-    m_pScanDiskPage->PrepareMap(sectorsOf(node));
+    m_pScanDiskPage->PrepareMap(node);
 }
 
 MainWindow::ChosenDisk MainWindow::chosenDisk() const
@@ -101,7 +91,7 @@ void MainWindow::startSurfaceScan()
     if (m_pTestTimer)
         m_pTestTimer->stop();
     lockShell(navigation::ScanDiskScreen);
-    m_pScanDiskPage->StartScan(sectorsOf(g_App.m_pCurrentDisk));
+    m_pScanDiskPage->StartScan();
     keepAwake();
     m_scannedDisk = chosenDisk();
     g_Jobs.openResult(Job::Scan);
@@ -139,7 +129,7 @@ void MainWindow::lockShell(Screen screen)
     selectButton(screen);
 }
 
-/// And behind it.
+/// The shell when the scan or the clone has ended.
 void MainWindow::releaseShell()
 {
     setMenuEntriesEnabled(true);

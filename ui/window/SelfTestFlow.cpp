@@ -61,7 +61,7 @@ void MainWindow::OnCheckShortTest1()
     m_pScanDiskPage->TellSelfTest(m_shownTest);
     if (!m_selfTest.canRun()) {
         showCentred(m_pSelfTestNotSupported);
-        // The way back to the choice of a test.
+        // It leads back to the choice of a test.
         BackTestButton->show();
         return;
     }
@@ -72,12 +72,12 @@ void MainWindow::OnCheckShortTest1()
     m_pScanDiskPage->show();
 }
 
-/// The buttons of the shell while a test is prepared or runs, and behind it. The stop button comes with the
+/// The buttons of the shell while a test is prepared or runs, and after it. The stop button comes with the
 /// first progress that the drive tells.
 void MainWindow::showTestButtons(bool running)
 {
     StopTestButton->hide();
-    // A test can outlive its screen, and another one's strip has no such buttons.
+    // The user may have left the screen of the test. Other screens do not show these buttons.
     const bool ended = !running && isOnShow(navigation::ScanDiskScreen);
     if (!running)
         keepAwake();
@@ -158,7 +158,7 @@ void MainWindow::takeTestEnd(selftest::Told how)
     takeTestOver(how);
 }
 
-/// Of a test that was aborted the times go on showing.
+/// A test that was aborted keeps its times on show.
 void MainWindow::takeTestOver(selftest::Told how)
 {
     if (m_pTestTimer)

@@ -32,11 +32,6 @@ constexpr int NvmeKeyColumn = 3;
 
 } // namespace
 
-int MainWindow::currentComboDisk() const
-{
-    return DriveCombobox->currentData().toInt() - PhysicalDriveBase;
-}
-
 void MainWindow::RequestSmartRead(int diskIndex)
 {
     // After a refresh the disk is read anyway.
@@ -109,7 +104,7 @@ void MainWindow::RefreshSelectedDisk()
 
 void MainWindow::ShowPartitions(const QString &mark)
 {
-    // The refresh's end shows them anew.
+    // They are shown again at the end of the refresh.
     if (!g_bListsLoading)
         m_pDiskPartitionPage->ShowVolumes(mark);
 }
@@ -121,7 +116,7 @@ void MainWindow::startRead()
     enterBusy(tr("Please wait. Getting SMART information..."));
 }
 
-/// Report and screenshot are of the disk that is chosen, or there are none.
+/// The buttons work only while the report of the chosen disk is known.
 void MainWindow::updateReportButtons()
 {
     ReportSaveButton->setEnabled(reportKnown());
@@ -187,7 +182,7 @@ int MainWindow::takeReading()
     takeReportIn(g_strSmartReportPath);
     g_bReportPending = false;
     const int celsius = GetDiskTemperature();
-    // The report that may be saved tells it.
+    // A report that is saved later holds this text.
     g_strTemperatureText = loadTemperatureText(celsius, SettingsStore().text(key::TempValue));
     return celsius;
 }
