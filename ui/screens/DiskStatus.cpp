@@ -2,7 +2,6 @@
 #include "ui/screens/DiskStatus.h"
 
 #include "smart/SmartGlobals.h"
-#include "smart/TilePicture.h"
 #include "state/DiskIdentityTexts.h"
 #include "state/GlobalApp.h"
 #include "state/Globals.h"
@@ -218,7 +217,7 @@ void DiskStatus::showDetails(const DiskIdentityTexts &identity, const QString &s
     setIfAny(SectorValLbl, identity.sectors);
 
     const DiskNode *node = findPhysicalDisk(PhysicalDriveBase + g_nCurrentDiskIndex);
-    const LifeTexts life = lifeTexts(lifeKindOf(node), storedLifeFigures(), separator);
+    const LifeTexts life = lifeTexts(lifeKindOf(node), g_lifeFigures, separator);
     DiskLifeValue->setText(life.life);
     PowerOnTimeValue->setText(life.powerOn);
     StartStopValue->setText(life.startStop);
@@ -270,11 +269,11 @@ void DiskStatus::retranslate()
     if (g_bReportPending)
         return;
     if (!g_bSmartAvailable) {
-        showTile(Temperature, tr("Not Supported"), TilePicture::Same);
-        showTile(Performance, tr("Not Supported"), TilePicture::Same);
+        showTile(Temperature, tr("Not Supported"));
+        showTile(Performance, tr("Not Supported"));
     }
     if (!g_bSmartAvailable || !g_bHealthKnown)
-        showTile(Health, tr("Not Supported"), TilePicture::Same);
+        showTile(Health, tr("Not Supported"));
     const DiskNode *node = findPhysicalDisk(PhysicalDriveBase + g_nCurrentDiskIndex);
     const WmicDiskRecord *record = node ? findWmicDisk(node->nId) : nullptr;
     showDetails(identityTextsAfterLanguageChange(node, record, g_nCurrentDiskIndex), RetranslateSeparator);

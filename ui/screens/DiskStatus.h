@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "smart/TilePicture.h"
 #include "ui/screens/Page.h"
 
 #include "ui_DiskStatus.h"
@@ -9,7 +10,6 @@
 
 class QGridLayout;
 enum class LifeKind;
-enum class TilePicture;
 struct DiskIdentityTexts;
 struct DiskNode;
 
@@ -24,7 +24,7 @@ public:
 
     enum Tile { Temperature, Performance, Health };
     /// Shows the value of a tile and its picture.
-    void showTile(Tile tile, const QString &value, TilePicture picture);
+    void showTile(Tile tile, const QString &value, TilePicture picture = TilePicture::Same);
 
     /// Which life figures a disk has: null as a fixed disk.
     static LifeKind lifeKindOf(const DiskNode *node);

@@ -4,7 +4,7 @@
 #include "scan/QScanDriveThread.h"
 #include "scan/ScanClock.h"
 #include "state/DiskRecords.h"
-#include "ui/dialogs/InfoDialogClass.h"
+#include "ui/dialogs/MessageDialog.h"
 #include "ui/screens/SelfTestPanel.h"
 
 #include "ui_ScanDisk.h"

@@ -6,7 +6,6 @@
 #include "smart/Temperature.h"
 #include "state/SettingsStore.h"
 #include "ui/dialogs/AboutDlg.h"
-#include "ui/dialogs/ManualCheck.h"
 #include "ui/dialogs/QCheckUpdate.h"
 #include "ui/widgets/Style.h"
 
@@ -74,7 +73,7 @@ void MainWindow::OnSetSmartSettings()
         Platform::current().CreateLogonTask(companionTask());
         companion::ensureRunning();
     }
-    SettingsStore().writeNumber(key::ShowTrayIcon, tray ? 1 : 0);
+    SettingsStore().write(key::ShowTrayIcon, tray ? 1 : 0);
     if (!tray) {
         Platform::current().DeleteLogonTask(companion::taskName());
         companion::kill();
