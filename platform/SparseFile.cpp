@@ -4,7 +4,6 @@
 #include "platform/OwnFiles.h"
 
 #include <QByteArray>
-#include <QFileInfo>
 
 #include <algorithm>
 #include <cstring>
@@ -16,7 +15,6 @@
 #else
 #include <cerrno>
 #include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 #endif
 
@@ -161,16 +159,6 @@ bool resize(const QString &path, qint64 size)
     }
     allowHoles(file);
     return file.size() == size || file.resize(size);
-}
-
-qint64 allocated(const QString &path)
-{
-#ifdef Q_OS_WIN
-    return QFileInfo(path).size();
-#else
-    struct stat status = {};
-    return ::stat(QFile::encodeName(path).constData(), &status) == 0 ? qint64{status.st_blocks} * 512 : 0;
-#endif
 }
 
 bool copy(const QString &source, const QString &target, qint64 size)

@@ -11,9 +11,6 @@ namespace sparse
 /// Makes the file, or cuts or extends it, so that it has `size` bytes; what is added is a hole.
 bool resize(const QString &path, qint64 size);
 
-/// The bytes that a file takes on the disk; its size where the system does not tell. 0 if it is missing.
-qint64 allocated(const QString &path);
-
 /// Copies the first `size` bytes of a file. Holes stay holes; a part behind the source's end becomes one.
 /// The target appears only when the copy is whole.
 bool copy(const QString &source, const QString &target, qint64 size);

@@ -6,7 +6,6 @@
 #include "platform/linux/LinuxTools.h"
 #endif
 
-#include <QDeadlineTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
@@ -26,7 +25,6 @@ namespace
 {
 
 constexpr int ToolMilliseconds = 60000; ///< a tool that takes longer hangs
-constexpr int WatchMilliseconds = 50;
 constexpr qint64 SectorBytes = 512;
 constexpr int LongestTableLine = 512;
 
@@ -126,31 +124,9 @@ QString pathOf(const char *tool)
 #endif
 }
 
-/// The file that a tool writes to, and what it may add there: some write all over a disk, which a description
-/// can make as large as it likes.
-struct Target {
-    QString file;
-    qint64 *room;
-};
-
-/// False if the tool has to be ended.
-bool waitFor(QProcess *process, const Target &target)
-{
-    const qint64 before = sparse::allocated(target.file);
-    const QDeadlineTimer end(ToolMilliseconds);
-    bool ended = false;
-    qint64 added = 0;
-    while (!ended && !end.hasExpired() && added <= *target.room) {
-        ended = process->waitForFinished(WatchMilliseconds) || process->state() == QProcess::NotRunning;
-        added = std::max<qint64>(0, sparse::allocated(target.file) - before);
-    }
-    *target.room = std::max<qint64>(0, *target.room - added);
-    return ended;
-}
-
-/// Runs a tool on a file, if the machine has it. On success its output, else nothing; a failure is told of.
+/// Runs a tool, if the machine has it. On success its output, else nothing; a failure is told of.
 std::optional<QByteArray> run(const char *tool, const QStringList &arguments, const QByteArray &input,
-                              const QString &place, const Target &target)
+                              const QString &place)
 {
     const QString path = pathOf(tool);
     if (path.isEmpty()) {
@@ -163,7 +139,7 @@ std::optional<QByteArray> run(const char *tool, const QStringList &arguments, co
     process.start(path, arguments);
     process.write(input);
     process.closeWriteChannel();
-    const bool ended = waitFor(&process, target);
+    const bool ended = process.waitForFinished(ToolMilliseconds);
     if (!ended) {
         process.kill();
         process.waitForFinished();
@@ -172,16 +148,15 @@ std::optional<QByteArray> run(const char *tool, const QStringList &arguments, co
         return process.readAllStandardOutput();
     }
     qWarning("%s: %s: %s", qUtf8Printable(place), tool,
-             ended ? process.readAllStandardError().simplified().constData()
-                   : "takes too long or too much room");
+             process.readAllStandardError().simplified().constData());
     return std::nullopt;
 }
 
 /// The partitions of the image, by number.
-QHash<int, Place> partitionsOf(const Target &image, const QString &place)
+QHash<int, Place> partitionsOf(const QString &image, const QString &place)
 {
     QHash<int, Place> places;
-    const auto json = run("sfdisk", {QStringLiteral("--json"), image.file}, QByteArray(), place, image);
+    const auto json = run("sfdisk", {QStringLiteral("--json"), image}, QByteArray(), place);
     const QJsonObject table = QJsonDocument::fromJson(json.value_or(QByteArray()))
                                   .object()
                                   .value(QLatin1String("partitiontable"))
@@ -189,7 +164,7 @@ QHash<int, Place> partitionsOf(const Target &image, const QString &place)
     const QJsonArray rows = table.value(QLatin1String("partitions")).toArray();
     for (const QJsonValue &value : rows) {
         const QJsonObject row = value.toObject();
-        QString number = row.value(QLatin1String("node")).toString().mid(image.file.size());
+        QString number = row.value(QLatin1String("node")).toString().mid(image.size());
         number.remove(QLatin1Char('p')); // stands between two digits
         places.insert(number.toInt(), {static_cast<qint64>(row.value(QLatin1String("start")).toDouble()),
                                        static_cast<qint64>(row.value(QLatin1String("size")).toDouble())});
@@ -197,25 +172,25 @@ QHash<int, Place> partitionsOf(const Target &image, const QString &place)
     return places;
 }
 
-void makeInPlace(const Maker &maker, const FileSystem &system, const Place &at, const Target &image,
+void makeInPlace(const Maker &maker, const FileSystem &system, const Place &at, const QString &image,
                  const QString &place)
 {
     const QString kibibytes = QString::number(at.count / 2);
     const bool isFat = maker.arguments == &fatArguments;
     run(maker.tool,
-        maker.arguments(system, at) << image.file << (isFat ? kibibytes : kibibytes + QLatin1Char('k')),
-        QByteArray(), place, image);
+        maker.arguments(system, at) << image << (isFat ? kibibytes : kibibytes + QLatin1Char('k')),
+        QByteArray(), place);
 }
 
 /// For tools that take a whole file only.
-void makeBeside(const Maker &maker, const FileSystem &system, const Place &at, const Target &image,
+void makeBeside(const Maker &maker, const FileSystem &system, const Place &at, const QString &image,
                 const QString &place)
 {
-    const QString beside = image.file + QLatin1String(".fs");
+    const QString beside = image + QLatin1String(".fs");
     QFile::remove(beside);
     if (sparse::resize(beside, at.count * SectorBytes) &&
-        run(maker.tool, maker.arguments(system, at) << beside, QByteArray(), place, {beside, image.room}) &&
-        !sparse::copyInto(beside, image.file, at.start * SectorBytes)) {
+        run(maker.tool, maker.arguments(system, at) << beside, QByteArray(), place) &&
+        !sparse::copyInto(beside, image, at.start * SectorBytes)) {
         qWarning("%s: %s", qUtf8Printable(place), "the image cannot be written");
     }
     QFile::remove(beside);
@@ -267,20 +242,19 @@ bool isPlainName(const QString &name)
     return std::all_of(name.cbegin(), name.cend(), [](QChar c) { return c.isPrint() || c.isSurrogate(); });
 }
 
-void layOut(const Layout &layout, const QString &image, const QString &place, qint64 *room)
+void layOut(const Layout &layout, const QString &image, const QString &place)
 {
     // Nothing but a file is ever handed to these tools.
     if (layout.table.isEmpty() || !QFileInfo(image).isFile() || QFileInfo(image).isSymLink()) {
         return;
     }
-    const Target target{image, room};
     const QStringList arguments{QStringLiteral("--quiet"), QStringLiteral("--no-reread"),
                                 QStringLiteral("--no-tell-kernel"), image};
-    if (!run("sfdisk", arguments, layout.table, place + QLatin1String(".table"), target) ||
+    if (!run("sfdisk", arguments, layout.table, place + QLatin1String(".table")) ||
         layout.fileSystems.isEmpty()) {
         return;
     }
-    const QHash<int, Place> places = partitionsOf(target, place);
+    const QHash<int, Place> places = partitionsOf(image, place);
     for (int i = 0; i < layout.fileSystems.size(); ++i) {
         const FileSystem &system = layout.fileSystems.at(i);
         const Maker *maker = makerOf(system.type);
@@ -289,7 +263,7 @@ void layOut(const Layout &layout, const QString &image, const QString &place, qi
         if (at == places.constEnd()) {
             qWarning("%s: there is no partition %d", qUtf8Printable(key), system.partition);
         } else if (maker != nullptr) {
-            (maker->takesOffset ? makeInPlace : makeBeside)(*maker, system, *at, target, key);
+            (maker->takesOffset ? makeInPlace : makeBeside)(*maker, system, *at, image, key);
         }
     }
 }

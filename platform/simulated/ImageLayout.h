@@ -36,8 +36,7 @@ bool isPlainName(const QString &name);
 
 /// Puts table and file systems on `image`, a regular file that is all zeros. What the machine has no tool
 /// for is left out without a word; a tool that fails is told of on standard error, with `place`, the key of
-/// the layout in the description. A tool that would take more than `room` bytes of the user's disk is ended;
-/// what was taken is taken off. Blocking; any thread. Linux only, elsewhere it does nothing.
-void layOut(const Layout &layout, const QString &image, const QString &place, qint64 *room);
+/// the layout in the description. Blocking; any thread. Linux only, elsewhere it does nothing.
+void layOut(const Layout &layout, const QString &image, const QString &place);
 
 } // namespace simulated

@@ -97,7 +97,7 @@ bool RawDevices::makeImage(const Disk &disk, const QString &file, qint64 size)
     if (!sparse::resize(partial, size)) {
         return false;
     }
-    layOut(disk.layout, partial, disk.layoutKey, &m_layoutRoom);
+    layOut(disk.layout, partial, disk.layoutKey);
     return QFile::rename(partial, file);
 }
 

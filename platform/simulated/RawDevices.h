@@ -79,8 +79,7 @@ private:
     const PcDescription &m_pc;
     const Presence &m_presence;
     QString m_imageFolder;
-    QMutex m_mutex;                          ///< guards the table of handles and the making of images
-    qint64 m_layoutRoom = qint64{256} << 20; ///< bytes that the file systems of all images may still take
+    QMutex m_mutex; ///< guards the table of handles and the making of images
     QHash<Platform::RawHandle, std::shared_ptr<Device>> m_devices;
     Platform::RawHandle m_next = 1;
 };

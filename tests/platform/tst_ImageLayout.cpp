@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/IoControl.h"
-#include "platform/SparseFile.h"
 #include "tests/platform/DescribedFolder.h"
 
 #include <QJsonArray>
@@ -66,7 +65,6 @@ private slots:
     void imageOfTheStateIsKept();
     void refusedTable();
     void missingPartition();
-    void hugeDisk();
     void demoVolumesLieOnPartitions();
 };
 
@@ -171,21 +169,6 @@ void TestImageLayout::missingPartition()
         folder.path().toUtf8() + "/pc.json: disks[0].layout.fileSystems[0]: there is no partition 3";
     QTest::ignoreMessage(QtWarningMsg, warning.constData());
     QCOMPARE(bytesOfDisk(*pc, 2, 101 * MiB + 1080, 2), QByteArray("\x53\xEF"));
-}
-
-/// Its inode tables alone would take 160 GB.
-void TestImageLayout::hugeDisk()
-{
-    const DescribedFolder folder;
-    folder.add(QStringLiteral("t.sfdisk"), "label: gpt\nstart=2048, size=21474800000, type=L\n");
-    const auto pc =
-        folder.open(R"({"disks": [{"number": 2, "sectors": 21474836480, "layout": {"table": "t.sfdisk", )"
-                    R"("fileSystems": [{"partition": 1, "type": "ext2"}]}}]})");
-    const QByteArray warning = folder.path().toUtf8() + "/pc.json: disks[0].layout.fileSystems[0]: mke2fs: "
-                                                        "takes too long or too much room";
-    QTest::ignoreMessage(QtWarningMsg, warning.constData());
-    QVERIFY(!bytesOfDisk(*pc, 2, 0, 512).isNull());
-    QVERIFY(sparse::allocated(pc->imageFile(2)) < qint64{2} << 30);
 }
 
 void TestImageLayout::demoVolumesLieOnPartitions()
