@@ -31,6 +31,7 @@ CCreateDiskDriveList::CCreateDiskDriveList()
 
 void CCreateDiskDriveList::BuildDriveList()
 {
+    Platform::current().BeginListing();
     m_driveStrings = Platform::current().GetLogicalDriveStringsW();
     probeDisks();
     appendPhysicalNodes(m_fixed, FixedDisk);

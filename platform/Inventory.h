@@ -5,6 +5,8 @@
 #include <QStringList>
 #include <QVector>
 
+#include <algorithm>
+
 /// A PC as plain records: what the tools of platform/tools/ speak about. Linux fills it from the kernel, the
 /// simulated PC from its description. Values only, no handles; safe to copy between threads.
 namespace inventory
@@ -59,5 +61,13 @@ struct Machine {
     QVector<Partition> partitions;
     QStringList processes; ///< image names
 };
+
+/// The disk of that number; null if there is none.
+inline const Disk *diskOf(const Machine &machine, int number)
+{
+    const auto disk = std::find_if(machine.disks.cbegin(), machine.disks.cend(),
+                                   [number](const Disk &each) { return each.number == number; });
+    return disk == machine.disks.cend() ? nullptr : &*disk;
+}
 
 } // namespace inventory

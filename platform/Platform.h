@@ -96,6 +96,10 @@ public:
 
     /// \name Volumes
     /// @{
+    /// The begin of a new list of disks and volumes: what this object knows of the PC is read anew. Between
+    /// two calls a number means the same disk, and a letter the same volume. Does nothing where the system
+    /// itself gives them out.
+    virtual void BeginListing() {}
     /// The roots of all volumes, such as `C:\`.
     virtual QStringList GetLogicalDriveStringsW() = 0;
     /// False, with both texts empty, where there is no readable volume. Either pointer may be null.

@@ -111,9 +111,8 @@ bool writeAt(QFile &file, qint64 offset, const char *data, qint64 bytes)
     return file.seek(offset) && file.write(data, bytes) == bytes;
 }
 
-/// Copies one stretch to its place in the source plus `shift`. Blocks of zeros are skipped, as the target
-/// is a hole already.
-bool copyStretch(QFile &from, QFile &to, qint64 begin, qint64 end, qint64 shift)
+/// Copies one stretch to the same place. Blocks of zeros are skipped, as the target is a hole already.
+bool copyStretch(QFile &from, QFile &to, qint64 begin, qint64 end)
 {
     QByteArray buffer(static_cast<int>(granule * 16), Qt::Uninitialized);
     for (qint64 offset = begin; offset < end;) {
@@ -125,7 +124,7 @@ bool copyStretch(QFile &from, QFile &to, qint64 begin, qint64 end, qint64 shift)
         if (got <= 0) {
             return got == 0;
         }
-        if (!isZero(buffer.constData(), got) && !writeAt(to, offset + shift, buffer.constData(), got)) {
+        if (!isZero(buffer.constData(), got) && !writeAt(to, offset, buffer.constData(), got)) {
             return false;
         }
         offset += got;
@@ -133,13 +132,13 @@ bool copyStretch(QFile &from, QFile &to, qint64 begin, qint64 end, qint64 shift)
     return true;
 }
 
-bool copyData(QFile &from, QFile &to, qint64 size, qint64 shift)
+bool copyData(QFile &from, QFile &to, qint64 size)
 {
     const qint64 end = std::min(size, from.size());
     qint64 begin = 0;
     qint64 stop = 0;
     for (qint64 offset = 0; nextData(from, offset, end, &begin, &stop); offset = stop) {
-        if (!copyStretch(from, to, begin, stop, shift)) {
+        if (!copyStretch(from, to, begin, stop)) {
             return false;
         }
     }
@@ -169,21 +168,13 @@ bool copy(const QString &source, const QString &target, qint64 size)
     QFile to(partial);
     bool done = ownfiles::openRegular(&from, source, QIODevice::ReadOnly | QIODevice::Unbuffered) &&
                 resize(partial, size) && to.open(QIODevice::ReadWrite | QIODevice::Unbuffered) &&
-                copyData(from, to, size, 0);
+                copyData(from, to, size);
     to.close();
     done = done && QFile::rename(partial, target);
     if (!done) {
         QFile::remove(partial);
     }
     return done;
-}
-
-bool copyInto(const QString &source, const QString &target, qint64 offset)
-{
-    QFile from(source);
-    QFile to(target);
-    return from.open(QIODevice::ReadOnly | QIODevice::Unbuffered) &&
-           to.open(QIODevice::ReadWrite | QIODevice::Unbuffered) && copyData(from, to, from.size(), offset);
 }
 
 bool read(QFile &file, qint64 offset, char *data, qint64 bytes)

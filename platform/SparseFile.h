@@ -15,9 +15,6 @@ bool resize(const QString &path, qint64 size);
 /// The target appears only when the copy is whole.
 bool copy(const QString &source, const QString &target, qint64 size);
 
-/// Copies a whole file to an offset of another, where that must be a hole; holes stay holes.
-bool copyInto(const QString &source, const QString &target, qint64 offset);
-
 /// Reads exactly `bytes` at an offset. A range that lies in a hole is filled with zeros and not read, so
 /// holes cost next to nothing. Behind the end of the file there are zeros, too.
 bool read(QFile &file, qint64 offset, char *data, qint64 bytes);

@@ -40,6 +40,25 @@ QProcessEnvironment environmentOf(const User &user)
     return environment;
 }
 
+/// Starts a program with that user's rights, folders and session, and does not wait for its end.
+bool start(const User &user, const QString &program, const QStringList &arguments)
+{
+    QProcess process;
+    process.setProgram(linuxtools::find(QStringLiteral("setpriv")));
+    process.setArguments(QStringList{QStringLiteral("--reuid=%1").arg(user.id),
+                                     QStringLiteral("--regid=%1").arg(user.group),
+                                     QStringLiteral("--init-groups"), QStringLiteral("--inh-caps=-all"),
+                                     QStringLiteral("--"), program} +
+                         arguments);
+    process.setProcessEnvironment(environmentOf(user));
+    process.setWorkingDirectory(QStringLiteral("/"));
+    // What root's program was started with, such as a log of root's, is not for him.
+    process.setStandardInputFile(QProcess::nullDevice());
+    process.setStandardOutputFile(QProcess::nullDevice());
+    process.setStandardErrorFile(QProcess::nullDevice());
+    return !process.program().isEmpty() && process.startDetached();
+}
+
 } // namespace
 
 std::optional<User> loggedOn()
@@ -57,22 +76,13 @@ std::optional<User> loggedOn()
     return std::nullopt;
 }
 
-bool start(const User &user, const QString &program, const QStringList &arguments)
+bool open(const QString &target)
 {
-    QProcess process;
-    process.setProgram(linuxtools::find(QStringLiteral("setpriv")));
-    process.setArguments(QStringList{QStringLiteral("--reuid=%1").arg(user.id),
-                                     QStringLiteral("--regid=%1").arg(user.group),
-                                     QStringLiteral("--init-groups"), QStringLiteral("--inh-caps=-all"),
-                                     QStringLiteral("--"), program} +
-                         arguments);
-    process.setProcessEnvironment(environmentOf(user));
-    process.setWorkingDirectory(QStringLiteral("/"));
-    // What root's program was started with, such as a log of root's, is not for him.
-    process.setStandardInputFile(QProcess::nullDevice());
-    process.setStandardOutputFile(QProcess::nullDevice());
-    process.setStandardErrorFile(QProcess::nullDevice());
-    return !process.program().isEmpty() && process.startDetached();
+    const QString opener = linuxtools::find(QStringLiteral("xdg-open"));
+    if (opener.isEmpty())
+        return false;
+    const auto user = loggedOn();
+    return user ? start(*user, opener, {target}) : QProcess::startDetached(opener, {target});
 }
 
 } // namespace desktopuser

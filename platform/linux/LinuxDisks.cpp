@@ -9,7 +9,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
 
 #include <algorithm>
 #include <cerrno>
@@ -33,27 +32,6 @@ const QString SwapPlace = QStringLiteral("[SWAP]");
 
 /// The system runs from these folders, and from what is mounted below them.
 const char *const SystemFolders[] = {"/boot", "/efi", "/etc", "/nix", "/usr", "/var"};
-
-struct Ended {
-    bool well = false;
-    QByteArray output;
-};
-
-Ended runTool(const QString &name, const QStringList &arguments, const QByteArray &input = {})
-{
-    const QString program = linuxtools::find(name);
-    if (program.isEmpty())
-        return {};
-    QProcess process;
-    process.setStandardErrorFile(QProcess::nullDevice());
-    process.start(program, arguments);
-    process.write(input);
-    process.closeWriteChannel();
-    const QByteArray output = linuxtools::outputOf(&process);
-    const bool ended =
-        process.error() != QProcess::FailedToStart && process.exitStatus() == QProcess::NormalExit;
-    return {ended && process.exitCode() == 0, output};
-}
 
 void collect(const QJsonArray &devices, QStringList &places)
 {
@@ -91,8 +69,8 @@ QString holderIn(const QJsonArray &devices)
 
 QByteArray treeOf(const QString &node)
 {
-    return runTool(QStringLiteral("lsblk"), {QStringLiteral("--json"), QStringLiteral("--output"),
-                                             QStringLiteral("PATH,TYPE,MOUNTPOINTS"), node})
+    return linuxtools::run(QStringLiteral("lsblk"), {QStringLiteral("--json"), QStringLiteral("--output"),
+                                                     QStringLiteral("PATH,TYPE,MOUNTPOINTS"), node})
         .output;
 }
 
@@ -119,8 +97,8 @@ void tellKernel(const QString &node, bool forget)
 {
     if (!isBlockDevice(node))
         return;
-    runTool(QStringLiteral("blockdev"), {QStringLiteral("--rereadpt"), node});
-    runTool(QStringLiteral("partx"), {forget ? QStringLiteral("-d") : QStringLiteral("-u"), node});
+    linuxtools::run(QStringLiteral("blockdev"), {QStringLiteral("--rereadpt"), node});
+    linuxtools::run(QStringLiteral("partx"), {forget ? QStringLiteral("-d") : QStringLiteral("-u"), node});
 }
 
 QByteArray firstRecord(const QString &node)
@@ -136,7 +114,8 @@ DiskOutcome clean(const QString &node)
     if (use.kind != DiskUse::Free)
         return use.kind == DiskUse::System ? DiskOutcome::SystemDisk : DiskOutcome::InUse;
     const bool done =
-        runTool(QStringLiteral("wipefs"), {QStringLiteral("--all"), QStringLiteral("--force"), node}).well;
+        linuxtools::run(QStringLiteral("wipefs"), {QStringLiteral("--all"), QStringLiteral("--force"), node})
+            .well;
     if (done)
         tellKernel(node, true);
     return done ? DiskOutcome::Done : DiskOutcome::DeviceError;
@@ -148,7 +127,7 @@ bool partition(const QString &node, const QStringList &options, const QByteArray
                              QStringLiteral("--no-reread"), QStringLiteral("--no-tell-kernel"),
                              // An old file system at that place would show up again in the new partition.
                              QStringLiteral("--wipe-partitions"), QStringLiteral("always")};
-    return runTool(QStringLiteral("sfdisk"), always + options + QStringList{node}, script).well;
+    return linuxtools::run(QStringLiteral("sfdisk"), always + options + QStringList{node}, script).well;
 }
 
 DiskOutcome convertToMbr(const QString &node)
@@ -220,7 +199,7 @@ DiskUse release(const QString &node)
     // Inner mounts first.
     std::sort(places.begin(), places.end(), std::greater<>());
     for (const QString &place : qAsConst(places)) {
-        if (!runTool(QStringLiteral("umount"), {place}).well)
+        if (!linuxtools::run(QStringLiteral("umount"), {place}).well)
             return {DiskUse::Mounted, place};
     }
     const QStringList left = mountPoints(treeOf(node));
@@ -236,22 +215,15 @@ std::unique_ptr<RawDevice> open(const inventory::Disk &disk, bool writable)
     return swapped ? nullptr : std::move(device);
 }
 
-const inventory::Disk *Scripts::find(int disk) const
-{
-    const auto found = std::find_if(m_machine.disks.cbegin(), m_machine.disks.cend(),
-                                    [disk](const inventory::Disk &known) { return known.number == disk; });
-    return found == m_machine.disks.cend() ? nullptr : &*found;
-}
-
 bool Scripts::has(int disk)
 {
-    const inventory::Disk *known = find(disk);
+    const inventory::Disk *known = inventory::diskOf(m_machine, disk);
     return known && open(*known, false);
 }
 
 DiskOutcome Scripts::act(DiskAction action, int disk)
 {
-    const inventory::Disk &known = *find(disk);
+    const inventory::Disk &known = *inventory::diskOf(m_machine, disk);
     const QString node = known.node;
     if (action == DiskAction::Online)
         return DiskOutcome::AlreadyOnline;

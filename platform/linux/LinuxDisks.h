@@ -36,14 +36,12 @@ std::unique_ptr<RawDevice> open(const inventory::Disk &disk, bool writable);
 class Scripts : public tools::ScriptedDisks
 {
 public:
-    explicit Scripts(const inventory::Machine &machine) : m_machine(machine) {}
+    explicit Scripts(inventory::Machine machine) : m_machine(std::move(machine)) {}
 
     bool has(int disk) override;
     tools::DiskOutcome act(tools::DiskAction action, int disk) override;
 
 private:
-    const inventory::Disk *find(int disk) const;
-
     const inventory::Machine m_machine;
 };
 

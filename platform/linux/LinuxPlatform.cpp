@@ -6,22 +6,26 @@
 #include "platform/JsonSettings.h"
 #include "platform/NativePlatform.h"
 #include "platform/OwnFiles.h"
+#include "platform/linux/DesktopUser.h"
 #include "platform/linux/LinuxDisks.h"
+#include "platform/linux/LinuxMachine.h"
+#include "platform/linux/LinuxTools.h"
 #include "platform/linux/LogonEntry.h"
 
 #include <QCoreApplication>
+#include <QDesktopServices>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QProcess>
 #include <QScreen>
 #include <QSettings>
 #include <QSysInfo>
 #include <QThread>
+#include <QUrl>
 
 #include <cerrno>
-#include <cstddef>
-#include <cstring>
 #include <fcntl.h>
 #include <pwd.h>
 #include <sys/stat.h>
@@ -33,74 +37,16 @@ namespace
 constexpr quint32 ExecutionContinuous = 0x80000000u;
 constexpr quint32 ExecutionRequired = 0x00000043u; ///< system, display or away mode
 
-/// The geometry that is reported for every disk.
-constexpr quint32 TracksPerCylinder = 255;
-constexpr quint32 SectorsPerTrack = 63;
-
 const QString DiskPrefix = QStringLiteral("\\\\.\\PHYSICALDRIVE");
 const QString VolumePrefix = QStringLiteral("\\\\.\\");
 
-bool answerBytes(const std::string &bytes, void *out, quint32 outSize, quint32 *returned)
-{
-    if (!out || outSize < bytes.size())
-        return false;
-    std::memcpy(out, bytes.data(), bytes.size());
-    if (returned)
-        *returned = static_cast<quint32>(bytes.size());
-    return true;
-}
-
-template<typename Record>
-bool answer(const Record &record, void *out, quint32 outSize, quint32 *returned)
-{
-    return answerBytes(std::string(reinterpret_cast<const char *>(&record), sizeof(Record)), out, outSize,
-                       returned);
-}
-
-io::DiskGeometry geometryOf(const RawDevice &device, quint32 mediaType)
-{
-    const qint64 cylinder = qint64{TracksPerCylinder} * SectorsPerTrack * device.bytesPerSector();
-    return {device.size() / cylinder, mediaType, TracksPerCylinder, SectorsPerTrack, device.bytesPerSector()};
-}
-
-bool answerExtents(const QVector<inventory::Extent> &extents, void *out, quint32 outSize, quint32 *returned)
-{
-    const quint32 head = offsetof(io::VolumeDiskExtents, extents);
-    const quint32 needed =
-        head + static_cast<quint32>(sizeof(io::DiskExtent)) * static_cast<quint32>(extents.size());
-    if (extents.isEmpty() || !out || outSize < needed)
-        return false;
-    auto *bytes = static_cast<char *>(out);
-    std::memset(bytes, 0, head);
-    const auto count = static_cast<quint32>(extents.size());
-    std::memcpy(bytes, &count, sizeof(count));
-    for (const inventory::Extent &extent : extents) {
-        const io::DiskExtent record{static_cast<quint32>(extent.disk), 0, static_cast<qint64>(extent.offset),
-                                    static_cast<qint64>(extent.length)};
-        std::memcpy(bytes + head, &record, sizeof(record));
-        bytes += sizeof(record);
-    }
-    if (returned)
-        *returned = needed;
-    return true;
-}
-
-std::optional<inventory::Disk> diskOf(const inventory::Machine &machine, int number)
-{
-    for (const inventory::Disk &disk : machine.disks) {
-        if (disk.number == number)
-            return disk;
-    }
-    return std::nullopt;
-}
-
-/// The disk of a raw device's name.
-std::optional<inventory::Disk> diskOf(const inventory::Machine &machine, const QString &name)
+/// The disk of a raw device's name; null for another name.
+const inventory::Disk *diskOf(const inventory::Machine &machine, const QString &name)
 {
     bool isNumber = false;
     const int number = name.mid(DiskPrefix.size()).toInt(&isNumber);
-    return isNumber && name.startsWith(DiskPrefix, Qt::CaseInsensitive) ? diskOf(machine, number)
-                                                                        : std::nullopt;
+    return isNumber && name.startsWith(DiskPrefix, Qt::CaseInsensitive) ? inventory::diskOf(machine, number)
+                                                                        : nullptr;
 }
 
 /// A path as a shell takes it.
@@ -109,16 +55,13 @@ QString quoted(QString path)
     return QLatin1Char('\'') + path.replace(QLatin1Char('\''), QStringLiteral("'\\''")) + QLatin1Char('\'');
 }
 
-quint32 mediaTypeOf(const inventory::Disk &disk)
-{
-    return disk.media == QLatin1String("removable") ? io::MediaRemovable : io::MediaFixed;
-}
-
 } // namespace
 
 LinuxPlatform::LinuxPlatform(folders::Places places) : m_places(std::move(places))
 {
-    addTools();
+    addSmartctl([this](const QStringList &words) { return linuxtools::smartctl(machine(), words); });
+    addTool("taskkill", &linuxtools::taskkill);
+    addTool("shutdown", &linuxtools::shutdown);
 }
 
 LinuxPlatform::~LinuxPlatform() = default;
@@ -131,26 +74,26 @@ Platform::RawHandle LinuxPlatform::CreateFileW(const QString &name, quint32 acce
     if (disposition != io::OpenExisting)
         return InvalidHandle;
 
-    const lsblk::Inventory machine = pc();
+    const lsblk::Inventory known = pc();
     const bool writable = (access & io::GenericWrite) != 0;
     auto open = std::make_shared<OpenDevice>();
-    if (const auto disk = diskOf(machine.machine, name)) {
-        open->node = disk->node;
+    if (const inventory::Disk *disk = diskOf(known.machine, name)) {
         open->device = linuxdisks::open(*disk, writable);
-        open->mediaType = mediaTypeOf(*disk);
+        open->disk = *disk;
     } else if (name.size() == VolumePrefix.size() + 2 && name.startsWith(VolumePrefix) &&
                name.endsWith(QLatin1Char(':'))) {
         const QChar letter = name.at(VolumePrefix.size()).toUpper();
-        open->node = machine.volumeNodes.value(letter);
-        if (!open->node.isEmpty())
-            open->device = RawDevice::open(open->node, writable);
-        for (const inventory::Volume &volume : machine.machine.volumes) {
+        open->disk.node = known.volumeNodes.value(letter);
+        if (!open->disk.node.isEmpty())
+            open->device = RawDevice::open(open->disk.node, writable);
+        for (const inventory::Volume &volume : known.machine.volumes) {
             if (volume.letter == letter)
                 open->extents = volume.extents;
         }
     }
     if (!open->device)
         return InvalidHandle;
+    open->disk.bytesPerSector = open->device->bytesPerSector();
 
     const std::lock_guard<std::mutex> guard(m_mutex);
     const RawHandle handle = m_nextHandle++;
@@ -184,7 +127,7 @@ bool LinuxPlatform::WriteFile(RawHandle handle, const void *buffer, quint32 byte
     const auto open = find(handle);
     // Nothing else in this system keeps root from writing over the disk that it runs from.
     if (open && !open->isProtected)
-        open->isProtected = linuxdisks::isProtected(open->node);
+        open->isProtected = linuxdisks::isProtected(open->disk.node);
     const qint64 put = open && !*open->isProtected ? open->device->write(buffer, bytes) : -1;
     if (transferred)
         *transferred = put < 0 ? 0 : static_cast<quint32>(put);
@@ -195,24 +138,14 @@ bool LinuxPlatform::DeviceIoControl(RawHandle handle, quint32 code, const void *
                                     quint32 outSize, quint32 *returned)
 {
     const auto open = find(handle);
-    if (returned)
-        *returned = 0;
-    if (!open)
-        return false;
-    const io::DiskGeometry geometry = geometryOf(*open->device, open->mediaType);
-    switch (code) {
-    case io::DiskGetDriveGeometry:
-        return answer(geometry, out, outSize, returned);
-    case io::DiskGetDriveGeometryEx:
-        return answer(io::DiskGeometryEx{geometry, open->device->size(), {}}, out, outSize, returned);
-    case io::VolumeGetVolumeDiskExtents:
-        return answerExtents(open->extents, out, outSize, returned);
-    case io::StorageQueryProperty:
-        return answerBytes(io::storageDescriptor(open->device->serial().constData()), out, outSize, returned);
-    default:
-        // SMART comes from smartctl alone.
-        return false;
-    }
+    QByteArray told; // SMART comes from smartctl alone
+    if (open && code == io::StorageQueryProperty)
+        told = QByteArray::fromStdString(io::storageDescriptor(open->device->serial().constData()));
+    else if (open && code == io::VolumeGetVolumeDiskExtents)
+        told = extentsAnswer(code, open->extents);
+    else if (open)
+        told = geometryAnswer(code, open->device->size(), open->disk);
+    return answer(told, out, outSize, returned);
 }
 
 bool LinuxPlatform::FlushFileBuffers(RawHandle handle)
@@ -237,7 +170,8 @@ void LinuxPlatform::CloseHandle(RawHandle handle)
 
 bool LinuxPlatform::IsAccessDenied(const QString &name)
 {
-    const auto disk = diskOf(pc().machine, name);
+    const inventory::Machine known = machine();
+    const inventory::Disk *disk = diskOf(known, name);
     return disk &&
            faccessat(AT_FDCWD, QFile::encodeName(disk->node).constData(), R_OK | W_OK, AT_EACCESS) != 0 &&
            errno == EACCES;
@@ -245,7 +179,8 @@ bool LinuxPlatform::IsAccessDenied(const QString &name)
 
 DiskUse LinuxPlatform::DismountDisk(int number)
 {
-    const auto disk = diskOf(pc().machine, number);
+    const inventory::Machine known = machine();
+    const inventory::Disk *disk = inventory::diskOf(known, number);
     return disk ? linuxdisks::release(disk->node) : DiskUse{DiskUse::Unknown, {}};
 }
 
@@ -258,59 +193,70 @@ lsblk::Inventory LinuxPlatform::pc()
         if (m_pc)
             return *m_pc;
     }
-    return readPc();
+    BeginListing();
+    const std::lock_guard<std::mutex> guard(m_mutex);
+    return *m_pc;
 }
 
-QStringList LinuxPlatform::GetLogicalDriveStringsW()
+void LinuxPlatform::BeginListing()
 {
-    // Each build of the disk list begins with this call. Only here the PC is read again, so that a number
-    // stands for the same disk as long as a list shows it.
-    QStringList roots;
-    for (const inventory::Volume &volume : readPc().machine.volumes)
-        roots.append(QString(volume.letter) + QLatin1String(":\\"));
-    roots.sort();
-    return roots;
-}
-
-std::optional<inventory::Volume> LinuxPlatform::volumeOf(const QString &root)
-{
-    const QChar letter = root.isEmpty() ? QChar() : root.at(0).toUpper();
-    for (const inventory::Volume &volume : pc().machine.volumes) {
-        if (volume.letter == letter)
-            return volume;
+    lsblk::Inventory previous;
+    {
+        const std::lock_guard<std::mutex> guard(m_mutex);
+        previous = m_pc.value_or(lsblk::Inventory());
     }
-    return std::nullopt;
+    lsblk::Inventory found = linuxmachine::read(previous);
+    const std::lock_guard<std::mutex> guard(m_mutex);
+    m_pc = std::move(found);
 }
 
-bool LinuxPlatform::GetVolumeInformationW(const QString &root, QString *label, QString *fileSystem)
+inventory::Machine LinuxPlatform::machine()
 {
-    const auto volume = volumeOf(root);
-    const bool readable = volume && !volume->fileSystem.isEmpty();
-    if (label)
-        *label = readable ? volume->label : QString();
-    if (fileSystem)
-        *fileSystem = readable ? volume->fileSystem : QString();
-    return readable;
+    return pc().machine;
 }
 
-quint32 LinuxPlatform::GetDriveTypeW(const QString &root)
+QStringList LinuxPlatform::processes()
 {
-    const auto volume = volumeOf(root);
-    if (!volume)
-        return io::DriveNoRootDir;
-    if (volume->type == QLatin1String("cdrom"))
-        return io::DriveCdrom;
-    return volume->type == QLatin1String("removable") ? io::DriveRemovable : io::DriveFixed;
+    return linuxtools::processes();
 }
 
-bool LinuxPlatform::GetDiskFreeSpaceExW(const QString &root, quint64 *totalBytes, quint64 *freeBytes)
+std::unique_ptr<tools::ScriptedDisks> LinuxPlatform::scriptedDisks()
 {
-    const auto volume = volumeOf(root);
-    if (totalBytes)
-        *totalBytes = volume ? volume->size : 0;
-    if (freeBytes)
-        *freeBytes = volume ? volume->free : 0;
-    return volume && volume->size > 0;
+    return std::make_unique<linuxdisks::Scripts>(machine());
+}
+
+// Programs and pages
+
+QString LinuxPlatform::findProgram(const QString &file)
+{
+    // A document can be marked as a program, too: some file systems mark all their files.
+    if (!file.endsWith(QLatin1String(".exe"), Qt::CaseInsensitive))
+        return {};
+    for (const QString &name : {file, file.left(file.size() - 4)}) {
+        const QFileInfo program(QDir(QCoreApplication::applicationDirPath()), name);
+        if (program.isFile() && program.isExecutable())
+            return program.filePath();
+    }
+    return {};
+}
+
+bool LinuxPlatform::ShellExecuteW(const QString &file, const QString &parameters, const QString &, Show)
+{
+    const QUrl url(file);
+    const bool isAddress = url.scheme().size() > 1;
+    if (!isAddress) {
+        const QString program = findProgram(NativePath(file));
+        if (!program.isEmpty())
+            return QProcess::startDetached(program, QProcess::splitCommand(parameters));
+    }
+    return !file.isEmpty() && desktopuser::open(isAddress ? file : NativePath(file));
+}
+
+bool LinuxPlatform::OpenUrl(const QUrl &url)
+{
+    // The toolkit takes the first opener of the search path.
+    return ownfiles::isElevated() ? desktopuser::open(QString::fromLatin1(url.toEncoded()))
+                                  : QDesktopServices::openUrl(url);
 }
 
 // Folders and names
@@ -318,11 +264,6 @@ bool LinuxPlatform::GetDiskFreeSpaceExW(const QString &root, quint64 *totalBytes
 QString LinuxPlatform::GetTempPathW()
 {
     return m_places.temp.isEmpty() ? QString() : m_places.temp + QLatin1Char('/');
-}
-
-QString LinuxPlatform::GetSystemDirectoryW()
-{
-    return QStringLiteral("C:\\Windows\\system32");
 }
 
 QString LinuxPlatform::GetUserNameW()
@@ -431,19 +372,12 @@ void LinuxPlatform::Sleep(quint32 milliseconds)
 DeviceNotifier *LinuxPlatform::deviceNotifier()
 {
     if (!m_watch)
-        m_watch = std::make_unique<VolumeWatch>(onlyNodes());
+        m_watch = std::make_unique<VolumeWatch>(linuxmachine::onlyNodes());
     m_watch->start();
     return m_watch.get();
 }
 
-std::optional<DeviceChange> LinuxPlatform::decodeDeviceMessage(const QByteArray &, void *)
-{
-    return std::nullopt;
-}
-
 // Logon task
-
-void LinuxPlatform::InitializeCom() {}
 
 void LinuxPlatform::CreateLogonTask(const LogonTask &task)
 {

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/Platform.h"
+#include "platform/InventoryPlatform.h"
 #include "platform/linux/LsblkInventory.h"
 #include "platform/linux/RawDevice.h"
 #include "platform/linux/SleepInhibitor.h"
 #include "platform/linux/UserFolders.h"
 #include "platform/linux/VolumeWatch.h"
-#include "platform/tools/CommandInterpreter.h"
 
 #include <QHash>
 
@@ -15,7 +14,7 @@
 #include <optional>
 
 /// A Linux PC. HALVANE_DISKS, nodes with colons between them, limits it to those disks, in that order.
-class LinuxPlatform : public Platform
+class LinuxPlatform : public InventoryPlatform
 {
 public:
     explicit LinuxPlatform(folders::Places places = folders::places());
@@ -34,18 +33,13 @@ public:
     bool IsAccessDenied(const QString &name) override;
     DiskUse DismountDisk(int number) override;
 
-    QStringList GetLogicalDriveStringsW() override;
-    bool GetVolumeInformationW(const QString &root, QString *label, QString *fileSystem) override;
-    quint32 GetDriveTypeW(const QString &root) override;
-    bool GetDiskFreeSpaceExW(const QString &root, quint64 *totalBytes, quint64 *freeBytes) override;
+    void BeginListing() override;
 
-    bool CreateProcessAndWait(const std::wstring &line, bool hidden) override;
     bool ShellExecuteW(const QString &file, const QString &parameters, const QString &verb,
                        Show show) override;
     bool OpenUrl(const QUrl &url) override;
 
     QString GetTempPathW() override;
-    QString GetSystemDirectoryW() override;
     QString GetUserNameW() override;
     QString HistoryFolder(const QString &applicationFolder) override;
     QString MakePrivateFolder(const QString &name) override;
@@ -61,9 +55,7 @@ public:
     void Sleep(quint32 milliseconds) override;
 
     DeviceNotifier *deviceNotifier() override;
-    std::optional<DeviceChange> decodeDeviceMessage(const QByteArray &eventType, void *message) override;
 
-    void InitializeCom() override;
     void CreateLogonTask(const LogonTask &task) override;
     void DeleteLogonTask(const QString &name) override;
 
@@ -73,23 +65,19 @@ private:
     /// An open handle: the device, and what it was opened as.
     struct OpenDevice {
         std::unique_ptr<RawDevice> device;
-        QString node;
-        std::optional<bool> isProtected; ///< takes no writes; looked up at the first write
-        quint32 mediaType = 0;
+        inventory::Disk disk;               ///< of a volume only its node and the size of its sectors
+        std::optional<bool> isProtected;    ///< takes no writes; looked up at the first write
         QVector<inventory::Extent> extents; ///< of a volume
     };
 
-    void addTools();
-    /// The nodes of HALVANE_DISKS by their real names; empty where the disks are those of the machine.
-    static QStringList onlyNodes();
+    inventory::Machine machine() override;
+    QStringList processes() override;
+    std::unique_ptr<tools::ScriptedDisks> scriptedDisks() override;
     /// The program that a file name stands for, with or without ".exe": a path, or a name beside this program
     /// and nowhere else. Empty if there is none.
     static QString findProgram(const QString &file);
     /// The PC as it was last read; read now if it never was.
     lsblk::Inventory pc();
-    /// Reads the PC anew. Disks may get other numbers.
-    lsblk::Inventory readPc();
-    std::optional<inventory::Volume> volumeOf(const QString &root);
     std::shared_ptr<OpenDevice> find(RawHandle handle);
 
     const folders::Places m_places;
@@ -97,7 +85,6 @@ private:
     std::optional<lsblk::Inventory> m_pc;
     QHash<RawHandle, std::shared_ptr<OpenDevice>> m_open;
     RawHandle m_nextHandle = 1;
-    tools::CommandInterpreter m_interpreter;
     SleepInhibitor m_inhibitor;
     std::unique_ptr<VolumeWatch>
         m_watch; ///< made when it is first asked for, as it belongs to the main thread

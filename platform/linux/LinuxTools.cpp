@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/linux/LinuxTools.h"
 
+#include "platform/Log.h"
 #include "platform/OwnFiles.h"
 #include "platform/tools/SystemTools.h"
 
@@ -44,19 +45,20 @@ QString imageOf(const QString &processNumber)
     return name.open(QIODevice::ReadOnly) ? QString::fromLocal8Bit(name.readAll()).trimmed() : QString();
 }
 
-QByteArray runTool(const QString &name, const QStringList &arguments)
+/// Waits without a limit for the end of a process. Its standard output, of which no more than
+/// ownfiles::MostBytes are kept.
+QByteArray outputOf(QProcess *process)
 {
-    const QString program = find(name);
-    if (program.isEmpty())
-        return {};
-    QProcess process;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));
-    process.setProcessEnvironment(environment);
-    process.setStandardInputFile(QProcess::nullDevice());
-    process.setStandardErrorFile(QProcess::nullDevice());
-    process.start(program, arguments, QIODevice::ReadOnly);
-    return outputOf(&process);
+    QByteArray output;
+    const auto take = [process, &output] {
+        const QByteArray more = process->readAllStandardOutput();
+        output += more.left(static_cast<int>(ownfiles::MostBytes) - output.size());
+    };
+    while (process->waitForReadyRead(-1))
+        take();
+    process->waitForFinished(-1);
+    take();
+    return output;
 }
 
 } // namespace
@@ -79,18 +81,27 @@ QString find(const QString &name)
                            : found;
 }
 
-QByteArray outputOf(QProcess *process)
+Ended run(const QString &name, const QStringList &arguments, const QByteArray &input)
 {
-    QByteArray output;
-    const auto take = [process, &output] {
-        const QByteArray more = process->readAllStandardOutput();
-        output += more.left(static_cast<int>(ownfiles::MostBytes) - output.size());
-    };
-    while (process->waitForReadyRead(-1))
-        take();
-    process->waitForFinished(-1);
-    take();
-    return output;
+    const QString program = find(name);
+    if (program.isEmpty()) {
+        qCDebug(logs::platform, "%s is not installed", qUtf8Printable(name));
+        return {};
+    }
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));
+    process.setProcessEnvironment(environment);
+    process.setStandardErrorFile(QProcess::nullDevice());
+    process.start(program, arguments);
+    process.write(input);
+    process.closeWriteChannel();
+    const QByteArray output = outputOf(&process);
+    const bool ended =
+        process.error() != QProcess::FailedToStart && process.exitStatus() == QProcess::NormalExit;
+    qCDebug(logs::platform, "%s with %d words: status %d, %d bytes", qUtf8Printable(name), arguments.size(),
+            ended ? process.exitCode() : -1, output.size());
+    return {ended && process.exitCode() == 0, output};
 }
 
 QStringList processes()
@@ -111,9 +122,8 @@ QStringList smartctlArguments(const inventory::Machine &machine, const QStringLi
         if (!word.startsWith(DevicePrefix))
             continue;
         const int number = word.size() == DevicePrefix.size() + 1 ? word.back().unicode() - 'a' : -1;
-        const auto disk = std::find_if(machine.disks.cbegin(), machine.disks.cend(),
-                                       [number](const inventory::Disk &d) { return d.number == number; });
-        if (disk == machine.disks.cend())
+        const inventory::Disk *disk = inventory::diskOf(machine, number);
+        if (!disk)
             return {};
         word = disk->node;
     }
@@ -123,7 +133,7 @@ QStringList smartctlArguments(const inventory::Machine &machine, const QStringLi
 QByteArray smartctl(const inventory::Machine &machine, const QStringList &arguments)
 {
     const QStringList words = smartctlArguments(machine, arguments);
-    return words.isEmpty() ? QByteArray() : runTool(QStringLiteral("smartctl"), words);
+    return words.isEmpty() ? QByteArray() : run(QStringLiteral("smartctl"), words).output;
 }
 
 QByteArray taskkill(const QStringList &arguments)
@@ -154,7 +164,7 @@ QByteArray taskkill(const QStringList &arguments)
 QByteArray shutdown(const QStringList &arguments)
 {
     if (arguments.contains(QStringLiteral("/s"), Qt::CaseInsensitive))
-        runTool(QStringLiteral("shutdown"), {QStringLiteral("-h"), QStringLiteral("+1")});
+        run(QStringLiteral("shutdown"), {QStringLiteral("-h"), QStringLiteral("+1")});
     return {};
 }
 

@@ -6,8 +6,6 @@
 
 #include "platform/Inventory.h"
 
-class QProcess;
-
 /// The system's tools on a Linux PC, behind the names that the program calls them by.
 namespace linuxtools
 {
@@ -19,9 +17,14 @@ QStringList systemFolders();
 /// not installed. Root gets the system's own alone, whatever the search path says.
 QString find(const QString &name);
 
-/// Waits without a limit for the end of a process that was started. Its standard output, of which no more
-/// than ownfiles::MostBytes are kept.
-QByteArray outputOf(QProcess *process);
+struct Ended {
+    bool well = false; ///< by itself and with exit code 0
+    QByteArray output;
+};
+
+/// Runs an installed tool in the C locale with `input`, and waits without a limit for its end. Of its
+/// standard output no more than ownfiles::MostBytes are kept; its errors are dropped.
+Ended run(const QString &name, const QStringList &arguments, const QByteArray &input = {});
 
 /// The image names of the running processes, each with ".exe" behind it as the program knows its companion.
 QStringList processes();

@@ -23,22 +23,23 @@ constexpr qint64 ErasedStretch = 1024 * 1024;
 class OpenedDisk
 {
 public:
-    OpenedDisk(RawDevices &devices, int number) : m_devices(devices)
+    OpenedDisk(Platform &devices, int number)
+        : m_devices(devices),
+          m_handle(devices.CreateFileW(QStringLiteral("\\\\.\\PHYSICALDRIVE%1").arg(number),
+                                       io::GenericRead | io::GenericWrite, 0, io::OpenExisting))
     {
-        m_handle = devices.open(QStringLiteral("\\\\.\\PHYSICALDRIVE%1").arg(number),
-                                io::GenericRead | io::GenericWrite, io::OpenExisting);
     }
     OpenedDisk(const OpenedDisk &) = delete;
     OpenedDisk &operator=(const OpenedDisk &) = delete;
-    ~OpenedDisk() { m_devices.close(m_handle); }
+    ~OpenedDisk() { m_devices.CloseHandle(m_handle); }
 
     bool isOpen() const { return m_handle != Platform::InvalidHandle; }
     QByteArray read(qint64 offset, qint64 bytes)
     {
         QByteArray data(static_cast<int>(bytes), '\0');
         quint32 got = 0;
-        const bool whole = m_devices.seek(m_handle, offset) &&
-                           m_devices.read(m_handle, data.data(), static_cast<quint32>(bytes), &got) &&
+        const bool whole = m_devices.SetFilePointer(m_handle, offset) &&
+                           m_devices.ReadFile(m_handle, data.data(), static_cast<quint32>(bytes), &got) &&
                            got == bytes;
         return whole ? data : QByteArray();
     }
@@ -46,8 +47,8 @@ public:
     {
         const auto bytes = static_cast<quint32>(data.size());
         quint32 put = 0;
-        return m_devices.seek(m_handle, offset) && m_devices.write(m_handle, data.constData(), bytes, &put) &&
-               put == bytes;
+        return m_devices.SetFilePointer(m_handle, offset) &&
+               m_devices.WriteFile(m_handle, data.constData(), bytes, &put) && put == bytes;
     }
     bool erase(qint64 offset, qint64 bytes)
     {
@@ -57,8 +58,8 @@ public:
     }
 
 private:
-    RawDevices &m_devices;
-    Platform::RawHandle m_handle = Platform::InvalidHandle;
+    Platform &m_devices;
+    const Platform::RawHandle m_handle;
 };
 
 DiskOutcome outcomeOf(bool done)
@@ -96,11 +97,6 @@ DiskOutcome createPrimary(OpenedDisk &disk, const inventory::Disk &record)
 
 } // namespace
 
-bool DiskScripts::has(int disk)
-{
-    return m_pc.disk(disk) != nullptr && m_presence.hasDisk(disk);
-}
-
 DiskOutcome DiskScripts::act(DiskAction action, int disk)
 {
     if (action == DiskAction::Online) {
@@ -113,7 +109,7 @@ DiskOutcome DiskScripts::act(DiskAction action, int disk)
     if (!opened.isOpen()) {
         return DiskOutcome::DeviceError;
     }
-    const inventory::Disk &record = m_pc.disk(disk)->record;
+    const inventory::Disk &record = *inventory::diskOf(m_machine, disk);
     switch (action) {
     case DiskAction::Clean:
         return clean(opened, static_cast<qint64>(record.sectors) * mbr::RecordSize);

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/simulated/Presence.h"
-#include "platform/simulated/RawDevices.h"
+#include "platform/Inventory.h"
+#include "platform/Platform.h"
 #include "platform/tools/Diskpart.h"
 
 namespace simulated
@@ -13,19 +13,18 @@ namespace simulated
 class DiskScripts : public tools::ScriptedDisks
 {
 public:
-    /// All three have to outlive this object.
-    DiskScripts(const PcDescription &pc, const Presence &presence, RawDevices &devices)
-        : m_pc(pc), m_presence(presence), m_devices(devices)
+    /// `devices` opens the disks of `machine`, and has to outlive this object.
+    DiskScripts(inventory::Machine machine, Platform &devices)
+        : m_machine(std::move(machine)), m_devices(devices)
     {
     }
 
-    bool has(int disk) override;
+    bool has(int disk) override { return inventory::diskOf(m_machine, disk) != nullptr; }
     tools::DiskOutcome act(tools::DiskAction action, int disk) override;
 
 private:
-    const PcDescription &m_pc;
-    const Presence &m_presence;
-    RawDevices &m_devices;
+    const inventory::Machine m_machine;
+    Platform &m_devices;
 };
 
 } // namespace simulated

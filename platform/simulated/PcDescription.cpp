@@ -48,7 +48,9 @@ SelfTestEnd readSelfTestEnd(const JsonReader &in, const SelfTestEnd &fallback)
 /// folder, whether or not it is there.
 QString pathBelow(const JsonReader &in, const QString &keyPath, const QString &name, const QString &folder)
 {
-    if (!isPlainName(name)) {
+    const bool isPlain =
+        std::all_of(name.cbegin(), name.cend(), [](QChar c) { return c.isPrint() || c.isSurrogate(); });
+    if (!isPlain) {
         in.fail(keyPath, QStringLiteral("a text without control characters is wanted"));
         return QString();
     }
@@ -146,66 +148,6 @@ std::optional<Identity> readIdentity(const JsonReader &disk)
     return identity;
 }
 
-FileSystem readFileSystem(const JsonReader &in, const Layout &layout)
-{
-    FileSystem system;
-    const QString partition = QStringLiteral("partition");
-    const QString lastMounted = QStringLiteral("lastMounted");
-    const QString label = QStringLiteral("label");
-    if (!in.has(partition)) {
-        in.fail(in.path(partition), QStringLiteral("a whole number is wanted"));
-    }
-    system.partition = static_cast<int>(in.whole(partition, 0, 1, 128));
-    for (const FileSystem &other : layout.fileSystems) {
-        if (other.partition == system.partition) {
-            in.fail(in.path(partition), QStringLiteral("partition %1 has one already").arg(other.partition));
-        }
-    }
-    const int ext4 = fileSystemTypes().indexOf(QStringLiteral("ext4"));
-    system.type = fileSystemTypes().value(in.word(QStringLiteral("type"), ext4, fileSystemTypes()));
-    system.label = in.text(label);
-    system.lastMounted = in.text(lastMounted);
-    const bool ext = isExt(system.type);
-    const int length = ext ? system.label.toUtf8().size() : system.label.size();
-    if (length > longestLabel(system.type)) {
-        in.fail(in.path(label),
-                QStringLiteral("at most %1 characters are wanted").arg(longestLabel(system.type)));
-    }
-    for (const QString &key : {label, lastMounted}) {
-        if (!isPlainName(in.text(key))) {
-            in.fail(in.path(key), QStringLiteral("a text without control characters is wanted"));
-        }
-    }
-    if (!system.lastMounted.isEmpty() && (!ext || system.lastMounted.toUtf8().size() > 63)) {
-        in.fail(in.path(lastMounted), ext ? QStringLiteral("at most 63 characters are wanted")
-                                          : QStringLiteral("only an ext file system has that"));
-    }
-    return system;
-}
-
-Layout readLayout(const JsonReader &disk, const QString &folder)
-{
-    const QString key = QStringLiteral("layout");
-    const QString table = QStringLiteral("table");
-    Layout layout;
-    if (!disk.has(key)) {
-        return layout;
-    }
-    const JsonReader in = disk.below(key);
-    if (!in.has(table)) {
-        in.fail(in.path(table), QStringLiteral("a text is wanted"));
-    }
-    const QString file = existingFile(in, in.path(table), in.text(table), folder);
-    layout.table = ownfiles::contents(file);
-    if (const int line = strangeTableLine(layout.table)) {
-        in.fail(in.path(table), QStringLiteral("%1: line %2 sets no partition table").arg(file).arg(line));
-    }
-    in.each(QStringLiteral("fileSystems"), [&layout](const JsonReader &system) {
-        layout.fileSystems.append(readFileSystem(system, layout));
-    });
-    return layout;
-}
-
 /// The image may be missing. If it is there, it is a regular file of any size.
 QString readImage(const JsonReader &in, const QString &folder)
 {
@@ -245,8 +187,6 @@ Disk readDisk(const JsonReader &in, const PcDescription &pc, const SelfTestEnd &
     }
     record.sectors = static_cast<quint64>(in.whole(QStringLiteral("sectors"), 0, 0, mostSectors));
     record.node = readImage(in, pc.folder);
-    disk.layout = readLayout(in, pc.folder);
-    disk.layoutKey = pc.folder + QLatin1String("/pc.json: ") + in.path(QStringLiteral("layout"));
     disk.opens = in.truth(QStringLiteral("opens"), true);
     disk.bad = readRanges(in, QStringLiteral("badSectors"));
     disk.unwritable = readRanges(in, QStringLiteral("unwritable"));
@@ -389,8 +329,6 @@ PcDescription readObject(const QJsonObject &object, const QString &folder, QStri
     pc.installed = in.texts(QStringLiteral("installed"));
     pc.settings = readSettings(in);
     pc.history = readHistory(in, folder);
-    pc.historyIsRecent = in.word(QStringLiteral("historyDays"), 0,
-                                 {QStringLiteral("as written"), QStringLiteral("recent")}) == 1;
     pc.tour = in.object(QStringLiteral("tour"));
     const JsonReader test = in.below(QStringLiteral("selfTest"));
     pc.secondsPerMinute = test.number(QStringLiteral("secondsPerMinute"), 1.0, 0.0, 3600.0);

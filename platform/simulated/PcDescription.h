@@ -2,7 +2,6 @@
 #pragma once
 
 #include "platform/Inventory.h"
-#include "platform/simulated/ImageLayout.h"
 #include "platform/simulated/SectorRanges.h"
 
 #include <QByteArray>
@@ -34,8 +33,6 @@ struct SelfTestEnd {
 
 struct Disk {
     inventory::Disk record; ///< its node is the image in the described folder, which may be missing
-    Layout layout;          ///< of an image that the described folder has not
-    QString layoutKey;      ///< file and key of the layout, for messages
     bool opens = true;
     SectorRanges bad;
     SectorRanges unwritable;
@@ -67,8 +64,7 @@ struct PcDescription {
     QStringList installed; ///< programs that can be started
     QJsonObject settings;  ///< first values of the settings store
     double secondsPerMinute = 1.0;
-    QString history;              ///< full path of the folder of history files; empty if there is none
-    bool historyIsRecent = false; ///< its newest day becomes yesterday
+    QString history; ///< full path of the folder of history files; empty if there is none
     QJsonObject tour;
 
     /// Null if there is no such disk.

@@ -4,7 +4,8 @@
 #include "platform/IoControl.h"
 #include "platform/OwnFiles.h"
 #include "platform/SparseFile.h"
-#include "platform/simulated/DeviceControl.h"
+#include "platform/simulated/DiskScripts.h"
+#include "platform/simulated/DriveAnswer.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -15,6 +16,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <iterator>
 #include <thread>
 
 namespace simulated
@@ -61,8 +63,8 @@ private:
 
 } // namespace
 
-RawDevices::RawDevices(const PcDescription &pc, const Presence &presence, const QString &imageFolder)
-    : m_pc(pc), m_presence(presence), m_imageFolder(imageFolder)
+RawDevices::RawDevices(PcDescription pc, const QString &imageFolder)
+    : m_pc(std::move(pc)), m_presence(m_pc), m_imageFolder(imageFolder)
 {
 }
 
@@ -82,23 +84,10 @@ bool RawDevices::prepareImage(const Disk &disk)
     if (const QFileInfo there(file); there.exists() || there.isSymLink()) {
         return (there.size() == size && !there.isSymLink()) || sparse::resize(file, size);
     }
-    return QDir().mkpath(m_imageFolder) && makeImage(disk, file, size);
-}
-
-bool RawDevices::makeImage(const Disk &disk, const QString &file, qint64 size)
-{
     const QString described = disk.record.node;
-    if (!described.isEmpty() && QFileInfo::exists(described)) {
-        return sparse::copy(described, file, size);
-    }
-    // The image gets its name when it is whole, so that an interrupted one is made again.
-    const QString partial = file + QLatin1String(".part");
-    QFile::remove(partial);
-    if (!sparse::resize(partial, size)) {
-        return false;
-    }
-    layOut(disk.layout, partial, disk.layoutKey);
-    return QFile::rename(partial, file);
+    const bool copied = !described.isEmpty() && QFileInfo::exists(described);
+    return QDir().mkpath(m_imageFolder) &&
+           (copied ? sparse::copy(described, file, size) : sparse::resize(file, size));
 }
 
 bool RawDevices::isThere(const Device &device) const
@@ -135,17 +124,17 @@ const Disk *RawDevices::plugged(const QString &name) const
     return disk != nullptr && m_presence.hasDisk(disk->record.number) ? disk : nullptr;
 }
 
-bool RawDevices::isRefused(const QString &name) const
+bool RawDevices::IsAccessDenied(const QString &name)
 {
     const Disk *disk = plugged(name);
     return disk != nullptr && !disk->opens;
 }
 
-Platform::RawHandle RawDevices::open(const QString &name, quint32 access, quint32 disposition)
+Platform::RawHandle RawDevices::CreateFileW(const QString &name, quint32 access, quint32, quint32 disposition)
 {
     static const QRegularExpression letter(QStringLiteral("^\\\\\\\\\\.\\\\([A-Za-z]):$"));
     if (disposition != io::OpenExisting) {
-        return Platform::InvalidHandle;
+        return InvalidHandle;
     }
     const QMutexLocker lock(&m_mutex);
     auto device = std::make_shared<Device>();
@@ -165,26 +154,26 @@ Platform::RawHandle RawDevices::open(const QString &name, quint32 access, quint3
         }
     }
     if (!opened) {
-        return Platform::InvalidHandle;
+        return InvalidHandle;
     }
-    const Platform::RawHandle handle = m_next++;
+    const RawHandle handle = m_next++;
     m_devices.insert(handle, device);
     return handle;
 }
 
-std::shared_ptr<RawDevices::Device> RawDevices::find(Platform::RawHandle handle)
+std::shared_ptr<RawDevices::Device> RawDevices::find(RawHandle handle)
 {
     const QMutexLocker lock(&m_mutex);
     return m_devices.value(handle);
 }
 
-bool RawDevices::isGone(Platform::RawHandle handle)
+bool RawDevices::IsGone(RawHandle handle)
 {
     const std::shared_ptr<Device> device = find(handle);
     return !device || !isThere(*device);
 }
 
-void RawDevices::close(Platform::RawHandle handle)
+void RawDevices::CloseHandle(RawHandle handle)
 {
     const QMutexLocker lock(&m_mutex);
     m_devices.remove(handle);
@@ -196,7 +185,7 @@ void RawDevices::closeAll()
     m_devices.clear();
 }
 
-bool RawDevices::seek(Platform::RawHandle handle, qint64 byteOffset)
+bool RawDevices::SetFilePointer(RawHandle handle, qint64 byteOffset)
 {
     const std::shared_ptr<Device> device = find(handle);
     if (!device || byteOffset < 0) {
@@ -206,19 +195,19 @@ bool RawDevices::seek(Platform::RawHandle handle, qint64 byteOffset)
     return true;
 }
 
-bool RawDevices::read(Platform::RawHandle handle, void *buffer, quint32 bytes, quint32 *transferred)
+bool RawDevices::ReadFile(RawHandle handle, void *buffer, quint32 bytes, quint32 *transferred)
 {
     return transfer(handle, Direction::Read, static_cast<char *>(buffer), bytes, transferred);
 }
 
-bool RawDevices::write(Platform::RawHandle handle, const void *buffer, quint32 bytes, quint32 *transferred)
+bool RawDevices::WriteFile(RawHandle handle, const void *buffer, quint32 bytes, quint32 *transferred)
 {
     // The buffer is only read from in this direction.
     return transfer(handle, Direction::Write, static_cast<char *>(const_cast<void *>(buffer)), bytes,
                     transferred);
 }
 
-bool RawDevices::transfer(Platform::RawHandle handle, Direction direction, char *buffer, quint32 bytes,
+bool RawDevices::transfer(RawHandle handle, Direction direction, char *buffer, quint32 bytes,
                           quint32 *transferred)
 {
     if (transferred != nullptr) {
@@ -285,28 +274,40 @@ bool RawDevices::transferPiece(const Piece &piece, Direction direction, qint64 o
     return sparse::read(*piece.file, offset, buffer, bytes);
 }
 
-bool RawDevices::control(Platform::RawHandle handle, quint32 code, const void *in, quint32 inSize, void *out,
-                         quint32 outSize, quint32 *returned)
+bool RawDevices::DeviceIoControl(RawHandle handle, quint32 code, const void *in, quint32 inSize, void *out,
+                                 quint32 outSize, quint32 *returned)
 {
     const std::shared_ptr<Device> device = find(handle);
     if (!device || !isThere(*device)) {
         return false;
     }
     const QByteArray request(static_cast<const char *>(in), in == nullptr ? 0 : static_cast<int>(inSize));
-    const std::optional<QByteArray> answer =
-        device->volume != nullptr ? controlVolume(*device->volume, *device->pieces.first().disk, code)
-                                  : controlDisk(*device->pieces.first().disk, code, request);
-    if (returned != nullptr) {
-        *returned = 0;
+    const Disk &first = *device->pieces.first().disk;
+    QByteArray told = geometryAnswer(code, bytesOf(first), first.record);
+    if (device->volume && code == io::VolumeGetVolumeDiskExtents)
+        told = extentsAnswer(code, device->volume->extents);
+    else if (!device->volume && told.isEmpty())
+        told = driveAnswer(first, code, request);
+    return answer(told, out, outSize, returned);
+}
+
+inventory::Machine RawDevices::machine()
+{
+    inventory::Machine machine;
+    for (const Disk &disk : m_pc.disks) {
+        if (m_presence.hasDisk(disk.record.number))
+            machine.disks.append(disk.record);
     }
-    if (!answer || static_cast<quint32>(answer->size()) > outSize || (out == nullptr && !answer->isEmpty())) {
-        return false;
-    }
-    std::copy(answer->cbegin(), answer->cend(), static_cast<char *>(out));
-    if (returned != nullptr) {
-        *returned = static_cast<quint32>(answer->size());
-    }
-    return true;
+    std::copy_if(m_pc.volumes.cbegin(), m_pc.volumes.cend(), std::back_inserter(machine.volumes),
+                 [this](const inventory::Volume &volume) { return m_presence.has(volume); });
+    std::copy_if(m_pc.partitions.cbegin(), m_pc.partitions.cend(), std::back_inserter(machine.partitions),
+                 [this](const inventory::Partition &row) { return m_presence.hasDisk(row.disk); });
+    return machine;
+}
+
+std::unique_ptr<tools::ScriptedDisks> RawDevices::scriptedDisks()
+{
+    return std::make_unique<DiskScripts>(machine(), *this);
 }
 
 } // namespace simulated

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/Platform.h"
+#include "platform/InventoryPlatform.h"
 #include "platform/simulated/PcDescription.h"
 #include "platform/simulated/Presence.h"
 
@@ -18,32 +18,37 @@ namespace simulated
 
 /// The raw disks and volumes of a described PC, on image files. Any thread; a handle is used by one at a
 /// time.
-class RawDevices
+class RawDevices : public InventoryPlatform
 {
 public:
-    /// Images are made in `imageFolder` when a disk is first opened. The description and what is present have
-    /// to outlive this object.
-    RawDevices(const PcDescription &pc, const Presence &presence, const QString &imageFolder);
-    RawDevices(const RawDevices &) = delete;
-    RawDevices &operator=(const RawDevices &) = delete;
-    ~RawDevices();
+    /// Images are made in `imageFolder` when a disk is first opened.
+    RawDevices(PcDescription pc, const QString &imageFolder);
+    ~RawDevices() override;
 
-    /// The image file of a disk, whether or not it exists yet.
+    /// The image file that stands for a disk, whether or not it exists yet.
     QString imageFile(int disk) const;
 
-    /// Whether the physical disk is plugged in and does not open.
-    bool isRefused(const QString &name) const;
-    Platform::RawHandle open(const QString &name, quint32 access, quint32 disposition);
-    bool seek(Platform::RawHandle handle, qint64 byteOffset);
+    RawHandle CreateFileW(const QString &name, quint32 access, quint32 shareMode,
+                          quint32 disposition) override;
+    bool SetFilePointer(RawHandle handle, qint64 byteOffset) override;
     /// A read that touches a bad sector fails as a whole, and so does one that the description lets fail.
-    bool read(Platform::RawHandle handle, void *buffer, quint32 bytes, quint32 *transferred);
-    bool write(Platform::RawHandle handle, const void *buffer, quint32 bytes, quint32 *transferred);
-    bool control(Platform::RawHandle handle, quint32 code, const void *in, quint32 inSize, void *out,
-                 quint32 outSize, quint32 *returned);
-    /// Whether the device is no longer plugged in.
-    bool isGone(Platform::RawHandle handle);
-    void close(Platform::RawHandle handle);
+    bool ReadFile(RawHandle handle, void *buffer, quint32 bytes, quint32 *transferred) override;
+    bool WriteFile(RawHandle handle, const void *buffer, quint32 bytes, quint32 *transferred) override;
+    bool DeviceIoControl(RawHandle handle, quint32 code, const void *in, quint32 inSize, void *out,
+                         quint32 outSize, quint32 *returned) override;
+    /// Transfers go to the image at once.
+    bool FlushFileBuffers(RawHandle handle) override { return !IsGone(handle); }
+    bool IsGone(RawHandle handle) override;
+    void CloseHandle(RawHandle handle) override;
+    bool IsAccessDenied(const QString &name) override;
+
+protected:
+    inventory::Machine machine() override;
+    std::unique_ptr<tools::ScriptedDisks> scriptedDisks() override;
     void closeAll();
+
+    const PcDescription m_pc;
+    Presence m_presence;
 
 private:
     /// A stretch of an image that is a stretch of the device.
@@ -62,26 +67,22 @@ private:
     };
     enum class Direction { Read, Write };
 
-    std::shared_ptr<Device> find(Platform::RawHandle handle);
+    std::shared_ptr<Device> find(RawHandle handle);
     /// The disk of a raw device's name while it is plugged in; null for another.
     const Disk *plugged(const QString &name) const;
     bool prepareImage(const Disk &disk);
-    bool makeImage(const Disk &disk, const QString &file, qint64 size);
     /// Whether the device is still plugged in.
     bool isThere(const Device &device) const;
     bool addPiece(Device &device, int number, qint64 start, qint64 length);
-    bool transfer(Platform::RawHandle handle, Direction direction, char *buffer, quint32 bytes,
-                  quint32 *transferred);
+    bool transfer(RawHandle handle, Direction direction, char *buffer, quint32 bytes, quint32 *transferred);
     static bool transferPieces(const Device &device, Direction direction, char *buffer, qint64 bytes);
     static bool transferPiece(const Piece &piece, Direction direction, qint64 offset, char *buffer,
                               qint64 bytes);
 
-    const PcDescription &m_pc;
-    const Presence &m_presence;
-    QString m_imageFolder;
+    const QString m_imageFolder;
     QMutex m_mutex; ///< guards the table of handles and the making of images
-    QHash<Platform::RawHandle, std::shared_ptr<Device>> m_devices;
-    Platform::RawHandle m_next = 1;
+    QHash<RawHandle, std::shared_ptr<Device>> m_devices;
+    RawHandle m_next = 1;
 };
 
 } // namespace simulated

@@ -2,13 +2,11 @@
 #include "platform/simulated/SimulatedPlatform.h"
 
 #include "platform/HttpDownload.h"
-#include "platform/IoControl.h"
 #include "platform/JsonSettings.h"
 #include "platform/NativePlatform.h"
 #include "platform/OwnFiles.h"
-#include "platform/simulated/HistorySeed.h"
 #include "platform/simulated/StateFolder.h"
-#include "platform/tools/DiskWords.h"
+#include "platform/tools/SystemTools.h"
 
 #include <QCryptographicHash>
 #include <QDateTime>
@@ -30,6 +28,9 @@ namespace
 
 const QLatin1String logonTaskFile("/logon-task.json");
 const QLatin1String volumesChanged("/volumes-changed");
+
+/// The real transfer tool has no limits, but nobody could end it here.
+constexpr DownloadLimits TransferLimits{15000, 64 * 1024 * 1024};
 
 /// The paths of the product's own settings, whichever branch of the registry they are in.
 bool isProductPath(const QString &registryPath)
@@ -108,121 +109,50 @@ std::unique_ptr<SimulatedPlatform> SimulatedPlatform::open(const QString &folder
 
 SimulatedPlatform::SimulatedPlatform(simulated::PcDescription pc, const QString &stateFolder, bool ownsState,
                                      simulated::Clock clock)
-    : m_pc(std::move(pc)), m_presence(m_pc), m_state(stateFolder), m_ownsState(ownsState),
-      m_clock(std::move(clock)), m_devices(m_pc, m_presence, stateFolder + QLatin1String("/images")),
-      m_smartctl(m_pc, m_presence, stateFolder + QLatin1String("/self-tests.json"), m_clock),
+    : RawDevices(std::move(pc), stateFolder + QLatin1String("/images")), m_state(stateFolder),
+      m_ownsState(ownsState),
+      m_smartctl(m_pc, m_presence, stateFolder + QLatin1String("/self-tests.json"), std::move(clock)),
       m_processes(m_pc.processes)
 {
-    addTools();
+    if (m_pc.hasSmartctl)
+        addSmartctl([this](const QStringList &words) { return m_smartctl.run(words); },
+                    m_pc.toolMilliseconds);
+    addTool("taskkill", [this](const QStringList &words) {
+        stopProcess(tools::taskkillTarget(words));
+        return QByteArray();
+    });
+    addTool("bitsadmin", [this](const QStringList &words) {
+        const int last = words.size() - 1;
+        const bool loaded = last >= 1 && words.contains(QStringLiteral("/transfer"), Qt::CaseInsensitive) &&
+                            URLDownloadToFileW(words.at(last - 1), words.at(last), TransferLimits) == 0;
+        return loaded ? QByteArray("Transfer complete.\r\n") : QByteArray("Unable to complete transfer.\r\n");
+    });
+    // The command line is in the log of commands; switching a described PC off does nothing else.
+    addTool("shutdown", [](const QStringList &) { return QByteArray(); });
 }
 
 SimulatedPlatform::~SimulatedPlatform()
 {
     delete m_notifier.data();
     if (m_ownsState) {
-        m_devices.closeAll(); // an open image could not be removed everywhere
+        closeAll(); // an open image could not be removed everywhere
         QDir(m_state).removeRecursively();
     }
 }
 
-Platform::RawHandle SimulatedPlatform::CreateFileW(const QString &name, quint32 access, quint32,
-                                                   quint32 disposition)
+QStringList SimulatedPlatform::processes()
 {
-    return m_devices.open(name, access, disposition);
+    const QMutexLocker lock(&m_mutex);
+    return m_processes;
 }
 
-bool SimulatedPlatform::SetFilePointer(RawHandle handle, qint64 byteOffset)
+void SimulatedPlatform::stopProcess(const QString &imageName)
 {
-    return m_devices.seek(handle, byteOffset);
-}
-
-bool SimulatedPlatform::ReadFile(RawHandle handle, void *buffer, quint32 bytes, quint32 *transferred)
-{
-    return m_devices.read(handle, buffer, bytes, transferred);
-}
-
-bool SimulatedPlatform::WriteFile(RawHandle handle, const void *buffer, quint32 bytes, quint32 *transferred)
-{
-    return m_devices.write(handle, buffer, bytes, transferred);
-}
-
-bool SimulatedPlatform::DeviceIoControl(RawHandle handle, quint32 code, const void *in, quint32 inSize,
-                                        void *out, quint32 outSize, quint32 *returned)
-{
-    return m_devices.control(handle, code, in, inSize, out, outSize, returned);
-}
-
-bool SimulatedPlatform::FlushFileBuffers(RawHandle handle)
-{
-    return !m_devices.isGone(handle); // transfers go to the image at once
-}
-
-bool SimulatedPlatform::IsGone(RawHandle handle)
-{
-    return m_devices.isGone(handle);
-}
-
-void SimulatedPlatform::CloseHandle(RawHandle handle)
-{
-    m_devices.close(handle);
-}
-
-bool SimulatedPlatform::IsAccessDenied(const QString &name)
-{
-    return m_devices.isRefused(name);
-}
-
-const inventory::Volume *SimulatedPlatform::volumeOf(const QString &root) const
-{
-    const inventory::Volume *volume = root.isEmpty() ? nullptr : m_pc.volume(root.at(0));
-    return volume != nullptr && m_presence.has(*volume) ? volume : nullptr;
-}
-
-QStringList SimulatedPlatform::GetLogicalDriveStringsW()
-{
-    QStringList roots;
-    for (const inventory::Volume &volume : m_pc.volumes) {
-        if (m_presence.has(volume)) {
-            roots.append(QString(volume.letter) + QLatin1String(":\\"));
-        }
+    const QMutexLocker lock(&m_mutex);
+    for (int i = m_processes.size() - 1; i >= 0; --i) {
+        if (m_processes.at(i).compare(imageName, Qt::CaseInsensitive) == 0)
+            m_processes.removeAt(i);
     }
-    roots.sort();
-    return roots;
-}
-
-bool SimulatedPlatform::GetVolumeInformationW(const QString &root, QString *label, QString *fileSystem)
-{
-    const inventory::Volume *volume = volumeOf(root);
-    const bool readable = volume != nullptr && volume->type != QLatin1String("noroot") &&
-                          !(volume->type == QLatin1String("cdrom") && volume->size == 0) &&
-                          !(volume->label.isEmpty() && volume->fileSystem.isEmpty());
-    if (label != nullptr) {
-        *label = readable ? volume->label : QString();
-    }
-    if (fileSystem != nullptr) {
-        *fileSystem = readable ? volume->fileSystem : QString();
-    }
-    return readable;
-}
-
-quint32 SimulatedPlatform::GetDriveTypeW(const QString &root)
-{
-    const inventory::Volume *volume = volumeOf(root);
-    return volume != nullptr ? static_cast<quint32>(tools::volumeTypes().indexOf(volume->type))
-                             : quint32(io::DriveNoRootDir);
-}
-
-bool SimulatedPlatform::GetDiskFreeSpaceExW(const QString &root, quint64 *totalBytes, quint64 *freeBytes)
-{
-    const inventory::Volume *volume = volumeOf(root);
-    const bool readable = volume != nullptr && volume->size != 0 && volume->type != QLatin1String("noroot");
-    if (totalBytes != nullptr) {
-        *totalBytes = readable ? volume->size : 0;
-    }
-    if (freeBytes != nullptr) {
-        *freeBytes = readable ? volume->free : 0;
-    }
-    return readable;
 }
 
 void SimulatedPlatform::record(const QString &fileName, const QByteArray &line)
@@ -234,11 +164,11 @@ void SimulatedPlatform::record(const QString &fileName, const QByteArray &line)
     }
 }
 
-bool SimulatedPlatform::CreateProcessAndWait(const std::wstring &line, bool)
+bool SimulatedPlatform::CreateProcessAndWait(const std::wstring &line, bool hidden)
 {
     // The program widens its lines byte by byte; narrowed again they show what it composed.
     record(QStringLiteral("commands.log"), QString::fromStdWString(line).toLatin1());
-    return m_interpreter.run(line, [this](const QString &path) { return NativePath(path); });
+    return InventoryPlatform::CreateProcessAndWait(line, hidden);
 }
 
 bool SimulatedPlatform::ShellExecuteW(const QString &file, const QString &parameters, const QString &verb,
@@ -271,11 +201,6 @@ QString SimulatedPlatform::GetTempPathW()
     return m_state + QLatin1String("/temp/");
 }
 
-QString SimulatedPlatform::GetSystemDirectoryW()
-{
-    return QStringLiteral("C:\\Windows\\system32");
-}
-
 QString SimulatedPlatform::GetUserNameW()
 {
     return m_pc.user;
@@ -286,8 +211,13 @@ QString SimulatedPlatform::HistoryFolder(const QString &)
     const QString folder = m_state + QLatin1String("/history");
     const QMutexLocker lock(&m_mutex);
     if (!QFileInfo::exists(folder)) {
-        const QDate yesterday = QDateTime::fromMSecsSinceEpoch(m_clock()).date().addDays(-1);
-        simulated::seedHistory(m_pc.history, folder, m_pc.historyIsRecent ? yesterday : QDate());
+        // The folder gets its name when it is whole, so that a copy that was interrupted is made again.
+        const QString unready = folder + QLatin1String(".new");
+        QDir(unready).removeRecursively();
+        QDir().mkpath(unready);
+        if (!m_pc.history.isEmpty())
+            simulated::copyFolder(m_pc.history, unready);
+        QDir().rename(unready, folder);
     }
     return folder;
 }
@@ -404,13 +334,6 @@ void SimulatedPlatform::tellVolumeChanges()
         }
     }
 }
-
-std::optional<DeviceChange> SimulatedPlatform::decodeDeviceMessage(const QByteArray &, void *)
-{
-    return std::nullopt;
-}
-
-void SimulatedPlatform::InitializeCom() {}
 
 void SimulatedPlatform::CreateLogonTask(const LogonTask &task)
 {

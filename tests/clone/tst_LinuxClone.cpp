@@ -225,7 +225,7 @@ void tst_LinuxClone::swappedDiskIsLeftAlone()
     if (inThePause)
         watched->onSleep = [&swap](quint32) { swap(); };
     Platform::install(std::move(watched));
-    Platform::current().GetLogicalDriveStringsW();
+    Platform::current().BeginListing();
     if (!inThePause)
         swap();
     // This reads the disks without a new list, so the numbers keep their media.

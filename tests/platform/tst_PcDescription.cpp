@@ -133,28 +133,6 @@ void TestPcDescription::errors_data()
         "disks[0].unwritable[0][1]: a number from 1 to 17592186044416 is wanted");
     row("past end", R"({"disks": [{"number": 0, "pastEnd": "cut"}]})",
         R"(disks[0].pastEnd: one of "short", "fail" is wanted)");
-    row("layout", R"({"disks": [{"number": 0, "layout": {}}]})", "disks[0].layout.table: a text is wanted");
-    row("table", R"({"disks": [{"number": 0, "layout": {"table": "gone.sfdisk"}}]})",
-        "disks[0].layout.table: <folder>/gone.sfdisk: no such file");
-    const auto system = [&row](const char *name, const char *json, const char *error) {
-        const QByteArray disk =
-            R"({"disks": [{"number": 0, "layout": {"table": "there.txt", "fileSystems": [)";
-        row(name, disk + json + "]}}]}", QByteArray("disks[0].layout.fileSystems") + error);
-    };
-    system("no partition", "{}", "[0].partition: a whole number is wanted");
-    system("partition", R"({"partition": 0})", "[0].partition: a number from 1 to 128 is wanted");
-    system("partition twice", R"({"partition": 5}, {"partition": 5})",
-           "[1].partition: partition 5 has one already");
-    system(
-        "file system", R"({"partition": 1, "type": "zfs"})",
-        "[0].type: one of \"ext2\", \"ext3\", \"ext4\", \"fat16\", \"fat32\", \"ntfs\", \"exfat\" is wanted");
-    system("label", R"({"partition": 1, "type": "fat32", "label": "TWELVE CHARS"})",
-           "[0].label: at most 11 characters are wanted");
-    system("label in bytes",
-           "{\"partition\": 1, \"label\": \"m\u00e4\u00e4\u00e4\u00e4\u00e4\u00e4\u00e4\u00e4\"}",
-           "[0].label: at most 16 characters are wanted");
-    system("last mounted", R"({"partition": 1, "type": "ntfs", "lastMounted": "/a"})",
-           "[0].lastMounted: only an ext file system has that");
     row("present", R"({"volumes": [{"letter": "C", "present": "no"}]})",
         "volumes[0].present: true or false is wanted");
     row("hex", R"({"disks": [{"number": 0, "identity": {"smart": "0g"}}]})",

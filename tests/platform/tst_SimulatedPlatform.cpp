@@ -69,7 +69,6 @@ private slots:
     void settingsOfOtherPaths();
     void settingsThatKeepNothing();
     void historyIsSeeded();
-    void historyIsRecent();
     void logonTask();
     void downloads_data();
     void downloads();
@@ -256,27 +255,6 @@ void TestSimulatedPlatform::historyIsSeeded()
     QVERIFY(QFile::remove(history + QStringLiteral("/NX-1.ini")));
     pc = folder.open("{}");
     QVERIFY(!QFileInfo::exists(pc->HistoryFolder(QString()) + QStringLiteral("/NX-1.ini")));
-}
-
-void TestSimulatedPlatform::historyIsRecent()
-{
-    const DescribedFolder folder;
-    folder.add(QStringLiteral("history/NX-1"),
-               "[27-02-2026]\r\nCompleteDate=Fri Feb 27 23:59:01 2026\r\nA=01-01-2020\n"
-               "[01-03-2026]\nCompleteDate=torn\nB=3\n[31-02-2026]\n");
-    folder.add(QStringLiteral("history/NX-1Date.txt"), "27-02-2026\n01-03-2026\n");
-    folder.add(QStringLiteral("history/NX-2Date.txt"), "28-02-2026\n");
-    const qint64 now = QDateTime(QDate(2028, 3, 1), QTime(8, 0)).toMSecsSinceEpoch();
-    const auto pc = folder.open(R"({"historyDays": "recent"})", [now] { return now; });
-    const QString history = pc->HistoryFolder(QString());
-    QCOMPARE(DescribedFolder::contents(history + QStringLiteral("/NX-1Date.txt")),
-             QByteArray("27-02-2028\n29-02-2028\n"));
-    QCOMPARE(DescribedFolder::contents(history + QStringLiteral("/NX-2Date.txt")),
-             QByteArray("28-02-2028\n"));
-    QCOMPARE(DescribedFolder::contents(history + QStringLiteral("/NX-1")),
-             QByteArray("[27-02-2028]\r\nCompleteDate=Sun Feb 27 23:59:01 2028\r\nA=01-01-2020\n"
-                        "[29-02-2028]\nCompleteDate=torn\nB=3\n[31-02-2026]\n"));
-    QVERIFY(!QFileInfo::exists(history + QStringLiteral(".new")));
 }
 
 void TestSimulatedPlatform::logonTask()

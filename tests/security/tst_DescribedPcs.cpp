@@ -65,10 +65,6 @@ void DescribedPcsTest::strangeNames_data()
     disk("pipe", R"("selfTestLog": "pipe")",
          "disks[0].selfTestLog: <pc>/pipe: no regular file that can be read");
     disk("long report", R"("report": "long")", "disks[0].report: <pc>/long: more than 16 MiB");
-    disk("command in a table", R"("layout": {"table": "commands"})",
-         "disks[0].layout.table: <pc>/commands: line 2 sets no partition table");
-    disk("label", R"("layout": {"table": "t", "fileSystems": [{"partition": 1, "label": "a\nb"}]})",
-         "disks[0].layout.fileSystems[0].label: a text without control characters is wanted");
 }
 
 void DescribedPcsTest::strangeNames()
@@ -77,8 +73,6 @@ void DescribedPcsTest::strangeNames()
     QFETCH(QString, error);
     const DescribedFolder folder;
     folder.add(QStringLiteral("pc.json"), json);
-    folder.add(QStringLiteral("commands"), "label: dos\nwrite\n");
-    folder.add(QStringLiteral("t"), "label: dos\nsize=1\n");
     folder.add(QStringLiteral("leaky/a"), "");
     QVERIFY(QFile::link(QStringLiteral("/etc/passwd"), folder.path() + QStringLiteral("/out")));
     QVERIFY(QFile::link(QStringLiteral("/etc/passwd"), folder.path() + QStringLiteral("/leaky/out")));

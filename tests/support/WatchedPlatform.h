@@ -91,6 +91,7 @@ public:
     }
 
     bool IsAccessDenied(const QString &name) override { return m_inner->IsAccessDenied(name); }
+    void BeginListing() override { m_inner->BeginListing(); }
     QStringList GetLogicalDriveStringsW() override { return m_inner->GetLogicalDriveStringsW(); }
     bool GetVolumeInformationW(const QString &root, QString *label, QString *fileSystem) override
     {
