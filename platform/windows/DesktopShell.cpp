@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/windows/DesktopShell.h"
 
-#include <windows.h>
+#include "platform/windows/Com.h"
+#include "platform/windows/Native.h"
 
 #include <exdisp.h>
-#include <oleauto.h>
 #include <servprov.h>
 #include <shldisp.h>
 #include <shlobj.h>
@@ -14,28 +14,6 @@ namespace windows
 
 namespace
 {
-
-/// A reference to an interface of the system, given back at the end.
-template<typename Interface>
-class Reference
-{
-public:
-    Reference() = default;
-    Reference(const Reference &) = delete;
-    Reference &operator=(const Reference &) = delete;
-    ~Reference()
-    {
-        if (m_interface)
-            m_interface->Release();
-    }
-    Interface *operator->() const { return m_interface; }
-    explicit operator bool() const { return m_interface != nullptr; }
-    Interface **address() { return &m_interface; }
-    void **untyped() { return reinterpret_cast<void **>(&m_interface); }
-
-private:
-    Interface *m_interface = nullptr;
-};
 
 /// COM on this thread for as long as it lives.
 class ComOnThread
@@ -64,7 +42,7 @@ public:
         if (text.isEmpty())
             return;
         m_value.vt = VT_BSTR;
-        m_value.bstrVal = ::SysAllocString(reinterpret_cast<const wchar_t *>(text.utf16()));
+        m_value.bstrVal = ::SysAllocString(wide(text));
     }
     explicit Value(int number)
     {
@@ -82,9 +60,9 @@ private:
 };
 
 /// The automation object that lives in the process of the desktop.
-bool findDesktop(Reference<IShellDispatch2> *desktop)
+bool findDesktop(Held<IShellDispatch2> *desktop)
 {
-    Reference<IShellWindows> all;
+    Held<IShellWindows> all;
     if (::CoCreateInstance(CLSID_ShellWindows, nullptr, CLSCTX_LOCAL_SERVER, IID_IShellWindows,
                            all.untyped()) != S_OK)
         return false;
@@ -93,22 +71,22 @@ bool findDesktop(Reference<IShellDispatch2> *desktop)
     here.lVal = CSIDL_DESKTOP;
     VARIANT none{};
     long window = 0;
-    Reference<IDispatch> found;
-    if (all->FindWindowSW(&here, &none, SWC_DESKTOP, &window, SWFO_NEEDDISPATCH, found.address()) != S_OK ||
-        !found)
+    Held<IDispatch> found;
+    if (all->FindWindowSW(&here, &none, SWC_DESKTOP, &window, SWFO_NEEDDISPATCH, found.put()) != S_OK ||
+        !found.get())
         return false;
-    Reference<IServiceProvider> provider;
-    Reference<IShellBrowser> browser;
-    Reference<IShellView> view;
-    Reference<IDispatch> background;
-    Reference<IShellFolderViewDual> folder;
-    Reference<IDispatch> application;
+    Held<IServiceProvider> provider;
+    Held<IShellBrowser> browser;
+    Held<IShellView> view;
+    Held<IDispatch> background;
+    Held<IShellFolderViewDual> folder;
+    Held<IDispatch> application;
     return found->QueryInterface(IID_IServiceProvider, provider.untyped()) == S_OK &&
            provider->QueryService(SID_STopLevelBrowser, IID_IShellBrowser, browser.untyped()) == S_OK &&
-           browser->QueryActiveShellView(view.address()) == S_OK &&
+           browser->QueryActiveShellView(view.put()) == S_OK &&
            view->GetItemObject(SVGIO_BACKGROUND, IID_IDispatch, background.untyped()) == S_OK &&
            background->QueryInterface(IID_IShellFolderViewDual, folder.untyped()) == S_OK &&
-           folder->get_Application(application.address()) == S_OK &&
+           folder->get_Application(application.put()) == S_OK &&
            application->QueryInterface(IID_IShellDispatch2, desktop->untyped()) == S_OK;
 }
 
@@ -117,15 +95,11 @@ bool findDesktop(Reference<IShellDispatch2> *desktop)
 bool openByShell(const QString &file, const QString &parameters, const QString &verb, int show)
 {
     const ComOnThread com;
-    Reference<IShellDispatch2> desktop;
+    Held<IShellDispatch2> desktop;
     if (!findDesktop(&desktop))
         return false;
-    const BSTR target = ::SysAllocString(reinterpret_cast<const wchar_t *>(file.utf16()));
-    const Value none{QString()};
-    const bool opened =
-        desktop->ShellExecute(target, *Value(parameters), *none, *Value(verb), *Value(show)) == S_OK;
-    ::SysFreeString(target);
-    return opened;
+    return desktop->ShellExecute(Text(file), *Value(parameters), *Value(QString()), *Value(verb),
+                                 *Value(show)) == S_OK;
 }
 
 } // namespace windows

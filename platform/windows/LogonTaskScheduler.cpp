@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/windows/LogonTaskScheduler.h"
 
+#include "platform/windows/Com.h"
+
 #include <cstdio>
 
 #include <initguid.h>
@@ -27,44 +29,6 @@ namespace windows
 namespace
 {
 
-/// A COM interface that is released when it goes out of use.
-template<typename Interface>
-class Held
-{
-public:
-    Held() = default;
-    Held(const Held &) = delete;
-    Held &operator=(const Held &) = delete;
-    ~Held()
-    {
-        if (m_pointer)
-            m_pointer->Release();
-    }
-    Interface **put() { return &m_pointer; }
-    Interface *operator->() const { return m_pointer; }
-    Interface *get() const { return m_pointer; }
-
-private:
-    Interface *m_pointer = nullptr;
-};
-
-/// A text as COM takes it.
-class Text
-{
-public:
-    explicit Text(const QString &text)
-        : m_text(::SysAllocString(reinterpret_cast<const wchar_t *>(text.utf16())))
-    {
-    }
-    Text(const Text &) = delete;
-    Text &operator=(const Text &) = delete;
-    ~Text() { ::SysFreeString(m_text); }
-    operator BSTR() const { return m_text; }
-
-private:
-    BSTR m_text;
-};
-
 VARIANT emptyVariant()
 {
     VARIANT variant;
@@ -86,7 +50,7 @@ bool succeeded(HRESULT result, const char *format)
 bool openRoot(Held<ITaskService> &service, Held<ITaskFolder> &root)
 {
     if (!succeeded(::CoCreateInstance(CLSID_TaskScheduler, nullptr, CLSCTX_INPROC_SERVER, IID_ITaskService,
-                                      reinterpret_cast<void **>(service.put())),
+                                      service.untyped()),
                    "Failed to create an instance of ITaskService: %x"))
         return false;
     return succeeded(service->Connect(emptyVariant(), emptyVariant(), emptyVariant(), emptyVariant()),
@@ -127,7 +91,7 @@ bool putTrigger(ITaskDefinition *definition, const QString &user)
     return succeeded(definition->get_Triggers(triggers.put()), "\nCannot get trigger collection: %x") &&
            succeeded(triggers->Create(TASK_TRIGGER_LOGON, trigger.put()),
                      "\nCannot create the trigger: %x") &&
-           succeeded(trigger->QueryInterface(IID_ILogonTrigger, reinterpret_cast<void **>(logon.put())),
+           succeeded(trigger->QueryInterface(IID_ILogonTrigger, logon.untyped()),
                      "\nQueryInterface call failed for ILogonTrigger: %x") &&
            succeeded(logon->put_Id(Text(QStringLiteral("Trigger1"))), "\nCannot put the trigger ID: %x") &&
            succeeded(logon->put_UserId(Text(user)), "\nCannot add user ID to logon trigger: %x");
@@ -140,7 +104,7 @@ bool putAction(ITaskDefinition *definition, const LogonTask &task)
     Held<IExecAction> exec;
     return succeeded(definition->get_Actions(actions.put()), "\nCannot get Task collection pointer: %x") &&
            succeeded(actions->Create(TASK_ACTION_EXEC, action.put()), "\nCannot create the action: %x") &&
-           succeeded(action->QueryInterface(IID_IExecAction, reinterpret_cast<void **>(exec.put())),
+           succeeded(action->QueryInterface(IID_IExecAction, exec.untyped()),
                      "\nQueryInterface call failed for IExecAction: %x") &&
            succeeded(exec->put_Arguments(Text(task.arguments)), "\nCannot set path of executable: %x") &&
            succeeded(exec->put_Path(Text(task.program)), "\nCannot set path of executable: %x");

@@ -1,21 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/OwnFiles.h"
 
+#include "platform/windows/Native.h"
+
 #include <QDir>
 #include <QDirIterator>
 #include <QSaveFile>
 
 #include <algorithm>
 #include <array>
-#include <cwchar>
 #include <iterator>
 
-#include <windows.h>
-
 #include <aclapi.h>
-#include <fcntl.h>
-#include <io.h>
-#include <sddl.h>
 
 namespace ownfiles
 {
@@ -23,37 +19,18 @@ namespace ownfiles
 namespace
 {
 
-using Sid = std::array<BYTE, SECURITY_MAX_SID_SIZE>;
-
-/// The user of this process; the buffer holds what the answer points into.
-PSID userOf(std::array<BYTE, 256> *buffer)
-{
-    HANDLE token = nullptr;
-    DWORD size = 0;
-    if (!::OpenProcessToken(::GetCurrentProcess(), TOKEN_QUERY, &token))
-        return nullptr;
-    const BOOL told =
-        ::GetTokenInformation(token, TokenUser, buffer->data(), static_cast<DWORD>(buffer->size()), &size);
-    ::CloseHandle(token);
-    return told ? reinterpret_cast<const TOKEN_USER *>(buffer->data())->User.Sid : nullptr;
-}
-
 /// Who may change what we use: this user, administrators and the system, to which its installer belongs.
 bool isOurs(PSID who)
 {
     constexpr WELL_KNOWN_SID_TYPE Kinds[] = {WinBuiltinAdministratorsSid, WinLocalSystemSid,
                                              WinAccountAdministratorSid, WinAccountDomainAdminsSid};
-    std::array<BYTE, 256> buffer{};
-    const PSID user = userOf(&buffer);
-    LPWSTR text = nullptr;
-    if (!who || !::IsValidSid(who) || !::ConvertSidToStringSidW(who, &text))
-        return false;
+    const QString text = windows::sidText(who);
     const bool isInstaller =
-        ::wcscmp(text, L"S-1-5-80-956008885-3418522649-1831038044-1853292631-2271478464") == 0;
-    ::LocalFree(text);
-    return isInstaller || (user && ::EqualSid(who, user)) ||
-           std::any_of(std::begin(Kinds), std::end(Kinds),
-                       [who](WELL_KNOWN_SID_TYPE kind) { return ::IsWellKnownSid(who, kind) != FALSE; });
+        text == QLatin1String("S-1-5-80-956008885-3418522649-1831038044-1853292631-2271478464");
+    return !text.isEmpty() &&
+           (isInstaller || text == windows::userSid() ||
+            std::any_of(std::begin(Kinds), std::end(Kinds),
+                        [who](WELL_KNOWN_SID_TYPE kind) { return ::IsWellKnownSid(who, kind) != FALSE; }));
 }
 
 /// Whether a list gives somebody else one of the rights. There is none where everybody has all of them.
@@ -121,7 +98,7 @@ QStringList wayTo(const QString &path)
 
 bool isElevated()
 {
-    Sid administrators{};
+    std::array<BYTE, SECURITY_MAX_SID_SIZE> administrators{};
     auto size = static_cast<DWORD>(administrators.size());
     BOOL member = FALSE;
     return ::CreateWellKnownSid(WinBuiltinAdministratorsSid, nullptr, administrators.data(), &size) &&
@@ -131,44 +108,14 @@ bool isElevated()
 bool openRegular(QFile *file, const QString &path, QIODevice::OpenMode mode)
 {
     const bool writes = (mode & QIODevice::WriteOnly) != 0;
-    const bool reads = (mode & QIODevice::ReadOnly) != 0;
-    const HANDLE handle =
-        ::CreateFileW(reinterpret_cast<const wchar_t *>(QDir::toNativeSeparators(path).utf16()),
-                      (reads ? GENERIC_READ : 0) | (writes ? GENERIC_WRITE : 0),
-                      FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, writes ? OPEN_ALWAYS : OPEN_EXISTING,
-                      FILE_ATTRIBUTE_NORMAL | FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
-    if (handle == INVALID_HANDLE_VALUE)
-        return false;
-    BY_HANDLE_FILE_INFORMATION info{};
-    constexpr DWORD Others = FILE_ATTRIBUTE_REPARSE_POINT | FILE_ATTRIBUTE_DIRECTORY;
-    const bool regular = ::GetFileType(handle) == FILE_TYPE_DISK &&
-                         ::GetFileInformationByHandle(handle, &info) && (info.dwFileAttributes & Others) == 0;
-    const bool cut = (mode & QIODevice::Truncate) != 0;
-    if (!regular || (cut && !::SetEndOfFile(handle))) {
-        ::CloseHandle(handle);
-        return false;
-    }
-    const int number = ::_open_osfhandle(reinterpret_cast<intptr_t>(handle), writes ? _O_RDWR : _O_RDONLY);
-    if (number >= 0 && file->open(number, mode, QFileDevice::AutoCloseHandle))
-        return true;
-    ::_close(number);
-    return false;
+    return windows::openFile(file, path, mode, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                             writes ? OPEN_ALWAYS : OPEN_EXISTING);
 }
 
 bool makeFile(QFile *file, const QString &path)
 {
-    if (!strangerOn(QFileInfo(path).path()).isEmpty())
-        return false;
-    const HANDLE handle = ::CreateFileW(
-        reinterpret_cast<const wchar_t *>(QDir::toNativeSeparators(path).utf16()), GENERIC_WRITE, 0, nullptr,
-        CREATE_NEW, FILE_ATTRIBUTE_NORMAL | FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
-    if (handle == INVALID_HANDLE_VALUE)
-        return false;
-    const int number = ::_open_osfhandle(reinterpret_cast<intptr_t>(handle), _O_WRONLY);
-    if (number >= 0 && file->open(number, QIODevice::WriteOnly, QFileDevice::AutoCloseHandle))
-        return true;
-    ::_close(number);
-    return false;
+    return strangerOn(QFileInfo(path).path()).isEmpty() &&
+           windows::openFile(file, path, QIODevice::WriteOnly, 0, CREATE_NEW);
 }
 
 bool saveFile(const QString &path, const QByteArray &bytes)
@@ -193,10 +140,10 @@ QString strangerOn(const QString &path)
     constexpr DWORD Write = Replace | DELETE | FILE_WRITE_DATA | FILE_APPEND_DATA | GENERIC_WRITE;
     const QStringList way = wayTo(path);
     for (const QString &part : way) {
-        const HANDLE handle = ::CreateFileW(
-            reinterpret_cast<const wchar_t *>(QDir::toNativeSeparators(part).utf16()),
-            READ_CONTROL | FILE_READ_ATTRIBUTES, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
-            nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
+        const HANDLE handle =
+            ::CreateFileW(windows::wide(QDir::toNativeSeparators(part)), READ_CONTROL | FILE_READ_ATTRIBUTES,
+                          FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
+                          FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
         const DWORD error = ::GetLastError();
         if (handle == INVALID_HANDLE_VALUE) {
             const bool isMissing = error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND;

@@ -3,6 +3,7 @@
 
 #include "platform/OwnFiles.h"
 #include "platform/tools/CommandInterpreter.h"
+#include "platform/windows/Native.h"
 
 #include <QDir>
 #include <QRandomGenerator>
@@ -11,8 +12,6 @@
 #include <array>
 
 #include <aclapi.h>
-#include <fcntl.h>
-#include <io.h>
 #include <sddl.h>
 #include <shlobj.h>
 
@@ -21,11 +20,6 @@ namespace windows
 
 namespace
 {
-
-const wchar_t *wide(const QString &text)
-{
-    return reinterpret_cast<const wchar_t *>(text.utf16());
-}
 
 /// The folder by a path that a command line can hold; empty if it has none.
 QString machineData()
@@ -44,25 +38,6 @@ QString machineData()
     return tools::CommandInterpreter::breaksCommands(result) ? QString() : result;
 }
 
-/// The user of this process as a text.
-QString userSid()
-{
-    HANDLE token = nullptr;
-    if (!::OpenProcessToken(::GetCurrentProcess(), TOKEN_QUERY, &token))
-        return QString();
-    std::array<BYTE, 256> buffer{};
-    DWORD size = 0;
-    LPWSTR text = nullptr;
-    QString result;
-    if (::GetTokenInformation(token, TokenUser, buffer.data(), static_cast<DWORD>(buffer.size()), &size) &&
-        ::ConvertSidToStringSidW(reinterpret_cast<const TOKEN_USER *>(buffer.data())->User.Sid, &text)) {
-        result = QString::fromWCharArray(text);
-        ::LocalFree(text);
-    }
-    ::CloseHandle(token);
-    return result;
-}
-
 QString rights()
 {
     const QString who = ownfiles::isElevated() ? QStringLiteral("BA") : userSid();
@@ -76,18 +51,15 @@ HANDLE openFolder(const QString &path, DWORD access, DWORD share)
                          FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
 }
 
-/// Whether nobody but this process's kind can have made the folder or can write to it, and it is no link.
+/// Whether nobody but this process's kind can have made the folder or can write to it, and it is no link. To
+/// an administrator's program a folder that its user made without these rights is somebody else's.
 bool isOwnFolder(const QString &path)
 {
-    const HANDLE folder = openFolder(path, READ_CONTROL | FILE_READ_ATTRIBUTES,
-                                     FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE);
+    const HANDLE folder =
+        openFolder(path, READ_CONTROL, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE);
     if (folder == INVALID_HANDLE_VALUE)
         return false;
-    BY_HANDLE_FILE_INFORMATION info{};
-    const bool real = ::GetFileInformationByHandle(folder, &info) &&
-                      (info.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0 &&
-                      (info.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0;
-    const bool own = real && isOwnObject(folder, true);
+    const bool own = isOwnObject(folder, true);
     ::CloseHandle(folder);
     return own && ownfiles::strangerOn(path).isEmpty();
 }
@@ -129,17 +101,15 @@ bool isOwnObject(HANDLE object, bool isFile)
 {
     PSID owner = nullptr;
     PSECURITY_DESCRIPTOR descriptor = nullptr;
-    LPWSTR text = nullptr;
     const auto kind = isFile ? SE_FILE_OBJECT : SE_KERNEL_OBJECT;
     bool own = false;
     if (::GetSecurityInfo(object, kind, OWNER_SECURITY_INFORMATION, &owner, nullptr, nullptr, nullptr,
                           &descriptor) == ERROR_SUCCESS &&
-        owner && ::ConvertSidToStringSidW(owner, &text)) {
+        !sidText(owner).isEmpty()) {
         own = ownfiles::isElevated() ? ::IsWellKnownSid(owner, WinBuiltinAdministratorsSid) != FALSE ||
                                            ::IsWellKnownSid(owner, WinLocalSystemSid) != FALSE
-                                     : QString::fromWCharArray(text) == userSid();
+                                     : sidText(owner) == userSid();
     }
-    ::LocalFree(text);
     ::LocalFree(descriptor);
     return own;
 }
@@ -181,19 +151,9 @@ QString dataFolder()
 
 std::unique_ptr<QFile> holdFile(const QString &path)
 {
-    const HANDLE handle = ::CreateFileW(wide(QDir::toNativeSeparators(path)), GENERIC_READ, FILE_SHARE_READ,
-                                        nullptr, OPEN_EXISTING, FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
-    if (handle == INVALID_HANDLE_VALUE)
-        return nullptr;
-    BY_HANDLE_FILE_INFORMATION info{};
-    constexpr DWORD Others = FILE_ATTRIBUTE_REPARSE_POINT | FILE_ATTRIBUTE_DIRECTORY;
-    const bool regular = ::GetFileInformationByHandle(handle, &info) && (info.dwFileAttributes & Others) == 0;
-    const int number = ::_open_osfhandle(reinterpret_cast<intptr_t>(handle), _O_RDONLY);
     auto file = std::make_unique<QFile>();
-    if (number >= 0 && file->open(number, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle))
-        return regular && ownfiles::strangerOn(path).isEmpty() ? std::move(file) : nullptr;
-    ::_close(number);
-    return nullptr;
+    const bool held = openFile(file.get(), path, QIODevice::ReadOnly, FILE_SHARE_READ, OPEN_EXISTING);
+    return held && ownfiles::strangerOn(path).isEmpty() ? std::move(file) : nullptr;
 }
 
 } // namespace windows

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/NativePlatform.h"
 #include "platform/OwnFiles.h"
+#include "platform/windows/Native.h"
 #include "platform/windows/PrivateFolder.h"
 
 #include <QByteArrayList>
@@ -51,8 +52,7 @@ bool takeNativeInstance(const QString &key)
     const QString name = QLatin1String("Local\\") + key + QLatin1Char('-') + user +
                          (ownfiles::isElevated() ? QStringLiteral("-administrator") : QString());
     windows::OwnRights own;
-    const HANDLE mutex =
-        ::CreateMutexW(own.attributes(), FALSE, reinterpret_cast<const wchar_t *>(name.utf16()));
+    const HANDLE mutex = ::CreateMutexW(own.attributes(), FALSE, windows::wide(name));
     const bool isThere = ::GetLastError() == ERROR_ALREADY_EXISTS;
     // Held until the process ends. A mutex that does not open, or that a program with fewer rights made, is
     // no sign of another instance.

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/windows/RawDevices.h"
 
+#include "platform/Log.h"
+#include "platform/windows/Native.h"
+
 #include <algorithm>
 #include <iterator>
-
-#include <windows.h>
 
 #include <winioctl.h>
 
@@ -80,13 +81,14 @@ bool transferAt(Call call, HANDLE handle, Byte *memory, qint64 byteOffset, qint6
 
 } // namespace
 
-Platform::RawHandle RawDevices::open(const QString &name, quint32 access, quint32 shareMode,
-                                     quint32 disposition)
+Platform::RawHandle RawDevices::CreateFileW(const QString &name, quint32 access, quint32 shareMode,
+                                            quint32 disposition)
 {
-    const HANDLE handle = ::CreateFileW(reinterpret_cast<const wchar_t *>(name.utf16()), access, shareMode,
-                                        nullptr, disposition, 0, nullptr);
-    if (handle == INVALID_HANDLE_VALUE)
-        return Platform::InvalidHandle;
+    const HANDLE handle = ::CreateFileW(wide(name), access, shareMode, nullptr, disposition, 0, nullptr);
+    if (handle == INVALID_HANDLE_VALUE) {
+        qCDebug(logs::platform, "%s does not open: error %lu", qUtf8Printable(name), ::GetLastError());
+        return InvalidHandle;
+    }
     auto device = std::make_shared<Device>();
     device->size = sizeOf(handle);
     device->sector = sectorOf(handle);
@@ -102,7 +104,7 @@ std::shared_ptr<RawDevices::Device> RawDevices::find(Platform::RawHandle handle)
     return m_open.value(handle);
 }
 
-bool RawDevices::seek(Platform::RawHandle handle, qint64 byteOffset)
+bool RawDevices::SetFilePointer(Platform::RawHandle handle, qint64 byteOffset)
 {
     const auto device = find(handle);
     if (!device || byteOffset < 0)
@@ -128,7 +130,7 @@ quint32 RawDevices::cut(const Device &device, quint32 bytes)
     return static_cast<quint32>(std::min<qint64>(left, bytes));
 }
 
-bool RawDevices::read(Platform::RawHandle handle, void *buffer, quint32 bytes, quint32 *transferred)
+bool RawDevices::ReadFile(Platform::RawHandle handle, void *buffer, quint32 bytes, quint32 *transferred)
 {
     const auto device = find(handle);
     const quint32 wanted = device ? cut(*device, bytes) : 0;
@@ -143,7 +145,8 @@ bool RawDevices::read(Platform::RawHandle handle, void *buffer, quint32 bytes, q
     return finish(device.get(), done ? wanted : 0, transferred);
 }
 
-bool RawDevices::write(Platform::RawHandle handle, const void *buffer, quint32 bytes, quint32 *transferred)
+bool RawDevices::WriteFile(Platform::RawHandle handle, const void *buffer, quint32 bytes,
+                           quint32 *transferred)
 {
     const auto device = find(handle);
     const quint32 wanted = device ? cut(*device, bytes) : 0;
@@ -158,8 +161,8 @@ bool RawDevices::write(Platform::RawHandle handle, const void *buffer, quint32 b
     return finish(device.get(), done ? wanted : 0, transferred);
 }
 
-bool RawDevices::control(Platform::RawHandle handle, quint32 code, const void *in, quint32 inSize, void *out,
-                         quint32 outSize, quint32 *returned)
+bool RawDevices::DeviceIoControl(Platform::RawHandle handle, quint32 code, const void *in, quint32 inSize,
+                                 void *out, quint32 outSize, quint32 *returned)
 {
     DWORD count = 0;
     // The system takes the input without const and only reads it.
@@ -170,13 +173,13 @@ bool RawDevices::control(Platform::RawHandle handle, quint32 code, const void *i
     return done != FALSE;
 }
 
-bool RawDevices::flush(Platform::RawHandle handle)
+bool RawDevices::FlushFileBuffers(Platform::RawHandle handle)
 {
     // A driver without this request has nothing to flush.
     return find(handle) && (::FlushFileBuffers(native(handle)) || ::GetLastError() == ERROR_INVALID_FUNCTION);
 }
 
-bool RawDevices::isGone(Platform::RawHandle handle)
+bool RawDevices::IsGone(Platform::RawHandle handle)
 {
     DWORD returned = 0;
     return !find(handle) || (!::DeviceIoControl(native(handle), IOCTL_STORAGE_CHECK_VERIFY, nullptr, 0,
@@ -184,7 +187,18 @@ bool RawDevices::isGone(Platform::RawHandle handle)
                              isOfMissingDevice(::GetLastError()));
 }
 
-void RawDevices::close(Platform::RawHandle handle)
+bool RawDevices::IsAccessDenied(const QString &name)
+{
+    const HANDLE handle =
+        ::CreateFileW(wide(name), GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                      OPEN_EXISTING, 0, nullptr);
+    if (handle == INVALID_HANDLE_VALUE)
+        return ::GetLastError() == ERROR_ACCESS_DENIED;
+    ::CloseHandle(handle);
+    return false;
+}
+
+void RawDevices::CloseHandle(Platform::RawHandle handle)
 {
     {
         const std::lock_guard<std::mutex> guard(m_mutex);

@@ -16,18 +16,20 @@ namespace windows
 /// disk's size instead, and one that begins at or behind the end fails. It also moves whole sectors only, and
 /// file systems want aligned memory for those of a volume: what is not so goes by way of a buffer, and parts
 /// of a sector are not written. Where the system does not tell the sizes, transfers go through as they are.
-class RawDevices
+class RawDevices : public Platform
 {
 public:
-    Platform::RawHandle open(const QString &name, quint32 access, quint32 shareMode, quint32 disposition);
-    bool seek(Platform::RawHandle handle, qint64 byteOffset);
-    bool read(Platform::RawHandle handle, void *buffer, quint32 bytes, quint32 *transferred);
-    bool write(Platform::RawHandle handle, const void *buffer, quint32 bytes, quint32 *transferred);
-    bool control(Platform::RawHandle handle, quint32 code, const void *in, quint32 inSize, void *out,
-                 quint32 outSize, quint32 *returned);
-    bool flush(Platform::RawHandle handle);
-    bool isGone(Platform::RawHandle handle);
-    void close(Platform::RawHandle handle);
+    RawHandle CreateFileW(const QString &name, quint32 access, quint32 shareMode,
+                          quint32 disposition) override;
+    bool SetFilePointer(RawHandle handle, qint64 byteOffset) override;
+    bool ReadFile(RawHandle handle, void *buffer, quint32 bytes, quint32 *transferred) override;
+    bool WriteFile(RawHandle handle, const void *buffer, quint32 bytes, quint32 *transferred) override;
+    bool DeviceIoControl(RawHandle handle, quint32 code, const void *in, quint32 inSize, void *out,
+                         quint32 outSize, quint32 *returned) override;
+    bool FlushFileBuffers(RawHandle handle) override;
+    bool IsGone(RawHandle handle) override;
+    void CloseHandle(RawHandle handle) override;
+    bool IsAccessDenied(const QString &name) override;
 
 private:
     static constexpr qint64 UnknownSize = -1;
@@ -44,14 +46,14 @@ private:
         }
     };
 
-    std::shared_ptr<Device> find(Platform::RawHandle handle);
+    std::shared_ptr<Device> find(RawHandle handle);
     /// How much of a transfer lies on the device; 0 fails it.
     static quint32 cut(const Device &device, quint32 bytes);
     /// Ends a transfer of which `moved` bytes were done.
     static bool finish(Device *device, quint32 moved, quint32 *transferred);
 
     std::mutex m_mutex;
-    QHash<Platform::RawHandle, std::shared_ptr<Device>> m_open;
+    QHash<RawHandle, std::shared_ptr<Device>> m_open;
 };
 
 } // namespace windows

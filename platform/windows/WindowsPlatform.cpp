@@ -3,10 +3,12 @@
 
 #include "platform/HttpDownload.h"
 #include "platform/JsonSettings.h"
+#include "platform/Log.h"
 #include "platform/NativePlatform.h"
 #include "platform/OwnFiles.h"
 #include "platform/tools/SystemTools.h"
 #include "platform/windows/DesktopShell.h"
+#include "platform/windows/Native.h"
 #include "platform/windows/PrivateFolder.h"
 #include "platform/windows/SystemInventory.h"
 
@@ -18,12 +20,11 @@
 #include <QUrl>
 
 #include <array>
-#include <vector>
-
-#include <windows.h>
 
 #include <dbt.h>
 #include <shellapi.h>
+
+using windows::wide;
 
 namespace
 {
@@ -32,11 +33,6 @@ namespace
 constexpr DWORD PathCharacters = 512;
 constexpr DWORD UserNameCharacters = 257;
 constexpr DWORD DriveStringCharacters = 260;
-
-const wchar_t *wide(const QString &text)
-{
-    return reinterpret_cast<const wchar_t *>(text.utf16());
-}
 
 bool canWriteInto(const QString &folder)
 {
@@ -62,6 +58,35 @@ std::wstring toolEnvironment(const QString &systemFolder)
     return block.append(2, L'\0');
 }
 
+/// Closes what a started process has brought.
+void close(const PROCESS_INFORMATION &process)
+{
+    ::CloseHandle(process.hThread);
+    ::CloseHandle(process.hProcess);
+}
+
+/// Starts a command line in a console of its own. In no `folder` it works in that of this process.
+bool startLine(const std::wstring &line, const QString &systemFolder, const std::wstring &folder, bool hidden,
+               DWORD flags, PROCESS_INFORMATION *process)
+{
+    STARTUPINFOW startup{};
+    startup.cb = sizeof(startup);
+    if (hidden) {
+        startup.dwFlags = STARTF_USESHOWWINDOW;
+        startup.wShowWindow = SW_HIDE;
+    }
+    // The system may write into the line.
+    std::wstring buffer = line;
+    std::wstring environment = toolEnvironment(systemFolder);
+    const BOOL started =
+        ::CreateProcessW(nullptr, buffer.data(), nullptr, nullptr, FALSE,
+                         CREATE_NEW_CONSOLE | CREATE_UNICODE_ENVIRONMENT | flags, environment.data(),
+                         folder.empty() ? nullptr : folder.c_str(), &startup, process);
+    qCDebug(logs::platform, "a command of %d characters %s", static_cast<int>(line.size()),
+            started ? "starts" : "does not start");
+    return started != FALSE;
+}
+
 /// A program by its full path, with the rights of this process. The user's registry is not asked for it.
 bool startProgram(const QString &path, const QString &parameters)
 {
@@ -72,8 +97,7 @@ bool startProgram(const QString &path, const QString &parameters)
     if (!::CreateProcessW(wide(path), line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
                           &process))
         return false;
-    ::CloseHandle(process.hThread);
-    ::CloseHandle(process.hProcess);
+    close(process);
     return true;
 }
 
@@ -86,61 +110,6 @@ WindowsPlatform::WindowsPlatform()
     m_ownTools.addTool(QStringLiteral("wmic"), [this](const QStringList &arguments, const QByteArray &) {
         return tools::wmic(windows::readMachine(arguments.value(0), this), arguments);
     });
-}
-
-// Raw devices
-
-Platform::RawHandle WindowsPlatform::CreateFileW(const QString &name, quint32 access, quint32 shareMode,
-                                                 quint32 disposition)
-{
-    return m_devices.open(name, access, shareMode, disposition);
-}
-
-bool WindowsPlatform::SetFilePointer(RawHandle handle, qint64 byteOffset)
-{
-    return m_devices.seek(handle, byteOffset);
-}
-
-bool WindowsPlatform::ReadFile(RawHandle handle, void *buffer, quint32 bytes, quint32 *transferred)
-{
-    return m_devices.read(handle, buffer, bytes, transferred);
-}
-
-bool WindowsPlatform::WriteFile(RawHandle handle, const void *buffer, quint32 bytes, quint32 *transferred)
-{
-    return m_devices.write(handle, buffer, bytes, transferred);
-}
-
-bool WindowsPlatform::DeviceIoControl(RawHandle handle, quint32 code, const void *in, quint32 inSize,
-                                      void *out, quint32 outSize, quint32 *returned)
-{
-    return m_devices.control(handle, code, in, inSize, out, outSize, returned);
-}
-
-bool WindowsPlatform::FlushFileBuffers(RawHandle handle)
-{
-    return m_devices.flush(handle);
-}
-
-bool WindowsPlatform::IsGone(RawHandle handle)
-{
-    return m_devices.isGone(handle);
-}
-
-void WindowsPlatform::CloseHandle(RawHandle handle)
-{
-    m_devices.close(handle);
-}
-
-bool WindowsPlatform::IsAccessDenied(const QString &name)
-{
-    const HANDLE handle =
-        ::CreateFileW(wide(name), GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
-                      OPEN_EXISTING, 0, nullptr);
-    if (handle == INVALID_HANDLE_VALUE)
-        return ::GetLastError() == ERROR_ACCESS_DENIED;
-    ::CloseHandle(handle);
-    return false;
 }
 
 // Volumes
@@ -197,29 +166,16 @@ bool WindowsPlatform::CreateProcessAndWait(const std::wstring &line, bool hidden
     if (program.endsWith(QLatin1String("\\wbem\\WMIC.exe"), Qt::CaseInsensitive) && !QFile::exists(program))
         return m_ownTools.run(line, [](const QString &path) { return path; });
 
-    STARTUPINFOW startup{};
-    startup.cb = sizeof(startup);
-    if (hidden) {
-        startup.dwFlags = STARTF_USESHOWWINDOW;
-        startup.wShowWindow = SW_HIDE;
-    }
-    PROCESS_INFORMATION process{};
     const QString folder = QString::fromStdWString(m_workingFolder);
     const bool isHere = !folder.isEmpty() && !program.contains(QLatin1Char('\\')) &&
                         QFileInfo(QDir(folder), program).isFile();
-    const std::wstring called = isHere ? tools::CommandInterpreter::withFolder(line, folder) : line;
-    // The system may write into the line.
-    std::vector<wchar_t> buffer(called.begin(), called.end());
-    buffer.push_back(L'\0');
     // A file dialog may have taken the process to another folder, where a tool of the same name may lie.
-    std::wstring environment = toolEnvironment(GetSystemDirectoryW());
-    if (!::CreateProcessW(nullptr, buffer.data(), nullptr, nullptr, FALSE,
-                          CREATE_NEW_CONSOLE | CREATE_UNICODE_ENVIRONMENT, environment.data(),
-                          m_workingFolder.empty() ? nullptr : m_workingFolder.c_str(), &startup, &process))
+    PROCESS_INFORMATION process{};
+    if (!startLine(isHere ? tools::CommandInterpreter::withFolder(line, folder) : line, GetSystemDirectoryW(),
+                   m_workingFolder, hidden, 0, &process))
         return false;
     ::WaitForSingleObject(process.hProcess, INFINITE);
-    ::CloseHandle(process.hThread);
-    ::CloseHandle(process.hProcess);
+    close(process);
     return true;
 }
 
@@ -229,15 +185,8 @@ bool WindowsPlatform::CreateProcessAndWaitFor(const std::wstring &line, qint32 m
     JOBOBJECT_EXTENDED_LIMIT_INFORMATION limits{};
     limits.BasicLimitInformation.LimitFlags = JOB_OBJECT_LIMIT_KILL_ON_JOB_CLOSE;
     ::SetInformationJobObject(job, JobObjectExtendedLimitInformation, &limits, sizeof(limits));
-    STARTUPINFOW startup{};
-    startup.cb = sizeof(startup);
     PROCESS_INFORMATION process{};
-    std::vector<wchar_t> buffer(line.begin(), line.end());
-    buffer.push_back(L'\0');
-    std::wstring environment = toolEnvironment(GetSystemDirectoryW());
-    if (!job || !::CreateProcessW(nullptr, buffer.data(), nullptr, nullptr, FALSE,
-                                  CREATE_NEW_CONSOLE | CREATE_SUSPENDED | CREATE_UNICODE_ENVIRONMENT,
-                                  environment.data(), nullptr, &startup, &process)) {
+    if (!job || !startLine(line, GetSystemDirectoryW(), {}, false, CREATE_SUSPENDED, &process)) {
         ::CloseHandle(job);
         return false;
     }
@@ -249,8 +198,7 @@ bool WindowsPlatform::CreateProcessAndWaitFor(const std::wstring &line, qint32 m
     if (!ended)
         ::TerminateProcess(process.hProcess, 1);
     ::CloseHandle(job);
-    ::CloseHandle(process.hThread);
-    ::CloseHandle(process.hProcess);
+    close(process);
     return ended;
 }
 

@@ -1,28 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/Platform.h"
 #include "platform/tools/CommandInterpreter.h"
 #include "platform/windows/LogonTaskScheduler.h"
 #include "platform/windows/RawDevices.h"
 
 /// A Windows PC.
-class WindowsPlatform : public Platform
+class WindowsPlatform : public windows::RawDevices
 {
 public:
     WindowsPlatform();
-
-    RawHandle CreateFileW(const QString &name, quint32 access, quint32 shareMode,
-                          quint32 disposition) override;
-    bool SetFilePointer(RawHandle handle, qint64 byteOffset) override;
-    bool ReadFile(RawHandle handle, void *buffer, quint32 bytes, quint32 *transferred) override;
-    bool WriteFile(RawHandle handle, const void *buffer, quint32 bytes, quint32 *transferred) override;
-    bool DeviceIoControl(RawHandle handle, quint32 code, const void *in, quint32 inSize, void *out,
-                         quint32 outSize, quint32 *returned) override;
-    bool FlushFileBuffers(RawHandle handle) override;
-    bool IsGone(RawHandle handle) override;
-    void CloseHandle(RawHandle handle) override;
-    bool IsAccessDenied(const QString &name) override;
 
     QStringList GetLogicalDriveStringsW() override;
     bool GetVolumeInformationW(const QString &root, QString *label, QString *fileSystem) override;
@@ -65,7 +52,6 @@ public:
     std::unique_ptr<QSettings> OpenSettings(const QString &registryPath) override;
 
 private:
-    windows::RawDevices m_devices;
     tools::CommandInterpreter m_ownTools; ///< tools that the system may lack
     std::unique_ptr<windows::ComUse> m_com;
     std::wstring m_workingFolder; ///< empty: the one that the process was started in
