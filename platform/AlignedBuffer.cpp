@@ -7,8 +7,10 @@
 
 bool AlignedBuffer::takes(const void *buffer, qint64 position, qint64 bytes, qint64 sector)
 {
-    return reinterpret_cast<std::uintptr_t>(buffer) % static_cast<std::uintptr_t>(FreePages::Boundary) == 0 &&
-           position % sector == 0 && bytes % sector == 0;
+    return sector == 0 ||
+           (reinterpret_cast<std::uintptr_t>(buffer) % static_cast<std::uintptr_t>(FreePages::Boundary) ==
+                0 &&
+            position % sector == 0 && bytes % sector == 0);
 }
 
 char *AlignedBuffer::memory()
@@ -20,6 +22,8 @@ char *AlignedBuffer::memory()
 
 bool AlignedBuffer::read(char *out, qint64 position, qint64 bytes, qint64 sector, const Move &move)
 {
+    if (takes(out, position, bytes, sector))
+        return move(out, position, bytes);
     char *buffer = memory();
     const qint64 end = position + bytes;
     for (qint64 at = position; buffer && at < end;) {
@@ -37,6 +41,8 @@ bool AlignedBuffer::read(char *out, qint64 position, qint64 bytes, qint64 sector
 
 bool AlignedBuffer::write(const char *in, qint64 position, qint64 bytes, qint64 sector, const Move &move)
 {
+    if (takes(in, position, bytes, sector))
+        return move(const_cast<char *>(in), position, bytes); // which only reads from it
     char *buffer = memory();
     if (!buffer || position % sector != 0 || bytes % sector != 0)
         return false;

@@ -21,9 +21,8 @@ std::atomic<Platform *> chosen{nullptr};
 std::unique_ptr<Platform> choose()
 {
     const QString folder = qEnvironmentVariable("HALVANE_PC");
-    if (folder.isEmpty()) {
+    if (folder.isEmpty())
         return makeNativePlatform();
-    }
     QString error;
     auto platform = SimulatedPlatform::open(folder, qEnvironmentVariable("HALVANE_PC_STATE"), &error);
     if (!platform) {
@@ -39,9 +38,8 @@ std::unique_ptr<Platform> choose()
 
 Platform &Platform::current()
 {
-    if (Platform *platform = chosen.load(std::memory_order_acquire)) {
+    if (Platform *platform = chosen.load(std::memory_order_acquire))
         return *platform;
-    }
     const std::lock_guard<std::mutex> lock(chooseMutex);
     if (!owner) {
         owner = choose();

@@ -2,6 +2,7 @@
 #include "platform/InventoryPlatform.h"
 
 #include "platform/IoControl.h"
+#include "platform/Log.h"
 #include "platform/tools/DiskWords.h"
 #include "platform/tools/SystemTools.h"
 
@@ -63,6 +64,8 @@ void InventoryPlatform::addSmartctl(const std::function<QByteArray(const QString
 
 bool InventoryPlatform::CreateProcessAndWait(const std::wstring &line, bool)
 {
+    qCDebug(logs::platform, "%s, a command of %d characters",
+            qUtf8Printable(tools::CommandInterpreter::programOf(line)), static_cast<int>(line.size()));
     return m_interpreter.run(line, [this](const QString &path) { return NativePath(path); });
 }
 

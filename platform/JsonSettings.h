@@ -19,6 +19,9 @@ QString fileOf(const QString &folder, const QString &registryPath);
 /// kept.
 std::unique_ptr<QSettings> open(const QString &file);
 
+/// A store of any format, which logs where its values could not be written.
+std::unique_ptr<QSettings> openAs(const QString &path, QSettings::Format format);
+
 /// A store that keeps nothing.
 std::unique_ptr<QSettings> openNothing();
 

@@ -117,16 +117,13 @@ bool copyStretch(QFile &from, QFile &to, qint64 begin, qint64 end)
     QByteArray buffer(static_cast<int>(granule * 16), Qt::Uninitialized);
     for (qint64 offset = begin; offset < end;) {
         const qint64 wanted = std::min<qint64>(buffer.size(), end - offset);
-        if (!from.seek(offset)) {
+        if (!from.seek(offset))
             return false;
-        }
         const qint64 got = from.read(buffer.data(), wanted);
-        if (got <= 0) {
+        if (got <= 0)
             return got == 0;
-        }
-        if (!isZero(buffer.constData(), got) && !writeAt(to, offset, buffer.constData(), got)) {
+        if (!isZero(buffer.constData(), got) && !writeAt(to, offset, buffer.constData(), got))
             return false;
-        }
         offset += got;
     }
     return true;
@@ -138,9 +135,8 @@ bool copyData(QFile &from, QFile &to, qint64 size)
     qint64 begin = 0;
     qint64 stop = 0;
     for (qint64 offset = 0; nextData(from, offset, end, &begin, &stop); offset = stop) {
-        if (!copyStretch(from, to, begin, stop)) {
+        if (!copyStretch(from, to, begin, stop))
             return false;
-        }
     }
     return true;
 }
@@ -153,9 +149,8 @@ namespace sparse
 bool resize(const QString &path, qint64 size)
 {
     QFile file;
-    if (!ownfiles::openRegular(&file, path, QIODevice::ReadWrite | QIODevice::Unbuffered)) {
+    if (!ownfiles::openRegular(&file, path, QIODevice::ReadWrite | QIODevice::Unbuffered))
         return false;
-    }
     allowHoles(file);
     return file.size() == size || file.resize(size);
 }
@@ -171,9 +166,8 @@ bool copy(const QString &source, const QString &target, qint64 size)
                 copyData(from, to, size);
     to.close();
     done = done && QFile::rename(partial, target);
-    if (!done) {
+    if (!done)
         QFile::remove(partial);
-    }
     return done;
 }
 
@@ -203,9 +197,8 @@ bool write(QFile &file, qint64 offset, const char *data, qint64 bytes)
         do {
             stop = std::min(end, (stop / granule + 1) * granule);
         } while (stop < end && zeroGranule(stop) == zero);
-        if (!(zero && punch(file, at, stop - at)) && !writeAt(file, at, data + (at - offset), stop - at)) {
+        if (!(zero && punch(file, at, stop - at)) && !writeAt(file, at, data + (at - offset), stop - at))
             return false;
-        }
         at = stop;
     }
     return true;

@@ -40,7 +40,23 @@ QProcessEnvironment environmentOf(const User &user)
     return environment;
 }
 
-/// Starts a program with that user's rights, folders and session, and does not wait for its end.
+} // namespace
+
+std::optional<User> loggedOn()
+{
+    for (const char *name : {"SUDO_UID", "PKEXEC_UID"}) {
+        bool isNumber = false;
+        const quint32 id = qgetenv(name).toUInt(&isNumber);
+        std::array<char, 16384> texts{};
+        passwd entry = {};
+        passwd *found = nullptr;
+        if (geteuid() == 0 && isNumber && id != 0 &&
+            getpwuid_r(id, &entry, texts.data(), texts.size(), &found) == 0 && found)
+            return User{id, entry.pw_gid, QFile::decodeName(entry.pw_name), QFile::decodeName(entry.pw_dir)};
+    }
+    return std::nullopt;
+}
+
 bool start(const User &user, const QString &program, const QStringList &arguments)
 {
     QProcess process;
@@ -57,23 +73,6 @@ bool start(const User &user, const QString &program, const QStringList &argument
     process.setStandardOutputFile(QProcess::nullDevice());
     process.setStandardErrorFile(QProcess::nullDevice());
     return !process.program().isEmpty() && process.startDetached();
-}
-
-} // namespace
-
-std::optional<User> loggedOn()
-{
-    for (const char *name : {"SUDO_UID", "PKEXEC_UID"}) {
-        bool isNumber = false;
-        const quint32 id = qgetenv(name).toUInt(&isNumber);
-        std::array<char, 16384> texts{};
-        passwd entry = {};
-        passwd *found = nullptr;
-        if (geteuid() == 0 && isNumber && id != 0 &&
-            getpwuid_r(id, &entry, texts.data(), texts.size(), &found) == 0 && found)
-            return User{id, entry.pw_gid, QFile::decodeName(entry.pw_name), QFile::decodeName(entry.pw_dir)};
-    }
-    return std::nullopt;
 }
 
 bool open(const QString &target)

@@ -20,6 +20,9 @@ struct User {
 /// The user who became root by sudo or pkexec; nothing if this process was started in another way.
 std::optional<User> loggedOn();
 
+/// Starts a program with that user's rights, folders and session, and does not wait for its end.
+bool start(const User &user, const QString &program, const QStringList &arguments);
+
 /// Opens a page or document, without waiting for its end. As root, the session of that user does it, if there
 /// is one: a browser should not run as root.
 bool open(const QString &target);

@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/OwnFiles.h"
 
+#include "platform/Log.h"
+
 #include <QDir>
 #include <QDirIterator>
 #include <QUuid>
 
 #include <cerrno>
 #include <climits>
+#include <cstring>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
@@ -25,8 +28,9 @@ bool isOurs(const struct stat &status)
     return status.st_uid == 0 || status.st_uid == geteuid();
 }
 
-/// Whether the rights of the group stand for those of users and groups that a list names. Where that cannot
-/// be told they do. A handle that tells places alone is asked by its name.
+/// Whether there is an access list, which names further users and groups. The rights of the group are then an
+/// upper limit for all of these. True, too, where the system does not tell. The handle is one for paths only, so
+/// the list is asked for by the handle's name in /proc.
 bool hasAccessList(int handle)
 {
     const QByteArray name = "/proc/self/fd/" + QByteArray::number(handle);
@@ -34,7 +38,7 @@ bool hasAccessList(int handle)
            (errno != ENODATA && errno != ENOTSUP);
 }
 
-/// The user's own group, which has the number of the user, does not count.
+/// Whether others than the user may write. The user's own group, which has the number of the user, is no other.
 bool othersMayAdd(int handle, const struct stat &status)
 {
     const bool userGroup = status.st_gid == 0 || (status.st_gid == geteuid() && status.st_gid == getegid());
@@ -184,7 +188,8 @@ bool makeIn(const Walk &way, const QByteArray &name, mode_t mode, QFile *file)
     return false;
 }
 
-/// What a file may be replaced by keeps its rights.
+/// Gives the new file the rights of the one that it is to replace. False where that one is not regular, or where
+/// this process may not write to it. If there is none yet, or a link, nothing is to be done.
 bool takeRights(int folder, const QByteArray &name, int fresh)
 {
     struct stat old = {};
@@ -204,8 +209,12 @@ bool isElevated()
 bool openRegular(QFile *file, const QString &path, QIODevice::OpenMode mode)
 {
     const int handle = ::open(QFile::encodeName(path).constData(), openFlags(mode), 0666);
-    if (handle < 0)
+    if (handle < 0) {
+        // The name may hold a serial number.
+        qCDebug(logs::platform, "a file in %s does not open: %s", qUtf8Printable(QFileInfo(path).path()),
+                std::strerror(errno));
         return false;
+    }
     struct stat status = {};
     const bool regular = fstat(handle, &status) == 0 && S_ISREG(status.st_mode);
     const bool cut = (mode & QIODevice::Truncate) != 0;

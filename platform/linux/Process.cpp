@@ -31,7 +31,7 @@ struct KeptVariable {
     const char *values;
 };
 
-/// No separator: a language leads to a catalogue, and some are read from wherever it says.
+/// A word without a slash. With one, a language could name any file as its catalogue of texts.
 constexpr const char *Word = "[A-Za-z0-9_.,:;@+-]*";
 constexpr const char *Anything = ".*";
 
@@ -53,7 +53,7 @@ constexpr KeptVariable KeptVariables[] = {
     {"TERM", Word},
     {"SUDO_UID", Word},
     {"PKEXEC_UID", Word},
-    // Of the program: what these name is looked at where it is used.
+    // Of the program, which checks the files and folders that they name.
     {"HALVANE_", Anything},
     {"ASAN_OPTIONS", Anything},
     {"LSAN_OPTIONS", Anything},

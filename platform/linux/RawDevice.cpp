@@ -192,24 +192,19 @@ qint64 RawDevice::bytesToEnd(quint32 bytes) const
     return std::min<qint64>(bytes, m_size - m_position);
 }
 
-bool RawDevice::passes(const void *buffer, qint64 bytes) const
-{
-    return !m_direct || AlignedBuffer::takes(buffer, m_position, bytes, m_bytesPerSector);
-}
-
 qint64 RawDevice::read(void *buffer, quint32 bytes)
 {
     const qint64 wanted = bytesToEnd(bytes);
     if (wanted <= 0)
         return -1;
-    auto *out = static_cast<char *>(buffer);
     const auto move = [this](char *memory, qint64 offset, qint64 count) {
         return transferAll(pread, m_descriptor, memory, count, offset);
     };
-    const bool done = passes(buffer, wanted) ? move(out, m_position, wanted)
-                                             : m_buffer.read(out, m_position, wanted, m_bytesPerSector, move);
-    if (!done)
+    if (!m_buffer.read(static_cast<char *>(buffer), m_position, wanted, sector(), move)) {
+        qCDebug(logs::platform, "a read of %lld bytes at %lld fails: %s", wanted, m_position,
+                std::strerror(errno));
         return -1;
+    }
     m_position += wanted;
     return wanted;
 }
@@ -246,14 +241,14 @@ qint64 RawDevice::write(const void *buffer, quint32 bytes)
     const qint64 wanted = bytesToEnd(bytes);
     if (wanted <= 0 || !openForWriting())
         return -1;
-    const auto *in = static_cast<const char *>(buffer);
     const auto move = [this](const char *memory, qint64 offset, qint64 count) {
         return transferAll(pwrite, m_descriptor, memory, count, offset);
     };
-    const bool done = passes(buffer, wanted) ? move(in, m_position, wanted)
-                                             : m_buffer.write(in, m_position, wanted, m_bytesPerSector, move);
-    if (!done)
+    if (!m_buffer.write(static_cast<const char *>(buffer), m_position, wanted, sector(), move)) {
+        qCDebug(logs::platform, "a write of %lld bytes at %lld fails: %s", wanted, m_position,
+                std::strerror(errno));
         return -1;
+    }
     m_position += wanted;
     return wanted;
 }

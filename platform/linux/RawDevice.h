@@ -10,9 +10,9 @@
 
 /// An open block device or image file. Never makes a file and never writes by itself. Block devices are read
 /// and written past the page cache, so that a read comes from the medium and a failed write is told at once.
-/// The node is open for reading only until the first write(): closing a node that was open for writing makes
-/// the system look at its partitions and file systems anew, which looking at a disk must not set off.
-/// One thread at a time.
+/// Until the first write() the node is open for reading only. When a node that was open for writing closes,
+/// the system reads its partitions and file systems anew, and mere reading must not cause that. One thread at
+/// a time.
 class RawDevice
 {
 public:
@@ -49,8 +49,8 @@ private:
     RawDevice(int descriptor, bool direct, bool writable);
     bool openForWriting();
     qint64 bytesToEnd(quint32 bytes) const;
-    /// Whether a transfer can go without the aligned buffer.
-    bool passes(const void *buffer, qint64 bytes) const;
+    /// What a transfer has to fit; 0: nothing.
+    qint64 sector() const { return m_direct ? m_bytesPerSector : 0; }
 
     int m_descriptor;
     bool m_direct; ///< past the page cache: memory, offsets and lengths are multiples of a sector

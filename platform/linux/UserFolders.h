@@ -15,8 +15,9 @@ struct Places {
     QString data;          ///< what the program keeps
 };
 
-/// The folders of this process, chosen once. Root gets the system's folders and the home of the password
-/// file, as variables come from whoever started the program. Other users get those of the XDG rules.
+/// The folders of this process, chosen once. Root gets the system's folders and the home that the password
+/// file tells, because variables come from whoever started the program. Other users get those of the XDG
+/// rules.
 const Places &places();
 
 /// The first candidate that only this user can change, or that can be made so; else a fresh folder in /tmp,

@@ -14,8 +14,8 @@ struct udev;
 struct udev_monitor;
 
 /// Watches for disks, partitions and mounted volumes that come and go. The kernel and udev only say that
-/// something may have changed; what is told is the difference between two looks, so that events which the
-/// program's own reading of disks and tools causes tell of nothing. Lives on the main thread.
+/// something may have changed, and say it too when this program reads a disk. So the watch looks again and
+/// tells the difference from its last look. Lives on the main thread.
 class VolumeWatch : public DeviceNotifier
 {
     Q_OBJECT

@@ -99,16 +99,13 @@ DiskOutcome createPrimary(OpenedDisk &disk, const inventory::Disk &record)
 
 DiskOutcome DiskScripts::act(DiskAction action, int disk)
 {
-    if (action == DiskAction::Online) {
+    if (action == DiskAction::Online)
         return DiskOutcome::AlreadyOnline;
-    }
-    if (action == DiskAction::Rescan) {
+    if (action == DiskAction::Rescan)
         return DiskOutcome::Done;
-    }
     OpenedDisk opened(m_devices, disk);
-    if (!opened.isOpen()) {
+    if (!opened.isOpen())
         return DiskOutcome::DeviceError;
-    }
     const inventory::Disk &record = *inventory::diskOf(m_machine, disk);
     switch (action) {
     case DiskAction::Clean:

@@ -59,9 +59,8 @@ QByteArray identifyData(const Disk &disk)
     putWord(data, 61, lba28 >> 16);
     putWord(data, 82, 0x0001); // SMART supported
     putWord(data, 85, 0x0001); // SMART enabled
-    for (int i = 0; i < 4; ++i) {
+    for (int i = 0; i < 4; ++i)
         putWord(data, 100 + i, static_cast<quint32>((sectors >> (16 * i)) & 0xFFFF));
-    }
     return data;
 }
 
@@ -76,23 +75,18 @@ QByteArray smartCommand(const Disk &disk, quint32 code, const QByteArray &reques
 {
     // The one byte of data at the record's end may be left out.
     io::SendCmdInParams in{};
-    if (static_cast<std::size_t>(request.size()) < offsetof(io::SendCmdInParams, buffer)) {
+    if (static_cast<std::size_t>(request.size()) < offsetof(io::SendCmdInParams, buffer))
         return {};
-    }
     std::memcpy(&in, request.constData(), std::min(sizeof(in), static_cast<std::size_t>(request.size())));
-    if (in.driveNumber != 0) {
+    if (in.driveNumber != 0)
         return {};
-    }
     const bool smart = in.regs.command == commandSmart;
-    if (code == io::SmartSendDriveCommand) {
+    if (code == io::SmartSendDriveCommand)
         return smart && in.regs.features == smartEnable ? withHead(QByteArray()) : QByteArray();
-    }
-    if (in.regs.command == commandIdentify) {
+    if (in.regs.command == commandIdentify)
         return withHead(identifyData(disk));
-    }
-    if (smart && in.regs.features == smartReadData) {
+    if (smart && in.regs.features == smartReadData)
         return withHead(disk.identity->smart.leftJustified(smartBytes, '\0', true));
-    }
     return {};
 }
 

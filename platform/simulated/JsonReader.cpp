@@ -15,48 +15,49 @@ JsonReader::JsonReader(const QJsonObject &object, const QString &path, QString *
 {
 }
 
-JsonReader JsonReader::below(const QString &key) const
+JsonReader JsonReader::below(const char *key) const
 {
     return JsonReader(object(key), path(key), m_error);
 }
 
-QString JsonReader::path(const QString &key) const
+QString JsonReader::path(const char *key) const
 {
-    return m_path.isEmpty() ? key : m_path + QLatin1Char('.') + key;
+    return m_path.isEmpty() ? QString::fromLatin1(key) : m_path + QLatin1Char('.') + QLatin1String(key);
+}
+
+void JsonReader::wrong(const char *key, const QString &what) const
+{
+    fail(path(key), what);
 }
 
 void JsonReader::fail(const QString &keyPath, const QString &what) const
 {
-    if (m_error->isEmpty()) {
+    if (m_error->isEmpty())
         *m_error = keyPath + QLatin1String(": ") + what;
-    }
 }
 
-QString JsonReader::text(const QString &key, const QString &fallback) const
+QString JsonReader::text(const char *key, const QString &fallback) const
 {
-    const QJsonValue value = m_object.value(key);
-    if (value.isUndefined()) {
+    const QJsonValue found = value(key);
+    if (found.isUndefined())
         return fallback;
-    }
-    if (!value.isString()) {
-        fail(path(key), QStringLiteral("a text is wanted"));
-    }
-    return value.toString();
+    if (!found.isString())
+        wrong(key, QStringLiteral("a text is wanted"));
+    return found.toString();
 }
 
-bool JsonReader::truth(const QString &key, bool fallback) const
+bool JsonReader::truth(const char *key, bool fallback) const
 {
-    const QJsonValue value = m_object.value(key);
-    if (!value.isUndefined() && !value.isBool()) {
-        fail(path(key), QStringLiteral("true or false is wanted"));
-    }
-    return value.toBool(fallback);
+    const QJsonValue found = value(key);
+    if (!found.isUndefined() && !found.isBool())
+        wrong(key, QStringLiteral("true or false is wanted"));
+    return found.toBool(fallback);
 }
 
-qint64 JsonReader::whole(const QString &key, qint64 fallback, qint64 least, qint64 most) const
+qint64 JsonReader::whole(const char *key, qint64 fallback, qint64 least, qint64 most) const
 {
-    const QJsonValue value = m_object.value(key);
-    return value.isUndefined() ? fallback : wholeValue(value, path(key), least, most);
+    const QJsonValue found = value(key);
+    return found.isUndefined() ? fallback : wholeValue(found, path(key), least, most);
 }
 
 qint64 JsonReader::wholeValue(const QJsonValue &value, const QString &keyPath, qint64 least,
@@ -76,68 +77,62 @@ qint64 JsonReader::wholeValue(const QJsonValue &value, const QString &keyPath, q
     return result;
 }
 
-double JsonReader::number(const QString &key, double fallback, double least, double most) const
+double JsonReader::number(const char *key, double fallback, double least, double most) const
 {
-    const QJsonValue value = m_object.value(key);
-    if (value.isUndefined()) {
+    const QJsonValue found = value(key);
+    if (found.isUndefined())
         return fallback;
-    }
-    const double result = value.toDouble();
-    if (!value.isDouble()) {
-        fail(path(key), QStringLiteral("a number is wanted"));
-    } else if (result < least || result > most) {
-        fail(path(key), QStringLiteral("a number from %1 to %2 is wanted").arg(least).arg(most));
-    }
+    const double result = found.toDouble();
+    if (!found.isDouble())
+        wrong(key, QStringLiteral("a number is wanted"));
+    else if (result < least || result > most)
+        wrong(key, QStringLiteral("a number from %1 to %2 is wanted").arg(least).arg(most));
     return result;
 }
 
-int JsonReader::word(const QString &key, int fallback, const QStringList &words) const
+int JsonReader::word(const char *key, int fallback, const QStringList &words) const
 {
-    if (!has(key)) {
+    if (!has(key))
         return fallback;
-    }
     const int place = words.indexOf(text(key));
-    if (place < 0) {
-        fail(path(key), QStringLiteral("one of \"%1\" is wanted").arg(words.join(QLatin1String("\", \""))));
-    }
+    if (place < 0)
+        wrong(key, QStringLiteral("one of \"%1\" is wanted").arg(words.join(QLatin1String("\", \""))));
     return place;
 }
 
-QStringList JsonReader::texts(const QString &key) const
+QStringList JsonReader::texts(const char *key) const
 {
     QStringList result;
     const QJsonArray array = list(key);
     for (int i = 0; i < array.size(); ++i) {
-        if (!array.at(i).isString()) {
+        if (!array.at(i).isString())
             fail(QStringLiteral("%1[%2]").arg(path(key)).arg(i), QStringLiteral("a text is wanted"));
-        }
         result.append(array.at(i).toString());
     }
     return result;
 }
 
-QJsonObject JsonReader::object(const QString &key) const
+QJsonObject JsonReader::object(const char *key) const
 {
-    const QJsonValue value = m_object.value(key);
-    if (!value.isUndefined() && !value.isObject()) {
-        fail(path(key), QStringLiteral("an object is wanted"));
-    }
-    return value.toObject();
+    const QJsonValue found = value(key);
+    if (!found.isUndefined() && !found.isObject())
+        wrong(key, QStringLiteral("an object is wanted"));
+    return found.toObject();
 }
 
-QJsonArray JsonReader::list(const QString &key) const
+QJsonArray JsonReader::list(const char *key) const
 {
-    const QJsonValue value = m_object.value(key);
-    if (!value.isUndefined() && !value.isArray()) {
-        fail(path(key), QStringLiteral("a list is wanted"));
-    } else if (value.toArray().size() > MostEntries) {
-        fail(path(key), QStringLiteral("at most %1 entries are wanted").arg(MostEntries));
+    const QJsonValue found = value(key);
+    if (!found.isUndefined() && !found.isArray()) {
+        wrong(key, QStringLiteral("a list is wanted"));
+    } else if (found.toArray().size() > MostEntries) {
+        wrong(key, QStringLiteral("at most %1 entries are wanted").arg(MostEntries));
         return {};
     }
-    return value.toArray();
+    return found.toArray();
 }
 
-void JsonReader::each(const QString &key, const std::function<void(const JsonReader &)> &read) const
+void JsonReader::each(const char *key, const std::function<void(const JsonReader &)> &read) const
 {
     const QJsonArray array = list(key);
     for (int i = 0; i < array.size(); ++i) {

@@ -35,12 +35,11 @@ const QStringList &selfTestResults()
 SelfTestEnd readSelfTestEnd(const JsonReader &in, const SelfTestEnd &fallback)
 {
     SelfTestEnd end = fallback;
-    if (in.has(QStringLiteral("result"))) {
-        end.status = in.word(QStringLiteral("result"), 0, selfTestResults());
+    if (in.has("result")) {
+        end.status = in.word("result", 0, selfTestResults());
         end.remainingTenths = end.status == 0 ? 0 : 1;
     }
-    end.remainingTenths =
-        static_cast<int>(in.whole(QStringLiteral("remaining"), end.remainingTenths * 10, 0, 90)) / 10;
+    end.remainingTenths = static_cast<int>(in.whole("remaining", end.remainingTenths * 10, 0, 90)) / 10;
     return end;
 }
 
@@ -69,17 +68,16 @@ QString existingFile(const JsonReader &in, const QString &keyPath, const QString
 {
     const QString file = pathBelow(in, keyPath, name, folder);
     const QFileInfo info(file);
-    if (!info.exists()) {
+    if (!info.exists())
         in.fail(keyPath, file + QLatin1String(": no such file"));
-    } else if (!info.isFile() || !info.isReadable()) {
+    else if (!info.isFile() || !info.isReadable())
         in.fail(keyPath, file + QLatin1String(": no regular file that can be read"));
-    } else if (info.size() > ownfiles::MostBytes) {
+    else if (info.size() > ownfiles::MostBytes)
         in.fail(keyPath, file + QLatin1String(": more than 16 MiB"));
-    }
     return file;
 }
 
-QString readFileName(const JsonReader &in, const QString &key, const QString &folder)
+QString readFileName(const JsonReader &in, const char *key, const QString &folder)
 {
     return in.has(key) ? existingFile(in, in.path(key), in.text(key), folder) : QString();
 }
@@ -87,21 +85,20 @@ QString readFileName(const JsonReader &in, const QString &key, const QString &fo
 /// A text or a list of texts.
 QStringList readReports(const JsonReader &in, const QString &folder)
 {
-    const QString key = QStringLiteral("report");
+    constexpr const char *key = "report";
     if (!in.value(key).isArray()) {
         const QString file = readFileName(in, key, folder);
         return file.isEmpty() ? QStringList() : QStringList(file);
     }
     QStringList files;
     const QStringList names = in.texts(key);
-    for (int i = 0; i < names.size(); ++i) {
+    for (int i = 0; i < names.size(); ++i)
         files.append(
             existingFile(in, QStringLiteral("%1[%2]").arg(in.path(key)).arg(i), names.at(i), folder));
-    }
     return files;
 }
 
-SectorRanges readRanges(const JsonReader &in, const QString &key)
+SectorRanges readRanges(const JsonReader &in, const char *key)
 {
     SectorRanges ranges;
     const QJsonArray array = in.list(key);
@@ -109,11 +106,10 @@ SectorRanges readRanges(const JsonReader &in, const QString &key)
         const QString place = QStringLiteral("%1[%2]").arg(in.path(key)).arg(i);
         const QJsonValue value = array.at(i);
         if (!value.isArray()) {
-            if (value.isDouble()) {
+            if (value.isDouble())
                 ranges.add(in.wholeValue(value, place, 0, mostSectors), 1);
-            } else {
+            else
                 in.fail(place, QStringLiteral("a sector or [first, count] is wanted"));
-            }
             continue;
         }
         const QJsonArray pair = value.toArray();
@@ -129,38 +125,33 @@ SectorRanges readRanges(const JsonReader &in, const QString &key)
 
 std::optional<Identity> readIdentity(const JsonReader &disk)
 {
-    const QString key = QStringLiteral("identity");
-    if (!disk.has(key)) {
+    constexpr const char *key = "identity";
+    if (!disk.has(key))
         return std::nullopt;
-    }
     const JsonReader in = disk.below(key);
     Identity identity;
-    identity.model = in.text(QStringLiteral("model"));
-    identity.serial = in.text(QStringLiteral("serial"));
-    identity.firmware = in.text(QStringLiteral("firmware"));
-    QString hex = in.text(QStringLiteral("smart"));
+    identity.model = in.text("model");
+    identity.serial = in.text("serial");
+    identity.firmware = in.text("firmware");
+    QString hex = in.text("smart");
     hex.remove(QLatin1Char(' '));
     identity.smart = QByteArray::fromHex(hex.toLatin1());
-    if (identity.smart.toHex() != hex.toLower().toLatin1() || identity.smart.size() > 512) {
-        in.fail(in.path(QStringLiteral("smart")),
-                QStringLiteral("at most 512 bytes in hexadecimal are wanted"));
-    }
+    if (identity.smart.toHex() != hex.toLower().toLatin1() || identity.smart.size() > 512)
+        in.wrong("smart", QStringLiteral("at most 512 bytes in hexadecimal are wanted"));
     return identity;
 }
 
 /// The image may be missing. If it is there, it is a regular file of any size.
 QString readImage(const JsonReader &in, const QString &folder)
 {
-    const QString key = QStringLiteral("image");
+    constexpr const char *key = "image";
     const QString image = in.text(key);
-    if (image.isEmpty()) {
+    if (image.isEmpty())
         return QString();
-    }
     const QString file = pathBelow(in, in.path(key), image, folder);
     const QFileInfo info(file);
-    if ((info.exists() && !info.isFile()) || info.isSymLink()) {
-        in.fail(in.path(key), file + QLatin1String(": no regular file that can be read"));
-    }
+    if ((info.exists() && !info.isFile()) || info.isSymLink())
+        in.wrong(key, file + QLatin1String(": no regular file that can be read"));
     return file;
 }
 
@@ -168,37 +159,32 @@ Disk readDisk(const JsonReader &in, const PcDescription &pc, const SelfTestEnd &
 {
     Disk disk;
     inventory::Disk &record = disk.record;
-    if (!in.has(QStringLiteral("number"))) {
-        in.fail(in.path(QStringLiteral("number")), QStringLiteral("a whole number is wanted"));
-    }
-    record.number = static_cast<int>(in.whole(QStringLiteral("number"), 0, 0, 127));
-    if (pc.disk(record.number) != nullptr) {
-        in.fail(in.path(QStringLiteral("number")),
-                QStringLiteral("there is a disk %1 already").arg(record.number));
-    }
-    record.media = in.text(QStringLiteral("media"), QStringLiteral("fixed"));
-    record.model = in.text(QStringLiteral("model"));
-    record.interfaceType = in.text(QStringLiteral("interface"), QStringLiteral("SCSI"));
-    record.status = in.text(QStringLiteral("status"), QStringLiteral("OK"));
-    record.serial = in.text(QStringLiteral("serial"));
-    record.bytesPerSector = static_cast<quint32>(in.whole(QStringLiteral("bytesPerSector"), 512, 512, 65536));
-    if (record.bytesPerSector % 512 != 0) {
-        in.fail(in.path(QStringLiteral("bytesPerSector")), QStringLiteral("a multiple of 512 is wanted"));
-    }
-    record.sectors = static_cast<quint64>(in.whole(QStringLiteral("sectors"), 0, 0, mostSectors));
+    if (!in.has("number"))
+        in.wrong("number", QStringLiteral("a whole number is wanted"));
+    record.number = static_cast<int>(in.whole("number", 0, 0, 127));
+    if (pc.disk(record.number) != nullptr)
+        in.wrong("number", QStringLiteral("there is a disk %1 already").arg(record.number));
+    record.media = in.text("media", QStringLiteral("fixed"));
+    record.model = in.text("model");
+    record.interfaceType = in.text("interface", QStringLiteral("SCSI"));
+    record.status = in.text("status", QStringLiteral("OK"));
+    record.serial = in.text("serial");
+    record.bytesPerSector = static_cast<quint32>(in.whole("bytesPerSector", 512, 512, 65536));
+    if (record.bytesPerSector % 512 != 0)
+        in.wrong("bytesPerSector", QStringLiteral("a multiple of 512 is wanted"));
+    record.sectors = static_cast<quint64>(in.whole("sectors", 0, 0, mostSectors));
     record.node = readImage(in, pc.folder);
-    disk.opens = in.truth(QStringLiteral("opens"), true);
-    disk.bad = readRanges(in, QStringLiteral("badSectors"));
-    disk.unwritable = readRanges(in, QStringLiteral("unwritable"));
-    const auto speed = static_cast<quint64>(in.whole(QStringLiteral("bytesPerSecond"), 0, 0, most));
+    disk.opens = in.truth("opens", true);
+    disk.bad = readRanges(in, "badSectors");
+    disk.unwritable = readRanges(in, "unwritable");
+    const auto speed = static_cast<quint64>(in.whole("bytesPerSecond", 0, 0, most));
     disk.bytesPerSecond = speed > 0 ? std::max(speed, slowest) : 0;
-    disk.failsPastEnd =
-        in.word(QStringLiteral("pastEnd"), 0, {QStringLiteral("short"), QStringLiteral("fail")}) == 1;
+    disk.failsPastEnd = in.word("pastEnd", 0, {QStringLiteral("short"), QStringLiteral("fail")}) == 1;
     disk.reports = readReports(in, pc.folder);
-    disk.capabilities = readFileName(in, QStringLiteral("capabilities"), pc.folder);
-    disk.selfTestLog = readFileName(in, QStringLiteral("selfTestLog"), pc.folder);
+    disk.capabilities = readFileName(in, "capabilities", pc.folder);
+    disk.selfTestLog = readFileName(in, "selfTestLog", pc.folder);
     disk.identity = readIdentity(in);
-    disk.selfTestEnd = readSelfTestEnd(in.below(QStringLiteral("selfTest")), end);
+    disk.selfTestEnd = readSelfTestEnd(in.below("selfTest"), end);
     return disk;
 }
 
@@ -209,28 +195,26 @@ inventory::Volume readVolume(const JsonReader &in, const PcDescription &pc)
                                    QStringLiteral("ramdisk"), QStringLiteral("noroot"),
                                    QStringLiteral("unknown")};
     inventory::Volume volume;
-    const QString letter = in.text(QStringLiteral("letter")).toUpper();
+    const QString letter = in.text("letter").toUpper();
     if (letter.size() != 1 || letter.at(0) < QLatin1Char('A') || letter.at(0) > QLatin1Char('Z')) {
-        in.fail(in.path(QStringLiteral("letter")), QStringLiteral("a letter from A to Z is wanted"));
+        in.wrong("letter", QStringLiteral("a letter from A to Z is wanted"));
         return volume;
     }
     volume.letter = letter.at(0);
-    if (pc.volume(volume.letter) != nullptr) {
-        in.fail(in.path(QStringLiteral("letter")),
-                QStringLiteral("there is a volume %1 already").arg(letter));
-    }
-    volume.label = in.text(QStringLiteral("label"));
-    volume.type = types.value(in.word(QStringLiteral("type"), 0, types));
-    volume.fileSystem = in.text(QStringLiteral("fileSystem"));
-    volume.size = static_cast<quint64>(in.whole(QStringLiteral("size"), 0, 0, most));
-    volume.free = static_cast<quint64>(in.whole(QStringLiteral("free"), 0, 0, most));
-    volume.hasBitLockerLine = in.has(QStringLiteral("bitLocker"));
-    volume.bitLocker = in.text(QStringLiteral("bitLocker"));
-    in.each(QStringLiteral("extents"), [&volume](const JsonReader &from) {
+    if (pc.volume(volume.letter) != nullptr)
+        in.wrong("letter", QStringLiteral("there is a volume %1 already").arg(letter));
+    volume.label = in.text("label");
+    volume.type = types.value(in.word("type", 0, types));
+    volume.fileSystem = in.text("fileSystem");
+    volume.size = static_cast<quint64>(in.whole("size", 0, 0, most));
+    volume.free = static_cast<quint64>(in.whole("free", 0, 0, most));
+    volume.hasBitLockerLine = in.has("bitLocker");
+    volume.bitLocker = in.text("bitLocker");
+    in.each("extents", [&volume](const JsonReader &from) {
         inventory::Extent extent;
-        extent.disk = static_cast<int>(from.whole(QStringLiteral("disk"), 0, 0, 127));
-        extent.offset = static_cast<quint64>(from.whole(QStringLiteral("offset"), 0, 0, most / 2));
-        extent.length = static_cast<quint64>(from.whole(QStringLiteral("length"), 0, 0, most / 2));
+        extent.disk = static_cast<int>(from.whole("disk", 0, 0, 127));
+        extent.offset = static_cast<quint64>(from.whole("offset", 0, 0, most / 2));
+        extent.length = static_cast<quint64>(from.whole("length", 0, 0, most / 2));
         volume.extents.append(extent);
     });
     return volume;
@@ -239,10 +223,10 @@ inventory::Volume readVolume(const JsonReader &in, const PcDescription &pc)
 inventory::Partition readPartition(const JsonReader &in)
 {
     inventory::Partition partition;
-    partition.name = in.text(QStringLiteral("name"));
-    partition.type = in.text(QStringLiteral("type"));
-    partition.size = static_cast<quint64>(in.whole(QStringLiteral("size"), 0, 0, most));
-    partition.disk = static_cast<int>(in.whole(QStringLiteral("disk"), 0, 0, 127));
+    partition.name = in.text("name");
+    partition.type = in.text("type");
+    partition.size = static_cast<quint64>(in.whole("size", 0, 0, most));
+    partition.disk = static_cast<int>(in.whole("disk", 0, 0, 127));
     return partition;
 }
 
@@ -250,35 +234,33 @@ QJsonObject readSettings(const JsonReader &in)
 {
     static const QRegularExpression upwards(QStringLiteral("(^|[/\\\\])\\.\\.([/\\\\]|$)"));
     static const QRegularExpression onADrive(QStringLiteral("^([A-Za-z]:[/\\\\]|$)"));
-    const QString key = QStringLiteral("settings");
+    constexpr const char *key = "settings";
     const QJsonObject values = in.object(key);
     for (auto it = values.begin(); it != values.end(); ++it) {
         const QString place = QStringLiteral("%1[\"%2\"]").arg(in.path(key), it.key());
         const QString text = it.value().toString();
-        if (!it.value().isString() && !it.value().isDouble() && !it.value().isBool()) {
+        if (!it.value().isString() && !it.value().isDouble() && !it.value().isBool())
             in.fail(place, QStringLiteral("a text, a number, true or false is wanted"));
-        } else if (text.contains(upwards)) {
+        else if (text.contains(upwards))
             in.fail(place, QStringLiteral("a text without \"..\" is wanted"));
-        } else if (it.key().endsWith(QLatin1String("Path")) && !text.contains(onADrive)) {
+        else if (it.key().endsWith(QLatin1String("Path")) && !text.contains(onADrive))
             in.fail(place, QStringLiteral("a path on a drive is wanted"));
-        }
     }
     return values;
 }
 
 QString readHistory(const JsonReader &in, const QString &folder)
 {
-    const QString key = QStringLiteral("history");
+    constexpr const char *key = "history";
     const QString path = pathBelow(in, key, in.text(key, key), folder);
     if (!in.error().isEmpty() || !QFileInfo(path).isDir()) {
-        if (in.has(key)) {
-            in.fail(key, path + QLatin1String(": no such folder"));
-        }
+        if (in.has(key))
+            in.wrong(key, path + QLatin1String(": no such folder"));
         return QString();
     }
     const QString strange = ownfiles::irregularIn(path);
     if (!strange.isEmpty()) {
-        in.fail(key, strange + QLatin1String(": no regular file that can be read"));
+        in.wrong(key, strange + QLatin1String(": no regular file that can be read"));
         return QString();
     }
     qint64 bytes = 0;
@@ -286,28 +268,25 @@ QString readHistory(const JsonReader &in, const QString &folder)
         each.next();
         bytes += each.fileInfo().size();
     }
-    if (bytes > ownfiles::MostBytes) {
-        in.fail(key, path + QLatin1String(": more than 16 MiB"));
-    }
+    if (bytes > ownfiles::MostBytes)
+        in.wrong(key, path + QLatin1String(": more than 16 MiB"));
     return path;
 }
 
 void readParts(const JsonReader &in, const SelfTestEnd &end, PcDescription *pc)
 {
-    const QString present = QStringLiteral("present");
-    in.each(QStringLiteral("disks"), [&](const JsonReader &disk) {
+    constexpr const char *present = "present";
+    in.each("disks", [&](const JsonReader &disk) {
         pc->disks.append(readDisk(disk, *pc, end));
-        if (!disk.truth(present, true)) {
+        if (!disk.truth(present, true))
             pc->absentDisks.insert(pc->disks.last().record.number);
-        }
     });
-    in.each(QStringLiteral("volumes"), [&](const JsonReader &volume) {
+    in.each("volumes", [&](const JsonReader &volume) {
         pc->volumes.append(readVolume(volume, *pc));
-        if (!volume.truth(present, true)) {
+        if (!volume.truth(present, true))
             pc->absentVolumes.insert(pc->volumes.last().letter);
-        }
     });
-    in.each(QStringLiteral("partitions"),
+    in.each("partitions",
             [&](const JsonReader &partition) { pc->partitions.append(readPartition(partition)); });
 }
 
@@ -316,22 +295,21 @@ PcDescription readObject(const QJsonObject &object, const QString &folder, QStri
     const JsonReader in(object, QString(), error);
     PcDescription pc;
     pc.folder = folder;
-    pc.name = in.text(QStringLiteral("name"), QStringLiteral("PC"));
-    pc.user = in.text(QStringLiteral("user"), QStringLiteral("user"));
-    pc.operatingSystem =
-        in.text(QStringLiteral("operatingSystem"), QStringLiteral("Microsoft Windows 10 10.0.19045 x64"));
-    pc.dpi = static_cast<int>(in.whole(QStringLiteral("dpi"), 96, 48, 960));
-    pc.pauses = in.truth(QStringLiteral("pauses"), true);
-    pc.hasSmartctl = in.truth(QStringLiteral("smartctl"), true);
-    pc.network = in.truth(QStringLiteral("network"), false);
-    pc.toolMilliseconds = static_cast<int>(in.whole(QStringLiteral("toolMilliseconds"), 0, 0, 600000));
-    pc.processes = in.texts(QStringLiteral("processes"));
-    pc.installed = in.texts(QStringLiteral("installed"));
+    pc.name = in.text("name", QStringLiteral("PC"));
+    pc.user = in.text("user", QStringLiteral("user"));
+    pc.operatingSystem = in.text("operatingSystem", QStringLiteral("Microsoft Windows 10 10.0.19045 x64"));
+    pc.dpi = static_cast<int>(in.whole("dpi", 96, 48, 960));
+    pc.pauses = in.truth("pauses", true);
+    pc.hasSmartctl = in.truth("smartctl", true);
+    pc.network = in.truth("network", false);
+    pc.toolMilliseconds = static_cast<int>(in.whole("toolMilliseconds", 0, 0, 600000));
+    pc.processes = in.texts("processes");
+    pc.installed = in.texts("installed");
     pc.settings = readSettings(in);
     pc.history = readHistory(in, folder);
-    pc.tour = in.object(QStringLiteral("tour"));
-    const JsonReader test = in.below(QStringLiteral("selfTest"));
-    pc.secondsPerMinute = test.number(QStringLiteral("secondsPerMinute"), 1.0, 0.0, 3600.0);
+    pc.tour = in.object("tour");
+    const JsonReader test = in.below("selfTest");
+    pc.secondsPerMinute = test.number("secondsPerMinute", 1.0, 0.0, 3600.0);
     readParts(in, readSelfTestEnd(test, SelfTestEnd()), &pc);
     return pc;
 }
@@ -358,12 +336,10 @@ std::optional<QJsonObject> parseText(const QByteArray &bytes, QString *error)
 QString unfit(const QString &path)
 {
     const QFileInfo info(path);
-    if (!info.exists() && !info.isSymLink()) {
+    if (!info.exists() && !info.isSymLink())
         return QStringLiteral("no such file");
-    }
-    if (!info.isFile() || info.isSymLink() || !info.isReadable()) {
+    if (!info.isFile() || info.isSymLink() || !info.isReadable())
         return QStringLiteral("no regular file that can be read");
-    }
     return info.size() > ownfiles::MostBytes ? QStringLiteral("more than 16 MiB") : QString();
 }
 
@@ -372,9 +348,8 @@ QString unfit(const QString &path)
 const Disk *PcDescription::disk(int number) const
 {
     for (const Disk &each : disks) {
-        if (each.record.number == number) {
+        if (each.record.number == number)
             return &each;
-        }
     }
     return nullptr;
 }
@@ -382,9 +357,8 @@ const Disk *PcDescription::disk(int number) const
 const inventory::Volume *PcDescription::volume(QChar letter) const
 {
     for (const inventory::Volume &each : volumes) {
-        if (each.letter == letter.toUpper()) {
+        if (each.letter == letter.toUpper())
             return &each;
-        }
     }
     return nullptr;
 }
@@ -393,12 +367,10 @@ std::optional<PcDescription> parsePc(const QByteArray &json, const QString &fold
 {
     error->clear();
     std::optional<PcDescription> pc;
-    if (const std::optional<QJsonObject> object = parseText(json, error)) {
+    if (const std::optional<QJsonObject> object = parseText(json, error))
         pc = readObject(*object, folder, error);
-    }
-    if (error->isEmpty()) {
+    if (error->isEmpty())
         return pc;
-    }
     static const QRegularExpression control(QStringLiteral("\\p{Cc}"));
     error->replace(control, QStringLiteral(" ")); // a key may hold anything
     return std::nullopt;
@@ -414,12 +386,10 @@ std::optional<PcDescription> readPc(const QString &folder, QString *error)
     const QString file = path + QLatin1String("/pc.json");
     std::optional<PcDescription> pc;
     *error = unfit(file);
-    if (error->isEmpty()) {
+    if (error->isEmpty())
         pc = parsePc(ownfiles::contents(file), path, error);
-    }
-    if (!error->isEmpty()) {
+    if (!error->isEmpty())
         error->prepend(file + QLatin1String(": "));
-    }
     return pc;
 }
 

@@ -14,11 +14,10 @@ namespace
 template<typename Thing>
 void set(QSet<Thing> &absent, const Thing &thing, bool arrives)
 {
-    if (arrives) {
+    if (arrives)
         absent.remove(thing);
-    } else {
+    else
         absent.insert(thing);
-    }
 }
 
 } // namespace
@@ -60,24 +59,21 @@ std::optional<QVector<DeviceChange>> Presence::touch(const QString &name)
     static const QRegularExpression form(
         QStringLiteral("^(arrive|remove)(?:-(?:([A-Za-z])|disk([0-9]{1,3})))?$"));
     const QRegularExpressionMatch match = form.match(name);
-    if (!match.hasMatch()) {
+    if (!match.hasMatch())
         return std::nullopt;
-    }
     const bool arrives = match.captured(1) == QLatin1String("arrive");
     const DeviceChange notice{arrives ? DeviceChange::Arrival : DeviceChange::RemoveComplete,
                               DeviceChange::Volume};
     const QString letter = match.captured(2);
     const QString disk = match.captured(3);
-    if (letter.isEmpty() && disk.isEmpty()) {
+    if (letter.isEmpty() && disk.isEmpty())
         return QVector<DeviceChange>{notice};
-    }
     const std::lock_guard lock(m_mutex);
     const int before = volumesLocked();
-    if (letter.isEmpty()) {
+    if (letter.isEmpty())
         set(m_absentDisks, disk.toInt(), arrives);
-    } else {
+    else
         set(m_absentVolumes, letter.at(0).toUpper(), arrives);
-    }
     return QVector<DeviceChange>(std::abs(volumesLocked() - before), notice);
 }
 

@@ -81,9 +81,8 @@ bool RawDevices::prepareImage(const Disk &disk)
     // The largest file of common file systems ends before the largest disk: the rest of such a disk reads as
     // zeros and cannot be written.
     const qint64 size = std::min(bytesOf(disk), LongestImage);
-    if (const QFileInfo there(file); there.exists() || there.isSymLink()) {
+    if (const QFileInfo there(file); there.exists() || there.isSymLink())
         return (there.size() == size && !there.isSymLink()) || sparse::resize(file, size);
-    }
     const QString described = disk.record.node;
     const bool copied = !described.isEmpty() && QFileInfo::exists(described);
     return QDir().mkpath(m_imageFolder) &&
@@ -99,9 +98,8 @@ bool RawDevices::isThere(const Device &device) const
 bool RawDevices::addPiece(Device &device, int number, qint64 start, qint64 length)
 {
     const Disk *disk = m_pc.disk(number);
-    if (disk == nullptr || !prepareImage(*disk)) {
+    if (disk == nullptr || !prepareImage(*disk))
         return false;
-    }
     // Each handle has a file of its own, so that threads do not share a file position.
     auto file = std::make_shared<QFile>();
     const bool writes = (device.access & io::GenericWrite) != 0;
@@ -133,9 +131,8 @@ bool RawDevices::IsAccessDenied(const QString &name)
 Platform::RawHandle RawDevices::CreateFileW(const QString &name, quint32 access, quint32, quint32 disposition)
 {
     static const QRegularExpression letter(QStringLiteral("^\\\\\\\\\\.\\\\([A-Za-z]):$"));
-    if (disposition != io::OpenExisting) {
+    if (disposition != io::OpenExisting)
         return InvalidHandle;
-    }
     const QMutexLocker lock(&m_mutex);
     auto device = std::make_shared<Device>();
     device->access = access;
@@ -153,9 +150,8 @@ Platform::RawHandle RawDevices::CreateFileW(const QString &name, quint32 access,
                               static_cast<qint64>(extent.length));
         }
     }
-    if (!opened) {
+    if (!opened)
         return InvalidHandle;
-    }
     const RawHandle handle = m_next++;
     m_devices.insert(handle, device);
     return handle;
@@ -188,9 +184,8 @@ void RawDevices::closeAll()
 bool RawDevices::SetFilePointer(RawHandle handle, qint64 byteOffset)
 {
     const std::shared_ptr<Device> device = find(handle);
-    if (!device || byteOffset < 0) {
+    if (!device || byteOffset < 0)
         return false;
-    }
     device->position = byteOffset;
     return true;
 }
@@ -210,26 +205,21 @@ bool RawDevices::WriteFile(RawHandle handle, const void *buffer, quint32 bytes, 
 bool RawDevices::transfer(RawHandle handle, Direction direction, char *buffer, quint32 bytes,
                           quint32 *transferred)
 {
-    if (transferred != nullptr) {
+    if (transferred != nullptr)
         *transferred = 0;
-    }
     const std::shared_ptr<Device> device = find(handle);
     const quint32 right = direction == Direction::Read ? io::GenericRead : io::GenericWrite;
-    if (!device || (device->access & right) == 0 || device->position >= device->length || !isThere(*device)) {
+    if (!device || (device->access & right) == 0 || device->position >= device->length || !isThere(*device))
         return false;
-    }
     const qint64 room = device->length - device->position;
-    if (bytes > room && device->pieces.first().disk->failsPastEnd) {
+    if (bytes > room && device->pieces.first().disk->failsPastEnd)
         return false;
-    }
     const qint64 accepted = std::min<qint64>(bytes, room);
-    if (!transferPieces(*device, direction, buffer, accepted)) {
+    if (!transferPieces(*device, direction, buffer, accepted))
         return false;
-    }
     device->position += accepted;
-    if (transferred != nullptr) {
+    if (transferred != nullptr)
         *transferred = static_cast<quint32>(accepted);
-    }
     return true;
 }
 
@@ -242,15 +232,13 @@ bool RawDevices::transferPieces(const Device &device, Direction direction, char 
             continue;
         }
         const qint64 part = std::min(bytes, piece.length - from);
-        if (!transferPiece(piece, direction, piece.start + from, buffer, part)) {
+        if (!transferPiece(piece, direction, piece.start + from, buffer, part))
             return false;
-        }
         buffer += part;
         bytes -= part;
         from = 0;
-        if (bytes == 0) {
+        if (bytes == 0)
             break;
-        }
     }
     return bytes == 0;
 }
@@ -259,28 +247,23 @@ bool RawDevices::transferPiece(const Piece &piece, Direction direction, qint64 o
                                qint64 bytes)
 {
     const Throttle throttle(*piece.disk, bytes);
-    if (offset + bytes > bytesOf(*piece.disk)) {
+    if (offset + bytes > bytesOf(*piece.disk))
         return false;
-    }
     const qint64 first = offset / sectorBytes;
     const qint64 count = (offset + bytes + sectorBytes - 1) / sectorBytes - first;
     const bool reads = direction == Direction::Read;
-    if ((reads ? piece.disk->bad : piece.disk->unwritable).touches(first, count)) {
+    if ((reads ? piece.disk->bad : piece.disk->unwritable).touches(first, count))
         return false;
-    }
-    if (!reads) {
-        return sparse::write(*piece.file, offset, buffer, bytes);
-    }
-    return sparse::read(*piece.file, offset, buffer, bytes);
+    return (reads ? sparse::read(*piece.file, offset, buffer, bytes)
+                  : sparse::write(*piece.file, offset, buffer, bytes));
 }
 
 bool RawDevices::DeviceIoControl(RawHandle handle, quint32 code, const void *in, quint32 inSize, void *out,
                                  quint32 outSize, quint32 *returned)
 {
     const std::shared_ptr<Device> device = find(handle);
-    if (!device || !isThere(*device)) {
+    if (!device || !isThere(*device))
         return false;
-    }
     const QByteArray request(static_cast<const char *>(in), in == nullptr ? 0 : static_cast<int>(inSize));
     const Disk &first = *device->pieces.first().disk;
     QByteArray told = geometryAnswer(code, bytesOf(first), first.record);

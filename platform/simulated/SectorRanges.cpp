@@ -5,9 +5,8 @@
 
 void SectorRanges::add(qint64 first, qint64 count)
 {
-    if (count <= 0) {
+    if (count <= 0)
         return;
-    }
     Range added{first, first + count};
     const auto from = std::lower_bound(m_ranges.begin(), m_ranges.end(), added.first,
                                        [](const Range &range, qint64 sector) { return range.end < sector; });

@@ -48,9 +48,8 @@ constexpr std::array<Wording, 10> wordings{{
 
 Wording wordingOf(int status)
 {
-    if (status < 0 || static_cast<std::size_t>(status) >= wordings.size()) {
+    if (status < 0 || static_cast<std::size_t>(status) >= wordings.size())
         return {"Self-test routine in progress...", "Self-test routine in progress"};
-    }
     return wordings[static_cast<std::size_t>(status)];
 }
 
@@ -76,21 +75,17 @@ QByteArray withStatus(const QByteArray &text, int status, int remainingTenths)
     QByteArray end;
     QList<QByteArray> lines = linesOf(text, &end);
     for (int i = 0; i < lines.size(); ++i) {
-        if (!lines.at(i).startsWith(marker)) {
+        if (!lines.at(i).startsWith(marker))
             continue;
-        }
-        while (i + 1 < lines.size() && isContinuation(lines.at(i + 1))) {
+        while (i + 1 < lines.size() && isContinuation(lines.at(i + 1)))
             lines.removeAt(i + 1);
-        }
         QList<QByteArray> told = QByteArray(wordingOf(status).status).split('\n');
-        if (status == inProgress) {
+        if (status == inProgress)
             told.append(QByteArray::number(remainingTenths) + "0% of test remaining.");
-        }
         const QByteArray code = QByteArray::number(status * 16 + remainingTenths).rightJustified(4);
         lines[i] = marker + "      (" + code + ")\t" + told.takeFirst();
-        for (const QByteArray &more : told) {
+        for (const QByteArray &more : told)
             lines.insert(++i, "\t\t\t\t\t" + more);
-        }
     }
     return lines.join(end);
 }
@@ -104,9 +99,8 @@ QByteArray logRow(const QString &kind, int status, int remainingTenths, qint64 h
 
 QByteArray withLogRows(const QByteArray &text, const QList<QByteArray> &rows)
 {
-    if (rows.isEmpty()) {
+    if (rows.isEmpty())
         return text;
-    }
     QByteArray end;
     QList<QByteArray> lines = linesOf(text, &end);
     int at = 0;
@@ -114,17 +108,15 @@ QByteArray withLogRows(const QByteArray &text, const QList<QByteArray> &rows)
            !lines.at(at).startsWith("Num  Test_Description    Status     ")) {
         ++at;
     }
-    if (at == lines.size()) {
+    if (at == lines.size())
         return text;
-    }
     lines[at] = logHeading;
     QList<QByteArray> all = rows;
     while (at + 1 < lines.size() && lines.at(at + 1).startsWith('#')) {
         all.append(lines.takeAt(at + 1).mid(5)); // behind "# 1  "
     }
-    for (int i = 0; i < all.size() && i < mostRows; ++i) {
+    for (int i = 0; i < all.size() && i < mostRows; ++i)
         lines.insert(at + 1 + i, '#' + QByteArray::number(i + 1).rightJustified(2) + "  " + all.at(i));
-    }
     return lines.join(end);
 }
 

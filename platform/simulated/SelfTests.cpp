@@ -4,8 +4,6 @@
 #include "platform/OwnFiles.h"
 #include "platform/simulated/SelfTestText.h"
 
-#include <QDir>
-#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -63,29 +61,24 @@ SelfTests::State SelfTests::load(int disk) const
 {
     const QJsonObject object = loadAll(m_file).value(QString::number(disk)).toObject();
     State state;
-    if (object.contains(keyRunning)) {
+    if (object.contains(keyRunning))
         state.running = fromJson(object.value(keyRunning).toObject());
-    }
-    for (const QJsonValue &entry : object.value(keyLog).toArray()) {
+    for (const QJsonValue &entry : object.value(keyLog).toArray())
         state.log.append(fromJson(entry.toObject()));
-    }
     return state;
 }
 
 void SelfTests::save(int disk, const State &state) const
 {
     QJsonObject object;
-    if (state.running) {
+    if (state.running)
         object.insert(keyRunning, toJson(*state.running));
-    }
     QJsonArray log;
-    for (const SelfTestRun &run : state.log) {
+    for (const SelfTestRun &run : state.log)
         log.append(toJson(run));
-    }
     object.insert(keyLog, log);
     QJsonObject all = loadAll(m_file);
     all.insert(QString::number(disk), object);
-    QDir().mkpath(QFileInfo(m_file).absolutePath());
     QSaveFile file(m_file);
     if (file.open(QIODevice::WriteOnly)) {
         file.write(QJsonDocument(all).toJson());
@@ -133,9 +126,8 @@ std::optional<int> SelfTests::remaining(int disk)
 void SelfTests::abort(int disk)
 {
     State state = settle(disk);
-    if (!state.running) {
+    if (!state.running)
         return;
-    }
     SelfTestRun run = *state.running;
     run.end = {abortedByHost, tenthsLeft(run)};
     run.lba = QStringLiteral("-");
@@ -148,16 +140,14 @@ QByteArray SelfTests::applyTo(int disk, const QByteArray &text)
 {
     const State state = settle(disk);
     QByteArray result = text;
-    if (state.running) {
+    if (state.running)
         result = selftext::withStatus(result, selftext::inProgress, tenthsLeft(*state.running));
-    } else if (!state.log.isEmpty()) {
+    else if (!state.log.isEmpty())
         result =
             selftext::withStatus(result, state.log.first().end.status, state.log.first().end.remainingTenths);
-    }
     QList<QByteArray> rows;
-    for (const SelfTestRun &run : state.log) {
+    for (const SelfTestRun &run : state.log)
         rows.append(selftext::logRow(run.kind, run.end.status, run.end.remainingTenths, run.hours, run.lba));
-    }
     return selftext::withLogRows(result, rows);
 }
 

@@ -60,20 +60,16 @@ bool makeStateFolder(const QString &folder, QString *error)
 {
     // A folder that others can change could lead the program to other files of its user.
     QString wrong = ownfiles::makeFolder(folder);
-    if (wrong.isEmpty()) {
+    if (wrong.isEmpty())
         wrong = ownfiles::strangerIn(folder);
-    }
-    if (wrong.isEmpty() && !ownfiles::irregularIn(folder).isEmpty()) {
+    if (wrong.isEmpty() && !ownfiles::irregularIn(folder).isEmpty())
         wrong = ownfiles::irregularIn(folder) + QLatin1String(": no regular file");
-    }
     for (const char *part : {"temp", "images", "registry", "volumes-changed", "drives/C"}) {
-        if (wrong.isEmpty()) {
+        if (wrong.isEmpty())
             wrong = ownfiles::makeFolder(folder + QLatin1Char('/') + QLatin1String(part));
-        }
     }
-    if (!wrong.isEmpty()) {
+    if (!wrong.isEmpty())
         *error = QLatin1String("the state of the PC cannot be kept: ") + wrong;
-    }
     return wrong.isEmpty();
 }
 
@@ -89,21 +85,18 @@ std::unique_ptr<SimulatedPlatform> SimulatedPlatform::open(const QString &folder
         return nullptr;
     }
     std::optional<simulated::PcDescription> pc = simulated::readPc(folder, error);
-    if (!pc) {
+    if (!pc)
         return nullptr;
-    }
     const bool ownsState = stateFolder.isEmpty();
     const QString state = ownsState ? simulated::makePrivateFolder() : QDir(stateFolder).absolutePath();
     if (state.isEmpty()) {
         *error = QLatin1String("no private temp folder can be made for the state of the PC");
         return nullptr;
     }
-    if (!makeStateFolder(state, error)) {
+    if (!makeStateFolder(state, error))
         return nullptr;
-    }
-    if (!clock) {
+    if (!clock)
         clock = &QDateTime::currentMSecsSinceEpoch;
-    }
     return std::unique_ptr<SimulatedPlatform>(new SimulatedPlatform(std::move(*pc), state, ownsState, clock));
 }
 
@@ -159,9 +152,8 @@ void SimulatedPlatform::record(const QString &fileName, const QByteArray &line)
 {
     const QMutexLocker lock(&m_mutex);
     QFile file(m_state + QLatin1Char('/') + fileName);
-    if (file.open(QIODevice::WriteOnly | QIODevice::Append)) {
+    if (file.open(QIODevice::WriteOnly | QIODevice::Append))
         file.write(line + '\n');
-    }
 }
 
 bool SimulatedPlatform::CreateProcessAndWait(const std::wstring &line, bool hidden)
@@ -177,16 +169,13 @@ bool SimulatedPlatform::ShellExecuteW(const QString &file, const QString &parame
     record(QStringLiteral("opened.log"),
            QStringList{verb, file, parameters}.join(QLatin1Char('\t')).toUtf8());
     const QString name = imageNameOf(file);
-    if (!name.endsWith(QLatin1String(".exe"), Qt::CaseInsensitive)) {
+    if (!name.endsWith(QLatin1String(".exe"), Qt::CaseInsensitive))
         return true;
-    }
-    if (!m_pc.installed.contains(name, Qt::CaseInsensitive)) {
+    if (!m_pc.installed.contains(name, Qt::CaseInsensitive))
         return false;
-    }
     const QMutexLocker lock(&m_mutex);
-    if (!m_processes.contains(name, Qt::CaseInsensitive)) {
+    if (!m_processes.contains(name, Qt::CaseInsensitive))
         m_processes.append(name);
-    }
     return true;
 }
 
@@ -271,9 +260,8 @@ bool SimulatedPlatform::TakeInstance(const QString &key)
 
 void SimulatedPlatform::Leave()
 {
-    if (m_ownsState) {
+    if (m_ownsState)
         QDir(m_state).removeRecursively();
-    }
 }
 
 QString SimulatedPlatform::OperatingSystemName()
@@ -300,9 +288,8 @@ qint32 SimulatedPlatform::URLDownloadToFileW(const QString &url, const QString &
 
 void SimulatedPlatform::Sleep(quint32 milliseconds)
 {
-    if (m_pc.pauses) {
+    if (m_pc.pauses)
         QThread::msleep(milliseconds);
-    }
 }
 
 DeviceNotifier *SimulatedPlatform::deviceNotifier()
@@ -310,9 +297,8 @@ DeviceNotifier *SimulatedPlatform::deviceNotifier()
     if (m_notifier.isNull()) {
         m_notifier = new DeviceNotifier;
         const QString folder = m_state + volumesChanged;
-        for (const QString &old : QDir(folder).entryList(QDir::Files)) {
+        for (const QString &old : QDir(folder).entryList(QDir::Files))
             QFile::remove(folder + QLatin1Char('/') + old);
-        }
         auto *watcher = new QFileSystemWatcher({folder}, m_notifier);
         QObject::connect(watcher, &QFileSystemWatcher::directoryChanged, m_notifier,
                          [this] { tellVolumeChanges(); });
@@ -328,9 +314,8 @@ void SimulatedPlatform::tellVolumeChanges()
         const auto notices = m_presence.touch(name);
         // Taking the file away makes the next touch a new one.
         if (notices && QFile::remove(folder.filePath(name))) {
-            for (const DeviceChange &notice : *notices) {
+            for (const DeviceChange &notice : *notices)
                 emit m_notifier->deviceChange(notice.event, notice.deviceType);
-            }
         }
     }
 }
@@ -361,9 +346,8 @@ void SimulatedPlatform::DeleteLogonTask(const QString &name)
 
 std::unique_ptr<QSettings> SimulatedPlatform::OpenSettings(const QString &registryPath)
 {
-    if (registryPath.isEmpty()) {
+    if (registryPath.isEmpty())
         return jsonsettings::openNothing();
-    }
     const QString file = jsonsettings::fileOf(m_state + QLatin1String("/registry"), registryPath);
     if (isProductPath(registryPath)) {
         const QMutexLocker lock(&m_mutex);

@@ -61,13 +61,12 @@ SimulatedSmartctl::Request SimulatedSmartctl::parse(const QStringList &arguments
                    word == QLatin1String("-t")) {
             const QString value = arguments.value(++i, QStringLiteral(""));
             const bool test = word == QLatin1String("-t");
-            if (test && (value == QLatin1String("short") || value == QLatin1String("long"))) {
+            if (test && (value == QLatin1String("short") || value == QLatin1String("long")))
                 request.test = value;
-            } else if (word == QLatin1String("-l") && value == QLatin1String("selftest")) {
+            else if (word == QLatin1String("-l") && value == QLatin1String("selftest"))
                 request.log = true;
-            } else if (word != QLatin1String("-d") || value.isEmpty()) {
+            else if (word != QLatin1String("-d") || value.isEmpty())
                 refuse(word, value);
-            }
         } else {
             refuse(word, QString());
         }
@@ -86,9 +85,8 @@ const Disk *SimulatedSmartctl::diskOf(const QString &device) const
 QByteArray SimulatedSmartctl::run(const QStringList &arguments)
 {
     const Request request = parse(arguments);
-    if (!request.wrong.isEmpty()) {
+    if (!request.wrong.isEmpty())
         return banner + request.wrong + seeHelp;
-    }
     if (request.devices.size() != 1) {
         return banner +
                (request.devices.isEmpty()
@@ -110,21 +108,16 @@ QByteArray SimulatedSmartctl::run(const QStringList &arguments)
     }
     const QMutexLocker lock(&m_mutex);
     QByteArray output;
-    if (request.report) {
+    if (request.report)
         output += report(*disk);
-    }
-    if (request.capabilities) {
+    if (request.capabilities)
         output += m_tests.applyTo(disk->record.number, ownfiles::contents(disk->capabilities));
-    }
-    if (request.log) {
+    if (request.log)
         output += log(*disk);
-    }
-    if (request.abort) {
+    if (request.abort)
         output += abortTest(*disk);
-    }
-    if (!request.test.isEmpty()) {
+    if (!request.test.isEmpty())
         output += startTest(*disk, request.test);
-    }
     return output;
 }
 
@@ -137,9 +130,8 @@ QByteArray SimulatedSmartctl::report(const Disk &disk)
 QByteArray SimulatedSmartctl::log(const Disk &disk)
 {
     QByteArray text = ownfiles::contents(disk.selfTestLog);
-    if (disk.selfTestLog.isEmpty() && !disk.capabilities.isEmpty()) {
+    if (disk.selfTestLog.isEmpty() && !disk.capabilities.isEmpty())
         text = banner + noTestsLogged;
-    }
     return m_tests.applyTo(disk.record.number, text);
 }
 
@@ -151,16 +143,14 @@ QByteArray SimulatedSmartctl::startTest(const Disk &disk, const QString &test)
                                " self-test routine immediately in off-line mode\"";
     // "No Self-test supported." is what a drive without them says.
     static const QRegularExpression supported(QStringLiteral("(?<!No )Self-test supported\\."));
-    if (!supported.match(QString::fromLatin1(capabilities)).hasMatch()) {
+    if (!supported.match(QString::fromLatin1(capabilities)).hasMatch())
         return banner + testSection +
                "Warning: device does not support Self-Test functions.\n\nSending command: " + command +
                ".\nCommand " + command + " failed: Input/output error\n";
-    }
-    if (const std::optional<int> left = m_tests.remaining(disk.record.number)) {
+    if (const std::optional<int> left = m_tests.remaining(disk.record.number))
         return banner + testSection + "Can't start self-test without aborting current test (" +
                QByteArray::number(*left) + "0% remaining),\n" +
                "add '-t force' option to override, or run 'smartctl -X' to abort test.\n";
-    }
     const int minutes = selftext::pollingMinutes(capabilities, isLong ? "Extended" : "Short").value_or(0);
     SelfTestRun run;
     run.kind = isLong ? QStringLiteral("Extended offline") : QStringLiteral("Short offline");

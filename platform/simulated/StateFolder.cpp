@@ -15,9 +15,8 @@ QString makePrivateFolder()
     const QString candidates[] = {QDir::tempPath(), QStringLiteral("/tmp"),
                                   QDir::rootPath() + QLatin1String("Temp"), QDir::rootPath()};
     for (const QString &parent : candidates) {
-        if (parent.contains(QLatin1Char(' ')) || !QFileInfo(parent).isWritable()) {
+        if (parent.contains(QLatin1Char(' ')) || !QFileInfo(parent).isWritable())
             continue;
-        }
         QTemporaryDir folder(parent + QLatin1String("/halvane-pc-XXXXXX"));
         if (folder.isValid()) {
             folder.setAutoRemove(false);

@@ -36,7 +36,7 @@ public:
     /// The program that such a line starts first, as it is written there; empty where there is none.
     static QString programOf(const std::wstring &line);
 
-    /// The line with the folder, in Windows' own writing, in front of that program's name.
+    /// The line with `folder`, written with backslashes, in front of that program's name.
     static std::wstring withFolder(const std::wstring &line, const QString &folder);
 
     /// True for a path that does not pass through a line as it is: lines quote nothing, and reach the

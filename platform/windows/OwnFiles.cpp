@@ -33,7 +33,7 @@ bool isOurs(PSID who)
                         [who](WELL_KNOWN_SID_TYPE kind) { return ::IsWellKnownSid(who, kind) != FALSE; }));
 }
 
-/// Whether a list gives somebody else one of the rights. There is none where everybody has all of them.
+/// Whether a list gives somebody else one of the rights. Without a list everybody has all rights.
 bool givesOthers(ACL *list, DWORD rights)
 {
     for (WORD i = 0; list && i < list->AceCount; ++i) {
@@ -41,7 +41,7 @@ bool givesOthers(ACL *list, DWORD rights)
         if (!::GetAce(list, i, &entry))
             return true;
         const auto *header = static_cast<const ACE_HEADER *>(entry);
-        // What goes on to things that are made later says nothing of this one.
+        // Such an entry is only for what is made inside later.
         if ((header->AceFlags & INHERIT_ONLY_ACE) != 0 || header->AceType == ACCESS_DENIED_ACE_TYPE)
             continue;
         auto *allowed = static_cast<ACCESS_ALLOWED_ACE *>(entry);
@@ -134,8 +134,8 @@ QString makeFolder(const QString &path)
 
 QString strangerOn(const QString &path)
 {
-    // Others may add what they like above, as they may to a drive or to %ProgramData%, but put nothing else
-    // in the place of the next part.
+    // In the folders above others may make files of their own, as in C:\ or %ProgramData%. But they must not be
+    // able to replace the next part of the path.
     constexpr DWORD Replace = FILE_DELETE_CHILD | WRITE_DAC | WRITE_OWNER | GENERIC_ALL;
     constexpr DWORD Write = Replace | DELETE | FILE_WRITE_DATA | FILE_APPEND_DATA | GENERIC_WRITE;
     const QStringList way = wayTo(path);

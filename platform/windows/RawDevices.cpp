@@ -134,14 +134,11 @@ bool RawDevices::ReadFile(Platform::RawHandle handle, void *buffer, quint32 byte
 {
     const auto device = find(handle);
     const quint32 wanted = device ? cut(*device, bytes) : 0;
-    auto *out = static_cast<char *>(buffer);
     const auto move = [handle](char *memory, qint64 offset, qint64 count) {
         return transferAt(::ReadFile, native(handle), memory, offset, count);
     };
-    const bool done =
-        wanted != 0 && (device->takes(buffer, wanted)
-                            ? move(out, device->position, wanted)
-                            : device->buffer.read(out, device->position, wanted, device->sector, move));
+    const bool done = wanted != 0 && device->buffer.read(static_cast<char *>(buffer), device->position,
+                                                         wanted, device->sector, move);
     return finish(device.get(), done ? wanted : 0, transferred);
 }
 
@@ -150,14 +147,11 @@ bool RawDevices::WriteFile(Platform::RawHandle handle, const void *buffer, quint
 {
     const auto device = find(handle);
     const quint32 wanted = device ? cut(*device, bytes) : 0;
-    const auto *in = static_cast<const char *>(buffer);
     const auto move = [handle](const char *memory, qint64 offset, qint64 count) {
         return transferAt(::WriteFile, native(handle), memory, offset, count);
     };
-    const bool done =
-        wanted != 0 && (device->takes(buffer, wanted)
-                            ? move(in, device->position, wanted)
-                            : device->buffer.write(in, device->position, wanted, device->sector, move));
+    const bool done = wanted != 0 && device->buffer.write(static_cast<const char *>(buffer), device->position,
+                                                          wanted, device->sector, move);
     return finish(device.get(), done ? wanted : 0, transferred);
 }
 

@@ -12,10 +12,10 @@
 namespace windows
 {
 
-/// The open raw devices. The system refuses a transfer that crosses the end of a disk; it is cut there by the
-/// disk's size instead, and one that begins at or behind the end fails. It also moves whole sectors only, and
-/// file systems want aligned memory for those of a volume: what is not so goes by way of a buffer, and parts
-/// of a sector are not written. Where the system does not tell the sizes, transfers go through as they are.
+/// The open raw devices. The system refuses a transfer that crosses the end of a disk, so it is cut at the
+/// end first; one that begins at or behind the end fails. The system moves whole sectors only, and those of a
+/// volume from and to aligned memory only. Other reads go through a buffer; parts of a sector are not
+/// written. If the system does not tell the sizes, transfers are passed on as they are.
 class RawDevices : public Platform
 {
 public:
@@ -39,11 +39,6 @@ private:
         qint64 sector = 1;         ///< bytes
         qint64 position = 0;       ///< bytes
         AlignedBuffer buffer;
-
-        bool takes(const void *memory, quint32 bytes) const
-        {
-            return AlignedBuffer::takes(memory, position, bytes, sector);
-        }
     };
 
     std::shared_ptr<Device> find(RawHandle handle);

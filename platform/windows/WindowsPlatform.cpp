@@ -409,7 +409,7 @@ std::unique_ptr<QSettings> WindowsPlatform::OpenSettings(const QString &registry
 {
     if (registryPath.isEmpty())
         return jsonsettings::openNothing();
-    return std::make_unique<QSettings>(registryPath, QSettings::NativeFormat);
+    return jsonsettings::openAs(registryPath, QSettings::NativeFormat);
 }
 
 std::unique_ptr<Platform> makeNativePlatform()

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/IoControl.h"
+#include "platform/Log.h"
 #include "platform/linux/LinuxTools.h"
+#include "platform/linux/RawDevice.h"
 #include "tests/platform/LoopDevice.h"
 #include "tests/support/LinuxPlaces.h"
 
@@ -54,6 +56,7 @@ private slots:
     void rawDisk();
     void bigSectors();
     void opensOnlyWhatIsThere();
+    void tellsOnRequest();
     void handlesThatAreNone();
     void mountedVolume();
     void inventoryTool();
@@ -239,6 +242,15 @@ void tst_LinuxPlatform::opensOnlyWhatIsThere()
     QVERIFY(!QFile::exists(path("absent.img")));
     QVERIFY(pc->GetLogicalDriveStringsW().isEmpty());
     QCOMPARE(pc->GetDriveTypeW(QStringLiteral("C:\\")), quint32(io::DriveNoRootDir));
+}
+
+void tst_LinuxPlatform::tellsOnRequest()
+{
+    QVERIFY(!logs::platform().isDebugEnabled());
+    QLoggingCategory::setFilterRules(QStringLiteral("halvane.platform=true"));
+    const auto quiet = qScopeGuard([] { QLoggingCategory::setFilterRules(QString()); });
+    QTest::ignoreMessage(QtDebugMsg, "/dev/no-such-disk does not open: No such file or directory");
+    QVERIFY(!RawDevice::open(QStringLiteral("/dev/no-such-disk"), false));
 }
 
 void tst_LinuxPlatform::handlesThatAreNone()
