@@ -8,8 +8,8 @@
 #include <functional>
 
 /// A buffer on a page boundary. A raw device moves whole sectors only, from and to such memory; all other
-/// transfers go through this buffer. `sector` is the device's in bytes, 0 where it takes any transfer as it is.
-/// One thread at a time.
+/// transfers go through this buffer. `sector` is the device's in bytes, 0 where it takes any transfer as it
+/// is. One thread at a time.
 class AlignedBuffer
 {
 public:

@@ -160,7 +160,10 @@ public:
     virtual QString NativePath(const QString &path) const = 0;
     /// The begin of a command line: the system's own interpreter with its switches. The variable COMSPEC is
     /// not used, as any program of the user can set it.
-    virtual QByteArray CommandInterpreter();
+    virtual QByteArray CommandInterpreter()
+    {
+        return (GetSystemDirectoryW() + QLatin1String("\\cmd.exe")).toUtf8();
+    }
     /// True if no other process of this user on this PC has taken `key`. It stays taken until this process
     /// ends, even by a crash; no other user can take it. To be called once.
     virtual bool TakeInstance(const QString & /*key*/) { return true; }

@@ -72,12 +72,7 @@ void allowHoles(const QFile &) {}
 
 bool punch(const QFile &file, qint64 offset, qint64 bytes)
 {
-#ifdef FALLOC_FL_PUNCH_HOLE
     return ::fallocate(file.handle(), FALLOC_FL_PUNCH_HOLE | FALLOC_FL_KEEP_SIZE, offset, bytes) == 0;
-#else
-    (void)file, (void)offset, (void)bytes;
-    return false;
-#endif
 }
 
 /// The next stretch that may hold data; false behind the last one.
@@ -85,7 +80,6 @@ bool nextData(const QFile &file, qint64 from, qint64 size, qint64 *begin, qint64
 {
     *begin = from;
     *end = size;
-#ifdef SEEK_DATA
     const off_t data = ::lseek(file.handle(), from, SEEK_DATA);
     if (data >= 0) {
         *begin = data;
@@ -94,7 +88,6 @@ bool nextData(const QFile &file, qint64 from, qint64 size, qint64 *begin, qint64
     } else if (errno == ENXIO) {
         return false;
     }
-#endif
     return *begin < size;
 }
 

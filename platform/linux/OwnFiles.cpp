@@ -29,8 +29,8 @@ bool isOurs(const struct stat &status)
 }
 
 /// Whether there is an access list, which names further users and groups. The rights of the group are then an
-/// upper limit for all of these. True, too, where the system does not tell. The handle is one for paths only, so
-/// the list is asked for by the handle's name in /proc.
+/// upper limit for all of these. True, too, where the system does not tell. The handle is one for paths only,
+/// so the list is asked for by the handle's name in /proc.
 bool hasAccessList(int handle)
 {
     const QByteArray name = "/proc/self/fd/" + QByteArray::number(handle);
@@ -38,7 +38,8 @@ bool hasAccessList(int handle)
            (errno != ENODATA && errno != ENOTSUP);
 }
 
-/// Whether others than the user may write. The user's own group, which has the number of the user, is no other.
+/// Whether others than the user may write. The user's own group, which has the number of the user, is no
+/// other.
 bool othersMayAdd(int handle, const struct stat &status)
 {
     const bool userGroup = status.st_gid == 0 || (status.st_gid == geteuid() && status.st_gid == getegid());
@@ -188,8 +189,8 @@ bool makeIn(const Walk &way, const QByteArray &name, mode_t mode, QFile *file)
     return false;
 }
 
-/// Gives the new file the rights of the one that it is to replace. False where that one is not regular, or where
-/// this process may not write to it. If there is none yet, or a link, nothing is to be done.
+/// Gives the new file the rights of the one that it is to replace. False where that one is not regular, or
+/// where this process may not write to it. If there is none yet, or a link, nothing is to be done.
 bool takeRights(int folder, const QByteArray &name, int fresh)
 {
     struct stat old = {};

@@ -105,19 +105,14 @@ SectorRanges readRanges(const JsonReader &in, const char *key)
     for (int i = 0; i < array.size(); ++i) {
         const QString place = QStringLiteral("%1[%2]").arg(in.path(key)).arg(i);
         const QJsonValue value = array.at(i);
-        if (!value.isArray()) {
-            if (value.isDouble())
-                ranges.add(in.wholeValue(value, place, 0, mostSectors), 1);
-            else
-                in.fail(place, QStringLiteral("a sector or [first, count] is wanted"));
-            continue;
-        }
-        const QJsonArray pair = value.toArray();
+        const bool single = value.isDouble();
+        const QJsonArray pair = single ? QJsonArray{value, 1} : value.toArray();
         if (pair.size() != 2) {
             in.fail(place, QStringLiteral("a sector or [first, count] is wanted"));
             continue;
         }
-        const qint64 first = in.wholeValue(pair.at(0), place + QLatin1String("[0]"), 0, mostSectors);
+        const QString firstPlace = single ? place : place + QLatin1String("[0]");
+        const qint64 first = in.wholeValue(pair.at(0), firstPlace, 0, mostSectors);
         ranges.add(first, in.wholeValue(pair.at(1), place + QLatin1String("[1]"), 1, mostSectors));
     }
     return ranges;

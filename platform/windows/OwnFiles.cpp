@@ -134,8 +134,8 @@ QString makeFolder(const QString &path)
 
 QString strangerOn(const QString &path)
 {
-    // In the folders above others may make files of their own, as in C:\ or %ProgramData%. But they must not be
-    // able to replace the next part of the path.
+    // In the folders above others may make files of their own, as in C:\ or %ProgramData%. But they must not
+    // be able to replace the next part of the path.
     constexpr DWORD Replace = FILE_DELETE_CHILD | WRITE_DAC | WRITE_OWNER | GENERIC_ALL;
     constexpr DWORD Write = Replace | DELETE | FILE_WRITE_DATA | FILE_APPEND_DATA | GENERIC_WRITE;
     const QStringList way = wayTo(path);
