@@ -297,7 +297,7 @@ PcDescription readObject(const QJsonObject &object, const QString &folder, QStri
     pc.pauses = in.truth("pauses", true);
     pc.hasSmartctl = in.truth("smartctl", true);
     pc.network = in.truth("network", false);
-    pc.toolMilliseconds = static_cast<int>(in.whole("toolMilliseconds", 0, 0, 600000));
+    pc.toolMilliseconds = static_cast<int>(in.whole("toolMilliseconds", 0, 0, 10000));
     pc.processes = in.texts("processes");
     pc.installed = in.texts("installed");
     pc.settings = readSettings(in);

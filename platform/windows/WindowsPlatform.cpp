@@ -395,7 +395,12 @@ void WindowsPlatform::CreateLogonTask(const LogonTask &task)
 {
     LogonTask native = task;
     native.program = NativePath(task.program);
-    windows::createLogonTask(native);
+    // The task runs its program with the highest rights, so nobody else may be able to replace it.
+    const QString stranger = ownfiles::strangerOn(native.program);
+    if (stranger.isEmpty())
+        windows::createLogonTask(native);
+    else
+        qCWarning(logs::platform).noquote() << "no logon task for" << stranger;
 }
 
 void WindowsPlatform::DeleteLogonTask(const QString &name)

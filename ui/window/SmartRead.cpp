@@ -2,6 +2,7 @@
 #include "ui/window/MainWindow.h"
 
 #include "inventory/CommandRunner.h"
+#include "platform/OwnFiles.h"
 #include "smart/AttributeGraph.h"
 #include "smart/AttributeHistory.h"
 #include "smart/AttributeRows.h"
@@ -19,7 +20,7 @@
 #include "ui/widgets/Images.h"
 
 #include <QDateTime>
-#include <QDir>
+#include <QFileInfo>
 #include <QMovie>
 #include <QTreeWidgetItem>
 
@@ -152,9 +153,10 @@ void MainWindow::prepareLogFolder()
     const QString folder = settings::logFolderOf(SettingsStore().text(key::LogSavePath));
     if (folder.isEmpty())
         return;
-    const QDir directory(nativePath(folder));
-    if (!directory.exists())
-        directory.mkpath(QStringLiteral("."));
+    // A folder that others could swap is none for an administrator's program.
+    const QString path = nativePath(folder);
+    if (!QFileInfo::exists(path))
+        ownfiles::makeFolder(path);
 }
 
 void MainWindow::OnInitializeSmart()
