@@ -91,3 +91,8 @@ DiskMark ReadDiskMark(int driveCode)
     Platform::current().CloseHandle(handle);
     return mark;
 }
+
+void GetDiskSectorCount(int driveCode, quint64 *result)
+{
+    *result = ReadDiskMark(driveCode).sectors;
+}

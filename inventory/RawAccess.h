@@ -43,6 +43,9 @@ DiskMark DiskMarkOf(Platform::RawHandle handle);
 /// The same by its drive code; an empty mark where it does not open.
 DiskMark ReadDiskMark(int driveCode);
 
+/// Count of sectors of the target in `result`, 0 on failure.
+void GetDiskSectorCount(int driveCode, quint64 *result);
+
 /// Asks the target behind an open handle a question without data. False where it refuses; `answer` then
 /// stays as it is.
 template<typename Answer>

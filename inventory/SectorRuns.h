@@ -18,11 +18,11 @@ class SectorRuns
 public:
     void add(qint64 first, qint64 count)
     {
-        m_count += count;
         if (!m_runs.empty() && m_runs.back().first + m_runs.back().count == first)
             m_runs.back().count += count;
         else
             m_runs.push_back({first, count});
+        m_count += count;
     }
     /// Of sectors.
     qint64 count() const { return m_count; }

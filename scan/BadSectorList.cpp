@@ -18,9 +18,3 @@ qint64 BadSectorList::count() const
     const std::lock_guard lock(m_mutex);
     return m_found.count();
 }
-
-std::vector<SectorRun> BadSectorList::runs() const
-{
-    const std::lock_guard lock(m_mutex);
-    return m_found.runs();
-}

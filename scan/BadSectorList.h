@@ -18,8 +18,14 @@ public:
     qint64 count() const;
     bool isEmpty() const { return count() == 0; }
 
-    /// A copy of the runs as they are now, so that a walk does not hold up the scan.
-    std::vector<SectorRun> runs() const;
+    /// Calls `visit` with each run, oldest first. The scan waits meanwhile, so `visit` is to be quick.
+    template<class Visit>
+    void forEachRun(Visit visit) const
+    {
+        const std::lock_guard lock(m_mutex);
+        for (const SectorRun &run : m_found.runs())
+            visit(run);
+    }
 
 private:
     mutable std::mutex m_mutex;

@@ -67,10 +67,10 @@ QVector<Cell> cells(const Metrics &sizes, qint64 total, qint64 position, const B
         fill(picture, processed - 1, processed, Cell::Working);
 
     qint64 lastBad = 0;
-    for (const SectorRun &run : badSectors.runs()) {
+    badSectors.forEachRun([&](const SectorRun &run) {
         lastBad = run.first + run.count - 1;
         fill(picture, badCell(run.first, perCell), badCell(lastBad, perCell) + 1, Cell::Bad);
-    }
+    });
     // The newest bad cell stays grey until the scan has passed it, or is at its end.
     if (position != 0 && position != total && lastBad >= position)
         fill(picture, badCell(lastBad, perCell), badCell(lastBad, perCell) + 1, Cell::Working);

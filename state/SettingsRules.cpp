@@ -39,8 +39,10 @@ Values load()
 void save(const Values &values, const QString &logPath)
 {
     SettingsStore store;
-    for (const TextSetting &unit : {key::WarningtemValue, key::ShutDowntemValue, key::TempValue})
-        store.write(unit, unitText(values.unit));
+    if (values.unit == Celsius || values.unit == Fahrenheit) {
+        for (const TextSetting &unit : {key::WarningtemValue, key::ShutDowntemValue, key::TempValue})
+            store.write(unit, unitText(values.unit));
+    }
     store.write(key::ShowWarning, values.alarm ? 1 : 0);
     store.write(key::DontShow, values.alarm ? 0 : 1);
     store.write(key::WarningValue, values.warning);

@@ -18,7 +18,8 @@ constexpr DWORD SearchDefaultFolders = 0x1000;
 /// set his variables, and these go along with what he starts as an administrator.
 void clearEnvironment()
 {
-    const QByteArrayList kept{"QT_QPA_PLATFORM", "QT_FONT_DPI", "QT_SCALE_FACTOR"};
+    const QByteArrayList kept{"QT_QPA_PLATFORM", "QT_FONT_DPI", "QT_SCALE_FACTOR", "QT_LOGGING_RULES",
+                              "QT_FORCE_STDERR_LOGGING"};
     QByteArrayList names;
     wchar_t *const own = ::GetEnvironmentStringsW();
     for (const wchar_t *entry = own; entry && *entry; entry += ::wcslen(entry) + 1)

@@ -14,10 +14,10 @@
 inline QVector<qint64> sectorsOf(const BadSectorList &list)
 {
     QVector<qint64> sectors;
-    for (const SectorRun &run : list.runs()) {
+    list.forEachRun([&sectors](const SectorRun &run) {
         for (qint64 i = 0; i < run.count; ++i)
             sectors.append(run.first + i);
-    }
+    });
     return sectors;
 }
 

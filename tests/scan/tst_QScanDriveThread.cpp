@@ -465,11 +465,11 @@ void tst_QScanDriveThread::startsAndStopsUnderAReader()
         while (!done) {
             qint64 last = -1;
             qint64 length = 0;
-            for (const SectorRun &run : g_BadSectors.runs()) {
+            g_BadSectors.forEachRun([&](const SectorRun &run) {
                 wrong += run.count != 1 || run.first % 3 != 0 || run.first < last;
                 last = run.first;
                 ++length;
-            }
+            });
             longest = std::max(longest.load(), length);
         }
     }));

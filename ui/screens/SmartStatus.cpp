@@ -205,6 +205,11 @@ void SmartStatus::ShowReading(OverallResult result)
     pagelook::showResult(SmartResultLabel, result);
     m_pHeadingLabel->setText(QCoreApplication::translate("MainWindow", "SMART Status"));
     showSelectedDisk();
+    const DiskNode *node = findPhysicalDisk(PhysicalDriveBase + g_nCurrentDiskIndex);
+    if (const WmicDiskRecord *record = node ? findWmicDisk(node->nId) : nullptr)
+        SerialNunValueLbl->setText(record->szSmartSerial.text());
+    if (node && node->nKind == FixedDisk && !g_strSerialNumber.trimmed().isEmpty())
+        SerialNunValueLbl->setText(g_strSerialNumber.trimmed());
     GraphLabel->clear();
 }
 
@@ -217,10 +222,6 @@ void SmartStatus::showSelectedDisk()
     const WmicDiskRecord *record = findWmicDisk(node->nId);
     const bool named = record && !record->szInterface.isEmpty();
     InterfaceValLbl->setText(named ? record->szInterface.text() : tr("ATA Disk"));
-    if (record)
-        SerialNunValueLbl->setText(record->szSmartSerial.text());
-    if (node->nKind == FixedDisk && !g_strSerialNumber.trimmed().isEmpty())
-        SerialNunValueLbl->setText(g_strSerialNumber.trimmed());
 }
 
 void SmartStatus::retranslate()

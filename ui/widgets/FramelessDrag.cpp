@@ -15,7 +15,10 @@ FramelessDrag::FramelessDrag(QWidget *window, int titleHeight)
 
 bool FramelessDrag::eventFilter(QObject *watched, QEvent *event)
 {
-    const QEvent::Type type = event->type();
+    // The second press of a double click drags the main window, too.
+    QEvent::Type type = event->type();
+    if (type == QEvent::MouseButtonDblClick && m_nTitleHeight >= 0)
+        type = QEvent::MouseButtonPress;
     if (type != QEvent::MouseButtonPress && type != QEvent::MouseMove && type != QEvent::MouseButtonRelease)
         return QObject::eventFilter(watched, event);
     const auto *mouse = static_cast<QMouseEvent *>(event);

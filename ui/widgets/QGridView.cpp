@@ -61,11 +61,11 @@ qlonglong QGridView::totalSectors() const
 QVariantList QGridView::badSectors() const
 {
     QVariantList sectors;
-    for (const SectorRun &run : g_BadSectors.runs()) {
+    g_BadSectors.forEachRun([&sectors](const SectorRun &run) {
         const qint64 room = qMin<qint64>(run.count, MostBadSectors - sectors.size());
         for (qint64 i = 0; i < room; ++i)
             sectors.append(run.first + i);
-    }
+    });
     return sectors;
 }
 
