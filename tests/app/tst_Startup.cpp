@@ -29,8 +29,21 @@ namespace
 {
 const QByteArray Description =
     R"({"name": "Start PC", "pauses": false, "disks": [], "volumes": [], "settings": {"TempValue": "C"}})";
-const QString Program = QStringLiteral(HALVANE_BIN "/VelmoraHalvane");
-const QString Tour = QStringLiteral(HALVANE_BIN "/halvane_tour");
+/// Where the program was gathered with its plug-ins, it is taken from there: an administrator's program does
+/// not look for them elsewhere.
+QString built(const QString &gathered, const QString &name)
+{
+    const QString path = QCoreApplication::applicationDirPath() + gathered + name + QStringLiteral(".exe");
+    return QFileInfo::exists(path) ? path : QStringLiteral(HALVANE_BIN "/") + name;
+}
+QString program()
+{
+    return built(QStringLiteral("/../"), QStringLiteral("VelmoraHalvane"));
+}
+QString tour()
+{
+    return built(QStringLiteral("/"), QStringLiteral("halvane_tour"));
+}
 } // namespace
 
 QProcessEnvironment tst_Startup::environment(const DescribedFolder &folder)
@@ -52,7 +65,7 @@ int tst_Startup::starts(const DescribedFolder &folder)
 void tst_Startup::startProgram(QProcess &process, const DescribedFolder &folder, int expectedStarts)
 {
     process.setProcessEnvironment(environment(folder));
-    process.start(Program, QStringList());
+    process.start(program(), QStringList());
     QVERIFY(process.waitForStarted());
     QTRY_COMPARE_WITH_TIMEOUT(starts(folder), expectedStarts, 20000);
 }
@@ -67,7 +80,7 @@ void tst_Startup::secondInstanceIsRefused()
     QTemporaryDir out;
     QProcess second;
     second.setProcessEnvironment(environment(folder));
-    second.start(Tour, {out.path() + QStringLiteral("/out")});
+    second.start(tour(), {out.path() + QStringLiteral("/out")});
     QVERIFY(second.waitForFinished(60000));
     const QByteArray screens = DescribedFolder::contents(out.path() + QStringLiteral("/out/screens.json"));
     QVERIFY(screens.contains("dialog:QMessageBox"));
@@ -100,7 +113,7 @@ void tst_Startup::startsAgainAfterAKill()
                       {QStringLiteral("-R"), user, folder.path(), QFileInfo(folder.state()).path()});
     QProcess other;
     other.setProcessEnvironment(environment(folder));
-    other.start(setpriv, {QStringLiteral("--reuid=") + user, QStringLiteral("--clear-groups"), Program});
+    other.start(setpriv, {QStringLiteral("--reuid=") + user, QStringLiteral("--clear-groups"), program()});
     QTRY_COMPARE_WITH_TIMEOUT(starts(folder), 3, 20000);
     other.kill();
     other.waitForFinished();
@@ -129,7 +142,7 @@ void tst_Startup::brokenDescriptionEndsTheProgram()
     folder.add(QStringLiteral("pc.json"), R"({"disks": [{"number": 0, "sectors": "many"}]})");
     QProcess process;
     process.setProcessEnvironment(environment(folder));
-    process.start(Program, QStringList());
+    process.start(program(), QStringList());
     QVERIFY(process.waitForFinished(20000));
     QCOMPARE(process.exitStatus(), QProcess::NormalExit);
     QCOMPARE(process.exitCode(), 2);
