@@ -56,7 +56,7 @@ sound() {
     for path in "$root"/resources/translations/LANG_*.ts; do
         translation "$(basename "$path" .ts)"
     done
-    printf '{{"EN", "en"}, {"JA",\n"jp"}, {"CN", ""}};\n' >"$tree/state/Languages.cpp"
+    printf 'constexpr const char *table[][2] = {{"EN", "en"}, {"JA", "jp"}, {"CN", ""}};\n' >"$tree/state/Languages.cpp"
     printf 'constexpr std::array Pages{"about", "more"};\n' >"$tree/update/HelpLinks.cpp"
     manual >"$tree/$help-en-about.html"
     manual >"$tree/$help-en-more.html"
