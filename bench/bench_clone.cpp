@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bench/NoisyPc.h"
 #include "clone/ThreadDriveClone.h"
-#include "platform/NativePlatform.h"
 #include "state/Globals.h"
 #include "tests/platform/LoopDevice.h"
 #include "tests/support/WatchedPlatform.h"
@@ -50,8 +49,7 @@ public:
             return;
         qputenv("XDG_RUNTIME_DIR", m_folder.path().toUtf8());
         qputenv("HALVANE_DISKS", (node(0) + QLatin1Char(':') + node(1)).toUtf8());
-        auto watched = std::make_unique<WatchedPlatform>(makeNativePlatform());
-        watched->pauses = false;
+        auto watched = std::make_unique<WatchedPlatform>();
         // The copy alone, with its flush: the tools before and after it have times of their own.
         watched->onSleep = [this](quint32) { m_clock.start(); };
         watched->onFlush = [this] {

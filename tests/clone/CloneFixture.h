@@ -1,110 +1,160 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "tests/clone/CloneDisks.h"
-#include "tests/platform/DescribedFolder.h"
-#include "tests/support/WatchedPlatform.h"
+#include "clone/BlockReader.h"
+#include "clone/ThreadDriveClone.h"
+#include "inventory/RawAccess.h"
+#include "state/GlobalApp.h"
+#include "state/Globals.h"
+#include "tests/support/FakePlatform.h"
 
+#include <QRandomGenerator>
 #include <QtTest>
 
+constexpr qint64 BlockSectors = BlockReader::BlockSectors;
 constexpr int Source = 1;
 constexpr int Destination = 2;
 constexpr int Bystander = 3;
 constexpr int Sectors = 40000; ///< of a disk if the size does not matter: a block and a part of one
 constexpr int BystanderSectors = 5000;
-using Runs = QVector<QPair<int, int>>; ///< first sector and count
+using Set = QSet<qint64>; ///< of sectors
 using End = CloneOutcome::End;
 
-inline QByteArray describe(const QByteArray &more, qint64 sectors, int number)
+/// Bytes without repetition; the same seed gives the same bytes.
+inline QByteArray noise(qint64 sectors, quint32 seed)
 {
-    return "{\"number\":" + QByteArray::number(number) +
-           ",\"media\":\"fixed\",\"sectors\":" + QByteArray::number(sectors) + more + "}";
+    QVector<quint32> words(static_cast<int>(sectors * SectorSize / 4));
+    QRandomGenerator(seed).fillRange(words.data(), words.size());
+    return QByteArray(reinterpret_cast<const char *>(words.constData()), words.size() * 4);
 }
 
-/// A clone on a described PC of three disks.
+inline Set range(qint64 first, qint64 count)
+{
+    Set sectors;
+    for (qint64 sector = first; sector < first + count; ++sector)
+        sectors << sector;
+    return sectors;
+}
+
+/// The two disks that a clone takes from the application's state, with what its thread tells.
+class CloneDisks
+{
+public:
+    CloneDisks(int from, qint64 sectors, int onto)
+    {
+        fill(m_source, from, sectors);
+        fill(m_destination, onto, sectors);
+        g_App.m_pCurrentDisk = &m_source;
+        g_App.m_pCloneDisk = &m_destination;
+        g_App.m_strSystemFolder = Platform::current().GetSystemDirectoryW();
+        g_bAbortJob = g_bJobRunning = g_bCloneFailed = false;
+    }
+    ~CloneDisks() { g_App.m_pCurrentDisk = g_App.m_pCloneDisk = nullptr; }
+    CloneDisks(const CloneDisks &) = delete;
+    CloneDisks &operator=(const CloneDisks &) = delete;
+
+    DiskDetails &source() { return *m_source.pDetails; }
+    DiskDetails &destination() { return *m_destination.pDetails; }
+    bool holdHandles() const { return m_source.pDetails->hDisk != 0 || m_destination.pDetails->hDisk != 0; }
+
+    /// Records the thread's signals in their order, progress in `positions`.
+    void listen(ThreadDriveClone &thread)
+    {
+        const auto note = [this](const char *event) {
+            return [this, event] {
+                events << QLatin1String(event) + QLatin1String(g_bJobRunning ? " (running)" : "");
+            };
+        };
+        QObject::connect(&thread, &ThreadDriveClone::OnCloningFinish, note("finish"));
+        QObject::connect(&thread, &ThreadDriveClone::CloningFailed, note("failed"));
+        QObject::connect(&thread, &ThreadDriveClone::CloningAbort, note("abort"));
+        QObject::connect(&thread, &ThreadDriveClone::SetProgressValue,
+                         [this](qlonglong position, qlonglong remaining) {
+                             positions << position;
+                             remainders << remaining;
+                         });
+    }
+
+    CloneOutcome clone()
+    {
+        events.clear();
+        ThreadDriveClone thread;
+        listen(thread);
+        thread.start(QThread::InheritPriority);
+        if (!thread.wait(60000))
+            qFatal("the clone does not end");
+        return thread.outcome();
+    }
+
+    QStringList events;
+    QVector<qlonglong> positions;
+    QVector<qlonglong> remainders;
+
+private:
+    static void fill(DiskNode &node, int number, qint64 sectors)
+    {
+        node.nId = static_cast<quint16>(PhysicalDriveBase + number);
+        node.pDetails = std::make_unique<DiskDetails>();
+        node.pDetails->nDevice = static_cast<quint8>(node.nId);
+        const DiskMark mark = ReadDiskMark(node.nId);
+        node.pDetails->nTotalSectors = mark.sectors > 0 ? mark.sectors : static_cast<quint64>(sectors);
+        node.pDetails->szSerial = mark.serial;
+    }
+
+    DiskNode m_source;
+    DiskNode m_destination;
+};
+
+const QStringList Finished{QStringLiteral("finish (running)")};
+const QStringList Failed{QStringLiteral("failed"), QStringLiteral("finish")};
+
+/// A clone on a machine of three disks.
 class CloneFixture
 {
 protected:
-    void setUp()
+    void openPc(qint64 sourceSectors, qint64 destinationSectors)
     {
-        qputenv("COMSPEC", "x /c diskpart /s evil.txt |"); // must not be used
-        g_bAbortJob = false;
-        g_bJobRunning = false;
-        g_bCloneFailed = false;
-        m_commands = 0;
-        m_source.clear();
+        m_pc = FakePlatform::install();
+        m_pc->disks[Source].bytes = noise(sourceSectors, 1);
+        m_pc->disks[Destination].bytes = noise(destinationSectors, 2);
+        m_pc->disks[Bystander].bytes = noise(BystanderSectors, 3);
         m_prepared.clear();
-        m_folder.reset(new DescribedFolder);
-    }
-
-    /// Installs a PC of three disks.
-    void openPc(qint64 sourceSectors, qint64 destinationSectors, const QByteArray &sourceMore = {},
-                const QByteArray &destinationMore = {})
-    {
-        auto pc = m_folder->open("{\"name\":\"PC\",\"pauses\":false,\"disks\":[" +
-                                 describe(sourceMore, sourceSectors, Source) + "," +
-                                 describe(destinationMore, destinationSectors, Destination) + "," +
-                                 describe({}, BystanderSectors, Bystander) + "]}");
-        m_pc = pc.get();
-        auto watched = std::make_unique<WatchedPlatform>(std::move(pc));
-        m_watched = watched.get();
-        m_watched->onCommand = [this](const QString &) { ++m_commands; };
-        m_watched->onSleep = [this](quint32 milliseconds) {
+        m_pc->onSleep = [this](quint32 milliseconds) {
             QCOMPARE(milliseconds, 4000u);
-            m_prepared = readFile(m_pc->imageFile(Destination));
+            m_prepared = m_pc->disks[Destination].bytes.replace(0, 4, "made");
         };
-        Platform::install(std::move(watched));
+        m_disks.reset(); // it clears what the next one sets
+        m_disks = std::make_unique<CloneDisks>(Source, sourceSectors, Destination);
     }
 
-    void fillImages(qint64 sourceSectors, qint64 destinationSectors)
+    void runClone()
     {
-        m_source = noise(sourceSectors, 1);
-        QDir().mkpath(QFileInfo(m_pc->imageFile(Source)).path());
-        writeFile(m_pc->imageFile(Source), m_source);
-        writeFile(m_pc->imageFile(Destination), noise(destinationSectors, 2));
-        writeFile(m_pc->imageFile(Bystander), noise(BystanderSectors, 3));
-    }
-
-    void runClone(CloneDisks &disks)
-    {
-        ThreadDriveClone thread;
-        disks.listen(thread);
-        thread.start(QThread::InheritPriority);
-        QVERIFY(thread.wait(60000));
-        m_outcome = thread.outcome();
+        m_outcome = m_disks->clone();
         QVERIFY(!g_bJobRunning);
         QCOMPARE(g_bCloneFailed.load(), m_outcome.end == End::Refused || m_outcome.end == End::Failed);
-        QCOMPARE(m_watched->openHandles(), 0);
-        QVERIFY(!disks.holdsHandles());
+        QCOMPARE(m_pc->openHandles(), 0);
+        QVERIFY(!m_disks->holdHandles());
     }
 
     /// The content that the destination must have: the source, with zeros where it could not be read; zeros
     /// up to the end of the block; behind them what the preparation left.
-    QByteArray expected(qint64 destinationSectors, const Runs &unread, const Runs &kept,
-                        bool tail = true) const
+    QByteArray expected(const Set &unread, const Set &kept, bool tail = true) const
     {
-        QByteArray bytes = m_source;
-        const auto put = [&bytes](const Runs &runs, const QByteArray &from) {
-            for (const auto &run : runs) {
-                const auto count = static_cast<int>(run.second * SectorBytes);
-                bytes.replace(static_cast<int>(run.first * SectorBytes), count,
-                              from.mid(static_cast<int>(run.first * SectorBytes), count));
-            }
-        };
-        put(unread, QByteArray(m_source.size(), '\0'));
-        put(kept, m_prepared);
-        const int whole = static_cast<int>((m_source.size() + BlockBytes - 1) / BlockBytes * BlockBytes);
+        constexpr int unit = SectorSize;
+        constexpr int block = BlockSectors * SectorSize;
+        QByteArray bytes = m_pc->disks[Source].bytes;
+        for (const qint64 sector : unread)
+            bytes.replace(int(sector) * unit, unit, QByteArray(unit, '\0'));
+        for (const qint64 sector : kept)
+            bytes.replace(int(sector) * unit, unit, m_prepared.mid(int(sector) * unit, unit));
         if (tail)
-            bytes.append(whole - bytes.size(), '\0');
-        bytes.truncate(static_cast<int>(destinationSectors * SectorBytes));
+            bytes.append((bytes.size() + block - 1) / block * block - bytes.size(), '\0');
+        bytes.truncate(m_prepared.size());
         return bytes + m_prepared.mid(bytes.size());
     }
 
-    QScopedPointer<DescribedFolder> m_folder;
-    SimulatedPlatform *m_pc = nullptr;
-    WatchedPlatform *m_watched = nullptr;
-    QByteArray m_source;
+    FakePlatform *m_pc = nullptr;
+    std::unique_ptr<CloneDisks> m_disks;
     QByteArray m_prepared; ///< the destination at the pause
     CloneOutcome m_outcome;
-    int m_commands = 0;
 };

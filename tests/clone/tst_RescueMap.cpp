@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "clone/CloneMessages.h"
 #include "clone/RescueMap.h"
+#include "tests/support/Files.h"
 
-#include <QFile>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
@@ -14,7 +14,14 @@ class tst_RescueMap : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
+    void init()
+    {
+        m_lost = {};
+        for (const int sector : {0, 1, 2000, 2999})
+            m_lost.unread.add(sector, 1);
+        m_lost.unwritten.add(2001, 3);
+        m_lost.unwritten.add(100, 1);
+    }
     void text();
     void otherToolReadsIt();
     void unconfirmed();
@@ -22,15 +29,6 @@ private slots:
 private:
     LostSectors m_lost;
 };
-
-void tst_RescueMap::init()
-{
-    m_lost = {};
-    for (const int sector : {0, 1, 2000, 2999})
-        m_lost.unread.add(sector, 1);
-    m_lost.unwritten.add(2001, 3);
-    m_lost.unwritten.add(100, 1);
-}
 
 void tst_RescueMap::text()
 {
@@ -45,10 +43,9 @@ void tst_RescueMap::text()
     CloneOutcome outcome;
     outcome.end = CloneOutcome::End::WithErrors;
     outcome.lost = m_lost;
-    const clonemessages::Message message = clonemessages::finished(outcome);
-    QCOMPARE(message.text, QStringLiteral("Disk Cloning complete with errors."));
-    QCOMPARE(message.second, QStringLiteral("4 sectors could not be read and were filled with zeros. "
-                                            "4 sectors could not be written."));
+    QCOMPARE(clonemessages::finished(outcome).second,
+             QStringLiteral("4 sectors could not be read and were filled with zeros. "
+                            "4 sectors could not be written."));
 }
 
 /// With the map ddrescue copies the lost sectors and nothing else.
@@ -58,13 +55,9 @@ void tst_RescueMap::otherToolReadsIt()
         QSKIP("ddrescue is not installed");
     const QTemporaryDir folder;
     const auto path = [&folder](const char *name) { return folder.filePath(QLatin1String(name)); };
-    const auto write = [&path](const char *name, const QByteArray &bytes) {
-        QFile file(path(name));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-    };
     constexpr int Total = 3000;
-    write("source", QByteArray(Total * 512, 's'));
-    write("copy", QByteArray(Total * 512, 'c'));
+    QVERIFY(writeFile(path("source"), QByteArray(Total * 512, 's')));
+    QVERIFY(writeFile(path("copy"), QByteArray(Total * 512, 'c')));
     QVERIFY(rescuemap::save(path("map"), m_lost, Total));
     QCOMPARE(QProcess::execute(QStringLiteral("ddrescue"), {QStringLiteral("--retry-passes=1"),
                                                             path("source"), path("copy"), path("map")}),
@@ -72,9 +65,7 @@ void tst_RescueMap::otherToolReadsIt()
     QByteArray expected(Total * 512, 'c');
     for (const int sector : {0, 1, 100, 2000, 2001, 2002, 2003, 2999})
         expected.replace(sector * 512, 512, QByteArray(512, 's'));
-    QFile copy(path("copy"));
-    QVERIFY(copy.open(QIODevice::ReadOnly));
-    QVERIFY(copy.readAll() == expected);
+    QVERIFY(contentOf(path("copy")) == expected);
     QCOMPARE(QProcess::execute(QStringLiteral("ddrescuelog"), {QStringLiteral("--done-status"), path("map")}),
              0);
 }

@@ -8,7 +8,7 @@
 #include "reports/ReportPage.h"
 #include "reports/SmartReport.h"
 #include "tests/platform/DescribedFolder.h"
-#include "tests/support/LinuxPlaces.h"
+#include "tests/support/Files.h"
 #include "tests/support/WatchedPlatform.h"
 
 #include <QCryptographicHash>
@@ -76,22 +76,28 @@ private slots:
     void instanceOfSomebodyElse();
 
 private:
-    QByteArray path(const char *name) const
+    QString text(const char *name) const { return m_folder->filePath(QLatin1String(name)); }
+    QByteArray path(const char *name) const { return QFile::encodeName(text(name)); }
+    bool make(const char *name, mode_t mode, uid_t owner = 0) const
     {
-        return QFile::encodeName(m_folder->filePath(QLatin1String(name)));
+        const QByteArray folder = path(name);
+        return mkdir(folder.constData(), mode) == 0 && chmod(folder.constData(), mode) == 0 &&
+               chown(folder.constData(), owner, owner) == 0;
     }
-    /// The files in the folder that only root may enter.
+    bool link(const char *target, const char *name) const
+    {
+        return symlink(path(target).constData(), path(name).constData()) == 0 &&
+               lchown(path(name).constData(), Nobody, Nobody) == 0;
+    }
+    /// What is in the folder that only root may enter.
     QStringList inSecret() const
     {
-        return QDir(m_folder->filePath(QStringLiteral("secret")))
-            .entryList(QDir::NoDotAndDotDot | QDir::AllEntries);
+        return QDir(text("secret")).entryList(QDir::NoDotAndDotDot | QDir::AllEntries);
     }
-    std::unique_ptr<LinuxPlatform> foreignPc() const
+    folders::Places foreignPlaces() const
     {
-        const QString foreign = m_folder->filePath(QStringLiteral("foreign"));
-        return std::make_unique<LinuxPlatform>(
-            folders::Places{foreign + QStringLiteral("/velmora-halvane"), foreign + QStringLiteral("/config"),
-                            foreign + QStringLiteral("/autostart"), foreign + QStringLiteral("/data")});
+        return {text("foreign/velmora-halvane"), text("foreign/config"), text("foreign/autostart"),
+                text("foreign/data")};
     }
 
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -107,12 +113,8 @@ void OwnFoldersTest::initTestCase()
 void OwnFoldersTest::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
-    QCOMPARE(chmod(QFile::encodeName(m_folder->path()).constData(), 0755), 0);
-    QCOMPARE(mkdir(path("secret").constData(), 0700), 0);
-    QCOMPARE(mkdir(path("foreign").constData(), 0755), 0);
-    QCOMPARE(chown(path("foreign").constData(), Nobody, Nobody), 0);
-    QCOMPARE(mkdir(path("open").constData(), 0700), 0);
-    QCOMPARE(chmod(path("open").constData(), 01777), 0);
+    QVERIFY(chmod(path("").constData(), 0755) == 0 && make("secret", 0700) && make("foreign", 0755, Nobody) &&
+            make("open", 01777));
 }
 
 /// Another user has taken the usual name in /tmp. The first case, as this process must not have chosen its
@@ -124,25 +126,20 @@ void OwnFoldersTest::instanceWithoutATempFolder()
     rmdir(usual.constData()); // left by a run that was ended
     QVERIFY2(mkdir(usual.constData(), 0700) == 0 && chown(usual.constData(), Nobody, Nobody) == 0, usual);
     const auto clean = qScopeGuard([&] { rmdir(usual.constData()); });
-    QCOMPARE(mkdir(path("home").constData(), 0700), 0);
-    QCOMPARE(chown(path("home").constData(), User, User), 0);
+    QVERIFY(make("home", 0700, User));
     int answers[2];
     QCOMPARE(pipe(answers), 0);
     const auto start = [&] {
-        return std::make_unique<Attacker>(
-            [&] {
-                for (const char *name : {"XDG_RUNTIME_DIR", "XDG_DATA_HOME", "XDG_CONFIG_HOME"})
-                    qunsetenv(name);
-                qputenv("HOME", path("home"));
-                (void)!write(answers[1], takeNativeInstance(QStringLiteral("Probe")) ? "y" : "n", 1);
-                pause();
-            },
-            User);
+        for (const char *name : {"XDG_RUNTIME_DIR", "XDG_DATA_HOME", "XDG_CONFIG_HOME"})
+            qunsetenv(name);
+        qputenv("HOME", path("home"));
+        (void)!write(answers[1], takeNativeInstance(QStringLiteral("Probe")) ? "y" : "n", 1);
+        pause();
     };
     char taken[2] = {};
-    const auto first = start();
+    const Attacker first(start, User);
     QCOMPARE(read(answers[0], taken, 1), ssize_t(1));
-    const auto second = start();
+    const Attacker second(start, User);
     QCOMPARE(read(answers[0], taken + 1, 1), ssize_t(1));
     QCOMPARE(QByteArray(taken, 2), QByteArray("yn"));
     for (const QString &left : QDir(QStringLiteral("/tmp")).entryList({QStringLiteral("velmora-halvane-*")}))
@@ -181,7 +178,7 @@ void OwnFoldersTest::variablesOfAUser()
     QCOMPARE(places.configuration, QStringLiteral("/etc/velmora-halvane"));
     QCOMPARE(places.data, QStringLiteral("/var/lib/velmora-halvane"));
     QCOMPARE(places.autostart, home + QStringLiteral("/.config/autostart"));
-    QVERIFY(QDir(QString::fromUtf8(path("foreign"))).isEmpty());
+    QVERIFY(QDir(text("foreign")).isEmpty());
 }
 
 /// The list lets user 65534 write; the mode of the folder does not show that.
@@ -196,8 +193,8 @@ void OwnFoldersTest::folderWithAnAccessList()
         Entry entries[5] = {{1, 7, ~0U}, {2, 7, Nobody}, {4, 5, ~0U}, {16, 7, ~0U}, {32, 5, ~0U}};
     } list;
     QCOMPARE(setxattr(path("secret").constData(), "system.posix_acl_access", &list, sizeof(list), 0), 0);
-    QCOMPARE(ownfiles::strangerOn(QString::fromUtf8(path("secret"))),
-             QString::fromUtf8(path("secret")) + QStringLiteral(": others may write to it"));
+    QCOMPARE(ownfiles::strangerOn(text("secret")),
+             text("secret") + QStringLiteral(": others may write to it"));
 }
 
 void OwnFoldersTest::swappedFolder()
@@ -223,15 +220,14 @@ void OwnFoldersTest::swappedFolder()
 
 void OwnFoldersTest::swappedScript()
 {
-    const QByteArray folder = path("foreign/velmora-halvane");
-    QCOMPARE(mkdir(folder.constData(), 0777), 0);
-    auto watched = std::make_unique<WatchedPlatform>(foreignPc());
+    QVERIFY(make("foreign/velmora-halvane", 0777));
+    auto watched = std::make_unique<WatchedPlatform>(foreignPlaces());
     int commands = 0;
-    watched->onCommand = [&commands](const QString &) { ++commands; };
+    watched->onCommand = [&commands] { ++commands; };
     Platform::install(std::move(watched));
     destination::runScripts(destination::prepareScripts(1));
     QCOMPARE(commands, 0);
-    QVERIFY(QDir(QString::fromUtf8(folder)).isEmpty());
+    QVERIFY(QDir(text("foreign/velmora-halvane")).isEmpty());
 }
 
 void OwnFoldersTest::quickerInAnOpenFolder()
@@ -247,7 +243,7 @@ void OwnFoldersTest::quickerInAnOpenFolder()
     int made = 0;
     const QDeadlineTimer end(AttackMilliseconds);
     while (!end.hasExpired()) {
-        const QString below = QString::fromUtf8(folder) + QStringLiteral("/below");
+        const QString below = text("open/program/below");
         if (!ownfiles::makeFolder(below).isEmpty())
             continue;
         ++made;
@@ -262,38 +258,31 @@ void OwnFoldersTest::quickerInAnOpenFolder()
 
 void OwnFoldersTest::linkForSettings()
 {
-    QFile own(QString::fromUtf8(path("secret/own")));
-    QVERIFY(own.open(QIODevice::WriteOnly) && own.write("{}") == 2 && own.flush());
-    QCOMPARE(mkdir(path("foreign/config").constData(), 0755), 0);
-    QCOMPARE(symlink(path("secret/own").constData(), path("foreign/config/Probe.json").constData()), 0);
+    QVERIFY(writeFile(text("secret/own"), "{}"));
+    QVERIFY(make("foreign/config", 0755) && link("secret/own", "foreign/config/Probe.json"));
     const QString wrong = QStringLiteral("VelmoraHalvane: %1: %2/foreign: belongs to another user");
     const auto said = [&](const char *what) {
         QTest::ignoreMessage(QtWarningMsg, qPrintable(wrong.arg(QLatin1String(what), m_folder->path())));
     };
-    const auto pc = foreignPc();
+    LinuxPlatform pc(foreignPlaces());
     said("settings are not kept");
-    pc->OpenSettings(QStringLiteral("Probe"))->setValue(QStringLiteral("a"), 1);
+    pc.OpenSettings(QStringLiteral("Probe"))->setValue(QStringLiteral("a"), 1);
     said("nothing is started at logon");
-    pc->CreateLogonTask({QStringLiteral("Probe"), QStringLiteral("a"), QStringLiteral("/a.exe"), QString()});
+    pc.CreateLogonTask({QStringLiteral("Probe"), QStringLiteral("a"), QStringLiteral("/a.exe"), QString()});
     said("no history is kept");
-    QCOMPARE(pc->HistoryFolder(QStringLiteral("/usr/bin")), QString());
-    QVERIFY(pc->MakePrivateFolder(QStringLiteral("updatetmp")).isEmpty());
-    QCOMPARE(own.size(), 2);
-    QCOMPARE(QDir(QString::fromUtf8(path("foreign"))).entryList(QDir::NoDotAndDotDot | QDir::AllEntries),
+    QCOMPARE(pc.HistoryFolder(QStringLiteral("/usr/bin")), QString());
+    QVERIFY(pc.MakePrivateFolder(QStringLiteral("updatetmp")).isEmpty());
+    QCOMPARE(contentOf(text("secret/own")), QByteArray("{}"));
+    QCOMPARE(QDir(text("foreign")).entryList(QDir::NoDotAndDotDot | QDir::AllEntries),
              QStringList{QStringLiteral("config")});
 }
 
 /// A file that root saves in a folder of another user replaces his links.
 void OwnFoldersTest::savedThroughLinks()
 {
-    const auto link = [this](const char *target, const char *name) {
-        return symlink(path(target).constData(), path(name).constData()) == 0 &&
-               lchown(path(name).constData(), Nobody, Nobody) == 0;
-    };
-    const auto saved = [this](const QString &folder) {
+    const auto saved = [](const QString &place) {
         QPixmap picture(8, 8);
         picture.fill(Qt::white);
-        const QString place = m_folder->filePath(folder);
         return QVector<bool>{rescuemap::save(place + QStringLiteral("/clone.map"), {}, 8),
                              writeReport(place + QStringLiteral("/report.pdf"), SmartReport()),
                              writePicture(place + QStringLiteral("/page.jpg"), picture)};
@@ -302,11 +291,10 @@ void OwnFoldersTest::savedThroughLinks()
                             QStringLiteral("report.pdf")};
     for (const QString &name : names)
         QVERIFY(link("secret/own", qPrintable(QStringLiteral("foreign/") + name)));
-    QCOMPARE(saved(QStringLiteral("foreign")), QVector<bool>(3, true));
-    const QDir foreign(m_folder->filePath(QStringLiteral("foreign")));
-    QCOMPARE(foreign.entryList(QDir::Files | QDir::NoSymLinks | QDir::Hidden), names);
+    QCOMPARE(saved(text("foreign")), QVector<bool>(3, true));
+    QCOMPARE(QDir(text("foreign")).entryList(QDir::Files | QDir::NoSymLinks | QDir::Hidden), names);
     QVERIFY(link("secret", "foreign/way"));
-    QCOMPARE(saved(QStringLiteral("foreign/way")), QVector<bool>(3, false));
+    QCOMPARE(saved(text("foreign/way")), QVector<bool>(3, false));
     QCOMPARE(inSecret(), QStringList());
 }
 
@@ -318,7 +306,7 @@ void OwnFoldersTest::openedForTheUser()
     const auto user = desktopuser::loggedOn();
     QVERIFY(user);
     qputenv("HALVANE_PROBE", "root's");
-    const QString out = QString::fromUtf8(path("foreign/out"));
+    const QString out = text("foreign/out");
     const QString script = QStringLiteral(
         "echo $(id -u) $(id -g) $HOME $XDG_RUNTIME_DIR $HALVANE_PROBE $(readlink /proc/$$/fd/1 "
         "/proc/$$/fd/2) >%1.new; mv %1.new %1");
@@ -341,8 +329,7 @@ void OwnFoldersTest::instanceOfSomebodyElse()
     QCOMPARE(pipe(ready), 0);
     auto attacker = std::make_unique<Attacker>([&] {
         QSharedMemory segment(name);
-        const bool held = segment.create(512);
-        (void)!write(ready[1], held ? "y" : "n", 1);
+        (void)!write(ready[1], segment.create(512) ? "y" : "n", 1);
         pause();
     });
     char held = 'n';
@@ -356,7 +343,7 @@ void OwnFoldersTest::instanceOfSomebodyElse()
     program.setProcessEnvironment(environment);
     // A pipe in the folder where the program is started does not stop the start either.
     QCOMPARE(mkfifo(path("foreign/smartctl64Bit.exe").constData(), 0666), 0);
-    program.setWorkingDirectory(QString::fromUtf8(path("foreign")));
+    program.setWorkingDirectory(text("foreign"));
     program.start(QStringLiteral(HALVANE_BIN "/VelmoraHalvane"), QStringList());
     // Only the main window writes settings.
     const QString settings = folder.state() + QStringLiteral("/registry");

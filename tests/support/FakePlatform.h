@@ -30,6 +30,7 @@ public:
         bool opens = true;
         bool gone = false;       ///< pulled out: refuses every transfer
         bool hasSize = true;     ///< false: the extended geometry is refused
+        bool endsHard = false;   ///< a transfer that crosses the end fails instead of being cut there
         QByteArray serial;       ///< as the system tells it; empty: not at all
         QSet<qint64> badSectors; ///< reads that include one fail
         QSet<qint64> unwritable; ///< writes that include one fail
@@ -76,9 +77,12 @@ public:
     /// Runs for each command line; false means that the interpreter did not start.
     std::function<bool(const QString &line)> onCommand;
     QString systemFolder = QStringLiteral("C:\\Windows\\system32");
-    QString userName = QStringLiteral("tester");
-    int dotsPerInch = 96;
     std::function<qint32(const QString &url, const QString &path, const DownloadLimits &limits)> onDownload;
+    std::function<void(quint32 milliseconds)> onSleep; ///< instead of a pause
+    /// Runs for each transfer, with the bytes that were asked for; false makes it fail.
+    std::function<bool(bool isWrite, qint64 sector, quint32 bytes)> onTransfer;
+    std::function<DiskUse()> onDismount;
+    bool flushes = true; ///< false: no disk confirms that it stores what was written
 
     /// The calls of the machine, in order.
     QStringList commands() const
@@ -91,9 +95,6 @@ public:
     QStringList labelsAsked;   ///< roots given to GetVolumeInformationW
     QVector<bool> hiddenFlags; ///< of the commands
     QStringList executed;      ///< "<verb> <file> <parameters>" of ShellExecuteW, and pages opened
-    QVector<quint32> executionStates;
-    QVector<LogonTask> tasks;
-    quint64 slept = 0; ///< ms
     int openHandles() const { return m_handles.size(); }
 
     /// The file of this machine that a command line redirects to, up to the next blank; empty if there is
@@ -134,7 +135,7 @@ public:
 
     bool ReadFile(RawHandle handle, void *buffer, quint32 bytes, quint32 *transferred) override
     {
-        return transfer(handle, bytes, transferred, [buffer](Disk *disk, qint64 at, int length) {
+        return transfer(handle, false, bytes, transferred, [buffer](Disk *disk, qint64 at, int length) {
             if (touches(disk->badSectors, at, length))
                 return false;
             QByteArray piece = at < disk->bytes.size() ? disk->bytes.mid(int(at), length) : QByteArray();
@@ -146,7 +147,7 @@ public:
 
     bool WriteFile(RawHandle handle, const void *buffer, quint32 bytes, quint32 *transferred) override
     {
-        return transfer(handle, bytes, transferred, [buffer](Disk *disk, qint64 at, int length) {
+        return transfer(handle, true, bytes, transferred, [buffer](Disk *disk, qint64 at, int length) {
             if (touches(disk->unwritable, at, length) || at + length > disk->bytes.size())
                 return false;
             disk->bytes.replace(int(at), length, static_cast<const char *>(buffer), length);
@@ -170,7 +171,8 @@ public:
         return true;
     }
 
-    bool FlushFileBuffers(RawHandle handle) override { return !IsGone(handle); }
+    bool FlushFileBuffers(RawHandle handle) override { return flushes && !IsGone(handle); }
+    DiskUse DismountDisk(int) override { return onDismount ? onDismount() : DiskUse(); }
     bool IsGone(RawHandle handle) override
     {
         return !m_handles.contains(handle) || find(m_handles[handle].name)->gone;
@@ -242,7 +244,7 @@ public:
         QDir(m_folder.path()).mkpath(name);
     }
     QString GetSystemDirectoryW() override { return systemFolder; }
-    QString GetUserNameW() override { return userName; }
+    QString GetUserNameW() override { return QStringLiteral("tester"); }
     QString HistoryFolder(const QString &) override { return m_folder.path(); }
     QString MakePrivateFolder(const QString &name) override
     {
@@ -258,24 +260,22 @@ public:
     QString NativePath(const QString &path) const override { return toNative(path); }
     QString OperatingSystemName() override { return QStringLiteral("Test system"); }
 
-    void SetThreadExecutionState(quint32 flags) override { executionStates << flags; }
-    int LogPixelsX() override { return dotsPerInch; }
+    void SetThreadExecutionState(quint32) override {}
+    int LogPixelsX() override { return 96; }
     qint32 URLDownloadToFileW(const QString &url, const QString &path, const DownloadLimits &limits) override
     {
         return onDownload ? onDownload(url, path, limits) : -1;
     }
-    void Sleep(quint32 milliseconds) override { slept += milliseconds; }
+    void Sleep(quint32 milliseconds) override
+    {
+        if (onSleep)
+            onSleep(milliseconds);
+    }
     DeviceNotifier *deviceNotifier() override { return &m_notifier; }
     std::optional<DeviceChange> decodeDeviceMessage(const QByteArray &, void *) override { return {}; }
     void InitializeCom() override {}
-    void CreateLogonTask(const LogonTask &task) override { tasks << task; }
-    void DeleteLogonTask(const QString &name) override
-    {
-        for (int i = tasks.size() - 1; i >= 0; --i) {
-            if (tasks.at(i).name == name)
-                tasks.remove(i);
-        }
-    }
+    void CreateLogonTask(const LogonTask &) override {}
+    void DeleteLogonTask(const QString &) override {}
     /// An INI file: after it was written, numbers are read as texts.
     std::unique_ptr<QSettings> OpenSettings(const QString &registryPath) override
     {
@@ -295,8 +295,8 @@ private:
 
     static bool touches(const QSet<qint64> &sectors, qint64 at, int length)
     {
-        for (const qint64 sector : sectors) {
-            if (sector * 512 < at + length && at < (sector + 1) * 512)
+        for (qint64 sector = at / 512; !sectors.isEmpty() && sector * 512 < at + length; ++sector) {
+            if (sectors.contains(sector))
                 return true;
         }
         return false;
@@ -314,12 +314,16 @@ private:
     }
 
     template<typename Copy>
-    bool transfer(RawHandle handle, quint32 bytes, quint32 *transferred, Copy copy)
+    bool transfer(RawHandle handle, bool isWrite, quint32 bytes, quint32 *transferred, Copy copy)
     {
         if (!m_handles.contains(handle))
             return false;
         Handle &open = m_handles[handle];
         Disk *disk = find(open.name);
+        if (onTransfer && !onTransfer(isWrite, open.position / 512, bytes))
+            return false;
+        if (disk->endsHard && open.position + bytes > disk->length())
+            return false;
         const qint64 length = qMin<qint64>(bytes, disk->length() - open.position);
         if (disk->gone || length <= 0 || !copy(disk, open.position, int(length)))
             return false;

@@ -5,12 +5,16 @@
 
 #include <QDir>
 
-/// A Linux PC with its folders below `home`, whoever runs the test.
+/// Folders of a Linux PC below `home`, whoever runs the test.
+inline folders::Places placesIn(const QString &home)
+{
+    return {folders::chooseTemp({home + QStringLiteral("/velmora-halvane")}),
+            home + QStringLiteral("/config/velmora-halvane"), home + QStringLiteral("/config/autostart"),
+            home + QStringLiteral("/data/velmora-halvane")};
+}
+
+/// A Linux PC with such folders.
 inline std::unique_ptr<Platform> linuxPcIn(const QString &home)
 {
-    const folders::Places places{folders::chooseTemp({home + QStringLiteral("/velmora-halvane")}),
-                                 home + QStringLiteral("/config/velmora-halvane"),
-                                 home + QStringLiteral("/config/autostart"),
-                                 home + QStringLiteral("/data/velmora-halvane")};
-    return std::make_unique<LinuxPlatform>(places);
+    return std::make_unique<LinuxPlatform>(placesIn(home));
 }
