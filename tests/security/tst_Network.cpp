@@ -4,15 +4,19 @@
 #include "state/Languages.h"
 #include "state/SettingsStore.h"
 #include "tests/platform/DescribedFolder.h"
-#include "tests/security/AttackServer.h"
 #include "tests/support/FakePlatform.h"
+#include "tests/support/Files.h"
+#include "tests/support/LoopbackServer.h"
 #include "update/HelpLinks.h"
 #include "update/QDownloadThread.h"
 #include "update/UpdateCheck.h"
 #include "update/UpdateFetch.h"
 #include "update/UpdateGlobals.h"
 
+#include <QTimer>
 #include <QtTest>
+
+#include <atomic>
 
 /// What a network, or a setting with an address, could do to the program.
 class NetworkTest : public QObject
@@ -38,18 +42,17 @@ private:
 void NetworkTest::hostileServers_data()
 {
     QTest::addColumn<QByteArray>("head");
-    QTest::addColumn<QByteArray>("piece");
-    QTest::addColumn<int>("interval");
-    const QByteArray ok("HTTP/1.1 200 OK\r\n");
-    QTest::newRow("one byte at a time") << ok + "\r\n" << QByteArray("1") << 100;
-    QTest::newRow("a head without an end") << ok + "X: " << QByteArray("1") << 100;
-    QTest::newRow("a flood") << ok + "\r\n" << QByteArray(1 << 20, 'x') << 0;
-    QTest::newRow("a long one is announced") << ok + "Content-Length: 65537\r\n\r\n"
-                                             << QByteArray("1") << 100;
-    QTest::newRow("on to a file") << QByteArray("HTTP/1.1 302 Found\r\nLocation: file:///etc/passwd\r\n\r\n")
-                                  << QByteArray() << 0;
-    QTest::newRow("on to plain http elsewhere")
-        << QByteArray("HTTP/1.1 302 Found\r\nLocation: http://192.0.2.1/\r\n\r\n") << QByteArray() << 0;
+    QTest::addColumn<QByteArray>("piece"); // comes again and again for as long as somebody listens
+    QTest::addColumn<int>("interval");     // ms
+    const auto row = [](const char *name, const char *head, const QByteArray &piece, int interval) {
+        QTest::newRow(name) << QByteArray("HTTP/1.1 ") + head << piece << interval;
+    };
+    row("one byte at a time", "200 OK\r\n\r\n", "1", 100);
+    row("a head without an end", "200 OK\r\nX: ", "1", 100);
+    row("a flood", "200 OK\r\n\r\n", QByteArray(1 << 20, 'x'), 0);
+    row("a long one is announced", "200 OK\r\nContent-Length: 65537\r\n\r\n", "1", 100);
+    row("on to a file", "302 Found\r\nLocation: file:///etc/passwd\r\n\r\n", {}, 0);
+    row("on to plain http elsewhere", "302 Found\r\nLocation: http://192.0.2.1/\r\n\r\n", {}, 0);
 }
 
 void NetworkTest::hostileServers()
@@ -57,13 +60,25 @@ void NetworkTest::hostileServers()
     QFETCH(QByteArray, head);
     QFETCH(QByteArray, piece);
     QFETCH(int, interval);
-    const AttackServer server(head, piece, interval);
+    std::atomic<qint64> taken{0};
+    const LoopbackServer server([&](QTcpSocket *client, const QByteArray &) {
+        QObject::connect(client, &QTcpSocket::bytesWritten, client, [&](qint64 bytes) { taken += bytes; });
+        client->write(head);
+        if (piece.isEmpty())
+            return client->disconnectFromHost();
+        auto *clock = new QTimer(client);
+        QObject::connect(clock, &QTimer::timeout, client, [client, piece] {
+            if (client->bytesToWrite() < 4 * piece.size())
+                client->write(piece);
+        });
+        clock->start(interval);
+    });
     QElapsedTimer clock;
     clock.start();
     QVERIFY(httpDownload(server.link(), target(), {1500, 65536}) != 0);
     QVERIFY2(clock.elapsed() < 3000, qPrintable(QString::number(clock.elapsed())));
     // The system's buffers take more than the program counts.
-    QVERIFY2(server.sent < 16 * 1024 * 1024, qPrintable(QString::number(server.sent)));
+    QVERIFY2(taken < 16 * 1024 * 1024, qPrintable(QString::number(taken)));
     QCOMPARE(QDir(m_folder.path()).entryList(QDir::Files), QStringList());
 }
 
@@ -99,9 +114,8 @@ void NetworkTest::plantedInstaller()
     // While the console runs, another program puts a file where the installer would be. Then the console
     // fails.
     pc->onCommand = [](const QString &) {
-        QFile planted(QStringLiteral("C:/updatetmp/VelmoraHalvane.exe"));
-        return QDir().mkpath(QStringLiteral("C:/updatetmp")) && planted.open(QIODevice::WriteOnly) &&
-               planted.write("evil") == 4;
+        return QDir().mkpath(QStringLiteral("C:/updatetmp")) &&
+               writeFile(QStringLiteral("C:/updatetmp/VelmoraHalvane.exe"), "evil");
     };
     QDownloadThread thread;
     thread.m_strUrl = QStringLiteral("https://update.example/VelmoraHalvane.exe");
@@ -120,8 +134,7 @@ void NetworkTest::consoleThatLoadsTooMuch()
 {
     FakePlatform *pc = FakePlatform::install();
     pc->onCommand = [](const QString &line) {
-        QFile file(line.section(QLatin1Char(' '), -1));
-        return file.open(QIODevice::WriteOnly) && file.resize(65537);
+        return writeFile(line.section(QLatin1Char(' '), -1), QByteArray(65537, '1'));
     };
     QVERIFY(!update::fetchVersions(QStringLiteral("https://update.example/")));
     QCOMPARE(pc->commands().size(), 1);
@@ -158,12 +171,18 @@ void NetworkTest::supportIsAnAddressOnly()
 
 void NetworkTest::describedPcAsksNobody()
 {
-    AttackServer server("HTTP/1.1 200 OK\r\nContent-Length: 8\r\n\r\n12.0.0.0", QByteArray(), 0);
+    std::atomic<int> requests{0};
+    const LoopbackServer server([&requests](QTcpSocket *client, const QByteArray &) {
+        ++requests;
+        client->write("HTTP/1.1 200 OK\r\nContent-Length: 8\r\n\r\n12.0.0.0");
+        client->disconnectFromHost();
+    });
     const DescribedFolder folder;
     const auto silent = folder.open("{}");
     QCOMPARE(silent->URLDownloadToFileW(server.link(), target(), {1500, 65536}), Platform::DownloadRefused);
-    outputOf(*silent, QStringLiteral("bitsadmin.exe /transfer j %1 %2").arg(server.link(), target()));
-    QCOMPARE(server.requests.load(), 0);
+    outputOf(*silent,
+             QStringLiteral("bitsadmin.exe /transfer j %1 %2").arg(QString(server.link()), target()));
+    QCOMPARE(requests.load(), 0);
     const auto open = folder.open(R"({"network": true})");
     QCOMPARE(open->URLDownloadToFileW(QStringLiteral("https://192.0.2.1/"), target(), {1500, 65536}),
              Platform::DownloadRefused);
@@ -171,7 +190,7 @@ void NetworkTest::describedPcAsksNobody()
     qputenv("http_proxy", "http://192.0.2.1:3128");
     QCOMPARE(open->URLDownloadToFileW(server.link(), target(), {1500, 65536}), 0);
     qunsetenv("http_proxy");
-    QCOMPARE(DescribedFolder::contents(target()), QByteArray("12.0.0.0"));
+    QCOMPARE(contentOf(target()), QByteArray("12.0.0.0"));
 }
 
 QTEST_GUILESS_MAIN(NetworkTest)

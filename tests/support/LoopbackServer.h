@@ -6,27 +6,29 @@
 #include <QTcpSocket>
 #include <QThread>
 
-/// A server on the loopback address, on a thread of its own. A derived class calls begin() at the end of its
-/// constructor and end() in its destructor.
+#include <functional>
+
+/// A web server on the loopback address. It has a thread of its own, because the main thread of the program
+/// waits for the answer.
 class LoopbackServer : public QThread
 {
 public:
-    QByteArray link() const { return "http://127.0.0.1:" + QByteArray::number(m_nPort) + '/'; }
+    /// Answers a whole request. Called on the server's thread.
+    using Answer = std::function<void(QTcpSocket *client, const QByteArray &request)>;
 
-protected:
-    /// Called when a client has sent something. On the server's thread.
-    virtual void serve(QTcpSocket *client) = 0;
-
-    void begin()
+    explicit LoopbackServer(Answer answer) : m_answer(std::move(answer))
     {
         start();
         m_ready.acquire();
     }
-    void end()
+    ~LoopbackServer() override
     {
         quit();
         wait();
     }
+    QByteArray link() const { return "http://127.0.0.1:" + QByteArray::number(m_nPort) + '/'; }
+
+protected:
     void run() override
     {
         QTcpServer server;
@@ -36,12 +38,18 @@ protected:
         m_ready.release();
         connect(&server, &QTcpServer::newConnection, &server, [this, &server] {
             QTcpSocket *client = server.nextPendingConnection();
-            connect(client, &QTcpSocket::readyRead, client, [this, client] { serve(client); });
+            connect(client, &QTcpSocket::readyRead, client, [this, client] {
+                const QByteArray request = client->property("request").toByteArray() + client->readAll();
+                client->setProperty("request", request);
+                if (request.endsWith("\r\n\r\n"))
+                    m_answer(client, request);
+            });
         });
         exec();
     }
 
 private:
+    const Answer m_answer;
     QSemaphore m_ready;
     quint16 m_nPort = 0;
 };

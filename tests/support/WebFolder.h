@@ -6,8 +6,7 @@
 #include <QHash>
 #include <QTimer>
 
-/// A web folder on the loopback address. It has a thread of its own, because the main thread of the program
-/// waits for the answer.
+/// A web folder on the loopback address.
 class WebFolder : public LoopbackServer
 {
 public:
@@ -18,33 +17,22 @@ public:
         int pause = 0;    ///< ms between the halves
     };
 
-    explicit WebFolder(QHash<QByteArray, File> files) : m_files(std::move(files)) { begin(); }
-    ~WebFolder() override { end(); }
-
-protected:
-    void serve(QTcpSocket *client) override
+    explicit WebFolder(QHash<QByteArray, File> files)
+        : LoopbackServer([files](QTcpSocket *client, const QByteArray &request) mutable {
+              const auto file = files.find(request.split(' ').at(1).mid(1));
+              const bool refused = file == files.end() || file->refusals-- > 0;
+              const QByteArray body = refused ? QByteArray() : file->body;
+              client->write("HTTP/1.1 " + QByteArray(refused ? "404 Not Found" : "200 OK") +
+                            "\r\nContent-Length: " + QByteArray::number(body.size()) +
+                            "\r\nConnection: close\r\n\r\n");
+              const QByteArray bytes = refused ? body : body.left(file->sent < 0 ? body.size() : file->sent);
+              client->write(bytes.left(bytes.size() / 2));
+              client->flush();
+              QTimer::singleShot(refused ? 0 : file->pause, client, [client, bytes] {
+                  client->write(bytes.mid(bytes.size() / 2));
+                  client->disconnectFromHost();
+              });
+          })
     {
-        const QByteArray request = client->property("request").toByteArray() + client->readAll();
-        client->setProperty("request", request);
-        if (!request.contains("\r\n\r\n"))
-            return;
-        const auto file = m_files.find(request.split(' ').at(1).mid(1));
-        if (file == m_files.end() || file->refusals-- > 0) {
-            client->write("HTTP/1.1 404 Not Found\r\nContent-Length: 0\r\nConnection: close\r\n\r\n");
-            client->disconnectFromHost();
-            return;
-        }
-        client->write("HTTP/1.1 200 OK\r\nContent-Length: " + QByteArray::number(file->body.size()) +
-                      "\r\nConnection: close\r\n\r\n");
-        const QByteArray bytes = file->body.left(file->sent < 0 ? file->body.size() : file->sent);
-        client->write(bytes.left(bytes.size() / 2));
-        client->flush();
-        QTimer::singleShot(file->pause, client, [client, bytes] {
-            client->write(bytes.mid(bytes.size() / 2));
-            client->disconnectFromHost();
-        });
     }
-
-private:
-    QHash<QByteArray, File> m_files; ///< only for the thread, once it runs
 };
