@@ -3,8 +3,8 @@
 #include "platform/OwnFiles.h"
 #include "smart/AttributeHistory.h"
 #include "tests/platform/DescribedFolder.h"
+#include "tests/support/Files.h"
 
-#include <QProcess>
 #include <QtTest>
 
 #include <sys/stat.h>
@@ -74,27 +74,25 @@ void DescribedPcsTest::strangeNames()
     const DescribedFolder folder;
     folder.add(QStringLiteral("pc.json"), json);
     folder.add(QStringLiteral("leaky/a"), "");
-    QVERIFY(QFile::link(QStringLiteral("/etc/passwd"), folder.path() + QStringLiteral("/out")));
-    QVERIFY(QFile::link(QStringLiteral("/etc/passwd"), folder.path() + QStringLiteral("/leaky/out")));
-    QCOMPARE(mkfifo(QFile::encodeName(folder.path() + QStringLiteral("/pipe")).constData(), 0600), 0);
+    const QDir here(folder.path());
+    for (const char *name : {"out", "leaky/out"})
+        QVERIFY(QFile::link(QStringLiteral("/etc/passwd"), here.filePath(QLatin1String(name))));
+    QCOMPARE(mkfifo(QFile::encodeName(here.filePath(QStringLiteral("pipe"))).constData(), 0600), 0);
     folder.add(QStringLiteral("long"), "");
-    QVERIFY(QFile::resize(folder.path() + QStringLiteral("/long"), ownfiles::MostBytes + 1));
+    QVERIFY(QFile::resize(here.filePath(QStringLiteral("long")), ownfiles::MostBytes + 1));
     QCOMPARE(openingError(folder), error.replace(QStringLiteral("<above>"), QDir::tempPath()));
 }
 
 void DescribedPcsTest::strangeDescription()
 {
     const QString irregular = QStringLiteral("<pc>/pc.json: no regular file that can be read");
-    const QMap<QString, QString> errors{
-        {QStringLiteral("mkfifo pc.json"), irregular},
-        {QStringLiteral("ln -s /etc/passwd pc.json"), irregular},
-        {QStringLiteral("truncate -s 1G pc.json"), QStringLiteral("<pc>/pc.json: more than 16 MiB")}};
+    const QMap<QByteArray, QString> errors{
+        {"mkfifo", irregular},
+        {"ln -s /etc/passwd", irregular},
+        {"truncate -s 1G", QStringLiteral("<pc>/pc.json: more than 16 MiB")}};
     for (auto it = errors.cbegin(); it != errors.cend(); ++it) {
         const DescribedFolder folder;
-        QProcess maker;
-        maker.setWorkingDirectory(folder.path());
-        maker.start(QStringLiteral("sh"), {QStringLiteral("-c"), it.key()});
-        QVERIFY(maker.waitForFinished());
+        QCOMPARE(std::system((it.key() + ' ' + folder.path().toUtf8() + "/pc.json").constData()), 0);
         QCOMPARE(openingError(folder), it.value());
     }
 }
@@ -121,7 +119,7 @@ void DescribedPcsTest::strangeStates()
     QCOMPARE(pc->CreateFileW(QStringLiteral("\\\\.\\PHYSICALDRIVE0"), io::GenericRead | io::GenericWrite, 3,
                              io::OpenExisting),
              Platform::InvalidHandle);
-    QCOMPARE(DescribedFolder::contents(folder.path() + QStringLiteral("/own")), QByteArray("mine"));
+    QCOMPARE(contentOf(folder.path() + QStringLiteral("/own")), QByteArray("mine"));
 }
 
 void DescribedPcsTest::foldersOfOthers()
@@ -130,48 +128,40 @@ void DescribedPcsTest::foldersOfOthers()
         QSKIP("only root can make a folder of somebody else");
     const DescribedFolder folder;
     folder.add(QStringLiteral("pc.json"), "{}");
-    QTemporaryDir other;
-    const QByteArray name = QFile::encodeName(other.path());
-    QCOMPARE(chown(name.constData(), 65534, 65534), 0);
-    const QString belongs = other.path() + QStringLiteral(": belongs to another user");
-    const QString notKept = QStringLiteral("the state of the PC cannot be kept: ");
-    QCOMPARE(openingError(folder, other.path() + QStringLiteral("/state")), notKept + belongs);
-    QVERIFY(
-        QFile::copy(folder.path() + QStringLiteral("/pc.json"), other.path() + QStringLiteral("/pc.json")));
-    QString error;
-    QVERIFY(!SimulatedPlatform::open(other.path(), folder.state(), &error));
-    QCOMPARE(error, belongs + QStringLiteral(", and this program runs as an administrator"));
-    // Root does not take a folder behind a link of another user either, nor one that all may write to.
-    QVERIFY(QFile::link(folder.path(), other.path() + QStringLiteral("/root's")));
-    QCOMPARE(ownfiles::strangerOn(other.path() + QStringLiteral("/root's")), belongs);
-    QCOMPARE(chown(name.constData(), 0, 0), 0);
-    QCOMPARE(chmod(name.constData(), 0777), 0);
-    QCOMPARE(ownfiles::strangerOn(other.path() + QStringLiteral("/state")),
-             other.path() + QStringLiteral(": others may write to it"));
-    QVERIFY(QFile::remove(other.path() + QStringLiteral("/root's")));
-    // Root does not take an empty folder that all may add to either, nor one with a file of another user.
-    QCOMPARE(chmod(name.constData(), 01777), 0);
-    QCOMPARE(openingError(folder, other.path()),
-             notKept + other.path() + QStringLiteral(": others may write to it"));
-    QCOMPARE(chmod(name.constData(), 0755), 0);
-    // Nor a file that all may write to.
-    const QByteArray json = name + "/pc.json";
-    const QString open = QString::fromUtf8(json) + QStringLiteral(": others may write to it");
-    QCOMPARE(chmod(json.constData(), 0666), 0);
-    QCOMPARE(openingError(folder, other.path()), notKept + open);
-    QVERIFY(!SimulatedPlatform::open(other.path(), folder.state(), &error));
-    QCOMPARE(error, open + QStringLiteral(", and this program runs as an administrator"));
-    QCOMPARE(chmod(json.constData(), 0644), 0);
-    for (const QString &part : {QStringLiteral("/pc.json"), QStringLiteral("/temp")}) {
-        const QString path = other.path() + part;
-        QVERIFY(QFile::exists(path) || QDir().mkdir(path));
-        QCOMPARE(chown(QFile::encodeName(path).constData(), 65534, 65534), 0);
-        const QString wrong = path + QStringLiteral(": belongs to another user");
-        QCOMPARE(openingError(folder, other.path()), notKept + wrong);
-        QVERIFY(!SimulatedPlatform::open(other.path(), folder.state(), &error));
+    const DescribedFolder others;
+    const QString other = others.path();
+    const auto give = [&other](const char *file, uid_t owner, mode_t mode) {
+        const QByteArray name = QFile::encodeName(other + QLatin1String(file));
+        return chown(name.constData(), owner, owner) == 0 && chmod(name.constData(), mode) == 0;
+    };
+    /// What is wrong is said when the folder is to keep the state of a PC, and when it describes one.
+    const auto refuses = [&](const QString &state, const QString &wrong) {
+        QString error;
+        QVERIFY(!SimulatedPlatform::open(other, folder.state(), &error));
         QCOMPARE(error, wrong + QStringLiteral(", and this program runs as an administrator"));
-        QVERIFY(QFile::remove(path) || QDir().rmdir(path));
-    }
+        QCOMPARE(openingError(folder, state), QStringLiteral("the state of the PC cannot be kept: ") + wrong);
+    };
+    const QString belongs = QStringLiteral(": belongs to another user");
+    const QString open = QStringLiteral(": others may write to it");
+    others.add(QStringLiteral("pc.json"), "{}");
+    QVERIFY(give("", 65534, 0700));
+    refuses(other + QStringLiteral("/state"), other + belongs);
+    // Root does not take a folder behind a link of another user either, nor one that all may write to.
+    const QString link = other + QStringLiteral("/root's");
+    QVERIFY(QFile::link(folder.path(), link));
+    QCOMPARE(ownfiles::strangerOn(link), other + belongs);
+    QVERIFY(QFile::remove(link) && give("", 0, 0777));
+    QCOMPARE(ownfiles::strangerOn(other + QStringLiteral("/state")), other + open);
+    // Nor one that all may add to, or with a file of another user, or one that all may write to.
+    QVERIFY(give("", 0, 01777));
+    refuses(other, other + open);
+    QVERIFY(give("", 0, 0755) && give("/pc.json", 0, 0666));
+    refuses(other, other + QStringLiteral("/pc.json") + open);
+    QVERIFY(give("/pc.json", 65534, 0644));
+    refuses(other, other + QStringLiteral("/pc.json") + belongs);
+    QVERIFY(give("/pc.json", 0, 0644) && QDir(other).mkdir(QStringLiteral("temp")) &&
+            give("/temp", 65534, 0700));
+    refuses(other, other + QStringLiteral("/temp") + belongs);
 }
 
 void DescribedPcsTest::drivesHaveNoParent()
