@@ -42,16 +42,13 @@ bool isLast(bool touches)
     return touches && left > 0 && --left == 0;
 }
 
-void pass(bool touches)
+/// Makes the call of the C library, unless the process ends here.
+template<typename Result, typename... Arguments>
+Result pass(bool touches, const char *name, Arguments... arguments)
 {
     if (isLast(touches))
         std::raise(SIGKILL);
-}
-
-template<typename Call>
-Call real(const char *name)
-{
-    return reinterpret_cast<Call>(::dlsym(RTLD_NEXT, name));
+    return reinterpret_cast<Result (*)(Arguments...)>(::dlsym(RTLD_NEXT, name))(arguments...);
 }
 
 } // namespace
@@ -64,68 +61,56 @@ int open64(const char *path, int flags, ...)
     va_start(rest, flags);
     const mode_t mode = (flags & (O_CREAT | O_TMPFILE)) != 0 ? va_arg(rest, mode_t) : 0;
     va_end(rest);
-    pass(inFolder(path));
-    return real<int (*)(const char *, int, mode_t)>("open64")(path, flags, mode);
+    return pass<int>(inFolder(path), "open64", path, flags, mode);
 }
 
 ssize_t write(int descriptor, const void *bytes, size_t size)
 {
-    const auto call = real<ssize_t (*)(int, const void *, size_t)>("write");
-    if (isLast(inFolder(descriptor))) {
-        call(descriptor, bytes, size / 2);
+    const bool last = isLast(inFolder(descriptor));
+    const auto written = pass<ssize_t>(false, "write", descriptor, bytes, last ? size / 2 : size);
+    if (last)
         std::raise(SIGKILL);
-    }
-    return call(descriptor, bytes, size);
+    return written;
 }
 
 int rename(const char *from, const char *to) noexcept
 {
-    pass(inFolder(to));
-    return real<int (*)(const char *, const char *)>("rename")(from, to);
+    return pass<int>(inFolder(to), "rename", from, to);
 }
 
 int renameat2(int fromFolder, const char *from, int toFolder, const char *to, unsigned flags) noexcept
 {
-    pass(inFolder(to));
-    return real<int (*)(int, const char *, int, const char *, unsigned)>("renameat2")(fromFolder, from,
-                                                                                      toFolder, to, flags);
+    return pass<int>(inFolder(to), "renameat2", fromFolder, from, toFolder, to, flags);
 }
 
 int link(const char *from, const char *to) noexcept
 {
-    pass(inFolder(to));
-    return real<int (*)(const char *, const char *)>("link")(from, to);
+    return pass<int>(inFolder(to), "link", from, to);
 }
 
 int linkat(int fromFolder, const char *from, int toFolder, const char *to, int flags) noexcept
 {
-    pass(inFolder(to));
-    return real<int (*)(int, const char *, int, const char *, int)>("linkat")(fromFolder, from, toFolder, to,
-                                                                              flags);
+    return pass<int>(inFolder(to), "linkat", fromFolder, from, toFolder, to, flags);
 }
 
 int unlink(const char *path) noexcept
 {
-    pass(inFolder(path));
-    return real<int (*)(const char *)>("unlink")(path);
+    return pass<int>(inFolder(path), "unlink", path);
 }
 
 int ftruncate64(int descriptor, off64_t size) noexcept
 {
-    pass(inFolder(descriptor));
-    return real<int (*)(int, off64_t)>("ftruncate64")(descriptor, size);
+    return pass<int>(inFolder(descriptor), "ftruncate64", descriptor, size);
 }
 
 int fdatasync(int descriptor)
 {
-    pass(inFolder(descriptor));
-    return real<int (*)(int)>("fdatasync")(descriptor);
+    return pass<int>(inFolder(descriptor), "fdatasync", descriptor);
 }
 
 int futimens(int descriptor, const timespec times[2]) noexcept
 {
-    pass(inFolder(descriptor));
-    return real<int (*)(int, const timespec *)>("futimens")(descriptor, times);
+    return pass<int>(inFolder(descriptor), "futimens", descriptor, times);
 }
 
 } // extern "C"
