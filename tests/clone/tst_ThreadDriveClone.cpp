@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/clone/CloneFixture.h"
+#include "tests/platform/DescribedFolder.h"
 #include "tests/support/Files.h"
 
 #include <QElapsedTimer>
@@ -16,6 +17,7 @@ private slots:
     void progress_data();
     void progress();
     void countsRetriedSectors();
+    void clonesADescribedPc();
 
 private:
     QString script() const
@@ -48,7 +50,7 @@ void tst_ThreadDriveClone::copies_data()
     row("unreadable first and last sector", 65537, 65537, {0, 65536});
     row("unreadable on both sides of a border", 66000, 66000, {32767, 32768});
     row("unreadable block", 99000, 99000, range(32768, 32768));
-    row("unwritable sector", 66000, 66000, {}, {50000});
+    row("unwritable sector, and zeros behind the third block", 66000, 70000, {}, {50000});
     row("unwritable behind the source, in its last block", 40000, 70000, {}, {65000}, "", false);
     row("both, one sector of each meets", 66000, 66000, {65899, 65900}, {40000, 65900});
 }
@@ -114,14 +116,21 @@ void tst_ThreadDriveClone::scripts()
         QCOMPARE(command, line.arg(m_pc->GetTempPathW()));
 }
 
-/// A folder of its name can be neither removed nor opened.
+/// A folder of its name can be neither removed nor opened, and a file that was swapped names another disk.
 void tst_ThreadDriveClone::scriptThatCannotBeWritten()
 {
-    openPc(Sectors, Sectors);
-    QVERIFY(QDir().mkpath(script()));
-    runClone();
-    QCOMPARE(m_pc->commands(), QStringList());
-    QCOMPARE(m_disks->events, Finished);
+    for (const bool swapped : {false, true}) {
+        openPc(Sectors, Sectors);
+        if (swapped)
+            m_pc->onHold = [](const QString &path) {
+                QVERIFY(writeFile(path, "SELECT DISK 3\nclean\nEXIT"));
+            };
+        else
+            QVERIFY(QDir().mkpath(script()));
+        runClone();
+        QCOMPARE(m_pc->commands(), QStringList());
+        QCOMPARE(m_disks->events, Finished);
+    }
 }
 
 void tst_ThreadDriveClone::progress_data()
@@ -183,6 +192,32 @@ void tst_ThreadDriveClone::countsRetriedSectors()
     runClone();
     // Each sector that was written singly counts like a block, at the begin of the failed block.
     QCOMPARE(m_disks->positions.count(BlockSectors), int(BlockSectors - 1) / 3);
+}
+
+/// The disks of a described PC fail where its description says so.
+void tst_ThreadDriveClone::clonesADescribedPc()
+{
+    const DescribedFolder folder;
+    auto described = folder.open(R"({"pauses": false, "disks": [
+        {"number": 1, "sectors": 40000, "pastEnd": "fail", "badSectors": [7]},
+        {"number": 2, "sectors": 70000, "unwritable": [39999]}]})");
+    SimulatedPlatform &pc = *described;
+    Platform::install(std::move(described));
+    QVERIFY(QDir().mkpath(QFileInfo(pc.imageFile(Source)).path()));
+    QByteArray wanted = noise(Sectors, 1);
+    const QByteArray old = noise(70000, 2);
+    QVERIFY(writeFile(pc.imageFile(Source), wanted) && writeFile(pc.imageFile(Destination), old));
+    CloneDisks disks(Source, Sectors, Destination);
+    const CloneOutcome outcome = disks.clone();
+    QCOMPARE(outcome.end, End::WithErrors);
+    QCOMPARE(outcome.lost.unread.runs().front().first, 7);
+    QCOMPARE(outcome.lost.unwritten.runs().front().first, 39999);
+    wanted.replace(7 * SectorSize, SectorSize, QByteArray(SectorSize, '\0'));
+    wanted.chop(SectorSize);
+    // The last block was not read as a whole, so what lies behind it stays.
+    wanted += old.mid(wanted.size(), 1000 * SectorSize);
+    QVERIFY(contentOf(pc.imageFile(Destination)).startsWith(wanted));
+    QCOMPARE(contentOf(pc.stateFolder() + QStringLiteral("/commands.log")).count('\n'), 5);
 }
 
 QTEST_GUILESS_MAIN(tst_ThreadDriveClone)

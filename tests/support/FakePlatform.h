@@ -82,6 +82,7 @@ public:
     /// Runs for each transfer, with the bytes that were asked for; false makes it fail.
     std::function<bool(bool isWrite, qint64 sector, quint32 bytes)> onTransfer;
     std::function<DiskUse()> onDismount;
+    std::function<void(const QString &path)> onHold; ///< runs before HoldFile opens the file
     bool flushes = true; ///< false: no disk confirms that it stores what was written
 
     /// The calls of the machine, in order.
@@ -254,6 +255,8 @@ public:
     }
     std::unique_ptr<QFile> HoldFile(const QString &path) override
     {
+        if (onHold)
+            onHold(path);
         auto file = std::make_unique<QFile>(path);
         return file->open(QIODevice::ReadOnly) ? std::move(file) : nullptr;
     }
