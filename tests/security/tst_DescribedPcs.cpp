@@ -150,7 +150,7 @@ void DescribedPcsTest::foldersOfOthers()
     const QString link = other + QStringLiteral("/root's");
     QVERIFY(QFile::link(folder.path(), link));
     QCOMPARE(ownfiles::strangerOn(link), other + belongs);
-    QVERIFY(QFile::remove(link) && give("", 0, 0777));
+    QVERIFY(QFile::remove(link) && give("", 0, 0757));
     QCOMPARE(ownfiles::strangerOn(other + QStringLiteral("/state")), other + open);
     // Nor one that all may add to, or with a file of another user, or one that all may write to.
     QVERIFY(give("", 0, 01777));
