@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "inventory/PartitionWalk.h"
-#include "tests/platform/DescribedFolder.h"
 #include "tests/support/DiskImage.h"
 #include "tests/support/FakePlatform.h"
 #include "tests/support/HandMadeDisk.h"
 
 #include <QTest>
-
-#include <algorithm>
 
 using Found = QVector<QVector<quint64>>; ///< start, count and end of each partition
 Q_DECLARE_METATYPE(Found)
@@ -22,22 +19,30 @@ constexpr quint8 Linux = 131;
 constexpr quint8 Gpt = 238;
 constexpr qint64 MiB = 1024 * 1024;
 
-Found walk(int driveCode)
+/// The partitions of disk 3, once it has these bytes.
+Found walk(const QByteArray &bytes, const QSet<qint64> &badSectors = {})
 {
+    FakePlatform *fake = FakePlatform::install();
+    fake->disks[3].bytes = bytes;
+    fake->disks[3].badSectors = badSectors;
     ResetPartitionWalk();
-    ScanPartitionTable(driveCode, 0);
+    ScanPartitionTable(131, 0);
     Found found;
     for (const LinuxPartitionEntry &entry : g_linuxPartitions) {
         found << QVector<quint64>{entry.nStartSector, entry.nSectorCount, entry.nEndSector};
-        if (entry.nType != Linux || entry.nDrive != driveCode)
+        if (entry.nType != Linux || entry.nDrive != 131)
             qFatal("an entry does not say what it is");
     }
+    const PartitionWalkState &state = g_partitionWalk;
+    if (state.currentBase != 0 || state.walkDepth != 0 || int(state.partitionCount) != found.size())
+        qFatal("the walk does not end where it began");
     return found;
 }
 
 /// The Linux partitions as sfdisk lists them, in the order of their numbers.
-Found linuxPartitions(const QJsonObject &table, const QVector<int> &extOnBasicData)
+Found linuxPartitions(const DiskImage &image, const QVector<int> &extOnBasicData = {})
 {
+    const QJsonObject table = image.table();
     const bool gpt = table[QStringLiteral("label")].toString() == QLatin1String("gpt");
     Found found;
     int number = 0;
@@ -62,90 +67,105 @@ class PartitionWalkTest : public QObject
     Q_OBJECT
 
 private slots:
-    void agreesWithTools_data();
-    void agreesWithTools();
-    void looksIntoBasicData();
-    void endsArrayAtSector62();
-    void takesTables_data();
-    void takesTables();
-    void endsLongChains();
-    void endsBranchingTables();
-    void keepsWhatItFound();
-    void findsNothingWithoutDisk();
-};
-
-void PartitionWalkTest::agreesWithTools_data()
-{
-    QTest::addColumn<QByteArray>("script");
-    QTest::newRow("primaries") << QByteArray("label: dos\nsize=8M,type=83\nsize=4M,type=7\nsize=5M,type=83\n"
-                                             "size=3M,type=82\n");
-    QTest::newRow("two logical ones")
-        << QByteArray("label: dos\nsize=8M,type=7\nsize=8M,type=83\ntype=5\n\nsize=4M,type=83\n"
-                      "size=5M,type=83\n");
-    QTest::newRow("a chain of many") << QByteArray("label: dos\ntype=f\n\n\n\n") +
-                                            QByteArray("size=1M,type=83\n").repeated(20);
-    QTest::newRow("kinds mixed in the chain")
-        << QByteArray("label: dos\nsize=2M,type=83\ntype=5\n\n\nsize=4M,type=7\nsize=5M,type=83\n"
-                      "size=3M,type=b\nsize=2M,type=83\n");
-    QTest::newRow("no partition") << QByteArray("label: dos\n");
-    QTest::newRow("GPT") << QByteArray("label: gpt\nsize=1M,type=U\nsize=8M,type=L\nsize=2M,type=S\n"
-                                       "size=4M,type=L\ntype=H\n");
-    QTest::newRow("GPT, a hundred entries")
-        << QByteArray("label: gpt\ngrain: 64K\n") + QByteArray("size=64K,type=L\n").repeated(100);
-    QTest::newRow("GPT without entries") << QByteArray("label: gpt\n");
-}
-
-void PartitionWalkTest::agreesWithTools()
-{
-    const QString missing = DiskImage::missingTool();
-    if (!missing.isEmpty())
-        QSKIP(qPrintable(missing + QLatin1String(" is not installed")));
-    QFETCH(QByteArray, script);
-    const DiskImage image(64 * MiB);
-    image.partition(script);
-    const Found wanted = linuxPartitions(image.table(), {});
-    QCOMPARE(wanted.isEmpty(), !script.contains("83") && !script.contains("type=L"));
-    const DescribedFolder folder;
-    folder.add(QStringLiteral("disk.img"), image.contents());
-    Platform::install(folder.open(R"({"disks":[{"number":3,"sectors":131072,"image":"disk.img"}]})"));
-    QCOMPARE(walk(131), wanted);
-}
-
-void PartitionWalkTest::looksIntoBasicData()
-{
-    const QString missing = DiskImage::missingTool();
-    if (!missing.isEmpty())
-        QSKIP(qPrintable(missing + QLatin1String(" is not installed")));
-    const QByteArray basic("size=8M,type=EBD0A0A2-B9E5-4433-87C0-68B6B72699C7\n");
-    const DiskImage image(80 * MiB);
-    image.partition("label: gpt\n" + basic.repeated(8) + "size=1M,type=L\n");
-    const QJsonArray partitions = image.table()[QStringLiteral("partitions")].toArray();
-    const QStringList commands{QStringLiteral("mke2fs -q -F -t ext4"), QStringLiteral("mkfs.ntfs -q -F -f"),
-                               QStringLiteral("mke2fs -q -F -t ext2"), QStringLiteral("mkfs.exfat"),
-                               QStringLiteral("mkfs.vfat -s 1 -F 16"), QStringLiteral("mkfs.vfat -F 12"),
-                               QStringLiteral("mke2fs -q -F -t ext3")};
-    for (int i = 0; i < commands.size(); ++i) {
-        const auto start = qint64(partitions[i].toObject()[QStringLiteral("start")].toDouble());
-        image.put(start * 512, madeBy(commands.at(i), 8 * MiB));
+    void agreesWithTools_data()
+    {
+        const QString missing = DiskImage::missingTool();
+        if (!missing.isEmpty())
+            QSKIP(qPrintable(missing + QLatin1String(" is not installed")));
+        QTest::addColumn<QByteArray>("script");
+        QTest::addColumn<int>("count");
+        QTest::newRow("kinds mixed in the chain")
+            << QByteArray("label: dos\nsize=2M,type=83\ntype=5\n\n\nsize=4M,type=7\nsize=5M,type=83\n"
+                          "size=3M,type=b\nsize=2M,type=83\n")
+            << 3;
+        QTest::newRow("GPT") << QByteArray("label: gpt\nsize=1M,type=U\nsize=8M,type=L\nsize=2M,type=S\n"
+                                           "size=4M,type=L\ntype=H\n")
+                             << 2;
+        // The array is not looked at beyond sector 62.
+        QTest::newRow("GPT, very long")
+            << "label: gpt\ntable-length: 260\ngrain: 64K\n" + QByteArray("size=64K,type=L\n").repeated(250)
+            << 244;
     }
-    FakePlatform::install()->disks[0].bytes = image.contents();
-    QCOMPARE(walk(128), linuxPartitions(image.table(), {1, 3, 7}));
-    QCOMPARE(int(g_partitionWalk.partitionCount), 4);
-}
 
-void PartitionWalkTest::endsArrayAtSector62()
-{
-    const QString missing = DiskImage::missingTool();
-    if (!missing.isEmpty())
-        QSKIP(qPrintable(missing + QLatin1String(" is not installed")));
-    const DiskImage image(64 * MiB);
-    image.partition("label: gpt\ntable-length: 260\ngrain: 64K\n" +
-                    QByteArray("size=64K,type=L\n").repeated(250));
-    Found wanted = linuxPartitions(image.table(), {});
-    QCOMPARE(wanted.size(), 250);
-    FakePlatform::install()->disks[0].bytes = image.contents();
-    QCOMPARE(walk(128), wanted.mid(0, 244));
-}
+    void agreesWithTools()
+    {
+        QFETCH(QByteArray, script);
+        QFETCH(int, count);
+        const DiskImage image(64 * MiB);
+        image.partition(script);
+        const Found found = walk(image.contents());
+        QCOMPARE(found, linuxPartitions(image).mid(0, count));
+        QCOMPARE(found.size(), count);
+    }
+
+    void looksIntoBasicData()
+    {
+        const QString missing = DiskImage::missingTool();
+        if (!missing.isEmpty())
+            QSKIP(qPrintable(missing + QLatin1String(" is not installed")));
+        const QByteArray basic("size=8M,type=EBD0A0A2-B9E5-4433-87C0-68B6B72699C7\n");
+        const DiskImage image(80 * MiB);
+        image.partition("label: gpt\n" + basic.repeated(6) + "size=1M,type=L\n");
+        const QStringList commands{QStringLiteral("mke2fs -q -F -t ext4"),
+                                   QStringLiteral("mkfs.ntfs -q -F -f"),
+                                   QStringLiteral("mke2fs -q -F -t ext2"), QStringLiteral("mkfs.exfat"),
+                                   QStringLiteral("mkfs.vfat -s 1 -F 16")};
+        // The partitions lie one behind the other, from the first MiB on.
+        for (int i = 0; i < commands.size(); ++i)
+            image.put((1 + 8 * i) * MiB, madeBy(commands.at(i), 8 * MiB));
+        const Found found = walk(image.contents());
+        QCOMPARE(found, linuxPartitions(image, {1, 3}));
+        QCOMPARE(found.size(), 3);
+    }
+
+    void takesTables_data();
+    void takesTables()
+    {
+        QFETCH(HandMadeDisk, disk);
+        QTEST(walk(disk.bytes), "found");
+    }
+
+    void endsLongChains()
+    {
+        constexpr int Tables = MaxPartitionTables + 100;
+        HandMadeDisk disk(Tables + 2);
+        disk.table(0, {{Ext, 1, 9}});
+        for (int i = 0; i < Tables; ++i)
+            disk.table(1 + i, {{Linux, 1, 1}, {Ext, quint32(i + 1), 9}});
+        const Found found = walk(disk.bytes);
+        QCOMPARE(found.size(), MaxPartitionTables - 1);
+        QCOMPARE(found.last().first(), quint64(MaxPartitionTables));
+    }
+
+    /// Each table names the next three, so the number of ways grows with each table. Each is read once.
+    void endsBranchingTables()
+    {
+        constexpr int Tables = 300;
+        HandMadeDisk disk(Tables + 8);
+        disk.table(0, {{Ext, 1, 9}});
+        for (quint32 i = 0; i < Tables; ++i)
+            disk.table(1 + int(i), {{Ext, i + 1, 9}, {Ext, i + 2, 9}, {Ext, i + 3, 9}, {Linux, 1, 1}});
+        QCOMPARE(walk(disk.bytes).size(), Tables);
+    }
+
+    void keepsWhatItFound()
+    {
+        HandMadeDisk disk(200);
+        disk.table(0, {{Gpt, 1, 9}}).header().table(1, {{}, {Linux, 10, 5}});
+        const QByteArray basicData = HandMadeDisk::basicData();
+        disk.entry(0, HandMadeDisk::linuxData(), 100, 109)
+            .entry(1, basicData, 110, 119)
+            .entry(2, basicData, 120, 129);
+        disk.entry(3, basicData, 5000, 5009).entry(4, HandMadeDisk::linuxData(), 130, 139);
+        for (const int start : {110, 120})
+            disk.put(start * 512 + 1080, quint16(0xEF53));
+        const Found beforeArrayFails{{100, 10, 109}, {120, 10, 129}};
+        QCOMPARE(walk(disk.bytes, {112}), beforeArrayFails + Found({{130, 10, 139}, {10, 5, 15}}));
+        // If the array cannot be read any further, the walk leaves its table, slots behind it included.
+        QCOMPARE(walk(disk.bytes, {112, 3}), beforeArrayFails);
+        QCOMPARE(walk(disk.bytes, {1}), Found());
+    }
+};
 
 void PartitionWalkTest::takesTables_data()
 {
@@ -153,7 +173,6 @@ void PartitionWalkTest::takesTables_data()
     QTest::addColumn<Found>("found");
     const auto disk = [] { return HandMadeDisk(200); };
     const QByteArray linuxData = HandMadeDisk::linuxData();
-    const Found one{{10, 5, 15}};
 
     QTest::newRow("all 0xFF") << disk().text(0, QByteArray(200 * 512, '\xFF')) << Found();
     QTest::newRow("kinds 5 and 15 in order")
@@ -168,28 +187,19 @@ void PartitionWalkTest::takesTables_data()
                                                              .table(50, {{Ext, 60, 9}, {Linux, 2, 1}})
                                                              .table(80, {{Linux, 3, 1}})
                                                       << Found{{83, 1, 84}, {52, 1, 53}, {21, 1, 22}};
-    QTest::newRow("entry beyond the disk")
-        << disk().table(0, {{Linux, 0xFFFFFFF0, 0xFFFFFFFF}, {Linux, 10, 5}})
-        << Found{{0xFFFFFFF0, 0xFFFFFFFF, 0x1FFFFFFEF}, {10, 5, 15}};
-    QTest::newRow("sums beyond 32 bits") << disk()
-                                                .table(0, {{Ext, 20, 9}})
-                                                .table(20, {{Linux, 0xFFFFFFFF, 1}, {Ext, 0xFFFFFFF6, 9}})
-                                                .table(10, {{Linux, 1, 1}})
-                                         << Found{{0x100000013, 1, 0x100000014}, {11, 1, 12}};
-    QTest::newRow("chain beyond the disk") << disk().table(0, {{Ext, 5000, 9}, {Linux, 10, 5}}) << one;
-    QTest::newRow("extended entry that is its own table")
-        << disk().table(0, {{Ext, 0, 9}, {Linux, 10, 5}}) << one;
+    QTest::newRow("sums beyond 32 bits")
+        << disk()
+               .table(0, {{Ext, 20, 9}})
+               .table(20, {{Linux, 0xFFFFFFFF, 0xFFFFFFFF}, {Ext, 0xFFFFFFF6, 9}})
+               .table(10, {{Linux, 1, 1}})
+        << Found{{0x100000013, 0xFFFFFFFF, 0x200000012}, {11, 1, 12}};
+    QTest::newRow("chain beyond the disk")
+        << disk().table(0, {{Ext, 5000, 9}, {Linux, 10, 5}}) << Found{{10, 5, 15}};
     QTest::newRow("cycle of two tables") << disk()
                                                 .table(0, {{Ext, 20, 9}, {Linux, 10, 5}})
                                                 .table(20, {{Linux, 1, 2}, {Ext, 5, 9}})
                                                 .table(25, {{Ext, 0, 9}, {Linux, 1, 2}})
                                          << Found{{21, 2, 23}, {26, 2, 28}, {10, 5, 15}};
-    QTest::newRow("table named four times")
-        << disk()
-               .table(0, {{Ext, 20, 9}})
-               .table(20, {{Ext, 5, 9}, {Ext, 5, 9}, {Ext, 5, 9}, {Ext, 5, 9}})
-               .table(25, {{Linux, 1, 2}})
-        << Found{{26, 2, 28}};
     QTest::newRow("slots behind the GPT come from its header")
         << disk()
                .table(0, {{Linux, 10, 5}, {Gpt, 1, 9}, {Linux, 11, 5}, {Linux, 12, 5}})
@@ -202,13 +212,9 @@ void PartitionWalkTest::takesTables_data()
     QTest::newRow("GPT entry in a chained table")
         << disk().table(0, {{Ext, 20, 9}}).table(20, {{Gpt, 1, 9}}).header().entry(0, linuxData, 100, 109)
         << Found();
-    QTest::newRow("zero sector ends the array") << disk()
-                                                       .table(0, {{Gpt, 1, 9}})
-                                                       .header()
-                                                       .entry(0, linuxData, 100, 109)
-                                                       .entry(3, linuxData, 110, 119)
-                                                       .entry(8, linuxData, 120, 129)
-                                                << Found{{100, 10, 109}, {110, 10, 119}};
+    QTest::newRow("zero sector ends the array")
+        << disk().table(0, {{Gpt, 1, 9}}).header().entry(3, linuxData, 110, 119).entry(8, linuxData, 120, 129)
+        << Found{{110, 10, 119}};
     QTest::newRow("GPT of nonsense") << disk()
                                             .table(0, {{Gpt, 1, 9}})
                                             .header()
@@ -216,78 +222,6 @@ void PartitionWalkTest::takesTables_data()
                                             .entry(1, linuxData, ~0ULL, ~0ULL)
                                             .entry(2, HandMadeDisk::basicData(), ~0ULL, 0)
                                      << Found{{9, ~0ULL - 4, 3}, {~0ULL, 1, ~0ULL}};
-}
-
-void PartitionWalkTest::takesTables()
-{
-    QFETCH(HandMadeDisk, disk);
-    FakePlatform *fake = FakePlatform::install();
-    fake->disks[0].bytes = disk.bytes;
-    const Found found = walk(128);
-    QTEST(found, "found");
-    QCOMPARE(int(g_partitionWalk.currentBase), 0);
-    QCOMPARE(int(g_partitionWalk.walkDepth), 0);
-    QCOMPARE(int(g_partitionWalk.partitionCount), found.size());
-    QCOMPARE(fake->openHandles(), 0);
-}
-
-void PartitionWalkTest::endsLongChains()
-{
-    constexpr int Tables = MaxPartitionTables + 100;
-    HandMadeDisk disk(Tables + 2);
-    disk.table(0, {{Ext, 1, 9}});
-    for (int i = 0; i < Tables; ++i)
-        disk.table(1 + i, {{Linux, 1, 1}, {Ext, quint32(i + 1), 9}});
-    FakePlatform::install()->disks[0].bytes = disk.bytes;
-    const Found found = walk(128);
-    QCOMPARE(found.size(), MaxPartitionTables - 1);
-    QCOMPARE(found.last().first(), quint64(MaxPartitionTables));
-    QCOMPARE(int(g_partitionWalk.currentBase), 0);
-}
-
-/// Each table names the next three, so the number of ways grows with each table. Each is read once.
-void PartitionWalkTest::endsBranchingTables()
-{
-    constexpr int Tables = 300;
-    HandMadeDisk disk(Tables + 8);
-    disk.table(0, {{Ext, 1, 9}});
-    for (quint32 i = 0; i < Tables; ++i)
-        disk.table(1 + int(i), {{Ext, i + 1, 9}, {Ext, i + 2, 9}, {Ext, i + 3, 9}, {Linux, 1, 1}});
-    FakePlatform *fake = FakePlatform::install();
-    fake->disks[0].bytes = disk.bytes;
-    QCOMPARE(walk(128).size(), Tables);
-    QCOMPARE(fake->openedNames.size(), Tables + 4);
-}
-
-void PartitionWalkTest::keepsWhatItFound()
-{
-    HandMadeDisk disk(200);
-    disk.table(0, {{Gpt, 1, 9}}).header().table(1, {{}, {Linux, 10, 5}});
-    const QByteArray basicData = HandMadeDisk::basicData();
-    disk.entry(0, HandMadeDisk::linuxData(), 100, 109)
-        .entry(1, basicData, 110, 119)
-        .entry(2, basicData, 120, 129);
-    disk.entry(3, basicData, 5000, 5009).entry(4, HandMadeDisk::linuxData(), 130, 139);
-    for (const int start : {110, 120})
-        disk.put(start * 512 + 1080, quint16(0xEF53));
-    FakePlatform *fake = FakePlatform::install();
-    fake->disks[0].bytes = disk.bytes;
-    fake->disks[0].badSectors << 112;
-    const Found beforeArrayFails{{100, 10, 109}, {120, 10, 129}};
-    QCOMPARE(walk(128), beforeArrayFails + Found({{130, 10, 139}, {10, 5, 15}}));
-    // If the array cannot be read any further, the walk leaves its table, slots behind it included.
-    fake->disks[0].badSectors << 3;
-    QCOMPARE(walk(128), beforeArrayFails);
-    fake->disks[0].badSectors = {1};
-    QCOMPARE(walk(128), Found());
-}
-
-void PartitionWalkTest::findsNothingWithoutDisk()
-{
-    FakePlatform::install();
-    QCOMPARE(walk(128), Found());
-    g_linuxPartitions.clear();
-    QVERIFY(g_linuxPartitions.isEmpty());
 }
 
 QTEST_GUILESS_MAIN(PartitionWalkTest)
