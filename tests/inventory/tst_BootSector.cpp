@@ -43,44 +43,28 @@ class BootSectorTest : public QObject
     Q_OBJECT
 
 private slots:
-    void sniffsVolumes_data()
-    {
-        QTest::addColumn<QString>("command");
-        QTest::addColumn<bool>("wiped"); ///< the first sector is lost
-        QTest::addColumn<bool>("removable");
-        QTest::addColumn<quint64>("totalBytes");
-        QTest::addColumn<QString>("fileSystem");
-        QTest::addColumn<quint64>("sniffedBytes");
-        const quint64 all = 40 * MiB;
-        QTest::newRow("exFAT without a size")
-            << "mkfs.exfat" << false << true << quint64(0) << "exFAT" << all;
-        QTest::newRow("exFAT with a size")
-            << "mkfs.exfat" << false << false << quint64(1234) << "exFAT" << quint64(1234);
-        QTest::newRow("exFAT by its backup")
-            << "mkfs.exfat" << true << true << quint64(0) << "EXFAT" << quint64(0);
-        const QString ntfs = QStringLiteral("mkfs.ntfs -q -F -f");
-        QTest::newRow("fixed NTFS") << ntfs << false << false << all - 1 << "FAT32" << all - 1;
-        QTest::newRow("NTFS by its backup") << ntfs << true << true << all - 1 << "NTFS" << all - 1;
-        QTest::newRow("ext") << "mke2fs -q -F -t ext4" << false << true << all << "FAT32" << all;
-    }
-
     void sniffsVolumes()
     {
         const QString missing = DiskImage::missingTool();
         if (!missing.isEmpty())
             QSKIP(qPrintable(missing + QLatin1String(" is not installed")));
-        QFETCH(QString, command);
-        QFETCH(bool, wiped);
-        QFETCH(bool, removable);
-        QFETCH(quint64, totalBytes);
-        QByteArray volume = madeBy(command, 40 * MiB);
-        if (wiped)
-            volume.replace(0, 512, QByteArray(512, '\0'));
-        FakePlatform::install()->volumes[QLatin1Char('E')].raw.bytes = volume;
-        const auto sniffed = bootsector::sniffFileSystem(4, removable, totalBytes);
-        QVERIFY(sniffed);
-        QTEST(sniffed->fileSystem, "fileSystem");
-        QTEST(sniffed->totalBytes, "sniffedBytes");
+        const auto sniffed = [](QByteArray volume, bool removable, quint64 totalBytes, bool firstIsLost) {
+            if (firstIsLost)
+                volume.replace(0, 512, QByteArray(512, '\0'));
+            FakePlatform::install()->volumes['E'].raw.bytes = volume;
+            const auto found = bootsector::sniffFileSystem(4, removable, totalBytes);
+            return found ? found->fileSystem + ' ' + QString::number(found->totalBytes) : "no volume";
+        };
+        const quint64 all = 40 * MiB;
+        const QByteArray exfat = madeBy("mkfs.exfat", all);
+        QCOMPARE(sniffed(exfat, true, 0, false), QStringLiteral("exFAT 41943040"));
+        QCOMPARE(sniffed(exfat, false, 1234, false), QStringLiteral("exFAT 1234"));
+        QCOMPARE(sniffed(exfat, true, 0, true), QStringLiteral("EXFAT 0"));
+        const QByteArray ntfs = madeBy("mkfs.ntfs -q -F -f", all);
+        QCOMPARE(sniffed(ntfs, false, all - 1, false), QStringLiteral("FAT32 41943039"));
+        QCOMPARE(sniffed(ntfs, true, all - 1, true), QStringLiteral("NTFS 41943039"));
+        QCOMPARE(sniffed(madeBy("mke2fs -q -F -t ext4", all), true, all, false),
+                 QStringLiteral("FAT32 41943040"));
     }
 
     void sniffsBytes()
