@@ -27,20 +27,17 @@ class SelectedDisk
 public:
     SelectedDisk(int number, qint64 sectors)
     {
-        m_node.nId = static_cast<quint16>(PhysicalDriveBase + number);
-        m_node.pDetails = std::make_unique<DiskDetails>();
-        m_node.pDetails->nDevice = static_cast<quint8>(PhysicalDriveBase + number);
-        m_node.pDetails->nTotalSectors = static_cast<quint64>(sectors);
-        g_App.m_pCurrentDisk = &m_node;
+        node.nId = static_cast<quint16>(PhysicalDriveBase + number);
+        node.pDetails = std::make_unique<DiskDetails>();
+        node.pDetails->nDevice = static_cast<quint8>(PhysicalDriveBase + number);
+        node.pDetails->nTotalSectors = static_cast<quint64>(sectors);
+        g_App.m_pCurrentDisk = &node;
     }
     ~SelectedDisk() { g_App.m_pCurrentDisk = nullptr; }
     SelectedDisk(const SelectedDisk &) = delete;
     SelectedDisk &operator=(const SelectedDisk &) = delete;
 
-    DiskNode &node() { return m_node; }
-
-private:
-    DiskNode m_node;
+    DiskNode node;
 };
 
 /// Records the signals of a scan in the order in which this thread gets them.
@@ -61,16 +58,6 @@ public:
         on(thread, &T::BadBockCount, "blocks");
         on(thread, &T::TotalBlockCount, "chunk");
         on(thread, &T::setRemainingTime, "first");
-        on(thread, &T::WrtiteText, "never");
-        on(thread, &T::SetLogItemData, "never");
-        on(thread, &T::SetMaximumRangeVal, "never");
-        on(thread, &T::CurrentProgressVal, "never");
-        on(thread, &T::CurrentProgressText, "never");
-        on(thread, &T::CreateImageSectorRead, "never");
-        on(thread, &T::CreateImageProgressReset, "never");
-        on(thread, &T::ScanForBadBlockProgressValue, "never");
-        on(thread, &T::BadSectorFound, "never");
-        on(thread, &T::CloningFailed, "never");
     }
 
     QStringList lines;
@@ -82,11 +69,7 @@ private:
     template<typename... Args>
     void on(QScanDriveThread &thread, void (QScanDriveThread::*sign)(Args...), const char *name)
     {
-        const auto line = [name](Args... args) {
-            QStringList words{QLatin1String(name)};
-            (words.append(text(static_cast<Printed<Args>>(args))), ...);
-            return words.join(QLatin1Char(' '));
-        };
+        const auto line = [name](Args... args) { return QStringList{name, text(args)...}.join(' '); };
         QObject::connect(&thread, sign, &thread, [this, line](Args... args) { lines.append(line(args...)); });
         QObject::connect(
             &thread, sign, &thread,
@@ -96,9 +79,6 @@ private:
             },
             Qt::DirectConnection);
     }
-
-    template<typename Arg>
-    using Printed = std::conditional_t<std::is_arithmetic_v<Arg>, qlonglong, QString>;
 
     std::function<void(const QString &)> m_hear;
 };

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "tests/platform/DescribedFolder.h"
 #include "tests/scan/ScanRecorder.h"
 #include "tests/support/FakePlatform.h"
 
-#include <QMetaMethod>
 #include <QtTest>
 
 #include <algorithm>
@@ -61,9 +59,9 @@ public:
     /// Called at each read, with sector and bytes.
     std::function<void(qint64 sector, quint32 bytes)> onRead;
 
-    RawHandle CreateFileW(const QString &, quint32, quint32, quint32) override
+    RawHandle CreateFileW(const QString &name, quint32, quint32, quint32) override
     {
-        return gone ? InvalidHandle : 1;
+        return gone || !name.endsWith("DRIVE3") ? InvalidHandle : 1;
     }
     bool SetFilePointer(RawHandle, qint64 byteOffset) override
     {
@@ -115,382 +113,254 @@ class tst_QScanDriveThread : public QObject
 
 private slots:
     void init() { forgetScans(); }
-    void keepsItsInterface();
-    void findsEveryBadSector_data();
-    void findsEveryBadSector();
-    void saysWordByWord_data();
-    void saysWordByWord();
-    void goesBeyond32Bits();
-    void stops_data();
-    void stops();
-    void failsOnce_data();
-    void failsOnce();
-    void endsWithItsDisk_data();
-    void endsWithItsDisk();
-    void readsOnWhereAllIsRefused();
-    void keepsItsFlags();
-    void waitsForWhoListens();
-    void startsAndStopsUnderAReader();
-};
 
-void tst_QScanDriveThread::keepsItsInterface()
-{
-    const QMetaObject &meta = QScanDriveThread::staticMetaObject;
-    QByteArrayList signatures;
-    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
-        QCOMPARE(meta.method(i).methodType(), QMetaMethod::Signal);
-        signatures << meta.method(i).methodSignature();
-    }
-    QCOMPARE(
-        signatures.join(' '),
-        QByteArray("WrtiteText(qlonglong) SetLogItemData(QString,QString,QString) "
-                   "ExactBadSectorCount(qlonglong) SetMaximumRangeVal(qlonglong) "
-                   "CurrentProgressVal(ulong) CurrentProgressText(QString) MaximumBadBlockScanProgress() "
-                   "AllBlockProcessed(qlonglong) ScanProgressValue(qlonglong) "
-                   "CreateImageSectorRead(QString,QString) OnFinish(QString) CreateImageProgressReset() "
-                   "BadBockCount(qlonglong) TotalBlockCount(qlonglong,qlonglong,qlonglong) "
-                   "ScanForBadBlockProgressValue(uint) setRemainingTime(qlonglong,qlonglong) "
-                   "BadSectorFound() CloningFailed()"));
-}
-
-void tst_QScanDriveThread::findsEveryBadSector_data()
-{
-    QTest::addColumn<qint64>("total");
-    QTest::addColumn<Sectors>("stretches"); // pairs of first and count
-    const auto row = [](const char *name, qint64 total, const Sectors &stretches) {
-        QTest::newRow(name) << total << stretches;
-    };
-    row("healthy", 40000, {});
-    row("a multiple of the chunk", 2 * Chunk, {});
-    row("400 k", 400 * 125, {7, 1});
-    row("400 k + 1", 400 * 125 + 1, {7, 1});
-    row("below 400", 399, {398, 1});
-    row("one sector, bad", 1, {0, 1});
-    row("the first sector", 40000, {0, 1});
-    row("the last sector", 40000, {39999, 1});
-    row("the last sector of a multiple", 2 * Chunk, {2 * Chunk - 1, 1});
-    row("the last sector of a chunk", 40000, {Chunk - 1, 1});
-    row("the first sector of a chunk", 40000, {Chunk, 1});
-    row("both sides of a boundary", 40000, {Chunk - 1, 2});
-    row("the first of a chunk behind a bad one", 40000, {5, 1, Chunk, 1});
-    row("a whole chunk", 3 * Chunk, {Chunk, Chunk});
-    row("across two boundaries", 4 * Chunk, {Chunk - 1, Chunk + 2});
-    row("every sector", 2 * Chunk + 100, {0, 2 * Chunk + 100});
-    row("every sector of a multiple", 2 * Chunk, {0, 2 * Chunk});
-    Sectors scattered;
-    for (qint64 sector = 3; sector < 5 * Chunk; sector += 97)
-        scattered << sector << 1 + sector % 3;
-    row("here and there", 5 * Chunk + 1, scattered);
-}
-
-void tst_QScanDriveThread::findsEveryBadSector()
-{
-    QFETCH(qint64, total);
-    QFETCH(Sectors, stretches);
-    std::set<qint64> bad;
-    QStringList described;
-    for (int i = 0; i < stretches.size(); i += 2) {
-        described << QStringLiteral("[%1, %2]").arg(stretches[i]).arg(stretches[i + 1]);
-        for (qint64 sector = stretches[i]; sector < stretches[i] + stretches[i + 1]; ++sector)
-            bad.insert(sector);
-    }
-    const DescribedFolder folder;
-    Platform::install(
-        folder.open(QStringLiteral("{\"disks\": [{\"number\": 3, \"sectors\": %1, \"badSectors\": [%2]}]}")
-                        .arg(total)
-                        .arg(described.join(QStringLiteral(", ")))
-                        .toLatin1()));
-    SelectedDisk disk(3, total);
-    const Expectation expected(total, bad);
-    // The second scan begins with an empty list.
-    for (int run = 0; run < 2; ++run) {
-        QCOMPARE(scanned(total), expected.lines);
-        QCOMPARE(sectorsOf(g_BadSectors), expected.found);
-        QCOMPARE(g_BadSectors.count(), qint64(expected.found.size()));
-        QCOMPARE(g_nBlockStep.load(), (total + 399) / 400);
-    }
-    QCOMPARE(disk.node().pDetails->hDisk, qint64(0));
-}
-
-void tst_QScanDriveThread::saysWordByWord_data()
-{
-    QTest::addColumn<qint64>("total");
-    QTest::addColumn<Sectors>("bad");
-    QTest::addColumn<QStringList>("lines");
-    QTest::addColumn<Sectors>("found");
-    QTest::newRow("nothing to scan")
-        << qint64(0) << Sectors()
-        << words("begin, progress 2, progress 1, all 0, progress 4, blocks 0, bad 0, finish Pass")
-        << Sectors();
-    QTest::newRow("400 k") << qint64(40000) << Sectors()
-                           << words("begin, progress 2, progress 1, chunk 0 40000 100, first 16384 40000, "
-                                    "progress 1, chunk 16384 40000 100, progress 163, chunk 32768 40000 100, "
-                                    "progress 327, all 40000, progress 329, blocks 0, bad 0, finish Pass")
-                           << Sectors();
-    QTest::newRow("400 k + 1") << qint64(40001) << Sectors()
-                               << words(
-                                      "begin, progress 2, progress 1, chunk 0 40001 101, first 16384 40001, "
-                                      "progress 1, chunk 16384 40001 101, progress 162, "
-                                      "chunk 32768 40001 101, progress 324, all 40001, progress 326, "
-                                      "blocks 0, bad 0, finish Pass")
-                               << Sectors();
-    QTest::newRow("small") << qint64(399) << Sectors{0, 398}
-                           << words("begin, progress 2, progress 1, chunk 0 399 1, bad 1, bad 2, bad 3, "
-                                    "first 399 399, progress 1, all 399, progress 3, blocks 0, bad 3, "
-                                    "finish Pass")
-                           << Sectors{0, 398, 399};
-    QTest::newRow("found twice") << qint64(32768) << Sectors{5, 16384}
-                                 << words(
-                                        "begin, progress 2, progress 1, chunk 0 32768 82, bad 1, bad 2, "
-                                        "first 16384 32768, progress 1, chunk 16384 32768 82, bad 3, bad 4, "
-                                        "progress 199, all 32768, progress 201, blocks 0, bad 4, finish Pass")
-                                 << Sectors{5, 16384, 16384, 32768};
-}
-
-void tst_QScanDriveThread::saysWordByWord()
-{
-    QFETCH(qint64, total);
-    QFETCH(Sectors, bad);
-    installQuickDisk(total, {bad.cbegin(), bad.cend()});
-    const SelectedDisk disk(0, total);
-    QTEST(scanned(total), "lines");
-    QTEST(sectorsOf(g_BadSectors), "found");
-}
-
-void tst_QScanDriveThread::goesBeyond32Bits()
-{
-    const qint64 total = (qint64(1) << 32) + Chunk + 7;
-    // At these sectors a byte offset, a signed and an unsigned sector number do not fit 32 bits any more.
-    const std::set<qint64> bad{qint64(1) << 23, qint64(1) << 31, qint64(1) << 32, total - 1};
-    installQuickDisk(total, bad);
-    const SelectedDisk disk(0, total);
-    const Expectation expected(total, bad);
-    QVERIFY(scanned(total) == expected.lines);
-    QCOMPARE(sectorsOf(g_BadSectors), expected.found);
-    QCOMPARE(expected.found.size(), 5);
-}
-
-void tst_QScanDriveThread::stops_data()
-{
-    QTest::addColumn<qint64>("at"); // sector and bytes of the read during which the stop comes
-    QTest::addColumn<quint32>("bytes");
-    QTest::addColumn<Sectors>("bad");
-    QTest::addColumn<QStringList>("lines"); // from that chunk on
-    QTest::addColumn<Sectors>("found");
-    const auto row = [](const char *name, qint64 at, quint32 bytes, const Sectors &bad, const char *lines,
-                        const Sectors &found) {
-        QTest::newRow(name) << at << bytes << bad << words(lines) << found;
-    };
-    row("in a chunk", 16384, 0x800000, {},
-        "chunk 16384 40000 100, progress 163, progress 163, blocks 0, bad 0, finish Pass", {});
-    row("between bad sectors", 25, 512, {10, 20, 30},
-        "chunk 0 40000 100, bad 1, bad 2, first 16384 40000, progress 1, progress 1, blocks 0, bad 2, finish "
-        "Pass",
-        {10, 20});
-    // The bad sector is listed but not counted.
-    row("at a bad sector", 20, 512, {10, 20, 30},
-        "chunk 0 40000 100, bad 1, first 16384 40000, progress 1, progress 1, blocks 0, bad 1, finish Pass",
-        {10, 20});
-}
-
-void tst_QScanDriveThread::stops()
-{
-    QFETCH(qint64, at);
-    QFETCH(quint32, bytes);
-    QFETCH(Sectors, bad);
-    QFETCH(QStringList, lines);
-    installQuickDisk(40000, {bad.cbegin(), bad.cend()})->onRead = [=](qint64 sector, quint32 length) {
-        if (sector == at && length == bytes)
-            g_bAbortJob = true;
-    };
-    const SelectedDisk disk(0, 40000);
-    const QStringList said = scanned(40000);
-    QCOMPARE(said.mid(said.indexOf(lines.first())), lines);
-    QTEST(sectorsOf(g_BadSectors), "found");
-}
-
-void tst_QScanDriveThread::failsOnce_data()
-{
-    QTest::addColumn<bool>("selected");
-    QTest::addColumn<int>("total");
-    QTest::newRow("a disk that does not open") << true << 40000;
-    QTest::newRow("no disk") << false << 0;
-}
-
-void tst_QScanDriveThread::failsOnce()
-{
-    QFETCH(bool, selected);
-    QFETCH(int, total);
-    QuickDisk *const quick = installQuickDisk(40000);
-    quick->gone = true;
-    const SelectedDisk disk(0, 40000);
-    if (!selected)
-        g_App.m_pCurrentDisk = nullptr;
-    QCOMPARE(scanned(40000), words("begin, progress 2") << QStringLiteral("all %1").arg(total)
-                                                        << words("blocks 0, bad 0, finish Failed"));
-    QVERIFY(g_bScanFailed && !g_bScanDiskGone);
-    // The next scan is not affected.
-    quick->gone = false;
-    SelectedDisk healthy(0, 40000);
-    QCOMPARE(scanned(40000), Expectation(40000, {}).lines);
-}
-
-void tst_QScanDriveThread::endsWithItsDisk_data()
-{
-    QTest::addColumn<qint64>("at"); // sector and bytes of the read during which it is pulled out
-    QTest::addColumn<quint32>("bytes");
-    QTest::addColumn<int>("looks"); // the number of questions until the system has noticed
-    QTest::newRow("in a chunk") << 2 * Chunk << quint32(0x800000) << 0;
-    QTest::newRow("in a chunk, noticed late") << 2 * Chunk << quint32(0x800000) << 9;
-    QTest::newRow("among the sectors of one") << Chunk + 700 << quint32(512) << 0;
-    QTest::newRow("among the sectors of one, noticed late") << Chunk + 700 << quint32(512) << 9;
-}
-
-void tst_QScanDriveThread::endsWithItsDisk()
-{
-    QFETCH(qint64, at);
-    QFETCH(quint32, bytes);
-    QFETCH(int, looks);
-    const qint64 total = 1000000 * Chunk;
-    QuickDisk *const quick = installQuickDisk(total, {7, 8, Chunk + 600});
-    quick->looks = looks;
-    quick->onRead = [=](qint64 sector, quint32 length) {
-        if (sector == at && length == bytes)
-            quick->refuses = true;
-    };
-    const SelectedDisk disk(0, total);
-    const QStringList lines = scanned(total);
-    // What was found before stays.
-    QCOMPARE(sectorsOf(g_BadSectors), bytes == 512 ? (Sectors{7, 8}) : (Sectors{7, 8, Chunk + 600}));
-    QCOMPARE(lines.mid(lines.size() - 4), words("progress 1, blocks 0")
-                                              << QStringLiteral("bad %1").arg(g_BadSectors.count())
-                                              << QStringLiteral("finish Failed"));
-    QVERIFY(g_bScanDiskGone && lines.filter(QStringLiteral("all ")).isEmpty());
-}
-
-/// A disk that refuses everything and is still plugged in has failed: all its sectors are bad.
-void tst_QScanDriveThread::readsOnWhereAllIsRefused()
-{
-    const qint64 total = 3 * Chunk + 5;
-    QuickDisk *const quick = installQuickDisk(total);
-    const SelectedDisk disk(0, total);
-    const QStringList lines = scanned(total, [quick](const QString &line) {
-        if (line.startsWith(QStringLiteral("chunk 16384 ")))
-            quick->refuses = true;
-    });
-    std::set<qint64> lost;
-    for (qint64 sector = Chunk; sector < total; ++sector)
-        lost.insert(sector);
-    const Expectation expected(total, lost);
-    QCOMPARE(lines, expected.lines);
-    QCOMPARE(sectorsOf(g_BadSectors), expected.found);
-}
-
-void tst_QScanDriveThread::keepsItsFlags()
-{
-    installQuickDisk(40000, {3});
-    const SelectedDisk disk(0, 40000);
-    g_bAbortJob = true;
+    void findsEveryBadSector_data()
     {
-        QScanDriveThread thread;
-        QVERIFY(!g_bAbortJob);
-        bool running = false;
-        QThread::Priority priority = QThread::InheritPriority;
-        const ScanRecorder recorder(thread, [&](const QString &) {
-            running = g_bJobRunning;
-            priority = QThread::currentThread()->priority();
-        });
-        thread.SetRange(0, 40000);
-        thread.StartScan(nullptr, 3);
-        QVERIFY(thread.wait(30000));
-        QVERIFY(running);
-        QCOMPARE(priority, QThread::LowPriority);
-        QVERIFY(!g_bJobRunning);
-
-        // If it is stopped before it begins, the picture of the last scan stays.
-        g_bAbortJob = true;
-        thread.StartScan(nullptr, 3);
-        QVERIFY(thread.wait(30000));
-        QCoreApplication::processEvents();
-        QCOMPARE(recorder.lines.filter(QStringLiteral("begin")).size(), 1);
-        QCOMPARE(recorder.lines.filter(QStringLiteral("finish Pass")).size(), 2);
-        QCOMPARE(sectorsOf(g_BadSectors), (Sectors{3}));
-        g_bAbortJob = false;
+        QTest::addColumn<qint64>("total");
+        QTest::addColumn<Sectors>("stretches"); // pairs of first and count
+        const auto row = [](const char *name, qint64 total, const Sectors &stretches) {
+            QTest::newRow(name) << total << stretches;
+        };
+        row("nothing to scan", 0, {});
+        row("a multiple of the chunk", 2 * Chunk, {});
+        row("400 k", 400 * 125, {7, 1});
+        row("400 k + 1", 400 * 125 + 1, {7, 1});
+        row("one sector, bad", 1, {0, 1});
+        row("both sides of a boundary", 40000, {Chunk - 1, 2, 39999, 1});
+        row("the first of a chunk behind a bad one", 40000, {5, 1, Chunk, 1});
+        row("across two boundaries", 4 * Chunk, {Chunk - 1, Chunk + 2});
+        row("below 400", 399, {0, 1, 398, 1});
+        row("every sector", 2 * Chunk + 100, {0, 2 * Chunk + 100});
+        Sectors scattered;
+        for (qint64 sector = 3; sector < 5 * Chunk; sector += 97)
+            scattered << sector << 1 + sector % 3;
+        row("here and there", 5 * Chunk, scattered);
+        // At these sectors a byte offset, a signed and an unsigned sector number do not fit 32 bits any more.
+        const qint64 far = qint64(1) << 32;
+        row("beyond 32 bits", far + Chunk + 7, {1 << 23, 1, far / 2, 1, far, 1, far + Chunk + 6, 1});
     }
-    QVERIFY(g_bAbortJob);
-}
 
-void tst_QScanDriveThread::waitsForWhoListens()
-{
-    const qint64 total = 6 * Chunk;
-    QuickDisk *const quick = installQuickDisk(total);
-    const SelectedDisk disk(0, total);
-    QScanDriveThread thread;
-    qlonglong heard = 0;
-    qlonglong furthest = 0;
-    QEventLoop loop;
-    connect(
-        &thread, &QScanDriveThread::TotalBlockCount, &thread, [quick] { quick->refuses = true; },
-        Qt::DirectConnection);
-    connect(&thread, &QScanDriveThread::ExactBadSectorCount, &loop, [&](qlonglong count) {
-        QVERIFY(count == heard + 1 || count == total + 6);
-        heard = count;
-        furthest = std::max(furthest, g_BadSectors.count() - heard);
-        if (count % 64 == 0)
-            QThread::usleep(100);
-    });
-    connect(&thread, &QScanDriveThread::OnFinish, &loop, [&loop] { loop.quit(); });
-    thread.SetRange(0, total);
-    thread.StartScan(nullptr, 3);
-    loop.exec();
-    QVERIFY(thread.wait(30000));
-    // Each chunk finds its own sectors and the one behind it. At most three chunks are ahead of the count:
-    // one told, one on its way, one just found.
-    QCOMPARE(heard, total + 6);
-    QVERIFY2(furthest <= 3 * (Chunk + 1), qPrintable(QString::number(furthest)));
-}
-
-void tst_QScanDriveThread::startsAndStopsUnderAReader()
-{
-    const qint64 total = 64 * Chunk;
-    std::set<qint64> bad;
-    for (qint64 sector = 0; sector < total; sector += 3)
-        bad.insert(sector);
-    installQuickDisk(total, bad);
-    const SelectedDisk disk(0, total);
-    std::atomic<bool> done{false};
-    std::atomic<int> wrong{0};
-    std::atomic<qint64> longest{0};
-    const std::unique_ptr<QThread> reader(QThread::create([&] {
-        while (!done) {
-            qint64 last = -1;
-            qint64 length = 0;
-            g_BadSectors.forEachRun([&](const SectorRun &run) {
-                wrong += run.count != 1 || run.first % 3 != 0 || run.first < last;
-                last = run.first;
-                ++length;
-            });
-            longest = std::max(longest.load(), length);
+    void findsEveryBadSector()
+    {
+        QFETCH(qint64, total);
+        QFETCH(Sectors, stretches);
+        std::set<qint64> bad;
+        for (int i = 0; i < stretches.size(); i += 2) {
+            for (qint64 sector = stretches[i]; sector < stretches[i] + stretches[i + 1]; ++sector)
+                bad.insert(sector);
         }
-    }));
-    reader->start();
-    QScanDriveThread thread;
-    thread.SetRange(0, total);
-    for (int run = 0; run < 100; ++run) {
-        g_bAbortJob = false;
-        thread.StartScan(nullptr, 3);
-        while (thread.isRunning() && (longest == 0 || g_BadSectors.count() < run * 20))
-            QThread::yieldCurrentThread();
-        g_bAbortJob = true;
-        QVERIFY(thread.wait(30000));
-        if (run % 2 == 0)
-            g_BadSectors.clear();
+        installQuickDisk(total, bad);
+        SelectedDisk disk(3, total);
+        const Expectation expected(total, bad);
+        g_BadSectors.append(99); // of the last scan
+        QVERIFY(scanned(total) == expected.lines);
+        QCOMPARE(sectorsOf(g_BadSectors), expected.found);
+        QCOMPARE(g_nBlockStep.load(), (total + 399) / 400);
+        QCOMPARE(disk.node.pDetails->hDisk, qint64(0));
     }
-    done = true;
-    QVERIFY(reader->wait(30000));
-    QCOMPARE(wrong.load(), 0);
-    QVERIFY(longest > 0);
-}
+
+    void stops()
+    {
+        const SelectedDisk disk(3, 40000);
+        const auto stoppedAt = [](qint64 at, quint32 bytes, const std::set<qint64> &bad) {
+            installQuickDisk(40000, bad)->onRead = [=](qint64 sector, quint32 length) {
+                if (sector == at && length == bytes)
+                    g_bAbortJob = true;
+            };
+            return scanned(40000).mid(3);
+        };
+        QCOMPARE(
+            stoppedAt(16384, 0x800000, {}),
+            words("chunk 0 40000 100, first 16384 40000, progress 1, chunk 16384 40000 100, progress 163, "
+                  "progress 163, blocks 0, bad 0, finish Pass"));
+        QCOMPARE(
+            stoppedAt(25, 512, {10, 20, 30}),
+            words("chunk 0 40000 100, bad 1, bad 2, first 16384 40000, progress 1, progress 1, blocks 0, "
+                  "bad 2, finish Pass"));
+        QCOMPARE(sectorsOf(g_BadSectors), (Sectors{10, 20}));
+        // A bad sector at which it stops is listed but not counted.
+        QCOMPARE(
+            stoppedAt(20, 512, {10, 20, 30}),
+            words("chunk 0 40000 100, bad 1, first 16384 40000, progress 1, progress 1, blocks 0, bad 1, "
+                  "finish Pass"));
+        QCOMPARE(sectorsOf(g_BadSectors), (Sectors{10, 20}));
+    }
+
+    void failsOnce()
+    {
+        QuickDisk *const quick = installQuickDisk(40000);
+        const SelectedDisk disk(3, 40000);
+        for (const bool selected : {false, true}) {
+            quick->gone = true;
+            DiskNode *const node = g_App.m_pCurrentDisk;
+            if (!selected)
+                g_App.m_pCurrentDisk = nullptr;
+            QCOMPARE(scanned(40000), words("begin, progress 2") << (selected ? "all 40000" : "all 0")
+                                                                << words("blocks 0, bad 0, finish Failed"));
+            QVERIFY(g_bScanFailed && !g_bScanDiskGone);
+            // The next scan is not affected.
+            quick->gone = false;
+            g_App.m_pCurrentDisk = node;
+            QCOMPARE(scanned(40000), Expectation(40000, {}).lines);
+        }
+    }
+
+    void endsWithItsDisk_data()
+    {
+        QTest::addColumn<qint64>("at"); // sector and bytes of the read during which it is pulled out
+        QTest::addColumn<quint32>("bytes");
+        QTest::addColumn<int>("looks"); // the number of questions until the system has noticed
+        QTest::newRow("in a chunk") << 2 * Chunk << quint32(0x800000) << 0;
+        QTest::newRow("in a chunk, noticed late") << 2 * Chunk << quint32(0x800000) << 9;
+        QTest::newRow("among the sectors of one, noticed late") << Chunk + 700 << quint32(512) << 9;
+    }
+
+    void endsWithItsDisk()
+    {
+        QFETCH(qint64, at);
+        QFETCH(quint32, bytes);
+        QFETCH(int, looks);
+        const qint64 total = 1000000 * Chunk;
+        QuickDisk *const quick = installQuickDisk(total, {7, 8, Chunk + 600});
+        quick->looks = looks;
+        quick->onRead = [=](qint64 sector, quint32 length) {
+            if (sector == at && length == bytes)
+                quick->refuses = true;
+        };
+        const SelectedDisk disk(3, total);
+        const QStringList lines = scanned(total);
+        // What was found before stays.
+        QCOMPARE(sectorsOf(g_BadSectors), bytes == 512 ? (Sectors{7, 8}) : (Sectors{7, 8, Chunk + 600}));
+        QCOMPARE(lines.mid(lines.size() - 4), words("progress 1, blocks 0")
+                                                  << QStringLiteral("bad %1").arg(g_BadSectors.count())
+                                                  << QStringLiteral("finish Failed"));
+        QVERIFY(g_bScanDiskGone && lines.filter(QStringLiteral("all ")).isEmpty());
+    }
+
+    /// A disk that refuses everything and is still plugged in has failed: all its sectors are bad.
+    void readsOnWhereAllIsRefused()
+    {
+        const qint64 total = 3 * Chunk + 5;
+        QuickDisk *const quick = installQuickDisk(total);
+        const SelectedDisk disk(3, total);
+        const QStringList lines = scanned(total, [quick](const QString &line) {
+            if (line.startsWith(QStringLiteral("chunk 16384 ")))
+                quick->refuses = true;
+        });
+        std::set<qint64> lost;
+        for (qint64 sector = Chunk; sector < total; ++sector)
+            lost.insert(sector);
+        const Expectation expected(total, lost);
+        QCOMPARE(lines, expected.lines);
+        QCOMPARE(sectorsOf(g_BadSectors), expected.found);
+    }
+
+    void keepsItsFlags()
+    {
+        installQuickDisk(40000, {3});
+        const SelectedDisk disk(3, 40000);
+        g_bAbortJob = true;
+        {
+            QScanDriveThread thread;
+            QVERIFY(!g_bAbortJob);
+            bool running = false;
+            QThread::Priority priority = QThread::InheritPriority;
+            const ScanRecorder recorder(thread, [&](const QString &) {
+                running = g_bJobRunning;
+                priority = QThread::currentThread()->priority();
+            });
+            thread.SetRange(0, 40000);
+            thread.StartScan(nullptr, 3);
+            QVERIFY(thread.wait(30000));
+            QVERIFY(running);
+            QCOMPARE(priority, QThread::LowPriority);
+            QVERIFY(!g_bJobRunning);
+
+            // If it is stopped before it begins, the picture of the last scan stays.
+            g_bAbortJob = true;
+            thread.StartScan(nullptr, 3);
+            QVERIFY(thread.wait(30000));
+            QCoreApplication::processEvents();
+            QCOMPARE(recorder.lines.filter(QStringLiteral("begin")).size(), 1);
+            QCOMPARE(recorder.lines.filter(QStringLiteral("finish Pass")).size(), 2);
+            QCOMPARE(sectorsOf(g_BadSectors), (Sectors{3}));
+            g_bAbortJob = false;
+        }
+        QVERIFY(g_bAbortJob);
+    }
+
+    void waitsForWhoListens()
+    {
+        const qint64 total = 6 * Chunk;
+        QuickDisk *const quick = installQuickDisk(total);
+        const SelectedDisk disk(3, total);
+        QScanDriveThread thread;
+        qlonglong heard = 0;
+        qlonglong furthest = 0;
+        QEventLoop loop;
+        connect(
+            &thread, &QScanDriveThread::TotalBlockCount, &thread, [quick] { quick->refuses = true; },
+            Qt::DirectConnection);
+        connect(&thread, &QScanDriveThread::ExactBadSectorCount, &loop, [&](qlonglong count) {
+            QVERIFY(count == heard + 1 || count == total + 6);
+            heard = count;
+            furthest = std::max(furthest, g_BadSectors.count() - heard);
+            if (count % 64 == 0)
+                QThread::usleep(100);
+        });
+        connect(&thread, &QScanDriveThread::OnFinish, &loop, [&loop] { loop.quit(); });
+        thread.SetRange(0, total);
+        thread.StartScan(nullptr, 3);
+        loop.exec();
+        QVERIFY(thread.wait(30000));
+        // Each chunk finds its own sectors and the one behind it. At most three chunks are ahead of the
+        // count: one told, one on its way, one just found.
+        QCOMPARE(heard, total + 6);
+        QVERIFY2(furthest <= 3 * (Chunk + 1), qPrintable(QString::number(furthest)));
+    }
+
+    void startsAndStopsUnderAReader()
+    {
+        const qint64 total = 64 * Chunk;
+        std::set<qint64> bad;
+        for (qint64 sector = 0; sector < total; sector += 3)
+            bad.insert(sector);
+        installQuickDisk(total, bad);
+        const SelectedDisk disk(3, total);
+        std::atomic<bool> done{false};
+        std::atomic<int> wrong{0};
+        std::atomic<qint64> longest{0};
+        const std::unique_ptr<QThread> reader(QThread::create([&] {
+            while (!done) {
+                qint64 last = -1;
+                qint64 length = 0;
+                g_BadSectors.forEachRun([&](const SectorRun &run) {
+                    wrong += run.count != 1 || run.first % 3 != 0 || run.first < last;
+                    last = run.first;
+                    ++length;
+                });
+                longest = std::max(longest.load(), length);
+            }
+        }));
+        reader->start();
+        QScanDriveThread thread;
+        thread.SetRange(0, total);
+        for (int run = 0; run < 100; ++run) {
+            g_bAbortJob = false;
+            thread.StartScan(nullptr, 3);
+            while (thread.isRunning() && (longest == 0 || g_BadSectors.count() < run * 20))
+                QThread::yieldCurrentThread();
+            g_bAbortJob = true;
+            QVERIFY(thread.wait(30000));
+            if (run % 2 == 0)
+                g_BadSectors.clear();
+        }
+        done = true;
+        QVERIFY(reader->wait(30000));
+        QCOMPARE(wrong.load(), 0);
+        QVERIFY(longest > 0);
+    }
+};
 
 QTEST_GUILESS_MAIN(tst_QScanDriveThread)
 #include "tst_QScanDriveThread.moc"
