@@ -121,7 +121,7 @@ private slots:
         QCOMPARE(read(RemovableDisk, &record, told), "2|Report Model|Table Model |-" + summary);
         QCOMPARE(read(RemovableDisk, &record, {}), "2|Report Model|Table Model |Not Available" + summary);
         QCOMPARE(read(RemovableDisk, nullptr, {}), "2|Not Available|-|Not Available" + sectors + "-");
-        QCOMPARE(joined(identityTextsAfterRead(nullptr, nullptr, -128, {})),
+        QCOMPARE(joined(identityTextsAfterRead(nullptr, &record, -128, {})),
                  QStringLiteral("-128|-|-|-|-|-"));
     }
 
