@@ -21,14 +21,10 @@ public:
         int points;
         bool bold;
     };
-    struct Picture {
-        QRect target;
-        QRect source;
-    };
 
     QVector<Text> texts;
     QVector<QLineF> rules; ///< only lines with the pen of the rules
-    QVector<Picture> pictures;
+    QVector<QRect> pictures;
 
     /// The first text that reads so; empty if there is none.
     Text find(const QString &wanted) const
@@ -55,23 +51,13 @@ public:
 protected:
     int metric(PaintDeviceMetric metric) const override
     {
-        switch (metric) {
-        case PdmWidth:
+        if (metric == PdmWidth)
             return 9251;
-        case PdmHeight:
+        if (metric == PdmHeight)
             return 13699;
-        case PdmDpiX:
-        case PdmDpiY:
-        case PdmPhysicalDpiX:
-        case PdmPhysicalDpiY:
-            return 1200;
-        case PdmDevicePixelRatio:
+        if (metric == PdmDevicePixelRatio)
             return 1;
-        case PdmDevicePixelRatioScaled:
-            return static_cast<int>(devicePixelRatioFScale());
-        default:
-            return 0;
-        }
+        return metric == PdmDevicePixelRatioScaled ? static_cast<int>(devicePixelRatioFScale()) : 1200;
     }
 
 private:
@@ -101,15 +87,12 @@ private:
                     m_page->rules.append(lines[i]);
             }
         }
-        void drawImage(const QRectF &target, const QImage &, const QRectF &source,
+        void drawImage(const QRectF &target, const QImage &, const QRectF &,
                        Qt::ImageConversionFlags) override
         {
-            m_page->pictures.append({target.toRect(), source.toRect()});
+            m_page->pictures.append(target.toRect());
         }
-        void drawPixmap(const QRectF &target, const QPixmap &, const QRectF &source) override
-        {
-            m_page->pictures.append({target.toRect(), source.toRect()});
-        }
+        void drawPixmap(const QRectF &, const QPixmap &, const QRectF &) override {}
         using QPaintEngine::drawLines;
 
     private:

@@ -13,121 +13,116 @@ class TestHistoryCrash : public QObject
     Q_OBJECT
 
 private slots:
-    void killedAnywhere_data();
-    void killedAnywhere();
+    void killedAnywhere_data()
+    {
+        QTest::addColumn<int>("before"); // days that are recorded already
+        QTest::addColumn<int>("first");  // number of the first day recorded by the killed process
+        QTest::addColumn<int>("count");
+        QTest::addColumn<int>("kept"); // days that must be readable at least, whenever it is killed
+        QTest::newRow("first visit") << 0 << 1 << 1 << 0;
+        QTest::newRow("third day") << 2 << 3 << 1 << 2;
+        QTest::newRow("second visit of a day") << 10 << 10 << 1 << 10;
+        QTest::newRow("eleventh day") << 10 << 11 << 1 << 9;
+        QTest::newRow("three days behind the tenth") << 10 << 11 << 3 << 9;
+    }
+
+    void killedAnywhere()
+    {
+        QFETCH(int, before);
+        QFETCH(int, first);
+        QFETCH(int, count);
+        QFETCH(int, kept);
+        const QTemporaryDir prepared;
+        Platform::install(std::make_unique<HistoryMachine>(prepared.path()));
+        days::record(m_serial, dayNumber(1), before);
+        int call = 0;
+        for (bool killed = true; killed;) {
+            m_root = std::make_unique<QTemporaryDir>();
+            m_folder = m_root->filePath(QStringLiteral("history"));
+            QVERIFY(simulated::copyFolder(prepared.path(), m_folder));
+            Platform::install(std::make_unique<HistoryMachine>(m_folder));
+            QCOMPARE(readableDays(before == 0), before);
+
+            killed = runKilledAt(++call, dayNumber(first), count);
+            const int readable = readableDays(before == 0);
+            QVERIFY2(
+                readable >= kept,
+                qPrintable(QStringLiteral("killed at call %1: %2 days are left").arg(call).arg(readable)));
+
+            // The next run works as if nothing had happened, and its day is complete.
+            const int last = first + count - 1;
+            QVERIFY(!runKilledAt(0, dayNumber(last), 1));
+            const std::vector<QString> listed = readHistoryDates(historyPaths(m_serial).dates, nullptr);
+            QCOMPARE(listed.back(), dayNumber(last).toString(QStringLiteral("dd-MM-yyyy")));
+            if (count == 1)
+                QCOMPARE(readableDays(false), std::min(last, 10));
+            else
+                QVERIFY(readableDays(false) >= kept);
+            QCOMPARE(sectionsBeside(listed), QStringList());
+        }
+        // Each of the two files is made, filled, flushed and renamed.
+        QVERIFY2(call > 8, qPrintable(QStringLiteral("only %1 calls were seen").arg(call - 1)));
+    }
 
 private:
-    bool runKilledAt(int call, const QDate &first, int count);
+    bool runKilledAt(int call, const QDate &first, int count)
+    {
+        QProcess program;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("HALVANE_KILL_AT"), QString::number(call));
+        environment.insert(QStringLiteral("HALVANE_KILL_FOLDER"), m_folder);
+        environment.insert(QStringLiteral("TMPDIR"), m_root->path());
+        program.setProcessEnvironment(environment);
+        program.setProcessChannelMode(QProcess::ForwardedChannels);
+        program.start(QStringLiteral(HALVANE_HISTORY_DAYS),
+                      {m_folder, m_serial, first.toString(Qt::ISODate), QString::number(count)});
+        if (!program.waitForFinished(20000))
+            qFatal("a program that records history hangs");
+        if (program.exitStatus() == QProcess::CrashExit && program.exitCode() != SIGKILL)
+            qFatal("a program that records history crashed by itself");
+        return program.exitStatus() == QProcess::CrashExit;
+    }
+
     /// The number of days with the right values; -1 if a file is damaged.
-    int readableDays(bool anyDay);
-    QStringList sectionsBeside(const std::vector<QString> &listed);
+    int readableDays(bool anyDay)
+    {
+        // A new name each time, because QSettings may keep what it read from a file before.
+        static int copies = 0;
+        const QString values = m_root->filePath(QStringLiteral("values%1").arg(++copies));
+        QFile list(historyPaths(m_serial).dates);
+        if (!list.open(QIODevice::ReadOnly) || !QFile::copy(historyPaths(m_serial).values, values))
+            return anyDay ? 0 : -1;
+        QSettings stored(values, QSettings::IniFormat);
+        QStringList dates = QString::fromLatin1(list.readAll()).split(QLatin1Char('\n'));
+        if (stored.status() != QSettings::NoError || (!dates.takeLast().isEmpty() && !anyDay))
+            return -1;
+        int right = 0;
+        for (const QString &date : dates) {
+            const QDate day = QDate::fromString(date, QStringLiteral("dd-MM-yyyy"));
+            if (!day.isValid())
+                return -1;
+            const QString path = date + QLatin1Char('/') + days::key;
+            if (stored.contains(path) && stored.value(path).toLongLong() == days::valueOn(day))
+                ++right;
+        }
+        return right;
+    }
+
+    /// The sections of values without a date in the list.
+    QStringList sectionsBeside(const std::vector<QString> &listed)
+    {
+        QStringList sections = QSettings(historyPaths(m_serial).values, QSettings::IniFormat).childGroups();
+        for (const QString &date : listed)
+            sections.removeAll(date);
+        return sections;
+    }
+
     QDate dayNumber(int number) const { return QDate(2026, 10, 25).addDays(number - 1); }
 
     const QString m_serial = QStringLiteral("SN-1");
     std::unique_ptr<QTemporaryDir> m_root;
     QString m_folder;
 };
-
-bool TestHistoryCrash::runKilledAt(int call, const QDate &first, int count)
-{
-    QProcess program;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("HALVANE_KILL_AT"), QString::number(call));
-    environment.insert(QStringLiteral("HALVANE_KILL_FOLDER"), m_folder);
-    environment.insert(QStringLiteral("TMPDIR"), m_root->path());
-    program.setProcessEnvironment(environment);
-    program.setProcessChannelMode(QProcess::ForwardedChannels);
-    program.start(QStringLiteral(HALVANE_HISTORY_DAYS),
-                  {m_folder, m_serial, first.toString(Qt::ISODate), QString::number(count)});
-    if (!program.waitForFinished(20000))
-        qFatal("a program that records history hangs");
-    if (program.exitStatus() == QProcess::CrashExit && program.exitCode() != SIGKILL)
-        qFatal("a program that records history crashed by itself");
-    return program.exitStatus() == QProcess::CrashExit;
-}
-
-int TestHistoryCrash::readableDays(bool anyDay)
-{
-    // A new name each time, because QSettings may keep what it read from a file before.
-    static int copies = 0;
-    const QString values = m_root->filePath(QStringLiteral("values%1").arg(++copies));
-    QFile list(historyPaths(m_serial).dates);
-    if (!list.open(QIODevice::ReadOnly) || !QFile::copy(historyPaths(m_serial).values, values))
-        return anyDay ? 0 : -1;
-    QSettings stored(values, QSettings::IniFormat);
-    QStringList dates = QString::fromLatin1(list.readAll()).split(QLatin1Char('\n'));
-    if (stored.status() != QSettings::NoError || (!dates.takeLast().isEmpty() && !anyDay))
-        return -1;
-    int right = 0;
-    for (const QString &date : dates) {
-        const QDate day = QDate::fromString(date, QStringLiteral("dd-MM-yyyy"));
-        if (!day.isValid())
-            return -1;
-        const QString path = date + QLatin1Char('/') + days::key;
-        if (stored.contains(path) && stored.value(path).toLongLong() == days::valueOn(day))
-            ++right;
-    }
-    return right;
-}
-
-/// The sections of values without a date in the list.
-QStringList TestHistoryCrash::sectionsBeside(const std::vector<QString> &listed)
-{
-    QStringList sections = QSettings(historyPaths(m_serial).values, QSettings::IniFormat).childGroups();
-    for (const QString &date : listed)
-        sections.removeAll(date);
-    return sections;
-}
-
-void TestHistoryCrash::killedAnywhere_data()
-{
-    QTest::addColumn<int>("before"); // days that are recorded already
-    QTest::addColumn<int>("first");  // number of the first day recorded by the killed process
-    QTest::addColumn<int>("count");
-    QTest::addColumn<int>("kept"); // days that must be readable at least, whenever it is killed
-    QTest::newRow("first visit") << 0 << 1 << 1 << 0;
-    QTest::newRow("third day") << 2 << 3 << 1 << 2;
-    QTest::newRow("second visit of a day") << 10 << 10 << 1 << 10;
-    QTest::newRow("eleventh day") << 10 << 11 << 1 << 9;
-    QTest::newRow("three days behind the tenth") << 10 << 11 << 3 << 9;
-}
-
-void TestHistoryCrash::killedAnywhere()
-{
-    QFETCH(int, before);
-    QFETCH(int, first);
-    QFETCH(int, count);
-    QFETCH(int, kept);
-    const QTemporaryDir prepared;
-    Platform::install(std::make_unique<HistoryMachine>(prepared.path()));
-    days::record(m_serial, dayNumber(1), before);
-    int call = 0;
-    for (bool killed = true; killed;) {
-        m_root = std::make_unique<QTemporaryDir>();
-        m_folder = m_root->filePath(QStringLiteral("history"));
-        QVERIFY(simulated::copyFolder(prepared.path(), m_folder));
-        Platform::install(std::make_unique<HistoryMachine>(m_folder));
-        QCOMPARE(readableDays(before == 0), before);
-
-        killed = runKilledAt(++call, dayNumber(first), count);
-        const int readable = readableDays(before == 0);
-        QVERIFY2(readable >= kept,
-                 qPrintable(QStringLiteral("killed at call %1: %2 days are left").arg(call).arg(readable)));
-
-        // The next run works as if nothing had happened, and its day is complete.
-        const int last = first + count - 1;
-        QVERIFY(!runKilledAt(0, dayNumber(last), 1));
-        const std::vector<QString> listed = readHistoryDates(historyPaths(m_serial).dates, nullptr);
-        QCOMPARE(listed.back(), dayNumber(last).toString(QStringLiteral("dd-MM-yyyy")));
-        if (count == 1)
-            QCOMPARE(readableDays(false), std::min(last, 10));
-        else
-            QVERIFY(readableDays(false) >= kept);
-        QCOMPARE(sectionsBeside(listed), QStringList());
-    }
-    // Each of the two files is made, filled, flushed and renamed.
-    QVERIFY2(call > 8, qPrintable(QStringLiteral("only %1 calls were seen").arg(call - 1)));
-}
 
 QTEST_GUILESS_MAIN(TestHistoryCrash)
 #include "tst_HistoryCrash.moc"

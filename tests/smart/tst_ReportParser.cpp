@@ -4,9 +4,7 @@
 #include "tests/smart/SampleReports.h"
 #include "tests/support/FakePlatform.h"
 
-#include <QCoreApplication>
-#include <QRandomGenerator>
-#include <QTranslator>
+#include <QTextStream>
 #include <QtTest>
 
 namespace
@@ -18,37 +16,37 @@ const QByteArray AtaRow = "  1 Raw_Read 0x000f   118   099   006    Pre-fail  Al
 const QByteArray AtaSection = "=== START OF READ SMART DATA SECTION ===\n";
 const QByteArray NvmeHeader = "SMART/Health Information (NVMe Log 0x02)\n";
 
+SmartTable ataTable(QString text)
+{
+    QTextStream stream(&text);
+    return report::readAtaTable(stream);
+}
+
+NvmeTable nvmeLog(QString text)
+{
+    QTextStream stream(&text);
+    return report::readNvmeLog(stream);
+}
+
 /// "name=raw" of all rows of the list that the last report filled.
 QStringList rowTexts()
 {
     QStringList rows;
-    if (g_App.m_bNVMe) {
-        for (const NvmeAttributeRecord &row : g_nvmeTable.rows)
-            rows << row.Name.text() + '=' + row.Value.text();
+    for (const NvmeAttributeRecord &row : g_nvmeTable.rows)
+        rows << row.Name.text() + '=' + row.Value.text();
+    if (g_App.m_bNVMe)
         return rows;
-    }
+    rows.clear();
     for (const SmartAttributeRecord &row : g_smartTable.rows)
         rows << row.AttributeName.text() + '=' + row.RawValue.text();
     return rows;
 }
 
-void readReport(const QByteArray &bytes)
+template<auto Field, typename Drive>
+QString text(const Drive &drive)
 {
-    const QString path = samples::stage(bytes);
-    takeReportIn(path);
+    return (drive.*Field).text();
 }
-
-/// Translates one text of the main window and no other.
-class OneWord : public QTranslator
-{
-public:
-    bool isEmpty() const override { return false; }
-    QString translate(const char *context, const char *text, const char *, int) const override
-    {
-        const bool mine = qstrcmp(context, "MainWindow") == 0 && qstrcmp(text, "ID#") == 0;
-        return mine ? QStringLiteral("Nr.") : QString();
-    }
-};
 
 } // namespace
 
@@ -61,345 +59,271 @@ private slots:
     void init() { samples::forget(); }
     void cleanup() { samples::forget(); }
 
-    void realReports_data();
-    void realReports();
-    void verdict_data();
-    void verdict();
-    void tornReports_data();
-    void tornReports();
-    void kind_data();
-    void kind();
-    void identity_data();
-    void identity();
-    void probedIdentityEndsAtFirmware();
-    void missingFileChangesNothing();
-    void emptyFileEmptiesTheKind();
-    void missingLinesKeepTheirTexts();
-    void otherKindKeepsItsList();
-    void rereadReplaces();
-    void headersAreTheToolsInEveryLanguage();
-    void utf16();
-    void noise_data();
-    void noise();
+    void kinds()
+    {
+        const auto kind = [](QString text) {
+            QTextStream stream(&text);
+            return report::detectKind(stream);
+        };
+        QVERIFY(!kind("=== START OF SMART DATA SECTION ===\n"));
+        QCOMPARE(kind(AtaSection), std::optional<bool>(false));
+        QCOMPARE(kind(AtaSection + NvmeHeader), std::optional<bool>(true));
+        QCOMPARE(kind(NvmeHeader + AtaSection), std::optional<bool>(false));
+    }
+
+    /// "model|serial|firmware|version", "-" for a missing line; then the same of the shorter reading.
+    void identity()
+    {
+        const auto row = [](const char *name, QString text, const char *found, const char *probed) {
+            const auto shown = [&text](report::Identity (*read)(QTextStream &)) {
+                QTextStream stream(&text);
+                const report::Identity got = read(stream);
+                return got.model.value_or("-") + '|' + got.serial.value_or("-") + '|' +
+                       got.firmware.value_or("-") + '|' + got.ataVersion.value_or("-");
+            };
+            QVERIFY2(shown(report::readIdentity) == found, name);
+            QVERIFY2(shown(report::readProbedIdentity) == probed, name);
+        };
+        row("last piece", "Device Model: A:B: C \n", "C|-|-|-", "C|-|-|-");
+        row("empty parts do not count", "Device Model: A:::\n", "A|-|-|-", "A|-|-|-");
+        row("no value yields the caption", "Serial Number:\n", "-|Serial Number|-|-", "-|Serial Number|-|-");
+        row("second one wins", "Model Number: A\nDevice Model: B\n", "B|-|-|-", "B|-|-|-");
+        row("section ends it", "Serial Number: 1\n" + AtaSection + "Model Number: M\n", "-|1|-|-", "-|1|-|-");
+        row("ATA version or firmware ends it",
+            "Firmware Version: F\nSerial Number: 1\nATA Version is: 8\nModel Number: M\n", "-|1|F|8",
+            "-|-|F|-");
+        row("SATA line is one of ATA", "SATA Version is:  SATA 3.1 (current: 6.0 Gb/s)\nModel Number: M\n",
+            "-|-|-|6.0 Gb/s)", "M|-|-|6.0 Gb/s)");
+        row("model rule comes first", "Device Model: Serial Number: X\n", "X|-|-|-", "X|-|-|-");
+    }
+
+    void ataFields()
+    {
+        using A = SmartIdentity;
+        const QString poll = "recommended polling time: \t ";
+        const struct {
+            QString lines;
+            QString (*field)(const A &drive);
+            QString value;
+        } rows[] = {
+            {"Model Number:     D 2", text<&A::DeviceModel>, "D 2"},
+            {"Device Model: D\nLU WWN Device Id: 5 0014ee", text<&A::Wwn>, "5 0014ee"},
+            {"LU WWN Device Id: 5 0014ee", text<&A::Wwn>, ""},
+            // Without brackets it is cut to its field.
+            {"User Capacity:    500,107,862,016 bytes", text<&A::UserCapacity>,
+             "User Capacity:    500,107,862,0"},
+            {"Sector Sizes:     512 bytes logical, 4096 bytes physical", text<&A::SectorSize>, "512 bytes "},
+            {"Sector Size:      512 bytes logical/physical", text<&A::SectorSize>, "512 bytes /physical"},
+            {"ATA Version is:   ACS-3 (minor revision: 4)", text<&A::AtaVersion>, "4)"},
+            {"SATA Version is:  SATA 3.1 (current: 6.0 Gb/s)", text<&A::AtaVersion>, ""},
+            {"SATA Version is:  SATA 3.1 (current: 6.0 Gb/s)", text<&A::SataVersion>, "6.0 Gb/s"},
+            {"Local Time is:    Sat May 18 10:49:11 2019 CST", text<&A::LocalTime>,
+             "Sat May 18 10:49:11 2019 CST"},
+            {"Local Time is:", text<&A::LocalTime>, ""},
+            {"SMART support is: Available\nSMART support is: Enabled", text<&A::SmartSupport>, "Enabled"},
+            {"\t\twas never started.", text<&A::OfflineStatus>, "Never Started"},
+            {"\t\twas completed without error.", text<&A::OfflineStatus>, "Successfully Completed"},
+            {"Offline data collection status: was never started.", text<&A::OfflineStatus>, ""},
+            {"Self-test execution status: completed\nSelf-test execution status: in progress",
+             text<&A::SelfTestStatus>, "Successfully Completed"},
+            {"Self-test execution status: ( 249)\tin progress...", text<&A::SelfTestStatus>, ""},
+            {"data collection: \t\t(  120) seconds.", text<&A::OfflineTotalTime>, "120 seconds"},
+            {"data collection: \t\t( 4680) seconds.", text<&A::OfflineTotalTime>, "( 4680 seconds"},
+            // The three polling times look alike and go by their order.
+            {poll + "(   2) minutes.", text<&A::ShortPollTime>, "2 minutes"},
+            {poll + "(  10) minutes.", text<&A::ShortPollTime>, "10 minutes"},
+            {poll + "( 255) minutes.", text<&A::ShortPollTime>, "255 minutes"},
+            {poll + "1\n" + poll + "(   2) minutes.", text<&A::ExtendedPollTime>, " 2 minutes"},
+            {poll + "1\n" + poll + "( 255) minutes.", text<&A::ExtendedPollTime>, "255 minutes"},
+            {poll + "1\n" + poll + "2\n" + poll + "(   5) minutes.", text<&A::ConveyancePollTime>,
+             "5 minutes"},
+            {poll + "1\n" + poll + "2\n" + poll + "(  10) minutes.\n" + poll + "4",
+             text<&A::ConveyancePollTime>, "(  10 minutes"},
+            {"Model Family: Serial Number: X", text<&A::SerialNumber>, ""},
+            {"Model Family: " + QString(500, QChar(0xe9)), text<&A::ModelFamily>, QString(63, QChar(0xe9))},
+        };
+        for (const auto &row : rows) {
+            const SmartTable table = ataTable(row.lines + '\n' + AtaHeader + AtaRow);
+            QCOMPARE(samples::length(table.rows), 1);
+            QCOMPARE(row.lines + " -> " + row.field(table.drive), row.lines + " -> " + row.value);
+        }
+    }
+
+    void ataRow()
+    {
+        const auto row = [](const QByteArray &line, const char *fields) { // in column order
+            const SmartTable table = ataTable(AtaHeader + line);
+            QCOMPARE(samples::length(table.rows), 1);
+            const SmartAttributeRecord &read = *table.rows.head;
+            const QStringList got{QString::number(read.Id),
+                                  read.AttributeName.text(),
+                                  read.Flag.text(),
+                                  QString::number(read.Value),
+                                  QString::number(read.Worst),
+                                  QString::number(read.Threshold),
+                                  read.Type.text(),
+                                  read.Updated.text(),
+                                  read.WhenFailed.text(),
+                                  read.RawValue.text()};
+            QCOMPARE(got.join('|'), QString(fields));
+        };
+        row("  5 Reallocated_Sector_Ct   0x0033   100   099   036    Pre-fail  Always       -  12 (Min/Max "
+            "20/45)",
+            "5|Reallocated_Sector_Ct|0x0033|100|99|36|Pre-fail|Always|-|12");
+        row("9 P", "9|P||0|0|0||||");
+        row("4294967296 P f 4294967295 -1 ---", "0|P|f|4294967295|0|0||||");
+        row("9\tP q", "0|q||0|0|0||||");
+    }
+
+    // Lines of the report's head are also looked for in the first row of the table, but in no later one.
+    void headLineInTheTable()
+    {
+        const QByteArray row = "9 Serial Number: X\n";
+        const QString serial = "Serial Number: S\n";
+        QCOMPARE(ataTable(serial + AtaHeader + AtaRow + row).drive.SerialNumber.text(), QString("S"));
+        QCOMPARE(ataTable(serial + AtaHeader + row + AtaRow).drive.SerialNumber.text(), QString("X"));
+        QVERIFY(ataTable(serial + AtaHeader).drive.SerialNumber.isEmpty());
+    }
+
+    void nvmeRows()
+    {
+        g_nvmeTable = nvmeLog("test result: PASSED\n" + NvmeHeader + "Temperature:    36 Celsius\n" +
+                              "Warning  Comp. Temperature Time: 1:2\nAlone\n:::\n   \nEmpty:\n" +
+                              QByteArray(300, 'n') + ':' + QByteArray(300, 'v') + "\n\nPower Cycles: 3\n");
+        g_App.m_bNVMe = true;
+        QCOMPARE(rowTexts(),
+                 QStringList({"Temperature=36 Celsius", "Warning  Comp. Temperature Time=1", "Alone=", "=",
+                              "Empty=", QString(199, 'n') + '=' + QString(199, 'v')}));
+        QVERIFY(g_nvmeTable.passed);
+    }
+
+    void tableBounds()
+    {
+        const auto row = [](const QByteArray &text, int rows, bool passed) {
+            const SmartTable table = ataTable(text);
+            QVERIFY2(samples::length(table.rows) == rows && table.passed == passed, text);
+        };
+        row("PASSED\n" + AtaRow, 0, true);
+        row(AtaHeader, 0, false);
+        row("xFLAGx\n1 a\n", 1, false);
+        row("ID#\n1 a\n\n2 b\n", 1, false);
+        row("ID#\n1 a\n   \n2 b\n", 2, false);
+        row("ID#\n1 a\nID#\n", 2, false);
+        row("Device Model: PASSED 1\nID#\n1 a\n", 1, true);
+        row("ID# PASSED\n1 a\n", 1, false);
+        row("ID#\n1 PASSED\n", 1, false);
+        row("test result: passed\nid#\n1 a\n", 0, false);
+    }
+
+    void verdict()
+    {
+        // `changes` are "old text>new text|…".
+        const auto row = [](const char *name, const char *file, const char *changes, DriveVerdict verdict) {
+            QByteArray report = samples::bytesOf(file);
+            for (const QByteArray &change : QByteArray(changes).split('|')) {
+                if (!change.isEmpty())
+                    report.replace(change.split('>')[0], change.split('>')[1]);
+            }
+            samples::forget();
+            samples::read(report);
+            QVERIFY2(g_driveVerdict == verdict, name);
+        };
+        using V = DriveVerdict;
+        const char *ata = "ata-seagate-st31500341as-failed.txt";
+        const char *nvme = "nvme-wdc-sn850-1tb.txt";
+        const char *sas = "sas-hgst-hus726040al5210.txt";
+        row("ATA fails", ata, "FAILING_NOW>-", V::Failed);
+        row("ATA, by its attribute alone", ata, "FAILED!>PASSED", V::Failed);
+        row("ATA, of the past", ata, "FAILED!>PASSED|FAILING_NOW>In_the_past", V::Passed);
+        row("ATA, of old age", "ata-marginal-attribute-H-only.txt", "", V::Passed);
+        row("ATA does not know", ata, "FAILED!>UNKNOWN!|FAILING_NOW>-", V::NotTold);
+        row("NVMe fails", nvme, "PASSED>FAILED!", V::Failed);
+        row("NVMe is hot alone", nvme, "PASSED>FAILED!|0x00>0x02", V::Passed);
+        row("NVMe, by its warning alone", nvme, "0x00>0x06", V::Failed);
+        row("NVMe without the line", "nvme-win-toshiba-thnsn5512.txt", "", V::Passed);
+        row("SCSI passes", sas, "", V::Passed);
+        row("SCSI fails", sas, "Status: OK>Status: FAILURE PREDICTION THRESHOLD EXCEEDED [asc=5d]",
+            V::Failed);
+        row("SCSI is hot", sas, "Status: OK>Status: WARNING - SPECIFIED TEMPERATURE EXCEEDED", V::Passed);
+        row("no SMART", "err-lacks-smart-capability.txt", "", V::NotTold);
+    }
+
+    // A report that is cut anywhere has the rows before the cut. The last of them may be cut, too.
+    void tornReports()
+    {
+        for (const char *file : {"ata-seagate-st3000dm001.txt", "nvme-win-netac-2tb-crlf.txt"}) {
+            const QByteArray bytes = samples::bytesOf(file);
+            samples::read(bytes);
+            const QStringList whole = rowTexts();
+            QVERIFY(whole.size() > 15);
+            int before = 0;
+            for (int size = 0; size < bytes.size(); size += 13) {
+                samples::read(bytes.left(size));
+                const QStringList rows = rowTexts();
+                QVERIFY2(rows.size() >= before && rows.size() <= whole.size(),
+                         qUtf8Printable(QString::number(size)));
+                QCOMPARE(rows.mid(0, rows.size() - 1), whole.mid(0, qMax(0, rows.size() - 1)));
+                before = rows.size();
+            }
+            QCOMPARE(before, whole.size());
+        }
+    }
+
+    void missingFileChangesNothing()
+    {
+        samples::read(samples::bytesOf("ata-seagate-st3250318as.txt"));
+        const SmartAttributeRecord *head = g_pSmartAttributeHead;
+        QVERIFY(head && g_bSmartAvailable);
+        takeReportIn(tempFile("missing.txt"));
+        QCOMPARE(g_pSmartAttributeHead, head);
+        QVERIFY(g_bSmartAvailable);
+        QCOMPARE(g_strModelName, QString("ST3250318AS"));
+    }
+
+    void eachKindHasItsList()
+    {
+        samples::read(samples::bytesOf("ata-micron-m550.txt"));
+        samples::read(samples::bytesOf("nvme-wdc-sn850-1tb.txt"));
+        const NvmeAttributeRecord *log = g_pNvmeAttributeHead;
+        QCOMPARE(samples::length(g_smartTable.rows), 23);
+        samples::read(samples::bytesOf("ata-seagate-st3250318as.txt"));
+        QCOMPARE(samples::length(g_smartTable.rows), 22);
+        QCOMPARE(g_pNvmeAttributeHead, log);
+        // An empty file empties the list of the kind that was read last.
+        samples::read(QByteArray());
+        QVERIFY(!g_App.m_bNVMe && !g_bSmartAvailable);
+        QVERIFY(!g_pSmartAttributeHead && !g_pSmartAttributeTail);
+        QCOMPARE(samples::length(g_nvmeTable.rows), 17);
+    }
+
+    void missingLinesKeepTheirTexts()
+    {
+        g_strModelName = "m";
+        g_strSerialNumber = "s";
+        g_strFirmware = "f";
+        g_strAtaVersion = "v";
+        samples::read("Serial Number: new\n" + AtaSection + AtaHeader + AtaRow);
+        QCOMPARE(g_strModelName + g_strSerialNumber + g_strFirmware + g_strAtaVersion, QString("mnewfv"));
+        // The texts are those of this report, not of the disk before.
+        QCOMPARE(g_smartTable.drive.SerialNumber.text(), QString("new"));
+        QVERIFY(g_smartTable.drive.DeviceModel.isEmpty());
+    }
+
+    /// 10 MB each.
+    void noise()
+    {
+        const auto row = [](const QByteArray &bytes, int rows) {
+            samples::forget();
+            samples::read(bytes);
+            QCOMPARE(rowTexts().size(), rows);
+        };
+        constexpr int Size = 10 * 1024 * 1024;
+        row(AtaHeader + QByteArray("a ").repeated(Size / 2), 1);
+        row(NvmeHeader + QByteArray("a:").repeated(Size / 2), 1);
+        row("Device Model:" + QByteArray(Size, ':') + "y\n" + AtaHeader + AtaRow, 1);
+        row(AtaHeader + QByteArray("1 a\n").repeated(Size / 4), report::MaxRows);
+    }
 };
-
-void tst_ReportParser::realReports_data()
-{
-    QTest::addColumn<int>("index");
-    const QVector<samples::Sample> all = samples::all();
-    QVERIFY(all.size() > 50);
-    for (int i = 0; i < all.size(); ++i)
-        QTest::newRow(all.at(i).file.toUtf8().constData()) << i;
-}
-
-void tst_ReportParser::realReports()
-{
-    QFETCH(int, index);
-    const samples::Sample sample = samples::all().at(index);
-    g_App.m_bNVMe = sample.kind == "ata"; // wrong at first; the report has to correct it
-    const QByteArray bytes = samples::bytesOf(sample.file);
-    QVERIFY(!bytes.isEmpty());
-    const QString path = samples::stage(bytes);
-    takeReportIn(path);
-    QCOMPARE(g_App.m_bNVMe, sample.kind == "nvme");
-    QVERIFY(!QFile::exists(nativePath(path)));
-
-    QCOMPARE(g_bSmartAvailable, sample.passed);
-    QCOMPARE(g_strModelName, sample.model);
-    QCOMPARE(g_strSerialNumber, sample.serial);
-    QCOMPARE(g_strFirmware, sample.firmware);
-    QCOMPARE(g_strAtaVersion, sample.ataVersion);
-    QCOMPARE(samples::length(g_smartTable.rows), g_App.m_bNVMe ? 0 : sample.rows);
-    QCOMPARE(samples::length(g_nvmeTable.rows), g_App.m_bNVMe ? sample.rows : 0);
-    QString lastRow;
-    if (const SmartAttributeRecord *row = g_pSmartAttributeTail) {
-        lastRow = QString("%1|%2|%3|%4|%5")
-                      .arg(row->Id)
-                      .arg(row->AttributeName.text())
-                      .arg(row->Value)
-                      .arg(row->Threshold)
-                      .arg(row->RawValue.text());
-        QCOMPARE(g_smartTable.drive.DeviceModel.text(), sample.model);
-        QCOMPARE(g_smartTable.drive.SerialNumber.text(), sample.serial);
-    }
-    if (const NvmeAttributeRecord *row = g_pNvmeAttributeTail) {
-        lastRow = row->Name.text() + '|' + row->Value.text();
-        QCOMPARE(g_nvmeTable.drive.ModelNumber.text(), sample.model);
-        QCOMPARE(g_nvmeTable.drive.Firmware.text(), sample.firmware);
-    }
-    QCOMPARE(lastRow, sample.lastRow);
-}
-
-void tst_ReportParser::verdict_data()
-{
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QString>("changes"); // "old text>new text|…"
-    QTest::addColumn<int>("verdict");
-    const auto row = [](const char *name, const char *file, const char *changes, DriveVerdict verdict) {
-        QTest::newRow(name) << file << changes << int(verdict);
-    };
-    using V = DriveVerdict;
-    const char *ata = "ata-seagate-st31500341as-failed.txt";
-    const char *nvme = "nvme-wdc-sn850-1tb.txt";
-    const char *sas = "sas-hgst-hus726040al5210.txt";
-    row("ATA fails", ata, "FAILING_NOW>-", V::Failed);
-    row("ATA, by its attribute alone", ata, "FAILED!>PASSED", V::Failed);
-    row("ATA, of the past", ata, "FAILED!>PASSED|FAILING_NOW>In_the_past", V::Passed);
-    row("ATA, of old age", "ata-marginal-attribute-H-only.txt", "", V::Passed);
-    row("ATA does not know", ata, "FAILED!>UNKNOWN!|FAILING_NOW>-", V::NotTold);
-    row("NVMe fails", nvme, "PASSED>FAILED!", V::Failed);
-    row("NVMe is hot alone", nvme, "PASSED>FAILED!|0x00>0x02", V::Passed);
-    row("NVMe, by its warning alone", nvme, "0x00>0x06", V::Failed);
-    row("NVMe without the line", "nvme-win-toshiba-thnsn5512.txt", "", V::Passed);
-    row("SCSI passes", sas, "", V::Passed);
-    row("SCSI fails", sas, "Status: OK>Status: FAILURE PREDICTION THRESHOLD EXCEEDED [asc=5d]", V::Failed);
-    row("SCSI is hot", sas, "Status: OK>Status: WARNING - SPECIFIED TEMPERATURE EXCEEDED", V::Passed);
-    row("no SMART", "err-lacks-smart-capability.txt", "", V::NotTold);
-}
-
-void tst_ReportParser::verdict()
-{
-    QFETCH(QString, file);
-    QFETCH(QString, changes);
-    QByteArray report = samples::bytesOf(file);
-    for (const QString &change : changes.split('|', Qt::SkipEmptyParts))
-        report.replace(change.section('>', 0, 0).toUtf8(), change.section('>', 1).toUtf8());
-    readReport(report);
-    QTEST(int(g_driveVerdict), "verdict");
-}
-
-void tst_ReportParser::tornReports_data()
-{
-    QTest::addColumn<QString>("file");
-    for (const char *file : {"ata-seagate-st3000dm001.txt", "ata-win-intel-ssdsc2kw120h6.txt",
-                             "nvme-win-netac-2tb-crlf.txt", "nvme-wdc-sn850-1tb.txt"})
-        QTest::newRow(file) << file;
-}
-
-// A report that is cut anywhere has the rows before the cut. The last of them may be cut, too.
-void tst_ReportParser::tornReports()
-{
-    QFETCH(QString, file);
-    const QByteArray bytes = samples::bytesOf(file);
-    readReport(bytes);
-    const QStringList whole = rowTexts();
-    QVERIFY(whole.size() > 15);
-    int before = 0;
-    for (int size = 0; size < bytes.size(); size += 13) {
-        readReport(bytes.left(size));
-        const QStringList rows = rowTexts();
-        QVERIFY2(rows.size() >= before && rows.size() <= whole.size(), qPrintable(QString::number(size)));
-        for (int i = 0; i + 1 < rows.size(); ++i)
-            QCOMPARE(rows.at(i), whole.at(i));
-        before = rows.size();
-    }
-    QCOMPARE(before, whole.size());
-}
-
-void tst_ReportParser::kind_data()
-{
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<bool>("before");
-    QTest::addColumn<bool>("after");
-    QTest::newRow("none leaves NVMe") << QByteArray("hello\n") << true << true;
-    QTest::newRow("none leaves ATA") << QByteArray("hello\n") << false << false;
-    QTest::newRow("ATA") << AtaSection << true << false;
-    QTest::newRow("NVMe") << NvmeHeader << false << true;
-    QTest::newRow("later NVMe") << AtaSection + NvmeHeader << false << true;
-    QTest::newRow("later ATA") << NvmeHeader + AtaSection << true << false;
-    QTest::newRow("other section") << QByteArray("=== START OF SMART DATA SECTION ===\n") << true << true;
-    QTest::newRow("case") << AtaSection.toLower() << true << true;
-    QTest::newRow("no final newline") << QByteArray("x\nSMART/Health Information (NVMe Log") << false << true;
-}
-
-void tst_ReportParser::kind()
-{
-    QFETCH(QByteArray, text);
-    QFETCH(bool, before);
-    g_App.m_bNVMe = before;
-    takeReportIn(samples::stage(text));
-    QTEST(g_App.m_bNVMe, "after");
-}
-
-void tst_ReportParser::identity_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("found"); // model|serial|firmware|version, "-" for a missing line
-    QTest::newRow("nothing") << ""
-                             << "-|-|-|-";
-    QTest::newRow("model keeps the last piece") << "Device Model: A:B: C \n"
-                                                << "C|-|-|-";
-    QTest::newRow("empty parts do not count") << "Device Model: A:::\n"
-                                              << "A|-|-|-";
-    QTest::newRow("no value yields the caption") << "Serial Number:\n"
-                                                 << "-|Serial Number|-|-";
-    QTest::newRow("blank value") << "Serial Number:   \n"
-                                 << "-||-|-";
-    QTest::newRow("second one wins") << "Model Number: A\nDevice Model: B\n"
-                                     << "B|-|-|-";
-    QTest::newRow("section ends it") << "Serial Number: 1\n" + QString(AtaSection) + "Firmware Version: F\n"
-                                     << "-|1|-|-";
-    QTest::newRow("ATA version ends it") << "ATA Version is:   8\nSerial Number: 1\n"
-                                         << "-|-|-|8";
-    QTest::newRow("SATA line ends it too")
-        << "SATA Version is:  SATA 3.1, 6.0 Gb/s (current: 6.0 Gb/s)\nSerial Number: 1\n"
-        << "-|-|-|6.0 Gb/s)";
-    QTest::newRow("within a line") << "xx Firmware Version: F"
-                                   << "-|-|F|-";
-    QTest::newRow("case") << "device model: A\n"
-                          << "-|-|-|-";
-    QTest::newRow("model rule comes first") << "Device Model: Serial Number: X\n"
-                                            << "X|-|-|-";
-}
-
-void tst_ReportParser::identity()
-{
-    QFETCH(QString, text);
-    QTextStream stream(&text);
-    const report::Identity got = report::readIdentity(stream);
-    const auto shown = [](const std::optional<QString> &value) { return value.value_or("-"); };
-    QTEST(shown(got.model) + '|' + shown(got.serial) + '|' + shown(got.firmware) + '|' +
-              shown(got.ataVersion),
-          "found");
-}
-
-void tst_ReportParser::probedIdentityEndsAtFirmware()
-{
-    QString text = "ATA Version is: 8\nModel Number: M\nFirmware Version: F\nSerial Number: S\n";
-    QTextStream stream(&text);
-    const report::Identity got = report::readProbedIdentity(stream);
-    QCOMPARE(got.model.value_or("-"), QString("M"));
-    QCOMPARE(got.firmware.value_or("-"), QString("F"));
-    QVERIFY(!got.serial);
-    QString cut = AtaSection + "Serial Number: S\n";
-    QTextStream section(&cut);
-    QVERIFY(!report::readProbedIdentity(section).serial);
-}
-
-void tst_ReportParser::missingFileChangesNothing()
-{
-    readReport(samples::bytesOf("ata-seagate-st3250318as.txt"));
-    const QStringList rows = rowTexts();
-    const SmartAttributeRecord *head = g_pSmartAttributeHead;
-    QVERIFY(head && g_bSmartAvailable);
-    const QString path = tempFile("SMART.txt");
-    QFile::remove(nativePath(path));
-    takeReportIn(path);
-    QCOMPARE(g_pSmartAttributeHead, head);
-    QCOMPARE(rowTexts(), rows);
-    QVERIFY(g_bSmartAvailable);
-    QCOMPARE(g_strModelName, QString("ST3250318AS"));
-}
-
-void tst_ReportParser::emptyFileEmptiesTheKind()
-{
-    readReport(samples::bytesOf("ata-seagate-st3250318as.txt"));
-    readReport(samples::bytesOf("nvme-wdc-sn850-1tb.txt"));
-    QVERIFY(g_pSmartAttributeHead && g_pNvmeAttributeHead && g_bSmartAvailable);
-    readReport(QByteArray());
-    QVERIFY(g_App.m_bNVMe);
-    QVERIFY(!g_bSmartAvailable);
-    QVERIFY(!g_pNvmeAttributeHead && !g_pNvmeAttributeTail);
-    QVERIFY(g_pSmartAttributeHead);
-    QVERIFY(!QFile::exists(nativePath(tempFile("SMART.txt"))));
-}
-
-void tst_ReportParser::missingLinesKeepTheirTexts()
-{
-    g_strModelName = "m";
-    g_strSerialNumber = "s";
-    g_strFirmware = "f";
-    g_strAtaVersion = "v";
-    readReport("Serial Number: new\n" + AtaSection + AtaHeader + AtaRow);
-    QCOMPARE(g_strModelName, QString("m"));
-    QCOMPARE(g_strSerialNumber, QString("new"));
-    QCOMPARE(g_strFirmware, QString("f"));
-    QCOMPARE(g_strAtaVersion, QString("v"));
-    // The texts are those of this report, not of the disk before.
-    QCOMPARE(g_smartTable.drive.SerialNumber.text(), QString("new"));
-    QVERIFY(g_smartTable.drive.DeviceModel.isEmpty());
-    QVERIFY(g_smartTable.drive.AtaVersion.isEmpty());
-}
-
-void tst_ReportParser::otherKindKeepsItsList()
-{
-    readReport(samples::bytesOf("nvme-wdc-sn850-1tb.txt"));
-    const NvmeAttributeRecord *head = g_pNvmeAttributeHead;
-    readReport(samples::bytesOf("ata-seagate-st3250318as.txt"));
-    QCOMPARE(g_pNvmeAttributeHead, head);
-    QCOMPARE(samples::length(g_nvmeTable.rows), 17);
-    QVERIFY(!g_App.m_bNVMe);
-}
-
-void tst_ReportParser::rereadReplaces()
-{
-    readReport(samples::bytesOf("ata-transcend-ts120gmts420s.txt"));
-    readReport(samples::bytesOf("ata-apple-sm0256f.txt"));
-    QCOMPARE(samples::length(g_smartTable.rows), 13);
-    QCOMPARE(g_smartTable.drive.DeviceModel.text(), QString("APPLE SSD SM0256F"));
-    QVERIFY(!g_pSmartAttributeTail->Next);
-}
-
-void tst_ReportParser::headersAreTheToolsInEveryLanguage()
-{
-    OneWord translator;
-    QCoreApplication::installTranslator(&translator);
-    readReport("Nr. Name\n2 b\n\nID# only\n1 a\n");
-    QCoreApplication::removeTranslator(&translator);
-    QCOMPARE(rowTexts(), QStringList("a="));
-}
-
-void tst_ReportParser::utf16()
-{
-    const QString text = QString(AtaSection + AtaHeader + AtaRow + AtaRow).replace("\n", "\r\n");
-    QByteArray bytes("\xff\xfe");
-    bytes.append(reinterpret_cast<const char *>(text.utf16()), text.size() * 2);
-    g_App.m_bNVMe = true;
-    readReport(bytes);
-    QCOMPARE(rowTexts(), QStringList({"Raw_Read=7", "Raw_Read=7"}));
-}
-
-void tst_ReportParser::noise_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<int>("rows"); // -1: any number up to the limit
-    constexpr int Size = 10 * 1024 * 1024;
-    QByteArray random(Size, Qt::Uninitialized);
-    QRandomGenerator generator(7);
-    generator.fillRange(reinterpret_cast<quint32 *>(random.data()), Size / 4);
-    QTest::newRow("random bytes") << random << -1;
-    QTest::newRow("random table") << AtaHeader + random << -1;
-    QTest::newRow("random health log") << NvmeHeader + random << -1;
-    QTest::newRow("one line") << QByteArray(Size, 'x') << 0;
-    QTest::newRow("one row of blanks and words") << AtaHeader + QByteArray("a ").repeated(Size / 2) << 1;
-    QTest::newRow("one row of colons") << NvmeHeader + QByteArray("a:").repeated(Size / 2) << 1;
-    QTest::newRow("one long value") << "Device Model:" + QByteArray(Size, ':') + "y\n" + AtaHeader +
-                                           AtaRow.repeated(200)
-                                    << 200;
-    QTest::newRow("NULs") << QByteArray(Size, '\0') + '\n' + AtaHeader + AtaRow << 1;
-    QTest::newRow("newlines") << QByteArray(Size, '\n') + AtaHeader + AtaRow << 1;
-    QTest::newRow("broken UTF-8") << QByteArray("\xf0\x9f\x98").repeated(Size / 3) + '\n' + AtaHeader + AtaRow
-                                  << 1;
-    QTest::newRow("rows without end")
-        << AtaHeader + QByteArray("1 a\n").repeated(Size / 4) << report::MaxRows;
-    QTest::newRow("marker again and again")
-        << "data collection:" + QByteArray("data collection:(  ").repeated(Size / 19) + '\n' + AtaHeader +
-               AtaRow
-        << 1;
-}
-
-void tst_ReportParser::noise()
-{
-    QFETCH(QByteArray, bytes);
-    QFETCH(int, rows);
-    readReport(bytes);
-    const int got = rowTexts().size();
-    if (rows < 0)
-        QVERIFY(got <= report::MaxRows);
-    else
-        QCOMPARE(got, rows);
-    QVERIFY(!QFile::exists(nativePath(tempFile("SMART.txt"))));
-}
 
 QTEST_GUILESS_MAIN(tst_ReportParser)
 #include "tst_ReportParser.moc"

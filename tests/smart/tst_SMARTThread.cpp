@@ -15,131 +15,114 @@ class tst_SMARTThread : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
+    void init()
+    {
+        m_fake = FakePlatform::install();
+        g_App.m_bUse64BitTool = true;
+    }
 
-    void readsAndReports();
-    void stories_data();
-    void stories();
-    void destructorWaits();
+    void readsAndReports()
+    {
+        m_fake->onCommand = [](const QString &line) { return FakePlatform::answer(line, "report"); };
+        SMARTThread thread;
+        QSignalSpy told(&thread, &SMARTThread::OnLodingSmarInfo);
+        thread.RequestSmartRead(3);
+        QVERIFY(thread.wait(10000));
+        QCOMPARE(told.count(), 1);
+        QCOMPARE(m_fake->commands().size(), 1);
+        QVERIFY(m_fake->commands().at(0).contains(" -a /dev/sdd >> "));
+        const std::optional<LoadedReport> loaded = thread.takeReport();
+        QVERIFY(loaded && loaded->disk == 3 && loaded->device == "/dev/sdd");
+        QVERIFY(QFile::exists(nativePath(loaded->path)));
+        QVERIFY(!thread.takeReport());
+    }
+
+    // "0" to "9" asks for that disk, "." ends the tool that runs, "f" forgets, "t" takes the report. What
+    // comes back: the disks that are read, "-" for the end of a run; of "t" the disk or "n".
+    void stories_data()
+    {
+        QTest::addColumn<QByteArray>("story");
+        QTest::addColumn<QByteArray>("told");
+        const struct {
+            const char *name;
+            const char *story;
+            const char *told;
+        } rows[] = {
+            {"one read, taken once", "3.tt", "3-3n"},
+            {"nothing to take while it runs", "3t.", "3n-"},
+            {"of several the last one counts", "123..t", "13-3"},
+            {"the disk that is being read again", "1.1.t", "1-1-1"},
+            {"back to the disk that is being read", "121.t", "1-1"},
+            {"a newer request voids a report", "1.2t.t", "1-2n-2"},
+            {"forgotten in mid-read", "12f.t", "1-n"},
+            {"forgotten before it is taken", "1.ft", "1-n"},
+        };
+        for (const auto &row : rows)
+            QTest::newRow(row.name) << QByteArray(row.story) << QByteArray(row.told);
+    }
+
+    void stories()
+    {
+        QFETCH(QByteArray, story);
+        QByteArray told;
+        bool runs = false;
+        QSemaphore moved; // a tool has begun, or a run has ended
+        QSemaphore mayEnd;
+        m_fake->onCommand = [&](const QString &line) {
+            told += QByteArray::number(line.at(line.indexOf("/dev/sd") + 7).unicode() - 'a');
+            moved.release();
+            mayEnd.acquire();
+            return true;
+        };
+        SMARTThread thread;
+        const auto ended = [&] {
+            told += '-';
+            runs = false;
+            moved.release();
+        };
+        connect(&thread, &SMARTThread::OnLodingSmarInfo, &thread, ended, Qt::DirectConnection);
+        for (const char step : story) {
+            if (step == 't') {
+                const std::optional<LoadedReport> loaded = thread.takeReport();
+                told += loaded ? QByteArray::number(loaded->disk) : QByteArray("n");
+            } else if (step == 'f') {
+                thread.forget();
+            } else {
+                const bool waits = step == '.' || !runs;
+                if (step == '.') {
+                    mayEnd.release();
+                } else {
+                    runs = true;
+                    thread.RequestSmartRead(step - '0');
+                }
+                QVERIFY(!waits || moved.tryAcquire(1, 10000));
+            }
+            QVERIFY(thread.isReading() || !runs);
+        }
+        QTEST(told, "told");
+    }
+
+    void destructorWaits()
+    {
+        QSemaphore entered;
+        std::atomic<bool> ended{false};
+        m_fake->onCommand = [&](const QString &) {
+            entered.release();
+            QThread::msleep(200);
+            ended = true;
+            return true;
+        };
+        {
+            SMARTThread thread;
+            thread.RequestSmartRead(0);
+            QVERIFY(entered.tryAcquire(1, 10000));
+        }
+        QVERIFY(ended);
+    }
 
 private:
-    /// Makes the tool slow. `m_entered` is signalled at its start, `m_ended` is set at its end.
-    void slowTool(unsigned long milliseconds);
-
     FakePlatform *m_fake = nullptr;
-    QSemaphore m_entered;
-    std::atomic<bool> m_ended{false};
 };
-
-void tst_SMARTThread::init()
-{
-    m_fake = FakePlatform::install();
-    g_App.m_bUse64BitTool = true;
-    m_entered.tryAcquire(m_entered.available());
-    m_ended = false;
-}
-
-void tst_SMARTThread::slowTool(unsigned long milliseconds)
-{
-    m_fake->onCommand = [this, milliseconds](const QString &) {
-        m_entered.release();
-        QThread::msleep(milliseconds);
-        m_ended = true;
-        return true;
-    };
-}
-
-void tst_SMARTThread::readsAndReports()
-{
-    m_fake->onCommand = [](const QString &line) { return FakePlatform::answer(line, "report"); };
-    SMARTThread thread;
-    QSignalSpy told(&thread, &SMARTThread::OnLodingSmarInfo);
-    thread.RequestSmartRead(3);
-    QVERIFY(thread.wait(10000));
-    QCOMPARE(told.count(), 1);
-    QCOMPARE(m_fake->commands().size(), 1);
-    QVERIFY(m_fake->commands().at(0).contains(" -a /dev/sdd >> "));
-    const std::optional<LoadedReport> loaded = thread.takeReport();
-    QVERIFY(loaded && loaded->disk == 3 && loaded->device == "/dev/sdd");
-    QVERIFY(QFile::exists(nativePath(loaded->path)));
-    QVERIFY(!thread.takeReport());
-}
-
-// "0" to "9" asks for that disk, "." ends the tool that runs, "f" forgets, "t" takes the report. What comes
-// back: the disks that are read, "-" for the end of a run; of "t" the disk or "n".
-void tst_SMARTThread::stories_data()
-{
-    QTest::addColumn<QByteArray>("story");
-    QTest::addColumn<QByteArray>("told");
-    const struct {
-        const char *name;
-        const char *story;
-        const char *told;
-    } rows[] = {
-        {"one read, taken once", "3.tt", "3-3n"},
-        {"nothing to take while it runs", "3t.", "3n-"},
-        {"of several the last one counts", "123..t", "13-3"},
-        {"the disk that is being read again", "1.1.t", "1-1-1"},
-        {"back to the disk that is being read", "121.t", "1-1"},
-        {"a newer request voids a report", "1.2t.t", "1-2n-2"},
-        {"forgotten in mid-read", "12f.t", "1-n"},
-        {"forgotten before it is taken", "1.ft", "1-n"},
-    };
-    for (const auto &row : rows)
-        QTest::newRow(row.name) << QByteArray(row.story) << QByteArray(row.told);
-}
-
-void tst_SMARTThread::stories()
-{
-    QFETCH(QByteArray, story);
-    QByteArray told;
-    bool runs = false;
-    QSemaphore moved; // a tool has begun, or a run has ended
-    QSemaphore mayEnd;
-    m_fake->onCommand = [&](const QString &line) {
-        told += QByteArray::number(line.at(line.indexOf("/dev/sd") + 7).unicode() - 'a');
-        moved.release();
-        mayEnd.acquire();
-        return true;
-    };
-    SMARTThread thread;
-    const auto ended = [&] {
-        told += '-';
-        runs = false;
-        moved.release();
-    };
-    connect(&thread, &SMARTThread::OnLodingSmarInfo, &thread, ended, Qt::DirectConnection);
-    for (const char step : story) {
-        if (step == 't') {
-            const std::optional<LoadedReport> loaded = thread.takeReport();
-            told += loaded ? QByteArray::number(loaded->disk) : QByteArray("n");
-        } else if (step == 'f') {
-            thread.forget();
-        } else {
-            const bool waits = step == '.' || !runs;
-            if (step == '.') {
-                mayEnd.release();
-            } else {
-                runs = true;
-                thread.RequestSmartRead(step - '0');
-            }
-            QVERIFY(!waits || moved.tryAcquire(1, 10000));
-        }
-        QVERIFY(thread.isReading() || !runs);
-    }
-    QTEST(told, "told");
-}
-
-void tst_SMARTThread::destructorWaits()
-{
-    slowTool(200);
-    {
-        SMARTThread thread;
-        thread.RequestSmartRead(0);
-        QVERIFY(m_entered.tryAcquire(1, 10000));
-    }
-    QVERIFY(m_ended);
-}
 
 QTEST_GUILESS_MAIN(tst_SMARTThread)
 #include "tst_SMARTThread.moc"
