@@ -6,23 +6,24 @@
 #include "state/Globals.h"
 #include "state/Languages.h"
 #include "tests/platform/DescribedFolder.h"
+#include "tests/support/Files.h"
+#include "tests/ui/Named.h"
+#include "ui/dialogs/MessageDialog.h"
 #include "ui/widgets/MyButton.h"
 #include "ui/window/MainWindow.h"
 
+#include <QAction>
 #include <QtTest>
 
 /// The real window on a described PC of its own for each test.
 class WindowFixture
 {
 protected:
-    static void setUpProgram()
+    WindowFixture()
     {
         Q_INIT_RESOURCE(images);
         // A test cannot use a file dialog of the system.
         QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-        g_App.m_fScale = 1.0F;
-        g_App.m_bUse64BitTool = true;
-        languages::setFlag(0);
     }
 
     void addReport(const char *name, const QByteArray &contents) const
@@ -32,9 +33,17 @@ protected:
         m_pFolder->add(QLatin1String(name), contents);
     }
 
-    static QByteArray sample(const char *name)
+    /// A report of a real disk.
+    static QByteArray sample(const char *name) { return testData("/smart/", name); }
+    /// What a real drive tells of its self-tests.
+    static QByteArray capabilities(const char *name) { return testData("/selftest/", name); }
+
+    /// A PC with these disks. `settings` and `more`, the further keys, begin with a comma.
+    static QByteArray pcOf(const QByteArray &disks, const QByteArray &settings = QByteArray(),
+                           const QByteArray &more = QByteArray())
     {
-        return DescribedFolder::contents(QStringLiteral(HALVANE_TEST_DATA "/smart/") + QLatin1String(name));
+        return R"({"pauses": false, "settings": {"TempValue": "C", "FirstTimeLaunch": 1)" + settings +
+               R"(}, "disks": [)" + disks + "]" + more + "}";
     }
 
     /// Installs the PC of `json` and loads its disks. Its reports have to exist already.
@@ -43,6 +52,9 @@ protected:
         auto pc = m_pFolder->open(json);
         m_strState = pc->stateFolder();
         g_App.m_strSystemFolder = pc->GetSystemDirectoryW();
+        g_App.m_bUse64BitTool = true;
+        g_App.m_fScale = 1.0F;
+        languages::setFlag(0);
         Platform::install(std::move(pc));
         g_App.m_strSettingsPath = QStringLiteral("HKEY_LOCAL_MACHINE\\Software\\Velmora Halvane for Windows");
         g_strStartArgument.clear();
@@ -53,6 +65,14 @@ protected:
     {
         m_pWindow = std::make_unique<MainWindow>();
         m_pWindow->show();
+    }
+
+    /// The window on the PC of `json`, after its first read.
+    void openWindow(const QByteArray &json)
+    {
+        startPc(json);
+        makeWindow();
+        waitForRest();
     }
 
     void tearDown()
@@ -69,21 +89,48 @@ protected:
         m_pFolder = std::make_unique<DescribedFolder>();
     }
 
-    void waitForRead() { QTRY_VERIFY_WITH_TIMEOUT(!child<QFrame>("GifFrame")->isVisible(), 10000); }
+    /// Waits for the end of a read or a refresh.
+    void waitForRest() const { QTRY_VERIFY_WITH_TIMEOUT(!shown("GifFrame") && !g_bListsLoading, 10000); }
 
-    void select(int index)
+    void choose(int index) const
     {
         auto *combo = child<QComboBox>("DriveCombobox");
         combo->setCurrentIndex(index);
         emit combo->activated(index);
-        if (child<MyButton>("DiskStatusButton")->isDown() || child<MyButton>("SmartStatusButton")->isDown())
-            waitForRead();
+    }
+    /// Chooses a disk and waits until it was read.
+    void select(int index) const
+    {
+        choose(index);
+        waitForRest();
     }
 
-    void press(const char *button)
+    void press(const char *button) const
     {
         QTest::mousePress(child<MyButton>(button), Qt::LeftButton);
         QTest::mouseRelease(child<MyButton>(button), Qt::LeftButton);
+    }
+    void click(const char *button) const { child<QAbstractButton>(button)->click(); }
+    /// Answers the visible dialog of this class.
+    template<typename Dialog>
+    void answer(const char *button) const
+    {
+        buttonOf(dialog<Dialog>(), button)->click();
+    }
+
+    /// Pulls a disk out without a notice of its volumes.
+    void pullOut(int disk) const
+    {
+        QVERIFY(Platform::current().deviceNotifier()); // watches what is pulled out
+        touch(QStringLiteral("remove-disk%1").arg(disk));
+    }
+    /// Makes a file that plugs something in or pulls it out, and waits until the PC has acted on it.
+    void touch(const QString &name) const
+    {
+        const QString path = m_strState + QStringLiteral("/volumes-changed/") + name;
+        QVERIFY(writeFile(path, QByteArray()));
+        QTRY_VERIFY(!QFileInfo::exists(path));
+        QCoreApplication::processEvents();
     }
 
     /// How often a repeating test runs; HALVANE_ROUNDS changes the number.
@@ -94,18 +141,53 @@ protected:
     }
 
     template<typename Widget>
-    Widget *child(const char *name = "") const
+    Widget *child(const char *name = nullptr) const
     {
         return m_pWindow->findChild<Widget *>(QLatin1String(name));
     }
     QString text(const char *label) const { return child<QLabel>(label)->text(); }
     QString image(const char *label) const { return child<QLabel>(label)->property("imagePath").toString(); }
+    bool shown(const char *name) const { return child<QWidget>(name)->isVisible(); }
+    /// Whether all of these are visible, or none of them.
+    bool areShown(bool expected, std::initializer_list<const char *> names) const
+    {
+        return std::all_of(names.begin(), names.end(),
+                           [=](const char *name) { return shown(name) == expected; });
+    }
+    bool enabled(const char *name) const { return child<QWidget>(name)->isEnabled(); }
+    bool isDown(const char *button) const { return child<MyButton>(button)->isDown(); }
+
+    /// Whether everything that leads away from a job is enabled, or all of it disabled.
+    bool shellIs(bool free) const
+    {
+        for (const MyButton *entry : m_pWindow->findChildren<MyButton *>()) {
+            if (entry->isEnabled() != free)
+                return false;
+        }
+        return enabled("DriveCombobox") == free &&
+               m_pWindow->findChild<QAction *>(QStringLiteral("m_pSettingsAction"))->isEnabled() == free;
+    }
+
+    /// Title and texts of the box that tells how a job ended; empty if none shows.
+    static QString outcome()
+    {
+        const auto *box = dialog<InfoDialogClass>();
+        return box ? labelOf(box, "HeaderLabel")->text() + QLatin1Char('|') + labelOf(box, "label")->text() +
+                         QLatin1Char('|') + labelOf(box, "label_2")->text()
+                   : QString();
+    }
+
+    /// What the panel says that refuses something.
+    static QString refusal()
+    {
+        const auto *panel = dialog<DestinitionWarning>();
+        return panel ? labelOf(panel, "WarningTxtLbl")->text() : QString();
+    }
 
     /// The lines of a log of the PC, without the last, empty one.
     QList<QByteArray> logLines(const char *file) const
     {
-        QList<QByteArray> lines =
-            DescribedFolder::contents(m_strState + QLatin1Char('/') + QLatin1String(file)).split('\n');
+        QList<QByteArray> lines = contentOf(m_strState + QLatin1Char('/') + QLatin1String(file)).split('\n');
         lines.removeLast();
         return lines;
     }
@@ -120,4 +202,10 @@ protected:
     std::unique_ptr<DescribedFolder> m_pFolder = std::make_unique<DescribedFolder>();
     std::unique_ptr<MainWindow> m_pWindow;
     QString m_strState;
+
+private:
+    static QByteArray testData(const char *folder, const char *name)
+    {
+        return contentOf(QStringLiteral(HALVANE_TEST_DATA) + QLatin1String(folder) + QLatin1String(name));
+    }
 };

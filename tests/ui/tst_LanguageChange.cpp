@@ -86,7 +86,7 @@ class tst_LanguageChange : public QObject, private WindowFixture
     Q_OBJECT
 
 private slots:
-    void initTestCase();
+    void initTestCase() { QVERIFY(!programFolder().isEmpty()); }
     void looksLikeAStartInIt_data();
     void looksLikeAStartInIt();
     void cleanup();
@@ -99,25 +99,19 @@ private:
     Look walk();
 };
 
-void tst_LanguageChange::initTestCase()
-{
-    setUpProgram();
-    QVERIFY(!programFolder().isEmpty());
-}
-
 void tst_LanguageChange::start(int type)
 {
     m_pFolder = std::make_unique<DescribedFolder>();
     addReport("ata.txt", sample("ata-seagate-st31500341as.txt"));
-    startPc(R"({"pauses": false, "settings": {"TempValue": "C", "FirstTimeLaunch": 1}, "disks": [
-        {"number": 0, "model": "A ATA Device", "interface": "IDE", "sectors": 2097152, "report": "ata.txt"}],
-        "partitions": [{"disk": 0, "index": 0, "letter": "C:"}],
-        "volumes": [{"letter": "C", "fileSystem": "NTFS", "total": 900000000, "free": 300000000}]})");
+    startPc(pcOf(R"({"number": 0, "model": "A ATA Device", "sectors": 2097152, "report": "ata.txt"})",
+                 QByteArray(),
+                 R"(, "partitions": [{"disk": 0, "index": 0, "letter": "C:"}], "volumes": [
+                    {"letter": "C", "fileSystem": "NTFS", "total": 900000000, "free": 300000000}])"));
     g_strApplicationFolder = programFolder();
     languages::setFlag(type);
     languages::loadAtStart();
     makeWindow();
-    waitForRead();
+    waitForRest();
 }
 
 void tst_LanguageChange::cleanup()
@@ -152,18 +146,14 @@ Look tst_LanguageChange::walk()
     for (const char *button : {"SmartStatusButton", "DiskPartitionButton", "ScanDiskButton",
                                "CloneDiskButton", "DiskStatusButton"}) {
         press(button);
-        waitForRead();
+        waitForRest();
         add(QLatin1String(button), settledLook());
     }
     m_pWindow->OnShowSettings();
-    const auto windows = QApplication::topLevelWidgets();
-    for (QWidget *window : windows) {
-        if (qobject_cast<Settings *>(window) && window->isVisible()) {
-            QTest::qWait(50);
-            add(QStringLiteral("Settings"), lookOf(window));
-            window->hide();
-        }
-    }
+    auto *settings = dialog<Settings>();
+    QTest::qWait(50);
+    add(QStringLiteral("Settings"), lookOf(settings));
+    settings->hide();
     return all;
 }
 
