@@ -3,12 +3,8 @@
 #include "tests/ui/WindowFixture.h"
 #include "ui/screens/Settings.h"
 
-#include <QAction>
-#include <QComboBox>
 #include <QDir>
 #include <QHeaderView>
-#include <QLabel>
-#include <QPushButton>
 #include <QTreeWidget>
 
 namespace
@@ -60,8 +56,7 @@ void describe(const QWidget *widget, const QString &place, Look *look)
 Look lookOf(const QWidget *window)
 {
     Look look;
-    const auto widgets = window->findChildren<QWidget *>();
-    for (const QWidget *widget : widgets) {
+    for (const QWidget *widget : window->findChildren<QWidget *>()) {
         if (!widget->isVisible() || widget->objectName().isEmpty() ||
             widget->objectName().startsWith(QLatin1String("qt_")))
             continue;
@@ -70,8 +65,7 @@ Look lookOf(const QWidget *window)
             place.prepend(QLatin1Char('/') + part->objectName());
         describe(widget, place, &look);
     }
-    const auto actions = window->findChildren<QAction *>();
-    for (const QAction *action : actions) {
+    for (const QAction *action : window->findChildren<QAction *>()) {
         if (!action->objectName().isEmpty())
             look.insert(action->objectName() + QStringLiteral(" action"), action->text());
     }
@@ -87,107 +81,98 @@ class tst_LanguageChange : public QObject, private WindowFixture
 
 private slots:
     void initTestCase() { QVERIFY(!programFolder().isEmpty()); }
-    void looksLikeAStartInIt_data();
-    void looksLikeAStartInIt();
-    void cleanup();
+    void cleanup()
+    {
+        for (QTranslator &translator : g_App.m_aTranslators)
+            QCoreApplication::removeTranslator(&translator);
+        tearDown();
+    }
+
+    void looksLikeAStartInIt_data()
+    {
+        QTest::addColumn<int>("type");
+        for (const languages::Language &language : languages::table)
+            QTest::newRow(language.text) << static_cast<int>(language.type);
+    }
+
+    void looksLikeAStartInIt()
+    {
+        QFETCH(int, type);
+        start(type);
+        const Look started = walk();
+        QVERIFY(started.size() > 300);
+        cleanup();
+
+        start((type + 3) % LanguageCount);
+        walk();
+        for (int change = 1; change <= 20; ++change)
+            languages::change(LanguageType((type + change * 7 + 3) % LanguageCount));
+        languages::change(LanguageType(type));
+        const Look changed = walk();
+        QStringList differences;
+        for (const QString &place : (QSet<QString>(started.keyBegin(), started.keyEnd()) +
+                                     QSet<QString>(changed.keyBegin(), changed.keyEnd()))) {
+            if (started[place] != changed[place])
+                differences << place + QStringLiteral(": ") + started[place] + QStringLiteral(" | ") +
+                                   changed[place];
+        }
+        differences.sort();
+        QVERIFY2(differences.isEmpty(), qPrintable(QLatin1Char('\n') + differences.join(QLatin1Char('\n'))));
+    }
 
 private:
-    void start(int type);
-    /// The look of the window when its layout does not change any more.
-    Look settledLook() const;
-    /// The looks of the five screens and of Settings.
-    Look walk();
-};
-
-void tst_LanguageChange::start(int type)
-{
-    m_pFolder = std::make_unique<DescribedFolder>();
-    addReport("ata.txt", sample("ata-seagate-st31500341as.txt"));
-    startPc(pcOf(R"({"number": 0, "model": "A ATA Device", "sectors": 2097152, "report": "ata.txt"})",
-                 QByteArray(),
-                 R"(, "partitions": [{"disk": 0, "index": 0, "letter": "C:"}], "volumes": [
-                    {"letter": "C", "fileSystem": "NTFS", "total": 900000000, "free": 300000000}])"));
-    g_strApplicationFolder = programFolder();
-    languages::setFlag(type);
-    languages::loadAtStart();
-    makeWindow();
-    waitForRest();
-}
-
-void tst_LanguageChange::cleanup()
-{
-    for (QTranslator &translator : g_App.m_aTranslators)
-        QCoreApplication::removeTranslator(&translator);
-    tearDown();
-}
-
-Look tst_LanguageChange::settledLook() const
-{
-    constexpr int RestingRounds = 3;
-    constexpr int MostRounds = 100;
-    Look look;
-    for (int round = 0, resting = 0; round < MostRounds && resting < RestingRounds; ++round) {
-        QTest::qWait(20);
-        const Look now = lookOf(m_pWindow.get());
-        resting = now == look ? resting + 1 : 0;
-        look = now;
-    }
-    return look;
-}
-
-Look tst_LanguageChange::walk()
-{
-    Look all;
-    const auto add = [&all](const QString &screen, const Look &look) {
-        for (auto entry = look.cbegin(); entry != look.cend(); ++entry)
-            all.insert(screen + entry.key(), entry.value());
-    };
-    add(QStringLiteral("as it stands"), settledLook());
-    for (const char *button : {"SmartStatusButton", "DiskPartitionButton", "ScanDiskButton",
-                               "CloneDiskButton", "DiskStatusButton"}) {
-        press(button);
+    void start(int type)
+    {
+        addReport("ata.txt", sample("ata-seagate-st31500341as.txt"));
+        startPc(pcOf(R"({"number": 0, "model": "A ATA Device", "sectors": 2097152, "report": "ata.txt"})",
+                     QByteArray(),
+                     R"(, "partitions": [{"disk": 0, "index": 0, "letter": "C:"}], "volumes": [
+                        {"letter": "C", "fileSystem": "NTFS", "total": 900000000, "free": 300000000}])"));
+        g_strApplicationFolder = programFolder();
+        languages::setFlag(type);
+        languages::loadAtStart();
+        makeWindow();
         waitForRest();
-        add(QLatin1String(button), settledLook());
     }
-    m_pWindow->OnShowSettings();
-    auto *settings = dialog<Settings>();
-    QTest::qWait(50);
-    add(QStringLiteral("Settings"), lookOf(settings));
-    settings->hide();
-    return all;
-}
 
-void tst_LanguageChange::looksLikeAStartInIt_data()
-{
-    QTest::addColumn<int>("type");
-    for (const languages::Language &language : languages::table)
-        QTest::newRow(language.text) << static_cast<int>(language.type);
-}
-
-void tst_LanguageChange::looksLikeAStartInIt()
-{
-    QFETCH(int, type);
-    start(type);
-    const Look started = walk();
-    QVERIFY(started.size() > 300);
-    cleanup();
-
-    start((type + 3) % LanguageCount);
-    walk();
-    for (int change = 1; change <= 20; ++change)
-        languages::change(LanguageType((type + change * 7 + 3) % LanguageCount));
-    languages::change(LanguageType(type));
-    const Look changed = walk();
-    QStringList differences;
-    for (const QString &place : (QSet<QString>(started.keyBegin(), started.keyEnd()) +
-                                 QSet<QString>(changed.keyBegin(), changed.keyEnd()))) {
-        if (started[place] != changed[place])
-            differences << place + QStringLiteral(": ") + started[place] + QStringLiteral(" | ") +
-                               changed[place];
+    /// The look of the window when its layout does not change any more.
+    Look settledLook() const
+    {
+        constexpr int RestingRounds = 3;
+        constexpr int MostRounds = 400;
+        Look look;
+        for (int round = 0, resting = 0; round < MostRounds && resting < RestingRounds; ++round) {
+            QTest::qWait(5);
+            const Look now = lookOf(m_pWindow.get());
+            resting = now == look ? resting + 1 : 0;
+            look = now;
+        }
+        return look;
     }
-    differences.sort();
-    QVERIFY2(differences.isEmpty(), qPrintable(QLatin1Char('\n') + differences.join(QLatin1Char('\n'))));
-}
+
+    /// The looks of the five screens and of Settings.
+    Look walk() const
+    {
+        Look all;
+        const auto add = [&all](const QString &screen, const Look &look) {
+            for (auto entry = look.cbegin(); entry != look.cend(); ++entry)
+                all.insert(screen + entry.key(), entry.value());
+        };
+        add(QStringLiteral("as it stands"), settledLook());
+        for (const char *button : {"SmartStatusButton", "DiskPartitionButton", "ScanDiskButton",
+                                   "CloneDiskButton", "DiskStatusButton"}) {
+            press(button);
+            waitForRest();
+            add(QLatin1String(button), settledLook());
+        }
+        m_pWindow->OnShowSettings();
+        auto *settings = dialog<Settings>();
+        QTest::qWait(50);
+        add(QStringLiteral("Settings"), lookOf(settings));
+        settings->hide();
+        return all;
+    }
+};
 
 QTEST_MAIN(tst_LanguageChange)
 #include "tst_LanguageChange.moc"

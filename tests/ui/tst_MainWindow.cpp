@@ -146,11 +146,10 @@ private slots:
         QVERIFY(isSelected("ScanDiskButton") && !isSelected("DiskPartitionButton"));
 
         // The last pressed button counts.
-        press("DiskPartitionButton");
         press("SmartStatusButton");
+        press("DiskPartitionButton");
         answer<ScanSwitchClass>("YesButton");
-        QVERIFY(child<SmartStatus>()->isVisible() && !g_bScanResultOpen);
-        waitForRest();
+        QVERIFY(child<DiskPartition>()->isVisible() && !g_bScanResultOpen);
     }
 
     void aNoticeDuringARefreshIsNotLost()

@@ -195,6 +195,7 @@ private slots:
         select(2);
         QCOMPARE(text("TotalBlkValLbl"), QStringLiteral("0"));
         select(1);
+        QCOMPARE(text("DiskSizeValLbl"), QStringLiteral("7.81 GB"));
         QCOMPARE(text("TotalBlkValLbl"), QString::number(SlowSectors));
         QCOMPARE(text("BadBlkValLbl") + text("ProcessedVal") + text("BlockSizeValLbl"),
                  QStringLiteral("000"));

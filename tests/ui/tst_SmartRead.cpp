@@ -275,6 +275,8 @@ private slots:
         const QChart *shownChart = chart();
         const HistoryPaths paths = historyPaths(QStringLiteral("SN0"));
         QVERIFY(QFile::remove(paths.dates) && QFile::remove(paths.values));
+        changeLanguage(child<QWidget>("m_pSmartWgt"));
+        QCOMPARE(text("GraphLabel"), QStringLiteral("Graph"));
         // As after a disk without SMART.
         g_bSmartAvailable = false;
         tree()->topLevelItem(1)->setText(1, QStringLiteral("other language"));
