@@ -87,7 +87,7 @@ void tst_SystemTools::wmic_data()
     QTest::newRow("diskdrive get Model,InterfaceType,Status,Index")
         << "Index  InterfaceType  Model                     Status  \r\n"
            "1      IDE            Quill Data 40 ATA Device  OK      \r\n"
-           "0      USB            Tarn Stick USB Device     OK      \r\n\r\n";
+           "0      USB            Tarn Stick USB\uFFFDDevice     OK      \r\n\r\n";
     // The size in whole cylinders, and blank without a medium.
     QTest::newRow("DISKDRIVE GET SIZE, deviceid,mediatype,partitions")
         << "DeviceID            MediaType              Partitions  Size           \r\n"
