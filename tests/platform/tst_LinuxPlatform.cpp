@@ -4,44 +4,20 @@
 #include "platform/linux/LinuxTools.h"
 #include "platform/linux/RawDevice.h"
 #include "tests/platform/LoopDevice.h"
+#include "tests/support/Files.h"
 #include "tests/support/LinuxPlaces.h"
 
-#include <QDir>
-#include <QFile>
-#include <QProcess>
 #include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QtTest>
-
-#include <unistd.h>
 
 namespace
 {
 
 constexpr int Sectors = 2049;
 constexpr int SectorSize = 512;
-const QString FirstDisk = QStringLiteral("\\\\.\\PHYSICALDRIVE0");
-
-QByteArray pattern()
-{
-    QByteArray bytes(Sectors * SectorSize, '\0');
-    for (int i = 0; i < bytes.size(); ++i)
-        bytes[i] = static_cast<char>((i * 31 + i / SectorSize) & 0xFF);
-    return bytes;
-}
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void writeFile(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(bytes), qint64(bytes.size()));
-}
+constexpr quint32 ReadWrite = io::GenericRead | io::GenericWrite;
+const QString FirstDisk = "\\\\.\\PHYSICALDRIVE0";
 
 } // namespace
 
@@ -50,17 +26,14 @@ class tst_LinuxPlatform : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void init();
+    void init() { m_folder.reset(new QTemporaryDir); }
     void rawDisk_data();
     void rawDisk();
     void bigSectors();
     void opensOnlyWhatIsThere();
     void tellsOnRequest();
     void handlesThatAreNone();
-    void mountedVolume();
     void inventoryTool();
-    void smartctlDevice_data();
     void smartctlDevice();
     void smartctlOutput();
     void endsACompanion();
@@ -68,35 +41,25 @@ private slots:
 private:
     void checkReads(Platform &pc, Platform::RawHandle handle);
     void checkWrites(Platform &pc, Platform::RawHandle handle);
-    QString path(const char *name) const { return m_folder->filePath(QLatin1String(name)); }
-    std::unique_ptr<Platform> platformOn(const QString &node);
-    bool runLine(Platform &pc, const QString &command);
+    QString path(const char *name) const { return m_folder->filePath(name); }
+    Platform::RawHandle openFirst(quint32 access) const
+    {
+        return m_pc->CreateFileW(FirstDisk, access, io::ShareRead | io::ShareWrite, io::OpenExisting);
+    }
+    void startOn(const QString &node)
+    {
+        qputenv("HALVANE_DISKS", node.toUtf8());
+        m_pc = linuxPcIn(m_home.path());
+    }
+    bool runLine(const QString &command)
+    {
+        return m_pc->CreateProcessAndWait(QString("CMD.EXE /c %1 ").arg(command).toStdWString(), true);
+    }
 
     QTemporaryDir m_home;
     QScopedPointer<QTemporaryDir> m_folder;
+    std::unique_ptr<Platform> m_pc;
 };
-
-void tst_LinuxPlatform::initTestCase()
-{
-    QVERIFY(m_home.isValid());
-}
-
-void tst_LinuxPlatform::init()
-{
-    m_folder.reset(new QTemporaryDir);
-    QVERIFY(m_folder->isValid());
-}
-
-std::unique_ptr<Platform> tst_LinuxPlatform::platformOn(const QString &node)
-{
-    qputenv("HALVANE_DISKS", node.toUtf8());
-    return linuxPcIn(m_home.path());
-}
-
-bool tst_LinuxPlatform::runLine(Platform &pc, const QString &command)
-{
-    return pc.CreateProcessAndWait(QStringLiteral("CMD.EXE /c %1 ").arg(command).toStdWString(), true);
-}
 
 void tst_LinuxPlatform::rawDisk_data()
 {
@@ -109,72 +72,59 @@ void tst_LinuxPlatform::rawDisk()
 {
     QFETCH(bool, loop);
     const QString image = path("disk.img");
-    writeFile(image, pattern());
-    QScopedPointer<LoopDevice> device(loop ? new LoopDevice(image) : nullptr);
+    QVERIFY(writeFile(image, pattern(Sectors)));
+    const QScopedPointer<LoopDevice> device(loop ? new LoopDevice(image) : nullptr);
     if (loop && device->node().isEmpty())
         QSKIP("no loop devices here");
-    const auto pc = platformOn(loop ? device->node() : image);
-
-    const auto handle = pc->CreateFileW(FirstDisk, io::GenericRead | io::GenericWrite,
-                                        io::ShareRead | io::ShareWrite, io::OpenExisting);
+    startOn(loop ? device->node() : image);
+    const auto handle = openFirst(ReadWrite);
     QVERIFY(handle != Platform::InvalidHandle);
     io::DiskGeometryEx geometry{};
     quint32 returned = 0;
-    QVERIFY(pc->DeviceIoControl(handle, io::DiskGetDriveGeometryEx, nullptr, 0, &geometry, sizeof(geometry),
-                                &returned));
-    QCOMPARE(returned, quint32(sizeof(geometry)));
+    const auto asks = [&](quint32 code, quint32 room) {
+        return m_pc->DeviceIoControl(handle, code, nullptr, 0, &geometry, room, &returned);
+    };
+    QVERIFY(asks(io::DiskGetDriveGeometryEx, sizeof geometry));
+    QCOMPARE(returned, quint32(sizeof geometry));
     QCOMPARE(geometry.diskSize, qint64(Sectors) * SectorSize);
     QCOMPARE(geometry.geometry.bytesPerSector, quint32(SectorSize));
     QCOMPARE(geometry.geometry.mediaType, quint32(io::MediaFixed));
-    QVERIFY(!pc->DeviceIoControl(handle, io::DiskGetDriveGeometry, nullptr, 0, &geometry, 23, &returned));
-    QVERIFY(
-        !pc->DeviceIoControl(handle, io::VolumeGetVolumeDiskExtents, nullptr, 0, &geometry, 40, &returned));
-    io::GetVersionInParams version{};
-    QVERIFY(
-        !pc->DeviceIoControl(handle, io::SmartGetVersion, nullptr, 0, &version, sizeof(version), &returned));
-    checkReads(*pc, handle);
-    QCOMPARE(contentOf(image), pattern());
-    checkWrites(*pc, handle);
-    QVERIFY(pc->FlushFileBuffers(handle));
-
-    QByteArray expected = pattern();
+    QVERIFY(!asks(io::DiskGetDriveGeometry, 23));
+    QVERIFY(!asks(io::VolumeGetVolumeDiskExtents, sizeof geometry));
+    QVERIFY(!asks(io::SmartGetVersion, sizeof geometry));
+    checkReads(*m_pc, handle);
+    QCOMPARE(contentOf(image), pattern(Sectors));
+    checkWrites(*m_pc, handle);
+    QVERIFY(m_pc->FlushFileBuffers(handle));
+    QByteArray expected = pattern(Sectors);
     expected.replace(3 * SectorSize, 2 * SectorSize, QByteArray(2 * SectorSize, 'w'));
     expected.replace((Sectors - 1) * SectorSize, SectorSize, QByteArray(SectorSize, 'w'));
-    QCOMPARE(contentOf(image).size(), expected.size());
-    QCOMPARE(contentOf(image), expected);
+    QVERIFY(contentOf(image) == expected);
 
-    QVERIFY(!pc->IsGone(handle));
+    QVERIFY(!m_pc->IsGone(handle));
     QVERIFY(QFile::resize(image, 0));
     if (loop)
-        QVERIFY(runs(QStringLiteral("losetup"), {QStringLiteral("-c"), device->node()}));
-    QVERIFY(pc->IsGone(handle));
-    pc->CloseHandle(handle);
+        QVERIFY(runs("losetup", {"-c", device->node()}));
+    QVERIFY(m_pc->IsGone(handle));
+    m_pc->CloseHandle(handle);
 }
 
 void tst_LinuxPlatform::checkReads(Platform &pc, Platform::RawHandle handle)
 {
-    const QByteArray content = pattern();
+    const QByteArray content = pattern(Sectors);
     QByteArray buffer(content.size() + SectorSize, 'x');
     quint32 got = 0;
-
     // The whole disk, to an odd address, past the end.
     QVERIFY(pc.ReadFile(handle, buffer.data() + 1, quint32(content.size() + 100), &got));
     QCOMPARE(got, quint32(content.size()));
-    QCOMPARE(buffer.mid(1, content.size()), content);
+    QVERIFY(buffer.mid(1, content.size()) == content);
     QVERIFY(!pc.ReadFile(handle, buffer.data(), SectorSize, &got));
     QCOMPARE(got, 0u);
-
-    // Four sectors are asked for at the last one, which is read; then two sectors one after the other.
-    QVERIFY(pc.SetFilePointer(handle, (Sectors - 1) * SectorSize));
-    QVERIFY(pc.ReadFile(handle, buffer.data(), 4 * SectorSize, &got));
-    QCOMPARE(got, quint32(SectorSize));
-    QCOMPARE(buffer.left(SectorSize), content.right(SectorSize));
+    // Two sectors one after the other, then a part of a sector.
     QVERIFY(pc.SetFilePointer(handle, 7 * SectorSize));
     QVERIFY(pc.ReadFile(handle, buffer.data(), SectorSize, nullptr));
     QVERIFY(pc.ReadFile(handle, buffer.data() + SectorSize, SectorSize, &got));
     QCOMPARE(buffer.left(2 * SectorSize), content.mid(7 * SectorSize, 2 * SectorSize));
-
-    // A part of a sector.
     QVERIFY(pc.SetFilePointer(handle, SectorSize + 100));
     QVERIFY(pc.ReadFile(handle, buffer.data(), 600, &got));
     QCOMPARE(buffer.left(600), content.mid(SectorSize + 100, 600));
@@ -195,8 +145,7 @@ void tst_LinuxPlatform::checkWrites(Platform &pc, Platform::RawHandle handle)
     QCOMPARE(put, quint32(SectorSize));
     QVERIFY(!pc.WriteFile(handle, data.constData(), SectorSize, &put));
     QCOMPARE(put, 0u);
-
-    const auto reader = pc.CreateFileW(FirstDisk, io::GenericRead, io::ShareRead, io::OpenExisting);
+    const auto reader = openFirst(io::GenericRead);
     QVERIFY(reader != Platform::InvalidHandle);
     QVERIFY(!pc.WriteFile(reader, data.constData(), SectorSize, &put));
     pc.CloseHandle(reader);
@@ -204,171 +153,110 @@ void tst_LinuxPlatform::checkWrites(Platform &pc, Platform::RawHandle handle)
 
 void tst_LinuxPlatform::bigSectors()
 {
-    const QString image = path("disk.img");
-    const QByteArray content = pattern().left(64 * 4096);
-    writeFile(image, content);
-    const LoopDevice device(image, {QStringLiteral("-b"), QStringLiteral("4096")});
+    const QByteArray content = pattern(512);
+    QVERIFY(writeFile(path("disk.img"), content));
+    const LoopDevice device(path("disk.img"), {"-b", "4096"});
     if (device.node().isEmpty())
         QSKIP("no loop devices here");
-    const auto pc = platformOn(device.node());
-    const auto handle =
-        pc->CreateFileW(FirstDisk, io::GenericRead | io::GenericWrite, io::ShareRead, io::OpenExisting);
+    startOn(device.node());
+    const auto handle = openFirst(ReadWrite);
     io::DiskGeometry geometry{};
-    QVERIFY(pc->DeviceIoControl(handle, io::DiskGetDriveGeometry, nullptr, 0, &geometry, sizeof(geometry),
-                                nullptr));
+    QVERIFY(m_pc->DeviceIoControl(handle, io::DiskGetDriveGeometry, nullptr, 0, &geometry, sizeof geometry,
+                                  nullptr));
     QCOMPARE(geometry.bytesPerSector, 4096u);
-
     QByteArray sector(SectorSize, 'x');
-    quint32 moved = 0;
-    QVERIFY(pc->SetFilePointer(handle, 9 * SectorSize));
-    QVERIFY(pc->ReadFile(handle, sector.data(), SectorSize, &moved));
+    QVERIFY(m_pc->SetFilePointer(handle, 9 * SectorSize));
+    QVERIFY(m_pc->ReadFile(handle, sector.data(), SectorSize, nullptr));
     QCOMPARE(sector, content.mid(9 * SectorSize, SectorSize));
-    QVERIFY(pc->SetFilePointer(handle, 9 * SectorSize));
-    QVERIFY(!pc->WriteFile(handle, sector.constData(), SectorSize, &moved));
-    pc->CloseHandle(handle);
-    QCOMPARE(contentOf(image), content);
+    QVERIFY(m_pc->SetFilePointer(handle, 9 * SectorSize));
+    QVERIFY(!m_pc->WriteFile(handle, sector.constData(), SectorSize, nullptr));
+    m_pc->CloseHandle(handle);
+    QVERIFY(contentOf(path("disk.img")) == content);
 }
 
 void tst_LinuxPlatform::opensOnlyWhatIsThere()
 {
-    writeFile(path("disk.img"), pattern());
-    const auto pc = platformOn(path("disk.img") + QLatin1Char(':') + path("absent.img"));
+    QVERIFY(writeFile(path("disk.img"), pattern(1)));
+    startOn(path("disk.img") + ':' + path("absent.img"));
     for (const char *name : {"\\\\.\\PHYSICALDRIVE1", "\\\\.\\PHYSICALDRIVE2", "\\\\.\\PHYSICALDRIVE",
                              "\\\\.\\PHYSICALDRIVE-0x", "\\\\.\\C:", "\\\\.\\", "", "/dev/null"})
-        QCOMPARE(
-            pc->CreateFileW(QLatin1String(name), io::GenericRead | io::GenericWrite, 0, io::OpenExisting),
-            Platform::InvalidHandle);
-    QCOMPARE(pc->CreateFileW(FirstDisk, io::GenericRead, 0, io::CreateNew), Platform::InvalidHandle);
+        QCOMPARE(m_pc->CreateFileW(name, ReadWrite, 0, io::OpenExisting), Platform::InvalidHandle);
+    QCOMPARE(m_pc->CreateFileW(FirstDisk, io::GenericRead, 0, io::CreateNew), Platform::InvalidHandle);
     QVERIFY(!QFile::exists(path("absent.img")));
-    QVERIFY(pc->GetLogicalDriveStringsW().isEmpty());
-    QCOMPARE(pc->GetDriveTypeW(QStringLiteral("C:\\")), quint32(io::DriveNoRootDir));
+    QVERIFY(m_pc->GetLogicalDriveStringsW().isEmpty());
+    QCOMPARE(m_pc->GetDriveTypeW("C:\\"), quint32(io::DriveNoRootDir));
 }
 
 void tst_LinuxPlatform::tellsOnRequest()
 {
     QVERIFY(!logs::platform().isDebugEnabled());
-    QLoggingCategory::setFilterRules(QStringLiteral("halvane.platform=true"));
-    const auto quiet = qScopeGuard([] { QLoggingCategory::setFilterRules(QString()); });
+    QLoggingCategory::setFilterRules("halvane.platform=true");
+    const auto quiet = qScopeGuard([] { QLoggingCategory::setFilterRules({}); });
     QTest::ignoreMessage(QtDebugMsg, "/dev/no-such-disk does not open: No such file or directory");
-    QVERIFY(!RawDevice::open(QStringLiteral("/dev/no-such-disk"), false));
+    QVERIFY(!RawDevice::open("/dev/no-such-disk", false));
 }
 
 void tst_LinuxPlatform::handlesThatAreNone()
 {
-    writeFile(path("disk.img"), pattern());
-    const auto pc = platformOn(path("disk.img"));
-    const auto handle = pc->CreateFileW(FirstDisk, io::GenericRead, 0, io::OpenExisting);
-    pc->CloseHandle(handle);
-    pc->CloseHandle(handle);
+    QVERIFY(writeFile(path("disk.img"), pattern(1)));
+    startOn(path("disk.img"));
+    const auto handle = openFirst(io::GenericRead);
+    m_pc->CloseHandle(handle);
     char byte = 0;
     quint32 moved = 9;
-    for (const Platform::RawHandle none : {handle, Platform::InvalidHandle, Platform::RawHandle(0)}) {
-        QVERIFY(!pc->SetFilePointer(none, 0));
-        QVERIFY(!pc->ReadFile(none, &byte, 1, &moved));
+    for (const Platform::RawHandle none : {handle, Platform::InvalidHandle}) {
+        QVERIFY(!m_pc->SetFilePointer(none, 0));
+        QVERIFY(!m_pc->ReadFile(none, &byte, 1, &moved));
         QCOMPARE(moved, 0u);
-        QVERIFY(!pc->WriteFile(none, &byte, 1, nullptr));
-        QVERIFY(!pc->DeviceIoControl(none, io::DiskGetDriveGeometry, nullptr, 0, &byte, 1, nullptr));
-        pc->CloseHandle(none);
+        QVERIFY(!m_pc->WriteFile(none, &byte, 1, nullptr));
+        QVERIFY(!m_pc->DeviceIoControl(none, io::DiskGetDriveGeometry, nullptr, 0, &byte, 1, nullptr));
+        QVERIFY(!m_pc->FlushFileBuffers(none) && m_pc->IsGone(none));
+        m_pc->CloseHandle(none);
     }
-}
-
-void tst_LinuxPlatform::mountedVolume()
-{
-    const QString image = path("disk.img");
-    writeFile(image, QByteArray(4 * 1024 * 1024, '\0'));
-    const LoopDevice device(image);
-    const QString folder = path("mnt");
-    QDir().mkpath(folder);
-    if (device.node().isEmpty() ||
-        !runs(QStringLiteral("mke2fs"),
-              {QStringLiteral("-q"), QStringLiteral("-L"), QStringLiteral("Probe"), device.node()}) ||
-        !runs(QStringLiteral("mount"), {device.node(), folder}))
-        QSKIP("no volumes can be mounted here");
-    const auto unmount = qScopeGuard([&folder] { runs(QStringLiteral("umount"), {folder}); });
-
-    const auto pc = platformOn(device.node());
-    QCOMPARE(pc->GetLogicalDriveStringsW(), QStringList{QStringLiteral("D:\\")});
-    QString fileSystem;
-    QVERIFY(pc->GetVolumeInformationW(QStringLiteral("d:\\"), nullptr, &fileSystem));
-    QVERIFY2(fileSystem.startsWith(QLatin1String("ext")), qPrintable(fileSystem));
-    QCOMPARE(pc->GetDriveTypeW(QStringLiteral("D:\\")), quint32(io::DriveFixed));
-    quint64 total = 0;
-    quint64 free = 0;
-    QVERIFY(pc->GetDiskFreeSpaceExW(QStringLiteral("D:\\"), &total, &free));
-    QVERIFY(total > 1024 * 1024 && total <= 4 * 1024 * 1024);
-    QVERIFY(free > 0 && free < total);
-
-    const auto handle =
-        pc->CreateFileW(QStringLiteral("\\\\.\\D:"), io::GenericRead, io::ShareRead, io::OpenExisting);
-    QVERIFY(handle != Platform::InvalidHandle);
-    io::VolumeDiskExtents extents{};
-    QVERIFY(!pc->DeviceIoControl(handle, io::VolumeGetVolumeDiskExtents, nullptr, 0, &extents, 31, nullptr));
-    QVERIFY(pc->DeviceIoControl(handle, io::VolumeGetVolumeDiskExtents, nullptr, 0, &extents, sizeof(extents),
-                                nullptr));
-    QCOMPARE(extents.numberOfDiskExtents, 1u);
-    QCOMPARE(extents.extents[0].diskNumber, 0u);
-    QCOMPARE(extents.extents[0].startingOffset, qint64(0));
-    QCOMPARE(extents.extents[0].extentLength, qint64(4 * 1024 * 1024));
-    pc->CloseHandle(handle);
 }
 
 void tst_LinuxPlatform::inventoryTool()
 {
-    writeFile(path("disk.img"), pattern());
-    const auto pc = platformOn(path("disk.img"));
-    const QString target = path("out.txt");
-    QVERIFY(runLine(
-        *pc, pc->GetSystemDirectoryW() +
-                 QStringLiteral("\\wbem\\WMIC.exe diskdrive get Model,InterfaceType,Status,Index >> ") +
-                 target));
-    const QByteArray bytes = contentOf(target);
-    QVERIFY(bytes.startsWith("\xFF\xFE"));
-    QCOMPARE(QString::fromUtf16(reinterpret_cast<const ushort *>(bytes.constData()), bytes.size() / 2),
-             QStringLiteral("Index  InterfaceType  Model                     Status  \r\n"
-                            "0      SCSI           Disk disk.img HDD Device  OK      \r\n\r\n"));
-}
-
-void tst_LinuxPlatform::smartctlDevice_data()
-{
-    QTest::addColumn<QString>("words");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("first") << QStringLiteral("-a /dev/sda") << QStringLiteral("-a /dev/nvme0n1");
-    QTest::newRow("type passed on") << QStringLiteral("-a -d sat,12 /dev/sdc")
-                                    << QStringLiteral("-a -d sat,12 /dev/sdb");
-    QTest::newRow("a gap is no disk") << QStringLiteral("-a /dev/sdb") << QString();
-    QTest::newRow("behind the last") << QStringLiteral("-t short /dev/sdd") << QString();
-    QTest::newRow("longer name") << QStringLiteral("-a /dev/sda1") << QString();
-    QTest::newRow("no device") << QStringLiteral("-a") << QStringLiteral("-a");
+    QVERIFY(writeFile(path("disk.img"), pattern(1)));
+    startOn(path("disk.img"));
+    QVERIFY(runLine(m_pc->GetSystemDirectoryW() + "\\wbem\\WMIC.exe diskdrive get Model,Status,Index >> " +
+                    path("out.txt")));
+    QCOMPARE(contentOf(path("out.txt")), utf16("Index  Model                     Status  \r\n"
+                                               "0      Disk disk.img HDD Device  OK      \r\n\r\n"));
 }
 
 void tst_LinuxPlatform::smartctlDevice()
 {
-    QFETCH(QString, words);
-    QFETCH(QString, expected);
     inventory::Machine machine;
     machine.disks.resize(2);
-    machine.disks[0].node = QStringLiteral("/dev/nvme0n1");
+    machine.disks[0].node = "/dev/nvme0n1";
     machine.disks[1].number = 2;
-    machine.disks[1].node = QStringLiteral("/dev/sdb");
-    QCOMPARE(linuxtools::smartctlArguments(machine, words.split(QLatin1Char(' '))).join(QLatin1Char(' ')),
-             expected);
+    machine.disks[1].node = "/dev/sdb";
+    const auto asked = [&machine](const QString &words) {
+        return linuxtools::smartctlArguments(machine, words.split(' ')).join(' ');
+    };
+    QCOMPARE(asked("-a /dev/sda"), "-a /dev/nvme0n1");
+    QCOMPARE(asked("-a -d sat,12 /dev/sdc"), "-a -d sat,12 /dev/sdb");
+    QCOMPARE(asked("-a"), "-a");
+    for (const char *none : {"-a /dev/sdb", "-t short /dev/sdd", "-a /dev/sda1"})
+        QCOMPARE(asked(none), QString());
 }
 
 void tst_LinuxPlatform::smartctlOutput()
 {
-    writeFile(path("smartctl"), "#!/bin/sh\necho \"asked $*\"\necho noise >&2\nexit 64\n");
-    QFile::setPermissions(path("smartctl"), QFile::ReadOwner | QFile::ExeOwner);
-    writeFile(path("disk.img"), pattern());
+    QVERIFY(writeFile(path("smartctl"), "#!/bin/sh\necho \"asked $*\"\necho noise >&2\nexit 64\n"));
+    QVERIFY(QFile::setPermissions(path("smartctl"), QFile::ReadOwner | QFile::ExeOwner));
+    QVERIFY(writeFile(path("disk.img"), pattern(1)));
     const QByteArray oldPath = qgetenv("PATH");
     qputenv("PATH", m_folder->path().toUtf8() + ':' + oldPath);
     const auto restore = qScopeGuard([&oldPath] { qputenv("PATH", oldPath); });
 
-    const auto pc = platformOn(path("disk.img"));
-    const QString line = QStringLiteral("smartctl64Bit.exe -a  -d sat,12 /dev/sda >> ") + path("out.txt");
+    startOn(path("disk.img"));
+    const QString line = "smartctl64Bit.exe -a  -d sat,12 /dev/sda >> " + path("out.txt");
     const auto rootAgain = qScopeGuard([] { (void)seteuid(getuid()); });
     if (getuid() == 0) {
         // As root no tool is taken from the search path.
-        QVERIFY(runLine(*pc, line));
+        QVERIFY(runLine(line));
         QVERIFY(!contentOf(path("out.txt")).contains("asked"));
         QVERIFY(QFile::remove(path("out.txt")));
         constexpr uid_t Nobody = 65534;
@@ -376,31 +264,28 @@ void tst_LinuxPlatform::smartctlOutput()
             QCOMPARE(chown(QFile::encodeName(name).constData(), Nobody, Nobody), 0);
         QCOMPARE(seteuid(Nobody), 0);
     }
-    QVERIFY(runLine(*pc, line));
+    QVERIFY(runLine(line));
     QCOMPARE(contentOf(path("out.txt")), "asked -a -d sat,12 " + path("disk.img").toUtf8() + '\n');
 }
 
 void tst_LinuxPlatform::endsACompanion()
 {
-    const QString name = QStringLiteral("hvprobe%1").arg(getpid());
-    const QString program = m_folder->filePath(name);
-    QVERIFY(QFile::copy(QStringLiteral("/bin/sleep"), program));
+    const QString name = QString("hvprobe%1").arg(getpid());
+    QVERIFY(QFile::copy("/bin/sleep", m_folder->filePath(name)));
     QProcess companion;
-    companion.start(program, {QStringLiteral("60")});
+    companion.start(m_folder->filePath(name), {"60"});
     QVERIFY(companion.waitForStarted());
 
-    const auto pc = platformOn(path("none.img"));
-    const QString system = pc->GetSystemDirectoryW();
-    const QString ask =
-        QStringLiteral("%1\\tasklist.exe | %1\\findstr.exe %2.exe >> %3").arg(system, name, path("tmpFile"));
-    QVERIFY(runLine(*pc, ask));
-    QVERIFY(contentOf(path("tmpFile")).startsWith(name.toLatin1() + ".exe "));
-    QVERIFY(runLine(*pc, QStringLiteral("%1\\Taskkill.exe /IM %2.exe /F").arg(system, name)));
+    startOn(path("none.img"));
+    const auto listed = [&] {
+        QFile::remove(path("out.txt"));
+        runLine(QString("S\\tasklist.exe | S\\findstr.exe %1.exe >> %2").arg(name, path("out.txt")));
+        return contentOf(path("out.txt"));
+    };
+    QVERIFY(listed().startsWith(name.toLatin1() + ".exe "));
+    QVERIFY(runLine(QString("S\\Taskkill.exe /IM %1.exe /F").arg(name)));
     QVERIFY(companion.waitForFinished(5000));
-    QFile::remove(path("tmpFile"));
-    QVERIFY(runLine(*pc, ask));
-    QVERIFY(QFile::exists(path("tmpFile")));
-    QCOMPARE(contentOf(path("tmpFile")), QByteArray());
+    QCOMPARE(listed(), QByteArray());
 }
 
 QTEST_GUILESS_MAIN(tst_LinuxPlatform)
