@@ -4,6 +4,7 @@
 #include "platform/tools/MasterBootRecord.h"
 #include "tests/platform/DescribedFolder.h"
 #include "tests/support/DiskImage.h"
+#include "tests/support/Files.h"
 
 #include <QtTest>
 
@@ -36,7 +37,6 @@ private slots:
     void scripts_data();
     void scripts();
     void endsAtTheFirstError();
-    void withoutScript();
     void wipesAndPartitions_data();
     void wipesAndPartitions();
     void largestPartition();
@@ -44,76 +44,57 @@ private slots:
 
 void tst_Diskpart::scripts_data()
 {
-    QTest::addColumn<QByteArray>("script");
     QTest::addColumn<QByteArray>("did");
-    QTest::addColumn<QString>("said");
-    const QString leaving = QStringLiteral("Leaving DiskPart...");
-    const QString torn = QStringLiteral("Reached the end of the file.");
-    const QString bad = QStringLiteral("The arguments specified for this command are not valid.");
-    const QString noDisk = QStringLiteral("There is no disk selected.");
-    QTest::newRow("all, in odd letters")
-        << QByteArray(
-               "sElEcT dIsK 12\r\n\r\nONLINE disk\nClean\r\n  convert   MBR \ncreate partition primary\n"
-               "RESCAN\nexit")
+    QTest::addColumn<QByteArray>("said");
+    const QByteArray leaving = "Leaving DiskPart...";
+    const QByteArray torn = "Reached the end of the file.";
+    const QByteArray bad = "The arguments specified for this command are not valid.";
+    const QByteArray noDisk = "There is no disk selected.";
+    // Named after the script.
+    QTest::newRow("sElEcT dIsK 12\r\n\r\nONLINE disk\nClean\r\n  convert   MBR \ncreate partition primary\n"
+                  "RESCAN\nexit")
         << QByteArray("online12 clean12 mbr12 primary12 rescan12 ") << leaving;
-    QTest::newRow("two disks") << QByteArray("select disk 1\nclean\nselect disk 12\nrescan\nexit\n")
-                               << QByteArray("clean1 rescan12 ") << leaving;
-    QTest::newRow("nothing behind the exit")
-        << QByteArray("select disk 1\nexit\nclean\n") << QByteArray() << leaving;
-    QTest::newRow("empty") << QByteArray() << QByteArray() << torn;
-    QTest::newRow("no exit") << QByteArray("SELECT DISK 1\nclean") << QByteArray() << torn;
-    QTest::newRow("cut in the number") << QByteArray("SELECT DISK 1") << QByteArray() << torn;
-    QTest::newRow("cut in a word") << QByteArray("SELECT DISK 12\nclean\nEX") << QByteArray() << bad;
-    QTest::newRow("unknown line") << QByteArray("select disk 1\nclean all\nexit") << QByteArray() << bad;
-    QTest::newRow("no number") << QByteArray("select disk\nclean\nexit") << QByteArray() << bad;
-    QTest::newRow("half a number") << QByteArray("select disk 1x\nclean\nexit") << QByteArray() << bad;
-    QTest::newRow("negative number") << QByteArray("select disk -1\nclean\nexit") << QByteArray() << bad;
-    QTest::newRow("no such disk") << QByteArray("select disk 2\nclean\nexit") << QByteArray() << noDisk;
-    QTest::newRow("too large a number")
-        << QByteArray("select disk 4294967297\nclean\nexit") << QByteArray() << bad;
-    QTest::newRow("nothing selected") << QByteArray("clean\nexit") << QByteArray() << noDisk;
-    QTest::newRow("no bytes of a text") << QByteArray("\xFF\0\x01", 3) << QByteArray() << bad;
+    QTest::newRow("select disk 1\nclean\nselect disk 12\nrescan\nexit\nclean")
+        << QByteArray("clean1 rescan12 ") << leaving;
+    QTest::newRow("SELECT DISK 1\nclean") << QByteArray() << torn;
+    QTest::newRow("SELECT DISK 1") << QByteArray() << torn;
+    QTest::newRow("SELECT DISK 12\nclean\nEX") << QByteArray() << bad;
+    QTest::newRow("select disk 1\nclean all\nexit") << QByteArray() << bad;
+    QTest::newRow("select disk 1x\nclean\nexit") << QByteArray() << bad;
+    QTest::newRow("select disk 4294967297\nclean\nexit") << QByteArray() << bad;
+    QTest::newRow("select disk 2\nclean\nexit") << QByteArray() << noDisk;
+    QTest::newRow("clean\nexit") << QByteArray() << noDisk;
 }
 
 void tst_Diskpart::scripts()
 {
-    QFETCH(QByteArray, script);
-    QFETCH(QByteArray, did);
-    QFETCH(QString, said);
+    QFETCH(QByteArray, said);
     const DescribedFolder folder;
-    folder.add(QStringLiteral("script.txt"), script);
+    folder.add("script.txt", QTest::currentDataTag());
     NotedDisks disks;
-    const auto native = [&folder](const QString &name) { return folder.path() + QLatin1Char('/') + name; };
-    const QByteArray text =
-        tools::diskpart({QStringLiteral("/S"), QStringLiteral("script.txt")}, native, disks);
-    QCOMPARE(disks.did, did);
-    QVERIFY2(text.contains(said.toLatin1()), text.constData());
+    const auto native = [&folder](const QString &name) { return folder.path() + '/' + name; };
+    const QByteArray text = tools::diskpart({"/S", "script.txt"}, native, disks);
+    QTEST(disks.did, "did");
+    QVERIFY2(text.contains(said), text.constData());
 }
 
 void tst_Diskpart::endsAtTheFirstError()
 {
     const DescribedFolder folder;
-    folder.add(QStringLiteral("script.txt"), "select disk 1\nclean\nconvert mbr\nexit");
+    folder.add("script.txt", "select disk 1\nclean\nconvert mbr\nexit");
+    const auto native = [](const QString &name) { return name; };
     NotedDisks disks;
+    QVERIFY(tools::diskpart({}, native, disks).contains("Microsoft DiskPart syntax:"));
+    QVERIFY(tools::diskpart({"/s", "/no/such/file"}, native, disks)
+                .contains("The system cannot find the file specified."));
+    QCOMPARE(disks.did, QByteArray());
     disks.ofCleaning = tools::DiskOutcome::SystemDisk;
-    const QByteArray text = tools::diskpart(
-        {QStringLiteral("/s"), folder.path() + QStringLiteral("/script.txt")},
-        [](const QString &name) { return name; }, disks);
+    const QByteArray text = tools::diskpart({"/s", folder.path() + "/script.txt"}, native, disks);
     QCOMPARE(disks.did, QByteArray("clean1 "));
     QVERIFY(
         text.endsWith("Disk 1 is now the selected disk.\r\n\r\nVirtual Disk Service error:\r\nClean is not "
                       "allowed on the disk containing the current boot,\r\nsystem, pagefile, crashdump or "
                       "hibernation volume.\r\n"));
-}
-
-void tst_Diskpart::withoutScript()
-{
-    const auto native = [](const QString &name) { return name; };
-    NotedDisks disks;
-    QVERIFY(tools::diskpart({}, native, disks).contains("Microsoft DiskPart syntax:"));
-    QVERIFY(tools::diskpart({QStringLiteral("/s"), QStringLiteral("/no/such/file")}, native, disks)
-                .contains("The system cannot find the file specified."));
-    QCOMPARE(disks.did, QByteArray());
 }
 
 void tst_Diskpart::wipesAndPartitions_data()
@@ -133,19 +114,14 @@ void tst_Diskpart::wipesAndPartitions()
     QFETCH(int, bytesPerSector);
     QFETCH(int, first);
     const DescribedFolder folder;
-    const QByteArray disk = R"(","media":"fixed","image":"old.img","bytesPerSector":)" +
-                            QByteArray::number(bytesPerSector) + R"(,"sectors":)" +
-                            QByteArray::number(sectors) + R"(,"number":)";
+    const QByteArray disk = R"({"image":"old.img","bytesPerSector":)" + QByteArray::number(bytesPerSector) +
+                            R"(,"sectors":)" + QByteArray::number(sectors) + R"(,"number":)";
     const QByteArray old(sectors * 512, 'o');
-    folder.add(QStringLiteral("old.img"), old);
-    const auto pc =
-        folder.open(R"({"name":"PC","disks":[{"model":"A)" + disk + R"(3},{"model":"B)" + disk + "4}]}");
-    const QString script = pc->GetTempPathW() + QStringLiteral("s.txt");
+    folder.add("old.img", old);
+    const auto pc = folder.open(R"({"disks":[)" + disk + "3}," + disk + "4}]}");
     const auto runs = [&](const QByteArray &lines) {
-        folder.add(QStringLiteral("s.txt"), lines);
-        QFile::remove(script);
-        QFile::copy(folder.path() + QStringLiteral("/s.txt"), script);
-        return outputOf(*pc, QStringLiteral("diskpart.exe /s ") + script);
+        const QString script = pc->GetTempPathW() + "s.txt";
+        return writeFile(script, lines) ? outputOf(*pc, "diskpart.exe /s " + script) : QByteArray();
     };
     const QByteArray cleaned = runs("select disk 4\nclean\nexit");
     QVERIFY2(cleaned.contains("DiskPart succeeded in cleaning the disk."), cleaned.constData());
@@ -153,11 +129,11 @@ void tst_Diskpart::wipesAndPartitions()
     const int stretch = qMin(expected.size(), 1 << 20);
     expected.replace(0, stretch, QByteArray(stretch, '\0'));
     expected.replace(expected.size() - stretch, stretch, QByteArray(stretch, '\0'));
-    QVERIFY(DescribedFolder::contents(pc->imageFile(4)) == expected);
+    QVERIFY(contentOf(pc->imageFile(4)) == expected);
 
     const QByteArray made = runs("select disk 4\nconvert mbr\ncreate partition primary\nexit");
     QCOMPARE(made.contains("succeeded in creating the specified partition."), first != 0);
-    const QByteArray image = DescribedFolder::contents(pc->imageFile(4));
+    const QByteArray image = contentOf(pc->imageFile(4));
     QVERIFY(image.mid(512) == expected.mid(512));
     QVERIFY(runs("select disk 4\ncreate partition primary\nexit").contains("No usable free extent"));
     const QByteArray again = runs("select disk 4\nconvert mbr\nexit");
@@ -169,13 +145,13 @@ void tst_Diskpart::wipesAndPartitions()
     const DiskImage copy(image.size());
     copy.put(0, image);
     const QJsonObject table = copy.table();
-    QCOMPARE(table[QStringLiteral("label")].toString(), QStringLiteral("dos"));
-    const QJsonArray partitions = table[QStringLiteral("partitions")].toArray();
+    QCOMPARE(table["label"].toString(), "dos");
+    const QJsonArray partitions = table["partitions"].toArray();
     QCOMPARE(partitions.size(), first == 0 ? 0 : 1);
     const QJsonObject only = partitions.at(0).toObject();
-    QCOMPARE(only[QStringLiteral("start")].toInt(), first);
-    QCOMPARE(only[QStringLiteral("size")].toInt(), first == 0 ? 0 : sectors * 512 / bytesPerSector - first);
-    QCOMPARE(only[QStringLiteral("type")].toString(), first == 0 ? QString() : QStringLiteral("7"));
+    QCOMPARE(only["start"].toInt(), first);
+    QCOMPARE(only["size"].toInt(), first == 0 ? 0 : sectors * 512 / bytesPerSector - first);
+    QCOMPARE(only["type"].toString(), first == 0 ? "" : "7");
 }
 
 void tst_Diskpart::largestPartition()

@@ -3,6 +3,7 @@
 #include "platform/linux/LinuxDisks.h"
 #include "tests/platform/DescribedFolder.h"
 #include "tests/platform/LoopDevice.h"
+#include "tests/support/Files.h"
 #include "tests/support/LinuxPlaces.h"
 
 #include <QStorageInfo>
@@ -21,9 +22,8 @@ class tst_LinuxDiskpart : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
+    void initTestCase() { m_ownMounts = keepMountsToOurselves(); }
     void init();
-    void systemPlaces_data();
     void systemPlaces();
     void machineIsProtected();
     void partitionsOneDiskOnly();
@@ -32,8 +32,8 @@ private slots:
 
 private:
     QByteArray run(const QByteArray &script);
-    QByteArray image(int number) const { return DescribedFolder::contents(path(number)); }
-    QString path(int number) const { return m_folder->filePath(QStringLiteral("%1.img").arg(number)); }
+    QByteArray image(int number) const { return contentOf(path(number)); }
+    QString path(int number) const { return m_folder->filePath(QString("%1.img").arg(number)); }
 
     QTemporaryDir m_home;
     bool m_ownMounts = false;
@@ -42,11 +42,6 @@ private:
     std::unique_ptr<Platform> m_pc;
 };
 
-void tst_LinuxDiskpart::initTestCase()
-{
-    m_ownMounts = keepMountsToOurselves();
-}
-
 void tst_LinuxDiskpart::init()
 {
     m_pc.reset();
@@ -54,9 +49,7 @@ void tst_LinuxDiskpart::init()
     m_folder.reset(new QTemporaryDir);
     QStringList nodes;
     for (int number = 0; number < 3; ++number) {
-        QFile file(path(number));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(QByteArray(ImageBytes, 'o')) == ImageBytes);
-        file.close();
+        QVERIFY(writeFile(path(number), QByteArray(ImageBytes, 'o')));
         m_loops.push_back(std::make_unique<LoopDevice>(path(number)));
         nodes << m_loops.back()->node();
     }
@@ -68,36 +61,24 @@ void tst_LinuxDiskpart::init()
 
 QByteArray tst_LinuxDiskpart::run(const QByteArray &script)
 {
-    const QString file = m_pc->GetTempPathW() + QStringLiteral("script.txt");
-    QFile out(file);
-    if (!out.open(QIODevice::WriteOnly) || out.write(script) != script.size())
+    const QString file = m_pc->GetTempPathW() + "script.txt";
+    if (!writeFile(file, script))
         qFatal("a script cannot be written");
-    out.close();
-    return outputOf(*m_pc, QStringLiteral("C:\\Windows\\system32\\diskpart.exe /s ") + file);
-}
-
-void tst_LinuxDiskpart::systemPlaces_data()
-{
-    QTest::addColumn<QByteArray>("places");
-    QTest::addColumn<bool>("system");
-    QTest::newRow("root") << QByteArray(R"("/")") << true;
-    QTest::newRow("swap") << QByteArray(R"(null,"[SWAP]")") << true;
-    QTest::newRow("firmware's own") << QByteArray(R"("/boot/efi")") << true;
-    QTest::newRow("programs") << QByteArray(R"("/media/a","/usr")") << true;
-    QTest::newRow("data") << QByteArray(R"("/media/stick")") << false;
-    QTest::newRow("a name that only begins so") << QByteArray(R"("/variety")") << false;
-    QTest::newRow("nowhere") << QByteArray("null") << false;
+    return outputOf(*m_pc, "C:\\Windows\\system32\\diskpart.exe /s " + file);
 }
 
 void tst_LinuxDiskpart::systemPlaces()
 {
-    QFETCH(QByteArray, places);
-    QFETCH(bool, system);
-    const QByteArray json =
-        R"({"blockdevices":[{"path":"/dev/x","mountpoints":[null],"children":[{"path":"/dev/x1",)"
-        R"("mountpoints":[null],"children":[{"path":"/dev/mapper/y","mountpoints":[)" +
-        places + "]}]}]}]}";
-    QCOMPARE(linuxdisks::bearsSystem(linuxdisks::mountPoints(json)), system);
+    const auto bearsSystem = [](const QByteArray &places) {
+        return linuxdisks::bearsSystem(linuxdisks::mountPoints(
+            R"({"blockdevices":[{"path":"/dev/x","mountpoints":[null],"children":[{"path":"/dev/x1",)"
+            R"("mountpoints":[null],"children":[{"path":"/dev/mapper/y","mountpoints":[)" +
+            places + "]}]}]}]}"));
+    };
+    for (const char *places : {R"("/")", R"(null,"[SWAP]")", R"("/boot/efi")", R"("/media/a","/usr")"})
+        QVERIFY2(bearsSystem(places), places);
+    for (const char *places : {R"("/media/stick")", R"("/variety")", "null"})
+        QVERIFY2(!bearsSystem(places), places);
 }
 
 void tst_LinuxDiskpart::machineIsProtected()
@@ -106,7 +87,7 @@ void tst_LinuxDiskpart::machineIsProtected()
     if (!root.startsWith(QLatin1String("/dev/")) || !QFile::exists(root))
         QSKIP("the root of this machine is on no disk of its own");
     QVERIFY(linuxdisks::isProtected(root));
-    QVERIFY(linuxdisks::isProtected(QStringLiteral("/dev/no-such-disk")));
+    QVERIFY(linuxdisks::isProtected("/dev/no-such-disk"));
 }
 
 void tst_LinuxDiskpart::partitionsOneDiskOnly()
@@ -115,7 +96,7 @@ void tst_LinuxDiskpart::partitionsOneDiskOnly()
         QSKIP("no loop devices here");
     const QString node = m_loops[1]->node();
     QProcess sfdisk;
-    sfdisk.start(QStringLiteral("sfdisk"), {QStringLiteral("-q"), node});
+    sfdisk.start("sfdisk", {"-q", node});
     sfdisk.write("label: gpt\nsize=2MiB\nsize=2MiB\n");
     sfdisk.closeWriteChannel();
     QVERIFY(sfdisk.waitForFinished());
@@ -131,14 +112,14 @@ void tst_LinuxDiskpart::partitionsOneDiskOnly()
     const QByteArray cleaned = run("SELECT DISK 1\nclean\nEXIT");
     QVERIFY2(cleaned.contains("DiskPart succeeded in cleaning the disk."), cleaned.constData());
     QByteArray signatures;
-    QVERIFY(runs(QStringLiteral("wipefs"), {node}, &signatures));
+    QVERIFY(runs("wipefs", {node}, &signatures));
     QCOMPARE(signatures, QByteArray());
     QVERIFY(!QFile::exists(m_loops[1]->partition(1)));
 
     const QByteArray made = run("SELECT DISK 1\nconvert MBR\ncreate partition primary\nEXIT");
     QVERIFY2(made.contains("succeeded in creating the specified partition."), made.constData());
     QByteArray table;
-    QVERIFY(runs(QStringLiteral("sfdisk"), {QStringLiteral("--dump"), node}, &table));
+    QVERIFY(runs("sfdisk", {"--dump", node}, &table));
     QCOMPARE(table.count("start="), 1);
     QVERIFY2(table.contains("start=        2048, size=       14336, type=7"), table.constData());
     QVERIFY(run("SELECT DISK 1\nRESCAN\nEXIT").contains("DiskPart has finished scanning"));
@@ -151,12 +132,12 @@ void tst_LinuxDiskpart::cleansADiskInUse()
 {
     if (!m_pc || !m_ownMounts)
         QSKIP("no loop devices or mounts here");
-    QVERIFY(runs(QStringLiteral("mke2fs"), {QStringLiteral("-q"), QStringLiteral("-F"), m_loops[1]->node()}));
-    QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("mount")));
-    Mount mount(m_loops[1]->node(), m_folder->filePath(QStringLiteral("mount")));
+    QVERIFY(runs("mke2fs", {"-q", "-F", m_loops[1]->node()}));
+    QVERIFY(QDir(m_folder->path()).mkdir("mount"));
+    Mount mount(m_loops[1]->node(), m_folder->filePath("mount"));
     if (!mount.isMounted())
         QSKIP("this kernel mounts no such file system");
-    QFile busy(m_folder->filePath(QStringLiteral("mount/busy")));
+    QFile busy(m_folder->filePath("mount/busy"));
     QVERIFY(busy.open(QIODevice::WriteOnly));
     QVERIFY(run("SELECT DISK 1\nclean\nEXIT").contains("The device is in use."));
     busy.close();
@@ -169,16 +150,16 @@ void tst_LinuxDiskpart::sparesTheRunningSystem()
 {
     if (!m_pc || !m_ownMounts)
         QSKIP("no loop devices or mounts here");
-    QVERIFY(runs(QStringLiteral("mke2fs"), {QStringLiteral("-q"), QStringLiteral("-F"), m_loops[1]->node()}));
+    QVERIFY(runs("mke2fs", {"-q", "-F", m_loops[1]->node()}));
     // Mounted in this process's own mount table only.
-    Mount mount(m_loops[1]->node(), QStringLiteral("/boot"));
+    Mount mount(m_loops[1]->node(), "/boot");
     if (!mount.isMounted())
         QSKIP("this kernel mounts no such file system");
     for (const char *script : {"SELECT DISK 1\nclean\nEXIT", "SELECT DISK 1\nconvert MBR\nEXIT",
                                "SELECT DISK 1\ncreate partition primary\nEXIT"})
         QVERIFY(run(script).contains("Clean is not allowed on the disk containing the current boot,"));
-    const auto handle = m_pc->CreateFileW(QStringLiteral("\\\\.\\PHYSICALDRIVE1"),
-                                          io::GenericRead | io::GenericWrite, 0, io::OpenExisting);
+    const auto handle =
+        m_pc->CreateFileW("\\\\.\\PHYSICALDRIVE1", io::GenericRead | io::GenericWrite, 0, io::OpenExisting);
     QVERIFY(handle != Platform::InvalidHandle);
     QByteArray sector(512, 'x');
     QVERIFY(!m_pc->WriteFile(handle, sector.constData(), 512, nullptr));
@@ -186,7 +167,7 @@ void tst_LinuxDiskpart::sparesTheRunningSystem()
     m_pc->CloseHandle(handle);
     QVERIFY(mount.unmount());
     QByteArray signatures;
-    QVERIFY(runs(QStringLiteral("wipefs"), {m_loops[1]->node()}, &signatures));
+    QVERIFY(runs("wipefs", {m_loops[1]->node()}, &signatures));
     QVERIFY(signatures.contains("ext2"));
 }
 

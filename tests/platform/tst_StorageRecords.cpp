@@ -45,12 +45,12 @@ void tst_StorageRecords::disks_data()
     QTest::addColumn<int>("bus");
     QTest::addColumn<QString>("shown"); ///< medium, interface, and model as the disk list cuts it
     QTest::newRow("SATA") << QByteArray() << QByteArray("Quill Data 40     ") << 11
-                          << QStringLiteral("fixed IDE:Quill Data 40 ");
-    QTest::newRow("driver as vendor") << QByteArray("NVMe    ") << QByteArray("Marl NV 512") << 17
-                                      << QStringLiteral("fixed SCSI:Marl NV 512 ");
+                          << "fixed IDE:Quill Data 40 ";
+    QTest::newRow("driver as vendor")
+        << QByteArray("NVMe    ") << QByteArray("Marl NV 512") << 17 << "fixed SCSI:Marl NV 512 ";
     QTest::newRow("stick") << QByteArray("Tarn    ") << QByteArray("Stick 3.0") << 7
-                           << QStringLiteral("removable USB:Tarn Stick 3.0 ");
-    QTest::newRow("refused") << QByteArray() << QByteArray() << 0 << QStringLiteral("fixed SCSI:Disk 3 ");
+                           << "removable USB:Tarn Stick 3.0 ";
+    QTest::newRow("refused") << QByteArray() << QByteArray() << 0 << "fixed SCSI:Disk 3 ";
 }
 
 void tst_StorageRecords::disks()
@@ -66,9 +66,9 @@ void tst_StorageRecords::disks()
     const wmic::DiskDriveLine line =
         wmic::parseDiskDrive(QStringLiteral("3  %1  %2  OK  ").arg(disk.interfaceType, disk.model));
     QTEST(disk.media + QLatin1Char(' ') + line.interfaceText + QLatin1Char(':') + line.model, "shown");
-    QCOMPARE(disk.serial, bus == 0 ? QString() : QStringLiteral("QD40 17"));
+    QCOMPARE(disk.serial, bus == 0 ? QString() : "QD40 17");
     // An answer that ends in the middle; nothing behind its end may be read.
-    QCOMPARE(storage::readDisk(3, record.bytes.left(18)).model, QStringLiteral("Disk 3 HDD Device"));
+    QCOMPARE(storage::readDisk(3, record.bytes.left(18)).model, "Disk 3 HDD Device");
 }
 
 void tst_StorageRecords::partitions_data()
@@ -78,15 +78,11 @@ void tst_StorageRecords::partitions_data()
     const QByteArray gpt =
         layoutOf(1, {{900, HandMadeDisk::basicData()}, {100, EfiSystem}, {500, Reserved}, {990, Recovery}});
     QTest::newRow("GPT, in the order of places")
-        << gpt
-        << QStringList{QStringLiteral("GPT: System"), QStringLiteral("GPT: Basic Data"),
-                       QStringLiteral("GPT: Unknown")};
+        << gpt << QStringList{"GPT: System", "GPT: Basic Data", "GPT: Unknown"};
     QTest::newRow("MBR with logical drives")
         << layoutOf(0, {{1, "\x07"}, {9, "\x0f"}, {0, ""}, {0, ""}, {10, "\x0b"}, {20, "\x05"}})
-        << QStringList{QStringLiteral("Installable File System"),
-                       QStringLiteral("Extended w/Extended Int 13"),
-                       QStringLiteral("Win95 w/Extended Int 13")};
-    QTest::newRow("cut short") << gpt.left(48 + 144 + 143) << QStringList{QStringLiteral("GPT: Basic Data")};
+        << QStringList{"Installable File System", "Extended w/Extended Int 13", "Win95 w/Extended Int 13"};
+    QTest::newRow("cut short") << gpt.left(48 + 144 + 143) << QStringList{"GPT: Basic Data"};
 }
 
 void tst_StorageRecords::partitions()
