@@ -6,10 +6,10 @@
 #include "platform/tools/CommandInterpreter.h"
 #include "state/GlobalApp.h"
 #include "state/Globals.h"
+#include "tests/support/Files.h"
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 #include <QProcess>
 #include <QScopeGuard>
 #include <QTemporaryDir>
@@ -30,7 +30,7 @@ class tst_WindowsTools : public QObject
 
 private slots:
     void initTestCase();
-    void init();
+    void init() { m_folder.reset(new QTemporaryDir); }
     void runsToolsHidden();
     void runsToolsOfTheWorkingFolder();
     void programWorksInItsOwnFolder();
@@ -58,19 +58,7 @@ private:
 namespace
 {
 
-const QString Companion = QStringLiteral("VelmoraSMART.exe");
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-bool writeFile(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
-}
+const QString Companion = "VelmoraSMART.exe";
 
 const wchar_t *wide(const QString &text)
 {
@@ -168,7 +156,7 @@ qint64 systemBytes()
 QString firstLine(const QString &command)
 {
     QString line;
-    runner::runAndRead(command, QStringLiteral("HalvaneRun.txt"),
+    runner::runAndRead(command, "HalvaneRun.txt",
                        [&line](QTextStream &stream) { line = stream.readLine().trimmed(); });
     return line;
 }
@@ -199,29 +187,23 @@ void tst_WindowsTools::initTestCase()
     m_bWine = ::GetProcAddress(::GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
     Platform::install(makeNativePlatform());
     // The copies need the libraries in the folder above. Tools get no PATH that names it.
-    Platform::current().SetCurrentDirectoryW(QCoreApplication::applicationDirPath() + QStringLiteral("/.."));
+    Platform::current().SetCurrentDirectoryW(QCoreApplication::applicationDirPath() + "/..");
     g_App.m_strSystemFolder = Platform::current().GetSystemDirectoryW();
-}
-
-void tst_WindowsTools::init()
-{
-    m_folder.reset(new QTemporaryDir);
-    QVERIFY(m_folder->isValid());
 }
 
 void tst_WindowsTools::runsToolsHidden()
 {
     // The tool is slow, has no visible console, and its exit code is not used.
     QStringList lines;
-    QVERIFY(runner::runAndRead(
-        ownProgram() + QStringLiteral(" --console"), QStringLiteral("HalvaneRun.txt"),
-        [&lines](QTextStream &stream) { lines = stream.readAll().split(QLatin1Char('\n')); }));
-    QCOMPARE(lines, QStringList({QStringLiteral("console hidden"), QString()}));
-    QVERIFY(!QFile::exists(tempFile(QStringLiteral("HalvaneRun.txt"))));
+    QVERIFY(runner::runAndRead(ownProgram() + " --console", "HalvaneRun.txt", [&lines](QTextStream &stream) {
+        lines = stream.readAll().split(QLatin1Char('\n'));
+    }));
+    QCOMPARE(lines, QStringList({"console hidden", QString()}));
+    QVERIFY(!QFile::exists(tempFile("HalvaneRun.txt")));
 
     // A missing tool leaves an empty file.
     bool read = false;
-    QVERIFY(runner::runAndRead(QStringLiteral("no-such-tool.exe -a"), QStringLiteral("HalvaneRun.txt"),
+    QVERIFY(runner::runAndRead("no-such-tool.exe -a", "HalvaneRun.txt",
                                [&read](QTextStream &stream) { read = stream.atEnd(); }));
     QVERIFY(read);
 }
@@ -233,36 +215,34 @@ void tst_WindowsTools::runsToolsOfTheWorkingFolder()
     Platform &pc = Platform::current();
     for (const char *folder : {"own", "planted"}) {
         QVERIFY(QDir(m_folder->path()).mkdir(QLatin1String(folder)));
-        QVERIFY(writeFile(path(QLatin1String(folder) + QStringLiteral("/bare.bat")),
-                          QByteArray("@echo ") + folder + "\r\n"));
+        QVERIFY(writeFile(path(QLatin1String(folder) + "/bare.bat"), QByteArray("@echo ") + folder + "\r\n"));
     }
     const QString before = QDir::currentPath();
     const auto restore = qScopeGuard([&] { pc.SetCurrentDirectoryW(before); });
-    pc.SetCurrentDirectoryW(path(QStringLiteral("own")));
-    QVERIFY(QFile::exists(QStringLiteral("bare.bat")));
-    QVERIFY(QDir::setCurrent(path(QStringLiteral("planted"))));
-    QCOMPARE(firstLine(QStringLiteral("bare.bat")), QStringLiteral("own"));
+    pc.SetCurrentDirectoryW(path("own"));
+    QVERIFY(QFile::exists("bare.bat"));
+    QVERIFY(QDir::setCurrent(path("planted")));
+    QCOMPARE(firstLine("bare.bat"), "own");
 }
 
 void tst_WindowsTools::programWorksInItsOwnFolder()
 {
-    const QDir installed(QCoreApplication::applicationDirPath() + QStringLiteral("/.."));
-    const QString tool = QStringLiteral("smartctl64Bit.exe");
-    if (!installed.exists(tool) || !installed.exists(QStringLiteral("VelmoraHalvane.exe")))
+    const QDir installed(QCoreApplication::applicationDirPath() + "/..");
+    const QString tool = "smartctl64Bit.exe";
+    if (!installed.exists(tool) || !installed.exists("VelmoraHalvane.exe"))
         QSKIP("no installation lies around the tests");
     // Started in another folder, it copies its own tool, not the one of that folder.
     QVERIFY(writeFile(path(tool), "planted"));
     const auto copies = [&tool] {
         QVector<qint64> sizes;
         const QDir data(qEnvironmentVariable("ProgramData"));
-        for (const QFileInfo &folder :
-             data.entryInfoList({QStringLiteral("velmora-halvane-temp-*")}, QDir::Dirs))
+        for (const QFileInfo &folder : data.entryInfoList({"velmora-halvane-temp-*"}, QDir::Dirs))
             sizes << QFileInfo(folder.filePath() + QLatin1Char('/') + tool).size();
         return sizes;
     };
     QProcess program;
     program.setWorkingDirectory(m_folder->path());
-    program.start(installed.filePath(QStringLiteral("VelmoraHalvane.exe")), QStringList());
+    program.start(installed.filePath("VelmoraHalvane.exe"), QStringList());
     const auto end = qScopeGuard([&program] {
         program.kill();
         program.waitForFinished();
@@ -275,13 +255,12 @@ void tst_WindowsTools::programWorksInItsOwnFolder()
 void tst_WindowsTools::toolsComeFromOurFolders()
 {
     // A tool that only the user's search path has is not found.
-    QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("planted")));
-    QVERIFY(QFile::copy(QString::fromWCharArray(::_wgetenv(L"COMSPEC")),
-                        path(QStringLiteral("planted/hvtool.exe"))));
+    QVERIFY(QDir(m_folder->path()).mkdir("planted"));
+    QVERIFY(QFile::copy(QString::fromWCharArray(::_wgetenv(L"COMSPEC")), path("planted/hvtool.exe")));
     const QByteArray before = qgetenv("PATH");
     const auto restore = qScopeGuard([&before] { qputenv("PATH", before); });
-    qputenv("PATH", QFile::encodeName(path(QStringLiteral("planted"))) + ';' + before);
-    QCOMPARE(firstLine(QStringLiteral("hvtool.exe /c echo found")), QString());
+    qputenv("PATH", QFile::encodeName(path("planted")) + ';' + before);
+    QCOMPARE(firstLine("hvtool.exe /c echo found"), QString());
     // The temp folder has no letters that mean something in a line, whatever the user's name is.
     QVERIFY(!tools::CommandInterpreter::breaksCommands(Platform::current().GetTempPathW()));
 }
@@ -292,9 +271,9 @@ void tst_WindowsTools::interpreterThatIsMissing()
     const QByteArray before = qgetenv("COMSPEC");
     const auto restore = qScopeGuard([&before] { qputenv("COMSPEC", before); });
     qputenv("COMSPEC", "C:\\no-such-folder\\cmd.exe");
-    QCOMPARE(firstLine(QStringLiteral("echo found")), QStringLiteral("found"));
+    QCOMPARE(firstLine("echo found"), "found");
     // Nor does the interpreter ask that variable for a second one.
-    QVERIFY(!firstLine(QStringLiteral("echo %COMSPEC%")).contains(QLatin1String("no-such")));
+    QVERIFY(!firstLine("echo %COMSPEC%").contains(QLatin1String("no-such")));
 }
 
 void tst_WindowsTools::volumeTable()
@@ -322,14 +301,14 @@ void tst_WindowsTools::diskTable()
     QVERIFY(g_pWmicDiskListHead);
     QVERIFY(probed > 0);
     QVERIFY(!g_pWmicDiskListHead->szModel.text().isEmpty());
-    QCOMPARE(g_pWmicDiskListHead->szStatus.text(), QStringLiteral("OK"));
+    QCOMPARE(g_pWmicDiskListHead->szStatus.text(), "OK");
 }
 
 void tst_WindowsTools::tablesWithoutTheTool()
 {
     // Wine's tool is renamed meanwhile. Current systems have none.
-    const QString tool = g_App.m_strSystemFolder + QStringLiteral("\\wbem\\WMIC.exe");
-    const QString hidden = tool + QStringLiteral(".hidden");
+    const QString tool = g_App.m_strSystemFolder + "\\wbem\\WMIC.exe";
+    const QString hidden = tool + ".hidden";
     if (!m_bWine && QFile::exists(tool))
         QSKIP("this system has the tool");
     QVERIFY(!m_bWine || QFile::rename(tool, hidden));
@@ -342,7 +321,7 @@ void tst_WindowsTools::tablesWithoutTheTool()
     });
     const WmicDiskRecord *disk = g_pWmicDiskListHead;
     QVERIFY(disk && disk->pNext); // the last line of the table is blank
-    QCOMPARE(disk->szStatus.text(), QStringLiteral("OK"));
+    QCOMPARE(disk->szStatus.text(), "OK");
     QCOMPARE(disk->nDiskId, 128u + disk->nIndex);
     QVERIFY(!disk->szModel.text().isEmpty());
     QCOMPARE(probed.value(0), QString::number(disk->nIndex) + disk->szInterface.text());
@@ -358,7 +337,7 @@ bool tst_WindowsTools::startAs(const QString &name, QProcess *process) const
     const QString copy = path(name);
     // The libraries are beside the program itself or on the path.
     process->setWorkingDirectory(QCoreApplication::applicationDirPath());
-    process->start(QFile::copy(ownProgram(), copy) ? copy : QString(), {QStringLiteral("--wait")});
+    process->start(QFile::copy(ownProgram(), copy) ? copy : QString(), {"--wait"});
     return process->waitForStarted();
 }
 
@@ -390,20 +369,18 @@ void tst_WindowsTools::killsTheCompanion()
 void tst_WindowsTools::opensPrograms()
 {
     Platform &pc = Platform::current();
-    const QString touched = path(QStringLiteral("touched"));
-    QVERIFY(pc.ShellExecuteW(ownProgram(), QStringLiteral("--touch ") + QDir::toNativeSeparators(touched),
-                             QString()));
+    const QString touched = path("touched");
+    QVERIFY(pc.ShellExecuteW(ownProgram(), "--touch " + QDir::toNativeSeparators(touched), QString()));
     QTRY_COMPARE(contentOf(touched), QByteArray("touched"));
-    QVERIFY(!pc.ShellExecuteW(path(QStringLiteral("missing.exe")), QString(), QStringLiteral("open")));
+    QVERIFY(!pc.ShellExecuteW(path("missing.exe"), QString(), "open"));
 }
 
 void tst_WindowsTools::registersTheLogonTask()
 {
     Platform &pc = Platform::current();
     pc.InitializeCom();
-    const LogonTask task{QStringLiteral("HalvaneTest"), pc.GetUserNameW(),
-                         QStringLiteral("C:/Program Files/Halvane/VelmoraSMART.exe"),
-                         QStringLiteral("Schedular")};
+    const LogonTask task{"HalvaneTest", pc.GetUserNameW(), "C:/Program Files/Halvane/VelmoraSMART.exe",
+                         "Schedular"};
     const auto clear = qScopeGuard([&] { pc.DeleteLogonTask(task.name); });
     pc.CreateLogonTask(task);
     const QString xml = TaskFolder().xmlOf(task.name);
@@ -422,8 +399,8 @@ void tst_WindowsTools::countsTheUsesOfCom()
     pc.InitializeCom();
     // A failed step, as under Wine, does not release COM once too often.
     for (int i = 0; i < 3; ++i)
-        pc.CreateLogonTask({QStringLiteral("HalvaneTest"), QString(), QString(), QString()});
-    pc.DeleteLogonTask(QStringLiteral("HalvaneTest"));
+        pc.CreateLogonTask({"HalvaneTest", QString(), QString(), QString()});
+    pc.DeleteLogonTask("HalvaneTest");
     QVERIFY(TaskFolder().isOpen());
     pc.Leave();
     QVERIFY(!TaskFolder().isOpen());
@@ -431,7 +408,7 @@ void tst_WindowsTools::countsTheUsesOfCom()
 
 void tst_WindowsTools::deletesTheLogonTask()
 {
-    const QString name = QStringLiteral("HalvaneTest");
+    const QString name = "HalvaneTest";
     const QString xml =
         QStringLiteral("<Task version=\"1.2\" xmlns=\"http://schemas.microsoft.com/windows/2004/02/"
                        "mit/task\"><Actions><Exec><Command>cmd.exe</Command></Exec></Actions></Task>");
