@@ -31,6 +31,14 @@ private slots:
     void sparesTheRunningSystem();
 
 private:
+    /// Makes a file system on disk 1 and mounts it; null where that cannot be done here.
+    std::unique_ptr<Mount> mounted(const QString &folder) const
+    {
+        std::unique_ptr<Mount> mount;
+        if (m_pc && m_ownMounts && runs("mke2fs", {"-q", "-F", m_loops[1]->node()}))
+            mount = std::make_unique<Mount>(m_loops[1]->node(), folder);
+        return mount && mount->isMounted() ? std::move(mount) : nullptr;
+    }
     QByteArray run(const QByteArray &script);
     QByteArray image(int number) const { return contentOf(path(number)); }
     QString path(int number) const { return m_folder->filePath(QString("%1.img").arg(number)); }
@@ -130,31 +138,25 @@ void tst_LinuxDiskpart::partitionsOneDiskOnly()
 
 void tst_LinuxDiskpart::cleansADiskInUse()
 {
-    if (!m_pc || !m_ownMounts)
-        QSKIP("no loop devices or mounts here");
-    QVERIFY(runs("mke2fs", {"-q", "-F", m_loops[1]->node()}));
     QVERIFY(QDir(m_folder->path()).mkdir("mount"));
-    Mount mount(m_loops[1]->node(), m_folder->filePath("mount"));
-    if (!mount.isMounted())
-        QSKIP("this kernel mounts no such file system");
+    const auto mount = mounted(m_folder->filePath("mount"));
+    if (!mount)
+        QSKIP("no loop devices or mounts here");
     QFile busy(m_folder->filePath("mount/busy"));
     QVERIFY(busy.open(QIODevice::WriteOnly));
     QVERIFY(run("SELECT DISK 1\nclean\nEXIT").contains("The device is in use."));
     busy.close();
     const QByteArray cleaned = run("SELECT DISK 1\nclean\nEXIT");
     QVERIFY2(cleaned.contains("DiskPart succeeded in cleaning the disk."), cleaned.constData());
-    QVERIFY(!mount.unmount()); // it is unmounted already
+    QVERIFY(!mount->unmount()); // it is unmounted already
 }
 
 void tst_LinuxDiskpart::sparesTheRunningSystem()
 {
-    if (!m_pc || !m_ownMounts)
+    // In this process's own mount table only.
+    const auto mount = mounted("/boot");
+    if (!mount)
         QSKIP("no loop devices or mounts here");
-    QVERIFY(runs("mke2fs", {"-q", "-F", m_loops[1]->node()}));
-    // Mounted in this process's own mount table only.
-    Mount mount(m_loops[1]->node(), "/boot");
-    if (!mount.isMounted())
-        QSKIP("this kernel mounts no such file system");
     for (const char *script : {"SELECT DISK 1\nclean\nEXIT", "SELECT DISK 1\nconvert MBR\nEXIT",
                                "SELECT DISK 1\ncreate partition primary\nEXIT"})
         QVERIFY(run(script).contains("Clean is not allowed on the disk containing the current boot,"));
@@ -165,7 +167,7 @@ void tst_LinuxDiskpart::sparesTheRunningSystem()
     QVERIFY(!m_pc->WriteFile(handle, sector.constData(), 512, nullptr));
     QVERIFY(m_pc->ReadFile(handle, sector.data(), 512, nullptr));
     m_pc->CloseHandle(handle);
-    QVERIFY(mount.unmount());
+    QVERIFY(mount->unmount());
     QByteArray signatures;
     QVERIFY(runs("wipefs", {m_loops[1]->node()}, &signatures));
     QVERIFY(signatures.contains("ext2"));

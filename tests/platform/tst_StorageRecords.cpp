@@ -11,9 +11,7 @@ class tst_StorageRecords : public QObject
     Q_OBJECT
 
 private slots:
-    void disks_data();
     void disks();
-    void partitions_data();
     void partitions();
 };
 
@@ -38,63 +36,48 @@ QByteArray layoutOf(quint32 style, const QVector<QPair<quint64, QByteArray>> &en
 
 } // namespace
 
-void tst_StorageRecords::disks_data()
-{
-    QTest::addColumn<QByteArray>("vendor");
-    QTest::addColumn<QByteArray>("product");
-    QTest::addColumn<int>("bus");
-    QTest::addColumn<QString>("shown"); ///< medium, interface, and model as the disk list cuts it
-    QTest::newRow("SATA") << QByteArray() << QByteArray("Quill Data 40     ") << 11
-                          << "fixed IDE:Quill Data 40 ";
-    QTest::newRow("driver as vendor")
-        << QByteArray("NVMe    ") << QByteArray("Marl NV 512") << 17 << "fixed SCSI:Marl NV 512 ";
-    QTest::newRow("stick") << QByteArray("Tarn    ") << QByteArray("Stick 3.0") << 7
-                           << "removable USB:Tarn Stick 3.0 ";
-    QTest::newRow("refused") << QByteArray() << QByteArray() << 0 << "fixed SCSI:Disk 3 ";
-}
-
 void tst_StorageRecords::disks()
 {
-    QFETCH(QByteArray, vendor);
-    QFETCH(QByteArray, product);
-    QFETCH(int, bus);
-    HandMadeDisk record(1);
-    record.put(28, quint32(bus)).put(10, quint8(bus == 7)).put(12, quint32(40)).put(16, quint32(80));
-    record.put(24, quint32(120)).text(120, "  QD40 17 ");
-    record.text(40, vendor).text(80, product);
-    const inventory::Disk disk = storage::readDisk(3, bus == 0 ? QByteArray() : record.bytes);
-    const wmic::DiskDriveLine line =
-        wmic::parseDiskDrive(QStringLiteral("3  %1  %2  OK  ").arg(disk.interfaceType, disk.model));
-    QTEST(disk.media + QLatin1Char(' ') + line.interfaceText + QLatin1Char(':') + line.model, "shown");
-    QCOMPARE(disk.serial, bus == 0 ? QString() : "QD40 17");
-    // An answer that ends in the middle; nothing behind its end may be read.
-    QCOMPARE(storage::readDisk(3, record.bytes.left(18)).model, "Disk 3 HDD Device");
-}
-
-void tst_StorageRecords::partitions_data()
-{
-    QTest::addColumn<QByteArray>("layout");
-    QTest::addColumn<QStringList>("types");
-    const QByteArray gpt =
-        layoutOf(1, {{900, HandMadeDisk::basicData()}, {100, EfiSystem}, {500, Reserved}, {990, Recovery}});
-    QTest::newRow("GPT, in the order of places")
-        << gpt << QStringList{"GPT: System", "GPT: Basic Data", "GPT: Unknown"};
-    QTest::newRow("MBR with logical drives")
-        << layoutOf(0, {{1, "\x07"}, {9, "\x0f"}, {0, ""}, {0, ""}, {10, "\x0b"}, {20, "\x05"}})
-        << QStringList{"Installable File System", "Extended w/Extended Int 13", "Win95 w/Extended Int 13"};
-    QTest::newRow("cut short") << gpt.left(48 + 144 + 143) << QStringList{"GPT: Basic Data"};
+    // Vendor, product, number of the bus; then medium, interface, and model as the disk list cuts it.
+    for (const auto &[vendor, product, bus, shown] : {
+             std::tuple("", "Quill Data 40     ", 11, "fixed IDE:Quill Data 40 "),
+             std::tuple("NVMe    ", "Marl NV 512", 17, "fixed SCSI:Marl NV 512 "), // the driver as vendor
+             std::tuple("Tarn    ", "Stick 3.0", 7, "removable USB:Tarn Stick 3.0 "),
+             std::tuple("", "", 0, "fixed SCSI:Disk 3 "), // refused
+         }) {
+        HandMadeDisk record(1);
+        record.put(28, quint32(bus)).put(10, quint8(bus == 7)).put(12, quint32(40)).put(16, quint32(80));
+        record.put(24, quint32(120)).text(120, "  QD40 17 ").text(40, vendor).text(80, product);
+        const inventory::Disk disk = storage::readDisk(3, bus == 0 ? QByteArray() : record.bytes);
+        const wmic::DiskDriveLine line =
+            wmic::parseDiskDrive(QString("3  %1  %2  OK  ").arg(disk.interfaceType, disk.model));
+        QCOMPARE(disk.media + ' ' + line.interfaceText + ':' + line.model, shown);
+        QCOMPARE(disk.serial, bus == 0 ? QString() : "QD40 17");
+        // An answer that ends in the middle; nothing behind its end may be read.
+        QCOMPARE(storage::readDisk(3, record.bytes.left(18)).model, "Disk 3 HDD Device");
+    }
 }
 
 void tst_StorageRecords::partitions()
 {
-    QFETCH(QStringList, types);
-    QFETCH(QByteArray, layout);
-    const auto partitions = storage::readPartitions(2, layout);
-    QCOMPARE(partitions.size(), types.size());
-    for (int i = 0; i < types.size(); ++i) {
-        QCOMPARE(partitions.at(i).name, QStringLiteral("Disk #2, Partition #%1").arg(i));
-        QCOMPARE(partitions.at(i).type, types.at(i));
-        QCOMPARE(partitions.at(i).size, quint64(4096));
+    const QByteArray gpt =
+        layoutOf(1, {{900, HandMadeDisk::basicData()}, {100, EfiSystem}, {500, Reserved}, {990, Recovery}});
+    const QByteArray mbr =
+        layoutOf(0, {{1, "\x07"}, {9, "\x0f"}, {0, ""}, {0, ""}, {10, "\x0b"}, {20, "\x05"}});
+    for (const auto &[layout, types] : {
+             std::pair(gpt, QStringList{"GPT: System", "GPT: Basic Data",
+                                        "GPT: Unknown"}), // in the order of places
+             std::pair(mbr, QStringList{"Installable File System", "Extended w/Extended Int 13",
+                                        "Win95 w/Extended Int 13"}),
+             std::pair(gpt.left(48 + 144 + 143), QStringList{"GPT: Basic Data"}),
+         }) {
+        const auto partitions = storage::readPartitions(2, layout);
+        QCOMPARE(partitions.size(), types.size());
+        for (int i = 0; i < types.size(); ++i) {
+            QCOMPARE(partitions.at(i).name, QString("Disk #2, Partition #%1").arg(i));
+            QCOMPARE(partitions.at(i).type, types.at(i));
+            QCOMPARE(partitions.at(i).size, quint64(4096));
+        }
     }
 }
 

@@ -9,50 +9,17 @@
 namespace
 {
 
-using inventory::Disk;
 using inventory::Machine;
-using inventory::Volume;
-
-Volume volume(char letter, const char *type, const char *fileSystem, quint64 size, quint64 free)
-{
-    Volume v;
-    v.letter = letter;
-    v.type = type;
-    v.fileSystem = fileSystem;
-    v.size = size;
-    v.free = free;
-    return v;
-}
-
-/// A volume that the tool for encryption tells a version of, or none.
-Volume lockable(char letter, const char *label, const char *version)
-{
-    Volume v = volume(letter, "fixed", "NTFS", quint64{1} << 33, 0);
-    v.label = label;
-    v.hasBitLockerLine = version != nullptr;
-    v.bitLocker = version;
-    return v;
-}
-
-Disk disk(int number, const char *model, const char *bus, const char *media, quint64 sectors)
-{
-    Disk d;
-    d.number = number;
-    d.model = model;
-    d.interfaceType = bus;
-    d.media = media;
-    d.status = "OK";
-    d.sectors = sectors;
-    return d;
-}
 
 Machine machine()
 {
     Machine m;
-    m.disks = {disk(1, "Quill Data 40 ATA Device", "IDE", "fixed", 1953525168),
-               disk(0, "Tarn Stick USB\nDevice", "USB", "removable", 0)};
-    m.volumes = {volume('A', "removable", "", 0, 0), volume('C', "fixed", "NTFS", 136464822272, 42720997376),
-                 volume('D', "cdrom", "", 7, 0), volume('E', "cdrom", "UDF", 58601472, 0)};
+    m.disks = {{1, "fixed", "Quill Data 40 ATA Device", "IDE", "OK", "", 512, 1953525168, "", 0},
+               {0, "removable", "Tarn Stick USB\nDevice", "USB", "OK", "", 512, 0, "", 0}};
+    m.volumes = {{'A', "", "removable", "", 0, 0, false, "", {}, ""},
+                 {'C', "", "fixed", "NTFS", 136464822272, 42720997376, false, "", {}, ""},
+                 {'D', "", "cdrom", "", 7, 0, false, "", {}, ""},
+                 {'E', "", "cdrom", "UDF", 58601472, 0, false, "", {}, ""}};
     m.partitions = {{"Disk #1, Partition #0", "GPT: System", 104857600, 1},
                     {"Disk #1, Partition #1", "GPT: Basic Data", 989359767552, 1},
                     {"Disk #2, Partition #0", "GPT: Basic Data", 1024, 2}};
@@ -74,7 +41,6 @@ private slots:
     void wmic_data();
     void wmic();
     void wmicRefuses();
-    void manageBde_data();
     void manageBde();
     void tasklistRows();
     void findstrAndTaskkill();
@@ -123,42 +89,40 @@ void tst_SystemTools::wmicRefuses()
     QCOMPARE(ask(Machine(), "diskdrive get model"), QByteArray());
 }
 
-void tst_SystemTools::manageBde_data()
+void tst_SystemTools::manageBde()
 {
-    QTest::addColumn<QByteArray>("begin"); ///< behind the volume's own line
-    QTest::addColumn<QByteArray>("end");
+    Machine pc;
+    pc.volumes = {{'C', "OS", "fixed", "NTFS", quint64{1} << 33, 0, true, "None", {}, ""},
+                  {'D', "Data", "fixed", "NTFS", quint64{1} << 33, 0, true, "2.0", {}, ""},
+                  {'E', "Old", "fixed", "NTFS", quint64{1} << 33, 0, false, "", {}, ""},
+                  {'F', "", "cdrom", "UDF", 1, 0, false, "", {}, ""}};
     const QByteArray size = "    Size:                 8.00 GB\r\n";
     const QByteArray version = "    BitLocker Version:    ";
     const QByteArray clear = "    Conversion Status:    Fully Decrypted\r\n";
-    QTest::newRow("c:") << "[OS]\r\n[OS Volume]\r\n\r\n" + size + version + "None\r\n" + clear
-                        << QByteArray("    Identification Field: None\r\n"
-                                      "    Key Protectors:       None Found\r\n\r\n\r\n");
-    QTest::newRow("D:")
-        << "[Data]\r\n[Data Volume]\r\n\r\n" + size + version + "2.0\r\n    Conversion Status:    Used Space"
-        << QByteArray("    Automatic Unlock:     Disabled\r\n    Key Protectors:\r\n        Password\r\n"
-                      "        Numerical Password\r\n\r\n\r\n");
-    QTest::newRow("E:") << "[Old]\r\n[Data Volume]\r\n\r\n" + size + clear
-                        << QByteArray("    Automatic Unlock:     Disabled\r\n"
-                                      "    Key Protectors:       None Found\r\n\r\n\r\n");
-    const QByteArray refused = "could not be opened by BitLocker.\r\nThis may be because the volume does not "
-                               "exist, or because it is not a valid\r\nBitLocker volume.\r\n";
-    QTest::newRow("F:") << QByteArray() << refused; // a disc drive
-    QTest::newRow("Z:") << QByteArray() << refused;
-}
-
-void tst_SystemTools::manageBde()
-{
-    QFETCH(QByteArray, begin);
-    Machine pc;
-    pc.volumes = {lockable('C', "OS", "None"), lockable('D', "Data", "2.0"), lockable('E', "Old", nullptr),
-                  volume('F', "cdrom", "UDF", 1, 0)};
-    const QByteArray answer = tools::manageBde(pc, {"-status", QTest::currentDataTag()});
-    const int at = answer.indexOf("\r\nVolume ");
-    QCOMPARE(answer.mid(at + 12, begin.size()), begin);
-    QCOMPARE(at < 0, begin.isEmpty());
-    QCOMPARE(answer.count("\r\nVolume "), begin.isEmpty() ? 0 : 1);
-    QFETCH(QByteArray, end);
-    QCOMPARE(answer.right(end.size()), end);
+    const QByteArray ownLock = "    Automatic Unlock:     Disabled\r\n";
+    const QByteArray noKey = "    Key Protectors:       None Found\r\n\r\n\r\n";
+    for (const auto &[letter, begin, end] : {
+             std::tuple("c:", "[OS]\r\n[OS Volume]\r\n\r\n" + size + version + "None\r\n" + clear,
+                        "    Identification Field: None\r\n" + noKey),
+             std::tuple(
+                 "D:",
+                 "[Data]\r\n[Data Volume]\r\n\r\n" + size + version + "2.0\r\n    Conversion Status:    Used",
+                 ownLock +
+                     "    Key Protectors:\r\n        Password\r\n        Numerical Password\r\n\r\n\r\n"),
+             std::tuple("E:", "[Old]\r\n[Data Volume]\r\n\r\n" + size + clear, ownLock + noKey),
+         }) {
+        const QByteArray answer = tools::manageBde(pc, {"-status", letter});
+        const int at = answer.indexOf("\r\nVolume ");
+        QCOMPARE(answer.mid(at + 12, begin.size()), QByteArray(begin));
+        QCOMPARE(answer.right(end.size()), QByteArray(end));
+        QCOMPARE(answer.count("\r\nVolume "), 1);
+    }
+    for (const char *letter : {"F:", "Z:"}) {
+        const QByteArray answer = tools::manageBde(pc, {"-status", letter});
+        QVERIFY(answer.contains("\r\nERROR: The volume " + QByteArray(letter) +
+                                " could not be opened by BitLocker.\r\n"));
+        QVERIFY(!answer.contains("\r\nVolume "));
+    }
     QCOMPARE(tools::manageBde(pc, {"-status"}).count("\r\nVolume "), 3);
 }
 
