@@ -238,7 +238,7 @@ void tst_LinuxPlatform::smartctlDevice()
     QCOMPARE(asked("-a /dev/sda"), "-a /dev/nvme0n1");
     QCOMPARE(asked("-a -d sat,12 /dev/sdc"), "-a -d sat,12 /dev/sdb");
     QCOMPARE(asked("-a"), "-a");
-    for (const char *none : {"-a /dev/sdb", "-t short /dev/sdd", "-a /dev/sda1"})
+    for (const char *none : {"-a /dev/sdb", "-t short /dev/sdd", "-a /dev/sdac"})
         QCOMPARE(asked(none), QString());
 }
 
