@@ -9,6 +9,7 @@
 #include <QUrl>
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -116,12 +117,14 @@ public:
     /// Each element of `line` is one character as the process creation would get it. False if the interpreter
     /// could not be started; the command's own exit code is not told.
     virtual bool CreateProcessAndWait(const std::wstring &line, bool hidden) = 0;
-    /// The same in a visible console and with a time limit: what still runs then is ended, with all that it
-    /// started, and the result is false. A platform that carries out command lines by itself ignores the
-    /// limit; its tools have their own.
-    virtual bool CreateProcessAndWaitFor(const std::wstring &line, qint32 milliseconds)
+    /// The same in a visible console, and with limits: a time, and `mayGoOn`, which is asked several times a
+    /// second on the caller's thread. What still runs then is ended, with all that it started, and the result
+    /// is false. A platform that carries out command lines by itself ignores both; its tools have their own.
+    virtual bool CreateProcessAndWaitFor(const std::wstring &line, qint32 milliseconds,
+                                         const std::function<bool()> &mayGoOn)
     {
         (void)milliseconds;
+        (void)mayGoOn;
         return CreateProcessAndWait(line, false);
     }
     /// How the window of an opened program shows. Used on Windows only.

@@ -52,17 +52,19 @@ QString transferTool()
     return Platform::current().GetSystemDirectoryW() + QLatin1String("\\bitsadmin.exe");
 }
 
-void fetchByConsole(const QString &url, const QString &path, qint32 milliseconds)
+void fetchByConsole(const QString &url, const QString &path, const DownloadLimits &limits)
 {
     const QString command = consoleCommand(url, path);
-    if (command.isEmpty() || milliseconds <= CancelMs)
+    if (command.isEmpty() || limits.milliseconds <= CancelMs)
         return;
     Platform &platform = Platform::current();
     const QString begin = QString::fromUtf8(platform.CommandInterpreter()) + QLatin1String(" /c ");
     // The service behind the tool would go on with the job, so the job is cancelled.
-    if (!platform.CreateProcessAndWaitFor((begin + command).toStdWString(), milliseconds - CancelMs))
-        platform.CreateProcessAndWaitFor(
-            (begin + transferTool() + QLatin1String(" /cancel myDownloadJob")).toStdWString(), CancelMs);
+    const auto fits = [&limits] { return loadedBytes() <= limits.bytes; };
+    const QString cancel = begin + transferTool() + QLatin1String(" /cancel myDownloadJob");
+    if (!platform.CreateProcessAndWaitFor((begin + command).toStdWString(), limits.milliseconds - CancelMs,
+                                          fits))
+        platform.CreateProcessAndWaitFor(cancel.toStdWString(), CancelMs, [] { return true; });
 }
 
 } // namespace
@@ -102,7 +104,7 @@ QString fetch(const QString &url, const QString &name, const DownloadLimits &lim
     const qint32 result = Platform::current().URLDownloadToFileW(url, path, limits);
     // What a rule or a limit forbade is not tried in another way.
     if (result != 0 && result != Platform::DownloadRefused)
-        fetchByConsole(url, path, static_cast<qint32>(limits.milliseconds - clock.elapsed()));
+        fetchByConsole(url, path, {static_cast<qint32>(limits.milliseconds - clock.elapsed()), limits.bytes});
     const QFileInfo file(path);
     qCDebug(logs::update) << "the download ended with" << result << "and left bytes:" << file.size();
     if (file.isFile() && file.size() <= limits.bytes)

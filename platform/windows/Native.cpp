@@ -14,6 +14,22 @@
 namespace windows
 {
 
+namespace
+{
+
+/// What the system tells about the rights of this process.
+bool aboutToken(TOKEN_INFORMATION_CLASS what, void *told, DWORD size)
+{
+    HANDLE token = nullptr;
+    if (!::OpenProcessToken(::GetCurrentProcess(), TOKEN_QUERY, &token))
+        return false;
+    const BOOL done = ::GetTokenInformation(token, what, told, size, &size);
+    ::CloseHandle(token);
+    return done != FALSE;
+}
+
+} // namespace
+
 QString sidText(PSID who)
 {
     LPWSTR text = nullptr;
@@ -26,15 +42,22 @@ QString sidText(PSID who)
 
 QString userSid()
 {
-    HANDLE token = nullptr;
-    if (!::OpenProcessToken(::GetCurrentProcess(), TOKEN_QUERY, &token))
-        return QString();
     std::array<BYTE, 256> buffer{};
-    DWORD size = 0;
-    const BOOL told =
-        ::GetTokenInformation(token, TokenUser, buffer.data(), static_cast<DWORD>(buffer.size()), &size);
-    ::CloseHandle(token);
-    return told ? sidText(reinterpret_cast<const TOKEN_USER *>(buffer.data())->User.Sid) : QString();
+    return aboutToken(TokenUser, buffer.data(), static_cast<DWORD>(buffer.size()))
+               ? sidText(reinterpret_cast<const TOKEN_USER *>(buffer.data())->User.Sid)
+               : QString();
+}
+
+bool sharesUser()
+{
+    TOKEN_ELEVATION_TYPE type{};
+    DWORD asks = 1;
+    DWORD size = sizeof(asks);
+    ::RegGetValueW(HKEY_LOCAL_MACHINE, L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Policies\\System",
+                   L"EnableLUA", RRF_RT_REG_DWORD, nullptr, &asks, &size);
+    // What cannot be told counts as shared.
+    return (!aboutToken(TokenElevationType, &type, sizeof(type)) || type == TokenElevationTypeFull) &&
+           asks != 0;
 }
 
 bool openFile(QFile *file, const QString &path, QIODevice::OpenMode mode, DWORD share, DWORD disposition)

@@ -22,6 +22,10 @@ QString sidText(PSID who);
 /// The user of this process, as a text.
 QString userSid();
 
+/// Whether programs of the same user without an administrator's rights go by the same identifier as this one:
+/// so it is where he was asked before it was started.
+bool sharesUser();
+
 /// Opens a regular file, and no link, folder or device.
 bool openFile(QFile *file, const QString &path, QIODevice::OpenMode mode, DWORD share, DWORD disposition);
 

@@ -19,7 +19,8 @@ namespace ownfiles
 namespace
 {
 
-/// Who may change what we use: this user, administrators and the system, to which its installer belongs.
+/// Who may change what we use: administrators, the system, to which its installer belongs, and this user,
+/// unless his programs with fewer rights could do it in his name.
 bool isOurs(PSID who)
 {
     constexpr WELL_KNOWN_SID_TYPE Kinds[] = {WinBuiltinAdministratorsSid, WinLocalSystemSid,
@@ -28,7 +29,7 @@ bool isOurs(PSID who)
     const bool isInstaller =
         text == QLatin1String("S-1-5-80-956008885-3418522649-1831038044-1853292631-2271478464");
     return !text.isEmpty() &&
-           (isInstaller || text == windows::userSid() ||
+           (isInstaller || (text == windows::userSid() && !windows::sharesUser()) ||
             std::any_of(std::begin(Kinds), std::end(Kinds),
                         [who](WELL_KNOWN_SID_TYPE kind) { return ::IsWellKnownSid(who, kind) != FALSE; }));
 }

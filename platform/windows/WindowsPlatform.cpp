@@ -12,6 +12,7 @@
 #include "platform/windows/PrivateFolder.h"
 #include "platform/windows/SystemInventory.h"
 
+#include <QDeadlineTimer>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFile>
@@ -88,14 +89,15 @@ bool startLine(const std::wstring &line, const QString &systemFolder, const std:
 }
 
 /// A program by its full path, with the rights of this process. The user's registry is not asked for it.
-bool startProgram(const QString &path, const QString &parameters)
+bool startProgram(const QString &path, const QString &parameters, const QString &systemFolder)
 {
     STARTUPINFOW startup{};
     startup.cb = sizeof(startup);
     PROCESS_INFORMATION process{};
     std::wstring line = QStringLiteral("\"%1\" %2").arg(path, parameters).toStdWString();
-    if (!::CreateProcessW(wide(path), line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
-                          &process))
+    std::wstring environment = toolEnvironment(systemFolder);
+    if (!::CreateProcessW(wide(path), line.data(), nullptr, nullptr, FALSE, CREATE_UNICODE_ENVIRONMENT,
+                          environment.data(), nullptr, &startup, &process))
         return false;
     close(process);
     return true;
@@ -179,8 +181,10 @@ bool WindowsPlatform::CreateProcessAndWait(const std::wstring &line, bool hidden
     return true;
 }
 
-bool WindowsPlatform::CreateProcessAndWaitFor(const std::wstring &line, qint32 milliseconds)
+bool WindowsPlatform::CreateProcessAndWaitFor(const std::wstring &line, qint32 milliseconds,
+                                              const std::function<bool()> &mayGoOn)
 {
+    constexpr DWORD StepMs = 200;
     const HANDLE job = ::CreateJobObjectW(nullptr, nullptr);
     JOBOBJECT_EXTENDED_LIMIT_INFORMATION limits{};
     limits.BasicLimitInformation.LimitFlags = JOB_OBJECT_LIMIT_KILL_ON_JOB_CLOSE;
@@ -193,8 +197,11 @@ bool WindowsPlatform::CreateProcessAndWaitFor(const std::wstring &line, qint32 m
     // It was started suspended, so that it starts nothing before it is in the job.
     ::AssignProcessToJobObject(job, process.hProcess);
     ::ResumeThread(process.hThread);
-    const bool ended =
-        ::WaitForSingleObject(process.hProcess, static_cast<DWORD>(milliseconds)) == WAIT_OBJECT_0;
+    const QDeadlineTimer end(milliseconds);
+    bool ended = false;
+    do
+        ended = ::WaitForSingleObject(process.hProcess, StepMs) == WAIT_OBJECT_0;
+    while (!ended && !end.hasExpired() && mayGoOn());
     if (!ended)
         ::TerminateProcess(process.hProcess, 1);
     ::CloseHandle(job);
@@ -214,7 +221,7 @@ bool WindowsPlatform::ShellExecuteW(const QString &file, const QString &paramete
         const bool isProgram =
             QDir::isAbsolutePath(file) && target.endsWith(QLatin1String(".exe"), Qt::CaseInsensitive);
         if (isProgram)
-            return startProgram(target, parameters);
+            return startProgram(target, parameters, GetSystemDirectoryW());
         return windows::openByShell(target, parameters, verb, window);
     }
     const HINSTANCE result =

@@ -17,7 +17,8 @@ public:
     bool GetDiskFreeSpaceExW(const QString &root, quint64 *totalBytes, quint64 *freeBytes) override;
 
     bool CreateProcessAndWait(const std::wstring &line, bool hidden) override;
-    bool CreateProcessAndWaitFor(const std::wstring &line, qint32 milliseconds) override;
+    bool CreateProcessAndWaitFor(const std::wstring &line, qint32 milliseconds,
+                                 const std::function<bool()> &mayGoOn) override;
     bool ShellExecuteW(const QString &file, const QString &parameters, const QString &verb,
                        Show show) override;
     bool OpenUrl(const QUrl &url) override;

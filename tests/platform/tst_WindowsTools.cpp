@@ -32,6 +32,7 @@ private slots:
     void initTestCase();
     void init() { m_folder.reset(new QTemporaryDir); }
     void runsToolsHidden();
+    void endsToolsAtTheirLimits();
     void runsToolsOfTheWorkingFolder();
     void programWorksInItsOwnFolder();
     void toolsComeFromOurFolders();
@@ -206,6 +207,19 @@ void tst_WindowsTools::runsToolsHidden()
     QVERIFY(runner::runAndRead("no-such-tool.exe -a", "HalvaneRun.txt",
                                [&read](QTextStream &stream) { read = stream.atEnd(); }));
     QVERIFY(read);
+}
+
+void tst_WindowsTools::endsToolsAtTheirLimits()
+{
+    Platform &pc = Platform::current();
+    const std::wstring slow = QStringLiteral("%1 /c %2 --wait")
+                                  .arg(QString::fromUtf8(pc.CommandInterpreter()), ownProgram())
+                                  .toStdWString();
+    QElapsedTimer clock;
+    clock.start();
+    QVERIFY(!pc.CreateProcessAndWaitFor(slow, 300, [] { return true; }));
+    QVERIFY(!pc.CreateProcessAndWaitFor(slow, 300000, [] { return false; }));
+    QVERIFY(clock.elapsed() < 30000); // so long it waits
 }
 
 void tst_WindowsTools::runsToolsOfTheWorkingFolder()
