@@ -95,9 +95,9 @@ QString commandLine(ToolPurpose purpose, const QString &device, const QString &f
 
 QString runTool(ToolPurpose purpose, const QString &device)
 {
-    const QString path = runner::freshTempFile(toolFileName(purpose));
-    RunSilent(commandLine(purpose, device, path));
-    return path;
+    return runner::runFresh(toolFileName(purpose), [purpose, &device](const QString &path) {
+        return commandLine(purpose, device, path);
+    });
 }
 
 bool readTool(ToolPurpose purpose, const QString &device, const runner::OutputReader &read)

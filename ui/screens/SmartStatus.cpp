@@ -204,24 +204,26 @@ void SmartStatus::ShowReading(OverallResult result)
     m_pChartView->setVisible(g_bSmartAvailable);
     pagelook::showResult(SmartResultLabel, result);
     m_pHeadingLabel->setText(QCoreApplication::translate("MainWindow", "SMART Status"));
-    showSelectedDisk();
-    const DiskNode *node = findPhysicalDisk(PhysicalDriveBase + g_nCurrentDiskIndex);
-    if (const WmicDiskRecord *record = node ? findWmicDisk(node->nId) : nullptr)
-        SerialNunValueLbl->setText(record->szSmartSerial.text());
-    if (node && node->nKind == FixedDisk && !g_strSerialNumber.trimmed().isEmpty())
-        SerialNunValueLbl->setText(g_strSerialNumber.trimmed());
     GraphLabel->clear();
+    const DiskNode *node = showSelectedDisk();
+    if (!node)
+        return;
+    if (const WmicDiskRecord *record = findWmicDisk(node->nId))
+        SerialNunValueLbl->setText(record->szSmartSerial.text());
+    if (node->nKind == FixedDisk && !g_strSerialNumber.trimmed().isEmpty())
+        SerialNunValueLbl->setText(g_strSerialNumber.trimmed());
 }
 
-void SmartStatus::showSelectedDisk()
+const DiskNode *SmartStatus::showSelectedDisk()
 {
     const DiskNode *node = findPhysicalDisk(PhysicalDriveBase + g_nCurrentDiskIndex);
     if (!node)
-        return;
+        return nullptr;
     CapcityValLbl->setText(node->szSize.text());
     const WmicDiskRecord *record = findWmicDisk(node->nId);
     const bool named = record && !record->szInterface.isEmpty();
     InterfaceValLbl->setText(named ? record->szInterface.text() : tr("ATA Disk"));
+    return node;
 }
 
 void SmartStatus::retranslate()

@@ -12,6 +12,7 @@
 class SmartChartView;
 enum class OverallResult;
 struct AttributeRow;
+struct DiskNode;
 struct GraphModel;
 
 /// The SMART Status screen: the overall result, one row per attribute of the selected disk, and the graph of
@@ -54,7 +55,8 @@ private:
     void makeTree();
     void makeHeading();
     void layOutPage();
-    void showSelectedDisk();
+    /// Gives the disk; null where there is none.
+    const DiskNode *showSelectedDisk();
 
     QTreeWidget *m_pAttributeTree;
     SmartChartView *m_pChartView;

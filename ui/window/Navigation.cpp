@@ -75,7 +75,7 @@ void MainWindow::pressNavigation(Screen screen)
         return;
     }
     selectButton(screen);
-    const navigation::Button &shown = navigation::buttons[static_cast<std::size_t>(screen)];
+    const navigation::Button &shown = navigation::buttons[screen];
     if (!shown.scan)
         ScanButton->hide();
     if (!shown.clone)
