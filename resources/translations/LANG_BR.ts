@@ -1005,6 +1005,18 @@
         <translation>Mais ferramentas</translation>
     </message>
     <message>
+        <source>Menu</source>
+        <translation>Menu</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Minimizar</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
         <source>Settings</source>
         <translation>Configurações</translation>
     </message>
@@ -1527,6 +1539,10 @@ A atualização falhou porque o download ficou incompleto.</translation>
     <message>
         <source>Smart Status</source>
         <translation>Status SMART</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
     </message>
     <message>
         <source>PASSED</source>

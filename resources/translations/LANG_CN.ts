@@ -1005,6 +1005,18 @@
         <translation>更多工具</translation>
     </message>
     <message>
+        <source>Menu</source>
+        <translation>菜单</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>最小化</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
         <source>Settings</source>
         <translation>设置</translation>
     </message>
@@ -1527,6 +1539,10 @@ Update failed due to partial download.</source>
     <message>
         <source>Smart Status</source>
         <translation>SMART 状态</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
     </message>
     <message>
         <source>PASSED</source>

@@ -1005,6 +1005,18 @@
         <translation>Weitere Tools</translation>
     </message>
     <message>
+        <source>Menu</source>
+        <translation>Menü</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Minimieren</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
         <source>Settings</source>
         <translation>Einstellungen</translation>
     </message>
@@ -1527,6 +1539,10 @@ Das Update ist fehlgeschlagen, weil der Download unvollständig war.</translatio
     <message>
         <source>Smart Status</source>
         <translation>SMART-Status</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
     </message>
     <message>
         <source>PASSED</source>

@@ -1005,6 +1005,18 @@
         <translation>Meer hulpprogramma&apos;s</translation>
     </message>
     <message>
+        <source>Menu</source>
+        <translation>Menu</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Minimaliseren</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+    <message>
         <source>Settings</source>
         <translation>Instellingen</translation>
     </message>
@@ -1527,6 +1539,10 @@ De update is mislukt doordat de download onvolledig was.</translation>
     <message>
         <source>Smart Status</source>
         <translation>SMART-status</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopiëren</translation>
     </message>
     <message>
         <source>PASSED</source>

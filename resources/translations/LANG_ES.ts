@@ -1005,6 +1005,18 @@
         <translation>Más herramientas</translation>
     </message>
     <message>
+        <source>Menu</source>
+        <translation>Menú</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Minimizar</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
         <source>Settings</source>
         <translation>Configuración</translation>
     </message>
@@ -1527,6 +1539,10 @@ La actualización falló porque la descarga quedó incompleta.</translation>
     <message>
         <source>Smart Status</source>
         <translation>Estado SMART</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
     </message>
     <message>
         <source>PASSED</source>

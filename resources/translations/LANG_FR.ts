@@ -1005,6 +1005,18 @@
         <translation>Autres outils</translation>
     </message>
     <message>
+        <source>Menu</source>
+        <translation>Menu</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Réduire</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
         <source>Settings</source>
         <translation>Paramètres</translation>
     </message>
@@ -1527,6 +1539,10 @@ La mise à jour a échoué : le téléchargement est incomplet.</translation>
     <message>
         <source>Smart Status</source>
         <translation>État SMART</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
     </message>
     <message>
         <source>PASSED</source>

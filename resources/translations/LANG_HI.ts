@@ -1005,6 +1005,18 @@
         <translation>अन्य टूल</translation>
     </message>
     <message>
+        <source>Menu</source>
+        <translation>मेनू</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>छोटा करें</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>बंद करें</translation>
+    </message>
+    <message>
         <source>Settings</source>
         <translation>सेटिंग्स</translation>
     </message>
@@ -1527,6 +1539,10 @@ Update failed due to partial download.</source>
     <message>
         <source>Smart Status</source>
         <translation>SMART स्थिति</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>कॉपी करें</translation>
     </message>
     <message>
         <source>PASSED</source>

@@ -1005,6 +1005,18 @@
         <translation>Altri strumenti</translation>
     </message>
     <message>
+        <source>Menu</source>
+        <translation>Menu</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Riduci a icona</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
         <source>Settings</source>
         <translation>Impostazioni</translation>
     </message>
@@ -1527,6 +1539,10 @@ L&apos;aggiornamento non è riuscito perché il download è incompleto.</transla
     <message>
         <source>Smart Status</source>
         <translation>Stato SMART</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copia</translation>
     </message>
     <message>
         <source>PASSED</source>

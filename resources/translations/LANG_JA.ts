@@ -1005,6 +1005,18 @@
         <translation>その他のツール</translation>
     </message>
     <message>
+        <source>Menu</source>
+        <translation>メニュー</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>最小化</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
         <source>Settings</source>
         <translation>設定</translation>
     </message>
@@ -1527,6 +1539,10 @@ Update failed due to partial download.</source>
     <message>
         <source>Smart Status</source>
         <translation>SMART の状態</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>コピー</translation>
     </message>
     <message>
         <source>PASSED</source>

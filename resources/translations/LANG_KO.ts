@@ -1005,6 +1005,18 @@
         <translation>추가 도구</translation>
     </message>
     <message>
+        <source>Menu</source>
+        <translation>메뉴</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>최소화</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
+    </message>
+    <message>
         <source>Settings</source>
         <translation>설정</translation>
     </message>
@@ -1527,6 +1539,10 @@ Update failed due to partial download.</source>
     <message>
         <source>Smart Status</source>
         <translation>SMART 상태</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>복사</translation>
     </message>
     <message>
         <source>PASSED</source>

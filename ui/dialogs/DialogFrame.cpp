@@ -254,7 +254,6 @@ void DialogFrame::styleButtons() const
                                    : QStringLiteral("QPushButton:focus{border-color: #2a81e5;}");
         button->setStyleSheet(button->styleSheet() + focus);
         button->setProperty(LeastWidth, button->minimumWidth());
-        button->setAutoDefault(true);
     }
 }
 
@@ -310,10 +309,9 @@ bool DialogFrame::keyPressed(int key) const
             m_pDismiss->click();
         return true;
     }
-    // A QDialog presses its default button by itself.
-    auto *focused = qobject_cast<QPushButton *>(m_pWindow->focusWidget());
-    if ((key == Qt::Key_Return || key == Qt::Key_Enter) && focused && !qobject_cast<QDialog *>(m_pWindow)) {
-        focused->click();
+    // A button with the focus takes the key, and a QDialog presses its default button by itself.
+    if ((key == Qt::Key_Return || key == Qt::Key_Enter) && m_pMain && !qobject_cast<QDialog *>(m_pWindow)) {
+        m_pMain->click();
         return true;
     }
     return false;

@@ -85,6 +85,8 @@ void CloneDisk::stylePage()
         combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     }
     pagelook::alignNames({SourceDisk, TargetDiskLbl});
+    SourceComboBox->setAccessibleName(SourceDisk->text());
+    DestinationComboBox->setAccessibleName(TargetDiskLbl->text());
 }
 
 void CloneDisk::FillSources(const std::vector<drivetexts::Entry> &disks)

@@ -97,10 +97,20 @@ void ScanDisk::styleChooser()
         choice.radio->setFont(strongFont());
         tests->addButton(choice.radio);
         QFrame *card = choice.card;
+        card->installEventFilter(this);
+        card->setCursor(Qt::PointingHandCursor);
         connect(choice.radio, &QRadioButton::toggled, this,
                 [card](bool chosen) { styleChoice(card, chosen); });
         styleChoice(card, false);
     }
+}
+
+/// A click anywhere on a card chooses its test.
+bool ScanDisk::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::MouseButtonRelease)
+        watched->findChild<QRadioButton *>()->click();
+    return Page::eventFilter(watched, event);
 }
 
 void ScanDisk::styleCounters()
@@ -121,6 +131,18 @@ void ScanDisk::setTimeCaptions()
 {
     TimeReLbl->setText(tr("Time Remaining"));
     TimeElapsedLbl->setText(tr("Time Elapsed"));
+}
+
+/// Tells a screen reader what the map shows.
+void ScanDisk::describeMap()
+{
+    const std::pair<const QLabel *, const QLabel *> counts[] = {
+        {TotalBlkLbl, TotalBlkValLbl}, {ProcessesLbl, ProcessedVal}, {BadBlkLbl, BadBlkValLbl}};
+    QStringList texts;
+    for (const auto &[caption, value] : counts)
+        texts << caption->text().trimmed() + QLatin1String(": ") + value->text();
+    m_pGridView->setAccessibleName(ScanDiskLbl->text());
+    m_pGridView->setAccessibleDescription(texts.join(QLatin1String(", ")));
 }
 
 void ScanDisk::showBlockSize()
@@ -178,6 +200,7 @@ void ScanDisk::FillDisk(const DiskNode *pNode)
 {
     DiskSizeValLbl->setText(pNode ? pNode->szSize.text() : QString());
     TotalBlkValLbl->setText(QString::number(sectorsOf(pNode)));
+    describeMap();
 }
 
 void ScanDisk::PrepareMap(const DiskNode *pNode)
@@ -294,6 +317,7 @@ void ScanDisk::OnUpdateTime()
     if (const auto remaining = m_clock.remainingText(elapsed))
         RemTimeValLbl->setText(*remaining);
     ElapsedValLbl->setText(ScanClock::elapsedText(elapsed));
+    describeMap();
 }
 
 void ScanDisk::OnScanFinish(QString verdict)
@@ -309,6 +333,7 @@ void ScanDisk::OnScanFinish(QString verdict)
     else if (!g_bAbortJob && verdict == QLatin1String("Pass"))
         // The progress comes in rounded steps, the last of which seldom meets the end of the disk.
         m_pGridView->m_i64Position = g_nMapTotalSectors;
+    describeMap();
     showResult(verdict);
     emit OnScanFinished();
 }
@@ -335,4 +360,5 @@ void ScanDisk::retranslate()
     if (g_bJobRunning)
         setTimeCaptions();
     showBlockSize();
+    describeMap();
 }

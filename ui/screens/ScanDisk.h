@@ -74,6 +74,7 @@ public slots:
 
 protected:
     void retranslate() override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void showPart(const QFrame *part);
@@ -81,6 +82,7 @@ private:
     void styleCounters();
     void setTimeCaptions();
     void connectThread();
+    void describeMap();
     void clearTimes();
     void showBlockSize();
     void clearCounts();

@@ -13,7 +13,10 @@
 #include "ui/widgets/SmartChartView.h"
 #include "ui/widgets/Style.h"
 
+#include <QAction>
+#include <QClipboard>
 #include <QCoreApplication>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QStyledItemDelegate>
 
@@ -70,6 +73,7 @@ SmartStatus::SmartStatus(QWidget *parent) : Page(parent)
     pagelook::styleLabels({SerialNunValueLbl, InterfaceValLbl, CapcityValLbl}, style::font(10),
                           BlueGreyLabel);
     makeTree();
+    nameControls();
     makeHeading();
     layOutPage();
     FormatSmartTable();
@@ -81,7 +85,7 @@ void SmartStatus::makeTree()
     m_pAttributeTree->setAlternatingRowColors(true);
     m_pAttributeTree->setRootIsDecorated(false);
     m_pAttributeTree->setFixedHeight(style::px(126));
-    m_pAttributeTree->setFocusPolicy(Qt::NoFocus);
+    m_pAttributeTree->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_pAttributeTree->setFrameShape(QFrame::NoFrame);
     m_pAttributeTree->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_pAttributeTree->setFont(style::font(10));
@@ -90,6 +94,18 @@ void SmartStatus::makeTree()
     m_pAttributeTree->setColumnCount(attributecolumns::Count);
     m_pAttributeTree->setStyleSheet(QStringLiteral(".QTreeWidget{ border: 1px solid #e0d0e0;}"));
     connect(m_pAttributeTree, &QTreeWidget::itemClicked, this, &SmartStatus::rowClicked);
+    // The keys move along the rows as well.
+    connect(m_pAttributeTree, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem *item) {
+        if (m_pAttributeTree->hasFocus())
+            emit rowClicked(item, 0);
+    });
+    m_pCopyAction = pagelook::named(new QAction(m_pAttributeTree), "m_pCopyAction");
+    m_pCopyAction->setShortcut(QKeySequence::Copy);
+    m_pCopyAction->setShortcutContext(Qt::WidgetShortcut);
+    m_pAttributeTree->addAction(m_pCopyAction);
+    m_pAttributeTree->setContextMenuPolicy(Qt::ActionsContextMenu);
+    connect(m_pCopyAction, &QAction::triggered, this,
+            [this] { QGuiApplication::clipboard()->setText(SelectedRows()); });
 
     QPalette palette = m_pAttributeTree->palette();
     palette.setColor(QPalette::Base, Qt::white);
@@ -199,6 +215,28 @@ void SmartStatus::RetranslateSmartTable()
         ShowRows(CurrentRows());
 }
 
+QString SmartStatus::SelectedRows() const
+{
+    QStringList lines;
+    for (int i = 0; i < m_pAttributeTree->topLevelItemCount(); ++i) {
+        const QTreeWidgetItem *item = m_pAttributeTree->topLevelItem(i);
+        QStringList cells;
+        for (int column = 0; column < attributecolumns::Count; ++column) {
+            if (!m_pAttributeTree->isColumnHidden(column))
+                cells << item->text(column).trimmed();
+        }
+        if (item->isSelected())
+            lines << cells.join(QLatin1Char('\t'));
+    }
+    return lines.join(QLatin1Char('\n'));
+}
+
+void SmartStatus::nameControls()
+{
+    m_pAttributeTree->setAccessibleName(tr("Smart Status"));
+    m_pCopyAction->setText(tr("Copy"));
+}
+
 void SmartStatus::ShowReading(OverallResult result)
 {
     m_pChartView->setVisible(g_bSmartAvailable);
@@ -230,6 +268,7 @@ void SmartStatus::retranslate()
 {
     retranslateUi(this);
     m_pHeadingLabel->setText(tr("Smart Status"));
+    nameControls();
     if (!g_bReportPending) {
         const bool passed = g_bSmartAvailable && g_driveVerdict != DriveVerdict::Failed;
         pagelook::showResult(SmartResultLabel,

@@ -9,6 +9,7 @@
 
 #include <vector>
 
+class QAction;
 class SmartChartView;
 enum class OverallResult;
 struct AttributeRow;
@@ -32,6 +33,8 @@ public:
     static std::vector<AttributeRow> CurrentRows();
     /// Puts rows in the place of those that show. Selects and gives the first; null where there is none.
     QTreeWidgetItem *ShowRows(const std::vector<AttributeRow> &rows);
+    /// The selected rows as a spreadsheet takes them: tabs between the cells, a line for each row.
+    QString SelectedRows() const;
     void ClearRows() { m_pAttributeTree->clear(); }
     /// Shows a graph in place of the one before.
     void ShowGraph(const QString &title, const GraphModel &graph);
@@ -55,10 +58,12 @@ private:
     void makeTree();
     void makeHeading();
     void layOutPage();
+    void nameControls();
     /// Gives the disk; null where there is none.
     const DiskNode *showSelectedDisk();
 
     QTreeWidget *m_pAttributeTree;
+    QAction *m_pCopyAction;
     SmartChartView *m_pChartView;
     QLabel *m_pHeadingLabel;       ///< in ImageLabel, hidden with it
     QLabel *m_pHeadingResultLabel; ///< in ImageLabel, hidden with it

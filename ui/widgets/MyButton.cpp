@@ -3,26 +3,37 @@
 
 #include "ui/widgets/Style.h"
 
-namespace
-{
+#include <QKeyEvent>
 
-void initialise(QPushButton *button)
+PressButton::PressButton(QWidget *parent) : QPushButton(parent)
 {
-    button->setAttribute(Qt::WA_MouseTracking);
-    button->setCheckable(true);
-    button->setFocusPolicy(Qt::NoFocus);
-    button->setIconSize(QSize(style::px(172), style::px(40)));
-    button->setGeometry(0, 0, style::px(172), style::px(40));
+    setAttribute(Qt::WA_MouseTracking);
+    setCheckable(true);
+    setFocusPolicy(Qt::TabFocus);
+    setIconSize(QSize(style::px(172), style::px(40)));
+    setGeometry(0, 0, style::px(172), style::px(40));
 }
 
-} // namespace
-
-MyButton::MyButton(QWidget *parent) : QPushButton(parent)
+void PressButton::keyPressEvent(QKeyEvent *event)
 {
-    initialise(this);
+    const int key = event->key();
+    if (key != Qt::Key_Return && key != Qt::Key_Enter && key != Qt::Key_Space) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    if (event->isAutoRepeat())
+        return;
+    tellPress();
+    tellRelease();
 }
 
-MyButton1::MyButton1(QWidget *parent) : QPushButton(parent)
+void MyButton::keyPressEvent(QKeyEvent *event)
 {
-    initialise(this);
+    const int step = event->key() == Qt::Key_Down ? 1 : event->key() == Qt::Key_Up ? -1 : 0;
+    const auto all = parentWidget()->findChildren<MyButton *>(QString(), Qt::FindDirectChildrenOnly);
+    MyButton *neighbour = step ? all.value(all.indexOf(this) + step) : nullptr;
+    if (neighbour && neighbour->isEnabled())
+        neighbour->setFocus(Qt::TabFocusReason);
+    else if (!step)
+        PressButton::keyPressEvent(event);
 }

@@ -3,14 +3,32 @@
 
 #include <QPushButton>
 
-/// A navigation button that only tells what the mouse does; a press is no click. The application sets and
-/// clears its down state.
-class MyButton : public QPushButton
+/// What the two kinds of buttons share that tell what the mouse does, and for which a press is no click. The
+/// keys that press a button do what a press and a release of the mouse do.
+class PressButton : public QPushButton
+{
+protected:
+    explicit PressButton(QWidget *parent);
+
+    virtual void tellPress() = 0;
+    virtual void tellRelease() = 0;
+
+    void mousePressEvent(QMouseEvent *) override { tellPress(); }
+    void mouseReleaseEvent(QMouseEvent *) override { tellRelease(); }
+    void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override { QWidget::keyReleaseEvent(event); }
+    /// The base would take back the down state, which means "on show".
+    void focusOutEvent(QFocusEvent *event) override { QWidget::focusOutEvent(event); }
+};
+
+/// A navigation button. The application sets and clears its down state. The keys up and down move the focus
+/// to its neighbours.
+class MyButton : public PressButton
 {
     Q_OBJECT
 
 public:
-    explicit MyButton(QWidget *parent = nullptr);
+    explicit MyButton(QWidget *parent = nullptr) : PressButton(parent) {}
 
 signals:
     void ChangePixmap();    ///< the pointer came over the button
@@ -19,19 +37,20 @@ signals:
     void OnReleasePixmap(); ///< and up again
 
 protected:
+    void tellPress() override { emit OnPressPixmap(); }
+    void tellRelease() override { emit OnReleasePixmap(); }
     void enterEvent(QEvent *) override { emit ChangePixmap(); }
     void leaveEvent(QEvent *) override { emit OnUpdatePixmap(); }
-    void mousePressEvent(QMouseEvent *) override { emit OnPressPixmap(); }
-    void mouseReleaseEvent(QMouseEvent *) override { emit OnReleasePixmap(); }
+    void keyPressEvent(QKeyEvent *event) override;
 };
 
 /// The same with signal names of its own: the back button of the self-test page.
-class MyButton1 : public QPushButton
+class MyButton1 : public PressButton
 {
     Q_OBJECT
 
 public:
-    explicit MyButton1(QWidget *parent = nullptr);
+    explicit MyButton1(QWidget *parent = nullptr) : PressButton(parent) {}
 
 signals:
     void ChangePixmap1();    ///< the pointer came over the button
@@ -40,8 +59,8 @@ signals:
     void OnReleasePixmap1(); ///< and up again
 
 protected:
+    void tellPress() override { emit OnPressPixmap1(); }
+    void tellRelease() override { emit OnReleasePixmap1(); }
     void enterEvent(QEvent *) override { emit ChangePixmap1(); }
     void leaveEvent(QEvent *) override { emit OnUpdatePixmap1(); }
-    void mousePressEvent(QMouseEvent *) override { emit OnPressPixmap1(); }
-    void mouseReleaseEvent(QMouseEvent *) override { emit OnReleasePixmap1(); }
 };

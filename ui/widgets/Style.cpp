@@ -212,9 +212,9 @@ void styleButton(QPushButton *button, ButtonRole role)
 {
     const bool main = role == ButtonRole::Main;
     const QString colours =
-        main ? QStringLiteral("QPushButton{background: #2a81e5; color: #ffffff; border: 1px solid #2a81e5;}"
-                              "QPushButton:hover{background: #1f72d1;}"
-                              "QPushButton:pressed{background: #1a63b8;}"
+        main ? QStringLiteral("QPushButton{background: #1f72d1; color: #ffffff; border: 1px solid #1f72d1;}"
+                              "QPushButton:hover{background: #1a63b8;}"
+                              "QPushButton:pressed{background: #14569f;}"
                               "QPushButton:disabled{background: #a9cbf3; border-color: #a9cbf3;}")
              : QStringLiteral("QPushButton{background: #ffffff; color: #000000; border: 1px solid #c9d2db;}"
                               "QPushButton:hover{border-color: #2a81e5; color: #2a81e5;}"
@@ -223,6 +223,7 @@ void styleButton(QPushButton *button, ButtonRole role)
     button->setStyleSheet(colours +
                           QStringLiteral("QPushButton{border-radius: %1px; padding: 0px %1px;}").arg(px(4)));
     button->setFont(font(10));
+    button->setAutoDefault(true); // Enter presses it, as the space bar does
     button->setCursor(Qt::PointingHandCursor);
 }
 

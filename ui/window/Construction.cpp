@@ -49,7 +49,8 @@ Widget *makeHeaderWidget(QWidget *parent, const char *name, const QRect &place)
 /// Shows a header button as its picture. The picture under the pointer has the suffix "Hov".
 void dressToolButton(QPushButton *button, const QString &image)
 {
-    button->setFocusPolicy(Qt::NoFocus);
+    button->setFocusPolicy(Qt::TabFocus);
+    button->setAutoDefault(true);
     button->setStyleSheet(
         QStringLiteral("QPushButton{border-image: url(%1)}QPushButton:hover{border-image: url(%2)}"
                        "QPushButton::menu-indicator{image: none; width: 0px;}"
@@ -89,6 +90,8 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent), m_drag(this, Titl
     retranslateShell();
     FillDriveCombos();
     connectAll();
+    connectKeys();
+    orderFocus();
     const Screen first = startargument::asksForClone(g_strStartArgument) ? navigation::CloneDiskScreen
                                                                          : navigation::DiskStatusScreen;
     selectButton(first);
@@ -259,9 +262,17 @@ void MainWindow::retranslateShell()
     for (const Screen screen : Screens) {
         m_apNavigation[screen]->setText(tr(navigation::buttons[screen].text));
         m_apNavigation[screen]->setToolTip(tr(navigation::buttons[screen].toolTip));
+        m_apNavigation[screen]->setAccessibleName(m_apNavigation[screen]->text().trimmed());
     }
+    DriveCombobox->setAccessibleName(tr("Disk Drive ").trimmed());
     m_pHelpButton->setToolTip(tr("View Velmora Halvane help document"));
     m_pMoreToolsButton->setToolTip(tr("More Tools"));
+    m_pMenuButton->setToolTip(tr("Menu"));
+    minimizeButton->setToolTip(tr("Minimize"));
+    CloseButton->setToolTip(tr("Close"));
+    for (QPushButton *button :
+         {m_pHelpButton, m_pMoreToolsButton, m_pMenuButton, minimizeButton, CloseButton})
+        button->setAccessibleName(button->toolTip());
     m_pSettingsAction->setText(tr("Settings"));
     m_pAboutAction->setText(tr("About"));
     m_pRecoverAction->setText(tr("Recover Data"));

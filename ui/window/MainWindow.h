@@ -15,6 +15,7 @@
 #include "ui/screens/ScanDisk.h"
 #include "ui/screens/Settings.h"
 #include "ui/screens/SmartStatus.h"
+#include "ui/widgets/FocusRing.h"
 #include "ui/widgets/FramelessDrag.h"
 #include "ui/window/QRefThreadDevicesLoad.h"
 #include "update/HelpLinks.h"
@@ -170,6 +171,8 @@ private:
     void connectAll();
     void connectNavigation();
     void connectPages();
+    void connectKeys();
+    void orderFocus();
     void startTemperatureTimer();
     void retranslateShell();
     /// @}
@@ -283,6 +286,7 @@ private:
     SelfTest m_selfTest;
     QTimer *m_pTestTimer = nullptr; ///< made at the first self-test
     FramelessDrag m_drag;
+    FocusRing m_focusRing;
     SMARTThread m_smartThread;
     QRefThreadDevicesLoad m_refreshThread;
 };

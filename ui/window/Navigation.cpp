@@ -62,6 +62,7 @@ void MainWindow::selectButton(Screen screen)
     m_screen = screen;
     for (const Screen other : Screens) {
         m_apNavigation[other]->setDown(other == screen);
+        m_apNavigation[other]->setChecked(other == screen); // a screen reader tells this
         leaveNavigation(other);
     }
 }

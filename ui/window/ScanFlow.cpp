@@ -120,10 +120,14 @@ void MainWindow::OnFinishScanDisk()
 void MainWindow::lockShell(Screen screen)
 {
     setMenuEntriesEnabled(false);
+    // Who has started the job by a key can stop it by a key.
+    const bool hadFocus = focusWidget() == ScanButton || focusWidget() == CloneButton;
     for (QWidget *idle : std::initializer_list<QWidget *>{ScanButton, CloneButton, ScreenshotButton,
                                                           BackTestButton, StopTestButton})
         idle->hide();
     StopButton->show();
+    if (hadFocus)
+        StopButton->setFocus();
     DriveCombobox->setEnabled(false);
     enableNavigation(false);
     selectButton(screen);

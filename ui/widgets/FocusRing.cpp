@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/widgets/FocusRing.h"
+
+#include "ui/widgets/Style.h"
+
+#include <QApplication>
+#include <QFocusEvent>
+#include <QMainWindow>
+#include <QPainter>
+
+namespace
+{
+
+constexpr int Line = 2;
+constexpr int Radius = 4;
+const QColor Colour(0x14, 0x56, 0x9f);
+
+class Ring : public QWidget
+{
+public:
+    explicit Ring(QWidget *window) : QWidget(window)
+    {
+        setObjectName(QStringLiteral("m_pFocusRing"));
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        const int line = style::px(Line);
+        const double inset = line / 2.0;
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(Colour, line));
+        painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), style::px(Radius),
+                                style::px(Radius));
+    }
+};
+
+} // namespace
+
+FocusRing::FocusRing(QObject *parent) : QObject(parent)
+{
+    qApp->installEventFilter(this);
+}
+
+bool FocusRing::eventFilter(QObject *watched, QEvent *event)
+{
+    auto *widget = watched->isWidgetType() ? static_cast<QWidget *>(watched) : nullptr;
+    switch (event->type()) {
+    case QEvent::KeyPress:
+        m_bKeys = true;
+        if (!m_pControl)
+            take(QApplication::focusWidget());
+        break;
+    case QEvent::MouseButtonPress:
+        m_bKeys = false;
+        take(nullptr);
+        break;
+    case QEvent::FocusIn: {
+        const bool byMouse = static_cast<QFocusEvent *>(event)->reason() == Qt::MouseFocusReason;
+        const bool inDialog = widget && !qobject_cast<QMainWindow *>(widget->window());
+        take(!byMouse && (m_bKeys || inDialog) ? widget : nullptr);
+        break;
+    }
+    case QEvent::FocusOut:
+        take(nullptr);
+        break;
+    case QEvent::Move:
+    case QEvent::Resize:
+    case QEvent::Show:
+    case QEvent::Hide:
+        if (m_pControl && (widget == m_pControl || (widget && widget->isAncestorOf(m_pControl))))
+            place();
+        break;
+    default:
+        break;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void FocusRing::take(QWidget *control)
+{
+    if (control == m_pControl)
+        return;
+    m_pControl = control && !control->isWindow() ? control : nullptr;
+    place();
+}
+
+void FocusRing::place()
+{
+    if (!m_pControl || !m_pControl->isVisible()) {
+        if (m_pRing)
+            m_pRing->hide();
+        return;
+    }
+    QWidget *window = m_pControl->window();
+    if (!m_pRing || m_pRing->parentWidget() != window) {
+        delete m_pRing;
+        m_pRing = new Ring(window);
+    }
+    const int room = style::px(Line);
+    const QRect control(m_pControl->mapTo(window, QPoint(0, 0)), m_pControl->size());
+    m_pRing->setGeometry(control.adjusted(-room, -room, room, room) & window->rect());
+    m_pRing->raise();
+    m_pRing->show();
+}

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/widgets/MyButton.h"
+#include "ui/window/MainWindow.h"
+
+#include <QShortcut>
+
+namespace
+{
+
+void pressIfShown(QPushButton *button)
+{
+    if (button->isVisible())
+        button->click();
+}
+
+/// Widgets of a page that the key Tab reaches, in their order.
+QList<QWidget *> focusable(QWidget *page)
+{
+    QList<QWidget *> found;
+    for (QWidget *next = page->nextInFocusChain(); next != page; next = next->nextInFocusChain()) {
+        if (page->isAncestorOf(next) && (next->focusPolicy() & Qt::TabFocus) != 0)
+            found.append(next);
+    }
+    return found;
+}
+
+} // namespace
+
+/// Keys that work wherever the focus is in the window.
+void MainWindow::connectKeys()
+{
+    const auto add = [this](const QKeySequence &keys, const std::function<void()> &action) {
+        auto *shortcut = new QShortcut(keys, this);
+        shortcut->setAutoRepeat(false);
+        connect(shortcut, &QShortcut::activated, this, action);
+    };
+    for (const Screen screen : Screens) {
+        add(QKeySequence(Qt::CTRL + Qt::Key_1 + screen), [this, screen] {
+            pressNavigation(screen);
+            releaseNavigation(screen);
+        });
+    }
+    add(QKeySequence(Qt::Key_F1), [this] { OnOpenHelp(); });
+    add(QKeySequence(Qt::Key_F5), [this] { OnRefresh(); });
+    add(QKeySequence(Qt::CTRL + Qt::Key_S), [this] { pressIfShown(ReportSaveButton); });
+    add(QKeySequence(Qt::CTRL + Qt::Key_P), [this] { pressIfShown(ScreenshotButton); });
+}
+
+/// The key Tab goes through the window as it is read: title, navigation, disk, page, buttons below.
+void MainWindow::orderFocus()
+{
+    QList<QWidget *> order{m_pHelpButton, m_pMoreToolsButton, m_pMenuButton, minimizeButton, CloseButton};
+    for (MyButton *button : m_apNavigation)
+        order << button;
+    order << DriveCombobox;
+    for (QWidget *page : m_apScreens)
+        order << focusable(page);
+    order << BackTestButton << StopTestButton << StopButton << ScanButton << CloneButton << ReportSaveButton
+          << ScreenshotButton;
+    for (int i = 1; i < order.size(); ++i)
+        setTabOrder(order.at(i - 1), order.at(i));
+}
