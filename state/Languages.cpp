@@ -19,7 +19,7 @@ constexpr DiskStatusMetrics ForFrench{180, 190, 180, 145, 180, 140, 180, 145, 20
 constexpr DiskStatusMetrics ForItalian{140, 190, 140, 140, 170, 140, 140, 175, 20};
 constexpr DiskStatusMetrics ForSpanish{140, 190, 140, 140, 200, 140, 140, 150, 20};
 constexpr DiskStatusMetrics ForDutch{160, 190, 130, 140, 130, 140, 140, 185, 20};
-constexpr DiskStatusMetrics ForBrazil{160, 190, 150, 140, 175, 140, 150, 165, 20};
+constexpr DiskStatusMetrics ForBrazil{160, 190, 150, 140, 175, 140, 150, 165, 25};
 
 } // namespace
 

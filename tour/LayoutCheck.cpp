@@ -64,17 +64,19 @@ std::optional<Cut> richCut(const QLabel *label, const QSize &have)
     return Cut{need, have};
 }
 
-/// The line height has blank parts that may reach beyond the label; only the letters have to fit.
-bool inkFits(const QFontMetrics &metrics, const QString &text, int height, Qt::Alignment alignment)
+/// The line height has blank parts that may reach beyond the widget; only the letters have to fit. The edge
+/// of the widget cuts, not that of the `area` for its text.
+bool inkFits(const QWidget *widget, const QString &text, const QRect &area, Qt::Alignment alignment)
 {
+    const QFontMetrics metrics = widget->fontMetrics();
     const QRect ink = metrics.tightBoundingRect(text);
-    int top = (height - metrics.height()) / 2;
+    int top = (area.height() - metrics.height()) / 2;
     if (alignment & Qt::AlignTop)
         top = 0;
     else if (alignment & Qt::AlignBottom)
-        top = height - metrics.height();
-    const int baseline = top + metrics.ascent();
-    return baseline + ink.top() >= 0 && baseline + ink.bottom() < height;
+        top = area.height() - metrics.height();
+    const int baseline = area.top() + top + metrics.ascent();
+    return baseline + ink.top() >= 0 && baseline + ink.bottom() < widget->height();
 }
 
 /// The part of a widget that its parents do not cut off. A scroll area counts as a whole, as it can be
@@ -121,7 +123,8 @@ std::optional<Cut> cutByParents(const QWidget *widget)
 
 std::optional<Cut> labelCut(const QLabel *label)
 {
-    const QSize have = labelArea(label).size();
+    const QRect area = labelArea(label);
+    const QSize have = area.size();
     if (isRich(label))
         return richCut(label, have);
 
@@ -132,7 +135,7 @@ std::optional<Cut> labelCut(const QLabel *label)
     const QSize need = metrics.boundingRect(QRect(0, 0, room, Unlimited), flags, text).size();
     const bool oneLine = need.height() < 2 * metrics.height();
     const bool high =
-        oneLine ? !inkFits(metrics, text, have.height(), label->alignment()) : need.height() > have.height();
+        oneLine ? !inkFits(label, text, area, label->alignment()) : need.height() > have.height();
     if (need.width() <= have.width() && !high)
         return std::nullopt;
     return Cut{need, have};
@@ -151,14 +154,15 @@ std::optional<Cut> buttonCut(const QAbstractButton *button)
     QStyle::SubElement element = QStyle::SE_PushButtonContents;
     if (radio || check)
         element = radio ? QStyle::SE_RadioButtonContents : QStyle::SE_CheckBoxContents;
-    const QSize have = button->style()->subElementRect(element, &option, button).size();
+    const QRect area = button->style()->subElementRect(element, &option, button);
+    const QSize have = area.size();
 
     constexpr int IconGap = 4;
     const QFontMetrics metrics = button->fontMetrics();
     QSize need = metrics.size(Qt::TextShowMnemonic, withoutTrailingBlanks(button->text()));
     const int iconWidth = button->icon().isNull() ? 0 : button->iconSize().width() + IconGap;
     need.setWidth(need.width() + iconWidth);
-    const bool high = !inkFits(metrics, button->text(), have.height(), Qt::AlignVCenter);
+    const bool high = !inkFits(button, button->text(), area, Qt::AlignVCenter);
     if (need.width() <= have.width() && !high)
         return std::nullopt;
     return Cut{need, have};

@@ -23,6 +23,7 @@ constexpr int HeaderHeight = 168; ///< also the side of the ring's square, half 
 constexpr int Overlap = 72;
 constexpr int ScrollBarFrom = 4; ///< volumes
 constexpr int SliceInset = 20;
+constexpr int LineHeight = 21; ///< with the marks above and below the letters of every script
 constexpr double EmptyRing = 12.0;
 constexpr int HeightPerFrame = 300; ///< of the frames' host, in pixels at every scale
 
@@ -53,27 +54,16 @@ const LabelLook looks[] = {
     {"m_apPercentage", true, &PercentLabel, true, 1, 1, 112},
 };
 
-/// True if the font is so high that letters would be cut off at the bottom of a label that centres its
-/// text. A label that aligns its text at the bottom cuts off only the blank part above the letters.
-bool reachesBelow(const QLabel *label)
-{
-    const QFontMetrics metrics = label->fontMetrics();
-    const int baseline = (label->height() - metrics.height()) / 2 + metrics.ascent();
-    return baseline + metrics.tightBoundingRect(QStringLiteral("gjpqy(")).bottom() >= label->height();
-}
-
 void addLabel(QGridLayout *grid, const LabelLook &look, const QString &text, QFrame *frame)
 {
     auto *label = pagelook::named(new QLabel(text, frame), look.name);
     label->setTextFormat(Qt::PlainText);
     pagelook::styleLabels({label}, look.semiBold ? style::semiBold(10) : style::font(10), *look.sheet);
-    label->setFixedHeight(style::px(16));
+    label->setFixedHeight(style::px(LineHeight));
     // The columns of all frames stand below each other, whatever is written in them.
     label->setMinimumWidth(1);
     if (look.centred)
         label->setAlignment(Qt::AlignCenter);
-    if (reachesBelow(label))
-        label->setAlignment((label->alignment() & Qt::AlignHorizontal_Mask) | Qt::AlignBottom);
     grid->addWidget(label, look.row, look.column);
     grid->setColumnStretch(look.column, look.stretch);
 }
@@ -200,8 +190,8 @@ QFrame *DiskPartition::addFrame(const QStringList &texts)
     QGridLayout *const grids[] = {new QGridLayout, new QGridLayout};
     for (QGridLayout *grid : grids) {
         grid->setHorizontalSpacing(0);
-        grid->setVerticalSpacing(style::px(3));
-        grid->setContentsMargins(0, style::px(6), 0, style::px(6));
+        grid->setVerticalSpacing(0);
+        grid->setContentsMargins(0, style::px(4), 0, style::px(4));
     }
     for (int i = 0; i < texts.size(); ++i)
         addLabel(grids[i < LeftLooks ? 0 : 1], looks[i], texts.at(i), frame);

@@ -94,6 +94,7 @@ void ScanDisk::styleChooser()
     };
     for (const auto &choice : choices) {
         pagelook::styleLabels({choice.text}, style::font(10), style::BlackLabel);
+        choice.text->setContentsMargins(0, style::px(1), 0, style::px(2)); // for marks above and below
         choice.radio->setFont(strongFont());
         tests->addButton(choice.radio);
         QFrame *card = choice.card;
