@@ -58,7 +58,8 @@ Look lookOf(const QWidget *window)
     Look look;
     for (const QWidget *widget : window->findChildren<QWidget *>()) {
         if (!widget->isVisible() || widget->objectName().isEmpty() ||
-            widget->objectName().startsWith(QLatin1String("qt_")))
+            widget->objectName().startsWith(QLatin1String("qt_")) ||
+            widget->objectName() == QLatin1String("m_pFocusRing"))
             continue;
         QString place;
         for (const QWidget *part = widget; part && part != window; part = part->parentWidget())

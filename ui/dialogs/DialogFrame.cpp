@@ -305,7 +305,9 @@ void DialogFrame::paint() const
 bool DialogFrame::keyPressed(int key) const
 {
     if (key == Qt::Key_Escape) {
-        if (m_pDismiss)
+        if (!m_Shape.context)
+            m_pWindow->hide();
+        else if (m_pDismiss)
             m_pDismiss->click();
         return true;
     }

@@ -55,7 +55,8 @@ public:
     QVBoxLayout *build(const DialogShape &shape);
     /// Dresses the window that build() filled. Call it once, when all widgets are there.
     void dress();
-    /// The same for a window with a form. Escape and the system's close command press `dismiss`.
+    /// The same for a window with a form. The system's close command presses `dismiss`, Enter presses `main`,
+    /// and Escape just hides the window.
     void dress(QLabel *title, QPushButton *dismiss, QPushButton *main);
     /// Calls `translate` now and after each change of language.
     void keepTranslated(std::function<void()> translate);

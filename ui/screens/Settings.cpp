@@ -166,6 +166,7 @@ void Settings::retranslate()
     m_pLanguageButton->setToolTip(tr("Languages"));
     for (QPushButton *button : {m_pUpdateButton, m_pHelpButton, m_pLanguageButton})
         button->setAccessibleName(button->toolTip());
+    CloseButton->setAccessibleName(QCoreApplication::translate("MainWindow", "Close"));
     for (const languages::Language &language : languages::table)
         m_apLanguageActions[language.index()]->setText(
             QCoreApplication::translate("MainWindow", language.text));

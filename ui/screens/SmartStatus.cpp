@@ -185,6 +185,7 @@ std::vector<AttributeRow> SmartStatus::CurrentRows()
 QTreeWidgetItem *SmartStatus::ShowRows(const std::vector<AttributeRow> &rows)
 {
     FormatSmartTable();
+    const QSignalBlocker block(m_pAttributeTree); // the caller knows of the row that becomes the current one
     m_pAttributeTree->clear();
     for (const AttributeRow &row : rows)
         fillItem(new QTreeWidgetItem(m_pAttributeTree), row);
@@ -205,6 +206,7 @@ void SmartStatus::ClearDisk()
 void SmartStatus::ShowGraph(const QString &title, const GraphModel &graph)
 {
     GraphLabel->setText(title);
+    m_pChartView->setAccessibleName(title);
     m_pChartView->ShowGraph(graph);
 }
 

@@ -46,7 +46,10 @@ FocusRing::FocusRing(QObject *parent) : QObject(parent)
 
 bool FocusRing::eventFilter(QObject *watched, QEvent *event)
 {
-    auto *widget = watched->isWidgetType() ? static_cast<QWidget *>(watched) : nullptr;
+    // The system's windows get events of their own.
+    if (!watched->isWidgetType())
+        return QObject::eventFilter(watched, event);
+    auto *widget = static_cast<QWidget *>(watched);
     switch (event->type()) {
     case QEvent::KeyPress:
         m_bKeys = true;
@@ -59,7 +62,7 @@ bool FocusRing::eventFilter(QObject *watched, QEvent *event)
         break;
     case QEvent::FocusIn: {
         const bool byMouse = static_cast<QFocusEvent *>(event)->reason() == Qt::MouseFocusReason;
-        const bool inDialog = widget && !qobject_cast<QMainWindow *>(widget->window());
+        const bool inDialog = !qobject_cast<QMainWindow *>(widget->window());
         take(!byMouse && (m_bKeys || inDialog) ? widget : nullptr);
         break;
     }
@@ -69,9 +72,13 @@ bool FocusRing::eventFilter(QObject *watched, QEvent *event)
     case QEvent::Move:
     case QEvent::Resize:
     case QEvent::Show:
-    case QEvent::Hide:
-        if (m_pControl && (widget == m_pControl || (widget && widget->isAncestorOf(m_pControl))))
+        if (m_pControl && (widget == m_pControl || widget->isAncestorOf(m_pControl)))
             place();
+        break;
+    case QEvent::Hide:
+        // The control itself may learn of it later.
+        if (m_pControl && (widget == m_pControl || widget->isAncestorOf(m_pControl)))
+            take(nullptr);
         break;
     default:
         break;
@@ -90,8 +97,7 @@ void FocusRing::take(QWidget *control)
 void FocusRing::place()
 {
     if (!m_pControl || !m_pControl->isVisible()) {
-        if (m_pRing)
-            m_pRing->hide();
+        delete m_pRing;
         return;
     }
     QWidget *window = m_pControl->window();

@@ -179,6 +179,7 @@ SmartChartView::SmartChartView(QWidget *parent) : QChartView(parent)
     setObjectName(QStringLiteral("g_pSmartChartView"));
     setFixedSize(style::px(700), style::px(220));
     setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::NoFocus); // no key does anything here
     setBackgroundBrush(Qt::white);
     setRenderHint(QPainter::Antialiasing);
     chart()->setBackgroundVisible(false);

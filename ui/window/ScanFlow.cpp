@@ -140,10 +140,13 @@ void MainWindow::releaseShell()
     keepAwake();
     // There is nothing left to be stopped.
     m_pConfirmation->hide();
+    const bool hadFocus = focusWidget() == StopButton;
     StopButton->hide();
     ScanButton->setEnabled(true);
     DriveCombobox->setEnabled(true);
     enableNavigation();
+    if (hadFocus && m_screen)
+        m_apNavigation[*m_screen]->setFocus();
 }
 
 /// A button that is disabled or enabled stays down or up.
