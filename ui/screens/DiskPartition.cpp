@@ -80,6 +80,7 @@ DiskPartition::DiskPartition(QWidget *parent) : Page(parent)
     DetailGrid->setColumnMinimumWidth(0, style::px(115));
     makeDonut();
     makeScrollArea();
+    FillPartitionHeader();
 }
 
 DiskPartition::~DiskPartition()
@@ -143,6 +144,8 @@ void DiskPartition::makeScrollArea()
 
 void DiskPartition::FillPartitionHeader()
 {
+    m_pScrollArea->setAccessibleName(TreeStringLbl->text());
+    m_pDonutView->setAccessibleName(DiskPartitionLbl->text());
     for (QLabel *value : {SerialNunValueLbl, CapcityValLbl, InterfaceValLbl})
         value->clear();
     const DiskNode *node = findPhysicalDisk(PhysicalDriveBase + g_nCurrentDiskIndex);
