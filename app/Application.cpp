@@ -7,6 +7,7 @@
 #include "state/Globals.h"
 #include "state/Languages.h"
 #include "state/SettingsStore.h"
+#include "ui/widgets/Style.h"
 
 #include <QApplication>
 #include <QFont>
@@ -116,6 +117,7 @@ int runApplication(int argc, char **argv)
     Platform &platform = Platform::current();
     QApplication application(argc, argv);
     initialiseResources();
+    QApplication::setPalette(style::lightPalette());
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/images/img_AppIcon.png")));
     // Windows hide and come back while the splash lives on; only the close question ends the program.
     QApplication::setQuitOnLastWindowClosed(false);

@@ -4,9 +4,12 @@
 #include "tests/ui/Named.h"
 #include "ui/screens/CloneDisk.h"
 #include "ui/screens/DiskPartition.h"
+#include "ui/widgets/Style.h"
 
 #include <QComboBox>
 #include <QtTest>
+
+#include <cmath>
 
 /// Pages without a window.
 class PagesTest : public QObject
@@ -107,6 +110,33 @@ private slots:
             const DetailLabel::Parts parts = DetailLabel::parts(row[0]);
             QCOMPARE(parts.caption, row[1]);
             QCOMPARE(parts.value, row[2]);
+        }
+    }
+
+    /// Texts of the palette stand out from what is behind them, by the measure for small letters.
+    void theColoursCanBeRead()
+    {
+        const auto light = [](const QColor &colour) {
+            double sum = 0;
+            for (const auto &[part, weight] :
+                 {std::pair(colour.redF(), 0.2126), {colour.greenF(), 0.7152}, {colour.blueF(), 0.0722}})
+                sum += weight * (part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4));
+            return sum + 0.05;
+        };
+        const QPalette palette = style::lightPalette();
+        using Role = QPalette::ColorRole;
+        const std::pair<Role, Role> pairs[] = {
+            {Role::WindowText, Role::Window},         {Role::Text, Role::Base},
+            {Role::Text, Role::AlternateBase},        {Role::ButtonText, Role::Button},
+            {Role::HighlightedText, Role::Highlight}, {Role::ToolTipText, Role::ToolTipBase},
+            {Role::PlaceholderText, Role::Base},      {Role::Link, Role::Base}};
+        for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+            for (const auto &[text, behind] : pairs) {
+                const double one = light(palette.color(group, text));
+                const double other = light(palette.color(group, behind));
+                QVERIFY2(std::max(one, other) / std::min(one, other) >= 4.5,
+                         qPrintable(QString::number(text)));
+            }
         }
     }
 

@@ -7,7 +7,6 @@
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QLabel>
-#include <QPalette>
 #include <QPushButton>
 #include <QScreen>
 #include <QTextDocument>
@@ -56,6 +55,23 @@ QFont font(int points, bool italic)
 QFont semiBold(int points, bool italic)
 {
     return QFont(QStringLiteral("Segoe UI SemiBold"), points, QFont::Normal, italic);
+}
+
+QPalette lightPalette()
+{
+    const QColor grey(0x6b, 0x6b, 0x6b);
+    QPalette palette(QColor(0xf5, 0xf5, 0xf5));
+    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, grey);
+    palette.setColor(QPalette::PlaceholderText, grey);
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::AlternateBase, QColor(0xf5, 0xf5, 0xf5));
+    palette.setColor(QPalette::ToolTipBase, Qt::white);
+    palette.setColor(QPalette::ToolTipText, QColor(0x47, 0x47, 0x47));
+    palette.setColor(QPalette::Highlight, QColor(0x1f, 0x72, 0xd1));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Link, QColor(0x1f, 0x72, 0xd1));
+    return palette;
 }
 
 int px(int size)

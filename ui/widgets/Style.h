@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QFont>
+#include <QPalette>
 #include <QRect>
 #include <QString>
 
@@ -19,6 +20,9 @@ extern const QString FailedLabel; ///< red result text
 
 QFont font(int points, bool italic = false);
 QFont semiBold(int points, bool italic = false);
+
+/// The colours of all windows, message boxes and file dialogs, whatever the theme of the system is.
+QPalette lightPalette();
 
 /// A design size in pixels on this display, truncated.
 int px(int size);
