@@ -92,12 +92,15 @@ finds 'points upwards' ui/widgets/Up.cpp '#include "ui/dialogs/Question.h"\n'
 finds 'tsort: state/State' platform/Seam.h '#include "state/State.h"\n'
 finds 'a widget' state/Widget.h '#include <QtWidgets/QLabel>\n'
 finds 'begin at the root' ui/Near.cpp '#include "Page.h"\n'
+finds 'a widget' inventory/Chart.cpp '#include <QtCharts/QChart>\n'
 begins platforms
+finds 'smart/Os.cpp:1' smart/Os.cpp '#ifdef Q_OS_LINUX\n#endif\n'
 finds 'tests/Os.cpp:1' tests/Os.cpp '#if defined(_WIN32)\n#endif\n'
 begins format
 finds 'smart/Ugly.cpp:2' smart/Ugly.cpp "$licence\\nint  main( ) {return 0;}\n"
 finds 'smart/Free.cpp' smart/Free.cpp '// A line\n'
 begins words
+finds 'smart/Words.cpp:1' smart/Words.cpp '// see the s''pec\n'
 finds 'README.md:2' README.md 'A line\nas in P''art 3.2\n'
 begins well-formed
 finds 'ui/forms/Torn.ui:2' ui/forms/Torn.ui '<ui><class>\n'

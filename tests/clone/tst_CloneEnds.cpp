@@ -14,6 +14,7 @@ private slots:
     void refuses();
     void diesOnTheWay_data();
     void diesOnTheWay();
+    void pulledOutAtOnce();
     void unconfirmed();
     void withoutDisks();
     void startsAndStopsManyTimes();
@@ -190,6 +191,17 @@ void tst_CloneEnds::diesOnTheWay()
     QVERIFY2(refused < 2100, qPrintable(QString::number(refused)));
     QCOMPARE(m_disks->events, Failed);
     QCOMPARE(m_pc->commands().size(), destination ? 3 : 5);
+}
+
+void tst_CloneEnds::pulledOutAtOnce()
+{
+    openPc(2 * BlockSectors, 2 * BlockSectors);
+    m_pc->onTransfer = [this](bool isWrite, qint64, quint32) {
+        m_pc->disks[Destination].gone = m_pc->disks[Destination].gone || isWrite;
+        return true;
+    };
+    runClone();
+    QCOMPARE(m_outcome.fault, CloneFault::DestinationGone);
 }
 
 void tst_CloneEnds::unconfirmed()

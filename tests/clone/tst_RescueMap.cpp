@@ -46,6 +46,12 @@ void tst_RescueMap::text()
     QCOMPARE(clonemessages::finished(outcome).second,
              QStringLiteral("4 sectors could not be read and were filled with zeros. "
                             "4 sectors could not be written."));
+    outcome.end = CloneOutcome::End::Failed;
+    outcome.fault = CloneFault::DestinationGone;
+    const clonemessages::Message failed = clonemessages::finished(outcome);
+    QCOMPARE(failed.text + '|' + failed.second,
+             QStringLiteral("The destination disk does not answer any more.|"
+                            "The destination disk holds no complete copy."));
 }
 
 /// With the map ddrescue copies the lost sectors and nothing else.

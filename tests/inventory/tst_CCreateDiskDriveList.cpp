@@ -217,6 +217,7 @@ private slots:
         QCOMPARE(coded("FAT", 12), QVector<int>({1, 0, 2}));
         QCOMPARE(coded("FAT", 13), QVector<int>({1, 1, 2}));
         QCOMPARE(coded("ReFS"), QVector<int>({1, 0, 0}));
+        QCOMPARE(coded(""), QVector<int>({1, 2, 2})); // sniffed
     }
 
     void fillsVolumes()
@@ -309,6 +310,8 @@ private slots:
         QCOMPARE(told("RAW", bootSector("NTFS", 0), 1), "RAW, code 4" + size);
         QCOMPARE(told("RAW", bootSector("MSDOS5.0", 0xAA55), 1), "RAW, code 4" + size);
         QCOMPARE(told("FAT16", ntfs, 1), "FAT16, code 0" + size);
+        QCOMPARE(told("EXFAT", ntfs, 1), "NTFS, code 7" + size);
+        QCOMPARE(told("", ntfs, 1), "FAT32, code 2" + size); // sniffed
         QCOMPARE(told("RAW", ntfs, 2), QStringLiteral("NTFS, code 7, 0 bytes, 0.00 MB"));
     }
 

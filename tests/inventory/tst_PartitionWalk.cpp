@@ -194,7 +194,7 @@ void PartitionWalkTest::takesTables_data()
                .table(10, {{Linux, 1, 1}})
         << Found{{0x100000013, 0xFFFFFFFF, 0x200000012}, {11, 1, 12}};
     QTest::newRow("chain beyond the disk")
-        << disk().table(0, {{Ext, 5000, 9}, {Linux, 10, 5}}) << Found{{10, 5, 15}};
+        << disk().table(0, {{Ext, 5000, 9}, {Ext, 0, 9}, {Linux, 10, 5}}) << Found{{10, 5, 15}};
     QTest::newRow("cycle of two tables") << disk()
                                                 .table(0, {{Ext, 20, 9}, {Linux, 10, 5}})
                                                 .table(20, {{Linux, 1, 2}, {Ext, 5, 9}})

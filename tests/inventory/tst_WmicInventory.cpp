@@ -248,6 +248,8 @@ private slots:
                         "Disk #0, Partition #0  104857600  GPT: System\r\n"
                         "Disk #2, Partition #0  104857600  GPT: System\r\n"),
                  QStringLiteral("0"));
+        QCOMPARE(number("Name  Size  Type\r\nDisk #3, Partition #0  1  Installable File System\r\n"),
+                 QStringLiteral("3"));
         QCOMPARE(number(sample("partition-types-french")), QStringLiteral("Disque n\u00B0 0"));
         QVERIFY(!QFile::exists(tempFile(QStringLiteral("SMART1.txt"))));
         const QString none = number("Disk #1, Partition #0  524288000  GPT: Basic Data\r\n");

@@ -58,6 +58,7 @@ void tst_CommandInterpreter::run_data()
     };
     row("several blanks", "echo64  -a  -d sat,12 /dev/sdb >> %1/out.txt ", "old -a+-d+sat,12+/dev/sdb\n");
     row("folder, other letters and suffix", "C:\\W\\wbem\\ECHO64.exe a >> %1\\\\out.txt ", "old a\n");
+    row("name within another", "myecho64.exe a >> %1/out.txt ", "old ");
     row("folder with slashes", "/tmp/x.d/echo64 a >> %1/out.txt ", "old a\n");
     row("pipe", "S\\echo64.exe abc | S\\upper.exe x >> %1/out.txt ", "old ABC\nx");
     row("unknown tool before a pipe", "nothing | upper x >> %1/out.txt ", "old x");

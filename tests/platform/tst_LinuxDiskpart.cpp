@@ -34,10 +34,12 @@ private:
     /// Makes a file system on disk 1 and mounts it; null where that cannot be done here.
     std::unique_ptr<Mount> mounted(const QString &folder) const
     {
-        std::unique_ptr<Mount> mount;
-        if (m_pc && m_ownMounts && runs("mke2fs", {"-q", "-F", m_loops[1]->node()}))
-            mount = std::make_unique<Mount>(m_loops[1]->node(), folder);
-        return mount && mount->isMounted() ? std::move(mount) : nullptr;
+        if (!m_pc || !m_ownMounts)
+            return nullptr;
+        if (!runs("mke2fs", {"-q", "-F", m_loops[1]->node()}))
+            qFatal("no file system can be made");
+        auto mount = std::make_unique<Mount>(m_loops[1]->node(), folder);
+        return mount->isMounted() ? std::move(mount) : nullptr;
     }
     QByteArray run(const QByteArray &script);
     QByteArray image(int number) const { return contentOf(path(number)); }

@@ -204,7 +204,7 @@ void tst_LinuxPlatform::handlesThatAreNone()
     m_pc->CloseHandle(handle);
     char byte = 0;
     quint32 moved = 9;
-    for (const Platform::RawHandle none : {handle, Platform::InvalidHandle}) {
+    for (const Platform::RawHandle none : {handle, Platform::RawHandle(0), Platform::InvalidHandle}) {
         QVERIFY(!m_pc->SetFilePointer(none, 0));
         QVERIFY(!m_pc->ReadFile(none, &byte, 1, &moved));
         QCOMPARE(moved, 0u);

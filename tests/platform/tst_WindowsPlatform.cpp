@@ -189,7 +189,7 @@ void tst_WindowsPlatform::handlesThatAreNone()
     pc.CloseHandle(handle);
     char octet = 0;
     quint32 moved = 9;
-    for (const Platform::RawHandle none : {handle, Platform::InvalidHandle}) {
+    for (const Platform::RawHandle none : {handle, Platform::RawHandle(0), Platform::InvalidHandle}) {
         QVERIFY(!pc.SetFilePointer(none, 0));
         QVERIFY(!pc.ReadFile(none, &octet, 1, &moved));
         QCOMPARE(moved, 0u);

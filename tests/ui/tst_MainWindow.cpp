@@ -168,6 +168,7 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(findPhysicalDisk(128), 10000);
         waitForRest();
         QTRY_COMPARE(text("ModelNumValLbl"), QStringLiteral("WDC WD10EZEX-00RKKA0"));
+        QCOMPARE(child<QComboBox>("DriveCombobox")->currentIndex(), 0);
     }
 
     /// Only on Disk Partition, and for the tile alone.

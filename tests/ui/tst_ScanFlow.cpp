@@ -61,6 +61,10 @@ private slots:
         QCOMPARE(text("ProcessedVal"), QString::number(QuickSectors));
         QCOMPARE(text("TimeReLbl"), QString());
 
+        // A disk that was pulled out has millions.
+        g_BadSectors.append(QuickSectors, 9 * QuickSectors);
+        QCOMPARE(map()->badSectors().size(), QGridView::MostBadSectors);
+
         // The back button asks, and then clears the results.
         closeResult();
         QTest::mousePress(child<MyButton1>("BackTestButton"), Qt::LeftButton);
@@ -137,6 +141,8 @@ private slots:
         m_pWindow->OnRefresh();
         QVERIFY(!m_pWindow->close());
         QCOMPARE(sleepState(), QByteArray("0x80000041"));
+        QCOMPARE(refusal(), QStringLiteral("Disk scan running."));
+        changeLanguage(dialog<DestinitionWarning>());
         QCOMPARE(refusal(), QStringLiteral("Disk scan running."));
         m_pWindow->Onyes();
         QCOMPARE(refusal(), QStringLiteral("Scaning Running."));
