@@ -3,6 +3,7 @@
 
 #include "inventory/CommandRunner.h"
 #include "platform/Log.h"
+#include "platform/OwnFiles.h"
 #include "state/GlobalApp.h"
 #include "state/SettingsStore.h"
 
@@ -59,12 +60,31 @@ void fetchByConsole(const QString &url, const QString &path, const DownloadLimit
         return;
     Platform &platform = Platform::current();
     const QString begin = QString::fromUtf8(platform.CommandInterpreter()) + QLatin1String(" /c ");
-    // The service behind the tool would go on with the job, so the job is cancelled.
     const auto fits = [&limits] { return loadedBytes() <= limits.bytes; };
+    // The service behind the tool would go on with the job.
     const QString cancel = begin + transferTool() + QLatin1String(" /cancel myDownloadJob");
     if (!platform.CreateProcessAndWaitFor((begin + command).toStdWString(), limits.milliseconds - CancelMs,
                                           fits))
         platform.CreateProcessAndWaitFor(cancel.toStdWString(), CancelMs, [] { return true; });
+}
+
+/// Puts a copy of our own in the place of the tool's file: whoever owns a file can change it at any time.
+bool takeOver(const QString &path, qint64 mostBytes)
+{
+    constexpr qint64 Piece = 1024 * 1024;
+    const QString copy = path + QLatin1String(".own");
+    QFile theirs;
+    QFile ours;
+    if (!ownfiles::openRegular(&theirs, path, QIODevice::ReadOnly) || theirs.size() > mostBytes ||
+        !ownfiles::makeFile(&ours, copy))
+        return false;
+    for (QByteArray piece = theirs.read(Piece); !piece.isEmpty(); piece = theirs.read(Piece)) {
+        if (ours.write(piece) != piece.size())
+            return false;
+    }
+    theirs.close();
+    ours.close();
+    return ours.error() == QFile::NoError && QFile::remove(path) && QFile::rename(copy, path);
 }
 
 } // namespace
@@ -103,8 +123,11 @@ QString fetch(const QString &url, const QString &name, const DownloadLimits &lim
     const QString path = nativePath(folder + QLatin1Char('\\') + name);
     const qint32 result = Platform::current().URLDownloadToFileW(url, path, limits);
     // What a rule or a limit forbade is not tried in another way.
-    if (result != 0 && result != Platform::DownloadRefused)
+    if (result != 0 && result != Platform::DownloadRefused) {
         fetchByConsole(url, path, {static_cast<qint32>(limits.milliseconds - clock.elapsed()), limits.bytes});
+        if (!takeOver(path, limits.bytes))
+            QFile::remove(path);
+    }
     const QFileInfo file(path);
     qCDebug(logs::update) << "the download ended with" << result << "and left bytes:" << file.size();
     if (file.isFile() && file.size() <= limits.bytes)

@@ -53,8 +53,9 @@ bool sharesUser()
     TOKEN_ELEVATION_TYPE type{};
     DWORD asks = 1;
     DWORD size = sizeof(asks);
-    ::RegGetValueW(HKEY_LOCAL_MACHINE, L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Policies\\System",
-                   L"EnableLUA", RRF_RT_REG_DWORD, nullptr, &asks, &size);
+    if (::RegGetValueW(HKEY_LOCAL_MACHINE, L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Policies\\System",
+                       L"EnableLUA", RRF_RT_REG_DWORD, nullptr, &asks, &size) != ERROR_SUCCESS)
+        asks = 1;
     // What cannot be told counts as shared.
     return (!aboutToken(TokenElevationType, &type, sizeof(type)) || type == TokenElevationTypeFull) &&
            asks != 0;

@@ -22,8 +22,8 @@ QString sidText(PSID who);
 /// The user of this process, as a text.
 QString userSid();
 
-/// Whether programs of the same user without an administrator's rights go by the same identifier as this one:
-/// so it is where he was asked before it was started.
+/// Whether the user's programs without an administrator's rights have the same identifier as this one. That
+/// is so where Windows asks before it gives these rights.
 bool sharesUser();
 
 /// Opens a regular file, and no link, folder or device.

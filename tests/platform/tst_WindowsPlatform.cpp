@@ -242,9 +242,11 @@ void tst_WindowsPlatform::foldersAndNames()
     QVERIFY(QDir(other).exists() && !other.startsWith(m_folder->path()));
     // Where the system asks before it gives an administrator's rights, the user's other programs have none of
     // these, but his name. Wine gives them without a question.
-    if (asksForRights(1))
-        QVERIFY(pc.HistoryFolder(m_folder->path()) != path("history"));
-    asksForRights(0);
+    {
+        const auto asNow = qScopeGuard([] { asksForRights(0); });
+        if (asksForRights(1))
+            QVERIFY(pc.HistoryFolder(m_folder->path()) != path("history"));
+    }
     // A folder that all may write to is not used either.
     PSECURITY_DESCRIPTOR everybody = nullptr;
     QVERIFY(::ConvertStringSecurityDescriptorToSecurityDescriptorW(L"D:(A;OICI;FA;;;WD)", SDDL_REVISION_1,

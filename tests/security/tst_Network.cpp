@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/HttpDownload.h"
+#include "platform/OwnFiles.h"
 #include "state/GlobalApp.h"
 #include "state/Languages.h"
 #include "state/SettingsStore.h"
@@ -29,6 +30,7 @@ private slots:
     void strangeAddresses();
     void checkHasItsLimits();
     void plantedInstaller();
+    void consoleFileBecomesOurs();
     void consoleThatLoadsTooMuch();
     void linksThatAreNoPages();
     void supportIsAnAddressOnly();
@@ -128,6 +130,21 @@ void NetworkTest::plantedInstaller()
     QTRY_COMPARE(failed.size(), 1);
     QCOMPARE(started.size(), 0);
     QDir::setCurrent(QDir::tempPath());
+}
+
+/// The tool's file belongs to a service, and stays in its hands.
+void NetworkTest::consoleFileBecomesOurs()
+{
+    FakePlatform *pc = FakePlatform::install();
+    QString file;
+    pc->onCommand = [&file](const QString &line) {
+        file = line.section(QLatin1Char(' '), -1);
+        return writeFile(file, "installer") && QFile::setPermissions(file, QFile::Permissions(0x6666));
+    };
+    QCOMPARE(contentOf(update::fetch(QStringLiteral("https://update.example/x"), QStringLiteral("x.exe"),
+                                     {9000, 100})),
+             QByteArray("installer"));
+    QCOMPARE(ownfiles::strangerOn(file), QString());
 }
 
 void NetworkTest::consoleThatLoadsTooMuch()

@@ -194,7 +194,7 @@ QFrame *DiskPartition::addFrame(const QStringList &texts)
     for (QGridLayout *grid : grids) {
         grid->setHorizontalSpacing(0);
         grid->setVerticalSpacing(0);
-        grid->setContentsMargins(0, style::px(4), 0, style::px(4));
+        grid->setContentsMargins(0, style::px(3), 0, style::px(3));
     }
     for (int i = 0; i < texts.size(); ++i)
         addLabel(grids[i < LeftLooks ? 0 : 1], looks[i], texts.at(i), frame);

@@ -11,6 +11,7 @@
 #include "ui/widgets/Style.h"
 
 #include <QButtonGroup>
+#include <QMouseEvent>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -109,8 +110,12 @@ void ScanDisk::styleChooser()
 /// A click anywhere on a card chooses its test.
 bool ScanDisk::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::MouseButtonRelease)
-        watched->findChild<QRadioButton *>()->click();
+    if (event->type() == QEvent::MouseButtonRelease) {
+        const auto *mouse = static_cast<QMouseEvent *>(event);
+        const auto *card = static_cast<QWidget *>(watched);
+        if (mouse->button() == Qt::LeftButton && card->rect().contains(mouse->pos()))
+            card->findChild<QRadioButton *>()->click();
+    }
     return Page::eventFilter(watched, event);
 }
 
@@ -161,6 +166,7 @@ void ScanDisk::clearCounts()
     ProcessedVal->setText(QStringLiteral("0"));
     m_i64BlockStep = 0;
     showBlockSize();
+    describeMap();
 }
 
 std::optional<SelfTestKind> ScanDisk::ChosenTest() const

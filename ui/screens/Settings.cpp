@@ -14,6 +14,7 @@
 #include <QCoreApplication>
 #include <QFileDialog>
 #include <QMenu>
+#include <QShortcut>
 
 #include <algorithm>
 
@@ -65,7 +66,8 @@ void Settings::addHeaderButtons()
 void Settings::fillFields()
 {
     PathlineEdit->setPlaceholderText(settings::defaultLogPath(g_App.m_strSystemFolder));
-    PathlineEdit->setText(QLatin1String(key::LogSavePath.first));
+    m_strLogPath = QLatin1String(key::LogSavePath.first);
+    PathlineEdit->setText(m_strLogPath);
     LogLImitSpinBox->setMinimum(10);
     LogLImitSpinBox->setValue(100);
     WarningSpinBox->setValue(key::WarningValue.first);
@@ -106,6 +108,8 @@ void Settings::styleFields()
 void Settings::connectFields()
 {
     connect(CloseButton, &QPushButton::clicked, this, &Settings::CloseWindow);
+    connect(new QShortcut(QKeySequence(Qt::Key_F1), this), &QShortcut::activated, this,
+            &Settings::OnOpenSettingsHelp);
     for (const QPushButton *button : {OkButton, CloseButton})
         connect(button, &QPushButton::clicked, this, &Settings::left);
     connect(LogChkBox, &QCheckBox::stateChanged, this, &Settings::OnLogEventStateChanged);
@@ -225,6 +229,7 @@ void Settings::ApplyFirstRunDefaults()
 void Settings::LoadFromStore()
 {
     degreeComboBox->setCurrentIndex(settings::Celsius);
+    PathlineEdit->setText(m_strLogPath); // what was left by Escape goes
     showValues(settings::load());
 }
 
@@ -232,9 +237,10 @@ void Settings::SaveToStore()
 {
     const bool alarm = WarningTemp->isChecked();
     setAlarmEnabled(alarm);
+    m_strLogPath = PathlineEdit->text();
     settings::save({WantsTray(), degreeComboBox->currentIndex(), alarm, WarningSpinBox->value(),
                     ShutDownSpinBox->value()},
-                   PathlineEdit->text());
+                   m_strLogPath);
 }
 
 void Settings::OnLogEventStateChanged(int state)

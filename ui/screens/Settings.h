@@ -93,4 +93,5 @@ private:
     QPushButton *m_pLanguageButton = nullptr;
     DialogFrame m_Frame;
     QMenu *m_pLanguageMenu;
+    QString m_strLogPath; ///< what OK stored last, before that the text of a first run
 };

@@ -96,7 +96,7 @@ void SmartStatus::makeTree()
     connect(m_pAttributeTree, &QTreeWidget::itemClicked, this, &SmartStatus::rowClicked);
     // The keys move along the rows as well.
     connect(m_pAttributeTree, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem *item) {
-        if (m_pAttributeTree->hasFocus())
+        if (m_pAttributeTree->hasFocus() && QGuiApplication::mouseButtons() == Qt::NoButton)
             emit rowClicked(item, 0);
     });
     m_pCopyAction = pagelook::named(new QAction(m_pAttributeTree), "m_pCopyAction");
@@ -104,8 +104,10 @@ void SmartStatus::makeTree()
     m_pCopyAction->setShortcutContext(Qt::WidgetShortcut);
     m_pAttributeTree->addAction(m_pCopyAction);
     m_pAttributeTree->setContextMenuPolicy(Qt::ActionsContextMenu);
-    connect(m_pCopyAction, &QAction::triggered, this,
-            [this] { QGuiApplication::clipboard()->setText(SelectedRows()); });
+    connect(m_pCopyAction, &QAction::triggered, this, [this] {
+        if (const QString rows = SelectedRows(); !rows.isEmpty())
+            QGuiApplication::clipboard()->setText(rows);
+    });
 
     QPalette palette = m_pAttributeTree->palette();
     palette.setColor(QPalette::Base, Qt::white);
@@ -198,6 +200,7 @@ void SmartStatus::ClearDisk()
 {
     m_pAttributeTree->clear();
     m_pChartView->Clear();
+    m_pChartView->setAccessibleName(QString());
     for (QLabel *label : {GraphLabel, SmartResultLabel, m_pHeadingResultLabel, SerialNunValueLbl,
                           InterfaceValLbl, CapcityValLbl})
         label->clear();

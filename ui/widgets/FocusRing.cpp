@@ -3,8 +3,9 @@
 
 #include "ui/widgets/Style.h"
 
+#include <QAbstractButton>
 #include <QApplication>
-#include <QFocusEvent>
+#include <QKeyEvent>
 #include <QMainWindow>
 #include <QPainter>
 
@@ -37,6 +38,13 @@ protected:
     }
 };
 
+/// A list that drops down has the focus, too, but is none.
+bool isInDialog(const QWidget *widget)
+{
+    const QWidget *window = widget->window();
+    return !qobject_cast<const QMainWindow *>(window) && window->windowType() != Qt::Popup;
+}
+
 } // namespace
 
 FocusRing::FocusRing(QObject *parent) : QObject(parent)
@@ -51,19 +59,25 @@ bool FocusRing::eventFilter(QObject *watched, QEvent *event)
         return QObject::eventFilter(watched, event);
     auto *widget = static_cast<QWidget *>(watched);
     switch (event->type()) {
-    case QEvent::KeyPress:
+    case QEvent::KeyPress: {
+        const auto *key = static_cast<QKeyEvent *>(event);
         m_bKeys = true;
         if (!m_pControl)
             take(QApplication::focusWidget());
+        // A key that is held must not answer the question that it has opened.
+        if (key->isAutoRepeat() && (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) &&
+            qobject_cast<QAbstractButton *>(widget))
+            return true;
         break;
+    }
     case QEvent::MouseButtonPress:
         m_bKeys = false;
-        take(nullptr);
+        if (m_pControl && !isInDialog(m_pControl))
+            take(nullptr);
         break;
     case QEvent::FocusIn: {
         const bool byMouse = static_cast<QFocusEvent *>(event)->reason() == Qt::MouseFocusReason;
-        const bool inDialog = !qobject_cast<QMainWindow *>(widget->window());
-        take(!byMouse && (m_bKeys || inDialog) ? widget : nullptr);
+        take(!byMouse && (m_bKeys || isInDialog(widget)) ? widget : nullptr);
         break;
     }
     case QEvent::FocusOut:
@@ -76,7 +90,7 @@ bool FocusRing::eventFilter(QObject *watched, QEvent *event)
             place();
         break;
     case QEvent::Hide:
-        // The control itself may learn of it later.
+        // A hidden window tells its controls only afterwards.
         if (m_pControl && (widget == m_pControl || widget->isAncestorOf(m_pControl)))
             take(nullptr);
         break;

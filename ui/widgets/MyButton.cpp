@@ -12,6 +12,11 @@ PressButton::PressButton(QWidget *parent) : QPushButton(parent)
     setFocusPolicy(Qt::TabFocus);
     setIconSize(QSize(style::px(172), style::px(40)));
     setGeometry(0, 0, style::px(172), style::px(40));
+    // So a screen reader presses a button that can be checked.
+    connect(this, &QPushButton::toggled, this, [this] {
+        tellPress();
+        tellRelease();
+    });
 }
 
 void PressButton::keyPressEvent(QKeyEvent *event)
@@ -25,6 +30,13 @@ void PressButton::keyPressEvent(QKeyEvent *event)
         return;
     tellPress();
     tellRelease();
+}
+
+void MyButton::setCurrent(bool current)
+{
+    const QSignalBlocker block(this);
+    setDown(current);
+    setChecked(current);
 }
 
 void MyButton::keyPressEvent(QKeyEvent *event)

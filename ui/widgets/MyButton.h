@@ -3,8 +3,8 @@
 
 #include <QPushButton>
 
-/// What the two kinds of buttons share that tell what the mouse does, and for which a press is no click. The
-/// keys that press a button do what a press and a release of the mouse do.
+/// Base of the two kinds of buttons that tell by signals what the mouse does; a press is no click. A key or a
+/// screen reader that presses them sends the same signals.
 class PressButton : public QPushButton
 {
 protected:
@@ -21,14 +21,16 @@ protected:
     void focusOutEvent(QFocusEvent *event) override { QWidget::focusOutEvent(event); }
 };
 
-/// A navigation button. The application sets and clears its down state. The keys up and down move the focus
-/// to its neighbours.
+/// A navigation button. The keys up and down move the focus to its neighbours.
 class MyButton : public PressButton
 {
     Q_OBJECT
 
 public:
     explicit MyButton(QWidget *parent = nullptr) : PressButton(parent) {}
+
+    /// Its screen is on show: it is down, and a screen reader calls it checked.
+    void setCurrent(bool current);
 
 signals:
     void ChangePixmap();    ///< the pointer came over the button

@@ -96,6 +96,7 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent), m_drag(this, Titl
                                                                          : navigation::DiskStatusScreen;
     selectButton(first);
     showScreen(first);
+    m_apNavigation[first]->setFocus();
 
     m_pSettings->ApplyFirstRunDefaults();
     RefreshSelectedDisk();

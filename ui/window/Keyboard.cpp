@@ -2,6 +2,7 @@
 #include "ui/widgets/MyButton.h"
 #include "ui/window/MainWindow.h"
 
+#include <QScrollArea>
 #include <QShortcut>
 
 namespace
@@ -13,12 +14,13 @@ void pressIfShown(QPushButton *button)
         button->click();
 }
 
-/// Widgets of a page that the key Tab reaches, in their order.
+/// Widgets of a page that the key Tab reaches, in their order. A list that can scroll later is one of them.
 QList<QWidget *> focusable(QWidget *page)
 {
     QList<QWidget *> found;
     for (QWidget *next = page->nextInFocusChain(); next != page; next = next->nextInFocusChain()) {
-        if (page->isAncestorOf(next) && (next->focusPolicy() & Qt::TabFocus) != 0)
+        if (page->isAncestorOf(next) &&
+            ((next->focusPolicy() & Qt::TabFocus) != 0 || qobject_cast<QScrollArea *>(next)))
             found.append(next);
     }
     return found;

@@ -279,6 +279,7 @@ private:
     QHash<int, int> m_hashComboToDisk;  ///< combo index to DiskNode::nId
     QList<QAction *> m_listHeldEntries; ///< menu entries that a scan made grey
     QMovie *m_pMovie = nullptr;
+    bool m_bStartedByKey = false; ///< the latest scan or clone
     bool m_bRefreshing = false;
     bool m_bRefreshAgain = false; ///< a volume came or went during a refresh
     QTimer *m_pTemperatureTimer = nullptr;

@@ -61,8 +61,7 @@ void MainWindow::selectButton(Screen screen)
 {
     m_screen = screen;
     for (const Screen other : Screens) {
-        m_apNavigation[other]->setDown(other == screen);
-        m_apNavigation[other]->setChecked(other == screen); // a screen reader tells this
+        m_apNavigation[other]->setCurrent(other == screen);
         leaveNavigation(other);
     }
 }
@@ -72,6 +71,7 @@ void MainWindow::pressNavigation(Screen screen)
     m_abSwitchTarget.fill(false);
     m_abSwitchTarget[screen] = true;
     if (!g_Jobs.mayLeave()) {
+        m_apNavigation[screen]->setCurrent(isOnShow(screen));
         showCentred(m_pScanSwitch);
         return;
     }
@@ -220,7 +220,7 @@ void MainWindow::OnStopConfirm()
     g_Jobs.stop();
     if (m_pCloneDiskPage->isVisible()) {
         setLook(navigation::CloneDiskScreen, Look::Selected);
-        m_apNavigation[navigation::CloneDiskScreen]->setDown(true);
+        m_apNavigation[navigation::CloneDiskScreen]->setCurrent(true);
         m_screen = navigation::CloneDiskScreen;
     } else if (g_bStopRequested) {
         StopConfirm();

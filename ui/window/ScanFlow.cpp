@@ -121,12 +121,12 @@ void MainWindow::lockShell(Screen screen)
 {
     setMenuEntriesEnabled(false);
     // Who has started the job by a key can stop it by a key.
-    const bool hadFocus = focusWidget() == ScanButton || focusWidget() == CloneButton;
+    m_bStartedByKey = focusWidget() == ScanButton || focusWidget() == CloneButton;
     for (QWidget *idle : std::initializer_list<QWidget *>{ScanButton, CloneButton, ScreenshotButton,
                                                           BackTestButton, StopTestButton})
         idle->hide();
     StopButton->show();
-    if (hadFocus)
+    if (m_bStartedByKey)
         StopButton->setFocus();
     DriveCombobox->setEnabled(false);
     enableNavigation(false);
@@ -140,12 +140,11 @@ void MainWindow::releaseShell()
     keepAwake();
     // There is nothing left to be stopped.
     m_pConfirmation->hide();
-    const bool hadFocus = focusWidget() == StopButton;
     StopButton->hide();
     ScanButton->setEnabled(true);
     DriveCombobox->setEnabled(true);
     enableNavigation();
-    if (hadFocus && m_screen)
+    if (m_bStartedByKey && m_screen)
         m_apNavigation[*m_screen]->setFocus();
 }
 
@@ -153,7 +152,7 @@ void MainWindow::releaseShell()
 void MainWindow::setNavigationEnabled(Screen screen, bool enabled)
 {
     m_apNavigation[screen]->setEnabled(enabled);
-    m_apNavigation[screen]->setDown(isOnShow(screen));
+    m_apNavigation[screen]->setCurrent(isOnShow(screen));
 }
 
 void MainWindow::enableNavigation(bool enabled)
