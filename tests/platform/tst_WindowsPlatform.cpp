@@ -60,15 +60,34 @@ const wchar_t *wide(const QString &text)
     return reinterpret_cast<const wchar_t *>(text.utf16());
 }
 
-/// Says of Wine whether it asks before it gives an administrator's rights. False, and nothing done, on
-/// Windows.
-bool asksForRights(DWORD asks)
+bool isWine()
 {
-    return ::GetProcAddress(::GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr &&
-           ::RegSetKeyValueW(HKEY_LOCAL_MACHINE,
-                             L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Policies\\System", L"EnableLUA",
-                             REG_DWORD, &asks, sizeof(asks)) == ERROR_SUCCESS;
+    return ::GetProcAddress(::GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
 }
+
+/// While it lives, the machine asks before it gives an administrator's rights. Only this process is told so.
+class AskingMachine
+{
+public:
+    AskingMachine()
+    {
+        const DWORD asks = 1;
+        ::RegCreateKeyW(HKEY_CURRENT_USER, Name, &m_key);
+        ::RegSetKeyValueW(m_key, L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Policies\\System",
+                          L"EnableLUA", REG_DWORD, &asks, sizeof(asks));
+        ::RegOverridePredefKey(HKEY_LOCAL_MACHINE, m_key);
+    }
+    ~AskingMachine()
+    {
+        ::RegOverridePredefKey(HKEY_LOCAL_MACHINE, nullptr);
+        ::RegCloseKey(m_key);
+        ::RegDeleteTreeW(HKEY_CURRENT_USER, Name);
+    }
+
+private:
+    static constexpr const wchar_t *Name = L"Software\\HalvaneTestMachine";
+    HKEY m_key = nullptr;
+};
 
 /// The type of a value of the test's key; REG_NONE if there is none.
 DWORD registryType(const QString &subKey, const QString &name)
@@ -242,10 +261,9 @@ void tst_WindowsPlatform::foldersAndNames()
     QVERIFY(QDir(other).exists() && !other.startsWith(m_folder->path()));
     // Where the system asks before it gives an administrator's rights, the user's other programs have none of
     // these, but his name. Wine gives them without a question.
-    {
-        const auto asNow = qScopeGuard([] { asksForRights(0); });
-        if (asksForRights(1))
-            QVERIFY(pc.HistoryFolder(m_folder->path()) != path("history"));
+    if (isWine()) {
+        const AskingMachine machine;
+        QVERIFY(pc.HistoryFolder(m_folder->path()) != path("history"));
     }
     // A folder that all may write to is not used either.
     PSECURITY_DESCRIPTOR everybody = nullptr;
