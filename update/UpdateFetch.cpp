@@ -71,20 +71,14 @@ void fetchByConsole(const QString &url, const QString &path, const DownloadLimit
 /// Puts a copy of our own in the place of the tool's file: whoever owns a file can change it at any time.
 bool takeOver(const QString &path, qint64 mostBytes)
 {
-    constexpr qint64 Piece = 1024 * 1024;
-    const QString copy = path + QLatin1String(".own");
     QFile theirs;
     QFile ours;
-    if (!ownfiles::openRegular(&theirs, path, QIODevice::ReadOnly) || theirs.size() > mostBytes ||
-        !ownfiles::makeFile(&ours, copy))
+    if (!ownfiles::openRegular(&theirs, path, QIODevice::ReadOnly) || theirs.size() > mostBytes)
         return false;
-    for (QByteArray piece = theirs.read(Piece); !piece.isEmpty(); piece = theirs.read(Piece)) {
-        if (ours.write(piece) != piece.size())
-            return false;
-    }
+    const QByteArray bytes = theirs.readAll();
     theirs.close();
-    ours.close();
-    return ours.error() == QFile::NoError && QFile::remove(path) && QFile::rename(copy, path);
+    return QFile::remove(path) && ownfiles::makeFile(&ours, path) && ours.write(bytes) == bytes.size() &&
+           ours.flush();
 }
 
 } // namespace

@@ -225,13 +225,14 @@ QString SmartStatus::SelectedRows() const
     QStringList lines;
     for (int i = 0; i < m_pAttributeTree->topLevelItemCount(); ++i) {
         const QTreeWidgetItem *item = m_pAttributeTree->topLevelItem(i);
+        if (!item->isSelected())
+            continue;
         QStringList cells;
         for (int column = 0; column < attributecolumns::Count; ++column) {
             if (!m_pAttributeTree->isColumnHidden(column))
                 cells << item->text(column).trimmed();
         }
-        if (item->isSelected())
-            lines << cells.join(QLatin1Char('\t'));
+        lines << cells.join(QLatin1Char('\t'));
     }
     return lines.join(QLatin1Char('\n'));
 }

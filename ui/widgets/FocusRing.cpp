@@ -58,6 +58,9 @@ bool FocusRing::eventFilter(QObject *watched, QEvent *event)
     if (!watched->isWidgetType())
         return QObject::eventFilter(watched, event);
     auto *widget = static_cast<QWidget *>(watched);
+    const auto holdsControl = [this, widget] {
+        return m_pControl && (widget == m_pControl || widget->isAncestorOf(m_pControl));
+    };
     switch (event->type()) {
     case QEvent::KeyPress: {
         const auto *key = static_cast<QKeyEvent *>(event);
@@ -86,12 +89,12 @@ bool FocusRing::eventFilter(QObject *watched, QEvent *event)
     case QEvent::Move:
     case QEvent::Resize:
     case QEvent::Show:
-        if (m_pControl && (widget == m_pControl || widget->isAncestorOf(m_pControl)))
+        if (holdsControl())
             place();
         break;
     case QEvent::Hide:
         // A hidden window tells its controls only afterwards.
-        if (m_pControl && (widget == m_pControl || widget->isAncestorOf(m_pControl)))
+        if (holdsControl())
             take(nullptr);
         break;
     default:
