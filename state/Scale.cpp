@@ -27,7 +27,7 @@ int scaled(int size, int percent)
 int imageSet(int percent)
 {
     if (percent >= 150)
-        return 144;
+        return percent >= 200 ? 192 : percent >= 175 ? 168 : 144;
     return percent == 125 ? 120 : percent == 100 ? 96 : 0;
 }
 

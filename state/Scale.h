@@ -14,7 +14,8 @@ int percent();
 /// A design size in pixels at a scale, truncated.
 int scaled(int size, int percent);
 
-/// The set of images for a scale: 96, 120 or 144 DPI; 0 below 100 percent and between two sets.
+/// The set of images for a scale: 96, 120, 144, 168 or 192 DPI. From 150 percent on the largest set that is
+/// not above the scale; below that only the exact scale has one, else 0.
 int imageSet(int percent);
 
 } // namespace scale

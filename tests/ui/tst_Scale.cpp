@@ -37,8 +37,9 @@ private slots:
         QTest::newRow("second family at 1") << 1.0F << MoreTools << ":/images/Resources/Others/96-DPI/a.png";
         QTest::newRow("a hair off 1.25") << 1.2500001F << Plain << ":/images/Resources/120-DPI/a.png";
         QTest::newRow("1.5") << 1.5F << Plain << ":/images/Resources/144-DPI/a.png";
-        QTest::newRow("1.75") << 1.75F << Plain << ":/images/Resources/144-DPI/a.png";
-        QTest::newRow("second family at 2") << 2.0F << MoreTools << ":/images/Resources/Others/144-DPI/a.png";
+        QTest::newRow("just below 1.75") << 1.74F << Plain << ":/images/Resources/144-DPI/a.png";
+        QTest::newRow("1.75") << 1.75F << Plain << ":/images/Resources/168-DPI/a.png";
+        QTest::newRow("second family at 2") << 2.0F << MoreTools << ":/images/Resources/Others/192-DPI/a.png";
         QTest::newRow("between the sets") << 1.3F << Plain << QString();
         QTest::newRow("below one") << 0.75F << Folder << QString();
     }

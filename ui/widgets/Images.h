@@ -24,7 +24,7 @@ QString path(const QString &file, Family family = Family::Plain);
 QString nearestPath(const QString &file, Family family = Family::Plain);
 
 /// Shows a picture on a label and keeps its path as the label's property "imagePath". Where the scale has no
-/// set, the label keeps what it had. Above a scale of 150 percent the picture is stretched.
+/// set, the label keeps what it had. Above 150 percent the picture is stretched to the label.
 void setLabelImage(QLabel *label, const QString &file, Family family = Family::Plain);
 
 /// A new animation, the child of `parent`.
