@@ -47,6 +47,24 @@ private:
     QString m_form;
 };
 
+/// Counts the events of one kind that reach a widget.
+class EventCounter : public QObject
+{
+public:
+    EventCounter(QWidget *widget, QEvent::Type type) : m_type(type) { widget->installEventFilter(this); }
+    int count = 0;
+
+protected:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        count += event->type() == m_type ? 1 : 0;
+        return false;
+    }
+
+private:
+    QEvent::Type m_type;
+};
+
 /// Tells the widget of a new language.
 inline void changeLanguage(QWidget *widget)
 {

@@ -146,6 +146,14 @@ protected:
         return m_pWindow->findChild<Widget *>(QLatin1String(name));
     }
     QString text(const char *label) const { return child<QLabel>(label)->text(); }
+    /// The texts of labels, with a | between them.
+    QString texts(std::initializer_list<const char *> labels) const
+    {
+        QStringList found;
+        for (const char *label : labels)
+            found << text(label);
+        return found.join(QLatin1Char('|'));
+    }
     QString image(const char *label) const { return child<QLabel>(label)->property("imagePath").toString(); }
     bool shown(const char *name) const { return child<QWidget>(name)->isVisible(); }
     /// Whether all of these are visible, or none of them.

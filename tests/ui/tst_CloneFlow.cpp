@@ -64,8 +64,6 @@ private slots:
         start(0, 1);
         QVERIFY(locked() && running());
         auto *gauge = child<QRoundProgressBar>("m_pRoundProgressBar");
-        QCOMPARE(gauge->Text(), QStringLiteral("0%\nComplete"));
-        QCOMPARE(text("TimeLabel"), QString());
 
         // None of these ends or disturbs the clone.
         m_pWindow->OnClose();
@@ -93,34 +91,8 @@ private slots:
         QVERIFY(selecting() && !dialog<InfoDialogClass>() && shellIs(true) && isDown("CloneDiskButton"));
     }
 
-    void refuses_data()
-    {
-        QTest::addColumn<int>("target");
-        QTest::addColumn<int>("sourceAtTheEnd");
-        QTest::addColumn<QString>("reason");
-        QTest::newRow("too small by a sector")
-            << 2 << 0 << "Destination disk size is smaller than source disk.";
-        QTest::newRow("source became the target") << 1 << 1 << "Source and destination disks are same.";
-    }
-
+    /// Nothing is erased.
     void refuses()
-    {
-        QFETCH(int, target);
-        QFETCH(int, sourceAtTheEnd);
-        QFETCH(QString, reason);
-        choosePair(0, target);
-        click("CloneButton");
-        // While the question is open, another source can be chosen.
-        chooseSource(sourceAtTheEnd);
-        answer<CloneWarning>("StartButton");
-        QCOMPARE(outcome(), "Clone Disk|" + reason + "|Select different destination disk.");
-        QVERIFY(shellIs(true) && shown("SourceComboBox") && shown("CloneButton"));
-        answer<InfoDialogClass>("OkButton");
-        QVERIFY(selecting());
-        QCOMPARE(commands("diskpart"), 0);
-    }
-
-    void asksForATarget()
     {
         click("CloneButton");
         QVERIFY(!dialog<CloneWarning>());
@@ -130,34 +102,45 @@ private slots:
         // A start without a question starts nothing either.
         m_pWindow->OnCloningStart();
         QVERIFY(shellIs(true) && dialog<DestinitionWarning>());
-        QCOMPARE(commands("diskpart"), 0);
-    }
+        answer<DestinitionWarning>("CloseButton");
 
-    void asksAnewWhenTheChoiceHasGone_data()
-    {
-        QTest::addColumn<bool>("refresh");
-        QTest::newRow("another source") << false;
-        QTest::newRow("new lists") << true;
-    }
-
-    /// The chosen disks are not those of the question any more.
-    void asksAnewWhenTheChoiceHasGone()
-    {
-        QFETCH(bool, refresh);
-        choosePair(0, 1);
-        click("CloneButton");
-        const auto *warning = dialog<CloneWarning>();
-        if (refresh) {
-            m_pWindow->OnRefresh();
-            QVERIFY(!warning->isVisible());
-            buttonOf(warning, "StartButton")->click(); // while the lists are rebuilt
-            QVERIFY(!dialog<DestinitionWarning>() && !running());
-            waitForRest();
-        } else {
-            chooseSource(2);
+        const auto ask = [this](int target) {
+            choosePair(0, target);
+            click("CloneButton");
+            // For the time of a double click it takes no answer.
+            QTRY_VERIFY(buttonOf(dialog<CloneWarning>(), "StartButton")->isEnabled());
+        };
+        const std::tuple<int, int, QString> rows[] = {
+            {2, 0, "Destination disk size is smaller than source disk."}, // by a sector
+            {1, 1, "Source and destination disks are same."}};
+        for (const auto &[target, sourceAtTheEnd, reason] : rows) {
+            ask(target);
+            // While the question is open, another source can be chosen.
+            chooseSource(sourceAtTheEnd);
+            answer<CloneWarning>("StartButton");
+            QCOMPARE(outcome(), "Clone Disk|" + reason + "|Select different destination disk.");
+            QVERIFY(shellIs(true) && shown("SourceComboBox") && shown("CloneButton"));
+            answer<InfoDialogClass>("OkButton");
+            QVERIFY(selecting());
         }
-        buttonOf(warning, "StartButton")->click();
-        QVERIFY(shellIs(true) && dialog<DestinitionWarning>());
+
+        // The chosen disks are not those of the question any more: another source, or new lists.
+        for (const bool refresh : {false, true}) {
+            ask(1);
+            const auto *warning = dialog<CloneWarning>();
+            if (refresh) {
+                m_pWindow->OnRefresh();
+                QVERIFY(!warning->isVisible());
+                buttonOf(warning, "StartButton")->click(); // while the lists are rebuilt
+                QVERIFY(!dialog<DestinitionWarning>() && !running());
+                waitForRest();
+            } else {
+                chooseSource(2);
+            }
+            buttonOf(warning, "StartButton")->click();
+            QVERIFY(shellIs(true) && dialog<DestinitionWarning>());
+            answer<DestinitionWarning>("CloseButton");
+        }
         QCOMPARE(commands("diskpart"), 0);
     }
 
@@ -207,7 +190,7 @@ private slots:
         answer<ConfarmetionClass>("NoButton");
         QVERIFY(!dialog<ConfarmetionClass>() && !g_bAbortJob);
         click("StopButton");
-        waitForACopiedBlock();
+        QTRY_VERIFY_WITH_TIMEOUT(child<QRoundProgressBar>()->Value() > 0, 10000); // a block is copied
         QCOMPARE(commands("diskpart"), 3);
         answer<ConfarmetionClass>("YesButton");
         // The clone runs until the disk is back in the system. Until then the lists do not change.
@@ -296,9 +279,7 @@ private slots:
 
     void startsAndStopsManyTimes()
     {
-        bool enough = false;
-        const int asked = qEnvironmentVariableIntValue("HALVANE_CLONE_ROUNDS", &enough);
-        for (int round = 0; round < (enough ? asked : 3); ++round) {
+        for (int round = 0; round < 3; ++round) {
             start(0, 1);
             QVERIFY(locked());
             QTest::qWait(round * 7 % 60);
@@ -368,24 +349,18 @@ private:
         answer<ScanSwitchClass>("YesButton");
     }
 
-    void waitForACopiedBlock() const
-    {
-        QTRY_VERIFY_WITH_TIMEOUT(child<QRoundProgressBar>()->Value() > 0, 10000);
-    }
-
     static void waitForEnd()
     {
         QTRY_VERIFY_WITH_TIMEOUT(!g_Jobs.runs(JobState::Job::Clone), 20000);
         QVERIFY(!g_bJobRunning);
     }
 
-    bool showsDisks(bool expected) const
+    bool selecting(bool expected = true) const
     {
         return areShown(expected, {"SourceComboBox", "DestinationComboBox", "ModelNLbl", "TargetModelLbl"}) &&
                areShown(!expected, {"ProgressLabel", "m_pRoundProgressBar", "TimeLabel", "TimeLabel2"});
     }
-    bool selecting() const { return showsDisks(true); }
-    bool running() const { return showsDisks(false); }
+    bool running() const { return selecting(false); }
 
     /// Whether the buttons and menus are as during a clone.
     bool locked() const

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "state/GlobalApp.h"
+#include "state/Languages.h"
 #include "state/SettingsStore.h"
 #include "tests/support/FakePlatform.h"
 #include "tests/ui/Named.h"
@@ -7,10 +8,12 @@
 #include "ui/dialogs/MessageDialog.h"
 #include "ui/dialogs/QShowUpdate.h"
 #include "ui/dialogs/SmallMessageDlg.h"
+#include "ui/screens/Settings.h"
 #include "update/HelpLinks.h"
 
+#include <QAction>
+#include <QMenu>
 #include <QScrollBar>
-#include <QTextBlock>
 #include <QTextEdit>
 #include <QtTest>
 
@@ -19,12 +22,10 @@
 namespace
 {
 
-using Maker = std::function<QWidget *()>;
-
 template<typename Dialog>
-Maker maker()
+QWidget *make()
 {
-    return [] { return new Dialog; };
+    return new Dialog;
 }
 
 /// The name of a widget whose text has too little room; empty if all have enough.
@@ -50,9 +51,35 @@ QString cutText(const QWidget &dialog)
 
 } // namespace
 
-Q_DECLARE_METATYPE(Maker)
+/// The settings window with access to its fields.
+class OpenSettings : public Settings
+{
+public:
+    QComboBox *const unit = field<QComboBox>("degreeComboBox");
+    QSpinBox *const warning = field<QSpinBox>("WarningSpinBox");
+    QSpinBox *const shutDown = field<QSpinBox>("ShutDownSpinBox");
+    QCheckBox *const alarm = field<QCheckBox>("WarningTemp");
+    QLineEdit *const logPath = field<QLineEdit>("PathlineEdit");
 
-/// What all dialogs have from their frame, and what each adds.
+    template<typename Widget>
+    Widget *field(const char *name) const
+    {
+        return findChild<Widget *>(QLatin1String(name));
+    }
+
+    /// Unit, warning, shutdown, limit of the log, tray and alarm.
+    QVector<int> values() const
+    {
+        return {unit->currentIndex(),
+                warning->value(),
+                shutDown->value(),
+                field<QSpinBox>("LogLImitSpinBox")->value(),
+                field<QCheckBox>("TrayChkBox")->isChecked(),
+                alarm->isChecked()};
+    }
+};
+
+/// What all dialogs have from their frame, and what each adds. The settings on a store of their own.
 class DialogsTest : public QObject
 {
     Q_OBJECT
@@ -63,53 +90,52 @@ private slots:
         m_pc = FakePlatform::install();
         g_App.m_strSettingsPath = QStringLiteral("HKEY_LOCAL_MACHINE\\Software\\Test");
         g_App.m_fScale = 1.0F;
-    }
-
-    void everyDialog_data()
-    {
-        QTest::addColumn<Maker>("make");
-        QTest::addColumn<QString>("dismiss");
-        QTest::newRow("CloseWgt") << maker<CloseWgt>() << "NoButton";
-        QTest::newRow("SmartWarning") << maker<SmartWarning>() << "OkButton";
-        QTest::newRow("ShutDownWarning") << maker<ShutDownWarning>() << "OkButton";
-        QTest::newRow("CloneWarning") << maker<CloneWarning>() << "CancelButton";
-        QTest::newRow("ConfarmetionClass") << maker<ConfarmetionClass>() << "NoButton";
-        QTest::newRow("ScanSwitchClass") << maker<ScanSwitchClass>() << "NoButton";
-        QTest::newRow("InfoDialogClass") << maker<InfoDialogClass>() << "OkButton";
-        QTest::newRow("DestinitionWarning") << maker<DestinitionWarning>() << "CloseButton";
-        QTest::newRow("SelfTestNotSupported") << maker<SelfTestNotSupported>() << "CloseButton";
-        QTest::newRow("QShowUpdate") << maker<QShowUpdate>() << "CancelButton";
-        QTest::newRow("AboutDlg") << maker<AboutDlg>() << "OkButton";
+        g_App.m_bShowLanguageMenu = true;
+        g_App.m_bKorvaneBrand = false;
+        languages::setOffered();
+        languages::setFlag(0);
     }
 
     /// Texts of twice the length are not cut. To leave the dialog presses its dismissing button.
     void everyDialog()
     {
-        QFETCH(Maker, make);
-        QFETCH(QString, dismiss);
-        for (const float scale : {1.0F, 1.5F, 2.0F}) {
-            g_App.m_fScale = scale;
-            const std::unique_ptr<QWidget> dialog(make());
-            dialog->show();
-            {
-                // The texts change after the window got its size, so it has to adapt.
-                const OtherLanguage language("$ $");
-                QTRY_COMPARE(dialog->windowTitle().count(QLatin1String("Velmora Halvane")), 2);
-                QTRY_COMPARE(cutText(*dialog), QString());
-                for (const QLabel *label : dialog->findChildren<QLabel *>())
-                    QVERIFY2(label->textFormat() != Qt::AutoText, qPrintable(label->objectName()));
+        const std::pair<std::function<QWidget *()>, const char *> dialogs[] = {
+            {make<CloseWgt>, "NoButton"},
+            {make<SmartWarning>, "OkButton"},
+            {make<ShutDownWarning>, "OkButton"},
+            {make<CloneWarning>, "CancelButton"},
+            {make<ConfarmetionClass>, "NoButton"},
+            {make<ScanSwitchClass>, "NoButton"},
+            {make<InfoDialogClass>, "OkButton"},
+            {make<DestinitionWarning>, "CloseButton"},
+            {make<SelfTestNotSupported>, "CloseButton"},
+            {make<QShowUpdate>, "CancelButton"},
+            {make<AboutDlg>, "OkButton"}};
+        for (const auto &[made, dismiss] : dialogs) {
+            for (const float scale : {1.0F, 2.0F}) {
+                g_App.m_fScale = scale;
+                const std::unique_ptr<QWidget> dialog(made());
+                dialog->show();
+                {
+                    // The texts change after the window got its size, so it has to adapt.
+                    const OtherLanguage language("$ $");
+                    QTRY_COMPARE(dialog->windowTitle().count(QLatin1String("Velmora Halvane")), 2);
+                    QTRY_COMPARE(cutText(*dialog), QString());
+                    for (const QLabel *label : dialog->findChildren<QLabel *>())
+                        QVERIFY2(label->textFormat() != Qt::AutoText, qPrintable(label->objectName()));
+                }
+                QPushButton *button = buttonOf(dialog.get(), dismiss);
+                QVERIFY(button);
+                QSignalSpy pressed(button, &QPushButton::clicked);
+                connect(button, &QPushButton::clicked, dialog.get(), &QWidget::hide);
+                dialog->show();
+                QTest::keyClick(dialog.get(), Qt::Key_Escape);
+                QCOMPARE(pressed.count(), 1);
+                dialog->show();
+                dialog->close();
+                QCOMPARE(pressed.count(), 2);
+                QVERIFY(!dialog->isVisible());
             }
-            auto *button = dialog->findChild<QPushButton *>(dismiss);
-            QVERIFY(button);
-            QSignalSpy pressed(button, &QPushButton::clicked);
-            connect(button, &QPushButton::clicked, dialog.get(), &QWidget::hide);
-            dialog->show();
-            QTest::keyClick(dialog.get(), Qt::Key_Escape);
-            QCOMPARE(pressed.count(), 1);
-            dialog->show();
-            dialog->close();
-            QCOMPARE(pressed.count(), 2);
-            QVERIFY(!dialog->isVisible());
         }
     }
 
@@ -149,16 +175,11 @@ private slots:
         // The frame also notices a text that is set on the label itself.
         labelOf(&box, "label")->setText(QStringLiteral("Short."));
         QTRY_VERIFY(box.height() < height + 60);
-    }
-
-    void outcomeTitleSurvivesALanguage()
-    {
+        // The title that tells an outcome survives a language.
         InfoDialogClass fresh;
-        InfoDialogClass filled;
-        filled.SetTexts(QStringLiteral("Scan Failed"), QStringLiteral("Scan Failed."), QString());
         const OtherLanguage language("$ $");
         QCOMPARE(labelOf(&fresh, "HeaderLabel")->text(), QStringLiteral("Information Information"));
-        QCOMPARE(labelOf(&filled, "HeaderLabel")->text(), QStringLiteral("Scan Failed"));
+        QCOMPARE(labelOf(&box, "HeaderLabel")->text(), QStringLiteral("Clone Disk"));
     }
 
     void temperatureWarningsRemember()
@@ -215,17 +236,103 @@ private slots:
     {
         SmallMessageDlg dialog;
         const auto *text = dialog.findChild<QTextEdit *>();
-        dialog.SetText(QStringLiteral("Old"), 2);
-        dialog.SetText(QStringLiteral("No update available."), 1);
-        QCOMPARE(text->toPlainText(), QStringLiteral("\n\nNo update available."));
-        const QTextBlock last = text->document()->lastBlock();
-        QCOMPARE(text->document()->firstBlock().charFormat().fontWeight(), 75);
-        QCOMPARE(last.begin().fragment().charFormat().fontWeight(), 50);
-        QCOMPARE(last.blockFormat().alignment() & Qt::AlignHCenter, Qt::AlignHCenter);
         dialog.show();
-        QVERIFY(text->verticalScrollBar()->maximum() == 0);
-        dialog.SetText(QStringLiteral("No update available."), 2);
-        QCOMPARE(text->toPlainText(), QStringLiteral("\nNo update available."));
+        for (const int lines : {2, 1}) {
+            dialog.SetText(QStringLiteral("No update available."), lines);
+            QCOMPARE(text->toPlainText(), QString(3 - lines, '\n') + "No update available.");
+            QCOMPARE(text->verticalScrollBar()->maximum(), 0);
+        }
+    }
+
+    void whatTheStoreHasIsShown()
+    {
+        {
+            OpenSettings window;
+            window.ApplyFirstRunDefaults();
+            // 45 and 50 are below the minimum in Fahrenheit.
+            QCOMPARE(window.values(), (QVector<int>{1, 104, 122, 99, 1, 1}));
+            window.LoadFromStore();
+            QCOMPARE(window.values(), (QVector<int>{0, 45, 50, 99, 1, 1}));
+            QCOMPARE(SettingsStore().number(key::FirstTimeLaunch), 1);
+        }
+        init();
+        // A later run only changes the unit.
+        SettingsStore().write(key::FirstTimeLaunch, 1);
+        OpenSettings window;
+        window.ApplyFirstRunDefaults();
+        QCOMPARE(window.values(), (QVector<int>{1, 113, 122, 100, 0, 0}));
+        window.LoadFromStore();
+        // What the store does not have counts as 0, and is raised.
+        QCOMPARE(window.values(), (QVector<int>{0, 40, 50, 100, 0, 0}));
+        SettingsStore store;
+        store.write(key::TempValue, QStringLiteral("F"));
+        store.write(key::ShowTrayIcon, 1);
+        store.write(key::ShowWarning, 0);
+        store.write(key::WarningValue, 131);
+        store.write(key::ShutDownValue, 140);
+        window.LoadFromStore();
+        QCOMPARE(window.values(), (QVector<int>{1, 131, 140, 100, 1, 0}));
+        QVERIFY(!window.warning->isEnabled() && !window.shutDown->isEnabled());
+        QVERIFY(!window.field<QComboBox>("degreeComboBox_2")->isEnabled());
+    }
+
+    void savingStoresAllTogether()
+    {
+        OpenSettings window;
+        window.unit->setCurrentIndex(1);
+        window.alarm->setChecked(true);
+        window.warning->setValue(150);
+        window.shutDown->setValue(130); // a shutdown below the warning is accepted
+        window.logPath->setText(QStringLiteral("D:\\logs\\disk.txt"));
+        window.SaveToStore();
+        const SettingsStore store;
+        for (const TextSetting &unit : {key::TempValue, key::WarningtemValue, key::ShutDowntemValue})
+            QCOMPARE(store.text(unit), QStringLiteral("F"));
+        QVERIFY(store.flag(key::ShowWarning) && !store.flag(key::DontShow));
+        QCOMPARE(store.number(key::WarningValue), 150);
+        QCOMPARE(store.number(key::ShutDownValue), 130);
+        QCOMPARE(store.text(key::LogSavePath), QStringLiteral("D:\\logs\\disk.txt"));
+
+        window.alarm->setChecked(false);
+        window.logPath->clear();
+        window.SaveToStore();
+        QVERIFY(!store.flag(key::ShowWarning) && store.flag(key::DontShow));
+        QCOMPARE(store.text(key::LogSavePath), QString());
+    }
+
+    void checkBoxesEnableTheirFields()
+    {
+        OpenSettings window;
+        for (const bool on : {true, false, true}) {
+            for (const char *box : {"LogChkBox", "SizeLimitChkBox", "WarningTemp"})
+                window.field<QCheckBox>(box)->setChecked(on);
+            for (const char *field :
+                 {"PathlineEdit", "BrowsButton_2", "LogLImitSpinBox", "WarningSpinBox", "ShutDownSpinBox"})
+                QCOMPARE(window.field<QWidget>(field)->isEnabled(), on);
+        }
+    }
+
+    void menuOffersLanguages()
+    {
+        const QStringList all{"English",  "German", "French", "Italian", "Spanish",
+                              "Japanese", "Dutch",  "Brazil", "Hindi",   "Korean"};
+        const auto check = [](int current, bool secondBrand, const QStringList &offered, const QString &now) {
+            languages::setFlag(current);
+            g_App.m_bKorvaneBrand = secondBrand;
+            const Settings window;
+            QStringList texts;
+            for (const QAction *action : buttonOf(&window, "m_pLanguageButton")->menu()->actions())
+                texts << action->text();
+            QCOMPARE(texts, offered);
+            for (const QAction *action : window.findChildren<QAction *>()) {
+                if (action->isCheckable())
+                    QCOMPARE(action->isChecked(), action->objectName() == now);
+            }
+        };
+        check(7, false, all, "Korean");
+        check(-1, false, all, "English");
+        check(6, false, all, "Chinese"); // runs unoffered
+        check(2, true, all.mid(0, 8), "French");
     }
 
 private:

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "state/GlobalApp.h"
 #include "state/Globals.h"
+#include "state/Scale.h"
 #include "tests/ui/Named.h"
 #include "ui/screens/CloneDisk.h"
 #include "ui/screens/DiskPartition.h"
+#include "ui/widgets/Images.h"
 #include "ui/widgets/Style.h"
 
 #include <QComboBox>
@@ -11,7 +13,7 @@
 
 #include <cmath>
 
-/// Pages without a window.
+/// Pages and widgets without a window.
 class PagesTest : public QObject
 {
     Q_OBJECT
@@ -38,47 +40,45 @@ private slots:
     {
         CloneDisk page;
         QSignalSpy moved(&page, &CloneDisk::ComboboxIndexChange);
-        QComboBox *source = addSources(page);
+        QComboBox *source = comboOf(page, "SourceComboBox");
         QComboBox *destination = comboOf(page, "DestinationComboBox");
+        for (const DiskNode &node : g_App.m_diskList)
+            source->addItem(QString::number(node.nId), node.nId);
         QCOMPARE(destination->count(), 3);
-        QCOMPARE(destination->itemText(0), QStringLiteral("Select Destination"));
-        QCOMPARE(destination->itemText(1), QStringLiteral("B |  | 129 GB"));
         QCOMPARE(destination->itemData(0, Qt::SizeHintRole).toSize(), QSize(0, 0));
         QVERIFY(!destination->itemData(0).isValid());
+        const auto target = [&page] {
+            const QLabel *model = labelOf(&page, "TargetModelLbl");
+            return model->isVisibleTo(&page) ? model->text() : QString();
+        };
 
         destination->setCurrentIndex(1);
         page.OnActivatedDestinationComboBox(1);
         QCOMPARE(g_App.m_pCloneDisk, findPhysicalDisk(129));
         QVERIFY(page.HasDestination());
         QCOMPARE(page.DestinationId(), 129);
-        QVERIFY(labelOf(&page, "TargetModelLbl")->isVisibleTo(&page));
-        QCOMPARE(labelOf(&page, "TargetModelLbl")->text(), QStringLiteral("Model Number\t: B"));
+        QCOMPARE(target(), QStringLiteral("Model Number\t: B"));
 
         moved.clear();
         source->setCurrentIndex(1);
         QCOMPARE(moved.count(), 1);
         QCOMPARE(moved.at(0).at(0).toInt(), 1);
-        QCOMPARE(g_App.m_pCurrentDisk, findPhysicalDisk(129));
         QCOMPARE(labelOf(&page, "ModelNLbl")->text(), QStringLiteral("Model Number\t: B"));
         QVERIFY(!page.HasDestination());
         QCOMPARE(destination->currentIndex(), 0);
         QCOMPARE(destination->findData(129), -1);
-        QVERIFY(!labelOf(&page, "TargetModelLbl")->isVisibleTo(&page));
+        QCOMPARE(target(), QString());
 
         // Emptied combos move nothing.
         source->clear();
         QCOMPARE(moved.count(), 1);
         QCOMPARE(g_App.m_pCurrentDisk, findPhysicalDisk(129));
-    }
 
-    void aDestinationThatIsGoneIsNotKept()
-    {
-        CloneDisk page;
-        addSources(page);
+        // A destination that is gone is not kept.
         g_App.m_diskList.clear();
         page.OnActivatedDestinationComboBox(1);
         QVERIFY(!g_App.m_pCloneDisk);
-        QVERIFY(!labelOf(&page, "TargetModelLbl")->isVisibleTo(&page));
+        QCOMPARE(target(), QString());
     }
 
     void thePartitionHeaderFollowsTheSelection()
@@ -87,29 +87,23 @@ private slots:
         const auto texts = [&page](int disk) {
             g_nCurrentDiskIndex = disk;
             page.FillPartitionHeader();
-            return QStringList{labelOf(&page, "CapcityValLbl")->text(),
-                               labelOf(&page, "SerialNunValueLbl")->text(),
-                               labelOf(&page, "InterfaceValLbl")->text()};
+            return labelOf(&page, "CapcityValLbl")->text() + '|' +
+                   labelOf(&page, "SerialNunValueLbl")->text() + '|' +
+                   labelOf(&page, "InterfaceValLbl")->text();
         };
-        QCOMPARE(texts(1), (QStringList{"129 GB", "bus B", "ATA Disk"}));
+        QCOMPARE(texts(1), QStringLiteral("129 GB|bus B|ATA Disk"));
         g_pWmicDiskListHead->pNext->szSmartSerial.assign(QStringLiteral("S129"));
         g_pWmicDiskListHead->pNext->szInterface.assign(QStringLiteral("USB"));
-        QCOMPARE(texts(1), (QStringList{"129 GB", "S129", "USB"}));
-        QCOMPARE(texts(7), (QStringList{"", "", ""}));
+        QCOMPARE(texts(1), QStringLiteral("129 GB|S129|USB"));
+        QCOMPARE(texts(7), QStringLiteral("||"));
     }
 
     void detailLabelsKeepTheirText()
     {
-        const QVector<QStringList> rows{
-            {"Total Sector\t   : 12", "Total Sector", ": 12"},
-            {"Serial: A:B", "Serial", ": A:B"},
-            {QString::fromUtf8("容量： 1 GB"), QString::fromUtf8("容量"), QString::fromUtf8("： 1 GB")},
-            {"Serial 12", "Serial 12", ""},
-        };
-        for (const QStringList &row : rows) {
-            const DetailLabel::Parts parts = DetailLabel::parts(row[0]);
-            QCOMPARE(parts.caption, row[1]);
-            QCOMPARE(parts.value, row[2]);
+        for (const char *const row : {"Total Sector|: 12", "Serial|: A:B", "容量|： 1 GB", "Serial 12|"}) {
+            const QStringList parts = QString::fromUtf8(row).split('|');
+            const DetailLabel::Parts found = DetailLabel::parts(parts.join(QStringLiteral("\t ")));
+            QCOMPARE((QStringList{found.caption, found.value}), parts);
         }
     }
 
@@ -157,6 +151,65 @@ private slots:
         }
     }
 
+    /// How the display's dots per inch become sizes and image sets.
+    void scales()
+    {
+        for (const auto &[dpi, percent] :
+             {std::pair(72, 75), {96, 100}, {97, 125}, {121, 150}, {143, 150}, {168, 175}})
+            QCOMPARE(scale::percentForDpi(dpi), percent);
+        QCOMPARE(scale::scaled(55, 125), 68); // cut off
+        QCOMPARE(scale::scaled(-15, 150), -22);
+
+        using images::Family;
+        const auto check = [](float factor, Family family, const QString &folder) {
+            g_App.m_fScale = factor;
+            const QString file = QStringLiteral("a.png");
+            QCOMPARE(images::path(file, family), folder.isEmpty() ? QString() : ":/images/" + folder + file);
+            // What has to have a picture takes that of 96 DPI.
+            if (folder.isEmpty())
+                QCOMPARE(images::nearestPath(file), ":/images/" + file);
+        };
+        check(1.0F, Family::Folder, "Resources/96-DPI/");
+        check(1.0F, Family::MoreTools, "Resources/Others/96-DPI/");
+        check(1.2500001F, Family::Plain, "Resources/120-DPI/");
+        check(1.74F, Family::Plain, "Resources/144-DPI/");
+        check(1.75F, Family::Plain, "Resources/168-DPI/");
+        check(2.0F, Family::MoreTools, "Resources/Others/192-DPI/");
+        check(1.3F, Family::Plain, QString());
+        check(0.75F, Family::Folder, QString());
+    }
+
+    void windowsStayOnTheirScreen()
+    {
+        const QRect area(0, 30, 1400, 1000); // below a bar at the top
+        const QPoint left(-1400, 0);         // another screen
+        const std::pair<QRect, QPoint> rows[] = {{{100, 60, 905, 600}, {100, 60}},
+                                                 {{-227, -180, 905, 600}, {0, 30}},
+                                                 {{1200, 900, 905, 600}, {495, 430}},
+                                                 {{-10, 200, 1500, 1100}, {0, 30}}};
+        for (const auto &[window, place] : rows) {
+            QCOMPARE(style::placeWithin(window, area), place);
+            QCOMPARE(style::placeWithin(window.translated(left), area.translated(left)), place + left);
+        }
+    }
+
+    /// Parts of the ring, in sixteenths of a degree and in degrees.
+    void spans()
+    {
+        const auto spans = [](double first, double second) {
+            DonutSeries series;
+            series.AddSlice(3, QStringLiteral("of the disk before"), QString());
+            series.Clear();
+            series.AddSlice(first, QString(), QString());
+            series.AddSlice(second, QString(), QString());
+            return QList<int>{series.SpanSixteenths(first), series.SpanDegrees(second)};
+        };
+        QCOMPARE(spans(1, 6), (QList<int>{822, 308})); // cut off, so the ring closes short
+        QCOMPARE(spans(0, 0), (QList<int>{0, 0}));
+        QCOMPARE(spans(9e18, -8.999999999e18), (QList<int>{5760, -360}));
+        QCOMPARE(spans(qQNaN(), 1), (QList<int>{0, 0}));
+    }
+
 private:
     static void addDisk(int id, const QString &model, DiskKind kind)
     {
@@ -174,14 +227,6 @@ private:
     static QComboBox *comboOf(const CloneDisk &page, const char *name)
     {
         return page.findChild<QComboBox *>(QLatin1String(name));
-    }
-
-    static QComboBox *addSources(const CloneDisk &page)
-    {
-        QComboBox *combo = comboOf(page, "SourceComboBox");
-        for (const DiskNode &node : g_App.m_diskList)
-            combo->addItem(QString::number(node.nId), node.nId);
-        return combo;
     }
 };
 

@@ -10,21 +10,6 @@
 namespace
 {
 
-/// Counts how often a widget is painted.
-class PaintCounter : public QObject
-{
-public:
-    explicit PaintCounter(QWidget *widget) { widget->installEventFilter(this); }
-    int count = 0;
-
-protected:
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        count += event->type() == QEvent::Paint ? 1 : 0;
-        return false;
-    }
-};
-
 /// The number of volumes on each disk.
 const QList<int> volumeCounts = {3, 0, 4, 7};
 
@@ -74,53 +59,49 @@ private slots:
     }
     void cleanup() { tearDown(); }
 
-    void everyDisk_data()
-    {
-        QTest::addColumn<int>("number");
-        for (int number = 0; number < volumeCounts.size(); ++number)
-            QTest::addRow("%d volumes", volumeCounts.at(number)) << number;
-    }
-
     void everyDisk()
     {
-        QFETCH(int, number);
-        const int count = volumeCounts.at(number);
-        // Past another disk, so that it does not rest on what showed before.
-        selectDisk(3);
-        bar()->setValue(bar()->maximum());
-        QVERIFY(bar()->value() > 0);
-        selectDisk(number);
-        QCOMPARE(bar()->value(), 0);
-        QCOMPARE(host()->visibleRegion().boundingRect().top(), 0);
-        QCOMPARE(texts("m_apStatusValue"),
-                 QVector<QString>(count, number == 2 ? "Not Healthy" : "Healthy").toList());
-        const QVariantList sizes = ring()->sliceValues();
-        QCOMPARE(sizes.size(), std::max(count, 1));
-        QCOMPARE(sizes.contains(12.0), count == 0);
-        QCOMPARE(g_bNoPartitions, count == 0);
-        const auto *notice = child<QLabel>("m_pNoPartition");
-        QCOMPARE(notice ? notice->text() : QString(),
-                 count == 0 ? QStringLiteral("No Partition Found") : QString());
-        QCOMPARE(bar()->isVisible(), count >= 4);
-        QCOMPARE(bar()->isEnabled(), count >= 4);
-        QCOMPARE(host()->minimumHeight(), 300);
+        for (int number = 0; number < volumeCounts.size(); ++number) {
+            const int count = volumeCounts.at(number);
+            // Past another disk, so that it does not rest on what showed before.
+            selectDisk(3);
+            bar()->setValue(bar()->maximum());
+            QVERIFY(bar()->value() > 0);
+            selectDisk(number);
+            QCOMPARE(bar()->value(), 0);
+            QCOMPARE(host()->visibleRegion().boundingRect().top(), 0);
+            QCOMPARE(texts("m_apStatusValue"),
+                     QVector<QString>(count, number == 2 ? "Not Healthy" : "Healthy").toList());
+            const QVariantList sizes = ring()->sliceValues();
+            QCOMPARE(sizes.size(), std::max(count, 1));
+            QCOMPARE(sizes.contains(12.0), count == 0);
+            QCOMPARE(g_bNoPartitions, count == 0);
+            const auto *notice = child<QLabel>("m_pNoPartition");
+            QCOMPARE(notice ? notice->text() : QString(), QString(count == 0 ? "No Partition Found" : ""));
+            QCOMPARE(bar()->isVisible() && bar()->isEnabled(), count >= 4);
+            QCOMPARE(host()->minimumHeight(), 300);
+        }
     }
 
     void texts()
     {
-        QCOMPARE(texts("m_apPartitionTitle"), (QStringList{"Partition", "Partition", "Partition"}));
         QCOMPARE(texts("m_apVolumeName"), (QStringList{"C: (NTFS)(BitLocker)", "D: (NTFS)", "E: (NTFS)"}));
-        QCOMPARE(texts("m_apSpaceValue"),
-                 (QStringList{"25 GB Free of 100 GB", "12.5 GB Free of 50 GB", "8.3 GB Free of 33.3 GB"}));
-        QCOMPARE(texts("m_apPercentage").first(), QStringLiteral("25% Free"));
-        QCOMPARE(texts("m_apSpaceTitle").first(), QStringLiteral("Space"));
-        QCOMPARE(texts("m_apBlankLabel").first(), QString());
+        const auto first = [this] {
+            QStringList found;
+            for (const char *label : {"m_apPartitionTitle", "m_apVolumeName", "m_apSpaceTitle",
+                                      "m_apBlankLabel", "m_apSpaceValue", "m_apPercentage"})
+                found << texts(label).first();
+            return found.join('|');
+        };
+        const QString plain = "Partition|C: (NTFS)(BitLocker)|Space||25 GB Free of 100 GB|25% Free";
+        QCOMPARE(first(), plain);
         {
             const OtherLanguage language("~$");
-            QCOMPARE(texts("m_apVolumeName").first(), QStringLiteral("C: (NTFS)~(BitLocker)"));
-            QCOMPARE(texts("m_apSpaceValue").first(), QStringLiteral("25 GB~ Free of 100 GB"));
-            QCOMPARE(texts("m_apPercentage").first(), QStringLiteral("25~% Free"));
-            QCOMPARE(texts("m_apSpaceTitle").first(), QStringLiteral("~Space"));
+            QCOMPARE(first(), "~" + QString(plain)
+                                        .replace("Space", "~Space")
+                                        .replace("(Bit", "~(Bit")
+                                        .replace(" Free of", "~ Free of")
+                                        .replace("% Free", "~% Free"));
             // A selection writes the mark as it is.
             selectDisk(0);
             QCOMPARE(texts("m_apVolumeName").first(), QStringLiteral("C: (NTFS)(BitLocker)"));
@@ -130,44 +111,38 @@ private slots:
         QCoreApplication::processEvents();
         QCOMPARE(texts("m_apSpaceTitle").first(), QStringLiteral("~Space"));
         press("DiskPartitionButton");
-        QCOMPARE(texts("m_apSpaceTitle").first(), QStringLiteral("Space"));
+        QCOMPARE(first(), plain);
         languages::setFlag(7);
         selectDisk(0);
         QCOMPARE(texts("m_apSpaceValue").first(), QStringLiteral("25 GB Free of 100 GB Available"));
     }
 
-    void allFramesCanBeScrolledTo_data()
-    {
-        QTest::addColumn<float>("scaleFactor");
-        QTest::newRow("1.0") << 1.0F;
-        QTest::newRow("1.5") << 1.5F;
-    }
-
     void allFramesCanBeScrolledTo()
     {
-        QFETCH(float, scaleFactor);
-        m_pWindow.reset();
-        g_App.m_fScale = scaleFactor;
-        makeWindow();
-        waitForRest();
-        press("DiskPartitionButton");
-        selectDisk(3);
-        int bottom = 0;
-        for (const QFrame *frame : frames()) {
-            QVERIFY(frame->y() > bottom);
-            QCOMPARE(frame->height(), static_cast<int>(50 * scaleFactor));
-            bottom = frame->geometry().bottom();
+        for (const float scaleFactor : {1.5F, 1.0F}) {
+            m_pWindow.reset();
+            g_App.m_fScale = scaleFactor;
+            makeWindow();
+            waitForRest();
+            press("DiskPartitionButton");
+            selectDisk(3);
+            int bottom = 0;
+            for (const QFrame *frame : frames()) {
+                QVERIFY(frame->y() > bottom);
+                QCOMPARE(frame->height(), static_cast<int>(50 * scaleFactor));
+                bottom = frame->geometry().bottom();
+            }
+            QVERIFY(bottom < host()->height());
+            // The wheel reaches the last one, but moves nothing where there is no bar.
+            turnWheel();
+            QCOMPARE(bar()->value(), bar()->maximum());
+            selectDisk(0);
+            turnWheel();
+            QCOMPARE(bar()->value(), 0);
+            // All three show without it.
+            const QFrame *last = frames().last();
+            QCOMPARE(last->visibleRegion().boundingRect(), last->rect());
         }
-        QVERIFY(bottom < host()->height());
-        // The wheel reaches the last one, but moves nothing where there is no bar.
-        turnWheel();
-        QCOMPARE(bar()->value(), bar()->maximum());
-        selectDisk(0);
-        turnWheel();
-        QCOMPARE(bar()->value(), 0);
-        // All three show without it.
-        const QFrame *last = frames().last();
-        QCOMPARE(last->visibleRegion().boundingRect(), last->rect());
     }
 
     void theRing()
@@ -197,7 +172,7 @@ private slots:
 
     void onlyWhatShowsIsPainted()
     {
-        PaintCounter counter(ring());
+        EventCounter counter(ring(), QEvent::Paint);
         // The timer of the ring paints it about every 20 ms.
         const auto rests = [&counter] {
             QTest::qWait(50);

@@ -6,6 +6,7 @@
 #include "state/SettingsStore.h"
 #include "tests/ui/WindowFixture.h"
 #include "ui/widgets/SmartChartView.h"
+#include "ui/widgets/Style.h"
 
 #include <QPointer>
 #include <QTreeWidget>
@@ -37,52 +38,39 @@ private slots:
     }
     void cleanup() { tearDown(); }
 
-    void diskStatus_data()
-    {
-        QTest::addColumn<int>("disk");
-        QTest::addColumn<QStringList>("tiles");
-        QTest::addColumn<QString>("result");
-        QTest::addColumn<QString>("verdict");
-        // A disk with a temperature has SMART. A drive that calls itself failed reads "Failed".
-        QTest::newRow("failed, with a temperature")
-            << Failed << QStringList{"36\u00B0C", "97%", "50%"} << "Failed"
-            << "Failed: back up your data";
-        QTest::newRow("passed, without")
-            << Cold << QStringList{"Not Supported", "Not Supported", "Not Supported"} << "Not Supported"
-            << "Passed";
-    }
-
     void diskStatus()
     {
-        QFETCH(int, disk);
-        QFETCH(QStringList, tiles);
         open();
-        select(disk);
-        const auto shownTiles = [this] {
-            return QStringList{text("tempValueLbl"), text("healthValueLbl"), text("performanceValueLbl")};
-        };
-        QCOMPARE(shownTiles(), tiles);
-        QTEST(text("ResultLabel"), "result");
-        QCOMPARE(child<QLabel>("ResultLabel")->styleSheet(), QStringLiteral("QLabel {color : #FF0000;}"));
-        QTEST(text("DriveVerdictValue"), "verdict");
-        for (const char *label : {"ResultLabel", "DriveVerdictValue"})
-            child<QLabel>(label)->setText(QStringLiteral("other language"));
-        changeLanguage(m_pWindow.get());
-        changeLanguage(child<QWidget>("m_pDiskStatus"));
-        QTEST(text("ResultLabel"), "result");
-        QTEST(text("DriveVerdictValue"), "verdict");
-        m_pWindow->OnShowSettings();
-        m_pWindow->OnSetSmartSettings();
-        QCOMPARE(shownTiles(), tiles);
+        const std::tuple<int, QString, QString, QString> rows[] = {
+            // A disk with a temperature has SMART. A drive that calls itself failed reads "Failed".
+            {Failed, "36\u00B0C|97%|50%", "Failed", "Failed: back up your data"},
+            {Cold, "Not Supported|Not Supported|Not Supported", "Not Supported", "Passed"}};
+        for (const auto &[disk, tiles, result, verdict] : rows) {
+            press("DiskStatusButton");
+            select(disk);
+            const auto shownTiles = [this] {
+                return texts({"tempValueLbl", "healthValueLbl", "performanceValueLbl"});
+            };
+            QCOMPARE(shownTiles(), tiles);
+            QCOMPARE(texts({"ResultLabel", "DriveVerdictValue"}), result + '|' + verdict);
+            QCOMPARE(child<QLabel>("ResultLabel")->styleSheet(), style::FailedLabel);
+            for (const char *label : {"ResultLabel", "DriveVerdictValue"})
+                child<QLabel>(label)->setText(QStringLiteral("other language"));
+            changeLanguage(m_pWindow.get());
+            changeLanguage(child<QWidget>("m_pDiskStatus"));
+            QCOMPARE(texts({"ResultLabel", "DriveVerdictValue"}), result + '|' + verdict);
+            m_pWindow->OnShowSettings();
+            m_pWindow->OnSetSmartSettings();
+            QCOMPARE(shownTiles(), tiles);
 
-        // The other screen rates the disk, too; its label depends on the temperature.
-        press("SmartStatusButton");
-        waitForRest();
-        QCOMPARE(g_nHealthPercent, 97);
-        QTEST(text("SmartResultLabel"), "result");
-        QCOMPARE(child<QLabel>("SmartResultLabel")->styleSheet(),
-                 QStringLiteral("QLabel {color : #FF0000;}"));
-        QCOMPARE(g_pSmartChartView->isVisible(), disk == Failed);
+            // The other screen rates the disk, too; its label depends on the temperature.
+            press("SmartStatusButton");
+            waitForRest();
+            QCOMPARE(g_nHealthPercent, 97);
+            QCOMPARE(text("SmartResultLabel"), result);
+            QCOMPARE(child<QLabel>("SmartResultLabel")->styleSheet(), style::FailedLabel);
+            QCOMPARE(g_pSmartChartView->isVisible(), disk == Failed);
+        }
     }
 
     void nothingToRate()
@@ -91,26 +79,33 @@ private slots:
                   ata("", "PASSED", "194 Temperature_Celsius 0x22 36 45 0 Old_age Always - 36\n")
                       .replace("Reallocated_Sector_Ct", "Initial_Bad_Block_Count"));
         open();
-        const auto texts = [this] {
-            return QStringList{text("healthValueLbl"), text("DiskLifeValue"), image("HelthLable")};
-        };
-        const QStringList unknown{"Not Supported", "Not Available", ":/images/img_HealthUnknown.png"};
-        QCOMPARE(texts(), unknown);
+        const QString unknown = QStringLiteral("Not Supported|Not Available");
+        QCOMPARE(texts({"healthValueLbl", "DiskLifeValue"}), unknown);
+        QCOMPARE(image("HelthLable"), QStringLiteral(":/images/img_HealthUnknown.png"));
         child<QLabel>("healthValueLbl")->setText(QStringLiteral("other language"));
         changeLanguage(child<QWidget>("m_pDiskStatus"));
-        QCOMPARE(texts(), unknown);
+        QCOMPARE(texts({"healthValueLbl", "DiskLifeValue"}), unknown);
     }
 
-    void noIdentityShowsNoTexts()
+    /// The last report has no identity. Nothing of the disk before shows, and the table's is not taken for
+    /// it.
+    void noIdentity()
     {
         open();
-        const auto texts = [this] {
-            return QStringList{text("ModelNumValLbl"), text("SerialValLbl"), text("FrimvareVersValLbl")};
-        };
-        QCOMPARE(texts(), (QStringList{"NW1", "SN0", "FW1"}));
+        const auto identity = {"ModelNumValLbl", "SerialValLbl", "FrimvareVersValLbl"};
+        QCOMPARE(texts(identity), QStringLiteral("NW1|SN0|FW1"));
         select(Nameless);
         QCOMPARE(text("tempValueLbl"), QStringLiteral("36\u00B0C"));
-        QCOMPARE(texts(), (QStringList{"NW1", "SN3", ""})); // from the system's table
+        QCOMPARE(texts(identity), QStringLiteral("NW1|SN3|")); // from the system's table
+        press("SmartStatusButton");
+        waitForRest();
+        // The day is kept under no name. The graph goes by the table's serial number, and drawing it gives
+        // the disk no other identity.
+        QCOMPARE(g_strSerialNumber, QString());
+        QVERIFY(QFile::exists(historyPaths(QStringLiteral("SN3")).dates));
+        QVERIFY(!readHistoryDates(historyPaths(QString()).dates, nullptr).empty());
+        QCOMPARE(stored("SN3", "Temperature Celsius"), std::vector<qint64>());
+        QCOMPARE(text("GraphLabel"), QString());
     }
 
     void choicesDuringARead()
@@ -127,8 +122,7 @@ private slots:
         choose(Failed);
         choose(Nameless);
         // A poll of the temperature while the tool runs.
-        child<MyButton>("DiskStatusButton")->setDown(false);
-        child<MyButton>("DiskPartitionButton")->setDown(true);
+        press("DiskPartitionButton");
         m_pWindow->GetSmartTemprature();
         QCOMPARE(commands(" -a "), reads + 1);
         press("SmartStatusButton");
@@ -139,28 +133,24 @@ private slots:
         QCOMPARE(GetDiskTemperature(), 36);
     }
 
-    void companion_data()
-    {
-        QTest::addColumn<QByteArray>("lists");
-        QTest::addColumn<int>("starts");
-        // The window starts it, and the first read once more.
-        QTest::newRow("runs") << QByteArray(R"(, "processes": ["VelmoraSMART.exe"])") << 0;
-        QTest::newRow("starts") << QByteArray(R"(, "installed": ["VelmoraSMART.exe"])") << 1;
-        QTest::newRow("does not start") << QByteArray() << 2;
-    }
-
     void companion()
     {
-        QFETCH(QByteArray, lists);
-        QFETCH(int, starts);
-        open(R"(, "ShowTrayIcon": 1)", lists);
-        const QByteArray byPath = "\tC:\\Halvane\\VelmoraSMART.exe\t";
-        QCOMPARE(logLines("opened.log"), QVector<QByteArray>(starts, byPath).toList());
-        QCOMPARE(commands("C:\\Windows\\system32\\tasklist.exe | C:\\Windows\\system32\\findstr.exe "
-                          "VelmoraSMART.exe >> "),
-                 2);
-        QCOMPARE(commands("TASKKILL.exe"), 0);
-        QCOMPARE(text("tempValueLbl"), QStringLiteral("36\u00B0C"));
+        // The window starts it, and the first read once more.
+        const std::pair<QByteArray, int> rows[] = {{R"(, "processes": ["VelmoraSMART.exe"])", 0},
+                                                   {R"(, "installed": ["VelmoraSMART.exe"])", 1},
+                                                   {"", 2}};
+        for (const auto &[lists, starts] : rows) {
+            open(R"(, "ShowTrayIcon": 1)", lists);
+            const QByteArray byPath = "\tC:\\Halvane\\VelmoraSMART.exe\t";
+            QCOMPARE(logLines("opened.log"), QVector<QByteArray>(starts, byPath).toList());
+            QCOMPARE(commands("C:\\Windows\\system32\\tasklist.exe | C:\\Windows\\system32\\findstr.exe "
+                              "VelmoraSMART.exe >> "),
+                     2);
+            QCOMPARE(commands("TASKKILL.exe"), 0);
+            QCOMPARE(text("tempValueLbl"), QStringLiteral("36\u00B0C"));
+            tearDown();
+            init();
+        }
     }
 
     void unreadableTaskListShowsTheDisk()
@@ -168,8 +158,8 @@ private slots:
         open();
         QCOMPARE(commands("TASKKILL.exe"), 1);
         SettingsStore().write(key::ShowTrayIcon, 1);
-        QVERIFY(
-            QDir(m_strState).mkpath(QStringLiteral("temp/tmpFile"))); // a folder with the name of the file
+        // A folder with the name of the file.
+        QVERIFY(QDir(m_strState).mkpath(QStringLiteral("temp/tmpFile")));
         select(Nvme);
         QCOMPARE(commands("tasklist.exe"), 1);
         QCOMPARE(text("ModelNumValLbl"), QStringLiteral("NW2"));
@@ -177,21 +167,7 @@ private slots:
         QCOMPARE(commands("TASKKILL.exe"), 1);
     }
 
-    void selfTestDeviceByComboPlace()
-    {
-        open();
-        // For disk 10 the place in the combo counts, so at place 0 it has no device.
-        g_strSelfTestDevice = QStringLiteral("before");
-        m_pWindow->DetailsforSelftest();
-        QCOMPARE(g_strSelfTestDevice, QString());
-        QCOMPARE(g_strSelfTestModel + g_strSelfTestSerial, QStringLiteral("NW1SN0"));
-        select(Nvme);
-        m_pWindow->DetailsforSelftest();
-        QCOMPARE(g_strSelfTestDevice, QStringLiteral("/dev/sdl"));
-        QCOMPARE(g_strSelfTestModel + g_strSelfTestSerial, QStringLiteral("NW2SN1"));
-    }
-
-    void columnsByKind()
+    void table()
     {
         const auto hidden = [this] {
             QList<int> columns;
@@ -206,21 +182,14 @@ private slots:
         QCOMPARE(tree()->headerItem()->text(2), QStringLiteral("Values"));
         QCOMPARE(tree()->columnWidth(1), 300);
         QCOMPARE(tree()->topLevelItem(1)->text(2), QStringLiteral("1,234,567 [632 GB]"));
-        QCOMPARE(tree()->topLevelItem(1)->text(3), QStringLiteral("Data Units Written"));
         QCOMPARE(tree()->topLevelItem(2)->toolTip(2), QStringLiteral("&lt;img src='/etc/motd'&gt;"));
         QCOMPARE(text("GraphLabel"), QStringLiteral("Graph : Temperature"));
         select(Failed);
         QCOMPARE(hidden(), QList<int>({7, 8, 9, 10, 11}));
         QCOMPARE(tree()->headerItem()->text(2), QStringLiteral("Status"));
         QCOMPARE(tree()->columnWidth(1), 150);
-    }
-
-    void cells()
-    {
-        openTable(Failed);
         QCOMPARE(tree()->topLevelItemCount(), 3);
         QVERIFY(tree()->topLevelItem(0)->isSelected());
-        QCOMPARE(tree()->topLevelItem(0)->text(2), QStringLiteral("FAILED"));
         const QTreeWidgetItem *row = tree()->topLevelItem(1);
         const QStringList texts = {"5", "Reallocated Sector Count", "OK", "100", "99", "36",
                                    "3", "Reallocated Sector Ct"};
@@ -252,6 +221,21 @@ private slots:
         m_pWindow->OnInitializeSmart();
         QCOMPARE(chart(), shownChart);
         QVERIFY(tree()->topLevelItem(1)->isSelected());
+
+        // Nor does another language, except for the texts.
+        const HistoryPaths paths = historyPaths(QStringLiteral("SN0"));
+        QVERIFY(QFile::remove(paths.dates) && QFile::remove(paths.values));
+        changeLanguage(child<QWidget>("m_pSmartWgt"));
+        QCOMPARE(text("GraphLabel"), QStringLiteral("Graph"));
+        // As after a disk without SMART.
+        g_bSmartAvailable = false;
+        tree()->topLevelItem(1)->setText(1, QStringLiteral("other language"));
+        changeLanguage(child<QWidget>("m_pSmartWgt"));
+        QVERIFY(!QFile::exists(paths.dates) && !QFile::exists(paths.values));
+        QCOMPARE(chart(), shownChart);
+        QCOMPARE(tree()->topLevelItemCount(), 3);
+        QCOMPARE(tree()->topLevelItem(1)->text(1), QStringLiteral("Reallocated Sector Count"));
+        QCOMPARE(texts({"SmartResultLabel", "GraphLabel"}), QStringLiteral("Failed|"));
     }
 
     void eachDiskHasItsOwnHistory()
@@ -266,51 +250,12 @@ private slots:
         select(Nvme);
         QCOMPARE(stored("SN1", "Data Units Written"), std::vector<qint64>{1234567});
         QCOMPARE(points(), QVector<QPointF>({{40, 41}, {40, 41}, {40, 40}}));
-    }
-
-    void languageChangeKeepsHistoryAndGraph()
-    {
-        openTable(Failed);
-        click(1);
-        const QChart *shownChart = chart();
-        const HistoryPaths paths = historyPaths(QStringLiteral("SN0"));
-        QVERIFY(QFile::remove(paths.dates) && QFile::remove(paths.values));
-        changeLanguage(child<QWidget>("m_pSmartWgt"));
-        QCOMPARE(text("GraphLabel"), QStringLiteral("Graph"));
-        // As after a disk without SMART.
-        g_bSmartAvailable = false;
-        tree()->topLevelItem(1)->setText(1, QStringLiteral("other language"));
-        changeLanguage(child<QWidget>("m_pSmartWgt"));
-        QVERIFY(!QFile::exists(paths.dates) && !QFile::exists(paths.values));
-        QCOMPARE(chart(), shownChart);
-        QCOMPARE(tree()->topLevelItemCount(), 3);
-        QCOMPARE(tree()->topLevelItem(1)->text(1), QStringLiteral("Reallocated Sector Count"));
-        QCOMPARE(text("SmartResultLabel"), QStringLiteral("Failed"));
-        QCOMPARE(text("GraphLabel"), QString());
-    }
-
-    void unopenableDatesDrawNoGraph()
-    {
-        openTable(Failed);
-        QVERIFY(
-            QDir().mkpath(historyPaths(QStringLiteral("SN1")).dates)); // a folder with the name of the file
-        select(Nvme);
-        QCOMPARE(tree()->topLevelItemCount(), 3);
-        // The graph of the previous disk does not stay either.
+        // Days that cannot be read draw no graph, and that of the previous disk does not stay either.
+        QVERIFY(QDir().mkpath(historyPaths(QStringLiteral("SN2")).dates)); // a folder of that name
+        select(Cold);
+        QCOMPARE(tree()->topLevelItemCount(), 2);
         QCOMPARE(chart()->series().size(), 0);
         QCOMPARE(text("GraphLabel") + g_strGraphTitle, QString());
-    }
-
-    void serialOfTheDiskTable()
-    {
-        // Its serial number was read at the load, and is missing since. The day is kept under no name; the
-        // graph goes by the table's, and drawing it gives the disk no other identity.
-        openTable(Nameless);
-        QCOMPARE(g_strSerialNumber, QString());
-        QVERIFY(QFile::exists(historyPaths(QStringLiteral("SN3")).dates));
-        QVERIFY(!readHistoryDates(historyPaths(QString()).dates, nullptr).empty());
-        QCOMPARE(stored("SN3", "Temperature Celsius"), std::vector<qint64>());
-        QCOMPARE(text("GraphLabel"), QString());
     }
 
 private:

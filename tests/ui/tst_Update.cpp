@@ -52,84 +52,59 @@ private slots:
         m_bManualCheck = false;
     }
 
-    void checkAtStartOffersWhatIsNewer_data()
-    {
-        QTest::addColumn<QByteArray>("versions");
-        QTest::addColumn<QString>("offer"); ///< empty: none
-        QTest::newRow("major")
-            << QByteArray("12.0.0.0\r\n11.0.0.8\r\n")
-            << "A new major release 12.0.0.0 is available. Click Update to proceed further.";
-        QTest::newRow("minor")
-            << QByteArray("11.0.0.8\n  11.0.0.9  \n")
-            << "A new minor update 11.0.0.9 is available. Click Update to proceed further.";
-        QTest::newRow("minor on the first line")
-            << QByteArray("11.2.0.0")
-            << "A new minor update 11.2.0.0 is available. Click Update to proceed further.";
-        QTest::newRow("garbage") << QByteArray(100000, '\xff') << QString();
-        QTest::newRow("three bytes") << QByteArray("99.") << QString();
-        QTest::newRow("four bytes")
-            << QByteArray("99.1")
-            << "A new major release 99.1 is available. Click Update to proceed further.";
-    }
-
     void checkAtStartOffersWhatIsNewer()
     {
-        QFETCH(QByteArray, versions);
-        QFETCH(QString, offer);
-        const WebFolder web({{Versions, {versions}}});
-        startWindow(web.link());
-        const auto *shownOffer = dialog<QShowUpdate>();
-        QCOMPARE(shownOffer ? shownOffer->findChild<QTextEdit *>()->toPlainText() : QString(), offer);
-        if (shownOffer) {
-            QVERIFY(g_bUpdateShown && QFile::exists(loaded(Versions)));
-            answer<QShowUpdate>("CancelButton");
-            QVERIFY(!QFile::exists(loaded(Versions)));
+        const QString tail = QStringLiteral(" is available. Click Update to proceed further.");
+        const std::pair<QByteArray, QString> rows[] = {
+            {"11.0.0.8\r\n  11.0.0.9  \r\n", "A new minor update 11.0.0.9" + tail},
+            {"11.2.0.0", "A new minor update 11.2.0.0" + tail}, // on the first line
+            {QByteArray(100000, '\xff'), QString()},
+            {"99.", QString()},
+            {"99.1", "A new major release 99.1" + tail}};
+        for (const auto &[versions, offer] : rows) {
+            const WebFolder web({{Versions, {versions}}});
+            startWindow(web.link());
+            const auto *shownOffer = dialog<QShowUpdate>();
+            QCOMPARE(shownOffer ? shownOffer->findChild<QTextEdit *>()->toPlainText() : QString(), offer);
+            if (shownOffer) {
+                QVERIFY(g_bUpdateShown && QFile::exists(loaded(Versions)));
+                answer<QShowUpdate>("CancelButton");
+                QVERIFY(!QFile::exists(loaded(Versions)));
+            }
+            verifyUsable();
+            QCOMPARE(m_messages, QStringList());
+            cleanup();
         }
-        verifyUsable();
-        QCOMPARE(m_messages, QStringList());
-    }
-
-    void checkAskedForTellsThatThereIsNone_data()
-    {
-        QTest::addColumn<QByteArray>("link"); ///< empty: the web folder, which has the version 12
-        QTest::addColumn<QByteArray>("installed");
-        QTest::addColumn<QByteArray>("prefix");
-        QTest::addColumn<QStringList>("told");
-        const QStringList none{QStringLiteral("No update available.")};
-        const QByteArray web;
-        QTest::newRow("equal") << web << QByteArray("12.0.0.0") << QByteArray("EN") << none;
-        QTest::newRow("nothing installed") << web << QByteArray() << QByteArray("EN") << none;
-        QTest::newRow("nobody serves")
-            << QByteArray("http://127.0.0.1:9/") << QByteArray("11.0.0.8") << QByteArray("EN") << none;
-        QTest::newRow("no address") << QByteArray("nonsense & more | ") << QByteArray("11.0.0.8")
-                                    << QByteArray("EN") << none;
-        QTest::newRow("no link for the language")
-            << web << QByteArray("11.0.0.8") << QByteArray("DE") << QStringList();
     }
 
     void checkAskedForTellsThatThereIsNone()
     {
-        QFETCH(QByteArray, link);
-        QFETCH(QByteArray, installed);
-        QFETCH(QByteArray, prefix);
         const WebFolder web({{Versions, {"12.0.0.0\n"}}});
-        startWindow(link.isEmpty() ? web.link() : link, installed, prefix);
-        QCOMPARE(m_messages, QStringList());
-        m_pWindow->OnShowSettings();
-        for (int i = 0; i < 2; ++i) {
-            m_messages.clear();
-            buttonOf(dialog<Settings>(), "m_pUpdateButton")->click();
-            QTEST(m_messages, "told");
-        }
-        QCOMPARE(dialog<QShowUpdate>(), nullptr);
-        verifyUsable();
+        const auto check = [this](const QByteArray &link, const char *installed, const char *prefix,
+                                  const QStringList &told = {"No update available."}) {
+            startWindow(link, installed, prefix);
+            QCOMPARE(m_messages, QStringList());
+            m_pWindow->OnShowSettings();
+            for (int i = 0; i < 2; ++i) {
+                m_messages.clear();
+                buttonOf(dialog<Settings>(), "m_pUpdateButton")->click();
+                QCOMPARE(m_messages, told);
+            }
+            QCOMPARE(dialog<QShowUpdate>(), nullptr);
+            verifyUsable();
+            cleanup();
+        };
+        check(web.link(), "12.0.0.0", "EN");
+        check("http://127.0.0.1:9/", "11.0.0.8", "EN"); // nobody serves
+        check(web.link(), "11.0.0.8", "DE", {});        // no link for the language
     }
 
     void offerLeadsToThePage()
     {
         const WebFolder web({{Versions, {"12.0.0.0"}}});
         startWindow(web.link());
-        QLabel *link = labelOf(dialog<QShowUpdate>(), "LinkLabel");
+        QPointer<QShowUpdate> first = dialog<QShowUpdate>();
+        QLabel *link = labelOf(first, "LinkLabel");
         QVERIFY(link->text().contains(QLatin1String("Visit Update Page")));
         emit link->linkActivated(QStringLiteral("https://velmora.example/new?a=1&b=2"));
         QCOMPARE(logLines("opened.log").last(), QByteArray("url\thttps://velmora.example/new?a=1&b=2\t"));
@@ -137,14 +112,8 @@ private slots:
         const QMajorUpdate twin;
         QVERIFY(twin.findChild<QTextEdit *>()->toPlainText().startsWith(
             QLatin1String("A new major release 12.0.0.0 is")));
-    }
 
-    void secondCheckBesideAnOffer()
-    {
-        const WebFolder web({{Versions, {"12.0.0.0"}}});
-        startWindow(web.link());
-        QPointer<QShowUpdate> first = dialog<QShowUpdate>();
-        QVERIFY(first);
+        // A second check beside the offer.
         m_pWindow->OnCheckUpdate();
         QVERIFY(!m_bManualCheck);
         while (dialog<QShowUpdate>())
@@ -152,30 +121,6 @@ private slots:
         QTRY_VERIFY(first.isNull());
         QCOMPARE(m_messages, QStringList());
         verifyUsable();
-    }
-
-    void noCheckWhileAJobRuns()
-    {
-        const WebFolder web({{Versions, {"11.0.0.8"}}});
-        startWindow(web.link());
-        g_bJobRunning = true;
-        m_pWindow->OnCheckUpdate();
-        QCOMPARE(m_messages, QStringList());
-        g_bJobRunning = false;
-        m_pWindow->OnCheckUpdate();
-        QCOMPARE(m_messages, QStringList{QStringLiteral("No update available.")});
-    }
-
-    void consoleLoadsWhatTheSystemCouldNot()
-    {
-        const WebFolder web({{Versions, {"12.0.0.0", -1, 1}}});
-        startWindow(web.link());
-        QVERIFY(dialog<QShowUpdate>());
-        QCOMPARE(
-            commands(" /c C:\\Windows\\system32\\bitsadmin.exe /transfer myDownloadJob /download /priority "
-                     "normal " +
-                     web.link() + Versions + ' ' + loaded(Versions).toUtf8()),
-            1);
     }
 
     void finishedDownloadStartsTheInstaller()
@@ -219,31 +164,24 @@ private slots:
         startWindow(web.link());
         answer<QShowUpdate>("UpdateButton");
         QPointer<QDownloadApp> download = dialog<QDownloadApp>();
+        // The progress of a transfer that tells its own.
+        download->OnDownloadProgress(1048576, 2097152);
+        QCOMPARE(labelOf(download, "CopiedLabel")->text(), QStringLiteral("1.00 MB of  2.00 MB copied) "));
+        QVERIFY(fits(download, "RateLabel", "^Transfer Rate: [0-9]+\\.[0-9]{2} KB/sec $"));
+        download->OnDownloadProgress(5000000, 6000000); // above the maximum, so it does not move the bar
+        QCOMPARE(download->findChild<QProgressBar *>()->value(), 1048576);
         QTRY_COMPARE_WITH_TIMEOUT(
             m_messages,
             QStringList{QStringLiteral("Update failed \n\nUpdate failed due to partial download.")}, 20000);
         QTRY_VERIFY(download.isNull());
-        QCOMPARE(commands("bitsadmin.exe /transfer myDownloadJob"), 1);
+        // The console was to load what the system could not.
+        QCOMPARE(commands("bitsadmin.exe /transfer myDownloadJob /download /priority normal " + web.link() +
+                          Installer + ' ' + loaded(Installer).toUtf8()),
+                 1);
         QVERIFY(!QFile::exists(m_strState + QStringLiteral("/temp/updatetmp")));
         verifyUsable();
         m_pWindow->OnCheckUpdate();
         QVERIFY(dialog<QShowUpdate>());
-    }
-
-    void ownProgressOfATransfer()
-    {
-        const WebFolder web({{Installer, {QByteArray(1000, 'i'), 0}}});
-        startWindow(web.link());
-        QDownloadApp download;
-        download.OnDownloadStart();
-        download.OnDownloadProgress(1048576, 2097152);
-        QCOMPARE(labelOf(&download, "CopiedLabel")->text(), QStringLiteral("1.00 MB of  2.00 MB copied) "));
-        QVERIFY(fits(&download, "RateLabel", "^Transfer Rate: [0-9]+\\.[0-9]{2} KB/sec $"));
-        QCOMPARE(download.findChild<QProgressBar *>()->value(), 1048576);
-        // A value above the maximum does not move the bar.
-        download.OnDownloadProgress(5000000, 6000000);
-        QCOMPARE(download.findChild<QProgressBar *>()->value(), 1048576);
-        QTRY_VERIFY_WITH_TIMEOUT(!m_messages.isEmpty(), 20000);
     }
 
 private:
