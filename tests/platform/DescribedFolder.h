@@ -2,9 +2,9 @@
 #pragma once
 
 #include "platform/simulated/SimulatedPlatform.h"
+#include "tests/support/Files.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
 
@@ -19,8 +19,7 @@ public:
     {
         const QString file = path() + QLatin1Char('/') + name;
         QDir().mkpath(QFileInfo(file).absolutePath());
-        QFile out(file);
-        if (!out.open(QIODevice::WriteOnly) || out.write(contents) != contents.size())
+        if (!writeFile(file, contents))
             qFatal("a test file cannot be written");
     }
 
@@ -35,11 +34,7 @@ public:
         return pc;
     }
 
-    static QByteArray contents(const QString &file)
-    {
-        QFile in(file);
-        return in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray();
-    }
+    static QByteArray contents(const QString &file) { return contentOf(file); }
 
 private:
     QTemporaryDir m_folder;
@@ -53,5 +48,5 @@ inline QByteArray outputOf(Platform &pc, const QString &command)
     QFile::remove(file);
     pc.CreateProcessAndWait(
         (QLatin1String("CMD.EXE /c ") + command + QLatin1String(" >> ") + file).toStdWString(), true);
-    return DescribedFolder::contents(file);
+    return contentOf(file);
 }

@@ -13,10 +13,13 @@
 #include <unistd.h>
 
 /// Runs a tool to its end; true if it ended with 0.
-inline bool runs(const QString &program, const QStringList &arguments, QByteArray *output = nullptr)
+inline bool runs(const QString &program, const QStringList &arguments, QByteArray *output = nullptr,
+                 const QByteArray &input = QByteArray())
 {
     QProcess process;
     process.start(program, arguments);
+    process.write(input);
+    process.closeWriteChannel();
     const bool ended = process.waitForFinished() && process.exitStatus() == QProcess::NormalExit;
     if (output)
         *output = process.readAllStandardOutput().trimmed();
@@ -37,12 +40,10 @@ class LoopDevice
 public:
     explicit LoopDevice(const QString &image, const QStringList &options = {})
     {
-        const QStringList arguments =
-            options + QStringList{QStringLiteral("-f"), QStringLiteral("--show"), image};
         QByteArray node;
         // Another program may take the free device first.
         for (int attempt = 0; attempt < 5 && m_node.isEmpty() && geteuid() == 0; ++attempt) {
-            if (runs(QStringLiteral("losetup"), arguments, &node))
+            if (runs("losetup", options + QStringList{"-f", "--show", image}, &node))
                 m_node = QString::fromLatin1(node);
         }
         if (!m_node.isEmpty())
@@ -52,11 +53,11 @@ public:
     {
         if (m_node.isEmpty())
             return;
-        runs(QStringLiteral("partx"), {QStringLiteral("-d"), m_node});
+        runs("partx", {"-d", m_node});
         if (m_held >= 0)
             ::close(m_held);
         else
-            runs(QStringLiteral("losetup"), {QStringLiteral("-d"), m_node});
+            runs("losetup", {"-d", m_node});
     }
     LoopDevice(const LoopDevice &) = delete;
     LoopDevice &operator=(const LoopDevice &) = delete;
@@ -64,7 +65,7 @@ public:
     QString node() const { return m_node; }
     QString partition(int number) const { return QStringLiteral("%1p%2").arg(m_node).arg(number); }
     /// Tells the kernel the partitions of the image, even if it cannot read their table.
-    bool showPartitions() const { return runs(QStringLiteral("partx"), {QStringLiteral("-u"), m_node}); }
+    bool showPartitions() const { return runs("partx", {"-u", m_node}); }
 
 private:
     void hold()
@@ -86,7 +87,7 @@ class Mount
 {
 public:
     Mount(const QString &node, const QString &folder)
-        : m_folder(folder), m_mounted(runs(QStringLiteral("mount"), {node, folder}))
+        : m_folder(folder), m_mounted(runs("mount", {node, folder}))
     {
     }
     ~Mount() { unmount(); }
@@ -96,7 +97,7 @@ public:
     bool isMounted() const { return m_mounted; }
     bool unmount()
     {
-        const bool done = m_mounted && runs(QStringLiteral("umount"), {m_folder});
+        const bool done = m_mounted && runs("umount", {m_folder});
         m_mounted = m_mounted && !done;
         return done;
     }

@@ -3,7 +3,6 @@
 #include "tests/support/Files.h"
 #include "tests/support/LinuxPlaces.h"
 
-#include <QProcess>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -19,13 +18,88 @@ class tst_LinuxUser : public QObject
 private slots:
     void initTestCase() { qputenv("HALVANE_DISKS", m_home.filePath("none.img").toUtf8()); }
     void init() { m_folder.reset(new QTemporaryDir); }
-    void privateFolder_data();
-    void privateFolder();
-    void folderOfAnotherUser();
-    void tempFolder();
-    void historyFolder();
-    void logonEntry();
-    void settings();
+
+    void privateFolder_data()
+    {
+        QTest::addColumn<QByteArray>("made"); // by the shell
+        QTest::addColumn<bool>("taken");
+        const auto row = [](const char *made, bool taken) {
+            QTest::newRow(made) << QByteArray(made) << taken;
+        };
+        row("true", true);
+        row("mkdir -m 0700 private", true);
+        row("mkdir -m 0755 private", false);
+        row("mkdir -m 0700 other && ln -s other private", false);
+        row("touch private", false);
+        row("mkdir -m 0700 private && chown 12345 private", false);
+    }
+
+    void privateFolder()
+    {
+        QFETCH(QByteArray, made);
+        QFETCH(bool, taken);
+        if (made.contains("chown") && geteuid() != 0)
+            QSKIP("only root can give a folder away");
+        QCOMPARE(std::system(("cd " + m_folder->path().toUtf8() + " && " + made).constData()), 0);
+        QCOMPARE(folders::ensurePrivate(path("private")).isEmpty(), taken);
+        struct stat status = {};
+        QCOMPARE(stat(QFile::encodeName(path("private")).constData(), &status), 0);
+        if (taken)
+            QCOMPARE(status.st_mode & 07777, 0700u);
+    }
+
+    void tempFolder()
+    {
+        const auto pc = linuxPcIn(m_home.path());
+        QCOMPARE(pc->GetTempPathW(), m_home.path() + "/velmora-halvane/");
+        // If that folder cannot be used, a fresh one is made.
+        QVERIFY(QFile::link(m_home.path(), path("spoilt")));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("temp folder cannot be used: .*/spoilt: "));
+        const QString fresh = folders::chooseTemp({path("spoilt")});
+        QVERIFY(fresh.startsWith("/tmp/velmora-halvane-") && QDir().rmdir(fresh));
+        // A path on C: leads below the root folder, not into the temp folder.
+        QCOMPARE(pc->NativePath("C:\\updatetmps\\a"), "/updatetmps/a");
+    }
+
+    void historyFolder()
+    {
+        const auto pc = linuxPcIn(m_home.path());
+        QCOMPARE(pc->HistoryFolder(m_folder->path()), path("history"));
+        const QString own = m_home.filePath("data/velmora-halvane/history");
+        QCOMPARE(pc->HistoryFolder("/usr/bin"), own);
+        QVERIFY(QFileInfo(own).isDir());
+        QCOMPARE(pc->HistoryFolder(path("missing")), own);
+    }
+
+    void logonEntry()
+    {
+        const LogonTask task{"VelmoraSMART", "anna", path("My 50% $App\\VelmoraSMART.exe"), "Schedular"};
+        const QString program = path("My 50% $App/VelmoraSMART");
+        QVERIFY(QDir().mkpath(path("My 50% $App")) && writeFile(program, {}));
+        QVERIFY(QFile::setPermissions(program, QFile::ReadOwner | QFile::ExeOwner));
+
+        const auto pc = linuxPcIn(m_home.path());
+        pc->CreateLogonTask(task);
+        const QString entry = m_home.filePath("config/autostart/VelmoraSMART.desktop");
+        const QByteArray text = contentOf(entry);
+        QVERIFY2(text.startsWith("[Desktop Entry]\nType=Application\nName=VelmoraSMART\nExec=\"" +
+                                 m_folder->path().toUtf8() +
+                                 "/My 50%% \\\\$App/VelmoraSMART\" \"Schedular\"\n"),
+                 text.constData());
+        pc->DeleteLogonTask(task.name);
+        QVERIFY(!QFile::exists(entry));
+    }
+
+    void settings()
+    {
+        const auto pc = linuxPcIn(m_home.path());
+        const QString key = "HKEY_LOCAL_MACHINE\\Software\\Velmora\\Probe";
+        pc->OpenSettings(key)->setValue("TempValue", "7");
+        const auto store = pc->OpenSettings(key);
+        QCOMPARE(store->value("TempValue"), QVariant("7"));
+        QVERIFY(store->fileName().startsWith(m_home.path()));
+        QVERIFY(!pc->OpenSettings({})->contains("TempValue"));
+    }
 
 private:
     QString path(const char *name) const { return m_folder->filePath(name); }
@@ -33,92 +107,6 @@ private:
     QTemporaryDir m_home;
     QScopedPointer<QTemporaryDir> m_folder;
 };
-
-void tst_LinuxUser::privateFolder_data()
-{
-    QTest::addColumn<QString>("made"); // by the shell
-    QTest::addColumn<bool>("taken");
-    QTest::newRow("missing") << "true" << true;
-    QTest::newRow("own and closed") << "mkdir -m 0700 private" << true;
-    QTest::newRow("open to others") << "mkdir -m 0755 private" << false;
-    QTest::newRow("link to a closed folder") << "mkdir -m 0700 other && ln -s other private" << false;
-    QTest::newRow("file") << "touch private" << false;
-}
-
-void tst_LinuxUser::privateFolder()
-{
-    QFETCH(QString, made);
-    QFETCH(bool, taken);
-    QProcess shell;
-    shell.setWorkingDirectory(m_folder->path());
-    shell.start("sh", {"-c", made});
-    QVERIFY(shell.waitForFinished() && shell.exitCode() == 0);
-    QCOMPARE(folders::ensurePrivate(path("private")).isEmpty(), taken);
-    struct stat status = {};
-    QCOMPARE(stat(QFile::encodeName(path("private")).constData(), &status), 0);
-    if (taken)
-        QCOMPARE(status.st_mode & 07777, 0700u);
-}
-
-void tst_LinuxUser::folderOfAnotherUser()
-{
-    const QByteArray name = QFile::encodeName(m_folder->path());
-    if (chown(name.constData(), 12345, 12345) != 0)
-        QSKIP("only root can give a folder away");
-    QVERIFY(!folders::ensurePrivate(m_folder->path()).isEmpty());
-}
-
-void tst_LinuxUser::tempFolder()
-{
-    const auto pc = linuxPcIn(m_home.path());
-    QCOMPARE(pc->GetTempPathW(), m_home.path() + "/velmora-halvane/");
-    // If that folder cannot be used, a fresh one is made.
-    QVERIFY(QFile::link(m_home.path(), path("spoilt")));
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("temp folder cannot be used: .*/spoilt: "));
-    const QString fresh = folders::chooseTemp({path("spoilt")});
-    QVERIFY(fresh.startsWith("/tmp/velmora-halvane-") && QDir().rmdir(fresh));
-    // A path on C: leads below the root folder, not into the temp folder.
-    QCOMPARE(pc->NativePath("C:\\updatetmps\\a"), "/updatetmps/a");
-}
-
-void tst_LinuxUser::historyFolder()
-{
-    const auto pc = linuxPcIn(m_home.path());
-    QCOMPARE(pc->HistoryFolder(m_folder->path()), path("history"));
-    const QString own = m_home.filePath("data/velmora-halvane/history");
-    QCOMPARE(pc->HistoryFolder("/usr/bin"), own);
-    QVERIFY(QFileInfo(own).isDir());
-    QCOMPARE(pc->HistoryFolder(path("missing")), own);
-}
-
-void tst_LinuxUser::logonEntry()
-{
-    const LogonTask task{"VelmoraSMART", "anna", path("My 50% $App\\VelmoraSMART.exe"), "Schedular"};
-    const QString program = path("My 50% $App/VelmoraSMART");
-    QVERIFY(QDir().mkpath(path("My 50% $App")) && writeFile(program, {}));
-    QVERIFY(QFile::setPermissions(program, QFile::ReadOwner | QFile::ExeOwner));
-
-    const auto pc = linuxPcIn(m_home.path());
-    pc->CreateLogonTask(task);
-    const QString entry = m_home.filePath("config/autostart/VelmoraSMART.desktop");
-    const QByteArray text = contentOf(entry);
-    QVERIFY2(text.startsWith("[Desktop Entry]\nType=Application\nName=VelmoraSMART\nExec=\"" +
-                             m_folder->path().toUtf8() + "/My 50%% \\\\$App/VelmoraSMART\" \"Schedular\"\n"),
-             text.constData());
-    pc->DeleteLogonTask(task.name);
-    QVERIFY(!QFile::exists(entry));
-}
-
-void tst_LinuxUser::settings()
-{
-    const auto pc = linuxPcIn(m_home.path());
-    const QString key = "HKEY_LOCAL_MACHINE\\Software\\Velmora\\Probe";
-    pc->OpenSettings(key)->setValue("TempValue", "7");
-    const auto store = pc->OpenSettings(key);
-    QCOMPARE(store->value("TempValue"), QVariant("7"));
-    QVERIFY(store->fileName().startsWith(m_home.path()));
-    QVERIFY(!pc->OpenSettings({})->contains("TempValue"));
-}
 
 QTEST_GUILESS_MAIN(tst_LinuxUser)
 #include "tst_LinuxUser.moc"

@@ -25,190 +25,177 @@ class NetworkTest : public QObject
     Q_OBJECT
 
 private slots:
-    void hostileServers_data();
-    void hostileServers();
-    void strangeAddresses();
-    void checkHasItsLimits();
-    void plantedInstaller();
-    void consoleFileBecomesOurs();
-    void consoleThatLoadsTooMuch();
-    void linksThatAreNoPages();
-    void supportIsAnAddressOnly();
-    void describedPcAsksNobody();
+    void hostileServers_data()
+    {
+        QTest::addColumn<QByteArray>("head");
+        QTest::addColumn<QByteArray>("piece"); // comes again and again for as long as somebody listens
+        const auto row = [](const char *name, const char *head, const QByteArray &piece) {
+            QTest::newRow(name) << QByteArray("HTTP/1.1 ") + head << piece;
+        };
+        row("one byte at a time", "200 OK\r\n\r\n", "1");
+        row("a head without an end", "200 OK\r\nX: ", "1");
+        row("a flood", "200 OK\r\n\r\n", QByteArray(1 << 20, 'x'));
+        row("a long one is announced", "200 OK\r\nContent-Length: 65537\r\n\r\n", "1");
+        row("on to a file", "302 Found\r\nLocation: file:///etc/passwd\r\n\r\n", {});
+        row("on to plain http elsewhere", "302 Found\r\nLocation: http://192.0.2.1/\r\n\r\n", {});
+    }
+
+    void hostileServers()
+    {
+        QFETCH(QByteArray, head);
+        QFETCH(QByteArray, piece);
+        std::atomic<qint64> taken{0};
+        const LoopbackServer server([&](QTcpSocket *client, const QByteArray &) {
+            QObject::connect(client, &QTcpSocket::bytesWritten, client,
+                             [&](qint64 bytes) { taken += bytes; });
+            client->write(head);
+            if (piece.isEmpty())
+                return client->disconnectFromHost();
+            auto *clock = new QTimer(client);
+            QObject::connect(clock, &QTimer::timeout, client, [client, piece] {
+                if (client->bytesToWrite() < 4 * piece.size())
+                    client->write(piece);
+            });
+            clock->start(piece.size() == 1 ? 100 : 0);
+        });
+        QElapsedTimer clock;
+        clock.start();
+        QVERIFY(httpDownload(server.link(), target(), {1500, 65536}) != 0);
+        QVERIFY2(clock.elapsed() < 3000, qPrintable(QString::number(clock.elapsed())));
+        // The system's buffers take more than the program counts.
+        QVERIFY2(taken < 16 * 1024 * 1024, qPrintable(QString::number(taken)));
+        QCOMPARE(QDir(m_folder.path()).entryList(QDir::Files), QStringList());
+    }
+
+    void strangeAddresses()
+    {
+        for (const char *url : {"file:///etc/passwd", "ftp://127.0.0.1/a", "data:text/plain,12.0.0.0",
+                                "qrc:/a", "\\\\server\\share\\a.exe", "http://update.example/a",
+                                "http://127.0.0.1@update.example/a", "http://localhost.update.example/a"})
+            QCOMPARE(httpDownload(QLatin1String(url), target(), {1500, 65536}), Platform::DownloadRefused);
+    }
+
+    void checkHasItsLimits()
+    {
+        FakePlatform *pc = FakePlatform::install();
+        qint64 limit = 0;
+        pc->onDownload = [&](const QString &, const QString &, const DownloadLimits &limits) {
+            limit = limits.bytes;
+            return limits.milliseconds == 15000 ? Platform::DownloadRefused : 0;
+        };
+        QVERIFY(!update::fetchVersions("https://update.example/"));
+        QCOMPARE(limit, 65536);
+        // A refused download is not tried with the transfer tool.
+        QCOMPARE(pc->commands(), QStringList());
+        QCOMPARE(update::installerLimits(1000).bytes, 40 * 1024 * 1024);
+        QCOMPARE(update::installerLimits(20 * 1024 * 1024).bytes, 80 * 1024 * 1024);
+    }
+
+    void plantedInstaller()
+    {
+        FakePlatform *pc = FakePlatform::install();
+        const QTemporaryDir here;
+        QVERIFY(QDir::setCurrent(here.path())); // the fake machine has its drive C: there
+        // While the console runs, another program puts a file where the installer would be. Then the console
+        // fails.
+        pc->onCommand = [](const QString &) {
+            return QDir().mkpath("C:/updatetmp") && writeFile("C:/updatetmp/VelmoraHalvane.exe", "evil");
+        };
+        QDownloadThread thread;
+        thread.m_strUrl = "https://update.example/VelmoraHalvane.exe";
+        thread.m_limits = update::installerLimits(0);
+        QSignalSpy started(&thread, &QDownloadThread::OnDownloadFinish);
+        QSignalSpy failed(&thread, &QDownloadThread::OnDownloadFailed);
+        thread.start();
+        QVERIFY(thread.wait(10000));
+        QCOMPARE(pc->commands().size(), 1);
+        QTRY_COMPARE(failed.size(), 1);
+        QCOMPARE(started.size(), 0);
+        QDir::setCurrent(QDir::tempPath());
+    }
+
+    /// The tool's file belongs to a service, and stays in its hands.
+    void consoleFileBecomesOurs()
+    {
+        FakePlatform *pc = FakePlatform::install();
+        QString file;
+        pc->onCommand = [&file](const QString &line) {
+            file = line.section(QLatin1Char(' '), -1);
+            return writeFile(file, "installer") && QFile::setPermissions(file, QFile::Permissions(0x6666));
+        };
+        QCOMPARE(contentOf(update::fetch("https://update.example/x", "x.exe", {9000, 100})),
+                 QByteArray("installer"));
+        QCOMPARE(ownfiles::strangerOn(file), QString());
+    }
+
+    void consoleThatLoadsTooMuch()
+    {
+        FakePlatform *pc = FakePlatform::install();
+        pc->onCommand = [](const QString &line) {
+            return writeFile(line.section(QLatin1Char(' '), -1), QByteArray(65537, '1'));
+        };
+        QVERIFY(!update::fetchVersions("https://update.example/"));
+        QCOMPARE(pc->commands().size(), 1);
+        QCOMPARE(g_strUpdateFile, QString());
+    }
+
+    void linksThatAreNoPages()
+    {
+        FakePlatform *pc = FakePlatform::install();
+        languages::setFlag(5); // its agreement and help are links of the settings
+        g_App.m_bStandalone = false;
+        g_App.m_bHelpOnline = true;
+        for (const char *link :
+             {"file:///usr/bin/id", "/usr/bin/id", "C:\\Windows\\notepad.exe", "ftp://x.example/",
+              "\\\\server\\share\\a.exe", "javascript:alert(1)", "search-ms:query=x", "https:"}) {
+            QVERIFY(!links::openPage(QLatin1String(link)));
+            SettingsStore().write(TextSetting{"JA/EulaLink_JA"}, QLatin1String(link));
+            SettingsStore().write(TextSetting{"JA/HelpLink_JA"}, QLatin1String(link));
+            links::openAgreement();
+            links::openHelp(links::Topic::DiskStatus);
+            QCOMPARE(pc->executed, QStringList());
+        }
+        languages::setFlag(0);
+    }
+
+    void supportIsAnAddressOnly()
+    {
+        FakePlatform *pc = FakePlatform::install();
+        languages::setFlag(0);
+        SettingsStore().write(TextSetting{"EN/SupportLink"}, "a@b.example?attach=/etc/x\" %1");
+        links::openSupport();
+        QCOMPARE(pc->executed, QStringList{"Open mailto:a@b.example%3Fattach%3D%2Fetc%2Fx%22%20%251 "});
+    }
+
+    void describedPcAsksNobody()
+    {
+        std::atomic<int> requests{0};
+        const LoopbackServer server([&requests](QTcpSocket *client, const QByteArray &) {
+            ++requests;
+            client->write("HTTP/1.1 200 OK\r\nContent-Length: 8\r\n\r\n12.0.0.0");
+            client->disconnectFromHost();
+        });
+        const DescribedFolder folder;
+        const auto silent = folder.open("{}");
+        QCOMPARE(silent->URLDownloadToFileW(server.link(), target(), {1500, 65536}),
+                 Platform::DownloadRefused);
+        outputOf(*silent,
+                 QStringLiteral("bitsadmin.exe /transfer j %1 %2").arg(QString(server.link()), target()));
+        QCOMPARE(requests.load(), 0);
+        const auto open = folder.open(R"({"network": true})");
+        QCOMPARE(open->URLDownloadToFileW("https://192.0.2.1/", target(), {1500, 65536}),
+                 Platform::DownloadRefused);
+        // A proxy is another PC, so it is not asked.
+        qputenv("http_proxy", "http://192.0.2.1:3128");
+        QCOMPARE(open->URLDownloadToFileW(server.link(), target(), {1500, 65536}), 0);
+        qunsetenv("http_proxy");
+        QCOMPARE(contentOf(target()), QByteArray("12.0.0.0"));
+    }
 
 private:
     QTemporaryDir m_folder;
-    QString target() const { return m_folder.filePath(QStringLiteral("page")); }
+    QString target() const { return m_folder.filePath("page"); }
 };
-
-void NetworkTest::hostileServers_data()
-{
-    QTest::addColumn<QByteArray>("head");
-    QTest::addColumn<QByteArray>("piece"); // comes again and again for as long as somebody listens
-    QTest::addColumn<int>("interval");     // ms
-    const auto row = [](const char *name, const char *head, const QByteArray &piece, int interval) {
-        QTest::newRow(name) << QByteArray("HTTP/1.1 ") + head << piece << interval;
-    };
-    row("one byte at a time", "200 OK\r\n\r\n", "1", 100);
-    row("a head without an end", "200 OK\r\nX: ", "1", 100);
-    row("a flood", "200 OK\r\n\r\n", QByteArray(1 << 20, 'x'), 0);
-    row("a long one is announced", "200 OK\r\nContent-Length: 65537\r\n\r\n", "1", 100);
-    row("on to a file", "302 Found\r\nLocation: file:///etc/passwd\r\n\r\n", {}, 0);
-    row("on to plain http elsewhere", "302 Found\r\nLocation: http://192.0.2.1/\r\n\r\n", {}, 0);
-}
-
-void NetworkTest::hostileServers()
-{
-    QFETCH(QByteArray, head);
-    QFETCH(QByteArray, piece);
-    QFETCH(int, interval);
-    std::atomic<qint64> taken{0};
-    const LoopbackServer server([&](QTcpSocket *client, const QByteArray &) {
-        QObject::connect(client, &QTcpSocket::bytesWritten, client, [&](qint64 bytes) { taken += bytes; });
-        client->write(head);
-        if (piece.isEmpty())
-            return client->disconnectFromHost();
-        auto *clock = new QTimer(client);
-        QObject::connect(clock, &QTimer::timeout, client, [client, piece] {
-            if (client->bytesToWrite() < 4 * piece.size())
-                client->write(piece);
-        });
-        clock->start(interval);
-    });
-    QElapsedTimer clock;
-    clock.start();
-    QVERIFY(httpDownload(server.link(), target(), {1500, 65536}) != 0);
-    QVERIFY2(clock.elapsed() < 3000, qPrintable(QString::number(clock.elapsed())));
-    // The system's buffers take more than the program counts.
-    QVERIFY2(taken < 16 * 1024 * 1024, qPrintable(QString::number(taken)));
-    QCOMPARE(QDir(m_folder.path()).entryList(QDir::Files), QStringList());
-}
-
-void NetworkTest::strangeAddresses()
-{
-    for (const char *url : {"file:///etc/passwd", "ftp://127.0.0.1/a", "data:text/plain,12.0.0.0", "qrc:/a",
-                            "\\\\server\\share\\a.exe", "http://update.example/a",
-                            "http://127.0.0.1@update.example/a", "http://localhost.update.example/a"})
-        QCOMPARE(httpDownload(QLatin1String(url), target(), {1500, 65536}), Platform::DownloadRefused);
-}
-
-void NetworkTest::checkHasItsLimits()
-{
-    FakePlatform *pc = FakePlatform::install();
-    qint64 limit = 0;
-    pc->onDownload = [&](const QString &, const QString &, const DownloadLimits &limits) {
-        limit = limits.bytes;
-        return limits.milliseconds == 15000 ? Platform::DownloadRefused : 0;
-    };
-    QVERIFY(!update::fetchVersions(QStringLiteral("https://update.example/")));
-    QCOMPARE(limit, 65536);
-    // A refused download is not tried with the transfer tool.
-    QCOMPARE(pc->commands(), QStringList());
-    QCOMPARE(update::installerLimits(1000).bytes, 40 * 1024 * 1024);
-    QCOMPARE(update::installerLimits(20 * 1024 * 1024).bytes, 80 * 1024 * 1024);
-}
-
-void NetworkTest::plantedInstaller()
-{
-    FakePlatform *pc = FakePlatform::install();
-    const QTemporaryDir here;
-    QVERIFY(QDir::setCurrent(here.path())); // the fake machine has its drive C: there
-    // While the console runs, another program puts a file where the installer would be. Then the console
-    // fails.
-    pc->onCommand = [](const QString &) {
-        return QDir().mkpath(QStringLiteral("C:/updatetmp")) &&
-               writeFile(QStringLiteral("C:/updatetmp/VelmoraHalvane.exe"), "evil");
-    };
-    QDownloadThread thread;
-    thread.m_strUrl = QStringLiteral("https://update.example/VelmoraHalvane.exe");
-    thread.m_limits = update::installerLimits(0);
-    QSignalSpy started(&thread, &QDownloadThread::OnDownloadFinish);
-    QSignalSpy failed(&thread, &QDownloadThread::OnDownloadFailed);
-    thread.start();
-    QVERIFY(thread.wait(10000));
-    QCOMPARE(pc->commands().size(), 1);
-    QTRY_COMPARE(failed.size(), 1);
-    QCOMPARE(started.size(), 0);
-    QDir::setCurrent(QDir::tempPath());
-}
-
-/// The tool's file belongs to a service, and stays in its hands.
-void NetworkTest::consoleFileBecomesOurs()
-{
-    FakePlatform *pc = FakePlatform::install();
-    QString file;
-    pc->onCommand = [&file](const QString &line) {
-        file = line.section(QLatin1Char(' '), -1);
-        return writeFile(file, "installer") && QFile::setPermissions(file, QFile::Permissions(0x6666));
-    };
-    QCOMPARE(contentOf(update::fetch(QStringLiteral("https://update.example/x"), QStringLiteral("x.exe"),
-                                     {9000, 100})),
-             QByteArray("installer"));
-    QCOMPARE(ownfiles::strangerOn(file), QString());
-}
-
-void NetworkTest::consoleThatLoadsTooMuch()
-{
-    FakePlatform *pc = FakePlatform::install();
-    pc->onCommand = [](const QString &line) {
-        return writeFile(line.section(QLatin1Char(' '), -1), QByteArray(65537, '1'));
-    };
-    QVERIFY(!update::fetchVersions(QStringLiteral("https://update.example/")));
-    QCOMPARE(pc->commands().size(), 1);
-    QCOMPARE(g_strUpdateFile, QString());
-}
-
-void NetworkTest::linksThatAreNoPages()
-{
-    FakePlatform *pc = FakePlatform::install();
-    languages::setFlag(5); // its agreement and help are links of the settings
-    g_App.m_bStandalone = false;
-    g_App.m_bHelpOnline = true;
-    for (const char *link :
-         {"file:///usr/bin/id", "/usr/bin/id", "C:\\Windows\\notepad.exe", "ftp://x.example/",
-          "\\\\server\\share\\a.exe", "javascript:alert(1)", "search-ms:query=x", "https:"}) {
-        QVERIFY(!links::openPage(QLatin1String(link)));
-        SettingsStore().write(TextSetting{"JA/EulaLink_JA"}, QLatin1String(link));
-        SettingsStore().write(TextSetting{"JA/HelpLink_JA"}, QLatin1String(link));
-        links::openAgreement();
-        links::openHelp(links::Topic::DiskStatus);
-        QCOMPARE(pc->executed, QStringList());
-    }
-    languages::setFlag(0);
-}
-
-void NetworkTest::supportIsAnAddressOnly()
-{
-    FakePlatform *pc = FakePlatform::install();
-    languages::setFlag(0);
-    SettingsStore().write(TextSetting{"EN/SupportLink"}, QStringLiteral("a@b.example?attach=/etc/x\" %1"));
-    links::openSupport();
-    QCOMPARE(pc->executed, QStringList{"Open mailto:a@b.example%3Fattach%3D%2Fetc%2Fx%22%20%251 "});
-}
-
-void NetworkTest::describedPcAsksNobody()
-{
-    std::atomic<int> requests{0};
-    const LoopbackServer server([&requests](QTcpSocket *client, const QByteArray &) {
-        ++requests;
-        client->write("HTTP/1.1 200 OK\r\nContent-Length: 8\r\n\r\n12.0.0.0");
-        client->disconnectFromHost();
-    });
-    const DescribedFolder folder;
-    const auto silent = folder.open("{}");
-    QCOMPARE(silent->URLDownloadToFileW(server.link(), target(), {1500, 65536}), Platform::DownloadRefused);
-    outputOf(*silent,
-             QStringLiteral("bitsadmin.exe /transfer j %1 %2").arg(QString(server.link()), target()));
-    QCOMPARE(requests.load(), 0);
-    const auto open = folder.open(R"({"network": true})");
-    QCOMPARE(open->URLDownloadToFileW(QStringLiteral("https://192.0.2.1/"), target(), {1500, 65536}),
-             Platform::DownloadRefused);
-    // A proxy is another PC, so it is not asked.
-    qputenv("http_proxy", "http://192.0.2.1:3128");
-    QCOMPARE(open->URLDownloadToFileW(server.link(), target(), {1500, 65536}), 0);
-    qunsetenv("http_proxy");
-    QCOMPARE(contentOf(target()), QByteArray("12.0.0.0"));
-}
 
 QTEST_GUILESS_MAIN(NetworkTest)
 #include "tst_Network.moc"
