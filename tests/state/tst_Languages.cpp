@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "state/Globals.h"
 #include "state/Languages.h"
+#include "state/SettingsRules.h"
 #include "state/SettingsStore.h"
 #include "tests/support/FakePlatform.h"
 
 #include <QtTest>
 
-/// The table of languages, and the choice at start.
+/// The choice of a language, and rules of the settings.
 class tst_Languages : public QObject
 {
     Q_OBJECT
@@ -14,44 +15,15 @@ class tst_Languages : public QObject
 private slots:
     void init() { FakePlatform::install(); }
 
-    void tableIsWhole()
-    {
-        languages::setOffered();
-        QStringList folders;
-        for (const languages::Language &language : languages::table) {
-            QCOMPARE(static_cast<int>(language.index()), folders.size());
-            QVERIFY(!folders.contains(language.folder));
-            folders << language.folder;
-            QCOMPARE(g_App.m_abLanguageOffered[language.index()], language.type != LanguageType::Chinese);
-        }
-    }
-
-    void flagOfType()
-    {
-        for (const int type : {0, 10, 11, -1}) {
-            languages::setFlag(3);
-            languages::setFlag(type);
-            const bool known = type == 0 || type == 10;
-            const auto flags = std::count_if(languages::table.cbegin(), languages::table.cend(),
-                                             [](const auto &language) { return g_App.*language.flag; });
-            QCOMPARE(flags, known ? 1 : 0);
-            QCOMPARE(languages::current().type, LanguageType(known ? type : 0));
-        }
-    }
-
     void folders()
     {
         g_strApplicationFolder = "C:/app";
-        g_App.m_bKorvaneBrand = false;
         const languages::Language &dutch = languages::table[8];
-        QCOMPARE(languages::translationFolder(dutch), QStringLiteral("C:/app\\QRXTranslation\\DU"));
         g_App.m_bKorvaneBrand = true;
         QCOMPARE(languages::translationFolder(dutch), QStringLiteral("C:/app\\QRXTranslation\\Korvane\\DU"));
         g_App.m_bKorvaneBrand = false;
-    }
-
-    void missingFilesLeaveEnglish()
-    {
+        QCOMPARE(languages::translationFolder(dutch), QStringLiteral("C:/app\\QRXTranslation\\DU"));
+        // Missing files leave English.
         languages::setFlag(1);
         languages::loadAtStart();
         QVERIFY(g_strTranslationFolder.endsWith(QLatin1String("DE"))); // the selected one is loaded last
@@ -76,6 +48,21 @@ private slots:
         languages::change(LanguageType::German);
         QCOMPARE(stored(g_App.m_strSiblingKey2), QVariant("10"));
         g_App.m_strSiblingKey2.clear();
+        languages::setFlag(11);
+        QCOMPARE(languages::current().type, LanguageType::English);
+    }
+
+    void settings()
+    {
+        using namespace settings;
+        const AlarmLimits cut = limitsForUnit(Fahrenheit, 41, 63);
+        QVERIFY(cut.warning == 105 && cut.shutDown == 145); // not rounded
+        const QString tail = QStringLiteral("\\VelmoraHalvane\\SmartLog\\log.txt");
+        QCOMPARE(defaultLogPath("D:\\Windows\\System32"), "D:" + tail);
+        QCOMPARE(defaultLogPath("C:\\windows\\system32"), "C:" + tail);
+        QCOMPARE(defaultLogPath("C:\\WINDOWS\\system32"), "C:\\WINDOWS" + tail);
+        QCOMPARE(logFolderOf("C:\\a\\\\b\\log.txt"), QStringLiteral("C:\\a\\b\\"));
+        QCOMPARE(logFolderOf("log.txt"), QString());
     }
 };
 
