@@ -55,8 +55,13 @@ private slots:
     void settings()
     {
         using namespace settings;
-        const AlarmLimits cut = limitsForUnit(Fahrenheit, 41, 63);
-        QVERIFY(cut.warning == 105 && cut.shutDown == 145); // not rounded
+        const auto limits = [](int unit, int warning, int shutDown) {
+            const AlarmLimits found = limitsForUnit(unit, warning, shutDown);
+            return QVector<int>{found.warning, found.shutDown, found.lowestWarning, found.lowestShutDown};
+        };
+        QCOMPARE(limits(Fahrenheit, 41, 63), QVector<int>({105, 145, 104, 122})); // cut, not rounded
+        // Whatever they were before, they begin at their lowest.
+        QCOMPARE(limits(Celsius, 140, 176), QVector<int>({40, 50, 40, 50}));
         const QString tail = QStringLiteral("\\VelmoraHalvane\\SmartLog\\log.txt");
         QCOMPARE(defaultLogPath("D:\\Windows\\System32"), "D:" + tail);
         QCOMPARE(defaultLogPath("C:\\windows\\system32"), "C:" + tail);
