@@ -78,23 +78,17 @@ private slots:
     {
         const auto told = [](const char *line) {
             const wmic::DiskDriveLine parsed = wmic::parseDiskDrive(QString::fromLatin1(line));
-            return QStringList{QString::number(parsed.index), parsed.interfaceText, parsed.model, parsed.name,
-                               parsed.status}
-                .join('|');
+            return QString::number(parsed.index) + '|' + parsed.interfaceText + '|' + parsed.model + '|' +
+                   parsed.name + '|' + parsed.status;
         };
         QCOMPARE(told("0  IDE  NORDWIND NW 500 ATA Device  OK  "),
                  QStringLiteral("0|IDE|NORDWIND NW 500 |NORDWIND NW 500|OK"));
-        QCOMPARE(told("1  SCSI  NORDWIND NW500 SCSI Device  OK"),
-                 QStringLiteral("1|SCSI|NORDWIND NW500 S|NORDWIND NW500|OK"));
         QCOMPARE(told("1  SCSI  NW500 SCSI Disk Device  OK"), QStringLiteral("1|SCSI|NW500 SCSI D|NW500|OK"));
         QCOMPARE(told("2  SCSI  NORDWIND NW500  OK"), QStringLiteral("2|SCSI|NORDW|NORDWIND NW500|OK"));
-        QCOMPARE(told("2  SCSI  NW500  OK"), QStringLiteral("2|SCSI||NW500|OK"));
         QCOMPARE(told("0  IDE  NW500 Device  Pred Fail"),
                  QStringLiteral("0|IDE|NW500 Dev|NW500 Device|Fail"));
         QCOMPARE(told("4  USB  OK"), QStringLiteral("4|USB|||OK"));
         QCOMPARE(told("4  USB"), QStringLiteral("4|USB|||"));
-        QCOMPARE(told("   "), QStringLiteral("4294967295||||"));
-        QCOMPARE(told("x"), QStringLiteral("0||||"));
     }
 
     void loadsDiskDrives()
@@ -126,12 +120,13 @@ private slots:
             return index == 5 ? ProbedIdentity{"Model", "Serial", "Firmware"} : ProbedIdentity();
         });
         QCOMPARE(asked.join(' '), QStringLiteral("0SCSI 1USB 2USB 3USB 4USB 5SCSI 6SCSI"));
-        QCOMPARE(findWmicDisk(133)->szSmartModel.text(), QStringLiteral("Model"));
-        QCOMPARE(findWmicDisk(133)->szSmartSerial.text(), QStringLiteral("Serial"));
-        QCOMPARE(findWmicDisk(133)->szSmartFirmware.text(), QStringLiteral("Firmware"));
-        QCOMPARE(findWmicDisk(132)->szModel.text(), QStringLiteral("Generic SDXC/MMC "));
-        QCOMPARE(findWmicDisk(132)->szSmartModel.text(), QStringLiteral("Generic SDXC/MMC"));
-        QCOMPARE(findWmicDisk(132)->szSmartSerial.text(), QStringLiteral("2012 0926A"));
+        const auto names = [](quint32 disk) {
+            const WmicDiskRecord &record = *findWmicDisk(disk);
+            return record.szModel.text() + '|' + record.szSmartModel.text() + '|' +
+                   record.szSmartSerial.text() + '|' + record.szSmartFirmware.text();
+        };
+        QCOMPARE(names(133).section('|', 1), QStringLiteral("Model|Serial|Firmware"));
+        QCOMPARE(names(132), QStringLiteral("Generic SDXC/MMC |Generic SDXC/MMC|2012 0926A|"));
     }
 
     void keepsOrEmptiesOldLists()
@@ -151,19 +146,6 @@ private slots:
         outputs = {{"diskdrive", {}}, {"logicaldisk", {}}, {"partition", {}}};
         load();
         QVERIFY(!g_pWmicDiskListHead && !g_pWmicDiskListTail && !g_pLogicalDiskListHead);
-    }
-
-    void parsesLogicalDiskLine()
-    {
-        const auto told = [](const char *line) {
-            const wmic::LogicalDiskLine parsed = wmic::parseLogicalDisk(QString::fromLatin1(line));
-            return parsed.caption + '|' + parsed.fileSystem + '|' + QString::number(parsed.freeBytes) + '|' +
-                   QString::number(parsed.sizeBytes);
-        };
-        QCOMPARE(told("C:  NTFS  497654161408  539028877312  "),
-                 QStringLiteral("C:|NTFS|497654161408|539028877312"));
-        QCOMPARE(told("E:  RAW"), QStringLiteral("E:|RAW|0|0"));
-        QCOMPARE(told("E:  RAW  -1  -2"), QStringLiteral("E:|RAW|0|0"));
     }
 
     void readsBitLockerState()
@@ -196,34 +178,24 @@ private slots:
                                                "D:|NTFS|63518740480|68718358528|NO|1", "||0|0||1"}));
         QVERIFY(QFile::exists(tempFile(QStringLiteral("DiskInfo.txt"))));
         QVERIFY(!QFile::exists(tempFile(QStringLiteral("File.txt"))));
-        QStringList commands = fake->commands();
-        for (QString &command : commands)
-            command.remove(tempFile({})).remove(QLatin1String("C:\\Windows\\system32"));
-        QCOMPARE(
-            commands,
-            QStringList({"\\cmd.exe /c \\wbem\\WMIC.exe logicaldisk get size,caption,freespace,filesystem "
-                         ">> DiskInfo.txt ",
-                         "\\cmd.exe /c \\manage-bde.exe -status A: >> File.txt ",
-                         "\\cmd.exe /c \\manage-bde.exe -status C: >> File.txt ",
-                         "\\cmd.exe /c \\manage-bde.exe -status D: >> File.txt ",
-                         "\\cmd.exe /c \\manage-bde.exe -status  >> File.txt ",
-                         "\\cmd.exe /c \\wbem\\WMIC.exe partition get diskindex >> DiskInfo.txt "}));
-    }
-
-    void endsWhereEncryptionToolFails()
-    {
-        outputs = {{"logicaldisk", sample("logicaldisk-empty-floppy")},
-                   {"-status A:", {}},
-                   {"partition", sample("partition-diskindex")}};
+        QString commands = fake->commands().join('\n').remove(tempFile({}));
+        QCOMPARE(commands.remove("C:\\Windows\\system32\\").remove("cmd.exe /c "),
+                 QStringLiteral(
+                     "wbem\\WMIC.exe logicaldisk get size,caption,freespace,filesystem >> DiskInfo.txt \n"
+                     "manage-bde.exe -status A: >> File.txt \nmanage-bde.exe -status C: >> File.txt \n"
+                     "manage-bde.exe -status D: >> File.txt \nmanage-bde.exe -status  >> File.txt \n"
+                     "wbem\\WMIC.exe partition get diskindex >> DiskInfo.txt "));
+        // The list ends at a volume whose state cannot be asked for.
+        outputs.remove("-status C:");
         LoadLogicalDisks();
         QCOMPARE(volumeRecords(), QStringList({"||0|0||0", "C:|NTFS|55366582272|135838822400||0"}));
-        QCOMPARE(fake->commands().size(), 3);
+        QCOMPARE(fake->commands().size(), 6 + 3);
     }
 
     void pairsByPosition()
     {
         const auto paired = [this](const char *partitions) {
-            outputs = {{"logicaldisk", "FileSystem\nC:  NTFS\nD:  NTFS\nE:  NTFS\n"},
+            outputs = {{"logicaldisk", "FileSystem\nC:  NTFS\nD:  NTFS  -1  -2\nE:  NTFS\n"},
                        {"manage-bde", {}},
                        {"partition get diskindex", partitions}};
             LoadLogicalDisks();
@@ -233,6 +205,7 @@ private slots:
             return disks;
         };
         QCOMPARE(paired("DiskIndex\n4\n"), QVector<int>({4, 0, 0}));
+        QCOMPARE(volumeRecords().at(1), QStringLiteral("D:|NTFS|0|0||0"));
         // A blank row counts as disk 0.
         QCOMPARE(paired("DiskIndex\n2\n\n1\n5\n"), QVector<int>({2, 0, 1}));
     }
@@ -245,10 +218,8 @@ private slots:
         };
         QCOMPARE(number("Name                   Size       Type                 \r\n"
                         "Disk #1, Partition #0  524288000  GPT: Basic Data\r\n"
-                        "Disk #0, Partition #0  104857600  GPT: System\r\n"
+                        "Disk #3, Partition #0  104857600  Installable File System\r\n"
                         "Disk #2, Partition #0  104857600  GPT: System\r\n"),
-                 QStringLiteral("0"));
-        QCOMPARE(number("Name  Size  Type\r\nDisk #3, Partition #0  1  Installable File System\r\n"),
                  QStringLiteral("3"));
         QCOMPARE(number(sample("partition-types-french")), QStringLiteral("Disque n\u00B0 0"));
         QVERIFY(!QFile::exists(tempFile(QStringLiteral("SMART1.txt"))));

@@ -69,15 +69,13 @@ private:
     template<typename... Args>
     void on(QScanDriveThread &thread, void (QScanDriveThread::*sign)(Args...), const char *name)
     {
-        const auto line = [name](Args... args) { return QStringList{name, text(args)...}.join(' '); };
-        QObject::connect(&thread, sign, &thread, [this, line](Args... args) { lines.append(line(args...)); });
-        QObject::connect(
-            &thread, sign, &thread,
-            [this, line, &thread](Args... args) {
-                if (m_hear && QThread::currentThread() == &thread)
-                    m_hear(line(args...));
-            },
-            Qt::DirectConnection);
+        const auto take = [this, name, &thread](Args... args) {
+            const QString line = QStringList{name, text(args)...}.join(' ');
+            if (m_hear && QThread::currentThread() == &thread)
+                m_hear(line);
+            QMetaObject::invokeMethod(&thread, [this, line] { lines.append(line); });
+        };
+        QObject::connect(&thread, sign, &thread, take, Qt::DirectConnection);
     }
 
     std::function<void(const QString &)> m_hear;

@@ -20,7 +20,6 @@ private slots:
     {
         QTest::addColumn<qint64>("readable");
         QTest::addColumn<QStringList>("options");
-        QTest::newRow("whole") << qint64(40000) << QStringList();
         QTest::newRow("cut in a chunk") << qint64(20000) << QStringList{"--direct-io=on"};
         QTest::newRow("none of it") << qint64(0) << QStringList();
         QTest::newRow("sectors of 4096 bytes") << qint64(20000) << QStringList{"--sector-size", "4096"};
@@ -47,7 +46,7 @@ private slots:
 
         // All chunks fail from the one with the cut on. Each lists its own sectors and the one behind it.
         QVector<qint64> expected;
-        for (qint64 first = readable / Chunk * Chunk; readable < Total && first < Total; first += Chunk) {
+        for (qint64 first = readable / Chunk * Chunk; first < Total; first += Chunk) {
             for (qint64 sector = std::max(first, readable); sector <= std::min(first + Chunk, Total);
                  ++sector)
                 expected.append(sector);

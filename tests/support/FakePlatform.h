@@ -50,19 +50,6 @@ public:
         Disk raw; ///< the volume's own bytes
     };
 
-    /// A call of CreateFileW.
-    struct Opening {
-        QString name;
-        quint32 access;
-        quint32 share;
-        quint32 disposition;
-        bool operator==(const Opening &other) const
-        {
-            return name == other.name && access == other.access && share == other.share &&
-                   disposition == other.disposition;
-        }
-    };
-
     /// Makes one, installs it, and returns it for the test to fill. Owned by Platform.
     static FakePlatform *install()
     {
@@ -91,34 +78,23 @@ public:
         const QMutexLocker lock(&m_mutex);
         return m_commands;
     }
-    QStringList openedNames;   ///< of CreateFileW
-    QVector<Opening> openings; ///< the same calls with all arguments
+    QStringList openings;      ///< "<name> <access> <share> <disposition>" of CreateFileW, the access in hex
     QStringList labelsAsked;   ///< roots given to GetVolumeInformationW
     QVector<bool> hiddenFlags; ///< of the commands
     QStringList executed;      ///< "<verb> <file> <parameters>" of ShellExecuteW, and pages opened
     int openHandles() const { return m_handles.size(); }
 
-    /// The file of this machine that a command line redirects to, up to the next blank; empty if there is
-    /// none.
-    static QString target(const QString &line)
-    {
-        const int mark = line.indexOf(QLatin1String(">> "));
-        if (mark < 0)
-            return QString();
-        return toNative(line.mid(mark + 3).section(QLatin1Char(' '), 0, 0));
-    }
-
-    /// Appends `output` to the file that the line redirects to, as the interpreter does.
+    /// Appends `output` to the file that the line redirects to, as the interpreter does: its name ends at a
+    /// blank.
     static bool answer(const QString &line, const QByteArray &output)
     {
-        QFile file(target(line));
+        QFile file(toNative(line.section(QStringLiteral(">> "), 1).section(QLatin1Char(' '), 0, 0)));
         return file.open(QIODevice::WriteOnly | QIODevice::Append) && file.write(output) == output.size();
     }
 
     RawHandle CreateFileW(const QString &name, quint32 access, quint32 share, quint32 disposition) override
     {
-        openedNames << name;
-        openings << Opening{name, access, share, disposition};
+        openings << QStringLiteral("%1 %2 %3 %4").arg(name).arg(access, 0, 16).arg(share).arg(disposition);
         const Disk *disk = find(name);
         if (!disk || !disk->opens)
             return InvalidHandle;
@@ -139,9 +115,9 @@ public:
         return transfer(handle, false, bytes, transferred, [buffer](Disk *disk, qint64 at, int length) {
             if (touches(disk->badSectors, at, length))
                 return false;
-            QByteArray piece = at < disk->bytes.size() ? disk->bytes.mid(int(at), length) : QByteArray();
-            piece.append(QByteArray(length - piece.size(), '\0'));
-            std::memcpy(buffer, piece.constData(), size_t(length));
+            const QByteArray piece =
+                at < disk->bytes.size() ? disk->bytes.mid(int(at), length) : QByteArray();
+            std::memcpy(buffer, piece.leftJustified(length, '\0').constData(), size_t(length));
             return true;
         });
     }
@@ -159,12 +135,10 @@ public:
     bool DeviceIoControl(RawHandle handle, quint32 code, const void *in, quint32 inSize, void *out,
                          quint32 outSize, quint32 *returned) override
     {
-        if (!m_handles.contains(handle))
-            return false;
-        const QString name = m_handles[handle].name;
         QByteArray reply;
         const QByteArray asked(static_cast<const char *>(in), int(inSize));
-        if (!answerControl(name, code, asked, &reply) || reply.size() > int(outSize))
+        if (!m_handles.contains(handle) || !answerControl(m_handles[handle].name, code, asked, &reply) ||
+            reply.size() > int(outSize))
             return false;
         std::memcpy(out, reply.constData(), size_t(reply.size()));
         if (returned)
@@ -196,10 +170,8 @@ public:
     {
         labelsAsked << root;
         const Volume volume = volumes.value(root.at(0));
-        if (label)
-            *label = volume.label;
-        if (fileSystem)
-            *fileSystem = volume.fileSystem;
+        *label = volume.label;
+        *fileSystem = volume.fileSystem;
         return !volume.fileSystem.isEmpty();
     }
     quint32 GetDriveTypeW(const QString &root) override
@@ -227,8 +199,7 @@ public:
     bool ShellExecuteW(const QString &file, const QString &parameters, const QString &verb,
                        Show window) override
     {
-        executed << verb + QLatin1Char(' ') + file + QLatin1Char(' ') + parameters +
-                        (window == Show::Maximised ? QStringLiteral(" maximised") : QString());
+        executed << verb + ' ' + file + ' ' + parameters + (window == Show::Maximised ? " maximised" : "");
         return true;
     }
     bool OpenUrl(const QUrl &url) override
@@ -282,10 +253,8 @@ public:
     /// An INI file: after it was written, numbers are read as texts.
     std::unique_ptr<QSettings> OpenSettings(const QString &registryPath) override
     {
-        QString name = registryPath;
-        name.replace(QLatin1Char('\\'), QLatin1Char('_'));
-        return std::make_unique<QSettings>(m_folder.filePath(QStringLiteral("settings") + name),
-                                           QSettings::IniFormat);
+        const QString name = QString(registryPath).replace(QLatin1Char('\\'), QLatin1Char('_'));
+        return std::make_unique<QSettings>(m_folder.filePath("settings" + name), QSettings::IniFormat);
     }
 
 private:
@@ -308,12 +277,10 @@ private:
     Disk *find(const QString &name)
     {
         const QString disk = QStringLiteral("\\\\.\\PHYSICALDRIVE");
-        if (name.startsWith(disk)) {
-            const auto it = disks.find(name.mid(disk.size()).toInt());
-            return it == disks.end() ? nullptr : &*it;
-        }
-        const auto it = name.size() == 6 ? volumes.find(name.at(4)) : volumes.end();
-        return it == volumes.end() ? nullptr : &it->raw;
+        const int number = name.startsWith(disk) ? name.mid(disk.size()).toInt() : -1;
+        if (disks.contains(number))
+            return &disks[number];
+        return name.size() == 6 && volumes.contains(name.at(4)) ? &volumes[name.at(4)].raw : nullptr;
     }
 
     template<typename Copy>
@@ -352,21 +319,15 @@ private:
             *reply = QByteArray::fromStdString(io::storageDescriptor(disk->serial.toStdString()));
             return !disk->serial.isEmpty();
         case io::VolumeGetVolumeDiskExtents:
-            return answerExtents(name, reply);
+            if (name.size() != 6 || volumes[name.at(4)].extents.isEmpty())
+                return false;
+            *reply = raw(quint64(volumes[name.at(4)].extents.size()));
+            for (const io::DiskExtent &extent : qAsConst(volumes[name.at(4)].extents))
+                reply->append(raw(extent));
+            return true;
         default:
             return disk->smart && disk->smart(code, in, reply);
         }
-    }
-
-    bool answerExtents(const QString &name, QByteArray *reply) const
-    {
-        const QVector<io::DiskExtent> extents = volumes.value(name.at(4)).extents;
-        if (name.size() != 6 || extents.isEmpty())
-            return false;
-        *reply = raw(quint64(extents.size()));
-        for (const io::DiskExtent &extent : extents)
-            reply->append(raw(extent));
-        return true;
     }
 
     template<typename Record>
