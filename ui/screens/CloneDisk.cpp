@@ -21,31 +21,32 @@ namespace
 constexpr int GaugeSide = 210;
 constexpr double GaugeStart = -135; ///< degrees, at the lower left
 
+using Form = Ui::m_pCloneDiskwgt;
+
 /// Which label shows which text of a disk.
 struct DetailRow {
-    DetailLabel *Ui_m_pCloneDiskwgt::*source;
-    DetailLabel *Ui_m_pCloneDiskwgt::*target;
+    DetailLabel *Form::*source;
+    DetailLabel *Form::*target;
     QString clonetexts::Details::*text;
 };
 
 const DetailRow detailRows[] = {
-    {&Ui_m_pCloneDiskwgt::DisknLbl, &Ui_m_pCloneDiskwgt::TargetDiskNoLbl, &clonetexts::Details::diskNumber},
-    {&Ui_m_pCloneDiskwgt::ModelNLbl, &Ui_m_pCloneDiskwgt::TargetModelLbl, &clonetexts::Details::model},
-    {&Ui_m_pCloneDiskwgt::CapacityLbl, &Ui_m_pCloneDiskwgt::TargetCpaLbl, &clonetexts::Details::capacity},
-    {&Ui_m_pCloneDiskwgt::SerialNuLabel, &Ui_m_pCloneDiskwgt::TargetSLbl, &clonetexts::Details::serial},
-    {&Ui_m_pCloneDiskwgt::FirmWareLbl, &Ui_m_pCloneDiskwgt::TargetFrmLbl, &clonetexts::Details::firmware},
-    {&Ui_m_pCloneDiskwgt::InterfaceLBL, &Ui_m_pCloneDiskwgt::TargetInterfaceLbl,
-     &clonetexts::Details::interfaceType},
-    {&Ui_m_pCloneDiskwgt::SectorLbl, &Ui_m_pCloneDiskwgt::TargetSectorLBl, &clonetexts::Details::sectors},
+    {&Form::DisknLbl, &Form::TargetDiskNoLbl, &clonetexts::Details::diskNumber},
+    {&Form::ModelNLbl, &Form::TargetModelLbl, &clonetexts::Details::model},
+    {&Form::CapacityLbl, &Form::TargetCpaLbl, &clonetexts::Details::capacity},
+    {&Form::SerialNuLabel, &Form::TargetSLbl, &clonetexts::Details::serial},
+    {&Form::FirmWareLbl, &Form::TargetFrmLbl, &clonetexts::Details::firmware},
+    {&Form::InterfaceLBL, &Form::TargetInterfaceLbl, &clonetexts::Details::interfaceType},
+    {&Form::SectorLbl, &Form::TargetSectorLBl, &clonetexts::Details::sectors},
 };
 
 } // namespace
 
 CloneDisk::CloneDisk(QWidget *parent) : Page(parent)
 {
-    setupUi(this);
+    m_ui.setupUi(this);
     pagelook::makePage(this);
-    m_pRoundProgressBar = pagelook::named(new QRoundProgressBar(ProgressLabel), "m_pRoundProgressBar");
+    m_pRoundProgressBar = pagelook::named(new QRoundProgressBar(m_ui.ProgressLabel), "m_pRoundProgressBar");
     m_pRoundProgressBar->setGeometry(0, 0, GaugeSide, GaugeSide);
     style::scaleWidget(m_pRoundProgressBar);
     style::setWhiteBackground(m_pRoundProgressBar);
@@ -54,13 +55,13 @@ CloneDisk::CloneDisk(QWidget *parent) : Page(parent)
     m_pMessageBox = pagelook::named(new InfoDialogClass(window()), "m_pMessageBox");
     stylePage();
     RefreshSourceDetails(nullptr);
-    connect(SourceComboBox, QOverload<int>::of(&QComboBox::activated), this,
+    connect(m_ui.SourceComboBox, QOverload<int>::of(&QComboBox::activated), this,
             &CloneDisk::OnActivatedSourceComboBox);
-    connect(SourceComboBox, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+    connect(m_ui.SourceComboBox, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
             &CloneDisk::OnActivatedSourceComboBox);
-    connect(DestinationComboBox, QOverload<int>::of(&QComboBox::activated), this,
+    connect(m_ui.DestinationComboBox, QOverload<int>::of(&QComboBox::activated), this,
             &CloneDisk::OnActivatedDestinationComboBox);
-    connect(DestinationComboBox, QOverload<int>::of(&QComboBox::activated), this,
+    connect(m_ui.DestinationComboBox, QOverload<int>::of(&QComboBox::activated), this,
             &CloneDisk::DestinationActivated);
     connect(m_pMessageBox, &MessageDialog::dismissed, this, &CloneDisk::OnOk);
     connect(m_pMessageBox, &MessageDialog::confirmed, this, &CloneDisk::OnSaveLostSectors);
@@ -72,38 +73,38 @@ CloneDisk::CloneDisk(QWidget *parent) : Page(parent)
 
 void CloneDisk::stylePage()
 {
-    pagelook::styleHeadings({DiskDetailLbl});
-    pagelook::styleNames({SourceDisk, TargetDiskLbl, TimeLabel2});
-    pagelook::styleValues({TimeLabel});
+    pagelook::styleHeadings({m_ui.DiskDetailLbl});
+    pagelook::styleNames({m_ui.SourceDisk, m_ui.TargetDiskLbl, m_ui.TimeLabel2});
+    pagelook::styleValues({m_ui.TimeLabel});
     for (const DetailRow &row : detailRows)
-        pagelook::styleValues({this->*row.source, this->*row.target});
-    pagelook::styleCard(SourceFrame);
-    pagelook::styleCard(DesitanionFrame);
-    for (QComboBox *combo : {SourceComboBox, DestinationComboBox}) {
+        pagelook::styleValues({m_ui.*row.source, m_ui.*row.target});
+    pagelook::styleCard(m_ui.SourceFrame);
+    pagelook::styleCard(m_ui.DesitanionFrame);
+    for (QComboBox *combo : {m_ui.SourceComboBox, m_ui.DestinationComboBox}) {
         combo->setFont(style::font(10));
         // A long name must not widen the combo, which has the width of its card.
         combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     }
-    pagelook::alignNames({SourceDisk, TargetDiskLbl});
-    SourceComboBox->setAccessibleName(SourceDisk->text());
-    DestinationComboBox->setAccessibleName(TargetDiskLbl->text());
+    pagelook::alignNames({m_ui.SourceDisk, m_ui.TargetDiskLbl});
+    m_ui.SourceComboBox->setAccessibleName(m_ui.SourceDisk->text());
+    m_ui.DestinationComboBox->setAccessibleName(m_ui.TargetDiskLbl->text());
 }
 
 void CloneDisk::FillSources(const std::vector<drivetexts::Entry> &disks)
 {
-    const QSignalBlocker block(SourceComboBox);
-    SourceComboBox->clear();
+    const QSignalBlocker block(m_ui.SourceComboBox);
+    m_ui.SourceComboBox->clear();
     clearDestinations();
     m_nDestinationDrive = -1;
     g_App.m_pCloneDisk = nullptr;
     for (const drivetexts::Entry &entry : disks)
-        SourceComboBox->addItem(entry.texts.source, static_cast<int>(entry.node->nId));
+        m_ui.SourceComboBox->addItem(entry.texts.source, static_cast<int>(entry.node->nId));
 }
 
 CloneDisk::Pair CloneDisk::ChosenPair() const
 {
-    return {{SourceComboBox->currentData().toInt(), SourceComboBox->currentText()},
-            {DestinationComboBox->currentData().toInt(), DestinationComboBox->currentText()}};
+    return {{m_ui.SourceComboBox->currentData().toInt(), m_ui.SourceComboBox->currentText()},
+            {m_ui.DestinationComboBox->currentData().toInt(), m_ui.DestinationComboBox->currentText()}};
 }
 
 void CloneDisk::RefreshSourceDetails(const DiskNode *pNode)
@@ -113,51 +114,51 @@ void CloneDisk::RefreshSourceDetails(const DiskNode *pNode)
     const clonetexts::Details texts =
         pNode ? clonetexts::details(*pNode, findWmicDisk(pNode->nId)) : captions;
     for (const DetailRow &row : detailRows) {
-        (this->*row.source)->setText(texts.*row.text);
-        (this->*row.target)->setText(captions.*row.text);
+        (m_ui.*row.source)->setText(texts.*row.text);
+        (m_ui.*row.target)->setText(captions.*row.text);
     }
     ShowTargetDetails(false);
-    DetailLabel::align({DisknLbl, ModelNLbl, CapacityLbl, SerialNuLabel, TargetDiskNoLbl, TargetModelLbl,
-                        TargetCpaLbl, TargetSLbl});
-    DetailLabel::align(
-        {FirmWareLbl, InterfaceLBL, SectorLbl, TargetFrmLbl, TargetInterfaceLbl, TargetSectorLBl});
+    DetailLabel::align({m_ui.DisknLbl, m_ui.ModelNLbl, m_ui.CapacityLbl, m_ui.SerialNuLabel,
+                        m_ui.TargetDiskNoLbl, m_ui.TargetModelLbl, m_ui.TargetCpaLbl, m_ui.TargetSLbl});
+    DetailLabel::align({m_ui.FirmWareLbl, m_ui.InterfaceLBL, m_ui.SectorLbl, m_ui.TargetFrmLbl,
+                        m_ui.TargetInterfaceLbl, m_ui.TargetSectorLBl});
     clearDestinations();
     if (g_bListsLoading)
         return;
     for (const clonetexts::Destination &disk :
          clonetexts::destinations(g_App.m_diskList, pNode ? pNode->nId : 0))
-        DestinationComboBox->addItem(disk.text, disk.diskId);
+        m_ui.DestinationComboBox->addItem(disk.text, disk.diskId);
 }
 
 void CloneDisk::ShowTargetDetails(bool bShow)
 {
     for (const DetailRow &row : detailRows)
-        (this->*row.target)->setVisible(bShow);
+        (m_ui.*row.target)->setVisible(bShow);
 }
 
 void CloneDisk::clearDestinations()
 {
     g_strSelectDestination = tr("Select Destination");
-    DestinationComboBox->clear();
-    DestinationComboBox->addItem(g_strSelectDestination);
+    m_ui.DestinationComboBox->clear();
+    m_ui.DestinationComboBox->addItem(g_strSelectDestination);
     // With a size of 0 this entry does not show in the drop-down.
-    DestinationComboBox->setItemData(0, QSize(0, 0), Qt::SizeHintRole);
+    m_ui.DestinationComboBox->setItemData(0, QSize(0, 0), Qt::SizeHintRole);
     m_nDestinationIndex = 0;
 }
 
 void CloneDisk::OnActivatedSourceComboBox(int index)
 {
-    if (SourceComboBox->count() == 0)
+    if (m_ui.SourceComboBox->count() == 0)
         return;
     emit ComboboxIndexChange(index);
-    g_App.m_pCurrentDisk = findPhysicalDisk(SourceComboBox->itemData(index).toInt());
+    g_App.m_pCurrentDisk = findPhysicalDisk(m_ui.SourceComboBox->itemData(index).toInt());
     RefreshSourceDetails(g_App.m_pCurrentDisk);
 }
 
 void CloneDisk::OnActivatedDestinationComboBox(int index)
 {
     m_nDestinationIndex = index;
-    m_nDestinationDrive = DestinationComboBox->itemData(index).toInt() - PhysicalDriveBase;
+    m_nDestinationDrive = m_ui.DestinationComboBox->itemData(index).toInt() - PhysicalDriveBase;
     if (index == 0)
         return;
     g_App.m_pCloneDisk = findPhysicalDisk(m_nDestinationDrive + PhysicalDriveBase);
@@ -168,22 +169,22 @@ void CloneDisk::OnActivatedDestinationComboBox(int index)
     const clonetexts::Details texts =
         clonetexts::details(*g_App.m_pCloneDisk, findWmicDisk(g_App.m_pCloneDisk->nId));
     for (const DetailRow &row : detailRows)
-        (this->*row.target)->setText(texts.*row.text);
+        (m_ui.*row.target)->setText(texts.*row.text);
     ShowTargetDetails(true);
 }
 
 /// The gauge and the remaining time, or the choice of the two disks.
 void CloneDisk::showRunning(bool bRunning)
 {
-    for (QWidget *choice :
-         std::initializer_list<QWidget *>{DiskDetailLbl, ExtraLbl, SourceFrame, DesitanionFrame, SourceDisk,
-                                          TargetDiskLbl, SourceComboBox, DestinationComboBox})
+    for (QWidget *choice : std::initializer_list<QWidget *>{
+             m_ui.DiskDetailLbl, m_ui.ExtraLbl, m_ui.SourceFrame, m_ui.DesitanionFrame, m_ui.SourceDisk,
+             m_ui.TargetDiskLbl, m_ui.SourceComboBox, m_ui.DestinationComboBox})
         choice->setVisible(!bRunning);
     for (const DetailRow &row : detailRows)
-        (this->*row.source)->setVisible(!bRunning);
+        (m_ui.*row.source)->setVisible(!bRunning);
     ShowTargetDetails(!bRunning);
-    for (QWidget *progress :
-         std::initializer_list<QWidget *>{ProgressLabel, TimeLabel, TimeLabel2, TimeSpaceLbl, TimeSpaceLbl_2})
+    for (QWidget *progress : std::initializer_list<QWidget *>{
+             m_ui.ProgressLabel, m_ui.TimeLabel, m_ui.TimeLabel2, m_ui.TimeSpaceLbl, m_ui.TimeSpaceLbl_2})
         progress->setVisible(bRunning);
 }
 
@@ -192,7 +193,7 @@ void CloneDisk::StartClone()
     g_Jobs.begin(JobState::Job::Clone);
     m_pMessageBox->hide();
     m_strLastMinutes.clear();
-    TimeLabel->clear();
+    m_ui.TimeLabel->clear();
     showRunning(true);
     m_pRoundProgressBar->SetMinimum(0.0);
     m_pRoundProgressBar->SetMaximum(100.0);
@@ -246,9 +247,9 @@ void CloneDisk::OnDriveCloneFinish()
     g_Jobs.end(JobState::Job::Clone);
     const CloneOutcome &outcome = m_cloneThread.outcome();
     if (outcome.end == CloneOutcome::End::Complete || outcome.end == CloneOutcome::End::WithErrors) {
-        TimeLabel->clear();
+        m_ui.TimeLabel->clear();
         m_pRoundProgressBar->SetValue(100);
-        ProgressLabel->repaint();
+        m_ui.ProgressLabel->repaint();
     }
     if (outcome.fault != CloneFault::None)
         g_bListsStale = true;
@@ -260,7 +261,7 @@ void CloneDisk::OnDriveCloneFinish()
 void CloneDisk::OnOk()
 {
     m_pMessageBox->hide();
-    TimeLabel->clear();
+    m_ui.TimeLabel->clear();
     if (!g_Jobs.mayQuit())
         return;
     showRunning(false);
@@ -269,7 +270,7 @@ void CloneDisk::OnOk()
 
 void CloneDisk::retranslate()
 {
-    retranslateUi(this);
-    RefreshSourceDetails(findPhysicalDisk(SourceComboBox->currentData().toInt()));
+    m_ui.retranslateUi(this);
+    RefreshSourceDetails(findPhysicalDisk(m_ui.SourceComboBox->currentData().toInt()));
     stylePage();
 }

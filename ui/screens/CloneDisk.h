@@ -21,7 +21,7 @@ class QRoundProgressBar;
 
 /// The Clone Disk screen: the choice of a source and a destination with the details of both, and the clone
 /// itself with its gauge, its remaining time and the box that tells how it ended. Main thread only.
-class CloneDisk : public Page, private Ui::m_pCloneDiskwgt
+class CloneDisk : public Page
 {
     Q_OBJECT
 
@@ -32,9 +32,9 @@ public:
     /// belong to other disks now. Nothing is told of it.
     void FillSources(const std::vector<drivetexts::Entry> &disks);
     /// Chooses a row of that combo.
-    void ChooseSource(int index) { SourceComboBox->setCurrentIndex(index); }
-    int SourceIndex() const { return SourceComboBox->currentIndex(); }
-    QString SourceText(int index) const { return SourceComboBox->itemText(index); }
+    void ChooseSource(int index) { m_ui.SourceComboBox->setCurrentIndex(index); }
+    int SourceIndex() const { return m_ui.SourceComboBox->currentIndex(); }
+    QString SourceText(int index) const { return m_ui.SourceComboBox->itemText(index); }
     /// Shows the details of the source, hides those of the target and rebuilds the list of destinations; the
     /// choice of a destination goes back to none. Null: no source, and any physical disk is a destination.
     void RefreshSourceDetails(const DiskNode *pNode);
@@ -73,7 +73,7 @@ public slots:
     void OnCloningFailed();
     void OnCloningAbort();
     void OnOk();
-    void OnUpdateTime() { TimeLabel->setText(m_strLastMinutes); }
+    void OnUpdateTime() { m_ui.TimeLabel->setText(m_strLastMinutes); }
     void OnSaveLostSectors();
 
 protected:
@@ -84,6 +84,7 @@ private:
     void clearDestinations();
     void showRunning(bool bRunning);
 
+    Ui::m_pCloneDiskwgt m_ui;
     int m_nDestinationIndex = 0;  ///< row in DestinationComboBox, 0: none chosen
     int m_nDestinationDrive = -1; ///< physical number of the disk chosen last, negative: none
     quint64 m_nSourceSectors = 0; ///< sectors of 512 bytes

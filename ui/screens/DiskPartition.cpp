@@ -72,12 +72,12 @@ void addLabel(QGridLayout *grid, const LabelLook &look, const QString &text, QFr
 
 DiskPartition::DiskPartition(QWidget *parent) : Page(parent)
 {
-    setupUi(this);
+    m_ui.setupUi(this);
     pagelook::makePage(this);
-    pagelook::styleHeadings({DiskPartitionLbl, TreeStringLbl});
-    pagelook::styleNames({SerialNumberLbl, CapacityLbl, InterfaceLbl});
-    pagelook::styleValues({SerialNunValueLbl, CapcityValLbl, InterfaceValLbl});
-    DetailGrid->setColumnMinimumWidth(0, style::px(115));
+    pagelook::styleHeadings({m_ui.DiskPartitionLbl, m_ui.TreeStringLbl});
+    pagelook::styleNames({m_ui.SerialNumberLbl, m_ui.CapacityLbl, m_ui.InterfaceLbl});
+    pagelook::styleValues({m_ui.SerialNunValueLbl, m_ui.CapcityValLbl, m_ui.InterfaceValLbl});
+    m_ui.DetailGrid->setColumnMinimumWidth(0, style::px(115));
     makeDonut();
     makeScrollArea();
     FillPartitionHeader();
@@ -110,9 +110,9 @@ void DiskPartition::makeDonut()
     m_pDonutView->setMinimumSize(style::px(MinimumDonutWidth), style::px(MinimumDonutHeight));
     m_pDonutView->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     m_pDonutView->lower();
-    HeaderRow->insertWidget(0, m_pDonutView);
-    HeaderRow->insertSpacing(1, -style::px(Overlap));
-    HeaderRow->addStrut(style::px(HeaderHeight));
+    m_ui.HeaderRow->insertWidget(0, m_pDonutView);
+    m_ui.HeaderRow->insertSpacing(1, -style::px(Overlap));
+    m_ui.HeaderRow->addStrut(style::px(HeaderHeight));
 }
 
 void DiskPartition::makeScrollArea()
@@ -139,25 +139,26 @@ void DiskPartition::makeScrollArea()
     stretch->setSizePolicy(policy);
     column->addWidget(stretch, 1);
     m_pScrollArea->setWidget(m_pFrameHost);
-    PageColumn->addWidget(m_pScrollArea);
+    m_ui.PageColumn->addWidget(m_pScrollArea);
 }
 
 void DiskPartition::FillPartitionHeader()
 {
-    m_pScrollArea->setAccessibleName(TreeStringLbl->text());
-    m_pDonutView->setAccessibleName(DiskPartitionLbl->text());
-    for (QLabel *value : {SerialNunValueLbl, CapcityValLbl, InterfaceValLbl})
+    m_pScrollArea->setAccessibleName(m_ui.TreeStringLbl->text());
+    m_pDonutView->setAccessibleName(m_ui.DiskPartitionLbl->text());
+    for (QLabel *value : {m_ui.SerialNunValueLbl, m_ui.CapcityValLbl, m_ui.InterfaceValLbl})
         value->clear();
     const DiskNode *node = findPhysicalDisk(PhysicalDriveBase + g_nCurrentDiskIndex);
     if (!node)
         return;
-    CapcityValLbl->setText(node->szSize.text());
+    m_ui.CapcityValLbl->setText(node->szSize.text());
     const WmicDiskRecord *record = findWmicDisk(node->nId);
     if (!record)
         return;
-    SerialNunValueLbl->setText(record->szSmartSerial.isEmpty() ? record->szModel.text()
-                                                               : record->szSmartSerial.text());
-    InterfaceValLbl->setText(record->szInterface.isEmpty() ? tr("ATA Disk") : record->szInterface.text());
+    m_ui.SerialNunValueLbl->setText(record->szSmartSerial.isEmpty() ? record->szModel.text()
+                                                                    : record->szSmartSerial.text());
+    m_ui.InterfaceValLbl->setText(record->szInterface.isEmpty() ? tr("ATA Disk")
+                                                                : record->szInterface.text());
 }
 
 void DiskPartition::ShowSizes(const QList<qint64> &sizes)
@@ -272,6 +273,6 @@ void DiskPartition::ShowVolumes(const QString &mark)
 
 void DiskPartition::retranslate()
 {
-    retranslateUi(this);
+    m_ui.retranslateUi(this);
     FillPartitionHeader();
 }

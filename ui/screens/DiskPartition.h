@@ -13,7 +13,7 @@ class QVBoxLayout;
 
 /// The Disk Partition screen: the ring of the selected disk's volumes, its serial number and capacity above;
 /// below a frame for each volume. Main thread only.
-class DiskPartition : public Page, private Ui::m_pDiskPartitionWgt
+class DiskPartition : public Page
 {
     Q_OBJECT
 
@@ -43,6 +43,7 @@ private:
     void addFrames(const QString &letter, const QString &mark);
     QFrame *addFrame(const QStringList &texts);
 
+    Ui::m_pDiskPartitionWgt m_ui;
     DonutSeries *m_pDonutSeries; ///< owned
     DonutLegend *m_pDonutLegend; ///< owned
     DonutChartView *m_pDonutView;

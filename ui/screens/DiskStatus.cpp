@@ -32,13 +32,14 @@ void setIfAny(QLabel *label, const std::optional<QString> &text)
 DiskStatus::DiskStatus(QWidget *parent) : Page(parent)
 {
     using pagelook::named;
-    setupUi(this);
-    healthTitleLbl = named(new QLabel(HelthLable), "healthTitleLbl");
-    healthValueLbl = named(new FittingLabel(style::px(TileRoom), HelthLable), "healthValueLbl");
-    performanceTitleLbl = named(new QLabel(PerformanceLbl), "performanceTitleLbl");
-    performanceValueLbl = named(new FittingLabel(style::px(TileRoom), PerformanceLbl), "performanceValueLbl");
-    tempValueLbl = named(new FittingLabel(style::px(TileRoom), tempratureLbl), "tempValueLbl");
-    tempTitleLbl = named(new QLabel(tempratureLbl), "tempTitleLbl");
+    m_ui.setupUi(this);
+    healthTitleLbl = named(new QLabel(m_ui.HelthLable), "healthTitleLbl");
+    healthValueLbl = named(new FittingLabel(style::px(TileRoom), m_ui.HelthLable), "healthValueLbl");
+    performanceTitleLbl = named(new QLabel(m_ui.PerformanceLbl), "performanceTitleLbl");
+    performanceValueLbl =
+        named(new FittingLabel(style::px(TileRoom), m_ui.PerformanceLbl), "performanceValueLbl");
+    tempValueLbl = named(new FittingLabel(style::px(TileRoom), m_ui.tempratureLbl), "tempValueLbl");
+    tempTitleLbl = named(new QLabel(m_ui.tempratureLbl), "tempTitleLbl");
 
     style::setWhiteBackground(this);
     styleTexts();
@@ -50,22 +51,22 @@ DiskStatus::DiskStatus(QWidget *parent) : Page(parent)
     for (QLabel *label : hidden)
         label->hide();
     clearDisk();
-    DisknumberValLbl->setText(QStringLiteral("0"));
+    m_ui.DisknumberValLbl->setText(QStringLiteral("0"));
 }
 
 std::array<DiskStatus::DetailRow, 5> DiskStatus::details() const
 {
-    return {{{DisknumberLbl, DisknumberValLbl, InterFaceLbl, InterFaceValLbl}, // hidden
-             {ModelNumberLbl, ModelNumValLbl, Seriallbl, SerialValLbl},
-             {FrimvareVersionLbl, FrimvareVersValLbl, SectorLbl, SectorValLbl},
-             {DiskLifeString, DiskLifeValue, PowerOnTimeString, PowerOnTimeValue},
-             {StartStopString, StartStopValue, DriveVerdictString, DriveVerdictValue}}};
+    return {{{m_ui.DisknumberLbl, m_ui.DisknumberValLbl, m_ui.InterFaceLbl, m_ui.InterFaceValLbl}, // hidden
+             {m_ui.ModelNumberLbl, m_ui.ModelNumValLbl, m_ui.Seriallbl, m_ui.SerialValLbl},
+             {m_ui.FrimvareVersionLbl, m_ui.FrimvareVersValLbl, m_ui.SectorLbl, m_ui.SectorValLbl},
+             {m_ui.DiskLifeString, m_ui.DiskLifeValue, m_ui.PowerOnTimeString, m_ui.PowerOnTimeValue},
+             {m_ui.StartStopString, m_ui.StartStopValue, m_ui.DriveVerdictString, m_ui.DriveVerdictValue}}};
 }
 
 void DiskStatus::styleTexts()
 {
     const QString black = QStringLiteral("QLabel {color : black;}");
-    pagelook::styleHeadings({detailedLbl});
+    pagelook::styleHeadings({m_ui.detailedLbl});
     for (const DetailRow &row : details()) {
         pagelook::styleNames({row[0], row[2]});
         pagelook::styleLabels({row[1], row[3]}, style::font(10), style::GreyLabel);
@@ -84,9 +85,9 @@ void DiskStatus::layOutTiles()
         int valueHeight;
     };
     const Parts tiles[] = {
-        {tempratureLbl, tempTitleLbl, tempValueLbl, 0, 0},
-        {PerformanceLbl, performanceTitleLbl, performanceValueLbl, 22, 28},
-        {HelthLable, healthTitleLbl, healthValueLbl, 20, 28},
+        {m_ui.tempratureLbl, tempTitleLbl, tempValueLbl, 0, 0},
+        {m_ui.PerformanceLbl, performanceTitleLbl, performanceValueLbl, 22, 28},
+        {m_ui.HelthLable, healthTitleLbl, healthValueLbl, 20, 28},
     };
     for (const Parts &entry : tiles) {
         auto *column = new QVBoxLayout(entry.tile);
@@ -140,7 +141,7 @@ void DiskStatus::layOutPage()
 {
     auto *tileRow = new QHBoxLayout;
     tileRow->setSpacing(style::px(30));
-    for (QLabel *tile : {tempratureLbl, PerformanceLbl, HelthLable})
+    for (QLabel *tile : {m_ui.tempratureLbl, m_ui.PerformanceLbl, m_ui.HelthLable})
         tileRow->addWidget(tile);
 
     auto *upperSpacer = new QLabel(this);
@@ -159,7 +160,7 @@ void DiskStatus::layOutPage()
     page->addLayout(tileRow);
     page->addWidget(upperSpacer);
     page->addStretch(1);
-    page->addWidget(detailedLbl);
+    page->addWidget(m_ui.detailedLbl);
     page->addSpacing(style::px(6));
     page->addWidget(headingLine);
     page->addSpacing(style::px(9));
@@ -174,9 +175,9 @@ void DiskStatus::ApplyLanguageMetrics()
     const std::array<std::array<int, 4>, 2> lowerWidths = {
         {{metrics.lifeName, metrics.lifeValue, metrics.powerOnName, metrics.powerOnValue},
          {metrics.startStopName, metrics.startStopValue, metrics.verdictName, metrics.verdictValue}}};
-    for (QLabel *tile : {tempratureLbl, PerformanceLbl, HelthLable})
+    for (QLabel *tile : {m_ui.tempratureLbl, m_ui.PerformanceLbl, m_ui.HelthLable})
         tile->setFixedSize(style::px(218), style::px(96));
-    detailedLbl->setFixedHeight(style::px(32));
+    m_ui.detailedLbl->setFixedHeight(style::px(32));
     const auto rows = details();
     for (std::size_t row = 0; row < rows.size(); ++row) {
         for (std::size_t column = 0; column < rows[row].size(); ++column) {
@@ -209,30 +210,30 @@ LifeKind DiskStatus::lifeKindOf(const DiskNode *node)
 
 void DiskStatus::showDetails(const DiskIdentityTexts &identity, const QString &separator)
 {
-    DisknumberValLbl->setText(identity.diskNumber);
-    setIfAny(ModelNumValLbl, identity.model);
-    setIfAny(SerialValLbl, identity.serial);
-    setIfAny(FrimvareVersValLbl, identity.firmware);
-    setIfAny(InterFaceValLbl, identity.interfaceText);
-    setIfAny(SectorValLbl, identity.sectors);
+    m_ui.DisknumberValLbl->setText(identity.diskNumber);
+    setIfAny(m_ui.ModelNumValLbl, identity.model);
+    setIfAny(m_ui.SerialValLbl, identity.serial);
+    setIfAny(m_ui.FrimvareVersValLbl, identity.firmware);
+    setIfAny(m_ui.InterFaceValLbl, identity.interfaceText);
+    setIfAny(m_ui.SectorValLbl, identity.sectors);
 
     const DiskNode *node = findPhysicalDisk(PhysicalDriveBase + g_nCurrentDiskIndex);
     const LifeTexts life = lifeTexts(lifeKindOf(node), g_lifeFigures, separator);
-    DiskLifeValue->setText(life.life);
-    PowerOnTimeValue->setText(life.powerOn);
-    StartStopValue->setText(life.startStop);
+    m_ui.DiskLifeValue->setText(life.life);
+    m_ui.PowerOnTimeValue->setText(life.powerOn);
+    m_ui.StartStopValue->setText(life.startStop);
 
     const bool failed = g_driveVerdict == DriveVerdict::Failed;
-    DriveVerdictValue->setText(failed                                   ? tr("Failed: back up your data")
-                               : g_driveVerdict == DriveVerdict::Passed ? tr("Passed")
-                                                                        : tr("Not told"));
-    DriveVerdictValue->setStyleSheet(failed ? style::FailedLabel : style::GreyLabel);
+    m_ui.DriveVerdictValue->setText(failed                                   ? tr("Failed: back up your data")
+                                    : g_driveVerdict == DriveVerdict::Passed ? tr("Passed")
+                                                                             : tr("Not told"));
+    m_ui.DriveVerdictValue->setStyleSheet(failed ? style::FailedLabel : style::GreyLabel);
 }
 
 void DiskStatus::showModelAndSerial(const QString &model, const QString &serial)
 {
-    ModelNumValLbl->setText(model);
-    SerialValLbl->setText(serial);
+    m_ui.ModelNumValLbl->setText(model);
+    m_ui.SerialValLbl->setText(serial);
 }
 
 void DiskStatus::clearDisk()
@@ -251,9 +252,9 @@ void DiskStatus::showPicture(Tile tile, TilePicture picture)
         QLabel *label;
         std::array<const char *, 4> files; ///< good, average, bad, unknown
     } tiles[] = {
-        {tempratureLbl, {"img_temprature.png", "img_temAverage.png", "img_HighTemp96.png"}},
-        {PerformanceLbl, {"img_Performance.png", "img_PerformanceAve.png", "img_PerformanceHigh.png"}},
-        {HelthLable,
+        {m_ui.tempratureLbl, {"img_temprature.png", "img_temAverage.png", "img_HighTemp96.png"}},
+        {m_ui.PerformanceLbl, {"img_Performance.png", "img_PerformanceAve.png", "img_PerformanceHigh.png"}},
+        {m_ui.HelthLable,
          {"img_Health.png", "img_HealthAverage.png", "img_HealthHigh.png", "img_HealthUnknown.png"}},
     };
     if (picture != TilePicture::Same)
@@ -263,7 +264,7 @@ void DiskStatus::showPicture(Tile tile, TilePicture picture)
 
 void DiskStatus::retranslate()
 {
-    retranslateUi(this);
+    m_ui.retranslateUi(this);
     setTileTitles();
     ApplyLanguageMetrics();
     if (g_bReportPending)

@@ -15,7 +15,7 @@ struct DiskNode;
 
 /// The first screen: three tiles with temperature, performance and health of the selected disk and a block of
 /// details.
-class DiskStatus : public Page, private Ui::m_pDiskStatus
+class DiskStatus : public Page
 {
     Q_OBJECT
 
@@ -50,6 +50,7 @@ private:
     QGridLayout *makeDetailsGrid();
     void setTileTitles();
 
+    Ui::m_pDiskStatus m_ui;
     QLabel *healthTitleLbl;
     QLabel *healthValueLbl;
     QLabel *performanceTitleLbl;

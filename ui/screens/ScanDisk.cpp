@@ -43,14 +43,14 @@ qint64 sectorsOf(const DiskNode *node)
 
 ScanDisk::ScanDisk(QWidget *parent) : Page(parent)
 {
-    setupUi(this);
+    m_ui.setupUi(this);
     pagelook::makePage(this);
-    m_pSelfTestPanel = new SelfTestPanel(frame_3);
-    auto *testColumn = new QVBoxLayout(frame_3);
+    m_pSelfTestPanel = new SelfTestPanel(m_ui.frame_3);
+    auto *testColumn = new QVBoxLayout(m_ui.frame_3);
     testColumn->setContentsMargins(0, 0, 0, 0);
     testColumn->addWidget(m_pSelfTestPanel);
-    m_pGridView = pagelook::named(new QGridView(frame), "m_pGridView");
-    m_pGridView->setGeometry(QRect(QPoint(0, 0), frame->minimumSize()));
+    m_pGridView = pagelook::named(new QGridView(m_ui.frame), "m_pGridView");
+    m_pGridView->setGeometry(QRect(QPoint(0, 0), m_ui.frame->minimumSize()));
     // A child of the window: the page's style sheets must not reach it.
     m_pResultBox = pagelook::named(new InfoDialogClass(window()), "m_pResultBox");
     connect(m_pResultBox, &MessageDialog::dismissed, this, &ScanDisk::OnResultRead);
@@ -82,16 +82,16 @@ void ScanDisk::connectThread()
 
 void ScanDisk::styleChooser()
 {
-    pagelook::styleHeadings({TestHeadingLabel});
+    pagelook::styleHeadings({m_ui.TestHeadingLabel});
     auto *tests = new QButtonGroup(this);
     const struct {
         QFrame *card;
         QRadioButton *radio;
         QLabel *text;
     } choices[] = {
-        {ChoiceCard1, radioButton, label},
-        {ChoiceCard2, radioButton_2, label_2},
-        {ChoiceCard3, radioButton_3, label_3},
+        {m_ui.ChoiceCard1, m_ui.radioButton, m_ui.label},
+        {m_ui.ChoiceCard2, m_ui.radioButton_2, m_ui.label_2},
+        {m_ui.ChoiceCard3, m_ui.radioButton_3, m_ui.label_3},
     };
     for (const auto &choice : choices) {
         pagelook::styleLabels({choice.text}, style::font(10), style::BlackLabel);
@@ -121,33 +121,36 @@ bool ScanDisk::eventFilter(QObject *watched, QEvent *event)
 
 void ScanDisk::styleCounters()
 {
-    pagelook::styleValues({DiskSizeValLbl, TotalBlkValLbl, BlockSizeValLbl, ElapsedValLbl, RemTimeValLbl});
-    pagelook::styleLabels({ProcessesLbl, BadBlkLbl, ProcessNameLbl}, style::font(10), style::GreyLabel);
-    pagelook::styleLabels(
-        {DiskSizeLbl, TotalBlkLbl, BlockSizeLbl, TimeElapsedLbl, TimeReLbl, ProcessedVal, BadBlkValLbl},
-        strongFont(), style::GreyLabel);
-    pagelook::styleLabels({ScanDiskLbl}, style::font(13), style::GreyLabel);
-    images::setLabelImage(BlueClrLbl, QStringLiteral("img_BlueLegend.png"));
-    images::setLabelImage(RedClrLBl, QStringLiteral("img_RedLegend.png"));
-    images::setLabelImage(ProcesClrLl, QStringLiteral("img_GrayLegend.png"));
-    pagelook::styleCard(frame_4);
+    pagelook::styleValues({m_ui.DiskSizeValLbl, m_ui.TotalBlkValLbl, m_ui.BlockSizeValLbl, m_ui.ElapsedValLbl,
+                           m_ui.RemTimeValLbl});
+    pagelook::styleLabels({m_ui.ProcessesLbl, m_ui.BadBlkLbl, m_ui.ProcessNameLbl}, style::font(10),
+                          style::GreyLabel);
+    pagelook::styleLabels({m_ui.DiskSizeLbl, m_ui.TotalBlkLbl, m_ui.BlockSizeLbl, m_ui.TimeElapsedLbl,
+                           m_ui.TimeReLbl, m_ui.ProcessedVal, m_ui.BadBlkValLbl},
+                          strongFont(), style::GreyLabel);
+    pagelook::styleLabels({m_ui.ScanDiskLbl}, style::font(13), style::GreyLabel);
+    images::setLabelImage(m_ui.BlueClrLbl, QStringLiteral("img_BlueLegend.png"));
+    images::setLabelImage(m_ui.RedClrLBl, QStringLiteral("img_RedLegend.png"));
+    images::setLabelImage(m_ui.ProcesClrLl, QStringLiteral("img_GrayLegend.png"));
+    pagelook::styleCard(m_ui.frame_4);
 }
 
 void ScanDisk::setTimeCaptions()
 {
-    TimeReLbl->setText(tr("Time Remaining"));
-    TimeElapsedLbl->setText(tr("Time Elapsed"));
+    m_ui.TimeReLbl->setText(tr("Time Remaining"));
+    m_ui.TimeElapsedLbl->setText(tr("Time Elapsed"));
 }
 
 /// Tells a screen reader what the map shows.
 void ScanDisk::describeMap()
 {
-    const std::pair<const QLabel *, const QLabel *> counts[] = {
-        {TotalBlkLbl, TotalBlkValLbl}, {ProcessesLbl, ProcessedVal}, {BadBlkLbl, BadBlkValLbl}};
+    const std::pair<const QLabel *, const QLabel *> counts[] = {{m_ui.TotalBlkLbl, m_ui.TotalBlkValLbl},
+                                                                {m_ui.ProcessesLbl, m_ui.ProcessedVal},
+                                                                {m_ui.BadBlkLbl, m_ui.BadBlkValLbl}};
     QStringList texts;
     for (const auto &[caption, value] : counts)
         texts << caption->text().trimmed() + QLatin1String(": ") + value->text();
-    m_pGridView->setAccessibleName(ScanDiskLbl->text());
+    m_pGridView->setAccessibleName(m_ui.ScanDiskLbl->text());
     m_pGridView->setAccessibleDescription(texts.join(QLatin1String(", ")));
 }
 
@@ -155,15 +158,15 @@ void ScanDisk::showBlockSize()
 {
     constexpr qlonglong SectorSize = 512;
     constexpr qlonglong Megabyte = 1048576;
-    BlockSizeValLbl->setText(m_i64BlockStep == 0
-                                 ? QStringLiteral("0")
-                                 : QString::number(m_i64BlockStep * SectorSize / Megabyte) + tr(" MB"));
+    m_ui.BlockSizeValLbl->setText(m_i64BlockStep == 0
+                                      ? QStringLiteral("0")
+                                      : QString::number(m_i64BlockStep * SectorSize / Megabyte) + tr(" MB"));
 }
 
 void ScanDisk::clearCounts()
 {
-    BadBlkValLbl->setText(QStringLiteral("0"));
-    ProcessedVal->setText(QStringLiteral("0"));
+    m_ui.BadBlkValLbl->setText(QStringLiteral("0"));
+    m_ui.ProcessedVal->setText(QStringLiteral("0"));
     m_i64BlockStep = 0;
     showBlockSize();
     describeMap();
@@ -171,42 +174,42 @@ void ScanDisk::clearCounts()
 
 std::optional<SelfTestKind> ScanDisk::ChosenTest() const
 {
-    return radioButton_2->isChecked()   ? std::optional(SelfTestKind::Short)
-           : radioButton_3->isChecked() ? std::optional(SelfTestKind::Extended)
-                                        : std::nullopt;
+    return m_ui.radioButton_2->isChecked()   ? std::optional(SelfTestKind::Short)
+           : m_ui.radioButton_3->isChecked() ? std::optional(SelfTestKind::Extended)
+                                             : std::nullopt;
 }
 
 /// Shows one of the three parts: the choice of a test, the counters, or the panel of a self-test.
 void ScanDisk::showPart(const QFrame *part)
 {
-    for (QWidget *other : std::initializer_list<QWidget *>{TestHeadingLabel, frame, frame_4})
+    for (QWidget *other : std::initializer_list<QWidget *>{m_ui.TestHeadingLabel, m_ui.frame, m_ui.frame_4})
         other->hide();
-    for (QWidget *counter :
-         std::initializer_list<QWidget *>{ScanDiskLbl, BlueClrLbl, ProcessesLbl, ProcessedVal, RedClrLBl,
-                                          BadBlkLbl, BadBlkValLbl, ProcesClrLl, ProcessNameLbl})
-        counter->setVisible(part == frame_4);
-    frame_2->setVisible(part == frame_2);
-    frame_3->setVisible(part == frame_3);
+    for (QWidget *counter : std::initializer_list<QWidget *>{
+             m_ui.ScanDiskLbl, m_ui.BlueClrLbl, m_ui.ProcessesLbl, m_ui.ProcessedVal, m_ui.RedClrLBl,
+             m_ui.BadBlkLbl, m_ui.BadBlkValLbl, m_ui.ProcesClrLl, m_ui.ProcessNameLbl})
+        counter->setVisible(part == m_ui.frame_4);
+    m_ui.frame_2->setVisible(part == m_ui.frame_2);
+    m_ui.frame_3->setVisible(part == m_ui.frame_3);
 }
 
 void ScanDisk::ShowChooser()
 {
-    frame_2->setWindowModality(Qt::WindowModal);
-    frame_2->raise();
-    showPart(frame_2);
-    radioButton->setChecked(true);
+    m_ui.frame_2->setWindowModality(Qt::WindowModal);
+    m_ui.frame_2->raise();
+    showPart(m_ui.frame_2);
+    m_ui.radioButton->setChecked(true);
 }
 
 void ScanDisk::ShowSelfTest(const SelfTestPanel::Shown &shown)
 {
     TellSelfTest(shown);
-    showPart(frame_3);
+    showPart(m_ui.frame_3);
 }
 
 void ScanDisk::FillDisk(const DiskNode *pNode)
 {
-    DiskSizeValLbl->setText(pNode ? pNode->szSize.text() : QString());
-    TotalBlkValLbl->setText(QString::number(sectorsOf(pNode)));
+    m_ui.DiskSizeValLbl->setText(pNode ? pNode->szSize.text() : QString());
+    m_ui.TotalBlkValLbl->setText(QString::number(sectorsOf(pNode)));
     describeMap();
 }
 
@@ -226,11 +229,11 @@ void ScanDisk::StartScan()
     constexpr int UpdateInterval = 2000;
     constexpr int ScanMode = 3;
     HideResult();
-    frame_4->show();
-    frame->show();
+    m_ui.frame_4->show();
+    m_ui.frame->show();
     g_BadSectors.clear();
-    RemTimeValLbl->clear();
-    ElapsedValLbl->clear();
+    m_ui.RemTimeValLbl->clear();
+    m_ui.ElapsedValLbl->clear();
     // The timer of the last scan keeps running; it does the same.
     m_pUpdateTimer = new QTimer(this);
     connect(m_pUpdateTimer, &QTimer::timeout, this, &ScanDisk::OnUpdateTime);
@@ -264,7 +267,7 @@ void ScanDisk::DropResults()
 
 void ScanDisk::clearTimes()
 {
-    for (QLabel *time : {ElapsedValLbl, RemTimeValLbl, TimeElapsedLbl, TimeReLbl})
+    for (QLabel *time : {m_ui.ElapsedValLbl, m_ui.RemTimeValLbl, m_ui.TimeElapsedLbl, m_ui.TimeReLbl})
         time->clear();
 }
 
@@ -296,19 +299,19 @@ void ScanDisk::OnTotalBlockCount(qlonglong position, qlonglong, qlonglong step)
         return;
     m_i64BlockStep = step;
     showBlockSize();
-    ProcessedVal->setText(QString::number(position));
+    m_ui.ProcessedVal->setText(QString::number(position));
 }
 
 void ScanDisk::OnExactBadSectorCount(qlonglong count)
 {
     if (!m_bDropped)
-        BadBlkValLbl->setText(QString::number(count));
+        m_ui.BadBlkValLbl->setText(QString::number(count));
 }
 
 void ScanDisk::OnAllBlockProcessed(qlonglong i64ProcessedBlocks)
 {
     if (!m_bDropped)
-        ProcessedVal->setText(QString::number(i64ProcessedBlocks));
+        m_ui.ProcessedVal->setText(QString::number(i64ProcessedBlocks));
 }
 
 void ScanDisk::OnSetRemainingTime(qlonglong sectors, qlonglong endSector)
@@ -322,8 +325,8 @@ void ScanDisk::OnUpdateTime()
         return;
     const qint64 elapsed = m_sinceStart.elapsed();
     if (const auto remaining = m_clock.remainingText(elapsed))
-        RemTimeValLbl->setText(*remaining);
-    ElapsedValLbl->setText(ScanClock::elapsedText(elapsed));
+        m_ui.RemTimeValLbl->setText(*remaining);
+    m_ui.ElapsedValLbl->setText(ScanClock::elapsedText(elapsed));
     describeMap();
 }
 
@@ -362,7 +365,7 @@ void ScanDisk::showResult(const QString &verdict)
 
 void ScanDisk::retranslate()
 {
-    retranslateUi(this);
+    m_ui.retranslateUi(this);
     // A finished scan leaves the times empty, captions included.
     if (g_bJobRunning)
         setTimeCaptions();

@@ -16,7 +16,7 @@ class QTimer;
 
 /// The Scan Disk screen: the choice among a surface scan and the two drive self-tests, and the surface scan
 /// itself with its counters, its map and its result. Main thread only.
-class ScanDisk : public Page, private Ui::m_pScanDiskwgt
+class ScanDisk : public Page
 {
     Q_OBJECT
 
@@ -28,7 +28,7 @@ public:
     /// The self-test that is chosen; none where it is the surface scan.
     std::optional<SelfTestKind> ChosenTest() const;
     /// Shows the counters and the legend of a surface scan in place of the choice.
-    void ShowCounters() { showPart(frame_4); }
+    void ShowCounters() { showPart(m_ui.frame_4); }
     /// Shows the panel of a self-test in place of the choice.
     void ShowSelfTest(const SelfTestPanel::Shown &shown);
     /// Changes what the panel of a self-test shows, wherever the page stands.
@@ -88,6 +88,7 @@ private:
     void clearCounts();
     void showResult(const QString &verdict);
 
+    Ui::m_pScanDiskwgt m_ui;
     SelfTestPanel *m_pSelfTestPanel = nullptr; ///< in frame_3
     QGridView *m_pGridView = nullptr;          ///< in frame
     InfoDialogClass *m_pResultBox = nullptr;

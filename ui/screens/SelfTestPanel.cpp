@@ -35,20 +35,22 @@ QString nameOf(std::optional<SelfTestKind> kind)
 
 SelfTestPanel::SelfTestPanel(QWidget *parent) : Page(parent)
 {
-    setupUi(this);
+    m_ui.setupUi(this);
     style::scaleForm(this);
-    pagelook::styleHeadings({TestNameLbl});
-    pagelook::styleNames({TestModelLbl, TestSerialLbl, TestBarLbl, TestStatusLbl, PollingTimeLbl,
-                          TestRemainingLbl, TestElapsedLbl});
-    pagelook::styleValues({TestModelValLbl, TestSerialValLbl, TestPercentValLbl, TestStatusValLbl,
-                           PollingTimeValLbl, TestRemainingValLbl, TestElapsedValLbl});
-    for (QLabel *identity : {TestModelValLbl, TestSerialValLbl})
+    pagelook::styleHeadings({m_ui.TestNameLbl});
+    pagelook::styleNames({m_ui.TestModelLbl, m_ui.TestSerialLbl, m_ui.TestBarLbl, m_ui.TestStatusLbl,
+                          m_ui.PollingTimeLbl, m_ui.TestRemainingLbl, m_ui.TestElapsedLbl});
+    pagelook::styleValues({m_ui.TestModelValLbl, m_ui.TestSerialValLbl, m_ui.TestPercentValLbl,
+                           m_ui.TestStatusValLbl, m_ui.PollingTimeValLbl, m_ui.TestRemainingValLbl,
+                           m_ui.TestElapsedValLbl});
+    for (QLabel *identity : {m_ui.TestModelValLbl, m_ui.TestSerialValLbl})
         identity->setStyleSheet(style::BlackLabel);
-    for (QFrame *card : {DiskCard, TestCard, PollingCard, RemainingCard, ElapsedCard})
+    for (QFrame *card :
+         {m_ui.DiskCard, m_ui.TestCard, m_ui.PollingCard, m_ui.RemainingCard, m_ui.ElapsedCard})
         pagelook::styleCard(card);
-    for (QLabel *time : {PollingTimeValLbl, TestRemainingValLbl, TestElapsedValLbl})
+    for (QLabel *time : {m_ui.PollingTimeValLbl, m_ui.TestRemainingValLbl, m_ui.TestElapsedValLbl})
         time->setFont(style::font(13));
-    TestProgressBar->setStyleSheet(
+    m_ui.TestProgressBar->setStyleSheet(
         QStringLiteral("QProgressBar{background: #e9eef3; border: none; border-radius: %1px;}"
                        "QProgressBar::chunk{background: #2a81e5; border-radius: %1px;}")
             .arg(style::px(4)));
@@ -59,31 +61,31 @@ void SelfTestPanel::Show(const Shown &shown)
 {
     m_shown = shown;
     // The names of the two cards share a column.
-    pagelook::alignNames({TestModelLbl, TestSerialLbl, TestStatusLbl});
-    TestModelValLbl->setText(shown.model);
-    TestSerialValLbl->setText(shown.serial);
-    for (QLabel *name : {TestNameLbl, TestBarLbl})
+    pagelook::alignNames({m_ui.TestModelLbl, m_ui.TestSerialLbl, m_ui.TestStatusLbl});
+    m_ui.TestModelValLbl->setText(shown.model);
+    m_ui.TestSerialValLbl->setText(shown.serial);
+    for (QLabel *name : {m_ui.TestNameLbl, m_ui.TestBarLbl})
         name->setText(nameOf(shown.kind));
     if (shown.percent >= 0 && shown.percent <= 100) {
-        TestProgressBar->setValue(shown.percent);
-        TestPercentValLbl->setText(QString::number(shown.percent) + QLatin1Char('%'));
+        m_ui.TestProgressBar->setValue(shown.percent);
+        m_ui.TestPercentValLbl->setText(QString::number(shown.percent) + QLatin1Char('%'));
     }
-    TestProgressBar->setVisible(shown.progress);
-    TestPercentValLbl->setVisible(shown.progress);
-    for (QFrame *card : {PollingCard, RemainingCard, ElapsedCard})
+    m_ui.TestProgressBar->setVisible(shown.progress);
+    m_ui.TestPercentValLbl->setVisible(shown.progress);
+    for (QFrame *card : {m_ui.PollingCard, m_ui.RemainingCard, m_ui.ElapsedCard})
         card->setVisible(shown.times);
-    TestStatusValLbl->setStyleSheet(sheetOf(shown.status.value_or(selftest::Told::InProgress)));
-    TestStatusValLbl->setText(
+    m_ui.TestStatusValLbl->setStyleSheet(sheetOf(shown.status.value_or(selftest::Told::InProgress)));
+    m_ui.TestStatusValLbl->setText(
         shown.status ? QCoreApplication::translate("MainWindow", selftest::shownWords(*shown.status))
                      : QString());
-    TestStatusLbl->setVisible(shown.status.has_value());
-    PollingTimeValLbl->setText(minutesText(shown.pollingMinutes));
-    TestRemainingValLbl->setText(minutesText(shown.remainingMinutes));
-    TestElapsedValLbl->setText(shown.elapsed);
+    m_ui.TestStatusLbl->setVisible(shown.status.has_value());
+    m_ui.PollingTimeValLbl->setText(minutesText(shown.pollingMinutes));
+    m_ui.TestRemainingValLbl->setText(minutesText(shown.remainingMinutes));
+    m_ui.TestElapsedValLbl->setText(shown.elapsed);
 }
 
 void SelfTestPanel::retranslate()
 {
-    retranslateUi(this);
+    m_ui.retranslateUi(this);
     Show(m_shown);
 }

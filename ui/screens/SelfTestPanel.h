@@ -11,7 +11,7 @@
 
 /// What the Scan Disk page shows of a self-test: the disk, the progress and the times. Keeps what it shows,
 /// so that a change of the language reaches all of it.
-class SelfTestPanel : public Page, private Ui::SelfTestPanelForm
+class SelfTestPanel : public Page
 {
     Q_OBJECT
 
@@ -38,5 +38,6 @@ protected:
     void retranslate() override;
 
 private:
+    Ui::SelfTestPanelForm m_ui;
     Shown m_shown;
 };

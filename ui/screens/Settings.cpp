@@ -37,10 +37,10 @@ void styleTitleButton(QPushButton *button, const QString &file)
 
 Settings::Settings() : Page(nullptr), m_Frame(this), m_pLanguageMenu(new QMenu(this))
 {
-    setupUi(this);
+    m_ui.setupUi(this);
     addHeaderButtons();
     fillFields();
-    m_Frame.dress(HeaderLabel, CloseButton, OkButton);
+    m_Frame.dress(m_ui.HeaderLabel, m_ui.CloseButton, m_ui.OkButton);
     styleFields();
     BuildLanguageMenu();
     retranslate();
@@ -50,12 +50,12 @@ Settings::Settings() : Page(nullptr), m_Frame(this), m_pLanguageMenu(new QMenu(t
 
 void Settings::addHeaderButtons()
 {
-    int place = titleLayout->indexOf(CloseButton);
+    int place = m_ui.titleLayout->indexOf(m_ui.CloseButton);
     const auto add = [this, &place](const char *name) {
         auto *button = pagelook::named(new QPushButton(this), name);
-        button->setMinimumSize(CloseButton->minimumSize());
-        button->setMaximumSize(CloseButton->maximumSize());
-        titleLayout->insertWidget(place++, button);
+        button->setMinimumSize(m_ui.CloseButton->minimumSize());
+        button->setMaximumSize(m_ui.CloseButton->maximumSize());
+        m_ui.titleLayout->insertWidget(place++, button);
         return button;
     };
     m_pUpdateButton = add("m_pUpdateButton");
@@ -65,36 +65,36 @@ void Settings::addHeaderButtons()
 
 void Settings::fillFields()
 {
-    PathlineEdit->setPlaceholderText(settings::defaultLogPath(g_App.m_strSystemFolder));
+    m_ui.PathlineEdit->setPlaceholderText(settings::defaultLogPath(g_App.m_strSystemFolder));
     m_strLogPath = QLatin1String(key::LogSavePath.first);
-    PathlineEdit->setText(m_strLogPath);
-    LogLImitSpinBox->setMinimum(10);
-    LogLImitSpinBox->setValue(100);
-    WarningSpinBox->setValue(key::WarningValue.first);
-    WarningSpinBox->setMinimum(40);
-    ShutDownSpinBox->setValue(key::ShutDownValue.first);
-    ShutDownSpinBox->setMinimum(50);
+    m_ui.PathlineEdit->setText(m_strLogPath);
+    m_ui.LogLImitSpinBox->setMinimum(10);
+    m_ui.LogLImitSpinBox->setValue(100);
+    m_ui.WarningSpinBox->setValue(key::WarningValue.first);
+    m_ui.WarningSpinBox->setMinimum(40);
+    m_ui.ShutDownSpinBox->setValue(key::ShutDownValue.first);
+    m_ui.ShutDownSpinBox->setMinimum(50);
 }
 
 void Settings::styleFields()
 {
     setStyleSheet(style::fieldSheet());
-    const auto fields = frame->findChildren<QWidget *>();
+    const auto fields = m_ui.frame->findChildren<QWidget *>();
     for (QWidget *field : fields)
         field->setFont(style::font(10));
-    for (QLabel *caption : {logSizeLbl, logSizeLbl_2, logSizeLbl_3, logSizeLbl_4})
+    for (QLabel *caption : {m_ui.logSizeLbl, m_ui.logSizeLbl_2, m_ui.logSizeLbl_3, m_ui.logSizeLbl_4})
         caption->setStyleSheet(style::GreyLabel);
-    for (QLabel *group : {GeneraLabel, GeneraLabel_2, TempLabel})
+    for (QLabel *group : {m_ui.GeneraLabel, m_ui.GeneraLabel_2, m_ui.TempLabel})
         group->setFont(style::semiBold(10));
-    for (QFrame *hairline : {line, line_2})
+    for (QFrame *hairline : {m_ui.line, m_ui.line_2})
         hairline->setStyleSheet(QStringLiteral("QFrame{background: #e6eaee;}"));
-    ButtonLabel->setStyleSheet(QStringLiteral("QLabel{background: #f5f5f5;}"));
-    PathlineEdit->setStyleSheet(QStringLiteral("color: #64778b;background-color: white;selection-color: "
-                                               "gray;selection-background-color: solid gray;"));
+    m_ui.ButtonLabel->setStyleSheet(QStringLiteral("QLabel{background: #f5f5f5;}"));
+    m_ui.PathlineEdit->setStyleSheet(QStringLiteral("color: #64778b;background-color: white;selection-color: "
+                                                    "gray;selection-background-color: solid gray;"));
     styleTitleButton(m_pUpdateButton, QStringLiteral("img_CheckUpdate.png"));
     styleTitleButton(m_pHelpButton, QStringLiteral("img_Help.png"));
     styleTitleButton(m_pLanguageButton, QStringLiteral("img_Language.png"));
-    styleTitleButton(CloseButton, QStringLiteral("img_Close.png"));
+    styleTitleButton(m_ui.CloseButton, QStringLiteral("img_Close.png"));
     m_pLanguageMenu->setFont(style::font(10));
     m_pLanguageMenu->setStyleSheet(QStringLiteral("QMenu::indicator{left: %1px; width: %2px; height: %2px;}"
                                                   "QMenu::indicator:checked{image: url(%3);}")
@@ -107,16 +107,16 @@ void Settings::styleFields()
 
 void Settings::connectFields()
 {
-    connect(CloseButton, &QPushButton::clicked, this, &Settings::CloseWindow);
+    connect(m_ui.CloseButton, &QPushButton::clicked, this, &Settings::CloseWindow);
     connect(new QShortcut(QKeySequence(Qt::Key_F1), this), &QShortcut::activated, this,
             &Settings::OnOpenSettingsHelp);
-    for (const QPushButton *button : {OkButton, CloseButton})
+    for (const QPushButton *button : {m_ui.OkButton, m_ui.CloseButton})
         connect(button, &QPushButton::clicked, this, &Settings::left);
-    connect(LogChkBox, &QCheckBox::stateChanged, this, &Settings::OnLogEventStateChanged);
-    connect(SizeLimitChkBox, &QCheckBox::stateChanged, this, &Settings::SizeLimittStateChanged);
-    connect(WarningTemp, &QCheckBox::stateChanged, this, &Settings::WarningTempStateChanged);
-    connect(BrowsButton_2, &QPushButton::clicked, this, &Settings::OnSelectLogPath);
-    connect(degreeComboBox, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+    connect(m_ui.LogChkBox, &QCheckBox::stateChanged, this, &Settings::OnLogEventStateChanged);
+    connect(m_ui.SizeLimitChkBox, &QCheckBox::stateChanged, this, &Settings::SizeLimittStateChanged);
+    connect(m_ui.WarningTemp, &QCheckBox::stateChanged, this, &Settings::WarningTempStateChanged);
+    connect(m_ui.BrowsButton_2, &QPushButton::clicked, this, &Settings::OnSelectLogPath);
+    connect(m_ui.degreeComboBox, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
             &Settings::ChangeWarningTemperature);
     connect(m_pUpdateButton, &QPushButton::clicked, this, &Settings::OnCheckUpdate);
     connect(m_pHelpButton, &QPushButton::clicked, this, &Settings::OnOpenSettingsHelp);
@@ -164,13 +164,13 @@ void Settings::changeLanguage(LanguageType type)
 
 void Settings::retranslate()
 {
-    retranslateUi(this);
+    m_ui.retranslateUi(this);
     m_pUpdateButton->setToolTip(tr("Check for Updates"));
     m_pHelpButton->setToolTip(tr("View Velmora Halvane help document"));
     m_pLanguageButton->setToolTip(tr("Languages"));
     for (QPushButton *button : {m_pUpdateButton, m_pHelpButton, m_pLanguageButton})
         button->setAccessibleName(button->toolTip());
-    CloseButton->setAccessibleName(QCoreApplication::translate("MainWindow", "Close"));
+    m_ui.CloseButton->setAccessibleName(QCoreApplication::translate("MainWindow", "Close"));
     for (const languages::Language &language : languages::table)
         m_apLanguageActions[language.index()]->setText(
             QCoreApplication::translate("MainWindow", language.text));
@@ -181,46 +181,46 @@ void Settings::widenUnitCombo()
 {
     // What the style sheet adds to the text: padding, border and the arrow.
     int widest = 0;
-    for (int item = 0; item < degreeComboBox->count(); ++item)
-        widest =
-            std::max(widest, degreeComboBox->fontMetrics().horizontalAdvance(degreeComboBox->itemText(item)));
-    degreeComboBox->setFixedWidth(std::max(style::px(130), widest + style::px(60)));
+    for (int item = 0; item < m_ui.degreeComboBox->count(); ++item)
+        widest = std::max(widest, m_ui.degreeComboBox->fontMetrics().horizontalAdvance(
+                                      m_ui.degreeComboBox->itemText(item)));
+    m_ui.degreeComboBox->setFixedWidth(std::max(style::px(130), widest + style::px(60)));
 }
 
 void Settings::setAlarmEnabled(bool enabled)
 {
-    WarningSpinBox->setEnabled(enabled);
-    ShutDownSpinBox->setEnabled(enabled);
+    m_ui.WarningSpinBox->setEnabled(enabled);
+    m_ui.ShutDownSpinBox->setEnabled(enabled);
 }
 
 void Settings::setThresholds(int warning, int shutDown)
 {
-    WarningSpinBox->setValue(warning);
-    ShutDownSpinBox->setValue(shutDown);
+    m_ui.WarningSpinBox->setValue(warning);
+    m_ui.ShutDownSpinBox->setValue(shutDown);
 }
 
 void Settings::showValues(const settings::Values &values)
 {
-    degreeComboBox->setCurrentIndex(values.unit);
-    TrayChkBox->setChecked(values.tray);
-    WarningTemp->setChecked(values.alarm);
+    m_ui.degreeComboBox->setCurrentIndex(values.unit);
+    m_ui.TrayChkBox->setChecked(values.tray);
+    m_ui.WarningTemp->setChecked(values.alarm);
     setAlarmEnabled(values.alarm);
-    for (QComboBox *unit : {degreeComboBox_2, degreeComboBox_3})
+    for (QComboBox *unit : {m_ui.degreeComboBox_2, m_ui.degreeComboBox_3})
         unit->setEnabled(values.alarm);
     setThresholds(values.warning, values.shutDown);
 }
 
 void Settings::ApplyFirstRunDefaults()
 {
-    degreeComboBox->setCurrentIndex(settings::Fahrenheit);
+    m_ui.degreeComboBox->setCurrentIndex(settings::Fahrenheit);
     if (SettingsStore().flag(key::FirstTimeLaunch))
         return;
-    StartupChkBox->setChecked(false);
-    LogChkBox->setChecked(true);
+    m_ui.StartupChkBox->setChecked(false);
+    m_ui.LogChkBox->setChecked(true);
     OnLogEventStateChanged(Qt::Checked);
-    SizeLimitChkBox->setChecked(true);
-    LogLImitSpinBox->setEnabled(true);
-    LogLImitSpinBox->setValue(key::MaxLogSize.first);
+    m_ui.SizeLimitChkBox->setChecked(true);
+    m_ui.LogLImitSpinBox->setEnabled(true);
+    m_ui.LogLImitSpinBox->setValue(key::MaxLogSize.first);
     settings::Values values = settings::firstRun();
     values.unit = settings::Fahrenheit;
     showValues(values);
@@ -228,25 +228,25 @@ void Settings::ApplyFirstRunDefaults()
 
 void Settings::LoadFromStore()
 {
-    degreeComboBox->setCurrentIndex(settings::Celsius);
-    PathlineEdit->setText(m_strLogPath); // what was left by Escape goes
+    m_ui.degreeComboBox->setCurrentIndex(settings::Celsius);
+    m_ui.PathlineEdit->setText(m_strLogPath); // what was left by Escape goes
     showValues(settings::load());
 }
 
 void Settings::SaveToStore()
 {
-    const bool alarm = WarningTemp->isChecked();
+    const bool alarm = m_ui.WarningTemp->isChecked();
     setAlarmEnabled(alarm);
-    m_strLogPath = PathlineEdit->text();
-    settings::save({WantsTray(), degreeComboBox->currentIndex(), alarm, WarningSpinBox->value(),
-                    ShutDownSpinBox->value()},
+    m_strLogPath = m_ui.PathlineEdit->text();
+    settings::save({WantsTray(), m_ui.degreeComboBox->currentIndex(), alarm, m_ui.WarningSpinBox->value(),
+                    m_ui.ShutDownSpinBox->value()},
                    m_strLogPath);
 }
 
 void Settings::OnLogEventStateChanged(int state)
 {
-    PathlineEdit->setEnabled(state == Qt::Checked);
-    BrowsButton_2->setEnabled(state == Qt::Checked);
+    m_ui.PathlineEdit->setEnabled(state == Qt::Checked);
+    m_ui.BrowsButton_2->setEnabled(state == Qt::Checked);
 }
 
 void Settings::OnSelectLogPath()
@@ -254,22 +254,22 @@ void Settings::OnSelectLogPath()
     const QString file = QFileDialog::getSaveFileName(this, tr("Save log file"),
                                                       QStringLiteral("Logfile.txt"), QStringLiteral("*.txt"));
     if (!file.isEmpty())
-        PathlineEdit->setText(file);
+        m_ui.PathlineEdit->setText(file);
 }
 
 void Settings::ChangeWarningTemperature()
 {
-    const int unit = degreeComboBox->currentIndex();
-    WarningSpinBox->setMinimum(0);
-    ShutDownSpinBox->setMinimum(0);
+    const int unit = m_ui.degreeComboBox->currentIndex();
+    m_ui.WarningSpinBox->setMinimum(0);
+    m_ui.ShutDownSpinBox->setMinimum(0);
     if (unit != settings::Celsius && unit != settings::Fahrenheit)
         return;
     const settings::AlarmLimits limits =
-        settings::limitsForUnit(unit, WarningSpinBox->value(), ShutDownSpinBox->value());
+        settings::limitsForUnit(unit, m_ui.WarningSpinBox->value(), m_ui.ShutDownSpinBox->value());
     setThresholds(limits.warning, limits.shutDown);
-    WarningSpinBox->setMinimum(limits.lowestWarning);
-    ShutDownSpinBox->setMinimum(limits.lowestShutDown);
-    for (QSpinBox *threshold : {WarningSpinBox, ShutDownSpinBox})
+    m_ui.WarningSpinBox->setMinimum(limits.lowestWarning);
+    m_ui.ShutDownSpinBox->setMinimum(limits.lowestShutDown);
+    for (QSpinBox *threshold : {m_ui.WarningSpinBox, m_ui.ShutDownSpinBox})
         threshold->setSuffix(QStringLiteral(" °") + settings::unitText(unit));
 }
 

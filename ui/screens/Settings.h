@@ -17,7 +17,7 @@ class QMenu;
 /// The settings window: temperature unit and alarm, log path, tray, language. A top-level window without a
 /// parent, made once and shown on demand; the main window stays live beside it. Nothing is stored before
 /// SaveToStore().
-class Settings : public Page, private Ui::m_pSettingswgt
+class Settings : public Page
 {
     Q_OBJECT
 
@@ -35,7 +35,7 @@ public:
     void SaveToStore();
 
     /// Whether the status is to show in the tray.
-    bool WantsTray() const { return TrayChkBox->isChecked(); }
+    bool WantsTray() const { return m_ui.TrayChkBox->isChecked(); }
 
 signals:
     /// OK or the close button was pressed.
@@ -44,7 +44,7 @@ signals:
 public slots:
     void CloseWindow() { hide(); }
     void OnLogEventStateChanged(int state);
-    void SizeLimittStateChanged(int state) { LogLImitSpinBox->setEnabled(state == Qt::Checked); }
+    void SizeLimittStateChanged(int state) { m_ui.LogLImitSpinBox->setEnabled(state == Qt::Checked); }
     void WarningTempStateChanged(int state) { setAlarmEnabled(state == Qt::Checked); }
     void OnSelectLogPath();
     /// Adapts the two thresholds and their lowest values to the unit chosen.
@@ -86,6 +86,7 @@ private:
     void setAlarmEnabled(bool enabled);
     void setThresholds(int warning, int shutDown);
 
+    Ui::m_pSettingswgt m_ui;
     /// By LanguageType. All eleven are there, also those that the menu leaves out.
     std::array<QAction *, LanguageCount> m_apLanguageActions{};
     QPushButton *m_pUpdateButton = nullptr;

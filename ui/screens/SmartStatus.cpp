@@ -65,12 +65,13 @@ void fillItem(QTreeWidgetItem *item, const AttributeRow &row)
 
 SmartStatus::SmartStatus(QWidget *parent) : Page(parent)
 {
-    setupUi(this);
+    m_ui.setupUi(this);
     pagelook::makePage(this);
-    pagelook::styleHeadings({TreeStringLbl, GraphLabel});
-    SmartResultLabel->setFont(style::font(13));
-    pagelook::styleLabels({SerialNumberLbl, InterfaceLbl, CapacityLbl}, style::semiBold(10), BlueGreyLabel);
-    pagelook::styleLabels({SerialNunValueLbl, InterfaceValLbl, CapcityValLbl}, style::font(10),
+    pagelook::styleHeadings({m_ui.TreeStringLbl, m_ui.GraphLabel});
+    m_ui.SmartResultLabel->setFont(style::font(13));
+    pagelook::styleLabels({m_ui.SerialNumberLbl, m_ui.InterfaceLbl, m_ui.CapacityLbl}, style::semiBold(10),
+                          BlueGreyLabel);
+    pagelook::styleLabels({m_ui.SerialNunValueLbl, m_ui.InterfaceValLbl, m_ui.CapcityValLbl}, style::font(10),
                           BlueGreyLabel);
     makeTree();
     nameControls();
@@ -81,7 +82,7 @@ SmartStatus::SmartStatus(QWidget *parent) : Page(parent)
 
 void SmartStatus::makeTree()
 {
-    m_pAttributeTree = pagelook::named(new QTreeWidget(DitaledFrame), "m_pAttributeTree");
+    m_pAttributeTree = pagelook::named(new QTreeWidget(m_ui.DitaledFrame), "m_pAttributeTree");
     m_pAttributeTree->setAlternatingRowColors(true);
     m_pAttributeTree->setRootIsDecorated(false);
     m_pAttributeTree->setFixedHeight(style::px(126));
@@ -120,25 +121,25 @@ void SmartStatus::makeTree()
 void SmartStatus::makeHeading()
 {
     const QString white = QStringLiteral("QLabel {color : white;}");
-    m_pHeadingLabel = pagelook::named(new QLabel(tr("Smart Status"), ImageLabel), "m_pHeadingLabel");
+    m_pHeadingLabel = pagelook::named(new QLabel(tr("Smart Status"), m_ui.ImageLabel), "m_pHeadingLabel");
     m_pHeadingLabel->setFixedHeight(style::px(20));
-    m_pHeadingResultLabel = pagelook::named(new QLabel(ImageLabel), "m_pHeadingResultLabel");
+    m_pHeadingResultLabel = pagelook::named(new QLabel(m_ui.ImageLabel), "m_pHeadingResultLabel");
     m_pHeadingResultLabel->setFixedHeight(style::px(28));
     pagelook::styleLabels({m_pHeadingLabel}, style::semiBold(12), white);
     pagelook::styleLabels({m_pHeadingResultLabel}, style::semiBold(13, true), white);
-    HeadingGrid->addWidget(m_pHeadingLabel, 0, 0, 1, 2);
-    HeadingGrid->addWidget(m_pHeadingResultLabel, 1, 0, 1, 2);
+    m_ui.HeadingGrid->addWidget(m_pHeadingLabel, 0, 0, 1, 2);
+    m_ui.HeadingGrid->addWidget(m_pHeadingResultLabel, 1, 0, 1, 2);
 }
 
 void SmartStatus::layOutPage()
 {
-    SmartResultLabel->setFixedHeight(style::px(47) / 2);
-    AttributeColumn->setSpacing(5);
-    AttributeColumn->insertWidget(0, newSpacer(DitaledFrame));
-    AttributeColumn->insertWidget(1, m_pAttributeTree);
-    AttributeColumn->insertWidget(2, newSpacer(DitaledFrame));
-    m_pChartView = new SmartChartView(DitaledFrame);
-    AttributeColumn->addWidget(m_pChartView);
+    m_ui.SmartResultLabel->setFixedHeight(style::px(47) / 2);
+    m_ui.AttributeColumn->setSpacing(5);
+    m_ui.AttributeColumn->insertWidget(0, newSpacer(m_ui.DitaledFrame));
+    m_ui.AttributeColumn->insertWidget(1, m_pAttributeTree);
+    m_ui.AttributeColumn->insertWidget(2, newSpacer(m_ui.DitaledFrame));
+    m_pChartView = new SmartChartView(m_ui.DitaledFrame);
+    m_ui.AttributeColumn->addWidget(m_pChartView);
 }
 
 void SmartStatus::FormatSmartTable()
@@ -201,14 +202,14 @@ void SmartStatus::ClearDisk()
     m_pAttributeTree->clear();
     m_pChartView->Clear();
     m_pChartView->setAccessibleName(QString());
-    for (QLabel *label : {GraphLabel, SmartResultLabel, m_pHeadingResultLabel, SerialNunValueLbl,
-                          InterfaceValLbl, CapcityValLbl})
+    for (QLabel *label : {m_ui.GraphLabel, m_ui.SmartResultLabel, m_pHeadingResultLabel,
+                          m_ui.SerialNunValueLbl, m_ui.InterfaceValLbl, m_ui.CapcityValLbl})
         label->clear();
 }
 
 void SmartStatus::ShowGraph(const QString &title, const GraphModel &graph)
 {
-    GraphLabel->setText(title);
+    m_ui.GraphLabel->setText(title);
     m_pChartView->setAccessibleName(title);
     m_pChartView->ShowGraph(graph);
 }
@@ -246,16 +247,16 @@ void SmartStatus::nameControls()
 void SmartStatus::ShowReading(OverallResult result)
 {
     m_pChartView->setVisible(g_bSmartAvailable);
-    pagelook::showResult(SmartResultLabel, result);
+    pagelook::showResult(m_ui.SmartResultLabel, result);
     m_pHeadingLabel->setText(QCoreApplication::translate("MainWindow", "SMART Status"));
-    GraphLabel->clear();
+    m_ui.GraphLabel->clear();
     const DiskNode *node = showSelectedDisk();
     if (!node)
         return;
     if (const WmicDiskRecord *record = findWmicDisk(node->nId))
-        SerialNunValueLbl->setText(record->szSmartSerial.text());
+        m_ui.SerialNunValueLbl->setText(record->szSmartSerial.text());
     if (node->nKind == FixedDisk && !g_strSerialNumber.trimmed().isEmpty())
-        SerialNunValueLbl->setText(g_strSerialNumber.trimmed());
+        m_ui.SerialNunValueLbl->setText(g_strSerialNumber.trimmed());
 }
 
 const DiskNode *SmartStatus::showSelectedDisk()
@@ -263,25 +264,25 @@ const DiskNode *SmartStatus::showSelectedDisk()
     const DiskNode *node = findPhysicalDisk(PhysicalDriveBase + g_nCurrentDiskIndex);
     if (!node)
         return nullptr;
-    CapcityValLbl->setText(node->szSize.text());
+    m_ui.CapcityValLbl->setText(node->szSize.text());
     const WmicDiskRecord *record = findWmicDisk(node->nId);
     const bool named = record && !record->szInterface.isEmpty();
-    InterfaceValLbl->setText(named ? record->szInterface.text() : tr("ATA Disk"));
+    m_ui.InterfaceValLbl->setText(named ? record->szInterface.text() : tr("ATA Disk"));
     return node;
 }
 
 void SmartStatus::retranslate()
 {
-    retranslateUi(this);
+    m_ui.retranslateUi(this);
     m_pHeadingLabel->setText(tr("Smart Status"));
     nameControls();
     if (!g_bReportPending) {
         const bool passed = g_bSmartAvailable && g_driveVerdict != DriveVerdict::Failed;
-        pagelook::showResult(SmartResultLabel,
+        pagelook::showResult(m_ui.SmartResultLabel,
                              passed ? OverallResult::Passed
                                     : overallResult(false, GetDiskTemperature(), g_driveVerdict));
         m_pHeadingResultLabel->setText(passed ? tr("PASSED") : tr("FAIELD"));
-        GraphLabel->setText(g_bSmartAvailable ? tr("Graph") : QString());
+        m_ui.GraphLabel->setText(g_bSmartAvailable ? tr("Graph") : QString());
     }
     RetranslateSmartTable();
     showSelectedDisk();

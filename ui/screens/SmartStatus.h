@@ -18,7 +18,7 @@ struct GraphModel;
 
 /// The SMART Status screen: the overall result, one row per attribute of the selected disk, and the graph of
 /// one of them.
-class SmartStatus : public Page, private Ui::m_pSmartWgt
+class SmartStatus : public Page
 {
     Q_OBJECT
 
@@ -41,7 +41,7 @@ public:
     /// Shows what stands above rows and graph for the selected disk, whose report was read.
     void ShowReading(OverallResult result);
     /// What ShowReading() showed of the disk's interface.
-    QString InterfaceText() const { return InterfaceValLbl->text(); }
+    QString InterfaceText() const { return m_ui.InterfaceValLbl->text(); }
 
     /// Shows nothing of any disk.
     void ClearDisk();
@@ -62,6 +62,7 @@ private:
     /// Gives the disk; null where there is none.
     const DiskNode *showSelectedDisk();
 
+    Ui::m_pSmartWgt m_ui;
     QTreeWidget *m_pAttributeTree;
     QAction *m_pCopyAction;
     SmartChartView *m_pChartView;

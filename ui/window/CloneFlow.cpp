@@ -73,7 +73,7 @@ void MainWindow::OnCloningFinish()
 {
     releaseShell();
     const bool left = !m_pCloneDiskPage->isVisible();
-    CloneButton->setVisible(!left && !isOnShow(navigation::ScanDiskScreen));
+    m_ui.CloneButton->setVisible(!left && !isOnShow(navigation::ScanDiskScreen));
     // The user has gone to another screen meanwhile, for which no disk was read during the clone.
     if (left)
         RefreshSelectedDisk();
@@ -81,9 +81,9 @@ void MainWindow::OnCloningFinish()
 
 void MainWindow::OnFinishDiskCloning()
 {
-    StopButton->hide();
+    m_ui.StopButton->hide();
     enableNavigation();
-    DriveCombobox->setEnabled(!g_bTestPending);
+    m_ui.DriveCombobox->setEnabled(!g_bTestPending);
     // A user who has left the page before the result was read stays where he is.
     if (m_pCloneDiskPage->isVisible())
         selectButton(navigation::CloneDiskScreen);

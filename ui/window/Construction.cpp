@@ -74,7 +74,7 @@ QAction *addEntry(QMenu *menu, const char *name, const char *image = nullptr)
 
 MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent), m_drag(this, TitleStripHeight)
 {
-    setupUi(this);
+    m_ui.setupUi(this);
     setObjectName(QStringLiteral("MainWindow"));
     ::m_pMainWindow = this;
     scaleGeometry();
@@ -124,69 +124,70 @@ void MainWindow::scaleGeometry()
     for (QWidget *widget : widgets)
         style::scaleWidget(widget);
     // The hairlines stay one pixel thin, and the frames meet them at every scale.
-    const int header = line->y();
-    const int side = line_2->x();
-    const int bottom = line_3->y();
-    line->setFixedHeight(1);
-    line_2->setFixedWidth(1);
-    line_3->setFixedHeight(1);
-    SideButtonLabel->move(1, header + 1);
-    WidgetFrame->move(side + 1, header + 1);
-    WidgetFrame->setFixedSize(width() - side - 2, bottom - header - 1);
-    BottamLabel->move(side + 1, bottom + 1);
-    BottamLabel->setFixedSize(width() - side - 2, height() - bottom - 2);
-    SideButtonLabel->setFixedHeight(height() - header - 2);
-    HeaderLabel->setFixedSize(width() - 2, header - 1);
+    const int header = m_ui.line->y();
+    const int side = m_ui.line_2->x();
+    const int bottom = m_ui.line_3->y();
+    m_ui.line->setFixedHeight(1);
+    m_ui.line_2->setFixedWidth(1);
+    m_ui.line_3->setFixedHeight(1);
+    m_ui.SideButtonLabel->move(1, header + 1);
+    m_ui.WidgetFrame->move(side + 1, header + 1);
+    m_ui.WidgetFrame->setFixedSize(width() - side - 2, bottom - header - 1);
+    m_ui.BottamLabel->move(side + 1, bottom + 1);
+    m_ui.BottamLabel->setFixedSize(width() - side - 2, height() - bottom - 2);
+    m_ui.SideButtonLabel->setFixedHeight(height() - header - 2);
+    m_ui.HeaderLabel->setFixedSize(width() - 2, header - 1);
 }
 
 void MainWindow::styleShell()
 {
     style::setWhiteBackground(this);
     centralWidget()->setStyleSheet(style::fieldSheet());
-    MainFrame->setStyleSheet(
+    m_ui.MainFrame->setStyleSheet(
         QStringLiteral("QFrame#MainFrame{background: white; border: 1px solid #d0d4d9;}"));
     const QString hairline = QStringLiteral("QFrame#%1{background: #e3e6e9;}");
-    for (QFrame *frame : {line, line_2, line_3})
+    for (QFrame *frame : {m_ui.line, m_ui.line_2, m_ui.line_3})
         frame->setStyleSheet(hairline.arg(frame->objectName()));
     // The texts of the navigation stand behind the icons of their pictures.
-    SideButtonLabel->setStyleSheet(QStringLiteral("QLabel#SideButtonLabel{%1}MyButton{padding-left: %2px;}")
-                                       .arg(PaleBackground)
-                                       .arg(style::px(34)));
-    BottamLabel->setStyleSheet(QStringLiteral("QLabel#BottamLabel{%1}").arg(PaleBackground) +
-                               QStringLiteral("MyButton1{padding-left: %1px;}").arg(style::px(32)));
+    m_ui.SideButtonLabel->setStyleSheet(
+        QStringLiteral("QLabel#SideButtonLabel{%1}MyButton{padding-left: %2px;}")
+            .arg(PaleBackground)
+            .arg(style::px(34)));
+    m_ui.BottamLabel->setStyleSheet(QStringLiteral("QLabel#BottamLabel{%1}").arg(PaleBackground) +
+                                    QStringLiteral("MyButton1{padding-left: %1px;}").arg(style::px(32)));
 
-    pagelook::styleLabels({label}, style::font(8), style::BlackLabel);
-    GifFrame->hide();
-    images::setLabelImage(PixmapLabel, QStringLiteral("img_HalvaneSmallLogo.png"));
-    PixmapLabel->setScaledContents(true);
-    m_pHeaderText = makeHeaderWidget<QLabel>(HeaderLabel, "m_pHeaderText", QRect(52, 8, 300, 29));
+    pagelook::styleLabels({m_ui.label}, style::font(8), style::BlackLabel);
+    m_ui.GifFrame->hide();
+    images::setLabelImage(m_ui.PixmapLabel, QStringLiteral("img_HalvaneSmallLogo.png"));
+    m_ui.PixmapLabel->setScaledContents(true);
+    m_pHeaderText = makeHeaderWidget<QLabel>(m_ui.HeaderLabel, "m_pHeaderText", QRect(52, 8, 300, 29));
     pagelook::styleLabels({m_pHeaderText}, style::semiBold(11), style::BlackLabel);
-    for (QLabel *name : {SerialNumLabel, InterfaceTypeLabel, SmartStatusLabel})
+    for (QLabel *name : {m_ui.SerialNumLabel, m_ui.InterfaceTypeLabel, m_ui.SmartStatusLabel})
         name->setFont(style::semiBold(8));
-    for (QLabel *value : {SerialNumValLabel, CapacityValLabel, ResultLabel})
+    for (QLabel *value : {m_ui.SerialNumValLabel, m_ui.CapacityValLabel, m_ui.ResultLabel})
         value->setFont(style::font(8));
 
-    DriveCombobox->setFont(style::font(10));
-    for (QPushButton *button : {ScreenshotButton, StopButton, StopTestButton})
+    m_ui.DriveCombobox->setFont(style::font(10));
+    for (QPushButton *button : {m_ui.ScreenshotButton, m_ui.StopButton, m_ui.StopTestButton})
         style::styleButton(button, style::ButtonRole::Light);
-    for (QPushButton *button : {ScanButton, CloneButton, ReportSaveButton})
+    for (QPushButton *button : {m_ui.ScanButton, m_ui.CloneButton, m_ui.ReportSaveButton})
         style::styleButton(button, style::ButtonRole::Main);
-    for (QWidget *button :
-         std::initializer_list<QWidget *>{ScanButton, CloneButton, ReportSaveButton, ScreenshotButton,
-                                          StopButton, StopTestButton, BackTestButton})
+    for (QWidget *button : std::initializer_list<QWidget *>{
+             m_ui.ScanButton, m_ui.CloneButton, m_ui.ReportSaveButton, m_ui.ScreenshotButton, m_ui.StopButton,
+             m_ui.StopTestButton, m_ui.BackTestButton})
         button->hide();
 }
 
 void MainWindow::buildScreens()
 {
-    m_pDiskStatusPage = new DiskStatus(WidgetFrame);
-    m_pSmartStatusPage = new SmartStatus(WidgetFrame);
-    m_pDiskPartitionPage = new DiskPartition(WidgetFrame);
-    m_pScanDiskPage = new ScanDisk(WidgetFrame);
-    m_pCloneDiskPage = new CloneDisk(WidgetFrame);
+    m_pDiskStatusPage = new DiskStatus(m_ui.WidgetFrame);
+    m_pSmartStatusPage = new SmartStatus(m_ui.WidgetFrame);
+    m_pDiskPartitionPage = new DiskPartition(m_ui.WidgetFrame);
+    m_pScanDiskPage = new ScanDisk(m_ui.WidgetFrame);
+    m_pCloneDiskPage = new CloneDisk(m_ui.WidgetFrame);
     m_apScreens = {m_pDiskStatusPage, m_pSmartStatusPage, m_pDiskPartitionPage, m_pScanDiskPage,
                    m_pCloneDiskPage};
-    m_pAccessNotice = pagelook::named(new AccessNotice(WidgetFrame), "m_pAccessNotice");
+    m_pAccessNotice = pagelook::named(new AccessNotice(m_ui.WidgetFrame), "m_pAccessNotice");
     QList<QWidget *> pages(m_apScreens.cbegin(), m_apScreens.cend());
     for (QWidget *screen : pages << m_pAccessNotice) {
         screen->setFixedSize(style::px(PageGeometry.width()), style::px(PageGeometry.height()));
@@ -194,8 +195,8 @@ void MainWindow::buildScreens()
         screen->hide();
     }
     m_pSettings = new Settings;
-    GifFrame->raise();
-    DriveCombobox->raise();
+    m_ui.GifFrame->raise();
+    m_ui.DriveCombobox->raise();
 }
 
 void MainWindow::buildDialogs()
@@ -216,33 +217,33 @@ void MainWindow::buildNavigation()
     static const char *const names[navigation::ScreenCount] = {
         "DiskStatusButton", "SmartStatusButton", "DiskPartitionButton", "ScanDiskButton", "CloneDiskButton"};
     for (const Screen screen : Screens) {
-        auto *button = pagelook::named(new MyButton(SideButtonLabel), names[screen]);
+        auto *button = pagelook::named(new MyButton(m_ui.SideButtonLabel), names[screen]);
         button->setFont(style::font(10));
         button->setFixedSize(style::px(172), style::px(40));
         button->move(0, style::px(FirstNavigationY + screen * NavigationStep));
         m_apNavigation[screen] = button;
     }
-    BackTestButton->setFont(style::font(10));
-    BackTestButton->setIconSize(QSize(style::px(32), style::px(30)));
+    m_ui.BackTestButton->setFont(style::font(10));
+    m_ui.BackTestButton->setIconSize(QSize(style::px(32), style::px(30)));
     OnBackTestNormalImage();
 }
 
 void MainWindow::buildToolButtons()
 {
     const auto makeButton = [this](const char *name, int x) {
-        return makeHeaderWidget<QPushButton>(ButtonLabel, name, QRect(x, 8, 28, 28));
+        return makeHeaderWidget<QPushButton>(m_ui.ButtonLabel, name, QRect(x, 8, 28, 28));
     };
     m_pHelpButton = makeButton("m_pHelpButton", 101);
     m_pMoreToolsButton = makeButton("m_pMoreToolsButton", 133);
     m_pMenuButton = makeButton("m_pMenuButton", 165);
-    images::setLabelImage(makeHeaderWidget<QLabel>(ButtonLabel, "m_pCompanyLogo", QRect(58, 8, 29, 29)),
+    images::setLabelImage(makeHeaderWidget<QLabel>(m_ui.ButtonLabel, "m_pCompanyLogo", QRect(58, 8, 29, 29)),
                           g_App.m_bKorvaneBrand ? QStringLiteral("img_CompanyLogoKorvane.png")
                                                 : QStringLiteral("img_CompanyLogo.png"));
     dressToolButton(m_pHelpButton, QStringLiteral("img_Help"));
     dressToolButton(m_pMoreToolsButton, QStringLiteral("img_MoreTools"));
     dressToolButton(m_pMenuButton, QStringLiteral("img_Menu"));
-    dressToolButton(minimizeButton, QStringLiteral("img_Minimize"));
-    dressToolButton(CloseButton, QStringLiteral("img_Close"));
+    dressToolButton(m_ui.minimizeButton, QStringLiteral("img_Minimize"));
+    dressToolButton(m_ui.CloseButton, QStringLiteral("img_Close"));
 
     auto *mainMenu = new PopupMenu(true, m_pMenuButton);
     m_pSettingsAction = addEntry(mainMenu, "m_pSettingsAction");
@@ -265,14 +266,14 @@ void MainWindow::retranslateShell()
         m_apNavigation[screen]->setToolTip(tr(navigation::buttons[screen].toolTip));
         m_apNavigation[screen]->setAccessibleName(m_apNavigation[screen]->text().trimmed());
     }
-    DriveCombobox->setAccessibleName(tr("Disk Drive ").trimmed());
+    m_ui.DriveCombobox->setAccessibleName(tr("Disk Drive ").trimmed());
     m_pHelpButton->setToolTip(tr("View Velmora Halvane help document"));
     m_pMoreToolsButton->setToolTip(tr("More Tools"));
     m_pMenuButton->setToolTip(tr("Menu"));
-    minimizeButton->setToolTip(tr("Minimize"));
-    CloseButton->setToolTip(tr("Close"));
+    m_ui.minimizeButton->setToolTip(tr("Minimize"));
+    m_ui.CloseButton->setToolTip(tr("Close"));
     for (QPushButton *button :
-         {m_pHelpButton, m_pMoreToolsButton, m_pMenuButton, minimizeButton, CloseButton})
+         {m_pHelpButton, m_pMoreToolsButton, m_pMenuButton, m_ui.minimizeButton, m_ui.CloseButton})
         button->setAccessibleName(button->toolTip());
     m_pSettingsAction->setText(tr("Settings"));
     m_pAboutAction->setText(tr("About"));
@@ -281,14 +282,16 @@ void MainWindow::retranslateShell()
     m_pPhotoAction->setText(tr("Repair Photo"));
 
     const languages::Language &language = languages::current();
-    SideButtonLabel->setFixedWidth(style::px(language.sideWidth));
+    m_ui.SideButtonLabel->setFixedWidth(style::px(language.sideWidth));
     constexpr int Gap = 10;
     constexpr int RightMargin = 16;
-    ReportSaveButton->setFixedSize(style::px(language.reportWidth), style::px(32));
-    ScreenshotButton->setFixedSize(style::px(language.screenshotWidth), style::px(32));
-    const int y = ReportSaveButton->y();
-    ScreenshotButton->move(BottamLabel->width() - style::px(RightMargin) - ScreenshotButton->width(), y);
-    ReportSaveButton->move(ScreenshotButton->x() - style::px(Gap) - ReportSaveButton->width(), y);
+    m_ui.ReportSaveButton->setFixedSize(style::px(language.reportWidth), style::px(32));
+    m_ui.ScreenshotButton->setFixedSize(style::px(language.screenshotWidth), style::px(32));
+    const int y = m_ui.ReportSaveButton->y();
+    m_ui.ScreenshotButton->move(
+        m_ui.BottamLabel->width() - style::px(RightMargin) - m_ui.ScreenshotButton->width(), y);
+    m_ui.ReportSaveButton->move(m_ui.ScreenshotButton->x() - style::px(Gap) - m_ui.ReportSaveButton->width(),
+                                y);
 }
 
 void MainWindow::connectNavigation()
@@ -315,26 +318,26 @@ void MainWindow::connectNavigation()
         connect(button, &MyButton::OnReleasePixmap, this, table[screen][3]);
         button->installEventFilter(this);
     }
-    connect(BackTestButton, &MyButton1::ChangePixmap1, this, &MainWindow::OnBackTestHoverImage);
-    connect(BackTestButton, &MyButton1::OnUpdatePixmap1, this, &MainWindow::OnBackTestNormalImage);
-    connect(BackTestButton, &MyButton1::OnPressPixmap1, this, &MainWindow::OnBackTestPressImage);
-    connect(BackTestButton, &MyButton1::OnReleasePixmap1, this, &MainWindow::OnBackTestReleaseImage);
+    connect(m_ui.BackTestButton, &MyButton1::ChangePixmap1, this, &MainWindow::OnBackTestHoverImage);
+    connect(m_ui.BackTestButton, &MyButton1::OnUpdatePixmap1, this, &MainWindow::OnBackTestNormalImage);
+    connect(m_ui.BackTestButton, &MyButton1::OnPressPixmap1, this, &MainWindow::OnBackTestPressImage);
+    connect(m_ui.BackTestButton, &MyButton1::OnReleasePixmap1, this, &MainWindow::OnBackTestReleaseImage);
 }
 
 void MainWindow::connectAll()
 {
     connectNavigation();
     connectPages();
-    connect(DriveCombobox, QOverload<int>::of(&QComboBox::activated), this,
+    connect(m_ui.DriveCombobox, QOverload<int>::of(&QComboBox::activated), this,
             &MainWindow::OnActivatedDriveCombo);
-    connect(minimizeButton, &QPushButton::clicked, this, &MainWindow::OnMinimized);
-    connect(CloseButton, &QPushButton::clicked, this, &MainWindow::OnClose);
-    connect(StopButton, &QPushButton::clicked, this, &MainWindow::OnStop);
-    connect(StopTestButton, &QPushButton::clicked, this, &MainWindow::OnClickStopTestButton);
-    connect(ScanButton, &QPushButton::clicked, this, &MainWindow::OnScanStart);
-    connect(CloneButton, &QPushButton::clicked, this, &MainWindow::OnCloneStart);
-    connect(ReportSaveButton, &QPushButton::clicked, this, &MainWindow::SavePDFReport);
-    connect(ScreenshotButton, &QPushButton::clicked, this, &MainWindow::TakeScreenshot);
+    connect(m_ui.minimizeButton, &QPushButton::clicked, this, &MainWindow::OnMinimized);
+    connect(m_ui.CloseButton, &QPushButton::clicked, this, &MainWindow::OnClose);
+    connect(m_ui.StopButton, &QPushButton::clicked, this, &MainWindow::OnStop);
+    connect(m_ui.StopTestButton, &QPushButton::clicked, this, &MainWindow::OnClickStopTestButton);
+    connect(m_ui.ScanButton, &QPushButton::clicked, this, &MainWindow::OnScanStart);
+    connect(m_ui.CloneButton, &QPushButton::clicked, this, &MainWindow::OnCloneStart);
+    connect(m_ui.ReportSaveButton, &QPushButton::clicked, this, &MainWindow::SavePDFReport);
+    connect(m_ui.ScreenshotButton, &QPushButton::clicked, this, &MainWindow::TakeScreenshot);
     connect(m_pMenuButton, &QPushButton::clicked, this, &MainWindow::OnHideButtons);
     connect(m_pSettingsAction, &QAction::triggered, this, &MainWindow::OnShowSettings);
     connect(m_pAboutAction, &QAction::triggered, this, &MainWindow::OnShowAbout);
@@ -384,11 +387,11 @@ void MainWindow::startTemperatureTimer()
 void MainWindow::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange) {
-        retranslateUi(this);
+        m_ui.retranslateUi(this);
         retranslateShell();
         if (isOnShow(navigation::DiskPartitionScreen))
             ShowPartitions(tr("(BitLocker)"));
-        if (!ResultLabel->text().isEmpty())
+        if (!m_ui.ResultLabel->text().isEmpty())
             showOverallResult();
         if (SettingsStore().flag(key::ShowTrayIcon)) {
             companion::kill();

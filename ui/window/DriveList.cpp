@@ -11,8 +11,8 @@
 
 void MainWindow::FillDriveCombos()
 {
-    const QSignalBlocker block(DriveCombobox);
-    DriveCombobox->clear();
+    const QSignalBlocker block(m_ui.DriveCombobox);
+    m_ui.DriveCombobox->clear();
     m_hashComboToDisk.clear();
     for (DiskNode &node : g_App.m_diskList) {
         if (!isPhysicalKind(node.nKind))
@@ -22,8 +22,8 @@ void MainWindow::FillDriveCombos()
     }
     const std::vector<drivetexts::Entry> disks = drivetexts::entries(g_App.m_diskList);
     for (const drivetexts::Entry &entry : disks) {
-        m_hashComboToDisk.insert(DriveCombobox->count(), entry.node->nId);
-        DriveCombobox->addItem(entry.texts.drive, static_cast<int>(entry.node->nId));
+        m_hashComboToDisk.insert(m_ui.DriveCombobox->count(), entry.node->nId);
+        m_ui.DriveCombobox->addItem(entry.texts.drive, static_cast<int>(entry.node->nId));
     }
     m_pCloneDiskPage->FillSources(disks);
 }
@@ -53,16 +53,16 @@ void MainWindow::OnTargetChangeIndex(int nIndex)
 {
     m_pCloneDiskPage->ShowTargetDetails(nIndex != 0);
     if (nIndex != 0)
-        CloneButton->setEnabled(true);
+        m_ui.CloneButton->setEnabled(true);
 }
 
 void MainWindow::selectCloneArgument()
 {
     const auto disk = startargument::cloneDiskText(g_strStartArgument);
-    for (int i = 0; disk && i < DriveCombobox->count(); ++i) {
-        if (startargument::matchesDisk(DriveCombobox->itemText(i), *disk) ||
+    for (int i = 0; disk && i < m_ui.DriveCombobox->count(); ++i) {
+        if (startargument::matchesDisk(m_ui.DriveCombobox->itemText(i), *disk) ||
             startargument::matchesDisk(m_pCloneDiskPage->SourceText(i), *disk)) {
-            DriveCombobox->setCurrentIndex(i);
+            m_ui.DriveCombobox->setCurrentIndex(i);
             return;
         }
     }
@@ -75,8 +75,8 @@ void MainWindow::refreshClonePage()
     if (g_bListsLoading || g_Jobs.runs(Job::Clone))
         return;
     clearIdentityTexts();
-    m_pCloneDiskPage->ChooseSource(DriveCombobox->currentIndex());
-    LookUpDisk(DriveCombobox->currentIndex());
+    m_pCloneDiskPage->ChooseSource(m_ui.DriveCombobox->currentIndex());
+    LookUpDisk(m_ui.DriveCombobox->currentIndex());
     m_pCloneDiskPage->RefreshSourceDetails(g_App.m_pCurrentDisk);
 }
 
@@ -95,7 +95,7 @@ void MainWindow::OnRefresh()
     // The disk numbers in this question may belong to other disks in the new lists.
     m_pCloneWarning->hide();
     enterBusy(tr("Please wait. Application Refreshing..."));
-    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    m_ui.label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     // From here to OnInitialize() only the refresh thread may use the lists. It waits for a read that is
     // under way, as both write one file.
     m_bRefreshAgain = g_bListsLoading;
@@ -125,11 +125,11 @@ void MainWindow::OnInitialize()
     g_bListsLoading = false;
     FillDriveCombos();
     const int systemDisk = GetSystemDiskIndex().toInt();
-    for (int i = 0; i < DriveCombobox->count(); ++i) {
+    for (int i = 0; i < m_ui.DriveCombobox->count(); ++i) {
         // Compares the plain disk number with 128 + number: on a normal machine nothing matches, and the
         // selection stays at the first item.
-        if (DriveCombobox->itemData(i).toInt() == systemDisk) {
-            DriveCombobox->setCurrentIndex(i);
+        if (m_ui.DriveCombobox->itemData(i).toInt() == systemDisk) {
+            m_ui.DriveCombobox->setCurrentIndex(i);
             m_pCloneDiskPage->ChooseSource(i);
         }
     }

@@ -44,21 +44,22 @@ void MainWindow::connectKeys()
     }
     add(QKeySequence(Qt::Key_F1), [this] { OnOpenHelp(); });
     add(QKeySequence(Qt::Key_F5), [this] { OnRefresh(); });
-    add(QKeySequence(Qt::CTRL + Qt::Key_S), [this] { pressIfShown(ReportSaveButton); });
-    add(QKeySequence(Qt::CTRL + Qt::Key_P), [this] { pressIfShown(ScreenshotButton); });
+    add(QKeySequence(Qt::CTRL + Qt::Key_S), [this] { pressIfShown(m_ui.ReportSaveButton); });
+    add(QKeySequence(Qt::CTRL + Qt::Key_P), [this] { pressIfShown(m_ui.ScreenshotButton); });
 }
 
 /// The key Tab goes through the window as it is read: title, navigation, disk, page, buttons below.
 void MainWindow::orderFocus()
 {
-    QList<QWidget *> order{m_pHelpButton, m_pMoreToolsButton, m_pMenuButton, minimizeButton, CloseButton};
+    QList<QWidget *> order{m_pHelpButton, m_pMoreToolsButton, m_pMenuButton, m_ui.minimizeButton,
+                           m_ui.CloseButton};
     for (MyButton *button : m_apNavigation)
         order << button;
-    order << DriveCombobox;
+    order << m_ui.DriveCombobox;
     for (QWidget *page : m_apScreens)
         order << focusable(page);
-    order << BackTestButton << StopTestButton << StopButton << ScanButton << CloneButton << ReportSaveButton
-          << ScreenshotButton;
+    order << m_ui.BackTestButton << m_ui.StopTestButton << m_ui.StopButton << m_ui.ScanButton
+          << m_ui.CloneButton << m_ui.ReportSaveButton << m_ui.ScreenshotButton;
     for (int i = 1; i < order.size(); ++i)
         setTabOrder(order.at(i - 1), order.at(i));
 }

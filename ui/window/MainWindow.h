@@ -36,7 +36,7 @@ class QTimer;
 /// The frameless window with its five screens, of which one shows at a time, and the wiring between them and
 /// the engines below. Created once, never deleted. Main thread only. The definitions are split by screen in
 /// ui/window/.
-class MainWindow : public QMainWindow, private Ui::m_pMainWindow
+class MainWindow : public QMainWindow
 {
     Q_OBJECT
 
@@ -66,9 +66,9 @@ public:
 
 public slots:
     void OnSystemShutDown();
-    void OnCloningProcesFailed() { DriveCombobox->setEnabled(true); }
+    void OnCloningProcesFailed() { m_ui.DriveCombobox->setEnabled(true); }
     void OnInitializeSmart();
-    void OnComboboxIndexChange(int index) { DriveCombobox->setCurrentIndex(index); }
+    void OnComboboxIndexChange(int index) { m_ui.DriveCombobox->setCurrentIndex(index); }
     void OnFinishDiskCloning();
     void OnStopCancel();
     void OnStopConfirm();
@@ -214,7 +214,7 @@ private:
     void refreshBehindJob();
     void selectCloneArgument();
     void refreshClonePage();
-    int currentComboDisk() const { return DriveCombobox->currentData().toInt() - PhysicalDriveBase; }
+    int currentComboDisk() const { return m_ui.DriveCombobox->currentData().toInt() - PhysicalDriveBase; }
     /// @}
 
     /// \name Jobs
@@ -239,6 +239,7 @@ private:
     void launchSibling(const QString &fileName);
     /// @}
 
+    Ui::m_pMainWindow m_ui;
     /// Buttons and pages by navigation::Screen.
     std::array<MyButton *, navigation::ScreenCount> m_apNavigation{};
     std::array<QWidget *, navigation::ScreenCount> m_apScreens{};

@@ -78,11 +78,11 @@ void MainWindow::pressNavigation(Screen screen)
     selectButton(screen);
     const navigation::Button &shown = navigation::buttons[screen];
     if (!shown.scan)
-        ScanButton->hide();
+        m_ui.ScanButton->hide();
     if (!shown.clone)
-        CloneButton->hide();
-    BackTestButton->hide();
-    StopTestButton->hide();
+        m_ui.CloneButton->hide();
+    m_ui.BackTestButton->hide();
+    m_ui.StopTestButton->hide();
     callShowSlot(screen);
 }
 
@@ -106,18 +106,18 @@ void MainWindow::showScreen(Screen screen)
     for (const Screen other : Screens)
         m_apScreens[other]->setVisible(other == screen);
     const navigation::Button &shown = navigation::buttons[screen];
-    ScanButton->setVisible(shown.scan);
+    m_ui.ScanButton->setVisible(shown.scan);
     const bool cloning = g_Jobs.runs(Job::Clone);
     // OnShowCloneDisk() can run while Scan Disk is the screen on show.
-    CloneButton->setVisible(shown.clone && !cloning && !isOnShow(navigation::ScanDiskScreen));
+    m_ui.CloneButton->setVisible(shown.clone && !cloning && !isOnShow(navigation::ScanDiskScreen));
     // A clone goes on while another screen is on show. There the Stop button would be taken for that of a
     // scan.
     if (cloning)
-        StopButton->setVisible(shown.clone && !g_bAbortJob);
-    ReportSaveButton->setVisible(shown.report);
-    ScreenshotButton->setVisible(shown.screenshot);
-    BackTestButton->hide();
-    StopTestButton->hide();
+        m_ui.StopButton->setVisible(shown.clone && !g_bAbortJob);
+    m_ui.ReportSaveButton->setVisible(shown.report);
+    m_ui.ScreenshotButton->setVisible(shown.screenshot);
+    m_ui.BackTestButton->hide();
+    m_ui.StopTestButton->hide();
     showAccess();
 }
 
@@ -130,8 +130,9 @@ void MainWindow::showAccess()
     m_pAccessNotice->setVisible(denied);
     for (const Screen screen : Screens)
         m_apScreens[screen]->setVisible(!denied && isOnShow(screen));
-    for (QWidget *idle : std::initializer_list<QWidget *>{DriveCombobox, ScanButton, CloneButton,
-                                                          ReportSaveButton, ScreenshotButton})
+    for (QWidget *idle :
+         std::initializer_list<QWidget *>{m_ui.DriveCombobox, m_ui.ScanButton, m_ui.CloneButton,
+                                          m_ui.ReportSaveButton, m_ui.ScreenshotButton})
         idle->setEnabled(!denied);
 }
 
@@ -155,7 +156,7 @@ void MainWindow::OnShowDiskPartition()
 
 void MainWindow::OnShowCloneDisk()
 {
-    CloneButton->setEnabled(true);
+    m_ui.CloneButton->setEnabled(true);
     showScreen(navigation::CloneDiskScreen);
     refreshClonePage();
 }
@@ -166,7 +167,7 @@ void MainWindow::OnSwitchConfirm()
     dropScanResults();
     g_Jobs.closeResults();
     g_Jobs.dropPlan();
-    DriveCombobox->setEnabled(!g_Jobs.runs(Job::Clone));
+    m_ui.DriveCombobox->setEnabled(!g_Jobs.runs(Job::Clone));
     for (const Screen screen : Screens) {
         if (!m_abSwitchTarget[screen])
             continue;
@@ -215,8 +216,8 @@ void MainWindow::OnStopConfirm()
     m_pScanDiskPage->ForgetEstimate();
     // The button stays hidden until the thread of the job has ended: a No to a second question would take
     // back this Yes.
-    StopButton->hide();
-    StopTestButton->hide();
+    m_ui.StopButton->hide();
+    m_ui.StopTestButton->hide();
     g_Jobs.stop();
     if (m_pCloneDiskPage->isVisible()) {
         setLook(navigation::CloneDiskScreen, Look::Selected);
@@ -231,7 +232,7 @@ void MainWindow::OnStopConfirm()
 
 void MainWindow::setBackLook(Look look)
 {
-    dress(BackTestButton, BackImages, static_cast<std::size_t>(look));
+    dress(m_ui.BackTestButton, BackImages, static_cast<std::size_t>(look));
 }
 
 void MainWindow::OnBackTestPressImage()

@@ -68,7 +68,7 @@ void MainWindow::TakeScreenshot()
 {
     if (!reportKnown())
         return;
-    ScreenshotButton->show();
+    m_ui.ScreenshotButton->show();
     QPixmap picture(m_pSmartStatusPage->size());
     picture.fill(Qt::white);
     QPainter painter(&picture);

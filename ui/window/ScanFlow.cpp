@@ -25,16 +25,16 @@ void MainWindow::OnShowScanDisk()
         m_pScanDiskPage->ShowCounters();
     else
         m_pScanDiskPage->ShowChooser();
-    DriveCombobox->setEnabled(!g_Jobs.runs(Job::Clone));
+    m_ui.DriveCombobox->setEnabled(!g_Jobs.runs(Job::Clone));
     showScreen(navigation::ScanDiskScreen);
     refreshScanPage();
 }
 
 void MainWindow::refreshScanPage()
 {
-    LookUpDisk(DriveCombobox->currentIndex());
+    LookUpDisk(m_ui.DriveCombobox->currentIndex());
     // A job whose screen the user has left keeps its own current disk until its thread has ended.
-    const DiskNode *node = findPhysicalDisk(DriveCombobox->currentData().toInt());
+    const DiskNode *node = findPhysicalDisk(m_ui.DriveCombobox->currentData().toInt());
     m_pScanDiskPage->FillDisk(node);
     // The panel of a refused test still names the previous disk.
     if (m_pScanDiskPage->IsSelfTestShown() && !g_bSelfTestResultOpen)
@@ -51,7 +51,7 @@ void MainWindow::refreshScanPage()
 
 MainWindow::ChosenDisk MainWindow::chosenDisk() const
 {
-    return {DriveCombobox->currentData().toInt(), DriveCombobox->currentText()};
+    return {m_ui.DriveCombobox->currentData().toInt(), m_ui.DriveCombobox->currentText()};
 }
 
 /// A refresh chooses the first disk. If results are on show, this chooses the disk that they belong to
@@ -60,10 +60,10 @@ void MainWindow::keepScannedDisk()
 {
     if (!g_Jobs.resultOpen())
         return;
-    const int index = DriveCombobox->findData(m_scannedDisk.first);
-    if (index < 0 || DriveCombobox->itemText(index) != m_scannedDisk.second)
+    const int index = m_ui.DriveCombobox->findData(m_scannedDisk.first);
+    if (index < 0 || m_ui.DriveCombobox->itemText(index) != m_scannedDisk.second)
         return;
-    DriveCombobox->setCurrentIndex(index);
+    m_ui.DriveCombobox->setCurrentIndex(index);
     m_pCloneDiskPage->ChooseSource(index);
 }
 
@@ -72,7 +72,7 @@ void MainWindow::OnScanStart()
     if (!g_Jobs.mayStart())
         return;
     // Without a disk there is nothing that could fail.
-    LookUpDisk(DriveCombobox->currentIndex());
+    LookUpDisk(m_ui.DriveCombobox->currentIndex());
     if (!m_pScanDiskPage->ChosenTest() && !g_App.m_pCurrentDisk)
         return;
     OnCheckRadioButton();
@@ -107,12 +107,12 @@ void MainWindow::OnFinishScanDisk()
     refreshBehindJob();
     // A user who has left the scan meanwhile stays where he is.
     if (!g_bScanResultOpen) {
-        if (!g_App.m_pCurrentDisk || g_App.m_pCurrentDisk->nId != DriveCombobox->currentData().toInt())
+        if (!g_App.m_pCurrentDisk || g_App.m_pCurrentDisk->nId != m_ui.DriveCombobox->currentData().toInt())
             RefreshSelectedDisk();
         return;
     }
-    ScanButton->show();
-    BackTestButton->show();
+    m_ui.ScanButton->show();
+    m_ui.BackTestButton->show();
     selectButton(navigation::ScanDiskScreen);
 }
 
@@ -121,14 +121,15 @@ void MainWindow::lockShell(Screen screen)
 {
     setMenuEntriesEnabled(false);
     // Who has started the job by a key can stop it by a key.
-    m_bStartedByKey = focusWidget() == ScanButton || focusWidget() == CloneButton;
-    for (QWidget *idle : std::initializer_list<QWidget *>{ScanButton, CloneButton, ScreenshotButton,
-                                                          BackTestButton, StopTestButton})
+    m_bStartedByKey = focusWidget() == m_ui.ScanButton || focusWidget() == m_ui.CloneButton;
+    for (QWidget *idle :
+         std::initializer_list<QWidget *>{m_ui.ScanButton, m_ui.CloneButton, m_ui.ScreenshotButton,
+                                          m_ui.BackTestButton, m_ui.StopTestButton})
         idle->hide();
-    StopButton->show();
+    m_ui.StopButton->show();
     if (m_bStartedByKey)
-        StopButton->setFocus();
-    DriveCombobox->setEnabled(false);
+        m_ui.StopButton->setFocus();
+    m_ui.DriveCombobox->setEnabled(false);
     enableNavigation(false);
     selectButton(screen);
 }
@@ -140,9 +141,9 @@ void MainWindow::releaseShell()
     keepAwake();
     // There is nothing left to be stopped.
     m_pConfirmation->hide();
-    StopButton->hide();
-    ScanButton->setEnabled(true);
-    DriveCombobox->setEnabled(true);
+    m_ui.StopButton->hide();
+    m_ui.ScanButton->setEnabled(true);
+    m_ui.DriveCombobox->setEnabled(true);
     enableNavigation();
     if (m_bStartedByKey && m_screen)
         m_apNavigation[*m_screen]->setFocus();
@@ -184,11 +185,11 @@ void MainWindow::dropScanResults()
     // Closes the question that may still be open: a No would let the scan go on where nobody can stop it.
     m_pConfirmation->hide();
     if (g_Jobs.runs(Job::Scan)) {
-        StopButton->hide();
-        ScanButton->setEnabled(false);
+        m_ui.StopButton->hide();
+        m_ui.ScanButton->setEnabled(false);
     }
     if (g_Jobs.runs(Job::Clone))
-        ScanButton->setEnabled(false);
+        m_ui.ScanButton->setEnabled(false);
     m_pScanDiskPage->HideResult();
     m_pScanDiskPage->DropResults();
     refreshBehindJob();

@@ -40,7 +40,7 @@ void MainWindow::OnCheckRadioButton()
 void MainWindow::DetailsforSelftest()
 {
     g_nCurrentDiskIndex = currentComboDisk();
-    const int comboIndex = DriveCombobox->currentIndex();
+    const int comboIndex = m_ui.DriveCombobox->currentIndex();
     LookUpDisk(comboIndex);
     if (const WmicDiskRecord *record =
             findWmicDisk(static_cast<std::uint32_t>(g_nCurrentDiskIndex + PhysicalDriveBase))) {
@@ -62,10 +62,10 @@ void MainWindow::OnCheckShortTest1()
     if (!m_selfTest.canRun()) {
         showCentred(m_pSelfTestNotSupported);
         // It leads back to the choice of a test.
-        BackTestButton->show();
+        m_ui.BackTestButton->show();
         return;
     }
-    DriveCombobox->setEnabled(false);
+    m_ui.DriveCombobox->setEnabled(false);
     m_pScanDiskPage->ShowSelfTest(m_shownTest);
     showTestButtons(true);
     g_bOnTestScreen = true;
@@ -76,14 +76,14 @@ void MainWindow::OnCheckShortTest1()
 /// first progress that the drive tells.
 void MainWindow::showTestButtons(bool running)
 {
-    StopTestButton->hide();
+    m_ui.StopTestButton->hide();
     // The user may have left the screen of the test. Other screens do not show these buttons.
     const bool ended = !running && isOnShow(navigation::ScanDiskScreen);
     if (!running)
         keepAwake();
-    ScanButton->setVisible(ended);
-    BackTestButton->setVisible(ended);
-    BottamLabel->show();
+    m_ui.ScanButton->setVisible(ended);
+    m_ui.BackTestButton->setVisible(ended);
+    m_ui.BottamLabel->show();
 }
 
 void MainWindow::OnStartShortSelfTest()
@@ -142,7 +142,7 @@ void MainWindow::takeTestStep(const SelfTest::Step &step)
         if (screen != navigation::ScanDiskScreen)
             setNavigationEnabled(screen, false);
     }
-    StopTestButton->show();
+    m_ui.StopTestButton->show();
     m_shownTest.percent = step.percent;
     m_shownTest.status = step.told;
     if (step.minutes)
@@ -179,7 +179,7 @@ void MainWindow::OnClickStopTestButton()
 void MainWindow::OnCloseSelfTestNotSupported()
 {
     m_pSelfTestNotSupported->hide();
-    DriveCombobox->setEnabled(true);
+    m_ui.DriveCombobox->setEnabled(true);
 }
 
 void MainWindow::ChooseScanType()
@@ -187,9 +187,9 @@ void MainWindow::ChooseScanType()
     for (QWidget *screen : m_apScreens)
         screen->setVisible(screen == m_pScanDiskPage);
     m_pScanDiskPage->ShowChooser();
-    ScanButton->show();
-    DriveCombobox->setEnabled(true);
-    BackTestButton->hide();
-    StopTestButton->hide();
+    m_ui.ScanButton->show();
+    m_ui.DriveCombobox->setEnabled(true);
+    m_ui.BackTestButton->hide();
+    m_ui.StopTestButton->hide();
     g_bOnTestScreen = false;
 }

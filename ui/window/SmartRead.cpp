@@ -49,7 +49,8 @@ void MainWindow::takeUpChosenDisk()
     m_pDiskStatusPage->clearDisk();
     m_pSmartStatusPage->ClearDisk();
     m_pDiskPartitionPage->ClearVolumes();
-    for (QLabel *value : {SerialNumValLabel, InterfaceTypeLabel, CapacityValLabel, ResultLabel})
+    for (QLabel *value :
+         {m_ui.SerialNumValLabel, m_ui.InterfaceTypeLabel, m_ui.CapacityValLabel, m_ui.ResultLabel})
         value->clear();
     showWaitingTiles();
 }
@@ -68,8 +69,8 @@ void MainWindow::showWaitingTiles()
                                 waitingTemperatureText(SettingsStore().text(key::TempValue)));
     m_pDiskStatusPage->showTile(DiskStatus::Health, g_strHealthText);
     m_pDiskStatusPage->showTile(DiskStatus::Performance, g_strPerformanceText);
-    for (QLabel *summary : {SerialNumLabel, SerialNumValLabel, InterfaceTypeLabel, CapacityValLabel,
-                            SmartStatusLabel, ResultLabel})
+    for (QLabel *summary : {m_ui.SerialNumLabel, m_ui.SerialNumValLabel, m_ui.InterfaceTypeLabel,
+                            m_ui.CapacityValLabel, m_ui.SmartStatusLabel, m_ui.ResultLabel})
         summary->hide();
 }
 
@@ -85,7 +86,7 @@ void MainWindow::RefreshSelectedDisk()
     clearIdentityTexts();
     if (g_App.m_bAccessDenied)
         return;
-    LookUpDisk(DriveCombobox->currentIndex());
+    LookUpDisk(m_ui.DriveCombobox->currentIndex());
     if (isOnShow(navigation::DiskStatusScreen)) {
         startRead();
     } else if (isOnShow(navigation::SmartStatusScreen)) {
@@ -120,8 +121,8 @@ void MainWindow::startRead()
 /// The buttons work only while the report of the chosen disk is known.
 void MainWindow::updateReportButtons()
 {
-    ReportSaveButton->setEnabled(reportKnown());
-    ScreenshotButton->setEnabled(reportKnown());
+    m_ui.ReportSaveButton->setEnabled(reportKnown());
+    m_ui.ScreenshotButton->setEnabled(reportKnown());
 }
 
 bool MainWindow::reportKnown() const
@@ -133,19 +134,19 @@ void MainWindow::enterBusy(const QString &text)
 {
     QMovie *previous = m_pMovie;
     m_pMovie = images::newMovie(QStringLiteral("img_Scan.gif"), this);
-    Giflabel->setMovie(m_pMovie);
+    m_ui.Giflabel->setMovie(m_pMovie);
     delete previous;
-    label->setText(text);
-    label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    m_ui.label->setText(text);
+    m_ui.label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_pMovie->start();
-    GifFrame->show();
+    m_ui.GifFrame->show();
 }
 
 void MainWindow::leaveBusy()
 {
     if (m_pMovie)
         m_pMovie->stop();
-    GifFrame->hide();
+    m_ui.GifFrame->hide();
 }
 
 void MainWindow::prepareLogFolder()
@@ -198,9 +199,9 @@ void MainWindow::initializeSmartStatus()
     ComputePerformance();
     ComputeHealth();
     g_bSmartAvailable = celsius != 0;
-    LookUpDisk(DriveCombobox->currentIndex());
+    LookUpDisk(m_ui.DriveCombobox->currentIndex());
     m_pSmartStatusPage->ShowReading(overallResult(g_bSmartAvailable, celsius, g_driveVerdict));
-    InterfaceTypeLabel->setText(m_pSmartStatusPage->InterfaceText());
+    m_ui.InterfaceTypeLabel->setText(m_pSmartStatusPage->InterfaceText());
     FillSmartTable();
 }
 
@@ -245,7 +246,7 @@ void MainWindow::ShowDiskLifeDetails()
         identityTextsAfterRead(node, record, g_nCurrentDiskIndex,
                                {g_strModelName, g_strSerialNumber, g_strFirmware, g_bSmartAvailable});
     if (texts.summary)
-        SerialNumValLabel->setText(*texts.summary);
+        m_ui.SerialNumValLabel->setText(*texts.summary);
     if (texts.interfaceText)
         g_strInterface = *texts.interfaceText;
     showOverallResult();
@@ -256,7 +257,8 @@ void MainWindow::ShowDiskLifeDetails()
 
 void MainWindow::showOverallResult()
 {
-    pagelook::showResult(ResultLabel, overallResult(g_bSmartAvailable, GetDiskTemperature(), g_driveVerdict));
+    pagelook::showResult(m_ui.ResultLabel,
+                         overallResult(g_bSmartAvailable, GetDiskTemperature(), g_driveVerdict));
 }
 
 void MainWindow::FillSmartTable()
