@@ -4,7 +4,9 @@
 #include "inventory/CommandRunner.h"
 #include "platform/Platform.h"
 #include "state/GlobalApp.h"
+#include "state/SettingsStore.h"
 
+#include <QCoreApplication>
 #include <QTextStream>
 
 namespace companion
@@ -55,6 +57,25 @@ void kill()
 {
     RunSilent(g_App.m_strSystemFolder + QStringLiteral("\\Taskkill.exe /IM ") + fileName() +
               QStringLiteral(" /F"));
+}
+
+void setWanted(bool wanted)
+{
+    SettingsStore store;
+    if (wanted) {
+        LogonTask task;
+        task.name = taskName();
+        task.author = g_App.m_strUserName;
+        task.program = QCoreApplication::applicationDirPath() + QLatin1Char('/') + fileName();
+        task.arguments = QStringLiteral("Schedular");
+        Platform::current().CreateLogonTask(task);
+        ensureRunning();
+    }
+    store.write(key::ShowTrayIcon, wanted ? 1 : 0);
+    if (!wanted) {
+        Platform::current().DeleteLogonTask(taskName());
+        kill();
+    }
 }
 
 void killAfterRead()

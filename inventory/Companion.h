@@ -32,6 +32,10 @@ void ensureRunning();
 /// The kill command of the settings and of a language change.
 void kill();
 
+/// Whether the status is to show in the tray: stores it, and makes the logon task and starts the companion,
+/// or deletes and kills them.
+void setWanted(bool wanted);
+
 /// The kill command that follows a read with the tray option off; it names the first brand's companion.
 void killAfterRead();
 

@@ -8,6 +8,12 @@ namespace attributecolumns
 {
 
 constexpr int Count = 12;
+constexpr int Name = 1;
+/// The hidden column of a row's key.
+constexpr int key(bool nvme)
+{
+    return nvme ? 3 : 7;
+}
 
 struct Column {
     const char *header = nullptr; ///< context SmartStatus; null: keeps what it has

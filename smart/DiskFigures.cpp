@@ -2,11 +2,14 @@
 #include "smart/DiskFigures.h"
 
 #include "platform/Log.h"
+#include "smart/AttributeHistory.h"
 #include "smart/ReportParser.h"
 #include "smart/SelfTestText.h"
 #include "smart/SmartGlobals.h"
 #include "state/GlobalApp.h"
 #include "state/Globals.h"
+
+#include <QDateTime>
 
 namespace
 {
@@ -52,6 +55,12 @@ bool takeUpDisk(int disk)
                           &g_strAtaVersion, &g_strGraphTitle, &g_strLastTestType, &g_strLastTestResult})
         text->clear();
     return true;
+}
+
+void forgetIdentity()
+{
+    for (QString *text : {&g_strSerialNumber, &g_strModelName, &g_strFirmware})
+        text->clear();
 }
 
 void publish(const LoadedReport &loaded)
@@ -105,6 +114,30 @@ QString serialOfGraph()
             ? findWmicDisk(static_cast<quint32>(PhysicalDriveBase + g_nCurrentDiskIndex))
             : nullptr;
     return record ? record->szSmartSerial.text() : g_strSerialNumber;
+}
+
+std::vector<AttributeRow> currentRows()
+{
+    return g_App.m_bNVMe ? nvmeRows(g_nvmeTable.rows) : ataRows(g_smartTable.rows);
+}
+
+void keepHistory(const std::vector<AttributeRow> &rows)
+{
+    std::vector<HistoryValue> values;
+    for (const AttributeRow &row : rows)
+        values.push_back({row.key, row.historyValue});
+    recordHistory(g_strSerialNumber, QDateTime::currentDateTime(), values);
+}
+
+std::optional<GraphModel> currentGraph(const QString &key)
+{
+    const HistoryPaths paths = historyPaths(serialOfGraph());
+    bool opened = false;
+    const std::vector<QString> dates = readHistoryDates(paths.dates, &opened);
+    if (!opened)
+        return std::nullopt;
+    return graphModel(g_App.m_bNVMe ? GraphKind::Nvme : GraphKind::Ata, key, dates,
+                      readHistoryValues(paths.values, dates, key), QDate::currentDate());
 }
 
 void ReadPreviousTest(const QString &device)

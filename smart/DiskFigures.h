@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "smart/AttributeGraph.h"
+#include "smart/AttributeRows.h"
 #include "smart/Rating.h"
 #include "smart/ToolInvocation.h"
 
@@ -12,6 +14,9 @@ constexpr int NoDisk = -1;
 /// Makes `disk` (its physical number, or NoDisk) the one that the globals are of. Where that was another one
 /// everything is forgotten but the three identity texts, g_bReportPending is set, and true comes back.
 bool takeUpDisk(int disk);
+
+/// Forgets the three identity texts: serial number, model, firmware.
+void forgetIdentity();
 
 /// Where the report lies that SMARTThread read, and its device.
 void publish(const LoadedReport &loaded);
@@ -32,6 +37,15 @@ void updateLifeFigures();
 
 /// The serial number whose history is drawn: the report's or, where it tells none, that of the disk table.
 QString serialOfGraph();
+
+/// The rows of the report that was taken in last, of its kind.
+std::vector<AttributeRow> currentRows();
+
+/// Enters such rows as the values of today in the history of their disk.
+void keepHistory(const std::vector<AttributeRow> &rows);
+
+/// The graph of an attribute of the disk, by its key; nothing where there is no history.
+std::optional<GraphModel> currentGraph(const QString &key);
 
 /// Has the report tool tell the self-tests of the disk of that device string, and takes the newest. What the
 /// log does not tell stays. Blocks.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "smart/SelfTest.h"
 
+#include "smart/SmartGlobals.h"
 #include "smart/ToolInvocation.h"
 #include "state/GlobalApp.h"
 #include "state/JobState.h"
@@ -37,11 +38,15 @@ void SelfTest::prepare(std::optional<SelfTestKind> kind)
     readFor(ToolPurpose::Capabilities,
             [kind, &found](QTextStream &text) { found = selftest::readCapabilities(text, kind); });
     g_bSelfTestSupported = found.supported;
-    if (!kind || !found.minutes)
-        return;
-    g_bExtendedTest = *kind == SelfTestKind::Extended;
-    (g_bExtendedTest ? g_nExtendedMinutes : g_nShortMinutes) = *found.minutes;
-    g_nRemainingMinutes[current()] = *found.minutes;
+    if (kind && found.minutes) {
+        g_bExtendedTest = *kind == SelfTestKind::Extended;
+        (g_bExtendedTest ? g_nExtendedMinutes : g_nShortMinutes) = *found.minutes;
+        g_nRemainingMinutes[current()] = *found.minutes;
+    }
+    m_shown = {};
+    m_shown.kind = currentSelfTest();
+    m_shown.model = g_strSelfTestModel;
+    m_shown.serial = g_strSelfTestSerial;
 }
 
 bool SelfTest::canRun() const
@@ -61,6 +66,12 @@ bool SelfTest::start()
     m_nSilentTicks = 0;
     const ToolPurpose purpose =
         g_bExtendedTest ? ToolPurpose::StartExtendedTest : ToolPurpose::StartShortTest;
+    m_shown.status.reset();
+    m_shown.elapsed.clear();
+    m_shown.pollingMinutes.reset();
+    m_shown.remainingMinutes.reset();
+    m_shown.progress = true;
+    m_shown.times = canRun();
     if (!canRun()) {
         g_Jobs.closeResults();
         runner::freshTempFile(toolFileName(purpose));
@@ -69,9 +80,13 @@ bool SelfTest::start()
     g_Jobs.begin(JobState::Job::SelfTest);
     g_Jobs.openResult(JobState::Job::SelfTest);
     // A file is enough here. Whether the drive runs the test its status tells.
-    if (readFor(purpose, [](QTextStream &) {}))
+    if (readFor(purpose, [](QTextStream &) {})) {
+        m_shown.pollingMinutes = currentPollingMinutes();
+        m_shown.remainingMinutes = currentPollingMinutes();
         return true;
+    }
     end();
+    show({selftest::Told::NoStatus, 0, std::nullopt});
     return false;
 }
 
@@ -82,6 +97,7 @@ SelfTest::Tick SelfTest::tick()
     if (tick.aborted) {
         end();
         g_nElapsedSeconds = 0;
+        showEnd(selftest::Told::Aborted);
     }
     g_nElapsedLimit[current()] = static_cast<qint32>(static_cast<quint32>(currentPollingMinutes()) * 60u);
     QVector<selftest::StatusEvent> events{{selftest::Told::NoStatus}};
@@ -90,11 +106,15 @@ SelfTest::Tick SelfTest::tick()
     for (const selftest::StatusEvent &event : qAsConst(events)) {
         // After an abort the drive may still report progress. Then only a result of its test counts.
         if (!passesOver(event.told != selftest::Told::NoStatus) &&
-            (!tick.aborted || selftest::isResult(event.told)))
+            (!tick.aborted || selftest::isResult(event.told))) {
             tick.steps.append(stepOf(event));
+            show(tick.steps.constLast());
+        }
     }
-    if (tick.opened)
+    if (tick.opened) {
         tickClock();
+        m_shown.elapsed = elapsedText();
+    }
     return tick;
 }
 
@@ -130,6 +150,28 @@ SelfTest::Step SelfTest::stepOf(const selftest::StatusEvent &event)
     if (step.told != selftest::Told::InProgress)
         end();
     return step;
+}
+
+void SelfTest::show(const Step &step)
+{
+    if (step.told != selftest::Told::InProgress) {
+        m_shown.percent = 100;
+        m_shown.remainingMinutes = 0;
+        m_shown.times = false;
+        showEnd(step.told);
+        return;
+    }
+    m_shown.percent = step.percent;
+    m_shown.status = step.told;
+    if (step.minutes)
+        m_shown.remainingMinutes = step.minutes;
+}
+
+/// A test that was aborted keeps its times on show.
+void SelfTest::showEnd(selftest::Told how)
+{
+    m_shown.progress = false;
+    m_shown.status = how;
 }
 
 void SelfTest::tickClock()

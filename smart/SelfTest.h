@@ -6,6 +6,8 @@
 
 #include <QString>
 
+#include <optional>
+
 /// The drive's own self-test from its preparation to its end, in the globals of SelfTestGlobals.h and in
 /// g_Jobs. Its disk is that of g_strSelfTestDevice. Whatever runs the tool blocks. Main thread only.
 class SelfTest
@@ -22,6 +24,23 @@ public:
         bool opened = false;  ///< the tool ran, and the clock has gone on
         QVector<Step> steps;  ///< in the order of the text
     };
+
+    /// What is to be shown of the test.
+    struct Shown {
+        std::optional<SelfTestKind> kind;
+        QString model;
+        QString serial;
+        int percent = 0;
+        bool progress = true; ///< the progress bar and the percentage beside it
+        bool times = true;    ///< the cards of the three times
+        std::optional<selftest::Told> status;
+        std::optional<int> pollingMinutes;
+        std::optional<int> remainingMinutes;
+        QString elapsed;
+    };
+
+    /// What is to be shown since the last call of prepare(), start() or tick().
+    const Shown &shown() const { return m_shown; }
 
     /// Reads what the disk can do and the polling time of `kind`; without a kind only the former.
     void prepare(std::optional<SelfTestKind> kind);
@@ -41,8 +60,11 @@ public:
 private:
     bool passesOver(bool found);
     Step stepOf(const selftest::StatusEvent &event);
+    void show(const Step &step);
+    void showEnd(selftest::Told how);
     void tickClock();
 
+    Shown m_shown;
     int m_nElapsedDays = 0; ///< whole days of the elapsed time
     int m_nSilentTicks = 0; ///< readings in a row that found no status
 };

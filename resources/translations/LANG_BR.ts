@@ -561,18 +561,6 @@
 <context>
     <name>DiskStatus</name>
     <message>
-        <source>Temperature</source>
-        <translation>Temperatura</translation>
-    </message>
-    <message>
-        <source>Performance</source>
-        <translation>Desempenho</translation>
-    </message>
-    <message>
-        <source>Health</source>
-        <translation>Saúde</translation>
-    </message>
-    <message>
         <source>Not Supported</source>
         <translation>Sem suporte</translation>
     </message>
@@ -997,46 +985,6 @@
         <translation>Status SMART</translation>
     </message>
     <message>
-        <source>View Velmora Halvane help document</source>
-        <translation>Ver o documento de ajuda do Velmora Halvane</translation>
-    </message>
-    <message>
-        <source>More Tools</source>
-        <translation>Mais ferramentas</translation>
-    </message>
-    <message>
-        <source>Menu</source>
-        <translation>Menu</translation>
-    </message>
-    <message>
-        <source>Minimize</source>
-        <translation>Minimizar</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Fechar</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Configurações</translation>
-    </message>
-    <message>
-        <source>About</source>
-        <translation>Sobre</translation>
-    </message>
-    <message>
-        <source>Recover Data</source>
-        <translation>Recuperar dados</translation>
-    </message>
-    <message>
-        <source>Repair Video</source>
-        <translation>Reparar vídeo</translation>
-    </message>
-    <message>
-        <source>Repair Photo</source>
-        <translation>Reparar foto</translation>
-    </message>
-    <message>
         <source>Please wait. Application Refreshing...</source>
         <translation>Aguarde. Atualizando o aplicativo...</translation>
     </message>
@@ -1409,18 +1357,6 @@ A atualização falhou porque o download ficou incompleto.</translation>
 <context>
     <name>Settings</name>
     <message>
-        <source>Check for Updates</source>
-        <translation>Procurar atualizações</translation>
-    </message>
-    <message>
-        <source>View Velmora Halvane help document</source>
-        <translation>Ver o documento de ajuda do Velmora Halvane</translation>
-    </message>
-    <message>
-        <source>Languages</source>
-        <translation>Idiomas</translation>
-    </message>
-    <message>
         <source>Save log file</source>
         <translation>Salvar arquivo de log</translation>
     </message>
@@ -1535,14 +1471,6 @@ A atualização falhou porque o download ficou incompleto.</translation>
     <message>
         <source>AttName</source>
         <translation>AttName</translation>
-    </message>
-    <message>
-        <source>Smart Status</source>
-        <translation>Status SMART</translation>
-    </message>
-    <message>
-        <source>Copy</source>
-        <translation>Copiar</translation>
     </message>
     <message>
         <source>PASSED</source>
@@ -1695,6 +1623,18 @@ A atualização falhou porque o download ficou incompleto.</translation>
         <source>Drive&apos;s verdict</source>
         <translation>Veredito do disco</translation>
     </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperatura</translation>
+    </message>
+    <message>
+        <source>Performance</source>
+        <translation>Desempenho</translation>
+    </message>
+    <message>
+        <source>Health</source>
+        <translation>Saúde</translation>
+    </message>
 </context>
 <context>
     <name>m_pMainWindow</name>
@@ -1733,6 +1673,46 @@ A atualização falhou porque o download ficou incompleto.</translation>
     <message>
         <source>Screenshot</source>
         <translation>Captura de tela</translation>
+    </message>
+    <message>
+        <source>View Velmora Halvane help document</source>
+        <translation>Ver o documento de ajuda do Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>More Tools</source>
+        <translation>Mais ferramentas</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menu</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Minimizar</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Configurações</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Sobre</translation>
+    </message>
+    <message>
+        <source>Recover Data</source>
+        <translation>Recuperar dados</translation>
+    </message>
+    <message>
+        <source>Repair Video</source>
+        <translation>Reparar vídeo</translation>
+    </message>
+    <message>
+        <source>Repair Photo</source>
+        <translation>Reparar foto</translation>
     </message>
 </context>
 <context>
@@ -1896,6 +1876,22 @@ A atualização falhou porque o download ficou incompleto.</translation>
         <source>OK</source>
         <translation>OK</translation>
     </message>
+    <message>
+        <source>Check for Updates</source>
+        <translation>Procurar atualizações</translation>
+    </message>
+    <message>
+        <source>View Velmora Halvane help document</source>
+        <translation>Ver o documento de ajuda do Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>Idiomas</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
 </context>
 <context>
     <name>m_pSmartWgt</name>
@@ -1918,6 +1914,14 @@ A atualização falhou porque o download ficou incompleto.</translation>
     <message>
         <source>Save Report</source>
         <translation>Salvar relatório</translation>
+    </message>
+    <message>
+        <source>Smart Status</source>
+        <translation>Status SMART</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
     </message>
 </context>
 </TS>

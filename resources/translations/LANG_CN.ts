@@ -561,18 +561,6 @@
 <context>
     <name>DiskStatus</name>
     <message>
-        <source>Temperature</source>
-        <translation>温度</translation>
-    </message>
-    <message>
-        <source>Performance</source>
-        <translation>性能</translation>
-    </message>
-    <message>
-        <source>Health</source>
-        <translation>健康状态</translation>
-    </message>
-    <message>
         <source>Not Supported</source>
         <translation>不支持</translation>
     </message>
@@ -997,46 +985,6 @@
         <translation>SMART 状态</translation>
     </message>
     <message>
-        <source>View Velmora Halvane help document</source>
-        <translation>查看 Velmora Halvane 帮助文档</translation>
-    </message>
-    <message>
-        <source>More Tools</source>
-        <translation>更多工具</translation>
-    </message>
-    <message>
-        <source>Menu</source>
-        <translation>菜单</translation>
-    </message>
-    <message>
-        <source>Minimize</source>
-        <translation>最小化</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>关闭</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>设置</translation>
-    </message>
-    <message>
-        <source>About</source>
-        <translation>关于</translation>
-    </message>
-    <message>
-        <source>Recover Data</source>
-        <translation>恢复数据</translation>
-    </message>
-    <message>
-        <source>Repair Video</source>
-        <translation>修复视频</translation>
-    </message>
-    <message>
-        <source>Repair Photo</source>
-        <translation>修复照片</translation>
-    </message>
-    <message>
         <source>Please wait. Application Refreshing...</source>
         <translation>请稍候。正在刷新...</translation>
     </message>
@@ -1409,18 +1357,6 @@ Update failed due to partial download.</source>
 <context>
     <name>Settings</name>
     <message>
-        <source>Check for Updates</source>
-        <translation>检查更新</translation>
-    </message>
-    <message>
-        <source>View Velmora Halvane help document</source>
-        <translation>查看 Velmora Halvane 帮助文档</translation>
-    </message>
-    <message>
-        <source>Languages</source>
-        <translation>语言</translation>
-    </message>
-    <message>
         <source>Save log file</source>
         <translation>保存日志文件</translation>
     </message>
@@ -1535,14 +1471,6 @@ Update failed due to partial download.</source>
     <message>
         <source>AttName</source>
         <translation>AttName</translation>
-    </message>
-    <message>
-        <source>Smart Status</source>
-        <translation>SMART 状态</translation>
-    </message>
-    <message>
-        <source>Copy</source>
-        <translation>复制</translation>
     </message>
     <message>
         <source>PASSED</source>
@@ -1695,6 +1623,18 @@ Update failed due to partial download.</source>
         <source>Drive&apos;s verdict</source>
         <translation>硬盘自身结论</translation>
     </message>
+    <message>
+        <source>Temperature</source>
+        <translation>温度</translation>
+    </message>
+    <message>
+        <source>Performance</source>
+        <translation>性能</translation>
+    </message>
+    <message>
+        <source>Health</source>
+        <translation>健康状态</translation>
+    </message>
 </context>
 <context>
     <name>m_pMainWindow</name>
@@ -1733,6 +1673,46 @@ Update failed due to partial download.</source>
     <message>
         <source>Screenshot</source>
         <translation>屏幕截图</translation>
+    </message>
+    <message>
+        <source>View Velmora Halvane help document</source>
+        <translation>查看 Velmora Halvane 帮助文档</translation>
+    </message>
+    <message>
+        <source>More Tools</source>
+        <translation>更多工具</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>菜单</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>最小化</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>关于</translation>
+    </message>
+    <message>
+        <source>Recover Data</source>
+        <translation>恢复数据</translation>
+    </message>
+    <message>
+        <source>Repair Video</source>
+        <translation>修复视频</translation>
+    </message>
+    <message>
+        <source>Repair Photo</source>
+        <translation>修复照片</translation>
     </message>
 </context>
 <context>
@@ -1896,6 +1876,22 @@ Update failed due to partial download.</source>
         <source>OK</source>
         <translation>确定</translation>
     </message>
+    <message>
+        <source>Check for Updates</source>
+        <translation>检查更新</translation>
+    </message>
+    <message>
+        <source>View Velmora Halvane help document</source>
+        <translation>查看 Velmora Halvane 帮助文档</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>语言</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
 </context>
 <context>
     <name>m_pSmartWgt</name>
@@ -1918,6 +1914,14 @@ Update failed due to partial download.</source>
     <message>
         <source>Save Report</source>
         <translation>保存报告</translation>
+    </message>
+    <message>
+        <source>Smart Status</source>
+        <translation>SMART 状态</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
     </message>
 </context>
 </TS>

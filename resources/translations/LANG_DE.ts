@@ -561,18 +561,6 @@
 <context>
     <name>DiskStatus</name>
     <message>
-        <source>Temperature</source>
-        <translation>Temperatur</translation>
-    </message>
-    <message>
-        <source>Performance</source>
-        <translation>Leistung</translation>
-    </message>
-    <message>
-        <source>Health</source>
-        <translation>Zustand</translation>
-    </message>
-    <message>
         <source>Not Supported</source>
         <translation>Nicht unterstützt</translation>
     </message>
@@ -997,46 +985,6 @@
         <translation>SMART-Status</translation>
     </message>
     <message>
-        <source>View Velmora Halvane help document</source>
-        <translation>Hilfedokument zu Velmora Halvane anzeigen</translation>
-    </message>
-    <message>
-        <source>More Tools</source>
-        <translation>Weitere Tools</translation>
-    </message>
-    <message>
-        <source>Menu</source>
-        <translation>Menü</translation>
-    </message>
-    <message>
-        <source>Minimize</source>
-        <translation>Minimieren</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Schließen</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Einstellungen</translation>
-    </message>
-    <message>
-        <source>About</source>
-        <translation>Info</translation>
-    </message>
-    <message>
-        <source>Recover Data</source>
-        <translation>Daten wiederherstellen</translation>
-    </message>
-    <message>
-        <source>Repair Video</source>
-        <translation>Video reparieren</translation>
-    </message>
-    <message>
-        <source>Repair Photo</source>
-        <translation>Foto reparieren</translation>
-    </message>
-    <message>
         <source>Please wait. Application Refreshing...</source>
         <translation>Bitte warten. Anwendung wird aktualisiert ...</translation>
     </message>
@@ -1409,18 +1357,6 @@ Das Update ist fehlgeschlagen, weil der Download unvollständig war.</translatio
 <context>
     <name>Settings</name>
     <message>
-        <source>Check for Updates</source>
-        <translation>Nach Updates suchen</translation>
-    </message>
-    <message>
-        <source>View Velmora Halvane help document</source>
-        <translation>Hilfedokument zu Velmora Halvane anzeigen</translation>
-    </message>
-    <message>
-        <source>Languages</source>
-        <translation>Sprachen</translation>
-    </message>
-    <message>
         <source>Save log file</source>
         <translation>Protokolldatei speichern</translation>
     </message>
@@ -1535,14 +1471,6 @@ Das Update ist fehlgeschlagen, weil der Download unvollständig war.</translatio
     <message>
         <source>AttName</source>
         <translation>AttName</translation>
-    </message>
-    <message>
-        <source>Smart Status</source>
-        <translation>SMART-Status</translation>
-    </message>
-    <message>
-        <source>Copy</source>
-        <translation>Kopieren</translation>
     </message>
     <message>
         <source>PASSED</source>
@@ -1695,6 +1623,18 @@ Das Update ist fehlgeschlagen, weil der Download unvollständig war.</translatio
         <source>Drive&apos;s verdict</source>
         <translation>Laufwerksurteil</translation>
     </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperatur</translation>
+    </message>
+    <message>
+        <source>Performance</source>
+        <translation>Leistung</translation>
+    </message>
+    <message>
+        <source>Health</source>
+        <translation>Zustand</translation>
+    </message>
 </context>
 <context>
     <name>m_pMainWindow</name>
@@ -1733,6 +1673,46 @@ Das Update ist fehlgeschlagen, weil der Download unvollständig war.</translatio
     <message>
         <source>Screenshot</source>
         <translation>Screenshot</translation>
+    </message>
+    <message>
+        <source>View Velmora Halvane help document</source>
+        <translation>Hilfedokument zu Velmora Halvane anzeigen</translation>
+    </message>
+    <message>
+        <source>More Tools</source>
+        <translation>Weitere Tools</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menü</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Minimieren</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Info</translation>
+    </message>
+    <message>
+        <source>Recover Data</source>
+        <translation>Daten wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Repair Video</source>
+        <translation>Video reparieren</translation>
+    </message>
+    <message>
+        <source>Repair Photo</source>
+        <translation>Foto reparieren</translation>
     </message>
 </context>
 <context>
@@ -1896,6 +1876,22 @@ Das Update ist fehlgeschlagen, weil der Download unvollständig war.</translatio
         <source>OK</source>
         <translation>OK</translation>
     </message>
+    <message>
+        <source>Check for Updates</source>
+        <translation>Nach Updates suchen</translation>
+    </message>
+    <message>
+        <source>View Velmora Halvane help document</source>
+        <translation>Hilfedokument zu Velmora Halvane anzeigen</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>Sprachen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
 </context>
 <context>
     <name>m_pSmartWgt</name>
@@ -1918,6 +1914,14 @@ Das Update ist fehlgeschlagen, weil der Download unvollständig war.</translatio
     <message>
         <source>Save Report</source>
         <translation>Bericht speichern</translation>
+    </message>
+    <message>
+        <source>Smart Status</source>
+        <translation>SMART-Status</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
     </message>
 </context>
 </TS>

@@ -561,18 +561,6 @@
 <context>
     <name>DiskStatus</name>
     <message>
-        <source>Temperature</source>
-        <translation>Temperatuur</translation>
-    </message>
-    <message>
-        <source>Performance</source>
-        <translation>Prestaties</translation>
-    </message>
-    <message>
-        <source>Health</source>
-        <translation>Conditie</translation>
-    </message>
-    <message>
         <source>Not Supported</source>
         <translation>Niet ondersteund</translation>
     </message>
@@ -997,46 +985,6 @@
         <translation>SMART-status</translation>
     </message>
     <message>
-        <source>View Velmora Halvane help document</source>
-        <translation>Helpdocument van Velmora Halvane weergeven</translation>
-    </message>
-    <message>
-        <source>More Tools</source>
-        <translation>Meer hulpprogramma&apos;s</translation>
-    </message>
-    <message>
-        <source>Menu</source>
-        <translation>Menu</translation>
-    </message>
-    <message>
-        <source>Minimize</source>
-        <translation>Minimaliseren</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Sluiten</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Instellingen</translation>
-    </message>
-    <message>
-        <source>About</source>
-        <translation>Over</translation>
-    </message>
-    <message>
-        <source>Recover Data</source>
-        <translation>Gegevens herstellen</translation>
-    </message>
-    <message>
-        <source>Repair Video</source>
-        <translation>Video herstellen</translation>
-    </message>
-    <message>
-        <source>Repair Photo</source>
-        <translation>Foto herstellen</translation>
-    </message>
-    <message>
         <source>Please wait. Application Refreshing...</source>
         <translation>Een ogenblik geduld. De toepassing wordt vernieuwd...</translation>
     </message>
@@ -1409,18 +1357,6 @@ De update is mislukt doordat de download onvolledig was.</translation>
 <context>
     <name>Settings</name>
     <message>
-        <source>Check for Updates</source>
-        <translation>Controleren op updates</translation>
-    </message>
-    <message>
-        <source>View Velmora Halvane help document</source>
-        <translation>Helpdocument van Velmora Halvane weergeven</translation>
-    </message>
-    <message>
-        <source>Languages</source>
-        <translation>Talen</translation>
-    </message>
-    <message>
         <source>Save log file</source>
         <translation>Logboekbestand opslaan</translation>
     </message>
@@ -1535,14 +1471,6 @@ De update is mislukt doordat de download onvolledig was.</translation>
     <message>
         <source>AttName</source>
         <translation>AttName</translation>
-    </message>
-    <message>
-        <source>Smart Status</source>
-        <translation>SMART-status</translation>
-    </message>
-    <message>
-        <source>Copy</source>
-        <translation>Kopiëren</translation>
     </message>
     <message>
         <source>PASSED</source>
@@ -1695,6 +1623,18 @@ De update is mislukt doordat de download onvolledig was.</translation>
         <source>Drive&apos;s verdict</source>
         <translation>Oordeel van schijf</translation>
     </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperatuur</translation>
+    </message>
+    <message>
+        <source>Performance</source>
+        <translation>Prestaties</translation>
+    </message>
+    <message>
+        <source>Health</source>
+        <translation>Conditie</translation>
+    </message>
 </context>
 <context>
     <name>m_pMainWindow</name>
@@ -1733,6 +1673,46 @@ De update is mislukt doordat de download onvolledig was.</translation>
     <message>
         <source>Screenshot</source>
         <translation>Schermafdruk</translation>
+    </message>
+    <message>
+        <source>View Velmora Halvane help document</source>
+        <translation>Helpdocument van Velmora Halvane weergeven</translation>
+    </message>
+    <message>
+        <source>More Tools</source>
+        <translation>Meer hulpprogramma&apos;s</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menu</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Minimaliseren</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Instellingen</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Over</translation>
+    </message>
+    <message>
+        <source>Recover Data</source>
+        <translation>Gegevens herstellen</translation>
+    </message>
+    <message>
+        <source>Repair Video</source>
+        <translation>Video herstellen</translation>
+    </message>
+    <message>
+        <source>Repair Photo</source>
+        <translation>Foto herstellen</translation>
     </message>
 </context>
 <context>
@@ -1896,6 +1876,22 @@ De update is mislukt doordat de download onvolledig was.</translation>
         <source>OK</source>
         <translation>OK</translation>
     </message>
+    <message>
+        <source>Check for Updates</source>
+        <translation>Controleren op updates</translation>
+    </message>
+    <message>
+        <source>View Velmora Halvane help document</source>
+        <translation>Helpdocument van Velmora Halvane weergeven</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>Talen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
 </context>
 <context>
     <name>m_pSmartWgt</name>
@@ -1918,6 +1914,14 @@ De update is mislukt doordat de download onvolledig was.</translation>
     <message>
         <source>Save Report</source>
         <translation>Rapport opslaan</translation>
+    </message>
+    <message>
+        <source>Smart Status</source>
+        <translation>SMART-status</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopiëren</translation>
     </message>
 </context>
 </TS>

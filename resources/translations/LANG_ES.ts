@@ -561,18 +561,6 @@
 <context>
     <name>DiskStatus</name>
     <message>
-        <source>Temperature</source>
-        <translation>Temperatura</translation>
-    </message>
-    <message>
-        <source>Performance</source>
-        <translation>Rendimiento</translation>
-    </message>
-    <message>
-        <source>Health</source>
-        <translation>Salud</translation>
-    </message>
-    <message>
         <source>Not Supported</source>
         <translation>No admitido</translation>
     </message>
@@ -997,46 +985,6 @@
         <translation>Estado SMART</translation>
     </message>
     <message>
-        <source>View Velmora Halvane help document</source>
-        <translation>Ver el documento de ayuda de Velmora Halvane</translation>
-    </message>
-    <message>
-        <source>More Tools</source>
-        <translation>Más herramientas</translation>
-    </message>
-    <message>
-        <source>Menu</source>
-        <translation>Menú</translation>
-    </message>
-    <message>
-        <source>Minimize</source>
-        <translation>Minimizar</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Cerrar</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Configuración</translation>
-    </message>
-    <message>
-        <source>About</source>
-        <translation>Acerca de</translation>
-    </message>
-    <message>
-        <source>Recover Data</source>
-        <translation>Recuperar datos</translation>
-    </message>
-    <message>
-        <source>Repair Video</source>
-        <translation>Reparar vídeo</translation>
-    </message>
-    <message>
-        <source>Repair Photo</source>
-        <translation>Reparar foto</translation>
-    </message>
-    <message>
         <source>Please wait. Application Refreshing...</source>
         <translation>Espere. Actualizando la aplicación...</translation>
     </message>
@@ -1409,18 +1357,6 @@ La actualización falló porque la descarga quedó incompleta.</translation>
 <context>
     <name>Settings</name>
     <message>
-        <source>Check for Updates</source>
-        <translation>Buscar actualizaciones</translation>
-    </message>
-    <message>
-        <source>View Velmora Halvane help document</source>
-        <translation>Ver el documento de ayuda de Velmora Halvane</translation>
-    </message>
-    <message>
-        <source>Languages</source>
-        <translation>Idiomas</translation>
-    </message>
-    <message>
         <source>Save log file</source>
         <translation>Guardar archivo de registro</translation>
     </message>
@@ -1535,14 +1471,6 @@ La actualización falló porque la descarga quedó incompleta.</translation>
     <message>
         <source>AttName</source>
         <translation>AttName</translation>
-    </message>
-    <message>
-        <source>Smart Status</source>
-        <translation>Estado SMART</translation>
-    </message>
-    <message>
-        <source>Copy</source>
-        <translation>Copiar</translation>
     </message>
     <message>
         <source>PASSED</source>
@@ -1695,6 +1623,18 @@ La actualización falló porque la descarga quedó incompleta.</translation>
         <source>Drive&apos;s verdict</source>
         <translation>Veredicto del disco</translation>
     </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperatura</translation>
+    </message>
+    <message>
+        <source>Performance</source>
+        <translation>Rendimiento</translation>
+    </message>
+    <message>
+        <source>Health</source>
+        <translation>Salud</translation>
+    </message>
 </context>
 <context>
     <name>m_pMainWindow</name>
@@ -1733,6 +1673,46 @@ La actualización falló porque la descarga quedó incompleta.</translation>
     <message>
         <source>Screenshot</source>
         <translation>Captura</translation>
+    </message>
+    <message>
+        <source>View Velmora Halvane help document</source>
+        <translation>Ver el documento de ayuda de Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>More Tools</source>
+        <translation>Más herramientas</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menú</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Minimizar</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Configuración</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Acerca de</translation>
+    </message>
+    <message>
+        <source>Recover Data</source>
+        <translation>Recuperar datos</translation>
+    </message>
+    <message>
+        <source>Repair Video</source>
+        <translation>Reparar vídeo</translation>
+    </message>
+    <message>
+        <source>Repair Photo</source>
+        <translation>Reparar foto</translation>
     </message>
 </context>
 <context>
@@ -1896,6 +1876,22 @@ La actualización falló porque la descarga quedó incompleta.</translation>
         <source>OK</source>
         <translation>OK</translation>
     </message>
+    <message>
+        <source>Check for Updates</source>
+        <translation>Buscar actualizaciones</translation>
+    </message>
+    <message>
+        <source>View Velmora Halvane help document</source>
+        <translation>Ver el documento de ayuda de Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>Idiomas</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
 </context>
 <context>
     <name>m_pSmartWgt</name>
@@ -1918,6 +1914,14 @@ La actualización falló porque la descarga quedó incompleta.</translation>
     <message>
         <source>Save Report</source>
         <translation>Guardar informe</translation>
+    </message>
+    <message>
+        <source>Smart Status</source>
+        <translation>Estado SMART</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
     </message>
 </context>
 </TS>

@@ -561,18 +561,6 @@
 <context>
     <name>DiskStatus</name>
     <message>
-        <source>Temperature</source>
-        <translation>Température</translation>
-    </message>
-    <message>
-        <source>Performance</source>
-        <translation>Performance</translation>
-    </message>
-    <message>
-        <source>Health</source>
-        <translation>Santé</translation>
-    </message>
-    <message>
         <source>Not Supported</source>
         <translation>Non géré</translation>
     </message>
@@ -997,46 +985,6 @@
         <translation>État SMART</translation>
     </message>
     <message>
-        <source>View Velmora Halvane help document</source>
-        <translation>Consulter l&apos;aide de Velmora Halvane</translation>
-    </message>
-    <message>
-        <source>More Tools</source>
-        <translation>Autres outils</translation>
-    </message>
-    <message>
-        <source>Menu</source>
-        <translation>Menu</translation>
-    </message>
-    <message>
-        <source>Minimize</source>
-        <translation>Réduire</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Fermer</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Paramètres</translation>
-    </message>
-    <message>
-        <source>About</source>
-        <translation>À propos</translation>
-    </message>
-    <message>
-        <source>Recover Data</source>
-        <translation>Récupérer des données</translation>
-    </message>
-    <message>
-        <source>Repair Video</source>
-        <translation>Réparer une vidéo</translation>
-    </message>
-    <message>
-        <source>Repair Photo</source>
-        <translation>Réparer une photo</translation>
-    </message>
-    <message>
         <source>Please wait. Application Refreshing...</source>
         <translation>Veuillez patienter. Actualisation en cours...</translation>
     </message>
@@ -1334,7 +1282,7 @@ La mise à jour a échoué : le téléchargement est incomplet.</translation>
     </message>
     <message>
         <source>The disk is no longer connected.</source>
-        <translation>Le disque n'est plus connecté.</translation>
+        <translation>Le disque n&apos;est plus connecté.</translation>
     </message>
 </context>
 <context>
@@ -1408,18 +1356,6 @@ La mise à jour a échoué : le téléchargement est incomplet.</translation>
 </context>
 <context>
     <name>Settings</name>
-    <message>
-        <source>Check for Updates</source>
-        <translation>Rechercher des mises à jour</translation>
-    </message>
-    <message>
-        <source>View Velmora Halvane help document</source>
-        <translation>Consulter l&apos;aide de Velmora Halvane</translation>
-    </message>
-    <message>
-        <source>Languages</source>
-        <translation>Langues</translation>
-    </message>
     <message>
         <source>Save log file</source>
         <translation>Enregistrer le fichier journal</translation>
@@ -1535,14 +1471,6 @@ La mise à jour a échoué : le téléchargement est incomplet.</translation>
     <message>
         <source>AttName</source>
         <translation>AttName</translation>
-    </message>
-    <message>
-        <source>Smart Status</source>
-        <translation>État SMART</translation>
-    </message>
-    <message>
-        <source>Copy</source>
-        <translation>Copier</translation>
     </message>
     <message>
         <source>PASSED</source>
@@ -1695,6 +1623,18 @@ La mise à jour a échoué : le téléchargement est incomplet.</translation>
         <source>Drive&apos;s verdict</source>
         <translation>Verdict du disque</translation>
     </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Température</translation>
+    </message>
+    <message>
+        <source>Performance</source>
+        <translation>Performance</translation>
+    </message>
+    <message>
+        <source>Health</source>
+        <translation>Santé</translation>
+    </message>
 </context>
 <context>
     <name>m_pMainWindow</name>
@@ -1733,6 +1673,46 @@ La mise à jour a échoué : le téléchargement est incomplet.</translation>
     <message>
         <source>Screenshot</source>
         <translation>Capture d&apos;écran</translation>
+    </message>
+    <message>
+        <source>View Velmora Halvane help document</source>
+        <translation>Consulter l&apos;aide de Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>More Tools</source>
+        <translation>Autres outils</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menu</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Réduire</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Paramètres</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>À propos</translation>
+    </message>
+    <message>
+        <source>Recover Data</source>
+        <translation>Récupérer des données</translation>
+    </message>
+    <message>
+        <source>Repair Video</source>
+        <translation>Réparer une vidéo</translation>
+    </message>
+    <message>
+        <source>Repair Photo</source>
+        <translation>Réparer une photo</translation>
     </message>
 </context>
 <context>
@@ -1896,6 +1876,22 @@ La mise à jour a échoué : le téléchargement est incomplet.</translation>
         <source>OK</source>
         <translation>OK</translation>
     </message>
+    <message>
+        <source>Check for Updates</source>
+        <translation>Rechercher des mises à jour</translation>
+    </message>
+    <message>
+        <source>View Velmora Halvane help document</source>
+        <translation>Consulter l&apos;aide de Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>Langues</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
 </context>
 <context>
     <name>m_pSmartWgt</name>
@@ -1918,6 +1914,14 @@ La mise à jour a échoué : le téléchargement est incomplet.</translation>
     <message>
         <source>Save Report</source>
         <translation>Enregistrer le rapport</translation>
+    </message>
+    <message>
+        <source>Smart Status</source>
+        <translation>État SMART</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
     </message>
 </context>
 </TS>

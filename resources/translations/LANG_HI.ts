@@ -561,18 +561,6 @@
 <context>
     <name>DiskStatus</name>
     <message>
-        <source>Temperature</source>
-        <translation>तापमान</translation>
-    </message>
-    <message>
-        <source>Performance</source>
-        <translation>प्रदर्शन</translation>
-    </message>
-    <message>
-        <source>Health</source>
-        <translation>स्वास्थ्य</translation>
-    </message>
-    <message>
         <source>Not Supported</source>
         <translation>समर्थित नहीं</translation>
     </message>
@@ -997,46 +985,6 @@
         <translation>SMART स्थिति</translation>
     </message>
     <message>
-        <source>View Velmora Halvane help document</source>
-        <translation>Velmora Halvane का सहायता दस्तावेज़ देखें</translation>
-    </message>
-    <message>
-        <source>More Tools</source>
-        <translation>अन्य टूल</translation>
-    </message>
-    <message>
-        <source>Menu</source>
-        <translation>मेनू</translation>
-    </message>
-    <message>
-        <source>Minimize</source>
-        <translation>छोटा करें</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>बंद करें</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>सेटिंग्स</translation>
-    </message>
-    <message>
-        <source>About</source>
-        <translation>परिचय</translation>
-    </message>
-    <message>
-        <source>Recover Data</source>
-        <translation>डेटा रिकवर करें</translation>
-    </message>
-    <message>
-        <source>Repair Video</source>
-        <translation>वीडियो सुधारें</translation>
-    </message>
-    <message>
-        <source>Repair Photo</source>
-        <translation>फ़ोटो सुधारें</translation>
-    </message>
-    <message>
         <source>Please wait. Application Refreshing...</source>
         <translation>कृपया प्रतीक्षा करें। एप्लिकेशन रीफ़्रेश हो रहा है...</translation>
     </message>
@@ -1409,18 +1357,6 @@ Update failed due to partial download.</source>
 <context>
     <name>Settings</name>
     <message>
-        <source>Check for Updates</source>
-        <translation>अपडेट जाँचें</translation>
-    </message>
-    <message>
-        <source>View Velmora Halvane help document</source>
-        <translation>Velmora Halvane का सहायता दस्तावेज़ देखें</translation>
-    </message>
-    <message>
-        <source>Languages</source>
-        <translation>भाषाएँ</translation>
-    </message>
-    <message>
         <source>Save log file</source>
         <translation>लॉग फ़ाइल सहेजें</translation>
     </message>
@@ -1535,14 +1471,6 @@ Update failed due to partial download.</source>
     <message>
         <source>AttName</source>
         <translation>AttName</translation>
-    </message>
-    <message>
-        <source>Smart Status</source>
-        <translation>SMART स्थिति</translation>
-    </message>
-    <message>
-        <source>Copy</source>
-        <translation>कॉपी करें</translation>
     </message>
     <message>
         <source>PASSED</source>
@@ -1695,6 +1623,18 @@ Update failed due to partial download.</source>
         <source>Drive&apos;s verdict</source>
         <translation>ड्राइव का निर्णय</translation>
     </message>
+    <message>
+        <source>Temperature</source>
+        <translation>तापमान</translation>
+    </message>
+    <message>
+        <source>Performance</source>
+        <translation>प्रदर्शन</translation>
+    </message>
+    <message>
+        <source>Health</source>
+        <translation>स्वास्थ्य</translation>
+    </message>
 </context>
 <context>
     <name>m_pMainWindow</name>
@@ -1733,6 +1673,46 @@ Update failed due to partial download.</source>
     <message>
         <source>Screenshot</source>
         <translation>स्क्रीनशॉट</translation>
+    </message>
+    <message>
+        <source>View Velmora Halvane help document</source>
+        <translation>Velmora Halvane का सहायता दस्तावेज़ देखें</translation>
+    </message>
+    <message>
+        <source>More Tools</source>
+        <translation>अन्य टूल</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>मेनू</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>छोटा करें</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>बंद करें</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>सेटिंग्स</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>परिचय</translation>
+    </message>
+    <message>
+        <source>Recover Data</source>
+        <translation>डेटा रिकवर करें</translation>
+    </message>
+    <message>
+        <source>Repair Video</source>
+        <translation>वीडियो सुधारें</translation>
+    </message>
+    <message>
+        <source>Repair Photo</source>
+        <translation>फ़ोटो सुधारें</translation>
     </message>
 </context>
 <context>
@@ -1896,6 +1876,22 @@ Update failed due to partial download.</source>
         <source>OK</source>
         <translation>ठीक</translation>
     </message>
+    <message>
+        <source>Check for Updates</source>
+        <translation>अपडेट जाँचें</translation>
+    </message>
+    <message>
+        <source>View Velmora Halvane help document</source>
+        <translation>Velmora Halvane का सहायता दस्तावेज़ देखें</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>भाषाएँ</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>बंद करें</translation>
+    </message>
 </context>
 <context>
     <name>m_pSmartWgt</name>
@@ -1918,6 +1914,14 @@ Update failed due to partial download.</source>
     <message>
         <source>Save Report</source>
         <translation>रिपोर्ट सहेजें</translation>
+    </message>
+    <message>
+        <source>Smart Status</source>
+        <translation>SMART स्थिति</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>कॉपी करें</translation>
     </message>
 </context>
 </TS>

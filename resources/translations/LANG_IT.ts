@@ -561,18 +561,6 @@
 <context>
     <name>DiskStatus</name>
     <message>
-        <source>Temperature</source>
-        <translation>Temperatura</translation>
-    </message>
-    <message>
-        <source>Performance</source>
-        <translation>Prestazioni</translation>
-    </message>
-    <message>
-        <source>Health</source>
-        <translation>Salute</translation>
-    </message>
-    <message>
         <source>Not Supported</source>
         <translation>Non supportato</translation>
     </message>
@@ -997,46 +985,6 @@
         <translation>Stato SMART</translation>
     </message>
     <message>
-        <source>View Velmora Halvane help document</source>
-        <translation>Visualizza la guida di Velmora Halvane</translation>
-    </message>
-    <message>
-        <source>More Tools</source>
-        <translation>Altri strumenti</translation>
-    </message>
-    <message>
-        <source>Menu</source>
-        <translation>Menu</translation>
-    </message>
-    <message>
-        <source>Minimize</source>
-        <translation>Riduci a icona</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Chiudi</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Impostazioni</translation>
-    </message>
-    <message>
-        <source>About</source>
-        <translation>Informazioni</translation>
-    </message>
-    <message>
-        <source>Recover Data</source>
-        <translation>Recupera dati</translation>
-    </message>
-    <message>
-        <source>Repair Video</source>
-        <translation>Ripara video</translation>
-    </message>
-    <message>
-        <source>Repair Photo</source>
-        <translation>Ripara foto</translation>
-    </message>
-    <message>
         <source>Please wait. Application Refreshing...</source>
         <translation>Attendere. Aggiornamento dell&apos;applicazione...</translation>
     </message>
@@ -1409,18 +1357,6 @@ L&apos;aggiornamento non è riuscito perché il download è incompleto.</transla
 <context>
     <name>Settings</name>
     <message>
-        <source>Check for Updates</source>
-        <translation>Cerca aggiornamenti</translation>
-    </message>
-    <message>
-        <source>View Velmora Halvane help document</source>
-        <translation>Visualizza la guida di Velmora Halvane</translation>
-    </message>
-    <message>
-        <source>Languages</source>
-        <translation>Lingue</translation>
-    </message>
-    <message>
         <source>Save log file</source>
         <translation>Salva file di registro</translation>
     </message>
@@ -1535,14 +1471,6 @@ L&apos;aggiornamento non è riuscito perché il download è incompleto.</transla
     <message>
         <source>AttName</source>
         <translation>AttName</translation>
-    </message>
-    <message>
-        <source>Smart Status</source>
-        <translation>Stato SMART</translation>
-    </message>
-    <message>
-        <source>Copy</source>
-        <translation>Copia</translation>
     </message>
     <message>
         <source>PASSED</source>
@@ -1695,6 +1623,18 @@ L&apos;aggiornamento non è riuscito perché il download è incompleto.</transla
         <source>Drive&apos;s verdict</source>
         <translation>Verdetto del disco</translation>
     </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperatura</translation>
+    </message>
+    <message>
+        <source>Performance</source>
+        <translation>Prestazioni</translation>
+    </message>
+    <message>
+        <source>Health</source>
+        <translation>Salute</translation>
+    </message>
 </context>
 <context>
     <name>m_pMainWindow</name>
@@ -1733,6 +1673,46 @@ L&apos;aggiornamento non è riuscito perché il download è incompleto.</transla
     <message>
         <source>Screenshot</source>
         <translation>Schermata</translation>
+    </message>
+    <message>
+        <source>View Velmora Halvane help document</source>
+        <translation>Visualizza la guida di Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>More Tools</source>
+        <translation>Altri strumenti</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menu</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Riduci a icona</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Impostazioni</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Informazioni</translation>
+    </message>
+    <message>
+        <source>Recover Data</source>
+        <translation>Recupera dati</translation>
+    </message>
+    <message>
+        <source>Repair Video</source>
+        <translation>Ripara video</translation>
+    </message>
+    <message>
+        <source>Repair Photo</source>
+        <translation>Ripara foto</translation>
     </message>
 </context>
 <context>
@@ -1896,6 +1876,22 @@ L&apos;aggiornamento non è riuscito perché il download è incompleto.</transla
         <source>OK</source>
         <translation>OK</translation>
     </message>
+    <message>
+        <source>Check for Updates</source>
+        <translation>Cerca aggiornamenti</translation>
+    </message>
+    <message>
+        <source>View Velmora Halvane help document</source>
+        <translation>Visualizza la guida di Velmora Halvane</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>Lingue</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
 </context>
 <context>
     <name>m_pSmartWgt</name>
@@ -1918,6 +1914,14 @@ L&apos;aggiornamento non è riuscito perché il download è incompleto.</transla
     <message>
         <source>Save Report</source>
         <translation>Salva report</translation>
+    </message>
+    <message>
+        <source>Smart Status</source>
+        <translation>Stato SMART</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copia</translation>
     </message>
 </context>
 </TS>

@@ -561,18 +561,6 @@
 <context>
     <name>DiskStatus</name>
     <message>
-        <source>Temperature</source>
-        <translation>温度</translation>
-    </message>
-    <message>
-        <source>Performance</source>
-        <translation>性能</translation>
-    </message>
-    <message>
-        <source>Health</source>
-        <translation>健康状態</translation>
-    </message>
-    <message>
         <source>Not Supported</source>
         <translation>非対応</translation>
     </message>
@@ -997,46 +985,6 @@
         <translation>SMART の状態</translation>
     </message>
     <message>
-        <source>View Velmora Halvane help document</source>
-        <translation>Velmora Halvane のヘルプを表示します</translation>
-    </message>
-    <message>
-        <source>More Tools</source>
-        <translation>その他のツール</translation>
-    </message>
-    <message>
-        <source>Menu</source>
-        <translation>メニュー</translation>
-    </message>
-    <message>
-        <source>Minimize</source>
-        <translation>最小化</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>閉じる</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>設定</translation>
-    </message>
-    <message>
-        <source>About</source>
-        <translation>バージョン情報</translation>
-    </message>
-    <message>
-        <source>Recover Data</source>
-        <translation>データを復元</translation>
-    </message>
-    <message>
-        <source>Repair Video</source>
-        <translation>動画を修復</translation>
-    </message>
-    <message>
-        <source>Repair Photo</source>
-        <translation>写真を修復</translation>
-    </message>
-    <message>
         <source>Please wait. Application Refreshing...</source>
         <translation>お待ちください。更新しています...</translation>
     </message>
@@ -1409,18 +1357,6 @@ Update failed due to partial download.</source>
 <context>
     <name>Settings</name>
     <message>
-        <source>Check for Updates</source>
-        <translation>更新の確認</translation>
-    </message>
-    <message>
-        <source>View Velmora Halvane help document</source>
-        <translation>Velmora Halvane のヘルプを表示します</translation>
-    </message>
-    <message>
-        <source>Languages</source>
-        <translation>言語</translation>
-    </message>
-    <message>
         <source>Save log file</source>
         <translation>ログファイルの保存</translation>
     </message>
@@ -1535,14 +1471,6 @@ Update failed due to partial download.</source>
     <message>
         <source>AttName</source>
         <translation>AttName</translation>
-    </message>
-    <message>
-        <source>Smart Status</source>
-        <translation>SMART の状態</translation>
-    </message>
-    <message>
-        <source>Copy</source>
-        <translation>コピー</translation>
     </message>
     <message>
         <source>PASSED</source>
@@ -1695,6 +1623,18 @@ Update failed due to partial download.</source>
         <source>Drive&apos;s verdict</source>
         <translation>ドライブの判定</translation>
     </message>
+    <message>
+        <source>Temperature</source>
+        <translation>温度</translation>
+    </message>
+    <message>
+        <source>Performance</source>
+        <translation>性能</translation>
+    </message>
+    <message>
+        <source>Health</source>
+        <translation>健康状態</translation>
+    </message>
 </context>
 <context>
     <name>m_pMainWindow</name>
@@ -1733,6 +1673,46 @@ Update failed due to partial download.</source>
     <message>
         <source>Screenshot</source>
         <translation>画面キャプチャ</translation>
+    </message>
+    <message>
+        <source>View Velmora Halvane help document</source>
+        <translation>Velmora Halvane のヘルプを表示します</translation>
+    </message>
+    <message>
+        <source>More Tools</source>
+        <translation>その他のツール</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>メニュー</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>最小化</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>バージョン情報</translation>
+    </message>
+    <message>
+        <source>Recover Data</source>
+        <translation>データを復元</translation>
+    </message>
+    <message>
+        <source>Repair Video</source>
+        <translation>動画を修復</translation>
+    </message>
+    <message>
+        <source>Repair Photo</source>
+        <translation>写真を修復</translation>
     </message>
 </context>
 <context>
@@ -1896,6 +1876,22 @@ Update failed due to partial download.</source>
         <source>OK</source>
         <translation>OK</translation>
     </message>
+    <message>
+        <source>Check for Updates</source>
+        <translation>更新の確認</translation>
+    </message>
+    <message>
+        <source>View Velmora Halvane help document</source>
+        <translation>Velmora Halvane のヘルプを表示します</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>言語</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
 </context>
 <context>
     <name>m_pSmartWgt</name>
@@ -1918,6 +1914,14 @@ Update failed due to partial download.</source>
     <message>
         <source>Save Report</source>
         <translation>レポート保存</translation>
+    </message>
+    <message>
+        <source>Smart Status</source>
+        <translation>SMART の状態</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>コピー</translation>
     </message>
 </context>
 </TS>

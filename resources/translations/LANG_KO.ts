@@ -561,18 +561,6 @@
 <context>
     <name>DiskStatus</name>
     <message>
-        <source>Temperature</source>
-        <translation>온도</translation>
-    </message>
-    <message>
-        <source>Performance</source>
-        <translation>성능</translation>
-    </message>
-    <message>
-        <source>Health</source>
-        <translation>건강 상태</translation>
-    </message>
-    <message>
         <source>Not Supported</source>
         <translation>지원되지 않음</translation>
     </message>
@@ -997,46 +985,6 @@
         <translation>SMART 상태</translation>
     </message>
     <message>
-        <source>View Velmora Halvane help document</source>
-        <translation>Velmora Halvane 도움말 문서 보기</translation>
-    </message>
-    <message>
-        <source>More Tools</source>
-        <translation>추가 도구</translation>
-    </message>
-    <message>
-        <source>Menu</source>
-        <translation>메뉴</translation>
-    </message>
-    <message>
-        <source>Minimize</source>
-        <translation>최소화</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>닫기</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>설정</translation>
-    </message>
-    <message>
-        <source>About</source>
-        <translation>정보</translation>
-    </message>
-    <message>
-        <source>Recover Data</source>
-        <translation>데이터 복구</translation>
-    </message>
-    <message>
-        <source>Repair Video</source>
-        <translation>동영상 복구</translation>
-    </message>
-    <message>
-        <source>Repair Photo</source>
-        <translation>사진 복구</translation>
-    </message>
-    <message>
         <source>Please wait. Application Refreshing...</source>
         <translation>잠시 기다려 주십시오. 새로 고치는 중...</translation>
     </message>
@@ -1409,18 +1357,6 @@ Update failed due to partial download.</source>
 <context>
     <name>Settings</name>
     <message>
-        <source>Check for Updates</source>
-        <translation>업데이트 확인</translation>
-    </message>
-    <message>
-        <source>View Velmora Halvane help document</source>
-        <translation>Velmora Halvane 도움말 문서 보기</translation>
-    </message>
-    <message>
-        <source>Languages</source>
-        <translation>언어</translation>
-    </message>
-    <message>
         <source>Save log file</source>
         <translation>로그 파일 저장</translation>
     </message>
@@ -1535,14 +1471,6 @@ Update failed due to partial download.</source>
     <message>
         <source>AttName</source>
         <translation>AttName</translation>
-    </message>
-    <message>
-        <source>Smart Status</source>
-        <translation>SMART 상태</translation>
-    </message>
-    <message>
-        <source>Copy</source>
-        <translation>복사</translation>
     </message>
     <message>
         <source>PASSED</source>
@@ -1695,6 +1623,18 @@ Update failed due to partial download.</source>
         <source>Drive&apos;s verdict</source>
         <translation>드라이브 자체 판정</translation>
     </message>
+    <message>
+        <source>Temperature</source>
+        <translation>온도</translation>
+    </message>
+    <message>
+        <source>Performance</source>
+        <translation>성능</translation>
+    </message>
+    <message>
+        <source>Health</source>
+        <translation>건강 상태</translation>
+    </message>
 </context>
 <context>
     <name>m_pMainWindow</name>
@@ -1733,6 +1673,46 @@ Update failed due to partial download.</source>
     <message>
         <source>Screenshot</source>
         <translation>스크린샷</translation>
+    </message>
+    <message>
+        <source>View Velmora Halvane help document</source>
+        <translation>Velmora Halvane 도움말 문서 보기</translation>
+    </message>
+    <message>
+        <source>More Tools</source>
+        <translation>추가 도구</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>메뉴</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>최소화</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>설정</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>정보</translation>
+    </message>
+    <message>
+        <source>Recover Data</source>
+        <translation>데이터 복구</translation>
+    </message>
+    <message>
+        <source>Repair Video</source>
+        <translation>동영상 복구</translation>
+    </message>
+    <message>
+        <source>Repair Photo</source>
+        <translation>사진 복구</translation>
     </message>
 </context>
 <context>
@@ -1896,6 +1876,22 @@ Update failed due to partial download.</source>
         <source>OK</source>
         <translation>확인</translation>
     </message>
+    <message>
+        <source>Check for Updates</source>
+        <translation>업데이트 확인</translation>
+    </message>
+    <message>
+        <source>View Velmora Halvane help document</source>
+        <translation>Velmora Halvane 도움말 문서 보기</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>언어</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
+    </message>
 </context>
 <context>
     <name>m_pSmartWgt</name>
@@ -1918,6 +1914,14 @@ Update failed due to partial download.</source>
     <message>
         <source>Save Report</source>
         <translation>보고서 저장</translation>
+    </message>
+    <message>
+        <source>Smart Status</source>
+        <translation>SMART 상태</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>복사</translation>
     </message>
 </context>
 </TS>

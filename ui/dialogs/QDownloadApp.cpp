@@ -111,9 +111,7 @@ void QDownloadApp::OnDownloadStart()
     m_elapsed.restart();
     m_timer.start();
     m_pInfoLabel->setText(tr("Downloading under progress..."));
-    for (QWidget *shown :
-         std::initializer_list<QWidget *>{m_pInfoLabel, m_pProgressBar, m_pCopiedLabel, m_pTimeLabel})
-        shown->show();
+    style::setVisible({m_pInfoLabel, m_pProgressBar, m_pCopiedLabel, m_pTimeLabel}, true);
 }
 
 void QDownloadApp::showProgress(qint64 bytes, const QString &copied)

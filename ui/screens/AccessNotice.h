@@ -3,7 +3,7 @@
 
 #include "ui/screens/Page.h"
 
-class QLabel;
+#include "ui_AccessNotice.h"
 
 /// Stands in the place of every screen while this process may open no disk: says so, and how to start the
 /// program with the rights to.
@@ -18,10 +18,5 @@ protected:
     void retranslate() override;
 
 private:
-    QLabel *addText(const char *name, const QFont &font);
-
-    QLabel *m_pHeading = nullptr;
-    QLabel *m_pReason = nullptr;
-    QLabel *m_pAdvice = nullptr;
-    QLabel *m_pCommand = nullptr; ///< to be copied; hidden where the desktop has an entry of its own
+    Ui::AccessNotice m_ui;
 };

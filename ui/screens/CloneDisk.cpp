@@ -7,13 +7,10 @@
 #include "state/GlobalApp.h"
 #include "state/JobState.h"
 #include "ui/dialogs/MessageDialog.h"
-#include "ui/screens/PageLook.h"
 #include "ui/widgets/QRoundProgressBar.h"
 #include "ui/widgets/Style.h"
 
 #include <QFileDialog>
-
-#include <initializer_list>
 
 namespace
 {
@@ -51,6 +48,7 @@ CloneDisk::CloneDisk(QWidget *parent) : Page(parent)
     style::scaleWidget(m_pRoundProgressBar);
     style::setWhiteBackground(m_pRoundProgressBar);
     m_pRoundProgressBar->SetDecimals(0);
+    m_pRoundProgressBar->SetNullPosition(GaugeStart);
     // A child of the window: the page's style sheets must not reach it.
     m_pMessageBox = pagelook::named(new InfoDialogClass(window()), "m_pMessageBox");
     stylePage();
@@ -176,16 +174,11 @@ void CloneDisk::OnActivatedDestinationComboBox(int index)
 /// The gauge and the remaining time, or the choice of the two disks.
 void CloneDisk::showRunning(bool bRunning)
 {
-    for (QWidget *choice : std::initializer_list<QWidget *>{
-             m_ui.DiskDetailLbl, m_ui.ExtraLbl, m_ui.SourceFrame, m_ui.DesitanionFrame, m_ui.SourceDisk,
-             m_ui.TargetDiskLbl, m_ui.SourceComboBox, m_ui.DestinationComboBox})
-        choice->setVisible(!bRunning);
-    for (const DetailRow &row : detailRows)
-        (m_ui.*row.source)->setVisible(!bRunning);
+    style::setVisible({m_ui.DiskDetailLbl, m_ui.ExtraLbl, m_ui.SourceFrame, m_ui.DesitanionFrame}, !bRunning);
     ShowTargetDetails(!bRunning);
-    for (QWidget *progress : std::initializer_list<QWidget *>{
-             m_ui.ProgressLabel, m_ui.TimeLabel, m_ui.TimeLabel2, m_ui.TimeSpaceLbl, m_ui.TimeSpaceLbl_2})
-        progress->setVisible(bRunning);
+    style::setVisible(
+        {m_ui.ProgressLabel, m_ui.TimeLabel, m_ui.TimeLabel2, m_ui.TimeSpaceLbl, m_ui.TimeSpaceLbl_2},
+        bRunning);
 }
 
 void CloneDisk::StartClone()
@@ -195,12 +188,7 @@ void CloneDisk::StartClone()
     m_strLastMinutes.clear();
     m_ui.TimeLabel->clear();
     showRunning(true);
-    m_pRoundProgressBar->SetMinimum(0.0);
-    m_pRoundProgressBar->SetMaximum(100.0);
     m_pRoundProgressBar->SetValue(0);
-    m_pRoundProgressBar->SetNullPosition(GaugeStart);
-    m_pRoundProgressBar->SetBarStyle(QRoundProgressBar::RingStyle);
-    m_pRoundProgressBar->show();
     m_cloneThread.start(QThread::InheritPriority);
 }
 

@@ -4,13 +4,10 @@
 #include "state/GlobalApp.h"
 #include "state/Globals.h"
 #include "state/PartitionTexts.h"
-#include "ui/screens/PageLook.h"
 #include "ui/widgets/Style.h"
 
 #include <QCoreApplication>
-#include <QScrollArea>
 #include <QScrollBar>
-#include <QVBoxLayout>
 
 namespace
 {
@@ -77,36 +74,26 @@ DiskPartition::DiskPartition(QWidget *parent) : Page(parent)
     pagelook::styleHeadings({m_ui.DiskPartitionLbl, m_ui.TreeStringLbl});
     pagelook::styleNames({m_ui.SerialNumberLbl, m_ui.CapacityLbl, m_ui.InterfaceLbl});
     pagelook::styleValues({m_ui.SerialNunValueLbl, m_ui.CapcityValLbl, m_ui.InterfaceValLbl});
-    m_ui.DetailGrid->setColumnMinimumWidth(0, style::px(115));
     makeDonut();
     makeScrollArea();
     FillPartitionHeader();
 }
 
-DiskPartition::~DiskPartition()
-{
-    // First the view, which points at the other two.
-    delete m_pDonutView;
-    delete m_pDonutSeries;
-    delete m_pDonutLegend;
-}
-
 void DiskPartition::makeDonut()
 {
-    m_pDonutSeries = new DonutSeries;
     m_pDonutSeries->colorBase = QColor(255, 0, 0);
     m_pDonutSeries->strUnit = QStringLiteral("GB");
     m_pDonutSeries->nSliceInset = SliceInset;
     m_pDonutSeries->bColourSlices = true;
 
-    m_pDonutLegend = new DonutLegend;
     m_pDonutLegend->nStyleB = 0;
     m_pDonutLegend->nStyleC = 1;
     m_pDonutLegend->strTitle = QStringLiteral("Duplicate Files Statistics");
     m_pDonutLegend->fontTitle = QFont(QStringLiteral("Times"), 12, QFont::Bold);
     m_pDonutLegend->fontBody = QFont(QStringLiteral("Times"), 10);
 
-    m_pDonutView = pagelook::named(new DonutChartView(m_pDonutSeries, m_pDonutLegend, this), "m_pDonutView");
+    m_pDonutView =
+        pagelook::named(new DonutChartView(m_pDonutSeries.get(), m_pDonutLegend.get(), this), "m_pDonutView");
     m_pDonutView->setMinimumSize(style::px(MinimumDonutWidth), style::px(MinimumDonutHeight));
     m_pDonutView->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     m_pDonutView->lower();
@@ -117,34 +104,19 @@ void DiskPartition::makeDonut()
 
 void DiskPartition::makeScrollArea()
 {
-    m_pScrollArea = pagelook::named(new QScrollArea(this), "m_pScrollArea");
-    m_pScrollArea->setFrameShape(QFrame::NoFrame);
-    m_pScrollArea->setWidgetResizable(true);
-    m_pScrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    style::setWhiteBackground(m_pScrollArea);
-
-    m_pFrameHost = pagelook::named(new QFrame, "m_pFrameHost");
-    style::setWhiteBackground(m_pFrameHost);
-    auto *column = new QVBoxLayout(m_pFrameHost);
-    column->setSpacing(0);
-    column->setContentsMargins(0, style::px(5), style::px(5), 0);
-    m_pFrameColumn = pagelook::named(new QVBoxLayout, "m_pFrameColumn");
-    m_pFrameColumn->setSpacing(style::px(5));
-    column->addLayout(m_pFrameColumn);
+    style::setWhiteBackground(m_ui.m_pScrollArea);
+    style::setWhiteBackground(m_ui.m_pFrameHost);
     auto *stretch = new QLabel;
     // An item whose height depends on its width makes the scroll area ask the layout for its height.
     // Without it the host would stay at the minimum height that is set by hand.
     QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Expanding);
     policy.setHeightForWidth(true);
     stretch->setSizePolicy(policy);
-    column->addWidget(stretch, 1);
-    m_pScrollArea->setWidget(m_pFrameHost);
-    m_ui.PageColumn->addWidget(m_pScrollArea);
+    m_ui.HostColumn->addWidget(stretch, 1);
 }
 
 void DiskPartition::FillPartitionHeader()
 {
-    m_pScrollArea->setAccessibleName(m_ui.TreeStringLbl->text());
     m_pDonutView->setAccessibleName(m_ui.DiskPartitionLbl->text());
     for (QLabel *value : {m_ui.SerialNunValueLbl, m_ui.CapcityValLbl, m_ui.InterfaceValLbl})
         value->clear();
@@ -165,9 +137,9 @@ void DiskPartition::ShowSizes(const QList<qint64> &sizes)
 {
     m_listSizes = sizes;
     const bool scrolls = m_listSizes.size() >= ScrollBarFrom;
-    m_pScrollArea->setVerticalScrollBarPolicy(scrolls ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
-    m_pScrollArea->verticalScrollBar()->setEnabled(scrolls);
-    m_pScrollArea->setFocusPolicy(scrolls ? Qt::StrongFocus : Qt::NoFocus);
+    m_ui.m_pScrollArea->setVerticalScrollBarPolicy(scrolls ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
+    m_ui.m_pScrollArea->verticalScrollBar()->setEnabled(scrolls);
+    m_ui.m_pScrollArea->setFocusPolicy(scrolls ? Qt::StrongFocus : Qt::NoFocus);
 
     m_pDonutSeries->Clear();
     for (const qint64 size : qAsConst(m_listSizes))
@@ -209,7 +181,7 @@ QFrame *DiskPartition::addFrame(const QStringList &texts)
     row->addLayout(grids[0], 320);
     row->addWidget(separator);
     row->addLayout(grids[1], 342);
-    m_pFrameColumn->addWidget(frame);
+    m_ui.m_pFrameColumn->addWidget(frame);
     frame->show();
     return frame;
 }
@@ -262,13 +234,13 @@ void DiskPartition::ShowVolumes(const QString &mark)
             new QLabel(QCoreApplication::translate("MainWindow", "No Partition Found")), "m_pNoPartition");
         notice->setTextFormat(Qt::PlainText);
         pagelook::styleHeadings({notice});
-        m_pFrameColumn->addWidget(notice);
+        m_ui.m_pFrameColumn->addWidget(notice);
         notice->show();
         m_listNotices.append(notice);
     }
-    m_pFrameHost->setMinimumHeight(m_nFrameCount * HeightPerFrame);
-    m_pFrameHost->layout()->activate();
-    m_pScrollArea->verticalScrollBar()->setValue(0);
+    m_ui.m_pFrameHost->setMinimumHeight(m_nFrameCount * HeightPerFrame);
+    m_ui.m_pFrameHost->layout()->activate();
+    m_ui.m_pScrollArea->verticalScrollBar()->setValue(0);
 }
 
 void DiskPartition::retranslate()

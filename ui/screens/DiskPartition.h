@@ -8,8 +8,7 @@
 
 #include <QList>
 
-class QScrollArea;
-class QVBoxLayout;
+#include <memory>
 
 /// The Disk Partition screen: the ring of the selected disk's volumes, its serial number and capacity above;
 /// below a frame for each volume. Main thread only.
@@ -19,7 +18,6 @@ class DiskPartition : public Page
 
 public:
     explicit DiskPartition(QWidget *parent = nullptr);
-    ~DiskPartition() override;
 
     /// Shows serial number, interface and capacity of the selected disk; empty where there is no record.
     void FillPartitionHeader();
@@ -44,15 +42,11 @@ private:
     QFrame *addFrame(const QStringList &texts);
 
     Ui::m_pDiskPartitionWgt m_ui;
-    DonutSeries *m_pDonutSeries; ///< owned
-    DonutLegend *m_pDonutLegend; ///< owned
+    const std::unique_ptr<DonutSeries> m_pDonutSeries = std::make_unique<DonutSeries>();
+    const std::unique_ptr<DonutLegend> m_pDonutLegend = std::make_unique<DonutLegend>();
     DonutChartView *m_pDonutView;
     QList<qint64> m_listSizes;     ///< bytes of the volumes that show
     QList<QFrame *> m_listFrames;  ///< all that show
     QList<QLabel *> m_listNotices; ///< the line that stands there instead of frames
     int m_nFrameCount = 0;         ///< frames of the letter shown last
-
-    QScrollArea *m_pScrollArea;
-    QFrame *m_pFrameHost;
-    QVBoxLayout *m_pFrameColumn; ///< the frames, above what stretches below them
 };

@@ -7,18 +7,12 @@
 #include "state/Globals.h"
 #include "state/Languages.h"
 #include "state/Scale.h"
-#include "ui/screens/PageLook.h"
-#include "ui/widgets/FittingTexts.h"
 #include "ui/widgets/Images.h"
 #include "ui/widgets/Style.h"
-
-#include <QGridLayout>
 
 namespace
 {
 
-constexpr int TileRoom = 134; ///< of a value, up to the picture of its tile
-constexpr int HighestTitle = 22;
 constexpr std::size_t FirstLowerRow = 3; ///< of the details: from here the widths go by the language
 
 void setIfAny(QLabel *label, const std::optional<QString> &text)
@@ -31,25 +25,14 @@ void setIfAny(QLabel *label, const std::optional<QString> &text)
 
 DiskStatus::DiskStatus(QWidget *parent) : Page(parent)
 {
-    using pagelook::named;
+    constexpr int FirstTitleHeight = 22; // until the language changes
     m_ui.setupUi(this);
-    healthTitleLbl = named(new QLabel(m_ui.HelthLable), "healthTitleLbl");
-    healthValueLbl = named(new FittingLabel(style::px(TileRoom), m_ui.HelthLable), "healthValueLbl");
-    performanceTitleLbl = named(new QLabel(m_ui.PerformanceLbl), "performanceTitleLbl");
-    performanceValueLbl =
-        named(new FittingLabel(style::px(TileRoom), m_ui.PerformanceLbl), "performanceValueLbl");
-    tempValueLbl = named(new FittingLabel(style::px(TileRoom), m_ui.tempratureLbl), "tempValueLbl");
-    tempTitleLbl = named(new QLabel(m_ui.tempratureLbl), "tempTitleLbl");
-
-    style::setWhiteBackground(this);
+    pagelook::makePage(this);
+    m_ui.DetailGrid->setSpacing(5);
     styleTexts();
-    setTileTitles();
     ApplyLanguageMetrics();
-    layOutTiles();
-    layOutPage();
-    const DetailRow hidden = details().front();
-    for (QLabel *label : hidden)
-        label->hide();
+    m_ui.performanceTitleLbl->setFixedHeight(style::px(FirstTitleHeight));
+    addLines();
     clearDisk();
     m_ui.DisknumberValLbl->setText(QStringLiteral("0"));
 }
@@ -71,102 +54,23 @@ void DiskStatus::styleTexts()
         pagelook::styleNames({row[0], row[2]});
         pagelook::styleLabels({row[1], row[3]}, style::font(10), style::GreyLabel);
     }
-    pagelook::styleLabels({healthTitleLbl, performanceTitleLbl, tempTitleLbl}, style::font(12), black);
-    pagelook::styleLabels({healthValueLbl, performanceValueLbl, tempValueLbl}, style::font(15, true), black);
+    pagelook::styleLabels({m_ui.healthTitleLbl, m_ui.performanceTitleLbl, m_ui.tempTitleLbl}, style::font(12),
+                          black);
+    pagelook::styleLabels({m_ui.healthValueLbl, m_ui.performanceValueLbl, m_ui.tempValueLbl},
+                          style::font(15, true), black);
 }
 
-void DiskStatus::layOutTiles()
+/// The line below the heading, and an empty one below the tiles. Neither has a name.
+void DiskStatus::addLines()
 {
-    struct Parts {
-        QLabel *tile;
-        QLabel *title;
-        QLabel *value;
-        int titleHeight; ///< 0: not fixed
-        int valueHeight;
-    };
-    const Parts tiles[] = {
-        {m_ui.tempratureLbl, tempTitleLbl, tempValueLbl, 0, 0},
-        {m_ui.PerformanceLbl, performanceTitleLbl, performanceValueLbl, 22, 28},
-        {m_ui.HelthLable, healthTitleLbl, healthValueLbl, 20, 28},
-    };
-    for (const Parts &entry : tiles) {
-        auto *column = new QVBoxLayout(entry.tile);
-        column->setContentsMargins(style::px(10), style::px(10), 0, style::px(20));
-        column->setSpacing(0);
-        // A title of less height is centred in the height of the highest one, so that the three are on one
-        // line.
-        if (entry.titleHeight > 0) {
-            column->addSpacing(style::px(HighestTitle - entry.titleHeight) / 2);
-            entry.title->setFixedHeight(style::px(entry.titleHeight));
-        }
-        if (entry.valueHeight > 0)
-            entry.value->setFixedHeight(style::px(entry.valueHeight));
-        entry.value->setAlignment(Qt::AlignBottom);
-        column->addWidget(entry.title);
-        column->addStretch(1);
-        column->addWidget(entry.value);
-    }
-    performanceValueLbl->setAlignment(Qt::AlignLeft);
-}
-
-QGridLayout *DiskStatus::makeDetailsGrid()
-{
-    constexpr int Spacing = 5;
-    constexpr int RowHeight = 27; // a field of 20 stands in the middle of its row
-    auto *grid = new QGridLayout;
-    grid->setSpacing(Spacing);
-    grid->setContentsMargins(0, 0, 0, 0);
-    const auto rows = details();
-    for (std::size_t row = 1; row < rows.size(); ++row) {
-        // The columns must not take the widths that the lower labels have of their own.
-        const Qt::Alignment alignment =
-            row < FirstLowerRow ? Qt::AlignVCenter : Qt::AlignLeft | Qt::AlignVCenter;
-        const int line = static_cast<int>(row);
-        int column = 0;
-        for (QLabel *label : rows[row]) {
-            grid->addWidget(label, line, column, alignment);
-            // Column 2 stays empty between the two pairs.
-            column += column == 1 ? 2 : 1;
-        }
-        grid->setRowMinimumHeight(line, style::px(RowHeight));
-    }
-    grid->setColumnMinimumWidth(0, style::px(126));
-    grid->setColumnMinimumWidth(2, style::px(10));
-    grid->setColumnStretch(1, 5);
-    grid->setColumnStretch(4, 3);
-    return grid;
-}
-
-void DiskStatus::layOutPage()
-{
-    auto *tileRow = new QHBoxLayout;
-    tileRow->setSpacing(style::px(30));
-    for (QLabel *tile : {m_ui.tempratureLbl, m_ui.PerformanceLbl, m_ui.HelthLable})
-        tileRow->addWidget(tile);
-
-    auto *upperSpacer = new QLabel(this);
-    if (const int set = scale::imageSet(scale::percent()))
-        upperSpacer->setFixedHeight(set == 96 ? 35 : style::px(6));
-    auto *lowerSpacer = new QLabel(this);
-    lowerSpacer->setFixedHeight(style::px(88));
-
     auto *headingLine = new QFrame(this);
     headingLine->setFixedHeight(1);
     headingLine->setStyleSheet(QStringLiteral("QFrame{background: #e3e6e9; border: none;}"));
-
-    auto *page = new QVBoxLayout(this);
-    page->setContentsMargins(style::px(25), style::px(15), style::px(25), style::px(25));
-    page->setSpacing(0);
-    page->addLayout(tileRow);
-    page->addWidget(upperSpacer);
-    page->addStretch(1);
-    page->addWidget(m_ui.detailedLbl);
-    page->addSpacing(style::px(6));
-    page->addWidget(headingLine);
-    page->addSpacing(style::px(9));
-    page->addLayout(makeDetailsGrid());
-    page->addStretch(1);
-    page->addWidget(lowerSpacer);
+    m_ui.PageColumn->insertWidget(m_ui.PageColumn->indexOf(m_ui.detailedLbl) + 2, headingLine);
+    auto *upperSpacer = new QLabel(this);
+    if (const int set = scale::imageSet(scale::percent()))
+        upperSpacer->setFixedHeight(set == 96 ? 35 : style::px(6));
+    m_ui.PageColumn->insertWidget(1, upperSpacer);
 }
 
 void DiskStatus::ApplyLanguageMetrics()
@@ -175,9 +79,6 @@ void DiskStatus::ApplyLanguageMetrics()
     const std::array<std::array<int, 4>, 2> lowerWidths = {
         {{metrics.lifeName, metrics.lifeValue, metrics.powerOnName, metrics.powerOnValue},
          {metrics.startStopName, metrics.startStopValue, metrics.verdictName, metrics.verdictValue}}};
-    for (QLabel *tile : {m_ui.tempratureLbl, m_ui.PerformanceLbl, m_ui.HelthLable})
-        tile->setFixedSize(style::px(218), style::px(96));
-    m_ui.detailedLbl->setFixedHeight(style::px(32));
     const auto rows = details();
     for (std::size_t row = 0; row < rows.size(); ++row) {
         for (std::size_t column = 0; column < rows[row].size(); ++column) {
@@ -186,19 +87,12 @@ void DiskStatus::ApplyLanguageMetrics()
                 rows[row][column]->setFixedWidth(style::px(lowerWidths[row - FirstLowerRow][column]));
         }
     }
-    performanceTitleLbl->setFixedHeight(style::px(metrics.performanceTitleHeight));
-}
-
-void DiskStatus::setTileTitles()
-{
-    tempTitleLbl->setText(tr("Temperature"));
-    performanceTitleLbl->setText(tr("Performance"));
-    healthTitleLbl->setText(tr("Health"));
+    m_ui.performanceTitleLbl->setFixedHeight(style::px(metrics.performanceTitleHeight));
 }
 
 void DiskStatus::showTile(Tile tile, const QString &value, TilePicture picture)
 {
-    QLabel *const values[] = {tempValueLbl, performanceValueLbl, healthValueLbl};
+    QLabel *const values[] = {m_ui.tempValueLbl, m_ui.performanceValueLbl, m_ui.healthValueLbl};
     values[tile]->setText(value);
     showPicture(tile, picture);
 }
@@ -265,7 +159,6 @@ void DiskStatus::showPicture(Tile tile, TilePicture picture)
 void DiskStatus::retranslate()
 {
     m_ui.retranslateUi(this);
-    setTileTitles();
     ApplyLanguageMetrics();
     if (g_bReportPending)
         return;

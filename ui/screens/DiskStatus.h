@@ -8,7 +8,6 @@
 
 #include <array>
 
-class QGridLayout;
 enum class LifeKind;
 struct DiskIdentityTexts;
 struct DiskNode;
@@ -45,16 +44,7 @@ private:
     std::array<DetailRow, 5> details() const;
     void ApplyLanguageMetrics();
     void styleTexts();
-    void layOutTiles();
-    void layOutPage();
-    QGridLayout *makeDetailsGrid();
-    void setTileTitles();
+    void addLines();
 
     Ui::m_pDiskStatus m_ui;
-    QLabel *healthTitleLbl;
-    QLabel *healthValueLbl;
-    QLabel *performanceTitleLbl;
-    QLabel *performanceValueLbl;
-    QLabel *tempValueLbl;
-    QLabel *tempTitleLbl;
 };

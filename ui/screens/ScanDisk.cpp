@@ -5,7 +5,6 @@
 #include "state/GlobalApp.h"
 #include "state/JobState.h"
 #include "ui/dialogs/MessageDialog.h"
-#include "ui/screens/PageLook.h"
 #include "ui/widgets/Images.h"
 #include "ui/widgets/QGridView.h"
 #include "ui/widgets/Style.h"
@@ -66,17 +65,13 @@ ScanDisk::ScanDisk(QWidget *parent) : Page(parent)
 
 void ScanDisk::connectThread()
 {
-    connect(&m_scanThread, &QScanDriveThread::WrtiteText, this, &ScanDisk::onWrtiteText);
     connect(&m_scanThread, &QScanDriveThread::ExactBadSectorCount, this, &ScanDisk::OnExactBadSectorCount);
     connect(&m_scanThread, &QScanDriveThread::MaximumBadBlockScanProgress, this,
             &ScanDisk::ScanMaxProgressForDisk);
     connect(&m_scanThread, &QScanDriveThread::AllBlockProcessed, this, &ScanDisk::OnAllBlockProcessed);
     connect(&m_scanThread, &QScanDriveThread::ScanProgressValue, this, &ScanDisk::ScanProgValForDisk);
     connect(&m_scanThread, &QScanDriveThread::OnFinish, this, &ScanDisk::OnScanFinish);
-    connect(&m_scanThread, &QScanDriveThread::BadBockCount, this, &ScanDisk::OnBadBlockCount);
     connect(&m_scanThread, &QScanDriveThread::TotalBlockCount, this, &ScanDisk::OnTotalBlockCount);
-    connect(&m_scanThread, &QScanDriveThread::ScanForBadBlockProgressValue, this,
-            &ScanDisk::BadSectorProgressDisk);
     connect(&m_scanThread, &QScanDriveThread::setRemainingTime, this, &ScanDisk::OnSetRemainingTime);
 }
 
@@ -182,12 +177,11 @@ std::optional<SelfTestKind> ScanDisk::ChosenTest() const
 /// Shows one of the three parts: the choice of a test, the counters, or the panel of a self-test.
 void ScanDisk::showPart(const QFrame *part)
 {
-    for (QWidget *other : std::initializer_list<QWidget *>{m_ui.TestHeadingLabel, m_ui.frame, m_ui.frame_4})
-        other->hide();
-    for (QWidget *counter : std::initializer_list<QWidget *>{
-             m_ui.ScanDiskLbl, m_ui.BlueClrLbl, m_ui.ProcessesLbl, m_ui.ProcessedVal, m_ui.RedClrLBl,
-             m_ui.BadBlkLbl, m_ui.BadBlkValLbl, m_ui.ProcesClrLl, m_ui.ProcessNameLbl})
-        counter->setVisible(part == m_ui.frame_4);
+    style::setVisible({m_ui.TestHeadingLabel, m_ui.frame, m_ui.frame_4}, false);
+    style::setVisible({m_ui.ScanDiskLbl, m_ui.BlueClrLbl, m_ui.ProcessesLbl, m_ui.ProcessedVal,
+                       m_ui.RedClrLBl, m_ui.BadBlkLbl, m_ui.BadBlkValLbl, m_ui.ProcesClrLl,
+                       m_ui.ProcessNameLbl},
+                      part == m_ui.frame_4);
     m_ui.frame_2->setVisible(part == m_ui.frame_2);
     m_ui.frame_3->setVisible(part == m_ui.frame_3);
 }
@@ -200,7 +194,7 @@ void ScanDisk::ShowChooser()
     m_ui.radioButton->setChecked(true);
 }
 
-void ScanDisk::ShowSelfTest(const SelfTestPanel::Shown &shown)
+void ScanDisk::ShowSelfTest(const SelfTest::Shown &shown)
 {
     TellSelfTest(shown);
     showPart(m_ui.frame_3);

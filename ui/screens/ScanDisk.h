@@ -30,9 +30,9 @@ public:
     /// Shows the counters and the legend of a surface scan in place of the choice.
     void ShowCounters() { showPart(m_ui.frame_4); }
     /// Shows the panel of a self-test in place of the choice.
-    void ShowSelfTest(const SelfTestPanel::Shown &shown);
+    void ShowSelfTest(const SelfTest::Shown &shown);
     /// Changes what the panel of a self-test shows, wherever the page stands.
-    void TellSelfTest(const SelfTestPanel::Shown &shown) { m_pSelfTestPanel->Show(shown); }
+    void TellSelfTest(const SelfTest::Shown &shown) { m_pSelfTestPanel->Show(shown); }
     bool IsSelfTestShown() const { return m_pSelfTestPanel->isVisible(); }
     /// Shows the size and the sectors of a disk; nothing and "0" where it is null.
     void FillDisk(const DiskNode *pNode);

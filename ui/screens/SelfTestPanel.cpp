@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/screens/SelfTestPanel.h"
 
-#include "ui/screens/PageLook.h"
 #include "ui/widgets/Style.h"
 
 #include <QCoreApplication>
@@ -57,7 +56,7 @@ SelfTestPanel::SelfTestPanel(QWidget *parent) : Page(parent)
     Show({});
 }
 
-void SelfTestPanel::Show(const Shown &shown)
+void SelfTestPanel::Show(const SelfTest::Shown &shown)
 {
     m_shown = shown;
     // The names of the two cards share a column.

@@ -6,7 +6,6 @@
 #include "state/SettingsStore.h"
 #include "ui/dialogs/QCheckUpdate.h"
 #include "ui/dialogs/SmallMessageDlg.h"
-#include "ui/screens/PageLook.h"
 #include "ui/widgets/Images.h"
 #include "ui/widgets/Style.h"
 
@@ -38,7 +37,6 @@ void styleTitleButton(QPushButton *button, const QString &file)
 Settings::Settings() : Page(nullptr), m_Frame(this), m_pLanguageMenu(new QMenu(this))
 {
     m_ui.setupUi(this);
-    addHeaderButtons();
     fillFields();
     m_Frame.dress(m_ui.HeaderLabel, m_ui.CloseButton, m_ui.OkButton);
     styleFields();
@@ -46,21 +44,6 @@ Settings::Settings() : Page(nullptr), m_Frame(this), m_pLanguageMenu(new QMenu(t
     retranslate();
     connectFields();
     m_Frame.fit();
-}
-
-void Settings::addHeaderButtons()
-{
-    int place = m_ui.titleLayout->indexOf(m_ui.CloseButton);
-    const auto add = [this, &place](const char *name) {
-        auto *button = pagelook::named(new QPushButton(this), name);
-        button->setMinimumSize(m_ui.CloseButton->minimumSize());
-        button->setMaximumSize(m_ui.CloseButton->maximumSize());
-        m_ui.titleLayout->insertWidget(place++, button);
-        return button;
-    };
-    m_pUpdateButton = add("m_pUpdateButton");
-    m_pHelpButton = add("m_pHelpButton");
-    m_pLanguageButton = add("m_pLanguageButton");
 }
 
 void Settings::fillFields()
@@ -91,9 +74,9 @@ void Settings::styleFields()
     m_ui.ButtonLabel->setStyleSheet(QStringLiteral("QLabel{background: #f5f5f5;}"));
     m_ui.PathlineEdit->setStyleSheet(QStringLiteral("color: #64778b;background-color: white;selection-color: "
                                                     "gray;selection-background-color: solid gray;"));
-    styleTitleButton(m_pUpdateButton, QStringLiteral("img_CheckUpdate.png"));
-    styleTitleButton(m_pHelpButton, QStringLiteral("img_Help.png"));
-    styleTitleButton(m_pLanguageButton, QStringLiteral("img_Language.png"));
+    styleTitleButton(m_ui.m_pUpdateButton, QStringLiteral("img_CheckUpdate.png"));
+    styleTitleButton(m_ui.m_pHelpButton, QStringLiteral("img_Help.png"));
+    styleTitleButton(m_ui.m_pLanguageButton, QStringLiteral("img_Language.png"));
     styleTitleButton(m_ui.CloseButton, QStringLiteral("img_Close.png"));
     m_pLanguageMenu->setFont(style::font(10));
     m_pLanguageMenu->setStyleSheet(QStringLiteral("QMenu::indicator{left: %1px; width: %2px; height: %2px;}"
@@ -101,8 +84,8 @@ void Settings::styleFields()
                                        .arg(style::px(8))
                                        .arg(style::px(14))
                                        .arg(images::nearestPath(QStringLiteral("img_CheckOn.png"))));
-    m_pUpdateButton->setHidden(g_App.m_bHideUpdateButton);
-    m_pLanguageButton->setVisible(g_App.m_bShowLanguageMenu);
+    m_ui.m_pUpdateButton->setHidden(g_App.m_bHideUpdateButton);
+    m_ui.m_pLanguageButton->setVisible(g_App.m_bShowLanguageMenu);
 }
 
 void Settings::connectFields()
@@ -118,8 +101,8 @@ void Settings::connectFields()
     connect(m_ui.BrowsButton_2, &QPushButton::clicked, this, &Settings::OnSelectLogPath);
     connect(m_ui.degreeComboBox, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
             &Settings::ChangeWarningTemperature);
-    connect(m_pUpdateButton, &QPushButton::clicked, this, &Settings::OnCheckUpdate);
-    connect(m_pHelpButton, &QPushButton::clicked, this, &Settings::OnOpenSettingsHelp);
+    connect(m_ui.m_pUpdateButton, &QPushButton::clicked, this, &Settings::OnCheckUpdate);
+    connect(m_ui.m_pHelpButton, &QPushButton::clicked, this, &Settings::OnOpenSettingsHelp);
     constexpr std::array<void (Settings::*)(), LanguageCount> changes = {
         &Settings::OnChangeEnglishLanguage,  &Settings::OnChangeGermanLanguage,
         &Settings::OnChangeFrenchLanguage,   &Settings::OnChangeItalianLanguage,
@@ -147,7 +130,7 @@ void Settings::BuildLanguageMenu()
         m_pLanguageMenu->addAction(korean);
     checkCurrentLanguage();
     if (g_App.m_bShowLanguageMenu)
-        m_pLanguageButton->setMenu(m_pLanguageMenu);
+        m_ui.m_pLanguageButton->setMenu(m_pLanguageMenu);
 }
 
 void Settings::checkCurrentLanguage()
@@ -165,12 +148,6 @@ void Settings::changeLanguage(LanguageType type)
 void Settings::retranslate()
 {
     m_ui.retranslateUi(this);
-    m_pUpdateButton->setToolTip(tr("Check for Updates"));
-    m_pHelpButton->setToolTip(tr("View Velmora Halvane help document"));
-    m_pLanguageButton->setToolTip(tr("Languages"));
-    for (QPushButton *button : {m_pUpdateButton, m_pHelpButton, m_pLanguageButton})
-        button->setAccessibleName(button->toolTip());
-    m_ui.CloseButton->setAccessibleName(QCoreApplication::translate("MainWindow", "Close"));
     for (const languages::Language &language : languages::table)
         m_apLanguageActions[language.index()]->setText(
             QCoreApplication::translate("MainWindow", language.text));

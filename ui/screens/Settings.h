@@ -73,7 +73,6 @@ protected:
     void retranslate() override;
 
 private:
-    void addHeaderButtons();
     /// Fills the language button's menu with the languages on offer and checks the current one.
     void BuildLanguageMenu();
     void changeLanguage(LanguageType type);
@@ -89,9 +88,6 @@ private:
     Ui::m_pSettingswgt m_ui;
     /// By LanguageType. All eleven are there, also those that the menu leaves out.
     std::array<QAction *, LanguageCount> m_apLanguageActions{};
-    QPushButton *m_pUpdateButton = nullptr;
-    QPushButton *m_pHelpButton = nullptr;
-    QPushButton *m_pLanguageButton = nullptr;
     DialogFrame m_Frame;
     QMenu *m_pLanguageMenu;
     QString m_strLogPath; ///< what OK stored last, before that the text of a first run

@@ -2,14 +2,12 @@
 #include "ui/screens/SmartStatus.h"
 
 #include "smart/AttributeColumns.h"
-#include "smart/AttributeRows.h"
-#include "smart/Rating.h"
+#include "smart/DiskFigures.h"
 #include "smart/SmartGlobals.h"
 #include "smart/Temperature.h"
 #include "state/GlobalApp.h"
 #include "state/Globals.h"
 #include "state/Scale.h"
-#include "ui/screens/PageLook.h"
 #include "ui/widgets/SmartChartView.h"
 #include "ui/widgets/Style.h"
 
@@ -73,70 +71,45 @@ SmartStatus::SmartStatus(QWidget *parent) : Page(parent)
                           BlueGreyLabel);
     pagelook::styleLabels({m_ui.SerialNunValueLbl, m_ui.InterfaceValLbl, m_ui.CapcityValLbl}, style::font(10),
                           BlueGreyLabel);
+    const QString white = QStringLiteral("QLabel {color : white;}");
+    pagelook::styleLabels({m_ui.m_pHeadingLabel}, style::semiBold(12), white);
+    pagelook::styleLabels({m_ui.m_pHeadingResultLabel}, style::semiBold(13, true), white);
     makeTree();
-    nameControls();
-    makeHeading();
-    layOutPage();
+    addRest();
     FormatSmartTable();
 }
 
 void SmartStatus::makeTree()
 {
-    m_pAttributeTree = pagelook::named(new QTreeWidget(m_ui.DitaledFrame), "m_pAttributeTree");
-    m_pAttributeTree->setAlternatingRowColors(true);
-    m_pAttributeTree->setRootIsDecorated(false);
-    m_pAttributeTree->setFixedHeight(style::px(126));
-    m_pAttributeTree->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    m_pAttributeTree->setFrameShape(QFrame::NoFrame);
-    m_pAttributeTree->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_pAttributeTree->setFont(style::font(10));
-    m_pAttributeTree->setIconSize(QSize(style::px(12), style::px(12)));
-    m_pAttributeTree->setItemDelegate(new CellDelegate(m_pAttributeTree));
-    m_pAttributeTree->setColumnCount(attributecolumns::Count);
-    m_pAttributeTree->setStyleSheet(QStringLiteral(".QTreeWidget{ border: 1px solid #e0d0e0;}"));
-    connect(m_pAttributeTree, &QTreeWidget::itemClicked, this, &SmartStatus::rowClicked);
+    m_ui.m_pAttributeTree->setFont(style::font(10));
+    m_ui.m_pAttributeTree->setIconSize(QSize(style::px(12), style::px(12)));
+    m_ui.m_pAttributeTree->setItemDelegate(new CellDelegate(m_ui.m_pAttributeTree));
+    connect(m_ui.m_pAttributeTree, &QTreeWidget::itemClicked, this, &SmartStatus::rowClicked);
     // The keys move along the rows as well.
-    connect(m_pAttributeTree, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem *item) {
-        if (m_pAttributeTree->hasFocus() && QGuiApplication::mouseButtons() == Qt::NoButton)
+    connect(m_ui.m_pAttributeTree, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem *item) {
+        if (m_ui.m_pAttributeTree->hasFocus() && QGuiApplication::mouseButtons() == Qt::NoButton)
             emit rowClicked(item, 0);
     });
-    m_pCopyAction = pagelook::named(new QAction(m_pAttributeTree), "m_pCopyAction");
-    m_pCopyAction->setShortcut(QKeySequence::Copy);
-    m_pCopyAction->setShortcutContext(Qt::WidgetShortcut);
-    m_pAttributeTree->addAction(m_pCopyAction);
-    m_pAttributeTree->setContextMenuPolicy(Qt::ActionsContextMenu);
-    connect(m_pCopyAction, &QAction::triggered, this, [this] {
+    m_ui.m_pCopyAction->setShortcut(QKeySequence::Copy);
+    connect(m_ui.m_pCopyAction, &QAction::triggered, this, [this] {
         if (const QString rows = SelectedRows(); !rows.isEmpty())
             QGuiApplication::clipboard()->setText(rows);
     });
 
-    QPalette palette = m_pAttributeTree->palette();
+    QPalette palette = m_ui.m_pAttributeTree->palette();
     palette.setColor(QPalette::Base, Qt::white);
     palette.setColor(QPalette::AlternateBase, QColor(0xf5, 0xf5, 0xf5));
     palette.setColor(QPalette::Highlight, QColor(0xe4, 0xf0, 0xfd));
     palette.setColor(QPalette::HighlightedText, Qt::black);
-    m_pAttributeTree->setPalette(palette);
+    m_ui.m_pAttributeTree->setPalette(palette);
 }
 
-void SmartStatus::makeHeading()
-{
-    const QString white = QStringLiteral("QLabel {color : white;}");
-    m_pHeadingLabel = pagelook::named(new QLabel(tr("Smart Status"), m_ui.ImageLabel), "m_pHeadingLabel");
-    m_pHeadingLabel->setFixedHeight(style::px(20));
-    m_pHeadingResultLabel = pagelook::named(new QLabel(m_ui.ImageLabel), "m_pHeadingResultLabel");
-    m_pHeadingResultLabel->setFixedHeight(style::px(28));
-    pagelook::styleLabels({m_pHeadingLabel}, style::semiBold(12), white);
-    pagelook::styleLabels({m_pHeadingResultLabel}, style::semiBold(13, true), white);
-    m_ui.HeadingGrid->addWidget(m_pHeadingLabel, 0, 0, 1, 2);
-    m_ui.HeadingGrid->addWidget(m_pHeadingResultLabel, 1, 0, 1, 2);
-}
-
-void SmartStatus::layOutPage()
+/// The widgets without a name, and the chart, whose size the form does not know.
+void SmartStatus::addRest()
 {
     m_ui.SmartResultLabel->setFixedHeight(style::px(47) / 2);
     m_ui.AttributeColumn->setSpacing(5);
     m_ui.AttributeColumn->insertWidget(0, newSpacer(m_ui.DitaledFrame));
-    m_ui.AttributeColumn->insertWidget(1, m_pAttributeTree);
     m_ui.AttributeColumn->insertWidget(2, newSpacer(m_ui.DitaledFrame));
     m_pChartView = new SmartChartView(m_ui.DitaledFrame);
     m_ui.AttributeColumn->addWidget(m_pChartView);
@@ -145,7 +118,7 @@ void SmartStatus::layOutPage()
 void SmartStatus::FormatSmartTable()
 {
     const bool nvme = g_App.m_bNVMe;
-    QTreeWidgetItem *header = m_pAttributeTree->headerItem();
+    QTreeWidgetItem *header = m_ui.m_pAttributeTree->headerItem();
     int index = 0;
     for (const attributecolumns::Column &column : attributecolumns::columns(nvme)) {
         if (column.header) {
@@ -155,12 +128,12 @@ void SmartStatus::FormatSmartTable()
         }
         const int width = attributecolumns::width(column, nvme, scale::percent());
         if (width > 0)
-            m_pAttributeTree->setColumnWidth(index, width);
-        m_pAttributeTree->setColumnHidden(index, column.hidden);
+            m_ui.m_pAttributeTree->setColumnWidth(index, width);
+        m_ui.m_pAttributeTree->setColumnHidden(index, column.hidden);
         ++index;
     }
 
-    QHeaderView *view = m_pAttributeTree->header();
+    QHeaderView *view = m_ui.m_pAttributeTree->header();
     view->setFont(style::font(10));
     view->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     view->setFixedHeight(style::px(28));
@@ -180,29 +153,25 @@ void SmartStatus::FormatSmartTable()
     view->setStyleSheet(sheet);
 }
 
-std::vector<AttributeRow> SmartStatus::CurrentRows()
-{
-    return g_App.m_bNVMe ? nvmeRows(g_nvmeTable.rows) : ataRows(g_smartTable.rows);
-}
-
 QTreeWidgetItem *SmartStatus::ShowRows(const std::vector<AttributeRow> &rows)
 {
     FormatSmartTable();
-    const QSignalBlocker block(m_pAttributeTree); // the caller knows of the row that becomes the current one
-    m_pAttributeTree->clear();
+    const QSignalBlocker block(
+        m_ui.m_pAttributeTree); // the caller knows of the row that becomes the current one
+    m_ui.m_pAttributeTree->clear();
     for (const AttributeRow &row : rows)
-        fillItem(new QTreeWidgetItem(m_pAttributeTree), row);
-    m_pAttributeTree->scrollToTop();
-    m_pAttributeTree->setCurrentItem(m_pAttributeTree->topLevelItem(0));
-    return m_pAttributeTree->topLevelItem(0);
+        fillItem(new QTreeWidgetItem(m_ui.m_pAttributeTree), row);
+    m_ui.m_pAttributeTree->scrollToTop();
+    m_ui.m_pAttributeTree->setCurrentItem(m_ui.m_pAttributeTree->topLevelItem(0));
+    return m_ui.m_pAttributeTree->topLevelItem(0);
 }
 
 void SmartStatus::ClearDisk()
 {
-    m_pAttributeTree->clear();
+    m_ui.m_pAttributeTree->clear();
     m_pChartView->Clear();
     m_pChartView->setAccessibleName(QString());
-    for (QLabel *label : {m_ui.GraphLabel, m_ui.SmartResultLabel, m_pHeadingResultLabel,
+    for (QLabel *label : {m_ui.GraphLabel, m_ui.SmartResultLabel, m_ui.m_pHeadingResultLabel,
                           m_ui.SerialNunValueLbl, m_ui.InterfaceValLbl, m_ui.CapcityValLbl})
         label->clear();
 }
@@ -217,20 +186,20 @@ void SmartStatus::ShowGraph(const QString &title, const GraphModel &graph)
 void SmartStatus::RetranslateSmartTable()
 {
     // There are no rows while a disk is being read.
-    if (m_pAttributeTree->topLevelItemCount() > 0)
-        ShowRows(CurrentRows());
+    if (m_ui.m_pAttributeTree->topLevelItemCount() > 0)
+        ShowRows(currentRows());
 }
 
 QString SmartStatus::SelectedRows() const
 {
     QStringList lines;
-    for (int i = 0; i < m_pAttributeTree->topLevelItemCount(); ++i) {
-        const QTreeWidgetItem *item = m_pAttributeTree->topLevelItem(i);
+    for (int i = 0; i < m_ui.m_pAttributeTree->topLevelItemCount(); ++i) {
+        const QTreeWidgetItem *item = m_ui.m_pAttributeTree->topLevelItem(i);
         if (!item->isSelected())
             continue;
         QStringList cells;
         for (int column = 0; column < attributecolumns::Count; ++column) {
-            if (!m_pAttributeTree->isColumnHidden(column))
+            if (!m_ui.m_pAttributeTree->isColumnHidden(column))
                 cells << item->text(column).trimmed();
         }
         lines << cells.join(QLatin1Char('\t'));
@@ -238,17 +207,11 @@ QString SmartStatus::SelectedRows() const
     return lines.join(QLatin1Char('\n'));
 }
 
-void SmartStatus::nameControls()
-{
-    m_pAttributeTree->setAccessibleName(tr("Smart Status"));
-    m_pCopyAction->setText(tr("Copy"));
-}
-
 void SmartStatus::ShowReading(OverallResult result)
 {
     m_pChartView->setVisible(g_bSmartAvailable);
     pagelook::showResult(m_ui.SmartResultLabel, result);
-    m_pHeadingLabel->setText(QCoreApplication::translate("MainWindow", "SMART Status"));
+    m_ui.m_pHeadingLabel->setText(QCoreApplication::translate("MainWindow", "SMART Status"));
     m_ui.GraphLabel->clear();
     const DiskNode *node = showSelectedDisk();
     if (!node)
@@ -274,14 +237,12 @@ const DiskNode *SmartStatus::showSelectedDisk()
 void SmartStatus::retranslate()
 {
     m_ui.retranslateUi(this);
-    m_pHeadingLabel->setText(tr("Smart Status"));
-    nameControls();
     if (!g_bReportPending) {
         const bool passed = g_bSmartAvailable && g_driveVerdict != DriveVerdict::Failed;
         pagelook::showResult(m_ui.SmartResultLabel,
                              passed ? OverallResult::Passed
                                     : overallResult(false, GetDiskTemperature(), g_driveVerdict));
-        m_pHeadingResultLabel->setText(passed ? tr("PASSED") : tr("FAIELD"));
+        m_ui.m_pHeadingResultLabel->setText(passed ? tr("PASSED") : tr("FAIELD"));
         m_ui.GraphLabel->setText(g_bSmartAvailable ? tr("Graph") : QString());
     }
     RetranslateSmartTable();

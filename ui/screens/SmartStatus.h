@@ -5,11 +5,8 @@
 
 #include "ui_SmartStatus.h"
 
-#include <QTreeWidget>
-
 #include <vector>
 
-class QAction;
 class SmartChartView;
 enum class OverallResult;
 struct AttributeRow;
@@ -29,13 +26,11 @@ public:
     /// header's style by scale and language. The rows stay.
     void FormatSmartTable();
 
-    /// The rows of the report that was read last, of its kind.
-    static std::vector<AttributeRow> CurrentRows();
     /// Puts rows in the place of those that show. Selects and gives the first; null where there is none.
     QTreeWidgetItem *ShowRows(const std::vector<AttributeRow> &rows);
     /// The selected rows as a spreadsheet takes them: tabs between the cells, a line for each row.
     QString SelectedRows() const;
-    void ClearRows() { m_pAttributeTree->clear(); }
+    void ClearRows() { m_ui.m_pAttributeTree->clear(); }
     /// Shows a graph in place of the one before.
     void ShowGraph(const QString &title, const GraphModel &graph);
     /// Shows what stands above rows and graph for the selected disk, whose report was read.
@@ -56,16 +51,10 @@ protected:
 
 private:
     void makeTree();
-    void makeHeading();
-    void layOutPage();
-    void nameControls();
+    void addRest();
     /// Gives the disk; null where there is none.
     const DiskNode *showSelectedDisk();
 
     Ui::m_pSmartWgt m_ui;
-    QTreeWidget *m_pAttributeTree;
-    QAction *m_pCopyAction;
     SmartChartView *m_pChartView;
-    QLabel *m_pHeadingLabel;       ///< in ImageLabel, hidden with it
-    QLabel *m_pHeadingResultLabel; ///< in ImageLabel, hidden with it
 };

@@ -48,9 +48,10 @@ void ElidingLabel::paintEvent(QPaintEvent *)
 void FittingLabel::paintEvent(QPaintEvent *)
 {
     constexpr int SmallestPoints = 8;
+    constexpr int Room = 134; // up to the picture
     QFont fitting = font();
     while (fitting.pointSize() > SmallestPoints &&
-           QFontMetrics(fitting, this).horizontalAdvance(text()) > m_nRoom)
+           QFontMetrics(fitting, this).horizontalAdvance(text()) > style::px(Room))
         fitting.setPointSize(fitting.pointSize() - 1);
     drawLine(this, text(), fitting);
 }

@@ -22,18 +22,15 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 };
 
-/// A label of one plain line that draws a text too long for its room in smaller letters.
+/// A label of one plain line, the value of a tile: draws a text that would reach into the tile's picture in
+/// smaller letters.
 class FittingLabel : public QLabel
 {
 public:
-    /// `room` is the width in pixels that a text may take.
-    explicit FittingLabel(int room, QWidget *parent = nullptr) : QLabel(parent), m_nRoom(room) {}
+    using QLabel::QLabel;
 
 protected:
     void paintEvent(QPaintEvent *event) override;
-
-private:
-    const int m_nRoom;
 };
 
 /// A label of a caption and a value in one text, "Capacity\t: 931.51 GB". The caption is semibold. The value

@@ -40,8 +40,18 @@ void scaleLayout(QLayout *layout)
     if (auto *grid = qobject_cast<QGridLayout *>(layout)) {
         grid->setHorizontalSpacing(px(grid->horizontalSpacing()));
         grid->setVerticalSpacing(px(grid->verticalSpacing()));
+        for (int row = 0; row < grid->rowCount(); ++row)
+            grid->setRowMinimumHeight(row, px(grid->rowMinimumHeight(row)));
+        for (int column = 0; column < grid->columnCount(); ++column)
+            grid->setColumnMinimumWidth(column, px(grid->columnMinimumWidth(column)));
     } else {
         layout->setSpacing(px(layout->spacing()));
+    }
+    for (int i = 0; i < layout->count(); ++i) {
+        if (QSpacerItem *spacer = layout->itemAt(i)->spacerItem())
+            spacer->changeSize(px(spacer->sizeHint().width()), px(spacer->sizeHint().height()),
+                               spacer->sizePolicy().horizontalPolicy(),
+                               spacer->sizePolicy().verticalPolicy());
     }
 }
 
@@ -85,6 +95,12 @@ void setWhiteBackground(QWidget *widget)
     palette.setBrush(QPalette::Window, Qt::white);
     widget->setPalette(palette);
     widget->setAutoFillBackground(true);
+}
+
+void setVisible(std::initializer_list<QWidget *> widgets, bool visible)
+{
+    for (QWidget *widget : widgets)
+        widget->setVisible(visible);
 }
 
 void scaleForm(QWidget *window)

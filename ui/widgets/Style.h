@@ -6,6 +6,8 @@
 #include <QRect>
 #include <QString>
 
+#include <initializer_list>
+
 class QPushButton;
 class QWidget;
 
@@ -29,6 +31,9 @@ int px(int size);
 
 /// White window background that fills the widget.
 void setWhiteBackground(QWidget *widget);
+
+/// Shows or hides several widgets.
+void setVisible(std::initializer_list<QWidget *> widgets, bool visible);
 
 /// Multiplies the margins, spacings and fixed sizes of a form by the display scale.
 void scaleForm(QWidget *window);

@@ -4,7 +4,6 @@
 #include "clone/CloneMessages.h"
 #include "platform/PlainText.h"
 #include "smart/SelfTestGlobals.h"
-#include "ui/dialogs/MessageDialog.h"
 
 namespace
 {

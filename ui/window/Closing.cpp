@@ -2,11 +2,7 @@
 #include "ui/window/MainWindow.h"
 
 #include "platform/Platform.h"
-#include "state/GlobalApp.h"
 #include "state/Globals.h"
-#include "ui/dialogs/MessageDialog.h"
-#include "ui/screens/CloneDisk.h"
-#include "ui/screens/ScanDisk.h"
 #include "ui/widgets/Style.h"
 
 #include <QCloseEvent>

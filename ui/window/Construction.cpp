@@ -5,24 +5,15 @@
 #include "state/Languages.h"
 #include "state/SettingsStore.h"
 #include "state/StartArgument.h"
-#include "ui/dialogs/MessageDialog.h"
 #include "ui/dialogs/QCheckUpdate.h"
-#include "ui/screens/AccessNotice.h"
-#include "ui/screens/CloneDisk.h"
-#include "ui/screens/DiskPartition.h"
-#include "ui/screens/DiskStatus.h"
-#include "ui/screens/PageLook.h"
-#include "ui/screens/ScanDisk.h"
-#include "ui/screens/Settings.h"
-#include "ui/screens/SmartStatus.h"
 #include "ui/widgets/DonutChartView.h"
 #include "ui/widgets/Images.h"
-#include "ui/widgets/MyButton.h"
 #include "ui/widgets/PopupMenu.h"
 #include "ui/widgets/Style.h"
 
 #include <QAction>
 #include <QEvent>
+#include <QMovie>
 #include <QTimer>
 
 namespace
@@ -32,19 +23,8 @@ constexpr int WindowWidth = 905;
 constexpr int WindowHeight = 600;
 constexpr int TitleStripHeight = 26; ///< only a press on it drags the window
 constexpr int TemperatureInterval = 60000;
-const QRect PageGeometry(-16, 49, 764, 452); ///< in WidgetFrame; the page's margins hang over its edges
-constexpr int FirstNavigationY = 55;
-constexpr int NavigationStep = 44;
+const QPoint PagePlace(-16, 49); ///< in WidgetFrame; the margins of a page hang over its edges
 const QString PaleBackground = QStringLiteral("background: rgb(245,245,245);");
-
-template<typename Widget>
-Widget *makeHeaderWidget(QWidget *parent, const char *name, const QRect &place)
-{
-    auto *widget = pagelook::named(new Widget(parent), name);
-    widget->setGeometry(place);
-    style::scaleWidget(widget);
-    return widget;
-}
 
 /// Shows a header button as its picture. The picture under the pointer has the suffix "Hov".
 void dressToolButton(QPushButton *button, const QString &image)
@@ -59,15 +39,17 @@ void dressToolButton(QPushButton *button, const QString &image)
                  images::nearestPath(image + QStringLiteral("Hov.png"))));
 }
 
-/// An entry with its picture, if it has one, and a separator above it unless it is the first.
-QAction *addEntry(QMenu *menu, const char *name, const char *image = nullptr)
+/// Gives a header button its menu, with separators between the entries.
+void addMenu(QPushButton *button, bool alignRight, const QList<QAction *> &entries)
 {
-    if (!menu->isEmpty())
-        menu->addSeparator();
-    QAction *entry = pagelook::named(menu->addAction(QString()), name);
-    if (image)
-        entry->setIcon(QIcon(images::path(QLatin1String(image), images::Family::MoreTools)));
-    return entry;
+    auto *menu = new PopupMenu(alignRight, button);
+    menu->setFont(style::font(10));
+    for (QAction *entry : entries) {
+        if (!menu->isEmpty())
+            menu->addSeparator();
+        menu->addAction(entry);
+    }
+    button->setMenu(menu);
 }
 
 } // namespace
@@ -157,11 +139,12 @@ void MainWindow::styleShell()
                                     QStringLiteral("MyButton1{padding-left: %1px;}").arg(style::px(32)));
 
     pagelook::styleLabels({m_ui.label}, style::font(8), style::BlackLabel);
+    m_pMovie = images::newMovie(QStringLiteral("img_Scan.gif"), this);
+    m_ui.Giflabel->setMovie(m_pMovie);
     m_ui.GifFrame->hide();
     images::setLabelImage(m_ui.PixmapLabel, QStringLiteral("img_HalvaneSmallLogo.png"));
     m_ui.PixmapLabel->setScaledContents(true);
-    m_pHeaderText = makeHeaderWidget<QLabel>(m_ui.HeaderLabel, "m_pHeaderText", QRect(52, 8, 300, 29));
-    pagelook::styleLabels({m_pHeaderText}, style::semiBold(11), style::BlackLabel);
+    pagelook::styleLabels({m_ui.m_pHeaderText}, style::semiBold(11), style::BlackLabel);
     for (QLabel *name : {m_ui.SerialNumLabel, m_ui.InterfaceTypeLabel, m_ui.SmartStatusLabel})
         name->setFont(style::semiBold(8));
     for (QLabel *value : {m_ui.SerialNumValLabel, m_ui.CapacityValLabel, m_ui.ResultLabel})
@@ -172,10 +155,9 @@ void MainWindow::styleShell()
         style::styleButton(button, style::ButtonRole::Light);
     for (QPushButton *button : {m_ui.ScanButton, m_ui.CloneButton, m_ui.ReportSaveButton})
         style::styleButton(button, style::ButtonRole::Main);
-    for (QWidget *button : std::initializer_list<QWidget *>{
-             m_ui.ScanButton, m_ui.CloneButton, m_ui.ReportSaveButton, m_ui.ScreenshotButton, m_ui.StopButton,
-             m_ui.StopTestButton, m_ui.BackTestButton})
-        button->hide();
+    style::setVisible({m_ui.ScanButton, m_ui.CloneButton, m_ui.ReportSaveButton, m_ui.ScreenshotButton,
+                       m_ui.StopButton, m_ui.StopTestButton, m_ui.BackTestButton},
+                      false);
 }
 
 void MainWindow::buildScreens()
@@ -190,8 +172,7 @@ void MainWindow::buildScreens()
     m_pAccessNotice = pagelook::named(new AccessNotice(m_ui.WidgetFrame), "m_pAccessNotice");
     QList<QWidget *> pages(m_apScreens.cbegin(), m_apScreens.cend());
     for (QWidget *screen : pages << m_pAccessNotice) {
-        screen->setFixedSize(style::px(PageGeometry.width()), style::px(PageGeometry.height()));
-        screen->move(style::px(PageGeometry.x()), style::px(PageGeometry.y()));
+        screen->move(style::px(PagePlace.x()), style::px(PagePlace.y()));
         screen->hide();
     }
     m_pSettings = new Settings;
@@ -214,15 +195,10 @@ void MainWindow::buildDialogs()
 
 void MainWindow::buildNavigation()
 {
-    static const char *const names[navigation::ScreenCount] = {
-        "DiskStatusButton", "SmartStatusButton", "DiskPartitionButton", "ScanDiskButton", "CloneDiskButton"};
-    for (const Screen screen : Screens) {
-        auto *button = pagelook::named(new MyButton(m_ui.SideButtonLabel), names[screen]);
+    m_apNavigation = {m_ui.DiskStatusButton, m_ui.SmartStatusButton, m_ui.DiskPartitionButton,
+                      m_ui.ScanDiskButton, m_ui.CloneDiskButton};
+    for (MyButton *button : m_apNavigation)
         button->setFont(style::font(10));
-        button->setFixedSize(style::px(172), style::px(40));
-        button->move(0, style::px(FirstNavigationY + screen * NavigationStep));
-        m_apNavigation[screen] = button;
-    }
     m_ui.BackTestButton->setFont(style::font(10));
     m_ui.BackTestButton->setIconSize(QSize(style::px(32), style::px(30)));
     OnBackTestNormalImage();
@@ -230,56 +206,37 @@ void MainWindow::buildNavigation()
 
 void MainWindow::buildToolButtons()
 {
-    const auto makeButton = [this](const char *name, int x) {
-        return makeHeaderWidget<QPushButton>(m_ui.ButtonLabel, name, QRect(x, 8, 28, 28));
-    };
-    m_pHelpButton = makeButton("m_pHelpButton", 101);
-    m_pMoreToolsButton = makeButton("m_pMoreToolsButton", 133);
-    m_pMenuButton = makeButton("m_pMenuButton", 165);
-    images::setLabelImage(makeHeaderWidget<QLabel>(m_ui.ButtonLabel, "m_pCompanyLogo", QRect(58, 8, 29, 29)),
-                          g_App.m_bKorvaneBrand ? QStringLiteral("img_CompanyLogoKorvane.png")
-                                                : QStringLiteral("img_CompanyLogo.png"));
-    dressToolButton(m_pHelpButton, QStringLiteral("img_Help"));
-    dressToolButton(m_pMoreToolsButton, QStringLiteral("img_MoreTools"));
-    dressToolButton(m_pMenuButton, QStringLiteral("img_Menu"));
+    images::setLabelImage(m_ui.m_pCompanyLogo, g_App.m_bKorvaneBrand
+                                                   ? QStringLiteral("img_CompanyLogoKorvane.png")
+                                                   : QStringLiteral("img_CompanyLogo.png"));
+    dressToolButton(m_ui.m_pHelpButton, QStringLiteral("img_Help"));
+    dressToolButton(m_ui.m_pMoreToolsButton, QStringLiteral("img_MoreTools"));
+    dressToolButton(m_ui.m_pMenuButton, QStringLiteral("img_Menu"));
     dressToolButton(m_ui.minimizeButton, QStringLiteral("img_Minimize"));
     dressToolButton(m_ui.CloseButton, QStringLiteral("img_Close"));
 
-    auto *mainMenu = new PopupMenu(true, m_pMenuButton);
-    m_pSettingsAction = addEntry(mainMenu, "m_pSettingsAction");
-    m_pAboutAction = addEntry(mainMenu, "m_pAboutAction");
-    m_pMenuButton->setMenu(mainMenu);
-    auto *moreToolsMenu = new PopupMenu(false, m_pMoreToolsButton);
-    m_pRecoverAction = addEntry(moreToolsMenu, "m_pRecoverAction", "img_RecoverData.png");
-    m_pVideoAction = addEntry(moreToolsMenu, "m_pVideoAction", "img_RepairVideo.png");
-    m_pPhotoAction = addEntry(moreToolsMenu, "m_pPhotoAction", "img_RepairPhoto.png");
-    m_pMoreToolsButton->setMenu(moreToolsMenu);
-    for (QMenu *menu : {mainMenu, moreToolsMenu})
-        menu->setFont(style::font(10));
+    const auto icon = [](const char *file) {
+        return QIcon(images::path(QLatin1String(file), images::Family::MoreTools));
+    };
+    m_ui.m_pRecoverAction->setIcon(icon("img_RecoverData.png"));
+    m_ui.m_pVideoAction->setIcon(icon("img_RepairVideo.png"));
+    m_ui.m_pPhotoAction->setIcon(icon("img_RepairPhoto.png"));
+    addMenu(m_ui.m_pMenuButton, true, {m_ui.m_pSettingsAction, m_ui.m_pAboutAction});
+    addMenu(m_ui.m_pMoreToolsButton, false,
+            {m_ui.m_pRecoverAction, m_ui.m_pVideoAction, m_ui.m_pPhotoAction});
 }
 
 void MainWindow::retranslateShell()
 {
-    m_pHeaderText->setText(windowTitle());
     for (const Screen screen : Screens) {
         m_apNavigation[screen]->setText(tr(navigation::buttons[screen].text));
         m_apNavigation[screen]->setToolTip(tr(navigation::buttons[screen].toolTip));
         m_apNavigation[screen]->setAccessibleName(m_apNavigation[screen]->text().trimmed());
     }
     m_ui.DriveCombobox->setAccessibleName(tr("Disk Drive ").trimmed());
-    m_pHelpButton->setToolTip(tr("View Velmora Halvane help document"));
-    m_pMoreToolsButton->setToolTip(tr("More Tools"));
-    m_pMenuButton->setToolTip(tr("Menu"));
-    m_ui.minimizeButton->setToolTip(tr("Minimize"));
-    m_ui.CloseButton->setToolTip(tr("Close"));
-    for (QPushButton *button :
-         {m_pHelpButton, m_pMoreToolsButton, m_pMenuButton, m_ui.minimizeButton, m_ui.CloseButton})
+    for (QPushButton *button : {m_ui.m_pHelpButton, m_ui.m_pMoreToolsButton, m_ui.m_pMenuButton,
+                                m_ui.minimizeButton, m_ui.CloseButton})
         button->setAccessibleName(button->toolTip());
-    m_pSettingsAction->setText(tr("Settings"));
-    m_pAboutAction->setText(tr("About"));
-    m_pRecoverAction->setText(tr("Recover Data"));
-    m_pVideoAction->setText(tr("Repair Video"));
-    m_pPhotoAction->setText(tr("Repair Photo"));
 
     const languages::Language &language = languages::current();
     m_ui.SideButtonLabel->setFixedWidth(style::px(language.sideWidth));
@@ -338,13 +295,12 @@ void MainWindow::connectAll()
     connect(m_ui.CloneButton, &QPushButton::clicked, this, &MainWindow::OnCloneStart);
     connect(m_ui.ReportSaveButton, &QPushButton::clicked, this, &MainWindow::SavePDFReport);
     connect(m_ui.ScreenshotButton, &QPushButton::clicked, this, &MainWindow::TakeScreenshot);
-    connect(m_pMenuButton, &QPushButton::clicked, this, &MainWindow::OnHideButtons);
-    connect(m_pSettingsAction, &QAction::triggered, this, &MainWindow::OnShowSettings);
-    connect(m_pAboutAction, &QAction::triggered, this, &MainWindow::OnShowAbout);
-    connect(m_pHelpButton, &QPushButton::clicked, this, &MainWindow::OnOpenHelp);
-    connect(m_pRecoverAction, &QAction::triggered, this, &MainWindow::LaunchDataRecovery);
-    connect(m_pVideoAction, &QAction::triggered, this, &MainWindow::LaunchVideoRepair);
-    connect(m_pPhotoAction, &QAction::triggered, this, &MainWindow::LaunchPhotoRepair);
+    connect(m_ui.m_pSettingsAction, &QAction::triggered, this, &MainWindow::OnShowSettings);
+    connect(m_ui.m_pAboutAction, &QAction::triggered, this, &MainWindow::OnShowAbout);
+    connect(m_ui.m_pHelpButton, &QPushButton::clicked, this, &MainWindow::OnOpenHelp);
+    connect(m_ui.m_pRecoverAction, &QAction::triggered, this, &MainWindow::LaunchDataRecovery);
+    connect(m_ui.m_pVideoAction, &QAction::triggered, this, &MainWindow::LaunchVideoRepair);
+    connect(m_ui.m_pPhotoAction, &QAction::triggered, this, &MainWindow::LaunchPhotoRepair);
 
     connect(m_pCloseWgt, &CloseWgt::confirmed, this, &MainWindow::Onyes);
     connect(m_pCloseWgt, &CloseWgt::dismissed, this, &MainWindow::OnNo);

@@ -5,9 +5,6 @@
 #include "smart/DiskFigures.h"
 #include "state/DriveTexts.h"
 #include "state/StartArgument.h"
-#include "ui/dialogs/MessageDialog.h"
-#include "ui/screens/CloneDisk.h"
-#include "ui/screens/ScanDisk.h"
 
 void MainWindow::FillDriveCombos()
 {
@@ -74,7 +71,7 @@ void MainWindow::refreshClonePage()
     // lists and the identity texts; at its end this function runs again.
     if (g_bListsLoading || g_Jobs.runs(Job::Clone))
         return;
-    clearIdentityTexts();
+    forgetIdentity();
     m_pCloneDiskPage->ChooseSource(m_ui.DriveCombobox->currentIndex());
     LookUpDisk(m_ui.DriveCombobox->currentIndex());
     m_pCloneDiskPage->RefreshSourceDetails(g_App.m_pCurrentDisk);

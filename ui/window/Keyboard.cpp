@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ui/widgets/MyButton.h"
 #include "ui/window/MainWindow.h"
 
 #include <QScrollArea>
@@ -51,8 +50,8 @@ void MainWindow::connectKeys()
 /// The key Tab goes through the window as it is read: title, navigation, disk, page, buttons below.
 void MainWindow::orderFocus()
 {
-    QList<QWidget *> order{m_pHelpButton, m_pMoreToolsButton, m_pMenuButton, m_ui.minimizeButton,
-                           m_ui.CloseButton};
+    QList<QWidget *> order{m_ui.m_pHelpButton, m_ui.m_pMoreToolsButton, m_ui.m_pMenuButton,
+                           m_ui.minimizeButton, m_ui.CloseButton};
     for (MyButton *button : m_apNavigation)
         order << button;
     order << m_ui.DriveCombobox;

@@ -17,6 +17,7 @@
 #include "ui/screens/SmartStatus.h"
 #include "ui/widgets/FocusRing.h"
 #include "ui/widgets/FramelessDrag.h"
+#include "ui/widgets/MyButton.h"
 #include "ui/window/QRefThreadDevicesLoad.h"
 #include "update/HelpLinks.h"
 
@@ -27,8 +28,6 @@
 #include <QPointer>
 #include <QSystemTrayIcon>
 
-class MyButton;
-class PopupMenu;
 class QCheckUpdate;
 class QMovie;
 class QTimer;
@@ -200,7 +199,6 @@ private:
     /// @{
     void takeUpChosenDisk();
     void showWaitingTiles();
-    void clearIdentityTexts();
     void startRead();
     void updateReportButtons();
     bool reportKnown() const;
@@ -224,7 +222,6 @@ private:
     void keepScannedDisk();
     void refreshScanPage();
     void startSurfaceScan();
-    void setMenuEntriesEnabled(bool enabled);
     void dropScanResults();
     void lockShell(Screen screen);
     void releaseShell();
@@ -232,8 +229,7 @@ private:
     void enableNavigation(bool enabled = true);
     void showTestButtons(bool running);
     void takeTestStep(const SelfTest::Step &step);
-    void takeTestEnd(selftest::Told how);
-    void takeTestOver(selftest::Told how);
+    void leaveTest();
     void showRunningPanel(bool fromYes);
     void keepAwake();
     void launchSibling(const QString &fileName);
@@ -262,23 +258,11 @@ private:
     DestinitionWarning *m_pDestinitionWarning = nullptr;
     SelfTestNotSupported *m_pSelfTestNotSupported = nullptr;
 
-    QLabel *m_pHeaderText = nullptr;
-    QPushButton *m_pMenuButton = nullptr;
-    QPushButton *m_pHelpButton = nullptr;
-    QPushButton *m_pMoreToolsButton = nullptr;
-    QAction *m_pSettingsAction = nullptr;
-    QAction *m_pAboutAction = nullptr;
-    QAction *m_pRecoverAction = nullptr;
-    QAction *m_pVideoAction = nullptr;
-    QAction *m_pPhotoAction = nullptr;
-
     /// The screen asked for while a job's results are open.
     std::array<bool, navigation::ScreenCount> m_abSwitchTarget{};
-    ChosenDisk m_scannedDisk;           ///< whose results show: of a scan, or of a self-test
-    SelfTestPanel::Shown m_shownTest;   ///< what the page shows of the self-test
-    CloneDisk::Pair m_askedPair;        ///< named in the question before a clone
-    QHash<int, int> m_hashComboToDisk;  ///< combo index to DiskNode::nId
-    QList<QAction *> m_listHeldEntries; ///< menu entries that a scan made grey
+    ChosenDisk m_scannedDisk;          ///< whose results show: of a scan, or of a self-test
+    CloneDisk::Pair m_askedPair;       ///< named in the question before a clone
+    QHash<int, int> m_hashComboToDisk; ///< combo index to DiskNode::nId
     QMovie *m_pMovie = nullptr;
     bool m_bStartedByKey = false; ///< the latest scan or clone
     bool m_bRefreshing = false;

@@ -1,30 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/window/MainWindow.h"
 
-#include "platform/Platform.h"
 #include "smart/SmartGlobals.h"
 #include "smart/Temperature.h"
 #include "state/SettingsStore.h"
 #include "ui/dialogs/AboutDlg.h"
 #include "ui/dialogs/QCheckUpdate.h"
 #include "ui/widgets/Style.h"
-
-#include <QCoreApplication>
-
-namespace
-{
-
-LogonTask companionTask()
-{
-    LogonTask task;
-    task.name = companion::taskName();
-    task.author = g_App.m_strUserName;
-    task.program = QCoreApplication::applicationDirPath() + QLatin1Char('/') + companion::fileName();
-    task.arguments = QStringLiteral("Schedular");
-    return task;
-}
-
-} // namespace
 
 void MainWindow::OnShowAbout()
 {
@@ -68,15 +50,6 @@ void MainWindow::OnSetSmartSettings()
     m_pDiskStatusPage->showTile(DiskStatus::Temperature, g_bReportPending ? waitingTemperatureText(unit)
                                                          : celsius < 1    ? tr("Not Supported")
                                                                           : g_strTemperatureText);
-    const bool tray = m_pSettings->WantsTray();
-    if (tray) {
-        Platform::current().CreateLogonTask(companionTask());
-        companion::ensureRunning();
-    }
-    SettingsStore().write(key::ShowTrayIcon, tray ? 1 : 0);
-    if (!tray) {
-        Platform::current().DeleteLogonTask(companion::taskName());
-        companion::kill();
-    }
+    companion::setWanted(m_pSettings->WantsTray());
     m_pSettings->hide();
 }

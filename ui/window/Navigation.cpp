@@ -1,14 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/window/MainWindow.h"
 
-#include "state/GlobalApp.h"
 #include "state/Globals.h"
-#include "ui/dialogs/MessageDialog.h"
-#include "ui/screens/AccessNotice.h"
-#include "ui/screens/CloneDisk.h"
-#include "ui/screens/ScanDisk.h"
 #include "ui/widgets/Images.h"
-#include "ui/widgets/MyButton.h"
 #include "ui/widgets/Style.h"
 
 #include <initializer_list>

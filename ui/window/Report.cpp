@@ -8,7 +8,6 @@
 #include "smart/SmartGlobals.h"
 #include "smart/ToolInvocation.h"
 #include "state/Globals.h"
-#include "ui/screens/SmartStatus.h"
 #include "ui/widgets/Images.h"
 
 #include <QFileDialog>

@@ -3,19 +3,12 @@
 
 #include "scan/ScanGlobals.h"
 #include "smart/SelfTestGlobals.h"
-#include "state/GlobalApp.h"
 #include "state/Globals.h"
-#include "ui/dialogs/MessageDialog.h"
-#include "ui/screens/CloneDisk.h"
-#include "ui/screens/ScanDisk.h"
-#include "ui/screens/SelfTestPanel.h"
-#include "ui/widgets/MyButton.h"
+#include "ui/widgets/Style.h"
 
 #include <QAction>
 #include <QEvent>
 #include <QTimer>
-
-#include <initializer_list>
 
 void MainWindow::OnShowScanDisk()
 {
@@ -119,13 +112,12 @@ void MainWindow::OnFinishScanDisk()
 /// The shell while a scan or a clone runs: nothing leads away from it but the Stop button.
 void MainWindow::lockShell(Screen screen)
 {
-    setMenuEntriesEnabled(false);
+    m_ui.MenuEntries->setEnabled(false);
     // Who has started the job by a key can stop it by a key.
     m_bStartedByKey = focusWidget() == m_ui.ScanButton || focusWidget() == m_ui.CloneButton;
-    for (QWidget *idle :
-         std::initializer_list<QWidget *>{m_ui.ScanButton, m_ui.CloneButton, m_ui.ScreenshotButton,
-                                          m_ui.BackTestButton, m_ui.StopTestButton})
-        idle->hide();
+    style::setVisible(
+        {m_ui.ScanButton, m_ui.CloneButton, m_ui.ScreenshotButton, m_ui.BackTestButton, m_ui.StopTestButton},
+        false);
     m_ui.StopButton->show();
     if (m_bStartedByKey)
         m_ui.StopButton->setFocus();
@@ -137,7 +129,7 @@ void MainWindow::lockShell(Screen screen)
 /// The shell when the scan or the clone has ended.
 void MainWindow::releaseShell()
 {
-    setMenuEntriesEnabled(true);
+    m_ui.MenuEntries->setEnabled(true);
     keepAwake();
     // There is nothing left to be stopped.
     m_pConfirmation->hide();
@@ -160,23 +152,6 @@ void MainWindow::enableNavigation(bool enabled)
 {
     for (const Screen screen : Screens)
         setNavigationEnabled(screen, enabled);
-}
-
-/// The menu entries that lead away from a job. Entries without a function stay grey.
-void MainWindow::setMenuEntriesEnabled(bool enabled)
-{
-    if (enabled) {
-        for (QAction *entry : qAsConst(m_listHeldEntries))
-            entry->setEnabled(true);
-        m_listHeldEntries.clear();
-        return;
-    }
-    for (QAction *entry :
-         {m_pSettingsAction, m_pAboutAction, m_pRecoverAction, m_pVideoAction, m_pPhotoAction}) {
-        if (entry->isEnabled())
-            m_listHeldEntries.append(entry);
-        entry->setEnabled(false);
-    }
 }
 
 /// The user leaves the results of a job.

@@ -4,10 +4,6 @@
 #include "smart/SmartGlobals.h"
 #include "smart/ToolInvocation.h"
 #include "state/Globals.h"
-#include "ui/dialogs/MessageDialog.h"
-#include "ui/screens/ScanDisk.h"
-#include "ui/screens/SelfTestPanel.h"
-#include "ui/widgets/MyButton.h"
 
 #include <QTimer>
 
@@ -30,8 +26,7 @@ void MainWindow::OnCheckRadioButton()
         return;
     }
     g_bTestPending = true;
-    m_shownTest = {};
-    m_pScanDiskPage->ShowSelfTest(m_shownTest);
+    m_pScanDiskPage->ShowSelfTest({});
     g_Jobs.end(Job::SelfTest);
     DetailsforSelftest();
     OnCheckShortTest1();
@@ -54,11 +49,7 @@ void MainWindow::DetailsforSelftest()
 void MainWindow::OnCheckShortTest1()
 {
     m_selfTest.prepare(m_pScanDiskPage->ChosenTest());
-    m_shownTest.kind = currentSelfTest();
-    m_shownTest.model = g_strSelfTestModel;
-    m_shownTest.serial = g_strSelfTestSerial;
-    m_shownTest.percent = 0;
-    m_pScanDiskPage->TellSelfTest(m_shownTest);
+    m_pScanDiskPage->TellSelfTest(m_selfTest.shown());
     if (!m_selfTest.canRun()) {
         showCentred(m_pSelfTestNotSupported);
         // It leads back to the choice of a test.
@@ -66,7 +57,7 @@ void MainWindow::OnCheckShortTest1()
         return;
     }
     m_ui.DriveCombobox->setEnabled(false);
-    m_pScanDiskPage->ShowSelfTest(m_shownTest);
+    m_pScanDiskPage->ShowSelfTest(m_selfTest.shown());
     showTestButtons(true);
     g_bOnTestScreen = true;
     m_pScanDiskPage->show();
@@ -93,23 +84,12 @@ void MainWindow::OnStartShortSelfTest()
     keepAwake();
     m_scannedDisk = chosenDisk();
     setNavigationEnabled(navigation::ScanDiskScreen, !canRun);
-    m_shownTest.status.reset();
-    m_shownTest.elapsed.clear();
-    m_shownTest.pollingMinutes.reset();
-    m_shownTest.remainingMinutes.reset();
-    m_shownTest.progress = true;
-    m_shownTest.times = canRun;
-    m_pScanDiskPage->ShowSelfTest(m_shownTest);
+    m_pScanDiskPage->ShowSelfTest(m_selfTest.shown());
     selectButton(navigation::ScanDiskScreen);
-    if (!canRun)
+    if (canRun && !started)
+        leaveTest();
+    if (!started)
         return;
-    if (!started) {
-        takeTestEnd(selftest::Told::NoStatus);
-        m_pScanDiskPage->TellSelfTest(m_shownTest);
-        return;
-    }
-    m_shownTest.pollingMinutes = currentPollingMinutes();
-    m_shownTest.remainingMinutes = currentPollingMinutes();
     CheckShortTestStatus1();
     if (!g_Jobs.runs(Job::SelfTest))
         return;
@@ -124,18 +104,16 @@ void MainWindow::CheckShortTestStatus1()
 {
     const SelfTest::Tick tick = m_selfTest.tick();
     if (tick.aborted)
-        takeTestOver(selftest::Told::Aborted);
+        leaveTest();
     for (const SelfTest::Step &step : tick.steps)
         takeTestStep(step);
-    if (tick.opened)
-        m_shownTest.elapsed = m_selfTest.elapsedText();
-    m_pScanDiskPage->TellSelfTest(m_shownTest);
+    m_pScanDiskPage->TellSelfTest(m_selfTest.shown());
 }
 
 void MainWindow::takeTestStep(const SelfTest::Step &step)
 {
     if (step.told != selftest::Told::InProgress) {
-        takeTestEnd(step.told);
+        leaveTest();
         return;
     }
     for (const Screen screen : Screens) {
@@ -143,30 +121,15 @@ void MainWindow::takeTestStep(const SelfTest::Step &step)
             setNavigationEnabled(screen, false);
     }
     m_ui.StopTestButton->show();
-    m_shownTest.percent = step.percent;
-    m_shownTest.status = step.told;
-    if (step.minutes)
-        m_shownTest.remainingMinutes = step.minutes;
 }
 
-void MainWindow::takeTestEnd(selftest::Told how)
+void MainWindow::leaveTest()
 {
     m_pConfirmation->hide();
-    m_shownTest.percent = 100;
-    m_shownTest.remainingMinutes = 0;
-    m_shownTest.times = false;
-    takeTestOver(how);
-}
-
-/// A test that was aborted keeps its times on show.
-void MainWindow::takeTestOver(selftest::Told how)
-{
     if (m_pTestTimer)
         m_pTestTimer->stop();
     enableNavigation();
     showTestButtons(false);
-    m_shownTest.progress = false;
-    m_shownTest.status = how;
 }
 
 void MainWindow::OnClickStopTestButton()

@@ -3,35 +3,21 @@
 
 #include "inventory/CommandRunner.h"
 #include "platform/OwnFiles.h"
-#include "smart/AttributeGraph.h"
-#include "smart/AttributeHistory.h"
-#include "smart/AttributeRows.h"
+#include "smart/AttributeColumns.h"
 #include "smart/DiskFigures.h"
 #include "smart/SmartGlobals.h"
 #include "smart/Temperature.h"
 #include "state/DiskIdentityTexts.h"
-#include "state/GlobalApp.h"
 #include "state/Globals.h"
 #include "state/Scale.h"
 #include "state/SettingsRules.h"
 #include "state/SettingsStore.h"
 #include "state/StartArgument.h"
-#include "ui/screens/PageLook.h"
-#include "ui/widgets/Images.h"
+#include "ui/widgets/Style.h"
 
-#include <QDateTime>
 #include <QFileInfo>
 #include <QMovie>
 #include <QTreeWidgetItem>
-
-namespace
-{
-
-constexpr int NameColumn = 1;
-constexpr int AtaKeyColumn = 7;
-constexpr int NvmeKeyColumn = 3;
-
-} // namespace
 
 void MainWindow::RequestSmartRead(int diskIndex)
 {
@@ -55,12 +41,6 @@ void MainWindow::takeUpChosenDisk()
     showWaitingTiles();
 }
 
-void MainWindow::clearIdentityTexts()
-{
-    for (QString *text : {&g_strSerialNumber, &g_strModelName, &g_strFirmware})
-        text->clear();
-}
-
 void MainWindow::showWaitingTiles()
 {
     g_strHealthText = QStringLiteral("0%");
@@ -69,9 +49,9 @@ void MainWindow::showWaitingTiles()
                                 waitingTemperatureText(SettingsStore().text(key::TempValue)));
     m_pDiskStatusPage->showTile(DiskStatus::Health, g_strHealthText);
     m_pDiskStatusPage->showTile(DiskStatus::Performance, g_strPerformanceText);
-    for (QLabel *summary : {m_ui.SerialNumLabel, m_ui.SerialNumValLabel, m_ui.InterfaceTypeLabel,
-                            m_ui.CapacityValLabel, m_ui.SmartStatusLabel, m_ui.ResultLabel})
-        summary->hide();
+    style::setVisible({m_ui.SerialNumLabel, m_ui.SerialNumValLabel, m_ui.InterfaceTypeLabel,
+                       m_ui.CapacityValLabel, m_ui.SmartStatusLabel, m_ui.ResultLabel},
+                      false);
 }
 
 void MainWindow::RefreshSelectedDisk()
@@ -83,7 +63,7 @@ void MainWindow::RefreshSelectedDisk()
         return;
     showAccess();
     showWaitingTiles();
-    clearIdentityTexts();
+    forgetIdentity();
     if (g_App.m_bAccessDenied)
         return;
     LookUpDisk(m_ui.DriveCombobox->currentIndex());
@@ -132,10 +112,6 @@ bool MainWindow::reportKnown() const
 
 void MainWindow::enterBusy(const QString &text)
 {
-    QMovie *previous = m_pMovie;
-    m_pMovie = images::newMovie(QStringLiteral("img_Scan.gif"), this);
-    m_ui.Giflabel->setMovie(m_pMovie);
-    delete previous;
     m_ui.label->setText(text);
     m_ui.label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_pMovie->start();
@@ -144,8 +120,7 @@ void MainWindow::enterBusy(const QString &text)
 
 void MainWindow::leaveBusy()
 {
-    if (m_pMovie)
-        m_pMovie->stop();
+    m_pMovie->stop();
     m_ui.GifFrame->hide();
 }
 
@@ -263,11 +238,8 @@ void MainWindow::showOverallResult()
 
 void MainWindow::FillSmartTable()
 {
-    const std::vector<AttributeRow> rows = SmartStatus::CurrentRows();
-    std::vector<HistoryValue> values;
-    for (const AttributeRow &row : rows)
-        values.push_back({row.key, row.historyValue});
-    recordHistory(g_strSerialNumber, QDateTime::currentDateTime(), values);
+    const std::vector<AttributeRow> rows = currentRows();
+    keepHistory(rows);
     if (QTreeWidgetItem *first = m_pSmartStatusPage->ShowRows(rows))
         GraphWithAttributes(first, 0);
 }
@@ -277,19 +249,10 @@ void MainWindow::GraphWithAttributes(QTreeWidgetItem *item, int)
     // During a refresh only its thread may use the identity texts; at its end the table is filled anew.
     if (!item || g_bListsLoading)
         return;
-    const HistoryPaths paths = historyPaths(serialOfGraph());
-    const GraphKind kind = g_App.m_bNVMe ? GraphKind::Nvme : GraphKind::Ata;
-    const QString key = item->text(g_App.m_bNVMe ? NvmeKeyColumn : AtaKeyColumn);
-    bool opened = false;
-    const std::vector<QString> dates = readHistoryDates(paths.dates, &opened);
-    if (!opened)
-        return;
-    const auto model =
-        graphModel(kind, key, dates, readHistoryValues(paths.values, dates, key), QDate::currentDate());
-    if (!model)
-        return;
-    g_strGraphTitle = tr("Graph : ") + item->text(NameColumn);
-    m_pSmartStatusPage->ShowGraph(g_strGraphTitle, *model);
+    if (const auto graph = currentGraph(item->text(attributecolumns::key(g_App.m_bNVMe)))) {
+        g_strGraphTitle = tr("Graph : ") + item->text(attributecolumns::Name);
+        m_pSmartStatusPage->ShowGraph(g_strGraphTitle, *graph);
+    }
 }
 
 void MainWindow::GetSmartTemprature()

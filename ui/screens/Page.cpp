@@ -1,25 +1,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ui/screens/PageLook.h"
+#include "ui/screens/Page.h"
 
 #include "smart/Rating.h"
 #include "ui/widgets/Style.h"
 
 #include <QCoreApplication>
+#include <QEvent>
 #include <QFrame>
 #include <QLabel>
 
 #include <algorithm>
 
+void Page::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+    QWidget::changeEvent(event);
+}
+
 namespace pagelook
 {
-
-namespace
-{
-
-constexpr int PageWidth = 764;
-constexpr int PageHeight = 452;
-
-} // namespace
 
 void styleLabels(std::initializer_list<QLabel *> labels, const QFont &font, const QString &sheet)
 {
@@ -32,7 +32,7 @@ void styleLabels(std::initializer_list<QLabel *> labels, const QFont &font, cons
 void makePage(QWidget *page)
 {
     style::scaleForm(page);
-    page->setFixedSize(style::px(PageWidth), style::px(PageHeight));
+    page->setFixedSize(style::px(764), style::px(452));
     style::setWhiteBackground(page);
 }
 
