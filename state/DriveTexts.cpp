@@ -94,4 +94,14 @@ void fillDisplayFields(DiskNode &node)
         node.szSize.assign(node.pDetails->szCapacity);
 }
 
+void fillDisplayFields(RecordList<DiskNode> &disks)
+{
+    for (DiskNode &node : disks) {
+        if (!isPhysicalKind(node.nKind))
+            continue;
+        fillDisplayFields(node);
+        g_strSelectedSize = node.szSize.text();
+    }
+}
+
 } // namespace drivetexts

@@ -33,4 +33,7 @@ std::vector<Entry> entries(const RecordList<DiskNode> &disks);
 /// node.
 void fillDisplayFields(DiskNode &node);
 
+/// The same of all physical nodes of a list. g_strSelectedSize becomes the size of the last one.
+void fillDisplayFields(RecordList<DiskNode> &disks);
+
 } // namespace drivetexts

@@ -545,18 +545,6 @@
         <source>ATA Disk</source>
         <translation>Disco ATA</translation>
     </message>
-    <message>
-        <source>Partition</source>
-        <translation>Partição</translation>
-    </message>
-    <message>
-        <source>Status</source>
-        <translation>Status</translation>
-    </message>
-    <message>
-        <source>Space</source>
-        <translation>Espaço</translation>
-    </message>
 </context>
 <context>
     <name>DiskStatus</name>
@@ -1514,6 +1502,21 @@ A atualização falhou porque o download ficou incompleto.</translation>
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>VolumeFrame</name>
+    <message>
+        <source>Partition</source>
+        <translation>Partição</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Espaço</translation>
     </message>
 </context>
 <context>

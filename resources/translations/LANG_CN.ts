@@ -545,18 +545,6 @@
         <source>ATA Disk</source>
         <translation>ATA 磁盘</translation>
     </message>
-    <message>
-        <source>Partition</source>
-        <translation>分区</translation>
-    </message>
-    <message>
-        <source>Status</source>
-        <translation>状态</translation>
-    </message>
-    <message>
-        <source>Space</source>
-        <translation>空间</translation>
-    </message>
 </context>
 <context>
     <name>DiskStatus</name>
@@ -1514,6 +1502,21 @@ Update failed due to partial download.</source>
     <message>
         <source>OK</source>
         <translation>确定</translation>
+    </message>
+</context>
+<context>
+    <name>VolumeFrame</name>
+    <message>
+        <source>Partition</source>
+        <translation>分区</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>空间</translation>
     </message>
 </context>
 <context>

@@ -545,18 +545,6 @@
         <source>ATA Disk</source>
         <translation>ATA-Laufwerk</translation>
     </message>
-    <message>
-        <source>Partition</source>
-        <translation>Partition</translation>
-    </message>
-    <message>
-        <source>Status</source>
-        <translation>Status</translation>
-    </message>
-    <message>
-        <source>Space</source>
-        <translation>Speicherplatz</translation>
-    </message>
 </context>
 <context>
     <name>DiskStatus</name>
@@ -1514,6 +1502,21 @@ Das Update ist fehlgeschlagen, weil der Download unvollständig war.</translatio
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>VolumeFrame</name>
+    <message>
+        <source>Partition</source>
+        <translation>Partition</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Speicherplatz</translation>
     </message>
 </context>
 <context>

@@ -545,18 +545,6 @@
         <source>ATA Disk</source>
         <translation>ATA-schijf</translation>
     </message>
-    <message>
-        <source>Partition</source>
-        <translation>Partitie</translation>
-    </message>
-    <message>
-        <source>Status</source>
-        <translation>Status</translation>
-    </message>
-    <message>
-        <source>Space</source>
-        <translation>Ruimte</translation>
-    </message>
 </context>
 <context>
     <name>DiskStatus</name>
@@ -1514,6 +1502,21 @@ De update is mislukt doordat de download onvolledig was.</translation>
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>VolumeFrame</name>
+    <message>
+        <source>Partition</source>
+        <translation>Partitie</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Ruimte</translation>
     </message>
 </context>
 <context>

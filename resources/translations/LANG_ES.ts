@@ -545,18 +545,6 @@
         <source>ATA Disk</source>
         <translation>Disco ATA</translation>
     </message>
-    <message>
-        <source>Partition</source>
-        <translation>Partición</translation>
-    </message>
-    <message>
-        <source>Status</source>
-        <translation>Estado</translation>
-    </message>
-    <message>
-        <source>Space</source>
-        <translation>Espacio</translation>
-    </message>
 </context>
 <context>
     <name>DiskStatus</name>
@@ -1514,6 +1502,21 @@ La actualización falló porque la descarga quedó incompleta.</translation>
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>VolumeFrame</name>
+    <message>
+        <source>Partition</source>
+        <translation>Partición</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Espacio</translation>
     </message>
 </context>
 <context>

@@ -545,18 +545,6 @@
         <source>ATA Disk</source>
         <translation>Disque ATA</translation>
     </message>
-    <message>
-        <source>Partition</source>
-        <translation>Partition</translation>
-    </message>
-    <message>
-        <source>Status</source>
-        <translation>État</translation>
-    </message>
-    <message>
-        <source>Space</source>
-        <translation>Espace</translation>
-    </message>
 </context>
 <context>
     <name>DiskStatus</name>
@@ -1514,6 +1502,21 @@ La mise à jour a échoué : le téléchargement est incomplet.</translation>
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>VolumeFrame</name>
+    <message>
+        <source>Partition</source>
+        <translation>Partition</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Espace</translation>
     </message>
 </context>
 <context>

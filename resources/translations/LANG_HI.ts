@@ -545,18 +545,6 @@
         <source>ATA Disk</source>
         <translation>ATA डिस्क</translation>
     </message>
-    <message>
-        <source>Partition</source>
-        <translation>पार्टिशन</translation>
-    </message>
-    <message>
-        <source>Status</source>
-        <translation>स्थिति</translation>
-    </message>
-    <message>
-        <source>Space</source>
-        <translation>स्थान</translation>
-    </message>
 </context>
 <context>
     <name>DiskStatus</name>
@@ -1514,6 +1502,21 @@ Update failed due to partial download.</source>
     <message>
         <source>OK</source>
         <translation>ठीक</translation>
+    </message>
+</context>
+<context>
+    <name>VolumeFrame</name>
+    <message>
+        <source>Partition</source>
+        <translation>पार्टिशन</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>स्थिति</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>स्थान</translation>
     </message>
 </context>
 <context>

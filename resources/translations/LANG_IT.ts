@@ -545,18 +545,6 @@
         <source>ATA Disk</source>
         <translation>Disco ATA</translation>
     </message>
-    <message>
-        <source>Partition</source>
-        <translation>Partizione</translation>
-    </message>
-    <message>
-        <source>Status</source>
-        <translation>Stato</translation>
-    </message>
-    <message>
-        <source>Space</source>
-        <translation>Spazio</translation>
-    </message>
 </context>
 <context>
     <name>DiskStatus</name>
@@ -1514,6 +1502,21 @@ L&apos;aggiornamento non è riuscito perché il download è incompleto.</transla
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>VolumeFrame</name>
+    <message>
+        <source>Partition</source>
+        <translation>Partizione</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Stato</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Spazio</translation>
     </message>
 </context>
 <context>

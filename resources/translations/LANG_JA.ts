@@ -545,18 +545,6 @@
         <source>ATA Disk</source>
         <translation>ATA ディスク</translation>
     </message>
-    <message>
-        <source>Partition</source>
-        <translation>パーティション</translation>
-    </message>
-    <message>
-        <source>Status</source>
-        <translation>状態</translation>
-    </message>
-    <message>
-        <source>Space</source>
-        <translation>領域</translation>
-    </message>
 </context>
 <context>
     <name>DiskStatus</name>
@@ -1514,6 +1502,21 @@ Update failed due to partial download.</source>
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>VolumeFrame</name>
+    <message>
+        <source>Partition</source>
+        <translation>パーティション</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>状態</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>領域</translation>
     </message>
 </context>
 <context>

@@ -545,18 +545,6 @@
         <source>ATA Disk</source>
         <translation>ATA 디스크</translation>
     </message>
-    <message>
-        <source>Partition</source>
-        <translation>파티션</translation>
-    </message>
-    <message>
-        <source>Status</source>
-        <translation>상태</translation>
-    </message>
-    <message>
-        <source>Space</source>
-        <translation>공간</translation>
-    </message>
 </context>
 <context>
     <name>DiskStatus</name>
@@ -1514,6 +1502,21 @@ Update failed due to partial download.</source>
     <message>
         <source>OK</source>
         <translation>확인</translation>
+    </message>
+</context>
+<context>
+    <name>VolumeFrame</name>
+    <message>
+        <source>Partition</source>
+        <translation>파티션</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>상태</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>공간</translation>
     </message>
 </context>
 <context>

@@ -7,7 +7,6 @@
 #include "ui/dialogs/AboutDlg.h"
 #include "ui/dialogs/MessageDialog.h"
 #include "ui/dialogs/QShowUpdate.h"
-#include "ui/dialogs/SmallMessageDlg.h"
 #include "ui/screens/Settings.h"
 #include "update/HelpLinks.h"
 

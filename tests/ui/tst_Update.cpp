@@ -3,7 +3,6 @@
 #include "tests/ui/WindowFixture.h"
 #include "ui/dialogs/QDownloadApp.h"
 #include "ui/dialogs/QShowUpdate.h"
-#include "ui/dialogs/SmallMessageDlg.h"
 #include "ui/screens/Settings.h"
 #include "update/UpdateGlobals.h"
 

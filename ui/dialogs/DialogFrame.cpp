@@ -17,7 +17,6 @@
 #include <QPushButton>
 #include <QTextBlock>
 #include <QTextEdit>
-#include <QVariant>
 #include <QWidget>
 
 #include <algorithm>

@@ -68,13 +68,11 @@ public:
     void setTexts(const QString &title, const QString &first, const QString &second);
     QLabel *label(const char *name) const;
 
-    /// \name Append an empty widget to a layout
-    /// @{
+    /// Append an empty widget to a layout
     static QLabel *addLabel(QBoxLayout *layout, const char *name);
     static QLabel *addLink(QBoxLayout *layout, const char *name); ///< of rich text
     static QProgressBar *addBar(QBoxLayout *layout);              ///< called progressBar
     static QTextEdit *addText(QBoxLayout *layout);                ///< called textEdit, read only
-    /// @}
 
     /// Makes a text edit as high as its text, so that nothing scrolls, and fits the window. Below the text it
     /// leaves as much room as there is above the block number `block`.

@@ -2,9 +2,7 @@
 #include "ui/dialogs/QDownloadApp.h"
 
 #include "platform/Platform.h"
-#include "state/GlobalApp.h"
 #include "state/Languages.h"
-#include "state/Scale.h"
 #include "ui/widgets/Images.h"
 #include "ui/widgets/Style.h"
 #include "update/UpdateCheck.h"

@@ -6,6 +6,8 @@
 #include "state/PartitionTexts.h"
 #include "ui/widgets/Style.h"
 
+#include "ui_VolumeFrame.h"
+
 #include <QCoreApplication>
 #include <QScrollBar>
 
@@ -20,50 +22,11 @@ constexpr int HeaderHeight = 168; ///< also the side of the ring's square, half 
 constexpr int Overlap = 72;
 constexpr int ScrollBarFrom = 4; ///< volumes
 constexpr int SliceInset = 20;
-constexpr int LineHeight = 21; ///< with the marks above and below the letters of every script
 constexpr double EmptyRing = 12.0;
 constexpr int HeightPerFrame = 300; ///< of the frames' host, in pixels at every scale
 
 const QString PercentLabel = QStringLiteral("QLabel {color : #1F82F9;}");
 const QString BlankLabel = QStringLiteral("QLabel {color : #64778b;}");
-
-/// A label of a volume's frame.
-struct LabelLook {
-    const char *name;
-    bool semiBold;
-    const QString *sheet;
-    bool centred;
-    int row;
-    int column;
-    int stretch; ///< share of the column
-};
-
-constexpr int LeftLooks = 4; ///< so many stand left of the separator
-
-const LabelLook looks[] = {
-    {"m_apPartitionTitle", true, &style::GreyLabel, false, 0, 0, 208},
-    {"m_apStatusTitle", true, &style::GreyLabel, false, 0, 1, 112},
-    {"m_apVolumeName", false, &style::GreyLabel, false, 1, 0, 208},
-    {"m_apStatusValue", false, &style::GreyLabel, false, 1, 1, 112},
-    {"m_apSpaceTitle", true, &style::GreyLabel, true, 0, 0, 230},
-    {"m_apBlankLabel", true, &BlankLabel, false, 0, 1, 112},
-    {"m_apSpaceValue", false, &style::GreyLabel, true, 1, 0, 230},
-    {"m_apPercentage", true, &PercentLabel, true, 1, 1, 112},
-};
-
-void addLabel(QGridLayout *grid, const LabelLook &look, const QString &text, QFrame *frame)
-{
-    auto *label = pagelook::named(new QLabel(text, frame), look.name);
-    label->setTextFormat(Qt::PlainText);
-    pagelook::styleLabels({label}, look.semiBold ? style::semiBold(10) : style::font(10), *look.sheet);
-    label->setFixedHeight(style::px(LineHeight));
-    // The columns of all frames stand below each other, whatever is written in them.
-    label->setMinimumWidth(1);
-    if (look.centred)
-        label->setAlignment(Qt::AlignCenter);
-    grid->addWidget(label, look.row, look.column);
-    grid->setColumnStretch(look.column, look.stretch);
-}
 
 } // namespace
 
@@ -152,38 +115,28 @@ void DiskPartition::ShowSizes(const QList<qint64> &sizes)
     update();
 }
 
-QFrame *DiskPartition::addFrame(const QStringList &texts)
+void DiskPartition::addFrame(const LogicalDiskRecord &volume, const QString &mark, const QString &health)
 {
-    auto *frame = pagelook::named(new QFrame, "m_apFrame");
+    auto *frame = new QFrame;
+    Ui::VolumeFrame form;
+    form.setupUi(frame);
+    style::scaleForm(frame);
     frame->setFixedHeight(style::px(50));
-    frame->setFrameShape(QFrame::Box);
-    frame->setFrameShadow(QFrame::Raised);
-    frame->setStyleSheet(QStringLiteral(".QFrame{ border: 1px solid #e0d0e0;}"));
-
-    auto *row = new QHBoxLayout(frame);
-    row->setContentsMargins(style::px(12), 0, style::px(12), 0);
-    row->setSpacing(0);
-    QGridLayout *const grids[] = {new QGridLayout, new QGridLayout};
-    for (QGridLayout *grid : grids) {
-        grid->setHorizontalSpacing(0);
-        grid->setVerticalSpacing(0);
-        grid->setContentsMargins(0, style::px(3), 0, style::px(3));
-    }
-    for (int i = 0; i < texts.size(); ++i)
-        addLabel(grids[i < LeftLooks ? 0 : 1], looks[i], texts.at(i), frame);
-
-    auto *separator = pagelook::named(new QLabel(frame), "m_apSeparator");
+    style::showTextsAsData(frame);
+    pagelook::styleNames({form.m_apPartitionTitle, form.m_apStatusTitle, form.m_apSpaceTitle});
+    pagelook::styleValues({form.m_apVolumeName, form.m_apStatusValue, form.m_apSpaceValue});
+    pagelook::styleLabels({form.m_apBlankLabel}, style::semiBold(10), BlankLabel);
+    pagelook::styleLabels({form.m_apPercentage}, style::semiBold(10), PercentLabel);
+    form.m_apVolumeName->setText(partitiontexts::volumeName(volume, mark));
+    form.m_apStatusValue->setText(health);
+    form.m_apSpaceValue->setText(partitiontexts::spaceText(volume, g_App.m_bKorean));
+    form.m_apPercentage->setText(partitiontexts::percentText(volume));
     const QString picture = QStringLiteral(":/images/line.png");
-    separator->setPixmap(QPixmap(picture));
-    separator->setProperty("imagePath", picture);
-    separator->setScaledContents(true);
-    separator->setFixedSize(style::px(1), style::px(32));
-    row->addLayout(grids[0], 320);
-    row->addWidget(separator);
-    row->addLayout(grids[1], 342);
+    form.m_apSeparator->setPixmap(QPixmap(picture));
+    form.m_apSeparator->setProperty("imagePath", picture);
     m_ui.m_pFrameColumn->addWidget(frame);
     frame->show();
-    return frame;
+    m_listFrames.append(frame);
 }
 
 void DiskPartition::addFrames(const QString &letter, const QString &mark)
@@ -194,12 +147,9 @@ void DiskPartition::addFrames(const QString &letter, const QString &mark)
     for (const LogicalDiskRecord &volume : g_logicalDisks) {
         if (volume.szCaption.text() != letter)
             continue;
-        const QString health = partitiontexts::healthWord(
-            disks.isEmpty() ? QVector<int>{volume.nDiskIndex} : disks, g_wmicDisks);
-        m_listFrames.append(
-            addFrame({tr("Partition"), tr("Status"), partitiontexts::volumeName(volume, mark), health,
-                      tr("Space"), QString(), partitiontexts::spaceText(volume, g_App.m_bKorean),
-                      partitiontexts::percentText(volume)}));
+        addFrame(volume, mark,
+                 partitiontexts::healthWord(disks.isEmpty() ? QVector<int>{volume.nDiskIndex} : disks,
+                                            g_wmicDisks));
         ++m_nFrameCount;
     }
 }

@@ -10,6 +10,8 @@
 
 #include <memory>
 
+struct LogicalDiskRecord;
+
 /// The Disk Partition screen: the ring of the selected disk's volumes, its serial number and capacity above;
 /// below a frame for each volume. Main thread only.
 class DiskPartition : public Page
@@ -39,7 +41,7 @@ private:
     void makeScrollArea();
     void dropFrames();
     void addFrames(const QString &letter, const QString &mark);
-    QFrame *addFrame(const QStringList &texts);
+    void addFrame(const LogicalDiskRecord &volume, const QString &mark, const QString &health);
 
     Ui::m_pDiskPartitionWgt m_ui;
     const std::unique_ptr<DonutSeries> m_pDonutSeries = std::make_unique<DonutSeries>();

@@ -4,7 +4,6 @@
 #include "scan/ScanGlobals.h"
 #include "state/GlobalApp.h"
 #include "state/JobState.h"
-#include "ui/dialogs/MessageDialog.h"
 #include "ui/widgets/Images.h"
 #include "ui/widgets/QGridView.h"
 #include "ui/widgets/Style.h"
@@ -54,17 +53,6 @@ ScanDisk::ScanDisk(QWidget *parent) : Page(parent)
     m_pResultBox = pagelook::named(new InfoDialogClass(window()), "m_pResultBox");
     connect(m_pResultBox, &MessageDialog::dismissed, this, &ScanDisk::OnResultRead);
     connect(m_pResultBox, &QDialog::rejected, this, &ScanDisk::OnResultRead);
-    connectThread();
-    styleChooser();
-    styleCounters();
-    clearCounts();
-    setTimeCaptions();
-    FillDisk(nullptr);
-    ShowChooser();
-}
-
-void ScanDisk::connectThread()
-{
     connect(&m_scanThread, &QScanDriveThread::ExactBadSectorCount, this, &ScanDisk::OnExactBadSectorCount);
     connect(&m_scanThread, &QScanDriveThread::MaximumBadBlockScanProgress, this,
             &ScanDisk::ScanMaxProgressForDisk);
@@ -73,6 +61,12 @@ void ScanDisk::connectThread()
     connect(&m_scanThread, &QScanDriveThread::OnFinish, this, &ScanDisk::OnScanFinish);
     connect(&m_scanThread, &QScanDriveThread::TotalBlockCount, this, &ScanDisk::OnTotalBlockCount);
     connect(&m_scanThread, &QScanDriveThread::setRemainingTime, this, &ScanDisk::OnSetRemainingTime);
+    styleChooser();
+    styleCounters();
+    clearCounts();
+    setTimeCaptions();
+    FillDisk(nullptr);
+    ShowChooser();
 }
 
 void ScanDisk::styleChooser()

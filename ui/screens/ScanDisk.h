@@ -81,7 +81,6 @@ private:
     void styleChooser();
     void styleCounters();
     void setTimeCaptions();
-    void connectThread();
     void describeMap();
     void clearTimes();
     void showBlockSize();

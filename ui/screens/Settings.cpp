@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/screens/Settings.h"
 
-#include "state/Languages.h"
-#include "state/SettingsRules.h"
 #include "state/SettingsStore.h"
+#include "ui/dialogs/MessageDialog.h"
 #include "ui/dialogs/QCheckUpdate.h"
-#include "ui/dialogs/SmallMessageDlg.h"
 #include "ui/widgets/Images.h"
 #include "ui/widgets/Style.h"
 
@@ -51,12 +49,8 @@ void Settings::fillFields()
     m_ui.PathlineEdit->setPlaceholderText(settings::defaultLogPath(g_App.m_strSystemFolder));
     m_strLogPath = QLatin1String(key::LogSavePath.first);
     m_ui.PathlineEdit->setText(m_strLogPath);
-    m_ui.LogLImitSpinBox->setMinimum(10);
-    m_ui.LogLImitSpinBox->setValue(100);
     m_ui.WarningSpinBox->setValue(key::WarningValue.first);
-    m_ui.WarningSpinBox->setMinimum(40);
     m_ui.ShutDownSpinBox->setValue(key::ShutDownValue.first);
-    m_ui.ShutDownSpinBox->setMinimum(50);
 }
 
 void Settings::styleFields()
@@ -69,11 +63,7 @@ void Settings::styleFields()
         caption->setStyleSheet(style::GreyLabel);
     for (QLabel *group : {m_ui.GeneraLabel, m_ui.GeneraLabel_2, m_ui.TempLabel})
         group->setFont(style::semiBold(10));
-    for (QFrame *hairline : {m_ui.line, m_ui.line_2})
-        hairline->setStyleSheet(QStringLiteral("QFrame{background: #e6eaee;}"));
     m_ui.ButtonLabel->setStyleSheet(QStringLiteral("QLabel{background: #f5f5f5;}"));
-    m_ui.PathlineEdit->setStyleSheet(QStringLiteral("color: #64778b;background-color: white;selection-color: "
-                                                    "gray;selection-background-color: solid gray;"));
     styleTitleButton(m_ui.m_pUpdateButton, QStringLiteral("img_CheckUpdate.png"));
     styleTitleButton(m_ui.m_pHelpButton, QStringLiteral("img_Help.png"));
     styleTitleButton(m_ui.m_pLanguageButton, QStringLiteral("img_Language.png"));

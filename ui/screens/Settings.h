@@ -54,8 +54,7 @@ public slots:
     void OnOpenSettingsHelp() { links::openHelp(links::Topic::Settings); }
     void CheckUpdate() { OnCheckUpdate(); }
     void OnNoUpdateAvailable();
-    /// \name One door for each language, in the order of LanguageType
-    /// @{
+    /// One door for each language, in the order of LanguageType
     void OnChangeEnglishLanguage() { changeLanguage(LanguageType::English); }
     void OnChangeGermanLanguage() { changeLanguage(LanguageType::German); }
     void OnChangeFrenchLanguage() { changeLanguage(LanguageType::French); }
@@ -67,7 +66,6 @@ public slots:
     void OnChangeDutchLanguage() { changeLanguage(LanguageType::Dutch); }
     void OnChangeBrazilLanguage() { changeLanguage(LanguageType::Brazil); }
     void OnChangeHindiLanguage() { changeLanguage(LanguageType::Hindi); }
-    /// @}
 
 protected:
     void retranslate() override;

@@ -84,11 +84,6 @@ DonutChartView::DonutChartView(DonutSeries *series, DonutLegend *legend, QWidget
 {
 }
 
-DonutChartView::~DonutChartView()
-{
-    delete m_pImage;
-}
-
 bool DonutChartView::hasSlices() const
 {
     return m_pSeries && !m_pSeries->listSlices.isEmpty();
@@ -107,12 +102,11 @@ QVariantList DonutChartView::sliceValues() const
 void DonutChartView::Redraw()
 {
     m_listRegions.clear();
-    delete m_pImage;
-    m_pImage = new QImage(size(), QImage::Format_ARGB32);
+    m_pImage = std::make_unique<QImage>(size(), QImage::Format_ARGB32);
     m_pImage->fill(Qt::white);
     if (!hasSlices() || halfOf(this).isEmpty())
         return;
-    QPainter painter(m_pImage);
+    QPainter painter(m_pImage.get());
     painter.save();
     drawRing(&painter);
     painter.restore();

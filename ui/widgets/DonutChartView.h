@@ -10,6 +10,8 @@
 #include <QVariant>
 #include <QWidget>
 
+#include <memory>
+
 /// One slice of a ring.
 struct DonutSlice {
     QString strLabel;
@@ -70,7 +72,6 @@ class DonutChartView : public QWidget
 public:
     /// Series and legend may be null. They are not owned, and must outlive the view.
     DonutChartView(DonutSeries *series, DonutLegend *legend, QWidget *parent = nullptr);
-    ~DonutChartView() override;
 
     /// Draws the ring of the series anew, at the widget's size.
     void Redraw();
@@ -78,7 +79,7 @@ public:
 
     DonutSeries *m_pSeries;
     DonutLegend *m_pLegend;
-    QImage *m_pImage = nullptr; ///< owned
+    std::unique_ptr<QImage> m_pImage;
     void *m_pSpare = nullptr;
     int m_nExplodedSlice = -1;         ///< the slice that is drawn without the inset
     QList<QPainterPath> m_listRegions; ///< the ring shape of each slice

@@ -35,12 +35,12 @@ protected:
 
 /// A label of a caption and a value in one text, "Capacity\t: 931.51 GB". The caption is semibold. The value
 /// begins with the colon, at a place that several labels share, so that their values stand in one column.
-/// Tabs and blanks that pad the caption are dropped. A value that does not fit is elided, and a tool tip
-/// holds the whole text.
+/// It is 20 design pixels high. Tabs and blanks that pad the caption are dropped. A value that does not fit
+/// is elided, and a tool tip holds the whole text.
 class DetailLabel : public QLabel
 {
 public:
-    using QLabel::QLabel;
+    explicit DetailLabel(QWidget *parent) : QLabel(parent) { setFixedHeight(20); }
 
     /// A detail text taken apart at its first colon; all caption where there is none.
     struct Parts {

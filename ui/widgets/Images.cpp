@@ -6,7 +6,6 @@
 #include <QLabel>
 #include <QMovie>
 #include <QPixmap>
-#include <QVariant>
 
 namespace images
 {

@@ -40,8 +40,7 @@ public:
 protected:
     void paintEvent(QPaintEvent *event) override;
 
-    /// \name Steps of the painting; rectangles in design pixels
-    /// @{
+    /// Steps of the painting; rectangles in design pixels
     virtual void PaintBackground(QPainter &painter, const QRectF &rect);
     virtual void PaintBase(QPainter &painter, const QRectF &rect);
     /// `delta`: degrees that the bar takes, clockwise.
@@ -52,7 +51,6 @@ protected:
     virtual void PaintText(QPainter &painter, const QRectF &rect, double innerRadius, double value);
     virtual QString ValueToText(double value);
     virtual void OnValueFormatChanged();
-    /// @}
 
 private:
     void keepInBounds();

@@ -6,7 +6,6 @@
 #include "state/SettingsStore.h"
 #include "state/StartArgument.h"
 #include "ui/dialogs/QCheckUpdate.h"
-#include "ui/widgets/DonutChartView.h"
 #include "ui/widgets/Images.h"
 #include "ui/widgets/PopupMenu.h"
 #include "ui/widgets/Style.h"
@@ -125,11 +124,6 @@ void MainWindow::styleShell()
 {
     style::setWhiteBackground(this);
     centralWidget()->setStyleSheet(style::fieldSheet());
-    m_ui.MainFrame->setStyleSheet(
-        QStringLiteral("QFrame#MainFrame{background: white; border: 1px solid #d0d4d9;}"));
-    const QString hairline = QStringLiteral("QFrame#%1{background: #e3e6e9;}");
-    for (QFrame *frame : {m_ui.line, m_ui.line_2, m_ui.line_3})
-        frame->setStyleSheet(hairline.arg(frame->objectName()));
     // The texts of the navigation stand behind the icons of their pictures.
     m_ui.SideButtonLabel->setStyleSheet(
         QStringLiteral("QLabel#SideButtonLabel{%1}MyButton{padding-left: %2px;}")
@@ -188,7 +182,6 @@ void MainWindow::buildDialogs()
     m_pCloneWarning = new CloneWarning(this);
     m_pConfirmation = new ConfarmetionClass(this);
     m_pScanSwitch = new ScanSwitchClass(this);
-    m_pInfoDialog = new InfoDialogClass(this);
     m_pDestinitionWarning = new DestinitionWarning(this);
     m_pSelfTestNotSupported = new SelfTestNotSupported(this);
 }
@@ -284,7 +277,6 @@ void MainWindow::connectNavigation()
 void MainWindow::connectAll()
 {
     connectNavigation();
-    connectPages();
     connect(m_ui.DriveCombobox, QOverload<int>::of(&QComboBox::activated), this,
             &MainWindow::OnActivatedDriveCombo);
     connect(m_ui.minimizeButton, &QPushButton::clicked, this, &MainWindow::OnMinimized);
@@ -317,10 +309,9 @@ void MainWindow::connectAll()
     connect(m_pSettings, &Settings::left, this, &MainWindow::OnSetSmartSettings);
     connect(&m_smartThread, &SMARTThread::OnLodingSmarInfo, this, &MainWindow::OnInitializeSmart);
     connect(&m_refreshThread, &QRefThreadDevicesLoad::OnLoadingDevices, this, &MainWindow::OnInitialize);
-}
+    m_pTestTimer = new QTimer(this);
+    connect(m_pTestTimer, &QTimer::timeout, this, &MainWindow::CheckShortTestStatus1);
 
-void MainWindow::connectPages()
-{
     connect(m_pSmartStatusPage, &SmartStatus::rowClicked, this, &MainWindow::GraphWithAttributes);
     connect(m_pScanDiskPage, &ScanDisk::OnScanFinished, this, &MainWindow::OnFinishScanDisk);
     connect(m_pScanDiskPage, &ScanDisk::OnResultRead, this, &MainWindow::refreshBehindJob);

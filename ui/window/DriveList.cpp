@@ -11,12 +11,7 @@ void MainWindow::FillDriveCombos()
     const QSignalBlocker block(m_ui.DriveCombobox);
     m_ui.DriveCombobox->clear();
     m_hashComboToDisk.clear();
-    for (DiskNode &node : g_App.m_diskList) {
-        if (!isPhysicalKind(node.nKind))
-            continue;
-        drivetexts::fillDisplayFields(node);
-        g_strSelectedSize = node.szSize.text();
-    }
+    drivetexts::fillDisplayFields(g_App.m_diskList);
     const std::vector<drivetexts::Entry> disks = drivetexts::entries(g_App.m_diskList);
     for (const drivetexts::Entry &entry : disks) {
         m_hashComboToDisk.insert(m_ui.DriveCombobox->count(), entry.node->nId);

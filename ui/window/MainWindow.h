@@ -159,8 +159,7 @@ private:
         navigation::DiskStatusScreen, navigation::SmartStatusScreen, navigation::DiskPartitionScreen,
         navigation::ScanDiskScreen, navigation::CloneDiskScreen};
 
-    /// \name Construction
-    /// @{
+    /// Construction
     void scaleGeometry();
     void styleShell();
     void buildNavigation();
@@ -169,15 +168,12 @@ private:
     void buildToolButtons();
     void connectAll();
     void connectNavigation();
-    void connectPages();
     void connectKeys();
     void orderFocus();
     void startTemperatureTimer();
     void retranslateShell();
-    /// @}
 
-    /// \name Navigation
-    /// @{
+    /// Navigation
     bool isOnShow(Screen screen) const { return m_screen == screen; }
     enum class Look { Normal, Hover, Selected };
     void setLook(Screen screen, Look look);
@@ -193,10 +189,8 @@ private:
     void showCentred(QWidget *dialog);
     void askToStop(const QString &title, const QString &warning, const QString &question);
     links::Topic helpTopic() const;
-    /// @}
 
-    /// \name Reading a disk
-    /// @{
+    /// Reading a disk
     void takeUpChosenDisk();
     void showWaitingTiles();
     void startRead();
@@ -213,10 +207,8 @@ private:
     void selectCloneArgument();
     void refreshClonePage();
     int currentComboDisk() const { return m_ui.DriveCombobox->currentData().toInt() - PhysicalDriveBase; }
-    /// @}
 
-    /// \name Jobs
-    /// @{
+    /// Jobs
     using ChosenDisk = std::pair<int, QString>; ///< drive code, and the name that the combo shows
     ChosenDisk chosenDisk() const;
     void keepScannedDisk();
@@ -233,7 +225,6 @@ private:
     void showRunningPanel(bool fromYes);
     void keepAwake();
     void launchSibling(const QString &fileName);
-    /// @}
 
     Ui::m_pMainWindow m_ui;
     /// Buttons and pages by navigation::Screen.
@@ -254,7 +245,6 @@ private:
     CloneWarning *m_pCloneWarning = nullptr;
     ConfarmetionClass *m_pConfirmation = nullptr;
     ScanSwitchClass *m_pScanSwitch = nullptr;
-    InfoDialogClass *m_pInfoDialog = nullptr;
     DestinitionWarning *m_pDestinitionWarning = nullptr;
     SelfTestNotSupported *m_pSelfTestNotSupported = nullptr;
 
@@ -270,7 +260,7 @@ private:
     QTimer *m_pTemperatureTimer = nullptr;
     QPointer<QCheckUpdate> m_pCheckUpdate;
     SelfTest m_selfTest;
-    QTimer *m_pTestTimer = nullptr; ///< made at the first self-test
+    QTimer *m_pTestTimer = nullptr;
     FramelessDrag m_drag;
     FocusRing m_focusRing;
     SMARTThread m_smartThread;

@@ -6,7 +6,6 @@
 #include "state/SettingsStore.h"
 #include "ui/dialogs/AboutDlg.h"
 #include "ui/dialogs/QCheckUpdate.h"
-#include "ui/widgets/Style.h"
 
 void MainWindow::OnShowAbout()
 {

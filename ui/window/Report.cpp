@@ -12,7 +12,6 @@
 
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QPainter>
 #include <QUrl>
 
 namespace
@@ -68,12 +67,7 @@ void MainWindow::TakeScreenshot()
     if (!reportKnown())
         return;
     m_ui.ScreenshotButton->show();
-    QPixmap picture(m_pSmartStatusPage->size());
-    picture.fill(Qt::white);
-    QPainter painter(&picture);
-    m_pSmartStatusPage->render(&painter, QPoint(0, 0), QRegion(),
-                               QWidget::DrawWindowBackground | QWidget::DrawChildren);
-    painter.end();
+    const QPixmap picture = m_pSmartStatusPage->grab();
     const QString path = askForPath(nullptr, QStringLiteral("Save File"), fileNamePart(g_strGraphTitle),
                                     QStringLiteral("JPEG (*.jpg);"), QStringLiteral(".jpg"));
     if (!path.isEmpty())

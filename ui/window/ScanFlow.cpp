@@ -6,7 +6,6 @@
 #include "state/Globals.h"
 #include "ui/widgets/Style.h"
 
-#include <QAction>
 #include <QEvent>
 #include <QTimer>
 
@@ -81,8 +80,7 @@ void MainWindow::startSurfaceScan()
 {
     // A self-test that the user has left goes on in the drive, but its clock must not change the buttons of
     // this scan.
-    if (m_pTestTimer)
-        m_pTestTimer->stop();
+    m_pTestTimer->stop();
     lockShell(navigation::ScanDiskScreen);
     m_pScanDiskPage->StartScan();
     keepAwake();

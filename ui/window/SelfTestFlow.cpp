@@ -93,10 +93,6 @@ void MainWindow::OnStartShortSelfTest()
     CheckShortTestStatus1();
     if (!g_Jobs.runs(Job::SelfTest))
         return;
-    if (!m_pTestTimer) {
-        m_pTestTimer = new QTimer(this);
-        connect(m_pTestTimer, &QTimer::timeout, this, &MainWindow::CheckShortTestStatus1);
-    }
     m_pTestTimer->start(TickInterval);
 }
 
@@ -126,8 +122,7 @@ void MainWindow::takeTestStep(const SelfTest::Step &step)
 void MainWindow::leaveTest()
 {
     m_pConfirmation->hide();
-    if (m_pTestTimer)
-        m_pTestTimer->stop();
+    m_pTestTimer->stop();
     enableNavigation();
     showTestButtons(false);
 }
