@@ -9,6 +9,7 @@ AccessNotice::AccessNotice(QWidget *parent) : Page(parent)
 {
     m_ui.setupUi(this);
     pagelook::makePage(this);
+    m_ui.NoticeColumn->setContentsMargins(9, 9, 9, 9); // at every scale
     images::setLabelImage(m_ui.PictureLabel, QStringLiteral("img_Locked.png"));
     pagelook::styleLabels({m_ui.m_pHeading}, style::font(13), style::BlackLabel);
     pagelook::styleLabels({m_ui.m_pReason, m_ui.m_pAdvice}, style::font(10), style::GreyLabel);
