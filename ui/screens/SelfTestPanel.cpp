@@ -69,10 +69,8 @@ void SelfTestPanel::Show(const SelfTest::Shown &shown)
         m_ui.TestProgressBar->setValue(shown.percent);
         m_ui.TestPercentValLbl->setText(QString::number(shown.percent) + QLatin1Char('%'));
     }
-    m_ui.TestProgressBar->setVisible(shown.progress);
-    m_ui.TestPercentValLbl->setVisible(shown.progress);
-    for (QFrame *card : {m_ui.PollingCard, m_ui.RemainingCard, m_ui.ElapsedCard})
-        card->setVisible(shown.times);
+    style::setVisible({m_ui.TestProgressBar, m_ui.TestPercentValLbl}, shown.progress);
+    style::setVisible({m_ui.PollingCard, m_ui.RemainingCard, m_ui.ElapsedCard}, shown.times);
     m_ui.TestStatusValLbl->setStyleSheet(sheetOf(shown.status.value_or(selftest::Told::InProgress)));
     m_ui.TestStatusValLbl->setText(
         shown.status ? QCoreApplication::translate("MainWindow", selftest::shownWords(*shown.status))

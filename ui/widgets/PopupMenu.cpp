@@ -5,8 +5,6 @@
 
 #include <QShowEvent>
 
-PopupMenu::PopupMenu(bool alignRight, QWidget *parent) : QMenu(parent), m_bAlignRight(alignRight) {}
-
 void PopupMenu::showEvent(QShowEvent *event)
 {
     QMenu::showEvent(event);

@@ -10,7 +10,7 @@ class PopupMenu : public QMenu
     Q_OBJECT
 
 public:
-    PopupMenu(bool alignRight, QWidget *parent);
+    PopupMenu(bool alignRight, QWidget *parent) : QMenu(parent), m_bAlignRight(alignRight) {}
 
 protected:
     void showEvent(QShowEvent *event) override;

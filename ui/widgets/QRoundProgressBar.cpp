@@ -38,8 +38,6 @@ int designSide(int pixels)
 
 } // namespace
 
-QRoundProgressBar::QRoundProgressBar(QWidget *parent) : QWidget(parent) {}
-
 void QRoundProgressBar::keepInBounds()
 {
     if (m_dMaximum < m_dMinimum)

@@ -15,7 +15,7 @@ class QRoundProgressBar : public QWidget
 public:
     enum BarStyle { RingStyle = 0, LineStyle = 2 };
 
-    explicit QRoundProgressBar(QWidget *parent = nullptr);
+    using QWidget::QWidget;
 
     /// If the minimum is above the maximum, they are swapped. The value stays between them.
     void SetMinimum(double minimum);

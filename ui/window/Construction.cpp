@@ -87,7 +87,10 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent), m_drag(this, Titl
         CheckCompanionRunning();
         store.write(key::FirstTimeLaunch, 1);
     }
-    startTemperatureTimer();
+    m_pTemperatureTimer = new QTimer(this);
+    connect(m_pTemperatureTimer, &QTimer::timeout, this, &MainWindow::GetSmartTemprature);
+    if (isOnShow(navigation::DiskStatusScreen))
+        m_pTemperatureTimer->start(TemperatureInterval);
     m_pCheckUpdate = new QCheckUpdate(this);
     style::centreOn(m_pCheckUpdate, m_rcSplash);
 }
@@ -320,15 +323,6 @@ void MainWindow::connectAll()
     connect(m_pCloneDiskPage, &CloneDisk::ComboboxIndexChange, this, &MainWindow::OnComboboxIndexChange);
     connect(m_pCloneDiskPage, &CloneDisk::CloningProcesFailed, this, &MainWindow::OnCloningProcesFailed);
     connect(m_pCloneDiskPage, &CloneDisk::DestinationActivated, this, &MainWindow::OnTargetChangeIndex);
-}
-
-void MainWindow::startTemperatureTimer()
-{
-    m_pTemperatureTimer = new QTimer(this);
-    if (!isOnShow(navigation::DiskStatusScreen))
-        return;
-    m_pTemperatureTimer->start(TemperatureInterval);
-    connect(m_pTemperatureTimer, &QTimer::timeout, this, &MainWindow::GetSmartTemprature);
 }
 
 void MainWindow::changeEvent(QEvent *event)

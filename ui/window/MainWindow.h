@@ -170,7 +170,6 @@ private:
     void connectNavigation();
     void connectKeys();
     void orderFocus();
-    void startTemperatureTimer();
     void retranslateShell();
 
     /// Navigation
