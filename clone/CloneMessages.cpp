@@ -134,12 +134,32 @@ Message finished(const CloneOutcome &outcome)
             translated(QT_TRANSLATE_NOOP("CloneDisk", "The destination disk holds no complete copy."))};
 }
 
+JobEnd jobEnd(const CloneOutcome &outcome)
+{
+    const Message message = finished(outcome);
+    switch (outcome.end) {
+    case CloneOutcome::End::Complete:
+        return {JobState::Job::Clone, JobEnd::Result::Well, message.second};
+    case CloneOutcome::End::WithErrors:
+        return {JobState::Job::Clone, JobEnd::Result::WithFaults, message.second};
+    case CloneOutcome::End::Stopped:
+        return {JobState::Job::Clone, JobEnd::Result::Stopped, message.second};
+    default:
+        return {JobState::Job::Clone, JobEnd::Result::Failed, message.text};
+    }
+}
+
 QString remainingText(qint64 remaining)
 {
     if (remaining >= Hour)
         return QString::number(remaining / Hour) + translated(QT_TRANSLATE_NOOP("CloneDisk", " hours"));
     return QString::number(std::max<qint64>(1, remaining / Minute)) +
            translated(QT_TRANSLATE_NOOP("CloneDisk", " minutes"));
+}
+
+QString gaugeText(int percent)
+{
+    return translated(QT_TRANSLATE_NOOP("CloneDisk", "%1 % of the disk copied")).arg(percent);
 }
 
 int percentDone(qint64 position, quint64 total)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "clone/CloneOutcome.h"
+#include "state/JobNotices.h"
 
 #include <QString>
 
@@ -36,8 +37,14 @@ Message aborted(const QString &second);
 Message finished(const CloneOutcome &outcome);
 /// @}
 
+/// What is told of that end outside the window.
+JobEnd jobEnd(const CloneOutcome &outcome);
+
 /// Text of the remaining time; never less than a minute. `remaining` in ms, may be negative.
 QString remainingText(qint64 remaining);
+
+/// What the gauge shows, for those who hear it.
+QString gaugeText(int percent);
 
 /// Whole percent of `position` in `total`, both in sectors; 0 where there is no total.
 int percentDone(qint64 position, quint64 total);

@@ -194,6 +194,16 @@ public:
     virtual void Sleep(quint32 milliseconds) = 0;
     /// @}
 
+    /// \name What the desktop shows of a window, by its native id. Main thread only.
+    /// @{
+    /// Shows the progress of a job, in percent, on the window's button in the task bar; none takes it away.
+    /// Does nothing where the desktop has no such thing.
+    virtual void SetProgressValue(quintptr window, std::optional<int> percent) = 0;
+    /// Shows a short message beside the user's work. Both texts are plain; an empty title takes away what
+    /// does not go by itself. Does nothing where the desktop has no such thing.
+    virtual void Shell_NotifyIconW(quintptr window, const QString &title, const QString &text) = 0;
+    /// @}
+
     /// \name Volume arrival and removal
     /// @{
     /// Null on a platform that tells of volumes by window message. Owned by the platform. Main thread only.

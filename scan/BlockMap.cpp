@@ -77,6 +77,22 @@ QVector<Cell> cells(const Metrics &sizes, qint64 total, qint64 position, const B
     return picture;
 }
 
+QString spoken(const Metrics &sizes, qint64 total, const BadSectorList &badSectors)
+{
+    const qint64 count = total > 0 ? cellCount(sizes, total) : 0;
+    QVector<Cell> held(static_cast<int>(count), Cell::Empty);
+    badSectors.forEachRun([&](const SectorRun &run) {
+        const qint64 perCell = sectorsPerCell(sizes, total);
+        // The last cell has the rest of the disk, too.
+        if (perCell > 0)
+            fill(held, qMin(run.first / perCell, count - 1), (run.first + run.count - 1) / perCell + 1,
+                 Cell::Bad);
+    });
+    return text(QT_TRANSLATE_NOOP("QGridView", "%1 cells, %2 with unreadable sectors"))
+        .arg(count)
+        .arg(held.count(Cell::Bad));
+}
+
 QString toolTip(const Metrics &sizes, const QPoint &place, qint64 start, qint64 end, qint64 blockStep)
 {
     const qint64 block =

@@ -53,6 +53,10 @@ enum class Cell : quint8 { Empty, Processed, Working, Bad };
 /// or two for each run of bad sectors.
 QVector<Cell> cells(const Metrics &sizes, qint64 total, qint64 position, const BadSectorList &badSectors);
 
+/// What the map shows, for those who hear it: how many cells, and how many of them hold bad sectors. Unlike
+/// the picture, each sector counts for the cell that it lies in.
+QString spoken(const Metrics &sizes, qint64 total, const BadSectorList &badSectors);
+
 /// The tool tip at a place of the map, for the range of sectors that the map stands for and the sectors of a
 /// block. Empty where there is none.
 QString toolTip(const Metrics &sizes, const QPoint &place, qint64 start, qint64 end, qint64 blockStep);

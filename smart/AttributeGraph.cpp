@@ -3,6 +3,7 @@
 
 #include "smart/TextCuts.h"
 
+#include <QCoreApplication>
 #include <QLocale>
 #include <QStringList>
 
@@ -221,6 +222,20 @@ QString dayLabel(const QString &date)
     if (month < 1 || month > 12 || digits != QStringLiteral("%1").arg(month, 2, 10, QLatin1Char('0')))
         return date.left(2);
     return date.left(2) + QLatin1Char('-') + QLocale::c().monthName(month, QLocale::ShortFormat);
+}
+
+QString graphText(const std::vector<QString> &dates, const std::vector<qint64> &values)
+{
+    if (dates.empty())
+        return QString();
+    std::vector<qint64> all = values;
+    all.resize(dates.size());
+    const auto [lowest, highest] = std::minmax_element(all.begin(), all.end());
+    return QCoreApplication::translate("MainWindow", "From %1 to %2: lowest value %3, highest %4, latest %5")
+        .arg(dayLabel(dates.front()), dayLabel(dates.back()))
+        .arg(*lowest)
+        .arg(*highest)
+        .arg(all.back());
 }
 
 std::optional<GraphModel> graphModel(GraphKind kind, const QString &key, const std::vector<QString> &dates,

@@ -41,6 +41,9 @@ struct GraphModel {
 /// "15-11-2026" gives "15-Nov", in every language. A month that does not exist adds nothing.
 QString dayLabel(const QString &date);
 
+/// What a graph of these dates and values shows, for those who hear it. Translated; empty without a date.
+QString graphText(const std::vector<QString> &dates, const std::vector<qint64> &values);
+
 /// The graph of the attribute `key`, from the stored `dates` ("dd-MM-yyyy", oldest first) and its values on
 /// them; a value that is missing counts as 0. A single day is labelled with `today`. Nothing without a date.
 std::optional<GraphModel> graphModel(GraphKind kind, const QString &key, const std::vector<QString> &dates,

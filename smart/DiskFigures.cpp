@@ -129,15 +129,19 @@ void keepHistory(const std::vector<AttributeRow> &rows)
     recordHistory(g_strSerialNumber, QDateTime::currentDateTime(), values);
 }
 
-std::optional<GraphModel> currentGraph(const QString &key)
+std::optional<DiskGraph> currentGraph(const QString &key)
 {
     const HistoryPaths paths = historyPaths(serialOfGraph());
     bool opened = false;
     const std::vector<QString> dates = readHistoryDates(paths.dates, &opened);
     if (!opened)
         return std::nullopt;
-    return graphModel(g_App.m_bNVMe ? GraphKind::Nvme : GraphKind::Ata, key, dates,
-                      readHistoryValues(paths.values, dates, key), QDate::currentDate());
+    const std::vector<qint64> values = readHistoryValues(paths.values, dates, key);
+    auto model = graphModel(g_App.m_bNVMe ? GraphKind::Nvme : GraphKind::Ata, key, dates, values,
+                            QDate::currentDate());
+    if (!model)
+        return std::nullopt;
+    return DiskGraph{std::move(*model), graphText(dates, values)};
 }
 
 void ReadPreviousTest(const QString &device)

@@ -44,8 +44,14 @@ std::vector<AttributeRow> currentRows();
 /// Enters such rows as the values of today in the history of their disk.
 void keepHistory(const std::vector<AttributeRow> &rows);
 
+/// A graph, and what it shows for those who hear it.
+struct DiskGraph {
+    GraphModel model;
+    QString text;
+};
+
 /// The graph of an attribute of the disk, by its key; nothing where there is no history.
-std::optional<GraphModel> currentGraph(const QString &key);
+std::optional<DiskGraph> currentGraph(const QString &key);
 
 /// Has the report tool tell the self-tests of the disk of that device string, and takes the newest. What the
 /// log does not tell stays. Blocks.

@@ -138,6 +138,20 @@ int performanceOf(const QString &ataVersion)
     return cuts::holdsOneOf(ataVersion, {"ATA2", "ATA1"}) ? 50 : 100;
 }
 
+QString pictureText(TilePicture picture)
+{
+    switch (picture) {
+    case TilePicture::Good:
+        return QCoreApplication::translate("MainWindow", "Good");
+    case TilePicture::Average:
+        return QCoreApplication::translate("MainWindow", "Average");
+    case TilePicture::Bad:
+        return QCoreApplication::translate("MainWindow", "Bad");
+    default:
+        return QString();
+    }
+}
+
 TilePicture healthPicture(std::optional<int> percent, int scalePercent)
 {
     if (!percent)

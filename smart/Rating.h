@@ -25,6 +25,9 @@ std::optional<int> healthOfNvme(const NvmeAttributeList &rows);
 /// Performance in percent by the text of the ATA version line.
 int performanceOf(const QString &ataVersion);
 
+/// What a picture tells by its colour. Translated; empty where it tells nothing.
+QString pictureText(TilePicture picture);
+
 /// What the tile's picture tells at a display scale, in percent.
 TilePicture healthPicture(std::optional<int> percent, int scalePercent);
 TilePicture performancePicture(int percent, int scalePercent);

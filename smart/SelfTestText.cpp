@@ -228,6 +228,14 @@ const char *shownWords(Told told)
     return ShownWords[static_cast<std::size_t>(told)];
 }
 
+JobEnd jobEnd(Told told)
+{
+    const JobEnd::Result result = told == Told::Completed ? JobEnd::Result::Well
+                                  : told == Told::Aborted ? JobEnd::Result::Stopped
+                                                          : JobEnd::Result::Failed;
+    return {JobState::Job::SelfTest, result, QCoreApplication::translate("MainWindow", shownWords(told))};
+}
+
 bool isResult(Told told)
 {
     return told == Told::Completed || (told >= Told::FatalError && told <= Told::Handling);

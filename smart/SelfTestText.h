@@ -2,6 +2,7 @@
 #pragma once
 
 #include "smart/SelfTestGlobals.h"
+#include "state/JobNotices.h"
 
 #include <QVector>
 
@@ -59,6 +60,9 @@ PreviousTest newestTest(QTextStream &log);
 
 /// The words that a status is shown with: English, of the context MainWindow.
 const char *shownWords(Told told);
+
+/// What is told of that end outside the window.
+JobEnd jobEnd(Told told);
 
 /// Whether the drive itself tells how its test went, which counts more than that somebody aborted it.
 bool isResult(Told told);

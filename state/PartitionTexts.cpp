@@ -124,6 +124,23 @@ QString sizeText(qint64 bytes, int unitCount)
            QLatin1String(Units[static_cast<std::size_t>(unit)]);
 }
 
+QString ringText(const QList<qint64> &sizes)
+{
+    constexpr double Whole = 100;
+    if (sizes.isEmpty())
+        return translated(QT_TRANSLATE_NOOP("MainWindow", "No Partition Found"));
+    double total = 0;
+    for (const qint64 size : sizes)
+        total += static_cast<double>(size);
+    QStringList parts;
+    for (const qint64 size : sizes)
+        parts << QStringLiteral("%1 (%2 %)")
+                     .arg(sizeText(size, UnitsOfTotal))
+                     .arg(total > 0 ? qRound(static_cast<double>(size) / total * Whole) : 0);
+    return translated(QT_TRANSLATE_NOOP("MainWindow", "%1 volumes: %2"))
+        .arg(QString::number(sizes.size()), parts.join(QLatin1String(", ")));
+}
+
 QString spaceText(const LogicalDiskRecord &volume, bool korean)
 {
     const QString text = sizeText(volume.nFreeBytes, UnitsOfFree) +

@@ -40,6 +40,10 @@ constexpr int UnitsOfTotal = 3;
 /// A size in bytes with one decimal, in one of so many units. Empty up to 1024 bytes.
 QString sizeText(qint64 bytes, int unitCount);
 
+/// What the ring of these sizes in bytes shows, for those who hear it: "2 volumes: 80.0 GB (80 %), 20.0 GB
+/// (20 %)".
+QString ringText(const QList<qint64> &sizes);
+
 /// "181.4 GB Free of 476.3 GB"; Korean puts " Available" behind it.
 QString spaceText(const LogicalDiskRecord &volume, bool korean);
 

@@ -6,6 +6,7 @@
 #include "platform/JsonSettings.h"
 #include "platform/NativePlatform.h"
 #include "platform/OwnFiles.h"
+#include "platform/linux/DesktopNotes.h"
 #include "platform/linux/DesktopUser.h"
 #include "platform/linux/LinuxDisks.h"
 #include "platform/linux/LinuxMachine.h"
@@ -365,6 +366,19 @@ qint32 LinuxPlatform::URLDownloadToFileW(const QString &url, const QString &path
 void LinuxPlatform::Sleep(quint32 milliseconds)
 {
     QThread::msleep(milliseconds);
+}
+
+// The desktop
+
+void LinuxPlatform::SetProgressValue(quintptr, std::optional<int> percent)
+{
+    desktopnotes::showProgress(percent);
+}
+
+void LinuxPlatform::Shell_NotifyIconW(quintptr, const QString &title, const QString &text)
+{
+    if (!title.isEmpty())
+        desktopnotes::notify(title, text);
 }
 
 // Volume arrival and removal

@@ -292,6 +292,17 @@ void SimulatedPlatform::Sleep(quint32 milliseconds)
         QThread::msleep(milliseconds);
 }
 
+void SimulatedPlatform::SetProgressValue(quintptr, std::optional<int> percent)
+{
+    record(QStringLiteral("taskbar.log"), percent ? QByteArray::number(*percent) + '%' : "none");
+}
+
+void SimulatedPlatform::Shell_NotifyIconW(quintptr, const QString &title, const QString &text)
+{
+    if (!title.isEmpty())
+        record(QStringLiteral("notices.log"), (title + QLatin1Char('\t') + text).toUtf8());
+}
+
 DeviceNotifier *SimulatedPlatform::deviceNotifier()
 {
     if (m_notifier.isNull()) {

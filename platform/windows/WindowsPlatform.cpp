@@ -11,6 +11,7 @@
 #include "platform/windows/Native.h"
 #include "platform/windows/PrivateFolder.h"
 #include "platform/windows/SystemInventory.h"
+#include "platform/windows/TaskBar.h"
 
 #include <QDeadlineTimer>
 #include <QDesktopServices>
@@ -360,6 +361,18 @@ qint32 WindowsPlatform::URLDownloadToFileW(const QString &url, const QString &pa
 void WindowsPlatform::Sleep(quint32 milliseconds)
 {
     ::Sleep(milliseconds);
+}
+
+// The desktop
+
+void WindowsPlatform::SetProgressValue(quintptr window, std::optional<int> percent)
+{
+    windows::showProgress(reinterpret_cast<HWND>(window), percent);
+}
+
+void WindowsPlatform::Shell_NotifyIconW(quintptr window, const QString &title, const QString &text)
+{
+    windows::notify(reinterpret_cast<HWND>(window), title, text);
 }
 
 // Volume arrival and removal

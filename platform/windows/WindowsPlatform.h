@@ -40,6 +40,9 @@ public:
     qint32 URLDownloadToFileW(const QString &url, const QString &path, const DownloadLimits &limits) override;
     void Sleep(quint32 milliseconds) override;
 
+    void SetProgressValue(quintptr window, std::optional<int> percent) override;
+    void Shell_NotifyIconW(quintptr window, const QString &title, const QString &text) override;
+
     DeviceNotifier *deviceNotifier() override;
     std::optional<DeviceChange> decodeDeviceMessage(const QByteArray &eventType, void *message) override;
 

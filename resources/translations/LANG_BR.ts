@@ -481,6 +481,10 @@
         <source>The list could not be saved.</source>
         <translation>Não foi possível salvar a lista.</translation>
     </message>
+    <message>
+        <source>%1 % of the disk copied</source>
+        <translation>%1 % do disco copiado</translation>
+    </message>
 </context>
 <context>
     <name>CloningWarningDialog</name>
@@ -1096,6 +1100,22 @@
         <source> Available</source>
         <translation> disponíveis</translation>
     </message>
+    <message>
+        <source>The self-test has ended.</source>
+        <translation>O autoteste terminou.</translation>
+    </message>
+    <message>
+        <source>%1 volumes: %2</source>
+        <translation>%1 volumes: %2</translation>
+    </message>
+    <message>
+        <source>From %1 to %2: lowest value %3, highest %4, latest %5</source>
+        <translation>De %1 a %2: menor valor %3, maior %4, último %5</translation>
+    </message>
+    <message>
+        <source>Average</source>
+        <translation>Médio</translation>
+    </message>
 </context>
 <context>
     <name>QCheckUpdate</name>
@@ -1169,6 +1189,10 @@ A atualização falhou porque o download ficou incompleto.</translation>
         <source> MB</source>
         <translation> MB</translation>
     </message>
+    <message>
+        <source>%1 cells, %2 with unreadable sectors</source>
+        <translation>%1 células, %2 com setores ilegíveis</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -1212,6 +1236,21 @@ A atualização falhou porque o download ficou incompleto.</translation>
     <message>
         <source>Initializing Velmora Halvane...</source>
         <translation>Inicializando o Velmora Halvane...</translation>
+    </message>
+</context>
+<context>
+    <name>SaveListButton</name>
+    <message>
+        <source>Save List</source>
+        <translation>Salvar lista</translation>
+    </message>
+    <message>
+        <source>The list could not be saved.</source>
+        <translation>Não foi possível salvar a lista.</translation>
+    </message>
+    <message>
+        <source>Saves the bad sectors as a text or as a map file of GNU ddrescue</source>
+        <translation>Salva os setores defeituosos como texto ou como arquivo map do GNU ddrescue</translation>
     </message>
 </context>
 <context>
@@ -1271,6 +1310,38 @@ A atualização falhou porque o download ficou incompleto.</translation>
     <message>
         <source>The disk is no longer connected.</source>
         <translation>O disco não está mais conectado.</translation>
+    </message>
+    <message>
+        <source>Sector %1 (LBA), byte offset %2</source>
+        <translation>Setor %1 (LBA), deslocamento em bytes %2</translation>
+    </message>
+    <message>
+        <source>Sectors %1 to %2 (LBA), byte offset %3</source>
+        <translation>Setores %1 a %2 (LBA), deslocamento em bytes %3</translation>
+    </message>
+    <message>
+        <source>Disk:</source>
+        <translation>Disco:</translation>
+    </message>
+    <message>
+        <source>Serial number:</source>
+        <translation>Número de série:</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>Data:</translation>
+    </message>
+    <message>
+        <source>Scanned: the first %1 of %2 sectors</source>
+        <translation>Verificados: os primeiros %1 de %2 setores</translation>
+    </message>
+    <message>
+        <source>Result:</source>
+        <translation>Resultado:</translation>
+    </message>
+    <message>
+        <source>Bad sectors: %1</source>
+        <translation>Setores defeituosos: %1</translation>
     </message>
 </context>
 <context>

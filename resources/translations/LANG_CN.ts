@@ -481,6 +481,10 @@
         <source>The list could not be saved.</source>
         <translation>无法保存列表。</translation>
     </message>
+    <message>
+        <source>%1 % of the disk copied</source>
+        <translation>已复制磁盘的 %1 %</translation>
+    </message>
 </context>
 <context>
     <name>CloningWarningDialog</name>
@@ -1096,6 +1100,22 @@
         <source> Available</source>
         <translation> 可用</translation>
     </message>
+    <message>
+        <source>The self-test has ended.</source>
+        <translation>自检已结束。</translation>
+    </message>
+    <message>
+        <source>%1 volumes: %2</source>
+        <translation>%1 个卷: %2</translation>
+    </message>
+    <message>
+        <source>From %1 to %2: lowest value %3, highest %4, latest %5</source>
+        <translation>%1 至 %2: 最小值 %3，最大值 %4，最新值 %5</translation>
+    </message>
+    <message>
+        <source>Average</source>
+        <translation>一般</translation>
+    </message>
 </context>
 <context>
     <name>QCheckUpdate</name>
@@ -1169,6 +1189,10 @@ Update failed due to partial download.</source>
         <source> MB</source>
         <translation> MB</translation>
     </message>
+    <message>
+        <source>%1 cells, %2 with unreadable sectors</source>
+        <translation>%1 个单元格，其中 %2 个含有无法读取的扇区</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -1212,6 +1236,21 @@ Update failed due to partial download.</source>
     <message>
         <source>Initializing Velmora Halvane...</source>
         <translation>正在初始化 Velmora Halvane...</translation>
+    </message>
+</context>
+<context>
+    <name>SaveListButton</name>
+    <message>
+        <source>Save List</source>
+        <translation>保存列表</translation>
+    </message>
+    <message>
+        <source>The list could not be saved.</source>
+        <translation>无法保存列表。</translation>
+    </message>
+    <message>
+        <source>Saves the bad sectors as a text or as a map file of GNU ddrescue</source>
+        <translation>将坏扇区保存为文本或 GNU ddrescue 的映射文件</translation>
     </message>
 </context>
 <context>
@@ -1271,6 +1310,38 @@ Update failed due to partial download.</source>
     <message>
         <source>The disk is no longer connected.</source>
         <translation>磁盘已断开连接。</translation>
+    </message>
+    <message>
+        <source>Sector %1 (LBA), byte offset %2</source>
+        <translation>扇区 %1 (LBA)，字节偏移 %2</translation>
+    </message>
+    <message>
+        <source>Sectors %1 to %2 (LBA), byte offset %3</source>
+        <translation>扇区 %1 至 %2 (LBA)，字节偏移 %3</translation>
+    </message>
+    <message>
+        <source>Disk:</source>
+        <translation>磁盘:</translation>
+    </message>
+    <message>
+        <source>Serial number:</source>
+        <translation>序列号：</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>日期:</translation>
+    </message>
+    <message>
+        <source>Scanned: the first %1 of %2 sectors</source>
+        <translation>已扫描: 前 %1 个扇区，共 %2 个</translation>
+    </message>
+    <message>
+        <source>Result:</source>
+        <translation>结果:</translation>
+    </message>
+    <message>
+        <source>Bad sectors: %1</source>
+        <translation>坏扇区: %1</translation>
     </message>
 </context>
 <context>

@@ -481,6 +481,10 @@
         <source>The list could not be saved.</source>
         <translation>Die Liste konnte nicht gespeichert werden.</translation>
     </message>
+    <message>
+        <source>%1 % of the disk copied</source>
+        <translation>%1 % des Laufwerks kopiert</translation>
+    </message>
 </context>
 <context>
     <name>CloningWarningDialog</name>
@@ -1096,6 +1100,22 @@
         <source> Available</source>
         <translation> verfügbar</translation>
     </message>
+    <message>
+        <source>The self-test has ended.</source>
+        <translation>Der Selbsttest ist beendet.</translation>
+    </message>
+    <message>
+        <source>%1 volumes: %2</source>
+        <translation>%1 Volumes: %2</translation>
+    </message>
+    <message>
+        <source>From %1 to %2: lowest value %3, highest %4, latest %5</source>
+        <translation>Von %1 bis %2: kleinster Wert %3, größter %4, letzter %5</translation>
+    </message>
+    <message>
+        <source>Average</source>
+        <translation>Mittel</translation>
+    </message>
 </context>
 <context>
     <name>QCheckUpdate</name>
@@ -1169,6 +1189,10 @@ Das Update ist fehlgeschlagen, weil der Download unvollständig war.</translatio
         <source> MB</source>
         <translation> MB</translation>
     </message>
+    <message>
+        <source>%1 cells, %2 with unreadable sectors</source>
+        <translation>%1 Felder, %2 mit nicht lesbaren Sektoren</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -1212,6 +1236,21 @@ Das Update ist fehlgeschlagen, weil der Download unvollständig war.</translatio
     <message>
         <source>Initializing Velmora Halvane...</source>
         <translation>Velmora Halvane wird initialisiert ...</translation>
+    </message>
+</context>
+<context>
+    <name>SaveListButton</name>
+    <message>
+        <source>Save List</source>
+        <translation>Liste speichern</translation>
+    </message>
+    <message>
+        <source>The list could not be saved.</source>
+        <translation>Die Liste konnte nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>Saves the bad sectors as a text or as a map file of GNU ddrescue</source>
+        <translation>Speichert die defekten Sektoren als Text oder als Map-Datei von GNU ddrescue</translation>
     </message>
 </context>
 <context>
@@ -1271,6 +1310,38 @@ Das Update ist fehlgeschlagen, weil der Download unvollständig war.</translatio
     <message>
         <source>The disk is no longer connected.</source>
         <translation>Das Laufwerk ist nicht mehr angeschlossen.</translation>
+    </message>
+    <message>
+        <source>Sector %1 (LBA), byte offset %2</source>
+        <translation>Sektor %1 (LBA), Byte-Offset %2</translation>
+    </message>
+    <message>
+        <source>Sectors %1 to %2 (LBA), byte offset %3</source>
+        <translation>Sektoren %1 bis %2 (LBA), Byte-Offset %3</translation>
+    </message>
+    <message>
+        <source>Disk:</source>
+        <translation>Laufwerk:</translation>
+    </message>
+    <message>
+        <source>Serial number:</source>
+        <translation>Seriennummer:</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>Datum:</translation>
+    </message>
+    <message>
+        <source>Scanned: the first %1 of %2 sectors</source>
+        <translation>Gescannt: die ersten %1 von %2 Sektoren</translation>
+    </message>
+    <message>
+        <source>Result:</source>
+        <translation>Ergebnis:</translation>
+    </message>
+    <message>
+        <source>Bad sectors: %1</source>
+        <translation>Defekte Sektoren: %1</translation>
     </message>
 </context>
 <context>

@@ -481,6 +481,10 @@
         <source>The list could not be saved.</source>
         <translation>De lijst kon niet worden opgeslagen.</translation>
     </message>
+    <message>
+        <source>%1 % of the disk copied</source>
+        <translation>%1 % van de schijf gekopieerd</translation>
+    </message>
 </context>
 <context>
     <name>CloningWarningDialog</name>
@@ -1096,6 +1100,22 @@
         <source> Available</source>
         <translation> beschikbaar</translation>
     </message>
+    <message>
+        <source>The self-test has ended.</source>
+        <translation>De zelftest is beëindigd.</translation>
+    </message>
+    <message>
+        <source>%1 volumes: %2</source>
+        <translation>%1 volumes: %2</translation>
+    </message>
+    <message>
+        <source>From %1 to %2: lowest value %3, highest %4, latest %5</source>
+        <translation>Van %1 tot %2: laagste waarde %3, hoogste %4, laatste %5</translation>
+    </message>
+    <message>
+        <source>Average</source>
+        <translation>Matig</translation>
+    </message>
 </context>
 <context>
     <name>QCheckUpdate</name>
@@ -1169,6 +1189,10 @@ De update is mislukt doordat de download onvolledig was.</translation>
         <source> MB</source>
         <translation> MB</translation>
     </message>
+    <message>
+        <source>%1 cells, %2 with unreadable sectors</source>
+        <translation>%1 vakken, %2 met onleesbare sectoren</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -1212,6 +1236,21 @@ De update is mislukt doordat de download onvolledig was.</translation>
     <message>
         <source>Initializing Velmora Halvane...</source>
         <translation>Velmora Halvane wordt geïnitialiseerd...</translation>
+    </message>
+</context>
+<context>
+    <name>SaveListButton</name>
+    <message>
+        <source>Save List</source>
+        <translation>Lijst opslaan</translation>
+    </message>
+    <message>
+        <source>The list could not be saved.</source>
+        <translation>De lijst kon niet worden opgeslagen.</translation>
+    </message>
+    <message>
+        <source>Saves the bad sectors as a text or as a map file of GNU ddrescue</source>
+        <translation>Slaat de slechte sectoren op als tekst of als mapbestand van GNU ddrescue</translation>
     </message>
 </context>
 <context>
@@ -1271,6 +1310,38 @@ De update is mislukt doordat de download onvolledig was.</translation>
     <message>
         <source>The disk is no longer connected.</source>
         <translation>De schijf is niet meer aangesloten.</translation>
+    </message>
+    <message>
+        <source>Sector %1 (LBA), byte offset %2</source>
+        <translation>Sector %1 (LBA), byte-offset %2</translation>
+    </message>
+    <message>
+        <source>Sectors %1 to %2 (LBA), byte offset %3</source>
+        <translation>Sectoren %1 tot %2 (LBA), byte-offset %3</translation>
+    </message>
+    <message>
+        <source>Disk:</source>
+        <translation>Schijf:</translation>
+    </message>
+    <message>
+        <source>Serial number:</source>
+        <translation>Serienummer:</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>Datum:</translation>
+    </message>
+    <message>
+        <source>Scanned: the first %1 of %2 sectors</source>
+        <translation>Gescand: de eerste %1 van %2 sectoren</translation>
+    </message>
+    <message>
+        <source>Result:</source>
+        <translation>Resultaat:</translation>
+    </message>
+    <message>
+        <source>Bad sectors: %1</source>
+        <translation>Slechte sectoren: %1</translation>
     </message>
 </context>
 <context>

@@ -481,6 +481,10 @@
         <source>The list could not be saved.</source>
         <translation>No se pudo guardar la lista.</translation>
     </message>
+    <message>
+        <source>%1 % of the disk copied</source>
+        <translation>%1 % del disco copiado</translation>
+    </message>
 </context>
 <context>
     <name>CloningWarningDialog</name>
@@ -1096,6 +1100,22 @@
         <source> Available</source>
         <translation> disponibles</translation>
     </message>
+    <message>
+        <source>The self-test has ended.</source>
+        <translation>La autoprueba ha terminado.</translation>
+    </message>
+    <message>
+        <source>%1 volumes: %2</source>
+        <translation>%1 volúmenes: %2</translation>
+    </message>
+    <message>
+        <source>From %1 to %2: lowest value %3, highest %4, latest %5</source>
+        <translation>Del %1 al %2: valor mínimo %3, máximo %4, último %5</translation>
+    </message>
+    <message>
+        <source>Average</source>
+        <translation>Regular</translation>
+    </message>
 </context>
 <context>
     <name>QCheckUpdate</name>
@@ -1169,6 +1189,10 @@ La actualización falló porque la descarga quedó incompleta.</translation>
         <source> MB</source>
         <translation> MB</translation>
     </message>
+    <message>
+        <source>%1 cells, %2 with unreadable sectors</source>
+        <translation>%1 celdas, %2 con sectores ilegibles</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -1212,6 +1236,21 @@ La actualización falló porque la descarga quedó incompleta.</translation>
     <message>
         <source>Initializing Velmora Halvane...</source>
         <translation>Iniciando Velmora Halvane...</translation>
+    </message>
+</context>
+<context>
+    <name>SaveListButton</name>
+    <message>
+        <source>Save List</source>
+        <translation>Guardar lista</translation>
+    </message>
+    <message>
+        <source>The list could not be saved.</source>
+        <translation>No se pudo guardar la lista.</translation>
+    </message>
+    <message>
+        <source>Saves the bad sectors as a text or as a map file of GNU ddrescue</source>
+        <translation>Guarda los sectores defectuosos como texto o como archivo map de GNU ddrescue</translation>
     </message>
 </context>
 <context>
@@ -1271,6 +1310,38 @@ La actualización falló porque la descarga quedó incompleta.</translation>
     <message>
         <source>The disk is no longer connected.</source>
         <translation>El disco ya no está conectado.</translation>
+    </message>
+    <message>
+        <source>Sector %1 (LBA), byte offset %2</source>
+        <translation>Sector %1 (LBA), desplazamiento en bytes %2</translation>
+    </message>
+    <message>
+        <source>Sectors %1 to %2 (LBA), byte offset %3</source>
+        <translation>Sectores %1 a %2 (LBA), desplazamiento en bytes %3</translation>
+    </message>
+    <message>
+        <source>Disk:</source>
+        <translation>Disco:</translation>
+    </message>
+    <message>
+        <source>Serial number:</source>
+        <translation>Número de serie:</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>Fecha:</translation>
+    </message>
+    <message>
+        <source>Scanned: the first %1 of %2 sectors</source>
+        <translation>Analizados: los primeros %1 de %2 sectores</translation>
+    </message>
+    <message>
+        <source>Result:</source>
+        <translation>Resultado:</translation>
+    </message>
+    <message>
+        <source>Bad sectors: %1</source>
+        <translation>Sectores defectuosos: %1</translation>
     </message>
 </context>
 <context>

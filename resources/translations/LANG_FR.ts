@@ -479,7 +479,11 @@
     </message>
     <message>
         <source>The list could not be saved.</source>
-        <translation>Impossible d&apos;enregistrer la liste.</translation>
+        <translation>Impossible d'enregistrer la liste.</translation>
+    </message>
+    <message>
+        <source>%1 % of the disk copied</source>
+        <translation>%1 % du disque copiés</translation>
     </message>
 </context>
 <context>
@@ -1096,6 +1100,22 @@
         <source> Available</source>
         <translation> disponibles</translation>
     </message>
+    <message>
+        <source>The self-test has ended.</source>
+        <translation>L'autotest est terminé.</translation>
+    </message>
+    <message>
+        <source>%1 volumes: %2</source>
+        <translation>%1 volumes : %2</translation>
+    </message>
+    <message>
+        <source>From %1 to %2: lowest value %3, highest %4, latest %5</source>
+        <translation>Du %1 au %2 : valeur minimale %3, maximale %4, dernière %5</translation>
+    </message>
+    <message>
+        <source>Average</source>
+        <translation>Moyen</translation>
+    </message>
 </context>
 <context>
     <name>QCheckUpdate</name>
@@ -1169,6 +1189,10 @@ La mise à jour a échoué : le téléchargement est incomplet.</translation>
         <source> MB</source>
         <translation> MB</translation>
     </message>
+    <message>
+        <source>%1 cells, %2 with unreadable sectors</source>
+        <translation>%1 cases, dont %2 avec des secteurs illisibles</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -1212,6 +1236,21 @@ La mise à jour a échoué : le téléchargement est incomplet.</translation>
     <message>
         <source>Initializing Velmora Halvane...</source>
         <translation>Initialisation de Velmora Halvane...</translation>
+    </message>
+</context>
+<context>
+    <name>SaveListButton</name>
+    <message>
+        <source>Save List</source>
+        <translation>Enregistrer la liste</translation>
+    </message>
+    <message>
+        <source>The list could not be saved.</source>
+        <translation>Impossible d'enregistrer la liste.</translation>
+    </message>
+    <message>
+        <source>Saves the bad sectors as a text or as a map file of GNU ddrescue</source>
+        <translation>Enregistre les secteurs défectueux sous forme de texte ou de fichier map de GNU ddrescue</translation>
     </message>
 </context>
 <context>
@@ -1271,6 +1310,38 @@ La mise à jour a échoué : le téléchargement est incomplet.</translation>
     <message>
         <source>The disk is no longer connected.</source>
         <translation>Le disque n&apos;est plus connecté.</translation>
+    </message>
+    <message>
+        <source>Sector %1 (LBA), byte offset %2</source>
+        <translation>Secteur %1 (LBA), décalage en octets %2</translation>
+    </message>
+    <message>
+        <source>Sectors %1 to %2 (LBA), byte offset %3</source>
+        <translation>Secteurs %1 à %2 (LBA), décalage en octets %3</translation>
+    </message>
+    <message>
+        <source>Disk:</source>
+        <translation>Disque :</translation>
+    </message>
+    <message>
+        <source>Serial number:</source>
+        <translation>Numéro de série :</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>Date :</translation>
+    </message>
+    <message>
+        <source>Scanned: the first %1 of %2 sectors</source>
+        <translation>Analysés : les %1 premiers secteurs sur %2</translation>
+    </message>
+    <message>
+        <source>Result:</source>
+        <translation>Résultat :</translation>
+    </message>
+    <message>
+        <source>Bad sectors: %1</source>
+        <translation>Secteurs défectueux : %1</translation>
     </message>
 </context>
 <context>

@@ -481,6 +481,10 @@
         <source>The list could not be saved.</source>
         <translation>सूची सहेजी नहीं जा सकी।</translation>
     </message>
+    <message>
+        <source>%1 % of the disk copied</source>
+        <translation>डिस्क का %1 % कॉपी हुआ</translation>
+    </message>
 </context>
 <context>
     <name>CloningWarningDialog</name>
@@ -1096,6 +1100,22 @@
         <source> Available</source>
         <translation> उपलब्ध</translation>
     </message>
+    <message>
+        <source>The self-test has ended.</source>
+        <translation>स्व-परीक्षण समाप्त हो गया है।</translation>
+    </message>
+    <message>
+        <source>%1 volumes: %2</source>
+        <translation>%1 वॉल्यूम: %2</translation>
+    </message>
+    <message>
+        <source>From %1 to %2: lowest value %3, highest %4, latest %5</source>
+        <translation>%1 से %2: न्यूनतम मान %3, अधिकतम %4, नवीनतम %5</translation>
+    </message>
+    <message>
+        <source>Average</source>
+        <translation>औसत</translation>
+    </message>
 </context>
 <context>
     <name>QCheckUpdate</name>
@@ -1169,6 +1189,10 @@ Update failed due to partial download.</source>
         <source> MB</source>
         <translation> MB</translation>
     </message>
+    <message>
+        <source>%1 cells, %2 with unreadable sectors</source>
+        <translation>%1 खाने, %2 में न पढ़े जा सकने वाले सेक्टर</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -1212,6 +1236,21 @@ Update failed due to partial download.</source>
     <message>
         <source>Initializing Velmora Halvane...</source>
         <translation>Velmora Halvane शुरू हो रहा है...</translation>
+    </message>
+</context>
+<context>
+    <name>SaveListButton</name>
+    <message>
+        <source>Save List</source>
+        <translation>सूची सहेजें</translation>
+    </message>
+    <message>
+        <source>The list could not be saved.</source>
+        <translation>सूची सहेजी नहीं जा सकी।</translation>
+    </message>
+    <message>
+        <source>Saves the bad sectors as a text or as a map file of GNU ddrescue</source>
+        <translation>ख़राब सेक्टरों को टेक्स्ट या GNU ddrescue की मैप फ़ाइल के रूप में सहेजता है</translation>
     </message>
 </context>
 <context>
@@ -1271,6 +1310,38 @@ Update failed due to partial download.</source>
     <message>
         <source>The disk is no longer connected.</source>
         <translation>डिस्क अब कनेक्ट नहीं है।</translation>
+    </message>
+    <message>
+        <source>Sector %1 (LBA), byte offset %2</source>
+        <translation>सेक्टर %1 (LBA), बाइट ऑफ़सेट %2</translation>
+    </message>
+    <message>
+        <source>Sectors %1 to %2 (LBA), byte offset %3</source>
+        <translation>सेक्टर %1 से %2 (LBA), बाइट ऑफ़सेट %3</translation>
+    </message>
+    <message>
+        <source>Disk:</source>
+        <translation>डिस्क:</translation>
+    </message>
+    <message>
+        <source>Serial number:</source>
+        <translation>सीरियल नंबर:</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>दिनांक:</translation>
+    </message>
+    <message>
+        <source>Scanned: the first %1 of %2 sectors</source>
+        <translation>स्कैन किया गया: पहले %1, कुल %2 सेक्टर</translation>
+    </message>
+    <message>
+        <source>Result:</source>
+        <translation>परिणाम:</translation>
+    </message>
+    <message>
+        <source>Bad sectors: %1</source>
+        <translation>ख़राब सेक्टर: %1</translation>
     </message>
 </context>
 <context>

@@ -479,7 +479,11 @@
     </message>
     <message>
         <source>The list could not be saved.</source>
-        <translation>Impossibile salvare l&apos;elenco.</translation>
+        <translation>Impossibile salvare l'elenco.</translation>
+    </message>
+    <message>
+        <source>%1 % of the disk copied</source>
+        <translation>%1 % del disco copiato</translation>
     </message>
 </context>
 <context>
@@ -1096,6 +1100,22 @@
         <source> Available</source>
         <translation> disponibili</translation>
     </message>
+    <message>
+        <source>The self-test has ended.</source>
+        <translation>L'autotest è terminato.</translation>
+    </message>
+    <message>
+        <source>%1 volumes: %2</source>
+        <translation>%1 volumi: %2</translation>
+    </message>
+    <message>
+        <source>From %1 to %2: lowest value %3, highest %4, latest %5</source>
+        <translation>Dal %1 al %2: valore minimo %3, massimo %4, ultimo %5</translation>
+    </message>
+    <message>
+        <source>Average</source>
+        <translation>Medio</translation>
+    </message>
 </context>
 <context>
     <name>QCheckUpdate</name>
@@ -1169,6 +1189,10 @@ L&apos;aggiornamento non è riuscito perché il download è incompleto.</transla
         <source> MB</source>
         <translation> MB</translation>
     </message>
+    <message>
+        <source>%1 cells, %2 with unreadable sectors</source>
+        <translation>%1 celle, %2 con settori illeggibili</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -1212,6 +1236,21 @@ L&apos;aggiornamento non è riuscito perché il download è incompleto.</transla
     <message>
         <source>Initializing Velmora Halvane...</source>
         <translation>Inizializzazione di Velmora Halvane...</translation>
+    </message>
+</context>
+<context>
+    <name>SaveListButton</name>
+    <message>
+        <source>Save List</source>
+        <translation>Salva elenco</translation>
+    </message>
+    <message>
+        <source>The list could not be saved.</source>
+        <translation>Impossibile salvare l'elenco.</translation>
+    </message>
+    <message>
+        <source>Saves the bad sectors as a text or as a map file of GNU ddrescue</source>
+        <translation>Salva i settori danneggiati come testo o come file map di GNU ddrescue</translation>
     </message>
 </context>
 <context>
@@ -1271,6 +1310,38 @@ L&apos;aggiornamento non è riuscito perché il download è incompleto.</transla
     <message>
         <source>The disk is no longer connected.</source>
         <translation>Il disco non è più collegato.</translation>
+    </message>
+    <message>
+        <source>Sector %1 (LBA), byte offset %2</source>
+        <translation>Settore %1 (LBA), offset in byte %2</translation>
+    </message>
+    <message>
+        <source>Sectors %1 to %2 (LBA), byte offset %3</source>
+        <translation>Settori da %1 a %2 (LBA), offset in byte %3</translation>
+    </message>
+    <message>
+        <source>Disk:</source>
+        <translation>Disco:</translation>
+    </message>
+    <message>
+        <source>Serial number:</source>
+        <translation>Numero di serie:</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>Data:</translation>
+    </message>
+    <message>
+        <source>Scanned: the first %1 of %2 sectors</source>
+        <translation>Analizzati: i primi %1 settori su %2</translation>
+    </message>
+    <message>
+        <source>Result:</source>
+        <translation>Risultato:</translation>
+    </message>
+    <message>
+        <source>Bad sectors: %1</source>
+        <translation>Settori danneggiati: %1</translation>
     </message>
 </context>
 <context>

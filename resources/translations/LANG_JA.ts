@@ -481,6 +481,10 @@
         <source>The list could not be saved.</source>
         <translation>リストを保存できませんでした。</translation>
     </message>
+    <message>
+        <source>%1 % of the disk copied</source>
+        <translation>ディスクの %1 % をコピーしました</translation>
+    </message>
 </context>
 <context>
     <name>CloningWarningDialog</name>
@@ -1096,6 +1100,22 @@
         <source> Available</source>
         <translation> 利用可能</translation>
     </message>
+    <message>
+        <source>The self-test has ended.</source>
+        <translation>セルフテストが終了しました。</translation>
+    </message>
+    <message>
+        <source>%1 volumes: %2</source>
+        <translation>%1 個のボリューム: %2</translation>
+    </message>
+    <message>
+        <source>From %1 to %2: lowest value %3, highest %4, latest %5</source>
+        <translation>%1～%2: 最小値 %3、最大値 %4、最新値 %5</translation>
+    </message>
+    <message>
+        <source>Average</source>
+        <translation>普通</translation>
+    </message>
 </context>
 <context>
     <name>QCheckUpdate</name>
@@ -1169,6 +1189,10 @@ Update failed due to partial download.</source>
         <source> MB</source>
         <translation> MB</translation>
     </message>
+    <message>
+        <source>%1 cells, %2 with unreadable sectors</source>
+        <translation>%1 個のセル、うち %2 個に読み取れないセクタがあります</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -1212,6 +1236,21 @@ Update failed due to partial download.</source>
     <message>
         <source>Initializing Velmora Halvane...</source>
         <translation>Velmora Halvane を初期化しています...</translation>
+    </message>
+</context>
+<context>
+    <name>SaveListButton</name>
+    <message>
+        <source>Save List</source>
+        <translation>リストを保存</translation>
+    </message>
+    <message>
+        <source>The list could not be saved.</source>
+        <translation>リストを保存できませんでした。</translation>
+    </message>
+    <message>
+        <source>Saves the bad sectors as a text or as a map file of GNU ddrescue</source>
+        <translation>不良セクタをテキストまたは GNU ddrescue のマップファイルとして保存します</translation>
     </message>
 </context>
 <context>
@@ -1271,6 +1310,38 @@ Update failed due to partial download.</source>
     <message>
         <source>The disk is no longer connected.</source>
         <translation>ディスクは接続されていません。</translation>
+    </message>
+    <message>
+        <source>Sector %1 (LBA), byte offset %2</source>
+        <translation>セクタ %1 (LBA)、バイトオフセット %2</translation>
+    </message>
+    <message>
+        <source>Sectors %1 to %2 (LBA), byte offset %3</source>
+        <translation>セクタ %1～%2 (LBA)、バイトオフセット %3</translation>
+    </message>
+    <message>
+        <source>Disk:</source>
+        <translation>ディスク:</translation>
+    </message>
+    <message>
+        <source>Serial number:</source>
+        <translation>シリアル番号:</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>日時:</translation>
+    </message>
+    <message>
+        <source>Scanned: the first %1 of %2 sectors</source>
+        <translation>スキャン済み: 先頭から %1 / %2 セクタ</translation>
+    </message>
+    <message>
+        <source>Result:</source>
+        <translation>結果:</translation>
+    </message>
+    <message>
+        <source>Bad sectors: %1</source>
+        <translation>不良セクタ: %1</translation>
     </message>
 </context>
 <context>

@@ -481,6 +481,10 @@
         <source>The list could not be saved.</source>
         <translation>목록을 저장할 수 없습니다.</translation>
     </message>
+    <message>
+        <source>%1 % of the disk copied</source>
+        <translation>디스크의 %1 % 복사됨</translation>
+    </message>
 </context>
 <context>
     <name>CloningWarningDialog</name>
@@ -1096,6 +1100,22 @@
         <source> Available</source>
         <translation> 사용 가능</translation>
     </message>
+    <message>
+        <source>The self-test has ended.</source>
+        <translation>자가 진단이 끝났습니다.</translation>
+    </message>
+    <message>
+        <source>%1 volumes: %2</source>
+        <translation>볼륨 %1개: %2</translation>
+    </message>
+    <message>
+        <source>From %1 to %2: lowest value %3, highest %4, latest %5</source>
+        <translation>%1~%2: 최솟값 %3, 최댓값 %4, 최근 값 %5</translation>
+    </message>
+    <message>
+        <source>Average</source>
+        <translation>보통</translation>
+    </message>
 </context>
 <context>
     <name>QCheckUpdate</name>
@@ -1169,6 +1189,10 @@ Update failed due to partial download.</source>
         <source> MB</source>
         <translation> MB</translation>
     </message>
+    <message>
+        <source>%1 cells, %2 with unreadable sectors</source>
+        <translation>셀 %1개, 그중 %2개에 읽을 수 없는 섹터가 있음</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -1212,6 +1236,21 @@ Update failed due to partial download.</source>
     <message>
         <source>Initializing Velmora Halvane...</source>
         <translation>Velmora Halvane 초기화 중...</translation>
+    </message>
+</context>
+<context>
+    <name>SaveListButton</name>
+    <message>
+        <source>Save List</source>
+        <translation>목록 저장</translation>
+    </message>
+    <message>
+        <source>The list could not be saved.</source>
+        <translation>목록을 저장할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Saves the bad sectors as a text or as a map file of GNU ddrescue</source>
+        <translation>불량 섹터를 텍스트 또는 GNU ddrescue 맵 파일로 저장합니다</translation>
     </message>
 </context>
 <context>
@@ -1271,6 +1310,38 @@ Update failed due to partial download.</source>
     <message>
         <source>The disk is no longer connected.</source>
         <translation>디스크의 연결이 끊어졌습니다.</translation>
+    </message>
+    <message>
+        <source>Sector %1 (LBA), byte offset %2</source>
+        <translation>섹터 %1 (LBA), 바이트 오프셋 %2</translation>
+    </message>
+    <message>
+        <source>Sectors %1 to %2 (LBA), byte offset %3</source>
+        <translation>섹터 %1~%2 (LBA), 바이트 오프셋 %3</translation>
+    </message>
+    <message>
+        <source>Disk:</source>
+        <translation>디스크:</translation>
+    </message>
+    <message>
+        <source>Serial number:</source>
+        <translation>일련 번호:</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>날짜:</translation>
+    </message>
+    <message>
+        <source>Scanned: the first %1 of %2 sectors</source>
+        <translation>검사함: 처음 %1/%2 섹터</translation>
+    </message>
+    <message>
+        <source>Result:</source>
+        <translation>결과:</translation>
+    </message>
+    <message>
+        <source>Bad sectors: %1</source>
+        <translation>불량 섹터: %1</translation>
     </message>
 </context>
 <context>

@@ -40,12 +40,14 @@ private slots:
         QCOMPARE(clonemessages::finished(outcome).second,
                  QStringLiteral("4 sectors could not be read and were filled with zeros. "
                                 "4 sectors could not be written."));
+        QCOMPARE(clonemessages::jobEnd(outcome).result, JobEnd::Result::WithFaults);
         outcome.end = CloneOutcome::End::Failed;
         outcome.fault = CloneFault::DestinationGone;
         const clonemessages::Message failed = clonemessages::finished(outcome);
         QCOMPARE(failed.text + '|' + failed.second,
                  QStringLiteral("The destination disk does not answer any more.|"
                                 "The destination disk holds no complete copy."));
+        QCOMPARE(clonemessages::jobEnd(outcome).detail, failed.text);
         m_lost.unconfirmed = true;
         QVERIFY(rescuemap::text(m_lost, 3000).endsWith("\n0x00000000  0x00177000  ?\n"));
     }
@@ -82,6 +84,7 @@ private slots:
             told << clonemessages::remainingText(remaining);
         QCOMPARE(told,
                  QStringList({"1 minutes", "1 minutes", "2 minutes", "59 minutes", "1 hours", "2000 hours"}));
+        QCOMPARE(clonemessages::gaugeText(42), QStringLiteral("42 % of the disk copied"));
         QCOMPARE(clonemessages::percentDone(999999, 1000000), 99); // cut, not rounded
         QCOMPARE(clonemessages::percentDone(40000000000, 80000000000), 50);
         QCOMPARE(clonemessages::percentDone(32768, 0), 0); // the size is not known

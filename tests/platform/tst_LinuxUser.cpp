@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/linux/DesktopNotes.h"
 #include "platform/linux/UserFolders.h"
 #include "tests/support/Files.h"
 #include "tests/support/LinuxPlaces.h"
@@ -99,6 +100,13 @@ private slots:
         QCOMPARE(store->value("TempValue"), QVariant("7"));
         QVERIFY(store->fileName().startsWith(m_home.path()));
         QVERIFY(!pc->OpenSettings({})->contains("TempValue"));
+    }
+
+    /// The desktop would take the second text for markup, and both for options.
+    void notice()
+    {
+        QCOMPARE(desktopnotes::notifyArguments("-t", "<a href='x'>&").mid(2),
+                 (QStringList{"--", "-t", "&lt;a href='x'>&amp;"}));
     }
 
 private:

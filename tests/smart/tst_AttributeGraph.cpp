@@ -58,6 +58,13 @@ class AttributeGraphTest : public QObject
     Q_OBJECT
 
 private slots:
+    void spoken()
+    {
+        QCOMPARE(graphText({"01-11-2026", "02-11-2026", "04-11-2026"}, {5, 9}),
+                 QStringLiteral("From 01-Nov to 04-Nov: lowest value 0, highest 9, latest 0"));
+        QCOMPARE(graphText({}, {5}), QString());
+    }
+
     void axis()
     {
         // One name of each rule that is not as the first, with a small and a large highest value.

@@ -148,6 +148,7 @@ private slots:
                         return health + ' ' + performance;
                     });
         QCOMPARE(letter(healthPicture(std::nullopt, 100)), QString("?"));
+        QCOMPARE(pictureText(TilePicture::Bad) + pictureText(TilePicture::Unknown), QString("Bad"));
         // Of the temperature, after a load and of a poll.
         compareRows({"49 -> G-", "50 -> AG", "65 -> AG", "66 -> BG"}, [](const QString &celsius) {
             return letter(loadTemperaturePicture(celsius.toInt())) +

@@ -206,6 +206,14 @@ private slots:
         QCOMPARE(disksOfVolume("E:", nodes), QVector<int>());
     }
 
+    void ring()
+    {
+        constexpr qint64 Giga = 1 << 30;
+        QCOMPARE(partitiontexts::ringText({6 * Giga, 2 * Giga}),
+                 QString("2 volumes: 6 GB (75 %), 2 GB (25 %)"));
+        QCOMPARE(partitiontexts::ringText({}), QString("No Partition Found"));
+    }
+
     void healthOfVolumes()
     {
         RecordList<WmicDiskRecord> list;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "state/JobState.h"
+#include "state/JobNotices.h"
 
 #include <QtTest>
 
@@ -44,6 +44,28 @@ private slots:
         QCOMPARE(allowed([](Jobs &) { g_bJobRunning = true; }), QString("start leave"));
         for (const Job job : {Job::Scan, Job::SelfTest})
             QCOMPARE(allowed([job](Jobs &jobs) { jobs.openResult(job); }), QString("start close quit idle"));
+    }
+
+    /// The user is told once: by the window, or by the desktop.
+    void notices()
+    {
+        using Result = JobEnd::Result;
+        QCOMPARE(jobnotices::windowTitle(QStringLiteral("V"), 42), QStringLiteral("42 % - V"));
+        QCOMPARE(jobnotices::windowTitle(QStringLiteral("V"), std::nullopt), QStringLiteral("V"));
+        const auto told = [](Job job, Result result, bool inFront = false) {
+            const auto notice = jobnotices::notice({job, result, QStringLiteral("why")}, inFront);
+            return notice ? notice->title + QLatin1Char('|') + notice->text : QString();
+        };
+        QCOMPARE(told(Job::Scan, Result::WithFaults), QStringLiteral("Scan Completed.|why"));
+        QCOMPARE(told(Job::Scan, Result::Failed), QStringLiteral("Scan Failed.|why"));
+        QCOMPARE(told(Job::Clone, Result::Well), QStringLiteral("Disk Cloning complete.|why"));
+        QCOMPARE(told(Job::Clone, Result::WithFaults),
+                 QStringLiteral("Disk Cloning complete with errors.|why"));
+        QCOMPARE(told(Job::Clone, Result::Failed), QStringLiteral("Cloning Failed|why"));
+        for (const Result result : {Result::Well, Result::Failed})
+            QCOMPARE(told(Job::SelfTest, result), QStringLiteral("The self-test has ended.|why"));
+        for (const Job job : {Job::Scan, Job::Clone, Job::SelfTest})
+            QCOMPARE(told(job, Result::Stopped) + told(job, Result::Well, true), QString());
     }
 
     void stopEndsWhenTheThreadDoes()

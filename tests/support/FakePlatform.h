@@ -245,6 +245,8 @@ public:
         if (onSleep)
             onSleep(milliseconds);
     }
+    void SetProgressValue(quintptr, std::optional<int>) override {}
+    void Shell_NotifyIconW(quintptr, const QString &, const QString &) override {}
     DeviceNotifier *deviceNotifier() override { return &m_notifier; }
     std::optional<DeviceChange> decodeDeviceMessage(const QByteArray &, void *) override { return {}; }
     void InitializeCom() override {}

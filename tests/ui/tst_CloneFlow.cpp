@@ -77,9 +77,13 @@ private slots:
         QVERIFY(!shown("CloneButton"));
 
         QTRY_COMPARE_WITH_TIMEOUT(gauge->Text(), QStringLiteral("59%\nComplete"), 20000);
+        QCOMPARE(m_pWindow->windowTitle(), QStringLiteral("59 % - Velmora Halvane"));
+        QApplication::setActiveWindow(nullptr);
         QCOMPARE(text("TimeLabel"), QStringLiteral("1 minutes"));
         waitForEnd();
         QCOMPARE(ended.count(), 1);
+        QCOMPARE(logLines("notices.log"), QList<QByteArray>{"Disk Cloning complete.\tDisk cloning process "
+                                                            "completed successfully."});
         QCOMPARE(outcome(), QStringLiteral("Clone Disk|Disk Cloning complete.|"
                                            "Disk cloning process completed successfully."));
         QVERIFY(running() && shown("CloneButton") && !shown("StopButton"));

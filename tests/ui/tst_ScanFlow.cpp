@@ -6,6 +6,9 @@
 #include "ui/screens/ScanDisk.h"
 #include "ui/widgets/QGridView.h"
 
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QLineEdit>
 #include <QRadioButton>
 #include <QToolTip>
 
@@ -35,8 +38,12 @@ private slots:
     {
         click("ScanButton");
         QVERIFY(scanning());
+        QApplication::setActiveWindow(m_pWindow.get());
         waitForResult();
+        QVERIFY(map()->accessibleDescription().startsWith(
+            QLatin1String("400 cells, 4 with unreadable sectors, Total Sectors: 163840")));
         QCOMPARE(outcome(), QStringLiteral("Scan Completed|Scan Completed.|"));
+        QVERIFY(logLines("notices.log").isEmpty()); // the user has seen it
         QVERIFY(idle() && shown("ScanButton") && shown("BackTestButton") && shown("frame"));
         const auto verify = [this] {
             // The first sector of the second chunk is found twice, and so is the sector behind the end.
@@ -78,6 +85,28 @@ private slots:
         child<QLabel>("TimeReLbl")->clear();
         changeLanguage(page());
         QCOMPARE(texts({"TimeElapsedLbl", "TimeReLbl"}), QStringLiteral("Time Elapsed|Time Remaining"));
+    }
+
+    /// The list has the button's ending, or that of the kind of file that was chosen.
+    void saveList()
+    {
+        QVERIFY(!enabled("m_pSaveListButton")); // nothing was scanned
+        startOn(0);
+        QVERIFY(!enabled("m_pSaveListButton"));
+        waitForResult();
+        QVERIFY(shown("m_pSaveListButton") && enabled("m_pSaveListButton"));
+        closeResult();
+        const QString today = QDate::currentDate().toString(QStringLiteral("yyyy-MM-dd"));
+        QCOMPARE(save(m_strState + QStringLiteral("/bad"), 1), QStringLiteral("M -  - 80.00 MB ") + today);
+        save(m_strState + QStringLiteral("/list.txt"), 1);
+        QVERIFY(contentOf(m_strState + QStringLiteral("/bad.map")).contains("\n0x0000C800  0x00000200  -\n"));
+        QVERIFY(contentOf(m_strState + QStringLiteral("/list.txt")).contains("Bad sectors: 5"));
+        QCOMPARE(outcome(), QString());
+        save(m_strState + QStringLiteral("/no/folder"), 0);
+        QCOMPARE(outcome(), QStringLiteral("Save List|The list could not be saved.|"));
+        closeResult();
+        select(1);
+        QVERIFY(!enabled("m_pSaveListButton"));
     }
 
     void stopped()
@@ -209,8 +238,14 @@ private slots:
     {
         startOn(1);
         waitForSector(163840);
+        QCOMPARE(m_pWindow->windowTitle(), QStringLiteral("1 % - Velmora Halvane"));
+        QApplication::setActiveWindow(nullptr);
         pullOut(1);
         waitForResult();
+        QCOMPARE(m_pWindow->windowTitle(), QStringLiteral("Velmora Halvane"));
+        QCOMPARE(logLines("taskbar.log").first() + logLines("taskbar.log").last(), QByteArray("0%none"));
+        QCOMPARE(logLines("notices.log"),
+                 QList<QByteArray>{"Scan Failed.\tThe disk is no longer connected."});
         QCOMPARE(outcome(), QStringLiteral("Scan Failed|Scan Failed.|The disk is no longer connected."));
         QVERIFY(idle() && shown("frame"));
         // Only the bad sectors before the disk was pulled out are listed.
@@ -303,6 +338,22 @@ private:
     {
         answer<InfoDialogClass>("OkButton");
         QVERIFY(!dialog<InfoDialogClass>());
+    }
+
+    /// Saves the list under that path as that kind of file; gives the name that was offered.
+    QString save(const QString &path, int format) const
+    {
+        QString offered;
+        QTimer::singleShot(0, this, [&] {
+            auto *question = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+            auto *name = question->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+            offered = name->text();
+            question->selectNameFilter(question->nameFilters().at(format));
+            name->setText(path);
+            question->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Save)->click();
+        });
+        QTest::keyClick(child<QPushButton>("m_pSaveListButton"), Qt::Key_Space);
+        return offered;
     }
 
     ScanDisk *page() const { return child<ScanDisk>(); }

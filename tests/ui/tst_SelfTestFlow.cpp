@@ -29,13 +29,18 @@ private slots:
                  QStringLiteral(
                      "Short Self-test|ST3250318AS|4XTPG87X|Running, no problems found|1 minutes|00:00:01"));
         QVERIFY(ticks());
+        QCOMPARE(m_pWindow->windowTitle(), QStringLiteral("10 % - Velmora Halvane"));
         m_pWindow->OnClose();
         QVERIFY(dialog<DestinitionWarning>());
+        QCoreApplication::processEvents(); // the dialog becomes the active window
+        QApplication::setActiveWindow(nullptr);
 
         QTRY_VERIFY_WITH_TIMEOUT(!g_bSelfTestRunning, 5000);
         QCOMPARE(texts({"TestStatusValLbl", "TestRemainingValLbl"}),
                  QStringLiteral("Successfully Completed|0 minutes"));
         QCOMPARE(sheet("TestStatusValLbl"), QStringLiteral("QLabel {color : Green;}"));
+        QCOMPARE(logLines("notices.log"),
+                 QList<QByteArray>{"The self-test has ended.\tSuccessfully Completed"});
         QVERIFY(areShown(true, {"ScanButton", "BackTestButton", "TestStatusValLbl"}));
         QVERIFY(areShown(false, {"StopTestButton", "TestProgressBar", "TestElapsedValLbl"}));
         QVERIFY(navigationIs(true) && !ticks());

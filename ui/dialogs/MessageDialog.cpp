@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/dialogs/MessageDialog.h"
 
+#include "ui/widgets/Announce.h"
 #include "ui/widgets/Style.h"
 
 #include <QApplication>
@@ -213,6 +214,12 @@ void InfoDialogClass::OfferSaving(bool bOffer)
 {
     m_Frame.button(DialogButton::First)->setVisible(bOffer);
     m_Frame.fit();
+}
+
+void InfoDialogClass::showEvent(QShowEvent *event)
+{
+    MessageDialog::showEvent(event);
+    announce(m_Frame.label("label"));
 }
 
 TemperatureWarning::TemperatureWarning(const DialogShape &shape, const NumberSetting &setting,

@@ -105,6 +105,10 @@ public:
     void SetSecondText(const QString &text);
     /// Shows or hides the button that saves a list. The caller connects confirmed() to the saving.
     void OfferSaving(bool bOffer);
+
+protected:
+    /// A screen reader says the outcome, wherever the focus is.
+    void showEvent(QShowEvent *event) override;
 };
 
 /// Tells that a disk is too warm. Hides when it is dismissed.

@@ -86,6 +86,7 @@ void CloneDisk::stylePage()
     pagelook::alignNames({m_ui.SourceDisk, m_ui.TargetDiskLbl});
     m_ui.SourceComboBox->setAccessibleName(m_ui.SourceDisk->text());
     m_ui.DestinationComboBox->setAccessibleName(m_ui.TargetDiskLbl->text());
+    m_pRoundProgressBar->setAccessibleName(tr("Clone Disk"));
 }
 
 void CloneDisk::FillSources(const std::vector<drivetexts::Entry> &disks)
@@ -189,6 +190,7 @@ void CloneDisk::StartClone()
     m_ui.TimeLabel->clear();
     showRunning(true);
     m_pRoundProgressBar->SetValue(0);
+    emit Progressed(0);
     m_cloneThread.start(QThread::InheritPriority);
 }
 
@@ -196,8 +198,11 @@ void CloneDisk::OnSetProgressValue(qlonglong position, qlonglong remaining)
 {
     m_strLastMinutes = clonemessages::remainingText(remaining);
     OnUpdateTime();
-    m_pRoundProgressBar->SetValue(clonemessages::percentDone(position, m_nSourceSectors));
+    const int percent = clonemessages::percentDone(position, m_nSourceSectors);
+    m_pRoundProgressBar->SetValue(percent);
+    m_pRoundProgressBar->setAccessibleDescription(clonemessages::gaugeText(percent));
     m_pRoundProgressBar->repaint();
+    emit Progressed(percent);
 }
 
 void CloneDisk::ShowMessage(const clonemessages::Message &message)
@@ -237,10 +242,12 @@ void CloneDisk::OnDriveCloneFinish()
     if (outcome.end == CloneOutcome::End::Complete || outcome.end == CloneOutcome::End::WithErrors) {
         m_ui.TimeLabel->clear();
         m_pRoundProgressBar->SetValue(100);
+        m_pRoundProgressBar->setAccessibleDescription(clonemessages::gaugeText(100));
         m_ui.ProgressLabel->repaint();
     }
     if (outcome.fault != CloneFault::None)
         g_bListsStale = true;
+    emit Ended(clonemessages::jobEnd(outcome));
     ShowMessage(clonemessages::finished(outcome));
     m_pMessageBox->OfferSaving(outcome.end == CloneOutcome::End::WithErrors);
     emit OnCloneFinish();

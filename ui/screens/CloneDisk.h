@@ -54,6 +54,10 @@ public:
     void ShowMessage(const clonemessages::Message &message);
 
 signals:
+    /// The clone has copied so much of the disk.
+    void Progressed(int percent);
+    /// It has ended; its result is about to show.
+    void Ended(const JobEnd &end);
     /// A clone has ended, and its result shows.
     void OnCloneFinish();
     /// The result was read: the page is back at the choice of disks.

@@ -99,6 +99,7 @@ void DiskPartition::FillPartitionHeader()
 void DiskPartition::ShowSizes(const QList<qint64> &sizes)
 {
     m_listSizes = sizes;
+    m_pDonutView->setAccessibleDescription(partitiontexts::ringText(sizes));
     const bool scrolls = m_listSizes.size() >= ScrollBarFrom;
     m_ui.m_pScrollArea->setVerticalScrollBarPolicy(scrolls ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
     m_ui.m_pScrollArea->verticalScrollBar()->setEnabled(scrolls);

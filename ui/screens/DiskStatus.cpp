@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/screens/DiskStatus.h"
 
+#include "smart/Rating.h"
 #include "smart/SmartGlobals.h"
 #include "state/DiskIdentityTexts.h"
 #include "state/GlobalApp.h"
@@ -88,6 +89,11 @@ void DiskStatus::ApplyLanguageMetrics()
         }
     }
     m_ui.performanceTitleLbl->setFixedHeight(style::px(metrics.performanceTitleHeight));
+    const std::pair<QLabel *, const QLabel *> tiles[] = {{m_ui.tempratureLbl, m_ui.tempTitleLbl},
+                                                         {m_ui.PerformanceLbl, m_ui.performanceTitleLbl},
+                                                         {m_ui.HelthLable, m_ui.healthTitleLbl}};
+    for (const auto &[picture, title] : tiles)
+        picture->setAccessibleName(title->text());
 }
 
 void DiskStatus::showTile(Tile tile, const QString &value, TilePicture picture)
@@ -138,6 +144,8 @@ void DiskStatus::clearDisk()
     }
     for (const Tile tile : {Temperature, Performance, Health})
         showPicture(tile, TilePicture::Good);
+    for (QLabel *tile : {m_ui.tempratureLbl, m_ui.PerformanceLbl, m_ui.HelthLable})
+        tile->setAccessibleDescription(QString());
 }
 
 void DiskStatus::showPicture(Tile tile, TilePicture picture)
@@ -151,14 +159,20 @@ void DiskStatus::showPicture(Tile tile, TilePicture picture)
         {m_ui.HelthLable,
          {"img_Health.png", "img_HealthAverage.png", "img_HealthHigh.png", "img_HealthUnknown.png"}},
     };
-    if (picture != TilePicture::Same)
-        images::setLabelImage(tiles[tile].label,
-                              QLatin1String(tiles[tile].files[static_cast<std::size_t>(picture)]));
+    if (picture == TilePicture::Same)
+        return;
+    m_aePictures[tile] = picture;
+    // The colour alone tells it to the eye.
+    tiles[tile].label->setAccessibleDescription(pictureText(picture));
+    images::setLabelImage(tiles[tile].label,
+                          QLatin1String(tiles[tile].files[static_cast<std::size_t>(picture)]));
 }
 
 void DiskStatus::retranslate()
 {
     m_ui.retranslateUi(this);
+    for (const Tile tile : {Temperature, Performance, Health})
+        showPicture(tile, m_aePictures[tile]);
     ApplyLanguageMetrics();
     if (g_bReportPending)
         return;

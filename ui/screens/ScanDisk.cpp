@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/screens/ScanDisk.h"
 
+#include "scan/BlockMap.h"
 #include "scan/ScanGlobals.h"
 #include "state/GlobalApp.h"
 #include "state/JobState.h"
+#include "state/Scale.h"
+#include "ui/screens/SaveListButton.h"
 #include "ui/widgets/Images.h"
 #include "ui/widgets/QGridView.h"
 #include "ui/widgets/Style.h"
@@ -49,6 +52,8 @@ ScanDisk::ScanDisk(QWidget *parent) : Page(parent)
     testColumn->addWidget(m_pSelfTestPanel);
     m_pGridView = pagelook::named(new QGridView(m_ui.frame), "m_pGridView");
     m_pGridView->setGeometry(QRect(QPoint(0, 0), m_ui.frame->minimumSize()));
+    m_pSaveListButton = pagelook::named(new SaveListButton(m_ui.frame_4), "m_pSaveListButton");
+    m_ui.CounterColumn->addWidget(m_pSaveListButton);
     // A child of the window: the page's style sheets must not reach it.
     m_pResultBox = pagelook::named(new InfoDialogClass(window()), "m_pResultBox");
     connect(m_pResultBox, &MessageDialog::dismissed, this, &ScanDisk::OnResultRead);
@@ -136,7 +141,8 @@ void ScanDisk::describeMap()
     const std::pair<const QLabel *, const QLabel *> counts[] = {{m_ui.TotalBlkLbl, m_ui.TotalBlkValLbl},
                                                                 {m_ui.ProcessesLbl, m_ui.ProcessedVal},
                                                                 {m_ui.BadBlkLbl, m_ui.BadBlkValLbl}};
-    QStringList texts;
+    QStringList texts(
+        blockmap::spoken(blockmap::metrics(scale::percent()), g_nMapTotalSectors, g_BadSectors));
     for (const auto &[caption, value] : counts)
         texts << caption->text().trimmed() + QLatin1String(": ") + value->text();
     m_pGridView->setAccessibleName(m_ui.ScanDiskLbl->text());
@@ -212,7 +218,7 @@ void ScanDisk::PrepareMap(const DiskNode *pNode)
     m_pGridView->SetRange(0, g_nMapTotalSectors);
 }
 
-void ScanDisk::StartScan()
+void ScanDisk::StartScan(const QString &name)
 {
     constexpr int UpdateInterval = 2000;
     constexpr int ScanMode = 3;
@@ -234,6 +240,9 @@ void ScanDisk::StartScan()
         g_nMapStep = g_nMapTotalSectors / ScanBlockCount;
     g_Jobs.begin(JobState::Job::Scan);
     m_bDropped = false;
+    const WmicDiskRecord *record = g_App.m_pCurrentDisk ? findWmicDisk(g_App.m_pCurrentDisk->nId) : nullptr;
+    m_pSaveListButton->begin({name, record ? record->szSmartSerial.text() : QString(),
+                              QDateTime::currentDateTime(), g_nMapTotalSectors});
     m_scanThread.SetRange(0, g_nMapTotalSectors);
     m_scanThread.StartScan(g_App.m_pCurrentDisk, ScanMode);
     clearCounts();
@@ -243,6 +252,7 @@ void ScanDisk::DropResults()
 {
     clearTimes();
     clearCounts();
+    m_pSaveListButton->forget();
     m_pGridView->Reset();
     m_bDropped = g_Jobs.runs(JobState::Job::Scan);
     if (m_bDropped) {
@@ -281,13 +291,15 @@ void ScanDisk::ScanProgValForDisk(qlonglong value)
     m_pGridView->update();
 }
 
-void ScanDisk::OnTotalBlockCount(qlonglong position, qlonglong, qlonglong step)
+void ScanDisk::OnTotalBlockCount(qlonglong position, qlonglong total, qlonglong step)
 {
     if (m_bDropped)
         return;
     m_i64BlockStep = step;
+    m_pSaveListButton->setScanned(position);
     showBlockSize();
     m_ui.ProcessedVal->setText(QString::number(position));
+    emit Progressed(static_cast<int>(position * 100 / qMax<qlonglong>(total, 1)));
 }
 
 void ScanDisk::OnExactBadSectorCount(qlonglong count)
@@ -298,8 +310,10 @@ void ScanDisk::OnExactBadSectorCount(qlonglong count)
 
 void ScanDisk::OnAllBlockProcessed(qlonglong i64ProcessedBlocks)
 {
-    if (!m_bDropped)
-        m_ui.ProcessedVal->setText(QString::number(i64ProcessedBlocks));
+    if (m_bDropped)
+        return;
+    m_pSaveListButton->setScanned(i64ProcessedBlocks);
+    m_ui.ProcessedVal->setText(QString::number(i64ProcessedBlocks));
 }
 
 void ScanDisk::OnSetRemainingTime(qlonglong sectors, qlonglong endSector)
@@ -326,6 +340,9 @@ void ScanDisk::OnScanFinish(QString verdict)
     clearTimes();
     m_clock.forgetEstimate();
     g_Jobs.end(JobState::Job::Scan);
+    const ScanRecord::End how = scanrecord::endOf(g_bAbortJob, verdict, g_bScanDiskGone);
+    m_pSaveListButton->end(how);
+    emit Ended(scanrecord::jobEnd(how, g_BadSectors.count()));
     if (m_bDropped)
         DropResults();
     else if (!g_bAbortJob && verdict == QLatin1String("Pass"))

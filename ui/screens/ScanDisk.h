@@ -11,7 +11,9 @@
 
 #include <QElapsedTimer>
 
+struct JobEnd;
 class QGridView;
+class SaveListButton;
 class QTimer;
 
 /// The Scan Disk screen: the choice among a surface scan and the two drive self-tests, and the surface scan
@@ -39,8 +41,8 @@ public:
     /// Makes the map an empty one of a disk, without a cell where it is null.
     void PrepareMap(const DiskNode *pNode);
 
-    /// Scans the selected disk from its begin. Only while no scan runs.
-    void StartScan();
+    /// Scans the selected disk, which the lists call `name`, from its begin. Only while no scan runs.
+    void StartScan(const QString &name);
     /// Forgets how long the scan will take.
     void ForgetEstimate() { m_clock.forgetEstimate(); }
     /// Moves the result box over the window.
@@ -54,6 +56,10 @@ public:
     void HideResult() { m_pResultBox->hide(); }
 
 signals:
+    /// The scan has read so much of the disk.
+    void Progressed(int percent);
+    /// It has ended; its result is about to show.
+    void Ended(const JobEnd &end);
     /// The result of a scan shows.
     void OnScanFinished();
     /// The box with the result was closed.
@@ -91,7 +97,8 @@ private:
     SelfTestPanel *m_pSelfTestPanel = nullptr; ///< in frame_3
     QGridView *m_pGridView = nullptr;          ///< in frame
     InfoDialogClass *m_pResultBox = nullptr;
-    QTimer *m_pUpdateTimer = nullptr; ///< of the latest scan
+    SaveListButton *m_pSaveListButton = nullptr; ///< in frame_4
+    QTimer *m_pUpdateTimer = nullptr;            ///< of the latest scan
     ScanClock m_clock;
     QElapsedTimer m_sinceStart;
     qlonglong m_i64BlockStep = 0; ///< sectors of a block; 0 before a scan

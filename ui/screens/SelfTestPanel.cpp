@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/screens/SelfTestPanel.h"
 
+#include "ui/widgets/Announce.h"
 #include "ui/widgets/Style.h"
 
 #include <QCoreApplication>
@@ -58,6 +59,8 @@ SelfTestPanel::SelfTestPanel(QWidget *parent) : Page(parent)
 
 void SelfTestPanel::Show(const SelfTest::Shown &shown)
 {
+    const bool ends =
+        shown.status && shown.status != m_shown.status && *shown.status != selftest::Told::InProgress;
     m_shown = shown;
     // The names of the two cards share a column.
     pagelook::alignNames({m_ui.TestModelLbl, m_ui.TestSerialLbl, m_ui.TestStatusLbl});
@@ -79,6 +82,8 @@ void SelfTestPanel::Show(const SelfTest::Shown &shown)
     m_ui.PollingTimeValLbl->setText(minutesText(shown.pollingMinutes));
     m_ui.TestRemainingValLbl->setText(minutesText(shown.remainingMinutes));
     m_ui.TestElapsedValLbl->setText(shown.elapsed);
+    if (ends)
+        announce(m_ui.TestStatusValLbl);
 }
 
 void SelfTestPanel::retranslate()

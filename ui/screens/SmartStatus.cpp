@@ -171,15 +171,17 @@ void SmartStatus::ClearDisk()
     m_ui.m_pAttributeTree->clear();
     m_pChartView->Clear();
     m_pChartView->setAccessibleName(QString());
+    m_pChartView->setAccessibleDescription(QString());
     for (QLabel *label : {m_ui.GraphLabel, m_ui.SmartResultLabel, m_ui.m_pHeadingResultLabel,
                           m_ui.SerialNunValueLbl, m_ui.InterfaceValLbl, m_ui.CapcityValLbl})
         label->clear();
 }
 
-void SmartStatus::ShowGraph(const QString &title, const GraphModel &graph)
+void SmartStatus::ShowGraph(const QString &title, const GraphModel &graph, const QString &text)
 {
     m_ui.GraphLabel->setText(title);
     m_pChartView->setAccessibleName(title);
+    m_pChartView->setAccessibleDescription(text);
     m_pChartView->ShowGraph(graph);
 }
 

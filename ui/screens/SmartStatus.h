@@ -32,7 +32,8 @@ public:
     QString SelectedRows() const;
     void ClearRows() { m_ui.m_pAttributeTree->clear(); }
     /// Shows a graph in place of the one before.
-    void ShowGraph(const QString &title, const GraphModel &graph);
+    /// `text` says what it shows.
+    void ShowGraph(const QString &title, const GraphModel &graph, const QString &text);
     /// Shows what stands above rows and graph for the selected disk, whose report was read.
     void ShowReading(OverallResult result);
     /// What ShowReading() showed of the disk's interface.

@@ -317,6 +317,14 @@ void MainWindow::connectAll()
 
     connect(m_pSmartStatusPage, &SmartStatus::rowClicked, this, &MainWindow::GraphWithAttributes);
     connect(m_pScanDiskPage, &ScanDisk::OnScanFinished, this, &MainWindow::OnFinishScanDisk);
+    connect(m_pScanDiskPage, &ScanDisk::Progressed, this,
+            [this](int percent) { m_jobDisplay.show(percent); });
+    connect(m_pScanDiskPage, &ScanDisk::Ended, this,
+            [this](const JobEnd &end) { m_jobDisplay.tellEnd(end); });
+    connect(m_pCloneDiskPage, &CloneDisk::Progressed, this,
+            [this](int percent) { m_jobDisplay.show(percent); });
+    connect(m_pCloneDiskPage, &CloneDisk::Ended, this,
+            [this](const JobEnd &end) { m_jobDisplay.tellEnd(end); });
     connect(m_pScanDiskPage, &ScanDisk::OnResultRead, this, &MainWindow::refreshBehindJob);
     connect(m_pCloneDiskPage, &CloneDisk::OnCloneFinish, this, &MainWindow::OnCloningFinish);
     connect(m_pCloneDiskPage, &CloneDisk::DiskCloneFinished, this, &MainWindow::OnFinishDiskCloning);
@@ -339,6 +347,8 @@ void MainWindow::changeEvent(QEvent *event)
             companion::start();
         }
     }
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        m_jobDisplay.seen();
     // The ring does not paint itself in a minimised window; this starts it again.
     if (event->type() == QEvent::WindowStateChange && m_pDiskPartitionPage)
         m_pDiskPartitionPage->RepaintRing();

@@ -18,6 +18,7 @@
 #include "ui/widgets/FocusRing.h"
 #include "ui/widgets/FramelessDrag.h"
 #include "ui/widgets/MyButton.h"
+#include "ui/window/JobDisplay.h"
 #include "ui/window/QRefThreadDevicesLoad.h"
 #include "update/HelpLinks.h"
 
@@ -262,6 +263,7 @@ private:
     QTimer *m_pTestTimer = nullptr;
     FramelessDrag m_drag;
     FocusRing m_focusRing;
+    JobDisplay m_jobDisplay{this};
     SMARTThread m_smartThread;
     QRefThreadDevicesLoad m_refreshThread;
 };

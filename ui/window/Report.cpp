@@ -8,28 +8,10 @@
 #include "smart/SmartGlobals.h"
 #include "smart/ToolInvocation.h"
 #include "state/Globals.h"
+#include "ui/dialogs/SavePath.h"
 #include "ui/widgets/Images.h"
 
-#include <QFileDialog>
-#include <QFileInfo>
 #include <QUrl>
-
-namespace
-{
-
-/// The path to write to; empty where nobody wants one.
-QString askForPath(QWidget *parent, const QString &title, const QString &name, const QString &filter,
-                   const QString &ending)
-{
-    const QString chosen = QFileDialog::getSaveFileName(parent, title, name, filter);
-    const QString path = savedPath(chosen, name, ending);
-    if (path == chosen || !QFileInfo::exists(path))
-        return path;
-    // The dialog has asked about the name without its ending only.
-    return QFileDialog::getSaveFileName(parent, title, path, filter);
-}
-
-} // namespace
 
 void MainWindow::OnCheckPreviousTestResult()
 {
@@ -48,7 +30,7 @@ void MainWindow::SavePDFReport()
     report.watermark = images::path(QStringLiteral("img_WaterMark.png"), images::Family::Folder);
     report.icon = QStringLiteral(":/images/Halvane48.png");
     const QString path = askForPath(this, tr("Save File"), suggestedReportName(report),
-                                    QStringLiteral("*.pdf"), QStringLiteral(".pdf"));
+                                    {{QStringLiteral("*.pdf"), QStringLiteral(".pdf")}});
     if (path.isEmpty())
         return;
     if (!report.nvme) {
@@ -69,7 +51,7 @@ void MainWindow::TakeScreenshot()
     m_ui.ScreenshotButton->show();
     const QPixmap picture = m_pSmartStatusPage->grab();
     const QString path = askForPath(nullptr, QStringLiteral("Save File"), fileNamePart(g_strGraphTitle),
-                                    QStringLiteral("JPEG (*.jpg);"), QStringLiteral(".jpg"));
+                                    {{QStringLiteral("JPEG (*.jpg);"), QStringLiteral(".jpg")}});
     if (!path.isEmpty())
         writePicture(path, picture);
 }

@@ -82,7 +82,7 @@ void MainWindow::startSurfaceScan()
     // this scan.
     m_pTestTimer->stop();
     lockShell(navigation::ScanDiskScreen);
-    m_pScanDiskPage->StartScan();
+    m_pScanDiskPage->StartScan(m_ui.DriveCombobox->currentText());
     keepAwake();
     m_scannedDisk = chosenDisk();
     g_Jobs.openResult(Job::Scan);
@@ -158,6 +158,7 @@ void MainWindow::dropScanResults()
     // Closes the question that may still be open: a No would let the scan go on where nobody can stop it.
     m_pConfirmation->hide();
     if (g_Jobs.runs(Job::Scan)) {
+        m_jobDisplay.show(std::nullopt);
         m_ui.StopButton->hide();
         m_ui.ScanButton->setEnabled(false);
     }

@@ -103,7 +103,12 @@ void MainWindow::CheckShortTestStatus1()
         leaveTest();
     for (const SelfTest::Step &step : tick.steps)
         takeTestStep(step);
-    m_pScanDiskPage->TellSelfTest(m_selfTest.shown());
+    const SelfTest::Shown &shown = m_selfTest.shown();
+    if (shown.status && g_Jobs.runs(Job::SelfTest))
+        m_jobDisplay.show(shown.percent);
+    else if (shown.status)
+        m_jobDisplay.tellEnd(selftest::jobEnd(*shown.status));
+    m_pScanDiskPage->TellSelfTest(shown);
 }
 
 void MainWindow::takeTestStep(const SelfTest::Step &step)

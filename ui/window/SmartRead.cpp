@@ -251,7 +251,7 @@ void MainWindow::GraphWithAttributes(QTreeWidgetItem *item, int)
         return;
     if (const auto graph = currentGraph(item->text(attributecolumns::key(g_App.m_bNVMe)))) {
         g_strGraphTitle = tr("Graph : ") + item->text(attributecolumns::Name);
-        m_pSmartStatusPage->ShowGraph(g_strGraphTitle, *graph);
+        m_pSmartStatusPage->ShowGraph(g_strGraphTitle, graph->model, graph->text);
     }
 }
 

@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "scan/ScanRecord.h"
+
+#include "inventory/MapFile.h"
+#include "inventory/RawAccess.h"
+#include "platform/OwnFiles.h"
+#include "scan/BadSectorList.h"
+
+#include <QBuffer>
+#include <QCoreApplication>
+#include <QStringList>
+
+namespace
+{
+
+QString text(const char *source)
+{
+    return QCoreApplication::translate("ScanDisk", source);
+}
+
+std::vector<SectorRun> runsOf(const BadSectorList &bad)
+{
+    std::vector<SectorRun> runs;
+    bad.forEachRun([&runs](const SectorRun &run) { runs.push_back(run); });
+    return runs;
+}
+
+/// "2026-11-22 14:05:00 +01:00".
+QString timeText(const QDateTime &time)
+{
+    const int minutes = qAbs(time.offsetFromUtc()) / 60;
+    return time.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss ")) +
+           QLatin1Char(time.offsetFromUtc() < 0 ? '-' : '+') +
+           QStringLiteral("%1:%2")
+               .arg(minutes / 60, 2, 10, QLatin1Char('0'))
+               .arg(minutes % 60, 2, 10, QLatin1Char('0'));
+}
+
+QString resultText(ScanRecord::End end)
+{
+    switch (end) {
+    case ScanRecord::End::Complete:
+        return text(QT_TRANSLATE_NOOP("ScanDisk", "Scan Completed."));
+    case ScanRecord::End::Stopped:
+        return text(QT_TRANSLATE_NOOP("ScanDisk", "Disk scan aborted by user."));
+    default:
+        return text(QT_TRANSLATE_NOOP("ScanDisk", "The disk is no longer connected."));
+    }
+}
+
+QString runText(const SectorRun &run)
+{
+    if (run.count == 1)
+        return text(QT_TRANSLATE_NOOP("ScanDisk", "Sector %1 (LBA), byte offset %2"))
+            .arg(run.first)
+            .arg(run.first * SectorSize);
+    return text(QT_TRANSLATE_NOOP("ScanDisk", "Sectors %1 to %2 (LBA), byte offset %3"))
+        .arg(run.first)
+        .arg(run.first + run.count - 1)
+        .arg(run.first * SectorSize);
+}
+
+} // namespace
+
+bool ScanRecord::canBeSaved(const BadSectorList &bad) const
+{
+    return end != End::None && end != End::Failed && (scanned > 0 || !bad.isEmpty());
+}
+
+namespace scanrecord
+{
+
+ScanRecord::End endOf(bool stopped, const QString &verdict, bool gone)
+{
+    if (stopped)
+        return ScanRecord::End::Stopped;
+    if (verdict == QLatin1String("Pass"))
+        return ScanRecord::End::Complete;
+    return gone ? ScanRecord::End::DiskGone : ScanRecord::End::Failed;
+}
+
+JobEnd jobEnd(ScanRecord::End end, qint64 badSectors)
+{
+    const QString count = text(QT_TRANSLATE_NOOP("ScanDisk", "Bad sectors: %1")).arg(badSectors);
+    switch (end) {
+    case ScanRecord::End::Complete:
+        return {JobState::Job::Scan, badSectors > 0 ? JobEnd::Result::WithFaults : JobEnd::Result::Well,
+                count};
+    case ScanRecord::End::Stopped:
+        return {JobState::Job::Scan, JobEnd::Result::Stopped, count};
+    case ScanRecord::End::DiskGone:
+        return {JobState::Job::Scan, JobEnd::Result::Failed, resultText(end)};
+    default:
+        return {JobState::Job::Scan, JobEnd::Result::Failed, QString()};
+    }
+}
+
+QString suggestedName(const ScanRecord &record)
+{
+    return record.disk + record.begun.toString(QStringLiteral(" yyyy-MM-dd"));
+}
+
+QByteArray listText(const ScanRecord &record, const BadSectorList &bad)
+{
+    const std::vector<SectorRun> runs = mapfile::inOrder(runsOf(bad), record.total);
+    qint64 count = 0;
+    QStringList places;
+    for (const SectorRun &run : runs) {
+        count += run.count;
+        places << runText(run);
+    }
+    QStringList lines = {
+        QLatin1String("Velmora Halvane: ") + text(QT_TRANSLATE_NOOP("ScanDisk", "Disk Scan")), QString(),
+        // A name could contain a mark that stands for the next value.
+        text(QT_TRANSLATE_NOOP("ScanDisk", "Disk:")) + QLatin1Char(' ') + record.disk};
+    if (!record.serial.isEmpty())
+        lines << text(QT_TRANSLATE_NOOP("ScanDisk", "Serial number:")) + QLatin1Char(' ') + record.serial;
+    lines << text(QT_TRANSLATE_NOOP("ScanDisk", "Date:")) + QLatin1Char(' ') + timeText(record.begun)
+          << text(QT_TRANSLATE_NOOP("ScanDisk", "Scanned: the first %1 of %2 sectors"))
+                 .arg(record.scanned)
+                 .arg(record.total)
+          << text(QT_TRANSLATE_NOOP("ScanDisk", "Result:")) + QLatin1Char(' ') + resultText(record.end)
+          << text(QT_TRANSLATE_NOOP("ScanDisk", "Bad sectors: %1")).arg(count) << QString();
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly | QIODevice::Text); // CR LF on Windows
+    buffer.write((lines + places).join(QLatin1Char('\n')).toUtf8() + '\n');
+    return bytes;
+}
+
+QByteArray mapText(const ScanRecord &record, const BadSectorList &bad)
+{
+    return mapfile::text(runsOf(bad), record.scanned, record.total);
+}
+
+bool save(const QString &path, const ScanRecord &record, const BadSectorList &bad)
+{
+    const bool asMap = path.endsWith(MapEnding, Qt::CaseInsensitive);
+    return ownfiles::saveFile(path, asMap ? mapText(record, bad) : listText(record, bad));
+}
+
+} // namespace scanrecord
