@@ -56,6 +56,7 @@ private slots:
         if (loop)
             QVERIFY(runs("losetup", {"-c", device->node()}));
         QVERIFY(m_pc->IsGone(handle));
+        QCOMPARE(open(*m_pc, "/etc/hostname", io::GenericRead), Platform::InvalidHandle);
         checkNoHandles(*m_pc, handle);
     }
 

@@ -47,6 +47,7 @@ private slots:
         rawdisk::checkReads(*m_pc, handle);
         rawdisk::checkWrites(*m_pc, handle, rawdisk::Sectors - 1);
         QVERIFY(contentOf(m_pc->imageFile(0)) == rawdisk::written());
+        QCOMPARE(open("/etc/hostname"), Platform::InvalidHandle);
         rawdisk::checkNoHandles(*m_pc, handle);
         QCOMPARE(m_pc->CreateFileW(First, rawdisk::ReadWrite, 7, io::CreateNew), Platform::InvalidHandle);
         // The image of the folder stays as it is. The state stays when the program ends.
