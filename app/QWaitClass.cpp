@@ -60,7 +60,7 @@ QWaitClass::QWaitClass()
         style::scaleWidget(child);
     styleBrand();
     InitTextLabel->setText(tr("Initializing Velmora Halvane..."));
-    InitTextLabel->setStyleSheet(QStringLiteral("QLabel { color : black;}"));
+    InitTextLabel->setStyleSheet(style::BlackLabel);
     InitTextLabel->setFont(style::font(10));
     startFadeIn();
     // The main window takes the splash's place later, so that must not be left to the window

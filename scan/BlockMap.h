@@ -14,7 +14,7 @@ namespace blockmap
 
 /// \name Colours, as 0xAARRGGBB
 /// @{
-constexpr quint32 ProcessedColour = 0xFF52AFFF;
+constexpr quint32 ProcessedColour = 0xFF2A81E5;
 constexpr quint32 WorkingColour = 0xFF7E7E7E;
 constexpr quint32 BadColour = 0xFFFF0000;
 constexpr quint32 GridColour = 0xFFE0E0E0;

@@ -102,6 +102,9 @@ finds 'smart/Free.cpp' smart/Free.cpp '// A line\n'
 begins words
 finds 'smart/Words.cpp:1' smart/Words.cpp '// see the s''pec\n'
 finds 'README.md:2' README.md 'A line\nas in P''art 3.2\n'
+begins colours
+finds 'ui/Red.cpp:1' ui/Red.cpp 'auto red = "QLabel {color : #FF0000;}";\n'
+finds 'ui/forms/Grey.ui:1' ui/forms/Grey.ui '<ui><string>color: gray;</string></ui>\n'
 begins well-formed
 finds 'ui/forms/Torn.ui:2' ui/forms/Torn.ui '<ui><class>\n'
 finds 'demo/comma.json' demo/comma.json '{ "a": [ 1, ] }\n'

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "scan/BlockMap.h"
 #include "state/GlobalApp.h"
 #include "state/Globals.h"
 #include "state/Scale.h"
@@ -107,7 +108,7 @@ private slots:
         }
     }
 
-    /// Texts of the palette stand out from what is behind them, by the measure for small letters.
+    /// Texts and signs stand out from what is behind them, by the measures for small letters and for signs.
     void theColoursCanBeRead()
     {
         const auto light = [](const QColor &colour) {
@@ -117,6 +118,27 @@ private slots:
                 sum += weight * (part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4));
             return sum + 0.05;
         };
+        const auto contrast = [&light](const QColor &one, const QColor &other) {
+            return std::max(light(one), light(other)) / std::min(light(one), light(other));
+        };
+        namespace colour = style::colour;
+        for (const char *ground : {colour::White, colour::Pale, colour::Head, colour::Chosen}) {
+            for (const char *text :
+                 {colour::Text, colour::Grey, colour::Accent, colour::Passed, colour::Failed})
+                QVERIFY2(contrast(text, ground) >= 4.5, text);
+        }
+        for (const char *ground : {colour::Main, colour::MainHover, colour::MainPressed})
+            QVERIFY2(contrast(colour::OnMain, ground) >= 4.5, ground);
+        DiskPartition page;
+        page.ShowSizes({1, 2});
+        QList<QColor> signs = g_listSliceColours;
+        QVERIFY(!signs.isEmpty());
+        for (const quint32 cell : {blockmap::ProcessedColour, blockmap::WorkingColour, blockmap::BadColour})
+            signs.append(QColor::fromRgba(cell));
+        for (const char *sign : {colour::Sign, colour::GaugeSign, colour::EmptySign})
+            signs.append(QColor(sign));
+        for (const QColor &sign : qAsConst(signs))
+            QVERIFY2(contrast(sign, Qt::white) >= 3, qPrintable(sign.name()));
         const QPalette palette = style::lightPalette();
         using Role = QPalette::ColorRole;
         const std::pair<Role, Role> pairs[] = {
@@ -126,9 +148,7 @@ private slots:
             {Role::PlaceholderText, Role::Base},      {Role::Link, Role::Base}};
         for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
             for (const auto &[text, behind] : pairs) {
-                const double one = light(palette.color(group, text));
-                const double other = light(palette.color(group, behind));
-                QVERIFY2(std::max(one, other) / std::min(one, other) >= 4.5,
+                QVERIFY2(contrast(palette.color(group, text), palette.color(group, behind)) >= 4.5,
                          qPrintable(QString::number(text)));
             }
         }

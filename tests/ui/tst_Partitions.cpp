@@ -154,9 +154,9 @@ private slots:
         const int middle = (side / 4 + side / 2 - 20) / 2; // the middle between hole and edge
         const auto colourAt = [&](const QPoint &place) { return view->m_pImage->pixelColor(centre + place); };
         // Counter-clockwise from the right: 100 : 50 : 33.
-        QCOMPARE(colourAt({0, -middle}), QColor(29, 207, 250));
-        QCOMPARE(colourAt({-middle, middle / 2}), QColor(0, 140, 249));
-        QCOMPARE(colourAt({middle, middle / 4}), QColor(16, 164, 193));
+        QCOMPARE(colourAt({0, -middle}), QColor(0x10, 0x97, 0xc6));
+        QCOMPARE(colourAt({-middle, middle / 2}), QColor(0x00, 0x62, 0xc4));
+        QCOMPARE(colourAt({middle, middle / 4}), QColor(0x0b, 0x8a, 0xa3));
         QCOMPARE(colourAt({0, 0}), QColor(Qt::white));
         QCOMPARE(colourAt(-centre), QColor(Qt::white));
 
@@ -164,10 +164,10 @@ private slots:
         page->ShowSizes(QVector<qint64>(14, 1).toList());
         const double last = 13.5 / 14 * 2 * M_PI;
         QCOMPARE(colourAt(QPointF(middle * std::cos(last), -middle * std::sin(last)).toPoint()),
-                 QColor(29, 207, 250));
+                 QColor(0x10, 0x97, 0xc6));
         page->ShowSizes({});
         for (const QPoint &direction : {QPoint(1, 0), QPoint(0, -1), QPoint(-1, 0), QPoint(0, 1)})
-            QCOMPARE(colourAt(direction * middle), QColor(188, 188, 188));
+            QCOMPARE(colourAt(direction * middle), QColor(0x8c, 0x8c, 0x8c));
     }
 
     void onlyWhatShowsIsPainted()

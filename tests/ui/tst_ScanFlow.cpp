@@ -62,9 +62,10 @@ private slots:
         const QImage image = map()->grab().toImage();
         QCOMPARE(image.size(), QSize(501, 321));
         QCOMPARE(image.pixel(10, 10), blockmap::ProcessedColour);
-        QCOMPARE(image.pixel(30, 10), blockmap::BadColour);
+        QCOMPARE(image.pixel(24, 4), blockmap::BadColour);
         QCOMPARE(image.pixel(470, 310), blockmap::ProcessedColour);
-        QCOMPARE(image.pixel(490, 310), blockmap::BadColour);
+        QCOMPARE(image.pixel(484, 304), blockmap::BadColour);
+        QCOMPARE(image.pixel(490, 310), blockmap::BackgroundColour); // crossed out
         QCOMPARE(image.pixel(40, 10), blockmap::GridColour);
         QCOMPARE(image.pixel(500, 320), blockmap::GridColour);
         changeLanguage(page());

@@ -2,6 +2,7 @@
 #include "smart/SelfTestGlobals.h"
 #include "smart/SmartGlobals.h"
 #include "tests/ui/WindowFixture.h"
+#include "ui/widgets/Style.h"
 
 #include <QProgressBar>
 #include <QRadioButton>
@@ -38,7 +39,7 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(!g_bSelfTestRunning, 5000);
         QCOMPARE(texts({"TestStatusValLbl", "TestRemainingValLbl"}),
                  QStringLiteral("Successfully Completed|0 minutes"));
-        QCOMPARE(sheet("TestStatusValLbl"), QStringLiteral("QLabel {color : Green;}"));
+        QCOMPARE(sheet("TestStatusValLbl"), style::PassedLabel);
         QCOMPARE(logLines("notices.log"),
                  QList<QByteArray>{"The self-test has ended.\tSuccessfully Completed"});
         QVERIFY(areShown(true, {"ScanButton", "BackTestButton", "TestStatusValLbl"}));
@@ -84,7 +85,7 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(!g_bSelfTestRunning, 3000);
         QCOMPARE(commands("ShortTestStatus.txt"), readings + 1); // the last tick reads the status, too
         QCOMPARE(text("TestStatusValLbl"), QStringLiteral("Test Aborted by User"));
-        QCOMPARE(sheet("TestStatusValLbl"), QStringLiteral("QLabel {color : Red;}"));
+        QCOMPARE(sheet("TestStatusValLbl"), style::FailedLabel);
         QVERIFY(navigationIs(true) && !ticks());
         QVERIFY(shown("ScanButton") && !shown("StopTestButton") && !shown("TestProgressBar"));
     }

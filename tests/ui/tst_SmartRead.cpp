@@ -196,7 +196,10 @@ private slots:
         for (int column = 0; column < texts.size(); ++column) {
             QCOMPARE(row->text(column), texts[column]);
             QCOMPARE(row->toolTip(column), texts[column]);
-            QCOMPARE(row->foreground(column).color(), column == 6 ? QColor(255, 0, 0) : QColor(0, 0, 0));
+            const bool red = column == 6;
+            QCOMPARE(row->foreground(column).color(),
+                     QColor(red ? style::colour::Failed : style::colour::Text));
+            QCOMPARE(row->font(column).weight() > QFont::Normal, red);
         }
     }
 

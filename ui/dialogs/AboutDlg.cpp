@@ -39,7 +39,7 @@ AboutDlg::AboutDlg(QWidget *parent) : QDialog(parent), m_Frame(this)
     row->addStretch();
     m_Frame.dress();
     m_Frame.label("ProductLabel")->setFont(style::semiBold(13));
-    for (const char *name : {"SystemLabel", "LegalLabel", "SupportNameLabel"})
+    for (const char *name : {"VersionLabel", "SystemLabel", "LegalLabel", "SupportNameLabel"})
         m_Frame.label(name)->setStyleSheet(style::GreyLabel);
     connect(m_Frame.button(DialogButton::Last), &QPushButton::clicked, this, &AboutDlg::reject);
     connect(m_Frame.button(DialogButton::First), &QPushButton::clicked, this, &AboutDlg::OpenLicense);
@@ -56,9 +56,9 @@ void AboutDlg::translateTexts()
     m_Frame.label("SupportNameLabel")->setText(languages::storedText(key::SupportName));
     const QString address = languages::storedText(key::SupportLink).toHtmlEscaped();
     m_Frame.label("SupportLabel")
-        ->setText(
-            address.isEmpty()
-                ? QString()
-                : QStringLiteral("<a href=\"mailto:%1\" style=\"color: #2a81e5;\">%1</a>").arg(address));
+        ->setText(address.isEmpty()
+                      ? QString()
+                      : style::sheet(QStringLiteral("<a href=\"mailto:%1\" style=\"color: @accent;\">%1</a>"))
+                            .arg(address));
     m_Frame.fit();
 }

@@ -149,7 +149,7 @@ QTextEdit *DialogFrame::addText(QBoxLayout *layout)
     text->setReadOnly(true);
     text->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     text->setFont(style::font(10));
-    text->setStyleSheet(QStringLiteral("QTextEdit{background: transparent; color: #000000;}"));
+    text->setStyleSheet(style::sheet(QStringLiteral("QTextEdit{background: transparent; color: @text;}")));
     text->document()->setDocumentMargin(0);
     layout->addWidget(text);
     return text;
@@ -249,9 +249,9 @@ void DialogFrame::styleButtons() const
     for (QPushButton *button : buttons) {
         const bool main = button == m_pMain;
         style::styleButton(button, main ? style::ButtonRole::Main : style::ButtonRole::Light);
-        const QString focus = main ? QStringLiteral("QPushButton:focus{border-color: #14569f;}")
-                                   : QStringLiteral("QPushButton:focus{border-color: #2a81e5;}");
-        button->setStyleSheet(button->styleSheet() + focus);
+        const QString focus = main ? QStringLiteral("QPushButton:focus{border-color: @mainPressed;}")
+                                   : QStringLiteral("QPushButton:focus{border-color: @accent;}");
+        button->setStyleSheet(button->styleSheet() + style::sheet(focus));
         button->setProperty(LeastWidth, button->minimumWidth());
     }
 }

@@ -55,9 +55,10 @@ void QShowUpdate::translateTexts()
 {
     m_pTextEdit->setPlainText(offerText());
     const QString page = languages::storedText(key::rxUpdate);
-    m_pLinkLabel->setText(page.isEmpty() ? QString()
-                                         : QStringLiteral("<a href=\"%1\" style=\"color: #2a81e5;\">%2</a>")
-                                               .arg(page.toHtmlEscaped(), tr("Visit Update Page")));
+    m_pLinkLabel->setText(
+        page.isEmpty() ? QString()
+                       : style::sheet(QStringLiteral("<a href=\"%1\" style=\"color: @accent;\">%2</a>"))
+                             .arg(page.toHtmlEscaped(), tr("Visit Update Page")));
     m_Frame.fitText(m_pTextEdit);
 }
 

@@ -13,11 +13,12 @@ AccessNotice::AccessNotice(QWidget *parent) : Page(parent)
     images::setLabelImage(m_ui.PictureLabel, QStringLiteral("img_Locked.png"));
     pagelook::styleLabels({m_ui.m_pHeading}, style::font(13), style::BlackLabel);
     pagelook::styleLabels({m_ui.m_pReason, m_ui.m_pAdvice}, style::font(10), style::GreyLabel);
-    pagelook::styleLabels({m_ui.m_pCommand}, style::font(10),
-                          QStringLiteral("QLabel{color: #000000; background: #f5f5f5; border: 1px solid "
-                                         "#d7dde3; border-radius: %1px; padding: %2px;}")
-                              .arg(style::px(4))
-                              .arg(style::px(8)));
+    pagelook::styleLabels(
+        {m_ui.m_pCommand}, style::font(10),
+        style::sheet(QStringLiteral("QLabel{color: @text; background: @pale; border: 1px solid "
+                                    "#d7dde3; border-radius: %1px; padding: %2px;}"))
+            .arg(style::px(4))
+            .arg(style::px(8)));
     retranslate();
 }
 

@@ -25,9 +25,6 @@ constexpr int SliceInset = 20;
 constexpr double EmptyRing = 12.0;
 constexpr int HeightPerFrame = 300; ///< of the frames' host, in pixels at every scale
 
-const QString PercentLabel = QStringLiteral("QLabel {color : #1F82F9;}");
-const QString BlankLabel = QStringLiteral("QLabel {color : #64778b;}");
-
 } // namespace
 
 DiskPartition::DiskPartition(QWidget *parent) : Page(parent)
@@ -103,6 +100,8 @@ void DiskPartition::ShowSizes(const QList<qint64> &sizes)
     const bool scrolls = m_listSizes.size() >= ScrollBarFrom;
     m_ui.m_pScrollArea->setVerticalScrollBarPolicy(scrolls ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
     m_ui.m_pScrollArea->verticalScrollBar()->setEnabled(scrolls);
+    // Without a scroll bar the frames end where the other pages' contents end.
+    m_ui.HostColumn->setContentsMargins(0, style::px(5), scrolls ? style::px(5) : 0, 0);
     m_ui.m_pScrollArea->setFocusPolicy(scrolls ? Qt::StrongFocus : Qt::NoFocus);
 
     m_pDonutSeries->Clear();
@@ -126,8 +125,8 @@ void DiskPartition::addFrame(const LogicalDiskRecord &volume, const QString &mar
     style::showTextsAsData(frame);
     pagelook::styleNames({form.m_apPartitionTitle, form.m_apStatusTitle, form.m_apSpaceTitle});
     pagelook::styleValues({form.m_apVolumeName, form.m_apStatusValue, form.m_apSpaceValue});
-    pagelook::styleLabels({form.m_apBlankLabel}, style::semiBold(10), BlankLabel);
-    pagelook::styleLabels({form.m_apPercentage}, style::semiBold(10), PercentLabel);
+    pagelook::styleLabels({form.m_apBlankLabel}, style::semiBold(10), style::GreyLabel);
+    pagelook::styleLabels({form.m_apPercentage}, style::semiBold(10), style::label(style::colour::Accent));
     form.m_apVolumeName->setText(partitiontexts::volumeName(volume, mark));
     form.m_apStatusValue->setText(health);
     form.m_apSpaceValue->setText(partitiontexts::spaceText(volume, g_App.m_bKorean));

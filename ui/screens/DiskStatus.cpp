@@ -49,16 +49,15 @@ std::array<DiskStatus::DetailRow, 5> DiskStatus::details() const
 
 void DiskStatus::styleTexts()
 {
-    const QString black = QStringLiteral("QLabel {color : black;}");
     pagelook::styleHeadings({m_ui.detailedLbl});
     for (const DetailRow &row : details()) {
         pagelook::styleNames({row[0], row[2]});
         pagelook::styleLabels({row[1], row[3]}, style::font(10), style::GreyLabel);
     }
     pagelook::styleLabels({m_ui.healthTitleLbl, m_ui.performanceTitleLbl, m_ui.tempTitleLbl}, style::font(12),
-                          black);
+                          style::BlackLabel);
     pagelook::styleLabels({m_ui.healthValueLbl, m_ui.performanceValueLbl, m_ui.tempValueLbl},
-                          style::font(15, true), black);
+                          style::font(15, true), style::BlackLabel);
 }
 
 /// The line below the heading, and an empty one below the tiles. Neither has a name.
@@ -162,7 +161,7 @@ void DiskStatus::showPicture(Tile tile, TilePicture picture)
     if (picture == TilePicture::Same)
         return;
     m_aePictures[tile] = picture;
-    // The colour alone tells it to the eye.
+    // To the eye the colour and the shape tell it.
     tiles[tile].label->setAccessibleDescription(pictureText(picture));
     images::setLabelImage(tiles[tile].label,
                           QLatin1String(tiles[tile].files[static_cast<std::size_t>(picture)]));

@@ -79,7 +79,8 @@ void showResult(QLabel *label, OverallResult result)
 void styleCard(QFrame *frame)
 {
     frame->setStyleSheet(
-        QStringLiteral(".QFrame{background: #ffffff; border: 1px solid #dfe5eb; border-radius: %1px;}")
+        style::sheet(
+            QStringLiteral(".QFrame{background: @white; border: 1px solid #dfe5eb; border-radius: %1px;}"))
             .arg(style::px(8)));
 }
 

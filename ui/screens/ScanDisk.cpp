@@ -30,8 +30,8 @@ QFont strongFont()
 void styleChoice(QFrame *card, bool chosen)
 {
     card->setStyleSheet(QStringLiteral(".QFrame{background: %1; border: 1px solid %2; border-radius: %3px;}")
-                            .arg(chosen ? QStringLiteral("#f3f8fe") : QStringLiteral("#ffffff"),
-                                 chosen ? QStringLiteral("#2a81e5") : QStringLiteral("#dfe5eb"))
+                            .arg(chosen ? QLatin1String("#f3f8fe") : QLatin1String(style::colour::White),
+                                 chosen ? QLatin1String(style::colour::Sign) : QLatin1String("#dfe5eb"))
                             .arg(style::px(8)));
 }
 
@@ -88,7 +88,7 @@ void ScanDisk::styleChooser()
         {m_ui.ChoiceCard3, m_ui.radioButton_3, m_ui.label_3},
     };
     for (const auto &choice : choices) {
-        pagelook::styleLabels({choice.text}, style::font(10), style::BlackLabel);
+        pagelook::styleLabels({choice.text}, style::font(10), style::GreyLabel);
         choice.text->setContentsMargins(0, style::px(1), 0, style::px(2)); // for marks above and below
         choice.radio->setFont(strongFont());
         tests->addButton(choice.radio);
@@ -122,7 +122,7 @@ void ScanDisk::styleCounters()
     pagelook::styleLabels({m_ui.DiskSizeLbl, m_ui.TotalBlkLbl, m_ui.BlockSizeLbl, m_ui.TimeElapsedLbl,
                            m_ui.TimeReLbl, m_ui.ProcessedVal, m_ui.BadBlkValLbl},
                           strongFont(), style::GreyLabel);
-    pagelook::styleLabels({m_ui.ScanDiskLbl}, style::font(13), style::GreyLabel);
+    pagelook::styleHeadings({m_ui.ScanDiskLbl});
     images::setLabelImage(m_ui.BlueClrLbl, QStringLiteral("img_BlueLegend.png"));
     images::setLabelImage(m_ui.RedClrLBl, QStringLiteral("img_RedLegend.png"));
     images::setLabelImage(m_ui.ProcesClrLl, QStringLiteral("img_GrayLegend.png"));

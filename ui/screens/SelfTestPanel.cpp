@@ -11,10 +11,9 @@ namespace
 
 QString sheetOf(selftest::Told status)
 {
-    const char *colour = status == selftest::Told::InProgress  ? "Black"
-                         : status == selftest::Told::Completed ? "Green"
-                                                               : "Red";
-    return QStringLiteral("QLabel {color : %1;}").arg(QLatin1String(colour));
+    return status == selftest::Told::InProgress  ? style::GreyLabel
+           : status == selftest::Told::Completed ? style::PassedLabel
+                                                 : style::FailedLabel;
 }
 
 QString minutesText(std::optional<int> minutes)
@@ -43,16 +42,14 @@ SelfTestPanel::SelfTestPanel(QWidget *parent) : Page(parent)
     pagelook::styleValues({m_ui.TestModelValLbl, m_ui.TestSerialValLbl, m_ui.TestPercentValLbl,
                            m_ui.TestStatusValLbl, m_ui.PollingTimeValLbl, m_ui.TestRemainingValLbl,
                            m_ui.TestElapsedValLbl});
-    for (QLabel *identity : {m_ui.TestModelValLbl, m_ui.TestSerialValLbl})
-        identity->setStyleSheet(style::BlackLabel);
     for (QFrame *card :
          {m_ui.DiskCard, m_ui.TestCard, m_ui.PollingCard, m_ui.RemainingCard, m_ui.ElapsedCard})
         pagelook::styleCard(card);
     for (QLabel *time : {m_ui.PollingTimeValLbl, m_ui.TestRemainingValLbl, m_ui.TestElapsedValLbl})
         time->setFont(style::font(13));
     m_ui.TestProgressBar->setStyleSheet(
-        QStringLiteral("QProgressBar{background: #e9eef3; border: none; border-radius: %1px;}"
-                       "QProgressBar::chunk{background: #2a81e5; border-radius: %1px;}")
+        style::sheet(QStringLiteral("QProgressBar{background: #e9eef3; border: none; border-radius: %1px;}"
+                                    "QProgressBar::chunk{background: @sign; border-radius: %1px;}"))
             .arg(style::px(4)));
     Show({});
 }

@@ -21,12 +21,13 @@ namespace
 /// A flat picture button of the title strip.
 void styleTitleButton(QPushButton *button, const QString &file)
 {
-    button->setStyleSheet(QStringLiteral("QPushButton{border: none; border-radius: %1px; background: "
-                                         "transparent; image: url(%2);}"
-                                         "QPushButton:hover, QPushButton:focus{background: #e4f0fd;}"
-                                         "QPushButton::menu-indicator{image: none; width: 0px;}")
-                              .arg(style::px(4))
-                              .arg(images::nearestPath(file)));
+    button->setStyleSheet(
+        style::sheet(QStringLiteral("QPushButton{border: none; border-radius: %1px; background: "
+                                    "transparent; image: url(%2);}"
+                                    "QPushButton:hover, QPushButton:focus{background: @chosen;}"
+                                    "QPushButton::menu-indicator{image: none; width: 0px;}")
+                         .arg(style::px(4))
+                         .arg(images::nearestPath(file))));
     button->setCursor(Qt::PointingHandCursor);
 }
 
@@ -63,7 +64,7 @@ void Settings::styleFields()
         caption->setStyleSheet(style::GreyLabel);
     for (QLabel *group : {m_ui.GeneraLabel, m_ui.GeneraLabel_2, m_ui.TempLabel})
         group->setFont(style::semiBold(10));
-    m_ui.ButtonLabel->setStyleSheet(QStringLiteral("QLabel{background: #f5f5f5;}"));
+    m_ui.ButtonLabel->setStyleSheet(style::sheet(QStringLiteral("QLabel{background: @pale;}")));
     styleTitleButton(m_ui.m_pUpdateButton, QStringLiteral("img_CheckUpdate.png"));
     styleTitleButton(m_ui.m_pHelpButton, QStringLiteral("img_Help.png"));
     styleTitleButton(m_ui.m_pLanguageButton, QStringLiteral("img_Language.png"));

@@ -21,8 +21,6 @@
 namespace
 {
 
-const QString BlueGreyLabel = QStringLiteral("QLabel {color : #64778b;}");
-
 /// An empty label that keeps rows apart.
 QLabel *newSpacer(QWidget *parent)
 {
@@ -53,7 +51,10 @@ void fillItem(QTreeWidgetItem *item, const AttributeRow &row)
         item->setText(column, text);
         item->setToolTip(column, style::wholeTip(text));
         item->setTextAlignment(column, Qt::AlignLeft | Qt::AlignVCenter);
-        item->setForeground(column, QBrush(column == row.redCell ? QColor(255, 0, 0) : QColor(0, 0, 0)));
+        item->setForeground(column,
+                            QColor(column == row.redCell ? style::colour::Failed : style::colour::Text));
+        if (column == row.redCell)
+            item->setFont(column, style::semiBold(10)); // seen without the colour, too
         item->setSizeHint(column, QSize(style::px(12), style::px(20)));
         ++column;
     }
@@ -67,13 +68,13 @@ SmartStatus::SmartStatus(QWidget *parent) : Page(parent)
     pagelook::makePage(this);
     pagelook::styleHeadings({m_ui.TreeStringLbl, m_ui.GraphLabel});
     m_ui.SmartResultLabel->setFont(style::font(13));
-    pagelook::styleLabels({m_ui.SerialNumberLbl, m_ui.InterfaceLbl, m_ui.CapacityLbl}, style::semiBold(10),
-                          BlueGreyLabel);
+    pagelook::styleNames({m_ui.SerialNumberLbl, m_ui.InterfaceLbl, m_ui.CapacityLbl});
     pagelook::styleLabels({m_ui.SerialNunValueLbl, m_ui.InterfaceValLbl, m_ui.CapcityValLbl}, style::font(10),
-                          BlueGreyLabel);
-    const QString white = QStringLiteral("QLabel {color : white;}");
-    pagelook::styleLabels({m_ui.m_pHeadingLabel}, style::semiBold(12), white);
-    pagelook::styleLabels({m_ui.m_pHeadingResultLabel}, style::semiBold(13, true), white);
+                          style::GreyLabel);
+    // White on white: they keep their room and show nothing.
+    const QString unseen = style::label(style::colour::White);
+    pagelook::styleLabels({m_ui.m_pHeadingLabel}, style::semiBold(12), unseen);
+    pagelook::styleLabels({m_ui.m_pHeadingResultLabel}, style::semiBold(13, true), unseen);
     makeTree();
     addRest();
     FormatSmartTable();
@@ -98,8 +99,8 @@ void SmartStatus::makeTree()
 
     QPalette palette = m_ui.m_pAttributeTree->palette();
     palette.setColor(QPalette::Base, Qt::white);
-    palette.setColor(QPalette::AlternateBase, QColor(0xf5, 0xf5, 0xf5));
-    palette.setColor(QPalette::Highlight, QColor(0xe4, 0xf0, 0xfd));
+    palette.setColor(QPalette::AlternateBase, QColor(style::colour::Pale));
+    palette.setColor(QPalette::Highlight, QColor(style::colour::Chosen));
     palette.setColor(QPalette::HighlightedText, Qt::black);
     m_ui.m_pAttributeTree->setPalette(palette);
 }
@@ -141,16 +142,16 @@ void SmartStatus::FormatSmartTable()
     // The unscaled ID column of NVMe disks has room for its blanks and the two letters, but not for an
     // ellipsis.
     view->setTextElideMode(nvme ? Qt::ElideNone : Qt::ElideRight);
-    QString sheet = QStringLiteral("QHeaderView::section{color : #000000}");
+    QString sheet = QStringLiteral("QHeaderView::section{color : @text}");
     const int pixels =
         attributecolumns::headerFontPixels(scale::percent(), g_App.m_bItalian || g_App.m_bKorean);
     if (pixels > 0)
         sheet += QStringLiteral("QHeaderView{font-size : %1px}").arg(pixels);
     // The padding is as wide as the margin of the cells below.
-    sheet += QStringLiteral("QHeaderView{background : #f8fafc}"
-                            "QHeaderView::section{background : #f8fafc; border : none; "
+    sheet += QStringLiteral("QHeaderView{background : @head}"
+                            "QHeaderView::section{background : @head; border : none; "
                             "border-bottom : 1px solid #e0d0e0; padding-left : 3px; padding-right : 0px}");
-    view->setStyleSheet(sheet);
+    view->setStyleSheet(style::sheet(sheet));
 }
 
 QTreeWidgetItem *SmartStatus::ShowRows(const std::vector<AttributeRow> &rows)

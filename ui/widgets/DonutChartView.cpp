@@ -14,15 +14,15 @@ namespace
 
 constexpr int Offset = 10; ///< of the ring, from the left edge of its half
 
-const QColor EmptyColour(188, 188, 188);
+const QColor EmptyColour(style::colour::EmptySign);
 
 void fillColours()
 {
-    g_listSliceColours = {QColor(29, 207, 250), QColor(0, 140, 249),   QColor(16, 164, 193),
-                          QColor(51, 181, 229), QColor(170, 102, 204), QColor(153, 204, 0),
-                          QColor(255, 187, 51), QColor(255, 68, 68),   QColor(0, 153, 204),
-                          QColor(153, 51, 204), QColor(102, 153, 0),   QColor(255, 136, 0),
-                          QColor(204, 0, 0)};
+    g_listSliceColours = {QColor(0x10, 0x97, 0xc6), QColor(0x00, 0x62, 0xc4), QColor(0x0b, 0x8a, 0xa3),
+                          QColor(0x2a, 0x81, 0xe5), QColor(0xaa, 0x66, 0xcc), QColor(0x6f, 0x94, 0x00),
+                          QColor(0xb8, 0x7d, 0x00), QColor(0xff, 0x44, 0x44), QColor(0x00, 0x99, 0xcc),
+                          QColor(0x99, 0x33, 0xcc), QColor(0x66, 0x99, 0x00), QColor(0xd9, 0x6f, 0x00),
+                          QColor(0xcc, 0x00, 0x00)};
 }
 
 /// A square of `side` in the middle of `size`, its place rounded down.
@@ -122,7 +122,9 @@ void DonutChartView::drawRing(QPainter *target)
     {
         QPainter painter(&pixmap);
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(QPen(Qt::transparent));
+        // A line keeps neighbours apart, whatever their colours.
+        const bool several = m_pSeries->listSlices.size() > 1;
+        painter.setPen(several ? QPen(Qt::white, style::px(1)) : QPen(Qt::transparent));
         drawSlices(&painter, centred(pixmap.size(), side), hole);
         painter.setBrush(Qt::white);
         painter.drawEllipse(hole);
@@ -176,7 +178,7 @@ void DonutChartView::paintEvent(QPaintEvent *event)
         if (m_pImage)
             painter.drawImage(0, 0, *m_pImage);
         painter.setFont(style::font(8));
-        painter.setPen(QColor(47, 47, 47));
+        painter.setPen(QColor(style::colour::Grey));
         // A negative index: no disk is selected.
         if (g_nCurrentDiskIndex >= 0)
             painter.drawText(rect, Qt::AlignCenter, tr("Disk ") + QString::number(g_nCurrentDiskIndex));

@@ -21,6 +21,15 @@ QColor colourOf(blockmap::Cell cell)
     return QColor::fromRgba(colours[static_cast<int>(cell)]);
 }
 
+/// A bad cell is told by a cross as well, not by its colour alone.
+void crossOut(QPainter *painter, const QPoint &corner, int side)
+{
+    const QRect cross = QRect(corner, QSize(side, side)).adjusted(side / 3, side / 3, -side / 3, -side / 3);
+    painter->setPen(QPen(Qt::white, style::px(2)));
+    painter->drawLine(cross.topLeft(), cross.bottomRight());
+    painter->drawLine(cross.bottomLeft(), cross.topRight());
+}
+
 } // namespace
 
 QGridView::QGridView(QWidget *parent) : QWidget(parent, Qt::FramelessWindowHint), m_nSizeHint(style::px(50))
@@ -107,6 +116,10 @@ void QGridView::drawCells(QPainter *painter) const
         if (cells.at(first) != blockmap::Cell::Empty)
             painter->fillRect(first % columns * sizes.cell, first / columns * sizes.cell,
                               (end - first) * sizes.cell, sizes.cell, colourOf(cells.at(first)));
+        if (cells.at(first) == blockmap::Cell::Bad) {
+            for (int bad = first; bad < end; ++bad)
+                crossOut(painter, QPoint(bad % columns, bad / columns) * sizes.cell, sizes.cell);
+        }
         first = end;
     }
 }

@@ -17,8 +17,8 @@ namespace
 {
 
 const QColor BaseColour(235, 237, 238);
-const QColor BarColour(0, 156, 226);
-const QColor TextColour(111, 111, 111);
+const QColor BarColour(style::colour::GaugeSign);
+const QColor TextColour(style::colour::Grey);
 constexpr int BasePenWidth = 17;
 constexpr int CapPenWidth = 8;
 constexpr double InnerShare = 0.84; ///< of the side

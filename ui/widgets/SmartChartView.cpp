@@ -22,7 +22,7 @@ SmartChartView *g_pSmartChartView = nullptr;
 namespace
 {
 
-const QColor LineColour(0x2a, 0x81, 0xe5);
+const QColor LineColour(style::colour::Sign);
 const QColor GridColour(0xe9, 0xec, 0xef);
 constexpr int RingRadius = 3;
 constexpr int LabelGap = 4;

@@ -14,14 +14,15 @@
 #include <QWidget>
 
 #include <algorithm>
+#include <utility>
 
 namespace style
 {
 
-const QString BlackLabel = QStringLiteral("QLabel {color : #000000;}");
-const QString GreyLabel = QStringLiteral("QLabel {color : #474747;}");
-const QString PassedLabel = QStringLiteral("QLabel {color : #32CD32;}");
-const QString FailedLabel = QStringLiteral("QLabel {color : #FF0000;}");
+const QString BlackLabel = label(colour::Text);
+const QString GreyLabel = label(colour::Grey);
+const QString PassedLabel = label(colour::Passed);
+const QString FailedLabel = label(colour::Failed);
 
 namespace
 {
@@ -64,23 +65,29 @@ QFont font(int points, bool italic)
 
 QFont semiBold(int points, bool italic)
 {
-    return QFont(QStringLiteral("Segoe UI SemiBold"), points, QFont::Normal, italic);
+    // By weight: a family of that name has few scripts, and the fonts of the others would be thin.
+    return QFont(QStringLiteral("Segoe UI"), points, QFont::DemiBold, italic);
+}
+
+QString label(const char *colour)
+{
+    return QStringLiteral("QLabel {color : %1;}").arg(QLatin1String(colour));
 }
 
 QPalette lightPalette()
 {
     const QColor grey(0x6b, 0x6b, 0x6b);
-    QPalette palette(QColor(0xf5, 0xf5, 0xf5));
+    QPalette palette{QColor(colour::Pale)};
     for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palette.setColor(QPalette::Disabled, role, grey);
     palette.setColor(QPalette::PlaceholderText, grey);
     palette.setColor(QPalette::Base, Qt::white);
-    palette.setColor(QPalette::AlternateBase, QColor(0xf5, 0xf5, 0xf5));
+    palette.setColor(QPalette::AlternateBase, QColor(colour::Pale));
     palette.setColor(QPalette::ToolTipBase, Qt::white);
-    palette.setColor(QPalette::ToolTipText, QColor(0x47, 0x47, 0x47));
-    palette.setColor(QPalette::Highlight, QColor(0x1f, 0x72, 0xd1));
+    palette.setColor(QPalette::ToolTipText, QColor(colour::Grey));
+    palette.setColor(QPalette::Highlight, QColor(colour::Main));
     palette.setColor(QPalette::HighlightedText, Qt::white);
-    palette.setColor(QPalette::Link, QColor(0x1f, 0x72, 0xd1));
+    palette.setColor(QPalette::Link, QColor(colour::Accent));
     return palette;
 }
 
@@ -193,40 +200,55 @@ void paintAgain(QWidget *widget)
         timer->start(FrameMilliseconds);
 }
 
+QString sheet(QString text)
+{
+    static constexpr std::pair<const char *, const char *> names[] = {
+        {"@text", colour::Text},           {"@grey", colour::Grey},
+        {"@accent", colour::Accent},       {"@failed", colour::Failed},
+        {"@onMain", colour::OnMain},       {"@disabled", colour::Disabled},
+        {"@white", colour::White},         {"@pale", colour::Pale},
+        {"@head", colour::Head},           {"@chosen", colour::Chosen},
+        {"@mainHover", colour::MainHover}, {"@mainPressed", colour::MainPressed},
+        {"@main", colour::Main},           {"@sign", colour::Sign}};
+    for (const auto &[name, value] : names)
+        text.replace(QLatin1String(name), QLatin1String(value));
+    return text;
+}
+
 QString fieldSheet()
 {
     // %1 is the border radius, %2 the side padding, %3 the width of the arrows, %11 that of a scroll bar.
-    static const char *const sheet =
-        "QComboBox{background: white; border: 1px solid #c9d2db; border-radius: %1px; padding: 0px %2px; "
-        "color: #000000;}"
-        "QComboBox:hover{border-color: #2a81e5;}"
-        "QComboBox:disabled{color: #9aa4ae; background: #f8f9fa;}"
+    static const char *const text =
+        "QComboBox{background: @white; border: 1px solid #c9d2db; border-radius: %1px; padding: 0px %2px; "
+        "color: @text;}"
+        "QComboBox:hover{border-color: @accent;}"
+        "QComboBox:disabled{color: @disabled; background: #f8f9fa;}"
         "QComboBox::drop-down{border: none; width: %3px;}"
         "QComboBox::down-arrow{image: url(%4);}"
-        "QComboBox QAbstractItemView{background: white; border: 1px solid #c9d2db; outline: none; "
-        "color: #000000; selection-background-color: #e4f0fd; selection-color: #2a81e5;}"
-        "QSpinBox, QLineEdit{background: white; border: 1px solid #c9d2db; border-radius: %1px; "
-        "padding: 0px %2px; color: #64778b;}"
-        "QSpinBox:disabled, QLineEdit:disabled{background: #f8f9fa; color: #b0b8c0;}"
+        "QComboBox QAbstractItemView{background: @white; border: 1px solid #c9d2db; outline: none; "
+        "color: @text; selection-background-color: @chosen; selection-color: @accent;}"
+        "QSpinBox, QLineEdit{background: @white; border: 1px solid #c9d2db; border-radius: %1px; "
+        "padding: 0px %2px; color: @text; selection-background-color: @main; selection-color: @onMain;}"
+        "QSpinBox:disabled, QLineEdit:disabled{background: #f8f9fa; color: @disabled;}"
         "QSpinBox::up-button, QSpinBox::down-button{border: none; width: %3px; background: transparent;}"
         "QSpinBox::up-arrow{image: url(%5);}QSpinBox::down-arrow{image: url(%6);}"
-        "QCheckBox, QRadioButton{color: #000000; spacing: %2px;}"
+        "QCheckBox{color: @grey; spacing: %2px;}QRadioButton{color: @text; spacing: %2px;}"
         "QCheckBox::indicator:checked{image: url(%7);}QCheckBox::indicator:unchecked{image: url(%8);}"
         "QRadioButton::indicator:checked{image: url(%9);}QRadioButton::indicator:unchecked{image: url(%10);}"
-        "QMenu{background: white; border: 1px solid #d7dde3; padding: %1px 0px;}"
-        "QMenu::item{padding: %1px %3px %1px %2px; color: #000000; background: transparent;}"
+        "QMenu{background: @white; border: 1px solid #d7dde3; padding: %1px 0px;}"
+        "QMenu::item{padding: %1px %3px %1px %2px; color: @text; background: transparent;}"
         "QMenu::icon{padding-left: %2px;}"
-        "QMenu::item:selected{background: #e4f0fd; color: #2a81e5;}"
-        "QMenu::item:disabled{color: #9aa4ae;}"
+        "QMenu::item:selected{background: @chosen; color: @accent;}"
+        "QMenu::item:disabled{color: @disabled;}"
         "QMenu::separator{height: 1px; background: #e6eaee; margin: %1px 0px;}"
-        "QToolTip{background: white; color: #474747; border: 1px solid #c9d2db;}"
-        "QScrollBar:vertical{background: #f5f5f5; width: %11px; margin: 0px; border: none;}"
+        "QToolTip{background: @white; color: @grey; border: 1px solid #c9d2db;}"
+        "QScrollBar:vertical{background: @pale; width: %11px; margin: 0px; border: none;}"
         "QScrollBar::handle:vertical{background: #c9d2db; border-radius: %1px; min-height: %3px; margin: "
         "1px;}"
-        "QScrollBar::handle:vertical:hover{background: #2a81e5;}"
+        "QScrollBar::handle:vertical:hover{background: @sign;}"
         "QScrollBar::add-line:vertical, QScrollBar::sub-line:vertical{height: 0px;}"
         "QScrollBar::add-page:vertical, QScrollBar::sub-page:vertical{background: none;}";
-    return QString::fromLatin1(sheet)
+    return sheet(QString::fromLatin1(text))
         .arg(px(4))
         .arg(px(10))
         .arg(px(28))
@@ -244,16 +266,16 @@ void styleButton(QPushButton *button, ButtonRole role)
 {
     const bool main = role == ButtonRole::Main;
     const QString colours =
-        main ? QStringLiteral("QPushButton{background: #1f72d1; color: #ffffff; border: 1px solid #1f72d1;}"
-                              "QPushButton:hover{background: #1a63b8;}"
-                              "QPushButton:pressed{background: #14569f;}"
+        main ? QStringLiteral("QPushButton{background: @main; color: @onMain; border: 1px solid @main;}"
+                              "QPushButton:hover{background: @mainHover;}"
+                              "QPushButton:pressed{background: @mainPressed;}"
                               "QPushButton:disabled{background: #a9cbf3; border-color: #a9cbf3;}")
-             : QStringLiteral("QPushButton{background: #ffffff; color: #000000; border: 1px solid #c9d2db;}"
-                              "QPushButton:hover{border-color: #2a81e5; color: #2a81e5;}"
-                              "QPushButton:pressed{background: #e4f0fd;}"
-                              "QPushButton:disabled{color: #9aa4ae;}");
-    button->setStyleSheet(colours +
-                          QStringLiteral("QPushButton{border-radius: %1px; padding: 0px %1px;}").arg(px(4)));
+             : QStringLiteral("QPushButton{background: @white; color: @text; border: 1px solid #c9d2db;}"
+                              "QPushButton:hover{border-color: @accent; color: @accent;}"
+                              "QPushButton:pressed{background: @chosen;}"
+                              "QPushButton:disabled{color: @disabled;}");
+    button->setStyleSheet(
+        sheet(colours + QStringLiteral("QPushButton{border-radius: %1px; padding: 0px %1px;}").arg(px(4))));
     button->setFont(font(10));
     button->setAutoDefault(true); // Enter presses it, as the space bar does
     button->setCursor(Qt::PointingHandCursor);

@@ -23,7 +23,7 @@ constexpr int WindowHeight = 600;
 constexpr int TitleStripHeight = 26; ///< only a press on it drags the window
 constexpr int TemperatureInterval = 60000;
 const QPoint PagePlace(-16, 49); ///< in WidgetFrame; the margins of a page hang over its edges
-const QString PaleBackground = QStringLiteral("background: rgb(245,245,245);");
+const QString PaleBackground = style::sheet(QStringLiteral("background: @pale;"));
 
 /// Shows a header button as its picture. The picture under the pointer has the suffix "Hov".
 void dressToolButton(QPushButton *button, const QString &image)
@@ -237,14 +237,20 @@ void MainWindow::retranslateShell()
     const languages::Language &language = languages::current();
     m_ui.SideButtonLabel->setFixedWidth(style::px(language.sideWidth));
     constexpr int Gap = 10;
-    constexpr int RightMargin = 16;
+    constexpr int PageMargin = 25;
     m_ui.ReportSaveButton->setFixedSize(style::px(language.reportWidth), style::px(32));
     m_ui.ScreenshotButton->setFixedSize(style::px(language.screenshotWidth), style::px(32));
     const int y = m_ui.ReportSaveButton->y();
-    m_ui.ScreenshotButton->move(
-        m_ui.BottamLabel->width() - style::px(RightMargin) - m_ui.ScreenshotButton->width(), y);
-    m_ui.ReportSaveButton->move(m_ui.ScreenshotButton->x() - style::px(Gap) - m_ui.ReportSaveButton->width(),
-                                y);
+    // They end where the pages' contents end.
+    const int right = m_pDiskStatusPage->x() + m_pDiskStatusPage->width() - style::px(PageMargin);
+    for (QPushButton *last :
+         {m_ui.ScreenshotButton, m_ui.ScanButton, m_ui.CloneButton, m_ui.StopButton, m_ui.StopTestButton})
+        last->move(right - last->width(), y);
+    const auto moveBefore = [y](QPushButton *button, const QPushButton *next) {
+        button->move(next->x() - style::px(Gap) - button->width(), y);
+    };
+    moveBefore(m_ui.ReportSaveButton, m_ui.ScreenshotButton);
+    moveBefore(m_ui.BackTestButton, m_ui.ScanButton);
 }
 
 void MainWindow::connectNavigation()

@@ -29,9 +29,9 @@ void dress(QPushButton *button, const Images &files, std::size_t look)
     const QString path = images::path(QLatin1String(files[look]) + QStringLiteral(".png"));
     const QString picture =
         path.isEmpty() ? QString() : QStringLiteral("QPushButton{border-image: url(%1)}").arg(path);
-    button->setStyleSheet(picture + QStringLiteral("QPushButton{Text-align:left}") +
-                          (look == 0 ? QStringLiteral("QPushButton {color : rgb(0,0,0);}")
-                                     : QStringLiteral("QPushButton {color : rgb(42,129,229);}")));
+    button->setStyleSheet(picture +
+                          QStringLiteral("QPushButton{Text-align:left; color: %1;}")
+                              .arg(QLatin1String(look == 0 ? style::colour::Text : style::colour::Accent)));
 }
 
 } // namespace
