@@ -8,6 +8,7 @@
 #include "ui/dialogs/MessageDialog.h"
 #include "ui/dialogs/QShowUpdate.h"
 #include "ui/screens/Settings.h"
+#include "ui/widgets/Style.h"
 #include "update/HelpLinks.h"
 
 #include <QAction>
@@ -150,6 +151,21 @@ private slots:
             dialog->activateWindow();
             QVERIFY(QTest::qWaitForWindowActive(dialog));
             QTest::keyClick(dialog, Qt::Key_Return);
+        }
+        ConfarmetionClass stop;
+        ScanSwitchClass leave;
+        const std::tuple<QWidget *, const char *, const char *> questions[] = {
+            {&clone, "StartButton", "CancelButton"},
+            {&shutDown, "ShutDownButton", "OkButton"},
+            {&stop, "YesButton", "NoButton"},
+            {&leave, "YesButton", "NoButton"}};
+        const QString blue = QLatin1String("background: ") + style::colour::Main;
+        for (const auto &[question, loses, harmless] : questions) {
+            QVERIFY(!buttonOf(question, loses)->styleSheet().contains(blue));
+            QVERIFY(buttonOf(question, harmless)->styleSheet().contains(blue));
+            question->show();
+            QCOMPARE(question->focusWidget(), buttonOf(question, harmless));
+            question->hide();
         }
         QCOMPARE(started.count(), 0);
         QCOMPARE(cancelled.count(), 1);
@@ -308,6 +324,16 @@ private slots:
             for (const char *field :
                  {"PathlineEdit", "BrowsButton_2", "LogLImitSpinBox", "WarningSpinBox", "ShutDownSpinBox"})
                 QCOMPARE(window.field<QWidget>(field)->isEnabled(), on);
+        }
+    }
+
+    void captionsHaveOneGrey()
+    {
+        OpenSettings window;
+        window.show();
+        for (const char *caption : {"TrayChkBox", "LogChkBox", "logSizeLbl", "logSizeLbl_2", "WarningTemp"}) {
+            const auto *shown = window.field<QWidget>(caption);
+            QCOMPARE(shown->palette().color(shown->foregroundRole()), QColor(style::colour::Grey));
         }
     }
 

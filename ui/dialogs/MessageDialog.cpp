@@ -33,8 +33,7 @@ const DialogShape StopShape = {"ConfarmetionDialog",
                                {"ImageLbl", "img_Question.png"},
                                {{"WarningTxtLbl"}, {"WarningTxtLbl_2"}},
                                {{"YesButton", QT_TRANSLATE_NOOP("ConfarmetionDialog", "Yes")},
-                                {"NoButton", QT_TRANSLATE_NOOP("ConfarmetionDialog", "No")}},
-                               DialogButton::First};
+                                {"NoButton", QT_TRANSLATE_NOOP("ConfarmetionDialog", "No")}}};
 
 const DialogShape SwitchShape = {
     "ScanSwitchDialog",
@@ -46,8 +45,7 @@ const DialogShape SwitchShape = {
      {"WarningTxtLbl_2",
       QT_TRANSLATE_NOOP("ScanSwitchDialog", "Do you want to move away from this screen?")}},
     {{"YesButton", QT_TRANSLATE_NOOP("ScanSwitchDialog", "Yes")},
-     {"NoButton", QT_TRANSLATE_NOOP("ScanSwitchDialog", "No")}},
-    DialogButton::First};
+     {"NoButton", QT_TRANSLATE_NOOP("ScanSwitchDialog", "No")}}};
 
 const DialogShape DestinationShape = {
     "DestinitionWarningDailog",
@@ -85,8 +83,7 @@ const DialogShape CloneShape = {
      {"SourceNameLbl"},
      {"DestinationNameLbl"}},
     {{"StartButton", QT_TRANSLATE_NOOP("CloningWarningDialog", "Start")},
-     {"CancelButton", QT_TRANSLATE_NOOP("CloningWarningDialog", "Cancel")}},
-    DialogButton::First};
+     {"CancelButton", QT_TRANSLATE_NOOP("CloningWarningDialog", "Cancel")}}};
 
 const DialogShape InfoShape = {"InfoDialog",
                                480,
@@ -124,8 +121,7 @@ const DialogShape ShutDownShape = {
      {"WarningBigLbl",
       QT_TRANSLATE_NOOP("SmartShutdownDialog", "It is advisable to shutdown the system immediately.")}},
     {{"ShutDownButton", QT_TRANSLATE_NOOP("SmartShutdownDialog", "Shutdown")},
-     {"OkButton", QT_TRANSLATE_NOOP("SmartShutdownDialog", "OK")}},
-    DialogButton::First};
+     {"OkButton", QT_TRANSLATE_NOOP("SmartShutdownDialog", "OK")}}};
 
 const DialogShape SmallShape = {"SmallMsg",
                                 420,
@@ -162,8 +158,6 @@ CloseWgt::CloseWgt(QWidget *parent) : QWidget(parent), m_Frame(this)
     m_Frame.dress();
     QPushButton *yes = m_Frame.button(DialogButton::First);
     QPushButton *no = m_Frame.button(DialogButton::Last);
-    for (QPushButton *button : {yes, no})
-        button->setStyleSheet(button->styleSheet() + QStringLiteral("QPushButton {color : #000000;}"));
     connect(yes, &QPushButton::clicked, this, &CloseWgt::confirmed);
     connect(no, &QPushButton::clicked, this, &CloseWgt::dismissed);
 }

@@ -122,7 +122,7 @@ void FocusRing::place()
         delete m_pRing;
         m_pRing = new Ring(window);
     }
-    const int room = style::px(Line);
+    const int room = style::px(Line) + 1; // the gap tells it from the edge of a blue button
     const QRect control(m_pControl->mapTo(window, QPoint(0, 0)), m_pControl->size());
     m_pRing->setGeometry(control.adjusted(-room, -room, room, room) & window->rect());
     m_pRing->raise();
