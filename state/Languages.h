@@ -47,7 +47,6 @@ struct Language {
     const char *helpCode; ///< in the names of the help pages; empty: no help
     const char *text;     ///< in the menus, English
     bool ofSecondBrand;   ///< in the menu of the second brand, too
-    int sideWidth;        ///< of the pale strip behind the navigation, in design pixels
     int reportWidth;      ///< of the button Save Report, in design pixels
     int screenshotWidth;  ///< of the button Screenshot, in design pixels
     DiskStatusMetrics diskStatus;

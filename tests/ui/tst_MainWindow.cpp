@@ -101,6 +101,16 @@ private slots:
                     buttons << QLatin1String(name);
             }
             QCOMPARE(buttons.join(' '), expected);
+            // Contents and buttons end at one right edge.
+            const auto end = [this](const char *name) {
+                const auto *part = child<QWidget>(name);
+                return part->mapTo(m_pWindow.get(), QPoint(part->width(), 0)).x();
+            };
+            for (const char *part : {"m_pAttributeTree", "SourceFrame", "ChoiceCard1", "ScanButton",
+                                     "CloneButton", "ScreenshotButton", "StopButton"}) {
+                if (shown(part))
+                    QCOMPARE(end(part), end("StopTestButton"));
+            }
             waitForRest();
         }
         // The look under the pointer.

@@ -6,6 +6,7 @@
 #include "tests/ui/Named.h"
 #include "ui/screens/CloneDisk.h"
 #include "ui/screens/DiskPartition.h"
+#include "ui/screens/DiskStatus.h"
 #include "ui/widgets/Images.h"
 #include "ui/widgets/Style.h"
 
@@ -152,6 +153,15 @@ private slots:
                          qPrintable(QString::number(text)));
             }
         }
+    }
+
+    void aSerialOf20LettersFits()
+    {
+        DiskStatus page;
+        page.showModelAndSerial(QStringLiteral("Norvik NX500-1TB Enterprise"),
+                                QStringLiteral("NVK-2041X77300458-AB"));
+        page.grab();
+        QCOMPARE(labelOf(&page, "SerialValLbl")->toolTip(), QString());
     }
 
     void aCutNameHasATip()

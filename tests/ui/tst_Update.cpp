@@ -6,7 +6,6 @@
 #include "ui/screens/Settings.h"
 #include "update/UpdateGlobals.h"
 
-#include <QMessageBox>
 #include <QProgressBar>
 #include <QTextEdit>
 
@@ -34,9 +33,9 @@ private slots:
             if (const auto *message = dialog<SmallMessageDlg>()) {
                 m_messages << message->findChild<QTextEdit *>()->toPlainText().trimmed();
                 answer<SmallMessageDlg>("OkButton");
-            } else if (const auto *box = dialog<QMessageBox>()) {
-                m_messages << box->text();
-                box->button(QMessageBox::Ok)->click();
+            } else if (const auto *box = dialog<InfoDialogClass>()) {
+                m_messages << labelOf(box, "label")->text() + '|' + box->SecondText();
+                answer<InfoDialogClass>("OkButton");
             }
         });
         answers->start(20);
@@ -170,8 +169,8 @@ private slots:
         download->OnDownloadProgress(5000000, 6000000); // above the maximum, so it does not move the bar
         QCOMPARE(download->findChild<QProgressBar *>()->value(), 1048576);
         QTRY_COMPARE_WITH_TIMEOUT(
-            m_messages,
-            QStringList{QStringLiteral("Update failed \n\nUpdate failed due to partial download.")}, 20000);
+            m_messages, QStringList{QStringLiteral("Update failed|Update failed due to partial download.")},
+            20000);
         QTRY_VERIFY(download.isNull());
         // The console was to load what the system could not.
         QCOMPARE(commands("bitsadmin.exe /transfer myDownloadJob /download /priority normal " + web.link() +

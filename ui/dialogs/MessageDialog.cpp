@@ -254,7 +254,6 @@ SmallMessageDlg::SmallMessageDlg(QWidget *parent)
 void SmallMessageDlg::SetText(const QString &text, int leadingBlankLines)
 {
     m_pTextEdit->clear();
-    m_pTextEdit->setAlignment(Qt::AlignCenter);
     QTextCharFormat heading;
     heading.setFont(style::font(11));
     heading.setFontWeight(QFont::Bold);

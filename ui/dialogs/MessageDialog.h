@@ -147,7 +147,7 @@ public:
     explicit ShutDownWarning(QWidget *parent = nullptr);
 };
 
-/// The plain message box of the update: a centred text.
+/// The plain message box of the update.
 class SmallMessageDlg : public QDialog
 {
     Q_OBJECT

@@ -3,7 +3,7 @@
 
 #include "platform/Platform.h"
 #include "state/Languages.h"
-#include "ui/widgets/Images.h"
+#include "ui/dialogs/MessageDialog.h"
 #include "ui/widgets/Style.h"
 #include "update/UpdateCheck.h"
 #include "update/UpdateFetch.h"
@@ -11,10 +11,7 @@
 #include <QBoxLayout>
 #include <QCoreApplication>
 #include <QLabel>
-#include <QMessageBox>
-#include <QPixmap>
 #include <QProgressBar>
-#include <QPushButton>
 
 #include <algorithm>
 #include <limits>
@@ -39,19 +36,12 @@ const DialogShape Shape = {"DownloadUpdate",
                            "",
                            true};
 
-/// QMessageBox::information() in the look of the dialogs.
+/// The text is a heading, an empty line and a sentence.
 void tellFailure(QWidget *parent, const QString &title, const QString &text)
 {
-    QMessageBox box(QMessageBox::Information, title, text, QMessageBox::Ok, parent);
-    box.setTextFormat(Qt::PlainText);
-    style::setWhiteBackground(&box);
-    box.setFont(style::font(10));
-    QAbstractButton *ok = box.button(QMessageBox::Ok);
-    style::styleButton(qobject_cast<QPushButton *>(ok), style::ButtonRole::Main);
-    ok->setMinimumSize(style::px(96), style::px(32));
-    const QPixmap picture(images::path(QStringLiteral("img_Information.png")));
-    if (!picture.isNull())
-        box.setIconPixmap(picture);
+    const QString gap = QStringLiteral("\n\n");
+    InfoDialogClass box(parent);
+    box.SetTexts(title, text.section(gap, 0, 0).trimmed(), text.section(gap, 1));
     box.exec();
 }
 

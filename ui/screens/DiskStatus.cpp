@@ -11,6 +11,8 @@
 #include "ui/widgets/Images.h"
 #include "ui/widgets/Style.h"
 
+#include <algorithm>
+
 namespace
 {
 
@@ -99,7 +101,10 @@ void DiskStatus::showTile(Tile tile, const QString &value, TilePicture picture)
 {
     QLabel *const values[] = {m_ui.tempValueLbl, m_ui.performanceValueLbl, m_ui.healthValueLbl};
     values[tile]->setText(value);
-    showPicture(tile, picture);
+    // A tile without a figure knows nothing, so nothing in it is green.
+    const bool told = std::any_of(value.cbegin(), value.cend(), [](QChar sign) { return sign.isDigit(); });
+    values[tile]->setStyleSheet(told ? style::BlackLabel : style::GreyLabel);
+    showPicture(tile, told ? picture : TilePicture::Unknown);
 }
 
 LifeKind DiskStatus::lifeKindOf(const DiskNode *node)
@@ -153,8 +158,11 @@ void DiskStatus::showPicture(Tile tile, TilePicture picture)
         QLabel *label;
         std::array<const char *, 4> files; ///< good, average, bad, unknown
     } tiles[] = {
-        {m_ui.tempratureLbl, {"img_temprature.png", "img_temAverage.png", "img_HighTemp96.png"}},
-        {m_ui.PerformanceLbl, {"img_Performance.png", "img_PerformanceAve.png", "img_PerformanceHigh.png"}},
+        {m_ui.tempratureLbl,
+         {"img_temprature.png", "img_temAverage.png", "img_HighTemp96.png", "img_temUnknown.png"}},
+        {m_ui.PerformanceLbl,
+         {"img_Performance.png", "img_PerformanceAve.png", "img_PerformanceHigh.png",
+          "img_PerformanceUnknown.png"}},
         {m_ui.HelthLable,
          {"img_Health.png", "img_HealthAverage.png", "img_HealthHigh.png", "img_HealthUnknown.png"}},
     };

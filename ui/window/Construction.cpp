@@ -119,7 +119,7 @@ void MainWindow::scaleGeometry()
     m_ui.WidgetFrame->setFixedSize(width() - side - 2, bottom - header - 1);
     m_ui.BottamLabel->move(side + 1, bottom + 1);
     m_ui.BottamLabel->setFixedSize(width() - side - 2, height() - bottom - 2);
-    m_ui.SideButtonLabel->setFixedHeight(height() - header - 2);
+    m_ui.SideButtonLabel->setFixedSize(side - 1, height() - header - 2);
     m_ui.HeaderLabel->setFixedSize(width() - 2, header - 1);
 }
 
@@ -136,6 +136,10 @@ void MainWindow::styleShell()
                                     QStringLiteral("MyButton1{padding-left: %1px;}").arg(style::px(32)));
 
     pagelook::styleLabels({m_ui.label}, style::font(8), style::BlackLabel);
+    m_ui.GifFrame->setStyleSheet(
+        style::sheet(QStringLiteral("QFrame#GifFrame{background: @white; border: 1px solid #c9d2db; "
+                                    "border-radius: %1px;}"))
+            .arg(style::px(4)));
     m_pMovie = images::newMovie(QStringLiteral("img_Scan.gif"), this);
     m_ui.Giflabel->setMovie(m_pMovie);
     m_ui.GifFrame->hide();
@@ -235,7 +239,6 @@ void MainWindow::retranslateShell()
         button->setAccessibleName(button->toolTip());
 
     const languages::Language &language = languages::current();
-    m_ui.SideButtonLabel->setFixedWidth(style::px(language.sideWidth));
     constexpr int Gap = 10;
     constexpr int PageMargin = 25;
     m_ui.ReportSaveButton->setFixedSize(style::px(language.reportWidth), style::px(32));

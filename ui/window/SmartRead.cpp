@@ -114,6 +114,10 @@ void MainWindow::enterBusy(const QString &text)
 {
     m_ui.label->setText(text);
     m_ui.label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    // As wide as the text needs, in the middle.
+    m_ui.label->setFixedWidth(m_ui.label->sizeHint().width());
+    m_ui.GifFrame->setFixedWidth(m_ui.label->x() + m_ui.label->width() + style::px(16));
+    m_ui.GifFrame->move((m_ui.WidgetFrame->width() - m_ui.GifFrame->width()) / 2, m_ui.GifFrame->y());
     m_pMovie->start();
     m_ui.GifFrame->show();
 }
