@@ -229,7 +229,8 @@ private slots:
 
         g_App.m_bAccessDenied = false;
         m_pWindow->RefreshSelectedDisk();
-        QVERIFY(!shown("m_pAdvice") && shown("SourceComboBox") && enabled("CloneButton"));
+        QVERIFY(!shown("m_pAdvice") && shown("SourceComboBox") && enabled("DriveCombobox"));
+        QVERIFY(!enabled("ScanButton")); // there is no disk
     }
 
     void report()

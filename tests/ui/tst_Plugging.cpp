@@ -61,11 +61,13 @@ private slots:
         plug("remove-disk4");
         QVERIFY(busy.count > 0);
         QCOMPARE(disks(), QVector<int>{128});
+        QVERIFY(enabled("ScanButton") && !enabled("CloneButton")); // there is nothing to clone to
         QCOMPARE(child<QComboBox>("DriveCombobox")->currentIndex(), 0);
         QCOMPARE(g_nCurrentDiskIndex, 0);
         QCOMPARE(findPhysicalDisk(132), nullptr);
         plug("arrive-disk6");
         QCOMPARE(disks(), (QVector<int>{128, 134}));
+        QVERIFY(enabled("CloneButton"));
         QCOMPARE(child<QComboBox>("DriveCombobox")->currentIndex(), 0);
         QVERIFY(letters(134).contains(QLatin1String("P:")));
     }

@@ -119,7 +119,7 @@ void MainWindow::scaleGeometry()
     m_ui.WidgetFrame->setFixedSize(width() - side - 2, bottom - header - 1);
     m_ui.BottamLabel->move(side + 1, bottom + 1);
     m_ui.BottamLabel->setFixedSize(width() - side - 2, height() - bottom - 2);
-    m_ui.SideButtonLabel->setFixedSize(side - 1, height() - header - 2);
+    m_ui.SideButtonLabel->setFixedHeight(height() - header - 2);
     m_ui.HeaderLabel->setFixedSize(width() - 2, header - 1);
 }
 
@@ -135,7 +135,7 @@ void MainWindow::styleShell()
     m_ui.BottamLabel->setStyleSheet(QStringLiteral("QLabel#BottamLabel{%1}").arg(PaleBackground) +
                                     QStringLiteral("MyButton1{padding-left: %1px;}").arg(style::px(32)));
 
-    pagelook::styleLabels({m_ui.label}, style::font(8), style::BlackLabel);
+    pagelook::styleLabels({m_ui.label}, style::font(10), style::BlackLabel);
     m_ui.GifFrame->setStyleSheet(
         style::sheet(QStringLiteral("QFrame#GifFrame{background: @white; border: 1px solid #c9d2db; "
                                     "border-radius: %1px;}"))

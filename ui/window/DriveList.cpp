@@ -44,8 +44,6 @@ void MainWindow::OnActivatedDriveCombo(int)
 void MainWindow::OnTargetChangeIndex(int nIndex)
 {
     m_pCloneDiskPage->ShowTargetDetails(nIndex != 0);
-    if (nIndex != 0)
-        m_ui.CloneButton->setEnabled(true);
 }
 
 void MainWindow::selectCloneArgument()
@@ -95,7 +93,7 @@ void MainWindow::OnRefresh()
         return;
     g_bListsLoading = true;
     m_smartThread.forget();
-    updateReportButtons();
+    updateButtons();
     g_App.m_pCurrentDisk = nullptr;
     g_App.m_pCloneDisk = nullptr;
     m_refreshThread.startBehind(m_smartThread);

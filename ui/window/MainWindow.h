@@ -194,7 +194,7 @@ private:
     void takeUpChosenDisk();
     void showWaitingTiles();
     void startRead();
-    void updateReportButtons();
+    void updateButtons();
     bool reportKnown() const;
     void enterBusy(const QString &text);
     void leaveBusy();

@@ -124,10 +124,8 @@ void MainWindow::showAccess()
     m_pAccessNotice->setVisible(denied);
     for (const Screen screen : Screens)
         m_apScreens[screen]->setVisible(!denied && isOnShow(screen));
-    for (QWidget *idle :
-         std::initializer_list<QWidget *>{m_ui.DriveCombobox, m_ui.ScanButton, m_ui.CloneButton,
-                                          m_ui.ReportSaveButton, m_ui.ScreenshotButton})
-        idle->setEnabled(!denied);
+    m_ui.DriveCombobox->setEnabled(!denied);
+    updateButtons();
 }
 
 void MainWindow::OnShowDiskStatus()
@@ -150,7 +148,6 @@ void MainWindow::OnShowDiskPartition()
 
 void MainWindow::OnShowCloneDisk()
 {
-    m_ui.CloneButton->setEnabled(true);
     showScreen(navigation::CloneDiskScreen);
     refreshClonePage();
 }

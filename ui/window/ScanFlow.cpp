@@ -132,7 +132,7 @@ void MainWindow::releaseShell()
     // There is nothing left to be stopped.
     m_pConfirmation->hide();
     m_ui.StopButton->hide();
-    m_ui.ScanButton->setEnabled(true);
+    updateButtons();
     m_ui.DriveCombobox->setEnabled(true);
     enableNavigation();
     if (m_bStartedByKey && m_screen)
@@ -160,10 +160,8 @@ void MainWindow::dropScanResults()
     if (g_Jobs.runs(Job::Scan)) {
         m_jobDisplay.show(std::nullopt);
         m_ui.StopButton->hide();
-        m_ui.ScanButton->setEnabled(false);
     }
-    if (g_Jobs.runs(Job::Clone))
-        m_ui.ScanButton->setEnabled(false);
+    updateButtons();
     m_pScanDiskPage->HideResult();
     m_pScanDiskPage->DropResults();
     refreshBehindJob();

@@ -72,6 +72,7 @@ void MainWindow::showTestButtons(bool running)
     const bool ended = !running && isOnShow(navigation::ScanDiskScreen);
     if (!running)
         keepAwake();
+    updateButtons();
     m_ui.ScanButton->setVisible(ended);
     m_ui.BackTestButton->setVisible(ended);
     m_ui.BottamLabel->show();

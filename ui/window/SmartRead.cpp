@@ -57,7 +57,7 @@ void MainWindow::showWaitingTiles()
 void MainWindow::RefreshSelectedDisk()
 {
     takeUpChosenDisk();
-    updateReportButtons();
+    updateButtons();
     // The end of a refresh reloads the screen on show. A clone keeps the disks that it was started with.
     if (g_bListsLoading || g_Jobs.runs(Job::Clone))
         return;
@@ -94,15 +94,19 @@ void MainWindow::ShowPartitions(const QString &mark)
 void MainWindow::startRead()
 {
     RequestSmartRead(g_nCurrentDiskIndex);
-    updateReportButtons();
+    updateButtons();
     enterBusy(tr("Please wait. Getting SMART information..."));
 }
 
-/// The buttons work only while the report of the chosen disk is known.
-void MainWindow::updateReportButtons()
+/// Buttons that cannot do anything are grey: without the report of the chosen disk, without a disk to scan,
+/// and without two for a clone.
+void MainWindow::updateButtons()
 {
     m_ui.ReportSaveButton->setEnabled(reportKnown());
     m_ui.ScreenshotButton->setEnabled(reportKnown());
+    const int disks = g_App.m_bAccessDenied ? 0 : m_ui.DriveCombobox->count();
+    m_ui.ScanButton->setEnabled(disks > 0 && g_Jobs.mayStart());
+    m_ui.CloneButton->setEnabled(disks > 1);
 }
 
 bool MainWindow::reportKnown() const
@@ -115,6 +119,7 @@ void MainWindow::enterBusy(const QString &text)
     m_ui.label->setText(text);
     m_ui.label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     // As wide as the text needs, in the middle.
+    m_ui.label->setMinimumWidth(0);
     m_ui.label->setFixedWidth(m_ui.label->sizeHint().width());
     m_ui.GifFrame->setFixedWidth(m_ui.label->x() + m_ui.label->width() + style::px(16));
     m_ui.GifFrame->move((m_ui.WidgetFrame->width() - m_ui.GifFrame->width()) / 2, m_ui.GifFrame->y());
@@ -154,7 +159,7 @@ void MainWindow::OnInitializeSmart()
         else if (isOnShow(navigation::DiskStatusScreen))
             initializeDiskStatus();
     }
-    updateReportButtons();
+    updateButtons();
     leaveBusy();
 }
 
