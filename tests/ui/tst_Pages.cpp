@@ -10,7 +10,9 @@
 #include "ui/widgets/Images.h"
 #include "ui/widgets/Style.h"
 
+#include <QClipboard>
 #include <QComboBox>
+#include <QMenu>
 #include <QtTest>
 
 #include <cmath>
@@ -162,6 +164,25 @@ private slots:
                                 QStringLiteral("NVK-2041X77300458-AB"));
         page.grab();
         QCOMPARE(labelOf(&page, "SerialValLbl")->toolTip(), QString());
+    }
+
+    void valuesAreCopied()
+    {
+        const CloneDisk page;
+        QLabel *model = labelOf(&page, "ModelNLbl");
+        QLabel *time = labelOf(&page, "TimeLabel");
+        model->setText(QStringLiteral("Model Number\t: A:1"));
+        time->setText(QStringLiteral("12 minutes"));
+        QCOMPARE(time->focusPolicy(), Qt::NoFocus);
+        for (const auto &[label, selected, copied] :
+             {std::tuple(model, 0, "A:1"), {time, 0, "12 minutes"}, {time, 2, "12"}}) {
+            if (selected)
+                label->setSelection(0, selected);
+            emit label->customContextMenuRequested({});
+            label->findChild<QMenu *>()->actions().first()->trigger();
+            QCOMPARE(QGuiApplication::clipboard()->text(), QLatin1String(copied));
+            delete label->findChild<QMenu *>();
+        }
     }
 
     void aCutNameHasATip()

@@ -127,6 +127,7 @@ void DiskPartition::addFrame(const LogicalDiskRecord &volume, const QString &mar
     pagelook::styleValues({form.m_apVolumeName, form.m_apStatusValue, form.m_apSpaceValue});
     pagelook::styleLabels({form.m_apBlankLabel}, style::semiBold(10), style::GreyLabel);
     pagelook::styleLabels({form.m_apPercentage}, style::semiBold(10), style::label(style::colour::Accent));
+    pagelook::makeCopyable({form.m_apPercentage});
     form.m_apVolumeName->setText(partitiontexts::volumeName(volume, mark));
     form.m_apStatusValue->setText(health);
     form.m_apSpaceValue->setText(partitiontexts::spaceText(volume, g_App.m_bKorean));

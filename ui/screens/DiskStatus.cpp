@@ -55,11 +55,13 @@ void DiskStatus::styleTexts()
     for (const DetailRow &row : details()) {
         pagelook::styleNames({row[0], row[2]});
         pagelook::styleLabels({row[1], row[3]}, style::font(10), style::GreyLabel);
+        pagelook::makeCopyable({row[1], row[3]});
     }
     pagelook::styleLabels({m_ui.healthTitleLbl, m_ui.performanceTitleLbl, m_ui.tempTitleLbl}, style::font(12),
                           style::BlackLabel);
     pagelook::styleLabels({m_ui.healthValueLbl, m_ui.performanceValueLbl, m_ui.tempValueLbl},
                           style::font(15, true), style::BlackLabel);
+    pagelook::makeCopyable({m_ui.healthValueLbl, m_ui.performanceValueLbl, m_ui.tempValueLbl});
 }
 
 /// The line below the heading, and an empty one below the tiles. Neither has a name.

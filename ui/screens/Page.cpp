@@ -2,14 +2,19 @@
 #include "ui/screens/Page.h"
 
 #include "smart/Rating.h"
+#include "ui/widgets/FittingTexts.h"
 #include "ui/widgets/Style.h"
 
+#include <QClipboard>
 #include <QCoreApplication>
 #include <QEvent>
 #include <QFrame>
+#include <QGuiApplication>
 #include <QLabel>
+#include <QMenu>
 
 #include <algorithm>
+#include <typeinfo>
 
 void Page::changeEvent(QEvent *event)
 {
@@ -51,6 +56,39 @@ void styleValues(std::initializer_list<QLabel *> labels)
     styleLabels(labels, style::font(10), style::GreyLabel);
     for (QLabel *label : labels)
         label->setMinimumWidth(1); // set by hand it takes the place of the text's own width
+    makeCopyable(labels);
+}
+
+QString copyText(const QLabel *label)
+{
+    if (label->hasSelectedText())
+        return label->selectedText();
+    if (!dynamic_cast<const DetailLabel *>(label))
+        return label->text();
+    const QString value = DetailLabel::parts(label->text()).value;
+    return value.mid(1).trimmed();
+}
+
+void makeCopyable(std::initializer_list<QLabel *> labels)
+{
+    for (QLabel *label : labels) {
+        if (label->contextMenuPolicy() == Qt::CustomContextMenu)
+            continue;
+        label->setContextMenuPolicy(Qt::CustomContextMenu);
+        if (typeid(*label) == typeid(QLabel)) {
+            label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+            label->setFocusPolicy(Qt::NoFocus); // a click leaves the keys where they were
+        }
+        QObject::connect(label, &QWidget::customContextMenuRequested, label, [label](const QPoint &place) {
+            auto *menu = new QMenu(label);
+            menu->setAttribute(Qt::WA_DeleteOnClose);
+            const QString text = copyText(label);
+            menu->addAction(QCoreApplication::translate("m_pSmartWgt", "Copy"),
+                            [text] { QGuiApplication::clipboard()->setText(text); })
+                ->setDisabled(text.isEmpty());
+            menu->popup(label->mapToGlobal(place));
+        });
+    }
 }
 
 void alignNames(std::initializer_list<QLabel *> labels)

@@ -122,6 +122,7 @@ void ScanDisk::styleCounters()
     pagelook::styleLabels({m_ui.DiskSizeLbl, m_ui.TotalBlkLbl, m_ui.BlockSizeLbl, m_ui.TimeElapsedLbl,
                            m_ui.TimeReLbl, m_ui.ProcessedVal, m_ui.BadBlkValLbl},
                           strongFont(), style::GreyLabel);
+    pagelook::makeCopyable({m_ui.ProcessedVal, m_ui.BadBlkValLbl});
     pagelook::styleHeadings({m_ui.ScanDiskLbl});
     images::setLabelImage(m_ui.BlueClrLbl, QStringLiteral("img_BlueLegend.png"));
     images::setLabelImage(m_ui.RedClrLBl, QStringLiteral("img_RedLegend.png"));

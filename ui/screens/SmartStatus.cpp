@@ -71,6 +71,8 @@ SmartStatus::SmartStatus(QWidget *parent) : Page(parent)
     pagelook::styleNames({m_ui.SerialNumberLbl, m_ui.InterfaceLbl, m_ui.CapacityLbl});
     pagelook::styleLabels({m_ui.SerialNunValueLbl, m_ui.InterfaceValLbl, m_ui.CapcityValLbl}, style::font(10),
                           style::GreyLabel);
+    pagelook::makeCopyable(
+        {m_ui.SerialNunValueLbl, m_ui.InterfaceValLbl, m_ui.CapcityValLbl, m_ui.SmartResultLabel});
     // White on white: they keep their room and show nothing.
     const QString unseen = style::label(style::colour::White);
     pagelook::styleLabels({m_ui.m_pHeadingLabel}, style::semiBold(12), unseen);
