@@ -12,7 +12,9 @@
 #include "update/HelpLinks.h"
 
 #include <QAction>
+#include <QFileDialog>
 #include <QMenu>
+#include <QMessageBox>
 #include <QScrollBar>
 #include <QTextEdit>
 #include <QtTest>
@@ -334,6 +336,22 @@ private slots:
         for (const char *caption : {"TrayChkBox", "LogChkBox", "logSizeLbl", "logSizeLbl_2", "WarningTemp"}) {
             const auto *shown = window.field<QWidget>(caption);
             QCOMPARE(shown->palette().color(shown->foregroundRole()), QColor(style::colour::Grey));
+        }
+    }
+
+    /// A dark system shows in none of our windows, nor in those of the toolkit.
+    void allWindowsAreLight()
+    {
+        QApplication::setPalette(QPalette(QColor(0x20, 0x20, 0x20)));
+        QApplication::setPalette(style::lightPalette());
+        const OpenSettings settings;
+        const QMessageBox box;
+        const QFileDialog files;
+        for (const QWidget *window : std::initializer_list<const QWidget *>{&settings, &box, &files}) {
+            QVERIFY(window->palette().color(QPalette::Window).lightness() > 240);
+            QVERIFY(window->palette().color(QPalette::Base).lightness() > 240);
+            QVERIFY(window->palette().color(QPalette::WindowText).lightness() < 110);
+            QVERIFY(window->palette().color(QPalette::Text).lightness() < 110);
         }
     }
 
