@@ -53,7 +53,11 @@ private slots:
             };
             QCOMPARE(shownTiles(), tiles);
             QCOMPARE(texts({"ResultLabel", "DriveVerdictValue"}), result + '|' + verdict);
-            QCOMPARE(child<QLabel>("ResultLabel")->styleSheet(), style::FailedLabel);
+            const QString sheet = disk == Failed ? style::FailedLabel : style::GreyLabel;
+            QCOMPARE(child<QLabel>("ResultLabel")->styleSheet(), sheet);
+            for (const char *tile : {"tempratureLbl", "PerformanceLbl", "HelthLable"})
+                QCOMPARE(child<QLabel>(tile)->property("imagePath").toString().contains("Unknown"),
+                         disk != Failed);
             for (const char *label : {"ResultLabel", "DriveVerdictValue"})
                 child<QLabel>(label)->setText(QStringLiteral("other language"));
             changeLanguage(m_pWindow.get());
@@ -68,7 +72,7 @@ private slots:
             waitForRest();
             QCOMPARE(g_nHealthPercent, 97);
             QCOMPARE(text("SmartResultLabel"), result);
-            QCOMPARE(child<QLabel>("SmartResultLabel")->styleSheet(), style::FailedLabel);
+            QCOMPARE(child<QLabel>("SmartResultLabel")->styleSheet(), sheet);
             QCOMPARE(g_pSmartChartView->isVisible(), disk == Failed);
         }
     }

@@ -111,7 +111,9 @@ void showResult(QLabel *label, OverallResult result)
                    : result == OverallResult::NotSupported
                        ? QCoreApplication::translate("MainWindow", "Not Supported")
                        : QCoreApplication::translate("MainWindow", "Failed"));
-    label->setStyleSheet(passed ? style::PassedLabel : style::FailedLabel);
+    label->setStyleSheet(passed                                  ? style::PassedLabel
+                         : result == OverallResult::NotSupported ? style::GreyLabel
+                                                                 : style::FailedLabel);
 }
 
 void styleCard(QFrame *frame)
