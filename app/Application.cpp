@@ -36,8 +36,6 @@ void substituteFonts()
                          : QStringList();
     QFont::insertSubstitutions(QStringLiteral("Segoe UI"),
                                QStringList{QStringLiteral("Open Sans")} + chinese);
-    QFont::insertSubstitutions(QStringLiteral("Segoe UI SemiBold"),
-                               QStringList{QStringLiteral("Open Sans SemiBold")} + chinese);
 }
 
 void setDefaults()

@@ -19,14 +19,6 @@
 namespace
 {
 
-/// The plain font in semibold, for captions.
-QFont strongFont()
-{
-    QFont font = style::font(10);
-    font.setWeight(QFont::DemiBold);
-    return font;
-}
-
 void styleChoice(QFrame *card, bool chosen)
 {
     card->setStyleSheet(QStringLiteral(".QFrame{background: %1; border: 1px solid %2; border-radius: %3px;}")
@@ -90,7 +82,7 @@ void ScanDisk::styleChooser()
     for (const auto &choice : choices) {
         pagelook::styleLabels({choice.text}, style::font(10), style::GreyLabel);
         choice.text->setContentsMargins(0, style::px(1), 0, style::px(2)); // for marks above and below
-        choice.radio->setFont(strongFont());
+        choice.radio->setFont(style::semiBold(10));
         tests->addButton(choice.radio);
         QFrame *card = choice.card;
         card->installEventFilter(this);
@@ -121,7 +113,7 @@ void ScanDisk::styleCounters()
                           style::GreyLabel);
     pagelook::styleLabels({m_ui.DiskSizeLbl, m_ui.TotalBlkLbl, m_ui.BlockSizeLbl, m_ui.TimeElapsedLbl,
                            m_ui.TimeReLbl, m_ui.ProcessedVal, m_ui.BadBlkValLbl},
-                          strongFont(), style::GreyLabel);
+                          style::semiBold(10), style::GreyLabel);
     pagelook::makeCopyable({m_ui.ProcessedVal, m_ui.BadBlkValLbl});
     pagelook::styleHeadings({m_ui.ScanDiskLbl});
     images::setLabelImage(m_ui.BlueClrLbl, QStringLiteral("img_BlueLegend.png"));
