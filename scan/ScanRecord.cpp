@@ -72,11 +72,12 @@ namespace scanrecord
 
 ScanRecord::End endOf(bool stopped, const QString &verdict, bool gone)
 {
+    // A disk that did not open counts as read to its end, so a stop at the last moment must not hide that.
+    if (verdict == QLatin1String("Failed") && !gone)
+        return ScanRecord::End::Failed;
     if (stopped)
         return ScanRecord::End::Stopped;
-    if (verdict == QLatin1String("Pass"))
-        return ScanRecord::End::Complete;
-    return gone ? ScanRecord::End::DiskGone : ScanRecord::End::Failed;
+    return gone ? ScanRecord::End::DiskGone : ScanRecord::End::Complete;
 }
 
 JobEnd jobEnd(ScanRecord::End end, qint64 badSectors)

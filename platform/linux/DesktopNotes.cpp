@@ -20,8 +20,9 @@ namespace
 /// Whether the session has a bus. If nobody has told of one, the library would start one.
 bool hasBus()
 {
-    return qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS") ||
-           QFileInfo::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + QLatin1String("/bus"));
+    const QString folder = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    return !qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS") ||
+           (!folder.isEmpty() && QFileInfo::exists(folder + QLatin1String("/bus")));
 }
 
 } // namespace
@@ -42,8 +43,9 @@ void showProgress(std::optional<int> percent)
 
 QStringList notifyArguments(const QString &title, const QString &text)
 {
-    // The second text may have markup, the first one not.
+    // The second text may have markup and escaped characters, the first one not.
     QString body = text;
+    body.replace(QLatin1Char('\\'), QLatin1String("\\\\"));
     body.replace(QLatin1Char('&'), QLatin1String("&amp;"));
     body.replace(QLatin1Char('<'), QLatin1String("&lt;"));
     return {QStringLiteral("--app-name=Velmora Halvane"), QStringLiteral("--icon=drive-harddisk"),

@@ -48,8 +48,8 @@ void notify(HWND window, const QString &title, const QString &text)
     icon.dwInfoFlags = NIIF_INFO;
     icon.hIcon = ::LoadIconW(::GetModuleHandleW(nullptr), L"IDI_ICON1");
     put(title, icon.szTip);
-    put(title, icon.szInfoTitle);
-    put(text, icon.szInfo);
+    put(text.isEmpty() ? QString() : title, icon.szInfoTitle);
+    put(text.isEmpty() ? title : text, icon.szInfo); // without a text there is no balloon
     if (!::Shell_NotifyIconW(NIM_ADD, &icon))
         ::Shell_NotifyIconW(NIM_MODIFY, &icon);
 }

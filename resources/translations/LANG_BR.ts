@@ -1114,7 +1114,7 @@
     </message>
     <message>
         <source>Average</source>
-        <translation>Médio</translation>
+        <translation>Média</translation>
     </message>
 </context>
 <context>

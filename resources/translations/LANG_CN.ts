@@ -1325,7 +1325,7 @@ Update failed due to partial download.</source>
     </message>
     <message>
         <source>Serial number:</source>
-        <translation>序列号：</translation>
+        <translation>序列号:</translation>
     </message>
     <message>
         <source>Date:</source>

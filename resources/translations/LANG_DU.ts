@@ -1114,7 +1114,7 @@
     </message>
     <message>
         <source>Average</source>
-        <translation>Matig</translation>
+        <translation>Gemiddeld</translation>
     </message>
 </context>
 <context>

@@ -1114,7 +1114,7 @@
     </message>
     <message>
         <source>Average</source>
-        <translation>Moyen</translation>
+        <translation>Moyenne</translation>
     </message>
 </context>
 <context>

@@ -1114,7 +1114,7 @@
     </message>
     <message>
         <source>Average</source>
-        <translation>Medio</translation>
+        <translation>Media</translation>
     </message>
 </context>
 <context>

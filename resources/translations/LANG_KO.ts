@@ -1333,7 +1333,7 @@ Update failed due to partial download.</source>
     </message>
     <message>
         <source>Scanned: the first %1 of %2 sectors</source>
-        <translation>검사함: 처음 %1/%2 섹터</translation>
+        <translation>검사 범위: 전체 %2개 섹터 중 처음 %1개</translation>
     </message>
     <message>
         <source>Result:</source>

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/clone/CloneFixture.h"
+#include "tests/platform/DescribedFolder.h"
 #include "tests/support/Files.h"
 
 #include <QElapsedTimer>
@@ -169,6 +170,31 @@ private slots:
         runClone();
         // Each sector that was written singly counts like a block, at the begin of the failed block.
         QCOMPARE(m_disks->positions.count(BlockSectors), int(BlockSectors - 1) / 3);
+    }
+
+    void clonesADescribedPc()
+    {
+        const DescribedFolder folder;
+        auto described = folder.open(R"({"pauses": false, "disks": [
+            {"number": 1, "sectors": 40000, "pastEnd": "fail", "badSectors": [7]},
+            {"number": 2, "sectors": 70000, "unwritable": [5000]}]})");
+        SimulatedPlatform &pc = *described;
+        Platform::install(std::move(described));
+        QVERIFY(QDir().mkpath(QFileInfo(pc.imageFile(Source)).path()));
+        QByteArray wanted = noise(Sectors, 1);
+        const QByteArray old = noise(70000, 2);
+        QVERIFY(writeFile(pc.imageFile(Source), wanted) && writeFile(pc.imageFile(Destination), old));
+        CloneDisks disks(Source, Sectors, Destination);
+        const CloneOutcome outcome = disks.clone();
+        QCOMPARE(outcome.end, CloneOutcome::End::WithErrors);
+        QCOMPARE(outcome.lost.unread.count(), 1);
+        QCOMPARE(outcome.lost.unwritten.count(), 1);
+        wanted.replace(7 * SectorSize, SectorSize, QByteArray(SectorSize, '\0'));
+        wanted.replace(5000 * SectorSize, SectorSize, old.mid(5000 * SectorSize, SectorSize));
+        // The last block was not read as a whole, so what lies behind it stays.
+        wanted += old.mid(wanted.size(), 1000 * SectorSize);
+        QVERIFY(contentOf(pc.imageFile(Destination)).startsWith(wanted));
+        QCOMPARE(contentOf(pc.stateFolder() + QStringLiteral("/commands.log")).count('\n'), 5);
     }
 
 private:

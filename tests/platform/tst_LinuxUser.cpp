@@ -105,8 +105,8 @@ private slots:
     /// The desktop would take the second text for markup, and both for options.
     void notice()
     {
-        QCOMPARE(desktopnotes::notifyArguments("-t", "<a href='x'>&").mid(2),
-                 (QStringList{"--", "-t", "&lt;a href='x'>&amp;"}));
+        QCOMPARE(desktopnotes::notifyArguments("-t", "<a href='x'>&\\n").mid(2),
+                 (QStringList{"--", "-t", "&lt;a href='x'>&amp;\\\\n"}));
     }
 
 private:

@@ -254,6 +254,9 @@ private slots:
         QCOMPARE(sectorsOf(g_BadSectors), (QVector<qint64>{40000, 40020}));
         QVERIFY(map()->position() > 0 && map()->position() < SlowSectors);
         QVERIFY(!g_bListsLoading);
+        // The box offers the list: the results go with the disk.
+        save(m_strState + QStringLiteral("/gone.map"), 1, child<InfoDialogClass>("m_pResultBox"));
+        QVERIFY(contentOf(m_strState + QStringLiteral("/gone.map")).contains("  ?\n"));
         closeResult();
         QVERIFY(g_bListsLoading);
         waitForRest();
@@ -342,7 +345,8 @@ private:
     }
 
     /// Saves the list under that path as that kind of file; gives the name that was offered.
-    QString save(const QString &path, int format) const
+    /// By the result box, else by the button of the page.
+    QString save(const QString &path, int format, InfoDialogClass *box = nullptr) const
     {
         QString offered;
         QTimer::singleShot(0, this, [&] {
@@ -353,7 +357,9 @@ private:
             name->setText(path);
             question->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Save)->click();
         });
-        QTest::keyClick(child<QPushButton>("m_pSaveListButton"), Qt::Key_Space);
+        const auto *parent = box ? static_cast<QWidget *>(box) : m_pWindow.get();
+        const QString name = box ? QStringLiteral("SaveButton") : QStringLiteral("m_pSaveListButton");
+        QTest::keyClick(parent->findChild<QPushButton *>(name), Qt::Key_Space);
         return offered;
     }
 

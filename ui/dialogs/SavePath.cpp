@@ -36,11 +36,12 @@ QString askForPath(QWidget *parent, const QString &title, const QString &name,
         filters << format.filter;
     const QString all = filters.join(QLatin1String(";;"));
     QString filter;
-    const QString chosen = QFileDialog::getSaveFileName(parent, title, name, all, &filter);
-    const QString path = completed(chosen, name, formats, filter);
-    if (path == chosen || !QFileInfo::exists(path))
-        return path;
-    // The dialog has asked about the name without its ending only.
-    const QString again = QFileDialog::getSaveFileName(parent, title, path, all, &filter);
-    return formats.size() == 1 ? again : completed(again, name, formats, filter);
+    QString path = name;
+    for (;;) {
+        const QString chosen = QFileDialog::getSaveFileName(parent, title, path, all, &filter);
+        path = completed(chosen, name, formats, filter);
+        // The dialog has asked about the name without its ending only.
+        if (path == chosen || !QFileInfo::exists(path))
+            return path;
+    }
 }

@@ -190,6 +190,7 @@ void CloneDisk::StartClone()
     m_ui.TimeLabel->clear();
     showRunning(true);
     m_pRoundProgressBar->SetValue(0);
+    m_pRoundProgressBar->setAccessibleDescription(clonemessages::gaugeText(0));
     emit Progressed(0);
     m_cloneThread.start(QThread::InheritPriority);
 }

@@ -152,6 +152,7 @@ void DiskStatus::clearDisk()
         showPicture(tile, TilePicture::Good);
     for (QLabel *tile : {m_ui.tempratureLbl, m_ui.PerformanceLbl, m_ui.HelthLable})
         tile->setAccessibleDescription(QString());
+    m_aePictures.fill(TilePicture::Same);
 }
 
 void DiskStatus::showPicture(Tile tile, TilePicture picture)

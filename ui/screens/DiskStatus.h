@@ -47,5 +47,5 @@ private:
     void addLines();
 
     Ui::m_pDiskStatus m_ui;
-    std::array<TilePicture, 3> m_aePictures{}; ///< by Tile
+    std::array<TilePicture, 3> m_aePictures{}; ///< by Tile; Same: nothing is told of it
 };

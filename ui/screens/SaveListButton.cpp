@@ -38,7 +38,7 @@ void SaveListButton::save()
                    {{QStringLiteral("*.txt"), scanrecord::ListEnding},
                     {QStringLiteral("*.map"), scanrecord::MapEnding}});
     // The results may have been dropped while the dialog was open.
-    if (path.isEmpty() || !isEnabled() || scanrecord::save(path, m_record, g_BadSectors))
+    if (path.isEmpty() || (isEnabled() && scanrecord::save(path, m_record, g_BadSectors)))
         return;
     if (!m_pFailedBox)
         m_pFailedBox = pagelook::named(new InfoDialogClass(window()), "m_pFailedBox");

@@ -24,12 +24,13 @@ public:
     void end(ScanRecord::End how);
     /// There is nothing to be saved.
     void forget() { begin({}); }
+    /// Asks for a file, and writes it.
+    void save();
 
 protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    void save();
     void retranslate();
 
     ScanRecord m_record;

@@ -50,6 +50,7 @@ ScanDisk::ScanDisk(QWidget *parent) : Page(parent)
     m_pResultBox = pagelook::named(new InfoDialogClass(window()), "m_pResultBox");
     connect(m_pResultBox, &MessageDialog::dismissed, this, &ScanDisk::OnResultRead);
     connect(m_pResultBox, &QDialog::rejected, this, &ScanDisk::OnResultRead);
+    connect(m_pResultBox, &MessageDialog::confirmed, m_pSaveListButton, &SaveListButton::save);
     connect(&m_scanThread, &QScanDriveThread::ExactBadSectorCount, this, &ScanDisk::OnExactBadSectorCount);
     connect(&m_scanThread, &QScanDriveThread::MaximumBadBlockScanProgress, this,
             &ScanDisk::ScanMaxProgressForDisk);
@@ -209,6 +210,7 @@ void ScanDisk::PrepareMap(const DiskNode *pNode)
     g_nMapStep = 0;
     m_pGridView->show();
     m_pGridView->SetRange(0, g_nMapTotalSectors);
+    describeMap();
 }
 
 void ScanDisk::StartScan(const QString &name)
@@ -244,7 +246,6 @@ void ScanDisk::StartScan(const QString &name)
 void ScanDisk::DropResults()
 {
     clearTimes();
-    clearCounts();
     m_pSaveListButton->forget();
     m_pGridView->Reset();
     m_bDropped = g_Jobs.runs(JobState::Job::Scan);
@@ -254,6 +255,7 @@ void ScanDisk::DropResults()
         g_BadSectors.clear();
         g_nBlockStep = 0;
     }
+    clearCounts();
 }
 
 void ScanDisk::clearTimes()
@@ -357,6 +359,8 @@ void ScanDisk::showResult(const QString &verdict)
                                g_bScanDiskGone ? tr("The disk is no longer connected.") : QString());
     else
         return;
+    // A disk that was pulled out goes from the lists when the box is closed, and its results with it.
+    m_pResultBox->OfferSaving(!g_bAbortJob && g_bScanDiskGone && m_pSaveListButton->isEnabled());
     CentreResult();
     m_pResultBox->show();
 }

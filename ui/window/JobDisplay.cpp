@@ -2,13 +2,14 @@
 #include "ui/window/JobDisplay.h"
 
 #include "platform/Platform.h"
+#include "state/JobState.h"
 
 #include <QApplication>
 #include <QWidget>
 
 void JobDisplay::show(std::optional<int> percent)
 {
-    if (percent == m_percent)
+    if (percent == m_percent && m_pWindow->windowTitle() == m_strShown)
         return;
     m_percent = percent;
     // A change of the language puts the plain title back.
@@ -21,7 +22,8 @@ void JobDisplay::show(std::optional<int> percent)
 
 void JobDisplay::tellEnd(const JobEnd &end)
 {
-    show(std::nullopt);
+    if (!g_Jobs.holdsDisks())
+        show(std::nullopt);
     const bool inFront = QApplication::activeWindow() && !m_pWindow->isMinimized();
     const auto notice = jobnotices::notice(end, inFront);
     if (!notice)

@@ -5,6 +5,7 @@
 #include "ui/widgets/Images.h"
 #include "ui/widgets/Style.h"
 
+#include <array>
 #include <initializer_list>
 
 namespace
@@ -89,10 +90,10 @@ void MainWindow::showCentred(QWidget *dialog)
 void MainWindow::callShowSlot(Screen screen)
 {
     using Slot = void (MainWindow::*)();
-    static constexpr Slot table[navigation::ScreenCount] = {
+    constexpr std::array<Slot, navigation::ScreenCount> table = {
         &MainWindow::OnShowDiskStatus, &MainWindow::OnShowSmartStatus, &MainWindow::OnShowDiskPartition,
         &MainWindow::OnShowScanDisk, &MainWindow::OnShowCloneDisk};
-    (this->*table[screen])();
+    (this->*table.at(screen))();
 }
 
 void MainWindow::showScreen(Screen screen)

@@ -105,9 +105,10 @@ void MainWindow::CheckShortTestStatus1()
     for (const SelfTest::Step &step : tick.steps)
         takeTestStep(step);
     const SelfTest::Shown &shown = m_selfTest.shown();
-    if (shown.status && g_Jobs.runs(Job::SelfTest))
+    // A clone beside a test whose screen was left has title and task bar to itself.
+    if (shown.status && g_Jobs.runs(Job::SelfTest) && !g_Jobs.holdsDisks())
         m_jobDisplay.show(shown.percent);
-    else if (shown.status)
+    else if (shown.status && !g_Jobs.runs(Job::SelfTest))
         m_jobDisplay.tellEnd(selftest::jobEnd(*shown.status));
     m_pScanDiskPage->TellSelfTest(shown);
 }
@@ -129,6 +130,8 @@ void MainWindow::leaveTest()
 {
     m_pConfirmation->hide();
     m_pTestTimer->stop();
+    if (!g_Jobs.holdsDisks())
+        m_jobDisplay.show(std::nullopt);
     enableNavigation();
     showTestButtons(false);
 }
