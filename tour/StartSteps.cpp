@@ -10,7 +10,6 @@ namespace
 
 const QString SplashClass = QStringLiteral("QWaitClass");
 const QString MainWindowClass = QStringLiteral("MainWindow");
-const QString BusyFrame = QStringLiteral("GifFrame");
 
 /// The splash fades in; its picture is taken when it is fully visible.
 void seeSplash(Walk &walk)
@@ -25,9 +24,6 @@ void seeSplash(Walk &walk)
 void reachMainWindow(Walk &walk)
 {
     walk.waitForWindow(MainWindowClass);
-    // The first read may have ended already.
-    if (walk.program().ask([]() { return windows::child(windows::byClass(MainWindowClass), BusyFrame); }))
-        walk.record(QStringLiteral("busy"));
     walk.waitIdle();
     walk.sweepDialogs();
 }
