@@ -96,7 +96,7 @@ void QWaitClass::styleBrand()
         return;
     }
     place(SplaceCoptLabel, QRect(1, 212, 448, 20));
-    SplaceCoptLabel->setText(SettingsStore().text(key::SCopyrightText));
+    SplaceCoptLabel->setText(SettingsStore().textOrFirst(key::SCopyrightText));
     SplaceCoptLabel->setFont(style::font(8));
     place(InitTextLabel, QRect(1, 177, 448, 20));
 }

@@ -49,3 +49,28 @@ function(halvane_add_floor library)
         target_sources(${library} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR}/${file})
     endforeach()
 endfunction()
+
+# halvane_add_resource(<program>): icon, version and manifest of a program for Windows. The language RC has to be enabled.
+function(halvane_add_resource program)
+    set(HALVANE_PROGRAM ${program})
+    set(HALVANE_FILE_VERSION ${PROJECT_VERSION})
+    string(REPLACE "." "," HALVANE_FILE_VERSION_WORDS ${HALVANE_FILE_VERSION})
+    set(HALVANE_ICON ${CMAKE_BINARY_DIR}/images/VelmoraHalvane.ico)
+    set(HALVANE_MANIFEST ${CMAKE_CURRENT_BINARY_DIR}/${program}.manifest)
+    configure_file(${CMAKE_SOURCE_DIR}/packaging/windows/VelmoraHalvane.manifest ${HALVANE_MANIFEST} @ONLY)
+    set(resource ${CMAKE_CURRENT_BINARY_DIR}/${program}.rc)
+    configure_file(${CMAKE_SOURCE_DIR}/packaging/windows/VelmoraHalvane.rc.in ${resource} @ONLY)
+    target_sources(${program} PRIVATE ${resource})
+    set_property(SOURCE ${resource} PROPERTY OBJECT_DEPENDS "${HALVANE_ICON};${HALVANE_MANIFEST}")
+    # The icon is drawn with the images.
+    add_dependencies(${program} halvane_images)
+endfunction()
+
+# halvane_install_link(<name> <file>): what is typed to start a file of the program's folder. The file finds its folder
+# through the link.
+function(halvane_install_link name file)
+    set(link ${CMAKE_CURRENT_BINARY_DIR}/link/${name})
+    file(MAKE_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR}/link)
+    file(CREATE_LINK ../${HALVANE_HOME}/${file} ${link} SYMBOLIC)
+    install(FILES ${link} DESTINATION ${CMAKE_INSTALL_BINDIR})
+endfunction()

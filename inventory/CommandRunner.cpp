@@ -10,17 +10,36 @@
 #include <QTextCodec>
 #include <QTextStream>
 
-void RunSilent(const char *strFunct, const char *strstrParams)
+#include <algorithm>
+#include <utility>
+
+namespace
 {
-    Platform &platform = Platform::current();
-    const QByteArray line = platform.CommandInterpreter() + " /c " + strFunct + ' ' + strstrParams;
+
+/// The line as the process creation gets it; empty if it is too long.
+std::wstring lineOf(const char *strFunct, const char *strstrParams)
+{
+    const QByteArray line = Platform::current().CommandInterpreter() + " /c " + strFunct + ' ' + strstrParams;
     if (line.size() >= runner::WideBuffer) {
         qCDebug(logs::inventory) << "too long to be run, bytes:" << line.size();
-        return;
+        return {};
     }
     qCDebug(logs::inventory) << "runs, bytes:" << line.size() << strFunct;
     // Each byte becomes one character of the same value: a UTF-8 sequence is not decoded.
-    platform.CreateProcessAndWait(QString::fromLatin1(line).toStdWString(), true);
+    return QString::fromLatin1(line).toStdWString();
+}
+
+thread_local runner::Limits *limitsInForce = nullptr;
+
+} // namespace
+
+void RunSilent(const char *strFunct, const char *strstrParams)
+{
+    const std::wstring line = lineOf(strFunct, strstrParams);
+    if (!line.empty() && limitsInForce)
+        limitsInForce->run(line);
+    else if (!line.empty())
+        Platform::current().CreateProcessAndWait(line, true);
 }
 
 void RunSilent(const QString &command)
@@ -65,11 +84,34 @@ QString decoded(const QByteArray &bytes)
 namespace runner
 {
 
+Limits::Limits(qint32 milliseconds, std::function<bool()> mayGoOn)
+    : m_milliseconds(milliseconds), m_mayGoOn(std::move(mayGoOn))
+{
+    limitsInForce = this;
+}
+
+Limits::~Limits()
+{
+    limitsInForce = nullptr;
+}
+
+void Limits::run(const std::wstring &line)
+{
+    m_reached =
+        m_reached || !Platform::current().CreateProcessAndWaitFor(line, m_milliseconds, m_mayGoOn, true);
+}
+
 QString freshTempFile(const QString &name)
 {
     const QString path = tempFile(name);
     QFile::remove(nativePath(path));
     return path;
+}
+
+bool runWithin(const QString &command, qint32 milliseconds, const std::function<bool()> &mayGoOn)
+{
+    const std::wstring line = lineOf(command.toUtf8().constData(), "");
+    return !line.empty() && Platform::current().CreateProcessAndWaitFor(line, milliseconds, mayGoOn, true);
 }
 
 QString runFresh(const QString &name, const std::function<QString(const QString &path)> &compose)
@@ -89,8 +131,9 @@ bool readOutput(const QString &path, const OutputReader &read, After after)
         qCDebug(logs::inventory) << "the tool left nothing:" << native;
         return false;
     }
-    QString text = plaintext::lines(
-        decoded(file.read(ownfiles::MostBytes)).replace(QLatin1String("\r\n"), QLatin1String("\n")));
+    // QFile::read() reserves memory for as much as it is asked for.
+    const QByteArray bytes = file.read(std::min(file.size(), ownfiles::MostBytes));
+    QString text = plaintext::lines(decoded(bytes).replace(QLatin1String("\r\n"), QLatin1String("\n")));
     file.close();
     QTextStream stream(&text, QIODevice::ReadOnly);
     read(stream);

@@ -4,10 +4,12 @@
 #include <QString>
 
 #include <functional>
+#include <string>
 
 class QTextStream;
 
-/// The one way to run a command-line tool: hidden, through the command interpreter, without a time limit.
+/// The one way to run a command-line tool: hidden, through the command interpreter, without a time limit
+/// where there are no runner::Limits.
 /// What a tool has to say it leaves in a temp file. Returns when the command has ended or could not be
 /// started; the two look the same. Runs on the calling thread and blocks it; any thread may call it.
 ///
@@ -38,6 +40,30 @@ using OutputReader = std::function<void(QTextStream &stream)>;
 
 /// tempFile() with a left-over of that name removed, as commands append to their file.
 QString freshTempFile(const QString &name);
+
+/// While it lives, each RunSilent() of this thread has limits, see Platform::CreateProcessAndWaitFor(); once
+/// a command was ended, no further one is started. One at a time for each thread.
+class Limits
+{
+public:
+    Limits(qint32 milliseconds, std::function<bool()> mayGoOn);
+    ~Limits();
+    Limits(const Limits &) = delete;
+    Limits &operator=(const Limits &) = delete;
+
+    /// Whether a command was ended, or did not start.
+    bool wereReached() const { return m_reached; }
+    void run(const std::wstring &line);
+
+private:
+    const qint32 m_milliseconds;
+    const std::function<bool()> m_mayGoOn;
+    bool m_reached = false;
+};
+
+/// RunSilent() with limits, see Platform::CreateProcessAndWaitFor(): false if the command did not start or
+/// was ended.
+bool runWithin(const QString &command, qint32 milliseconds, const std::function<bool()> &mayGoOn);
 
 /// Makes a fresh temp file, asks `compose` for the command that uses its path, runs it, and returns the path.
 /// An empty command is not run.

@@ -16,6 +16,14 @@ namespace
 {
 const QString TaskListFile = QStringLiteral("\\tmpFile");
 const QString FirstBrand = QStringLiteral("VelmoraSMART.exe");
+
+/// Whether the user has ended the companion in this logon.
+bool isEnded()
+{
+    const QString logon = SettingsStore().text(key::TrayQuit);
+    return !logon.isEmpty() && logon == Platform::current().LogonMark();
+}
+
 } // namespace
 
 QString fileName()
@@ -49,8 +57,27 @@ void start()
 
 void ensureRunning()
 {
-    if (check() == State::NotRunning)
+    if (check() == State::NotRunning && !isEnded())
         start();
+}
+
+void startAgain()
+{
+    kill();
+    if (!isEnded())
+        start();
+}
+
+void takeQuitBack()
+{
+    SettingsStore store;
+    if (!store.text(key::TrayQuit).isEmpty())
+        store.write(key::TrayQuit, QString());
+}
+
+void markEnded()
+{
+    SettingsStore().write(key::TrayQuit, Platform::current().LogonMark());
 }
 
 void kill()
@@ -69,6 +96,7 @@ void setWanted(bool wanted)
         task.program = QCoreApplication::applicationDirPath() + QLatin1Char('/') + fileName();
         task.arguments = QStringLiteral("Schedular");
         Platform::current().CreateLogonTask(task);
+        takeQuitBack();
         ensureRunning();
     }
     store.write(key::ShowTrayIcon, wanted ? 1 : 0);

@@ -26,8 +26,17 @@ State check();
 /// Starts the companion beside the application: by its name alone, any folder could offer one.
 void start();
 
-/// check(), and start() where it does not run.
+/// check(), and start() where it does not run and the user has not ended it since the logon.
 void ensureRunning();
+
+/// kill() and start(), so that it comes up in another language; not where the user has ended it.
+void startAgain();
+
+/// Remembers that the user has ended it, until the next logon.
+void markEnded();
+
+/// Forgets that.
+void takeQuitBack();
 
 /// The kill command of the settings and of a language change.
 void kill();

@@ -14,6 +14,8 @@ namespace
 
 constexpr quint32 DescriptorSize = 1024; ///< room for what a drive says of itself, a zero at the end
 
+ReadObserver readObserver;
+
 bool transfer(Platform::RawHandle handle, quint64 sector, void *buffer, quint32 byteCount, bool write,
               quint32 *transferred)
 {
@@ -57,9 +59,16 @@ bool ReadWriteSectors(int driveCode, quint64 sector, void *buffer, quint32 byteC
     if (!done)
         qCDebug(logs::inventory) << (write ? "not written:" : "not read:") << diskName(driveCode) << "sector"
                                  << sector << "bytes" << byteCount;
+    else if (!write && readObserver)
+        readObserver(driveCode, sector, buffer, moved);
     if (transferred)
         *transferred = moved;
     return done;
+}
+
+void observeReads(ReadObserver observer)
+{
+    readObserver = std::move(observer);
 }
 
 DiskMark DiskMarkOf(Platform::RawHandle handle)

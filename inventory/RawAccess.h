@@ -3,6 +3,8 @@
 
 #include "platform/Platform.h"
 
+#include <functional>
+
 /// Raw access to disks and volumes. A target is named by its drive code: 128 + N is physical disk N, a code
 /// below 128 a drive letter, 0 for A. Sectors are of 512 bytes whatever the disk reports. Any thread may
 /// call.
@@ -26,6 +28,10 @@ Platform::RawHandle OpenDisk(int driveCode);
 bool ReadWriteSectors(int driveCode, quint64 sector, void *buffer, quint32 byteCount,
                       Platform::RawHandle handle = NoDiskHandle, bool write = false,
                       quint32 *transferred = nullptr);
+
+/// Gets what was read by ReadWriteSectors(). To be set while nothing is read; null takes it away.
+using ReadObserver = std::function<void(int driveCode, quint64 sector, const void *bytes, quint32 count)>;
+void observeReads(ReadObserver observer);
 
 /// What tells one disk from another.
 struct DiskMark {

@@ -72,7 +72,7 @@ void nameFromTable(WmicDiskRecord &record, const QString &name)
 }
 
 /// Asks the system for the serials of the disks that did not tell theirs.
-void addMissingSerials()
+void addMissingSerials(const QString &tempName)
 {
     QVector<WmicDiskRecord *> nameless;
     for (WmicDiskRecord &record : g_wmicDisks) {
@@ -82,7 +82,7 @@ void addMissingSerials()
     if (nameless.isEmpty())
         return;
     runner::runAndRead(
-        wmicCommand("diskdrive get Index,SerialNumber"), DiskInfoFile, [&nameless](QTextStream &stream) {
+        wmicCommand("diskdrive get Index,SerialNumber"), tempName, [&nameless](QTextStream &stream) {
             QHash<quint32, QString> serials;
             eachDataLine(stream, QLatin1String("Index"), [&serials](const QString &line) {
                 const QStringList fields = fieldsOf(line);
@@ -127,10 +127,10 @@ bool readLogicalDisks(QTextStream &stream)
 
 } // namespace
 
-void LoadDiskDrives(const IdentityProbe &probe)
+void LoadDiskDrives(const IdentityProbe &probe, const QString &tempName)
 {
     const QString command = wmicCommand("diskdrive get Model,InterfaceType,Status,Index");
-    runner::runAndRead(command, DiskInfoFile, [&probe](QTextStream &stream) {
+    runner::runAndRead(command, tempName, [&probe](QTextStream &stream) {
         g_wmicDisks.clear();
         // A blank line makes a record too: lists that go by the table's lines count it.
         eachDataLine(stream, QLatin1String("Index"), [&probe](const QString &text) {
@@ -150,7 +150,23 @@ void LoadDiskDrives(const IdentityProbe &probe)
             nameFromTable(record, line.name);
         });
     });
-    addMissingSerials(); // into the same file
+    addMissingSerials(tempName); // into the same file
+}
+
+QHash<int, DiskMedium> LoadDiskMedia(const QString &tempName)
+{
+    QHash<int, DiskMedium> media;
+    const auto take = [&media](const QString &line) {
+        const QStringList fields = fieldsOf(line);
+        const bool isRemovable =
+            line.contains(QLatin1String("Removable")) || line.contains(QLatin1String("External"));
+        // Where the size is missing, the last field is a word.
+        if (fields.size() > 1)
+            media.insert(fields.first().toInt(), {fields.last().toLongLong(), isRemovable});
+    };
+    runner::runAndRead(wmicCommand("diskdrive get Index,MediaType,Size"), tempName,
+                       [&take](QTextStream &stream) { eachDataLine(stream, QLatin1String("Index"), take); });
+    return media;
 }
 
 void LoadLogicalDisks()

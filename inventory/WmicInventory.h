@@ -3,6 +3,7 @@
 
 #include "state/DiskRecords.h"
 
+#include <QHash>
 #include <QString>
 #include <QVector>
 
@@ -21,8 +22,17 @@ using IdentityProbe = std::function<ProbedIdentity(int diskIndex, const QString 
 /// Rebuilds the list g_wmicDisks from the system's disk table, asking `probe` for each disk. A
 /// blank line makes a record of no disk. A disk whose report names no model or serial gets those that the
 /// system knows. If the table cannot be read, the old list stays. Device-load threads only, after the list of
-/// the physical disks.
-void LoadDiskDrives(const IdentityProbe &probe);
+/// the physical disks. The tables come in a temp file of that name, which no other process may use.
+void LoadDiskDrives(const IdentityProbe &probe, const QString &tempName = QStringLiteral("DiskInfo.txt"));
+
+/// What the system's disk table tells of a disk besides.
+struct DiskMedium {
+    qint64 bytes = 0; ///< whole cylinders; 0: not told
+    bool isRemovable = false;
+};
+
+/// The same of all disks that have a medium, by number; empty where the table cannot be had.
+QHash<int, DiskMedium> LoadDiskMedia(const QString &tempName);
 
 /// Rebuilds the list g_logicalDisks from the system's volume table. Where the table cannot be had
 /// the old list stays. Device-load threads only.

@@ -14,6 +14,8 @@
 namespace
 {
 
+constexpr int WrongDescription = 4; ///< exit code; the companion's lower ones tell of disks
+
 std::mutex chooseMutex;
 std::unique_ptr<Platform> owner;
 std::atomic<Platform *> chosen{nullptr};
@@ -29,7 +31,7 @@ std::unique_ptr<Platform> choose()
         std::fprintf(stderr, "VelmoraHalvane: %s\n", error.toLocal8Bit().constData());
         std::fflush(nullptr);
         // Not exit(): half of the program may be up, and its clean-up would add lines of its own.
-        std::_Exit(2);
+        std::_Exit(WrongDescription);
     }
     return platform;
 }

@@ -42,8 +42,8 @@ bool mayAsk(const Job &job, const QUrl &url)
     if (job.reach == Reach::ThisPc && !here)
         return false;
     // Others could change what comes by plain http, so it is allowed only within this PC.
-    return url.scheme() == QLatin1String("https") ||
-           (url.scheme() == QLatin1String("http") && here && isThisPc(job.url));
+    const bool plain = isThisPc(job.url) && (!job.limits.onlyHttps || job.reach == Reach::ThisPc);
+    return url.scheme() == QLatin1String("https") || (url.scheme() == QLatin1String("http") && here && plain);
 }
 
 /// Not a QSaveFile: its file has no known name until the end, but the progress bar watches the file grow.
@@ -66,7 +66,7 @@ bool isWhole(const QNetworkReply &reply, qint64 size)
     return announced(reply) < 0 || announced(reply) == size;
 }
 
-QNetworkRequest requestFor(const Job &job)
+QNetworkRequest requestFor(const Job &job, qint64 begin)
 {
     QNetworkRequest request(job.url);
     request.setTransferTimeout(std::min<int>(job.limits.milliseconds, SilenceMs));
@@ -75,33 +75,99 @@ QNetworkRequest requestFor(const Job &job)
     request.setMaximumRedirectsAllowed(MostRedirects);
     // A compressed answer would announce another length than the file's.
     request.setRawHeader("Accept-Encoding", "identity");
+    if (begin > 0)
+        request.setRawHeader("Range", "bytes=" + QByteArray::number(begin) + '-');
     return request;
 }
 
+/// The bytes of the answers so far, in the file with ".part" behind its name.
+class Part
+{
+public:
+    explicit Part(const Job &job) : m_job(job), m_file(job.path + QLatin1String(".part")) {}
+
+    bool open()
+    {
+        const QIODevice::OpenMode mode = m_job.limits.resumes ? QIODevice::Append : QIODevice::Truncate;
+        const bool opened = m_file.open(QIODevice::WriteOnly | QIODevice::Unbuffered | mode);
+        m_begin = m_file.size();
+        return opened;
+    }
+
+    qint64 begin() const { return m_begin; }
+    bool isComplete() const { return m_job.limits.resumes && m_begin == m_job.limits.bytes; }
+
+    /// False if the answer is too long.
+    bool take(QNetworkReply *reply)
+    {
+        const QByteArray bytes = reply->readAll();
+        const int status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+        if (status < 200 || status > 299) {
+            m_ignored += bytes.size(); // the text of an error, or of a redirection
+            return m_ignored <= m_job.limits.bytes;
+        }
+        if (status != 206 && m_begin > 0) {
+            m_begin = 0; // the server begins anew
+            m_written = m_file.resize(0) && m_written;
+        }
+        const qint64 coming = announced(*reply) < 0 ? 0 : m_begin + announced(*reply);
+        if (std::max(coming, m_file.size() + bytes.size()) > m_job.limits.bytes)
+            return false;
+        m_written = m_written && m_file.write(bytes) == bytes.size();
+        return true;
+    }
+
+    /// The answer has ended well; null if nothing was asked, because all was there.
+    qint32 finish(const QNetworkReply *reply)
+    {
+        const bool whole = m_written && (!reply || isWhole(*reply, m_file.size() - m_begin));
+        return whole && replace(&m_file, m_job.path) ? 0 : breakOff(resultDownloadFailure);
+    }
+
+    qint32 breakOff(qint32 result)
+    {
+        if (!m_job.limits.resumes)
+            m_file.remove();
+        return result;
+    }
+
+    qint32 drop()
+    {
+        m_file.remove();
+        return Platform::DownloadRefused;
+    }
+
+private:
+    const Job &m_job;
+    QFile m_file;
+    qint64 m_begin = 0; ///< of the answer that is being taken
+    qint64 m_ignored = 0;
+    bool m_written = true;
+};
+
 qint32 load(const Job &job)
 {
-    QFile file(job.path + QLatin1String(".part"));
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered))
+    Part part(job);
+    if (!part.open())
         return resultDownloadFailure;
+    if (part.isComplete())
+        return part.finish(nullptr);
     QNetworkAccessManager manager;
     // A request to this PC must not go through a proxy.
     if (isThisPc(job.url))
         manager.setProxy(QNetworkProxy::NoProxy);
     QEventLoop loop;
-    bool written = true;
     bool refused = false;
-    const std::unique_ptr<QNetworkReply> reply(manager.get(requestFor(job)));
+    bool late = false;
+    const std::unique_ptr<QNetworkReply> reply(manager.get(requestFor(job, part.begin())));
     reply->setReadBufferSize(BufferBytes);
     const auto refuse = [&] {
         refused = true;
         loop.quit();
     };
     const auto take = [&] {
-        const QByteArray bytes = reply->readAll();
-        if (std::max(announced(*reply), file.size() + bytes.size()) > job.limits.bytes)
+        if (!part.take(reply.get()))
             refuse();
-        else
-            written = written && file.write(bytes) == bytes.size();
     };
     QObject::connect(reply.get(), &QNetworkReply::readyRead, &loop, take);
     QObject::connect(reply.get(), &QNetworkReply::metaDataChanged, &loop, take);
@@ -112,20 +178,20 @@ qint32 load(const Job &job)
             refuse();
     });
     QObject::connect(reply.get(), &QNetworkReply::finished, &loop, &QEventLoop::quit);
-    QTimer::singleShot(job.limits.milliseconds, &loop, refuse);
+    QTimer::singleShot(job.limits.milliseconds, &loop, [&] {
+        late = true;
+        loop.quit();
+    });
     if (!reply->isFinished())
         loop.exec();
-    if (!refused && reply->error() == QNetworkReply::NoError)
-        take();
-    if (refused || reply->error() != QNetworkReply::NoError) {
-        file.remove();
-        return refused ? Platform::DownloadRefused : resultNotFound;
-    }
-    if (!written || !isWhole(*reply, file.size()) || !replace(&file, job.path)) {
-        file.remove();
-        return resultDownloadFailure;
-    }
-    return 0;
+    if (!refused && !late)
+        take(); // what came before an error counts, too
+    if (refused)
+        return part.drop();
+    if (late)
+        return job.limits.resumes ? resultNotFound : part.drop();
+    return reply->error() == QNetworkReply::NoError ? part.finish(reply.get())
+                                                    : part.breakOff(resultNotFound);
 }
 
 } // namespace

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/Inventory.h"
 #include "platform/Platform.h"
 #include "platform/tools/CommandInterpreter.h"
 #include "platform/tools/Diskpart.h"
@@ -16,6 +15,7 @@ public:
     quint32 GetDriveTypeW(const QString &root) override;
     bool GetDiskFreeSpaceExW(const QString &root, quint64 *totalBytes, quint64 *freeBytes) override;
 
+    inventory::Machine Machine() override { return machine(); }
     bool CreateProcessAndWait(const std::wstring &line, bool hidden) override;
     QString GetSystemDirectoryW() override;
     std::optional<DeviceChange> decodeDeviceMessage(const QByteArray &eventType, void *message) override;

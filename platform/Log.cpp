@@ -11,5 +11,6 @@ Q_LOGGING_CATEGORY(smart, "halvane.smart", QtWarningMsg)
 Q_LOGGING_CATEGORY(scan, "halvane.scan", QtWarningMsg)
 Q_LOGGING_CATEGORY(clone, "halvane.clone", QtWarningMsg)
 Q_LOGGING_CATEGORY(update, "halvane.update", QtWarningMsg)
+Q_LOGGING_CATEGORY(monitor, "halvane.monitor", QtWarningMsg)
 
 } // namespace logs

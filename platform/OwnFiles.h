@@ -27,6 +27,19 @@ bool makeFile(QFile *file, const QString &path);
 /// stays then. On Linux root goes through no link of another user on the way there either.
 bool saveFile(const QString &path, const QByteArray &bytes);
 
+/// The same with the rest of an open file before `bytes`, which is copied in pieces. Closes that file.
+bool saveFile(const QString &path, QFile *rest, const QByteArray &bytes);
+
+/// Writes the rest of an open file, if there is one, and then `bytes`. Closes that file.
+bool writeAll(QIODevice *to, QFile *rest, const QByteArray &bytes);
+
+/// Whether another program keeps a file that is there from being opened just now. On Linux none does.
+bool isHeld(const QString &path);
+
+/// Removes what saveFile() left in a folder when its process was killed, once it is a minute old. On Windows
+/// the toolkit names such a file, as it could be one of the user's own; there it stays.
+void removeUnfinished(const QString &folder);
+
 /// The first MostBytes of a regular file; empty where there is none.
 QByteArray contents(const QString &path);
 

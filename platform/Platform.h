@@ -2,8 +2,10 @@
 #pragma once
 
 #include "platform/DeviceNotifier.h"
+#include "platform/Inventory.h"
 
 #include <QByteArray>
+#include <QDateTime>
 #include <QString>
 #include <QStringList>
 #include <QUrl>
@@ -29,6 +31,10 @@ struct LogonTask {
 struct DownloadLimits {
     qint32 milliseconds; ///< from begin to end
     qint64 bytes;
+    bool onlyHttps = false; ///< http of this PC is refused, too
+    /// The file has just so many bytes. What came of it stays in ".part" where the transfer breaks off, and
+    /// the next call goes on behind it. The caller checks what came in the end.
+    bool resumes = false;
 };
 
 /// What uses a disk that is to be erased.
@@ -93,6 +99,9 @@ public:
     /// Unmounts the volumes of a physical disk before it is erased, and tells what still uses the disk.
     /// Writes nothing. Always Free where the system's partition tool does this by itself.
     virtual DiskUse DismountDisk(int /*number*/) { return {}; }
+    /// A number that changes when a physical disk is read or written; questions for its SMART data do not
+    /// count. Asks the system, never the disk. Nothing where the system does not count.
+    virtual std::optional<quint64> DiskActivity(int /*number*/) { return std::nullopt; }
     /// @}
 
     /// \name Volumes
@@ -101,6 +110,18 @@ public:
     /// two calls a number means the same disk, and a letter the same volume. Does nothing where the system
     /// itself gives them out.
     virtual void BeginListing() {}
+    /// The same for somebody who wants to know of the disks alone: nothing is read from a disk, so that one
+    /// that sleeps goes on to do so. A tool of the system is ended after a time, or when `mayGoOn` says no,
+    /// which is asked several times a second on the caller's thread. False then: what was known stays.
+    virtual bool BeginDiskListing(qint32 milliseconds, const std::function<bool()> &mayGoOn)
+    {
+        (void)milliseconds;
+        (void)mayGoOn;
+        BeginListing();
+        return true;
+    }
+    /// The disks, volumes and partitions that are known. May leave out extents and encryption of volumes.
+    virtual inventory::Machine Machine() { return {}; }
     /// The roots of all volumes, such as `C:\`.
     virtual QStringList GetLogicalDriveStringsW() = 0;
     /// False, with both texts empty, where there is no readable volume. Either pointer may be null.
@@ -117,21 +138,28 @@ public:
     /// Each element of `line` is one character as the process creation would get it. False if the interpreter
     /// could not be started; the command's own exit code is not told.
     virtual bool CreateProcessAndWait(const std::wstring &line, bool hidden) = 0;
-    /// The same in a visible console, and with limits: a time, and `mayGoOn`, which is asked several times a
-    /// second on the caller's thread. What still runs then is ended, with all that it started, and the result
-    /// is false. A platform that carries out command lines by itself ignores both; its tools have their own.
+    /// The same with limits, in a visible console if it is not `hidden`: a time, and `mayGoOn`, which is
+    /// asked several times a second on the caller's thread. What still runs then is ended, with all that it
+    /// started, and the result is false. A platform that carries out command lines by itself ignores both,
+    /// but for the tools of the machine that it runs.
     virtual bool CreateProcessAndWaitFor(const std::wstring &line, qint32 milliseconds,
-                                         const std::function<bool()> &mayGoOn)
+                                         const std::function<bool()> &mayGoOn, bool hidden = false)
     {
         (void)milliseconds;
         (void)mayGoOn;
-        return CreateProcessAndWait(line, false);
+        return CreateProcessAndWait(line, hidden);
     }
     /// How the window of an opened program shows. Used on Windows only.
     enum class Show { Normal, Maximised };
     /// Opens a file, program, page or mail address with what the desktop has for it. Returns at once.
     virtual bool ShellExecuteW(const QString &file, const QString &parameters, const QString &verb,
                                Show show = Show::Normal) = 0;
+    /// Brings the window of a running program to the front. `file` is the program's name without a folder.
+    /// False where it has no window, or where the system gives no such means.
+    virtual bool BringToFront(const QString & /*file*/) { return false; }
+    /// Calls `come` on this thread whenever BringToFront() wants the window of this program, where the system
+    /// does not bring it by itself. Only one program of a user may ask for that.
+    virtual void WhenWanted(const std::function<void()> & /*come*/) {}
     /// Opens a page or document. Main thread only.
     virtual bool OpenUrl(const QUrl &url) = 0;
     /// @}
@@ -144,10 +172,18 @@ public:
     /// The folder of the system's tools, without a trailing separator.
     virtual QString GetSystemDirectoryW() = 0;
     virtual QString GetUserNameW() = 0;
+    /// A text that is another one after the next logon, or at least after the next start of the PC, whatever
+    /// rights the process has.
+    virtual QString LogonMark() { return QStringLiteral("logon"); }
     /// Where the history of attribute values is kept; no trailing separator. A folder below
     /// `applicationFolder` where that can be written, else one of the user's; it is made if it is missing.
     /// Empty where others could change it.
     virtual QString HistoryFolder(const QString &applicationFolder) = 0;
+    /// The folder for what the program keeps of this user's PC besides settings and history; no trailing
+    /// separator. It is made if it is missing. Empty where there is none that others cannot change.
+    virtual QString StateFolder() { return QString(); }
+    /// The end of a line in text files.
+    virtual QByteArray LineEnd() const { return QByteArray("\n"); }
     /// A fresh and empty folder `name` that nobody else can enter or change; where the process has the rights
     /// of an administrator, other programs of its user count as others. Full path in ASCII without blanks,
     /// empty where none can be made. The caller removes it.
@@ -192,10 +228,16 @@ public:
     static constexpr qint32 DownloadRefused = static_cast<qint32>(0x80004004u);
     /// A fixed pause of the program.
     virtual void Sleep(quint32 milliseconds) = 0;
+    /// The time of the PC, local.
+    virtual QDateTime Now() { return QDateTime::currentDateTime(); }
+    /// The milliseconds of this machine in which so many pass by Now(). For timers.
+    virtual int TimerInterval(int milliseconds) { return milliseconds; }
     /// @}
 
     /// \name What the desktop shows of a window, by its native id. Main thread only.
     /// @{
+    /// The most characters that the tip of a tray's icon has there; 0: as many as one likes.
+    virtual int TrayTipLength() const { return 127; }
     /// Shows the progress of a job, in percent, on the window's button in the task bar; none takes it away.
     /// Does nothing where the desktop has no such thing.
     virtual void SetProgressValue(quintptr window, std::optional<int> percent) = 0;

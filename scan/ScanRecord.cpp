@@ -5,6 +5,7 @@
 #include "inventory/RawAccess.h"
 #include "platform/OwnFiles.h"
 #include "scan/BadSectorList.h"
+#include "state/TimeText.h"
 
 #include <QBuffer>
 #include <QCoreApplication>
@@ -23,17 +24,6 @@ std::vector<SectorRun> runsOf(const BadSectorList &bad)
     std::vector<SectorRun> runs;
     bad.forEachRun([&runs](const SectorRun &run) { runs.push_back(run); });
     return runs;
-}
-
-/// "2026-11-22 14:05:00 +01:00".
-QString timeText(const QDateTime &time)
-{
-    const int minutes = qAbs(time.offsetFromUtc()) / 60;
-    return time.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss ")) +
-           QLatin1Char(time.offsetFromUtc() < 0 ? '-' : '+') +
-           QStringLiteral("%1:%2")
-               .arg(minutes / 60, 2, 10, QLatin1Char('0'))
-               .arg(minutes % 60, 2, 10, QLatin1Char('0'));
 }
 
 QString resultText(ScanRecord::End end)
@@ -101,15 +91,19 @@ QString suggestedName(const ScanRecord &record)
     return record.disk + record.begun.toString(QStringLiteral(" yyyy-MM-dd"));
 }
 
+qint64 badSectors(const ScanRecord &record, const BadSectorList &bad)
+{
+    qint64 count = 0;
+    for (const SectorRun &run : mapfile::inOrder(runsOf(bad), record.total))
+        count += run.count;
+    return count;
+}
+
 QByteArray listText(const ScanRecord &record, const BadSectorList &bad)
 {
-    const std::vector<SectorRun> runs = mapfile::inOrder(runsOf(bad), record.total);
-    qint64 count = 0;
     QStringList places;
-    for (const SectorRun &run : runs) {
-        count += run.count;
+    for (const SectorRun &run : mapfile::inOrder(runsOf(bad), record.total))
         places << runText(run);
-    }
     QStringList lines = {
         QLatin1String("Velmora Halvane: ") + text(QT_TRANSLATE_NOOP("ScanDisk", "Disk Scan")), QString(),
         // A name could contain a mark that stands for the next value.
@@ -121,7 +115,7 @@ QByteArray listText(const ScanRecord &record, const BadSectorList &bad)
                  .arg(record.scanned)
                  .arg(record.total)
           << text(QT_TRANSLATE_NOOP("ScanDisk", "Result:")) + QLatin1Char(' ') + resultText(record.end)
-          << text(QT_TRANSLATE_NOOP("ScanDisk", "Bad sectors: %1")).arg(count) << QString();
+          << text(QT_TRANSLATE_NOOP("ScanDisk", "Bad sectors: %1")).arg(badSectors(record, bad)) << QString();
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly | QIODevice::Text); // CR LF on Windows

@@ -47,6 +47,9 @@ inline const QString ListEnding = QStringLiteral(".txt");
 /// The name offered for the file, without an ending.
 QString suggestedName(const ScanRecord &record);
 
+/// How many sectors the saved list tells as bad: each once, and none behind the end of the disk.
+qint64 badSectors(const ScanRecord &record, const BadSectorList &bad);
+
 /// The bad sectors for people: the disk, the scan, and a line for each run. Translated; UTF-8 with the line
 /// ends of the system.
 QByteArray listText(const ScanRecord &record, const BadSectorList &bad);

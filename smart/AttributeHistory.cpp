@@ -2,6 +2,7 @@
 #include "smart/AttributeHistory.h"
 
 #include "inventory/CommandRunner.h"
+#include "platform/FileLock.h"
 #include "platform/Log.h"
 #include "platform/Platform.h"
 #include "smart/TextCuts.h"
@@ -9,6 +10,7 @@
 #include <QByteArrayList>
 #include <QCoreApplication>
 #include <QDateTime>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -23,6 +25,12 @@ namespace
 {
 
 constexpr int DaysKept = 10;
+const QString ScratchName = QStringLiteral("history-XXXXXX");
+
+QString historyFolder()
+{
+    return nativePath(Platform::current().HistoryFolder(QCoreApplication::applicationDirPath()));
+}
 
 /// A serial number comes from the drive, which may say anything.
 QString fileNameOf(const QString &serial)
@@ -48,8 +56,9 @@ QByteArray textOf(const QByteArrayList &lines)
     return lines.isEmpty() ? QByteArray() : lines.join('\n') + '\n';
 }
 
-/// Writes a new file under another name, and puts it in place of the old one when it is on the disk.
-void replaceFile(const QString &path, const QByteArray &content, QIODevice::OpenMode mode)
+/// Writes a new file under another name, and puts it in place of the old one when it is on the disk. False if
+/// that failed.
+bool replaceFile(const QString &path, const QByteArray &content, QIODevice::OpenMode mode)
 {
     const QFileInfo old(path);
     QSaveFile file(path);
@@ -62,8 +71,10 @@ void replaceFile(const QString &path, const QByteArray &content, QIODevice::Open
     }
     if (!written)
         file.cancelWriting();
-    if (!written || !file.commit())
+    const bool replaced = written && file.commit();
+    if (!replaced)
         qCDebug(logs::smart) << "history is not written:" << file.errorString();
+    return replaced;
 }
 
 /// The values of the file, each as a text. QSettings turns a text that begins with `@` into whatever type it
@@ -73,9 +84,8 @@ class StoredTexts
 {
 public:
     explicit StoredTexts(const QString &valuePath)
-        : m_scratch(nativePath(tempFile(QStringLiteral("history-XXXXXX")))),
-          m_copy(m_scratch.filePath(QStringLiteral("stored"))), m_isReadable(copyFrom(valuePath)),
-          m_stored(m_copy, QSettings::IniFormat)
+        : m_scratch(nativePath(tempFile(ScratchName))), m_copy(m_scratch.filePath(QStringLiteral("stored"))),
+          m_isReadable(copyFrom(valuePath)), m_stored(m_copy, QSettings::IniFormat)
     {
     }
 
@@ -111,11 +121,11 @@ private:
     const QSettings m_stored;
 };
 
-void writeValues(const QString &valuePath, const QDateTime &now, const std::vector<HistoryValue> &rows)
+bool writeValues(const QString &valuePath, const QDateTime &now, const std::vector<HistoryValue> &rows)
 {
     const StoredTexts stored(valuePath);
     if (!stored.isReadable())
-        return;
+        return false;
     const QString fresh = stored.scratch(QStringLiteral("values"));
     {
         QSettings values(fresh, QSettings::IniFormat);
@@ -130,11 +140,23 @@ void writeValues(const QString &valuePath, const QDateTime &now, const std::vect
         values.endGroup();
         values.sync();
         if (values.status() == QSettings::AccessError)
-            return;
+            return false;
     }
     QFile written(fresh);
-    if (written.open(QIODevice::ReadOnly))
-        replaceFile(valuePath, written.readAll(), QIODevice::NotOpen);
+    return written.open(QIODevice::ReadOnly) && replaceFile(valuePath, written.readAll(), QIODevice::NotOpen);
+}
+
+/// Removes the scratch folders of processes that were killed.
+void removeOldScratch()
+{
+    const QString path = Platform::current().GetTempPathW();
+    const QDir temp(nativePath(path));
+    const QDateTime recent = QDateTime::currentDateTime().addSecs(-60);
+    const QString name = QString(ScratchName).replace(QLatin1Char('X'), QLatin1Char('?'));
+    for (const QFileInfo &each : temp.entryInfoList({name}, QDir::Dirs)) {
+        if (!path.isEmpty() && each.lastModified() < recent)
+            QDir(each.filePath()).removeRecursively();
+    }
 }
 
 /// Whether the value file begins with the section of a date, and each line of the date list is a date or the
@@ -174,8 +196,7 @@ void takeOver(const QString &folder, const QString &serial, const HistoryPaths &
 
 HistoryPaths historyPaths(const QString &serial)
 {
-    const QString folder =
-        nativePath(Platform::current().HistoryFolder(QCoreApplication::applicationDirPath()));
+    const QString folder = historyFolder();
     if (folder.isEmpty())
         return {};
     const QString name = fileNameOf(serial);
@@ -230,14 +251,20 @@ void RemoveHistoryGroup(const QString &date, const QString &valuePath)
     replaceFile(valuePath, textOf(kept), QIODevice::Text);
 }
 
-void recordHistory(const QString &serial, const QDateTime &now, const std::vector<HistoryValue> &rows)
+bool recordHistory(const QString &serial, const QDateTime &now, const std::vector<HistoryValue> &rows)
 {
+    constexpr qint32 LongestWait = 2000; // the window waits, too
+    const QString folder = historyFolder();
+    if (folder.isEmpty())
+        return false;
+    const FileLock lock(folder + QLatin1String("/.lock"), LongestWait);
+    if (!lock.isHeld())
+        return false;
+    removeOldScratch();
     const HistoryPaths paths = historyPaths(serial);
-    if (paths.dates.isEmpty())
-        return;
     AppendHistoryDate(paths.dates, historyDate(now));
     PruneHistory(paths.dates, paths.values);
-    writeValues(paths.values, now, rows);
+    return writeValues(paths.values, now, rows);
 }
 
 std::vector<QString> readHistoryDates(const QString &datePath, bool *opened)

@@ -9,8 +9,9 @@ class QDateTime;
 
 /// One set of attribute values per disk and calendar day, of the last ten days: a list of dates and an INI
 /// file with a section per date. Both are only ever replaced as a whole, flushed, so that a crash or a power
-/// cut at any point leaves a readable file with the days of before or after. Nothing here reports an error:
-/// where the folder cannot be written, there is no history. Main thread only.
+/// cut at any point leaves a readable file with the days of before or after. The program and its companion
+/// both write them. Nothing here shows an error: where the folder cannot be written, there is no history. One
+/// thread of a process.
 
 /// The two files of a disk, as this machine opens them.
 struct HistoryPaths {
@@ -43,8 +44,9 @@ void PruneHistory(const QString &datePath, const QString &valuePath);
 void RemoveHistoryGroup(const QString &date, const QString &valuePath);
 
 /// Enters the rows as the values of the day of `now`: the date, the pruning, the values. A second visit on
-/// one day overwrites its values.
-void recordHistory(const QString &serial, const QDateTime &now, const std::vector<HistoryValue> &rows);
+/// one day overwrites its values. One process at a time does this; another one waits for it, but not for
+/// long. False where there is no history, or where the other process took too long.
+bool recordHistory(const QString &serial, const QDateTime &now, const std::vector<HistoryValue> &rows);
 
 /// The lines of the list. The file is opened for writing, too, and so made if it is missing; `opened` (may be
 /// null) tells whether that went well.

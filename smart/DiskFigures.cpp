@@ -2,6 +2,7 @@
 #include "smart/DiskFigures.h"
 
 #include "platform/Log.h"
+#include "platform/Platform.h"
 #include "smart/AttributeHistory.h"
 #include "smart/ReportParser.h"
 #include "smart/SelfTestText.h"
@@ -126,7 +127,7 @@ void keepHistory(const std::vector<AttributeRow> &rows)
     std::vector<HistoryValue> values;
     for (const AttributeRow &row : rows)
         values.push_back({row.key, row.historyValue});
-    recordHistory(g_strSerialNumber, QDateTime::currentDateTime(), values);
+    recordHistory(g_strSerialNumber, Platform::current().Now(), values);
 }
 
 std::optional<DiskGraph> currentGraph(const QString &key)
@@ -138,7 +139,7 @@ std::optional<DiskGraph> currentGraph(const QString &key)
         return std::nullopt;
     const std::vector<qint64> values = readHistoryValues(paths.values, dates, key);
     auto model = graphModel(g_App.m_bNVMe ? GraphKind::Nvme : GraphKind::Ata, key, dates, values,
-                            QDate::currentDate());
+                            Platform::current().Now().date());
     if (!model)
         return std::nullopt;
     return DiskGraph{std::move(*model), graphText(dates, values)};

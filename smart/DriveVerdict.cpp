@@ -58,18 +58,23 @@ DriveVerdict ataVerdict(DriveVerdict line, const SmartAttributeList &rows)
     return line;
 }
 
-DriveVerdict nvmeVerdict(DriveVerdict line, const NvmeAttributeList &rows)
+std::optional<uint> criticalWarning(const NvmeAttributeList &rows)
 {
-    constexpr uint Heat = 0x02;
     for (const NvmeAttributeRecord &row : rows) {
-        if (!row.Name.text().contains(QLatin1String("Critical Warning")))
-            continue;
         bool readable = false;
         const uint bits = row.Value.text().toUInt(&readable, 0);
-        if (readable && (bits & ~Heat) != 0)
-            return DriveVerdict::Failed;
-        if (readable && (bits == Heat || line == DriveVerdict::NotTold))
-            return DriveVerdict::Passed;
+        if (readable && row.Name.text().contains(QLatin1String("Critical Warning")))
+            return bits;
     }
-    return line;
+    return std::nullopt;
+}
+
+DriveVerdict nvmeVerdict(DriveVerdict line, const NvmeAttributeList &rows)
+{
+    const std::optional<uint> bits = criticalWarning(rows);
+    if (!bits)
+        return line;
+    if ((*bits & ~HeatWarning) != 0)
+        return DriveVerdict::Failed;
+    return *bits == HeatWarning || line == DriveVerdict::NotTold ? DriveVerdict::Passed : line;
 }

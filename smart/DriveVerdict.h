@@ -3,6 +3,8 @@
 
 #include "smart/SmartRecords.h"
 
+#include <optional>
+
 class QTextStream;
 
 /// What a drive says of itself.
@@ -15,6 +17,10 @@ DriveVerdict readVerdictLine(QTextStream &stream);
 /// `line` is what readVerdictLine() found. A "Pre-fail" attribute that is "FAILING_NOW" makes it Failed, too.
 /// One of old age, or one that failed in the past, does not.
 DriveVerdict ataVerdict(DriveVerdict line, const SmartAttributeList &rows);
+
+/// The bits of an NVMe drive's critical warning; nothing where it tells none.
+std::optional<uint> criticalWarning(const NvmeAttributeList &rows);
+constexpr uint HeatWarning = 0x02;
 
 /// Any bit of the critical warning is a failure, except that of heat, of which the line says "FAILED!", too.
 DriveVerdict nvmeVerdict(DriveVerdict line, const NvmeAttributeList &rows);

@@ -84,13 +84,15 @@ const SmartAttributeRecord *firstNamed(const SmartAttributeList &rows, const Nam
     return nullptr;
 }
 
+bool isBase(const SmartAttributeRecord &row)
+{
+    const HealthRule *rule = ruleOf(row);
+    return rule && rule->isBase;
+}
+
 /// What the rules begin with: 0 where there is a base, which sets the health, else the row in its place.
 std::optional<float> startOfHealth(const SmartAttributeList &rows)
 {
-    const auto isBase = [](const SmartAttributeRecord &row) {
-        const HealthRule *rule = ruleOf(row);
-        return rule && rule->isBase;
-    };
     if (rows.find(isBase))
         return 0.0F;
     if (const SmartAttributeRecord *blocks = firstNamed(rows, healthcatalogue::BlockRows))
@@ -115,6 +117,22 @@ std::optional<int> healthOfAta(const SmartAttributeList &rows)
             health = healthBy(*rule, health, row);
     }
     return qMin(truncated<int>(static_cast<double>(health) + 0.5), FullPercent);
+}
+
+std::optional<int> wearOfAta(const SmartAttributeList &rows)
+{
+    const SmartAttributeRecord *life = firstNamed(rows, healthcatalogue::LifeRows);
+    if (!life)
+        return std::nullopt;
+    return FullPercent - static_cast<int>(qMin<quint32>(life->Value, FullPercent));
+}
+
+std::optional<qint64> replacedOfAta(const SmartAttributeList &rows)
+{
+    const SmartAttributeRecord *row = rows.find(isBase);
+    if (!row)
+        row = firstNamed(rows, healthcatalogue::BlockRows);
+    return row ? std::optional<qint64>(row->RawValue.text().toInt()) : std::nullopt;
 }
 
 std::optional<int> healthOfNvme(const NvmeAttributeList &rows)

@@ -22,6 +22,13 @@ std::optional<int> healthOfAta(const SmartAttributeList &rows);
 /// Nothing where the drive reports none, 0 without any row.
 std::optional<int> healthOfNvme(const NvmeAttributeList &rows);
 
+/// The wear in percent, 0 to 100, by the first row that tells the rest of the drive's life; nothing without
+/// one.
+std::optional<int> wearOfAta(const SmartAttributeList &rows);
+
+/// How many blocks or sectors were taken out of use; nothing where no row counts them.
+std::optional<qint64> replacedOfAta(const SmartAttributeList &rows);
+
 /// Performance in percent by the text of the ATA version line.
 int performanceOf(const QString &ataVersion);
 

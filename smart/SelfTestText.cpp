@@ -4,6 +4,7 @@
 #include "smart/TextCuts.h"
 
 #include <QCoreApplication>
+#include <QCryptographicHash>
 #include <QRegularExpression>
 #include <QStringList>
 #include <QTextStream>
@@ -180,6 +181,15 @@ std::optional<StatusEvent> readNvme(const QStringList &lines)
     return std::nullopt;
 }
 
+/// The power-on hours behind the words of a row, and behind the percent that remained.
+std::optional<qint64> hoursIn(const QString &row)
+{
+    static const QRegularExpression hours(QStringLiteral("^ *(?:[0-9]+% +)?([0-9]+)(?: |$)"));
+    bool isNumber = false;
+    const qint64 number = hours.match(row).captured(1).toLongLong(&isNumber);
+    return isNumber ? std::optional<qint64>(number) : std::nullopt;
+}
+
 } // namespace
 
 Capabilities readCapabilities(QTextStream &text, std::optional<SelfTestKind> kind)
@@ -221,6 +231,39 @@ PreviousTest newestTest(QTextStream &log)
         break;
     }
     return test;
+}
+
+LoggedTest newestLogged(QTextStream &report)
+{
+    // A row's number, the kind of test and how it ended; two blanks part them, except where the words are
+    // long.
+    static const QRegularExpression row(
+        QStringLiteral("^(?:# *[0-9]+|  ?[0-9]+)  +((?:Short|Extended|Conveyance|Selective|Vendor|Background|"
+                       "Foreground|Offline|Reserved)[^:]*?)  +((?:Completed|Aborted|Interrupted|Fatal|"
+                       "Unknown|Failed|Self).*)$"));
+    constexpr int LongestRow = 200;
+    constexpr int MarkedRows = 19; // a test that runs pushes the oldest ones out
+    int rows = 0;
+    LoggedTest newest;
+    QCryptographicHash log(QCryptographicHash::Sha1);
+    while (!report.atEnd()) {
+        const QRegularExpressionMatch match = row.match(report.readLine().left(LongestRow));
+        const QString told = match.captured(2);
+        // A test that runs has a row, too, with a number that changes.
+        if (!match.hasMatch() || told.contains(QLatin1String("in progress"), Qt::CaseInsensitive))
+            continue;
+        if (newest.words.isEmpty()) {
+            newest.words = told.section(QLatin1String("  "), 0, 0).trimmed();
+            newest.hours = hoursIn(told.mid(newest.words.size()));
+        }
+        if (rows++ < MarkedRows)
+            log.addData((match.captured(1) + told).simplified().toUtf8());
+    }
+    newest.failed = cuts::holdsOneOf(
+        newest.words, {"Completed:", "failure", "handling damage", "Fatal or unknown", "Failed in segment"});
+    if (!newest.words.isEmpty())
+        newest.mark = QString::fromLatin1(log.result().toHex());
+    return newest;
 }
 
 const char *shownWords(Told told)

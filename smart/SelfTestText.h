@@ -58,6 +58,17 @@ struct PreviousTest {
 /// Reads the text of a self-test log up to its newest test.
 PreviousTest newestTest(QTextStream &log);
 
+/// The newest self-test that has ended, of the log within a whole report.
+struct LoggedTest {
+    bool failed = false;
+    QString words;               ///< the tool's own for how it ended
+    QString mark;                ///< of the log: another one as soon as another test has ended
+    std::optional<qint64> hours; ///< the drive's power-on time when it ended
+};
+
+/// Reads a report, or a log alone, of a drive of any kind; without a test in it the mark is empty.
+LoggedTest newestLogged(QTextStream &report);
+
 /// The words that a status is shown with: English, of the context MainWindow.
 const char *shownWords(Told told);
 

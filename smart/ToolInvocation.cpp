@@ -7,6 +7,7 @@
 #include "state/GlobalApp.h"
 #include "state/Globals.h"
 
+#include <QFile>
 #include <QTextStream>
 
 #include <array>
@@ -31,6 +32,8 @@ constexpr std::array<ToolCommand, ToolPurposeCount> Commands = {{
     {" -t long ", "ShortTest.txt"},
     {" -X ", "SMART1234.txt"},
     {" -l selftest ", "PreviousResult.txt"},
+    {" -n standby -a ", "WatchReport.txt"},
+    {" -n standby -a ", "OnceReport.txt"},
 }};
 
 const ToolCommand &commandOf(ToolPurpose purpose)
@@ -106,6 +109,17 @@ bool readTool(ToolPurpose purpose, const QString &device, const runner::OutputRe
     if (!opened)
         qCDebug(logs::smart) << "the tool wrote no file:" << commandOf(purpose).arguments << device;
     return opened;
+}
+
+bool readToolWithin(ToolPurpose purpose, const QString &device, qint32 milliseconds,
+                    const std::function<bool()> &mayGoOn, const runner::OutputReader &read)
+{
+    // A tool that does not even end by force still has its file, so each disk has one of its own.
+    const QString path = runner::freshTempFile(
+        toolFileName(purpose).replace(QLatin1Char('.'), device.right(1) + QLatin1Char('.')));
+    return !QFile::exists(nativePath(path)) &&
+           runner::runWithin(commandLine(purpose, device, path), milliseconds, mayGoOn) &&
+           runner::readOutput(path, read);
 }
 
 LoadedReport LoadSmartReport(int diskIndex)

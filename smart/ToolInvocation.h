@@ -16,9 +16,11 @@ enum class ToolPurpose {
     StartShortTest,
     StartExtendedTest,
     AbortTest,
-    SelfTestLog
+    SelfTestLog,
+    WatchReport, ///< the full report of a disk that does not sleep, for the companion
+    OnceReport   ///< the same for a companion that ends at once, beside the one that watches
 };
-constexpr int ToolPurposeCount = 7;
+constexpr int ToolPurposeCount = 9;
 
 /// "/dev/sda" to "/dev/sdn" for the indexes 0 to 13, else empty.
 QString deviceName(int diskIndex);
@@ -46,6 +48,11 @@ QString runTool(ToolPurpose purpose, const QString &device);
 
 /// The same, and hands what the tool wrote to `read`. False, with `read` not called, where it wrote nothing.
 bool readTool(ToolPurpose purpose, const QString &device, const runner::OutputReader &read);
+
+/// The same with limits, see Platform::CreateProcessAndWaitFor(), into a file of the disk's own. False, too,
+/// where the tool was ended.
+bool readToolWithin(ToolPurpose purpose, const QString &device, qint32 milliseconds,
+                    const std::function<bool()> &mayGoOn, const runner::OutputReader &read);
 
 /// A report that waits to be taken in.
 struct LoadedReport {

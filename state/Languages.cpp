@@ -61,6 +61,19 @@ QTranslator &appTranslator(const Language &language)
     return g_App.m_aTranslators[2 * language.index() + 1];
 }
 
+/// Those of the current language take the place of all others.
+void swapTranslators()
+{
+    for (const Language &language : table) {
+        if (&language == &current())
+            continue;
+        QCoreApplication::removeTranslator(&qtTranslator(language));
+        QCoreApplication::removeTranslator(&appTranslator(language));
+    }
+    QCoreApplication::installTranslator(&qtTranslator(current()));
+    QCoreApplication::installTranslator(&appTranslator(current()));
+}
+
 } // namespace
 
 const Language &current()
@@ -75,6 +88,11 @@ const Language &current()
 QString storedText(const TextSetting &setting)
 {
     return SettingsStore().text(setting, QLatin1String(current().folder) + QLatin1Char('/'));
+}
+
+QString shownText(const TextSetting &setting)
+{
+    return SettingsStore().textOrFirst(setting, QLatin1String(current().folder) + QLatin1Char('/'));
 }
 
 void setFlag(int type)
@@ -129,14 +147,16 @@ void change(LanguageType type)
         stores << g_App.m_strSiblingKey1 << g_App.m_strSiblingKey2 << g_App.m_strSiblingKey3;
     for (const QString &path : stores)
         SettingsStore(path).write(key::LanguageType, QString::number(static_cast<int>(type)));
-    for (const Language &language : table) {
-        if (language.type == type)
-            continue;
-        QCoreApplication::removeTranslator(&qtTranslator(language));
-        QCoreApplication::removeTranslator(&appTranslator(language));
-    }
-    QCoreApplication::installTranslator(&qtTranslator(current()));
-    QCoreApplication::installTranslator(&appTranslator(current()));
+    swapTranslators();
+}
+
+void follow()
+{
+    const int stored = SettingsStore().text(key::LanguageType).toInt();
+    if (stored < 0 || stored >= LanguageCount || stored == static_cast<int>(current().type))
+        return;
+    setFlag(stored);
+    swapTranslators();
 }
 
 } // namespace languages

@@ -62,6 +62,8 @@ const Language &current();
 
 /// A setting that exists once for each language, in the language in use. Main thread only.
 QString storedText(const TextSetting &setting);
+/// The same, but an absent setting reads as what the publisher has chosen.
+QString shownText(const TextSetting &setting);
 
 /// Clears all flags and sets that of a stored LanguageType; none for a value outside the table.
 void setFlag(int type);
@@ -78,6 +80,9 @@ void loadTranslators(const Language &language, bool withQt = true);
 
 /// Loads all languages but the selected one, then loads and installs the selected one's translators.
 void loadAtStart();
+
+/// Takes over the stored language where another program has changed it.
+void follow();
 
 /// Changes the language while the program runs: sets its flag, stores the choice as text here and for the
 /// three sibling programs, and swaps the installed translators, which sends every window a LanguageChange.

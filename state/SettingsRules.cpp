@@ -20,8 +20,14 @@ int fahrenheit(int celsius)
 
 Values firstRun()
 {
-    return {key::ShowTrayIcon.first != 0, Celsius, key::ShowWarning.first != 0, key::WarningValue.first,
-            key::ShutDownValue.first};
+    return {key::ShowTrayIcon.first != 0,
+            Celsius,
+            key::ShowWarning.first != 0,
+            key::WarningValue.first,
+            key::ShutDownValue.first,
+            key::SaveLog.first != 0,
+            QLatin1String(key::LogSavePath.first),
+            key::MaxLogSize.first};
 }
 
 Values load()
@@ -33,10 +39,13 @@ Values load()
     }
     return {store.flag(key::ShowTrayIcon),
             store.text(key::TempValue) == unitText(Fahrenheit) ? Fahrenheit : Celsius,
-            store.flag(key::ShowWarning), store.number(key::WarningValue), store.number(key::ShutDownValue)};
+            // The companion reads what nobody has stored in the same way.
+            store.numberOrFirst(key::ShowWarning) != 0, store.numberOrFirst(key::WarningValue),
+            store.numberOrFirst(key::ShutDownValue), store.numberOrFirst(key::SaveLog) != 0,
+            store.textOrFirst(key::LogSavePath), store.numberOrFirst(key::MaxLogSize)};
 }
 
-void save(const Values &values, const QString &logPath)
+void save(const Values &values)
 {
     SettingsStore store;
     if (values.unit == Celsius || values.unit == Fahrenheit) {
@@ -47,7 +56,9 @@ void save(const Values &values, const QString &logPath)
     store.write(key::DontShow, values.alarm ? 0 : 1);
     store.write(key::WarningValue, values.warning);
     store.write(key::ShutDownValue, values.shutDown);
-    store.write(key::LogSavePath, logPath);
+    store.write(key::SaveLog, values.log ? 1 : 0);
+    store.write(key::LogSavePath, values.logPath);
+    store.write(key::MaxLogSize, values.logKilobytes);
 }
 
 AlarmLimits limitsForUnit(int unit, int warning, int shutDown)

@@ -17,16 +17,20 @@ struct Values {
     bool alarm;
     int warning;
     int shutDown;
+    bool log;
+    QString logPath;
+    int logKilobytes; ///< 0: no limit
 };
 
 /// What a first run begins with.
 Values firstRun();
 
-/// What is stored. Before the first start has finished that of a first run, and the start counts as finished.
+/// What is stored; alarm, limits and log are those of a first run until they are. Before the first start has
+/// finished all is that of a first run, and the start counts as finished.
 Values load();
 
-/// Stores all but the tray, and the path of the log file.
-void save(const Values &values, const QString &logPath);
+/// Stores all but the tray.
+void save(const Values &values);
 
 /// Thresholds of the temperature alarm, in the unit in use, and their lowest values.
 struct AlarmLimits {

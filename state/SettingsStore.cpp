@@ -4,6 +4,7 @@
 #include "platform/Log.h"
 #include "platform/Platform.h"
 #include "state/GlobalApp.h"
+#include "state/Product.h"
 
 #include <QSettings>
 #include <QVariant>
@@ -41,6 +42,20 @@ int SettingsStore::number(const NumberSetting &setting) const
 bool SettingsStore::flag(const NumberSetting &setting) const
 {
     return m_pSettings->value(QLatin1String(setting.name)).toBool();
+}
+
+QString SettingsStore::textOrFirst(const TextSetting &setting, const QString &prefix) const
+{
+    const QString name = prefix + QLatin1String(setting.name);
+    if (m_pSettings->contains(name))
+        return text(setting, prefix);
+    const QString own = product::text(name);
+    return own.isEmpty() ? QString::fromLatin1(setting.first) : own;
+}
+
+int SettingsStore::numberOrFirst(const NumberSetting &setting) const
+{
+    return m_pSettings->contains(QLatin1String(setting.name)) ? number(setting) : setting.first;
 }
 
 void SettingsStore::write(const TextSetting &setting, const QString &value)

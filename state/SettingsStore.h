@@ -21,7 +21,8 @@ struct NumberSetting {
 
 /// The settings of the program, shared with the installer and the companion. Make one on the stack where a
 /// setting is needed and let it go: values are kept when it goes. An absent setting reads as 0, false or an
-/// empty text; a failed write is only logged. Main thread only.
+/// empty text; a failed write is only logged. Main thread only; one that
+/// is opened by its path serves any one thread.
 class SettingsStore
 {
 public:
@@ -35,6 +36,10 @@ public:
     QString text(const TextSetting &setting, const QString &prefix = QString()) const;
     int number(const NumberSetting &setting) const;
     bool flag(const NumberSetting &setting) const;
+    /// The same, but an absent setting reads as what the publisher has chosen, or else what a first run
+    /// begins with.
+    QString textOrFirst(const TextSetting &setting, const QString &prefix = QString()) const;
+    int numberOrFirst(const NumberSetting &setting) const;
 
     void write(const TextSetting &setting, const QString &value);
     void write(const NumberSetting &setting, int value);
@@ -71,12 +76,16 @@ HALVANE_NUMBER(WarningValue, 45);
 HALVANE_NUMBER(ShutDownValue, 50);
 HALVANE_TEXT(LogSavePath, "C:\\LogFile.txt");
 HALVANE_NUMBER(MaxLogSize, 99); ///< KB
+HALVANE_NUMBER(SaveLog, 1);     ///< the companion writes the log
+HALVANE_TEXT(TrayQuit, "");     ///< the logon in which the user has ended the companion
+HALVANE_TEXT(MetricsPath, "");  ///< the companion writes the metrics there
+HALVANE_NUMBER(TrayHealth, 0);  ///< the tray shows the lowest health in place of the temperature
 HALVANE_TEXT(SmartctlFolderPath, "");
 HALVANE_TEXT(SCopyrightText, "");
 HALVANE_TEXT(rxVersion, "");
-HALVANE_NUMBER(AverageUpdateSize, 0xA00000); ///< bytes
+HALVANE_NUMBER(AverageUpdateSize, 0); ///< bytes
 HALVANE_TEXT(CopyrightText, "");
-HALVANE_TEXT(HelpEndpoint, "https://velmora.example/");
+HALVANE_TEXT(HelpEndpoint, "");
 /// \name Once for each language, behind the name of its folder and a slash
 /// @{
 HALVANE_TEXT(rxUpdateLink, "");

@@ -19,6 +19,21 @@ std::optional<QString> cloneDiskText(const QString &argument)
     return parts.size() > 1 ? std::optional<QString>(parts.at(1)) : std::nullopt;
 }
 
+const QString ForSettings = QStringLiteral("Settings");
+
+QString forDisk(int number)
+{
+    return QStringLiteral("Disk####%1").arg(number);
+}
+
+std::optional<int> diskNumber(const QString &argument)
+{
+    const QString begin = QStringLiteral("Disk####");
+    bool isNumber = false;
+    const int number = argument.mid(begin.size()).toInt(&isNumber);
+    return argument.startsWith(begin) && isNumber && number >= 0 ? std::optional<int>(number) : std::nullopt;
+}
+
 bool matchesDisk(const QString &itemText, const QString &diskText)
 {
     QString compact = itemText;

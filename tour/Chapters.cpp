@@ -15,6 +15,7 @@ const std::vector<Chapter> &chapters()
         {QStringLiteral("update"), updateSteps, true},
         {QStringLiteral("about"), aboutSteps, true},
         {QStringLiteral("languages"), languageSteps, true},
+        {QStringLiteral("companion"), companionSteps, true},
         {QStringLiteral("close"), closeSteps},
     };
     return all;

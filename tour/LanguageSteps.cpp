@@ -45,6 +45,12 @@ StepList languageSteps(Walk &walk)
             step.name += QStringLiteral(" in ") + language;
             steps.push_back(step);
         }
+        if (!walk.plan().wishes[QStringLiteral("companion")].toBool())
+            continue;
+        for (Step step : companionSteps(walk)) {
+            step.name += QStringLiteral(" in ") + language;
+            steps.push_back(step);
+        }
     }
     return steps;
 }

@@ -16,8 +16,12 @@ Step menuStep(const QString &name, const QString &button)
 
 } // namespace
 
-StepList menuSteps(Walk &)
+StepList menuSteps(Walk &walk)
 {
-    return {menuStep(QStringLiteral("menu"), QStringLiteral("m_pMenuButton")),
-            menuStep(QStringLiteral("more-tools"), QStringLiteral("m_pMoreToolsButton"))};
+    StepList steps{menuStep(QStringLiteral("menu"), QStringLiteral("m_pMenuButton")),
+                   menuStep(QStringLiteral("more-tools"), QStringLiteral("m_pMoreToolsButton"))};
+    // Without a disk there is no list.
+    if (walk.driveCount() > 0)
+        steps.push_back({QStringLiteral("drive-list"), [](Walk &person) { person.recordDriveList(); }});
+    return steps;
 }

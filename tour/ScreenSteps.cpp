@@ -5,6 +5,8 @@
 namespace
 {
 
+constexpr int DiskStatusPage = 0; ///< in pages()
+
 QString stepName(const Page &page, int drive)
 {
     return QStringLiteral("%1 of drive %2").arg(QLatin1String(page.step)).arg(drive);
@@ -15,8 +17,18 @@ void goTo(Walk &walk, const Page &page)
     walk.goTo(QLatin1String(page.button), QLatin1String(page.className));
 }
 
+/// Disk Status while its disk is read, if there is one.
+Step busyStep()
+{
+    return {QStringLiteral("busy"), [](Walk &walk) {
+                if (walk.driveCount() == 0)
+                    return;
+                goTo(walk, pages()[DiskStatusPage]);
+                walk.recordBusy();
+            }};
+}
+
 constexpr int NoDrive = -1;
-constexpr int DiskStatusPage = 0; ///< in pages()
 
 /// Disk Status of a disk. For the first disk that screen shows already.
 void seeDiskStatus(Walk &walk, int drive)
@@ -66,6 +78,7 @@ StepList screenSteps(Walk &walk)
             }
         }
     }
+    steps.push_back(busyStep());
     return steps;
 }
 
@@ -74,5 +87,6 @@ StepList pageSteps()
     StepList steps;
     for (const Page &page : pages())
         steps.push_back({QLatin1String(page.step), [page](Walk &person) { seePage(person, page); }});
+    steps.push_back(busyStep());
     return steps;
 }

@@ -47,13 +47,14 @@ StepList cloneSteps(Walk &walk);
 StepList updateSteps(Walk &walk);
 StepList languageSteps(Walk &walk);
 StepList aboutSteps(Walk &walk);
+StepList companionSteps(Walk &walk);
 StepList closeSteps(Walk &walk);
 /// @}
 
 /// Graphs, report and screenshot of a drive whose SMART Status shows. By its place in the combo.
 StepList smartSteps(int drive);
 
-/// The five screens once, for the disk that is chosen.
+/// The five screens once, for the disk that is chosen, and the first one while it is read.
 StepList pageSteps();
 
 /// The whole walk in its order.

@@ -50,6 +50,19 @@ bool isIdle()
     return mainWindow() && !windows::child(mainWindow(), QStringLiteral("GifFrame"));
 }
 
+constexpr int CurrentDrive = -1;
+
+/// Chooses an item of the drive combo, as the arrow keys do.
+void chooseDrive(int index)
+{
+    QComboBox *drives = windows::combo(mainWindow(), DriveCombo);
+    if (!drives || !drives->isVisible() || !drives->isEnabled())
+        return;
+    if (index != CurrentDrive)
+        drives->setCurrentIndex(index);
+    emit drives->activated(drives->currentIndex());
+}
+
 QString className(const QWidget *widget)
 {
     return QLatin1String(widget->metaObject()->className());
@@ -222,15 +235,30 @@ int Walk::driveCount()
     });
 }
 
-void Walk::chooseItem(const QString &comboName, int index)
+void Walk::openList(const QString &comboName)
 {
-    const auto find = [comboName]() { return windows::combo(mainWindow(), comboName); };
-    click(comboName, [find]() {
-        QComboBox *combo = find();
+    click(comboName, [comboName]() {
+        QComboBox *combo = windows::combo(mainWindow(), comboName);
         return combo && combo->isVisible() && combo->isEnabled() ? hand::middleOf(combo) : hand::Place();
     });
     waitFor(QStringLiteral("the list of ") + comboName,
-            [find]() { return find() && find()->view()->isVisible(); });
+            [comboName]() { return windows::openList(comboName) != nullptr; });
+}
+
+void Walk::recordDriveList()
+{
+    const auto find = []() { return windows::openList(DriveCombo); };
+    openList(DriveCombo);
+    const TourReport::Screen screen = look(QStringLiteral("drive-list"), find);
+    m_pProgram->act([find]() { hand::key(find(), Qt::Key_Escape); });
+    waitFor(QStringLiteral("the end of the list"), [find]() { return !find(); });
+    m_pReport->add(screen);
+}
+
+void Walk::chooseItem(const QString &comboName, int index)
+{
+    const auto find = [comboName]() { return windows::combo(mainWindow(), comboName); };
+    openList(comboName);
     // A release soon after the press that opened the list would count as the end of that press.
     m_pProgram->pause(m_pProgram->ask([]() { return QApplication::doubleClickInterval(); }) + PollInterval);
     const QString item = QStringLiteral("item %1 of %2").arg(index).arg(comboName);
@@ -337,13 +365,21 @@ TourReport::Screen Walk::look(const QString &step, const Finder &find)
 
 void Walk::hurryToDrive(int index)
 {
-    m_pProgram->ask([index]() {
-        QComboBox *drives = windows::combo(mainWindow(), DriveCombo);
-        if (!drives || !drives->isVisible() || !drives->isEnabled())
-            return;
-        drives->setCurrentIndex(index);
-        emit drives->activated(index);
+    m_pProgram->ask([index]() { chooseDrive(index); });
+}
+
+void Walk::recordBusy()
+{
+    // The tool's end is told by an event, so the busy frame shows until the picture is taken, however quick
+    // the tool is.
+    const TourReport::Screen screen = look(QStringLiteral("busy"), []() {
+        chooseDrive(CurrentDrive);
+        return isIdle() ? nullptr : mainWindow();
     });
+    if (screen.step.isEmpty())
+        throw StepFailed(QStringLiteral("no busy frame shows"));
+    m_pReport->add(screen);
+    waitIdle();
 }
 
 QJsonObject Walk::contents()

@@ -64,6 +64,8 @@ public:
     void chooseDisk(const QString &comboName, int number);
     /// Clicks a row of a tree after scrolling to it.
     void clickRow(const QString &treeName, int row);
+    /// Opens the list of the drive combo, records it as `drive-list`, and closes it.
+    void recordDriveList();
     /// Opens the menu of a button of the main window.
     void openMenu(const QString &buttonName);
     void chooseInMenu(const QString &actionName);
@@ -83,6 +85,8 @@ public:
     /// The contents of the main window, without recording them.
     QJsonObject contents();
     void recordMenu(const QString &step);
+    /// Has the chosen disk read again and records the window meanwhile, as `busy`.
+    void recordBusy();
     /// Records a window that a step expects as `dialog:<class>`, unless it was recorded with the same texts.
     void recordDialog(const QString &windowClass);
 
@@ -99,6 +103,7 @@ private:
     void endRound(const QString &what);
     TourReport::Screen look(const QString &step, const Finder &find);
     void recordOnce(const QString &className, const Finder &find);
+    void openList(const QString &comboName);
     void dismiss(const QString &className, const Finder &find);
     void click(const QString &what, const std::function<hand::Place()> &find);
 

@@ -2,6 +2,7 @@
 #include "tour/Windows.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
@@ -80,6 +81,12 @@ QWidget *button(QWidget *window, const QStringList &names)
 QComboBox *combo(QWidget *window, const QString &name)
 {
     return window ? window->findChild<QComboBox *>(name) : nullptr;
+}
+
+QWidget *openList(const QString &comboName)
+{
+    const QComboBox *lists = combo(byClass(QStringLiteral("MainWindow")), comboName);
+    return lists && lists->view()->isVisible() ? lists->view()->window() : nullptr;
 }
 
 QMenu *openMenu()

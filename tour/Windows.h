@@ -28,6 +28,9 @@ QWidget *button(QWidget *window, const QStringList &names);
 /// The combo of that name below `window`, visible or not.
 QComboBox *combo(QWidget *window, const QString &name);
 
+/// The window of the list that a combo of the main window has dropped down.
+QWidget *openList(const QString &comboName);
+
 /// The menu that is open on top.
 QMenu *openMenu();
 

@@ -5,6 +5,7 @@
 #include "platform/Platform.h"
 #include "state/GlobalApp.h"
 #include "state/Languages.h"
+#include "state/Product.h"
 #include "state/SettingsStore.h"
 
 #include <QUrl>
@@ -27,7 +28,7 @@ constexpr std::array<const char *, 7> Pages{"about-velmora-halvane",
 QString endpoint()
 {
     const QString own = SettingsStore().text(key::HelpEndpoint);
-    return own.isEmpty() ? QString::fromLatin1(key::HelpEndpoint.first) : own;
+    return own.isEmpty() ? product::text(QLatin1String(key::HelpEndpoint.name)) : own;
 }
 
 } // namespace
@@ -51,7 +52,7 @@ QString helpPage(Topic topic)
 QString agreement()
 {
     if (g_App.m_bJapanese)
-        return languages::storedText(key::EulaLink_JA);
+        return languages::shownText(key::EulaLink_JA);
     return g_App.m_strAppFolderCopy +
            QStringLiteral("/VelmoraHalvane_License_%1.pdf").arg(QLatin1String(languages::current().folder));
 }
@@ -93,7 +94,7 @@ void openAgreement()
 void openSupport()
 {
     const QString address =
-        QString::fromLatin1(QUrl::toPercentEncoding(languages::storedText(key::SupportLink), "@"));
+        QString::fromLatin1(QUrl::toPercentEncoding(languages::shownText(key::SupportLink), "@"));
     if (!address.isEmpty())
         Platform::current().ShellExecuteW(QStringLiteral("mailto:") + address, QString(),
                                           QStringLiteral("Open"));

@@ -3,6 +3,7 @@
 
 #include "update/UpdateFetch.h"
 #include "update/UpdateGlobals.h"
+#include "update/UpdateTrust.h"
 #include "update/VersionCompare.h"
 
 #include <QFile>
@@ -47,8 +48,13 @@ void compareVersions(const QString &installed)
 {
     QFile file(g_strUpdateFile);
     const bool opened = file.open(QIODevice::ReadOnly);
-    const version::Offer offer =
-        version::offerOf(installed, opened ? versionLines(file.read(BytesOfTwoLines)) : QStringList());
+    const QStringList lines = opened ? versionLines(file.read(BytesOfTwoLines)) : QStringList();
+    version::Offer offer = version::offerOf(installed, lines);
+    if (!g_publisherKey.isEmpty() && !version::isNewer(installed, lines)) {
+        // The download would refuse it. Nothing is to be gone on with either.
+        offer = version::Offer();
+        removeKept();
+    }
     g_bMajorUpdate = offer.major;
     g_bMinorUpdate = offer.minor;
     g_strLatestMajor = offer.latestMajor;

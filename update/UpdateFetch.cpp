@@ -5,7 +5,9 @@
 #include "platform/Log.h"
 #include "platform/OwnFiles.h"
 #include "state/GlobalApp.h"
+#include "state/Product.h"
 #include "state/SettingsStore.h"
+#include "update/UpdateTrust.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -46,6 +48,12 @@ QString freshFolder()
     const QMutexLocker lock(&folderMutex);
     currentFolder = Platform::current().MakePrivateFolder(QStringLiteral("updatetmp"));
     return currentFolder;
+}
+
+QString keptBase()
+{
+    const QString folder = Platform::current().StateFolder();
+    return folder.isEmpty() ? QString() : folder + QLatin1String("/update");
 }
 
 QString transferTool()
@@ -96,7 +104,7 @@ QString installerName()
 int expectedSize()
 {
     const int size = SettingsStore().number(key::AverageUpdateSize);
-    return size > 0 ? size : key::AverageUpdateSize.first;
+    return size > 0 ? size : product::number(QLatin1String(key::AverageUpdateSize.name));
 }
 
 DownloadLimits installerLimits(qint64 expectedBytes)
@@ -115,9 +123,11 @@ QString fetch(const QString &url, const QString &name, const DownloadLimits &lim
         return QString();
     }
     const QString path = nativePath(folder + QLatin1Char('\\') + name);
-    const qint32 result = Platform::current().URLDownloadToFileW(url, path, limits);
+    DownloadLimits own = limits;
+    own.onlyHttps = !g_publisherKey.isEmpty();
+    const qint32 result = Platform::current().URLDownloadToFileW(url, path, own);
     // What a rule or a limit forbade is not tried in another way.
-    if (result != 0 && result != Platform::DownloadRefused) {
+    if (result != 0 && result != Platform::DownloadRefused && !own.onlyHttps) {
         fetchByConsole(url, path, {static_cast<qint32>(limits.milliseconds - clock.elapsed()), limits.bytes});
         if (!takeOver(path, limits.bytes))
             QFile::remove(path);
@@ -139,6 +149,40 @@ QString consoleCommand(const QString &url, const QString &path)
         return QString();
     return transferTool() + QLatin1String(" /transfer myDownloadJob /download /priority normal ") + address +
            QLatin1Char(' ') + path;
+}
+
+QString keptFolder(const QString &ofFile)
+{
+    removeLeftovers();
+    const QString base = keptBase();
+    // An empty path would be the working folder.
+    if (base.isEmpty())
+        return freshFolder();
+    for (const QString &other : QDir(base).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        if (other != ofFile)
+            QDir(base + QLatin1Char('/') + other).removeRecursively();
+    }
+    const QString folder = base + QLatin1Char('/') + ofFile;
+    if (!ownfiles::makeFolder(nativePath(folder)).isEmpty())
+        return freshFolder();
+    const QMutexLocker lock(&folderMutex);
+    return currentFolder = folder;
+}
+
+void leaveKeptFolder()
+{
+    const QString base = keptBase();
+    const QMutexLocker lock(&folderMutex);
+    // One that was made afresh is not found again: it is removed as ever.
+    if (!base.isEmpty() && currentFolder.startsWith(base + QLatin1Char('/')))
+        currentFolder.clear();
+}
+
+void removeKept()
+{
+    const QString base = keptBase();
+    if (!base.isEmpty())
+        QDir(base).removeRecursively();
 }
 
 void removeLeftovers()

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "update/VersionCompare.h"
 
+#include <QVersionNumber>
+
 #include <algorithm>
 
 namespace version
@@ -39,6 +41,15 @@ Newer compare(const QString &installed, const QString &offered)
             return Newer::Minor;
     }
     return Newer::No;
+}
+
+bool isNewer(const QString &installed, const QStringList &lines)
+{
+    const auto number = [](const QString &text) {
+        return QVersionNumber::fromString(taken(text)).normalized();
+    };
+    return std::any_of(lines.begin(), lines.end(),
+                       [&](const QString &line) { return number(line) > number(installed); });
 }
 
 Offer offerOf(const QString &installed, const QStringList &lines)

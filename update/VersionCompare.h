@@ -20,6 +20,9 @@ QString taken(const QString &text);
 /// version.
 Newer compare(const QString &installed, const QString &offered);
 
+/// Whether the newest of the versions is newer than `installed` field by field, the first one first.
+bool isNewer(const QString &installed, const QStringList &lines);
+
 /// What the two lines of the update's file offer.
 struct Offer {
     bool major = false;

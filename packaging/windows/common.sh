@@ -42,3 +42,14 @@ provide_qt() {
     done
     "$root/packaging/windows/build-sdk" "$qt_folder"
 }
+
+# Prints the version of the program.
+product_version() {
+    sed -n 's/^project(.* VERSION \([0-9.]*\) .*/\1/p' "$root/CMakeLists.txt"
+}
+
+# Prints the time of the commit: what is built for a release has no other time in it. An unpacked source has it in its files.
+source_date() {
+    printf '%s\n' "${SOURCE_DATE_EPOCH:-$(git -C "$root" -c safe.directory='*' log -1 --format=%ct 2>/dev/null ||
+        stat -c %Y "$root/CMakeLists.txt")}"
+}

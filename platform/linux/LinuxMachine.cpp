@@ -7,6 +7,8 @@
 #include "platform/linux/LinuxTools.h"
 #include "platform/linux/RawDevice.h"
 
+#include <QByteArrayList>
+#include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QStorageInfo>
@@ -31,7 +33,7 @@ QString labelOf(const QString &node)
 
 /// lsblk knows file systems from udev only. Without udev the volume itself is read; if that is not allowed,
 /// the mount table tells its file system.
-void identifyFileSystem(inventory::Volume &volume, const QString &node, const QStorageInfo &storage)
+void identifyFileSystem(inventory::Volume &volume, const QString &node)
 {
     static const QRegularExpression escape(QStringLiteral("\\\\(.)"));
     QHash<QString, QString> found;
@@ -46,9 +48,21 @@ void identifyFileSystem(inventory::Volume &volume, const QString &node, const QS
         line.replace(escape, QStringLiteral("\\1"));
         found.insert(line.section(QLatin1Char('='), 0, 0), line.section(QLatin1Char('='), 1));
     }
-    const QString type =
-        found.value(QStringLiteral("TYPE"), QString::fromLocal8Bit(storage.fileSystemType()));
+    const QString mounted = QString::fromLocal8Bit(QStorageInfo(volume.mountPoint).fileSystemType());
+    const QString type = found.value(QStringLiteral("TYPE"), mounted);
     volume.fileSystem = lsblk::fileSystemName(type, found.value(QStringLiteral("VERSION")));
+}
+
+void askNode(inventory::Disk *disk)
+{
+    const auto device = RawDevice::open(disk->node, false);
+    if (!device)
+        return;
+    disk->medium = device->medium();
+    if (disk->sectors == 0) {
+        disk->sectors = static_cast<quint64>(device->size()) / 512;
+        disk->bytesPerSector = device->bytesPerSector();
+    }
 }
 
 } // namespace
@@ -68,35 +82,54 @@ QStringList onlyNodes()
     return nodes;
 }
 
-lsblk::Inventory read(const lsblk::Inventory &previous)
+lsblk::Inventory readDisks(const lsblk::Inventory &previous)
 {
     const QByteArray told = linuxtools::run(QStringLiteral("lsblk"), lsblk::arguments()).output;
     lsblk::Inventory found = lsblk::parse(told, onlyNodes(), previous);
+    for (inventory::Disk &disk : found.machine.disks) {
+        if (QFileInfo(disk.node).isFile()) // an image, of which lsblk knows nothing
+            askNode(&disk);
+    }
     for (inventory::Volume &volume : found.machine.volumes) {
         const QStorageInfo storage(volume.mountPoint);
         volume.size = static_cast<quint64>(std::max<qint64>(0, storage.bytesTotal()));
         volume.free = static_cast<quint64>(std::max<qint64>(0, storage.bytesFree()));
+    }
+    qCDebug(logs::platform, "%d disks, %d volumes", found.machine.disks.size(), found.machine.volumes.size());
+    return found;
+}
+
+lsblk::Inventory read(const lsblk::Inventory &previous)
+{
+    lsblk::Inventory found = readDisks(previous);
+    for (inventory::Volume &volume : found.machine.volumes) {
         const QString node = found.volumeNodes.value(volume.letter);
         const bool unknown = volume.fileSystem.isEmpty();
         if (unknown)
-            identifyFileSystem(volume, node, storage);
+            identifyFileSystem(volume, node);
         if (unknown || volume.label.contains(QLatin1String("\\x"))) {
             if (const QString label = labelOf(node); !label.isEmpty())
                 volume.label = label;
         }
     }
-    for (inventory::Disk &disk : found.machine.disks) {
-        const auto device = RawDevice::open(disk.node, false);
-        if (!device)
-            continue;
-        disk.medium = device->medium();
-        if (disk.sectors == 0) {
-            disk.sectors = static_cast<quint64>(device->size()) / 512;
-            disk.bytesPerSector = device->bytesPerSector();
-        }
-    }
-    qCDebug(logs::platform, "%d disks, %d volumes", found.machine.disks.size(), found.machine.volumes.size());
+    for (inventory::Disk &disk : found.machine.disks)
+        askNode(&disk);
     return found;
+}
+
+std::optional<quint64> activityOf(const QString &node)
+{
+    // Reads, writes, discards and flushes of the kernel's own table, by place.
+    constexpr int Counted[] = {0, 4, 11, 15};
+    const QString name = QFileInfo(QFileInfo(node).canonicalFilePath()).fileName();
+    QFile file(QStringLiteral("/sys/class/block/") + name + QStringLiteral("/stat"));
+    if (name.isEmpty() || !file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    const QByteArrayList figures = file.readAll().simplified().split(' ');
+    quint64 transfers = 0;
+    for (const int place : Counted)
+        transfers += figures.value(place).toULongLong();
+    return figures.size() > Counted[1] ? std::optional<quint64>(transfers) : std::nullopt;
 }
 
 } // namespace linuxmachine

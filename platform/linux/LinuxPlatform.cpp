@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/linux/LinuxPlatform.h"
 
+#include "platform/FrontDoor.h"
 #include "platform/HttpDownload.h"
 #include "platform/IoControl.h"
 #include "platform/JsonSettings.h"
@@ -20,6 +21,7 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QSettings>
 #include <QSysInfo>
@@ -53,6 +55,9 @@ const inventory::Disk *diskOf(const inventory::Machine &machine, const QString &
 /// A path as a shell takes it.
 QString quoted(QString path)
 {
+    static const QRegularExpression plain(QStringLiteral("^[A-Za-z0-9/._+-]+$"));
+    if (plain.match(path).hasMatch())
+        return path;
     return QLatin1Char('\'') + path.replace(QLatin1Char('\''), QStringLiteral("'\\''")) + QLatin1Char('\'');
 }
 
@@ -185,6 +190,13 @@ DiskUse LinuxPlatform::DismountDisk(int number)
     return disk ? linuxdisks::release(disk->node) : DiskUse{DiskUse::Unknown, {}};
 }
 
+std::optional<quint64> LinuxPlatform::DiskActivity(int number)
+{
+    const inventory::Machine known = machine();
+    const inventory::Disk *disk = inventory::diskOf(known, number);
+    return disk ? linuxmachine::activityOf(disk->node) : std::nullopt;
+}
+
 // Volumes
 
 lsblk::Inventory LinuxPlatform::pc()
@@ -199,16 +211,30 @@ lsblk::Inventory LinuxPlatform::pc()
     return *m_pc;
 }
 
-void LinuxPlatform::BeginListing()
+lsblk::Inventory LinuxPlatform::known()
 {
-    lsblk::Inventory previous;
-    {
-        const std::lock_guard<std::mutex> guard(m_mutex);
-        previous = m_pc.value_or(lsblk::Inventory());
-    }
-    lsblk::Inventory found = linuxmachine::read(previous);
+    const std::lock_guard<std::mutex> guard(m_mutex);
+    return m_pc.value_or(lsblk::Inventory());
+}
+
+void LinuxPlatform::setKnown(lsblk::Inventory found)
+{
     const std::lock_guard<std::mutex> guard(m_mutex);
     m_pc = std::move(found);
+}
+
+void LinuxPlatform::BeginListing()
+{
+    setKnown(linuxmachine::read(known()));
+}
+
+bool LinuxPlatform::BeginDiskListing(qint32 milliseconds, const std::function<bool()> &mayGoOn)
+{
+    const linuxtools::Limits limits(milliseconds, mayGoOn);
+    lsblk::Inventory found = linuxmachine::readDisks(known());
+    const bool well = limits.allow();
+    setKnown(well ? std::move(found) : known()); // so that nobody asks again without limits
+    return well;
 }
 
 inventory::Machine LinuxPlatform::machine()
@@ -227,6 +253,13 @@ std::unique_ptr<tools::ScriptedDisks> LinuxPlatform::scriptedDisks()
 }
 
 // Programs and pages
+
+bool LinuxPlatform::CreateProcessAndWaitFor(const std::wstring &line, qint32 milliseconds,
+                                            const std::function<bool()> &mayGoOn, bool hidden)
+{
+    const linuxtools::Limits limits(milliseconds, mayGoOn);
+    return CreateProcessAndWait(line, hidden) && !limits.wereReached();
+}
 
 QString LinuxPlatform::findProgram(const QString &file)
 {
@@ -253,6 +286,16 @@ bool LinuxPlatform::ShellExecuteW(const QString &file, const QString &parameters
     return !file.isEmpty() && desktopuser::open(isAddress ? file : NativePath(file));
 }
 
+bool LinuxPlatform::BringToFront(const QString &)
+{
+    return frontdoor::knock(nativeSocket(QStringLiteral("front")));
+}
+
+void LinuxPlatform::WhenWanted(const std::function<void()> &come)
+{
+    frontdoor::open(nativeSocket(QStringLiteral("front")), come);
+}
+
 bool LinuxPlatform::OpenUrl(const QUrl &url)
 {
     // The toolkit takes the first opener of the search path.
@@ -273,6 +316,11 @@ QString LinuxPlatform::GetUserNameW()
     return entry ? QString::fromLocal8Bit(entry->pw_name) : qEnvironmentVariable("USER");
 }
 
+QString LinuxPlatform::LogonMark()
+{
+    return QLatin1String("start ") + QString::fromLatin1(QSysInfo::bootUniqueId());
+}
+
 QString LinuxPlatform::HistoryFolder(const QString &applicationFolder)
 {
     const QString path = QDir::cleanPath(applicationFolder);
@@ -285,6 +333,15 @@ QString LinuxPlatform::HistoryFolder(const QString &applicationFolder)
     if (wrong.isEmpty())
         return own;
     ownfiles::complain(QLatin1String("no history is kept: ") + wrong);
+    return QString();
+}
+
+QString LinuxPlatform::StateFolder()
+{
+    const QString wrong = ownfiles::makeFolder(m_places.data);
+    if (wrong.isEmpty())
+        return m_places.data;
+    ownfiles::complain(QLatin1String("nothing is kept for the next start: ") + wrong);
     return QString();
 }
 
@@ -324,12 +381,10 @@ bool LinuxPlatform::TakeInstance(const QString &key)
 
 QString LinuxPlatform::AdministratorCommand()
 {
-    // pkexec clears the environment, but a window needs these two variables.
-    const QString authority =
-        qEnvironmentVariable("XAUTHORITY", QDir::homePath() + QLatin1String("/.Xauthority"));
-    return QStringLiteral("pkexec env DISPLAY=%1 XAUTHORITY=%2 %3")
-        .arg(qEnvironmentVariable("DISPLAY", QStringLiteral(":0")), quoted(authority),
-             quoted(QCoreApplication::applicationFilePath()));
+    // The starter takes the display through pkexec, which asks in a terminal, too.
+    return linuxtools::find(QStringLiteral("pkexec")).isEmpty()
+               ? QLatin1String("sudo ") + quoted(QCoreApplication::applicationFilePath())
+               : quoted(QCoreApplication::applicationDirPath() + QLatin1String("/start"));
 }
 
 QString LinuxPlatform::OperatingSystemName()
@@ -399,6 +454,18 @@ void LinuxPlatform::CreateLogonTask(const LogonTask &task)
     native.program = findProgram(NativePath(task.program));
     if (native.program.isEmpty())
         native.program = NativePath(task.program);
+    if (ownfiles::isElevated()) {
+        // Each session reads the entries of root: only a starter that root alone can change may stand there.
+        const auto user = desktopuser::loggedOn();
+        native = logonentry::ofRoot(native, user ? user->id : 0);
+        const QString wrong = QFileInfo(native.program).isExecutable()
+                                  ? ownfiles::strangerOn(native.program)
+                                  : native.program + QLatin1String(" is missing");
+        if (!wrong.isEmpty()) {
+            ownfiles::complain(QLatin1String("nothing is started at logon: ") + wrong);
+            return;
+        }
+    }
     logonentry::create(m_places.autostart, native);
 }
 

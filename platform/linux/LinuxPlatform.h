@@ -32,16 +32,25 @@ public:
     void CloseHandle(RawHandle handle) override;
     bool IsAccessDenied(const QString &name) override;
     DiskUse DismountDisk(int number) override;
+    std::optional<quint64> DiskActivity(int number) override;
 
     void BeginListing() override;
+    bool BeginDiskListing(qint32 milliseconds, const std::function<bool()> &mayGoOn) override;
 
+    bool CreateProcessAndWaitFor(const std::wstring &line, qint32 milliseconds,
+                                 const std::function<bool()> &mayGoOn, bool hidden = false) override;
     bool ShellExecuteW(const QString &file, const QString &parameters, const QString &verb,
                        Show show) override;
+    bool BringToFront(const QString &file) override;
+    void WhenWanted(const std::function<void()> &come) override;
     bool OpenUrl(const QUrl &url) override;
 
     QString GetTempPathW() override;
     QString GetUserNameW() override;
+    /// That of the PC's start: programs of one desktop may count as those of several logons.
+    QString LogonMark() override;
     QString HistoryFolder(const QString &applicationFolder) override;
+    QString StateFolder() override;
     QString MakePrivateFolder(const QString &name) override;
     std::unique_ptr<QFile> HoldFile(const QString &path) override;
     QString NativePath(const QString &path) const override;
@@ -51,6 +60,7 @@ public:
 
     void SetThreadExecutionState(quint32 flags) override;
     int LogPixelsX() override;
+    int TrayTipLength() const override { return 0; }
     qint32 URLDownloadToFileW(const QString &url, const QString &path, const DownloadLimits &limits) override;
     void Sleep(quint32 milliseconds) override;
 
@@ -81,6 +91,9 @@ private:
     static QString findProgram(const QString &file);
     /// The PC as it was last read; read now if it never was.
     lsblk::Inventory pc();
+    /// What the last listing found; nothing before the first one.
+    lsblk::Inventory known();
+    void setKnown(lsblk::Inventory found);
     std::shared_ptr<OpenDevice> find(RawHandle handle);
 
     const folders::Places m_places;

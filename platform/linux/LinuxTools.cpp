@@ -38,30 +38,66 @@ QStringList processFolders()
 QString imageOf(const QString &processNumber)
 {
     const QString folder = QStringLiteral("/proc/") + processNumber;
-    const QString program = QFile::symLinkTarget(folder + QStringLiteral("/exe"));
+    QString program = QFile::symLinkTarget(folder + QStringLiteral("/exe"));
+    // An update has replaced the file of a process that still runs.
+    const QString replaced = QStringLiteral(" (deleted)");
+    if (program.endsWith(replaced))
+        program.chop(replaced.size());
     if (!program.isEmpty())
         return QFileInfo(program).fileName();
     QFile name(folder + QStringLiteral("/comm"));
     return name.open(QIODevice::ReadOnly) ? QString::fromLocal8Bit(name.readAll()).trimmed() : QString();
 }
 
-/// Waits without a limit for the end of a process. Its standard output, of which no more than
-/// ownfiles::MostBytes are kept.
+thread_local const Limits *limitsInForce = nullptr;
+
+/// Waits for the end of a process, and ends it where it reaches the limits of this thread. Its standard
+/// output, of which no more than ownfiles::MostBytes are kept.
 QByteArray outputOf(QProcess *process)
 {
+    constexpr int StepMs = 200;
+    constexpr int KillMs = 2000; // a process that waits for a dead disk may not even end by force
     QByteArray output;
     const auto take = [process, &output] {
         const QByteArray more = process->readAllStandardOutput();
         output += more.left(static_cast<int>(ownfiles::MostBytes) - output.size());
     };
-    while (process->waitForReadyRead(-1))
-        take();
-    process->waitForFinished(-1);
+    if (!limitsInForce) {
+        while (process->waitForReadyRead(-1))
+            take();
+        process->waitForFinished(-1);
+    } else {
+        while (!process->waitForFinished(StepMs) && process->state() != QProcess::NotRunning) {
+            take();
+            if (limitsInForce->allow())
+                continue;
+            process->kill();
+            process->waitForFinished(KillMs);
+            break;
+        }
+    }
     take();
     return output;
 }
 
 } // namespace
+
+Limits::Limits(qint32 milliseconds, const std::function<bool()> &mayGoOn)
+    : m_end(milliseconds), m_mayGoOn(mayGoOn)
+{
+    limitsInForce = this;
+}
+
+Limits::~Limits()
+{
+    limitsInForce = nullptr;
+}
+
+bool Limits::allow() const
+{
+    m_reached = m_reached || m_end.hasExpired() || !m_mayGoOn();
+    return !m_reached;
+}
 
 QStringList systemFolders()
 {

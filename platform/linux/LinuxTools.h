@@ -2,7 +2,10 @@
 #pragma once
 
 #include <QByteArray>
+#include <QDeadlineTimer>
 #include <QStringList>
+
+#include <functional>
 
 #include "platform/Inventory.h"
 
@@ -22,8 +25,28 @@ struct Ended {
     QByteArray output;
 };
 
-/// Runs an installed tool in the C locale with `input`, and waits without a limit for its end. Of its
-/// standard output no more than ownfiles::MostBytes are kept; its errors are dropped.
+/// While it lives, tools that this thread runs are ended after a time, or when `mayGoOn` says no. One at a
+/// time for each thread.
+class Limits
+{
+public:
+    Limits(qint32 milliseconds, const std::function<bool()> &mayGoOn);
+    ~Limits();
+    Limits(const Limits &) = delete;
+    Limits &operator=(const Limits &) = delete;
+
+    bool wereReached() const { return m_reached; }
+    /// False if the tool that runs now has to be ended.
+    bool allow() const;
+
+private:
+    const QDeadlineTimer m_end;
+    const std::function<bool()> &m_mayGoOn;
+    mutable bool m_reached = false;
+};
+
+/// Runs an installed tool in the C locale with `input`, and waits for its end, without a limit where there
+/// are no Limits. Of its standard output no more than ownfiles::MostBytes are kept; its errors are dropped.
 Ended run(const QString &name, const QStringList &arguments, const QByteArray &input = {});
 
 /// The image names of the running processes, each with ".exe" behind it as the program knows its companion.

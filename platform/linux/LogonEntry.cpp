@@ -4,6 +4,7 @@
 #include "platform/OwnFiles.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <cstdio>
 
@@ -42,6 +43,13 @@ QString fileOf(const QString &folder, QString name)
 
 } // namespace
 
+LogonTask ofRoot(LogonTask task, quint32 user)
+{
+    task.program = QFileInfo(task.program).path() + QLatin1String("/start");
+    task.arguments = QStringLiteral("--companion %1").arg(user);
+    return task;
+}
+
 QByteArray compose(const LogonTask &task)
 {
     QString exec = quoted(task.program);
@@ -65,6 +73,7 @@ bool create(const QString &folder, const LogonTask &task)
     QFile::remove(fresh);
     QFile file;
     return ownfiles::makeFile(&file, fresh) && file.write(compose(task)) >= 0 && file.flush() &&
+           file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther) &&
            std::rename(QFile::encodeName(fresh).constData(), QFile::encodeName(path).constData()) == 0;
 }
 

@@ -117,7 +117,10 @@ private:
     {
         const int flags = O_PATH | O_NOFOLLOW | O_CLOEXEC;
         const int found = ::openat(m_handle, part.constData(), flags);
-        if (found >= 0 || m_purpose != Purpose::Make || ::mkdirat(m_handle, part.constData(), 0700) != 0)
+        if (found >= 0 || m_purpose != Purpose::Make)
+            return found;
+        // Another process of ours may be making it, too.
+        if (::mkdirat(m_handle, part.constData(), 0700) != 0 && errno != EEXIST)
             return found;
         return ::openat(m_handle, part.constData(), flags);
     }
@@ -233,7 +236,12 @@ bool makeFile(QFile *file, const QString &path)
     return makeIn(Walk(info.path(), Purpose::Look), QFile::encodeName(info.fileName()), 0600, file);
 }
 
-bool saveFile(const QString &path, const QByteArray &bytes)
+bool isHeld(const QString & /*path*/)
+{
+    return false;
+}
+
+bool saveFile(const QString &path, QFile *rest, const QByteArray &bytes)
 {
     const QFileInfo info(path);
     const QByteArray name = QFile::encodeName(info.fileName());
@@ -243,7 +251,7 @@ bool saveFile(const QString &path, const QByteArray &bytes)
     if (name.isEmpty() || !makeIn(way, fresh, 0666, &file))
         return false;
     const int folder = way.handle();
-    const bool saved = takeRights(folder, name, file.handle()) && file.write(bytes) == bytes.size() &&
+    const bool saved = takeRights(folder, name, file.handle()) && writeAll(&file, rest, bytes) &&
                        file.flush() && ::fsync(file.handle()) == 0 &&
                        ::renameat(folder, fresh.constData(), folder, name.constData()) == 0;
     if (!saved)

@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
 #include <iterator>
@@ -147,6 +148,20 @@ void prepareNativeProcess()
     const QString temp = folders::places().temp;
     if (!temp.isEmpty())
         qputenv("XDG_RUNTIME_DIR", QFile::encodeName(temp));
+}
+
+void useConsole() {}
+
+void endNativeProcess(qint64 id)
+{
+    if (id > 1)
+        ::kill(static_cast<pid_t>(id), SIGKILL);
+}
+
+QString nativeSocket(const QString &name)
+{
+    const QString &folder = folders::places().temp;
+    return folder.isEmpty() ? QString() : folder + QLatin1Char('/') + name;
 }
 
 bool takeNativeInstance(const QString &key)

@@ -49,7 +49,7 @@ Places placesOfRoot()
     const QString home = entry ? QFile::decodeName(entry->pw_dir) : QStringLiteral("/root");
     return {chooseTemp({below(QStringLiteral("/run"))}),
             takenOver(below(QStringLiteral("/etc")), below(home + QLatin1String("/.config"))),
-            home + QLatin1String("/.config/autostart"),
+            QStringLiteral("/etc/xdg/autostart"),
             takenOver(below(QStringLiteral("/var/lib")), below(home + QLatin1String("/.local/share")))};
 }
 

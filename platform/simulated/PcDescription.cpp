@@ -176,6 +176,8 @@ Disk readDisk(const JsonReader &in, const PcDescription &pc, const SelfTestEnd &
     disk.bytesPerSecond = speed > 0 ? std::max(speed, slowest) : 0;
     disk.failsPastEnd = in.word("pastEnd", 0, {QStringLiteral("short"), QStringLiteral("fail")}) == 1;
     disk.reports = readReports(in, pc.folder);
+    disk.asleep = in.truth("asleep", false);
+    disk.idle = in.truth("idle", false);
     disk.capabilities = readFileName(in, "capabilities", pc.folder);
     disk.selfTestLog = readFileName(in, "selfTestLog", pc.folder);
     disk.identity = readIdentity(in);
@@ -213,6 +215,26 @@ inventory::Volume readVolume(const JsonReader &in, const PcDescription &pc)
         volume.extents.append(extent);
     });
     return volume;
+}
+
+ReportChange readChange(const JsonReader &in, const PcDescription &pc)
+{
+    constexpr qint64 mostSeconds = 10 * 366 * 86400;
+    ReportChange change;
+    for (const char *key : {"afterSeconds", "disk"}) {
+        if (!in.has(key))
+            in.wrong(key, QStringLiteral("a whole number is wanted"));
+    }
+    change.afterSeconds = in.whole("afterSeconds", 0, 0, mostSeconds);
+    change.disk = static_cast<int>(in.whole("disk", 0, 0, 127));
+    if (pc.disk(change.disk) == nullptr)
+        in.wrong("disk", QStringLiteral("there is no disk %1").arg(change.disk));
+    change.report = readFileName(in, "report", pc.folder);
+    if (in.has("asleep"))
+        change.asleep = in.truth("asleep", false);
+    else if (!in.has("report"))
+        in.wrong("report", QStringLiteral("a text is wanted"));
+    return change;
 }
 
 inventory::Partition readPartition(const JsonReader &in)
@@ -283,6 +305,12 @@ void readParts(const JsonReader &in, const SelfTestEnd &end, PcDescription *pc)
     });
     in.each("partitions",
             [&](const JsonReader &partition) { pc->partitions.append(readPartition(partition)); });
+    in.each("reportChanges",
+            [&](const JsonReader &change) { pc->reportChanges.append(readChange(change, *pc)); });
+    std::stable_sort(pc->reportChanges.begin(), pc->reportChanges.end(),
+                     [](const ReportChange &one, const ReportChange &other) {
+                         return one.afterSeconds < other.afterSeconds;
+                     });
 }
 
 PcDescription readObject(const QJsonObject &object, const QString &folder, QString *error)
@@ -292,6 +320,7 @@ PcDescription readObject(const QJsonObject &object, const QString &folder, QStri
     pc.folder = folder;
     pc.name = in.text("name", QStringLiteral("PC"));
     pc.user = in.text("user", QStringLiteral("user"));
+    pc.logon = in.text("logon", QStringLiteral("first"));
     pc.operatingSystem = in.text("operatingSystem", QStringLiteral("Microsoft Windows 10 10.0.19045 x64"));
     pc.dpi = static_cast<int>(in.whole("dpi", 96, 48, 960));
     pc.pauses = in.truth("pauses", true);
@@ -303,6 +332,7 @@ PcDescription readObject(const QJsonObject &object, const QString &folder, QStri
     pc.settings = readSettings(in);
     pc.history = readHistory(in, folder);
     pc.tour = in.object("tour");
+    pc.clockSpeed = in.number("clockSpeed", 1.0, 0.001, 100000.0);
     const JsonReader test = in.below("selfTest");
     pc.secondsPerMinute = test.number("secondsPerMinute", 1.0, 0.0, 3600.0);
     readParts(in, readSelfTestEnd(test, SelfTestEnd()), &pc);

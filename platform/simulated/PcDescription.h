@@ -39,16 +39,27 @@ struct Disk {
     quint64 bytesPerSecond = 0; ///< 0: no limit
     bool failsPastEnd = false;
     QStringList reports; ///< full paths; the n-th run gets the n-th
+    bool asleep = false; ///< answers `-n standby` without a report
+    bool idle = false;   ///< nobody but the program reads it or writes to it
     QString capabilities;
     QString selfTestLog;
     std::optional<Identity> identity;
     SelfTestEnd selfTestEnd;
 };
 
+/// What becomes of a disk while the program runs.
+struct ReportChange {
+    qint64 afterSeconds = 0; ///< of the PC's clock, from the begin of the process
+    int disk = 0;
+    QString report;             ///< full path; empty: stays as it is
+    std::optional<bool> asleep; ///< empty: stays as it is
+};
+
 struct PcDescription {
     QString folder; ///< full path
     QString name;
     QString user;
+    QString logon; ///< another text is another logon
     QString operatingSystem;
     int dpi = 96;
     bool pauses = true;
@@ -64,7 +75,9 @@ struct PcDescription {
     QStringList installed; ///< programs that can be started
     QJsonObject settings;  ///< first values of the settings store
     double secondsPerMinute = 1.0;
-    QString history; ///< full path of the folder of history files; empty if there is none
+    QVector<ReportChange> reportChanges; ///< in the order of their time
+    double clockSpeed = 1.0;             ///< how fast the PC's clock goes
+    QString history;                     ///< full path of the folder of history files; empty if there is none
     QJsonObject tour;
 
     /// Null if there is no such disk.

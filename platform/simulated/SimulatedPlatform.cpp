@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/simulated/SimulatedPlatform.h"
 
+#include "platform/FrontDoor.h"
 #include "platform/HttpDownload.h"
 #include "platform/JsonSettings.h"
 #include "platform/NativePlatform.h"
@@ -17,6 +18,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QMutexLocker>
+#include <QProcess>
 #include <QRegularExpression>
 #include <QThread>
 
@@ -64,7 +66,7 @@ bool makeStateFolder(const QString &folder, QString *error)
         wrong = ownfiles::strangerIn(folder);
     if (wrong.isEmpty() && !ownfiles::irregularIn(folder).isEmpty())
         wrong = ownfiles::irregularIn(folder) + QLatin1String(": no regular file");
-    for (const char *part : {"temp", "images", "registry", "volumes-changed", "drives/C"}) {
+    for (const char *part : {"temp", "images", "registry", "running", "volumes-changed", "drives/C"}) {
         if (wrong.isEmpty())
             wrong = ownfiles::makeFolder(folder + QLatin1Char('/') + QLatin1String(part));
     }
@@ -103,9 +105,10 @@ std::unique_ptr<SimulatedPlatform> SimulatedPlatform::open(const QString &folder
 SimulatedPlatform::SimulatedPlatform(simulated::PcDescription pc, const QString &stateFolder, bool ownsState,
                                      simulated::Clock clock)
     : RawDevices(std::move(pc), stateFolder + QLatin1String("/images")), m_state(stateFolder),
-      m_ownsState(ownsState),
-      m_smartctl(m_pc, m_presence, stateFolder + QLatin1String("/self-tests.json"), std::move(clock)),
-      m_processes(m_pc.processes)
+      m_ownsState(ownsState), m_clock(std::move(clock)), m_begin(m_clock()),
+      m_smartctl(m_pc, m_presence, stateFolder + QLatin1String("/self-tests.json"), m_clock,
+                 [this] { return age(); }),
+      m_programs(stateFolder + QLatin1String("/running")), m_processes(m_pc.processes)
 {
     if (m_pc.hasSmartctl)
         addSmartctl([this](const QStringList &words) { return m_smartctl.run(words); },
@@ -135,12 +138,14 @@ SimulatedPlatform::~SimulatedPlatform()
 
 QStringList SimulatedPlatform::processes()
 {
+    const QStringList real = m_programs.names();
     const QMutexLocker lock(&m_mutex);
-    return m_processes;
+    return m_processes + real;
 }
 
 void SimulatedPlatform::stopProcess(const QString &imageName)
 {
+    m_programs.end(imageName);
     const QMutexLocker lock(&m_mutex);
     for (int i = m_processes.size() - 1; i >= 0; --i) {
         if (m_processes.at(i).compare(imageName, Qt::CaseInsensitive) == 0)
@@ -173,10 +178,35 @@ bool SimulatedPlatform::ShellExecuteW(const QString &file, const QString &parame
         return true;
     if (!m_pc.installed.contains(name, Qt::CaseInsensitive))
         return false;
+    const QString program = simulated::RunningPrograms::fileOf(name);
+    if (!program.isEmpty())
+        return startProgram(program, parameters);
     const QMutexLocker lock(&m_mutex);
     if (!m_processes.contains(name, Qt::CaseInsensitive))
         m_processes.append(name);
     return true;
+}
+
+bool SimulatedPlatform::startProgram(const QString &program, const QString &parameters) const
+{
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("HALVANE_PC"), QDir(m_pc.folder).absolutePath());
+    environment.insert(QStringLiteral("HALVANE_PC_STATE"), m_state);
+    process.setProcessEnvironment(environment);
+    process.setProgram(program);
+    process.setArguments(QProcess::splitCommand(parameters));
+    return process.startDetached();
+}
+
+bool SimulatedPlatform::BringToFront(const QString &)
+{
+    return frontdoor::knock(nativeSocket(QStringLiteral("front-") + mark()));
+}
+
+void SimulatedPlatform::WhenWanted(const std::function<void()> &come)
+{
+    frontdoor::open(nativeSocket(QStringLiteral("front-") + mark()), come);
 }
 
 bool SimulatedPlatform::OpenUrl(const QUrl &url)
@@ -250,18 +280,28 @@ QString SimulatedPlatform::NativePath(const QString &path) const
     return native;
 }
 
-bool SimulatedPlatform::TakeInstance(const QString &key)
+QString SimulatedPlatform::mark() const
 {
     // With another state folder the same description is another PC.
     const QString scope = m_pc.folder + QLatin1Char('\n') + (m_ownsState ? QString() : m_state);
-    const QByteArray hash = QCryptographicHash::hash(scope.toUtf8(), QCryptographicHash::Sha1).toHex();
-    return takeNativeInstance(key + QLatin1Char('-') + QString::fromLatin1(hash));
+    return QString::fromLatin1(QCryptographicHash::hash(scope.toUtf8(), QCryptographicHash::Sha1).toHex());
+}
+
+bool SimulatedPlatform::TakeInstance(const QString &key)
+{
+    const bool taken = takeNativeInstance(key + QLatin1Char('-') + mark());
+    if (taken)
+        m_programs.addThis();
+    return taken;
 }
 
 void SimulatedPlatform::Leave()
 {
-    if (m_ownsState)
-        QDir(m_state).removeRecursively();
+    if (!m_ownsState)
+        return;
+    // Without its state the PC is gone, with all that runs on it.
+    m_programs.endAll();
+    QDir(m_state).removeRecursively();
 }
 
 QString SimulatedPlatform::OperatingSystemName()
@@ -299,8 +339,31 @@ void SimulatedPlatform::SetProgressValue(quintptr, std::optional<int> percent)
 
 void SimulatedPlatform::Shell_NotifyIconW(quintptr, const QString &title, const QString &text)
 {
-    if (!title.isEmpty())
-        record(QStringLiteral("notices.log"), (title + QLatin1Char('\t') + text).toUtf8());
+    record(QStringLiteral("notices.log"),
+           title.isEmpty() ? QByteArray("none") : (title + QLatin1Char('\t') + text).toUtf8());
+}
+
+qint64 SimulatedPlatform::age() const
+{
+    return static_cast<qint64>(static_cast<double>(m_clock() - m_begin) * m_pc.clockSpeed);
+}
+
+QDateTime SimulatedPlatform::Now()
+{
+    return QDateTime::fromMSecsSinceEpoch(m_begin + age());
+}
+
+int SimulatedPlatform::TimerInterval(int milliseconds)
+{
+    return std::max(1, static_cast<int>(milliseconds / m_pc.clockSpeed));
+}
+
+std::optional<quint64> SimulatedPlatform::DiskActivity(int number)
+{
+    const simulated::Disk *disk = m_pc.disk(number);
+    if (!disk || !m_presence.hasDisk(number))
+        return std::nullopt;
+    return disk->idle ? 0 : static_cast<quint64>(age());
 }
 
 DeviceNotifier *SimulatedPlatform::deviceNotifier()

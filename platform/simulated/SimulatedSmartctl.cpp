@@ -25,18 +25,40 @@ const QByteArray noTestsLogged = "=== START OF READ SMART DATA SECTION ===\n"
                                  "SMART Self-test log structure revision number 1\n"
                                  "No self-tests have been logged.  [To run self-tests, use: smartctl -t]\n\n";
 
-/// The report that the tool prints at its n-th run, counted from 0.
-QString reportFile(const Disk &disk, int run)
-{
-    return disk.reports.isEmpty() ? QString() : disk.reports.at(std::min(run, disk.reports.size() - 1));
-}
-
 } // namespace
 
 SimulatedSmartctl::SimulatedSmartctl(const PcDescription &pc, const Presence &presence,
-                                     const QString &stateFile, Clock clock)
-    : m_pc(pc), m_presence(presence), m_tests(stateFile, clock), m_clock(std::move(clock))
+                                     const QString &stateFile, Clock clock, Clock age)
+    : m_pc(pc), m_presence(presence), m_tests(stateFile, clock), m_clock(std::move(clock)),
+      m_age(std::move(age))
 {
+}
+
+const ReportChange *SimulatedSmartctl::lastChange(int disk, bool (*names)(const ReportChange &)) const
+{
+    const ReportChange *last = nullptr;
+    const qint64 age = m_age();
+    for (const ReportChange &change : m_pc.reportChanges) {
+        if (change.afterSeconds * 1000 <= age && change.disk == disk && names(change))
+            last = &change;
+    }
+    return last;
+}
+
+bool SimulatedSmartctl::isAsleep(const Disk &disk) const
+{
+    const ReportChange *change =
+        lastChange(disk.record.number, [](const ReportChange &each) { return each.asleep.has_value(); });
+    return change ? *change->asleep : disk.asleep;
+}
+
+QString SimulatedSmartctl::reportFile(const Disk &disk, int run) const
+{
+    const ReportChange *change =
+        lastChange(disk.record.number, [](const ReportChange &each) { return !each.report.isEmpty(); });
+    if (change)
+        return change->report;
+    return disk.reports.isEmpty() ? QString() : disk.reports.at(std::min(run, disk.reports.size() - 1));
 }
 
 SimulatedSmartctl::Request SimulatedSmartctl::parse(const QStringList &arguments)
@@ -58,13 +80,15 @@ SimulatedSmartctl::Request SimulatedSmartctl::parse(const QStringList &arguments
         } else if (word == QLatin1String("-X")) {
             request.abort = true;
         } else if (word == QLatin1String("-d") || word == QLatin1String("-l") ||
-                   word == QLatin1String("-t")) {
+                   word == QLatin1String("-n") || word == QLatin1String("-t")) {
             const QString value = arguments.value(++i, QStringLiteral(""));
             const bool test = word == QLatin1String("-t");
             if (test && (value == QLatin1String("short") || value == QLatin1String("long")))
                 request.test = value;
             else if (word == QLatin1String("-l") && value == QLatin1String("selftest"))
                 request.log = true;
+            else if (word == QLatin1String("-n") && value == QLatin1String("standby"))
+                request.unlessAsleep = true;
             else if (word != QLatin1String("-d") || value.isEmpty())
                 refuse(word, value);
         } else {
@@ -106,6 +130,8 @@ QByteArray SimulatedSmartctl::run(const QStringList &arguments)
                     : device.toLocal8Bit() + ": Unable to detect device type\n" +
                           "Please specify device type with the -d option.\n" + seeHelp);
     }
+    if (request.unlessAsleep && isAsleep(*disk))
+        return banner + "Device is in STANDBY mode, exit(2)\n";
     const QMutexLocker lock(&m_mutex);
     QByteArray output;
     if (request.report)

@@ -9,6 +9,8 @@
 #include <shldisp.h>
 #include <shlobj.h>
 
+#include <iterator>
+
 namespace windows
 {
 
@@ -100,6 +102,54 @@ bool openByShell(const QString &file, const QString &parameters, const QString &
         return false;
     return desktop->ShellExecute(Text(file), *Value(parameters), *Value(QString()), *Value(verb),
                                  *Value(show)) == S_OK;
+}
+
+namespace
+{
+
+struct WantedWindow {
+    QString file;
+    HWND window = nullptr;
+};
+
+/// The file name of a window's program; empty where this process may not ask.
+QString programOf(HWND window)
+{
+    DWORD id = 0;
+    ::GetWindowThreadProcessId(window, &id);
+    const HANDLE process = ::OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, id);
+    if (!process)
+        return QString();
+    wchar_t path[MAX_PATH * 4] = {};
+    DWORD length = static_cast<DWORD>(std::size(path));
+    const bool known = ::QueryFullProcessImageNameW(process, 0, path, &length) != FALSE;
+    ::CloseHandle(process);
+    return known ? QString::fromWCharArray(path).section(QLatin1Char('\\'), -1) : QString();
+}
+
+BOOL CALLBACK takeWindow(HWND window, LPARAM wanted)
+{
+    auto *const search = reinterpret_cast<WantedWindow *>(wanted);
+    // A dialog has an owner.
+    if (!::IsWindowVisible(window) || ::GetWindow(window, GW_OWNER) ||
+        programOf(window).compare(search->file, Qt::CaseInsensitive) != 0)
+        return TRUE;
+    search->window = window;
+    return FALSE;
+}
+
+} // namespace
+
+bool bringToFront(const QString &file)
+{
+    WantedWindow wanted{file};
+    ::EnumWindows(&takeWindow, reinterpret_cast<LPARAM>(&wanted));
+    if (!wanted.window)
+        return false;
+    if (::IsIconic(wanted.window))
+        ::ShowWindow(wanted.window, SW_RESTORE);
+    ::SetForegroundWindow(wanted.window);
+    return true;
 }
 
 } // namespace windows

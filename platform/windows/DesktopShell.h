@@ -11,4 +11,7 @@ namespace windows
 /// this process. False where there is no such shell. Any thread.
 bool openByShell(const QString &file, const QString &parameters, const QString &verb, int show);
 
+/// Brings the main window of a program to the front, which bears that file name. False where none is there.
+bool bringToFront(const QString &file);
+
 } // namespace windows

@@ -5,11 +5,14 @@
 
 #include <QDir>
 
+#include <algorithm>
 #include <array>
+#include <cstring>
 
 #include <fcntl.h>
 #include <io.h>
 #include <sddl.h>
+#include <wtsapi32.h>
 
 namespace windows
 {
@@ -59,6 +62,21 @@ bool sharesUser()
     // What cannot be told counts as shared.
     return (!aboutToken(TokenElevationType, &type, sizeof(type)) || type == TokenElevationTypeFull) &&
            asks != 0;
+}
+
+QString logonMark()
+{
+    qint64 time = 0;
+    wchar_t *told = nullptr;
+    DWORD bytes = 0;
+    if (::WTSQuerySessionInformationW(WTS_CURRENT_SERVER_HANDLE, WTS_CURRENT_SESSION, WTSSessionInfo, &told,
+                                      &bytes)) {
+        WTSINFOW session = {};
+        std::memcpy(&session, told, std::min<std::size_t>(bytes, sizeof session));
+        time = session.LogonTime.QuadPart;
+    }
+    ::WTSFreeMemory(told);
+    return QStringLiteral("logon %1").arg(time);
 }
 
 bool openFile(QFile *file, const QString &path, QIODevice::OpenMode mode, DWORD share, DWORD disposition)

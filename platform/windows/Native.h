@@ -26,6 +26,9 @@ QString userSid();
 /// is so where Windows asks before it gives these rights.
 bool sharesUser();
 
+/// Another text after each logon. Where the system does not tell the time of the logon, always the same.
+QString logonMark();
+
 /// Opens a regular file, and no link, folder or device.
 bool openFile(QFile *file, const QString &path, QIODevice::OpenMode mode, DWORD share, DWORD disposition);
 

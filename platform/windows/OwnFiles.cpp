@@ -2,6 +2,7 @@
 #include "platform/OwnFiles.h"
 
 #include "platform/windows/Native.h"
+#include "platform/windows/PrivateFolder.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -119,18 +120,34 @@ bool makeFile(QFile *file, const QString &path)
            windows::openFile(file, path, QIODevice::WriteOnly, 0, CREATE_NEW);
 }
 
-bool saveFile(const QString &path, const QByteArray &bytes)
+bool isHeld(const QString &path)
+{
+    // As openRegular() does it.
+    const HANDLE file = ::CreateFileW(windows::wide(QDir::toNativeSeparators(path)),
+                                      GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                                      nullptr, OPEN_EXISTING, FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
+    const DWORD error = ::GetLastError();
+    if (file != INVALID_HANDLE_VALUE)
+        ::CloseHandle(file);
+    return file == INVALID_HANDLE_VALUE && error == ERROR_SHARING_VIOLATION;
+}
+
+bool saveFile(const QString &path, QFile *rest, const QByteArray &bytes)
 {
     // The toolkit would replace what a link leads to.
     if (QFileInfo(path).isSymLink() && !QFile::remove(path))
         return false;
     QSaveFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
+    return file.open(QIODevice::WriteOnly) && writeAll(&file, rest, bytes) && file.commit();
 }
 
 QString makeFolder(const QString &path)
 {
-    return QDir().mkpath(path) ? strangerOn(path) : path + QLatin1String(": cannot be made");
+    // What a folder in C: inherits would let every user write to it. What is there already stays as it is.
+    windows::OwnRights own;
+    for (const QString &part : wayTo(path))
+        ::CreateDirectoryW(windows::wide(QDir::toNativeSeparators(part)), own.attributes());
+    return QFileInfo(path).isDir() ? strangerOn(path) : path + QLatin1String(": cannot be made");
 }
 
 QString strangerOn(const QString &path)

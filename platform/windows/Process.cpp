@@ -6,7 +6,11 @@
 
 #include <QByteArrayList>
 
+#include <cstdio>
 #include <cwchar>
+
+#include <fcntl.h>
+#include <io.h>
 
 namespace
 {
@@ -45,6 +49,37 @@ void prepareNativeProcess()
     ::SetDllDirectoryW(L"");
     if (ownfiles::isElevated())
         clearEnvironment();
+}
+
+void useConsole()
+{
+    const auto isOpen = [](DWORD which) { return ::GetFileType(::GetStdHandle(which)) != FILE_TYPE_UNKNOWN; };
+    // What is redirected to a file or a pipe stays so.
+    const bool output = isOpen(STD_OUTPUT_HANDLE);
+    const bool errors = isOpen(STD_ERROR_HANDLE);
+    if ((!output || !errors) && ::AttachConsole(ATTACH_PARENT_PROCESS)) {
+        if (!output)
+            std::freopen("CONOUT$", "w", stdout);
+        if (!errors)
+            std::freopen("CONOUT$", "w", stderr);
+    }
+    // Readers of the metrics take no CR LF.
+    _setmode(_fileno(stdout), _O_BINARY);
+}
+
+void endNativeProcess(qint64 id)
+{
+    const HANDLE process = ::OpenProcess(PROCESS_TERMINATE, FALSE, static_cast<DWORD>(id));
+    if (!process)
+        return;
+    ::TerminateProcess(process, 1);
+    ::CloseHandle(process);
+}
+
+QString nativeSocket(const QString &name)
+{
+    // A pipe of this user, in no folder.
+    return name;
 }
 
 bool takeNativeInstance(const QString &key)

@@ -192,6 +192,22 @@ bool RawDevices::IsAccessDenied(const QString &name)
     return false;
 }
 
+std::optional<quint64> RawDevices::DiskActivity(int number)
+{
+    const QString name = QStringLiteral("\\\\.\\PHYSICALDRIVE%1").arg(number);
+    // A handle without rights is enough, and disturbs nobody.
+    const HANDLE handle =
+        ::CreateFileW(wide(name), 0, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, 0, nullptr);
+    if (handle == INVALID_HANDLE_VALUE)
+        return std::nullopt;
+    DISK_PERFORMANCE counted{};
+    DWORD returned = 0;
+    const BOOL told = ::DeviceIoControl(handle, IOCTL_DISK_PERFORMANCE, nullptr, 0, &counted, sizeof(counted),
+                                        &returned, nullptr);
+    ::CloseHandle(handle);
+    return told ? std::optional<quint64>(quint64(counted.ReadCount) + counted.WriteCount) : std::nullopt;
+}
+
 void RawDevices::CloseHandle(Platform::RawHandle handle)
 {
     {

@@ -30,6 +30,7 @@ public:
     bool IsGone(RawHandle handle) override;
     void CloseHandle(RawHandle handle) override;
     bool IsAccessDenied(const QString &name) override;
+    std::optional<quint64> DiskActivity(int number) override;
 
 private:
     static constexpr qint64 UnknownSize = -1;

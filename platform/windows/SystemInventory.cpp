@@ -6,8 +6,16 @@
 #include "platform/tools/DiskWords.h"
 #include "platform/tools/StorageRecords.h"
 
+#include <QDeadlineTimer>
+
+#include <atomic>
+#include <chrono>
 #include <cstring>
+#include <future>
+#include <memory>
 #include <string>
+#include <thread>
+#include <utility>
 
 #include <windows.h>
 
@@ -102,6 +110,29 @@ inventory::Machine readMachine(const QString &alias, Platform *platform)
     for (const QString &root : platform->GetLogicalDriveStringsW())
         machine.volumes.append(readVolume(root, platform));
     return machine;
+}
+
+std::optional<inventory::Machine> readMachineWithin(const QString &alias, Platform *platform,
+                                                    qint32 milliseconds, const std::function<bool()> &mayGoOn)
+{
+    constexpr std::chrono::milliseconds Step(200);
+    static std::atomic<bool> isAsking{false};
+    if (isAsking.exchange(true))
+        return std::nullopt;
+    // Nothing ends a question to a dead driver: its thread is left behind, and outlives this call.
+    const auto told = std::make_shared<std::promise<inventory::Machine>>();
+    std::future<inventory::Machine> machine = told->get_future();
+    std::thread([told, alias, platform] {
+        inventory::Machine read = readMachine(alias, platform);
+        isAsking = false;
+        told->set_value(std::move(read));
+    }).detach();
+    const QDeadlineTimer end(milliseconds);
+    while (machine.wait_for(Step) != std::future_status::ready) {
+        if (end.hasExpired() || !mayGoOn())
+            return std::nullopt;
+    }
+    return machine.get();
 }
 
 } // namespace windows

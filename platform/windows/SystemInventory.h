@@ -3,6 +3,9 @@
 
 #include "platform/Inventory.h"
 
+#include <functional>
+#include <optional>
+
 class Platform;
 
 namespace windows
@@ -12,5 +15,12 @@ namespace windows
 /// `alias` is the table: what the others are about is not asked. A network share is listed, and not asked for
 /// anything. Any thread.
 inventory::Machine readMachine(const QString &alias, Platform *platform);
+
+/// The same with limits: nothing after a time, or when `mayGoOn` says no, which is asked several times a
+/// second on this thread. Also nothing while a disk still leaves an earlier question of this kind without an
+/// answer.
+std::optional<inventory::Machine> readMachineWithin(const QString &alias, Platform *platform,
+                                                    qint32 milliseconds,
+                                                    const std::function<bool()> &mayGoOn);
 
 } // namespace windows

@@ -21,6 +21,7 @@
 #include <QTemporaryFile>
 #include <QUrl>
 
+#include <algorithm>
 #include <array>
 
 #include <dbt.h>
@@ -104,18 +105,44 @@ bool startProgram(const QString &path, const QString &parameters, const QString 
     return true;
 }
 
+/// Newer systems come without this tool; its tables are made here then.
+bool isMissingTable(const std::wstring &line)
+{
+    const QString program = tools::CommandInterpreter::programOf(line);
+    return program.endsWith(QLatin1String("\\wbem\\WMIC.exe"), Qt::CaseInsensitive) &&
+           !QFile::exists(program);
+}
+
+/// Makes a table of that tool from what `read` tells of the PC. False where it tells nothing.
+bool makeTable(const std::wstring &line,
+               const std::function<std::optional<inventory::Machine>(const QString &alias)> &read)
+{
+    bool isMade = false;
+    tools::CommandInterpreter interpreter;
+    interpreter.addTool(QStringLiteral("wmic"), [&](const QStringList &arguments, const QByteArray &) {
+        const auto machine = read(arguments.value(0));
+        isMade = machine.has_value();
+        return isMade ? tools::wmic(*machine, arguments) : QByteArray();
+    });
+    return interpreter.run(line, [](const QString &path) { return path; }) && isMade;
+}
+
 } // namespace
 
 WindowsPlatform::WindowsPlatform()
 {
     // An empty card reader would ask for a medium in a box of the system's own.
     ::SetErrorMode(::GetErrorMode() | SEM_FAILCRITICALERRORS);
-    m_ownTools.addTool(QStringLiteral("wmic"), [this](const QStringList &arguments, const QByteArray &) {
-        return tools::wmic(windows::readMachine(arguments.value(0), this), arguments);
-    });
 }
 
 // Volumes
+
+inventory::Machine WindowsPlatform::Machine()
+{
+    inventory::Machine machine = windows::readMachine(QStringLiteral("diskdrive"), this);
+    machine.volumes = windows::readMachine(QStringLiteral("logicaldisk"), this).volumes;
+    return machine;
+}
 
 QStringList WindowsPlatform::GetLogicalDriveStringsW()
 {
@@ -164,34 +191,43 @@ bool WindowsPlatform::GetDiskFreeSpaceExW(const QString &root, quint64 *totalByt
 
 bool WindowsPlatform::CreateProcessAndWait(const std::wstring &line, bool hidden)
 {
-    // Newer systems come without this tool; its tables are made here then.
-    const QString program = tools::CommandInterpreter::programOf(line);
-    if (program.endsWith(QLatin1String("\\wbem\\WMIC.exe"), Qt::CaseInsensitive) && !QFile::exists(program))
-        return m_ownTools.run(line, [](const QString &path) { return path; });
+    if (isMissingTable(line))
+        return makeTable(line, [this](const QString &alias) { return windows::readMachine(alias, this); });
 
-    const QString folder = QString::fromStdWString(m_workingFolder);
-    const bool isHere = !folder.isEmpty() && !program.contains(QLatin1Char('\\')) &&
-                        QFileInfo(QDir(folder), program).isFile();
-    // A file dialog may have taken the process to another folder, where a tool of the same name may lie.
     PROCESS_INFORMATION process{};
-    if (!startLine(isHere ? tools::CommandInterpreter::withFolder(line, folder) : line, GetSystemDirectoryW(),
-                   m_workingFolder, hidden, 0, &process))
+    if (!startLine(withToolFolder(line), GetSystemDirectoryW(), m_workingFolder, hidden, 0, &process))
         return false;
     ::WaitForSingleObject(process.hProcess, INFINITE);
     close(process);
     return true;
 }
 
+std::wstring WindowsPlatform::withToolFolder(const std::wstring &line) const
+{
+    const QString program = tools::CommandInterpreter::programOf(line);
+    const QString folder = QString::fromStdWString(m_workingFolder);
+    const bool isHere = !folder.isEmpty() && !program.contains(QLatin1Char('\\')) &&
+                        QFileInfo(QDir(folder), program).isFile();
+    // A file dialog may have taken the process to another folder, where a tool of the same name may lie.
+    return isHere ? tools::CommandInterpreter::withFolder(line, folder) : line;
+}
+
 bool WindowsPlatform::CreateProcessAndWaitFor(const std::wstring &line, qint32 milliseconds,
-                                              const std::function<bool()> &mayGoOn)
+                                              const std::function<bool()> &mayGoOn, bool hidden)
 {
     constexpr DWORD StepMs = 200;
+    if (isMissingTable(line)) {
+        return makeTable(line, [this, milliseconds, &mayGoOn](const QString &alias) {
+            return windows::readMachineWithin(alias, this, milliseconds, mayGoOn);
+        });
+    }
     const HANDLE job = ::CreateJobObjectW(nullptr, nullptr);
     JOBOBJECT_EXTENDED_LIMIT_INFORMATION limits{};
     limits.BasicLimitInformation.LimitFlags = JOB_OBJECT_LIMIT_KILL_ON_JOB_CLOSE;
     ::SetInformationJobObject(job, JobObjectExtendedLimitInformation, &limits, sizeof(limits));
     PROCESS_INFORMATION process{};
-    if (!job || !startLine(line, GetSystemDirectoryW(), {}, false, CREATE_SUSPENDED, &process)) {
+    if (!job || !startLine(hidden ? withToolFolder(line) : line, GetSystemDirectoryW(),
+                           hidden ? m_workingFolder : std::wstring(), hidden, CREATE_SUSPENDED, &process)) {
         ::CloseHandle(job);
         return false;
     }
@@ -231,6 +267,11 @@ bool WindowsPlatform::ShellExecuteW(const QString &file, const QString &paramete
     return reinterpret_cast<INT_PTR>(result) > LastError;
 }
 
+bool WindowsPlatform::BringToFront(const QString &file)
+{
+    return windows::bringToFront(file);
+}
+
 bool WindowsPlatform::OpenUrl(const QUrl &url)
 {
     const QString target =
@@ -262,6 +303,11 @@ QString WindowsPlatform::GetUserNameW()
     return ::GetUserNameW(buffer.data(), &length) ? QString::fromWCharArray(buffer.data()) : QString();
 }
 
+QString WindowsPlatform::LogonMark()
+{
+    return windows::logonMark();
+}
+
 bool WindowsPlatform::TakeInstance(const QString &key)
 {
     return takeNativeInstance(key);
@@ -279,6 +325,12 @@ QString WindowsPlatform::HistoryFolder(const QString &applicationFolder)
         return own;
     ownfiles::complain(QLatin1String("no history is kept: ") + wrong);
     return QString();
+}
+
+QString WindowsPlatform::StateFolder()
+{
+    const QString folder = windows::dataFolder();
+    return !folder.isEmpty() && ownfiles::makeFolder(folder).isEmpty() ? folder : QString();
 }
 
 QString WindowsPlatform::MakePrivateFolder(const QString &name)

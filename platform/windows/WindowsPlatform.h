@@ -14,19 +14,25 @@ public:
     QStringList GetLogicalDriveStringsW() override;
     bool GetVolumeInformationW(const QString &root, QString *label, QString *fileSystem) override;
     quint32 GetDriveTypeW(const QString &root) override;
+    inventory::Machine Machine() override;
     bool GetDiskFreeSpaceExW(const QString &root, quint64 *totalBytes, quint64 *freeBytes) override;
 
     bool CreateProcessAndWait(const std::wstring &line, bool hidden) override;
     bool CreateProcessAndWaitFor(const std::wstring &line, qint32 milliseconds,
-                                 const std::function<bool()> &mayGoOn) override;
+                                 const std::function<bool()> &mayGoOn, bool hidden = false) override;
     bool ShellExecuteW(const QString &file, const QString &parameters, const QString &verb,
                        Show show) override;
+    bool BringToFront(const QString &file) override;
     bool OpenUrl(const QUrl &url) override;
 
     QString GetTempPathW() override;
     QString GetSystemDirectoryW() override;
     QString GetUserNameW() override;
+    /// The time of the logon. Where the system does not tell it, all logons have one mark.
+    QString LogonMark() override;
     QString HistoryFolder(const QString &applicationFolder) override;
+    QString StateFolder() override;
+    QByteArray LineEnd() const override { return QByteArray("\r\n"); }
     QString MakePrivateFolder(const QString &name) override;
     std::unique_ptr<QFile> HoldFile(const QString &path) override;
     void SetCurrentDirectoryW(const QString &folder) override;
@@ -56,7 +62,9 @@ public:
     std::unique_ptr<QSettings> OpenSettings(const QString &registryPath) override;
 
 private:
-    tools::CommandInterpreter m_ownTools; ///< tools that the system may lack
+    /// The line with the working folder in front of a tool that lies there and is named without a folder.
+    std::wstring withToolFolder(const std::wstring &line) const;
+
     std::unique_ptr<windows::ComUse> m_com;
     std::wstring m_workingFolder; ///< empty: the one that the process was started in
 };

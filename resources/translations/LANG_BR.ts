@@ -514,6 +514,85 @@
     </message>
 </context>
 <context>
+    <name>Companion</name>
+    <message>
+        <source>%1 · health %2 %</source>
+        <translation>%1 · saúde %2 %</translation>
+    </message>
+    <message>
+        <source>Asleep</source>
+        <translation>Em repouso</translation>
+    </message>
+    <message>
+        <source>Asleep · last %1 at %2</source>
+        <translation>Em repouso · %1 às %2</translation>
+    </message>
+    <message>
+        <source>Hot</source>
+        <translation>Muito quente</translation>
+    </message>
+    <message>
+        <source>Warm since %1</source>
+        <translation>Quente desde %1</translation>
+    </message>
+    <message>
+        <source>Warm</source>
+        <translation>Quente</translation>
+    </message>
+    <message>
+        <source>Unknown disk</source>
+        <translation>Disco desconhecido</translation>
+    </message>
+    <message>
+        <source>Disk %1</source>
+        <translation>Disco %1</translation>
+    </message>
+    <message>
+        <source>Missing: check its cable</source>
+        <translation>Ausente: verifique o cabo</translation>
+    </message>
+    <message>
+        <source>Failing: back up this disk now</source>
+        <translation>Falhando: faça backup agora</translation>
+    </message>
+    <message>
+        <source>Does not answer</source>
+        <translation>Não responde</translation>
+    </message>
+    <message>
+        <source>Tells nothing of its health</source>
+        <translation>Não informa sua saúde</translation>
+    </message>
+    <message>
+        <source>In order</source>
+        <translation>Em ordem</translation>
+    </message>
+    <message>
+        <source>Needs attention</source>
+        <translation>Requer atenção</translation>
+    </message>
+    <message>
+        <source>No disk is watched.</source>
+        <translation>Nenhum disco é monitorado.</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>e mais %1</translation>
+    </message>
+    <message>
+        <source>just now</source>
+        <translation>agora mesmo</translation>
+    </message>
+    <message>
+        <source>1 minute ago</source>
+        <translation>há 1 minuto</translation>
+    </message>
+    <message>
+        <source>%1 minutes ago</source>
+        <translation>há %1 minutos</translation>
+    </message>
+</context>
+<context>
     <name>ConfarmetionDialog</name>
     <message>
         <source>Yes</source>
@@ -588,6 +667,44 @@
     </message>
 </context>
 <context>
+    <name>Flyout</name>
+    <message>
+        <source>No disk is watched.</source>
+        <translation>Nenhum disco é monitorado.</translation>
+    </message>
+    <message>
+        <source>Alarms on again</source>
+        <translation>Reativar alarmes</translation>
+    </message>
+    <message>
+        <source>Pause alarms</source>
+        <translation>Pausar alarmes</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Configurações</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+</context>
+<context>
+    <name>FlyoutRow</name>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>Limits…</source>
+        <translation>Limites…</translation>
+    </message>
+    <message>
+        <source>Mark as seen</source>
+        <translation>Marcar como visto</translation>
+    </message>
+</context>
+<context>
     <name>InfoDialog</name>
     <message>
         <source>Information</source>
@@ -600,6 +717,33 @@
     <message>
         <source>Save List</source>
         <translation>Salvar lista</translation>
+    </message>
+</context>
+<context>
+    <name>LimitsDialog</name>
+    <message>
+        <source>Limits of this disk</source>
+        <translation>Limites deste disco</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Limits of its own</source>
+        <translation>Limites próprios</translation>
+    </message>
+    <message>
+        <source>Warning Temperature</source>
+        <translation>Temperatura de aviso</translation>
+    </message>
+    <message>
+        <source>Shutdown Temperature</source>
+        <translation>Temperatura de desligamento</translation>
     </message>
 </context>
 <context>
@@ -1118,6 +1262,145 @@
     </message>
 </context>
 <context>
+    <name>Monitor</name>
+    <message>
+        <source>Back up this disk now.</source>
+        <translation>Faça backup deste disco agora.</translation>
+    </message>
+    <message>
+        <source>temperature %1, limit %2</source>
+        <translation>temperatura %1, limite %2</translation>
+    </message>
+    <message>
+        <source>See to its cooling.</source>
+        <translation>Verifique a refrigeração.</translation>
+    </message>
+    <message>
+        <source>temperature %1, shutdown limit %2</source>
+        <translation>temperatura %1, limite de desligamento %2</translation>
+    </message>
+    <message>
+        <source>It is advisable to shut down the system now.</source>
+        <translation>É aconselhável desligar o sistema agora.</translation>
+    </message>
+    <message>
+        <source>the drive reports that it is failing: %3</source>
+        <translation>o disco informa que está falhando: %3</translation>
+    </message>
+    <message>
+        <source>the drive reports that it is failing</source>
+        <translation>o disco informa que está falhando</translation>
+    </message>
+    <message>
+        <source>critical warning: %3</source>
+        <translation>aviso crítico: %3</translation>
+    </message>
+    <message>
+        <source>failing attributes: %3</source>
+        <translation>atributos com falha: %3</translation>
+    </message>
+    <message>
+        <source>reallocated sectors: %1 (before: %2)</source>
+        <translation>setores realocados: %1 (antes: %2)</translation>
+    </message>
+    <message>
+        <source>reallocated sectors: %1</source>
+        <translation>setores realocados: %1</translation>
+    </message>
+    <message>
+        <source>pending sectors: %1 (before: %2)</source>
+        <translation>setores pendentes: %1 (antes: %2)</translation>
+    </message>
+    <message>
+        <source>pending sectors: %1</source>
+        <translation>setores pendentes: %1</translation>
+    </message>
+    <message>
+        <source>uncorrectable errors: %1 (before: %2)</source>
+        <translation>erros incorrigíveis: %1 (antes: %2)</translation>
+    </message>
+    <message>
+        <source>uncorrectable errors: %1</source>
+        <translation>erros incorrigíveis: %1</translation>
+    </message>
+    <message>
+        <source>media errors: %1 (before: %2)</source>
+        <translation>erros de mídia: %1 (antes: %2)</translation>
+    </message>
+    <message>
+        <source>media errors: %1</source>
+        <translation>erros de mídia: %1</translation>
+    </message>
+    <message>
+        <source>spare %1 %, threshold %2 %</source>
+        <translation>reserva %1 %, limite %2 %</translation>
+    </message>
+    <message>
+        <source>wear %1 %</source>
+        <translation>desgaste %1 %</translation>
+    </message>
+    <message>
+        <source>Plan to replace this disk, and keep a backup.</source>
+        <translation>Planeje substituir este disco e mantenha um backup.</translation>
+    </message>
+    <message>
+        <source>the self-test failed: %3</source>
+        <translation>o autoteste falhou: %3</translation>
+    </message>
+    <message>
+        <source>the disk does not answer</source>
+        <translation>o disco não responde</translation>
+    </message>
+    <message>
+        <source>Check its cable. Back it up as soon as it answers.</source>
+        <translation>Verifique o cabo. Faça backup assim que ele responder.</translation>
+    </message>
+    <message>
+        <source>the disk is missing</source>
+        <translation>o disco está ausente</translation>
+    </message>
+    <message>
+        <source>Check its cable. If it comes back, back it up.</source>
+        <translation>Verifique o cabo. Se ele voltar, faça backup.</translation>
+    </message>
+    <message>
+        <source>the disk is back</source>
+        <translation>o disco voltou</translation>
+    </message>
+    <message>
+        <source>the log cannot be written: %3</source>
+        <translation>não é possível gravar o log: %3</translation>
+    </message>
+    <message>
+        <source>Choose another file for it in Settings.</source>
+        <translation>Escolha outro arquivo nas configurações.</translation>
+    </message>
+    <message>
+        <source>the spare is used up</source>
+        <translation>a reserva acabou</translation>
+    </message>
+    <message>
+        <source>too hot or too cold</source>
+        <translation>quente demais ou frio demais</translation>
+    </message>
+    <message>
+        <source>less reliable after errors of the medium</source>
+        <translation>menos confiável após erros de mídia</translation>
+    </message>
+    <message>
+        <source>read-only</source>
+        <translation>somente leitura</translation>
+    </message>
+    <message>
+        <source>the backup of its memory has failed</source>
+        <translation>a proteção da memória falhou</translation>
+    </message>
+    <message>
+        <source>the persistent memory is read-only</source>
+        <translation>a memória persistente é somente leitura</translation>
+    </message>
+</context>
+<context>
     <name>QCheckUpdate</name>
     <message>
         <source>No update available.</source>
@@ -1165,6 +1448,10 @@ Update failed due to partial download.</source>
         <translation>Falha na atualização 
 
 A atualização falhou porque o download ficou incompleto.</translation>
+    </message>
+    <message>
+        <source>The update could not be verified and was not started.</source>
+        <translation>Não foi possível verificar a atualização e ela não foi iniciada.</translation>
     </message>
 </context>
 <context>
@@ -1573,6 +1860,33 @@ A atualização falhou porque o download ficou incompleto.</translation>
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>Tray</name>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>Refresh now</source>
+        <translation>Atualizar agora</translation>
+    </message>
+    <message>
+        <source>Pause alarms for an hour</source>
+        <translation>Pausar alarmes por uma hora</translation>
+    </message>
+    <message>
+        <source>Show lowest health</source>
+        <translation>Mostrar a saúde mais baixa</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Configurações</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Sair</translation>
     </message>
 </context>
 <context>

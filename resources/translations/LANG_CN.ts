@@ -514,6 +514,85 @@
     </message>
 </context>
 <context>
+    <name>Companion</name>
+    <message>
+        <source>%1 · health %2 %</source>
+        <translation>%1 · 健康状态 %2 %</translation>
+    </message>
+    <message>
+        <source>Asleep</source>
+        <translation>休眠中</translation>
+    </message>
+    <message>
+        <source>Asleep · last %1 at %2</source>
+        <translation>休眠中 · 上次为 %1（%2）</translation>
+    </message>
+    <message>
+        <source>Hot</source>
+        <translation>过热</translation>
+    </message>
+    <message>
+        <source>Warm since %1</source>
+        <translation>自 %1 起偏热</translation>
+    </message>
+    <message>
+        <source>Warm</source>
+        <translation>偏热</translation>
+    </message>
+    <message>
+        <source>Unknown disk</source>
+        <translation>未知磁盘</translation>
+    </message>
+    <message>
+        <source>Disk %1</source>
+        <translation>磁盘 %1</translation>
+    </message>
+    <message>
+        <source>Missing: check its cable</source>
+        <translation>缺失：请检查连接线</translation>
+    </message>
+    <message>
+        <source>Failing: back up this disk now</source>
+        <translation>即将失效：请立即备份</translation>
+    </message>
+    <message>
+        <source>Does not answer</source>
+        <translation>没有响应</translation>
+    </message>
+    <message>
+        <source>Tells nothing of its health</source>
+        <translation>不提供健康状态信息</translation>
+    </message>
+    <message>
+        <source>In order</source>
+        <translation>正常</translation>
+    </message>
+    <message>
+        <source>Needs attention</source>
+        <translation>需要注意</translation>
+    </message>
+    <message>
+        <source>No disk is watched.</source>
+        <translation>没有正在监视的磁盘。</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>另有 %1 个</translation>
+    </message>
+    <message>
+        <source>just now</source>
+        <translation>刚刚</translation>
+    </message>
+    <message>
+        <source>1 minute ago</source>
+        <translation>1 分钟前</translation>
+    </message>
+    <message>
+        <source>%1 minutes ago</source>
+        <translation>%1 分钟前</translation>
+    </message>
+</context>
+<context>
     <name>ConfarmetionDialog</name>
     <message>
         <source>Yes</source>
@@ -588,6 +667,44 @@
     </message>
 </context>
 <context>
+    <name>Flyout</name>
+    <message>
+        <source>No disk is watched.</source>
+        <translation>没有正在监视的磁盘。</translation>
+    </message>
+    <message>
+        <source>Alarms on again</source>
+        <translation>恢复警报</translation>
+    </message>
+    <message>
+        <source>Pause alarms</source>
+        <translation>暂停警报</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+</context>
+<context>
+    <name>FlyoutRow</name>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>Limits…</source>
+        <translation>限值…</translation>
+    </message>
+    <message>
+        <source>Mark as seen</source>
+        <translation>标记为已读</translation>
+    </message>
+</context>
+<context>
     <name>InfoDialog</name>
     <message>
         <source>Information</source>
@@ -600,6 +717,33 @@
     <message>
         <source>Save List</source>
         <translation>保存列表</translation>
+    </message>
+</context>
+<context>
+    <name>LimitsDialog</name>
+    <message>
+        <source>Limits of this disk</source>
+        <translation>此磁盘的限值</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Limits of its own</source>
+        <translation>使用单独的限值</translation>
+    </message>
+    <message>
+        <source>Warning Temperature</source>
+        <translation>警告温度</translation>
+    </message>
+    <message>
+        <source>Shutdown Temperature</source>
+        <translation>关机温度</translation>
     </message>
 </context>
 <context>
@@ -1118,6 +1262,145 @@
     </message>
 </context>
 <context>
+    <name>Monitor</name>
+    <message>
+        <source>Back up this disk now.</source>
+        <translation>请立即备份此磁盘。</translation>
+    </message>
+    <message>
+        <source>temperature %1, limit %2</source>
+        <translation>温度 %1，限值 %2</translation>
+    </message>
+    <message>
+        <source>See to its cooling.</source>
+        <translation>请检查其散热。</translation>
+    </message>
+    <message>
+        <source>temperature %1, shutdown limit %2</source>
+        <translation>温度 %1，关机限值 %2</translation>
+    </message>
+    <message>
+        <source>It is advisable to shut down the system now.</source>
+        <translation>建议立即关闭系统。</translation>
+    </message>
+    <message>
+        <source>the drive reports that it is failing: %3</source>
+        <translation>磁盘报告自身即将失效：%3</translation>
+    </message>
+    <message>
+        <source>the drive reports that it is failing</source>
+        <translation>磁盘报告自身即将失效</translation>
+    </message>
+    <message>
+        <source>critical warning: %3</source>
+        <translation>严重警告：%3</translation>
+    </message>
+    <message>
+        <source>failing attributes: %3</source>
+        <translation>未通过的属性：%3</translation>
+    </message>
+    <message>
+        <source>reallocated sectors: %1 (before: %2)</source>
+        <translation>重新分配的扇区：%1（之前：%2）</translation>
+    </message>
+    <message>
+        <source>reallocated sectors: %1</source>
+        <translation>重新分配的扇区：%1</translation>
+    </message>
+    <message>
+        <source>pending sectors: %1 (before: %2)</source>
+        <translation>待处理的扇区：%1（之前：%2）</translation>
+    </message>
+    <message>
+        <source>pending sectors: %1</source>
+        <translation>待处理的扇区：%1</translation>
+    </message>
+    <message>
+        <source>uncorrectable errors: %1 (before: %2)</source>
+        <translation>无法校正的错误：%1（之前：%2）</translation>
+    </message>
+    <message>
+        <source>uncorrectable errors: %1</source>
+        <translation>无法校正的错误：%1</translation>
+    </message>
+    <message>
+        <source>media errors: %1 (before: %2)</source>
+        <translation>介质错误：%1（之前：%2）</translation>
+    </message>
+    <message>
+        <source>media errors: %1</source>
+        <translation>介质错误：%1</translation>
+    </message>
+    <message>
+        <source>spare %1 %, threshold %2 %</source>
+        <translation>备用空间 %1 %，阈值 %2 %</translation>
+    </message>
+    <message>
+        <source>wear %1 %</source>
+        <translation>磨损 %1 %</translation>
+    </message>
+    <message>
+        <source>Plan to replace this disk, and keep a backup.</source>
+        <translation>请计划更换此磁盘，并保留备份。</translation>
+    </message>
+    <message>
+        <source>the self-test failed: %3</source>
+        <translation>自检失败：%3</translation>
+    </message>
+    <message>
+        <source>the disk does not answer</source>
+        <translation>磁盘没有响应</translation>
+    </message>
+    <message>
+        <source>Check its cable. Back it up as soon as it answers.</source>
+        <translation>请检查连接线。一有响应就立即备份。</translation>
+    </message>
+    <message>
+        <source>the disk is missing</source>
+        <translation>磁盘缺失</translation>
+    </message>
+    <message>
+        <source>Check its cable. If it comes back, back it up.</source>
+        <translation>请检查连接线。如果恢复，请备份。</translation>
+    </message>
+    <message>
+        <source>the disk is back</source>
+        <translation>磁盘已恢复</translation>
+    </message>
+    <message>
+        <source>the log cannot be written: %3</source>
+        <translation>无法写入日志：%3</translation>
+    </message>
+    <message>
+        <source>Choose another file for it in Settings.</source>
+        <translation>请在设置中选择其他文件。</translation>
+    </message>
+    <message>
+        <source>the spare is used up</source>
+        <translation>备用空间已用尽</translation>
+    </message>
+    <message>
+        <source>too hot or too cold</source>
+        <translation>温度过高或过低</translation>
+    </message>
+    <message>
+        <source>less reliable after errors of the medium</source>
+        <translation>介质出错后可靠性下降</translation>
+    </message>
+    <message>
+        <source>read-only</source>
+        <translation>只读</translation>
+    </message>
+    <message>
+        <source>the backup of its memory has failed</source>
+        <translation>内存备份装置失效</translation>
+    </message>
+    <message>
+        <source>the persistent memory is read-only</source>
+        <translation>持久内存为只读</translation>
+    </message>
+</context>
+<context>
     <name>QCheckUpdate</name>
     <message>
         <source>No update available.</source>
@@ -1165,6 +1448,10 @@ Update failed due to partial download.</source>
         <translation>更新失败 
 
 由于下载不完整，更新失败。</translation>
+    </message>
+    <message>
+        <source>The update could not be verified and was not started.</source>
+        <translation>无法验证此更新，因此未启动。</translation>
     </message>
 </context>
 <context>
@@ -1573,6 +1860,33 @@ Update failed due to partial download.</source>
     <message>
         <source>OK</source>
         <translation>确定</translation>
+    </message>
+</context>
+<context>
+    <name>Tray</name>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>Refresh now</source>
+        <translation>立即刷新</translation>
+    </message>
+    <message>
+        <source>Pause alarms for an hour</source>
+        <translation>暂停警报一小时</translation>
+    </message>
+    <message>
+        <source>Show lowest health</source>
+        <translation>显示最低健康状态</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>退出</translation>
     </message>
 </context>
 <context>

@@ -514,6 +514,85 @@
     </message>
 </context>
 <context>
+    <name>Companion</name>
+    <message>
+        <source>%1 · health %2 %</source>
+        <translation>%1 · Zustand %2 %</translation>
+    </message>
+    <message>
+        <source>Asleep</source>
+        <translation>Im Ruhezustand</translation>
+    </message>
+    <message>
+        <source>Asleep · last %1 at %2</source>
+        <translation>Ruht · zuletzt %1 um %2</translation>
+    </message>
+    <message>
+        <source>Hot</source>
+        <translation>Heiß</translation>
+    </message>
+    <message>
+        <source>Warm since %1</source>
+        <translation>Warm seit %1</translation>
+    </message>
+    <message>
+        <source>Warm</source>
+        <translation>Warm</translation>
+    </message>
+    <message>
+        <source>Unknown disk</source>
+        <translation>Unbekanntes Laufwerk</translation>
+    </message>
+    <message>
+        <source>Disk %1</source>
+        <translation>Laufwerk %1</translation>
+    </message>
+    <message>
+        <source>Missing: check its cable</source>
+        <translation>Fehlt: Kabel prüfen</translation>
+    </message>
+    <message>
+        <source>Failing: back up this disk now</source>
+        <translation>Versagt: Daten jetzt sichern</translation>
+    </message>
+    <message>
+        <source>Does not answer</source>
+        <translation>Antwortet nicht</translation>
+    </message>
+    <message>
+        <source>Tells nothing of its health</source>
+        <translation>Sagt nichts über seinen Zustand</translation>
+    </message>
+    <message>
+        <source>In order</source>
+        <translation>In Ordnung</translation>
+    </message>
+    <message>
+        <source>Needs attention</source>
+        <translation>Braucht Aufmerksamkeit</translation>
+    </message>
+    <message>
+        <source>No disk is watched.</source>
+        <translation>Kein Laufwerk wird überwacht.</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
+    </message>
+    <message>
+        <source>just now</source>
+        <translation>gerade eben</translation>
+    </message>
+    <message>
+        <source>1 minute ago</source>
+        <translation>vor 1 Minute</translation>
+    </message>
+    <message>
+        <source>%1 minutes ago</source>
+        <translation>vor %1 Minuten</translation>
+    </message>
+</context>
+<context>
     <name>ConfarmetionDialog</name>
     <message>
         <source>Yes</source>
@@ -588,6 +667,44 @@
     </message>
 </context>
 <context>
+    <name>Flyout</name>
+    <message>
+        <source>No disk is watched.</source>
+        <translation>Kein Laufwerk wird überwacht.</translation>
+    </message>
+    <message>
+        <source>Alarms on again</source>
+        <translation>Alarme wieder an</translation>
+    </message>
+    <message>
+        <source>Pause alarms</source>
+        <translation>Alarme pausieren</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+</context>
+<context>
+    <name>FlyoutRow</name>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Limits…</source>
+        <translation>Grenzwerte…</translation>
+    </message>
+    <message>
+        <source>Mark as seen</source>
+        <translation>Als gesehen markieren</translation>
+    </message>
+</context>
+<context>
     <name>InfoDialog</name>
     <message>
         <source>Information</source>
@@ -600,6 +717,33 @@
     <message>
         <source>Save List</source>
         <translation>Liste speichern</translation>
+    </message>
+</context>
+<context>
+    <name>LimitsDialog</name>
+    <message>
+        <source>Limits of this disk</source>
+        <translation>Grenzwerte dieses Laufwerks</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Limits of its own</source>
+        <translation>Eigene Grenzwerte</translation>
+    </message>
+    <message>
+        <source>Warning Temperature</source>
+        <translation>Warntemperatur</translation>
+    </message>
+    <message>
+        <source>Shutdown Temperature</source>
+        <translation>Abschalttemperatur</translation>
     </message>
 </context>
 <context>
@@ -1118,6 +1262,145 @@
     </message>
 </context>
 <context>
+    <name>Monitor</name>
+    <message>
+        <source>Back up this disk now.</source>
+        <translation>Sichern Sie jetzt die Daten dieses Laufwerks.</translation>
+    </message>
+    <message>
+        <source>temperature %1, limit %2</source>
+        <translation>Temperatur %1, Grenzwert %2</translation>
+    </message>
+    <message>
+        <source>See to its cooling.</source>
+        <translation>Sorgen Sie für Kühlung.</translation>
+    </message>
+    <message>
+        <source>temperature %1, shutdown limit %2</source>
+        <translation>Temperatur %1, Grenzwert zum Herunterfahren %2</translation>
+    </message>
+    <message>
+        <source>It is advisable to shut down the system now.</source>
+        <translation>Es ist ratsam, das System jetzt herunterzufahren.</translation>
+    </message>
+    <message>
+        <source>the drive reports that it is failing: %3</source>
+        <translation>das Laufwerk meldet seinen Ausfall: %3</translation>
+    </message>
+    <message>
+        <source>the drive reports that it is failing</source>
+        <translation>das Laufwerk meldet seinen Ausfall</translation>
+    </message>
+    <message>
+        <source>critical warning: %3</source>
+        <translation>kritische Warnung: %3</translation>
+    </message>
+    <message>
+        <source>failing attributes: %3</source>
+        <translation>versagende Attribute: %3</translation>
+    </message>
+    <message>
+        <source>reallocated sectors: %1 (before: %2)</source>
+        <translation>neu zugewiesene Sektoren: %1 (zuvor: %2)</translation>
+    </message>
+    <message>
+        <source>reallocated sectors: %1</source>
+        <translation>neu zugewiesene Sektoren: %1</translation>
+    </message>
+    <message>
+        <source>pending sectors: %1 (before: %2)</source>
+        <translation>ausstehende Sektoren: %1 (zuvor: %2)</translation>
+    </message>
+    <message>
+        <source>pending sectors: %1</source>
+        <translation>ausstehende Sektoren: %1</translation>
+    </message>
+    <message>
+        <source>uncorrectable errors: %1 (before: %2)</source>
+        <translation>nicht korrigierbare Fehler: %1 (zuvor: %2)</translation>
+    </message>
+    <message>
+        <source>uncorrectable errors: %1</source>
+        <translation>nicht korrigierbare Fehler: %1</translation>
+    </message>
+    <message>
+        <source>media errors: %1 (before: %2)</source>
+        <translation>Medienfehler: %1 (zuvor: %2)</translation>
+    </message>
+    <message>
+        <source>media errors: %1</source>
+        <translation>Medienfehler: %1</translation>
+    </message>
+    <message>
+        <source>spare %1 %, threshold %2 %</source>
+        <translation>Reserve %1 %, Grenzwert %2 %</translation>
+    </message>
+    <message>
+        <source>wear %1 %</source>
+        <translation>Abnutzung %1 %</translation>
+    </message>
+    <message>
+        <source>Plan to replace this disk, and keep a backup.</source>
+        <translation>Planen Sie den Ersatz dieses Laufwerks und halten Sie eine Sicherung bereit.</translation>
+    </message>
+    <message>
+        <source>the self-test failed: %3</source>
+        <translation>der Selbsttest ist fehlgeschlagen: %3</translation>
+    </message>
+    <message>
+        <source>the disk does not answer</source>
+        <translation>das Laufwerk antwortet nicht</translation>
+    </message>
+    <message>
+        <source>Check its cable. Back it up as soon as it answers.</source>
+        <translation>Prüfen Sie das Kabel. Sichern Sie die Daten, sobald es wieder antwortet.</translation>
+    </message>
+    <message>
+        <source>the disk is missing</source>
+        <translation>das Laufwerk fehlt</translation>
+    </message>
+    <message>
+        <source>Check its cable. If it comes back, back it up.</source>
+        <translation>Prüfen Sie das Kabel. Wenn es wieder da ist, sichern Sie die Daten.</translation>
+    </message>
+    <message>
+        <source>the disk is back</source>
+        <translation>das Laufwerk ist wieder da</translation>
+    </message>
+    <message>
+        <source>the log cannot be written: %3</source>
+        <translation>das Protokoll kann nicht geschrieben werden: %3</translation>
+    </message>
+    <message>
+        <source>Choose another file for it in Settings.</source>
+        <translation>Wählen Sie in den Einstellungen eine andere Datei dafür.</translation>
+    </message>
+    <message>
+        <source>the spare is used up</source>
+        <translation>die Reserve ist aufgebraucht</translation>
+    </message>
+    <message>
+        <source>too hot or too cold</source>
+        <translation>zu heiß oder zu kalt</translation>
+    </message>
+    <message>
+        <source>less reliable after errors of the medium</source>
+        <translation>nach Fehlern des Mediums weniger zuverlässig</translation>
+    </message>
+    <message>
+        <source>read-only</source>
+        <translation>schreibgeschützt</translation>
+    </message>
+    <message>
+        <source>the backup of its memory has failed</source>
+        <translation>die Sicherung seines Speichers ist ausgefallen</translation>
+    </message>
+    <message>
+        <source>the persistent memory is read-only</source>
+        <translation>der persistente Speicher ist schreibgeschützt</translation>
+    </message>
+</context>
+<context>
     <name>QCheckUpdate</name>
     <message>
         <source>No update available.</source>
@@ -1165,6 +1448,10 @@ Update failed due to partial download.</source>
         <translation>Update fehlgeschlagen 
 
 Das Update ist fehlgeschlagen, weil der Download unvollständig war.</translation>
+    </message>
+    <message>
+        <source>The update could not be verified and was not started.</source>
+        <translation>Das Update konnte nicht überprüft werden und wurde nicht gestartet.</translation>
     </message>
 </context>
 <context>
@@ -1573,6 +1860,33 @@ Das Update ist fehlgeschlagen, weil der Download unvollständig war.</translatio
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>Tray</name>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Refresh now</source>
+        <translation>Jetzt aktualisieren</translation>
+    </message>
+    <message>
+        <source>Pause alarms for an hour</source>
+        <translation>Alarme eine Stunde pausieren</translation>
+    </message>
+    <message>
+        <source>Show lowest health</source>
+        <translation>Niedrigsten Zustand anzeigen</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Beenden</translation>
     </message>
 </context>
 <context>

@@ -514,6 +514,85 @@
     </message>
 </context>
 <context>
+    <name>Companion</name>
+    <message>
+        <source>%1 · health %2 %</source>
+        <translation>%1 · conditie %2 %</translation>
+    </message>
+    <message>
+        <source>Asleep</source>
+        <translation>In slaapstand</translation>
+    </message>
+    <message>
+        <source>Asleep · last %1 at %2</source>
+        <translation>In slaapstand · %1 om %2</translation>
+    </message>
+    <message>
+        <source>Hot</source>
+        <translation>Heet</translation>
+    </message>
+    <message>
+        <source>Warm since %1</source>
+        <translation>Warm sinds %1</translation>
+    </message>
+    <message>
+        <source>Warm</source>
+        <translation>Warm</translation>
+    </message>
+    <message>
+        <source>Unknown disk</source>
+        <translation>Onbekende schijf</translation>
+    </message>
+    <message>
+        <source>Disk %1</source>
+        <translation>Schijf %1</translation>
+    </message>
+    <message>
+        <source>Missing: check its cable</source>
+        <translation>Ontbreekt: controleer de kabel</translation>
+    </message>
+    <message>
+        <source>Failing: back up this disk now</source>
+        <translation>Defect: maak nu een back-up</translation>
+    </message>
+    <message>
+        <source>Does not answer</source>
+        <translation>Antwoordt niet</translation>
+    </message>
+    <message>
+        <source>Tells nothing of its health</source>
+        <translation>Meldt niets over de conditie</translation>
+    </message>
+    <message>
+        <source>In order</source>
+        <translation>In orde</translation>
+    </message>
+    <message>
+        <source>Needs attention</source>
+        <translation>Vraagt aandacht</translation>
+    </message>
+    <message>
+        <source>No disk is watched.</source>
+        <translation>Er wordt geen schijf bewaakt.</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>en nog %1</translation>
+    </message>
+    <message>
+        <source>just now</source>
+        <translation>zojuist</translation>
+    </message>
+    <message>
+        <source>1 minute ago</source>
+        <translation>1 minuut geleden</translation>
+    </message>
+    <message>
+        <source>%1 minutes ago</source>
+        <translation>%1 minuten geleden</translation>
+    </message>
+</context>
+<context>
     <name>ConfarmetionDialog</name>
     <message>
         <source>Yes</source>
@@ -588,6 +667,44 @@
     </message>
 </context>
 <context>
+    <name>Flyout</name>
+    <message>
+        <source>No disk is watched.</source>
+        <translation>Er wordt geen schijf bewaakt.</translation>
+    </message>
+    <message>
+        <source>Alarms on again</source>
+        <translation>Alarmen weer aan</translation>
+    </message>
+    <message>
+        <source>Pause alarms</source>
+        <translation>Alarmen pauzeren</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Instellingen</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Openen</translation>
+    </message>
+</context>
+<context>
+    <name>FlyoutRow</name>
+    <message>
+        <source>Open</source>
+        <translation>Openen</translation>
+    </message>
+    <message>
+        <source>Limits…</source>
+        <translation>Limieten…</translation>
+    </message>
+    <message>
+        <source>Mark as seen</source>
+        <translation>Als gezien markeren</translation>
+    </message>
+</context>
+<context>
     <name>InfoDialog</name>
     <message>
         <source>Information</source>
@@ -600,6 +717,33 @@
     <message>
         <source>Save List</source>
         <translation>Lijst opslaan</translation>
+    </message>
+</context>
+<context>
+    <name>LimitsDialog</name>
+    <message>
+        <source>Limits of this disk</source>
+        <translation>Limieten van deze schijf</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>Limits of its own</source>
+        <translation>Eigen limieten</translation>
+    </message>
+    <message>
+        <source>Warning Temperature</source>
+        <translation>Waarschuwingstemperatuur</translation>
+    </message>
+    <message>
+        <source>Shutdown Temperature</source>
+        <translation>Afsluittemperatuur</translation>
     </message>
 </context>
 <context>
@@ -1118,6 +1262,145 @@
     </message>
 </context>
 <context>
+    <name>Monitor</name>
+    <message>
+        <source>Back up this disk now.</source>
+        <translation>Maak nu een back-up van deze schijf.</translation>
+    </message>
+    <message>
+        <source>temperature %1, limit %2</source>
+        <translation>temperatuur %1, limiet %2</translation>
+    </message>
+    <message>
+        <source>See to its cooling.</source>
+        <translation>Zorg voor koeling.</translation>
+    </message>
+    <message>
+        <source>temperature %1, shutdown limit %2</source>
+        <translation>temperatuur %1, afsluitlimiet %2</translation>
+    </message>
+    <message>
+        <source>It is advisable to shut down the system now.</source>
+        <translation>Het is raadzaam het systeem nu af te sluiten.</translation>
+    </message>
+    <message>
+        <source>the drive reports that it is failing: %3</source>
+        <translation>de schijf meldt dat hij defect raakt: %3</translation>
+    </message>
+    <message>
+        <source>the drive reports that it is failing</source>
+        <translation>de schijf meldt dat hij defect raakt</translation>
+    </message>
+    <message>
+        <source>critical warning: %3</source>
+        <translation>kritieke waarschuwing: %3</translation>
+    </message>
+    <message>
+        <source>failing attributes: %3</source>
+        <translation>falende attributen: %3</translation>
+    </message>
+    <message>
+        <source>reallocated sectors: %1 (before: %2)</source>
+        <translation>opnieuw toegewezen sectoren: %1 (eerder: %2)</translation>
+    </message>
+    <message>
+        <source>reallocated sectors: %1</source>
+        <translation>opnieuw toegewezen sectoren: %1</translation>
+    </message>
+    <message>
+        <source>pending sectors: %1 (before: %2)</source>
+        <translation>sectoren in afwachting: %1 (eerder: %2)</translation>
+    </message>
+    <message>
+        <source>pending sectors: %1</source>
+        <translation>sectoren in afwachting: %1</translation>
+    </message>
+    <message>
+        <source>uncorrectable errors: %1 (before: %2)</source>
+        <translation>niet te corrigeren fouten: %1 (eerder: %2)</translation>
+    </message>
+    <message>
+        <source>uncorrectable errors: %1</source>
+        <translation>niet te corrigeren fouten: %1</translation>
+    </message>
+    <message>
+        <source>media errors: %1 (before: %2)</source>
+        <translation>mediafouten: %1 (eerder: %2)</translation>
+    </message>
+    <message>
+        <source>media errors: %1</source>
+        <translation>mediafouten: %1</translation>
+    </message>
+    <message>
+        <source>spare %1 %, threshold %2 %</source>
+        <translation>reserve %1 %, drempel %2 %</translation>
+    </message>
+    <message>
+        <source>wear %1 %</source>
+        <translation>slijtage %1 %</translation>
+    </message>
+    <message>
+        <source>Plan to replace this disk, and keep a backup.</source>
+        <translation>Plan de vervanging van deze schijf en bewaar een back-up.</translation>
+    </message>
+    <message>
+        <source>the self-test failed: %3</source>
+        <translation>de zelftest is mislukt: %3</translation>
+    </message>
+    <message>
+        <source>the disk does not answer</source>
+        <translation>de schijf antwoordt niet</translation>
+    </message>
+    <message>
+        <source>Check its cable. Back it up as soon as it answers.</source>
+        <translation>Controleer de kabel. Maak een back-up zodra hij antwoordt.</translation>
+    </message>
+    <message>
+        <source>the disk is missing</source>
+        <translation>de schijf ontbreekt</translation>
+    </message>
+    <message>
+        <source>Check its cable. If it comes back, back it up.</source>
+        <translation>Controleer de kabel. Maak een back-up als hij terug is.</translation>
+    </message>
+    <message>
+        <source>the disk is back</source>
+        <translation>de schijf is terug</translation>
+    </message>
+    <message>
+        <source>the log cannot be written: %3</source>
+        <translation>het logboek kan niet worden geschreven: %3</translation>
+    </message>
+    <message>
+        <source>Choose another file for it in Settings.</source>
+        <translation>Kies in de instellingen een ander bestand.</translation>
+    </message>
+    <message>
+        <source>the spare is used up</source>
+        <translation>de reserve is op</translation>
+    </message>
+    <message>
+        <source>too hot or too cold</source>
+        <translation>te heet of te koud</translation>
+    </message>
+    <message>
+        <source>less reliable after errors of the medium</source>
+        <translation>minder betrouwbaar na mediafouten</translation>
+    </message>
+    <message>
+        <source>read-only</source>
+        <translation>alleen-lezen</translation>
+    </message>
+    <message>
+        <source>the backup of its memory has failed</source>
+        <translation>de back-up van het geheugen is uitgevallen</translation>
+    </message>
+    <message>
+        <source>the persistent memory is read-only</source>
+        <translation>het persistente geheugen is alleen-lezen</translation>
+    </message>
+</context>
+<context>
     <name>QCheckUpdate</name>
     <message>
         <source>No update available.</source>
@@ -1165,6 +1448,10 @@ Update failed due to partial download.</source>
         <translation>Update mislukt 
 
 De update is mislukt doordat de download onvolledig was.</translation>
+    </message>
+    <message>
+        <source>The update could not be verified and was not started.</source>
+        <translation>De update kon niet worden gecontroleerd en is niet gestart.</translation>
     </message>
 </context>
 <context>
@@ -1573,6 +1860,33 @@ De update is mislukt doordat de download onvolledig was.</translation>
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>Tray</name>
+    <message>
+        <source>Open</source>
+        <translation>Openen</translation>
+    </message>
+    <message>
+        <source>Refresh now</source>
+        <translation>Nu vernieuwen</translation>
+    </message>
+    <message>
+        <source>Pause alarms for an hour</source>
+        <translation>Alarmen een uur pauzeren</translation>
+    </message>
+    <message>
+        <source>Show lowest health</source>
+        <translation>Laagste conditie tonen</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Instellingen</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Afsluiten</translation>
     </message>
 </context>
 <context>

@@ -514,6 +514,85 @@
     </message>
 </context>
 <context>
+    <name>Companion</name>
+    <message>
+        <source>%1 · health %2 %</source>
+        <translation>%1 · salud %2 %</translation>
+    </message>
+    <message>
+        <source>Asleep</source>
+        <translation>En reposo</translation>
+    </message>
+    <message>
+        <source>Asleep · last %1 at %2</source>
+        <translation>En reposo · %1 a las %2</translation>
+    </message>
+    <message>
+        <source>Hot</source>
+        <translation>Muy caliente</translation>
+    </message>
+    <message>
+        <source>Warm since %1</source>
+        <translation>Caliente desde %1</translation>
+    </message>
+    <message>
+        <source>Warm</source>
+        <translation>Caliente</translation>
+    </message>
+    <message>
+        <source>Unknown disk</source>
+        <translation>Disco desconocido</translation>
+    </message>
+    <message>
+        <source>Disk %1</source>
+        <translation>Disco %1</translation>
+    </message>
+    <message>
+        <source>Missing: check its cable</source>
+        <translation>Falta: compruebe el cable</translation>
+    </message>
+    <message>
+        <source>Failing: back up this disk now</source>
+        <translation>Fallando: haga ya una copia</translation>
+    </message>
+    <message>
+        <source>Does not answer</source>
+        <translation>No responde</translation>
+    </message>
+    <message>
+        <source>Tells nothing of its health</source>
+        <translation>No informa de su salud</translation>
+    </message>
+    <message>
+        <source>In order</source>
+        <translation>En orden</translation>
+    </message>
+    <message>
+        <source>Needs attention</source>
+        <translation>Requiere atención</translation>
+    </message>
+    <message>
+        <source>No disk is watched.</source>
+        <translation>No se vigila ningún disco.</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>y %1 más</translation>
+    </message>
+    <message>
+        <source>just now</source>
+        <translation>ahora mismo</translation>
+    </message>
+    <message>
+        <source>1 minute ago</source>
+        <translation>hace 1 minuto</translation>
+    </message>
+    <message>
+        <source>%1 minutes ago</source>
+        <translation>hace %1 minutos</translation>
+    </message>
+</context>
+<context>
     <name>ConfarmetionDialog</name>
     <message>
         <source>Yes</source>
@@ -588,6 +667,44 @@
     </message>
 </context>
 <context>
+    <name>Flyout</name>
+    <message>
+        <source>No disk is watched.</source>
+        <translation>No se vigila ningún disco.</translation>
+    </message>
+    <message>
+        <source>Alarms on again</source>
+        <translation>Reactivar las alarmas</translation>
+    </message>
+    <message>
+        <source>Pause alarms</source>
+        <translation>Pausar las alarmas</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Configuración</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+</context>
+<context>
+    <name>FlyoutRow</name>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>Limits…</source>
+        <translation>Límites…</translation>
+    </message>
+    <message>
+        <source>Mark as seen</source>
+        <translation>Marcar como visto</translation>
+    </message>
+</context>
+<context>
     <name>InfoDialog</name>
     <message>
         <source>Information</source>
@@ -600,6 +717,33 @@
     <message>
         <source>Save List</source>
         <translation>Guardar lista</translation>
+    </message>
+</context>
+<context>
+    <name>LimitsDialog</name>
+    <message>
+        <source>Limits of this disk</source>
+        <translation>Límites de este disco</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Limits of its own</source>
+        <translation>Límites propios</translation>
+    </message>
+    <message>
+        <source>Warning Temperature</source>
+        <translation>Temperatura de aviso</translation>
+    </message>
+    <message>
+        <source>Shutdown Temperature</source>
+        <translation>Temperatura de apagado</translation>
     </message>
 </context>
 <context>
@@ -1118,6 +1262,145 @@
     </message>
 </context>
 <context>
+    <name>Monitor</name>
+    <message>
+        <source>Back up this disk now.</source>
+        <translation>Haga ya una copia de seguridad de este disco.</translation>
+    </message>
+    <message>
+        <source>temperature %1, limit %2</source>
+        <translation>temperatura %1, límite %2</translation>
+    </message>
+    <message>
+        <source>See to its cooling.</source>
+        <translation>Revise su refrigeración.</translation>
+    </message>
+    <message>
+        <source>temperature %1, shutdown limit %2</source>
+        <translation>temperatura %1, límite de apagado %2</translation>
+    </message>
+    <message>
+        <source>It is advisable to shut down the system now.</source>
+        <translation>Es aconsejable apagar el sistema ahora.</translation>
+    </message>
+    <message>
+        <source>the drive reports that it is failing: %3</source>
+        <translation>el disco avisa de que está fallando: %3</translation>
+    </message>
+    <message>
+        <source>the drive reports that it is failing</source>
+        <translation>el disco avisa de que está fallando</translation>
+    </message>
+    <message>
+        <source>critical warning: %3</source>
+        <translation>advertencia crítica: %3</translation>
+    </message>
+    <message>
+        <source>failing attributes: %3</source>
+        <translation>atributos con fallo: %3</translation>
+    </message>
+    <message>
+        <source>reallocated sectors: %1 (before: %2)</source>
+        <translation>sectores reasignados: %1 (antes: %2)</translation>
+    </message>
+    <message>
+        <source>reallocated sectors: %1</source>
+        <translation>sectores reasignados: %1</translation>
+    </message>
+    <message>
+        <source>pending sectors: %1 (before: %2)</source>
+        <translation>sectores pendientes: %1 (antes: %2)</translation>
+    </message>
+    <message>
+        <source>pending sectors: %1</source>
+        <translation>sectores pendientes: %1</translation>
+    </message>
+    <message>
+        <source>uncorrectable errors: %1 (before: %2)</source>
+        <translation>errores incorregibles: %1 (antes: %2)</translation>
+    </message>
+    <message>
+        <source>uncorrectable errors: %1</source>
+        <translation>errores incorregibles: %1</translation>
+    </message>
+    <message>
+        <source>media errors: %1 (before: %2)</source>
+        <translation>errores del medio: %1 (antes: %2)</translation>
+    </message>
+    <message>
+        <source>media errors: %1</source>
+        <translation>errores del medio: %1</translation>
+    </message>
+    <message>
+        <source>spare %1 %, threshold %2 %</source>
+        <translation>reserva %1 %, umbral %2 %</translation>
+    </message>
+    <message>
+        <source>wear %1 %</source>
+        <translation>desgaste %1 %</translation>
+    </message>
+    <message>
+        <source>Plan to replace this disk, and keep a backup.</source>
+        <translation>Prevea sustituir este disco y conserve una copia de seguridad.</translation>
+    </message>
+    <message>
+        <source>the self-test failed: %3</source>
+        <translation>la autoprueba ha fallado: %3</translation>
+    </message>
+    <message>
+        <source>the disk does not answer</source>
+        <translation>el disco no responde</translation>
+    </message>
+    <message>
+        <source>Check its cable. Back it up as soon as it answers.</source>
+        <translation>Compruebe el cable. Haga una copia de seguridad en cuanto responda.</translation>
+    </message>
+    <message>
+        <source>the disk is missing</source>
+        <translation>falta el disco</translation>
+    </message>
+    <message>
+        <source>Check its cable. If it comes back, back it up.</source>
+        <translation>Compruebe el cable. Si vuelve, haga una copia de seguridad.</translation>
+    </message>
+    <message>
+        <source>the disk is back</source>
+        <translation>el disco ha vuelto</translation>
+    </message>
+    <message>
+        <source>the log cannot be written: %3</source>
+        <translation>no se puede escribir el registro: %3</translation>
+    </message>
+    <message>
+        <source>Choose another file for it in Settings.</source>
+        <translation>Elija otro archivo en Configuración.</translation>
+    </message>
+    <message>
+        <source>the spare is used up</source>
+        <translation>la reserva está agotada</translation>
+    </message>
+    <message>
+        <source>too hot or too cold</source>
+        <translation>demasiado caliente o demasiado frío</translation>
+    </message>
+    <message>
+        <source>less reliable after errors of the medium</source>
+        <translation>menos fiable tras errores del medio</translation>
+    </message>
+    <message>
+        <source>read-only</source>
+        <translation>de solo lectura</translation>
+    </message>
+    <message>
+        <source>the backup of its memory has failed</source>
+        <translation>ha fallado el respaldo de su memoria</translation>
+    </message>
+    <message>
+        <source>the persistent memory is read-only</source>
+        <translation>la memoria persistente es de solo lectura</translation>
+    </message>
+</context>
+<context>
     <name>QCheckUpdate</name>
     <message>
         <source>No update available.</source>
@@ -1165,6 +1448,10 @@ Update failed due to partial download.</source>
         <translation>Error de actualización 
 
 La actualización falló porque la descarga quedó incompleta.</translation>
+    </message>
+    <message>
+        <source>The update could not be verified and was not started.</source>
+        <translation>No se pudo verificar la actualización y no se inició.</translation>
     </message>
 </context>
 <context>
@@ -1573,6 +1860,33 @@ La actualización falló porque la descarga quedó incompleta.</translation>
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>Tray</name>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>Refresh now</source>
+        <translation>Actualizar ahora</translation>
+    </message>
+    <message>
+        <source>Pause alarms for an hour</source>
+        <translation>Pausar las alarmas una hora</translation>
+    </message>
+    <message>
+        <source>Show lowest health</source>
+        <translation>Mostrar la salud más baja</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Configuración</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Salir</translation>
     </message>
 </context>
 <context>

@@ -514,6 +514,85 @@
     </message>
 </context>
 <context>
+    <name>Companion</name>
+    <message>
+        <source>%1 · health %2 %</source>
+        <translation>%1 · santé %2 %</translation>
+    </message>
+    <message>
+        <source>Asleep</source>
+        <translation>En veille</translation>
+    </message>
+    <message>
+        <source>Asleep · last %1 at %2</source>
+        <translation>En veille · %1 à %2</translation>
+    </message>
+    <message>
+        <source>Hot</source>
+        <translation>Très chaud</translation>
+    </message>
+    <message>
+        <source>Warm since %1</source>
+        <translation>Chaud depuis %1</translation>
+    </message>
+    <message>
+        <source>Warm</source>
+        <translation>Chaud</translation>
+    </message>
+    <message>
+        <source>Unknown disk</source>
+        <translation>Disque inconnu</translation>
+    </message>
+    <message>
+        <source>Disk %1</source>
+        <translation>Disque %1</translation>
+    </message>
+    <message>
+        <source>Missing: check its cable</source>
+        <translation>Absent : vérifiez son câble</translation>
+    </message>
+    <message>
+        <source>Failing: back up this disk now</source>
+        <translation>Défaillant : sauvegardez-le</translation>
+    </message>
+    <message>
+        <source>Does not answer</source>
+        <translation>Ne répond pas</translation>
+    </message>
+    <message>
+        <source>Tells nothing of its health</source>
+        <translation>N&apos;indique rien sur sa santé</translation>
+    </message>
+    <message>
+        <source>In order</source>
+        <translation>En ordre</translation>
+    </message>
+    <message>
+        <source>Needs attention</source>
+        <translation>À surveiller</translation>
+    </message>
+    <message>
+        <source>No disk is watched.</source>
+        <translation>Aucun disque n&apos;est surveillé.</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>et %1 de plus</translation>
+    </message>
+    <message>
+        <source>just now</source>
+        <translation>à l&apos;instant</translation>
+    </message>
+    <message>
+        <source>1 minute ago</source>
+        <translation>il y a 1 minute</translation>
+    </message>
+    <message>
+        <source>%1 minutes ago</source>
+        <translation>il y a %1 minutes</translation>
+    </message>
+</context>
+<context>
     <name>ConfarmetionDialog</name>
     <message>
         <source>Yes</source>
@@ -588,6 +667,44 @@
     </message>
 </context>
 <context>
+    <name>Flyout</name>
+    <message>
+        <source>No disk is watched.</source>
+        <translation>Aucun disque n&apos;est surveillé.</translation>
+    </message>
+    <message>
+        <source>Alarms on again</source>
+        <translation>Réactiver les alarmes</translation>
+    </message>
+    <message>
+        <source>Pause alarms</source>
+        <translation>Suspendre les alarmes</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Paramètres</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+</context>
+<context>
+    <name>FlyoutRow</name>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>Limits…</source>
+        <translation>Limites…</translation>
+    </message>
+    <message>
+        <source>Mark as seen</source>
+        <translation>Marquer comme vu</translation>
+    </message>
+</context>
+<context>
     <name>InfoDialog</name>
     <message>
         <source>Information</source>
@@ -600,6 +717,33 @@
     <message>
         <source>Save List</source>
         <translation>Enregistrer la liste</translation>
+    </message>
+</context>
+<context>
+    <name>LimitsDialog</name>
+    <message>
+        <source>Limits of this disk</source>
+        <translation>Limites de ce disque</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Limits of its own</source>
+        <translation>Limites propres</translation>
+    </message>
+    <message>
+        <source>Warning Temperature</source>
+        <translation>Température d&apos;alerte</translation>
+    </message>
+    <message>
+        <source>Shutdown Temperature</source>
+        <translation>Température d&apos;arrêt</translation>
     </message>
 </context>
 <context>
@@ -1118,6 +1262,145 @@
     </message>
 </context>
 <context>
+    <name>Monitor</name>
+    <message>
+        <source>Back up this disk now.</source>
+        <translation>Sauvegardez ce disque maintenant.</translation>
+    </message>
+    <message>
+        <source>temperature %1, limit %2</source>
+        <translation>température %1, limite %2</translation>
+    </message>
+    <message>
+        <source>See to its cooling.</source>
+        <translation>Veillez à son refroidissement.</translation>
+    </message>
+    <message>
+        <source>temperature %1, shutdown limit %2</source>
+        <translation>température %1, limite d&apos;arrêt %2</translation>
+    </message>
+    <message>
+        <source>It is advisable to shut down the system now.</source>
+        <translation>Il est conseillé d&apos;arrêter le système maintenant.</translation>
+    </message>
+    <message>
+        <source>the drive reports that it is failing: %3</source>
+        <translation>le disque signale sa défaillance : %3</translation>
+    </message>
+    <message>
+        <source>the drive reports that it is failing</source>
+        <translation>le disque signale sa défaillance</translation>
+    </message>
+    <message>
+        <source>critical warning: %3</source>
+        <translation>avertissement critique : %3</translation>
+    </message>
+    <message>
+        <source>failing attributes: %3</source>
+        <translation>attributs en échec : %3</translation>
+    </message>
+    <message>
+        <source>reallocated sectors: %1 (before: %2)</source>
+        <translation>secteurs réalloués : %1 (avant : %2)</translation>
+    </message>
+    <message>
+        <source>reallocated sectors: %1</source>
+        <translation>secteurs réalloués : %1</translation>
+    </message>
+    <message>
+        <source>pending sectors: %1 (before: %2)</source>
+        <translation>secteurs en attente : %1 (avant : %2)</translation>
+    </message>
+    <message>
+        <source>pending sectors: %1</source>
+        <translation>secteurs en attente : %1</translation>
+    </message>
+    <message>
+        <source>uncorrectable errors: %1 (before: %2)</source>
+        <translation>erreurs non corrigibles : %1 (avant : %2)</translation>
+    </message>
+    <message>
+        <source>uncorrectable errors: %1</source>
+        <translation>erreurs non corrigibles : %1</translation>
+    </message>
+    <message>
+        <source>media errors: %1 (before: %2)</source>
+        <translation>erreurs de support : %1 (avant : %2)</translation>
+    </message>
+    <message>
+        <source>media errors: %1</source>
+        <translation>erreurs de support : %1</translation>
+    </message>
+    <message>
+        <source>spare %1 %, threshold %2 %</source>
+        <translation>réserve %1 %, seuil %2 %</translation>
+    </message>
+    <message>
+        <source>wear %1 %</source>
+        <translation>usure %1 %</translation>
+    </message>
+    <message>
+        <source>Plan to replace this disk, and keep a backup.</source>
+        <translation>Prévoyez de remplacer ce disque et gardez une sauvegarde.</translation>
+    </message>
+    <message>
+        <source>the self-test failed: %3</source>
+        <translation>l&apos;autotest a échoué : %3</translation>
+    </message>
+    <message>
+        <source>the disk does not answer</source>
+        <translation>le disque ne répond pas</translation>
+    </message>
+    <message>
+        <source>Check its cable. Back it up as soon as it answers.</source>
+        <translation>Vérifiez son câble. Sauvegardez-le dès qu&apos;il répond.</translation>
+    </message>
+    <message>
+        <source>the disk is missing</source>
+        <translation>le disque est absent</translation>
+    </message>
+    <message>
+        <source>Check its cable. If it comes back, back it up.</source>
+        <translation>Vérifiez son câble. S&apos;il réapparaît, sauvegardez-le.</translation>
+    </message>
+    <message>
+        <source>the disk is back</source>
+        <translation>le disque est de retour</translation>
+    </message>
+    <message>
+        <source>the log cannot be written: %3</source>
+        <translation>le journal ne peut pas être écrit : %3</translation>
+    </message>
+    <message>
+        <source>Choose another file for it in Settings.</source>
+        <translation>Choisissez un autre fichier dans les paramètres.</translation>
+    </message>
+    <message>
+        <source>the spare is used up</source>
+        <translation>la réserve est épuisée</translation>
+    </message>
+    <message>
+        <source>too hot or too cold</source>
+        <translation>trop chaud ou trop froid</translation>
+    </message>
+    <message>
+        <source>less reliable after errors of the medium</source>
+        <translation>moins fiable après des erreurs du support</translation>
+    </message>
+    <message>
+        <source>read-only</source>
+        <translation>en lecture seule</translation>
+    </message>
+    <message>
+        <source>the backup of its memory has failed</source>
+        <translation>la sauvegarde de sa mémoire est défaillante</translation>
+    </message>
+    <message>
+        <source>the persistent memory is read-only</source>
+        <translation>la mémoire persistante est en lecture seule</translation>
+    </message>
+</context>
+<context>
     <name>QCheckUpdate</name>
     <message>
         <source>No update available.</source>
@@ -1165,6 +1448,10 @@ Update failed due to partial download.</source>
         <translation>Échec de la mise à jour 
 
 La mise à jour a échoué : le téléchargement est incomplet.</translation>
+    </message>
+    <message>
+        <source>The update could not be verified and was not started.</source>
+        <translation>La mise à jour n&apos;a pas pu être vérifiée et n&apos;a pas été lancée.</translation>
     </message>
 </context>
 <context>
@@ -1573,6 +1860,33 @@ La mise à jour a échoué : le téléchargement est incomplet.</translation>
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>Tray</name>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>Refresh now</source>
+        <translation>Actualiser maintenant</translation>
+    </message>
+    <message>
+        <source>Pause alarms for an hour</source>
+        <translation>Suspendre les alarmes une heure</translation>
+    </message>
+    <message>
+        <source>Show lowest health</source>
+        <translation>Afficher la santé la plus basse</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Paramètres</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Quitter</translation>
     </message>
 </context>
 <context>

@@ -514,6 +514,85 @@
     </message>
 </context>
 <context>
+    <name>Companion</name>
+    <message>
+        <source>%1 · health %2 %</source>
+        <translation>%1 · स्वास्थ्य %2 %</translation>
+    </message>
+    <message>
+        <source>Asleep</source>
+        <translation>निष्क्रिय अवस्था में</translation>
+    </message>
+    <message>
+        <source>Asleep · last %1 at %2</source>
+        <translation>निष्क्रिय · पिछला मान %1, %2</translation>
+    </message>
+    <message>
+        <source>Hot</source>
+        <translation>बहुत गर्म</translation>
+    </message>
+    <message>
+        <source>Warm since %1</source>
+        <translation>%1 से गर्म</translation>
+    </message>
+    <message>
+        <source>Warm</source>
+        <translation>गर्म</translation>
+    </message>
+    <message>
+        <source>Unknown disk</source>
+        <translation>अज्ञात डिस्क</translation>
+    </message>
+    <message>
+        <source>Disk %1</source>
+        <translation>डिस्क %1</translation>
+    </message>
+    <message>
+        <source>Missing: check its cable</source>
+        <translation>अनुपस्थित: केबल जाँचें</translation>
+    </message>
+    <message>
+        <source>Failing: back up this disk now</source>
+        <translation>विफल हो रही है: अभी बैकअप लें</translation>
+    </message>
+    <message>
+        <source>Does not answer</source>
+        <translation>उत्तर नहीं दे रही</translation>
+    </message>
+    <message>
+        <source>Tells nothing of its health</source>
+        <translation>अपने स्वास्थ्य की जानकारी नहीं देती</translation>
+    </message>
+    <message>
+        <source>In order</source>
+        <translation>ठीक है</translation>
+    </message>
+    <message>
+        <source>Needs attention</source>
+        <translation>ध्यान देना आवश्यक</translation>
+    </message>
+    <message>
+        <source>No disk is watched.</source>
+        <translation>किसी डिस्क की निगरानी नहीं हो रही है।</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>और %1 अन्य</translation>
+    </message>
+    <message>
+        <source>just now</source>
+        <translation>अभी-अभी</translation>
+    </message>
+    <message>
+        <source>1 minute ago</source>
+        <translation>1 मिनट पहले</translation>
+    </message>
+    <message>
+        <source>%1 minutes ago</source>
+        <translation>%1 मिनट पहले</translation>
+    </message>
+</context>
+<context>
     <name>ConfarmetionDialog</name>
     <message>
         <source>Yes</source>
@@ -588,6 +667,44 @@
     </message>
 </context>
 <context>
+    <name>Flyout</name>
+    <message>
+        <source>No disk is watched.</source>
+        <translation>किसी डिस्क की निगरानी नहीं हो रही है।</translation>
+    </message>
+    <message>
+        <source>Alarms on again</source>
+        <translation>अलार्म फिर चालू करें</translation>
+    </message>
+    <message>
+        <source>Pause alarms</source>
+        <translation>अलार्म रोकें</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>सेटिंग्स</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>खोलें</translation>
+    </message>
+</context>
+<context>
+    <name>FlyoutRow</name>
+    <message>
+        <source>Open</source>
+        <translation>खोलें</translation>
+    </message>
+    <message>
+        <source>Limits…</source>
+        <translation>सीमाएँ…</translation>
+    </message>
+    <message>
+        <source>Mark as seen</source>
+        <translation>देखा हुआ चिह्नित करें</translation>
+    </message>
+</context>
+<context>
     <name>InfoDialog</name>
     <message>
         <source>Information</source>
@@ -600,6 +717,33 @@
     <message>
         <source>Save List</source>
         <translation>सूची सहेजें</translation>
+    </message>
+</context>
+<context>
+    <name>LimitsDialog</name>
+    <message>
+        <source>Limits of this disk</source>
+        <translation>इस डिस्क की सीमाएँ</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>ठीक</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>रद्द करें</translation>
+    </message>
+    <message>
+        <source>Limits of its own</source>
+        <translation>अपनी अलग सीमाएँ</translation>
+    </message>
+    <message>
+        <source>Warning Temperature</source>
+        <translation>चेतावनी तापमान</translation>
+    </message>
+    <message>
+        <source>Shutdown Temperature</source>
+        <translation>शटडाउन तापमान</translation>
     </message>
 </context>
 <context>
@@ -1118,6 +1262,145 @@
     </message>
 </context>
 <context>
+    <name>Monitor</name>
+    <message>
+        <source>Back up this disk now.</source>
+        <translation>इस डिस्क का बैकअप अभी लें।</translation>
+    </message>
+    <message>
+        <source>temperature %1, limit %2</source>
+        <translation>तापमान %1, सीमा %2</translation>
+    </message>
+    <message>
+        <source>See to its cooling.</source>
+        <translation>इसे ठंडा रखने का प्रबंध करें।</translation>
+    </message>
+    <message>
+        <source>temperature %1, shutdown limit %2</source>
+        <translation>तापमान %1, शटडाउन सीमा %2</translation>
+    </message>
+    <message>
+        <source>It is advisable to shut down the system now.</source>
+        <translation>सिस्टम को अभी शटडाउन करना उचित है।</translation>
+    </message>
+    <message>
+        <source>the drive reports that it is failing: %3</source>
+        <translation>ड्राइव अपनी विफलता बता रही है: %3</translation>
+    </message>
+    <message>
+        <source>the drive reports that it is failing</source>
+        <translation>ड्राइव अपनी विफलता बता रही है</translation>
+    </message>
+    <message>
+        <source>critical warning: %3</source>
+        <translation>गंभीर चेतावनी: %3</translation>
+    </message>
+    <message>
+        <source>failing attributes: %3</source>
+        <translation>विफल विशेषताएँ: %3</translation>
+    </message>
+    <message>
+        <source>reallocated sectors: %1 (before: %2)</source>
+        <translation>पुनः आवंटित सेक्टर: %1 (पहले: %2)</translation>
+    </message>
+    <message>
+        <source>reallocated sectors: %1</source>
+        <translation>पुनः आवंटित सेक्टर: %1</translation>
+    </message>
+    <message>
+        <source>pending sectors: %1 (before: %2)</source>
+        <translation>लंबित सेक्टर: %1 (पहले: %2)</translation>
+    </message>
+    <message>
+        <source>pending sectors: %1</source>
+        <translation>लंबित सेक्टर: %1</translation>
+    </message>
+    <message>
+        <source>uncorrectable errors: %1 (before: %2)</source>
+        <translation>असुधार्य त्रुटियाँ: %1 (पहले: %2)</translation>
+    </message>
+    <message>
+        <source>uncorrectable errors: %1</source>
+        <translation>असुधार्य त्रुटियाँ: %1</translation>
+    </message>
+    <message>
+        <source>media errors: %1 (before: %2)</source>
+        <translation>मीडिया त्रुटियाँ: %1 (पहले: %2)</translation>
+    </message>
+    <message>
+        <source>media errors: %1</source>
+        <translation>मीडिया त्रुटियाँ: %1</translation>
+    </message>
+    <message>
+        <source>spare %1 %, threshold %2 %</source>
+        <translation>अतिरिक्त स्थान %1 %, सीमा %2 %</translation>
+    </message>
+    <message>
+        <source>wear %1 %</source>
+        <translation>घिसाव %1 %</translation>
+    </message>
+    <message>
+        <source>Plan to replace this disk, and keep a backup.</source>
+        <translation>इस डिस्क को बदलने की योजना बनाएँ और बैकअप रखें।</translation>
+    </message>
+    <message>
+        <source>the self-test failed: %3</source>
+        <translation>स्व-परीक्षण विफल रहा: %3</translation>
+    </message>
+    <message>
+        <source>the disk does not answer</source>
+        <translation>डिस्क उत्तर नहीं दे रही</translation>
+    </message>
+    <message>
+        <source>Check its cable. Back it up as soon as it answers.</source>
+        <translation>केबल जाँचें। उत्तर मिलते ही बैकअप लें।</translation>
+    </message>
+    <message>
+        <source>the disk is missing</source>
+        <translation>डिस्क अनुपस्थित है</translation>
+    </message>
+    <message>
+        <source>Check its cable. If it comes back, back it up.</source>
+        <translation>केबल जाँचें। डिस्क वापस आए तो बैकअप लें।</translation>
+    </message>
+    <message>
+        <source>the disk is back</source>
+        <translation>डिस्क वापस आ गई है</translation>
+    </message>
+    <message>
+        <source>the log cannot be written: %3</source>
+        <translation>लॉग नहीं लिखा जा सकता: %3</translation>
+    </message>
+    <message>
+        <source>Choose another file for it in Settings.</source>
+        <translation>सेटिंग में इसके लिए दूसरी फ़ाइल चुनें।</translation>
+    </message>
+    <message>
+        <source>the spare is used up</source>
+        <translation>अतिरिक्त स्थान समाप्त हो गया</translation>
+    </message>
+    <message>
+        <source>too hot or too cold</source>
+        <translation>बहुत गर्म या बहुत ठंडा</translation>
+    </message>
+    <message>
+        <source>less reliable after errors of the medium</source>
+        <translation>मीडिया की त्रुटियों के बाद कम विश्वसनीय</translation>
+    </message>
+    <message>
+        <source>read-only</source>
+        <translation>केवल पढ़ने योग्य</translation>
+    </message>
+    <message>
+        <source>the backup of its memory has failed</source>
+        <translation>इसकी मेमोरी का बैकअप विफल हो गया</translation>
+    </message>
+    <message>
+        <source>the persistent memory is read-only</source>
+        <translation>स्थायी मेमोरी केवल पढ़ने योग्य है</translation>
+    </message>
+</context>
+<context>
     <name>QCheckUpdate</name>
     <message>
         <source>No update available.</source>
@@ -1165,6 +1448,10 @@ Update failed due to partial download.</source>
         <translation>अपडेट विफल 
 
 डाउनलोड अधूरा रहने के कारण अपडेट विफल हुआ।</translation>
+    </message>
+    <message>
+        <source>The update could not be verified and was not started.</source>
+        <translation>अपडेट सत्यापित नहीं हो सका और शुरू नहीं किया गया।</translation>
     </message>
 </context>
 <context>
@@ -1573,6 +1860,33 @@ Update failed due to partial download.</source>
     <message>
         <source>OK</source>
         <translation>ठीक</translation>
+    </message>
+</context>
+<context>
+    <name>Tray</name>
+    <message>
+        <source>Open</source>
+        <translation>खोलें</translation>
+    </message>
+    <message>
+        <source>Refresh now</source>
+        <translation>अभी ताज़ा करें</translation>
+    </message>
+    <message>
+        <source>Pause alarms for an hour</source>
+        <translation>एक घंटे के लिए अलार्म रोकें</translation>
+    </message>
+    <message>
+        <source>Show lowest health</source>
+        <translation>सबसे कम स्वास्थ्य दिखाएँ</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>सेटिंग्स</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>बंद करें</translation>
     </message>
 </context>
 <context>

@@ -514,6 +514,85 @@
     </message>
 </context>
 <context>
+    <name>Companion</name>
+    <message>
+        <source>%1 · health %2 %</source>
+        <translation>%1 · salute %2 %</translation>
+    </message>
+    <message>
+        <source>Asleep</source>
+        <translation>In riposo</translation>
+    </message>
+    <message>
+        <source>Asleep · last %1 at %2</source>
+        <translation>In riposo · %1 alle %2</translation>
+    </message>
+    <message>
+        <source>Hot</source>
+        <translation>Molto caldo</translation>
+    </message>
+    <message>
+        <source>Warm since %1</source>
+        <translation>Caldo dalle %1</translation>
+    </message>
+    <message>
+        <source>Warm</source>
+        <translation>Caldo</translation>
+    </message>
+    <message>
+        <source>Unknown disk</source>
+        <translation>Disco sconosciuto</translation>
+    </message>
+    <message>
+        <source>Disk %1</source>
+        <translation>Disco %1</translation>
+    </message>
+    <message>
+        <source>Missing: check its cable</source>
+        <translation>Assente: controllare il cavo</translation>
+    </message>
+    <message>
+        <source>Failing: back up this disk now</source>
+        <translation>In avaria: fare subito il backup</translation>
+    </message>
+    <message>
+        <source>Does not answer</source>
+        <translation>Non risponde</translation>
+    </message>
+    <message>
+        <source>Tells nothing of its health</source>
+        <translation>Non dice nulla della sua salute</translation>
+    </message>
+    <message>
+        <source>In order</source>
+        <translation>In ordine</translation>
+    </message>
+    <message>
+        <source>Needs attention</source>
+        <translation>Richiede attenzione</translation>
+    </message>
+    <message>
+        <source>No disk is watched.</source>
+        <translation>Nessun disco è sorvegliato.</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>e altri %1</translation>
+    </message>
+    <message>
+        <source>just now</source>
+        <translation>proprio ora</translation>
+    </message>
+    <message>
+        <source>1 minute ago</source>
+        <translation>1 minuto fa</translation>
+    </message>
+    <message>
+        <source>%1 minutes ago</source>
+        <translation>%1 minuti fa</translation>
+    </message>
+</context>
+<context>
     <name>ConfarmetionDialog</name>
     <message>
         <source>Yes</source>
@@ -588,6 +667,44 @@
     </message>
 </context>
 <context>
+    <name>Flyout</name>
+    <message>
+        <source>No disk is watched.</source>
+        <translation>Nessun disco è sorvegliato.</translation>
+    </message>
+    <message>
+        <source>Alarms on again</source>
+        <translation>Riattiva gli allarmi</translation>
+    </message>
+    <message>
+        <source>Pause alarms</source>
+        <translation>Sospendi gli allarmi</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Impostazioni</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Apri</translation>
+    </message>
+</context>
+<context>
+    <name>FlyoutRow</name>
+    <message>
+        <source>Open</source>
+        <translation>Apri</translation>
+    </message>
+    <message>
+        <source>Limits…</source>
+        <translation>Limiti…</translation>
+    </message>
+    <message>
+        <source>Mark as seen</source>
+        <translation>Segna come visto</translation>
+    </message>
+</context>
+<context>
     <name>InfoDialog</name>
     <message>
         <source>Information</source>
@@ -600,6 +717,33 @@
     <message>
         <source>Save List</source>
         <translation>Salva elenco</translation>
+    </message>
+</context>
+<context>
+    <name>LimitsDialog</name>
+    <message>
+        <source>Limits of this disk</source>
+        <translation>Limiti di questo disco</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Limits of its own</source>
+        <translation>Limiti propri</translation>
+    </message>
+    <message>
+        <source>Warning Temperature</source>
+        <translation>Temperatura di avviso</translation>
+    </message>
+    <message>
+        <source>Shutdown Temperature</source>
+        <translation>Temperatura di arresto</translation>
     </message>
 </context>
 <context>
@@ -1118,6 +1262,145 @@
     </message>
 </context>
 <context>
+    <name>Monitor</name>
+    <message>
+        <source>Back up this disk now.</source>
+        <translation>Fare subito il backup di questo disco.</translation>
+    </message>
+    <message>
+        <source>temperature %1, limit %2</source>
+        <translation>temperatura %1, limite %2</translation>
+    </message>
+    <message>
+        <source>See to its cooling.</source>
+        <translation>Controllare il raffreddamento.</translation>
+    </message>
+    <message>
+        <source>temperature %1, shutdown limit %2</source>
+        <translation>temperatura %1, limite di spegnimento %2</translation>
+    </message>
+    <message>
+        <source>It is advisable to shut down the system now.</source>
+        <translation>È consigliabile spegnere subito il sistema.</translation>
+    </message>
+    <message>
+        <source>the drive reports that it is failing: %3</source>
+        <translation>il disco segnala la propria avaria: %3</translation>
+    </message>
+    <message>
+        <source>the drive reports that it is failing</source>
+        <translation>il disco segnala la propria avaria</translation>
+    </message>
+    <message>
+        <source>critical warning: %3</source>
+        <translation>avviso critico: %3</translation>
+    </message>
+    <message>
+        <source>failing attributes: %3</source>
+        <translation>attributi falliti: %3</translation>
+    </message>
+    <message>
+        <source>reallocated sectors: %1 (before: %2)</source>
+        <translation>settori riallocati: %1 (prima: %2)</translation>
+    </message>
+    <message>
+        <source>reallocated sectors: %1</source>
+        <translation>settori riallocati: %1</translation>
+    </message>
+    <message>
+        <source>pending sectors: %1 (before: %2)</source>
+        <translation>settori in attesa: %1 (prima: %2)</translation>
+    </message>
+    <message>
+        <source>pending sectors: %1</source>
+        <translation>settori in attesa: %1</translation>
+    </message>
+    <message>
+        <source>uncorrectable errors: %1 (before: %2)</source>
+        <translation>errori non correggibili: %1 (prima: %2)</translation>
+    </message>
+    <message>
+        <source>uncorrectable errors: %1</source>
+        <translation>errori non correggibili: %1</translation>
+    </message>
+    <message>
+        <source>media errors: %1 (before: %2)</source>
+        <translation>errori del supporto: %1 (prima: %2)</translation>
+    </message>
+    <message>
+        <source>media errors: %1</source>
+        <translation>errori del supporto: %1</translation>
+    </message>
+    <message>
+        <source>spare %1 %, threshold %2 %</source>
+        <translation>riserva %1 %, soglia %2 %</translation>
+    </message>
+    <message>
+        <source>wear %1 %</source>
+        <translation>usura %1 %</translation>
+    </message>
+    <message>
+        <source>Plan to replace this disk, and keep a backup.</source>
+        <translation>Prevedere la sostituzione di questo disco e conservare un backup.</translation>
+    </message>
+    <message>
+        <source>the self-test failed: %3</source>
+        <translation>l&apos;autotest è fallito: %3</translation>
+    </message>
+    <message>
+        <source>the disk does not answer</source>
+        <translation>il disco non risponde</translation>
+    </message>
+    <message>
+        <source>Check its cable. Back it up as soon as it answers.</source>
+        <translation>Controllare il cavo. Fare il backup appena risponde.</translation>
+    </message>
+    <message>
+        <source>the disk is missing</source>
+        <translation>il disco è assente</translation>
+    </message>
+    <message>
+        <source>Check its cable. If it comes back, back it up.</source>
+        <translation>Controllare il cavo. Se ricompare, fare il backup.</translation>
+    </message>
+    <message>
+        <source>the disk is back</source>
+        <translation>il disco è tornato</translation>
+    </message>
+    <message>
+        <source>the log cannot be written: %3</source>
+        <translation>impossibile scrivere il registro: %3</translation>
+    </message>
+    <message>
+        <source>Choose another file for it in Settings.</source>
+        <translation>Scegliere un altro file nelle impostazioni.</translation>
+    </message>
+    <message>
+        <source>the spare is used up</source>
+        <translation>la riserva è esaurita</translation>
+    </message>
+    <message>
+        <source>too hot or too cold</source>
+        <translation>troppo caldo o troppo freddo</translation>
+    </message>
+    <message>
+        <source>less reliable after errors of the medium</source>
+        <translation>meno affidabile dopo errori del supporto</translation>
+    </message>
+    <message>
+        <source>read-only</source>
+        <translation>in sola lettura</translation>
+    </message>
+    <message>
+        <source>the backup of its memory has failed</source>
+        <translation>il backup della sua memoria è guasto</translation>
+    </message>
+    <message>
+        <source>the persistent memory is read-only</source>
+        <translation>la memoria persistente è in sola lettura</translation>
+    </message>
+</context>
+<context>
     <name>QCheckUpdate</name>
     <message>
         <source>No update available.</source>
@@ -1165,6 +1448,10 @@ Update failed due to partial download.</source>
         <translation>Aggiornamento non riuscito 
 
 L&apos;aggiornamento non è riuscito perché il download è incompleto.</translation>
+    </message>
+    <message>
+        <source>The update could not be verified and was not started.</source>
+        <translation>Non è stato possibile verificare l&apos;aggiornamento, che non è stato avviato.</translation>
     </message>
 </context>
 <context>
@@ -1573,6 +1860,33 @@ L&apos;aggiornamento non è riuscito perché il download è incompleto.</transla
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>Tray</name>
+    <message>
+        <source>Open</source>
+        <translation>Apri</translation>
+    </message>
+    <message>
+        <source>Refresh now</source>
+        <translation>Aggiorna ora</translation>
+    </message>
+    <message>
+        <source>Pause alarms for an hour</source>
+        <translation>Sospendi gli allarmi per un&apos;ora</translation>
+    </message>
+    <message>
+        <source>Show lowest health</source>
+        <translation>Mostra la salute più bassa</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Impostazioni</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Esci</translation>
     </message>
 </context>
 <context>

@@ -514,6 +514,85 @@
     </message>
 </context>
 <context>
+    <name>Companion</name>
+    <message>
+        <source>%1 · health %2 %</source>
+        <translation>%1 · 健康状態 %2 %</translation>
+    </message>
+    <message>
+        <source>Asleep</source>
+        <translation>スリープ中</translation>
+    </message>
+    <message>
+        <source>Asleep · last %1 at %2</source>
+        <translation>スリープ中 · 最後は %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Hot</source>
+        <translation>高温</translation>
+    </message>
+    <message>
+        <source>Warm since %1</source>
+        <translation>%1 から高め</translation>
+    </message>
+    <message>
+        <source>Warm</source>
+        <translation>温度高め</translation>
+    </message>
+    <message>
+        <source>Unknown disk</source>
+        <translation>不明なディスク</translation>
+    </message>
+    <message>
+        <source>Disk %1</source>
+        <translation>ディスク %1</translation>
+    </message>
+    <message>
+        <source>Missing: check its cable</source>
+        <translation>未検出: ケーブルを確認</translation>
+    </message>
+    <message>
+        <source>Failing: back up this disk now</source>
+        <translation>故障: 今すぐバックアップを</translation>
+    </message>
+    <message>
+        <source>Does not answer</source>
+        <translation>応答しません</translation>
+    </message>
+    <message>
+        <source>Tells nothing of its health</source>
+        <translation>健康状態の情報がありません</translation>
+    </message>
+    <message>
+        <source>In order</source>
+        <translation>正常</translation>
+    </message>
+    <message>
+        <source>Needs attention</source>
+        <translation>注意が必要です</translation>
+    </message>
+    <message>
+        <source>No disk is watched.</source>
+        <translation>監視中のディスクはありません。</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>ほか %1 台</translation>
+    </message>
+    <message>
+        <source>just now</source>
+        <translation>たった今</translation>
+    </message>
+    <message>
+        <source>1 minute ago</source>
+        <translation>1 分前</translation>
+    </message>
+    <message>
+        <source>%1 minutes ago</source>
+        <translation>%1 分前</translation>
+    </message>
+</context>
+<context>
     <name>ConfarmetionDialog</name>
     <message>
         <source>Yes</source>
@@ -588,6 +667,44 @@
     </message>
 </context>
 <context>
+    <name>Flyout</name>
+    <message>
+        <source>No disk is watched.</source>
+        <translation>監視中のディスクはありません。</translation>
+    </message>
+    <message>
+        <source>Alarms on again</source>
+        <translation>警告を再開</translation>
+    </message>
+    <message>
+        <source>Pause alarms</source>
+        <translation>警告を一時停止</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>開く</translation>
+    </message>
+</context>
+<context>
+    <name>FlyoutRow</name>
+    <message>
+        <source>Open</source>
+        <translation>開く</translation>
+    </message>
+    <message>
+        <source>Limits…</source>
+        <translation>制限値…</translation>
+    </message>
+    <message>
+        <source>Mark as seen</source>
+        <translation>確認済みにする</translation>
+    </message>
+</context>
+<context>
     <name>InfoDialog</name>
     <message>
         <source>Information</source>
@@ -600,6 +717,33 @@
     <message>
         <source>Save List</source>
         <translation>リストを保存</translation>
+    </message>
+</context>
+<context>
+    <name>LimitsDialog</name>
+    <message>
+        <source>Limits of this disk</source>
+        <translation>このディスクの制限値</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Limits of its own</source>
+        <translation>個別の制限値を使う</translation>
+    </message>
+    <message>
+        <source>Warning Temperature</source>
+        <translation>警告温度</translation>
+    </message>
+    <message>
+        <source>Shutdown Temperature</source>
+        <translation>シャットダウン温度</translation>
     </message>
 </context>
 <context>
@@ -1118,6 +1262,145 @@
     </message>
 </context>
 <context>
+    <name>Monitor</name>
+    <message>
+        <source>Back up this disk now.</source>
+        <translation>このディスクを今すぐバックアップしてください。</translation>
+    </message>
+    <message>
+        <source>temperature %1, limit %2</source>
+        <translation>温度 %1、制限値 %2</translation>
+    </message>
+    <message>
+        <source>See to its cooling.</source>
+        <translation>冷却を確認してください。</translation>
+    </message>
+    <message>
+        <source>temperature %1, shutdown limit %2</source>
+        <translation>温度 %1、シャットダウン制限値 %2</translation>
+    </message>
+    <message>
+        <source>It is advisable to shut down the system now.</source>
+        <translation>今すぐシステムをシャットダウンすることをお勧めします。</translation>
+    </message>
+    <message>
+        <source>the drive reports that it is failing: %3</source>
+        <translation>ドライブが故障を報告しています: %3</translation>
+    </message>
+    <message>
+        <source>the drive reports that it is failing</source>
+        <translation>ドライブが故障を報告しています</translation>
+    </message>
+    <message>
+        <source>critical warning: %3</source>
+        <translation>重大な警告: %3</translation>
+    </message>
+    <message>
+        <source>failing attributes: %3</source>
+        <translation>不合格の属性: %3</translation>
+    </message>
+    <message>
+        <source>reallocated sectors: %1 (before: %2)</source>
+        <translation>代替処理済みセクタ: %1 (以前: %2)</translation>
+    </message>
+    <message>
+        <source>reallocated sectors: %1</source>
+        <translation>代替処理済みセクタ: %1</translation>
+    </message>
+    <message>
+        <source>pending sectors: %1 (before: %2)</source>
+        <translation>代替処理保留中セクタ: %1 (以前: %2)</translation>
+    </message>
+    <message>
+        <source>pending sectors: %1</source>
+        <translation>代替処理保留中セクタ: %1</translation>
+    </message>
+    <message>
+        <source>uncorrectable errors: %1 (before: %2)</source>
+        <translation>訂正不可エラー: %1 (以前: %2)</translation>
+    </message>
+    <message>
+        <source>uncorrectable errors: %1</source>
+        <translation>訂正不可エラー: %1</translation>
+    </message>
+    <message>
+        <source>media errors: %1 (before: %2)</source>
+        <translation>メディアエラー: %1 (以前: %2)</translation>
+    </message>
+    <message>
+        <source>media errors: %1</source>
+        <translation>メディアエラー: %1</translation>
+    </message>
+    <message>
+        <source>spare %1 %, threshold %2 %</source>
+        <translation>予備領域 %1 %、しきい値 %2 %</translation>
+    </message>
+    <message>
+        <source>wear %1 %</source>
+        <translation>消耗 %1 %</translation>
+    </message>
+    <message>
+        <source>Plan to replace this disk, and keep a backup.</source>
+        <translation>このディスクの交換を計画し、バックアップを保持してください。</translation>
+    </message>
+    <message>
+        <source>the self-test failed: %3</source>
+        <translation>セルフテストに失敗しました: %3</translation>
+    </message>
+    <message>
+        <source>the disk does not answer</source>
+        <translation>ディスクが応答しません</translation>
+    </message>
+    <message>
+        <source>Check its cable. Back it up as soon as it answers.</source>
+        <translation>ケーブルを確認してください。応答したらすぐにバックアップしてください。</translation>
+    </message>
+    <message>
+        <source>the disk is missing</source>
+        <translation>ディスクが見つかりません</translation>
+    </message>
+    <message>
+        <source>Check its cable. If it comes back, back it up.</source>
+        <translation>ケーブルを確認してください。再び認識されたらバックアップしてください。</translation>
+    </message>
+    <message>
+        <source>the disk is back</source>
+        <translation>ディスクが再び認識されました</translation>
+    </message>
+    <message>
+        <source>the log cannot be written: %3</source>
+        <translation>ログを書き込めません: %3</translation>
+    </message>
+    <message>
+        <source>Choose another file for it in Settings.</source>
+        <translation>設定で別のファイルを選んでください。</translation>
+    </message>
+    <message>
+        <source>the spare is used up</source>
+        <translation>予備領域を使い切りました</translation>
+    </message>
+    <message>
+        <source>too hot or too cold</source>
+        <translation>温度が高すぎるか低すぎます</translation>
+    </message>
+    <message>
+        <source>less reliable after errors of the medium</source>
+        <translation>メディアのエラーで信頼性が低下しています</translation>
+    </message>
+    <message>
+        <source>read-only</source>
+        <translation>読み取り専用</translation>
+    </message>
+    <message>
+        <source>the backup of its memory has failed</source>
+        <translation>メモリのバックアップ機能が故障しました</translation>
+    </message>
+    <message>
+        <source>the persistent memory is read-only</source>
+        <translation>永続メモリが読み取り専用です</translation>
+    </message>
+</context>
+<context>
     <name>QCheckUpdate</name>
     <message>
         <source>No update available.</source>
@@ -1165,6 +1448,10 @@ Update failed due to partial download.</source>
         <translation>更新に失敗しました 
 
 ダウンロードが不完全なため、更新に失敗しました。</translation>
+    </message>
+    <message>
+        <source>The update could not be verified and was not started.</source>
+        <translation>更新を検証できなかったため、開始しませんでした。</translation>
     </message>
 </context>
 <context>
@@ -1573,6 +1860,33 @@ Update failed due to partial download.</source>
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>Tray</name>
+    <message>
+        <source>Open</source>
+        <translation>開く</translation>
+    </message>
+    <message>
+        <source>Refresh now</source>
+        <translation>今すぐ更新</translation>
+    </message>
+    <message>
+        <source>Pause alarms for an hour</source>
+        <translation>警告を 1 時間停止</translation>
+    </message>
+    <message>
+        <source>Show lowest health</source>
+        <translation>最も低い健康状態を表示</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>終了</translation>
     </message>
 </context>
 <context>

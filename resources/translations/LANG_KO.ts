@@ -514,6 +514,85 @@
     </message>
 </context>
 <context>
+    <name>Companion</name>
+    <message>
+        <source>%1 · health %2 %</source>
+        <translation>%1 · 건강 상태 %2 %</translation>
+    </message>
+    <message>
+        <source>Asleep</source>
+        <translation>절전 상태</translation>
+    </message>
+    <message>
+        <source>Asleep · last %1 at %2</source>
+        <translation>절전 상태 · 마지막 값 %1(%2)</translation>
+    </message>
+    <message>
+        <source>Hot</source>
+        <translation>고온</translation>
+    </message>
+    <message>
+        <source>Warm since %1</source>
+        <translation>%1부터 따뜻함</translation>
+    </message>
+    <message>
+        <source>Warm</source>
+        <translation>따뜻함</translation>
+    </message>
+    <message>
+        <source>Unknown disk</source>
+        <translation>알 수 없는 디스크</translation>
+    </message>
+    <message>
+        <source>Disk %1</source>
+        <translation>디스크 %1</translation>
+    </message>
+    <message>
+        <source>Missing: check its cable</source>
+        <translation>없음: 케이블을 확인하세요</translation>
+    </message>
+    <message>
+        <source>Failing: back up this disk now</source>
+        <translation>고장 임박: 지금 백업하세요</translation>
+    </message>
+    <message>
+        <source>Does not answer</source>
+        <translation>응답 없음</translation>
+    </message>
+    <message>
+        <source>Tells nothing of its health</source>
+        <translation>건강 상태 정보를 제공하지 않음</translation>
+    </message>
+    <message>
+        <source>In order</source>
+        <translation>정상</translation>
+    </message>
+    <message>
+        <source>Needs attention</source>
+        <translation>주의 필요</translation>
+    </message>
+    <message>
+        <source>No disk is watched.</source>
+        <translation>감시 중인 디스크가 없습니다.</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>외 %1개</translation>
+    </message>
+    <message>
+        <source>just now</source>
+        <translation>방금</translation>
+    </message>
+    <message>
+        <source>1 minute ago</source>
+        <translation>1분 전</translation>
+    </message>
+    <message>
+        <source>%1 minutes ago</source>
+        <translation>%1분 전</translation>
+    </message>
+</context>
+<context>
     <name>ConfarmetionDialog</name>
     <message>
         <source>Yes</source>
@@ -588,6 +667,44 @@
     </message>
 </context>
 <context>
+    <name>Flyout</name>
+    <message>
+        <source>No disk is watched.</source>
+        <translation>감시 중인 디스크가 없습니다.</translation>
+    </message>
+    <message>
+        <source>Alarms on again</source>
+        <translation>알람 다시 켜기</translation>
+    </message>
+    <message>
+        <source>Pause alarms</source>
+        <translation>알람 일시 중지</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>설정</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>열기</translation>
+    </message>
+</context>
+<context>
+    <name>FlyoutRow</name>
+    <message>
+        <source>Open</source>
+        <translation>열기</translation>
+    </message>
+    <message>
+        <source>Limits…</source>
+        <translation>한계값…</translation>
+    </message>
+    <message>
+        <source>Mark as seen</source>
+        <translation>확인함으로 표시</translation>
+    </message>
+</context>
+<context>
     <name>InfoDialog</name>
     <message>
         <source>Information</source>
@@ -600,6 +717,33 @@
     <message>
         <source>Save List</source>
         <translation>목록 저장</translation>
+    </message>
+</context>
+<context>
+    <name>LimitsDialog</name>
+    <message>
+        <source>Limits of this disk</source>
+        <translation>이 디스크의 한계값</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Limits of its own</source>
+        <translation>개별 한계값 사용</translation>
+    </message>
+    <message>
+        <source>Warning Temperature</source>
+        <translation>경고 온도</translation>
+    </message>
+    <message>
+        <source>Shutdown Temperature</source>
+        <translation>시스템 종료 온도</translation>
     </message>
 </context>
 <context>
@@ -1118,6 +1262,145 @@
     </message>
 </context>
 <context>
+    <name>Monitor</name>
+    <message>
+        <source>Back up this disk now.</source>
+        <translation>지금 이 디스크를 백업하세요.</translation>
+    </message>
+    <message>
+        <source>temperature %1, limit %2</source>
+        <translation>온도 %1, 한계값 %2</translation>
+    </message>
+    <message>
+        <source>See to its cooling.</source>
+        <translation>냉각 상태를 확인하세요.</translation>
+    </message>
+    <message>
+        <source>temperature %1, shutdown limit %2</source>
+        <translation>온도 %1, 시스템 종료 한계값 %2</translation>
+    </message>
+    <message>
+        <source>It is advisable to shut down the system now.</source>
+        <translation>지금 시스템을 종료하는 것이 좋습니다.</translation>
+    </message>
+    <message>
+        <source>the drive reports that it is failing: %3</source>
+        <translation>드라이브가 고장을 보고함: %3</translation>
+    </message>
+    <message>
+        <source>the drive reports that it is failing</source>
+        <translation>드라이브가 고장을 보고함</translation>
+    </message>
+    <message>
+        <source>critical warning: %3</source>
+        <translation>심각한 경고: %3</translation>
+    </message>
+    <message>
+        <source>failing attributes: %3</source>
+        <translation>실패한 속성: %3</translation>
+    </message>
+    <message>
+        <source>reallocated sectors: %1 (before: %2)</source>
+        <translation>재할당된 섹터: %1(이전: %2)</translation>
+    </message>
+    <message>
+        <source>reallocated sectors: %1</source>
+        <translation>재할당된 섹터: %1</translation>
+    </message>
+    <message>
+        <source>pending sectors: %1 (before: %2)</source>
+        <translation>보류 중인 섹터: %1(이전: %2)</translation>
+    </message>
+    <message>
+        <source>pending sectors: %1</source>
+        <translation>보류 중인 섹터: %1</translation>
+    </message>
+    <message>
+        <source>uncorrectable errors: %1 (before: %2)</source>
+        <translation>수정 불가 오류: %1(이전: %2)</translation>
+    </message>
+    <message>
+        <source>uncorrectable errors: %1</source>
+        <translation>수정 불가 오류: %1</translation>
+    </message>
+    <message>
+        <source>media errors: %1 (before: %2)</source>
+        <translation>미디어 오류: %1(이전: %2)</translation>
+    </message>
+    <message>
+        <source>media errors: %1</source>
+        <translation>미디어 오류: %1</translation>
+    </message>
+    <message>
+        <source>spare %1 %, threshold %2 %</source>
+        <translation>예비 공간 %1 %, 임계값 %2 %</translation>
+    </message>
+    <message>
+        <source>wear %1 %</source>
+        <translation>마모 %1 %</translation>
+    </message>
+    <message>
+        <source>Plan to replace this disk, and keep a backup.</source>
+        <translation>이 디스크의 교체를 계획하고 백업을 유지하세요.</translation>
+    </message>
+    <message>
+        <source>the self-test failed: %3</source>
+        <translation>자가 진단 실패: %3</translation>
+    </message>
+    <message>
+        <source>the disk does not answer</source>
+        <translation>디스크가 응답하지 않음</translation>
+    </message>
+    <message>
+        <source>Check its cable. Back it up as soon as it answers.</source>
+        <translation>케이블을 확인하세요. 응답하면 바로 백업하세요.</translation>
+    </message>
+    <message>
+        <source>the disk is missing</source>
+        <translation>디스크가 없음</translation>
+    </message>
+    <message>
+        <source>Check its cable. If it comes back, back it up.</source>
+        <translation>케이블을 확인하세요. 다시 나타나면 백업하세요.</translation>
+    </message>
+    <message>
+        <source>the disk is back</source>
+        <translation>디스크가 다시 나타남</translation>
+    </message>
+    <message>
+        <source>the log cannot be written: %3</source>
+        <translation>로그를 쓸 수 없음: %3</translation>
+    </message>
+    <message>
+        <source>Choose another file for it in Settings.</source>
+        <translation>설정에서 다른 파일을 선택하세요.</translation>
+    </message>
+    <message>
+        <source>the spare is used up</source>
+        <translation>예비 공간이 소진됨</translation>
+    </message>
+    <message>
+        <source>too hot or too cold</source>
+        <translation>너무 뜨겁거나 너무 차가움</translation>
+    </message>
+    <message>
+        <source>less reliable after errors of the medium</source>
+        <translation>미디어 오류로 신뢰성이 낮아짐</translation>
+    </message>
+    <message>
+        <source>read-only</source>
+        <translation>읽기 전용</translation>
+    </message>
+    <message>
+        <source>the backup of its memory has failed</source>
+        <translation>메모리 백업 장치 고장</translation>
+    </message>
+    <message>
+        <source>the persistent memory is read-only</source>
+        <translation>영구 메모리가 읽기 전용임</translation>
+    </message>
+</context>
+<context>
     <name>QCheckUpdate</name>
     <message>
         <source>No update available.</source>
@@ -1165,6 +1448,10 @@ Update failed due to partial download.</source>
         <translation>업데이트 실패 
 
 다운로드가 완전하지 않아 업데이트하지 못했습니다.</translation>
+    </message>
+    <message>
+        <source>The update could not be verified and was not started.</source>
+        <translation>업데이트를 확인할 수 없어 시작하지 않았습니다.</translation>
     </message>
 </context>
 <context>
@@ -1573,6 +1860,33 @@ Update failed due to partial download.</source>
     <message>
         <source>OK</source>
         <translation>확인</translation>
+    </message>
+</context>
+<context>
+    <name>Tray</name>
+    <message>
+        <source>Open</source>
+        <translation>열기</translation>
+    </message>
+    <message>
+        <source>Refresh now</source>
+        <translation>지금 새로 고침</translation>
+    </message>
+    <message>
+        <source>Pause alarms for an hour</source>
+        <translation>한 시간 동안 알람 일시 중지</translation>
+    </message>
+    <message>
+        <source>Show lowest health</source>
+        <translation>가장 낮은 건강 상태 표시</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>설정</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>종료</translation>
     </message>
 </context>
 <context>

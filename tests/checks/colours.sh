@@ -4,6 +4,6 @@
 . "$(dirname "${BASH_SOURCE[0]}")/files.sh"
 
 pattern='(^|[^-[:alnum:]])(selection-)?color *: *[#[:alpha:]]|setForeground\(.*(QColor\([0-9]|Qt::)'
-files 'ui/*' 'app/*' | grep -v '^ui/widgets/Style\.' | tr '\n' '\0' |
+files 'ui/*' 'app/*' 'companion/*' | grep -v '^ui/widgets/Style\.' | tr '\n' '\0' |
     { xargs -0 grep -nIE "$pattern" /dev/null || [ $? -eq 123 ]; } |
     verdict "These lines give a text a colour that is not in the table of ui/widgets/Style.h:"

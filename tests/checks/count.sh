@@ -33,8 +33,8 @@ awk '
     }
     NF { before = $0 }
     END {
-        order = "platform state inventory smart scan clone update reports " \
-            "ui/widgets ui/dialogs ui/screens ui/window ui/forms app = tour bench fuzz tests"
+        order = "platform state inventory smart scan clone update monitor reports " \
+            "ui/widgets ui/dialogs ui/screens ui/window ui/forms app companion = tour bench fuzz tests"
         count = split(order, names, " ")
         printf "%-14s %7s %6s\n", "folder", "lines", "files"
         for (i = 1; i <= count; ++i) {

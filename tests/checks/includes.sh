@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
 # includes.sh <root> <folder of widget headers…>: an include never points to a higher floor, files do not include each other
-# in a ring, the floors below the reports include no header of QtWidgets or QtCharts, and every quoted include begins at
+# in a ring, the monitor and the floors below the reports include no header of QtWidgets or QtCharts, and every quoted include begins at
 # the root of the tree.
 . "$(dirname "${BASH_SOURCE[0]}")/files.sh"
 shift
@@ -11,7 +11,7 @@ widgets=$(for folder in "$@"; do find "$folder/" -type f -printf '%f\n'; done | 
     echo "the widget headers of Qt are not in $*" >&2
     exit 1
 }
-floors='platform state inventory smart scan clone update reports ui app tour'
+floors='platform state inventory smart scan clone update monitor reports ui app companion tour'
 patterns=()
 for floor in $floors; do patterns+=("$floor/*.cpp" "$floor/*.h"); done
 list=$(files "${patterns[@]}")
@@ -34,12 +34,12 @@ awk -v widgets="$widgets" '
         if (path ~ /^state\//) return 2
         if (path ~ /^inventory\//) return 3
         if (path ~ /^(smart|scan|clone|update)\//) return 4
-        if (path ~ /^reports\//) return 5
+        if (path ~ /^(monitor|reports)\//) return 5
         if (path ~ /^ui\/widgets\//) return 6.1
         if (path ~ /^ui\/dialogs\// || path ~ /^ui_[A-Za-z]+\.h$/) return 6.2
         if (path ~ /^ui\/screens\//) return 6.3
         if (path ~ /^ui\//) return 6.4
-        if (path ~ /^app\//) return 7
+        if (path ~ /^(app|companion)\//) return 7
         if (path ~ /^tour\//) return 8
         return 0
     }
@@ -56,7 +56,9 @@ awk -v widgets="$widgets" '
         sub(/.*\//, "", name)
         if (its > own)
             print where ": points upwards"
-        if (own <= 4 && (name in isWidget || included ~ /^(QtWidgets|QtCharts)\//))
+        if (FILENAME ~ /^companion\// && included ~ /^(app|ui\/(screens|window))\//)
+            print where ": what the companion does not know"
+        if ((own <= 4 || FILENAME ~ /^monitor\//) && (name in isWidget || included ~ /^(QtWidgets|QtCharts)\//))
             print where ": a widget below the reports"
         if (its == 0 && $0 ~ /include[ \t]*"/ && included !~ /^[A-Za-z_]+\.moc$/)
             print where ": does not begin at the root of the tree"

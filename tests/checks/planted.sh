@@ -26,7 +26,7 @@ decisions+=$'\n## Next\n\n| other | `none` | `none` |'
 # A tree in which nothing is wrong.
 sound() {
     rm -rf "${tree:?}"/*
-    mkdir -p "$tree"/{platform,app,state,inventory,smart,scan,clone,update,reports,ui/forms,demo}
+    mkdir -p "$tree"/{platform,app,companion,state,inventory,smart,scan,clone,update,monitor,reports,ui/forms,demo}
     mkdir -p "$tree"/{resources/translations,help/images}
     mkdir -p "$tree"/tests/{checks,data}
     cp "$root/.clang-format" "$tree"
@@ -51,9 +51,17 @@ sound() {
     printf '{ "disks": [ 1.5, true, null ] }\n' >"$tree/demo/pc.json"
     printf '{ broken\n' >"$tree/tests/data/broken.json"
     printf 'the A''TA s''pec\n' >"$tree/tests/data/report.txt"
-    mkdir "$tree/docs"
+    mkdir -p "$tree/docs" "$tree/packaging/product"
+    printf 'project(Halvane VERSION 11.0.0.8 LANGUAGES CXX)\n' >"$tree/CMakeLists.txt"
+    printf '# Changelog\n\n## [11.0.0.8] - 2026-11-22\n' >"$tree/CHANGELOG.md"
+    printf '{ "settings": { "rxVersion": "@VERSION@" } }\n' >"$tree/packaging/product/velmora.json"
     printf 'int health(int raw)\n{\n    return rate(raw);\n}\n' >"$tree/smart/Health.cpp"
     printf '%s\n' "$decisions" >"$tree/docs/architecture.md"
+    mkdir -p "$tree/packaging/monitoring"
+    printf 'auto up = "halvane_disk_up";\n' >"$tree/monitor/Metrics.cpp"
+    printf 'record: halvane:up:sum\nexpr: sum(halvane_disk_up)\n' >"$tree/packaging/monitoring/halvane.rules.yml"
+    printf '{ "expr": "halvane:up:sum" }\n' >"$tree/packaging/monitoring/dashboard.json"
+    printf '`halvane_disk_up`\n' >"$tree/docs/fleet.md"
     find "$tree" -name '*.cpp' -o -name '*.h' | xargs sed -i "1i $licence"
 }
 
@@ -122,6 +130,10 @@ finds 'no function gone' $table "${decisions/health\`/health\`, \`gone\`}\n"
 finds '24 rules in the table' $table "${decisions/| rule 25/rule 25}\n"
 finds 'no function health' smart/Health.cpp '// int health(int raw)\nint rate(int raw);\n'
 
+begins metrics
+finds 'there is no halvane_disk_gone' packaging/monitoring/other.json '{ "expr": "rate(halvane_disk_gone[1m])" }\n'
+finds 'does not tell of halvane_disk_up' docs/fleet.md '`halvane_build`\n'
+
 if begins translations; then
     german=resources/translations/LANG_DE.ts
     finds 'unfinished' $german "${translation/<translation> /<translation type=\"unfinished\"> }\n"
@@ -147,4 +159,10 @@ finds 'a script' "$more" "${page/<br>/<script>1</script>}\n"
 finds "'images/c.png' leads nowhere" "$more" "${page/a.png/c.png}\n"
 finds "'#end' has no such place" "$more" "${page/\#top/#end}\n"
 finds 'leads outside' "$more" "${page/\#top/https://halvane.example/}\n"
+begins version
+finds "'11.0.0.10' is not" CMakeLists.txt 'project(Halvane VERSION 11.0.0.10 LANGUAGES CXX)\n'
+finds 'begins with' CHANGELOG.md '## [11.0.0.7] - 2026-11-22\n'
+finds '11.0.0.9 is newer' CHANGELOG.md '## [Unreleased]\n\n## [11.0.0.9] - 2026-11-22\n'
+finds 'rxVersion is not' packaging/product/korvane.json '{ "settings": { "rxVersion": "11.0.0.7" } }\n'
+finds 'ui/About.cpp:1' ui/About.cpp 'auto version = "11.0.0.8";\n'
 [ "$failures" -eq 0 ]

@@ -3,7 +3,7 @@
 # Forms, drawings and translations are well-formed XML; described PCs and other settings are strict JSON.
 . "$(dirname "${BASH_SOURCE[0]}")/files.sh"
 
-xml=$(files '*.ui' '*.svg' '*.svg.in' '*.ts' '*.qrc')
+xml=$(files '*.ui' '*.svg' '*.svg.in' '*.ts' '*.qrc' '*.metainfo.xml' '*.policy.in')
 # Data of the tests may be wrong on purpose.
 json=$(files '*.json' | grep -v '^tests/data/')
 {

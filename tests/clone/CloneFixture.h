@@ -105,8 +105,8 @@ private:
     DiskNode m_destination;
 };
 
-const QStringList Finished{QStringLiteral("finish (running)")};
-const QStringList Failed{QStringLiteral("failed"), QStringLiteral("finish")};
+const QStringList Finished{"finish (running)"};
+const QStringList Failed{"failed", "finish"};
 
 /// A clone on a machine of three disks.
 class CloneFixture

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "inventory/AtaIdentity.h"
+#include "tests/support/ArrowRows.h"
 #include "tests/support/FakePlatform.h"
-
-#include <QTest>
-#include <QTextStream>
+#include "tests/support/HandMadeDisk.h"
 
 namespace
 {
@@ -17,48 +16,35 @@ QByteArray swapped(QByteArray text)
 
 QByteArray identifyData()
 {
-    QByteArray data(512, '\0');
-    const auto put = [&data](int word, const QByteArray &bytes) {
-        data.replace(2 * word, bytes.size(), bytes);
-    };
-    put(1, QByteArray("\xFF\x3F", 2));
-    put(3, QByteArray("\x10\x00", 2));
-    put(6, QByteArray("\x3F\x00", 2));
-    put(10, swapped(QByteArray("SN-0042").rightJustified(20)));
-    put(23, swapped(QByteArray("FW1.7").leftJustified(8)));
-    put(27, swapped(QByteArray("NORDWIND NW500").leftJustified(40)));
-    put(60, QByteArray("\x78\x56\x34\x12", 4));
-    return data;
+    HandMadeDisk data(1);
+    data.put(2, quint16(16383)).put(6, quint16(16)).put(12, quint16(63)).put(120, 0x12345678);
+    data.text(20, swapped(QByteArray("SN-0042").rightJustified(20)));
+    data.text(46, swapped(QByteArray("FW1.7").leftJustified(8)));
+    return data.text(54, swapped(QByteArray("NORDWIND NW500").leftJustified(40))).bytes;
 }
 
+/// Each entry is the id, flags of two bytes, value, worst and raw value. Slot 1 stays empty.
 QByteArray smartData()
 {
-    QByteArray data(512, '\0');
-    const auto entry = [&data](int slot, quint8 id, quint8 current, quint8 worst, quint8 raw) {
-        const char bytes[] = {char(id), 0, 0, char(current), char(worst), char(raw)};
-        data.replace(2 + slot * 12, sizeof bytes, bytes, sizeof bytes);
-    };
-    entry(0, 5, 100, 99, 0);
-    entry(2, 194, 66, 50, 34); // slot 1 stays empty
-    entry(3, 194, 60, 50, 77);
-    entry(29, 199, 0, 0, 1);
-    return data;
+    return HandMadeDisk(1)
+        .text(2, {"\x05\0\0\x64\x63\0", 6})
+        .text(2 + 2 * 12, {"\xC2\0\0\x42\x32\x22", 6})
+        .text(2 + 3 * 12, {"\xC2\0\0\x3C\x32\x4D", 6})
+        .text(2 + 29 * 12, {"\xC7\0\0\0\0\1", 6})
+        .bytes;
 }
 
 /// Names, geometry, sectors, SMART, temperature and its copy, and each attribute with its name, values and
 /// state.
 QString told(const DiskIdentity &identity)
 {
-    QString text;
-    QTextStream out(&text);
-    out << identity.szModel.text() << '|' << identity.szSerial.text() << '|' << identity.szFirmware.text()
-        << ' ' << int(identity.nCylinders) << ' ' << int(identity.nHeads) << ' ' << int(identity.nSectors)
-        << ' ' << identity.nTotalLba << ' ' << int(identity.bSmartEnabled) << ' ' << identity.nTemperature
-        << ' ' << int(identity.nTemperatureCopy) << ' ' << int(identity.nAttributeCount) << ' '
-        << int(identity.nThresholdState);
+    QString text = joined(identity.szModel.text(), identity.szSerial.text(), identity.szFirmware.text(),
+                          identity.nCylinders, identity.nHeads, identity.nSectors, identity.nTotalLba,
+                          identity.bSmartEnabled, identity.nTemperature, identity.nTemperatureCopy,
+                          identity.nAttributeCount, identity.nThresholdState);
     for (const IdentityAttribute &attribute : identity.attributes)
-        out << ", " << int(attribute.nAttrId) << ' ' << attribute.szNameIndex << ' ' << attribute.nCurrent
-            << '/' << attribute.nWorst << ' ' << int(attribute.nState);
+        text += ", " + joined(attribute.nAttrId, attribute.szNameIndex, attribute.nCurrent, attribute.nWorst,
+                              attribute.nState);
     return text;
 }
 
@@ -85,7 +71,6 @@ private slots:
         // With one leading blank, the first byte of the data is the second character.
         QCOMPARE(cut(" SN4"), QByteArray());
         QCOMPARE(ata::identifyText(QByteArray("WN05\0\0XX", 8)), QByteArray("NW50"));
-        QCOMPARE(ata::identifyText({}), QByteArray());
     }
 
     void namesAttributes()
@@ -101,32 +86,31 @@ private slots:
         DiskIdentity identity;
         ata::decodeIdentify(identifyData().left(30), false, &identity);
         ata::decodeAttributes(smartData().left(7), &identity);
-        QCOMPARE(told(identity), QStringLiteral("|| 16383 16 63 0 0 0 0 1 1, 5 160 100/99 1"));
+        QCOMPARE(told(identity), "|||16383|16|63|0|0|0|0|1|1, 5|160|100|99|1");
     }
 
     void readsDisk()
     {
-        const QString names = QStringLiteral("NORDWIND|SN-0042|FW1.7 ");
-        QCOMPARE(read(0x01), names + "16383 16 63 305419896 1 34 34 4 2, 5 160 100/99 1, 194 171 66/50 1, "
-                                     "194 171 60/50 1, 199 176 0/0 2");
-        QCOMPARE(asked, QStringList({"d8 01 01 4f c2 a0 b0 00, 0 bytes from 0",
-                                     "00 01 01 00 00 a0 ec 00, 512 bytes from 0",
-                                     "d0 01 01 4f c2 a0 b0 00, 512 bytes from 0"}));
+        const QString names = "NORDWIND|SN-0042|FW1.7|";
+        QCOMPARE(read(0x01), names + "16383|16|63|305419896|1|34|34|4|2, 5|160|100|99|1, 194|171|66|50|1, "
+                                     "194|171|60|50|1, 199|176|0|0|2");
+        QCOMPARE(asked, QStringList({"00000000|d801014fc2a0b000|00", "00020000|0001010000a0ec00|00",
+                                     "00020000|d001014fc2a0b000|00"}));
         QCOMPARE(fake->openings, QStringList(R"(\\.\PHYSICALDRIVE3 c0000000 3 3)"));
         read(0x08);
         QCOMPARE(asked.size(), 3);
-        QCOMPARE(asked.first(), QStringLiteral("d8 01 01 4f c2 b0 b0 00, 0 bytes from 3"));
+        QCOMPARE(asked.first(), "00000000|d801014fc2b0b000|03");
         // A packet device.
-        QCOMPARE(read(0x11), names + "0 0 0 305419896 0 0 0 0 0");
-        QCOMPARE(asked, QStringList("00 01 01 00 00 a0 a1 00, 512 bytes from 0"));
+        QCOMPARE(read(0x11), names + "0|0|0|305419896|0|0|0|0|0");
+        QCOMPARE(asked, QStringList("00020000|0001010000a0a100|00"));
         refusesEnable = true;
-        QCOMPARE(read(0x01), names + "16383 16 63 305419896 0 0 0 0 0");
+        QCOMPARE(read(0x01), names + "16383|16|63|305419896|0|0|0|0|0");
         QCOMPARE(asked.size(), 2);
     }
 
     void leavesRecordEmpty()
     {
-        const QString empty = QStringLiteral("|| 0 0 0 0 0 0 0 0 0");
+        const QString empty = "|||0|0|0|0|0|0|0|0|0";
         QCOMPARE(read(0), empty);
         fake->disks[3].smart = {}; // as USB disks refuse
         QCOMPARE(read(0x01), empty);
@@ -155,23 +139,17 @@ private:
             *out = QByteArray(reinterpret_cast<const char *>(&version), sizeof version);
             return true;
         }
-        io::SendCmdInParams params{};
-        std::memcpy(&params, in.constData(), qMin(sizeof params, size_t(in.size())));
-        const QByteArray registers(reinterpret_cast<const char *>(&params.regs), sizeof params.regs);
-        asked << QStringLiteral("%1, %2 bytes from %3")
-                     .arg(QString::fromLatin1(registers.toHex(' ')))
-                     .arg(params.bufferSize)
-                     .arg(params.driveNumber);
+        asked << joined(in.left(4).toHex(), in.mid(4, 8).toHex(), in.mid(12, 1).toHex());
         *out = QByteArray(16, '\0');
         if (code == io::SmartSendDriveCommand)
             return !refusesEnable;
-        out->append(params.regs.command == 0xB0 ? smartData() : identifyData());
+        out->append(in.at(10) == '\xB0' ? smartData() : identifyData());
         return true;
     }
 
     quint8 map = 0; ///< of the devices that the interface has
     bool refusesEnable = false;
-    QStringList asked;
+    QStringList asked; ///< bytes wanted, registers and device of each command
     FakePlatform *fake = nullptr;
 };
 

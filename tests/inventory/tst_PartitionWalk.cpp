@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "inventory/BootSector.h"
 #include "inventory/PartitionWalk.h"
+#include "inventory/RawAccess.h"
+#include "tests/support/ArrowRows.h"
 #include "tests/support/DiskImage.h"
 #include "tests/support/FakePlatform.h"
 #include "tests/support/HandMadeDisk.h"
-
-#include <QTest>
 
 using Found = QVector<QVector<quint64>>; ///< start, count and end of each partition
 
@@ -41,69 +42,135 @@ Found walk(const QByteArray &bytes, const QSet<qint64> &badSectors = {})
 Found linuxPartitions(const DiskImage &image, const QVector<int> &extOnBasicData = {})
 {
     const QJsonObject table = image.table();
-    const bool gpt = table[QStringLiteral("label")].toString() == QLatin1String("gpt");
+    const bool gpt = table["label"].toString() == "gpt";
     Found found;
     int number = 0;
-    for (const QJsonValue &value : table[QStringLiteral("partitions")].toArray()) {
+    for (const QJsonValue &value : table["partitions"].toArray()) {
         const QJsonObject partition = value.toObject();
-        const QString type = partition[QStringLiteral("type")].toString();
+        const QString type = partition["type"].toString();
         ++number;
-        if (type != QLatin1String("83") && type != QLatin1String("0FC63DAF-8483-4772-8E79-3D69D8477DE4") &&
-            !extOnBasicData.contains(number))
+        if (type != "83" && !type.startsWith("0FC63DAF") && !extOnBasicData.contains(number))
             continue;
-        const auto start = quint64(partition[QStringLiteral("start")].toDouble());
-        const auto count = quint64(partition[QStringLiteral("size")].toDouble());
+        const auto start = quint64(partition["start"].toDouble());
+        const auto count = quint64(partition["size"].toDouble());
         found << QVector<quint64>{start, count, start + count - (gpt ? 1 : 0)};
     }
     return found;
 }
 
+template<typename Bytes = bootsector::Sector>
+Bytes taken(const QByteArray &volume, int sector = 0)
+{
+    Bytes bytes{};
+    std::copy_n(volume.cbegin() + sector * 512, bytes.size(), bytes.begin());
+    return bytes;
+}
+
+/// "file system bytes" of a volume with such content.
+QString sniffed(int letter, const QByteArray &volume, bool removable, quint64 totalBytes)
+{
+    FakePlatform::install()->volumes[QChar('A' + letter)].raw.bytes = volume;
+    const auto found = bootsector::sniffFileSystem(letter, removable, totalBytes);
+    return found ? found->fileSystem + ' ' + QString::number(found->totalBytes) : "no volume";
+}
+
 } // namespace
 
+/// What is read from raw sectors: partition tables and boot sectors, by real tools and by hand.
 class PartitionWalkTest : public QObject
 {
     Q_OBJECT
 
 private slots:
+    void init()
+    {
+        fake = FakePlatform::install();
+        QByteArray &bytes = fake->disks[1].bytes;
+        for (const char digit : {'0', '1', '2', '3'})
+            bytes.append(QByteArray(512, digit));
+        fake->volumes['D'].raw.bytes = bytes;
+    }
+
+    void opensTargets()
+    {
+        OpenDisk(128);
+        OpenDisk(25);
+        // For reading and writing; others may read, write and delete; a missing file is not made.
+        QCOMPARE(fake->openings,
+                 QStringList({R"(\\.\PHYSICALDRIVE0 c0000000 7 3)", R"(\\.\Z: c0000000 7 3)"}));
+    }
+
+    /// Two sectors each: whether they were read, how many bytes, what the buffer then holds, open handles.
+    void readsAndCloses()
+    {
+        fake->disks[1].badSectors << 1;
+        compareRows({"129 2 -> 1|1024|23|0", "3 2 -> 1|1024|23|0", // disk 1 and volume D
+                     "129 3 -> 1|512|3x|0", "3 3 -> 1|512|3x|0",   // cut at the end
+                     "129 4 -> 0|0|x|0", "130 0 -> 0|0|x|0", "129 1 -> 0|0|x|0",
+                     "3 36028797018963968 -> 0|0|x|0"}, // an offset that would wrap to 0
+                    [this](const QString &row) {
+                        QByteArray buffer(1024, 'x');
+                        quint32 moved = 0;
+                        const bool done = ReadWriteSectors(row.section(' ', 0, 0).toInt(),
+                                                           row.section(' ', 1).toULongLong(), buffer.data(),
+                                                           1024, NoDiskHandle, false, &moved);
+                        const auto end = std::unique(buffer.begin(), buffer.end());
+                        return joined(done, moved, QByteArray(buffer.data(), int(end - buffer.begin())),
+                                      fake->openHandles());
+                    });
+    }
+
+    void worksOnGivenHandle()
+    {
+        const Platform::RawHandle handle = OpenDisk(129);
+        QByteArray buffer(512, 'w');
+        QVERIFY(ReadWriteSectors(129, 1, buffer.data(), 512, handle, true));
+        QCOMPARE(fake->disks[1].bytes.mid(511, 514), "0" + buffer + "2");
+        QVERIFY(ReadWriteSectors(129, 0, buffer.data(), 512, handle));
+        QCOMPARE(buffer, QByteArray(512, '0'));
+        QCOMPARE(fake->openings.size(), 1);
+        QCOMPARE(fake->openHandles(), 1);
+    }
+
+    void countsSectors()
+    {
+        const auto counted = [](int code) {
+            quint64 sectors = 99;
+            GetDiskSectorCount(code, &sectors);
+            return int(sectors);
+        };
+        QCOMPARE(counted(129), 4);
+        QCOMPARE(counted(128), 0);
+        fake->disks[1].hasSize = false;
+        QCOMPARE(counted(129), 0);
+        QCOMPARE(fake->openHandles(), 0);
+    }
+
     void agreesWithTools()
     {
         const QString missing = DiskImage::missingTool();
         if (!missing.isEmpty())
-            QSKIP(qPrintable(missing + QLatin1String(" is not installed")));
-        const auto agree = [](const QByteArray &script, int count) {
-            const DiskImage image(64 * MiB);
-            image.partition(script);
-            const Found found = walk(image.contents());
-            QCOMPARE(found, linuxPartitions(image).mid(0, count));
-            QCOMPARE(found.size(), count);
-        };
-        agree("label: dos\nsize=2M,type=83\ntype=5\n\n\nsize=4M,type=7\nsize=5M,type=83\n"
-              "size=3M,type=b\nsize=2M,type=83\n",
-              3);
-        // The array is not looked at beyond sector 62.
-        agree("label: gpt\ntable-length: 260\ngrain: 64K\nsize=64K,type=U\nsize=64K,type=S\n" +
-                  QByteArray("size=64K,type=L\n").repeated(248),
-              242);
-    }
+            QSKIP(qPrintable(missing + " is not installed"));
+        const DiskImage mbr(64 * MiB);
+        mbr.partition("label: dos\nsize=2M,type=83\ntype=5\n\n\nsize=4M,type=7\nsize=5M,type=83\n"
+                      "size=3M,type=b\nsize=2M,type=83\n");
+        Found found = walk(mbr.contents());
+        QCOMPARE(found, linuxPartitions(mbr));
+        QCOMPARE(found.size(), 3);
 
-    void looksIntoBasicData()
-    {
-        const QString missing = DiskImage::missingTool();
-        if (!missing.isEmpty())
-            QSKIP(qPrintable(missing + QLatin1String(" is not installed")));
+        const DiskImage gpt(80 * MiB);
         const QByteArray basic("size=8M,type=EBD0A0A2-B9E5-4433-87C0-68B6B72699C7\n");
-        const DiskImage image(80 * MiB);
-        image.partition("label: gpt\n" + basic.repeated(6) + "size=1M,type=L\n");
-        const QStringList commands{QStringLiteral("mke2fs -q -F -t ext4"),
-                                   QStringLiteral("mkfs.ntfs -q -F -f"),
-                                   QStringLiteral("mke2fs -q -F -t ext2"), QStringLiteral("mkfs.exfat"),
-                                   QStringLiteral("mkfs.vfat -s 1 -F 16")};
+        gpt.partition("label: gpt\ntable-length: 260\ngrain: 64K\n" + basic.repeated(6) +
+                      "size=64K,type=U\nsize=64K,type=S\n" + QByteArray("size=64K,type=L\n").repeated(248));
+        const QStringList commands{"mke2fs -q -F -t ext4", "mkfs.ntfs -q -F -f", "mke2fs -q -F -t ext2",
+                                   "mkfs.exfat", "mkfs.vfat -s 1 -F 16"};
         // The partitions lie one behind the other, from the first MiB on.
         for (int i = 0; i < commands.size(); ++i)
-            image.put((1 + 8 * i) * MiB, madeBy(commands.at(i), 8 * MiB));
-        const Found found = walk(image.contents());
-        QCOMPARE(found, linuxPartitions(image, {1, 3}));
-        QCOMPARE(found.size(), 3);
+            gpt.put((1 + 8 * i) * MiB, madeBy(commands.at(i), 8 * MiB));
+        // The array is not looked at beyond sector 62, where its 244th entry ends.
+        found = walk(gpt.contents());
+        QCOMPARE(found, linuxPartitions(gpt, {1, 3}).mid(0, found.size()));
+        QCOMPARE(found.size(), 2 + 244 - 8);
     }
 
     void takesTables()
@@ -171,6 +238,67 @@ private slots:
         QCOMPARE(walk(disk.bytes, {112, 3}), beforeArrayFails);
         QCOMPARE(walk(disk.bytes, {1}), Found());
     }
+
+    void readsToolsVolumes()
+    {
+        const QString missing = DiskImage::missingTool();
+        if (!missing.isEmpty())
+            QSKIP(qPrintable(missing + " is not installed"));
+        const auto told = [](QByteArray volume, bool removable, quint64 totalBytes, bool firstIsLost) {
+            if (firstIsLost)
+                volume.replace(0, 512, QByteArray(512, '\0'));
+            return sniffed(4, volume, removable, totalBytes);
+        };
+        const quint64 all = 40 * MiB;
+        const QByteArray exfat = madeBy("mkfs.exfat", all);
+        QCOMPARE(told(exfat, true, 0, false), "exFAT 41943040");
+        QCOMPARE(told(exfat, false, 1234, false), "exFAT 1234");
+        QCOMPARE(told(exfat, true, 0, true), "EXFAT 0");
+        const QByteArray ntfs = madeBy("mkfs.ntfs -q -F -f", all);
+        QCOMPARE(told(ntfs, false, all - 1, false), "FAT32 41943039");
+        QCOMPARE(told(ntfs, true, all - 1, true), "NTFS 41943039");
+
+        QVERIFY(!bootsector::isFat16(taken(madeBy("mkfs.vfat -a -F 12 -s 8", 15 * MiB))));
+        QVERIFY(bootsector::isFat16(taken(madeBy("mkfs.vfat -F 16 -s 1", 8 * MiB))));
+        const QByteArray ext = madeBy("mke2fs -q -F -t ext4 -L /data -M /home", MiB);
+        QCOMPARE(bootsector::extName(taken(ext, 2)), "/home");
+    }
+
+    void sniffsBytes()
+    {
+        const auto told = [](int letter, bool removable, const QMap<int, const char *> &names) {
+            HandMadeDisk volume(21);
+            for (auto name = names.cbegin(); name != names.cend(); ++name)
+                volume.text(name.key() * 512 + 3, name.value());
+            return sniffed(letter, volume.bytes, removable, 20 * 512).section(' ', 0, 0);
+        };
+        QCOMPARE(told(0, false, {{0, "NTFS"}}), "no");
+        QCOMPARE(told(0, false, {{0, "EXFAT"}}), "exFAT");
+        QCOMPARE(told(0, true, {{0, "NTFS"}, {12, "exFAT"}}), "FAT32");
+        QCOMPARE(told(4, true, {{20, "NTFS"}, {6, "MSDOS"}}), "NTFS");
+        QCOMPARE(told(4, true, {{6, "MSDOS5.0"}, {12, "EXFAT"}}), "FAT32");
+        QVERIFY(bootsector::isFat16(taken(HandMadeDisk(1).put(22, quint16(256)).bytes)));
+    }
+
+    void tellsExtFromOthers()
+    {
+        const auto isExt = [](quint16 magic, const char *name) {
+            return bootsector::isExt(
+                taken<bootsector::ExtProbe>(HandMadeDisk(3).put(1080, magic).text(3, name).bytes));
+        };
+        QVERIFY(isExt(0xEF53, "") && !isExt(0, ""));
+        for (const char *other : {"NTFS", "MSWIN4.1", "EXFAT"})
+            QVERIFY(!isExt(0xEF53, other));
+        const auto nameIn = [](const QByteArray &volumeName, const QByteArray &mountPoint) {
+            return bootsector::extName(
+                taken(HandMadeDisk(1).text(120, volumeName).text(136, mountPoint).bytes));
+        };
+        QCOMPARE(nameIn("/sixteen-letters", "a/b"), "/sixteen-letters");
+        QCOMPARE(nameIn("", QByteArray("/a\0b", 4)), "/a");
+    }
+
+private:
+    FakePlatform *fake = nullptr;
 };
 
 QTEST_GUILESS_MAIN(PartitionWalkTest)

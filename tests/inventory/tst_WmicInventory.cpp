@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "inventory/CommandRunner.h"
 #include "inventory/WmicInventory.h"
+#include "platform/OwnFiles.h"
 #include "state/GlobalApp.h"
 #include "state/Globals.h"
+#include "tests/support/ArrowRows.h"
 #include "tests/support/FakePlatform.h"
-#include "tests/support/Files.h"
 
-#include <QTest>
+#include <QTextCodec>
 
 namespace
 {
@@ -19,13 +20,13 @@ QByteArray sample(const char *name)
     return bytes;
 }
 
-/// "index|interface|model|status" of all records.
+/// "index|interface|model|name|status" of all records.
 QStringList diskRecords()
 {
     QStringList rows;
     for (const WmicDiskRecord &record : g_wmicDisks)
-        rows << QString::number(record.nIndex) + '|' + record.szInterface.text() + '|' +
-                    record.szModel.text() + '|' + record.szStatus.text();
+        rows << joined(qint32(record.nIndex), record.szInterface.text(), record.szModel.text(),
+                       record.szSmartModel.text(), record.szStatus.text());
     return rows;
 }
 
@@ -34,10 +35,8 @@ QStringList volumeRecords()
 {
     QStringList rows;
     for (const LogicalDiskRecord &record : g_logicalDisks)
-        rows << QStringLiteral("%1|%2|%3|%4|%5|%6")
-                    .arg(record.szCaption.text(), record.szFileSystem.text(),
-                         QString::number(record.nFreeBytes), QString::number(record.nSizeBytes),
-                         record.szBitLocker.text(), QString::number(record.nDiskIndex));
+        rows << joined(record.szCaption.text(), record.szFileSystem.text(), record.nFreeBytes,
+                       record.nSizeBytes, record.szBitLocker.text(), record.nDiskIndex);
     return rows;
 }
 
@@ -48,6 +47,7 @@ ProbedIdentity ignoreIdentity(int, const QString &)
 
 } // namespace
 
+/// How tools run, and what is made of their tables.
 class WmicInventoryTest : public QObject
 {
     Q_OBJECT
@@ -73,22 +73,73 @@ private slots:
         g_logicalDisks.clear();
     }
 
-    /// "index|interface|model|name|status".
-    void parsesDiskDriveLine()
+    void runsThroughTheInterpreter()
     {
-        const auto told = [](const char *line) {
-            const wmic::DiskDriveLine parsed = wmic::parseDiskDrive(QString::fromLatin1(line));
-            return QString::number(parsed.index) + '|' + parsed.interfaceText + '|' + parsed.model + '|' +
-                   parsed.name + '|' + parsed.status;
+        qputenv("COMSPEC", "x /c diskpart /s evil.txt |");
+        RunSilent("tool.exe", "-x");
+        qunsetenv("COMSPEC");
+        RunSilent("tool \u00FC");
+        QCOMPARE(fake->commands(), QStringList({"C:\\Windows\\system32\\cmd.exe /c tool.exe -x",
+                                                "C:\\Windows\\system32\\cmd.exe /c tool \u00C3\u00BC "}));
+        QCOMPARE(fake->hiddenFlags, QVector<bool>({true, true}));
+    }
+
+    void leavesOutLinesThatDoNotFit()
+    {
+        const int frame = (fake->CommandInterpreter() + " /c  ").size();
+        RunSilent(QString(511 - frame, 'x'));
+        RunSilent(QString(512 - frame, 'x'));
+        QCOMPARE(fake->commands().size(), 1);
+        QCOMPARE(fake->commands().first().size(), 511);
+    }
+
+    void decodesBothKindsOfTool()
+    {
+        const auto decoded = [this](const QByteArray &output) {
+            fake->onCommand = [output](const QString &line) { return FakePlatform::answer(line, output); };
+            return run() ? text : "no file";
         };
-        QCOMPARE(told("0  IDE  NORDWIND NW 500 ATA Device  OK  "),
-                 QStringLiteral("0|IDE|NORDWIND NW 500 |NORDWIND NW 500|OK"));
-        QCOMPARE(told("1  SCSI  NW500 SCSI Disk Device  OK"), QStringLiteral("1|SCSI|NW500 SCSI D|NW500|OK"));
-        QCOMPARE(told("2  SCSI  NORDWIND NW500  OK"), QStringLiteral("2|SCSI|NORDW|NORDWIND NW500|OK"));
-        QCOMPARE(told("0  IDE  NW500 Device  Pred Fail"),
-                 QStringLiteral("0|IDE|NW500 Dev|NW500 Device|Fail"));
-        QCOMPARE(told("4  USB  OK"), QStringLiteral("4|USB|||OK"));
-        QCOMPARE(told("4  USB"), QStringLiteral("4|USB|||"));
+        const auto inLocale = [](const char *utf8) {
+            return QTextCodec::codecForLocale()->fromUnicode(QString::fromUtf8(utf8));
+        };
+        const char *const shown = "Name  n\u00B0\r\nC:    7\r\n\r\n";
+        const QString plain = "Name  n\u00B0\nC:    7\n\n";
+        QCOMPARE(decoded(utf16(QString::fromUtf8(shown))), plain);
+        QCOMPARE(decoded(inLocale(shown)), plain);
+        // A no-break blank; after a byte beyond ASCII, 0xA0 is a part of a letter.
+        QCOMPARE(decoded("18\xA0" + QByteArray("250\xA0") + "344\n" + inLocale("\u00E0")),
+                 "18\u00A0250\u00A0344\n\u00E0");
+        QCOMPARE(decoded(utf16("a\u001B[2Jb\u202Ec\u2028d\u0085\re\tf\r\n")),
+                 "a\uFFFD[2Jb\uFFFDc\uFFFDd\uFFFD\uFFFDe\tf\n");
+        QCOMPARE(decoded(QByteArray(static_cast<int>(ownfiles::MostBytes) + 9, 'x')).size(),
+                 16 * 1024 * 1024);
+    }
+
+    void leavesNoFileUnlessAsked()
+    {
+        const QString path = nativePath(tempFile("F.txt"));
+        QVERIFY(writeFile(path, "old\n"));
+        fake->onCommand = [](const QString &line) { return FakePlatform::answer(line, "new\n"); };
+        QVERIFY(run(runner::After::Keep));
+        QCOMPARE(contentOf(path), QByteArray("new\n"));
+        QVERIFY(run());
+        QCOMPARE(text, "new\n");
+        QVERIFY(!QFile::exists(path));
+        QCOMPARE(fake->commands().first(),
+                 QStringLiteral("C:\\Windows\\system32\\cmd.exe /c tool >> ") + tempFile("F.txt") + ' ');
+    }
+
+    void reportsMissingFile()
+    {
+        fake->onCommand = {};
+        QVERIFY(!run()); // the tool writes none
+        // The interpreter takes a name up to its first blank, and no name beyond ASCII.
+        fake->onCommand = [](const QString &line) { return FakePlatform::answer(line, "text\n"); };
+        fake->useTempFolder("my temp");
+        QVERIFY(!run());
+        fake->useTempFolder("t\u00E9mp");
+        QVERIFY(!run());
+        QVERIFY(text.isNull());
     }
 
     void loadsDiskDrives()
@@ -97,15 +148,26 @@ private slots:
         outputs = {{question, sample("diskdrive-ata-device-suffix")}};
         LoadDiskDrives(ignoreIdentity);
         // The record of a blank line belongs to no disk.
-        QCOMPARE(diskRecords(), QStringList({"0|IDE|Hitachi HDS721010CLA332 |OK",
-                                             "1|IDE|SAMSUNG SSD 830 Series |OK", "4294967295|||"}));
+        QCOMPARE(diskRecords(),
+                 QStringList({"0|IDE|Hitachi HDS721010CLA332 |Hitachi HDS721010CLA332|OK",
+                              "1|IDE|SAMSUNG SSD 830 Series |SAMSUNG SSD 830 Series|OK", "-1||||"}));
         QCOMPARE(g_pWmicDiskListTail->nDiskId, wmic::Nobody);
-        QVERIFY(!QFile::exists(tempFile(QStringLiteral("DiskInfo.txt"))));
-        // The header's word is data further down.
-        outputs[question] = "Index  InterfaceType  Model  Status\r\n0  IDE  Index X 1 ATA Device  OK\r\n";
+        QVERIFY(!QFile::exists(tempFile("DiskInfo.txt")));
+        outputs[question] = "Index  InterfaceType  Model  Status\r\n"
+                            "0  IDE  NORDWIND NW 500 ATA Device  OK  \r\n"
+                            "1  SCSI  NW500 SCSI Disk Device  OK\r\n"
+                            "2  SCSI  NORDWIND NW500  OK\r\n"
+                            "3  IDE  NW500 Device  Pred Fail\r\n"
+                            "4  USB  OK\r\n"
+                            "5  USB\r\n"
+                            // The header's word is data further down.
+                            "6  IDE  Index X 1 ATA Device  OK\r\n";
         LoadDiskDrives(ignoreIdentity);
-        QCOMPARE(diskRecords(), QStringList("0|IDE|Index X 1 |OK"));
-        QCOMPARE(g_pWmicDiskListTail->nDiskId, 128u);
+        QCOMPARE(diskRecords(),
+                 QStringList({"0|IDE|NORDWIND NW 500 |NORDWIND NW 500|OK", "1|SCSI|NW500 SCSI D|NW500|OK",
+                              "2|SCSI|NORDW|NORDWIND NW500|OK", "3|IDE|NW500 Dev|NW500 Device|Fail",
+                              "4|USB|||OK", "5|USB|||", "6|IDE|Index X 1 |Index X 1|OK"}));
+        QCOMPARE(g_pWmicDiskListTail->nDiskId, 128u + 6);
     }
 
     void namesDisks()
@@ -119,14 +181,14 @@ private slots:
             asked << QString::number(index) + interfaceText;
             return index == 5 ? ProbedIdentity{"Model", "Serial", "Firmware"} : ProbedIdentity();
         });
-        QCOMPARE(asked.join(' '), QStringLiteral("0SCSI 1USB 2USB 3USB 4USB 5SCSI 6SCSI"));
+        QCOMPARE(asked.join(' '), "0SCSI 1USB 2USB 3USB 4USB 5SCSI 6SCSI");
         const auto names = [](quint32 disk) {
             const WmicDiskRecord &record = *findWmicDisk(disk);
-            return record.szModel.text() + '|' + record.szSmartModel.text() + '|' +
-                   record.szSmartSerial.text() + '|' + record.szSmartFirmware.text();
+            return joined(record.szSmartModel.text(), record.szSmartSerial.text(),
+                          record.szSmartFirmware.text());
         };
-        QCOMPARE(names(133).section('|', 1), QStringLiteral("Model|Serial|Firmware"));
-        QCOMPARE(names(132), QStringLiteral("Generic SDXC/MMC |Generic SDXC/MMC|2012 0926A|"));
+        QCOMPARE(names(133), "Model|Serial|Firmware");
+        QCOMPARE(names(132), "Generic SDXC/MMC|2012 0926A|");
     }
 
     void keepsOrEmptiesOldLists()
@@ -156,17 +218,16 @@ private slots:
             return g_pLogicalDiskListHead ? g_pLogicalDiskListHead->szBitLocker.text() : "no volume";
         };
         const QByteArray decrypted = sample("manage-bde-c-decrypted-win11");
-        QCOMPARE(state(decrypted), QStringLiteral("NO"));
-        QCOMPARE(state(QByteArray(decrypted).replace("[OS]", "[BitLocker Version:    2.0]")),
-                 QStringLiteral("NO"));
-        QCOMPARE(state("    BitLocker Version:  None\r\n"), QStringLiteral("YES"));
-        QCOMPARE(state("BitLocker Version:    2.0\r\nBitLocker Version:    None\r\n"), QStringLiteral("YES"));
+        QCOMPARE(state(decrypted), "NO");
+        QCOMPARE(state(QByteArray(decrypted).replace("[OS]", "[BitLocker Version:    2.0]")), "NO");
+        QCOMPARE(state("    BitLocker Version:  None\r\n"), "YES");
+        QCOMPARE(state("BitLocker Version:    2.0\r\nBitLocker Version:    None\r\n"), "YES");
         QCOMPARE(state(sample("manage-bde-access-denied")), QString());
     }
 
     void loadsLogicalDisks()
     {
-        QVERIFY(writeFile(tempFile(QStringLiteral("DiskInfo.txt")), "X:  NTFS  1  2\r\n"));
+        QVERIFY(writeFile(tempFile("DiskInfo.txt"), "X:  NTFS  1  2\r\n"));
         outputs = {{"logicaldisk", sample("logicaldisk-empty-floppy")},
                    {"-status A:", {}},
                    {"-status C:", sample("manage-bde-os-used-space-on")},
@@ -176,8 +237,8 @@ private slots:
         LoadLogicalDisks();
         QCOMPARE(volumeRecords(), QStringList({"||0|0||0", "C:|NTFS|55366582272|135838822400|YES|1",
                                                "D:|NTFS|63518740480|68718358528|NO|1", "||0|0||1"}));
-        QVERIFY(QFile::exists(tempFile(QStringLiteral("DiskInfo.txt"))));
-        QVERIFY(!QFile::exists(tempFile(QStringLiteral("File.txt"))));
+        QVERIFY(QFile::exists(tempFile("DiskInfo.txt")));
+        QVERIFY(!QFile::exists(tempFile("File.txt")));
         QString commands = fake->commands().join('\n').remove(tempFile({}));
         QCOMPARE(commands.remove("C:\\Windows\\system32\\").remove("cmd.exe /c "),
                  QStringLiteral(
@@ -199,15 +260,11 @@ private slots:
                        {"manage-bde", {}},
                        {"partition get diskindex", partitions}};
             LoadLogicalDisks();
-            QVector<int> disks;
-            for (const LogicalDiskRecord &record : g_logicalDisks)
-                disks << record.nDiskIndex;
-            return disks;
+            return volumeRecords().join(' ');
         };
-        QCOMPARE(paired("DiskIndex\n4\n"), QVector<int>({4, 0, 0}));
-        QCOMPARE(volumeRecords().at(1), QStringLiteral("D:|NTFS|0|0||0"));
+        QCOMPARE(paired("DiskIndex\n4\n"), "C:|NTFS|0|0||4 D:|NTFS|0|0||0 E:|NTFS|0|0||0");
         // A blank row counts as disk 0.
-        QCOMPARE(paired("DiskIndex\n2\n\n1\n5\n"), QVector<int>({2, 0, 1}));
+        QCOMPARE(paired("DiskIndex\n2\n\n1\n5\n"), "C:|NTFS|0|0||2 D:|NTFS|0|0||0 E:|NTFS|0|0||1");
     }
 
     void findsSystemDisk()
@@ -220,9 +277,9 @@ private slots:
                         "Disk #1, Partition #0  524288000  GPT: Basic Data\r\n"
                         "Disk #3, Partition #0  104857600  Installable File System\r\n"
                         "Disk #2, Partition #0  104857600  GPT: System\r\n"),
-                 QStringLiteral("3"));
-        QCOMPARE(number(sample("partition-types-french")), QStringLiteral("Disque n\u00B0 0"));
-        QVERIFY(!QFile::exists(tempFile(QStringLiteral("SMART1.txt"))));
+                 "3");
+        QCOMPARE(number(sample("partition-types-french")), "Disque n\u00B0 0");
+        QVERIFY(!QFile::exists(tempFile("SMART1.txt")));
         const QString none = number("Disk #1, Partition #0  524288000  GPT: Basic Data\r\n");
         QVERIFY(none.isEmpty() && !none.isNull());
         outputs.clear();
@@ -230,9 +287,17 @@ private slots:
     }
 
 private:
+    bool run(runner::After after = runner::After::Remove)
+    {
+        text.clear();
+        const auto read = [this](QTextStream &stream) { text = stream.readAll(); };
+        return runner::runAndRead("tool", "F.txt", read, after);
+    }
+
     /// What a command prints that contains the key. A command without an entry does not start.
     QMap<QString, QByteArray> outputs;
     FakePlatform *fake = nullptr;
+    QString text; ///< of the last run
 };
 
 QTEST_GUILESS_MAIN(WmicInventoryTest)

@@ -6,9 +6,7 @@
 #include <QStringList>
 
 #include <fcntl.h>
-#include <linux/loop.h>
 #include <sched.h>
-#include <sys/ioctl.h>
 #include <sys/mount.h>
 #include <unistd.h>
 
@@ -46,18 +44,18 @@ public:
             if (runs("losetup", options + QStringList{"-f", "--show", image}, &node))
                 m_node = QString::fromLatin1(node);
         }
-        if (!m_node.isEmpty())
-            hold();
+        if (m_node.isEmpty())
+            return;
+        // Detached while it is open, it stays until it is closed.
+        m_held = ::open(QFile::encodeName(m_node).constData(), O_RDONLY | O_CLOEXEC);
+        runs("losetup", {"-d", m_node});
     }
     ~LoopDevice()
     {
         if (m_node.isEmpty())
             return;
         runs("partx", {"-d", m_node});
-        if (m_held >= 0)
-            ::close(m_held);
-        else
-            runs("losetup", {"-d", m_node});
+        ::close(m_held);
     }
     LoopDevice(const LoopDevice &) = delete;
     LoopDevice &operator=(const LoopDevice &) = delete;
@@ -68,16 +66,6 @@ public:
     bool showPartitions() const { return runs("partx", {"-u", m_node}); }
 
 private:
-    void hold()
-    {
-        m_held = ::open(QFile::encodeName(m_node).constData(), O_RDONLY | O_CLOEXEC);
-        loop_info64 status = {};
-        if (m_held < 0 || ioctl(m_held, LOOP_GET_STATUS64, &status) != 0)
-            return;
-        status.lo_flags |= LO_FLAGS_AUTOCLEAR;
-        ioctl(m_held, LOOP_SET_STATUS64, &status);
-    }
-
     QString m_node;
     int m_held = -1;
 };

@@ -1,10 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "monitor/EventLog.h"
 #include "platform/Log.h"
+#include "platform/linux/DesktopNotes.h"
+#include "platform/linux/LinuxDisks.h"
 #include "platform/linux/LinuxTools.h"
 #include "platform/linux/RawDevice.h"
 #include "tests/platform/LoopDevice.h"
 #include "tests/platform/RawDisk.h"
+#include "tests/support/FakePlatform.h"
 #include "tests/support/LinuxPlaces.h"
+
+#include <QSettings>
+#include <QStorageInfo>
+
+#include <csignal>
+#include <sys/resource.h>
+#include <sys/stat.h>
 
 using namespace rawdisk;
 
@@ -46,7 +57,10 @@ private slots:
         QVERIFY(!asks(io::DiskGetDriveGeometry, 23));
         QVERIFY(!asks(io::VolumeGetVolumeDiskExtents, sizeof geometry));
         QVERIFY(!asks(io::SmartGetVersion, sizeof geometry));
+        const auto before = m_pc->DiskActivity(0);
+        QCOMPARE(before.has_value(), loop);
         checkReads(*m_pc, handle);
+        QVERIFY(!loop || m_pc->DiskActivity(0) > before);
         QCOMPARE(contentOf(image), pattern(Sectors));
         checkWrites(*m_pc, handle, Sectors - 1);
         QVERIFY(contentOf(image) == written());
@@ -98,6 +112,17 @@ private slots:
         QLoggingCategory::setFilterRules({});
     }
 
+    void disksAlone()
+    {
+        QVERIFY(writeFile(path("disk.img"), pattern(1)));
+        startOn(path("disk.img"));
+        const auto sees = [this] { return open(*m_pc, "\\\\.\\PHYSICALDRIVE1") != Platform::InvalidHandle; };
+        QVERIFY(m_pc->BeginDiskListing(60000, [] { return true; }) && !sees());
+        qputenv("HALVANE_DISKS", (path("disk.img") + ':' + path("disk.img")).toUtf8());
+        QVERIFY(!m_pc->BeginDiskListing(60000, [] { return false; }) && !sees());
+        QVERIFY(m_pc->BeginDiskListing(60000, [] { return true; }) && sees());
+    }
+
     void smartctlDevice()
     {
         inventory::Machine machine;
@@ -142,6 +167,70 @@ private slots:
         QCOMPARE(said(command), "asked -a -d sat,12 " + path("disk.img").toUtf8() + '\n');
     }
 
+    void endsToolsAtTheirLimits()
+    {
+        QElapsedTimer clock;
+        clock.start();
+        {
+            const linuxtools::Limits limits(300, [] { return true; });
+            const linuxtools::Ended ended = linuxtools::run("sh", {"-c", "echo begun; exec sleep 60"});
+            QVERIFY(limits.wereReached() && !ended.well);
+            QCOMPARE(ended.output, QByteArray("begun\n"));
+        }
+        {
+            const linuxtools::Limits limits(60000, [] { return false; });
+            QVERIFY(!linuxtools::run("sleep", {"60"}).well && limits.wereReached());
+        }
+        QVERIFY(clock.elapsed() < 30000);
+        const linuxtools::Limits limits(60000, [] { return true; });
+        const linuxtools::Ended ended = linuxtools::run("head", {"-c", "1000000", "/dev/zero"});
+        QVERIFY(ended.well && !limits.wereReached());
+        QCOMPARE(ended.output.size(), 1000000);
+        QVERIFY(!linuxtools::run("no-such-tool", {}).well);
+    }
+
+    /// A limit of the process stands for a disk that is full in the middle of a line.
+    void fullDisk()
+    {
+        FakePlatform::install();
+        const QString path = m_folder->filePath("log.txt");
+        std::signal(SIGXFSZ, SIG_IGN);
+        rlimit old{};
+        QCOMPARE(getrlimit(RLIMIT_FSIZE, &old), 0);
+        const rlimit low{8, old.rlim_max};
+        QCOMPARE(setrlimit(RLIMIT_FSIZE, &low), 0);
+        const EventLog log(path, 1000);
+        const auto first = log.append("first");
+        const auto second = log.append("second");
+        QCOMPARE(setrlimit(RLIMIT_FSIZE, &old), 0);
+        QCOMPARE(first, EventLog::Outcome::Written);
+        QCOMPARE(second, EventLog::Outcome::Unwritable);
+        QCOMPARE(contentOf(path), QByteArray("first\n"));
+    }
+
+    void systemPlaces()
+    {
+        const auto bearsSystem = [](const QByteArray &places) {
+            return linuxdisks::bearsSystem(linuxdisks::mountPoints(
+                R"({"blockdevices":[{"path":"/dev/x","mountpoints":[null],"children":[{"path":"/dev/x1",)"
+                R"("mountpoints":[null],"children":[{"path":"/dev/mapper/y","mountpoints":[)" +
+                places + "]}]}]}]}"));
+        };
+        for (const char *places : {R"("/")", R"(null,"[SWAP]")", R"("/boot/efi")", R"("/media/a","/usr")"})
+            QVERIFY2(bearsSystem(places), places);
+        for (const char *places : {R"("/media/stick")", R"("/variety")", "null"})
+            QVERIFY2(!bearsSystem(places), places);
+    }
+
+    void machineIsProtected()
+    {
+        const QString root = QString::fromLocal8Bit(QStorageInfo::root().device());
+        if (!root.startsWith(QLatin1String("/dev/")) || !QFile::exists(root))
+            QSKIP("the root of this machine is on no disk of its own");
+        QVERIFY(linuxdisks::isProtected(root));
+        QVERIFY(linuxdisks::isProtected("/dev/no-such-disk"));
+    }
+
     void endsACompanion()
     {
         const QString name = QString("hvprobe%1").arg(getpid());
@@ -156,6 +245,98 @@ private slots:
         said(QString("S\\Taskkill.exe /IM %1.exe /F").arg(name));
         QVERIFY(companion.waitForFinished(5000));
         QCOMPARE(said(listing), QByteArray());
+    }
+
+    /// Made by the shell, and whether it is taken for the program's own.
+    void privateFolder()
+    {
+        const auto row = [this](const char *made, bool taken) {
+            init();
+            QCOMPARE(std::system(("cd " + m_folder->path().toUtf8() + " && " + made).constData()), 0);
+            QVERIFY2(folders::ensurePrivate(path("private")).isEmpty() == taken, made);
+            struct stat status = {};
+            QCOMPARE(stat(QFile::encodeName(path("private")).constData(), &status), 0);
+            QVERIFY2(!taken || (status.st_mode & 07777) == 0700, made);
+        };
+        row("true", true);
+        row("mkdir -m 0700 private", true);
+        row("mkdir -m 0755 private", false);
+        row("mkdir -m 0700 other && ln -s other private", false);
+        row("touch private", false);
+        if (geteuid() == 0) // who alone can give a folder away
+            row("mkdir -m 0700 private && chown 12345 private", false);
+    }
+
+    void tempFolder()
+    {
+        startOn(path("none.img"));
+        QCOMPARE(m_pc->GetTempPathW(), m_home.path() + "/velmora-halvane/");
+        // If that folder cannot be used, a fresh one is made.
+        QVERIFY(QFile::link(m_home.path(), path("spoilt")));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("temp folder cannot be used: .*/spoilt: "));
+        const QString fresh = folders::chooseTemp({path("spoilt")});
+        QVERIFY(fresh.startsWith("/tmp/velmora-halvane-") && QDir().rmdir(fresh));
+        // A path on C: leads below the root folder, not into the temp folder.
+        QCOMPARE(m_pc->NativePath("C:\\updatetmps\\a"), "/updatetmps/a");
+    }
+
+    void historyFolder()
+    {
+        startOn(path("none.img"));
+        QCOMPARE(m_pc->HistoryFolder(m_folder->path()), path("history"));
+        const QString own = m_home.filePath("data/velmora-halvane/history");
+        QCOMPARE(m_pc->HistoryFolder("/usr/bin"), own);
+        QVERIFY(QFileInfo(own).isDir());
+        QCOMPARE(m_pc->HistoryFolder(path("missing")), own);
+    }
+
+    void logonEntry()
+    {
+        const LogonTask task{"VelmoraSMART", "anna", path("My 50% $App\\VelmoraSMART.exe"), "Schedular"};
+        // Root's companion is started by a session of this user, who has to be asked.
+        const bool isRoot = geteuid() == 0;
+        const QByteArray exec =
+            isRoot ? "start\" \"--companion\" \"65534\"\n" : "VelmoraSMART\" \"Schedular\"\n";
+        qunsetenv("SUDO_UID");
+        qputenv("PKEXEC_UID", "65534");
+        const QString program = path("My 50% $App/VelmoraSMART");
+        QVERIFY(QDir().mkpath(path("My 50% $App")) && writeFile(program, {}));
+        QVERIFY(QFile::setPermissions(program, QFile::ReadOwner | QFile::ExeOwner));
+
+        startOn(path("none.img"));
+        const QString entry = m_home.filePath("config/autostart/VelmoraSMART.desktop");
+        if (isRoot) {
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression("nothing is started .*/start is missing"));
+            m_pc->CreateLogonTask(task);
+            QVERIFY(!QFile::exists(entry));
+            QVERIFY(QFile::copy(program, path("My 50% $App/start")));
+        }
+        m_pc->CreateLogonTask(task);
+        QCOMPARE(int(QFile::permissions(entry) & QFile::ReadOther), int(QFile::ReadOther));
+        const QByteArray text = contentOf(entry);
+        QVERIFY2(text.startsWith("[Desktop Entry]\nType=Application\nName=VelmoraSMART\nExec=\"" +
+                                 m_folder->path().toUtf8() + "/My 50%% \\\\$App/" + exec),
+                 text.constData());
+        m_pc->DeleteLogonTask(task.name);
+        QVERIFY(!QFile::exists(entry));
+    }
+
+    void settings()
+    {
+        startOn(path("none.img"));
+        const QString key = "HKEY_LOCAL_MACHINE\\Software\\Velmora\\Probe";
+        m_pc->OpenSettings(key)->setValue("TempValue", "7");
+        const auto store = m_pc->OpenSettings(key);
+        QCOMPARE(store->value("TempValue"), QVariant("7"));
+        QVERIFY(store->fileName().startsWith(m_home.path()));
+        QVERIFY(!m_pc->OpenSettings({})->contains("TempValue"));
+    }
+
+    /// The desktop would take the second text for markup, and both for options.
+    void notice()
+    {
+        QCOMPARE(desktopnotes::notifyArguments("-t", "<a href='x'>&\\n").mid(2),
+                 (QStringList{"--", "-t", "&lt;a href='x'>&amp;\\\\n"}));
     }
 
 private:

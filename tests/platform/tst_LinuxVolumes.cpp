@@ -3,8 +3,10 @@
 
 #include "platform/NativePlatform.h"
 #include "state/GlobalApp.h"
+#include "tests/platform/DescribedFolder.h"
 #include "tests/platform/LoopDevice.h"
 #include "tests/platform/RawDisk.h"
+#include "tests/support/LinuxPlaces.h"
 
 #include <grp.h>
 #include <sys/inotify.h>
@@ -17,38 +19,12 @@ namespace
 constexpr qint64 Megabyte = 1024 * 1024;
 constexpr int Settled = 1500; ///< milliseconds after which a notice would have come
 const char *const ProbeVariable = "HALVANE_TEST_PROBE";
+bool ownMounts = false; ///< this process has a mount table of its own
 
 QByteArray toldBy(const QString &program, const QStringList &arguments)
 {
     QByteArray output;
     return runs(program, arguments, &output) ? output.simplified() : QByteArray("failed");
-}
-
-QString describe(const DiskNode &node)
-{
-    if (node.pDetails)
-        return QString("disk %1 %2 %3\n")
-            .arg(node.nId)
-            .arg(node.pDetails->nTotalSectors)
-            .arg(node.pDetails->szDrives.trimmed());
-    const LogicalDetails &volume = *node.pLogical;
-    return QString("volume %1 %2 %3 %4 on %5 from %6\n")
-        .arg(node.nKind)
-        .arg(volume.szRoot.left(2), volume.szLabel, volume.szFileSystem)
-        .arg(volume.nParentId)
-        .arg(volume.nStartSector);
-}
-
-/// The list of disks and volumes, a line each.
-QByteArray listOfDisks()
-{
-    CCreateDiskDriveList list;
-    list.BuildDriveList();
-    QString lines;
-    for (const DiskNode &node : g_App.m_diskList)
-        lines += describe(node);
-    g_App.m_diskList.clear();
-    return lines.toUtf8();
 }
 
 /// Prints what a process of another user sees. Runs without an application, so without an event loop.
@@ -58,14 +34,22 @@ int probe(const QByteArray &user)
     if (id != 0 && (setgroups(0, nullptr) != 0 || setresgid(id, id, id) != 0 || setresuid(id, id, id) != 0))
         return 3;
     Platform::install(makeNativePlatform());
-    if (!Platform::current().deviceNotifier())
+    Platform &pc = Platform::current();
+    if (!pc.deviceNotifier())
         return 4;
-    return std::puts(listOfDisks().constData()) < 0 ? 5 : 0;
+    QString volumes = open(pc, First, io::GenericRead) == Platform::InvalidHandle ? "no disk" : "a disk";
+    for (const QString &root : pc.GetLogicalDriveStringsW()) {
+        QString fileSystem;
+        pc.GetVolumeInformationW(root, nullptr, &fileSystem);
+        volumes += ", " + root + fileSystem;
+    }
+    return std::puts(qPrintable(volumes)) < 0 ? 5 : 0;
 }
 
 } // namespace
 
-/// Real block devices, made by the test: how the platform shows them, and its notices when they change.
+/// Real block devices, made by the test: how the platform shows them, its notices when they change, and how
+/// it erases and partitions them.
 class tst_LinuxVolumes : public QObject
 {
     Q_OBJECT
@@ -73,13 +57,9 @@ class tst_LinuxVolumes : public QObject
 private slots:
     void initTestCase()
     {
-        if (geteuid() != 0)
-            QSKIP("only root can make loop devices");
         init();
-        if (LoopDevice(makeImage("probe.img", 1)).node().isEmpty())
-            QSKIP("no loop devices here");
-        if (!qEnvironmentVariableIsSet("HALVANE_OWN_MOUNTS"))
-            QSKIP("no mount table of one's own here");
+        if (!ownMounts || LoopDevice(makeImage("probe.img", 1)).node().isEmpty())
+            QSKIP("no mounts or loop devices here");
     }
 
     void init()
@@ -96,6 +76,7 @@ private slots:
         Platform::install(nullptr);
         m_parted.reset();
         m_whole.reset();
+        m_loops.clear();
     }
 
     void disksAndVolumes()
@@ -110,13 +91,9 @@ private slots:
 
         Platform &pc = startOn({m_whole->node(), m_parted->node()});
         QCOMPARE(pc.GetLogicalDriveStringsW(), QStringList({"D:\\", "E:\\", "F:\\"}));
-        compareVolume("D:\\", second, path("a"));
-        compareVolume("E:\\", first, path("b"));
-        compareVolume("F:\\", m_whole->node(), path("c"));
-        const QList<QByteArray> lines = listOfDisks().split('\n');
-        QCOMPARE(lines.at(0), QByteArray("disk 128 16384 Drive: F:"));
-        QCOMPARE(lines.at(1), QByteArray("disk 129 131072 Drive: D: E:"));
-        QVERIFY(lines.contains("volume 1 D: Second ext2 on 129 from 43008"));
+        compareVolume("D:\\", second, path("a"), 1);
+        compareVolume("E:\\", first, path("b"), 1);
+        compareVolume("F:\\", m_whole->node(), path("c"), 0);
     }
 
     void withoutRights()
@@ -131,11 +108,8 @@ private slots:
             const QString command = QString("%1=%2 \"$0\" 2>&1").arg(ProbeVariable, user);
             return toldBy("sh", {"-c", command, QCoreApplication::applicationFilePath()});
         };
-        const QByteArray seenByRoot = seenBy("0");
-        QVERIFY2(seenByRoot.startsWith("disk 128 "), seenByRoot.constData());
-        const QRegularExpression oneVolume("^volume 1 D: .* ext2 on 0 from 0$");
-        const QString seen = seenBy("65534");
-        QVERIFY2(oneVolume.match(seen).hasMatch() && seen.count("volume") == 1, qPrintable(seen));
+        QCOMPARE(seenBy("0"), QByteArray("a disk, D:\\ext2"));
+        QCOMPARE(seenBy("65534"), QByteArray("no disk, D:\\ext2"));
     }
 
     void mountingTells()
@@ -191,7 +165,7 @@ private slots:
         QVERIFY(inotify_add_watch(watch, QFile::encodeName(m_parted->node()).constData(), IN_CLOSE_WRITE) >=
                 0);
         char events[1024];
-        QVERIFY(!listOfDisks().isEmpty());
+        CCreateDiskDriveList().BuildDriveList();
         const auto handle = open(pc, First);
         QByteArray sector(512, '\0');
         QVERIFY(pc.ReadFile(handle, sector.data(), 512, nullptr));
@@ -214,6 +188,74 @@ private slots:
         QVERIFY(runs("umount", {path("b")}) && unlisted.unmount());
         QTest::qWait(Settled);
         QCOMPARE(m_heard, "+");
+    }
+
+    void partitionsOneDiskOnly()
+    {
+        makeLoops();
+        const QString node = m_loops[1]->node();
+        QVERIFY(runs("sfdisk", {"-q", node}, nullptr, "label: gpt\nsize=2MiB\nsize=2MiB\n"));
+        QVERIFY(m_loops[1]->showPartitions());
+        const QByteArray before = contentOf(path("1.img"));
+
+        QVERIFY(run("SELECT DISK 1\nonline disk\nEXIT").contains("This disk is already online."));
+        QVERIFY(run("SELECT DISK 1\nconvert MBR\nEXIT").contains("The disk is not empty."));
+        QVERIFY(run("SELECT DISK 3\nclean\nEXIT").contains("There is no disk selected."));
+        QVERIFY(run("SELECT DISK 1\nclean\n").contains("Reached the end of the file."));
+        QVERIFY(contentOf(path("1.img")) == before);
+
+        const QByteArray cleaned = run("SELECT DISK 1\nclean\nEXIT");
+        QVERIFY2(cleaned.contains("DiskPart succeeded in cleaning the disk."), cleaned.constData());
+        QByteArray signatures;
+        QVERIFY(runs("wipefs", {node}, &signatures));
+        QCOMPARE(signatures, QByteArray());
+        QVERIFY(!QFile::exists(m_loops[1]->partition(1)));
+
+        const QByteArray made = run("SELECT DISK 1\nconvert MBR\ncreate partition primary\nEXIT");
+        QVERIFY2(made.contains("succeeded in creating the specified partition."), made.constData());
+        QByteArray table;
+        QVERIFY(runs("sfdisk", {"--dump", node}, &table));
+        QCOMPARE(table.count("start="), 1);
+        QVERIFY2(table.contains("start=        2048, size=       14336, type=7"), table.constData());
+        QVERIFY(run("SELECT DISK 1\nRESCAN\nEXIT").contains("DiskPart has finished scanning"));
+        QVERIFY(QFile::exists(m_loops[1]->partition(1)));
+        QVERIFY(contentOf(path("0.img")) == QByteArray(ImageBytes, 'o'));
+        QVERIFY(contentOf(path("2.img")) == QByteArray(ImageBytes, 'o'));
+    }
+
+    void cleansADiskInUse()
+    {
+        makeLoops();
+        Mount mount(m_loops[1]->node(), path("a"));
+        QVERIFY(mount.isMounted());
+        QFile busy(path("a/busy"));
+        QVERIFY(busy.open(QIODevice::WriteOnly));
+        QVERIFY(run("SELECT DISK 1\nclean\nEXIT").contains("The device is in use."));
+        busy.close();
+        const QByteArray cleaned = run("SELECT DISK 1\nclean\nEXIT");
+        QVERIFY2(cleaned.contains("DiskPart succeeded in cleaning the disk."), cleaned.constData());
+        QVERIFY(!mount.unmount()); // it is unmounted already
+    }
+
+    void sparesTheRunningSystem()
+    {
+        // In this process's own mount table only.
+        makeLoops();
+        Mount mount(m_loops[1]->node(), "/boot");
+        QVERIFY(mount.isMounted());
+        for (const char *script : {"SELECT DISK 1\nclean\nEXIT", "SELECT DISK 1\nconvert MBR\nEXIT",
+                                   "SELECT DISK 1\ncreate partition primary\nEXIT"})
+            QVERIFY(run(script).contains("Clean is not allowed on the disk containing the current boot,"));
+        const auto handle = rawdisk::open(Platform::current(), "\\\\.\\PHYSICALDRIVE1");
+        QVERIFY(handle != Platform::InvalidHandle);
+        QByteArray sector(512, 'x');
+        QVERIFY(!Platform::current().WriteFile(handle, sector.constData(), 512, nullptr));
+        QVERIFY(Platform::current().ReadFile(handle, sector.data(), 512, nullptr));
+        Platform::current().CloseHandle(handle);
+        QVERIFY(mount.unmount());
+        QByteArray signatures;
+        QVERIFY(runs("wipefs", {m_loops[1]->node()}, &signatures));
+        QVERIFY(signatures.contains("ext2"));
     }
 
     void readOnlyDisk()
@@ -249,11 +291,34 @@ private:
             QVERIFY(runs("mke2fs", {"-q", "-t", kind, "-L", label, node}));
     }
 
+    /// Starts on three disks, the second of which has a file system.
+    void makeLoops()
+    {
+        QStringList nodes;
+        for (const char *name : {"0.img", "1.img", "2.img"}) {
+            if (!writeFile(path(name), QByteArray(ImageBytes, 'o')))
+                qFatal("an image cannot be made");
+            m_loops.push_back(std::make_unique<LoopDevice>(path(name)));
+            nodes << m_loops.back()->node();
+        }
+        // Else the scripts would find other disks.
+        if (nodes.contains(QString()) || !runs("mke2fs", {"-q", "-F", nodes.at(1)}))
+            qFatal("no loop devices here");
+        startOn(nodes);
+    }
+
+    QByteArray run(const QByteArray &script) const
+    {
+        if (!writeFile(path("script.txt"), script))
+            qFatal("a script cannot be written");
+        return outputOf(Platform::current(), "C:\\Windows\\system32\\diskpart.exe /s " + path("script.txt"));
+    }
+
     /// Starts on these disks, and keeps the notices about volumes.
     Platform &startOn(const QStringList &nodes)
     {
         qputenv("HALVANE_DISKS", nodes.join(':').toUtf8());
-        Platform::install(makeNativePlatform());
+        Platform::install(linuxPcIn(m_home.path()));
         connect(Platform::current().deviceNotifier(), &DeviceNotifier::deviceChange, this,
                 [this](quint32 event, quint32 type) {
                     if (type == DeviceChange::Volume)
@@ -263,7 +328,7 @@ private:
     }
 
     /// Compares with what the system's own tools say.
-    void compareVolume(const QString &root, const QString &node, const QString &folder)
+    void compareVolume(const QString &root, const QString &node, const QString &folder, quint32 disk)
     {
         Platform &pc = Platform::current();
         QString label;
@@ -285,12 +350,16 @@ private:
                                    sizeof extents, nullptr));
         pc.CloseHandle(handle);
         QCOMPARE(extents.numberOfDiskExtents, 1u);
+        QCOMPARE(extents.extents[0].diskNumber, disk);
         QCOMPARE(extents.extents[0].startingOffset,
                  toldBy("lsblk", {"-dbno", "START", node}).toLongLong() * 512);
         QCOMPARE(extents.extents[0].extentLength, toldBy("lsblk", {"-dbno", "SIZE", node}).toLongLong());
     }
 
+    static constexpr int ImageBytes = 8 * Megabyte;
+    QTemporaryDir m_home;
     QScopedPointer<QTemporaryDir> m_folder;
+    std::vector<std::unique_ptr<LoopDevice>> m_loops;
     std::unique_ptr<LoopDevice> m_parted; ///< two partitions with file systems, one without
     std::unique_ptr<LoopDevice> m_whole;  ///< one file system on the whole disk
     QString m_heard;                      ///< + arrival, - removal
@@ -300,8 +369,7 @@ int main(int argc, char **argv)
 {
     if (qEnvironmentVariableIsSet(ProbeVariable))
         return probe(qgetenv(ProbeVariable));
-    if (geteuid() == 0 && keepMountsToOurselves())
-        qputenv("HALVANE_OWN_MOUNTS", "1");
+    ownMounts = keepMountsToOurselves();
     QCoreApplication application(argc, argv);
     tst_LinuxVolumes test;
     return QTest::qExec(&test, argc, argv);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "monitor/EventLog.h"
 #include "platform/NativePlatform.h"
 #include "platform/OwnFiles.h"
 #include "platform/windows/Native.h"
@@ -99,6 +100,17 @@ private slots:
         QVERIFY(image.seek(Far * SectorSize));
         QCOMPARE(image.readAll(), QByteArray(SectorSize, 'w'));
         QVERIFY(image.resize(0));
+    }
+
+    void logThatAnotherProgramHolds()
+    {
+        const EventLog log(path("log.txt"), 1000);
+        const HANDLE held = ::CreateFileW(wide(QDir::toNativeSeparators(path("log.txt"))), GENERIC_READ, 0,
+                                          nullptr, CREATE_NEW, 0, nullptr);
+        QVERIFY(held != INVALID_HANDLE_VALUE);
+        QCOMPARE(log.append("x"), EventLog::Outcome::Busy);
+        ::CloseHandle(held);
+        QCOMPARE(log.append("x"), EventLog::Outcome::Written);
     }
 
     void handlesThatAreNone()

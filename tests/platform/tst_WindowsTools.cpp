@@ -251,10 +251,13 @@ private slots:
         const auto restore = qScopeGuard([&] { QFile::rename(hidden, tool); });
 
         QStringList probed;
+        auto limits = std::make_unique<runner::Limits>(60000, [] { return true; });
         LoadDiskDrives([&probed](int disk, const QString &bus) {
             probed << QString::number(disk) + bus;
             return ProbedIdentity();
         });
+        QVERIFY(!limits->wereReached());
+        limits.reset();
         const WmicDiskRecord *disk = g_pWmicDiskListHead;
         QVERIFY(disk && disk->pNext); // the last line of the table is blank
         QCOMPARE(disk->szStatus.text(), "OK");

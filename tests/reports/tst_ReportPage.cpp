@@ -3,16 +3,89 @@
 
 #include "reports/SmartReport.h"
 #include "smart/Temperature.h"
-#include "tests/reports/PageRecorder.h"
 #include "tests/smart/SampleReports.h"
 #include "tests/support/ArrowRows.h"
 #include "tests/support/FakePlatform.h"
 
+#include <QPaintEngine>
+#include <QPainter>
+#include <QPdfWriter>
 #include <QProcess>
 #include <QStandardPaths>
 
 namespace
 {
+
+/// A report on pages that record what is painted on them.
+class PageRecorder : public QPdfWriter, private QPaintEngine
+{
+public:
+    explicit PageRecorder(SmartReport report, const QString &folder = ":/images/Resources/96-DPI/")
+        : QPdfWriter(QString()), QPaintEngine(AllFeatures)
+    {
+        setPageSize(QPageSize(QPageSize::A4));
+        setPageMargins(QMarginsF(20, 10, 20, 10));
+        report.logo = folder + "img_Velmora.png";
+        report.watermark = folder + "img_WaterMark.png";
+        report.icon = ":/images/Halvane48.png";
+        QPainter painter(this);
+        paintReport(painter, report, [this] { pages.append(QMap<int, QString>()); });
+    }
+
+    /// The lines by their tops: "x:text", tab by tab. Behind a text stands what is not black, of 8 points and
+    /// plain.
+    QVector<QMap<int, QString>> pages{1};
+    /// "title" with the middle of a text of 14 points, to the next ten; "rule" from and to; "picture" with
+    /// its place and size.
+    QStringList marks;
+
+    QString value(int top) const { return pages[0][top].section('\t', 1); }
+    QPaintEngine *paintEngine() const override { return const_cast<PageRecorder *>(this); }
+
+private:
+    bool begin(QPaintDevice *) override { return true; }
+    bool end() override { return true; }
+    void updateState(const QPaintEngineState &) override {}
+    Type type() const override { return User; }
+
+    void drawTextItem(const QPointF &p, const QTextItem &item) override
+    {
+        const QFont face = painter()->font();
+        const QFontMetricsF metrics(face, this);
+        if (face.pointSize() == 14) {
+            const int middle = qRound((p.x() + metrics.horizontalAdvance(item.text()) / 2) / 10) * 10;
+            marks << QStringLiteral("title %1 %2").arg(middle).arg(item.text());
+            return;
+        }
+        QString &line = pages.last()[qRound(p.y() - metrics.ascent())];
+        line += (line.isEmpty() ? "" : "\t") + QString::number(qRound(p.x())) + ':' + item.text();
+        const QColor ink = painter()->pen().color();
+        if (ink != Qt::black)
+            line += ink == Qt::red ? " red" : ink == Qt::darkGreen ? " green" : " another ink";
+        if (face.pointSize() != 8)
+            line += QStringLiteral(" %1 points").arg(face.pointSize());
+        if (face.bold())
+            line += " bold";
+    }
+    void drawLines(const QLineF *lines, int count) override
+    {
+        const QPen pen(Qt::black, 6.0, Qt::SolidLine, Qt::RoundCap, Qt::BevelJoin);
+        for (const QLineF *line = lines; line != lines + count; ++line)
+            mark(painter()->pen() == pen ? "rule" : "another line", line->p1(), line->p2());
+    }
+    void drawImage(const QRectF &target, const QImage &, const QRectF &, Qt::ImageConversionFlags) override
+    {
+        const QRect place = target.toRect();
+        mark("picture", place.topLeft(), {double(place.width()), double(place.height())});
+    }
+    void drawPixmap(const QRectF &, const QPixmap &, const QRectF &) override {}
+    using QPaintEngine::drawLines;
+
+    void mark(const char *kind, const QPointF &a, const QPointF &b)
+    {
+        marks << QStringLiteral("%1 %2,%3 %4,%5").arg(kind).arg(a.x()).arg(a.y()).arg(b.x()).arg(b.y());
+    }
+};
 
 /// A report with this many rows; each text names the field that it is from.
 SmartReport made(bool nvme, int rows = 1)
@@ -20,8 +93,8 @@ SmartReport made(bool nvme, int rows = 1)
     SmartReport report;
     report.nvme = nvme;
     report.performance = report.health = 100;
-    report.performanceText = QStringLiteral("100%");
-    report.smartStatus = QStringLiteral("Passed");
+    report.performanceText = "100%";
+    report.smartStatus = "Passed";
     for (int i = 0; i < rows; ++i)
         report.rows.push_back({{QString::number(i)}, {QStringLiteral("row %1").arg(i)}, {"cell"}});
     return report;
@@ -38,7 +111,7 @@ private slots:
     void initTestCase()
     {
         Q_INIT_RESOURCE(images);
-        QFont::insertSubstitution(QStringLiteral("Segoe UI"), QStringLiteral("Open Sans"));
+        QFont::insertSubstitution("Segoe UI", "Open Sans");
     }
 
     void init()
@@ -57,10 +130,9 @@ private slots:
         for (const char *sample : {"ata-seagate-st31500341as", "nvme-win-samsung-970evo-1tb"}) {
             take(sample);
             g_App.m_bKorvaneBrand = g_App.m_bNVMe;
-            g_strLastTestType = QStringLiteral("Short Self-test");
-            g_strLastTestResult = QStringLiteral("Aborted by User");
-            PageRecorder page;
-            paint(page, gatherSmartReport());
+            g_strLastTestType = "Short Self-test";
+            g_strLastTestResult = "Aborted by User";
+            PageRecorder page(gatherSmartReport());
             page.marks.removeDuplicates(); // each row paints the frame again
             QStringList lines{page.marks};
             for (auto line = page.pages[0].cbegin(); line != page.pages[0].cend(); ++line)
@@ -68,45 +140,43 @@ private slots:
             const QString file = QStringLiteral(HALVANE_TEST_DATA "/reports/%1.tsv").arg(sample);
             // A tool's text is of the locale; this is how it reads what stands between groups of digits.
             const QString separator = QString::fromLocal8Bit("\xEF\xBF\xBD");
-            const QString expected = QString::fromUtf8(contentOf(file)).replace(QChar(0xFFFD), separator);
-            QCOMPARE(lines, QStringList(expected.split('\n', Qt::SkipEmptyParts).mid(1)));
+            QCOMPARE(lines, linesOf(file).replaceInStrings(QString(QChar(0xFFFD)), separator));
         }
     }
 
-    /// At exactly 40 nothing is drawn.
+    /// Performance and health of each layout. At exactly 40 nothing is drawn.
     void ratings()
     {
-        for (const bool nvme : {false, true}) {
-            compareRows({"41 -> rated green|Good green", "40 -> |",
-                         nvme ? "39 -> rated red|Bad red, to the left" : "39 -> rated red|Bad red"},
-                        [nvme](const QString &percent) {
-                            SmartReport report = made(nvme);
-                            report.performance = report.health = percent.toInt();
-                            report.performanceText = QStringLiteral("rated");
-                            PageRecorder page;
-                            paint(page, report);
-                            const auto value = [&page](int y) { return page.pages[0][y].section('\t', 1); };
-                            const QString health = value(nvme ? 3800 : 4400);
-                            return value(nvme ? 3600 : 4200).section(':', 1) + '|' + health.section(':', 1) +
-                                   (health.startsWith("4000:") ? ", to the left" : "");
-                        });
-        }
+        compareRows({"ATA 41 -> 3100:rated green|3100:Good green", "ATA 40 -> |",
+                     "ATA 39 -> 3100:rated red|3100:Bad red", "NVMe 41 -> 4500:rated green|4500:Good green",
+                     "NVMe 40 -> |", "NVMe 39 -> 4500:rated red|4000:Bad red"},
+                    [](const QString &row) {
+                        SmartReport report = made(row.startsWith('N'));
+                        report.performance = report.health = row.section(' ', 1).toInt();
+                        report.performanceText = "rated";
+                        const PageRecorder page(report);
+                        return page.value(report.nvme ? 3600 : 4200) + '|' +
+                               page.value(report.nvme ? 3800 : 4400);
+                    });
     }
 
-    void whatIsNotKnown()
+    /// What is not known or failed. Taller letters of another font do not lower their line, and no text
+    /// covers the one beside it.
+    void fields()
     {
         SmartReport report = made(false);
-        report.ata.ShortPollTime.assign(QStringLiteral("2 minutes"));
+        report.ata.ShortPollTime.assign("2 minutes");
         report.healthKnown = false;
-        PageRecorder page;
-        paint(page, report);
-        compareRows({"4400 -> 0:Health:\t3100:Not Available",
-                     "5200 -> 0:Short Self-test:\t3100:Supported green",
-                     "5400 -> 0:Estimated Completion Time:\t3100:2 minutes",
-                     "5600 -> 0:Extended Self-test:\t3100:Not Supported red",
-                     "5800 -> 0:Estimated Completion Time:\t3100:NA",
-                     "6000 -> 0:Last Run Self-test:\t3100:Not Available"},
-                    [&page](const QString &top) { return page.pages[0][top.toInt()]; });
+        report.smartFailed = true;
+        report.ata.DeviceModel.assign(QString(200, 'W'));
+        report.ata.SerialNumber.assign("\u78C1\u76D8 \u0921\u093F\u0938\u094D\u0915");
+        const PageRecorder page(report);
+        compareRows({"3800 -> 3100:Passed red", "4400 -> 3100:Not Available", "5200 -> 3100:Supported green",
+                     "5400 -> 3100:2 minutes", "5600 -> 3100:Not Supported red", "5800 -> 3100:NA",
+                     "6000 -> 3100:Not Available"},
+                    [&page](const QString &top) { return page.value(top.toInt()); });
+        QVERIFY(page.value(2000).endsWith(QChar(0x2026)));
+        QVERIFY(page.value(2200).startsWith("3100:\u78C1\u76D8"));
     }
 
     void ataRows()
@@ -125,132 +195,101 @@ private slots:
                         record.Id = row.section(' ', 0, 0).toUInt();
                         record.Worst = 77;
                         record.Threshold = 6;
-                        PageRecorder page;
-                        paint(page, gatherSmartReport());
                         QStringList cells;
-                        for (const QString &cell : page.pages[0][7250].split('\t'))
-                            cells << cell.section(':', 1);
+                        const SmartReport report = gatherSmartReport();
+                        for (const SmartReport::Cell &cell : report.rows.front())
+                            cells << cell.text + (cell.red ? " red" : "");
                         return cells.join('|');
                     });
     }
 
     void statusOfTheDrive()
     {
-        g_smartTable.rows.append();
         const auto status = [](const char *support) {
             g_smartTable.drive.SmartSupport.assign(support);
-            PageRecorder page;
-            paint(page, gatherSmartReport());
-            return page.pages[0][3800].section(':', -1);
+            const SmartReport report = gatherSmartReport();
+            return report.smartStatus + (report.smartFailed ? " red" : "");
         };
-        QCOMPARE(status("Disabled"), QStringLiteral("Disabled green"));
-        QCOMPARE(status("Enabled, in part"), QStringLiteral("Passed green"));
+        QCOMPARE(status("Disabled"), "Disabled");
+        QCOMPARE(status("Enabled, in part"), "Passed");
         g_driveVerdict = DriveVerdict::Failed;
-        QCOMPARE(status("Enabled"), QStringLiteral("Failed red"));
+        QCOMPARE(status("Enabled"), "Failed red");
     }
 
     void rowsGoOnToAnotherPage()
     {
         for (const bool nvme : {false, true}) {
-            const int fitting = nvme ? 33 : 23;
-            PageRecorder page;
-            paint(page, made(nvme, 80));
-            QCOMPARE(page.pages.size(), 3);
-            const auto rowAt = [&page](int number, int y) {
-                return page.pages[number][y].section('\t', 1, 1).section(':', 1);
-            };
-            QCOMPARE(rowAt(0, nvme ? 12850 : 12750), QStringLiteral("row %1").arg(fitting - 1));
-            QCOMPARE(rowAt(1, 2050), QStringLiteral("row %1").arg(fitting));
-            QCOMPARE(rowAt(2, 2050), QStringLiteral("row %1").arg(fitting + 44));
-            // Head, foot and the header of the table are on each page, the fields on the first one.
-            QCOMPARE(page.pages[2].size(), 80 - fitting - 44 + 4);
-            QCOMPARE(page.pages[2][1500], page.pages[0][nvme ? 4300 : 6700]);
-            QCOMPARE(page.pages[2][1800], page.pages[0][nvme ? 4600 : 7000]);
-            QCOMPARE(page.pages[2][13560], QString("1700:Velmora Halvane is a product of Velmora."));
+            const PageRecorder page(made(nvme, 80));
             const auto count = [&page](const char *kind) { return page.marks.filter(kind).size(); };
-            QCOMPARE(count("title"), 6);
-            QCOMPARE(count("rule"), 160);
-            QCOMPARE(count("picture"), 80 + 2 * 3);
+            const QMap<int, QString> last = page.pages.value(2);
+            QCOMPARE(
+                joined(page.pages.size(), page.pages[0][nvme ? 12850 : 12750].section('\t', 1, 1),
+                       page.pages[1][2050].section('\t', 1, 1), last[2050].section('\t', 1, 1)),
+                QString(nvme ? "3|500:row 32|500:row 33|500:row 77" : "3|500:row 22|500:row 23|500:row 67"));
+            // Head, foot and the header of the table are on each page, the fields on the first one.
+            QCOMPARE(joined(last.size(), count("title"), count("rule"), count("picture")),
+                     QString(nvme ? "7|6|160|86" : "17|6|160|86"));
+            QCOMPARE(joined(last[1500], last[1800], last[13560]),
+                     joined(page.pages[0][nvme ? 4300 : 6700], page.pages[0][nvme ? 4600 : 7000],
+                            "1700:Velmora Halvane is a product of Velmora."));
         }
-    }
-
-    /// Taller letters of another font do not lower their line, and no text covers the one beside it.
-    void linesOfOneHeight()
-    {
-        SmartReport report = made(false);
-        report.ata.DeviceModel.assign(QString(200, QLatin1Char('W')));
-        report.ata.SerialNumber.assign(QStringLiteral("\u78C1\u76D8 \u0921\u093F\u0938\u094D\u0915"));
-        PageRecorder page;
-        paint(page, report);
-        QVERIFY(page.pages[0][2000].endsWith(QChar(0x2026)));
-        QVERIFY(page.pages[0][2200].startsWith(QStringLiteral("0:Serial Number:\t3100:\u78C1\u76D8")));
     }
 
     void emptyList()
     {
         SmartReport report = gatherSmartReport();
-        QCOMPARE(suggestedReportName(report), QStringLiteral("Velmora Smart Report "));
-        PageRecorder page;
-        paint(page, report);
+        QCOMPARE(suggestedReportName(report), "Velmora Smart Report ");
+        const PageRecorder page(report);
         QVERIFY(page.pages[0].isEmpty());
         QCOMPARE(page.marks, QStringList("picture 3125,4249 3500,4500"));
         // Pictures that are missing leave their places empty.
-        PageRecorder bare;
-        paint(bare, made(true), QStringLiteral("missing/"));
+        const PageRecorder bare(made(true), "missing/");
         QCOMPARE(bare.marks.filter("picture"), QStringList("picture -120,107 1650,477"));
-        report.ata.DeviceModel.assign(QStringLiteral("A/B\\C:D 500GB"));
+        report.ata.DeviceModel.assign("A/B\\C:D 500GB");
         report.secondBrand = true;
-        QCOMPARE(suggestedReportName(report), QStringLiteral("Korvane Smart Report A-B-C-D 500GB"));
+        QCOMPARE(suggestedReportName(report), "Korvane Smart Report A-B-C-D 500GB");
     }
 
     /// Another program reads the text of the file: it has the identity and, line by line, all rows.
     void realReports()
     {
-        if (QStandardPaths::findExecutable(QStringLiteral("pdftotext")).isEmpty())
+        if (QStandardPaths::findExecutable("pdftotext").isEmpty())
             QSKIP("pdftotext is not installed");
         const QTemporaryDir folder;
-        const QString path = folder.filePath(QStringLiteral("report"));
+        const QString path = folder.filePath("report");
         for (const char *file : {"ata-noname-ssd-A-only", "nvme-wdc-sn850-1tb"}) {
             take(file);
             const SmartReport report = gatherSmartReport();
             QVERIFY(writeReport(path, report));
             QProcess reader;
-            reader.start(QStringLiteral("pdftotext"), {"-layout", path, "-"});
+            reader.start("pdftotext", {"-layout", path, "-"});
             QVERIFY(reader.waitForFinished());
             const QString text = QString::fromUtf8(reader.readAllStandardOutput());
-            QCOMPARE(text.count(QLatin1Char('\f')), report.nvme ? 1 : 2);
-            QStringList parts{g_strModelName, g_strSerialNumber, g_strFirmware, report.log.LocalTime.text()};
-            parts << "Velmora Halvane profiling process."
-                  << "Velmora Halvane is a product of Velmora.";
+            QCOMPARE(text.count('\f'), report.nvme ? 1 : 2);
+            QStringList parts{g_strModelName,
+                              g_strSerialNumber,
+                              g_strFirmware,
+                              report.log.LocalTime.text(),
+                              "Velmora Halvane profiling process.",
+                              "Velmora Halvane is a product of Velmora."};
             for (const SmartReport::Row &cells : report.rows) {
-                QString row;
+                parts << QString();
                 for (const SmartReport::Cell &cell : cells)
-                    row += cell.text + QLatin1Char(' ');
-                parts += row;
+                    parts.last() += cell.text + ' ';
             }
             for (const QString &part : qAsConst(parts))
                 QVERIFY2(text.simplified().contains(part.simplified()), qPrintable(part));
         }
-        QVERIFY(!writeReport(folder.filePath(QStringLiteral("missing/report.pdf")), made(false)));
+        QVERIFY(!writeReport(folder.filePath("missing/report.pdf"), made(false)));
     }
 
 private:
     static void take(const char *file)
     {
         samples::read(samples::bytesOf(QLatin1String(file) + ".txt"));
-        g_strTemperatureText = loadTemperatureText(GetDiskTemperature(), QStringLiteral("C"));
+        g_strTemperatureText = loadTemperatureText(GetDiskTemperature(), "C");
         ratePerformance();
         rateHealth();
-    }
-
-    static void paint(PageRecorder &page, SmartReport report,
-                      const QString &folder = QStringLiteral(":/images/Resources/96-DPI/"))
-    {
-        report.logo = folder + QStringLiteral("img_Velmora.png");
-        report.watermark = folder + QStringLiteral("img_WaterMark.png");
-        report.icon = QStringLiteral(":/images/Halvane48.png");
-        QPainter painter(&page);
-        paintReport(painter, report, [&page] { page.pages.append(QMap<int, QString>()); });
     }
 };
 

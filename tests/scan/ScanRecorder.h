@@ -8,6 +8,7 @@
 
 #include <QEventLoop>
 #include <QStringList>
+#include <QVariant>
 
 #include <functional>
 
@@ -63,14 +64,11 @@ public:
     QStringList lines;
 
 private:
-    static QString text(qlonglong number) { return QString::number(number); }
-    static QString text(const QString &string) { return string; }
-
     template<typename... Args>
     void on(QScanDriveThread &thread, void (QScanDriveThread::*sign)(Args...), const char *name)
     {
         const auto take = [this, name, &thread](Args... args) {
-            const QString line = QStringList{name, text(args)...}.join(' ');
+            const QString line = QStringList{name, QVariant(args).toString()...}.join(' ');
             if (m_hear && QThread::currentThread() == &thread)
                 m_hear(line);
             QMetaObject::invokeMethod(&thread, [this, line] { lines.append(line); });

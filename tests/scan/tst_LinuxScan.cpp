@@ -16,45 +16,39 @@ class tst_LinuxScan : public QObject
     Q_OBJECT
 
 private slots:
-    void findsWhatTheKernelRefuses_data()
-    {
-        QTest::addColumn<qint64>("readable");
-        QTest::addColumn<QStringList>("options");
-        QTest::newRow("cut in a chunk") << qint64(20000) << QStringList{"--direct-io=on"};
-        QTest::newRow("none of it") << qint64(0) << QStringList();
-        QTest::newRow("sectors of 4096 bytes") << qint64(20000) << QStringList{"--sector-size", "4096"};
-    }
-
+    /// Cut in a chunk, all of it, and of sectors of 4096 bytes.
     void findsWhatTheKernelRefuses()
     {
-        QFETCH(qint64, readable);
-        QFETCH(QStringList, options);
         constexpr qint64 Total = 40000;
-        const DiskImage image(0);
-        image.put(0, QByteArray(Total * 512, 'x'));
-        const LoopDevice loop(image.path(), options);
-        if (loop.node().isEmpty())
-            QSKIP("no loop devices here");
-        QVERIFY(QFile::resize(image.path(), readable * 512));
-        qputenv("HALVANE_DISKS", loop.node().toUtf8());
-        const QTemporaryDir home;
-        Platform::install(linuxPcIn(home.path()));
+        for (const auto &[readable, options] : {std::pair(qint64(20000), QStringList{"--direct-io=on"}),
+                                                {0, {}},
+                                                {20000, {"--sector-size", "4096"}}}) {
+            const DiskImage image(0);
+            image.put(0, QByteArray(Total * 512, 'x'));
+            const LoopDevice loop(image.path(), options);
+            if (loop.node().isEmpty())
+                QSKIP("no loop devices here");
+            QVERIFY(QFile::resize(image.path(), readable * 512));
+            qputenv("HALVANE_DISKS", loop.node().toUtf8());
+            const QTemporaryDir home;
+            Platform::install(linuxPcIn(home.path()));
 
-        forgetScans();
-        const SelectedDisk disk(0, Total);
-        const QStringList lines = scanned(Total);
+            forgetScans();
+            const SelectedDisk disk(0, Total);
+            const QStringList lines = scanned(Total);
 
-        // All chunks fail from the one with the cut on. Each lists its own sectors and the one behind it.
-        QVector<qint64> expected;
-        for (qint64 first = readable / Chunk * Chunk; first < Total; first += Chunk) {
-            for (qint64 sector = std::max(first, readable); sector <= std::min(first + Chunk, Total);
-                 ++sector)
-                expected.append(sector);
+            // All chunks fail from the one with the cut on. Each lists its own sectors and the one behind it.
+            QVector<qint64> expected;
+            for (qint64 first = readable / Chunk * Chunk; first < Total; first += Chunk) {
+                for (qint64 sector = std::max(first, readable); sector <= std::min(first + Chunk, Total);
+                     ++sector)
+                    expected.append(sector);
+            }
+            QCOMPARE(sectorsOf(g_BadSectors), expected);
+            QCOMPARE(lines.last(), QString("finish Pass"));
+            QCOMPARE(lines.at(lines.size() - 2), QString("bad %1").arg(expected.size()));
+            QCOMPARE(lines.filter("chunk ").size(), 3);
         }
-        QCOMPARE(sectorsOf(g_BadSectors), expected);
-        QCOMPARE(lines.last(), QStringLiteral("finish Pass"));
-        QCOMPARE(lines.at(lines.size() - 2), QStringLiteral("bad %1").arg(expected.size()));
-        QCOMPARE(lines.filter("chunk ").size(), 3);
     }
 };
 

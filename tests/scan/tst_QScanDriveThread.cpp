@@ -13,6 +13,11 @@ namespace
 using Sectors = QVector<qint64>;
 constexpr qint64 Chunk = 16384;
 
+QStringList words(const QString &lines)
+{
+    return lines.split(", ");
+}
+
 /// The signals and results that a scan must have, calculated from its bad sectors without reading.
 struct Expectation {
     QStringList lines;
@@ -22,27 +27,26 @@ struct Expectation {
     {
         bad.insert(total); // the sector behind the end cannot be read
         const qint64 step = (total + 399) / 400;
-        lines << QStringLiteral("begin") << QStringLiteral("progress 2") << QStringLiteral("progress 1");
+        lines = words("begin, progress 2, progress 1");
         qint64 progress = 2;
         for (qint64 first = 0; first < total; first += Chunk) {
             const qint64 next = std::min(first + Chunk, total);
-            lines << QStringLiteral("chunk %1 %2 %3").arg(first).arg(total).arg(step);
+            lines << QString("chunk %1 %2 %3").arg(first).arg(total).arg(step);
             // A chunk with a bad sector is read sector by sector, up to the first sector of the next chunk.
             const auto own = bad.lower_bound(first);
             if (own != bad.end() && *own < next) {
                 for (auto sector = own; sector != bad.end() && *sector <= next; ++sector) {
                     found.append(*sector);
-                    lines << QStringLiteral("bad %1").arg(found.size());
+                    lines << QString("bad %1").arg(found.size());
                 }
             }
             if (first == 0)
-                lines << QStringLiteral("first %1 %2").arg(next).arg(total);
+                lines << QString("first %1 %2").arg(next).arg(total);
             progress = first < step ? 1 : first / step;
-            lines << QStringLiteral("progress %1").arg(progress);
+            lines << QString("progress %1").arg(progress);
         }
-        lines << QStringLiteral("all %1").arg(total) << QStringLiteral("progress %1").arg(progress + 2)
-              << QStringLiteral("blocks 0") << QStringLiteral("bad %1").arg(found.size())
-              << QStringLiteral("finish Pass");
+        lines << QString("all %1").arg(total) << QString("progress %1").arg(progress + 2) << "blocks 0"
+              << QString("bad %1").arg(found.size()) << "finish Pass";
     }
 };
 
@@ -84,7 +88,6 @@ public:
         gone = gone || (refuses && looks-- == 0);
         return gone;
     }
-    void CloseHandle(RawHandle) override {}
 
 private:
     qint64 m_sector = 0;
@@ -100,11 +103,6 @@ QuickDisk *installQuickDisk(qint64 sectors, const std::set<qint64> &bad = {})
     return installed;
 }
 
-QStringList words(const char *lines)
-{
-    return QString::fromLatin1(lines).split(QStringLiteral(", "));
-}
-
 } // namespace
 
 class tst_QScanDriveThread : public QObject
@@ -114,47 +112,39 @@ class tst_QScanDriveThread : public QObject
 private slots:
     void init() { forgetScans(); }
 
-    void findsEveryBadSector_data()
-    {
-        QTest::addColumn<qint64>("total");
-        QTest::addColumn<Sectors>("stretches"); // pairs of first and count
-        const auto row = [](const char *name, qint64 total, const Sectors &stretches) {
-            QTest::newRow(name) << total << stretches;
-        };
-        row("nothing to scan", 0, {});
-        row("a multiple of the chunk", 2 * Chunk, {});
-        row("400 k", 400 * 125, {7, 1});
-        row("400 k + 1", 400 * 125 + 1, {7, 1});
-        row("one sector, bad", 1, {0, 1});
-        row("the first of a chunk behind a bad one", 40000, {5, 1, Chunk, 1, 39999, 1});
-        row("across two boundaries", 4 * Chunk, {Chunk - 1, Chunk + 2});
-        row("every sector", 2 * Chunk + 100, {0, 2 * Chunk + 100});
-        Sectors scattered;
-        for (qint64 sector = 3; sector < 5 * Chunk; sector += 97)
-            scattered << sector << 1 + sector % 3;
-        row("here and there", 5 * Chunk, scattered);
-        // At these sectors a byte offset, a signed and an unsigned sector number do not fit 32 bits any more.
-        const qint64 far = qint64(1) << 32;
-        row("beyond 32 bits", far + Chunk + 7, {1 << 23, 1, far / 2, 1, far, 1, far + Chunk + 6, 1});
-    }
-
     void findsEveryBadSector()
     {
-        QFETCH(qint64, total);
-        QFETCH(Sectors, stretches);
-        std::set<qint64> bad;
-        for (int i = 0; i < stretches.size(); i += 2) {
-            for (qint64 sector = stretches[i]; sector < stretches[i] + stretches[i + 1]; ++sector)
-                bad.insert(sector);
+        Sectors scattered{5 * Chunk};
+        for (qint64 sector = 3; sector < 5 * Chunk; sector += 97)
+            scattered << sector << 1 + sector % 3;
+        const qint64 far = qint64(1) << 32;
+        // The total, and pairs of first and count. At the last sectors a byte offset, a signed and an
+        // unsigned sector number do not fit 32 bits any more.
+        for (const Sectors &row : {Sectors{0},
+                                   {2 * Chunk},
+                                   {400 * 125, 7, 1},
+                                   {400 * 125 + 1, 7, 1},
+                                   {1, 0, 1},
+                                   {40000, 5, 1, Chunk, 1, 39999, 1}, // the first of a chunk behind a bad one
+                                   {4 * Chunk, Chunk - 1, Chunk + 2}, // across two boundaries
+                                   {2 * Chunk + 100, 0, 2 * Chunk + 100},
+                                   scattered,
+                                   {far + Chunk + 7, 1 << 23, 1, far / 2, 1, far, 1, far + Chunk + 6, 1}}) {
+            const qint64 total = row[0];
+            std::set<qint64> bad;
+            for (int i = 1; i < row.size(); i += 2) {
+                for (qint64 sector = row[i]; sector < row[i] + row[i + 1]; ++sector)
+                    bad.insert(sector);
+            }
+            installQuickDisk(total, bad);
+            SelectedDisk disk(3, total);
+            const Expectation expected(total, bad);
+            g_BadSectors.append(99); // of the last scan
+            QVERIFY2(scanned(total) == expected.lines, qPrintable(QString::number(total)));
+            QCOMPARE(sectorsOf(g_BadSectors), expected.found);
+            QCOMPARE(g_nBlockStep.load(), (total + 399) / 400);
+            QCOMPARE(disk.node.pDetails->hDisk, qint64(0));
         }
-        installQuickDisk(total, bad);
-        SelectedDisk disk(3, total);
-        const Expectation expected(total, bad);
-        g_BadSectors.append(99); // of the last scan
-        QVERIFY(scanned(total) == expected.lines);
-        QCOMPARE(sectorsOf(g_BadSectors), expected.found);
-        QCOMPARE(g_nBlockStep.load(), (total + 399) / 400);
-        QCOMPARE(disk.node.pDetails->hDisk, qint64(0));
     }
 
     void stops()
@@ -208,10 +198,9 @@ private slots:
             const QStringList lines = scanned(total);
             // What was found before stays.
             QCOMPARE(sectorsOf(g_BadSectors), found);
-            QCOMPARE(lines.mid(lines.size() - 4), words("progress 1, blocks 0")
-                                                      << QStringLiteral("bad %1").arg(found.size())
-                                                      << QStringLiteral("finish Failed"));
-            QVERIFY(g_bScanDiskGone && lines.filter(QStringLiteral("all ")).isEmpty());
+            QCOMPARE(lines.mid(lines.size() - 4),
+                     words(QString("progress 1, blocks 0, bad %1, finish Failed").arg(found.size())));
+            QVERIFY(g_bScanDiskGone && lines.filter("all ").isEmpty());
         };
         ended(2 * Chunk, 0x800000, 0, {7, 8, Chunk + 600});
         // In a chunk, and among the sectors of one, noticed late.
@@ -226,7 +215,7 @@ private slots:
         QuickDisk *const quick = installQuickDisk(total);
         const SelectedDisk disk(3, total);
         const QStringList lines = scanned(total, [quick](const QString &line) {
-            quick->refuses = quick->refuses || line.startsWith(QStringLiteral("chunk 16384 "));
+            quick->refuses = quick->refuses || line.startsWith("chunk 16384 ");
         });
         std::set<qint64> lost;
         for (qint64 sector = Chunk; sector < total; ++sector)
@@ -245,12 +234,12 @@ private slots:
             QVERIFY(!g_bAbortJob);
             QString flags;
             const ScanRecorder recorder(thread, [&flags](const QString &) {
-                flags = QStringLiteral("%1 %2").arg(g_bJobRunning).arg(QThread::currentThread()->priority());
+                flags = QString("%1 %2").arg(g_bJobRunning).arg(QThread::currentThread()->priority());
             });
             thread.SetRange(0, 40000);
             thread.StartScan(nullptr, 3);
             QVERIFY(thread.wait(30000));
-            QCOMPARE(flags, QStringLiteral("1 %1").arg(QThread::LowPriority));
+            QCOMPARE(flags, QString("1 %1").arg(QThread::LowPriority));
             QVERIFY(!g_bJobRunning);
 
             // If it is stopped before it begins, the picture of the last scan stays.
@@ -258,8 +247,8 @@ private slots:
             thread.StartScan(nullptr, 3);
             QVERIFY(thread.wait(30000));
             QCoreApplication::processEvents();
-            QCOMPARE(recorder.lines.filter(QStringLiteral("begin")).size(), 1);
-            QCOMPARE(recorder.lines.filter(QStringLiteral("finish Pass")).size(), 2);
+            QCOMPARE(recorder.lines.filter("begin").size(), 1);
+            QCOMPARE(recorder.lines.filter("finish Pass").size(), 2);
             QCOMPARE(sectorsOf(g_BadSectors), (Sectors{3}));
             g_bAbortJob = false;
         }

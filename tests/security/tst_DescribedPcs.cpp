@@ -13,45 +13,9 @@ class DescribedPcsTest : public QObject
     Q_OBJECT
 
 private slots:
-    void strangeNames_data()
-    {
-        QTest::addColumn<QByteArray>("json");
-        QTest::addColumn<QString>("error");
-        const auto row = [](const char *name, const QByteArray &json, const char *error) {
-            QTest::newRow(name) << json << QString("<pc>/pc.json: ") + error;
-        };
-        const auto disk = [&row](const char *name, const QByteArray &json, const char *error) {
-            row(name, R"({"disks": [{"number": 0, )" + json + "}]}", error);
-        };
-        row("root as history", R"({"history": "/"})", "history: /: lies outside the folder");
-        row("link in the history", R"({"history": "leaky"})",
-            "history: <pc>/leaky/out: no regular file that can be read");
-        row("setting", R"({"settings": {"EN/SupportLink": "a\\..\\..\\b"}})",
-            R"(settings["EN/SupportLink"]: a text without ".." is wanted)");
-        row("log beside the PC", R"({"settings": {"LogSavePath": "/tmp/x/y.log"}})",
-            R"(settings["LogSavePath"]: a path on a drive is wanted)");
-        row("many disks", R"({"processes": [)" + QByteArray(R"("",)").repeated(70000) + R"(""]})",
-            "processes: at most 65536 entries are wanted");
-        disk("image above", R"("image": "../x.img")",
-             "disks[0].image: <above>/x.img: lies outside the folder");
-        disk("pipe as image", R"("image": "pipe")",
-             "disks[0].image: <pc>/pipe: no regular file that can be read");
-        disk("link out", R"("report": "out")", "disks[0].report: <pc>/out: lies outside the folder");
-        disk("full path", R"("capabilities": "/etc/passwd")",
-             "disks[0].capabilities: /etc/passwd: lies outside the folder");
-        disk("name with an end", R"("report": "a\u0000b")",
-             "disks[0].report: a text without control characters is wanted");
-        disk("pipe", R"("selfTestLog": "pipe")",
-             "disks[0].selfTestLog: <pc>/pipe: no regular file that can be read");
-        disk("long report", R"("report": "long")", "disks[0].report: <pc>/long: more than 16 MiB");
-    }
-
     void strangeNames()
     {
-        QFETCH(QByteArray, json);
-        QFETCH(QString, error);
         const DescribedFolder folder;
-        folder.add("pc.json", json);
         folder.add("leaky/a", "");
         const QDir here(folder.path());
         for (const char *name : {"out", "leaky/out"})
@@ -59,7 +23,28 @@ private slots:
         QCOMPARE(mkfifo(QFile::encodeName(here.filePath("pipe")).constData(), 0600), 0);
         folder.add("long", "");
         QVERIFY(QFile::resize(here.filePath("long"), ownfiles::MostBytes + 1));
-        QCOMPARE(openingError(folder), error.replace("<above>", QDir::tempPath()));
+        const auto refuses = [&folder](const QByteArray &json, QString error) {
+            folder.add("pc.json", json);
+            QCOMPARE(openingError(folder), "<pc>/pc.json: " + error.replace("<above>", QDir::tempPath()));
+        };
+        const auto disk = [&refuses](const QByteArray &json, const char *error) {
+            refuses(R"({"disks": [{"number": 0, )" + json + "}]}", QString("disks[0].") + error);
+        };
+        refuses(R"({"history": "/"})", "history: /: lies outside the folder");
+        refuses(R"({"history": "leaky"})", "history: <pc>/leaky/out: no regular file that can be read");
+        refuses(R"({"settings": {"EN/SupportLink": "a\\..\\..\\b"}})",
+                R"(settings["EN/SupportLink"]: a text without ".." is wanted)");
+        refuses(R"({"settings": {"LogSavePath": "/tmp/x/y.log"}})",
+                R"(settings["LogSavePath"]: a path on a drive is wanted)");
+        refuses(R"({"processes": [)" + QByteArray(R"("",)").repeated(70000) + R"(""]})",
+                "processes: at most 65536 entries are wanted");
+        disk(R"("image": "../x.img")", "image: <above>/x.img: lies outside the folder");
+        disk(R"("image": "pipe")", "image: <pc>/pipe: no regular file that can be read");
+        disk(R"("report": "out")", "report: <pc>/out: lies outside the folder");
+        disk(R"("capabilities": "/etc/passwd")", "capabilities: /etc/passwd: lies outside the folder");
+        disk(R"("report": "a\u0000b")", "report: a text without control characters is wanted");
+        disk(R"("selfTestLog": "pipe")", "selfTestLog: <pc>/pipe: no regular file that can be read");
+        disk(R"("report": "long")", "report: <pc>/long: more than 16 MiB");
     }
 
     void strangeDescription()

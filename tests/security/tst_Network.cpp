@@ -6,13 +6,13 @@
 #include "state/SettingsStore.h"
 #include "tests/platform/DescribedFolder.h"
 #include "tests/support/FakePlatform.h"
-#include "tests/support/Files.h"
 #include "tests/support/LoopbackServer.h"
 #include "update/HelpLinks.h"
 #include "update/QDownloadThread.h"
 #include "update/UpdateCheck.h"
 #include "update/UpdateFetch.h"
 #include "update/UpdateGlobals.h"
+#include "update/UpdateTrust.h"
 
 #include <QTimer>
 #include <QtTest>
@@ -25,46 +25,47 @@ class NetworkTest : public QObject
     Q_OBJECT
 
 private slots:
-    void hostileServers_data()
+    void initTestCase() { update::g_publisherKey.clear(); } // one may be built in
+    void init()
     {
-        QTest::addColumn<QByteArray>("head");
-        QTest::addColumn<QByteArray>("piece"); // comes again and again for as long as somebody listens
-        const auto row = [](const char *name, const char *head, const QByteArray &piece) {
-            QTest::newRow(name) << QByteArray("HTTP/1.1 ") + head << piece;
-        };
-        row("one byte at a time", "200 OK\r\n\r\n", "1");
-        row("a head without an end", "200 OK\r\nX: ", "1");
-        row("a flood", "200 OK\r\n\r\n", QByteArray(1 << 20, 'x'));
-        row("a long one is announced", "200 OK\r\nContent-Length: 65537\r\n\r\n", "1");
-        row("on to a file", "302 Found\r\nLocation: file:///etc/passwd\r\n\r\n", {});
-        row("on to plain http elsewhere", "302 Found\r\nLocation: http://192.0.2.1/\r\n\r\n", {});
+        m_pPc = FakePlatform::install();
+        languages::setFlag(0);
     }
 
     void hostileServers()
     {
-        QFETCH(QByteArray, head);
-        QFETCH(QByteArray, piece);
-        std::atomic<qint64> taken{0};
-        const LoopbackServer server([&](QTcpSocket *client, const QByteArray &) {
-            QObject::connect(client, &QTcpSocket::bytesWritten, client,
-                             [&](qint64 bytes) { taken += bytes; });
-            client->write(head);
-            if (piece.isEmpty())
-                return client->disconnectFromHost();
-            auto *clock = new QTimer(client);
-            QObject::connect(clock, &QTimer::timeout, client, [client, piece] {
-                if (client->bytesToWrite() < 4 * piece.size())
-                    client->write(piece);
+        // The head of the answer, and a piece that comes again and again for as long as somebody listens.
+        const std::pair<QByteArray, QByteArray> answers[]{
+            {"200 OK\r\n\r\n", "1"}, // one byte at a time
+            {"200 OK\r\nX: ", "1"},  // a head without an end
+            {"200 OK\r\n\r\n", QByteArray(1 << 20, 'x')},
+            {"200 OK\r\nContent-Length: 65537\r\n\r\n", "1"},
+            {"302 Found\r\nLocation: file:///etc/passwd\r\n\r\n", {}},
+            {"302 Found\r\nLocation: http://192.0.2.1/\r\n\r\n", {}}};
+        for (const auto &answer : answers) {
+            const QByteArray &piece = answer.second;
+            std::atomic<qint64> taken{0};
+            const LoopbackServer server([&](QTcpSocket *client, const QByteArray &) {
+                QObject::connect(client, &QTcpSocket::bytesWritten, client,
+                                 [&](qint64 bytes) { taken += bytes; });
+                client->write("HTTP/1.1 " + answer.first);
+                if (piece.isEmpty())
+                    return client->disconnectFromHost();
+                auto *clock = new QTimer(client);
+                QObject::connect(clock, &QTimer::timeout, client, [client, piece] {
+                    if (client->bytesToWrite() < 4 * piece.size())
+                        client->write(piece);
+                });
+                clock->start(piece.size() == 1 ? 100 : 0);
             });
-            clock->start(piece.size() == 1 ? 100 : 0);
-        });
-        QElapsedTimer clock;
-        clock.start();
-        QVERIFY(httpDownload(server.link(), target(), {1500, 65536}) != 0);
-        QVERIFY2(clock.elapsed() < 3000, qPrintable(QString::number(clock.elapsed())));
-        // The system's buffers take more than the program counts.
-        QVERIFY2(taken < 16 * 1024 * 1024, qPrintable(QString::number(taken)));
-        QCOMPARE(QDir(m_folder.path()).entryList(QDir::Files), QStringList());
+            QElapsedTimer clock;
+            clock.start();
+            QVERIFY2(httpDownload(server.link(), target(), {1500, 65536}) != 0, answer.first);
+            QVERIFY2(clock.elapsed() < 3000, answer.first + QByteArray::number(clock.elapsed()));
+            // The system's buffers take more than the program counts.
+            QVERIFY2(taken < 16 * 1024 * 1024, answer.first + QByteArray::number(taken));
+            QCOMPARE(QDir(m_folder.path()).entryList(QDir::Files), QStringList());
+        }
     }
 
     void strangeAddresses()
@@ -77,28 +78,26 @@ private slots:
 
     void checkHasItsLimits()
     {
-        FakePlatform *pc = FakePlatform::install();
         qint64 limit = 0;
-        pc->onDownload = [&](const QString &, const QString &, const DownloadLimits &limits) {
+        m_pPc->onDownload = [&](const QString &, const QString &, const DownloadLimits &limits) {
             limit = limits.bytes;
             return limits.milliseconds == 15000 ? Platform::DownloadRefused : 0;
         };
         QVERIFY(!update::fetchVersions("https://update.example/"));
         QCOMPARE(limit, 65536);
         // A refused download is not tried with the transfer tool.
-        QCOMPARE(pc->commands(), QStringList());
+        QCOMPARE(m_pPc->commands(), QStringList());
         QCOMPARE(update::installerLimits(1000).bytes, 40 * 1024 * 1024);
         QCOMPARE(update::installerLimits(20 * 1024 * 1024).bytes, 80 * 1024 * 1024);
     }
 
     void plantedInstaller()
     {
-        FakePlatform *pc = FakePlatform::install();
         const QTemporaryDir here;
         QVERIFY(QDir::setCurrent(here.path())); // the fake machine has its drive C: there
         // While the console runs, another program puts a file where the installer would be. Then the console
         // fails.
-        pc->onCommand = [](const QString &) {
+        m_pPc->onCommand = [](const QString &) {
             return QDir().mkpath("C:/updatetmp") && writeFile("C:/updatetmp/VelmoraHalvane.exe", "evil");
         };
         QDownloadThread thread;
@@ -108,7 +107,7 @@ private slots:
         QSignalSpy failed(&thread, &QDownloadThread::OnDownloadFailed);
         thread.start();
         QVERIFY(thread.wait(10000));
-        QCOMPARE(pc->commands().size(), 1);
+        QCOMPARE(m_pPc->commands().size(), 1);
         QTRY_COMPARE(failed.size(), 1);
         QCOMPARE(started.size(), 0);
         QDir::setCurrent(QDir::tempPath());
@@ -117,10 +116,9 @@ private slots:
     /// The tool's file belongs to a service, and stays in its hands.
     void consoleFileBecomesOurs()
     {
-        FakePlatform *pc = FakePlatform::install();
         QString file;
-        pc->onCommand = [&file](const QString &line) {
-            file = line.section(QLatin1Char(' '), -1);
+        m_pPc->onCommand = [&file](const QString &line) {
+            file = line.section(' ', -1);
             return writeFile(file, "installer") && QFile::setPermissions(file, QFile::Permissions(0x6666));
         };
         QCOMPARE(contentOf(update::fetch("https://update.example/x", "x.exe", {9000, 100})),
@@ -130,18 +128,16 @@ private slots:
 
     void consoleThatLoadsTooMuch()
     {
-        FakePlatform *pc = FakePlatform::install();
-        pc->onCommand = [](const QString &line) {
-            return writeFile(line.section(QLatin1Char(' '), -1), QByteArray(65537, '1'));
+        m_pPc->onCommand = [](const QString &line) {
+            return writeFile(line.section(' ', -1), QByteArray(65537, '1'));
         };
         QVERIFY(!update::fetchVersions("https://update.example/"));
-        QCOMPARE(pc->commands().size(), 1);
+        QCOMPARE(m_pPc->commands().size(), 1);
         QCOMPARE(g_strUpdateFile, QString());
     }
 
     void linksThatAreNoPages()
     {
-        FakePlatform *pc = FakePlatform::install();
         languages::setFlag(5); // its agreement and help are links of the settings
         g_App.m_bStandalone = false;
         g_App.m_bHelpOnline = true;
@@ -153,18 +149,15 @@ private slots:
             SettingsStore().write(TextSetting{"JA/HelpLink_JA"}, QLatin1String(link));
             links::openAgreement();
             links::openHelp(links::Topic::DiskStatus);
-            QCOMPARE(pc->executed, QStringList());
+            QCOMPARE(m_pPc->executed, QStringList());
         }
-        languages::setFlag(0);
     }
 
     void supportIsAnAddressOnly()
     {
-        FakePlatform *pc = FakePlatform::install();
-        languages::setFlag(0);
         SettingsStore().write(TextSetting{"EN/SupportLink"}, "a@b.example?attach=/etc/x\" %1");
         links::openSupport();
-        QCOMPARE(pc->executed, QStringList{"Open mailto:a@b.example%3Fattach%3D%2Fetc%2Fx%22%20%251 "});
+        QCOMPARE(m_pPc->executed, QStringList{"Open mailto:a@b.example%3Fattach%3D%2Fetc%2Fx%22%20%251 "});
     }
 
     void describedPcAsksNobody()
@@ -193,8 +186,10 @@ private slots:
     }
 
 private:
-    QTemporaryDir m_folder;
     QString target() const { return m_folder.filePath("page"); }
+
+    QTemporaryDir m_folder;
+    FakePlatform *m_pPc = nullptr;
 };
 
 QTEST_GUILESS_MAIN(NetworkTest)

@@ -22,7 +22,7 @@ inline QByteArray bytesOf(const QString &file)
 /// Writes a report to the file that the tool would write.
 inline QString stage(const QByteArray &bytes)
 {
-    const QString path = tempFile(QStringLiteral("SMART.txt"));
+    const QString path = tempFile("SMART.txt");
     if (!writeFile(nativePath(path), bytes))
         qFatal("no temp file");
     return path;
@@ -54,12 +54,12 @@ inline void forget()
 inline SmartAttributeList ataList(const QString &rows)
 {
     SmartAttributeList list;
-    for (const QString &row : rows.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
-        const QString figures = row.section(QLatin1Char('='), 1);
+    for (const QString &row : rows.split(' ', Qt::SkipEmptyParts)) {
+        const QString figures = row.section('=', 1);
         SmartAttributeRecord &record = list.append();
-        record.AttributeName.assign(row.section(QLatin1Char('='), 0, 0));
-        record.RawValue.assign(figures.section(QLatin1Char('@'), 0, 0));
-        record.Value = figures.section(QLatin1Char('@'), 1).toUInt();
+        record.AttributeName.assign(row.section('=', 0, 0));
+        record.RawValue.assign(figures.section('@', 0, 0));
+        record.Value = figures.section('@', 1).toUInt();
     }
     return list;
 }
@@ -70,8 +70,8 @@ inline NvmeAttributeList nvmeList(const QStringList &rows)
     NvmeAttributeList list;
     for (const QString &row : rows) {
         NvmeAttributeRecord &record = list.append();
-        record.Name.assign(row.section(QLatin1Char('='), 0, 0));
-        record.Value.assign(row.section(QLatin1Char('='), 1));
+        record.Name.assign(row.section('=', 0, 0));
+        record.Value.assign(row.section('=', 1));
     }
     return list;
 }

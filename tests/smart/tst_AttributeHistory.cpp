@@ -27,65 +27,51 @@ private slots:
         QCOMPARE(historyPaths("../x").dates, m_folder->path() + "/dates-.._x.txt");
     }
 
-    void firstVisit()
+    void twoVisitsOfADay()
     {
-        recordHistory(m_serial, QDateTime(QDate(2026, 11, 15), QTime(3, 30, 12)),
+        const QDate day(2026, 11, 15);
+        recordHistory(m_serial, QDateTime(day, QTime(3, 30, 12)),
                       {{"Raw Read Error Rate", "0"}, {"Temperature Celsius", "36 (Min/Max 17/54)"}});
-        QCOMPARE(textOf("dates-SN-1.txt"), QByteArray("15-11-2026\n"));
         QCOMPARE(textOf(m_values), QByteArray("[15-11-2026]\nCompleteDate=Sun Nov 15 03:30:12 2026\n"
                                               "Raw%20Read%20Error%20Rate=0\n"
                                               "Temperature%20Celsius=36 (Min/Max 17/54)\n"));
+        recordHistory(m_serial, QDateTime(day, QTime(9, 0)), {{"Raw Read Error Rate", "3"}});
+        QCOMPARE(textOf(m_values), QByteArray("[15-11-2026]\nCompleteDate=Sun Nov 15 09:00:00 2026\n"
+                                              "Raw%20Read%20Error%20Rate=3\n"
+                                              "Temperature%20Celsius=36 (Min/Max 17/54)\n"));
+        QCOMPARE(textOf("dates-SN-1.txt"), QByteArray("15-11-2026\n"));
         QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
     }
 
-    void secondVisitOfADay()
-    {
-        const QDate day(2026, 11, 15);
-        recordHistory(m_serial, QDateTime(day, QTime(8, 0)), {{"A", "1"}, {"B", "2"}});
-        recordHistory(m_serial, QDateTime(day, QTime(9, 0)), {{"A", "3"}});
-        QCOMPARE(textOf("dates-SN-1.txt"), QByteArray("15-11-2026\n"));
-        QCOMPARE(textOf(m_values),
-                 QByteArray("[15-11-2026]\nA=3\nB=2\nCompleteDate=Sun Nov 15 09:00:00 2026\n"));
-    }
-
-    /// Lines between bars. The first row is that of a clock that was set back.
+    /// Lines between bars.
     void append()
     {
-        compareRows({"d|c| -> d|c|d|", " -> d|", "c|d -> c|d", "c|14-11-2 -> c|14-11-2|d|",
-                     "c\r|d\r| -> c|d|", "b\r|c\r| -> b|c|d|"},
-                    [this](const QString &before) {
-                        put("list", QString(before).replace('|', '\n').toUtf8());
-                        AppendHistoryDate(file("list"), "d");
-                        return textOf("list").replace('\n', '|');
-                    });
+        compareRows("AttributeHistory/append", [this](const QString &before) {
+            put("list", linesOf(before));
+            AppendHistoryDate(file("list"), "d");
+            return textOf("list").replace('\n', '|');
+        });
     }
 
     /// One date a call: the list, and the values that are left.
     void prune()
     {
-        compareRows({"1|2|3|4|5|6|7|8|9|x| -> 1|2|3|4|5|6|7|8|9|x|, [1]|A=1||[2]|A=2|",
-                     "1|2|3|4|5|6|7|8|9|x|y -> 2|3|4|5|6|7|8|9|x|y|, [2]|A=2|",
-                     "1|2|3|4|5|6|7|8|9|x|1| -> 2|3|4|5|6|7|8|9|x|, [2]|A=2|",
-                     "1|2|3|4|5|6|7|8|9|x|y|z| -> 2|3|4|5|6|7|8|9|x|y|z|, [2]|A=2|"},
-                    [this](const QString &before) {
-                        put("list", QString(before).replace('|', '\n').toUtf8());
-                        put("values", "[1]\nA=1\n\n[2]\nA=2\n");
-                        PruneHistory(file("list"), file("values"));
-                        return QString(textOf("list") + ", " + textOf("values")).replace('\n', '|');
-                    });
+        compareRows("AttributeHistory/prune", [this](const QString &before) {
+            put("list", linesOf(before));
+            put("values", "[1]\nA=1\n\n[2]\nA=2\n");
+            PruneHistory(file("list"), file("values"));
+            return QString(textOf("list") + ", " + textOf("values")).replace('\n', '|');
+        });
     }
 
     void removeGroup()
     {
         // A value with brackets is taken for a header.
-        compareRows({"[a]|A=0|[d]|A=1||[e]|A=2|[d]|A=3| -> [a]|A=0|[e]|A=2|", "[e]|A=3 -> [e]|A=3|",
-                     "[d]\r|A=1\r|[e]\r|A=2\r| -> [e]|A=2|", "A=0|[d]|A=1| -> A=0|",
-                     "[d]|A=1|B=x [y]|C=2| -> B=x [y]|C=2|", "][d|A=1| -> "},
-                    [this](const QString &before) {
-                        put("values", QString(before).replace('|', '\n').toUtf8());
-                        RemoveHistoryGroup("d", file("values"));
-                        return textOf("values").replace('\n', '|');
-                    });
+        compareRows("AttributeHistory/removeGroup", [this](const QString &before) {
+            put("values", linesOf(before));
+            RemoveHistoryGroup("d", file("values"));
+            return textOf("values").replace('\n', '|');
+        });
         RemoveHistoryGroup("d", file("missing"));
         QVERIFY(!QFile::exists(file("missing")));
     }
@@ -175,6 +161,11 @@ private slots:
 private:
     QString file(const QString &name) const { return m_folder->filePath(name); }
     void put(const QString &name, const QByteArray &text) const { QVERIFY(writeFile(file(name), text)); }
+
+    static QByteArray linesOf(const QString &row)
+    {
+        return QString(row).replace('|', '\n').replace('~', '\r').toUtf8();
+    }
 
     /// One of an earlier run, with a torn date behind it, and the first one of this run.
     void checkTwoDays() const

@@ -38,7 +38,7 @@ private slots:
         int call = 0;
         for (bool killed = true; killed;) {
             m_root = std::make_unique<QTemporaryDir>();
-            m_folder = m_root->filePath(QStringLiteral("history"));
+            m_folder = m_root->filePath("history");
             QVERIFY(simulated::copyFolder(prepared.path(), m_folder));
             Platform::install(std::make_unique<HistoryMachine>(m_folder));
             QCOMPARE(readableDays(before == 0), before);
@@ -51,15 +51,19 @@ private slots:
             const int last = first + count - 1;
             QVERIFY(!runKilledAt(0, dayNumber(last), 1));
             const std::vector<QString> listed = readHistoryDates(historyPaths(m_serial).dates, nullptr);
-            QCOMPARE(listed.back(), dayNumber(last).toString(QStringLiteral("dd-MM-yyyy")));
+            QCOMPARE(listed.back(), dayNumber(last).toString("dd-MM-yyyy"));
             if (count == 1)
                 QCOMPARE(readableDays(false), std::min(last, 10));
             else
                 QVERIFY(readableDays(false) >= kept);
-            QCOMPARE(sectionsBeside(listed), QStringList());
+            QStringList sections =
+                QSettings(historyPaths(m_serial).values, QSettings::IniFormat).childGroups();
+            for (const QString &date : listed)
+                sections.removeAll(date);
+            QCOMPARE(sections, QStringList());
         }
         // Each of the two files is made, filled, flushed and renamed.
-        QVERIFY2(call > 8, qPrintable(QStringLiteral("only %1 calls were seen").arg(call - 1)));
+        QVERIFY2(call > 8, qPrintable(QString("only %1 calls were seen").arg(call - 1)));
     }
 
 private:
@@ -67,9 +71,9 @@ private:
     {
         QProcess program;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("HALVANE_KILL_AT"), QString::number(call));
-        environment.insert(QStringLiteral("HALVANE_KILL_FOLDER"), m_folder);
-        environment.insert(QStringLiteral("TMPDIR"), m_root->path());
+        environment.insert("HALVANE_KILL_AT", QString::number(call));
+        environment.insert("HALVANE_KILL_FOLDER", m_folder);
+        environment.insert("TMPDIR", m_root->path());
         program.setProcessEnvironment(environment);
         program.setProcessChannelMode(QProcess::ForwardedChannels);
         program.start(QStringLiteral(HALVANE_HISTORY_DAYS),
@@ -86,38 +90,29 @@ private:
     {
         // A new name each time, because QSettings may keep what it read from a file before.
         static int copies = 0;
-        const QString values = m_root->filePath(QStringLiteral("values%1").arg(++copies));
+        const QString values = m_root->filePath(QString("values%1").arg(++copies));
         QFile list(historyPaths(m_serial).dates);
         if (!list.open(QIODevice::ReadOnly) || !QFile::copy(historyPaths(m_serial).values, values))
             return anyDay ? 0 : -1;
         QSettings stored(values, QSettings::IniFormat);
-        QStringList dates = QString::fromLatin1(list.readAll()).split(QLatin1Char('\n'));
+        QStringList dates = QString::fromLatin1(list.readAll()).split('\n');
         if (stored.status() != QSettings::NoError || (!dates.takeLast().isEmpty() && !anyDay))
             return -1;
         int right = 0;
         for (const QString &date : dates) {
-            const QDate day = QDate::fromString(date, QStringLiteral("dd-MM-yyyy"));
+            const QDate day = QDate::fromString(date, "dd-MM-yyyy");
             if (!day.isValid())
                 return -1;
-            const QString path = date + QLatin1Char('/') + days::key;
+            const QString path = date + '/' + days::key;
             if (stored.contains(path) && stored.value(path).toLongLong() == days::valueOn(day))
                 ++right;
         }
         return right;
     }
 
-    /// The sections of values without a date in the list.
-    QStringList sectionsBeside(const std::vector<QString> &listed)
-    {
-        QStringList sections = QSettings(historyPaths(m_serial).values, QSettings::IniFormat).childGroups();
-        for (const QString &date : listed)
-            sections.removeAll(date);
-        return sections;
-    }
-
     QDate dayNumber(int number) const { return QDate(2026, 10, 25).addDays(number - 1); }
 
-    const QString m_serial = QStringLiteral("SN-1");
+    const QString m_serial = "SN-1";
     std::unique_ptr<QTemporaryDir> m_root;
     QString m_folder;
 };

@@ -11,36 +11,17 @@
 
 #include <QTextStream>
 
-using selftest::StatusEvent;
 using selftest::Told;
 
 namespace
 {
 
-QByteArray sample(const char *name)
+/// The text of a real file, or lines between bars.
+QString textOf(const QString &row)
 {
-    return contentOf(QStringLiteral(HALVANE_TEST_DATA "/selftest/") + QLatin1String(name));
+    return row.endsWith(".txt") ? contentOf(HALVANE_TEST_DATA "/selftest/" + row)
+                                : QString(row).replace('|', '\n');
 }
-
-QString told(const QVector<StatusEvent> &events)
-{
-    QStringList words;
-    for (const StatusEvent &event : events)
-        words << (event.told == Told::InProgress ? QStringLiteral("running %1").arg(event.remaining)
-                                                 : QLatin1String(selftest::shownWords(event.told)));
-    return words.join(QLatin1String(", "));
-}
-
-/// The lines of a status, between bars, in the layout of the tool.
-QByteArray execution(int code, QByteArray words)
-{
-    return "Self-test execution status:      (" + QByteArray::number(code).rightJustified(4) + ")\t" +
-           words.replace("|", "\n\t\t\t\t\t") + "\nTotal time to complete Offline \n";
-}
-
-const QByteArray Supported = "\t\t\tSelf-test supported.\n";
-const QByteArray ShortTwo = "Short self-test routine \nrecommended polling time: \t (   2) minutes.\n";
-const QByteArray LongNine = "Extended self-test routine\nrecommended polling time: \t (   9) minutes.\n";
 
 } // namespace
 
@@ -80,10 +61,9 @@ private slots:
             // The seconds are counted up to the polling time; the minute drops at the tick after its end.
             // The time shown goes on.
             QCOMPARE(drops, (QVector<int>{61, 1, 121, 0}));
-            QCOMPARE(g_nRemainingMinutes[own], 0);
-            QCOMPARE(g_nRemainingMinutes[1 - own], 7);
-            QCOMPARE(g_nElapsedSeconds, 120);
-            QCOMPARE(g_nMinuteTicks, 0);
+            const QVector<int> figures{g_nRemainingMinutes[own], g_nRemainingMinutes[1 - own],
+                                       g_nElapsedSeconds, g_nMinuteTicks};
+            QCOMPARE(figures, (QVector<int>{0, 7, 120, 0}));
             QCOMPARE(g_timeElapsed, QTime(0, 5));
             QVERIFY(g_Jobs.runs(JobState::Job::SelfTest));
         }
@@ -96,10 +76,10 @@ private slots:
         for (int second = 0; second < 61; ++second)
             QVERIFY(!test.tick().steps.first().minutes);
         QCOMPARE(g_nElapsedSeconds, 0);
-        QCOMPARE(test.elapsedText(), QStringLiteral("00:01:01"));
+        QCOMPARE(test.elapsedText(), QString("00:01:01"));
         g_timeElapsed = QTime(23, 59, 59);
         test.tick();
-        QCOMPARE(test.elapsedText(), QStringLiteral("24:00:00"));
+        QCOMPARE(test.elapsedText(), QString("24:00:00"));
     }
 
     void withoutATool()
@@ -135,119 +115,61 @@ private slots:
         }
     }
 
-    /// The minutes of the short test and of the extended one; -1: none.
+    /// Can the drive run one; the minutes of the short test and of the extended one, -1: none.
     void capabilities()
     {
-        const auto row = [](const QByteArray &text, const char *expected) {
+        compareRows("SelfTest/capabilities", [](const QString &row) {
             QString shown;
             for (const auto kind :
                  {std::optional<SelfTestKind>(), {SelfTestKind::Short}, {SelfTestKind::Extended}}) {
-                QTextStream stream(text);
+                QString text = textOf(row);
+                QTextStream stream(&text);
                 const selftest::Capabilities found = selftest::readCapabilities(stream, kind);
                 shown += (found.supported ? " " : " not:") + QString::number(found.minutes.value_or(-1));
             }
-            QCOMPARE(shown, QString(expected));
-        };
-        row(sample("caps-idle-62.txt"), " -1 2 191");
-        row(sample("caps-inprogress-90.txt"), " -1 2 102");
-        row(ShortTwo + LongNine + Supported, " -1 -1 -1");
-        row(Supported + LongNine + ShortTwo, " -1 2 9");
-        row(Supported + "Short self-test routine\n" + LongNine, " -1 9 9");
-        row(Supported + "Short self-test routine\nrecommended polling time: ( x) minutes.\n", " -1 0 -1");
-        row(ShortTwo + LongNine, " not:-1 not:-1 not:-1");
+            return shown.trimmed();
+        });
     }
 
     void status()
     {
-        const auto shown = [](const QByteArray &text) {
-            QTextStream stream(text);
-            return told(selftest::readStatus(stream));
-        };
-        QCOMPARE(shown(sample("caps-idle-72.txt")), QString("Successfully Completed"));
-        QCOMPARE(shown(sample("caps-inprogress-90.txt")), QString("running 90"));
-        QCOMPARE(shown(sample("caps-read-failure-121-wd.txt")), QString("Test failed by Read Element"));
-        // Further down is the rest of a running test, then another one.
-        QCOMPARE(shown("Self-test routine in progress...\nThe previous self-test routine completed\n\n"
-                       "\t10% of test remaining.\n" +
-                       sample("caps-read-failure-121-wd.txt")),
-                 QString("running 10, Test failed by Read Element"));
-        QCOMPARE(shown("Self-test status: Short self-test in progress (12% completed)\n"),
-                 QString("running 88"));
-        QCOMPARE(shown("Self-test routine in progress...\n?% of test remaining.\n"), QString("running 0"));
-        for (const char *silent : {"", "Self-test routine in progress...\n"})
-            QCOMPARE(shown(silent), QString("No Status from the Drive"));
-        // The words decide, and the number where they tell nothing.
-        compareRows({"The self-test routine was aborted by|the host. -> Test Aborted by User",
-                     "The self-test routine was interrupted|by the host with a hard or soft reset. -> "
-                     "Test Interrupted by the Host",
-                     "A fatal error or unknown test error|occurred while the device was executing -> "
-                     "Test ended by Fatal or Unknown Error",
-                     "The previous self-test completed having|a test element that failed and the test -> "
-                     "Test failed by Unknown Element",
-                     "The previous self-test completed having|the electrical element of the test -> "
-                     "Test failed by Electrical Element",
-                     "The previous self-test completed having|the servo (and/or seek) element of the -> "
-                     "Test failed by Servo Element",
-                     "The previous self-test completed having|a test element that failed and the|device is "
-                     "suspected of having handling -> Test failed, Handling Damage suspected"},
-                    [&](const QString &words) { return shown(execution(0, words.toUtf8())); });
-        compareRows({"25 -> Test Aborted by User", "137 -> Test failed, Handling Damage suspected",
-                     "144 -> Test ended with Unknown Status", "239 -> Test ended with Unknown Status",
-                     "243 -> running 30"},
-                    [&](const QString &code) { return shown(execution(code.toInt(), "In other words.")); });
-        compareRows({"Completed without error -> Successfully Completed",
-                     "Aborted: Self-test command -> Test Aborted by User",
-                     "Aborted: Controller Reset -> Test Interrupted by the Host",
-                     "Fatal or unknown test error -> Test ended by Fatal or Unknown Error",
-                     "Completed: failed segments -> Test failed by Unknown Element",
-                     "Unknown result (0xe) -> Test ended with Unknown Status"},
-                    [&](const QString &result) {
-                        return shown("Num  Test_Description  Status\n 0   Short             " +
-                                     result.toUtf8() +
-                                     "    2650   -\n 1   Extended          Completed without error\n");
-                    });
-    }
-
-    void over()
-    {
+        compareRows("SelfTest/status", [](const QString &row) {
+            QString text = textOf(row);
+            QTextStream stream(&text);
+            QStringList words;
+            for (const selftest::StatusEvent &event : selftest::readStatus(stream))
+                words << (event.told == Told::InProgress ? QString("running %1").arg(event.remaining)
+                                                         : selftest::shownWords(event.told));
+            return words.join(", ");
+        });
         QVERIFY(!selftest::isOver(100) && !selftest::isOver(1));
         QVERIFY(selftest::isOver(0) && selftest::isOver(101));
     }
 
-    /// "type|result"; of lines between slashes.
+    /// Its type and its result.
     void newest()
     {
-        compareRows(
-            {"Num  Test/# 1  Short offline   Completed without error  00%  20  -// -> "
-             "Short Self-test|Successfully Completed",
-             "# 1  Extended offline  Completed: read failure  90%  1587  8/# 2  Short offline  "
-             "Aborted by host/ -> Extended Self-test|Failed by Read Element",
-             "# 1  Short offline   Aborted by host  10%  1587  -// -> Short Self-test|Aborted by User",
-             "# 1  Short offline   Interrupted (host reset)  90%  1  -// -> "
-             "Short Self-test|Test Interrupted by the Host",
-             "# 1  Short offline   Unknown status (0x9)  90%  1  -// -> Short Self-test|Not Available",
-             // On the very last line it has no result.
-             "# 1  Short offline   Completed without error  00%  20  -/ -> Short Self-test|-",
-             "No self-tests have been logged.// -> -|-",
-             " 0   Short           Completed without error  2650// -> -|-"},
-            [](const QString &lines) {
-                QString log = QString(lines).replace('/', '\n');
-                QTextStream stream(&log);
-                const selftest::PreviousTest test = selftest::newestTest(stream);
-                return (test.type.isNull() ? "-" : test.type) + '|' +
-                       (test.result.isNull() ? "-" : test.result);
-            });
+        compareRows("SelfTest/newest", [](const QString &row) {
+            QString log = textOf(row);
+            QTextStream stream(&log);
+            const selftest::PreviousTest test = selftest::newestTest(stream);
+            return (test.type.isNull() ? "-" : test.type) + ", " + (test.result.isNull() ? "-" : test.result);
+        });
     }
 
 private:
     /// Prepares and starts a test; the drive names these minutes for the two kinds.
     bool start(SelfTest &test, SelfTestKind kind, int shortMinutes, int extendedMinutes)
     {
-        const QByteArray text = Supported + "Short self-test routine\nrecommended polling time: ( " +
-                                QByteArray::number(shortMinutes) +
-                                ") minutes.\nExtended self-test routine\nrecommended polling time: ( " +
-                                QByteArray::number(extendedMinutes) + ") minutes.\n";
-        m_fake->onCommand = [&text](const QString &line) { return FakePlatform::answer(line, text); };
+        const QString text =
+            QString("Self-test supported.\nShort self-test routine\nrecommended polling time: ( "
+                    "%1) minutes.\nExtended self-test routine\nrecommended polling time: ( "
+                    "%2) minutes.\n")
+                .arg(shortMinutes)
+                .arg(extendedMinutes);
+        m_fake->onCommand = [&text](const QString &line) {
+            return FakePlatform::answer(line, text.toUtf8());
+        };
         test.prepare(kind);
         m_fake->onCommand = [this](const QString &line) { return FakePlatform::answer(line, m_status); };
         return test.canRun() && test.start();

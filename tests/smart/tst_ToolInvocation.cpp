@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "smart/SMARTThread.h"
 #include "smart/ToolInvocation.h"
-
 #include "tests/smart/SampleReports.h"
 #include "tests/support/ArrowRows.h"
 #include "tests/support/FakePlatform.h"
 
-/// The command lines of the report tool, and what becomes of its files.
+#include <QSemaphore>
+
+#include <atomic>
+
+/// The command lines of the report tool, what becomes of its files, and the thread that runs it.
 class tst_ToolInvocation : public QObject
 {
     Q_OBJECT
@@ -15,15 +19,10 @@ private slots:
     {
         m_fake = FakePlatform::install();
         samples::forget();
-        g_App.m_bUse64BitTool = true;
-        g_App.m_strSmartctlPath = "T:\\copy\\smartctl64Bit.exe";
-    }
-
-    void cleanup()
-    {
-        samples::forget();
         g_wmicDisks.clear();
         g_strRunMode.clear();
+        g_App.m_bUse64BitTool = true;
+        g_App.m_strSmartctlPath = "T:\\copy\\smartctl64Bit.exe";
     }
 
     void devices()
@@ -36,29 +35,32 @@ private slots:
         // Row 10 of the table goes by the place in the combo box.
         compareRows({"9 10 -> /dev/sdj", "10 9 -> ", "11 10 -> /dev/sdk", "13 0 -> /dev/sdn", "14 14 -> "},
                     [](const QString &row) {
-                        return selfTestDevice(row.section(' ', 0, 0).toInt(), row.section(' ', 1).toInt());
+                        return selfTestDevice(int(numbersOf(row)[0]), int(numbersOf(row)[1]));
                     });
     }
 
     void commandLines()
     {
-        const auto line = [](ToolPurpose purpose) {
-            return commandLine(purpose, "DEV", toolFileName(purpose));
+        const auto lines = [] {
+            QString text;
+            for (int i = 0; i <= int(ToolPurpose::SelfTestLog); ++i)
+                text += commandLine(ToolPurpose(i), "D", toolFileName(ToolPurpose(i))) + '\n';
+            return text;
         };
-        const QStringList lines = QString(" -a DEV >> SMART.txt; -c DEV >> SMART1234.txt; "
-                                          "-c DEV >> ShortTestStatus.txt; -t short DEV >> ShortTest.txt; "
-                                          "-t long DEV >> ShortTest.txt; -X DEV >> SMART1234.txt; "
-                                          "-l selftest DEV >> PreviousResult.txt")
-                                      .split(';');
-        for (int i = 0; i < lines.size(); ++i)
-            QCOMPARE(line(ToolPurpose(i)), "smartctl64Bit.exe" + lines[i]);
+        const QString expected =
+            "smartctl64Bit.exe -a D >> SMART.txt\nsmartctl64Bit.exe -c D >> SMART1234.txt\n"
+            "smartctl64Bit.exe -c D >> ShortTestStatus.txt\n"
+            "smartctl64Bit.exe -t short D >> ShortTest.txt\n"
+            "smartctl64Bit.exe -t long D >> ShortTest.txt\n"
+            "smartctl64Bit.exe -X D >> SMART1234.txt\n"
+            "smartctl64Bit.exe -l selftest D >> PreviousResult.txt\n";
+        QCOMPARE(lines(), expected);
         // The scheduler runs the copy, for reports only.
         g_strRunMode = "Schedular";
-        QCOMPARE(line(ToolPurpose::FullReport), "T:\\copy\\smartctl64Bit.exe" + lines[0]);
-        QCOMPARE(line(ToolPurpose::AbortTest), "smartctl64Bit.exe" + lines[5]);
+        QCOMPARE(lines(), "T:\\copy\\" + expected);
         g_strRunMode = "Scheduler";
         g_App.m_bUse64BitTool = false;
-        QCOMPARE(line(ToolPurpose::FullReport), "smartctl.exe" + lines[0]);
+        QCOMPARE(lines(), QString(expected).remove("64Bit"));
 
         g_strSmartDevice = QString(" -d sat,12 /dev/sdb");
         g_strSelfTestDevice = "/dev/sdb";
@@ -130,7 +132,74 @@ private slots:
         QVERIFY(!QFile::exists(nativePath(tempFile("PreviousResult.txt"))));
     }
 
+    // "0" to "9" asks for that disk, "." ends the tool that runs, "f" forgets, "t" takes the report. What
+    // comes back: the disks that are read, "-" for the end of a run; of "t" the disk or "n".
+    void stories()
+    {
+        compareRows("ToolInvocation/stories", [this](const QString &story) { return told(story); });
+    }
+
+    void destructorWaits()
+    {
+        QSemaphore entered;
+        std::atomic<bool> ended{false};
+        m_fake->onCommand = [&](const QString &) {
+            entered.release();
+            QThread::msleep(200);
+            ended = true;
+            return true;
+        };
+        {
+            SMARTThread thread;
+            thread.RequestSmartRead(0);
+            QVERIFY(entered.tryAcquire(1, 10000));
+        }
+        QVERIFY(ended);
+    }
+
 private:
+    QString told(const QString &story)
+    {
+        QString told;
+        bool runs = false;
+        QSemaphore moved; // a tool has begun, or a run has ended
+        QSemaphore mayEnd;
+        m_fake->onCommand = [&](const QString &line) {
+            told += QString::number(line.at(line.indexOf("/dev/sd") + 7).unicode() - 'a');
+            moved.release();
+            mayEnd.acquire();
+            return true;
+        };
+        SMARTThread thread;
+        const auto ended = [&] {
+            told += '-';
+            runs = false;
+            moved.release();
+        };
+        connect(&thread, &SMARTThread::OnLodingSmarInfo, &thread, ended, Qt::DirectConnection);
+        for (const QChar step : story) {
+            if (step == 't') {
+                const std::optional<LoadedReport> loaded = thread.takeReport();
+                told += loaded ? QString::number(loaded->disk) : "n";
+            } else if (step == 'f') {
+                thread.forget();
+            } else {
+                const bool waits = step == '.' || !runs;
+                if (step == '.') {
+                    mayEnd.release();
+                } else {
+                    runs = true;
+                    thread.RequestSmartRead(step.digitValue());
+                }
+                if (waits && !moved.tryAcquire(1, 10000))
+                    qFatal("the thread hangs");
+            }
+            if (runs && !thread.isReading())
+                told += "does not read";
+        }
+        return told;
+    }
+
     void answerWith(const QByteArray &output)
     {
         m_fake->onCommand = [output](const QString &line) { return FakePlatform::answer(line, output); };

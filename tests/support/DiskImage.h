@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QFile>
+#include "tests/support/Files.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -46,24 +47,15 @@ public:
     }
 
     /// Writes the partition table of a script.
-    void partition(const QByteArray &script) const
-    {
-        run({QStringLiteral("sfdisk"), QStringLiteral("--quiet"), QStringLiteral("--no-tell-kernel")},
-            script);
-    }
+    void partition(const QByteArray &script) const { run({"sfdisk", "--quiet", "--no-tell-kernel"}, script); }
 
     /// The partition table as the tool that made it reads it.
     QJsonObject table() const
     {
-        const QByteArray json = run({QStringLiteral("sfdisk"), QStringLiteral("--json")});
-        return QJsonDocument::fromJson(json).object()[QStringLiteral("partitiontable")].toObject();
+        return QJsonDocument::fromJson(run({"sfdisk", "--json"})).object()["partitiontable"].toObject();
     }
 
-    QByteArray contents() const
-    {
-        QFile file(path());
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    QByteArray contents() const { return contentOf(path()); }
 
     void put(qint64 offset, const QByteArray &bytes) const
     {
@@ -75,10 +67,8 @@ public:
 private:
     static QString find(const QString &tool)
     {
-        const QString there = QStandardPaths::findExecutable(tool);
-        return !there.isEmpty() ? there
-                                : QStandardPaths::findExecutable(
-                                      tool, {QStringLiteral("/usr/sbin"), QStringLiteral("/sbin")});
+        return QStandardPaths::findExecutable(
+            tool, {QStringLiteral("/usr/sbin"), QStringLiteral("/sbin"), QStringLiteral("/usr/bin")});
     }
 
     QTemporaryDir m_folder;

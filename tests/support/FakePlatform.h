@@ -63,6 +63,7 @@ public:
     QMap<QChar, Volume> volumes; ///< by upper-case letter
     /// Runs for each command line; false means that the interpreter did not start.
     std::function<bool(const QString &line)> onCommand;
+    QString stateFolder; ///< none as long as it is empty
     QString systemFolder = QStringLiteral("C:\\Windows\\system32");
     std::function<qint32(const QString &url, const QString &path, const DownloadLimits &limits)> onDownload;
     std::function<void(quint32 milliseconds)> onSleep; ///< instead of a pause
@@ -112,24 +113,12 @@ public:
 
     bool ReadFile(RawHandle handle, void *buffer, quint32 bytes, quint32 *transferred) override
     {
-        return transfer(handle, false, bytes, transferred, [buffer](Disk *disk, qint64 at, int length) {
-            if (touches(disk->badSectors, at, length))
-                return false;
-            const QByteArray piece =
-                at < disk->bytes.size() ? disk->bytes.mid(int(at), length) : QByteArray();
-            std::memcpy(buffer, piece.leftJustified(length, '\0').constData(), size_t(length));
-            return true;
-        });
+        return transfer(handle, false, static_cast<char *>(buffer), bytes, transferred);
     }
 
     bool WriteFile(RawHandle handle, const void *buffer, quint32 bytes, quint32 *transferred) override
     {
-        return transfer(handle, true, bytes, transferred, [buffer](Disk *disk, qint64 at, int length) {
-            if (touches(disk->unwritable, at, length) || at + length > disk->bytes.size())
-                return false;
-            disk->bytes.replace(int(at), length, static_cast<const char *>(buffer), length);
-            return true;
-        });
+        return transfer(handle, true, static_cast<char *>(const_cast<void *>(buffer)), bytes, transferred);
     }
 
     bool DeviceIoControl(RawHandle handle, quint32 code, const void *in, quint32 inSize, void *out,
@@ -218,6 +207,7 @@ public:
     QString GetSystemDirectoryW() override { return systemFolder; }
     QString GetUserNameW() override { return QStringLiteral("tester"); }
     QString HistoryFolder(const QString &) override { return m_folder.path(); }
+    QString StateFolder() override { return stateFolder; }
     QString MakePrivateFolder(const QString &name) override
     {
         const QString path = m_folder.filePath(name);
@@ -285,20 +275,27 @@ private:
         return name.size() == 6 && volumes.contains(name.at(4)) ? &volumes[name.at(4)].raw : nullptr;
     }
 
-    template<typename Copy>
-    bool transfer(RawHandle handle, bool isWrite, quint32 bytes, quint32 *transferred, Copy copy)
+    bool transfer(RawHandle handle, bool isWrite, char *buffer, quint32 bytes, quint32 *transferred)
     {
         if (!m_handles.contains(handle))
             return false;
         Handle &open = m_handles[handle];
         Disk *disk = find(open.name);
-        if (onTransfer && !onTransfer(isWrite, open.position / 512, bytes))
+        const qint64 at = open.position;
+        if (onTransfer && !onTransfer(isWrite, at / 512, bytes))
             return false;
-        if (disk->endsHard && open.position + bytes > disk->length())
+        if (disk->gone || at >= disk->length())
             return false;
-        const qint64 length = qMin<qint64>(bytes, disk->length() - open.position);
-        if (disk->gone || length <= 0 || !copy(disk, open.position, int(length)))
+        const auto length = int(qMin<qint64>(bytes, disk->length() - at));
+        if ((disk->endsHard && at + bytes > disk->length()) ||
+            touches(isWrite ? disk->unwritable : disk->badSectors, at, length) ||
+            (isWrite && at + length > disk->bytes.size()))
             return false;
+        const QByteArray piece = at < disk->bytes.size() ? disk->bytes.mid(int(at), length) : QByteArray();
+        if (isWrite)
+            disk->bytes.replace(int(at), length, buffer, length);
+        else
+            std::memcpy(buffer, piece.leftJustified(length, '\0').constData(), size_t(length));
         open.position += length;
         if (transferred)
             *transferred = quint32(length);

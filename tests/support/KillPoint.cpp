@@ -78,16 +78,6 @@ int rename(const char *from, const char *to) noexcept
     return pass<int>(inFolder(to), "rename", from, to);
 }
 
-int renameat2(int fromFolder, const char *from, int toFolder, const char *to, unsigned flags) noexcept
-{
-    return pass<int>(inFolder(to), "renameat2", fromFolder, from, toFolder, to, flags);
-}
-
-int link(const char *from, const char *to) noexcept
-{
-    return pass<int>(inFolder(to), "link", from, to);
-}
-
 int linkat(int fromFolder, const char *from, int toFolder, const char *to, int flags) noexcept
 {
     return pass<int>(inFolder(to), "linkat", fromFolder, from, toFolder, to, flags);
@@ -96,11 +86,6 @@ int linkat(int fromFolder, const char *from, int toFolder, const char *to, int f
 int unlink(const char *path) noexcept
 {
     return pass<int>(inFolder(path), "unlink", path);
-}
-
-int ftruncate64(int descriptor, off64_t size) noexcept
-{
-    return pass<int>(inFolder(descriptor), "ftruncate64", descriptor, size);
 }
 
 int fdatasync(int descriptor)

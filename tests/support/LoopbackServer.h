@@ -2,6 +2,8 @@
 #pragma once
 
 #include <QSemaphore>
+#include <QSslConfiguration>
+#include <QSslSocket>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QThread>
@@ -16,7 +18,9 @@ public:
     /// Answers a whole request. Called on the server's thread.
     using Answer = std::function<void(QTcpSocket *client, const QByteArray &request)>;
 
-    explicit LoopbackServer(Answer answer) : m_answer(std::move(answer))
+    /// With a certificate and its key it is a server of https.
+    explicit LoopbackServer(Answer answer, const QSslConfiguration &ssl = {})
+        : m_answer(std::move(answer)), m_ssl(ssl)
     {
         start();
         m_ready.acquire();
@@ -26,12 +30,17 @@ public:
         quit();
         wait();
     }
-    QByteArray link() const { return "http://127.0.0.1:" + QByteArray::number(m_nPort) + '/'; }
+    QByteArray link() const
+    {
+        return (m_ssl.isNull() ? "http://127.0.0.1:" : "https://127.0.0.1:") + QByteArray::number(m_nPort) +
+               '/';
+    }
 
 protected:
     void run() override
     {
-        QTcpServer server;
+        Listener server;
+        server.ssl = m_ssl;
         if (!server.listen(QHostAddress::LocalHost))
             qFatal("no port to serve at");
         m_nPort = server.serverPort();
@@ -49,7 +58,23 @@ protected:
     }
 
 private:
+    struct Listener : public QTcpServer {
+        QSslConfiguration ssl;
+
+        void incomingConnection(qintptr handle) override
+        {
+            auto *socket = new QSslSocket(this);
+            socket->setSocketDescriptor(handle);
+            if (!ssl.isNull()) {
+                socket->setSslConfiguration(ssl);
+                socket->startServerEncryption();
+            }
+            addPendingConnection(socket);
+        }
+    };
+
     const Answer m_answer;
+    const QSslConfiguration m_ssl;
     QSemaphore m_ready;
     quint16 m_nPort = 0;
 };

@@ -1,22 +1,30 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/platform/DescribedFolder.h"
 #include "tests/support/Files.h"
+#include "tour/LayoutCheck.h"
 
 #include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLabel>
 #include <QProcess>
+#include <QScrollArea>
 #include <QTest>
 
 /// The tour as a program: its exit status and the files that it leaves. The tour of the demo PC shows the
-/// chapters.
+/// chapters. And the faults that it finds in the layout of a window.
 class tst_Tour : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void init() { m_pc = std::make_unique<DescribedFolder>(); }
+    void init()
+    {
+        m_pc = std::make_unique<DescribedFolder>();
+        m_window = std::make_unique<QWidget>();
+        m_window->resize(400, 300);
+    }
 
     void walksEveryScreenOfEveryDisk()
     {
@@ -38,8 +46,11 @@ private slots:
                                      "disk-partition", "scan-chooser", "clone-select"})
                 wanted << QLatin1String(step) + QLatin1String(number);
         }
-        wanted << QStringLiteral("menu3") << QStringLiteral("more-tools3");
+        wanted << QStringLiteral("busy3") << QStringLiteral("menu3") << QStringLiteral("more-tools3")
+               << QStringLiteral("drive-list3");
         QCOMPARE(names.mid(0, wanted.size()), wanted);
+        tellsWhatShows(
+            screens()["steps"].toArray().at(wanted.indexOf(QStringLiteral("smart-status3"))).toObject());
         QCOMPARE(names.filter(QStringLiteral("hurry")).size(), 4);
         QVERIFY(names.last().startsWith(QLatin1String("dialog:CloseWgt")));
         QVERIFY(titles.contains(QStringLiteral("Graph : Critical Warning")));
@@ -68,7 +79,88 @@ private slots:
         QVERIFY(!QFile::exists(out({})));
     }
 
+    void findsClippedText()
+    {
+        const auto clipped = [this](const QRect &rect, bool wraps = false) {
+            init();
+            label("text", "Existing data will be lost.   ", rect)->setWordWrap(wraps);
+            m_window->show();
+            return layoutcheck::clipped(m_window.get(), QString()).size();
+        };
+        QCOMPARE(clipped({0, 0, 300, 30}), 0);
+        QCOMPARE(clipped({0, 0, 60, 30}), 1); // too narrow
+        QCOMPARE(clipped({0, 0, 300, 6}), 1); // too low
+        QCOMPARE(clipped({0, 0, 100, 200}, true), 0);
+        QCOMPARE(clipped({0, 0, 100, 25}, true), 1);
+        QCOMPARE(clipped({350, 0, 300, 30}), 1); // out of the window
+        QCOMPARE(clipped({5, 0, 500, 30}), 0);   // only its blank end is out of it
+    }
+
+    void forgivesWhatCanBeScrolledTo()
+    {
+        auto *area = new QScrollArea(m_window.get());
+        area->setGeometry(0, 0, 200, 50);
+        auto *host = new QWidget;
+        host->resize(180, 500);
+        auto *below = new QLabel(QStringLiteral("Partition"), host);
+        below->setGeometry(0, 300, 150, 20);
+        area->setWidget(host);
+        m_window->show();
+        QVERIFY(below->isVisible());
+        QCOMPARE(layoutcheck::clipped(m_window.get(), QString()), QJsonArray());
+    }
+
+    void findsOverlaps()
+    {
+        label("one", "a", {0, 0, 100, 20});
+        label("touching", "b", {99, 0, 100, 20});
+        label("empty", "", {0, 0, 100, 20});
+        m_window->show();
+        QCOMPARE(layoutcheck::overlaps(m_window.get(), QString()), QJsonArray());
+        label("over", "c", {0, 10, 50, 20})->show();
+        const QJsonArray found = layoutcheck::overlaps(m_window.get(), QString());
+        QCOMPARE(found.size(), 1);
+        QCOMPARE(found[0]["names"].toArray(), (QJsonArray{"one", "over"}));
+    }
+
 private:
+    QLabel *label(const char *name, const char *text, const QRect &rect)
+    {
+        auto *made = new QLabel(QLatin1String(text), m_window.get());
+        made->setObjectName(QLatin1String(name));
+        made->setGeometry(rect);
+        return made;
+    }
+
+    /// The widgets from top to bottom, without the hidden ones.
+    static void tellsWhatShows(const QJsonObject &step)
+    {
+        QStringList told;
+        int top = 0;
+        for (const QJsonValue &widget : step["widgets"].toArray()) {
+            QVERIFY(widget["y"].toInt() >= top);
+            top = widget["y"].toInt();
+            if (QStringList{"DriveCombobox", "CloneDiskButton", "ScanButton"}.contains(
+                    widget["name"].toString()))
+                told << widget["text"].toString() << widget["image"].toString()
+                     << widget["enabled"].toVariant().toString();
+        }
+        const QString disk = "Oskarn OKM080A2-05 | OK-83H2F6610 | 160.00 MB";
+        QCOMPARE(told, (QStringList{disk, "", "true", "   Clone Disk",
+                                    ":/images/Resources/144-DPI/img_CloneDiskNormal.png", "true"}));
+        const QJsonValue combo = step["combos"][0];
+        QCOMPARE(combo["items"][combo["current"].toInt()].toObject(),
+                 (QJsonObject{{"text", disk}, {"data", 131}}));
+        QCOMPARE(step["trees"][0]["hidden"].toArray(), (QJsonArray{7, 8, 9, 10, 11}));
+        const QJsonArray row = step["trees"][0]["rows"][3].toArray();
+        QCOMPARE(row[0].toObject(), (QJsonObject{{"text", "5"}, {"color", "#000000"}}));
+        QCOMPARE(row[6].toObject(), (QJsonObject{{"text", "18"}, {"color", "#c00000"}}));
+        const QJsonValue chart = step["charts"][0];
+        QCOMPARE(chart["series"][1]["points"].toArray(),
+                 (QJsonArray{QJsonArray{40, 1284}, QJsonArray{40, 1285}}));
+        QCOMPARE(chart["axes"].toArray().size(), 3);
+    }
+
     /// The exit status on a PC of two disks, numbered 0 and 3, whose tool takes a while.
     int tour(const QByteArray &more, const QByteArray &secondReports, int limit = 30) const
     {
@@ -97,7 +189,8 @@ private:
     QJsonObject screens() const { return QJsonDocument::fromJson(contentOf(out("screens.json"))).object(); }
 
     std::unique_ptr<DescribedFolder> m_pc;
+    std::unique_ptr<QWidget> m_window;
 };
 
-QTEST_GUILESS_MAIN(tst_Tour)
+QTEST_MAIN(tst_Tour)
 #include "tst_Tour.moc"

@@ -13,7 +13,26 @@
 #include "ui/window/MainWindow.h"
 
 #include <QAction>
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QLineEdit>
 #include <QtTest>
+
+/// This window is the one in front for as long as this lives; null: none of the program's is. Windows of
+/// other programs come and go meanwhile.
+class InFront
+{
+public:
+    explicit InFront(QWidget *window)
+    {
+        const auto keep = [window] { QApplication::setActiveWindow(window); };
+        QObject::connect(qApp, &QGuiApplication::focusWindowChanged, &m_context, keep);
+        keep();
+    }
+
+private:
+    QObject m_context;
+};
 
 /// The real window on a described PC of its own for each test.
 class WindowFixture
@@ -47,9 +66,9 @@ protected:
     }
 
     /// Installs the PC of `json` and loads its disks. Its reports have to exist already.
-    void startPc(const QByteArray &json)
+    void startPc(const QByteArray &json, simulated::Clock clock = {})
     {
-        auto pc = m_pFolder->open(json);
+        auto pc = m_pFolder->open(json, std::move(clock));
         m_strState = pc->stateFolder();
         g_App.m_strSystemFolder = pc->GetSystemDirectoryW();
         g_App.m_bUse64BitTool = true;
@@ -68,9 +87,9 @@ protected:
     }
 
     /// The window on the PC of `json`, after its first read.
-    void openWindow(const QByteArray &json)
+    void openWindow(const QByteArray &json, simulated::Clock clock = {})
     {
-        startPc(json);
+        startPc(json, std::move(clock));
         makeWindow();
         waitForRest();
     }
@@ -110,12 +129,44 @@ protected:
         QTest::mousePress(child<MyButton>(button), Qt::LeftButton);
         QTest::mouseRelease(child<MyButton>(button), Qt::LeftButton);
     }
+    /// Goes to a screen and waits until the disk was read for it.
+    void goTo(const char *button) const
+    {
+        press(button);
+        waitForRest();
+    }
     void click(const char *button) const { child<QAbstractButton>(button)->click(); }
     /// Answers the visible dialog of this class.
     template<typename Dialog>
     void answer(const char *button) const
     {
         buttonOf(dialog<Dialog>(), button)->click();
+    }
+
+    /// Lets `act` open a file dialog and saves there as `path`, as that kind of file; cancels it if the path
+    /// is empty. What the dialog asked: its title, name, filters and the window that it belongs to.
+    QString asked(const std::function<void()> &act, const QString &path, int kind = 0) const
+    {
+        QString told;
+        QTimer answers;
+        QObject::connect(&answers, &QTimer::timeout, [&] {
+            auto *question = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+            if (!question)
+                return;
+            auto *name = question->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+            const QWidget *owner = question->parentWidget();
+            if (told.isEmpty())
+                told = QStringList{question->windowTitle(), name->text(), question->nameFilters().join(';'),
+                                   owner ? owner->metaObject()->className() : ""}
+                           .join('|');
+            question->selectNameFilter(question->nameFilters().at(kind));
+            name->setText(path);
+            const auto button = path.isEmpty() ? QDialogButtonBox::Cancel : QDialogButtonBox::Save;
+            question->findChild<QDialogButtonBox *>()->button(button)->click();
+        });
+        answers.start(20);
+        act();
+        return told;
     }
 
     /// Pulls a disk out without a notice of its volumes.

@@ -4,11 +4,12 @@
 
 #include <QAccessible>
 #include <QClipboard>
-#include <QFileDialog>
-#include <QLineEdit>
 #include <QMenu>
 #include <QRadioButton>
 #include <QTreeWidget>
+#include <private/qguiapplication_p.h>
+#include <qpa/qplatformaccessibility.h>
+#include <qpa/qplatformintegration.h>
 
 /// The whole program by real keys alone, and what a screen reader gets of its controls.
 class tst_Keyboard : public QObject, private WindowFixture
@@ -62,6 +63,13 @@ private slots:
 
     void scanAndSelfTest()
     {
+        QPlatformAccessibility *reader = QGuiApplicationPrivate::platformIntegration()->accessibility();
+        reader->setActive(true);
+        static QStringList announced;
+        const auto before = QAccessible::installUpdateHandler([](QAccessibleEvent *event) {
+            if (event->type() == QAccessible::Alert)
+                announced << event->accessibleInterface()->text(QAccessible::Name);
+        });
         keys(Qt::Key_4, Qt::ControlModifier);
         tabTo("ScanButton");
         keys(Qt::Key_Return);
@@ -74,9 +82,7 @@ private slots:
         QVERIFY(isDown("ScanDiskButton"));
         tabTo("BackTestButton");
         keys(Qt::Key_Space);
-        auto *question = dialog<ScanSwitchClass>();
-        QVERIFY(question);
-        QTest::keyClick(question, Qt::Key_Tab, Qt::ShiftModifier);
+        QTest::keyClick(dialog<ScanSwitchClass>(), Qt::Key_Tab, Qt::ShiftModifier);
         inDialog<ScanSwitchClass>(Qt::Key_Space);
         tabTo("radioButton");
         keys(Qt::Key_Down);
@@ -85,6 +91,9 @@ private slots:
         keys(Qt::Key_Space);
         QTRY_COMPARE(text("TestStatusValLbl"), QStringLiteral("Successfully Completed"));
         QCOMPARE(commands(" -t short "), 1);
+        QAccessible::installUpdateHandler(before);
+        reader->setActive(false);
+        QCOMPARE(announced, (QStringList{"Scan Completed.", "Successfully Completed"}));
     }
 
     void clone()
@@ -110,21 +119,18 @@ private slots:
     void settings()
     {
         tabTo("m_pMenuButton");
-        const auto openMenu = [this] {
-            QTimer choose;
-            connect(&choose, &QTimer::timeout, this, [] {
-                if (QWidget *menu = QApplication::activePopupWidget()) {
-                    QTest::keyClick(menu, Qt::Key_Down);
-                    QTest::keyClick(menu, Qt::Key_Return);
-                }
-            });
-            choose.start(20);
-            keys(Qt::Key_Return);
-            return dialog<Settings>();
-        };
+        QTimer choose;
+        connect(&choose, &QTimer::timeout, this, [] {
+            if (QWidget *menu = QApplication::activePopupWidget()) {
+                QTest::keyClick(menu, Qt::Key_Down);
+                QTest::keyClick(menu, Qt::Key_Return);
+            }
+        });
+        choose.start(20);
         const QString first = QLatin1String(key::LogSavePath.first);
         for (const bool ok : {false, true}) {
-            const Settings *window = openMenu();
+            keys(Qt::Key_Return);
+            const auto *window = dialog<Settings>();
             QVERIFY(window);
             auto *path = window->findChild<QLineEdit *>(QStringLiteral("PathlineEdit"));
             QCOMPARE(path->text(), first);
@@ -152,19 +158,8 @@ private slots:
         QVERIFY(rows.first().startsWith(QStringLiteral("1\tRaw Read Error Rate\t")));
 
         // The report and the screenshot ask for their files.
-        QStringList asked;
-        for (const auto key : {Qt::Key_S, Qt::Key_P}) {
-            QTimer answer;
-            connect(&answer, &QTimer::timeout, this, [&asked] {
-                if (auto *question = qobject_cast<QFileDialog *>(QApplication::activeModalWidget())) {
-                    asked << question->nameFilters();
-                    QTest::keyClick(question, Qt::Key_Escape);
-                }
-            });
-            answer.start(20);
-            keys(key, Qt::ControlModifier);
-        }
-        QCOMPARE(asked, (QStringList{"*.pdf", "JPEG (*.jpg);"}));
+        for (const auto &[key, kind] : {std::pair(Qt::Key_S, "|*.pdf|"), {Qt::Key_P, "|JPEG (*.jpg);|"}})
+            QVERIFY(asked([this, key = key] { keys(key, Qt::ControlModifier); }, QString()).contains(kind));
         const int reads = commands(" -a ");
         keys(Qt::Key_F5);
         waitForRest();

@@ -162,8 +162,7 @@ private:
         add(QStringLiteral("as it stands"), settledLook());
         for (const char *button : {"SmartStatusButton", "DiskPartitionButton", "ScanDiskButton",
                                    "CloneDiskButton", "DiskStatusButton"}) {
-            press(button);
-            waitForRest();
+            goTo(button);
             add(QLatin1String(button), settledLook());
         }
         m_pWindow->OnShowSettings();

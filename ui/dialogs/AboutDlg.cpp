@@ -50,11 +50,11 @@ AboutDlg::AboutDlg(QWidget *parent) : QDialog(parent), m_Frame(this)
 void AboutDlg::translateTexts()
 {
     const SettingsStore store;
-    m_Frame.label("VersionLabel")->setText(tr("Version ") + store.text(key::rxVersion));
-    m_Frame.label("LegalLabel")->setText(store.text(key::CopyrightText));
+    m_Frame.label("VersionLabel")->setText(tr("Version ") + store.textOrFirst(key::rxVersion));
+    m_Frame.label("LegalLabel")->setText(store.textOrFirst(key::CopyrightText));
     m_Frame.label("SystemLabel")->setText(Platform::current().OperatingSystemName());
-    m_Frame.label("SupportNameLabel")->setText(languages::storedText(key::SupportName));
-    const QString address = languages::storedText(key::SupportLink).toHtmlEscaped();
+    m_Frame.label("SupportNameLabel")->setText(languages::shownText(key::SupportName));
+    const QString address = languages::shownText(key::SupportLink).toHtmlEscaped();
     m_Frame.label("SupportLabel")
         ->setText(address.isEmpty()
                       ? QString()

@@ -247,11 +247,7 @@ void DialogFrame::styleButtons() const
 {
     const auto buttons = m_pWindow->findChildren<QPushButton *>();
     for (QPushButton *button : buttons) {
-        const bool main = button == m_pMain;
-        style::styleButton(button, main ? style::ButtonRole::Main : style::ButtonRole::Light);
-        const QString focus = main ? QStringLiteral("QPushButton:focus{border-color: @mainPressed;}")
-                                   : QStringLiteral("QPushButton:focus{border-color: @accent;}");
-        button->setStyleSheet(button->styleSheet() + style::sheet(focus));
+        style::styleButton(button, button == m_pMain ? style::ButtonRole::Main : style::ButtonRole::Light);
         button->setProperty(LeastWidth, button->minimumWidth());
     }
 }

@@ -223,6 +223,12 @@ TemperatureWarning::TemperatureWarning(const DialogShape &shape, const NumberSet
     connect(this, &MessageDialog::dismissed, this, &TemperatureWarning::OnOk);
 }
 
+void TemperatureWarning::NameDisk(const QString &text)
+{
+    m_Frame.label("MediaNameLbl")->setText(text);
+    m_Frame.fit();
+}
+
 void TemperatureWarning::OnDontShowClicked()
 {
     SettingsStore().write(m_Setting, 1);

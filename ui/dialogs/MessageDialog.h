@@ -116,6 +116,10 @@ class TemperatureWarning : public MessageDialog
 {
     Q_OBJECT
 
+public:
+    /// Shows which disk it is, or which disks, a line for each.
+    void NameDisk(const QString &text);
+
 public slots:
     void OnOk() { hide(); }
     /// Stores that this warning is no longer wanted, and hides it.

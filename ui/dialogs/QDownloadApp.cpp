@@ -3,6 +3,7 @@
 
 #include "platform/Platform.h"
 #include "state/Languages.h"
+#include "state/SettingsStore.h"
 #include "ui/dialogs/MessageDialog.h"
 #include "ui/widgets/Style.h"
 #include "update/UpdateCheck.h"
@@ -36,12 +37,12 @@ const DialogShape Shape = {"DownloadUpdate",
                            "",
                            true};
 
-/// The text is a heading, an empty line and a sentence.
-void tellFailure(QWidget *parent, const QString &title, const QString &text)
+/// The text is a heading, an empty line and a sentence. Another sentence can take the place of that one.
+void tellFailure(QWidget *parent, const QString &title, const QString &text, const QString &other)
 {
     const QString gap = QStringLiteral("\n\n");
     InfoDialogClass box(parent);
-    box.SetTexts(title, text.section(gap, 0, 0).trimmed(), text.section(gap, 1));
+    box.SetTexts(title, text.section(gap, 0, 0).trimmed(), other.isEmpty() ? text.section(gap, 1) : other);
     box.exec();
 }
 
@@ -57,7 +58,9 @@ QDownloadApp::QDownloadApp(QWidget *parent) : QDialog(parent), m_Frame(this)
     update::removeVersions();
     update::removeLeftovers();
     m_pProgressBar->setMaximum(update::expectedSize());
-    m_thread.m_strUrl = languages::storedText(key::rxUpdateLink) + update::installerName();
+    m_thread.m_strLink = languages::storedText(key::rxUpdateLink);
+    m_thread.m_strUrl = m_thread.m_strLink + update::installerName();
+    m_thread.m_strInstalled = SettingsStore().text(key::rxVersion);
     m_thread.m_limits = update::installerLimits(update::expectedSize());
     m_timer.setInterval(ProgressInterval);
     connect(&m_timer, &QTimer::timeout, this, &QDownloadApp::OnTimerLoadSlot);
@@ -144,6 +147,10 @@ void QDownloadApp::clearProgress(const QString &blank)
 
 void QDownloadApp::OnDownloadFinish(QString strDownloadPath)
 {
+    if (!m_thread.mayStart()) {
+        OnDownloadFailed();
+        return;
+    }
     clearProgress(QStringLiteral("      "));
     hide();
     Platform::current().ShellExecuteW(strDownloadPath, QString(), QString());
@@ -154,6 +161,8 @@ void QDownloadApp::OnDownloadFailed()
 {
     clearProgress(QStringLiteral("      "));
     hide();
-    tellFailure(this, tr("Software Update"), tr("Update failed \n\nUpdate failed due to partial download."));
+    tellFailure(this, tr("Software Update"), tr("Update failed \n\nUpdate failed due to partial download."),
+                m_thread.wasRefused() ? tr("The update could not be verified and was not started.")
+                                      : QString());
     reject();
 }

@@ -10,8 +10,9 @@
 
 class QProgressBar;
 
-/// Loads the installer, starts it, and ends the program so that it can be replaced. The constructor begins
-/// the download, which cannot be stopped. Emits finished() where it failed.
+/// Loads the installer, checks it if the publisher's key is built in, starts it, and ends the program so that
+/// it can be replaced. The constructor begins the download, which cannot be stopped. Emits finished() where
+/// it failed.
 class QDownloadApp : public QDialog
 {
     Q_OBJECT

@@ -7,10 +7,9 @@
 #include "state/GlobalApp.h"
 #include "state/JobState.h"
 #include "ui/dialogs/MessageDialog.h"
+#include "ui/dialogs/SavePath.h"
 #include "ui/widgets/QRoundProgressBar.h"
 #include "ui/widgets/Style.h"
-
-#include <QFileDialog>
 
 namespace
 {
@@ -84,8 +83,6 @@ void CloneDisk::stylePage()
         combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     }
     pagelook::alignNames({m_ui.SourceDisk, m_ui.TargetDiskLbl});
-    m_ui.SourceComboBox->setAccessibleName(m_ui.SourceDisk->text());
-    m_ui.DestinationComboBox->setAccessibleName(m_ui.TargetDiskLbl->text());
     m_pRoundProgressBar->setAccessibleName(tr("Clone Disk"));
 }
 
@@ -177,17 +174,27 @@ void CloneDisk::showRunning(bool bRunning)
 {
     style::setVisible({m_ui.DiskDetailLbl, m_ui.ExtraLbl, m_ui.SourceFrame, m_ui.DesitanionFrame}, !bRunning);
     ShowTargetDetails(!bRunning);
-    style::setVisible(
-        {m_ui.ProgressLabel, m_ui.TimeLabel, m_ui.TimeLabel2, m_ui.TimeSpaceLbl, m_ui.TimeSpaceLbl_2},
-        bRunning);
+    style::setVisible({m_ui.ProgressLabel, m_ui.TimeSpaceLbl, m_ui.TimeSpaceLbl_2}, bRunning);
+}
+
+/// The remaining time, or nothing of it where the text is empty.
+void CloneDisk::showRemaining(const QString &time)
+{
+    m_strLastMinutes = time;
+    OnUpdateTime();
+}
+
+void CloneDisk::OnUpdateTime()
+{
+    m_ui.TimeLabel->setText(m_strLastMinutes);
+    style::setVisible({m_ui.TimeLabel, m_ui.TimeLabel2}, !m_strLastMinutes.isEmpty());
 }
 
 void CloneDisk::StartClone()
 {
     g_Jobs.begin(JobState::Job::Clone);
     m_pMessageBox->hide();
-    m_strLastMinutes.clear();
-    m_ui.TimeLabel->clear();
+    showRemaining(QString());
     showRunning(true);
     m_pRoundProgressBar->SetValue(0);
     m_pRoundProgressBar->setAccessibleDescription(clonemessages::gaugeText(0));
@@ -197,8 +204,7 @@ void CloneDisk::StartClone()
 
 void CloneDisk::OnSetProgressValue(qlonglong position, qlonglong remaining)
 {
-    m_strLastMinutes = clonemessages::remainingText(remaining);
-    OnUpdateTime();
+    showRemaining(clonemessages::remainingText(remaining));
     const int percent = clonemessages::percentDone(position, m_nSourceSectors);
     m_pRoundProgressBar->SetValue(percent);
     m_pRoundProgressBar->setAccessibleDescription(clonemessages::gaugeText(percent));
@@ -216,8 +222,8 @@ void CloneDisk::ShowMessage(const clonemessages::Message &message)
 
 void CloneDisk::OnSaveLostSectors()
 {
-    const QString path = QFileDialog::getSaveFileName(m_pMessageBox, tr("Save List"),
-                                                      QStringLiteral("clone.map"), QStringLiteral("*.map"));
+    const QString path = askForPath(m_pMessageBox, tr("Save List"), QStringLiteral("clone"),
+                                    {{QStringLiteral("*.map"), QStringLiteral(".map")}});
     const CloneOutcome &outcome = m_cloneThread.outcome();
     if (!path.isEmpty() && !rescuemap::save(path, outcome.lost, outcome.total))
         m_pMessageBox->SetSecondText(tr("The list could not be saved."));
@@ -241,7 +247,7 @@ void CloneDisk::OnDriveCloneFinish()
     g_Jobs.end(JobState::Job::Clone);
     const CloneOutcome &outcome = m_cloneThread.outcome();
     if (outcome.end == CloneOutcome::End::Complete || outcome.end == CloneOutcome::End::WithErrors) {
-        m_ui.TimeLabel->clear();
+        showRemaining(QString());
         m_pRoundProgressBar->SetValue(100);
         m_pRoundProgressBar->setAccessibleDescription(clonemessages::gaugeText(100));
         m_ui.ProgressLabel->repaint();
@@ -257,7 +263,7 @@ void CloneDisk::OnDriveCloneFinish()
 void CloneDisk::OnOk()
 {
     m_pMessageBox->hide();
-    m_ui.TimeLabel->clear();
+    showRemaining(QString());
     if (!g_Jobs.mayQuit())
         return;
     showRunning(false);

@@ -77,7 +77,7 @@ public slots:
     void OnCloningFailed();
     void OnCloningAbort();
     void OnOk();
-    void OnUpdateTime() { m_ui.TimeLabel->setText(m_strLastMinutes); }
+    void OnUpdateTime();
     void OnSaveLostSectors();
 
 protected:
@@ -87,6 +87,7 @@ private:
     void stylePage();
     void clearDestinations();
     void showRunning(bool bRunning);
+    void showRemaining(const QString &time);
 
     Ui::m_pCloneDiskwgt m_ui;
     int m_nDestinationIndex = 0;  ///< row in DestinationComboBox, 0: none chosen

@@ -2,6 +2,7 @@
 #include "ui/screens/SaveListButton.h"
 
 #include "reports/SmartReport.h"
+#include "scan/LastScan.h"
 #include "scan/ScanGlobals.h"
 #include "ui/dialogs/MessageDialog.h"
 #include "ui/dialogs/SavePath.h"
@@ -28,6 +29,7 @@ void SaveListButton::begin(const ScanRecord &record)
 void SaveListButton::end(ScanRecord::End how)
 {
     m_record.end = how;
+    lastscan::keep(m_record, scanrecord::badSectors(m_record, g_BadSectors));
     setEnabled(m_record.canBeSaved(g_BadSectors));
 }
 

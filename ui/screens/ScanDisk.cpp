@@ -62,7 +62,6 @@ ScanDisk::ScanDisk(QWidget *parent) : Page(parent)
     styleChooser();
     styleCounters();
     clearCounts();
-    setTimeCaptions();
     FillDisk(nullptr);
     ShowChooser();
 }
@@ -123,10 +122,11 @@ void ScanDisk::styleCounters()
     pagelook::styleCard(m_ui.frame_4);
 }
 
+/// A caption stands only above its value.
 void ScanDisk::setTimeCaptions()
 {
-    m_ui.TimeReLbl->setText(tr("Time Remaining"));
-    m_ui.TimeElapsedLbl->setText(tr("Time Elapsed"));
+    m_ui.TimeReLbl->setText(m_ui.RemTimeValLbl->text().isEmpty() ? QString() : tr("Time Remaining"));
+    m_ui.TimeElapsedLbl->setText(m_ui.ElapsedValLbl->text().isEmpty() ? QString() : tr("Time Elapsed"));
 }
 
 /// Tells a screen reader what the map shows.
@@ -221,15 +221,13 @@ void ScanDisk::StartScan(const QString &name)
     m_ui.frame_4->show();
     m_ui.frame->show();
     g_BadSectors.clear();
-    m_ui.RemTimeValLbl->clear();
-    m_ui.ElapsedValLbl->clear();
+    clearTimes();
     // The timer of the last scan keeps running; it does the same.
     m_pUpdateTimer = new QTimer(this);
     connect(m_pUpdateTimer, &QTimer::timeout, this, &ScanDisk::OnUpdateTime);
     m_pUpdateTimer->start(UpdateInterval);
     m_clock.forgetEstimate();
     m_sinceStart.start();
-    setTimeCaptions();
     PrepareMap(g_App.m_pCurrentDisk);
     if (g_nMapTotalSectors > ScanBlockCount)
         g_nMapStep = g_nMapTotalSectors / ScanBlockCount;
@@ -260,8 +258,9 @@ void ScanDisk::DropResults()
 
 void ScanDisk::clearTimes()
 {
-    for (QLabel *time : {m_ui.ElapsedValLbl, m_ui.RemTimeValLbl, m_ui.TimeElapsedLbl, m_ui.TimeReLbl})
-        time->clear();
+    m_ui.ElapsedValLbl->clear();
+    m_ui.RemTimeValLbl->clear();
+    setTimeCaptions();
 }
 
 void ScanDisk::CentreResult()
@@ -324,6 +323,7 @@ void ScanDisk::OnUpdateTime()
     if (const auto remaining = m_clock.remainingText(elapsed))
         m_ui.RemTimeValLbl->setText(*remaining);
     m_ui.ElapsedValLbl->setText(ScanClock::elapsedText(elapsed));
+    setTimeCaptions();
     describeMap();
 }
 
@@ -368,9 +368,7 @@ void ScanDisk::showResult(const QString &verdict)
 void ScanDisk::retranslate()
 {
     m_ui.retranslateUi(this);
-    // A finished scan leaves the times empty, captions included.
-    if (g_bJobRunning)
-        setTimeCaptions();
+    setTimeCaptions();
     showBlockSize();
     describeMap();
 }

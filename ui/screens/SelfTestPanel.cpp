@@ -70,7 +70,9 @@ void SelfTestPanel::Show(const SelfTest::Shown &shown)
         m_ui.TestPercentValLbl->setText(QString::number(shown.percent) + QLatin1Char('%'));
     }
     style::setVisible({m_ui.TestProgressBar, m_ui.TestPercentValLbl}, shown.progress);
-    style::setVisible({m_ui.PollingCard, m_ui.RemainingCard, m_ui.ElapsedCard}, shown.times);
+    m_ui.PollingCard->setVisible(shown.times && shown.pollingMinutes);
+    m_ui.RemainingCard->setVisible(shown.times && shown.remainingMinutes);
+    m_ui.ElapsedCard->setVisible(shown.times && !shown.elapsed.isEmpty());
     m_ui.TestStatusValLbl->setStyleSheet(sheetOf(shown.status.value_or(selftest::Told::InProgress)));
     m_ui.TestStatusValLbl->setText(
         shown.status ? QCoreApplication::translate("MainWindow", selftest::shownWords(*shown.status))

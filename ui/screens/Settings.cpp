@@ -48,8 +48,7 @@ Settings::Settings() : Page(nullptr), m_Frame(this), m_pLanguageMenu(new QMenu(t
 void Settings::fillFields()
 {
     m_ui.PathlineEdit->setPlaceholderText(settings::defaultLogPath(g_App.m_strSystemFolder));
-    m_strLogPath = QLatin1String(key::LogSavePath.first);
-    m_ui.PathlineEdit->setText(m_strLogPath);
+    m_ui.PathlineEdit->setText(QLatin1String(key::LogSavePath.first));
     m_ui.WarningSpinBox->setValue(key::WarningValue.first);
     m_ui.ShutDownSpinBox->setValue(key::ShutDownValue.first);
 }
@@ -176,6 +175,14 @@ void Settings::showValues(const settings::Values &values)
     for (QComboBox *unit : {m_ui.degreeComboBox_2, m_ui.degreeComboBox_3})
         unit->setEnabled(values.alarm);
     setThresholds(values.warning, values.shutDown);
+    m_ui.LogChkBox->setChecked(values.log);
+    OnLogEventStateChanged(values.log ? Qt::Checked : Qt::Unchecked);
+    m_ui.PathlineEdit->setText(values.logPath);
+    const bool limited = values.logKilobytes > 0;
+    m_ui.SizeLimitChkBox->setChecked(limited);
+    m_ui.LogLImitSpinBox->setEnabled(limited);
+    if (limited)
+        m_ui.LogLImitSpinBox->setValue(values.logKilobytes);
 }
 
 void Settings::ApplyFirstRunDefaults()
@@ -184,11 +191,6 @@ void Settings::ApplyFirstRunDefaults()
     if (SettingsStore().flag(key::FirstTimeLaunch))
         return;
     m_ui.StartupChkBox->setChecked(false);
-    m_ui.LogChkBox->setChecked(true);
-    OnLogEventStateChanged(Qt::Checked);
-    m_ui.SizeLimitChkBox->setChecked(true);
-    m_ui.LogLImitSpinBox->setEnabled(true);
-    m_ui.LogLImitSpinBox->setValue(key::MaxLogSize.first);
     settings::Values values = settings::firstRun();
     values.unit = settings::Fahrenheit;
     showValues(values);
@@ -197,18 +199,16 @@ void Settings::ApplyFirstRunDefaults()
 void Settings::LoadFromStore()
 {
     m_ui.degreeComboBox->setCurrentIndex(settings::Celsius);
-    m_ui.PathlineEdit->setText(m_strLogPath); // what was left by Escape goes
-    showValues(settings::load());
+    showValues(settings::load()); // what was left by Escape goes
 }
 
 void Settings::SaveToStore()
 {
     const bool alarm = m_ui.WarningTemp->isChecked();
     setAlarmEnabled(alarm);
-    m_strLogPath = m_ui.PathlineEdit->text();
     settings::save({WantsTray(), m_ui.degreeComboBox->currentIndex(), alarm, m_ui.WarningSpinBox->value(),
-                    m_ui.ShutDownSpinBox->value()},
-                   m_strLogPath);
+                    m_ui.ShutDownSpinBox->value(), m_ui.LogChkBox->isChecked(), m_ui.PathlineEdit->text(),
+                    m_ui.SizeLimitChkBox->isChecked() ? m_ui.LogLImitSpinBox->value() : 0});
 }
 
 void Settings::OnLogEventStateChanged(int state)

@@ -31,7 +31,7 @@ public:
     /// as done.
     void LoadFromStore();
 
-    /// Stores units, alarm, thresholds (as shown, in the shown unit) and log path.
+    /// Stores units, alarm, thresholds (as shown, in the shown unit) and what belongs to the log.
     void SaveToStore();
 
     /// Whether the status is to show in the tray.
@@ -88,5 +88,4 @@ private:
     std::array<QAction *, LanguageCount> m_apLanguageActions{};
     DialogFrame m_Frame;
     QMenu *m_pLanguageMenu;
-    QString m_strLogPath; ///< what OK stored last, before that the text of a first run
 };

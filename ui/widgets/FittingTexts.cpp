@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QStyleOptionComboBox>
 #include <QStylePainter>
+#include <QStyledItemDelegate>
 
 #include <algorithm>
 
@@ -108,6 +109,11 @@ void DetailLabel::paintEvent(QPaintEvent *)
 
 void ElidingComboBox::showPopup()
 {
+    // The delegate of a combo does not know the rules of a style sheet for entries. Another one makes the
+    // window of the list at once, and the window's form, which fixes the size of all that it finds, must not
+    // find that.
+    if (!qobject_cast<QStyledItemDelegate *>(itemDelegate()))
+        setItemDelegate(new QStyledItemDelegate(this));
     for (int i = 0; i < count(); ++i)
         setItemData(i, style::wholeTip(itemText(i)), Qt::ToolTipRole);
     QComboBox::showPopup();

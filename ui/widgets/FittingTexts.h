@@ -63,7 +63,7 @@ private:
 };
 
 /// A combo box that elides a current text too long for it; a tool tip holds the whole text then, and that of
-/// each entry of the list.
+/// each entry of the list. Its entries look as the window's fields do.
 class ElidingComboBox : public QComboBox
 {
 public:

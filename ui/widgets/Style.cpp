@@ -58,6 +58,17 @@ void scaleLayout(QLayout *layout)
 
 } // namespace
 
+void substituteFonts(bool chinese)
+{
+    // The families behind the first one supply the letters that it lacks. That for Hindi is as tall as the
+    // first one, so that texts of both scripts stand on one line.
+    QStringList families{QStringLiteral("Open Sans"), QStringLiteral("Noto Sans Devanagari UI")};
+    // Without one for Chinese the system takes any, often with Japanese shapes.
+    if (chinese)
+        families << QStringLiteral("Microsoft YaHei") << QStringLiteral("Noto Sans CJK SC");
+    QFont::insertSubstitutions(QStringLiteral("Segoe UI"), families);
+}
+
 QFont font(int points, bool italic)
 {
     return QFont(QStringLiteral("Segoe UI"), points, QFont::Normal, italic);
@@ -220,13 +231,15 @@ QString fieldSheet()
     // %1 is the border radius, %2 the side padding, %3 the width of the arrows, %11 that of a scroll bar.
     static const char *const text =
         "QComboBox{background: @white; border: 1px solid #c9d2db; border-radius: %1px; padding: 0px %2px; "
-        "color: @text;}"
+        "color: @text; combobox-popup: 0;}"
         "QComboBox:hover{border-color: @accent;}"
         "QComboBox:disabled{color: @disabled; background: #f8f9fa;}"
         "QComboBox::drop-down{border: none; width: %3px;}"
         "QComboBox::down-arrow{image: url(%4);}"
-        "QComboBox QAbstractItemView{background: @white; border: 1px solid #c9d2db; outline: none; "
-        "color: @text; selection-background-color: @chosen; selection-color: @accent;}"
+        "QComboBox QAbstractItemView{background: @white; border: 1px solid #c9d2db; outline: none;}"
+        "QComboBox QAbstractItemView::item{min-height: %3px; padding: 0px %2px; border: none; color: @text;}"
+        "QComboBox QAbstractItemView::item:hover{background: @pale;}"
+        "QComboBox QAbstractItemView::item:selected{background: @chosen; color: @accent;}"
         "QSpinBox, QLineEdit{background: @white; border: 1px solid #c9d2db; border-radius: %1px; "
         "padding: 0px %2px; color: @text; selection-background-color: @main; selection-color: @onMain;}"
         "QSpinBox:disabled, QLineEdit:disabled{background: #f8f9fa; color: @disabled;}"

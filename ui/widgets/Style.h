@@ -50,6 +50,8 @@ extern const QString GreyLabel;
 extern const QString PassedLabel;
 extern const QString FailedLabel;
 
+/// Names the families that stand in for "Segoe UI". Once, at the start.
+void substituteFonts(bool chinese);
 QFont font(int points, bool italic = false);
 QFont semiBold(int points, bool italic = false);
 

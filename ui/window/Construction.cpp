@@ -80,6 +80,7 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent), m_drag(this, Titl
     m_apNavigation[first]->setFocus();
 
     m_pSettings->ApplyFirstRunDefaults();
+    selectStartDisk();
     RefreshSelectedDisk();
     SettingsStore store;
     store.write(key::SmartctlFolderPath, g_App.m_strSmartctlPath);
@@ -91,6 +92,9 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent), m_drag(this, Titl
     connect(m_pTemperatureTimer, &QTimer::timeout, this, &MainWindow::GetSmartTemprature);
     if (isOnShow(navigation::DiskStatusScreen))
         m_pTemperatureTimer->start(TemperatureInterval);
+    // Above the main window, which is shown in a moment.
+    if (g_strStartArgument == startargument::ForSettings)
+        QTimer::singleShot(0, this, &MainWindow::OnShowSettings);
     m_pCheckUpdate = new QCheckUpdate(this);
     style::centreOn(m_pCheckUpdate, m_rcSplash);
 }
@@ -351,10 +355,8 @@ void MainWindow::changeEvent(QEvent *event)
             ShowPartitions(tr("(BitLocker)"));
         if (!m_ui.ResultLabel->text().isEmpty())
             showOverallResult();
-        if (SettingsStore().flag(key::ShowTrayIcon)) {
-            companion::kill();
-            companion::start();
-        }
+        if (SettingsStore().flag(key::ShowTrayIcon))
+            companion::startAgain();
     }
     if (event->type() == QEvent::ActivationChange && isActiveWindow())
         m_jobDisplay.seen();

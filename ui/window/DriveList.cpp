@@ -58,6 +58,15 @@ void MainWindow::selectCloneArgument()
     }
 }
 
+void MainWindow::selectStartDisk()
+{
+    const auto number = startargument::diskNumber(g_strStartArgument);
+    // The items hold 128 + number.
+    const int item = number ? m_ui.DriveCombobox->findData(128 + *number) : -1;
+    if (item >= 0)
+        m_ui.DriveCombobox->setCurrentIndex(item);
+}
+
 void MainWindow::refreshClonePage()
 {
     // During a clone the page keeps the disks of that clone. During a refresh only its thread may use the

@@ -205,6 +205,8 @@ private:
     void showOverallResult();
     void refreshBehindJob();
     void selectCloneArgument();
+    /// Chooses the disk that the companion asks for.
+    void selectStartDisk();
     void refreshClonePage();
     int currentComboDisk() const { return m_ui.DriveCombobox->currentData().toInt() - PhysicalDriveBase; }
 

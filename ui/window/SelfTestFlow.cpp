@@ -130,8 +130,6 @@ void MainWindow::leaveTest()
 {
     m_pConfirmation->hide();
     m_pTestTimer->stop();
-    if (!g_Jobs.holdsDisks())
-        m_jobDisplay.show(std::nullopt);
     enableNavigation();
     showTestButtons(false);
 }

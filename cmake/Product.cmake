@@ -1,0 +1,33 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# Makes state/Product.cpp from the data file of a brand, which the installer is made from, too.
+
+set(HALVANE_PRODUCT velmora CACHE STRING "Brand: a file of packaging/product without its ending")
+set(HALVANE_PRODUCT_FILE packaging/product/${HALVANE_PRODUCT}.json)
+set_property(DIRECTORY ${CMAKE_SOURCE_DIR} APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/${HALVANE_PRODUCT_FILE})
+
+file(READ ${CMAKE_SOURCE_DIR}/${HALVANE_PRODUCT_FILE} product)
+string(REPLACE "@VERSION@" "${PROJECT_VERSION}" product "${product}")
+string(JSON HALVANE_BRAND_PROGRAM GET "${product}" program)
+string(JSON HALVANE_BRAND_COMPANION GET "${product}" companion)
+foreach(flag IN ITEMS "SECOND_BRAND secondBrand" "STANDALONE standalone")
+    separate_arguments(flag)
+    list(GET flag 0 variable)
+    list(GET flag 1 name)
+    string(JSON value GET "${product}" ${name})
+    if(value)
+        set(HALVANE_${variable} true)
+    else()
+        set(HALVANE_${variable} false)
+    endif()
+endforeach()
+
+string(JSON count LENGTH "${product}" settings)
+math(EXPR last "${count} - 1")
+set(HALVANE_SETTINGS "")
+foreach(index RANGE ${last})
+    string(JSON name MEMBER "${product}" settings ${index})
+    string(JSON value GET "${product}" settings ${name})
+    string(REGEX REPLACE "([\\\\\"])" "\\\\\\1" value "${value}")
+    string(APPEND HALVANE_SETTINGS "    {\"${name}\", \"${value}\"},\n")
+endforeach()
+configure_file(${CMAKE_SOURCE_DIR}/state/Product.cpp.in ${CMAKE_BINARY_DIR}/product/Product.cpp @ONLY)

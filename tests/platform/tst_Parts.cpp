@@ -1,0 +1,228 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "inventory/WmicInventory.h"
+#include "platform/AlignedBuffer.h"
+#include "platform/tools/CommandInterpreter.h"
+#include "platform/tools/MasterBootRecord.h"
+#include "platform/tools/StorageRecords.h"
+#include "tests/support/Files.h"
+#include "tests/support/HandMadeDisk.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace
+{
+
+const QByteArray EfiSystem = QByteArray::fromHex("28732ac11ff8d211ba4b00a0c93ec93b");
+const QByteArray Reserved = QByteArray::fromHex("16e3c9e35c0bb84d817df92df00215ae");
+const QByteArray Recovery = QByteArray::fromHex("a4bb94ded106404da16abfd50179d6ac");
+
+/// Entries of 4 KiB, each with its place and type.
+QByteArray layoutOf(quint32 style, const QVector<QPair<quint64, QByteArray>> &entries)
+{
+    HandMadeDisk layout(4);
+    layout.put(4, quint32(entries.size()));
+    for (int i = 0, at = 48; i < entries.size(); ++i, at += 144) {
+        layout.put(at, style).put(at + 8, entries.at(i).first).put(at + 16, quint64(4096));
+        layout.text(at + 32, entries.at(i).second);
+    }
+    return layout.bytes;
+}
+
+} // namespace
+
+/// What several platforms use: command lines as they are carried out, records that tools answer from,
+/// transfers.
+class tst_Parts : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_runs = 0;
+        m_folder.reset(new QTemporaryDir);
+        m_interpreter = {};
+        m_interpreter.addTool("Echo64", [this](const QStringList &arguments, const QByteArray &) {
+            ++m_runs;
+            return arguments.join('+').toUtf8() + '\n';
+        });
+        m_interpreter.addTool("upper", [](const QStringList &arguments, const QByteArray &input) {
+            return input.toUpper() + arguments.join('+').toUtf8();
+        });
+    }
+
+    void run()
+    {
+        const auto row = [this](const char *name, const QByteArray &command, const char *content,
+                                const char *file = "/out.txt") {
+            init();
+            QVERIFY(QDir(m_folder->path()).mkdir("John Doe"));
+            QVERIFY(writeFile(m_folder->filePath("out.txt"), "old "));
+            QVERIFY2(runLine("C:\\Windows\\system32\\cmd.exe /c " + command), name);
+            QVERIFY2(contentOf(m_folder->path() + file) == content, name);
+        };
+        row("several blanks", "echo64  -a  -d sat,12 /dev/sdb >> %1/out.txt ", "old -a+-d+sat,12+/dev/sdb\n");
+        row("folder, other letters and suffix", "C:\\W\\wbem\\ECHO64.exe a >> %1\\\\out.txt ", "old a\n");
+        row("name within another", "myecho64.exe a >> %1/out.txt ", "old ");
+        row("folder with slashes", "/tmp/x.d/echo64 a >> %1/out.txt ", "old a\n");
+        row("pipe", "S\\echo64.exe abc | S\\upper.exe x >> %1/out.txt ", "old ABC\nx");
+        row("unknown tool before a pipe", "nothing | upper x >> %1/out.txt ", "old x");
+        row("unknown tool behind a pipe", "echo64 a | nothing >> %1/out.txt ", "old ");
+        row("no blank behind the sign", "echo64 a >>%1/out.txt", "old a\n");
+        row("no redirection", "echo64 a ", "old ");
+        // What stands behind the blank is one more argument of the tool.
+        row("blank in the target", "echo64 a >> %1/John Doe/out.txt ", "a+Doe/out.txt\n", "/John");
+        row("not ASCII", "echo64 a >> %1/J\xc3\xb6rg.txt ", "a\n", "/J\xc3\x83\xc2\xb6rg.txt");
+    }
+
+    void namesTheFolder()
+    {
+        const std::wstring line = L"S\\cmd.exe /d /c tool.exe -a >> T\\out.txt ";
+        QVERIFY(tools::CommandInterpreter::withFolder(line, "C:\\Halvane") ==
+                L"S\\cmd.exe /d /c C:\\Halvane\\tool.exe -a >> T\\out.txt ");
+        QVERIFY(tools::CommandInterpreter::withFolder(line, "C:\\A (x86) & B") ==
+                L"S\\cmd.exe /d /s /c \"\"C:\\A (x86) & B\\tool.exe\" -a >> T\\out.txt \"");
+    }
+
+    void slowToolWritesInPieces()
+    {
+        const auto slow = [](const QStringList &, const QByteArray &) { return QByteArray(1000, 'x'); };
+        m_interpreter.addTool("slow", slow, 400);
+        QFile first(m_folder->filePath("out.txt"));
+        const std::unique_ptr<QThread> process(
+            QThread::create([this] { runLine("cmd.exe /c slow >> %1/out.txt "); }));
+        process->start();
+        QTRY_VERIFY(first.size() > 0);
+        QVERIFY(first.open(QIODevice::ReadOnly));
+        QVERIFY(first.size() < 1000);
+        // Windows does not remove a file that a process writes to.
+        const bool removed = QFile::remove(first.fileName());
+        QVERIFY(process->wait(10000));
+        // The tool wrote the rest to the file that it had opened, not to a new one of that name.
+        QCOMPARE(QFileInfo::exists(first.fileName()), !removed);
+        QCOMPARE(first.size(), 1000);
+    }
+
+    void runsNothingOfAWrongLine()
+    {
+        QVERIFY(!runLine("cmd.exe echo64 a >> %1/out.txt"));
+        // Nor does a tool run whose output has nowhere to go.
+        QVERIFY(runLine("cmd.exe /c echo64 a >> %1/missing/out.txt "));
+        QCOMPARE(m_runs, 0);
+    }
+
+    void knowsPathsThatBreakLines()
+    {
+        QVERIFY(!tools::CommandInterpreter::breaksCommands("C:\\Users\\ANNA-M~1.X_Y\\Temp\\"));
+        for (const QChar letter : QString(" &%^(),;=\u007f\u6c34"))
+            QVERIFY2(tools::CommandInterpreter::breaksCommands(QString("C:\\a%1b\\").arg(letter)),
+                     qPrintable(QString(letter)));
+    }
+
+    void storedDisks()
+    {
+        // Vendor, product, number of the bus; then medium, interface, and model as the disk list cuts it.
+        for (const auto &[vendor, product, bus, shown] : {
+                 std::tuple("", "Quill Data 40     ", 11, "fixed IDE:Quill Data 40 "),
+                 std::tuple("NVMe    ", "Marl NV 512", 17, "fixed SCSI:Marl NV 512 "), // the driver as vendor
+                 std::tuple("Tarn    ", "Stick 3.0", 7, "removable USB:Tarn Stick 3.0 "),
+                 std::tuple("", "", 0, "fixed SCSI:Disk 3 "), // refused
+             }) {
+            HandMadeDisk record(1);
+            record.put(28, quint32(bus)).put(10, quint8(bus == 7)).put(12, quint32(40)).put(16, quint32(80));
+            record.put(24, quint32(120)).text(120, "  QD40 17 ").text(40, vendor).text(80, product);
+            const inventory::Disk disk = storage::readDisk(3, bus == 0 ? QByteArray() : record.bytes);
+            const wmic::DiskDriveLine line =
+                wmic::parseDiskDrive(QString("3  %1  %2  OK  ").arg(disk.interfaceType, disk.model));
+            QCOMPARE(disk.media + ' ' + line.interfaceText + ':' + line.model, shown);
+            QCOMPARE(disk.serial, bus == 0 ? QString() : "QD40 17");
+            // An answer that ends in the middle; nothing behind its end may be read.
+            QCOMPARE(storage::readDisk(3, record.bytes.left(18)).model, "Disk 3 HDD Device");
+        }
+    }
+
+    void storedPartitions()
+    {
+        const QByteArray gpt = layoutOf(
+            1, {{900, HandMadeDisk::basicData()}, {100, EfiSystem}, {500, Reserved}, {990, Recovery}});
+        const QByteArray mbr =
+            layoutOf(0, {{1, "\x07"}, {9, "\x0f"}, {0, ""}, {0, ""}, {10, "\x0b"}, {20, "\x05"}});
+        for (const auto &[layout, types] : {
+                 std::pair(gpt, QStringList{"GPT: System", "GPT: Basic Data",
+                                            "GPT: Unknown"}), // in the order of places
+                 std::pair(mbr, QStringList{"Installable File System", "Extended w/Extended Int 13",
+                                            "Win95 w/Extended Int 13"}),
+                 std::pair(gpt.left(48 + 144 + 143), QStringList{"GPT: Basic Data"}),
+             }) {
+            const auto partitions = storage::readPartitions(2, layout);
+            QCOMPARE(partitions.size(), types.size());
+            for (int i = 0; i < types.size(); ++i) {
+                QCOMPARE(partitions.at(i).name, QString("Disk #2, Partition #%1").arg(i));
+                QCOMPARE(partitions.at(i).type, types.at(i));
+                QCOMPARE(partitions.at(i).size, quint64(4096));
+            }
+        }
+    }
+
+    void largestPartition()
+    {
+        // 8 TiB: more than the table can count.
+        const QByteArray record = mbr::withOnePartition(mbr::emptyTable(7), quint64(1) << 34, 512);
+        QCOMPARE(record.mid(446, 16).toHex(), QByteArray("0020210007feffff00080000ffffffff"));
+    }
+
+    /// A raw device gets aligned memory and whole sectors, whatever the program reads and writes.
+    void movesWholeSectors()
+    {
+        checkAligned(512, 1024, 512, true);                              // a sector
+        checkAligned(4096, 512, 1024, false);                            // within a large sector
+        checkAligned(4096, 512, int(AlignedBuffer::Size) + 1024, false); // more than the buffer
+        checkAligned(1, 77, int(AlignedBuffer::Size) + 5, true);         // sectors of an unknown size
+    }
+
+private:
+    static void checkAligned(int sector, int position, int bytes, bool writes)
+    {
+        QByteArray disk = pattern(3 * int(AlignedBuffer::Size) / 512);
+        const auto isFit = [sector](const char *memory, qint64 at, qint64 count) {
+            return AlignedBuffer::takes(memory, at, count, sector);
+        };
+        AlignedBuffer buffer;
+        QByteArray ragged(bytes + 1, '\0');
+        QVERIFY(buffer.read(ragged.data() + 1, position, bytes, sector,
+                            [&](char *memory, qint64 at, qint64 count) {
+                                std::memcpy(memory, disk.constData() + at, size_t(count));
+                                return isFit(memory, at, count);
+                            }));
+        QCOMPARE(ragged.mid(1), disk.mid(position, bytes));
+
+        const QByteArray before = disk;
+        const QByteArray after = disk.replace(position, bytes, QByteArray(bytes, 'w'));
+        disk = before;
+        ragged.fill('w');
+        const bool written = buffer.write(ragged.data() + 1, position, bytes, sector,
+                                          [&](char *memory, qint64 at, qint64 count) {
+                                              disk.replace(int(at), int(count), memory, int(count));
+                                              return isFit(memory, at, count);
+                                          });
+        QCOMPARE(written, writes);
+        QVERIFY(disk == (written ? after : before));
+    }
+
+    /// Runs a line that the program widened: each byte became one character. "%1" is the test's folder.
+    bool runLine(QByteArray line)
+    {
+        line.replace("%1", m_folder->path().toUtf8());
+        return m_interpreter.run(QString::fromLatin1(line).toStdWString(),
+                                 [](QString path) { return path.replace('\\', '/'); });
+    }
+
+    tools::CommandInterpreter m_interpreter;
+    QScopedPointer<QTemporaryDir> m_folder;
+    int m_runs = 0;
+};
+
+QTEST_GUILESS_MAIN(tst_Parts)
+#include "tst_Parts.moc"

@@ -1,0 +1,60 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
+# collected.sh <root> <folder of the programs>: the tour of a collected PC shows what that of the original shows. Three
+# described PCs, and this machine, which is collected once more from its own collection.
+set -euo pipefail
+root=$1
+bin=$2
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+export QT_QPA_PLATFORM=offscreen
+
+# screens <pc>: what the tour shows of it, but for the name.
+screens() {
+    HALVANE_PC=$work/$1 "$bin/halvane_tour" "$work/$1-out" >"$work/log" 2>&1 || {
+        cat "$work/log"
+        return 1
+    }
+    jq -S 'del(.pc)' "$work/$1-out/screens.json"
+}
+
+# same <pc> <collected>
+same() {
+    HALVANE_PC=$work/$1 "$bin/VelmoraSMART" --collect "$work/$2"
+    diff <(screens "$1") <(screens "$2") || {
+        echo "the collection of $1 shows something else"
+        exit 1
+    }
+}
+
+"$root/demo/make-pc" "$work/demo"
+# The tour of the demo also scans and clones, for which the content of the disks would be needed.
+jq 'del(.tour)' "$work/demo/pc.json" >"$work/pc.json" && mv "$work/pc.json" "$work/demo/pc.json"
+same demo demo-collected
+
+mkdir "$work/japanese" "$work/closed"
+cp "$root/demo/reports/disk0.txt" "$work/japanese"
+printf '{"disks": [{"number": 0, "model": "N", "interface": "SCSI", "sectors": 4096, "report": "disk0.txt"},
+    {"number": 3, "media": "removable", "model": "S", "interface": "USB", "serial": "A/B", "sectors": 4096}],
+    "volumes": [{"letter": "C", "label": "ü \\"x\\"", "fileSystem": "NTFS", "size": 9000000, "free": 5, "bitLocker": "None",
+        "extents": [{"disk": 0, "offset": 1024, "length": 9000000}]}, {"letter": "D", "type": "cdrom"}],
+    "settings": {"LanguageType": "5", "TempValue": "F"}}' >"$work/japanese/pc.json"
+same japanese japanese-collected
+
+printf '{"disks": [{"number": 0, "model": "N", "sectors": 4096, "opens": false}], "smartctl": false}' >"$work/closed/pc.json"
+same closed closed-collected
+
+# What the companion reads of each disk, but for what may change in a minute.
+disks() {
+    { "$@" "$bin/VelmoraSMART" --once --json || true; } | # the exit code tells of the disks
+        jq -sS '.[0].disks | map(del(.temperatureC, .powerOnHours, .lifeDays) | .attributes |= map({id, name, threshold, status}))'
+}
+
+env -u HALVANE_PC "$bin/VelmoraSMART" --collect "$work/machine"
+disks env -u HALVANE_PC >"$work/machine.json"
+disks env HALVANE_PC="$work/machine" >"$work/collected.json"
+diff "$work/machine.json" "$work/collected.json" || {
+    echo "the collection of this machine tells something else of its disks"
+    exit 1
+}
+same machine machine-collected
