@@ -371,6 +371,9 @@ QString LinuxPlatform::NativePath(const QString &path) const
                           (native.size() == 2 || native.at(2) == QLatin1Char('/'));
     if (onDriveC)
         native.remove(0, 2);
+    // A file straight on it, as the first log is, lies with our data: nobody keeps files in the root folder.
+    if (onDriveC && native.size() > 1 && native.lastIndexOf(QLatin1Char('/')) == 0)
+        return m_places.data + native;
     return native.isEmpty() && onDriveC ? QStringLiteral("/") : native;
 }
 

@@ -278,6 +278,7 @@ private slots:
         QVERIFY(fresh.startsWith("/tmp/velmora-halvane-") && QDir().rmdir(fresh));
         // A path on C: leads below the root folder, not into the temp folder.
         QCOMPARE(m_pc->NativePath("C:\\updatetmps\\a"), "/updatetmps/a");
+        QCOMPARE(m_pc->NativePath("C:\\LogFile.txt"), m_pc->StateFolder() + "/LogFile.txt");
     }
 
     void historyFolder()
