@@ -225,7 +225,10 @@ void Monitor::list()
     if (!table || isUnlikely) {
         if (isUnlikely)
             m_lastListing = 0;
-        if (!m_stopped && !std::exchange(m_isUnread, true)) {
+        // The only disk may just have been taken away, and the notice may still be on its way.
+        if (isUnlikely && !std::exchange(m_isGone, true))
+            m_relist = true;
+        else if (!m_stopped && !std::exchange(m_isUnread, true)) {
             WatchEvent &unread = add(EventKind::ListUnread);
             unread.told = unread.seen = true;
         }

@@ -173,7 +173,7 @@ public:
     virtual QString GetSystemDirectoryW() = 0;
     virtual QString GetUserNameW() = 0;
     /// A text that is another one after the next logon, or at least after the next start of the PC, whatever
-    /// rights the process has.
+    /// rights the process has. Empty if the system does not tell.
     virtual QString LogonMark() { return QStringLiteral("logon"); }
     /// Where the history of attribute values is kept; no trailing separator. A folder below
     /// `applicationFolder` where that can be written, else one of the user's; it is made if it is missing.

@@ -76,7 +76,7 @@ QString logonMark()
         time = session.LogonTime.QuadPart;
     }
     ::WTSFreeMemory(told);
-    return QStringLiteral("logon %1").arg(time);
+    return time == 0 ? QString() : QStringLiteral("logon %1").arg(time);
 }
 
 bool openFile(QFile *file, const QString &path, QIODevice::OpenMode mode, DWORD share, DWORD disposition)

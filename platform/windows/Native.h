@@ -26,7 +26,7 @@ QString userSid();
 /// is so where Windows asks before it gives these rights.
 bool sharesUser();
 
-/// Another text after each logon. Where the system does not tell the time of the logon, always the same.
+/// Another text after each logon. Empty where the system does not tell the time of the logon.
 QString logonMark();
 
 /// Opens a regular file, and no link, folder or device.
