@@ -145,14 +145,14 @@ FlyoutRow *Flyout::addRow()
     auto *row = new FlyoutRow;
     m_pRows->addWidget(row);
     m_apRows.push_back(row);
-    connect(row, &FlyoutRow::openWanted, this, [this, row] {
+    connect(row, &FlyoutRow::openWanted, this, [this](const DiskSummary &disk) {
         hide();
         // A missing disk has no page.
-        openprogram::onDisk(row->disk().missing ? -1 : row->disk().number);
+        openprogram::onDisk(disk.missing ? -1 : disk.number);
     });
-    connect(row, &FlyoutRow::limitsWanted, this, [this, row] {
+    connect(row, &FlyoutRow::limitsWanted, this, [this](const DiskSummary &disk) {
         hide();
-        auto *dialog = new LimitsDialog(row->disk(), m_view.fahrenheit);
+        auto *dialog = new LimitsDialog(disk, m_view.fahrenheit);
         dialog->setAttribute(Qt::WA_DeleteOnClose);
         connect(dialog, &QDialog::accepted, this, &Flyout::refreshWanted);
         style::centreOn(dialog, style::availableArea(QCursor::pos()));

@@ -108,13 +108,13 @@ void FlyoutRow::paintEvent(QPaintEvent *)
 void FlyoutRow::mouseReleaseEvent(QMouseEvent *event)
 {
     if (event->button() == Qt::LeftButton && rect().contains(event->pos()))
-        emit openWanted();
+        emit openWanted(m_disk);
 }
 
 void FlyoutRow::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space)
-        emit openWanted();
+        emit openWanted(m_disk);
     else if (event->key() == Qt::Key_Down)
         focusNextChild();
     else if (event->key() == Qt::Key_Up)
@@ -125,24 +125,21 @@ void FlyoutRow::keyPressEvent(QKeyEvent *event)
 
 void FlyoutRow::contextMenuEvent(QContextMenuEvent *event)
 {
-    // A round may take the row away while the menu is open.
+    // A round may take the row away while the menu is open, or give it to another disk.
     auto *menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     menu->setFont(style::font(10));
-    connect(menu->addAction(tr("Open")), &QAction::triggered, this, &FlyoutRow::openWanted);
+    const DiskSummary disk = m_disk;
+    connect(menu->addAction(tr("Open")), &QAction::triggered, this, [this, disk] { emit openWanted(disk); });
     QAction *limits = menu->addAction(tr("Limits…"));
     // They are kept by the serial number.
-    limits->setEnabled(!m_disk.serial.isEmpty());
-    connect(limits, &QAction::triggered, this, &FlyoutRow::limitsWanted);
+    limits->setEnabled(!disk.serial.isEmpty());
+    connect(limits, &QAction::triggered, this, [this, disk] { emit limitsWanted(disk); });
     QAction *seenAction = menu->addAction(tr("Mark as seen"));
-    seenAction->setEnabled(!m_disk.unseen.empty());
-    connect(seenAction, &QAction::triggered, this, &FlyoutRow::markSeen);
+    seenAction->setEnabled(!disk.unseen.empty());
+    connect(seenAction, &QAction::triggered, this, [this, disk] {
+        for (const WatchEvent &each : disk.unseen)
+            emit seen(each.id);
+    });
     menu->popup(event->globalPos());
-}
-
-void FlyoutRow::markSeen()
-{
-    for (const WatchEvent &event : m_disk.unseen)
-        emit seen(event.id);
-    m_disk.unseen.clear();
 }

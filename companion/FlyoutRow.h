@@ -17,11 +17,10 @@ public:
     explicit FlyoutRow(QWidget *parent = nullptr);
 
     void setDisk(const DiskSummary &disk, bool fahrenheit, const QDateTime &now);
-    const DiskSummary &disk() const { return m_disk; }
 
 signals:
-    void openWanted();
-    void limitsWanted();
+    void openWanted(const DiskSummary &disk);
+    void limitsWanted(const DiskSummary &disk);
     void seen(quint64 event);
 
 protected:
@@ -31,8 +30,6 @@ protected:
     void contextMenuEvent(QContextMenuEvent *event) override;
 
 private:
-    void markSeen();
-
     DiskSummary m_disk;
     QLabel *m_pName;
     QLabel *m_pState;

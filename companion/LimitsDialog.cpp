@@ -13,6 +13,8 @@
 
 #include <algorithm>
 
+#include <algorithm>
+
 namespace
 {
 
@@ -93,7 +95,9 @@ void LimitsDialog::accept()
 {
     std::optional<ownlimits::Limits> limits;
     if (m_pOwn->isChecked())
-        limits = ownlimits::Limits{celsiusOf(m_pWarning), celsiusOf(m_pShutDown)};
+        // Below the other limit it would take its place.
+        limits =
+            ownlimits::Limits{celsiusOf(m_pWarning), std::max(celsiusOf(m_pWarning), celsiusOf(m_pShutDown))};
     ownlimits::save(m_strSerial, limits);
     QDialog::accept();
 }

@@ -48,10 +48,7 @@ void connectAll(Watch *watch, Tray *tray, Flyout *flyout)
     QObject::connect(flyout, &Flyout::seen, watch, &Watch::markSeen);
     QObject::connect(flyout, &Flyout::refreshWanted, watch, &Watch::refresh);
     QObject::connect(watch, &Watch::looked, flyout, &Flyout::take);
-    QObject::connect(watch, &Watch::looked, tray, [tray] {
-        languages::follow();
-        tray->retranslate();
-    });
+    QObject::connect(watch, &Watch::looked, tray, &Tray::retranslate);
 }
 
 } // namespace
@@ -83,6 +80,8 @@ int runResident(int argc, char **argv)
     startup::readMachine();
     g_App.m_fScale = static_cast<float>(scale::percentForDpi(platform.LogPixelsX())) / 100.0F;
     Watch watch;
+    // Before tray and flyout take their texts.
+    QObject::connect(&watch, &Watch::looked, &watch, &languages::follow);
     Tray tray(&watch, areWindowsDark);
     Flyout flyout;
     connectAll(&watch, &tray, &flyout);

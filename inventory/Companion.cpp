@@ -96,7 +96,9 @@ void setWanted(bool wanted)
         task.program = QCoreApplication::applicationDirPath() + QLatin1Char('/') + fileName();
         task.arguments = QStringLiteral("Schedular");
         Platform::current().CreateLogonTask(task);
-        takeQuitBack();
+        // Ok without a new tick leaves Quit as it is.
+        if (!store.flag(key::ShowTrayIcon))
+            takeQuitBack();
         ensureRunning();
     }
     store.write(key::ShowTrayIcon, wanted ? 1 : 0);

@@ -3,10 +3,8 @@
 
 #include "inventory/CommandRunner.h"
 #include "monitor/DiskTable.h"
-#include "monitor/EventLog.h"
 #include "monitor/EventTexts.h"
 #include "platform/FileLock.h"
-#include "platform/Log.h"
 #include "platform/OwnFiles.h"
 #include "platform/Platform.h"
 #include "smart/ToolInvocation.h"
@@ -25,13 +23,10 @@ namespace
 const QString TableFile = QStringLiteral("WatchDisks.txt");
 const QString OnceTableFile = QStringLiteral("OnceDisks.txt");
 
-using Answer = DiskReading::Answer;
+/// So many readings in a row without an answer are told: a bridge may be busy for one.
+constexpr int SilentAfter = 2;
 
-QString memoryPath()
-{
-    const QString folder = Platform::current().StateFolder();
-    return folder.isEmpty() ? QString() : folder + QLatin1String("/watch.json");
-}
+using Answer = DiskReading::Answer;
 
 /// One run of the tool. Nothing where it had to be ended, or did not start.
 std::optional<DiskReading> read(ToolPurpose purpose, const WatchedDisk &disk, ToolUse *tool,
@@ -93,18 +88,12 @@ DiskSummary summaryOf(const WatchedDisk &disk, const WatchSettings &settings,
     return summary;
 }
 
-bool isOf(const WatchEvent &event, const WatchedDisk &disk)
-{
-    return event.disk >= 0 && event.model == disk.model() && event.serial == disk.serial() &&
-           (!event.serial.isEmpty() || event.disk == disk.number);
-}
-
 } // namespace
 
 Monitor::Monitor(MonitorListener &listener)
-    : m_listener(listener), m_memory(WatchMemory::fromJson(ownfiles::contents(memoryPath())))
+    : m_listener(listener), m_memory(WatchMemory::fromJson(ownfiles::contents(WatchMemory::path())))
 {
-    const QString path = memoryPath();
+    const QString path = WatchMemory::path();
     if (path.isEmpty())
         return;
     // What a process left behind that was killed while it wrote. The program may just be writing there, too,
@@ -131,15 +120,6 @@ void Monitor::refresh()
 void Monitor::pauseAlarms(const QDateTime &until)
 {
     m_memory.pausedUntil = until.toMSecsSinceEpoch();
-    save();
-}
-
-void Monitor::mark(quint64 event, bool WatchEvent::*flag)
-{
-    for (WatchEvent &each : m_memory.events) {
-        if (each.id == event)
-            each.*flag = true;
-    }
     save();
 }
 
@@ -179,7 +159,7 @@ std::vector<DiskSummary> Monitor::once(const QDateTime &now, ToolUse *tool)
     const WatchSettings settings = WatchSettings::load();
     const QHash<QString, LastScan> scans = lastscan::load();
     ToolUse unasked;
-    WatchMemory memory = WatchMemory::fromJson(ownfiles::contents(memoryPath()));
+    WatchMemory memory = WatchMemory::fromJson(ownfiles::contents(WatchMemory::path()));
     std::vector<DiskSummary> summaries;
     const auto table = listDisks(OnceTableFile, [] { return true; });
     for (const std::size_t place : recordsOf(table.value_or(std::vector<ListedDisk>()), &memory)) {
@@ -189,6 +169,8 @@ std::vector<DiskSummary> Monitor::once(const QDateTime &now, ToolUse *tool)
         disk.answer = answerOf(disk, reading.value_or(DiskReading()));
         if (disk.answer == Answer::Report || disk.answer == Answer::NotSupported)
             takeOver(disk, *reading, now.toMSecsSinceEpoch());
+        else if (disk.answer == Answer::NoAnswer)
+            disk.last.celsius.reset(); // may be weeks old
         summaries.push_back(summaryOf(disk, settings, scans));
     }
     return summaries;
@@ -286,16 +268,38 @@ void Monitor::take(std::size_t listed, const DiskReading &reading)
     WatchedDisk &disk = m_memory.disks[m_listed[listed]];
     disk.asked = true;
     disk.answer = answerOf(disk, reading);
-    if (disk.answer == Answer::Report)
+    if (disk.answer == Answer::Report) {
+        // Its report may call it by other names than the table did.
+        std::vector<WatchEvent *> own;
+        for (WatchEvent &event : m_memory.events) {
+            if (isOf(event, disk))
+                own.push_back(&event);
+        }
         takeOver(disk, reading, m_now);
+        for (WatchEvent *event : own) {
+            event->model = disk.model();
+            event->serial = disk.serial();
+        }
+    }
     // Without one it lets those go that are a day old.
     disk.addTemperature(reading.celsius.value_or(0), m_now);
     // One that has just ceased to answer may have been taken away.
     if (disk.answer != Answer::NoAnswer || disk.silent || disk.lastReport == 0)
         logDay(disk);
-    if (disk.answer == Answer::NoAnswer)
+    if (disk.answer == Answer::NoAnswer) {
+        if (disk.unanswered >= SilentAfter)
+            return;
+        ++disk.unanswered;
+        m_changed = true;
+        if (!disk.hangs)
+            disk.schedule.askNext();
         return;
-    m_changed = std::exchange(disk.silent, false) || m_changed;
+    }
+    m_changed = std::exchange(disk.unanswered, 0) > 0 || m_changed;
+    if (std::exchange(disk.silent, false)) {
+        for (WatchEvent &event : m_memory.events)
+            event.seen = event.seen || (event.kind == EventKind::NoAnswer && event.told && isOf(event, disk));
+    }
     if (disk.answer == Answer::Report)
         takeReport(disk, reading);
 }
@@ -316,12 +320,16 @@ void Monitor::takeReport(WatchedDisk &disk, const DiskReading &reading)
 
 void Monitor::takeTemperature(WatchedDisk &disk)
 {
-    if (!disk.last.celsius || isPaused())
+    if (!disk.last.celsius)
         return;
     const int celsius = *disk.last.celsius;
     const TemperatureLimits limits = m_settings.limitsOf(disk.last, disk.serial());
     const TemperatureAlarm before = disk.alarm;
     const TemperatureAlarm::Tells tells = disk.alarm.take(celsius, limits, m_now);
+    if (tells != TemperatureAlarm::Tells::Nothing && isPaused()) {
+        disk.alarm = before; // due behind the pause, if it is still hot then
+        return;
+    }
     m_changed = m_changed || disk.alarm.hasMoved(before);
     if (tells == TemperatureAlarm::Tells::Warning)
         happen(disk, EventKind::TemperatureWarning, celsius, *limits.warning);
@@ -404,90 +412,11 @@ void Monitor::tellSilence()
     if (!m_relist && std::any_of(m_listed.cbegin(), m_listed.cend(), isNewlySilent))
         list();
     for (const std::size_t place : m_listed) {
-        if (m_relist || !isNewlySilent(place)) // the next round knows more
+        WatchedDisk &disk = m_memory.disks[place];
+        // Where the disks are to be listed again, the next round knows more.
+        if (m_relist || !isNewlySilent(place) || (!disk.hangs && disk.unanswered < SilentAfter))
             continue;
-        m_memory.disks[place].silent = true;
-        happen(m_memory.disks[place], EventKind::NoAnswer);
+        disk.silent = true;
+        happen(disk, EventKind::NoAnswer);
     }
-}
-
-void Monitor::happen(WatchedDisk &disk, EventKind kind, qint64 value, qint64 before, const QString &detail)
-{
-    // The newer event says more than an older one of the kind.
-    const EventKind older = kind == EventKind::Back                  ? EventKind::Missing
-                            : kind == EventKind::TemperatureShutDown ? EventKind::TemperatureWarning
-                                                                     : kind;
-    for (WatchEvent &event : m_memory.events) {
-        if ((event.kind == kind || event.kind == older) && event.logged && event.told && isOf(event, disk))
-            event.seen = true;
-    }
-    WatchEvent &event = add(kind);
-    event.disk = disk.number;
-    event.model = disk.model();
-    event.serial = disk.serial();
-    event.value = value;
-    event.before = before;
-    event.detail = detail;
-    event.told = event.seen = kind == EventKind::Daily;
-}
-
-WatchEvent &Monitor::add(EventKind kind)
-{
-    WatchEvent event;
-    event.kind = kind;
-    event.when = m_now;
-    m_changed = true;
-    return m_memory.add(event);
-}
-
-bool Monitor::log(const WatchEvent &event)
-{
-    const EventLog file(m_settings.logPath, m_settings.logBytes);
-    const QString line = eventtexts::logLine(event, m_settings.fahrenheit);
-    // The line may have been the last thing that a process did before it was killed.
-    if (event.recovered && file.holds(line))
-        return true;
-    const EventLog::Outcome outcome = file.append(line);
-    if (outcome == EventLog::Outcome::Written) {
-        m_memory.unwritableLog.clear();
-        return true;
-    }
-    if (outcome == EventLog::Outcome::Unwritable && m_memory.unwritableLog != m_settings.logPath) {
-        m_memory.unwritableLog = m_settings.logPath;
-        WatchEvent &unwritten = add(EventKind::LogUnwritten);
-        unwritten.detail = m_settings.logPath;
-        unwritten.logged = true;
-    }
-    return false;
-}
-
-void Monitor::deliver()
-{
-    // First the events are kept, then they are told: a kill in between tells them in the next run.
-    if (m_changed)
-        save();
-    // A failing log adds an event of its own, so the list may move.
-    for (std::size_t i = 0; i < m_memory.events.size(); ++i) {
-        if (m_memory.events[i].logged)
-            continue;
-        const bool logged = !m_settings.log || log(WatchEvent(m_memory.events[i]));
-        m_memory.events[i].logged = logged;
-        m_changed = m_changed || logged;
-    }
-    for (std::size_t i = 0; i < m_memory.events.size() && !isPaused(); ++i) {
-        if (!m_memory.events[i].told && !std::exchange(m_memory.events[i].handed, true))
-            m_listener.tell(WatchEvent(m_memory.events[i]));
-    }
-    m_memory.tidyEvents();
-}
-
-void Monitor::save()
-{
-    const QString path = memoryPath();
-    // What could not be kept is tried again in the next round.
-    m_changed = !path.isEmpty() && !ownfiles::saveFile(path, m_memory.toJson());
-    if (m_changed)
-        qCDebug(logs::monitor) << "what is known is not kept:" << path;
-    m_newValues = false;
-    m_lastSave = m_now;
 }

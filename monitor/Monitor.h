@@ -42,8 +42,8 @@ public:
     void devicesChanged(bool removed);
     /// The next round asks every disk.
     void refresh();
-    /// Nothing is told before that moment, within two hours. Events are logged meanwhile, and
-    /// told then; a disk that is still hot then is told as if it had just become so.
+    /// Nothing is told before that moment, within two hours. Events are logged meanwhile, and told then.
+    /// Temperatures are neither: a disk that is still hot then is told as if it had just become so.
     void pauseAlarms(const QDateTime &until);
     /// The end of the last pause, which is kept over restarts.
     QDateTime pausedUntil() const { return QDateTime::fromMSecsSinceEpoch(m_memory.pausedUntil); }

@@ -2,6 +2,7 @@
 #include "monitor/WatchMemory.h"
 
 #include "platform/PlainText.h"
+#include "platform/Platform.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -172,6 +173,7 @@ QJsonObject toJson(const WatchedDisk &disk)
             {"present", disk.present},
             {"missing", disk.missing},
             {"silent", disk.silent},
+            {"unanswered", disk.unanswered},
             {"lastSeen", disk.lastSeen},
             {"lastReport", disk.lastReport},
             {"model", disk.last.model},
@@ -207,6 +209,7 @@ WatchedDisk diskIn(const QJsonObject &in)
     disk.present = flagIn(in, "present");
     disk.missing = flagIn(in, "missing");
     disk.silent = flagIn(in, "silent");
+    disk.unanswered = static_cast<int>(numberIn(in, "unanswered", 0, 127));
     disk.lastSeen = numberIn(in, "lastSeen");
     disk.lastReport = numberIn(in, "lastReport");
     disk.last.answer = disk.lastReport > 0 ? DiskReading::Answer::Report : DiskReading::Answer::NotSupported;
@@ -314,6 +317,12 @@ void WatchedDisk::addTemperature(int celsius, qint64 now)
         day.push_back({now, celsius});
 }
 
+bool isOf(const WatchEvent &event, const WatchedDisk &disk)
+{
+    return event.disk >= 0 && event.model == disk.model() && event.serial == disk.serial() &&
+           (!event.serial.isEmpty() || event.disk == disk.number);
+}
+
 WatchEvent &WatchMemory::add(WatchEvent event)
 {
     event.id = m_nextEvent++;
@@ -325,9 +334,13 @@ void WatchMemory::tidyEvents()
 {
     events.erase(std::remove_if(events.begin(), events.end(), isDone), events.end());
     while (events.size() > MostEvents) {
-        const auto told = std::find_if(events.begin(), events.end(),
-                                       [](const WatchEvent &event) { return event.logged && event.told; });
-        events.erase(told == events.end() ? events.begin() : told);
+        // Rather lines of the log than something that the user does not know yet.
+        auto least = std::find_if(events.begin(), events.end(),
+                                  [](const WatchEvent &event) { return event.kind == EventKind::Daily; });
+        if (least == events.end())
+            least = std::find_if(events.begin(), events.end(),
+                                 [](const WatchEvent &event) { return event.logged && event.told; });
+        events.erase(least == events.end() ? events.begin() : least);
     }
 }
 
@@ -339,6 +352,12 @@ void WatchMemory::tidyDisks()
         };
         disks.erase(std::min_element(disks.begin(), disks.end(), isOlder));
     }
+}
+
+QString WatchMemory::path()
+{
+    const QString folder = Platform::current().StateFolder();
+    return folder.isEmpty() ? QString() : folder + QLatin1String("/watch.json");
 }
 
 QByteArray WatchMemory::toJson() const

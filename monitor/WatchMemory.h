@@ -44,6 +44,7 @@ struct WatchedDisk {
     bool present = false;   ///< at the last round
     bool missing = false;   ///< told, and not back
     bool silent = false;    ///< told as without an answer, and without one since
+    int unanswered = 0;     ///< readings in a row without an answer, as far as they are counted
     qint64 lastSeen = 0;    ///< ms since 1970, as are the next ones
     qint64 lastReport = 0;  ///< 0: it never gave one
     DiskReading last;       ///< of the last report; its attributes and history are those of this run
@@ -67,6 +68,9 @@ struct WatchedDisk {
     void addTemperature(int celsius, qint64 now);
 };
 
+/// Whether an event is of that disk.
+bool isOf(const WatchEvent &event, const WatchedDisk &disk);
+
 /// What the companion keeps over restarts: one JSON file, which is only ever replaced as a whole. Neither
 /// disks nor events grow without bound.
 class WatchMemory
@@ -84,6 +88,8 @@ public:
     /// Forgets, beyond a bound, the disks that were not seen for longest.
     void tidyDisks();
 
+    /// Its native path; empty where nothing can be kept.
+    static QString path();
     QByteArray toJson() const;
     /// Takes what is sound, and leaves the rest out.
     static WatchMemory fromJson(const QByteArray &json);

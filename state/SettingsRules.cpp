@@ -40,9 +40,10 @@ Values load()
     return {store.flag(key::ShowTrayIcon),
             store.text(key::TempValue) == unitText(Fahrenheit) ? Fahrenheit : Celsius,
             // The companion reads what nobody has stored in the same way.
-            store.numberOrFirst(key::ShowWarning) != 0, store.numberOrFirst(key::WarningValue),
-            store.numberOrFirst(key::ShutDownValue), store.numberOrFirst(key::SaveLog) != 0,
-            store.textOrFirst(key::LogSavePath), store.numberOrFirst(key::MaxLogSize)};
+            store.numberOrFirst(key::ShowWarning) != 0 && !store.flag(key::DontShow),
+            store.numberOrFirst(key::WarningValue), store.numberOrFirst(key::ShutDownValue),
+            store.numberOrFirst(key::SaveLog) != 0, store.textOrFirst(key::LogSavePath),
+            store.numberOrFirst(key::MaxLogSize)};
 }
 
 void save(const Values &values)

@@ -80,7 +80,13 @@ bool putSettings(ITaskDefinition *definition)
 {
     Held<ITaskSettings> settings;
     return succeeded(definition->get_Settings(settings.put()), "\nCannot get settings pointer: %x") &&
-           succeeded(settings->put_StartWhenAvailable(VARIANT_TRUE), "\nCannot put setting info: %x");
+           succeeded(settings->put_StartWhenAvailable(VARIANT_TRUE), "\nCannot put setting info: %x") &&
+           // Else the system ends it after three days, and on a PC that runs on its battery.
+           succeeded(settings->put_ExecutionTimeLimit(Text(QStringLiteral("PT0S"))),
+                     "\nCannot put setting info: %x") &&
+           succeeded(settings->put_DisallowStartIfOnBatteries(VARIANT_FALSE),
+                     "\nCannot put setting info: %x") &&
+           succeeded(settings->put_StopIfGoingOnBatteries(VARIANT_FALSE), "\nCannot put setting info: %x");
 }
 
 bool putTrigger(ITaskDefinition *definition, const QString &user)
@@ -94,6 +100,8 @@ bool putTrigger(ITaskDefinition *definition, const QString &user)
            succeeded(trigger->QueryInterface(IID_ILogonTrigger, logon.untyped()),
                      "\nQueryInterface call failed for ILogonTrigger: %x") &&
            succeeded(logon->put_Id(Text(QStringLiteral("Trigger1"))), "\nCannot put the trigger ID: %x") &&
+           // A message that comes before the task bar is seen by nobody.
+           succeeded(logon->put_Delay(Text(QStringLiteral("PT30S"))), "\nCannot put the trigger delay: %x") &&
            succeeded(logon->put_UserId(Text(user)), "\nCannot add user ID to logon trigger: %x");
 }
 

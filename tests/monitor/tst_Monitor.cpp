@@ -152,7 +152,8 @@ private slots:
             {"0 WARNING pending sectors: 8", "2 WARNING pending sectors: 8",
              "6 WARNING pending sectors: 9 (before: 8)"});
         row("no answer", "0 t40; 2 N; 4 t40; 6 N",
-            {"2 WARNING the disk does not answer", "6 WARNING the disk does not answer"});
+            {"3 WARNING the disk does not answer", "7 WARNING the disk does not answer"});
+        row("busy for once", "0 t40; 2 N; 3 t40; 5 N; 6 t40", {});
         for (const char *silent : {"0 Z", "0 N", "0 U"})
             row(silent, silent, {});
     }
@@ -247,6 +248,7 @@ private slots:
                                                   {7, usb, ""},
                                                   {8, usb, ""},
                                                   {99, usb, "8 WARNING the disk does not answer"}}) {
+            m_folder = std::make_unique<DescribedFolder>();
             m_now = m_start;
             open("0 t40", "", keys);
             QVERIFY(m_pc->deviceNotifier());
@@ -307,6 +309,27 @@ private slots:
         QCOMPARE(m_monitor->disks().at(0).unseen.size(), size_t(1));
         QCOMPARE(m_monitor->disks().at(0).heat, Heat::Warm);
         QCOMPARE(m_monitor->disks().at(0).day.size(), size_t(1));
+    }
+
+    /// A disk that cools down in a pause is told when it is hot again behind it.
+    void coolInAPause()
+    {
+        open("0 t47; 2 t40; 6 t47");
+        roundAt(0, false);
+        m_monitor->pauseAlarms(QDateTime::fromMSecsSinceEpoch(m_start + 5 * 60000));
+        rounds(1, 8, false);
+        const QString warning = "WARNING temperature 47 °C, limit 45 °C";
+        QCOMPARE(m_listener.told, (QStringList{"0 " + warning, "6 " + warning}));
+    }
+
+    /// Once it answers again, nothing says that it does not.
+    void answersAgain()
+    {
+        open("0 t40; 2 N; 5 t40");
+        rounds(0, 5, false);
+        QCOMPARE(m_monitor->disks().at(0).unseen.size(), size_t(1));
+        roundAt(5, false);
+        QVERIFY(m_monitor->disks().at(0).unseen.empty());
     }
 
     /// A sleeping disk of which nothing is known but what the file tells.
@@ -412,8 +435,10 @@ private slots:
                     .contains(QString("0     warning       116 °F       98 %    Tarnwell TX2  SER1\n")));
         const QString memory = Platform::current().StateFolder() + "/watch.json";
         QVERIFY(!QFile::exists(memory));
-        QVERIFY(writeFile(memory, R"({"disks": [{"number": 3, "lastReport": 5}]})"));
-        QCOMPARE(Monitor::once(now).at(2).state, DiskState::NoAnswer); // it gave a report once
+        QVERIFY(writeFile(memory, R"({"disks": [{"number": 3, "lastReport": 5, "celsius": 50}]})"));
+        const DiskSummary silent = Monitor::once(now).at(2);
+        QCOMPARE(silent.state, DiskState::NoAnswer); // it gave a report once
+        QVERIFY(!silent.reading.celsius);            // which may be weeks old
     }
 
     void describedKeys()

@@ -313,7 +313,9 @@ private slots:
         QVERIFY(!xml.isEmpty());
         for (const char *part :
              {"<LogonTrigger id=\"Trigger1\">", "<Command>C:\\Program Files\\Halvane\\VelmoraSMART.exe<",
-              "<Arguments>Schedular<", "HighestAvailable", "InteractiveToken", "<StartWhenAvailable>true<"})
+              "<Arguments>Schedular<", "HighestAvailable", "InteractiveToken", "<StartWhenAvailable>true<",
+              "<ExecutionTimeLimit>PT0S<", "<DisallowStartIfOnBatteries>false<",
+              "<StopIfGoingOnBatteries>false<", "<Delay>PT30S<"})
             QVERIFY2(xml.contains(QLatin1String(part)), part);
     }
 
