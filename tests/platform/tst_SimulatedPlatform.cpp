@@ -280,32 +280,27 @@ private slots:
     /// Those that show in no other test, and all of a disk that is barely described.
     void keysAndDefaults()
     {
-        const auto told = [](const QByteArray &json) {
-            QString text;
-            const auto pc = simulated::parsePc(json, "/none", &text);
+        compareRows("SimulatedPlatform/keys", [](const QString &json) {
+            QString error;
+            const auto pc = simulated::parsePc(json.toUtf8(), "/none", &error);
             const auto disk = pc.value_or(PcDescription()).disks.value(0);
-            if (pc)
-                QTextStream(&text) << pc->name << '|' << pc->user << '|' << pc->operatingSystem << '|'
-                                   << pc->dpi << '|' << pc->pauses << pc->hasSmartctl << pc->network << '|'
-                                   << pc->toolMilliseconds << '|' << pc->secondsPerMinute << '|'
-                                   << disk.record.bytesPerSector << '|' << disk.bytesPerSecond << '|'
-                                   << disk.opens << disk.failsPastEnd << disk.identity.has_value() << '|'
-                                   << disk.selfTestEnd.status << ' ' << disk.selfTestEnd.remainingTenths;
-            return text;
-        };
-        QCOMPARE(told(R"({"name": "Bench", "user": "eve", "operatingSystem": "Some System", "dpi": 960,
-                          "pauses": false, "toolMilliseconds": 8, "later": [1],
-                          "selfTest": {"secondsPerMinute": 0.5, "result": "servo"},
-                          "disks": [{"number": 7, "bytesPerSecond": 1000}]})"),
-                 "Bench|eve|Some System|960|010|8|0.5|512|1000000|100|6 1");
-        QCOMPARE(told(R"({"disks": [{"number": 0}]})"),
-                 "PC|user|Microsoft Windows 10 10.0.19045 x64|96|110|0|1|512|0|100|0 0");
+            return pc ? joined(pc->name, pc->user, pc->operatingSystem, pc->dpi, pc->pauses, pc->hasSmartctl,
+                               pc->network, pc->toolMilliseconds, pc->secondsPerMinute,
+                               disk.record.bytesPerSector, disk.bytesPerSecond, disk.opens, disk.failsPastEnd,
+                               disk.identity.has_value(), disk.selfTestEnd.status,
+                               disk.selfTestEnd.remainingTenths)
+                      : error;
+        });
     }
 
-    void windowIsWanted()
+    void windowAndClock()
     {
         static int times = 0;
-        const auto pc = m_folder.open("{}");
+        qint64 now = 1000;
+        const auto pc = m_folder.open(R"({"clockSpeed": 60})", [&now] { return now; });
+        now = 2000;
+        QCOMPARE(pc->Now().toMSecsSinceEpoch(), 61000);
+        QCOMPARE(pc->TimerInterval(60000), 1000);
         QVERIFY(!pc->BringToFront({}));
         pc->WhenWanted([] { ++times; });
         QVERIFY(pc->BringToFront({}));
@@ -341,19 +336,17 @@ private slots:
             {"number": 4, "sectors": 1}]})"));
         DiskIdentity identity;
         QVERIFY(ReadAtaIdentity(128, &identity));
-        QString told;
-        QTextStream(&told) << identity.szModel.text() << ' ' << identity.szSerial.text() << ' '
-                           << identity.szFirmware.text() << ' ' << identity.nTotalLba << ' '
-                           << identity.nCylinders << ' ' << identity.bSmartEnabled << ' '
-                           << identity.nTemperature;
-        QCOMPARE(told, "NorvikNX S1 F123 268435455 16383 1 31");
+        QCOMPARE(joined(identity.szModel.text(), identity.szSerial.text(), identity.szFirmware.text(),
+                        identity.nTotalLba, identity.nCylinders, identity.bSmartEnabled,
+                        identity.nTemperature),
+                 "NorvikNX|S1|F123|268435455|16383|1|31");
         DiskIdentity none;
         QVERIFY(ReadAtaIdentity(132, &none));
         QCOMPARE(none.szModel.text(), QString());
         Platform::install(nullptr);
     }
 
-    void logonTask()
+    void logonTaskAndPaths()
     {
         const std::unique_ptr<Platform> pc = m_folder.open("{}");
         pc->CreateLogonTask({"VelmoraSMART", "eve", "C:\\x.exe", "Schedular"});
@@ -361,11 +354,6 @@ private slots:
         QVERIFY(contentOf(kept("logon-task.json")).contains(R"("program": "C:\\x.exe")"));
         pc->DeleteLogonTask("VelmoraSMART");
         QVERIFY(!QFileInfo::exists(kept("logon-task.json")));
-    }
-
-    void paths()
-    {
-        const auto pc = m_folder.open("{}");
         QVERIFY(QFileInfo(pc->GetTempPathW()).isWritable());
         QCOMPARE(pc->NativePath(pc->GetTempPathW() + "\\tmpFile"), kept("temp/tmpFile"));
         QCOMPARE(pc->NativePath("c:\\updatetmp\\a.txt"), kept("drives/C/updatetmp/a.txt"));
