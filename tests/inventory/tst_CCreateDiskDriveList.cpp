@@ -145,14 +145,14 @@ private slots:
         disk.size = 8001563222016;
         disk.bytesPerSector = 4096;
         disk.serial = " SN-7";
-        bool asked = false;
-        disk.smart = [&asked](quint32, const QByteArray &, QByteArray *) { return asked = true; };
+        bool wasAsked = false;
+        disk.smart = [&wasAsked](quint32, const QByteArray &, QByteArray *) { return wasAsked = true; };
         QCOMPARE(told(), "135|15628053168|8|7452.04 GB|SN-7|");
-        QVERIFY(!asked);
+        QVERIFY(!wasAsked);
         disk.mediaType = io::MediaFixed;
         disk.hasSize = false;
         QCOMPARE(told(), "135|0|8|0.00 KB|SN-7|identity");
-        QVERIFY(asked);
+        QVERIFY(wasAsked);
     }
 
     void listsLettersByFirstExtent()
