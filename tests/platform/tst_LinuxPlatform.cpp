@@ -27,6 +27,10 @@ using namespace rawdisk;
 namespace
 {
 
+// Outside of the class, as moc takes their brackets for its end.
+const char *const Broken[] = {"", R"({"blockdevices":[{"kname":"sda","path":"/dev/sda","type":"di)",
+                              "[1,2,3]", R"({"blockdevices":[1,"sda",null,[]]})"};
+
 const QString Samples = HALVANE_TEST_DATA "/platform/";
 
 lsblk::Inventory parseFile(const QString &name, const QStringList &onlyNodes = {})
@@ -382,8 +386,7 @@ private slots:
 
     void brokenText()
     {
-        for (const char *json : {"", R"({"blockdevices":[{"kname":"sda","path":"/dev/sda","type":"di)",
-                                 "[1,2,3]", R"({"blockdevices":[1,"sda",null,[]]})"}) {
+        for (const char *json : Broken) {
             QCOMPARE(told(lsblk::parse(json)), QString());
             QCOMPARE(lsblk::parse(json, {"/dev/loop1"}).machine.disks.size(), 1);
         }
