@@ -344,18 +344,15 @@ private slots:
     void argumentsAreRead()
     {
         using commandline::Wish;
-        const QVector<QPair<QString, Wish>> rows = {
-            {"--json --once", Wish::OnceJson},
-            {"--once --metrics", Wish::OnceMetrics},
-            {"--collect d", Wish::Collect},
-            {"--collect d --anonymous", Wish::Collect},
-            {"--collect --anonymous", Wish::Unknown},
-            {"--json", Wish::Unknown},
-            {"--once x", Wish::Unknown},
-        };
-        for (const auto &row : rows)
-            QCOMPARE(int(commandline::wishOf(row.first.split(QLatin1Char(' '), Qt::SkipEmptyParts))),
-                     int(row.second));
+        const auto rows = {std::pair("--json --once", Wish::OnceJson),
+                           {"--once --metrics", Wish::OnceMetrics},
+                           {"--collect d", Wish::Collect},
+                           {"--collect d --anonymous", Wish::Collect},
+                           {"--collect --anonymous", Wish::Unknown},
+                           {"--json", Wish::Unknown},
+                           {"--once x", Wish::Unknown}};
+        for (const auto &[arguments, wish] : rows)
+            QCOMPARE(int(commandline::wishOf(QString(arguments).split(' '))), int(wish));
         QCOMPARE(startargument::diskNumber(startargument::forDisk(3)).value_or(-1), 3);
         QVERIFY(!startargument::diskNumber("CloneDisk####3"));
         QVERIFY(!startargument::asksForClone(startargument::forDisk(3)));

@@ -12,7 +12,7 @@
 #include "tests/support/ArrowRows.h"
 #include "tests/support/DiskImage.h"
 #include "tests/support/FakePlatform.h"
-#include "tests/support/LinuxPlaces.h"
+#include "tests/support/WatchedPlatform.h"
 
 #include <QSettings>
 #include <QStorageInfo>

@@ -4,7 +4,7 @@
 #include "platform/tools/CommandInterpreter.h"
 #include "platform/tools/MasterBootRecord.h"
 #include "platform/tools/StorageRecords.h"
-#include "tests/support/Files.h"
+#include "tests/support/ArrowRows.h"
 #include "tests/support/HandMadeDisk.h"
 
 #include <QDir>
@@ -53,28 +53,20 @@ private slots:
         });
     }
 
+    /// Of a command line: the files that it leaves; lines end with a bar.
     void run()
     {
-        const auto row = [this](const char *name, const QByteArray &command, const char *content,
-                                const char *file = "/out.txt") {
+        compareRows("Parts/run", [this](const QString &command) {
             init();
-            QVERIFY(QDir(m_folder->path()).mkdir("John Doe"));
-            QVERIFY(writeFile(m_folder->filePath("out.txt"), "old "));
-            QVERIFY2(runLine("C:\\Windows\\system32\\cmd.exe /c " + command), name);
-            QVERIFY2(contentOf(m_folder->path() + file) == content, name);
-        };
-        row("several blanks", "echo64  -a  -d sat,12 /dev/sdb >> %1/out.txt ", "old -a+-d+sat,12+/dev/sdb\n");
-        row("folder, other letters and suffix", "C:\\W\\wbem\\ECHO64.exe a >> %1\\\\out.txt ", "old a\n");
-        row("name within another", "myecho64.exe a >> %1/out.txt ", "old ");
-        row("folder with slashes", "/tmp/x.d/echo64 a >> %1/out.txt ", "old a\n");
-        row("pipe", "S\\echo64.exe abc | S\\upper.exe x >> %1/out.txt ", "old ABC\nx");
-        row("unknown tool before a pipe", "nothing | upper x >> %1/out.txt ", "old x");
-        row("unknown tool behind a pipe", "echo64 a | nothing >> %1/out.txt ", "old ");
-        row("no blank behind the sign", "echo64 a >>%1/out.txt", "old a\n");
-        row("no redirection", "echo64 a ", "old ");
-        // What stands behind the blank is one more argument of the tool.
-        row("blank in the target", "echo64 a >> %1/John Doe/out.txt ", "a+Doe/out.txt\n", "/John");
-        row("not ASCII", "echo64 a >> %1/J\xc3\xb6rg.txt ", "a\n", "/J\xc3\x83\xc2\xb6rg.txt");
+            const QDir folder(m_folder->path());
+            const bool isMade = folder.mkdir("John Doe") && writeFile(folder.filePath("out.txt"), "old ");
+            if (!isMade || !runLine("C:\\Windows\\system32\\cmd.exe /c " + command.toUtf8()))
+                return QString("not run");
+            QStringList told;
+            for (const QString &name : folder.entryList(QDir::Files))
+                told << name + ": " + contentOf(folder.filePath(name)).replace('\n', '|');
+            return told.join(", ");
+        });
     }
 
     void namesTheFolder()
