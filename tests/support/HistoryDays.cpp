@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // These functions replace the C library's calls that open or change files, and count those for the folder
-// HALVANE_KILL_FOLDER. At the call number HALVANE_KILL_AT the process ends by SIGKILL; a write writes half of its
-// bytes before. Linux only.
+// HALVANE_KILL_FOLDER. At the call number HALVANE_KILL_AT the process ends by SIGKILL; a write writes half of
+// its bytes before. Linux only.
 
 #include "tests/support/HistoryDays.h"
 
