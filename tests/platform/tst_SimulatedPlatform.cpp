@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "inventory/AtaIdentity.h"
 #include "platform/JsonSettings.h"
+#include "platform/simulated/StateFolder.h"
 #include "tests/platform/DescribedFolder.h"
 #include "tests/platform/RawDisk.h"
 #include "tests/support/ArrowRows.h"
@@ -42,16 +43,13 @@ class Session : public QObject
 public:
     explicit Session(const QString &name) : m_description(contentOf(Samples + name + ".json"))
     {
+        if (!simulated::copyFolder(Samples + "session", m_folder.path()))
+            qFatal("no test data");
         m_folder.add("caps.txt", Capabilities);
         m_folder.add("caps-crlf.txt", QByteArray(Capabilities).replace("\n", "\r\n"));
         m_folder.add("caps-none.txt",
                      QByteArray(Capabilities).replace("Self-test supp", "No Self-test supp"));
-        m_folder.add("report.txt",
-                     "  9 Power_On_Hours  0x0032   100   100   050    Old_age   Always  -  65600\n");
         m_folder.add("second.txt", "second \xa0\r\n");
-        m_folder.add("log.txt",
-                     "Num  Test_Description    Status                  Remaining  LifeTime(hours)\n"
-                     "# 1  Extended offline    Completed without error       00%     17092         -\n");
         m_folder.add("a.img", QByteArray(1024, '-') + QByteArray(1024, 'A'));
         m_folder.add("b.img", QByteArray(1024, 'B'));
         start();

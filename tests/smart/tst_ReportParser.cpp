@@ -65,10 +65,8 @@ private slots:
     void reports_data()
     {
         QTest::addColumn<QStringList>("expected");
-        for (const QString &line : QString::fromUtf8(samples::bytesOf("expected.tsv")).split('\n')) {
-            if (!line.startsWith('#') && !line.isEmpty())
-                QTest::newRow(qPrintable(line.section('\t', 0, 0))) << line.split('\t');
-        }
+        for (const QString &line : ::linesOf(HALVANE_TEST_DATA "/smart/expected.tsv"))
+            QTest::newRow(qPrintable(line.section('\t', 0, 0))) << line.split('\t');
     }
 
     /// All that is made of each real report, against tests/data/smart/expected.tsv.
