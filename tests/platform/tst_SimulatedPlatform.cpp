@@ -273,13 +273,18 @@ private slots:
         });
     }
 
-    void clock()
+    void windowAndClock()
     {
+        static int times = 0;
         qint64 now = 1000;
         const auto pc = m_folder.open(R"({"clockSpeed": 60})", [&now] { return now; });
         now = 2000;
         QCOMPARE(pc->Now().toMSecsSinceEpoch(), 61000);
         QCOMPARE(pc->TimerInterval(60000), 1000);
+        QVERIFY(!pc->BringToFront({}));
+        pc->WhenWanted([] { ++times; });
+        QVERIFY(pc->BringToFront({}));
+        QTRY_COMPARE(times, 1);
     }
 
     void isADiskLikeAnother()
