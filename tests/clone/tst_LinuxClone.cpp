@@ -3,7 +3,6 @@
 #include "tests/clone/CloneFixture.h"
 #include "tests/platform/LoopDevice.h"
 #include "tests/support/DiskImage.h"
-#include "tests/support/LinuxPlaces.h"
 #include "tests/support/WatchedPlatform.h"
 
 #include <utility>

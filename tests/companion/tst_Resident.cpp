@@ -57,14 +57,11 @@ private slots:
     {
         const DescribedFolder folder;
         folder.add("pc.json", Description);
-        for (const auto &[report, state, wanted] :
-             {std::tuple("ata-micron-m550", "ok", 0), {"ata-seagate-st31500341as-failed", "failing", 2}}) {
-            folder.add("disk.txt", contentOf(QString(HALVANE_TEST_DATA "/smart/%1.txt").arg(report)));
-            const auto [code, told] = run(environment(folder), {"--once", "--json"});
-            const QJsonArray disks = QJsonDocument::fromJson(told).object().value("disks").toArray();
-            QCOMPARE(disks.at(0).toObject().value("state").toString(), QString(state));
-            QCOMPARE(code, wanted);
-        }
+        folder.add("disk.txt", contentOf(HALVANE_TEST_DATA "/smart/ata-seagate-st31500341as-failed.txt"));
+        const auto [code, told] = run(environment(folder), {"--once", "--json"});
+        const QJsonArray disks = QJsonDocument::fromJson(told).object().value("disks").toArray();
+        QCOMPARE(disks.at(0).toObject().value("state").toString(), QString("failing"));
+        QCOMPARE(code, 2);
     }
 
     void otherArguments()

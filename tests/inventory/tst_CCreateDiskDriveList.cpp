@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "inventory/AtaIdentity.h"
 #include "inventory/CCreateDiskDriveList.h"
 #include "inventory/PartitionWalk.h"
 #include "state/GlobalApp.h"
@@ -47,8 +48,50 @@ QByteArray linuxDisk(const char *first, const char *second)
     return disk.text(10 * 512 + 136, first).text(18 * 512 + 136, second).bytes;
 }
 
+QByteArray swapped(QByteArray text)
+{
+    for (int i = 0; i + 1 < text.size(); i += 2)
+        std::swap(text.data()[i], text.data()[i + 1]);
+    return text;
+}
+
+QByteArray identifyData()
+{
+    HandMadeDisk data(1);
+    data.put(2, quint16(16383)).put(6, quint16(16)).put(12, quint16(63)).put(120, 0x12345678);
+    data.text(20, swapped(QByteArray("SN-0042").rightJustified(20)));
+    data.text(46, swapped(QByteArray("FW1.7").leftJustified(8)));
+    return data.text(54, swapped(QByteArray("NORDWIND NW500").leftJustified(40))).bytes;
+}
+
+/// Each entry is the id, flags of two bytes, value, worst and raw value. Slot 1 stays empty.
+QByteArray smartData()
+{
+    return HandMadeDisk(1)
+        .text(2, {"\x05\0\0\x64\x63\0", 6})
+        .text(2 + 2 * 12, {"\xC2\0\0\x42\x32\x22", 6})
+        .text(2 + 3 * 12, {"\xC2\0\0\x3C\x32\x4D", 6})
+        .text(2 + 29 * 12, {"\xC7\0\0\0\0\1", 6})
+        .bytes;
+}
+
+/// Names, geometry, sectors, SMART, temperature and its copy, and each attribute with its name, values and
+/// state.
+QString told(const DiskIdentity &identity)
+{
+    QString text = joined(identity.szModel.text(), identity.szSerial.text(), identity.szFirmware.text(),
+                          identity.nCylinders, identity.nHeads, identity.nSectors, identity.nTotalLba,
+                          identity.bSmartEnabled, identity.nTemperature, identity.nTemperatureCopy,
+                          identity.nAttributeCount, identity.nThresholdState);
+    for (const IdentityAttribute &attribute : identity.attributes)
+        text += ", " + joined(attribute.nAttrId, attribute.szNameIndex, attribute.nCurrent, attribute.nWorst,
+                              attribute.nState);
+    return text;
+}
+
 } // namespace
 
+/// The list of disks and volumes, and what a disk of the old interface tells of itself.
 class CCreateDiskDriveListTest : public QObject
 {
     Q_OBJECT
@@ -56,13 +99,11 @@ class CCreateDiskDriveListTest : public QObject
 private slots:
     void init() { fake = FakePlatform::install(); }
 
+    /// A tie is rounded to the even digit.
     void writesCapacity()
     {
-        QStringList told;
-        // A tie is rounded to the even digit.
-        for (const quint64 bytes : {1152 * MiB, GiB, GiB - 1, MiB, MiB - 1})
-            told << capacityText(bytes, "KB");
-        QCOMPARE(told, QStringList({"1.12 GB", "1.00 GB", "1024.00 MB", "1.00 MB", "1024.00 KB"}));
+        compareRows("DiskList/capacity",
+                    [](const QString &bytes) { return capacityText(bytes.toULongLong(), "KB"); });
     }
 
     void listsDisksInOrder()
@@ -102,14 +143,14 @@ private slots:
         disk.size = 8001563222016;
         disk.bytesPerSector = 4096;
         disk.serial = " SN-7";
-        bool asked = false;
-        disk.smart = [&asked](quint32, const QByteArray &, QByteArray *) { return asked = true; };
+        bool wasAsked = false;
+        disk.smart = [&wasAsked](quint32, const QByteArray &, QByteArray *) { return wasAsked = true; };
         QCOMPARE(told(), "135|15628053168|8|7452.04 GB|SN-7|");
-        QVERIFY(!asked);
+        QVERIFY(!wasAsked);
         disk.mediaType = io::MediaFixed;
         disk.hasSize = false;
         QCOMPARE(told(), "135|0|8|0.00 KB|SN-7|identity");
-        QVERIFY(asked);
+        QVERIFY(wasAsked);
     }
 
     void listsLettersByFirstExtent()
@@ -171,6 +212,59 @@ private slots:
         QVERIFY(g_linuxPartitions.isEmpty());
     }
 
+    void cutsText()
+    {
+        const auto cut = [](const char *shown) { return ata::identifyText(swapped(shown)); };
+        QCOMPARE(cut("NORDWIND NW500  "), QByteArray("NORDWIND"));
+        QCOMPARE(cut("    SN 42X"), QByteArray("42X"));
+        // With one leading blank, the first byte of the data is the second character.
+        QCOMPARE(cut(" SN4"), QByteArray());
+        QCOMPARE(ata::identifyText(QByteArray("WN05\0\0XX", 8)), QByteArray("NW50"));
+    }
+
+    void namesAttributes()
+    {
+        compareRows("DiskList/names", [](const QString &id) { return ata::nameIndex(id.toInt()); });
+    }
+
+    void takesShortData()
+    {
+        DiskIdentity identity;
+        ata::decodeIdentify(identifyData().left(30), false, &identity);
+        ata::decodeAttributes(smartData().left(7), &identity);
+        QCOMPARE(told(identity), "|||16383|16|63|0|0|0|0|1|1, 5|160|100|99|1");
+    }
+
+    void readsDisk()
+    {
+        const QString names = "NORDWIND|SN-0042|FW1.7|";
+        QCOMPARE(read(0x01), names + "16383|16|63|305419896|1|34|34|4|2, 5|160|100|99|1, 194|171|66|50|1, "
+                                     "194|171|60|50|1, 199|176|0|0|2");
+        QCOMPARE(asked, QStringList({"00000000|d801014fc2a0b000|00", "00020000|0001010000a0ec00|00",
+                                     "00020000|d001014fc2a0b000|00"}));
+        QCOMPARE(fake->openings, QStringList(R"(\\.\PHYSICALDRIVE3 c0000000 3 3)"));
+        read(0x08);
+        QCOMPARE(asked.size(), 3);
+        QCOMPARE(asked.first(), "00000000|d801014fc2b0b000|03");
+        // A packet device.
+        QCOMPARE(read(0x11), names + "0|0|0|305419896|0|0|0|0|0");
+        QCOMPARE(asked, QStringList("00020000|0001010000a0a100|00"));
+        refusesEnable = true;
+        QCOMPARE(read(0x01), names + "16383|16|63|305419896|0|0|0|0|0");
+        QCOMPARE(asked.size(), 2);
+    }
+
+    void leavesRecordEmpty()
+    {
+        const QString empty = "|||0|0|0|0|0|0|0|0|0";
+        QCOMPARE(read(0), empty);
+        fake->disks[3].smart = {}; // as USB disks refuse
+        QCOMPARE(read(0x01), empty);
+        fake->disks[3].opens = false;
+        QCOMPARE(read(0x01), "closed" + empty);
+        QCOMPARE(asked.size(), 0);
+    }
+
 private:
     FakePlatform::Disk &add(int number, quint32 mediaType = io::MediaFixed)
     {
@@ -215,6 +309,41 @@ private:
         return nodes.isEmpty() ? "none" + fake->labelsAsked.join(' ') : nodes.join(' ');
     }
 
+    /// Reads the disk 3, whose drive interface has such devices.
+    QString read(quint8 devices)
+    {
+        if (!fake->disks.contains(3)) {
+            fake->disks[3].smart = [this](quint32 code, const QByteArray &in, QByteArray *out) {
+                return answer(code, in, out);
+            };
+        }
+        map = devices;
+        asked.clear();
+        DiskIdentity identity;
+        const QString opened = ReadAtaIdentity(131, &identity) ? "" : "closed";
+        return fake->openHandles() == 0 ? opened + told(identity) : "handle left";
+    }
+
+    /// The drive interface of the disk.
+    bool answer(quint32 code, const QByteArray &in, QByteArray *out)
+    {
+        if (code == io::SmartGetVersion) {
+            io::GetVersionInParams version{};
+            version.ideDeviceMap = map;
+            *out = QByteArray(reinterpret_cast<const char *>(&version), sizeof version);
+            return true;
+        }
+        asked << joined(in.left(4).toHex(), in.mid(4, 8).toHex(), in.mid(12, 1).toHex());
+        *out = QByteArray(16, '\0');
+        if (code == io::SmartSendDriveCommand)
+            return !refusesEnable;
+        out->append(in.at(10) == '\xB0' ? smartData() : identifyData());
+        return true;
+    }
+
+    quint8 map = 0; ///< of the devices that the interface has
+    bool refusesEnable = false;
+    QStringList asked; ///< bytes wanted, registers and device of each command
     FakePlatform *fake = nullptr;
 };
 

@@ -153,20 +153,12 @@ private slots:
                               "1|IDE|SAMSUNG SSD 830 Series |SAMSUNG SSD 830 Series|OK", "-1||||"}));
         QCOMPARE(g_pWmicDiskListTail->nDiskId, wmic::Nobody);
         QVERIFY(!QFile::exists(tempFile("DiskInfo.txt")));
-        outputs[question] = "Index  InterfaceType  Model  Status\r\n"
-                            "0  IDE  NORDWIND NW 500 ATA Device  OK  \r\n"
-                            "1  SCSI  NW500 SCSI Disk Device  OK\r\n"
-                            "2  SCSI  NORDWIND NW500  OK\r\n"
-                            "3  IDE  NW500 Device  Pred Fail\r\n"
-                            "4  USB  OK\r\n"
-                            "5  USB\r\n"
-                            // The header's word is data further down.
-                            "6  IDE  Index X 1 ATA Device  OK\r\n";
-        LoadDiskDrives(ignoreIdentity);
-        QCOMPARE(diskRecords(),
-                 QStringList({"0|IDE|NORDWIND NW 500 |NORDWIND NW 500|OK", "1|SCSI|NW500 SCSI D|NW500|OK",
-                              "2|SCSI|NORDW|NORDWIND NW500|OK", "3|IDE|NW500 Dev|NW500 Device|Fail",
-                              "4|USB|||OK", "5|USB|||", "6|IDE|Index X 1 |Index X 1|OK"}));
+        // Of a line below the header, which has the word "Index", too.
+        compareRows("WmicInventory/drives", [&](const QString &line) {
+            outputs[question] = "Index  InterfaceType  Model  Status\r\n" + line.toLatin1() + "\r\n";
+            LoadDiskDrives(ignoreIdentity);
+            return diskRecords().join(' ');
+        });
         QCOMPARE(g_pWmicDiskListTail->nDiskId, 128u + 6);
     }
 

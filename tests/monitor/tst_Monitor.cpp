@@ -8,6 +8,7 @@
 #include "state/Globals.h"
 #include "state/SettingsStore.h"
 #include "tests/platform/DescribedFolder.h"
+#include "tests/support/ArrowRows.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -24,40 +25,21 @@ namespace
 /// "s9" spare, "m1" media errors, "c4" critical warning.
 QByteArray reportOf(const QStringList &words)
 {
-    QMap<QChar, int> figures;
-    for (const QString &word : words)
-        figures.insert(word.at(0), word.mid(1).toInt());
-    const auto has = [&words](const char *word) { return words.contains(QLatin1String(word)); };
-    const auto line = [&figures](const char *text, char letter, int fallback) {
-        return QString(text).arg(figures.value(QLatin1Char(letter), fallback)).toUtf8() + '\n';
-    };
-    if (has("U"))
+    if (words.contains("U"))
         return "/dev/sda: Unknown USB bridge\n";
-    if (has("N"))
+    if (words.contains("N"))
         return "Smartctl open device: /dev/sda failed: No such device\n";
-    QByteArray text = has("nvme")
-                          ? "Model Number: Oskarn N1\nWarning  Comp. Temp. Threshold:     85 Celsius\n"
-                          : "Device Model: Tarnwell TX2\n";
-    text += line("Serial Number: SER%1", 'D', 1) + "Firmware Version: 1.0\nRotation Rate: 7200 rpm\n";
-    text +=
-        has("nvme") ? "=== START OF SMART DATA SECTION ===\n" : "=== START OF READ SMART DATA SECTION ===\n";
-    text += QByteArray("SMART overall-health self-assessment test result: ") +
-            (has("F") ? "FAILED!" : "PASSED") + "\n\n";
-    if (has("nvme"))
-        return text + "SMART/Health Information (NVMe Log 0x02)\n" + line("Critical Warning: 0x0%1", 'c', 0) +
-               line("Temperature: %1 Celsius", 't', 40) + line("Available Spare: %1%", 's', 100) +
-               "Available Spare Threshold: 10%\n" + line("Percentage Used: %1%", 'w', 3) +
-               line("Media and Data Integrity Errors: %1", 'm', 0) + '\n';
-    text += "ID# ATTRIBUTE_NAME FLAG VALUE WORST THRESH TYPE UPDATED WHEN_FAILED RAW_VALUE\n";
-    text += line("  5 Reallocated_Sector_Ct 0x33 100 100 010 Pre-fail Always - %1", 'r', 0);
-    text += QByteArray("  7 Seek_Error_Rate 0x0f 060 060 061 Old_age Always ") +
-            (has("X") ? "FAILING_NOW" : "-") + " 0\n";
-    text += line("194 Temperature_Celsius 0x22 060 060 000 Old_age Always - %1", 't', 40);
-    text += line("197 Current_Pending_Sector 0x12 100 100 000 Old_age Always - %1", 'p', 0);
-    text += line("198 Offline_Uncorrectable 0x10 100 100 000 Old_age Offline - %1", 'u', 0) + '\n';
-    if (figures.contains('S'))
-        text += line("# 1  Short offline       Completed: read failure       90%      %1         8", 'S', 0);
-    return text;
+    QMap<QChar, QString> figures{{'D', "1"}, {'t', "40"},     {'s', "100"},
+                                 {'w', "3"}, {'F', "PASSED"}, {'X', "-"}};
+    for (const QString &word : words)
+        figures[word.at(0)] = word == "F" ? "FAILED!" : word == "X" ? "FAILING_NOW" : word.mid(1);
+    const QString kind = words.contains("nvme") ? "nvme" : "ata";
+    QString text = QString::fromUtf8(contentOf(HALVANE_TEST_DATA "/monitor/" + kind + ".txt"));
+    if (!figures.contains('S'))
+        text = text.section("# 1", 0, 0);
+    for (const QChar letter : QString("DtrpuFXSwsmc"))
+        text.replace('{' + QString(letter) + '}', figures.value(letter, "0"));
+    return text.toUtf8();
 }
 
 struct Recorder : MonitorListener {
@@ -102,84 +84,40 @@ private slots:
         g_App.m_strSettingsPath = QStringLiteral("HKEY_LOCAL_MACHINE\\Velmora Halvane for Windows");
     }
 
-    void stories_data()
-    {
-        QTest::addColumn<QByteArray>("settings");
-        QTest::addColumn<QString>("story"); // "<minute> <words>; …"
-        QTest::addColumn<QStringList>("told");
-        const auto row = [](const char *name, const char *story, const QStringList &told,
-                            const QByteArray &settings = "") {
-            QTest::newRow(name) << settings << QString(story) << told;
-        };
-        row("crossing", "0 t44; 3 t45; 9 t46", {"3 WARNING temperature 45 °C, limit 45 °C"});
-        row("cool for two rounds", "0 t47; 2 t43; 4 t47; 6 t42; 7 t47; 9 t42; 11 t47; 12 t40",
-            {"0 WARNING temperature 47 °C, limit 45 °C", "11 WARNING temperature 47 °C, limit 45 °C"});
-        row("shutdown replaces", "0 t40; 2 t52; 4 t48; 6 t52; 8 t50",
-            {"2 CRITICAL temperature 52 °C, shutdown limit 50 °C"});
-        row("no warnings", "0 t47; 3 t50", {"3 CRITICAL temperature 50 °C, shutdown limit 50 °C"},
-            R"("DontShow": 1)");
-        row("no shutdown", "0 t60", {"0 WARNING temperature 60 °C, limit 45 °C"}, R"("ShutDownDontShow": 1)");
-        row("fahrenheit", "0 t48; 2 t49", {"2 WARNING temperature 120 °F, limit 120 °F"},
-            R"("TempValue": "F", "WarningtemValue": "F", "WarningValue": 119, "ShutDownValue": 60)");
-        row("no temperature", "0 t121; 3 t0", {});
-        row("a drive's own limit", "0 nvme t74; 2 nvme t75; 4 nvme t85",
-            {"2 WARNING temperature 75 °C, limit 75 °C",
-             "4 CRITICAL temperature 85 °C, shutdown limit 85 °C"});
-        row("a limit was chosen", "0 nvme t55; 2 nvme t56", {"2 WARNING temperature 56 °C, limit 56 °C"},
-            R"("WarningValue": 56, "ShutDownValue": 70)");
-        row("limits of the disk", "0 t30", {"0 WARNING temperature 30 °C, limit 30 °C"},
-            R"("Limits/SER1": "30 60")");
-        row("verdict", "0 t40; 2 F X; 5 t40; 7 F",
-            {"2 CRITICAL the drive reports that it is failing: Seek Error Rate"});
-        row("attribute", "0 t40; 2 X; 4 t40; 6 X", {"2 CRITICAL failing attributes: Seek Error Rate"});
-        row("counts", "0 r0; 2 p8; 4 p5; 6 p8; 8 p9 r3; 10 p9 r3 u1",
-            {"2 WARNING pending sectors: 8", "8 WARNING reallocated sectors: 3",
-             "8 WARNING pending sectors: 9 (before: 8)", "10 WARNING uncorrectable errors: 1"});
-        row("nvme",
-            "0 nvme w89; 2 nvme w90; 3 nvme w99 s10; 4 nvme w100 s9 m2; 6 nvme w101 s8 m2 c8; 8 nvme w101 s8 "
-            "m2 c18",
-            {"2 WARNING wear 90 %", "4 WARNING media errors: 2", "4 CRITICAL spare 9 %, threshold 10 %",
-             "4 WARNING wear 100 %", "6 CRITICAL the drive reports that it is failing: read-only",
-             "8 CRITICAL critical warning: the backup of its memory has failed"});
-        // Heat that has an alarm is told by it alone.
-        row("heat by the drive", "0 nvme t80 c2; 4 nvme t4 c2",
-            {"0 WARNING temperature 80 °C, limit 75 °C", "4 CRITICAL critical warning: too hot or too cold"});
-        row("self-test", "0 S1; 2 S1; 4 S2; 6 t40",
-            {"0 CRITICAL the self-test failed: Completed: read failure",
-             "4 CRITICAL the self-test failed: Completed: read failure"});
-        row("asleep", "0 t40; 2 Z; 3 t48; 6 A", {"6 WARNING temperature 48 °C, limit 45 °C"});
-        row("another disk in its place", "0 p8; 2 p8 D2; 4 p8; 6 p9 D2",
-            {"0 WARNING pending sectors: 8", "2 WARNING pending sectors: 8",
-             "6 WARNING pending sectors: 9 (before: 8)"});
-        row("no answer", "0 t40; 2 N; 4 t40; 6 N",
-            {"3 WARNING the disk does not answer", "7 WARNING the disk does not answer"});
-        row("busy for once", "0 t40; 2 N; 3 t40; 5 N; 6 t40", {});
-        for (const char *silent : {"0 Z", "0 N", "0 U"})
-            row(silent, silent, {});
-    }
-
-    /// With one monitor, and with a new one every round or fifth round, as if it was killed in between.
+    /// "{settings} story -> what is told", the story "<minute> <words>; …": with one monitor, and with a new
+    /// one every round or fifth round, as if it was killed in between.
     void stories()
     {
-        QFETCH(QByteArray, settings);
-        QFETCH(QString, story);
-        QFETCH(QStringList, told);
-        m_listener.fahrenheit = settings.contains("TempValue");
-        for (const int life : {14, 1, 5}) {
-            m_folder = std::make_unique<DescribedFolder>();
-            m_listener.told.clear();
-            m_now = m_start;
-            open(story, settings);
-            for (int minute = 0; minute < 14; ++minute)
-                roundAt(minute, minute % life == 0);
-            QCOMPARE(m_listener.told, told);
-            // The log has each of them once, and one line of the day for each disk.
-            QCOMPARE(logged().size(), told.size() + logged().filter("INFO").size());
-            QCOMPARE(logged().filter("INFO").size(), story.contains("D2") ? 2 : 1);
-            for (const QString &each : told)
-                QCOMPARE(logged().filter(each.section(' ', 2)).size(),
-                         told.filter(each.section(' ', 2)).size());
-        }
+        compareRows("Monitor/stories", [this](const QString &row) {
+            const QString settings = row.startsWith('{') ? row.section('}', 0, 0).mid(1) : QString();
+            const QString story = row.section("} ", -1);
+            m_listener.fahrenheit = settings.contains("TempValue");
+            QStringList lives;
+            for (const int life : {14, 1, 5}) {
+                m_folder = std::make_unique<DescribedFolder>();
+                m_listener.told.clear();
+                m_now = m_start;
+                open(story, settings.toUtf8());
+                for (int minute = 0; minute < 14; ++minute)
+                    roundAt(minute, minute % life == 0);
+                // The log has each of them once, and one line of the day for each disk.
+                QStringList wanted;
+                for (const QString &each : qAsConst(m_listener.told))
+                    wanted << each.section(' ', 2);
+                QStringList log = logged();
+                for (QString &line : log)
+                    line = line.contains("  INFO  ") ? "day" : line.section("  ", -1);
+                for (int disk = story.contains("D2") ? 2 : 1; disk > 0; --disk)
+                    wanted << "day";
+                lives << m_listener.told.join(" | ");
+                wanted.sort();
+                log.sort();
+                if (log != wanted)
+                    lives << "the log: " + log.join(" | ");
+            }
+            lives.removeDuplicates();
+            return lives.join(" or ");
+        });
     }
 
     void logLines()
@@ -353,7 +291,7 @@ private slots:
             open("0 t40", "", keys);
             for (int minute = 0; minute <= 60; ++minute)
                 roundAt(minute, false);
-            const QByteArray commands = DescribedFolder::contents(m_pc->stateFolder() + "/commands.log");
+            const QByteArray commands = contentOf(m_pc->stateFolder() + "/commands.log");
             QCOMPARE(commands.count("smartctl64Bit.exe -n standby -a /dev/sda >> "), asked);
             QCOMPARE(commands.count("smartctl"), asked);
         }
@@ -395,11 +333,11 @@ private slots:
         for (int minute = 0; minute < 3000; ++minute) {
             roundAt(minute, false);
             if (minute == 1700)
-                size = DescribedFolder::contents(m_pc->StateFolder() + "/watch.json").size();
+                size = contentOf(m_pc->StateFolder() + "/watch.json").size();
         }
         QCOMPARE(m_listener.told.filter("temperature").size(), 2); // of each day
         QCOMPARE(m_listener.told.filter("pending").size(), 1);
-        QVERIFY(DescribedFolder::contents(m_pc->StateFolder() + "/watch.json").size() < size + 500);
+        QVERIFY(contentOf(m_pc->StateFolder() + "/watch.json").size() < size + 500);
         QCOMPARE(QDir(m_pc->GetTempPathW()).entryList(QDir::Files).size(), 0);
     }
 
@@ -412,25 +350,9 @@ private slots:
         const QDateTime now = Platform::current().Now();
         const auto disks = Monitor::once(now);
         QCOMPARE(once::exitCode(disks), 1);
-        const QJsonObject all = QJsonDocument::fromJson(once::json(disks, "1.2", now)).object();
-        QCOMPARE(all.value("schema").toInt(), 1);
-        QVERIFY(QDateTime::fromString(all.value("time").toString(), Qt::ISODate).isValid());
-        const QJsonArray list = all.value("disks").toArray();
-        QCOMPARE(list.size(), 3);
-        const QJsonObject first = list.at(0).toObject();
-        QCOMPARE(first.value("state").toString(), QString("warning"));
-        QCOMPARE(first.value("verdict").toString(), QString("passed"));
-        QCOMPARE(first.value("temperatureC").toInt(), 47);
-        QCOMPARE(
-            QJsonDocument(first.value("attributes").toArray().at(0).toObject())
-                .toJson(QJsonDocument::Compact),
-            R"({"id":5,"name":"Reallocated Sector Ct","raw":"0","status":"OK","threshold":10,"value":100,"worst":100})");
-        const QJsonObject second = list.at(1).toObject();
-        QCOMPARE(second.value("state").toString(), QString("asleep"));
-        QCOMPARE(second.value("serial").toString(), QString("S-2"));
-        for (const char *unknown : {"temperatureC", "healthPercent", "lifeDays", "firmware"})
-            QVERIFY(second.contains(unknown) && second.value(unknown).isNull());
-        QCOMPARE(list.at(2).toObject().value("state").toString(), QString("notSupported"));
+        QJsonObject all = QJsonDocument::fromJson(once::json(disks, "1.2", now)).object();
+        QVERIFY(QDateTime::fromString(all.take("time").toString(), Qt::ISODate).isValid());
+        QCOMPARE(QJsonDocument(all).toJson(), contentOf(HALVANE_TEST_DATA "/monitor/once.json"));
         QVERIFY(once::table(disks, true)
                     .contains(QString("0     warning       116 °F       98 %    Tarnwell TX2  SER1\n")));
         const QString memory = Platform::current().StateFolder() + "/watch.json";
@@ -439,31 +361,6 @@ private slots:
         const DiskSummary silent = Monitor::once(now).at(2);
         QCOMPARE(silent.state, DiskState::NoAnswer); // it gave a report once
         QVERIFY(!silent.reading.celsius);            // which may be weeks old
-    }
-
-    void describedKeys()
-    {
-        m_folder->add("a.txt", "x");
-        const QByteArray disk = R"({"disks": [{"number": 0}], )";
-        const auto change = [](const char *inside) {
-            return QByteArray(R"("reportChanges": [{)") + inside + "}]";
-        };
-        for (const auto &[keys, wanted] :
-             {std::pair(change(R"("disk": 0, "report": "a.txt")"), "reportChanges[0].afterSeconds: a whole"),
-              {change(R"("afterSeconds": 1, "disk": 4, "report": "a.txt")"),
-               "reportChanges[0].disk: there is no"},
-              {change(R"("afterSeconds": 1, "disk": 0, "report": "../b")"), "reportChanges[0].report: "},
-              {change(R"("afterSeconds": 1, "disk": 0)"), "reportChanges[0].report: a text"},
-              {change(R"("afterSeconds": 1, "disk": 0, "asleep": 1)"), "reportChanges[0].asleep: true or"},
-              {R"("clockSpeed": 0)", "clockSpeed: a number from"}}) {
-            QString error;
-            QVERIFY(!simulated::parsePc(disk + keys + '}', m_folder->path(), &error));
-            QVERIFY2(error.startsWith(wanted), qPrintable(error));
-        }
-        const auto pc = m_folder->open(disk + R"("clockSpeed": 60})", [this] { return m_now; });
-        m_now += 1000;
-        QCOMPARE(pc->Now().toMSecsSinceEpoch(), m_start + 60000);
-        QCOMPARE(pc->TimerInterval(60000), 1000);
     }
 
 private:
@@ -513,8 +410,7 @@ private:
 
     QStringList logged() const
     {
-        return QString::fromUtf8(DescribedFolder::contents(m_pc->NativePath("L:\\log.txt")))
-            .split('\n', Qt::SkipEmptyParts);
+        return QString::fromUtf8(contentOf(m_pc->NativePath("L:\\log.txt"))).split('\n', Qt::SkipEmptyParts);
     }
 
     const qint64 m_start = QDateTime(QDate(2026, 11, 21), QTime(14, 3, 7)).toMSecsSinceEpoch();

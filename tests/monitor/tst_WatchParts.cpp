@@ -6,8 +6,8 @@
 #include "monitor/Monitor.h"
 #include "platform/FileLock.h"
 #include "state/SettingsStore.h"
+#include "tests/support/ArrowRows.h"
 #include "tests/support/FakePlatform.h"
-#include "tests/support/Files.h"
 
 #include <QtTest>
 
@@ -49,24 +49,11 @@ class TestWatchParts : public QObject
     Q_OBJECT
 
 private slots:
-    /// What real reports tell: state, °C, health, replaced, pending, uncorrectable, wear, self-test.
+    /// What real reports tell: state, model, bytes, kind, self-test, °C, its limit, health, wear, replaced,
+    /// pending, uncorrectable, media errors, hours, days of life.
     void realReports()
     {
-        for (const auto &[file, wanted] :
-             {std::pair("ata-wdc-wd10ezex-readfail",
-                        "warning|WDC WD10EZEX-00RKKA0|1000204886016|rotating|Completed: "
-                        "read failure|42|-|21|-|874|1|0|-|1589|77"),
-              {"ata-seagate-st31500341as-failed",
-               "failing|ST31500341AS|1500301910016|rotating||45|-|30|-|4095|0|0|-|7898|134"},
-              {"ata-micron-m550",
-               "ok|Micron_M550_MTFDDAT064MAY|64023257088|still||32|-|90|25|0|0|0|-|74245|0"},
-              {"nvme-win-samsung-980pro-1tb",
-               "ok|Samsung SSD 980 PRO 1TB|1000204886016|still||62|82|87|13|-|-|-|0|3441|-"},
-              {"nvme-wdc-sn850-1tb", "ok|WDS200T1X0E-00AFY0|2000398934016|still||44|84|100|0|-|-|-|0|3457|-"},
-              {"sas-hgst-hus726040al5210", "ok||4000787030016|rotating||-|-|-|-|-|-|-|-|-|-"},
-              {"err-lacks-smart-capability",
-               "notSupported|VBOX HARDDISK|21474836480|rotating||-|-|-|-|-|-|-|-|-|-"},
-              {"err-unknown-usb-bridge", "notSupported||0|rotating||-|-|-|-|-|-|-|-|-|-"}}) {
+        compareRows("WatchParts/realReports", [](const QString &file) {
             const DiskReading reading =
                 readingOf(QString::fromUtf8(contentOf(QString(HALVANE_TEST_DATA "/smart/%1.txt").arg(file))));
             QStringList told{once::nameOf(stateOf(reading.answer, reading, Heat::InOrder)), reading.model,
@@ -76,25 +63,18 @@ private slots:
                 ((told << (figures ? QString::number(*figures) : QString("-"))), ...);
             };
             add(reading.celsius, reading.warningCelsius, reading.health, reading.wear, reading.reallocated,
-                reading.pending);
-            add(reading.uncorrectable, reading.mediaErrors, reading.powerOnHours, reading.lifeDays);
-            QCOMPARE(told.join('|'), wanted);
-        }
+                reading.pending, reading.uncorrectable, reading.mediaErrors, reading.powerOnHours,
+                reading.lifeDays);
+            return told.join('|');
+        });
     }
 
     void answers()
     {
-        using Answer = DiskReading::Answer;
-        for (const auto &[text, answer] :
-             {std::pair("x\nDevice is in SLEEP mode, exit(2)\n", Answer::Asleep),
-              {"Device is in STANDBY BY COMMAND mode, exit(2)", Answer::Asleep},
-              {"Device is in IDLE_B mode, exit(2)", Answer::Asleep},
-              {"Device is in ACTIVE or IDLE mode", Answer::NotSupported},
-              {"Smartctl open device: /dev/sda failed: No such device\n", Answer::NoAnswer},
-              {"Read Device Identity failed: Input/output error\n", Answer::NoAnswer},
-              {"SMART Health Status: FAILURE PREDICTION THRESHOLD EXCEEDED\n", Answer::Report},
-              {"", Answer::NotSupported}})
-            QCOMPARE(readingOf(text).answer, answer);
+        compareRows("WatchParts/answers", [](const QString &text) {
+            const DiskReading reading = readingOf(QString(text).replace('|', '\n'));
+            return once::nameOf(stateOf(reading.answer, reading, Heat::InOrder));
+        });
     }
 
     void alarmOfALongDay()
@@ -313,20 +293,15 @@ private slots:
 
     void exitCodes()
     {
-        const auto codeOf = [](std::initializer_list<DiskState> states) {
+        const QStringList names{"failing", "noAnswer", "warning", "ok", "asleep", "notSupported"};
+        compareRows("WatchParts/exitCodes", [&names](const QString &states) {
             std::vector<DiskSummary> disks;
-            for (const DiskState state : states) {
+            for (const QString &state : states.split(' ', Qt::SkipEmptyParts)) {
                 disks.emplace_back();
-                disks.back().state = state;
+                disks.back().state = DiskState(names.indexOf(state));
             }
             return once::exitCode(disks);
-        };
-        QCOMPARE(codeOf({DiskState::Ok, DiskState::Asleep, DiskState::NotSupported}), 0);
-        QCOMPARE(codeOf({DiskState::Ok, DiskState::NoAnswer}), 1);
-        QCOMPARE(codeOf({DiskState::Ok, DiskState::Warning}), 1);
-        QCOMPARE(codeOf({DiskState::Warning, DiskState::Failing}), 2);
-        QCOMPARE(codeOf({DiskState::NoAnswer, DiskState::NotSupported}), 3);
-        QCOMPARE(codeOf({}), 3);
+        });
     }
 
     void ownLimits()

@@ -34,8 +34,6 @@ public:
         return pc;
     }
 
-    static QByteArray contents(const QString &file) { return contentOf(file); }
-
 private:
     QTemporaryDir m_folder;
     QTemporaryDir m_state;

@@ -4,14 +4,19 @@
 #include "platform/linux/DesktopNotes.h"
 #include "platform/linux/LinuxDisks.h"
 #include "platform/linux/LinuxTools.h"
+#include "platform/linux/LsblkInventory.h"
 #include "platform/linux/RawDevice.h"
+#include "platform/simulated/SimulatedPlatform.h"
 #include "tests/platform/LoopDevice.h"
 #include "tests/platform/RawDisk.h"
+#include "tests/support/ArrowRows.h"
+#include "tests/support/DiskImage.h"
 #include "tests/support/FakePlatform.h"
-#include "tests/support/LinuxPlaces.h"
+#include "tests/support/WatchedPlatform.h"
 
 #include <QSettings>
 #include <QStorageInfo>
+#include <QtTest>
 
 #include <csignal>
 #include <sys/resource.h>
@@ -19,6 +24,65 @@
 
 using namespace rawdisk;
 
+namespace
+{
+
+// Outside of the class, as moc takes their brackets for its end.
+const char *const Broken[] = {"", R"({"blockdevices":[{"kname":"sda","path":"/dev/sda","type":"di)",
+                              "[1,2,3]", R"({"blockdevices":[1,"sda",null,[]]})"};
+
+const QString Samples = HALVANE_TEST_DATA "/platform/";
+
+lsblk::Inventory parseFile(const QString &name, const QStringList &onlyNodes = {})
+{
+    return lsblk::parse(contentOf(Samples + name + ".json"), onlyNodes);
+}
+
+/// Disks, volumes and partitions, a line each. Places and lengths of volumes are in sectors.
+QString told(const lsblk::Inventory &pc)
+{
+    QString text;
+    QTextStream out(&text);
+    for (const inventory::Disk &disk : pc.machine.disks)
+        out << disk.number << ' ' << disk.media << ' ' << disk.model << " [" << disk.interfaceType << "] "
+            << disk.status << ' ' << disk.bytesPerSector << ' ' << disk.sectors << ' ' << disk.node << '\n';
+    for (const inventory::Volume &volume : pc.machine.volumes) {
+        out << volume.letter << ' ' << volume.mountPoint << ' ' << volume.type << " [" << volume.label << "] "
+            << volume.fileSystem << ' ' << volume.bitLocker;
+        for (const inventory::Extent &extent : volume.extents)
+            out << ' ' << extent.disk << '@' << extent.offset / 512 << '+' << extent.length / 512;
+        out << '\n';
+    }
+    for (const inventory::Partition &partition : pc.machine.partitions)
+        out << partition.name << "; " << partition.type << "; " << partition.size << "; " << partition.disk
+            << '\n';
+    return text;
+}
+
+/// A machine of disks that are mounted as a whole: "name:folder".
+lsblk::Inventory wholeDisks(const QByteArrayList &disks, const lsblk::Inventory &previous = {})
+{
+    QByteArrayList json;
+    for (const QByteArray &disk : disks) {
+        const QByteArrayList parts = disk.split(':');
+        json += R"({"kname":")" + parts.at(0) + R"(","path":"/dev/)" + parts.at(0) +
+                R"(","type":"disk","size":1048576,"mountpoints":[")" + parts.at(1) + "\"]}";
+    }
+    return lsblk::parse(R"({"blockdevices":[)" + json.join(',') + "]}", {}, previous);
+}
+
+/// The same without what these disks have in common.
+QString placesOf(const lsblk::Inventory &pc)
+{
+    static const QRegularExpression same(
+        " fixed Disk \\w+ HDD Device.* 2048|fixed \\[\\]  None |\\+2048|Disk #.*\n");
+    return told(pc).remove(same).replace('\n', ' ');
+}
+
+} // namespace
+
+/// The Linux platform on image files and loop devices, the tables of its disks, and the demo PC as
+/// demo/make-pc makes it here.
 class tst_LinuxPlatform : public QObject
 {
     Q_OBJECT
@@ -26,53 +90,8 @@ class tst_LinuxPlatform : public QObject
 private slots:
     void init() { m_folder.reset(new QTemporaryDir); }
 
-    void rawDisk_data()
-    {
-        QTest::addColumn<bool>("loop");
-        QTest::newRow("image file") << false;
-        QTest::newRow("loop device") << true;
-    }
-
-    void rawDisk()
-    {
-        QFETCH(bool, loop);
-        const QString image = path("disk.img");
-        QVERIFY(writeFile(image, pattern(Sectors)));
-        const QScopedPointer<LoopDevice> device(loop ? new LoopDevice(image) : nullptr);
-        if (loop && device->node().isEmpty())
-            QSKIP("no loop devices here");
-        startOn(loop ? device->node() : image);
-        const auto handle = open(*m_pc, First);
-        QVERIFY(handle != Platform::InvalidHandle);
-        io::DiskGeometryEx geometry{};
-        quint32 returned = 0;
-        const auto asks = [&](quint32 code, quint32 room) {
-            return m_pc->DeviceIoControl(handle, code, nullptr, 0, &geometry, room, &returned);
-        };
-        QVERIFY(asks(io::DiskGetDriveGeometryEx, sizeof geometry));
-        QCOMPARE(returned, quint32(sizeof geometry));
-        QCOMPARE(geometry.diskSize, qint64(Sectors) * SectorSize);
-        QCOMPARE(geometry.geometry.bytesPerSector, quint32(SectorSize));
-        QCOMPARE(geometry.geometry.mediaType, quint32(io::MediaFixed));
-        QVERIFY(!asks(io::DiskGetDriveGeometry, 23));
-        QVERIFY(!asks(io::VolumeGetVolumeDiskExtents, sizeof geometry));
-        QVERIFY(!asks(io::SmartGetVersion, sizeof geometry));
-        const auto before = m_pc->DiskActivity(0);
-        QCOMPARE(before.has_value(), loop);
-        checkReads(*m_pc, handle);
-        QVERIFY(!loop || m_pc->DiskActivity(0) > before);
-        QCOMPARE(contentOf(image), pattern(Sectors));
-        checkWrites(*m_pc, handle, Sectors - 1);
-        QVERIFY(contentOf(image) == written());
-
-        QVERIFY(!m_pc->IsGone(handle));
-        QVERIFY(QFile::resize(image, 0));
-        if (loop)
-            QVERIFY(runs("losetup", {"-c", device->node()}));
-        QVERIFY(m_pc->IsGone(handle));
-        QCOMPARE(open(*m_pc, "/etc/hostname", io::GenericRead), Platform::InvalidHandle);
-        checkNoHandles(*m_pc, handle);
-    }
+    void imageFile() { checkRawDisk(false); }
+    void loopDevice() { checkRawDisk(true); }
 
     void bigSectors()
     {
@@ -130,14 +149,9 @@ private slots:
         machine.disks[0].node = "/dev/nvme0n1";
         machine.disks[1].number = 2;
         machine.disks[1].node = "/dev/sdb";
-        const auto asked = [&machine](const QString &words) {
+        compareRows("LinuxPlatform/smartctl", [&machine](const QString &words) {
             return linuxtools::smartctlArguments(machine, words.split(' ')).join(' ');
-        };
-        QCOMPARE(asked("-a /dev/sda"), "-a /dev/nvme0n1");
-        QCOMPARE(asked("-a -d sat,12 /dev/sdc"), "-a -d sat,12 /dev/sdb");
-        QCOMPARE(asked("-a"), "-a");
-        for (const char *none : {"-a /dev/sdb", "-t short /dev/sdd", "-a /dev/sdac"})
-            QCOMPARE(asked(none), QString());
+        });
     }
 
     void toolOutput()
@@ -210,16 +224,12 @@ private slots:
 
     void systemPlaces()
     {
-        const auto bearsSystem = [](const QByteArray &places) {
+        compareRows("LinuxPlatform/systemPlaces", [](const QString &places) {
             return linuxdisks::bearsSystem(linuxdisks::mountPoints(
                 R"({"blockdevices":[{"path":"/dev/x","mountpoints":[null],"children":[{"path":"/dev/x1",)"
                 R"("mountpoints":[null],"children":[{"path":"/dev/mapper/y","mountpoints":[)" +
-                places + "]}]}]}]}"));
-        };
-        for (const char *places : {R"("/")", R"(null,"[SWAP]")", R"("/boot/efi")", R"("/media/a","/usr")"})
-            QVERIFY2(bearsSystem(places), places);
-        for (const char *places : {R"("/media/stick")", R"("/variety")", "null"})
-            QVERIFY2(!bearsSystem(places), places);
+                places.toUtf8() + "]}]}]}]}"));
+        });
     }
 
     void machineIsProtected()
@@ -340,8 +350,135 @@ private slots:
                  (QStringList{"--", "-t", "&lt;a href='x'>&amp;\\\\n"}));
     }
 
+    /// In the virtual machine a disk without a table is one partition, and "/" makes it the system's. "dos"
+    /// and "gpt" are systems without a partition for the firmware. In "strange" numbers are quoted, as older
+    /// versions of the tool do it, or lies.
+    void machines()
+    {
+        for (const QString name : {"workstation", "virtual-machine", "dos", "gpt", "strange"})
+            QCOMPARE(told(parseFile("lsblk-" + name)), contentOf(Samples + "lsblk-" + name + ".txt"));
+        QCOMPARE(
+            told(parseFile("lsblk-workstation", {"/dev/sdb", "/dev/nowhere", "/dev/loop7", "/dev/sda1"})),
+            contentOf(Samples + "lsblk-named-nodes.txt"));
+        QCOMPARE(parseFile("lsblk-strange").machine.disks.last().serial, "S\uFFFD");
+        const lsblk::Inventory pc = parseFile("lsblk-workstation");
+        QCOMPARE(pc.volumeNodes.value('E') + pc.volumeNodes.value('J'), "/dev/mapper/home/dev/sda1");
+        QCOMPARE(pc.volumeNodes.size(), pc.machine.volumes.size());
+    }
+
+    /// The letters end; those of disks that stay are kept, as their numbers are.
+    void numbersAndLetters()
+    {
+        QByteArrayList disks;
+        for (int i = 10; i < 40; ++i)
+            disks << "sd:/m" + QByteArray::number(i);
+        const auto volumes = wholeDisks(disks).machine.volumes;
+        QCOMPARE(volumes.size(), 23);
+        QCOMPARE(volumes.last().letter, QChar('Z'));
+        const auto before = wholeDisks({"sda:/", "sdb:/b", "sdc:/c"});
+        QCOMPARE(placesOf(before), "0 /dev/sda 1 /dev/sdb 2 /dev/sdc C / 0@0 D /b 1@0 E /c 2@0 ");
+        const auto without = wholeDisks({"sda:/", "sdc:/c"}, before);
+        QCOMPARE(placesOf(without), "0 /dev/sda 2 /dev/sdc C / 0@0 E /c 2@0 ");
+        const auto after = wholeDisks({"nvme0n1:/a", "sda:/", "sdc:/c", "sdd:/d"}, without);
+        QCOMPARE(placesOf(after), "0 /dev/sda 1 /dev/nvme0n1 2 /dev/sdc 3 /dev/sdd "
+                                  "C / 0@0 D /a 1@0 E /c 2@0 F /d 3@0 ");
+        QVERIFY(placesOf(wholeDisks({"sdb:/b", "sdb:/b"}, before)).startsWith("0 /dev/sdb 1 /dev/sdb "));
+    }
+
+    void brokenText()
+    {
+        for (const char *json : Broken) {
+            QCOMPARE(told(lsblk::parse(json)), QString());
+            QCOMPARE(lsblk::parse(json, {"/dev/loop1"}).machine.disks.size(), 1);
+        }
+    }
+
+    void demoPc()
+    {
+        if (!DiskImage::missingTool().isEmpty())
+            QSKIP("the makers of partition tables and file systems are not installed");
+        QVERIFY(runs(HALVANE_SOURCE_DIR "/demo/make-pc", {path("pc")}));
+        QString error;
+        const auto pc = SimulatedPlatform::open(path("pc"), path("state"), &error);
+        QVERIFY2(pc, qPrintable(error));
+        const auto bytesOfDisk = [&pc](int disk, qint64 offset, int count) {
+            pc->CloseHandle(open(*pc, QString("\\\\.\\PHYSICALDRIVE%1").arg(disk))); // makes the image
+            QFile image(pc->imageFile(disk));
+            return image.open(QIODevice::ReadOnly) && image.seek(offset) ? image.read(count) : QByteArray();
+        };
+        const QString place = "%1: start=%2, size=%3"; // in sectors
+        const QRegularExpression form("start= *([0-9]+), size= *([0-9]+)");
+        QStringList partitions;
+        for (const auto &disk : pc->description().disks) {
+            const int number = disk.record.number;
+            QCOMPARE(bytesOfDisk(number, 510, 2), QByteArray("\x55\xAA"));
+            QByteArray table;
+            QVERIFY(runs("/sbin/sfdisk", {"--dump", pc->imageFile(number)}, &table));
+            for (auto rows = form.globalMatch(table); rows.hasNext();) {
+                const QRegularExpressionMatch row = rows.next();
+                partitions << place.arg(number).arg(row.captured(1), row.captured(2));
+            }
+        }
+        QCOMPARE(partitions.size(), 17);
+        for (const inventory::Volume &volume : pc->description().volumes) {
+            for (const inventory::Extent &extent : volume.extents)
+                QVERIFY(partitions.contains(
+                    place.arg(extent.disk).arg(extent.offset / 512).arg(extent.length / 512)));
+        }
+        // A disk, the first sector of a partition on it, and a place in the partition.
+        QCOMPARE(bytesOfDisk(2, 151001088 * 512LL + 1144, 7), QByteArray("/media\0", 7)); // name of an ext4
+        QCOMPARE(bytesOfDisk(3, 1246066688 * 512LL + 28, 4),
+                 QByteArray("\0\x78\x45\x4a", 4)); // place of an NTFS
+        QCOMPARE(bytesOfDisk(4, 2048 * 512 + 71, 19), QByteArray("STICK      FAT32   "));
+
+        const QList<QByteArray> days =
+            contentOf(pc->HistoryFolder({}) + "/OK-83H2F6610Date.txt").trimmed().split('\n');
+        QCOMPARE(days.size(), 10);
+        QCOMPARE(days.last(), QDate::currentDate().addDays(-1).toString("dd-MM-yyyy").toLatin1());
+    }
+
 private:
     QString path(const char *name) const { return m_folder->filePath(name); }
+    void checkRawDisk(bool loop)
+    {
+        const QString image = path("disk.img");
+        QVERIFY(writeFile(image, pattern(Sectors)));
+        const QScopedPointer<LoopDevice> device(loop ? new LoopDevice(image) : nullptr);
+        if (loop && device->node().isEmpty())
+            QSKIP("no loop devices here");
+        startOn(loop ? device->node() : image);
+        const auto handle = open(*m_pc, First);
+        QVERIFY(handle != Platform::InvalidHandle);
+        io::DiskGeometryEx geometry{};
+        quint32 returned = 0;
+        const auto asks = [&](quint32 code, quint32 room) {
+            return m_pc->DeviceIoControl(handle, code, nullptr, 0, &geometry, room, &returned);
+        };
+        QVERIFY(asks(io::DiskGetDriveGeometryEx, sizeof geometry));
+        QCOMPARE(returned, quint32(sizeof geometry));
+        QCOMPARE(geometry.diskSize, qint64(Sectors) * SectorSize);
+        QCOMPARE(geometry.geometry.bytesPerSector, quint32(SectorSize));
+        QCOMPARE(geometry.geometry.mediaType, quint32(io::MediaFixed));
+        QVERIFY(!asks(io::DiskGetDriveGeometry, 23));
+        QVERIFY(!asks(io::VolumeGetVolumeDiskExtents, sizeof geometry));
+        QVERIFY(!asks(io::SmartGetVersion, sizeof geometry));
+        const auto before = m_pc->DiskActivity(0);
+        QCOMPARE(before.has_value(), loop);
+        checkReads(*m_pc, handle);
+        QVERIFY(!loop || m_pc->DiskActivity(0) > before);
+        QCOMPARE(contentOf(image), pattern(Sectors));
+        checkWrites(*m_pc, handle, Sectors - 1);
+        QVERIFY(contentOf(image) == written());
+
+        QVERIFY(!m_pc->IsGone(handle));
+        QVERIFY(QFile::resize(image, 0));
+        if (loop)
+            QVERIFY(runs("losetup", {"-c", device->node()}));
+        QVERIFY(m_pc->IsGone(handle));
+        QCOMPARE(open(*m_pc, "/etc/hostname", io::GenericRead), Platform::InvalidHandle);
+        checkNoHandles(*m_pc, handle);
+    }
+
     void startOn(const QString &node)
     {
         qputenv("HALVANE_DISKS", node.toUtf8());

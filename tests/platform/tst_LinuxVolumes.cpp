@@ -6,7 +6,7 @@
 #include "tests/platform/DescribedFolder.h"
 #include "tests/platform/LoopDevice.h"
 #include "tests/platform/RawDisk.h"
-#include "tests/support/LinuxPlaces.h"
+#include "tests/support/WatchedPlatform.h"
 
 #include <grp.h>
 #include <sys/inotify.h>

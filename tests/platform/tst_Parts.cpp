@@ -4,7 +4,7 @@
 #include "platform/tools/CommandInterpreter.h"
 #include "platform/tools/MasterBootRecord.h"
 #include "platform/tools/StorageRecords.h"
-#include "tests/support/Files.h"
+#include "tests/support/ArrowRows.h"
 #include "tests/support/HandMadeDisk.h"
 
 #include <QDir>
@@ -53,28 +53,20 @@ private slots:
         });
     }
 
+    /// Of a command line: the files that it leaves; lines end with a bar.
     void run()
     {
-        const auto row = [this](const char *name, const QByteArray &command, const char *content,
-                                const char *file = "/out.txt") {
+        compareRows("Parts/run", [this](const QString &command) {
             init();
-            QVERIFY(QDir(m_folder->path()).mkdir("John Doe"));
-            QVERIFY(writeFile(m_folder->filePath("out.txt"), "old "));
-            QVERIFY2(runLine("C:\\Windows\\system32\\cmd.exe /c " + command), name);
-            QVERIFY2(contentOf(m_folder->path() + file) == content, name);
-        };
-        row("several blanks", "echo64  -a  -d sat,12 /dev/sdb >> %1/out.txt ", "old -a+-d+sat,12+/dev/sdb\n");
-        row("folder, other letters and suffix", "C:\\W\\wbem\\ECHO64.exe a >> %1\\\\out.txt ", "old a\n");
-        row("name within another", "myecho64.exe a >> %1/out.txt ", "old ");
-        row("folder with slashes", "/tmp/x.d/echo64 a >> %1/out.txt ", "old a\n");
-        row("pipe", "S\\echo64.exe abc | S\\upper.exe x >> %1/out.txt ", "old ABC\nx");
-        row("unknown tool before a pipe", "nothing | upper x >> %1/out.txt ", "old x");
-        row("unknown tool behind a pipe", "echo64 a | nothing >> %1/out.txt ", "old ");
-        row("no blank behind the sign", "echo64 a >>%1/out.txt", "old a\n");
-        row("no redirection", "echo64 a ", "old ");
-        // What stands behind the blank is one more argument of the tool.
-        row("blank in the target", "echo64 a >> %1/John Doe/out.txt ", "a+Doe/out.txt\n", "/John");
-        row("not ASCII", "echo64 a >> %1/J\xc3\xb6rg.txt ", "a\n", "/J\xc3\x83\xc2\xb6rg.txt");
+            const QDir folder(m_folder->path());
+            const bool isMade = folder.mkdir("John Doe") && writeFile(folder.filePath("out.txt"), "old ");
+            if (!isMade || !runLine("C:\\Windows\\system32\\cmd.exe /c " + command.toUtf8()))
+                return QString("not run");
+            QStringList told;
+            for (const QString &name : folder.entryList(QDir::Files))
+                told << name + ": " + contentOf(folder.filePath(name)).replace('\n', '|');
+            return told.join(", ");
+        });
     }
 
     void namesTheFolder()
@@ -121,26 +113,23 @@ private slots:
                      qPrintable(QString(letter)));
     }
 
+    /// Of vendor, product and the number of the bus: medium, interface, and model as the disk list cuts it.
     void storedDisks()
     {
-        // Vendor, product, number of the bus; then medium, interface, and model as the disk list cuts it.
-        for (const auto &[vendor, product, bus, shown] : {
-                 std::tuple("", "Quill Data 40     ", 11, "fixed IDE:Quill Data 40 "),
-                 std::tuple("NVMe    ", "Marl NV 512", 17, "fixed SCSI:Marl NV 512 "), // the driver as vendor
-                 std::tuple("Tarn    ", "Stick 3.0", 7, "removable USB:Tarn Stick 3.0 "),
-                 std::tuple("", "", 0, "fixed SCSI:Disk 3 "), // refused
-             }) {
+        compareRows("Parts/storedDisks", [](const QString &row) {
+            const QStringList told = row.split('|');
+            const int bus = told[2].toInt();
             HandMadeDisk record(1);
             record.put(28, quint32(bus)).put(10, quint8(bus == 7)).put(12, quint32(40)).put(16, quint32(80));
-            record.put(24, quint32(120)).text(120, "  QD40 17 ").text(40, vendor).text(80, product);
+            record.put(24, quint32(120)).text(120, "  QD40 17 ");
+            record.text(40, told[0].toLatin1()).text(80, told[1].toLatin1());
             const inventory::Disk disk = storage::readDisk(3, bus == 0 ? QByteArray() : record.bytes);
             const wmic::DiskDriveLine line =
                 wmic::parseDiskDrive(QString("3  %1  %2  OK  ").arg(disk.interfaceType, disk.model));
-            QCOMPARE(disk.media + ' ' + line.interfaceText + ':' + line.model, shown);
-            QCOMPARE(disk.serial, bus == 0 ? QString() : "QD40 17");
             // An answer that ends in the middle; nothing behind its end may be read.
-            QCOMPARE(storage::readDisk(3, record.bytes.left(18)).model, "Disk 3 HDD Device");
-        }
+            const QString cut = storage::readDisk(3, record.bytes.left(18)).model;
+            return disk.media + ' ' + line.interfaceText + ':' + line.model + '|' + disk.serial + '|' + cut;
+        });
     }
 
     void storedPartitions()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "inventory/AtaIdentity.h"
 #include "platform/JsonSettings.h"
+#include "platform/simulated/StateFolder.h"
 #include "tests/platform/DescribedFolder.h"
 #include "tests/platform/RawDisk.h"
 #include "tests/support/ArrowRows.h"
@@ -42,16 +43,13 @@ class Session : public QObject
 public:
     explicit Session(const QString &name) : m_description(contentOf(Samples + name + ".json"))
     {
+        if (!simulated::copyFolder(Samples + "session", m_folder.path()))
+            qFatal("no test data");
         m_folder.add("caps.txt", Capabilities);
         m_folder.add("caps-crlf.txt", QByteArray(Capabilities).replace("\n", "\r\n"));
         m_folder.add("caps-none.txt",
                      QByteArray(Capabilities).replace("Self-test supp", "No Self-test supp"));
-        m_folder.add("report.txt",
-                     "  9 Power_On_Hours  0x0032   100   100   050    Old_age   Always  -  65600\n");
         m_folder.add("second.txt", "second \xa0\r\n");
-        m_folder.add("log.txt",
-                     "Num  Test_Description    Status                  Remaining  LifeTime(hours)\n"
-                     "# 1  Extended offline    Completed without error       00%     17092         -\n");
         m_folder.add("a.img", QByteArray(1024, '-') + QByteArray(1024, 'A'));
         m_folder.add("b.img", QByteArray(1024, 'B'));
         start();
@@ -232,28 +230,10 @@ class TestSimulatedPlatform : public QObject
     Q_OBJECT
 
 private slots:
-    void sessions_data()
-    {
-        QTest::addColumn<QString>("name");
-        for (const char *name : {"tools", "disks", "plugging", "diskpart"})
-            QTest::newRow(name) << QString(name);
-    }
-
-    void sessions()
-    {
-        QFETCH(QString, name);
-        Session session(name);
-        const QStringList expected = QString::fromUtf8(contentOf(Samples + name + ".txt")).split('\n');
-        QStringList told;
-        for (const QString &line : expected.filter(QRegularExpression("^\\$"))) {
-            told << line;
-            const QString prints = session.does(line);
-            if (!QString("@=#").contains(line.at(1)))
-                told += prints.split('\n');
-        }
-        QCOMPARE(told, expected);
-        QVERIFY(session.keptWhatItDoesNotKnow());
-    }
+    void tools() { play("tools"); }
+    void disks() { play("disks"); }
+    void plugging() { play("plugging"); }
+    void diskpart() { play("diskpart"); }
 
     /// "JSON -> what is wrong with it".
     void errors()
@@ -280,32 +260,27 @@ private slots:
     /// Those that show in no other test, and all of a disk that is barely described.
     void keysAndDefaults()
     {
-        const auto told = [](const QByteArray &json) {
-            QString text;
-            const auto pc = simulated::parsePc(json, "/none", &text);
+        compareRows("SimulatedPlatform/keys", [](const QString &json) {
+            QString error;
+            const auto pc = simulated::parsePc(json.toUtf8(), "/none", &error);
             const auto disk = pc.value_or(PcDescription()).disks.value(0);
-            if (pc)
-                QTextStream(&text) << pc->name << '|' << pc->user << '|' << pc->operatingSystem << '|'
-                                   << pc->dpi << '|' << pc->pauses << pc->hasSmartctl << pc->network << '|'
-                                   << pc->toolMilliseconds << '|' << pc->secondsPerMinute << '|'
-                                   << disk.record.bytesPerSector << '|' << disk.bytesPerSecond << '|'
-                                   << disk.opens << disk.failsPastEnd << disk.identity.has_value() << '|'
-                                   << disk.selfTestEnd.status << ' ' << disk.selfTestEnd.remainingTenths;
-            return text;
-        };
-        QCOMPARE(told(R"({"name": "Bench", "user": "eve", "operatingSystem": "Some System", "dpi": 960,
-                          "pauses": false, "toolMilliseconds": 8, "later": [1],
-                          "selfTest": {"secondsPerMinute": 0.5, "result": "servo"},
-                          "disks": [{"number": 7, "bytesPerSecond": 1000}]})"),
-                 "Bench|eve|Some System|960|010|8|0.5|512|1000000|100|6 1");
-        QCOMPARE(told(R"({"disks": [{"number": 0}]})"),
-                 "PC|user|Microsoft Windows 10 10.0.19045 x64|96|110|0|1|512|0|100|0 0");
+            return pc ? joined(pc->name, pc->user, pc->operatingSystem, pc->dpi, pc->pauses, pc->hasSmartctl,
+                               pc->network, pc->toolMilliseconds, pc->secondsPerMinute,
+                               disk.record.bytesPerSector, disk.bytesPerSecond, disk.opens, disk.failsPastEnd,
+                               disk.identity.has_value(), disk.selfTestEnd.status,
+                               disk.selfTestEnd.remainingTenths)
+                      : error;
+        });
     }
 
-    void windowIsWanted()
+    void windowAndClock()
     {
         static int times = 0;
-        const auto pc = m_folder.open("{}");
+        qint64 now = 1000;
+        const auto pc = m_folder.open(R"({"clockSpeed": 60})", [&now] { return now; });
+        now = 2000;
+        QCOMPARE(pc->Now().toMSecsSinceEpoch(), 61000);
+        QCOMPARE(pc->TimerInterval(60000), 1000);
         QVERIFY(!pc->BringToFront({}));
         pc->WhenWanted([] { ++times; });
         QVERIFY(pc->BringToFront({}));
@@ -341,19 +316,17 @@ private slots:
             {"number": 4, "sectors": 1}]})"));
         DiskIdentity identity;
         QVERIFY(ReadAtaIdentity(128, &identity));
-        QString told;
-        QTextStream(&told) << identity.szModel.text() << ' ' << identity.szSerial.text() << ' '
-                           << identity.szFirmware.text() << ' ' << identity.nTotalLba << ' '
-                           << identity.nCylinders << ' ' << identity.bSmartEnabled << ' '
-                           << identity.nTemperature;
-        QCOMPARE(told, "NorvikNX S1 F123 268435455 16383 1 31");
+        QCOMPARE(joined(identity.szModel.text(), identity.szSerial.text(), identity.szFirmware.text(),
+                        identity.nTotalLba, identity.nCylinders, identity.bSmartEnabled,
+                        identity.nTemperature),
+                 "NorvikNX|S1|F123|268435455|16383|1|31");
         DiskIdentity none;
         QVERIFY(ReadAtaIdentity(132, &none));
         QCOMPARE(none.szModel.text(), QString());
         Platform::install(nullptr);
     }
 
-    void logonTask()
+    void logonTaskAndPaths()
     {
         const std::unique_ptr<Platform> pc = m_folder.open("{}");
         pc->CreateLogonTask({"VelmoraSMART", "eve", "C:\\x.exe", "Schedular"});
@@ -361,11 +334,6 @@ private slots:
         QVERIFY(contentOf(kept("logon-task.json")).contains(R"("program": "C:\\x.exe")"));
         pc->DeleteLogonTask("VelmoraSMART");
         QVERIFY(!QFileInfo::exists(kept("logon-task.json")));
-    }
-
-    void paths()
-    {
-        const auto pc = m_folder.open("{}");
         QVERIFY(QFileInfo(pc->GetTempPathW()).isWritable());
         QCOMPARE(pc->NativePath(pc->GetTempPathW() + "\\tmpFile"), kept("temp/tmpFile"));
         QCOMPARE(pc->NativePath("c:\\updatetmp\\a.txt"), kept("drives/C/updatetmp/a.txt"));
@@ -449,6 +417,21 @@ private slots:
     }
 
 private:
+    static void play(const QString &name)
+    {
+        Session session(name);
+        const QStringList expected = QString::fromUtf8(contentOf(Samples + name + ".txt")).split('\n');
+        QStringList told;
+        for (const QString &line : expected.filter(QRegularExpression("^\\$"))) {
+            told << line;
+            const QString prints = session.does(line);
+            if (!QString("@=#").contains(line.at(1)))
+                told += prints.split('\n');
+        }
+        QCOMPARE(told, expected);
+        QVERIFY(session.keptWhatItDoesNotKnow());
+    }
+
     const QString ProductPath =
         "HKEY_LOCAL_MACHINE\\Software\\Wow6432Node\\Velmora Data Rescue\\Velmora Halvane for Windows";
     QString kept(const char *name) const

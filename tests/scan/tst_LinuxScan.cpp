@@ -2,7 +2,7 @@
 #include "tests/platform/LoopDevice.h"
 #include "tests/scan/ScanRecorder.h"
 #include "tests/support/DiskImage.h"
-#include "tests/support/LinuxPlaces.h"
+#include "tests/support/WatchedPlatform.h"
 
 #include <QtTest>
 

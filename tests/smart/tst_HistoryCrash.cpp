@@ -13,25 +13,17 @@ class TestHistoryCrash : public QObject
     Q_OBJECT
 
 private slots:
-    /// Days that are recorded already, the first day and the number of days recorded by the killed process,
-    /// and days that must be readable at least, whenever it is killed.
-    void killedAnywhere_data()
-    {
-        for (const char *column : {"before", "first", "count", "kept"})
-            QTest::addColumn<int>(column);
-        QTest::newRow("first visit") << 0 << 1 << 1 << 0;
-        QTest::newRow("third day") << 2 << 3 << 1 << 2;
-        QTest::newRow("second visit of a day") << 10 << 10 << 1 << 10;
-        QTest::newRow("eleventh day") << 10 << 11 << 1 << 9;
-        QTest::newRow("three days behind the tenth") << 10 << 11 << 3 << 9;
-    }
+    void firstVisit() { killAnywhere(0, 1, 1, 0); }
+    void thirdDay() { killAnywhere(2, 3, 1, 2); }
+    void secondVisitOfADay() { killAnywhere(10, 10, 1, 10); }
+    void eleventhDay() { killAnywhere(10, 11, 1, 9); }
+    void threeDaysBehindTheTenth() { killAnywhere(10, 11, 3, 9); }
 
-    void killedAnywhere()
+private:
+    /// `before` days are recorded already; the killed process records `count` from the day `first` on. At
+    /// least `kept` days must be readable, whenever it is killed.
+    void killAnywhere(int before, int first, int count, int kept)
     {
-        QFETCH(int, before);
-        QFETCH(int, first);
-        QFETCH(int, count);
-        QFETCH(int, kept);
         const QTemporaryDir prepared;
         Platform::install(std::make_unique<HistoryMachine>(prepared.path()));
         days::record(m_serial, dayNumber(1), before);
@@ -66,7 +58,6 @@ private slots:
         QVERIFY2(call > 8, qPrintable(QString("only %1 calls were seen").arg(call - 1)));
     }
 
-private:
     bool runKilledAt(int call, const QDate &first, int count)
     {
         QProcess program;

@@ -3,6 +3,8 @@
 
 #include "platform/linux/LinuxPlatform.h"
 
+#include <QDir>
+
 #include <functional>
 
 /// A Linux PC whose calls a test can watch, and whose pauses take no time. Set the hooks before the code
@@ -39,3 +41,17 @@ public:
         return LinuxPlatform::FlushFileBuffers(handle) && (!onFlush || onFlush());
     }
 };
+
+/// Folders of a Linux PC below `home`, whoever runs the test.
+inline folders::Places placesIn(const QString &home)
+{
+    return {folders::chooseTemp({home + QStringLiteral("/velmora-halvane")}),
+            home + QStringLiteral("/config/velmora-halvane"), home + QStringLiteral("/config/autostart"),
+            home + QStringLiteral("/data/velmora-halvane")};
+}
+
+/// A Linux PC with such folders.
+inline std::unique_ptr<Platform> linuxPcIn(const QString &home)
+{
+    return std::make_unique<LinuxPlatform>(placesIn(home));
+}

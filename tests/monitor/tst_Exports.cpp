@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "monitor/Monitor.h"
+#include "monitor/PcCollection.h"
+#include "monitor/SerialMask.h"
+#include "smart/AttributeHistory.h"
 #include "state/GlobalApp.h"
 #include "tests/platform/DescribedFolder.h"
+#include "tests/support/ArrowRows.h"
 
-#include <QProcess>
-#include <QStandardPaths>
-#include <QtTest>
-
-Q_DECLARE_METATYPE(DiskSummary)
+#include <QDirIterator>
 
 namespace
 {
@@ -49,21 +49,29 @@ struct Silent : MonitorListener {
 
 } // namespace
 
-class TestMetrics : public QObject
+/// What leaves the PC: the metrics, and a PC that is collected, and opened again as one that comes from
+/// somebody else.
+class TestExports : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void figures_data()
+    void init()
+    {
+        g_App.m_bUse64BitTool = true;
+        g_App.m_strSettingsPath = QStringLiteral("HKEY_LOCAL_MACHINE\\Velmora Halvane for Windows");
+        m_folder = std::make_unique<DescribedFolder>();
+        m_out = std::make_unique<QTemporaryDir>();
+    }
+
+    /// A metric, its values, and what differs from the disk above.
+    void figures()
     {
         using Change = void (*)(DiskSummary &);
-        QTest::addColumn<QByteArray>("metric");
-        QTest::addColumn<QString>("values");
-        QTest::addColumn<DiskSummary>("summary");
         const auto row = [](const char *metric, const char *values, Change change) {
             DiskSummary summary = disk();
             change(summary);
-            QTest::addRow("%s %s", metric, values) << QByteArray(metric) << QString(values) << summary;
+            QCOMPARE(metric + (' ' + valuesOf(textOf(summary), metric)), QString(metric) + ' ' + values);
         };
         row("up", "1", [](DiskSummary &) {});
         row("up", "0", [](DiskSummary &each) { each.answer = DiskReading::Answer::NoAnswer; });
@@ -106,13 +114,6 @@ private slots:
         });
     }
 
-    void figures()
-    {
-        QFETCH(QByteArray, metric);
-        QFETCH(DiskSummary, summary);
-        QTEST(valuesOf(textOf(summary), metric), "values");
-    }
-
     void labels()
     {
         QVERIFY(textOf(disk()).contains("halvane_disk_up{disk=\"3\",model=\"TX2 \\\\ "
@@ -122,7 +123,7 @@ private slots:
     /// The companion's own file: a whole scan is in it, and a disk that goes is not.
     void fileOfEachRound()
     {
-        const DescribedFolder folder;
+        const DescribedFolder &folder = *m_folder;
         folder.add("a.txt", contentOf(HALVANE_TEST_DATA "/smart/ata-wdc-wd10ezex-readfail.txt"));
         folder.add("b.txt", contentOf(HALVANE_TEST_DATA "/smart/nvme-win-samsung-980pro-1tb.txt"));
         auto opened = folder.open(R"({"settings": {"MetricsPath": "C:\\halvane.prom"},
@@ -137,7 +138,6 @@ private slots:
             scan.end = end;
             lastscan::keep(scan, end == ScanRecord::End::Complete ? 5 : 0);
         }
-        g_App.m_strSettingsPath = QStringLiteral("HKEY_LOCAL_MACHINE\\Velmora Halvane for Windows");
         Silent listener;
         Monitor monitor(listener);
         const QString file = pc.NativePath("C:/halvane.prom");
@@ -155,7 +155,6 @@ private slots:
         QVERIFY(!text.contains("\"E:\""));
         QCOMPARE(text.count("halvane_disk_scan_bad_sectors{"), 1);
         QVERIFY(text.count("\nhalvane_disk_") + text.count("\nhalvane_volume_") < 40 * disks);
-        checkByTool(text);
 
         const QString touched = folder.state() + "/volumes-changed/remove-disk1";
         QVERIFY(Platform::current().deviceNotifier());
@@ -171,6 +170,67 @@ private slots:
         QVERIFY(!QFile::exists("halvane.prom") && !QFile::exists(pc.NativePath("M:/")));
     }
 
+    /// The drive's own text names no file, no sector of data goes along, and a folder in use is left alone.
+    void nothingLeavesTheFolder()
+    {
+        open("../../../evil\\x");
+        const HistoryPaths history = historyPaths("../../../evil\\x");
+        QVERIFY(writeFile(history.dates, "21-11-2026\n") && writeFile(history.values, "[21-11-2026]\na=1\n"));
+        QCOMPARE(collection::collect(folder(), false), QString());
+        QCOMPARE(QDir(m_out->path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size(), 1);
+        QCOMPARE(QDir(folder() + "/history").entryList(QDir::Files).size(), 2);
+        QVERIFY(!allBytes().contains("private"));
+        QVERIFY(allBytes().contains("the boot code") && allBytes().contains("evil"));
+        QString error;
+        const DescribedFolder state;
+        const auto opened = SimulatedPlatform::open(folder(), state.state(), &error);
+        QVERIFY2(opened, qPrintable(error));
+        QCOMPARE(opened->description().disks.size(), 1);
+        QCOMPARE(opened->description().volumes.size(), 1);
+        QCOMPARE(opened->description().settings.value("WarningValue").toInt(), 44);
+        const QByteArray before = allBytes();
+        QCOMPARE(collection::collect(folder(), false), folder() + ": is not empty");
+        QCOMPARE(allBytes(), before);
+    }
+
+    /// Of a place in hexadecimal, a mark there and the size of the sector: the places and lengths that are
+    /// cleared.
+    void numbersOfSectors()
+    {
+        compareRows("Exports/sectors", [](const QString &row) {
+            const QByteArray mark = QByteArray::fromPercentEncoding(row.section(' ', 1, -2).toLatin1());
+            QByteArray sector(row.section(' ', -1).toInt(), '/');
+            sector.replace(row.section(' ', 0, 0).toInt(nullptr, 16), mark.size(), mark);
+            const QByteArray masked = SerialMask(true).sector(sector);
+            QStringList cleared;
+            for (int at = 0, end = 0; at < masked.size(); at = end) {
+                while (end < masked.size() &&
+                       (masked.at(end) != sector.at(end)) == (masked.at(at) != sector.at(at)))
+                    ++end;
+                const QByteArray text = masked.mid(at, end - at).replace('\0', "");
+                if (masked.at(at) != sector.at(at))
+                    cleared << QString("%1+%2%3").arg(at, 0, 16).arg(end - at).arg(QString(text));
+            }
+            return SerialMask(false).sector(sector) == sector ? cleared.join(' ') : "not left alone";
+        });
+    }
+
+    void anonymous()
+    {
+        open("SN-7788991");
+        const HistoryPaths history = historyPaths("SN-7788991");
+        QVERIFY(writeFile(history.dates, "21-11-2026\n") && writeFile(history.values, "[21-11-2026]\na=1\n"));
+        QCOMPARE(collection::collect(folder(), true), QString());
+        const QByteArray all = allBytes();
+        for (const char *told :
+             {"7788991", "5 000cca 123", "f00d", "WW-TABLE-1", "ID-556677", "Ada", "L:\\\\log", "TELL"})
+            QVERIFY2(!all.contains(told), told);
+        QVERIFY(all.contains("Serial Number:    ANON000002\n"));
+        QCOMPARE(QDir(folder() + "/history").entryList(QDir::Files),
+                 (QStringList{"dates-ANON000002.txt", "values-ANON000002"}));
+        QVERIFY(all.contains("Model Family:     Kept"));
+    }
+
 private:
     static bool setAge(const QString &path, int seconds)
     {
@@ -180,22 +240,45 @@ private:
                                 QFileDevice::FileModificationTime);
     }
 
-    /// The engine's own opinion, where it is installed.
-    static void checkByTool(const QByteArray &text)
+    void open(const QByteArray &serial)
     {
-        const QString tool = QStandardPaths::findExecutable("promtool");
-        if (tool.isEmpty())
-            return;
-        QProcess process;
-        process.setProcessChannelMode(QProcess::MergedChannels);
-        process.start(tool, {"check", "metrics"});
-        process.write(text);
-        process.closeWriteChannel();
-        QVERIFY(process.waitForFinished());
-        QCOMPARE(process.readAll(), QByteArray());
-        QCOMPARE(process.exitCode(), 0);
+        QByteArray disk(64 * 512, '\0');
+        const auto put = [&disk](int at, const QByteArray &bytes) { disk.replace(at, bytes.size(), bytes); };
+        put(0, "the boot code");
+        put(0x1B8, "TELL"); // tells one disk from another
+        // A partition of the type Linux, in which no file system is found.
+        put(0x1BE, QByteArray::fromHex("00000000830000000400000010000000"));
+        put(0x1FE, "\x55\xAA");
+        put(4 * 512, "private");
+        m_folder->add("disk.img", disk);
+        m_folder->add("report.txt",
+                      "smartctl 7.3\n=== START OF INFORMATION SECTION ===\nModel Family:     Kept\n"
+                      "Serial Number:    " +
+                          serial +
+                          "\nLU WWN Device Id: 5 000cca 123\nNamespace 2 IEEE EUI-64:           f00d\n"
+                          "=== START OF READ SMART DATA SECTION ===\n");
+        Platform::install(m_folder->open(R"({"user": "Ada",
+            "disks": [{"number": 0, "model": "M", "serial": "WW-TABLE-1", "sectors": 64, "image": "disk.img",
+                       "report": "report.txt", "identity": {"model": "M", "serial": "ID-556677", "firmware": "F"}}],
+            "volumes": [{"letter": "L", "fileSystem": "NTFS", "size": 8192, "extents": [{"disk": 0, "offset": 2048}]}],
+            "settings": {"LogSavePath": "L:\\log.txt", "WarningValue": 44}})"));
     }
+
+    QString folder() const { return m_out->path() + "/case"; }
+
+    /// All files that were written, one behind the other.
+    QByteArray allBytes() const
+    {
+        QByteArray all;
+        QDirIterator each(folder(), QDir::Files, QDirIterator::Subdirectories);
+        while (each.hasNext())
+            all += contentOf(each.next());
+        return all;
+    }
+
+    std::unique_ptr<DescribedFolder> m_folder;
+    std::unique_ptr<QTemporaryDir> m_out;
 };
 
-QTEST_GUILESS_MAIN(TestMetrics)
-#include "tst_Metrics.moc"
+QTEST_GUILESS_MAIN(TestExports)
+#include "tst_Exports.moc"
