@@ -82,6 +82,7 @@ private:
     void mark(quint64 event, bool WatchEvent::*flag);
     bool log(const WatchEvent &event);
     void deliver();
+    void saveMetrics();
     void save();
 
     MonitorListener &m_listener;
@@ -89,6 +90,7 @@ private:
     WatchSettings m_settings;
     ToolUse m_tool;
     std::vector<std::size_t> m_listed; ///< places in the memory, in the order of the system's table
+    QString m_unwrittenMetrics;        ///< their path, once it was told
     QDateTime m_today;                 ///< of the round, as is the next one
     qint64 m_now = 0;                  ///< ms since 1970
     qint64 m_lastListing = 0;

@@ -341,6 +341,13 @@ private slots:
         QCOMPARE(logged().size(), 2); // what happened meanwhile
     }
 
+    void unwritableMetrics()
+    {
+        open("0 t40", R"("MetricsPath": "M:\\x.prom")");
+        rounds(0, 4, false);
+        QCOMPARE(logged().filter("WARNING  the metrics cannot be written: M:\\x.prom").size(), 1);
+    }
+
     void historyOnceADay()
     {
         open("0 t40; 3 t41");

@@ -97,6 +97,12 @@ private slots:
         QCOMPARE(QDir(folder() + "/history").entryList(QDir::Files),
                  (QStringList{"dates-ANON000002.txt", "values-ANON000002"}));
         QVERIFY(all.contains("Model Family:     Kept"));
+        QString error;
+        const DescribedFolder state;
+        auto opened = SimulatedPlatform::open(folder(), state.state(), &error);
+        QVERIFY2(opened, qPrintable(error));
+        Platform::install(std::move(opened));
+        QCOMPARE(contentOf(historyPaths("ANON000002").dates), QByteArray("21-11-2026\n"));
     }
 
 private:

@@ -9,19 +9,31 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 export QT_QPA_PLATFORM=offscreen
 
-# screens <pc>: what the tour shows of it, but for the name.
+# screens <pc>: leaves in <pc>.json what the tour shows of it, but for the name.
 screens() {
-    HALVANE_PC=$work/$1 "$bin/halvane_tour" "$work/$1-out" >"$work/log" 2>&1 || {
-        cat "$work/log"
-        return 1
+    HALVANE_PC=$work/$1 "$bin/halvane_tour" "$work/$1-out" >"$work/$1.log" 2>&1 || {
+        cat "$work/$1.log"
+        echo "the tour of $1 fails"
+        exit 1
     }
-    jq -S 'del(.pc)' "$work/$1-out/screens.json"
+    jq -e '(.steps | length > 3) and .failed == []' "$work/$1-out/screens.json" >/dev/null || {
+        echo "the tour of $1 has failed steps, or hardly any"
+        exit 1
+    }
+    jq -S 'del(.pc)' "$work/$1-out/screens.json" >"$work/$1.json"
 }
 
-# same <pc> <collected>
+# same <pc> <collected> [expected status]
 same() {
-    HALVANE_PC=$work/$1 "$bin/VelmoraSMART" --collect "$work/$2"
-    diff <(screens "$1") <(screens "$2") || {
+    local status=0
+    HALVANE_PC=$work/$1 "$bin/VelmoraSMART" --collect "$work/$2" || status=$?
+    [ "$status" -eq "${3:-0}" ] || {
+        echo "--collect of $1 ends with $status"
+        exit 1
+    }
+    screens "$1"
+    screens "$2"
+    diff "$work/$1.json" "$work/$2.json" || {
         echo "the collection of $1 shows something else"
         exit 1
     }
@@ -42,7 +54,7 @@ printf '{"disks": [{"number": 0, "model": "N", "interface": "SCSI", "sectors": 4
 same japanese japanese-collected
 
 printf '{"disks": [{"number": 0, "model": "N", "sectors": 4096, "opens": false}], "smartctl": false}' >"$work/closed/pc.json"
-same closed closed-collected
+same closed closed-collected 1 # no disk could be read
 
 # What the companion reads of each disk, but for what may change in a minute.
 disks() {
