@@ -307,6 +307,11 @@ Function WriteRegistry
   ${GetParameters} $1
   ClearErrors
   ${GetOptions} $1 "/METRICS=" $0
+  ${If} ${Errors}
+    ; A shell may put its quotes around the whole.
+    ClearErrors
+    ${WordFind2X} $1 '"/METRICS=' '"' "E+1" $0
+  ${EndIf}
   ${IfNot} ${Errors}
     WriteRegStr HKLM "${SETTINGS_KEY}" "MetricsPath" $0
     Call WatchAtLogon
