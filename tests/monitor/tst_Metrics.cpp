@@ -119,8 +119,8 @@ private slots:
                                         "\\\"fast\\\"\",serial=\"S1\",firmware=\"\",interface=\"\"} 1\n"));
     }
 
-    /// The companion's own file: a whole scan is in it, and a disk that goes is not. Without a list of the disks
-    /// it stays as it is.
+    /// The companion's own file: a whole scan is in it, and a disk that goes is not. Without a list of the
+    /// disks it stays as it is.
     void fileOfEachRound()
     {
         const DescribedFolder folder;
