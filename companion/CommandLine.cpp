@@ -78,7 +78,7 @@ int collectInto(const QStringList &arguments)
     bool sawDisk = false;
     const QString wrong = collection::collect(folder, arguments.last() == Anonymous, &sawDisk);
     if (wrong.isEmpty() && !sawDisk)
-        print("No disk could be read: run this as root, or as an administrator.\n", stderr);
+        print("No disk could be read: only root, or an administrator, may do so.\n", stderr);
     if (wrong.isEmpty())
         return sawDisk ? 0 : NoDiskCollected;
     print((wrong + QLatin1String("\nA case is kept where no other user can read or change "

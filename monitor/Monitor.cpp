@@ -208,7 +208,15 @@ void Monitor::round(const QDateTime &now)
     deliver();
     if (m_changed || (m_newValues && Schedule::isDue(m_lastSave, m_now, Schedule::IdleEvery)))
         save();
-    saveMetrics();
+    const QString &path = m_settings.metricsPath;
+    // Without a list of the disks each of them would count as lost.
+    const bool writes = !m_stopped && !path.isEmpty() && (m_lastListing > 0 || !m_listed.empty());
+    if (writes && !metrics::save(path, disks(), m_tool, now) &&
+        std::exchange(m_unwrittenMetrics, path) != path) {
+        WatchEvent &unwritten = add(EventKind::MetricsUnwritten);
+        unwritten.detail = path;
+        unwritten.told = unwritten.seen = true;
+    }
 }
 
 void Monitor::list()
@@ -476,20 +484,6 @@ void Monitor::deliver()
             m_listener.tell(WatchEvent(m_memory.events[i]));
     }
     m_memory.tidyEvents();
-}
-
-void Monitor::saveMetrics()
-{
-    const QString &path = m_settings.metricsPath;
-    // As long as no list could be read the file would tell of no disk, and each of them would count as lost.
-    const bool hasList = m_lastListing > 0 || !m_listed.empty();
-    if (m_stopped || path.isEmpty() || !hasList || metrics::save(path, disks(), m_tool, m_today))
-        return;
-    if (std::exchange(m_unwrittenMetrics, path) != path) {
-        WatchEvent &unwritten = add(EventKind::MetricsUnwritten);
-        unwritten.detail = path;
-        unwritten.told = unwritten.seen = true;
-    }
 }
 
 void Monitor::save()

@@ -82,7 +82,6 @@ private:
     void mark(quint64 event, bool WatchEvent::*flag);
     bool log(const WatchEvent &event);
     void deliver();
-    void saveMetrics();
     void save();
 
     MonitorListener &m_listener;
