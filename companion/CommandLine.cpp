@@ -22,6 +22,7 @@ namespace
 {
 
 constexpr int NothingRead = 3;
+constexpr int NoDiskCollected = 1;
 const QString Anonymous = QStringLiteral("--anonymous");
 
 constexpr char Usage[] = "Usage: %1 [--once [--json | --metrics] | --collect DIR [--anonymous] |\n"
@@ -39,6 +40,8 @@ constexpr char Usage[] = "Usage: %1 [--once [--json | --metrics] | --collect DIR
                          "             volumes, and the user's name\n"
                          "  --version  print the version\n"
                          "  --help     print this text\n"
+                         "Exit code of --collect: 0 done, 1 written, but no disk could be read,\n"
+                         "3 it could not be written.\n"
                          "Exit code of --once: 0 all in order, 1 something needs attention,\n"
                          "2 a disk is failing, 3 nothing could be read,\n"
                          "4 HALVANE_PC describes no PC.\n";
@@ -72,9 +75,12 @@ int collectInto(const QStringList &arguments)
     startup::readMachine();
     if (!hasTempFolder())
         return NothingRead;
-    const QString wrong = collection::collect(folder, arguments.last() == Anonymous);
+    bool sawDisk = false;
+    const QString wrong = collection::collect(folder, arguments.last() == Anonymous, &sawDisk);
+    if (wrong.isEmpty() && !sawDisk)
+        print("No disk could be read: only root, or an administrator, may do so.\n", stderr);
     if (wrong.isEmpty())
-        return 0;
+        return sawDisk ? 0 : NoDiskCollected;
     print((wrong + QLatin1String("\nA case is kept where no other user can read or change "
                                  "it: name a new folder such as /root/case or C:\\case.\n"))
               .toLocal8Bit(),

@@ -91,7 +91,6 @@ Tray::Tray(Watch *watch, bool areWindowsDark)
 void Tray::show()
 {
     take(WatchView());
-    m_icon.show();
 }
 
 void Tray::retranslate()
@@ -108,6 +107,9 @@ void Tray::take(const WatchView &view)
 {
     m_view = view;
     showIcon();
+    // Without that option it runs for the metrics alone.
+    const SettingsStore store;
+    m_icon.setVisible(store.numberOrFirst(key::ShowTrayIcon) != 0 || store.text(key::MetricsPath).isEmpty());
     m_pPause->setChecked(isPaused());
     emit paused(isPaused());
 }

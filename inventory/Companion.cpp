@@ -24,6 +24,12 @@ bool isEnded()
     return !logon.isEmpty() && logon == Platform::current().LogonMark();
 }
 
+/// Whether it runs for the metrics, with or without the tray.
+bool writesMetrics()
+{
+    return !SettingsStore().text(key::MetricsPath).isEmpty();
+}
+
 } // namespace
 
 QString fileName()
@@ -102,7 +108,7 @@ void setWanted(bool wanted)
         ensureRunning();
     }
     store.write(key::ShowTrayIcon, wanted ? 1 : 0);
-    if (!wanted) {
+    if (!wanted && !writesMetrics()) {
         Platform::current().DeleteLogonTask(taskName());
         kill();
     }
@@ -110,7 +116,8 @@ void setWanted(bool wanted)
 
 void killAfterRead()
 {
-    RunSilent(g_App.m_strSystemFolder + QStringLiteral("\\TASKKILL.exe /F /IM ") + FirstBrand);
+    if (!writesMetrics())
+        RunSilent(g_App.m_strSystemFolder + QStringLiteral("\\TASKKILL.exe /F /IM ") + FirstBrand);
 }
 
 } // namespace companion

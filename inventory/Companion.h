@@ -42,10 +42,11 @@ void takeQuitBack();
 void kill();
 
 /// Whether the status is to show in the tray: stores it, and makes the logon task and starts the companion,
-/// or deletes and kills them.
+/// or deletes and kills them. While the metrics are wanted, it stays without the tray.
 void setWanted(bool wanted);
 
-/// The kill command that follows a read with the tray option off; it names the first brand's companion.
+/// The kill command that follows a read with the tray option off, unless the metrics are wanted; it names the
+/// first brand's companion.
 void killAfterRead();
 
 } // namespace companion

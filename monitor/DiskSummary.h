@@ -24,6 +24,7 @@ struct DiskSummary {
     DiskState state = DiskState::NotSupported;
     Heat heat = Heat::InOrder;
     TemperatureLimits limits;
+    TemperatureLimits setLimits; ///< also those that the user is not warned of
     bool missing = false;
     bool listed = true; ///< in the system's table, at the latest look
     bool asked = true;  ///< by this run

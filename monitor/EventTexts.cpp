@@ -54,6 +54,7 @@ constexpr Words AllWords[] = {
     {Severity::Warning, QT_TRANSLATE_NOOP("Monitor", "the log cannot be written: %3"),
      QT_TRANSLATE_NOOP("Monitor", "Choose another file for it in Settings.")},
     {Severity::Warning, "the system does not tell its disks, the list stays as it was", ""},
+    {Severity::Warning, "the metrics cannot be written: %3", ""},
 };
 
 /// By the bit of an NVMe drive's critical warning.

@@ -27,7 +27,8 @@ enum class EventKind {
     Back,
     Daily,        ///< no event: the day's line of the log
     LogUnwritten, ///< of no disk, as is the next one
-    ListUnread    ///< for the log alone
+    ListUnread,   ///< for the log alone, as is the next one
+    MetricsUnwritten
 };
 
 /// The health of one disk: compares what was told of it with a reading. Moments in ms since 1970.

@@ -91,7 +91,7 @@ Samples limits(const DiskSummary &disk)
 {
     Samples samples;
     for (const auto &[name, limit] :
-         {std::pair("warning", disk.limits.warning), std::pair("shutdown", disk.limits.shutDown)}) {
+         {std::pair("warning", disk.setLimits.warning), std::pair("shutdown", disk.setLimits.shutDown)}) {
         if (limit && disk.reading.celsius)
             samples.push_back({label("limit", QLatin1String(name)), double(*limit)});
     }
@@ -130,7 +130,7 @@ const Metric<DiskSummary> DiskMetrics[] = {
     {"halvane_disk_temperature_celsius", "gauge", "Temperature in degrees Celsius.",
      [](const DiskSummary &disk) { return disk.isNow() ? known(disk.reading.celsius) : Samples(); }},
     {"halvane_disk_temperature_limit_celsius", "gauge",
-     "Temperature of which the companion warns, in degrees Celsius.", limits},
+     "Temperature from which on Settings count a disk as too warm, in degrees Celsius.", limits},
     {"halvane_disk_health_ratio", "gauge", "Health from 0 to 1.",
      [](const DiskSummary &disk) { return known(disk.reading.health, Percent); }},
     {"halvane_disk_life_seconds", "gauge", "Estimated rest of the life in seconds.",
@@ -280,17 +280,18 @@ QByteArray text(const std::vector<DiskSummary> &disks, const std::vector<VolumeS
     return text;
 }
 
-void save(const QString &path, const std::vector<DiskSummary> &disks, const ToolUse &tool,
+bool save(const QString &path, const std::vector<DiskSummary> &disks, const ToolUse &tool,
           const QDateTime &now)
 {
     const QString file = nativePath(path);
     if (!QDir::isAbsolutePath(file) || !ownfiles::saveFile(file, text(disks, volumes(), tool, now))) {
         ownfiles::complain(file + QLatin1String(": the metrics cannot be written to this path"));
-        return;
+        return false;
     }
     const QString folder = QFileInfo(file).path();
     if (ownfiles::strangerOn(folder).isEmpty())
         ownfiles::removeUnfinished(folder);
+    return true;
 }
 
 } // namespace metrics

@@ -40,7 +40,7 @@ QByteArray text(const std::vector<DiskSummary> &disks, const std::vector<VolumeS
 
 /// Writes the text to a file, which is replaced as a whole. The path has to be absolute, and its folder to be
 /// there; a file that cannot be written is named on standard error, once.
-void save(const QString &path, const std::vector<DiskSummary> &disks, const ToolUse &tool,
+bool save(const QString &path, const std::vector<DiskSummary> &disks, const ToolUse &tool,
           const QDateTime &now);
 
 } // namespace metrics

@@ -73,6 +73,7 @@ DiskSummary summaryOf(const WatchedDisk &disk, const WatchSettings &settings,
     summary.interfaceText = disk.interfaceText;
     summary.bytes = disk.last.bytes;
     summary.limits = settings.limitsOf(disk.last, summary.serial);
+    summary.setLimits = settings.setLimitsOf(disk.last, summary.serial);
     if (disk.answer == Answer::Report)
         summary.heat = heatOf(disk.last.celsius, summary.limits);
     summary.missing = disk.missing;
@@ -189,15 +190,22 @@ void Monitor::round(const QDateTime &now)
     deliver();
     if (m_changed || (m_newValues && Schedule::isDue(m_lastSave, m_now, Schedule::IdleEvery)))
         save();
-    if (!m_stopped && !m_settings.metricsPath.isEmpty())
-        metrics::save(m_settings.metricsPath, disks(), m_tool, now);
+    const QString &path = m_settings.metricsPath;
+    // Without a list of the disks each of them would count as lost.
+    const bool writes = !m_stopped && !path.isEmpty() && (m_lastListing > 0 || !m_listed.empty());
+    if (writes && !metrics::save(path, disks(), m_tool, now) &&
+        std::exchange(m_unwrittenMetrics, path) != path) {
+        WatchEvent &unwritten = add(EventKind::MetricsUnwritten);
+        unwritten.detail = path;
+        unwritten.told = unwritten.seen = true;
+    }
 }
 
 void Monitor::list()
 {
     m_relist = false;
-    m_lastListing = m_now;
     const auto table = listDisks(TableFile, [this] { return !m_stopped; });
+    m_lastListing = table || !m_listed.empty() ? m_now : 0;
     const auto stays = [this](const WatchedDisk &disk) {
         return disk.present && !(disk.removable && m_removal);
     };

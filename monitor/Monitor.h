@@ -89,6 +89,7 @@ private:
     WatchSettings m_settings;
     ToolUse m_tool;
     std::vector<std::size_t> m_listed; ///< places in the memory, in the order of the system's table
+    QString m_unwrittenMetrics;        ///< their path, once it was told
     QDateTime m_today;                 ///< of the round, as is the next one
     qint64 m_now = 0;                  ///< ms since 1970
     qint64 m_lastListing = 0;

@@ -60,7 +60,7 @@ class Collection
 public:
     Collection(const QString &folder, bool anonymous) : m_folder(folder), m_mask(anonymous) {}
 
-    QString write()
+    QString write(bool *sawDisk)
     {
         m_wrong = ownfiles::makeFolder(m_folder);
         if (!m_wrong.isEmpty())
@@ -84,6 +84,7 @@ public:
                              {"partitions", partitions()},
                              {"settings", settings()}};
         save(QStringLiteral("pc.json"), QJsonDocument(pc).toJson());
+        *sawDisk = m_sawDisk;
         return m_wrong;
     }
 
@@ -166,7 +167,7 @@ private:
     QString toolText(const inventory::Disk &disk, ToolPurpose purpose, const char *suffix)
     {
         QString text;
-        if (deviceName(disk.number).isEmpty() ||
+        if (!m_wrong.isEmpty() || deviceName(disk.number).isEmpty() ||
             !readToolWithin(
                 purpose, deviceString(disk.number, disk.interfaceType), Schedule::ToolLimit,
                 [] { return true; }, [&text](QTextStream &stream) { text = stream.readAll(); }) ||
@@ -185,6 +186,7 @@ private:
         const QString serial = report::readProbedIdentity(stream).serial.value_or(QString());
         if (serial.isEmpty())
             return;
+        m_sawDisk = true;
         const HistoryPaths paths = historyPaths(serial);
         const QByteArray dates = ownfiles::contents(paths.dates);
         if (dates.isEmpty())
@@ -212,6 +214,7 @@ private:
                                {"sectors", number(disk.sectors)}};
             addFiles(disk, &object);
             const Platform::RawHandle handle = OpenDisk(PhysicalDriveBase + disk.number);
+            m_sawDisk = m_sawDisk || handle != Platform::InvalidHandle;
             if (handle == Platform::InvalidHandle)
                 object.insert("opens", false);
             else
@@ -236,7 +239,7 @@ private:
                 object->insert(QLatin1String(text.key), name);
         }
         const auto sectors = m_sectors.find(disk.number);
-        if (sectors != m_sectors.end() && disk.sectors > 0) {
+        if (m_wrong.isEmpty() && sectors != m_sectors.end() && disk.sectors > 0) {
             const QString name = QStringLiteral("disk%1.img").arg(disk.number);
             saveImage(name, sectors->second);
             object->insert("image", name);
@@ -327,6 +330,7 @@ private:
     KnownExtents m_extents;
     std::map<int, Sectors> m_sectors; ///< by disk
     QString m_wrong;
+    bool m_sawDisk = false; ///< one could be opened, or gave a report
 };
 
 } // namespace
@@ -334,9 +338,10 @@ private:
 namespace collection
 {
 
-QString collect(const QString &folder, bool anonymous)
+QString collect(const QString &folder, bool anonymous, bool *sawDisk)
 {
-    return Collection(QDir::cleanPath(folder), anonymous).write();
+    bool unasked = false;
+    return Collection(QDir::cleanPath(folder), anonymous).write(sawDisk ? sawDisk : &unasked);
 }
 
 } // namespace collection

@@ -41,6 +41,7 @@ constexpr const char *KindNames[] = {
     "daily",
     "logUnwritten",
     "listUnread",
+    "metricsUnwritten",
 };
 
 /// Figures of the last report that are kept besides.

@@ -65,22 +65,24 @@ WatchSettings WatchSettings::load()
     return settings;
 }
 
+TemperatureLimits WatchSettings::setLimitsOf(const DiskReading &reading, const QString &serial) const
+{
+    if (const auto own = ownlimits::load(serial))
+        return {own->warning, own->shutDown};
+    if (reading.nvme && firstRunLimits) {
+        const int own = reading.warningCelsius.value_or(NvmeWarning);
+        return {std::max(1, own - NvmeMargin), own};
+    }
+    return {warning, shutDown};
+}
+
 TemperatureLimits WatchSettings::limitsOf(const DiskReading &reading, const QString &serial) const
 {
-    int warningLimit = warning;
-    int shutDownLimit = shutDown;
-    if (const auto own = ownlimits::load(serial)) {
-        warningLimit = own->warning;
-        shutDownLimit = own->shutDown;
-    } else if (reading.nvme && firstRunLimits) {
-        shutDownLimit = reading.warningCelsius.value_or(NvmeWarning);
-        warningLimit = std::max(1, shutDownLimit - NvmeMargin);
-    }
-    TemperatureLimits limits;
-    if (warns)
-        limits.warning = warningLimit;
-    if (warnsOfShutDown)
-        limits.shutDown = shutDownLimit;
+    TemperatureLimits limits = setLimitsOf(reading, serial);
+    if (!warns)
+        limits.warning.reset();
+    if (!warnsOfShutDown)
+        limits.shutDown.reset();
     return limits;
 }
 

@@ -14,6 +14,8 @@ struct WatchSettings {
     /// The limits that hold for a disk of that serial number: its own, else those of all disks. While these
     /// are what a first run begins with, an NVMe drive is held to its own warning temperature less 10 °C, and
     /// to that temperature itself for the shutdown warning.
+    TemperatureLimits setLimitsOf(const DiskReading &reading, const QString &serial) const;
+    /// Of these the ones that the user is warned of.
     TemperatureLimits limitsOf(const DiskReading &reading, const QString &serial) const;
 
     bool fahrenheit = false; ///< how temperatures are shown

@@ -131,6 +131,19 @@ private slots:
         QVERIFY(m_watch->pausedUntil() > Platform::current().Now());
     }
 
+    void withoutTheTray()
+    {
+        const auto *icon = m_tray->findChild<QSystemTrayIcon *>();
+        m_tray->show();
+        QVERIFY(icon->isVisible());
+        SettingsStore().write(key::MetricsPath, "C:\\halvane.prom");
+        for (const int wanted : {0, 1}) {
+            SettingsStore().write(key::ShowTrayIcon, wanted);
+            m_tray->show();
+            QCOMPARE(icon->isVisible(), wanted == 1);
+        }
+    }
+
     void cleanup()
     {
         m_tray.reset();

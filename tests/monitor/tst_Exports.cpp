@@ -23,7 +23,7 @@ DiskSummary disk()
     summary.answer = summary.reading.answer = DiskReading::Answer::Report;
     summary.state = DiskState::Ok;
     summary.reading.celsius = 40;
-    summary.limits.warning = 45;
+    summary.setLimits.warning = 45;
     return summary;
 }
 
@@ -120,13 +120,14 @@ private slots:
                                         "\\\"fast\\\"\",serial=\"S1\",firmware=\"\",interface=\"\"} 1\n"));
     }
 
-    /// The companion's own file: a whole scan is in it, and a disk that goes is not.
+    /// The companion's own file: a whole scan is in it, and a disk that goes is not. Without a list of the
+    /// disks it stays as it is.
     void fileOfEachRound()
     {
         const DescribedFolder &folder = *m_folder;
         folder.add("a.txt", contentOf(HALVANE_TEST_DATA "/smart/ata-wdc-wd10ezex-readfail.txt"));
         folder.add("b.txt", contentOf(HALVANE_TEST_DATA "/smart/nvme-win-samsung-980pro-1tb.txt"));
-        auto opened = folder.open(R"({"settings": {"MetricsPath": "C:\\halvane.prom"},
+        auto opened = folder.open(R"({"settings": {"MetricsPath": "C:\\halvane.prom", "DontShow": 1},
             "volumes": [{"letter": "D", "label": "Data", "size": 100, "free": 40, "fileSystem": "NTFS"},
                         {"letter": "E", "type": "remote", "size": 100}],
             "disks": [{"number": 0, "report": "a.txt"}, {"number": 1, "report": "b.txt"}]})");
@@ -153,18 +154,27 @@ private slots:
         QVERIFY(text.contains(
             "\nhalvane_volume_free_bytes{volume=\"D:\",label=\"Data\",file_system=\"NTFS\"} 40\n"));
         QVERIFY(!text.contains("\"E:\""));
+        QVERIFY(text.contains(",limit=\"warning\"} 45\n")); // whether or not the user is warned
         QCOMPARE(text.count("halvane_disk_scan_bad_sectors{"), 1);
         QVERIFY(text.count("\nhalvane_disk_") + text.count("\nhalvane_volume_") < 40 * disks);
 
-        const QString touched = folder.state() + "/volumes-changed/remove-disk1";
         QVERIFY(Platform::current().deviceNotifier());
-        QVERIFY(writeFile(touched, ""));
-        QTRY_VERIFY(!QFile::exists(touched));
+        const auto remove = [&folder](const char *disk) {
+            const QString touched = folder.state() + "/volumes-changed/remove-" + disk;
+            QVERIFY(writeFile(touched, ""));
+            QTRY_VERIFY(!QFile::exists(touched));
+        };
+        remove("disk1");
         monitor.devicesChanged(true);
         monitor.round(Now.addSecs(60)); // a lost disk is looked for twice
         monitor.round(Now.addSecs(120));
         QCOMPARE(contentOf(file).count("\nhalvane_disk_up{"), 1);
         QVERIFY(!contentOf(file).contains("980 PRO"));
+        remove("disk0"); // of a table without any disk, as at a logon, nothing is believed
+        const QByteArray before = contentOf(file);
+        Monitor next(listener);
+        next.round(Now.addSecs(180));
+        QCOMPARE(contentOf(file), before);
         for (const char *nowhere : {"halvane.prom", "M:\\halvane.prom"})
             metrics::save(nowhere, {}, {}, Now);
         QVERIFY(!QFile::exists("halvane.prom") && !QFile::exists(pc.NativePath("M:/")));
@@ -229,6 +239,12 @@ private slots:
         QCOMPARE(QDir(folder() + "/history").entryList(QDir::Files),
                  (QStringList{"dates-ANON000002.txt", "values-ANON000002"}));
         QVERIFY(all.contains("Model Family:     Kept"));
+        QString error;
+        const DescribedFolder state;
+        auto opened = SimulatedPlatform::open(folder(), state.state(), &error);
+        QVERIFY2(opened, qPrintable(error));
+        Platform::install(std::move(opened));
+        QCOMPARE(contentOf(historyPaths("ANON000002").dates), QByteArray("21-11-2026\n"));
     }
 
 private:

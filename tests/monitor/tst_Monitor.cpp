@@ -122,15 +122,17 @@ private slots:
 
     void logLines()
     {
-        open("0 t40; 3 t47");
+        open("0 t40; 3 t47", R"("MetricsPath": "M:\\x.prom")");
         rounds(0, 5, false);
         const QRegularExpression time("^2026-11-21 \\d\\d:\\d\\d:07 [+-]\\d\\d:\\d\\d  ");
-        QCOMPARE(logged().size(), 2);
+        QCOMPARE(logged().size(), 3);
         for (const QString &line : logged())
             QVERIFY2(time.match(line).hasMatch(), qPrintable(line));
         QCOMPARE(logged().at(0).section("  ", 1),
                  QString("INFO  Disk 0  Tarnwell TX2  SER1  temperature 40 °C, health 100 %, ok"));
         QCOMPARE(logged().at(1).section("  ", 1),
+                 QString("WARNING  the metrics cannot be written: M:\\x.prom"));
+        QCOMPARE(logged().at(2).section("  ", 1),
                  QString("WARNING  Disk 0  Tarnwell TX2  SER1  temperature 47 °C, limit 45 °C"));
     }
 

@@ -155,6 +155,8 @@ private slots:
             tearDown();
             init();
         }
+        open(R"(, "MetricsPath": "C:\\halvane.prom")"); // for which it runs without the tray, too
+        QCOMPARE(commands("TASKKILL.exe"), 0);
     }
 
     void unreadableTaskListShowsTheDisk()

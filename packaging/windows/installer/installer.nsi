@@ -282,14 +282,39 @@ Function MakeEntries
   ${EndIf}
 FunctionEnd
 
+; Lets the companion run from logon on: where nobody opens the program nothing else would start it. A task that is there stays,
+; it may be a user's own. Outside of the system's folder others may be able to replace what the task runs with all rights.
+Function WatchAtLogon
+  StrLen $2 "$PROGRAMFILES64\"
+  StrCpy $2 $INSTDIR $2
+  ${If} $2 != "$PROGRAMFILES64\"
+    Return
+  ${EndIf}
+  nsExec::Exec '"$SYSDIR\schtasks.exe" /Query /TN ${COMPANION}'
+  Pop $2
+  ${If} $2 != 0
+    nsExec::Exec '"$SYSDIR\schtasks.exe" /Create /F /TN ${COMPANION} /SC ONLOGON /RL HIGHEST /TR "\"$INSTDIR\${COMPANION}.exe\" Schedular"'
+    Pop $2
+  ${EndIf}
+  ${If} $2 == 0
+    StrCpy $Watched 1
+  ${EndIf}
+FunctionEnd
+
 Function WriteRegistry
   !insertmacro WriteSettings
   ; /METRICS=FILE: where the companion writes the metrics of the disks.
   ${GetParameters} $1
   ClearErrors
   ${GetOptions} $1 "/METRICS=" $0
+  ${If} ${Errors}
+    ; A shell may put its quotes around the whole.
+    ClearErrors
+    ${WordFind2X} $1 '"/METRICS=' '"' "E+1" $0
+  ${EndIf}
   ${IfNot} ${Errors}
     WriteRegStr HKLM "${SETTINGS_KEY}" "MetricsPath" $0
+    Call WatchAtLogon
   ${EndIf}
   ${If} $NewLanguage = 1
     WriteRegStr HKLM "${SETTINGS_KEY}" "LanguageType" "$(LANGUAGE_TYPE)"
@@ -310,7 +335,7 @@ Function WriteRegistry
   WriteRegDWORD HKLM "${UNINSTALL}" "AsAdministrator" $AsAdmin
 FunctionEnd
 
-; The companion runs again if it ran before: as the user who is logged on, who may be another than the one of this setup. The
+; The companion runs again if it ran before, or if its task is new: as the user who is logged on, who may be another than the one of this setup. The
 ; task of the logon starts it so. Where there is none, or it starts nothing, the user's desktop does.
 Function WatchAgain
   ${If} $Watched = 0
