@@ -81,7 +81,8 @@ private slots:
         QSignalSpy looked(m_watch.get(), &Watch::looked);
         auto *icon = m_tray->findChild<QSystemTrayIcon *>();
         m_watch->start();
-        QTRY_COMPARE(looked.count(), 1);
+        QTRY_COMPARE(looked.count(), 1); // counted on the watch's thread
+        QCoreApplication::processEvents();
         const auto shown = [this] { return contentOf(m_folder->state() + "/notices.log").count('\t'); };
         QCOMPARE(shown(), 1); // the others wait
         emit icon->messageClicked();
@@ -101,6 +102,7 @@ private slots:
         QCOMPARE(opened(), (start + start).toUtf8());
         m_watch->refresh();
         QTRY_COMPARE(looked.count(), 2);
+        QCoreApplication::processEvents();
         const auto view = looked.last().at(0).value<WatchView>();
         QCOMPARE(view.disks.at(0).unseen.size(), size_t(1));
         QCOMPARE(view.disks.at(0).unseen.at(0).kind, EventKind::Pending);
