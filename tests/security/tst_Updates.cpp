@@ -41,7 +41,7 @@ private slots:
         QVERIFY(writeFile(at("installer"), m_installer));
         QVERIFY(publish({"key", "--plain", at("key")}) && publish({"key", "--plain", at("other")}));
         const auto make = [this](const char *folder, const char *version, const char *key) {
-            return publish({"make", "--key", at(key), at("installer"), version, at(folder)});
+            return publish({"make", "--key", at(key), at("installer"), version, at(folder) + '/'});
         };
         QVERIFY(make("good", "12.0.0.0", "key") && make("old", "11.0.0.7", "key"));
         QVERIFY(make("odd", "10.0.9.0", "key") && make("forged", "12.0.0.0", "other"));
@@ -82,6 +82,7 @@ private slots:
             QCOMPARE(m_pPc->commands(), QStringList()); // no other tool tried it
             const QStringList stays = QDir(at("state/update")).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
             QVERIFY2(stays.size() == (told == "refused" ? 0 : 1), name);
+            QVERIFY2(!QFile::exists(m_pPc->MakePrivateFolder("x") + "/../updatetmp"), name);
         };
         const QByteArray page = "<html>Log in</html>";
         const QByteArray flood(65536, 'x');
@@ -137,6 +138,9 @@ private slots:
         const QString key = contentOf(at("key.pub"));
         QVERIFY(publish({"check", "--public", key, at("good")}));
         QVERIFY(!publish({"check", "--public", key, at("forged")}));
+        QVERIFY(publish({"sign", "--key", at("key"), at("installer")}) &&
+                publish({"verify", "--public", key, at("installer")}));
+        QVERIFY(!publish({"verify", "--public", contentOf(at("other.pub")), at("installer")}));
         QVERIFY(!publish({"make", at("installer"), "12.0.0.10", at("new")}) && !QFile::exists(at("new")));
         QVERIFY(writeFile(at("old/HI/VelmoraHalvane.exe"), "x") && !publish({"check", at("old")}));
     }
