@@ -67,7 +67,7 @@ int readOnce(Wish wish)
 int collectInto(const QStringList &arguments)
 {
     // Before the program goes to its own folder.
-    const QString folder = QDir().absoluteFilePath(arguments.at(2));
+    const QString folder = QDir::cleanPath(QDir().absoluteFilePath(arguments.at(2)));
     startup::readSettings();
     startup::readMachine();
     if (!hasTempFolder())
@@ -75,10 +75,12 @@ int collectInto(const QStringList &arguments)
     const QString wrong = collection::collect(folder, arguments.last() == Anonymous);
     if (wrong.isEmpty())
         return 0;
-    print((wrong + QLatin1String("\nA case is kept where no other user can read or change "
-                                 "it: name a new folder such as /root/case or C:\\case.\n"))
-              .toLocal8Bit(),
-          stderr);
+    print((wrong + QLatin1Char('\n')).toLocal8Bit(), stderr);
+    // A file in it that cannot be written has another reason, such as a full disk.
+    if (!wrong.startsWith(folder + QLatin1Char('/')))
+        print("A case is kept where no other user can read or change it: name a new folder such as "
+              "/root/case or C:\\case.\n",
+              stderr);
     return NothingRead;
 }
 
