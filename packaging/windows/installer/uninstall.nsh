@@ -52,6 +52,15 @@ Function un.RemoveTempFolders
   FindClose $2
 FunctionEnd
 
+; Removes $INSTDIR\$0, a file or a folder.
+Function un.RemoveEntry
+  ${If} ${FileExists} "$INSTDIR\$0\*.*"
+    RMDir /r "$INSTDIR\$0"
+  ${Else}
+    Delete "$INSTDIR\$0"
+  ${EndIf}
+FunctionEnd
+
 Function un.RemoveFiles
   FileOpen $5 "$INSTDIR\contents.txt" r
   ${Do}
