@@ -112,6 +112,14 @@ private slots:
         QVERIFY(!update::fetchVersions(server->link() + "EN/"));
     }
 
+    /// The setting may be of an older version than the program.
+    void settingOfAnOlderVersion()
+    {
+        const Lie lie;
+        const auto server = serve("old", &lie, m_ssl);
+        QCOMPARE(outcome(server->link(), false, 60000, "11.0.0.6"), "refused");
+    }
+
     /// Also after a new start of the program, as long as the server knows the place.
     void interruptedDownloadGoesOn()
     {
@@ -180,11 +188,12 @@ private:
     }
 
     /// What becomes of an update from the folder at `link`.
-    QString outcome(const QString &link, bool swaps = false, int milliseconds = 60000) const
+    QString outcome(const QString &link, bool swaps = false, int milliseconds = 60000,
+                    const char *installed = "11.0.0.8") const
     {
         QDownloadThread thread;
         thread.m_strLink = link + "EN/";
-        thread.m_strInstalled = "11.0.0.8";
+        thread.m_strInstalled = installed;
         thread.m_limits = {milliseconds, 0};
         QString path;
         const auto keep = [&path](const QString &finished) { path = finished; };
