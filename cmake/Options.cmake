@@ -52,7 +52,7 @@ endfunction()
 
 # halvane_add_resource(<program>): icon, version and manifest of a program for Windows. The language RC has to be enabled.
 function(halvane_add_resource program)
-    set(HALVANE_PROGRAM ${program})
+    get_target_property(HALVANE_PROGRAM ${program} OUTPUT_NAME)
     set(HALVANE_FILE_VERSION ${PROJECT_VERSION})
     string(REPLACE "." "," HALVANE_FILE_VERSION_WORDS ${HALVANE_FILE_VERSION})
     set(HALVANE_ICON ${CMAKE_BINARY_DIR}/images/VelmoraHalvane.ico)

@@ -7,6 +7,8 @@ set_property(DIRECTORY ${CMAKE_SOURCE_DIR} APPEND PROPERTY CMAKE_CONFIGURE_DEPEN
 
 file(READ ${CMAKE_SOURCE_DIR}/${HALVANE_PRODUCT_FILE} product)
 string(REPLACE "@VERSION@" "${PROJECT_VERSION}" product "${product}")
+string(JSON HALVANE_BRAND GET "${product}" product)
+string(JSON HALVANE_BRAND_PUBLISHER GET "${product}" publisher)
 string(JSON HALVANE_BRAND_PROGRAM GET "${product}" program)
 string(JSON HALVANE_BRAND_COMPANION GET "${product}" companion)
 foreach(flag IN ITEMS "SECOND_BRAND secondBrand" "STANDALONE standalone")

@@ -70,7 +70,7 @@ int readOnce(Wish wish)
 int collectInto(const QStringList &arguments)
 {
     // Before the program goes to its own folder.
-    const QString folder = QDir().absoluteFilePath(arguments.at(2));
+    const QString folder = QDir::cleanPath(QDir().absoluteFilePath(arguments.at(2)));
     startup::readSettings();
     startup::readMachine();
     if (!hasTempFolder())
@@ -81,10 +81,12 @@ int collectInto(const QStringList &arguments)
         print("No disk could be read: only root, or an administrator, may do so.\n", stderr);
     if (wrong.isEmpty())
         return sawDisk ? 0 : NoDiskCollected;
-    print((wrong + QLatin1String("\nA case is kept where no other user can read or change "
-                                 "it: name a new folder such as /root/case or C:\\case.\n"))
-              .toLocal8Bit(),
-          stderr);
+    print((wrong + QLatin1Char('\n')).toLocal8Bit(), stderr);
+    // A file in it that cannot be written has another reason, such as a full disk.
+    if (!wrong.startsWith(folder + QLatin1Char('/')))
+        print("A case is kept where no other user can read or change it: name a new folder such as "
+              "/root/case or C:\\case.\n",
+              stderr);
     return NothingRead;
 }
 

@@ -4,6 +4,7 @@
 #include "inventory/CommandRunner.h"
 #include "platform/Log.h"
 #include "platform/OwnFiles.h"
+#include "state/Product.h"
 #include "update/Ed25519.h"
 #include "update/UpdateCheck.h"
 #include "update/UpdateFetch.h"
@@ -45,7 +46,10 @@ bool TrustedFetch::takeList(const QString &link, const QString &installed)
     QBuffer buffer(&versions);
     const bool offers = buffer.open(QIODevice::ReadOnly) && fits(&buffer, *ofVersions);
     qCDebug(logs::update) << "the versions fit the list:" << offers;
-    return offers && version::isNewer(installed, versionLines(versions));
+    const QStringList lines = versionLines(versions);
+    // The setting may be of an older version than the program that runs.
+    return offers && version::isNewer(installed, lines) &&
+           version::isNewer(QLatin1String(product::Version), lines);
 }
 
 TrustedFetch::Result TrustedFetch::loadInstaller(const QString &link, qint32 milliseconds)
@@ -77,8 +81,10 @@ TrustedFetch::Result TrustedFetch::loadInstaller(const QString &link, qint32 mil
 
 TrustedFetch::Result TrustedFetch::load(const QString &link, const QString &installed, qint32 milliseconds)
 {
-    if (!takeList(link, installed))
+    if (!takeList(link, installed)) {
+        removeLeftovers(); // list, signature or versions; what was kept of an installer stays
         return Result::Refused;
+    }
     const Result result = loadInstaller(link, milliseconds);
     if (result == Result::Refused) {
         m_held.reset(); // an open file cannot be removed everywhere

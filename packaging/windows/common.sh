@@ -3,9 +3,42 @@
 # Functions for the scripts beside it. $root is the root of the tree.
 . "$root/packaging/linux/setup.sh"
 
+# The order of lists must not depend on who builds.
+export LC_ALL=C.UTF-8
+
 host=x86_64-w64-mingw32
 build_folder=$root/build-windows
 dist_folder=$root/dist/windows
+
+# choose_product <brand>: sets $data to the data file of the brand, and $dist_folder to where its program is gathered.
+choose_product() {
+    data=$root/packaging/product/$1.json
+    [ -f "$data" ] || fail "There is no brand $1 in packaging/product."
+    [ "$1" = velmora ] || dist_folder=$root/dist/windows-$1
+}
+
+# value <name>: of the brand's data file
+value() {
+    jq -er ".$1" "$data"
+}
+
+# Lets files that the variables of packaging/windows/sign name be found from any folder. A key may also be one of a token.
+resolve_signing() {
+    local name
+    for name in HALVANE_SIGN_CERTIFICATE HALVANE_SIGN_KEY HALVANE_SIGN_MODULE HALVANE_SIGN_PASSWORD; do
+        [ ! -f "${!name:-}" ] || export "$name=$(readlink -f "${!name}")"
+    done
+}
+
+# told_by <program> <name>: prints what the resource of a program for Windows says, such as its FileVersion.
+told_by() {
+    python3 - "$@" <<'CODE'
+import re, sys
+key = (sys.argv[2] + "\0").encode("utf-16-le")
+found = re.search(re.escape(key) + rb"(?:\0\0)?((?:[^\0]\0)+)", open(sys.argv[1], "rb").read())
+print(found[1].decode("utf-16-le") if found else "")
+CODE
+}
 
 # fetch_source <package> <folder>: unpacks Debian's source of a package below the folder and sets $source_tree to its path.
 fetch_source() {

@@ -56,8 +56,10 @@ QByteArray compose(const LogonTask &task)
     for (const QString &word : task.arguments.split(QLatin1Char(' '), Qt::SkipEmptyParts))
         exec += QLatin1Char(' ') + quoted(word);
     return QStringLiteral(
-               "[Desktop Entry]\nType=Application\nName=%1\nExec=%2\nTerminal=false\nNoDisplay=true\n")
-        .arg(plain(task.name), exec)
+               "[Desktop "
+               "Entry]\nType=Application\nName=%1\nTryExec=%2\nExec=%3\nTerminal=false\nNoDisplay=true\n")
+        // Once the program is removed, the session passes over what is left of the entry.
+        .arg(plain(task.name), plain(task.program), exec)
         .toUtf8();
 }
 

@@ -5,6 +5,7 @@
 #include "platform/tools/CommandInterpreter.h"
 #include "platform/windows/Native.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QRandomGenerator>
 #include <QStandardPaths>
@@ -65,12 +66,17 @@ bool isOwnFolder(const QString &path)
 }
 
 const QLatin1String FolderName("velmora-halvane-");
+const QLatin1String TempName("temp");
 
 void removeUnusedTempFolders()
 {
     const QDir data(machineData());
-    for (const QString &name : data.entryList({FolderName + QLatin1String("temp-*")}, QDir::Dirs)) {
-        const QString path = QDir::toNativeSeparators(data.filePath(name));
+    const QDateTime yesterday = QDateTime::currentDateTime().addDays(-1);
+    for (const QFileInfo &folder : data.entryInfoList({FolderName + QLatin1Char('*')}, QDir::Dirs)) {
+        // Those of updates are held by nobody, and the installer in one outlives the program that started it.
+        if (!folder.fileName().startsWith(FolderName + TempName) && folder.lastModified() > yesterday)
+            continue;
+        const QString path = QDir::toNativeSeparators(folder.filePath());
         // While a process uses the folder, nobody can open it for removal.
         const HANDLE unused =
             openFolder(path, DELETE, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE);
@@ -130,7 +136,7 @@ QString makePrivateFolder(const QString &name)
 QString makeTempFolder()
 {
     removeUnusedTempFolders();
-    const QString path = makePrivateFolder(QStringLiteral("temp"));
+    const QString path = makePrivateFolder(TempName);
     // Held until the process ends.
     if (!path.isEmpty())
         openFolder(path, FILE_LIST_DIRECTORY, FILE_SHARE_READ | FILE_SHARE_WRITE);

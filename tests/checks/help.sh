@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
 # The help: every page that the program can open exists and is well-formed. It names its language and title, describes its
-# pictures, and has no link to something missing or outside. Every picture is used.
+# pictures, and has no link to something missing or outside. Every picture is used. The manual has each option that --help has.
 . "$(dirname "${BASH_SOURCE[0]}")/files.sh"
 
 list=$(files 'help/*')
@@ -70,11 +70,19 @@ targets_exist() {
     done < <(references "$2")
 }
 
+options() { grep -oE -- '--[a-z]+' | sort -u; }
+
+manual_complete() {
+    comm -23 <(options <companion/CommandLine.cpp) <(tr -d '\\' <packaging/linux/desktop/VelmoraSMART.1.in | options) |
+        sed 's/^/VelmoraSMART.1.in: lacks /'
+}
+
 xml=$(mktemp)
 used=$(mktemp)
 trap 'rm -f "$xml" "$used"' EXIT
 {
     pages_complete
+    manual_complete
     while IFS= read -r page; do
         as_xml "$page" >"$xml"
         page_is_sound "$page" "$xml"

@@ -57,7 +57,9 @@ sound() {
     printf '{ "settings": { "rxVersion": "@VERSION@" } }\n' >"$tree/packaging/product/velmora.json"
     printf 'int health(int raw)\n{\n    return rate(raw);\n}\n' >"$tree/smart/Health.cpp"
     printf '%s\n' "$decisions" >"$tree/docs/architecture.md"
-    mkdir -p "$tree/packaging/monitoring"
+    mkdir -p "$tree"/packaging/{monitoring,linux/desktop}
+    printf 'constexpr char Usage[] = "--once";\n' >"$tree/companion/CommandLine.cpp"
+    printf '.B \\-\\-once\n' >"$tree/packaging/linux/desktop/VelmoraSMART.1.in"
     printf 'auto up = "halvane_disk_up";\n' >"$tree/monitor/Metrics.cpp"
     printf 'record: halvane:up:sum\nexpr: sum(halvane_disk_up)\n' >"$tree/packaging/monitoring/halvane.rules.yml"
     printf '{ "expr": "halvane:up:sum" }\n' >"$tree/packaging/monitoring/dashboard.json"
@@ -158,6 +160,7 @@ finds 'without a description' "$more" "${page/ alt=\"A\"/}\n"
 finds 'a script' "$more" "${page/<br>/<script>1</script>}\n"
 finds "'images/c.png' leads nowhere" "$more" "${page/a.png/c.png}\n"
 finds "'#end' has no such place" "$more" "${page/\#top/#end}\n"
+finds 'lacks --json' companion/CommandLine.cpp 'auto usage = "--once [--json]";\n'
 finds 'leads outside' "$more" "${page/\#top/https://halvane.example/}\n"
 begins version
 finds "'11.0.0.10' is not" CMakeLists.txt 'project(Halvane VERSION 11.0.0.10 LANGUAGES CXX)\n'

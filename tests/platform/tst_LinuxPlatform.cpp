@@ -325,8 +325,10 @@ private slots:
         m_pc->CreateLogonTask(task);
         QCOMPARE(int(QFile::permissions(entry) & QFile::ReadOther), int(QFile::ReadOther));
         const QByteArray text = contentOf(entry);
-        QVERIFY2(text.startsWith("[Desktop Entry]\nType=Application\nName=VelmoraSMART\nExec=\"" +
-                                 m_folder->path().toUtf8() + "/My 50%% \\\\$App/" + exec),
+        const QByteArray folder = m_folder->path().toUtf8();
+        QVERIFY2(text.startsWith("[Desktop Entry]\nType=Application\nName=VelmoraSMART\nTryExec=" + folder +
+                                 "/My 50% $App/" + (isRoot ? "start" : "VelmoraSMART") + "\nExec=\"" +
+                                 folder + "/My 50%% \\\\$App/" + exec),
                  text.constData());
         m_pc->DeleteLogonTask(task.name);
         QVERIFY(!QFile::exists(entry));

@@ -41,7 +41,7 @@ private slots:
         QVERIFY(writeFile(at("installer"), m_installer));
         QVERIFY(publish({"key", "--plain", at("key")}) && publish({"key", "--plain", at("other")}));
         const auto make = [this](const char *folder, const char *version, const char *key) {
-            return publish({"make", "--key", at(key), at("installer"), version, at(folder)});
+            return publish({"make", "--key", at(key), at("installer"), version, at(folder) + '/'});
         };
         QVERIFY(make("good", "12.0.0.0", "key") && make("old", "11.0.0.7", "key"));
         QVERIFY(make("odd", "10.0.9.0", "key") && make("forged", "12.0.0.0", "other"));
@@ -82,6 +82,7 @@ private slots:
             QCOMPARE(m_pPc->commands(), QStringList()); // no other tool tried it
             const QStringList stays = QDir(at("state/update")).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
             QVERIFY2(stays.size() == (told == "refused" ? 0 : 1), name);
+            QVERIFY2(!QFile::exists(m_pPc->MakePrivateFolder("x") + "/../updatetmp"), name);
         };
         const QByteArray page = "<html>Log in</html>";
         const QByteArray flood(65536, 'x');
@@ -111,6 +112,14 @@ private slots:
         QVERIFY(!update::fetchVersions(server->link() + "EN/"));
     }
 
+    /// The setting may be of an older version than the program.
+    void settingOfAnOlderVersion()
+    {
+        const Lie lie;
+        const auto server = serve("old", &lie, m_ssl);
+        QCOMPARE(outcome(server->link(), false, 60000, "11.0.0.6"), "refused");
+    }
+
     /// Also after a new start of the program, as long as the server knows the place.
     void interruptedDownloadGoesOn()
     {
@@ -137,6 +146,9 @@ private slots:
         const QString key = contentOf(at("key.pub"));
         QVERIFY(publish({"check", "--public", key, at("good")}));
         QVERIFY(!publish({"check", "--public", key, at("forged")}));
+        QVERIFY(publish({"sign", "--key", at("key"), at("installer")}) &&
+                publish({"verify", "--public", key, at("installer")}));
+        QVERIFY(!publish({"verify", "--public", contentOf(at("other.pub")), at("installer")}));
         QVERIFY(!publish({"make", at("installer"), "12.0.0.10", at("new")}) && !QFile::exists(at("new")));
         QVERIFY(writeFile(at("old/HI/VelmoraHalvane.exe"), "x") && !publish({"check", at("old")}));
     }
@@ -176,11 +188,12 @@ private:
     }
 
     /// What becomes of an update from the folder at `link`.
-    QString outcome(const QString &link, bool swaps = false, int milliseconds = 60000) const
+    QString outcome(const QString &link, bool swaps = false, int milliseconds = 60000,
+                    const char *installed = "11.0.0.8") const
     {
         QDownloadThread thread;
         thread.m_strLink = link + "EN/";
-        thread.m_strInstalled = "11.0.0.8";
+        thread.m_strInstalled = installed;
         thread.m_limits = {milliseconds, 0};
         QString path;
         const auto keep = [&path](const QString &finished) { path = finished; };

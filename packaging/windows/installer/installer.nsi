@@ -3,7 +3,8 @@
 ;
 ; New files go to a side folder and are swapped in by renaming, so that until then nothing of an installed version changes.
 ; Exit status: 0 done, 1 cancelled, 2 nothing changed because files could not be written, 3 a newer version is installed,
-; 4 the program is still running, 5 refused (rights, folder, another setup).
+; 4 the program is still running, 5 refused (rights, folder, another setup), 6 files of the installed version could not be put
+; back yet, and the next setup goes on there.
 
 Target amd64-unicode
 SetCompressor /SOLID ${COMPRESSOR}
@@ -20,6 +21,7 @@ SetCompressor /SOLID ${COMPRESSOR}
 !define STATUS_NEWER 3
 !define STATUS_RUNS 4
 !define STATUS_REFUSED 5
+!define STATUS_HELD 6
 !define ADMIN_BYTE 21 ; in a shortcut, with the bit for "run as administrator"
 !define ADMIN_BIT 0x20
 
@@ -126,6 +128,13 @@ Function ReadChoices
     ReadRegDWORD $InMenu HKLM "${UNINSTALL}" "StartMenuEntry"
     ReadRegDWORD $OnDesktop HKLM "${UNINSTALL}" "DesktopEntry"
     ReadRegDWORD $AsAdmin HKLM "${UNINSTALL}" "AsAdministrator"
+    ; What the user deleted meanwhile does not come back by itself.
+    ${IfNot} ${FileExists} "$SMPROGRAMS\${PRODUCT}.lnk"
+      StrCpy $InMenu 0
+    ${EndIf}
+    ${IfNot} ${FileExists} "$DESKTOP\${PRODUCT}.lnk"
+      StrCpy $OnDesktop 0
+    ${EndIf}
   ${EndIf}
   ${GetParameters} $1
   !insertmacro TakeSwitch "/NOSTARTMENU" $InMenu
@@ -371,6 +380,9 @@ Section
     ${EndIf}
   ${EndIf}
   Call PutBack
+  ${If} $8 = 1
+    Abort
+  ${EndIf}
   !insertmacro UnpackFiles
   SetOutPath "$INSTDIR\~new"
   WriteUninstaller "$INSTDIR\~new\uninstall.exe"
@@ -398,6 +410,12 @@ SectionEnd
 Function .onInstFailed
   SetOutPath "$TEMP"
   Call PutBack
+  ${If} $8 = 1
+    Push "$(HELD)"
+    Call Say
+    SetErrorLevel ${STATUS_HELD}
+    Return
+  ${EndIf}
   Call WatchAgain
   Push "$(UNDONE)"
   Call Say

@@ -99,15 +99,6 @@ Function ${un}EndPrograms
   Call ${un}EndProgram
 FunctionEnd
 
-; Removes $INSTDIR\$0, a file or a folder.
-Function ${un}RemoveEntry
-  ${If} ${FileExists} "$INSTDIR\$0\*.*"
-    RMDir /r "$INSTDIR\$0"
-  ${Else}
-    Delete "$INSTDIR\$0"
-  ${EndIf}
-FunctionEnd
-
 ; The next name in the file $5 of names, without its line end, in $0; empty at the end.
 Function ${un}NextName
   StrCpy $0 ""

@@ -52,6 +52,15 @@ Function un.RemoveTempFolders
   FindClose $2
 FunctionEnd
 
+; Removes $INSTDIR\$0, a file or a folder.
+Function un.RemoveEntry
+  ${If} ${FileExists} "$INSTDIR\$0\*.*"
+    RMDir /r "$INSTDIR\$0"
+  ${Else}
+    Delete "$INSTDIR\$0"
+  ${EndIf}
+FunctionEnd
+
 Function un.RemoveFiles
   FileOpen $5 "$INSTDIR\contents.txt" r
   ${Do}
@@ -79,8 +88,20 @@ Function un.LogPath
   ${WordReplace} "$0" "/" "\" "+" $0
 FunctionEnd
 
-; Removes the log if another brand does not write it, too. It is known by its first line: a time, two blanks and a word.
-Function un.RemoveLog
+; Removes what the companion wrote at a place of the settings: its log, if another brand does not write it, too. It is known by
+; its first line: a time, two blanks and a word. So are the metrics by theirs.
+Function un.RemoveWritten
+  ReadRegStr $2 HKLM "${SETTINGS_KEY}" "MetricsPath"
+  ClearErrors
+  FileOpen $3 $2 r
+  ${IfNot} ${Errors}
+    FileRead $3 $4
+    FileClose $3
+    StrCpy $4 $4 15
+    ${If} $4 == "# HELP halvane_"
+      Delete $2
+    ${EndIf}
+  ${EndIf}
   StrCpy $0 "${SETTINGS_KEY}"
   Call un.LogPath
   StrCpy $2 $0
@@ -108,7 +129,6 @@ FunctionEnd
 
 Function un.RemoveHistory
   RMDir /r "$INSTDIR\history"
-  Call un.RemoveLog
   ${If} $Other == ""
     StrCpy $0 "$APPDATA\VelmoraHalvane"
     Call un.RemoveTree
@@ -147,8 +167,15 @@ Section Uninstall
     StrCpy $0 "$APPDATA\VelmoraHalvane\update"
     Call un.RemoveTree
   ${EndIf}
+  Call un.RemoveWritten
   ${If} $Keep = 0
     Call un.RemoveHistory
+  ${Else}
+    ; The task of the logon is gone.
+    ReadRegDWORD $0 HKLM "${SETTINGS_KEY}" "ShowTrayIcon"
+    ${If} $0 = 1
+      WriteRegDWORD HKLM "${SETTINGS_KEY}" "ShowTrayIcon" 0
+    ${EndIf}
   ${EndIf}
   ; Only a history with something in it tells a later setup that the folder is ours.
   RMDir "$INSTDIR\history"
