@@ -15,7 +15,10 @@
 #include <QAction>
 #include <QDialogButtonBox>
 #include <QFileDialog>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QLineEdit>
+#include <QToolTip>
 #include <QtTest>
 
 /// This window is the one in front for as long as this lives; null: none of the program's is. Windows of
@@ -33,6 +36,23 @@ public:
 private:
     QObject m_context;
 };
+
+/// A file of tests/data/ui: its sections by their heads, less its remarks.
+using Sections = QMap<QString, QStringList>;
+
+inline Sections sectionsOf(const QString &file)
+{
+    Sections found;
+    QString head;
+    for (const QString &line :
+         QString::fromUtf8(contentOf(QStringLiteral(HALVANE_TEST_DATA "/ui/") + file)).split('\n')) {
+        if (line.startsWith(QLatin1String("== ")))
+            found[head = line.mid(3)];
+        else if (!line.startsWith(QLatin1String("//")) && !head.isEmpty())
+            found[head] << line;
+    }
+    return found;
+}
 
 /// The real window on a described PC of its own for each test.
 class WindowFixture
@@ -52,10 +72,57 @@ protected:
         m_pFolder->add(QLatin1String(name), contents);
     }
 
-    /// A report of a real disk.
-    static QByteArray sample(const char *name) { return testData("/smart/", name); }
-    /// What a real drive tells of its self-tests.
-    static QByteArray capabilities(const char *name) { return testData("/selftest/", name); }
+    /// A text of m_sections; one "from" another one is that with replacements.
+    QByteArray described(const QString &name) const
+    {
+        for (auto section = m_sections.begin(); section != m_sections.end(); ++section) {
+            const QStringList words = section.key().split(' ');
+            if (words.first() != "text" || words.value(1) != name)
+                continue;
+            if (words.size() == 2)
+                return section->join('\n').toUtf8() + '\n';
+            QByteArray text = described(words.last());
+            for (const QString &line : *section) {
+                const QStringList change = line.split(" => ");
+                if (change.size() == 2)
+                    text.replace(change[0].toUtf8(), change[1].toUtf8());
+            }
+            return text;
+        }
+        return contentOf(QStringLiteral(HALVANE_TEST_DATA "/") + name);
+    }
+
+    /// Installs the PC of that name of m_sections, with further keys behind the name, and loads its disks.
+    void install(const QString &pc, simulated::Clock clock = {})
+    {
+        m_pWindow.reset();
+        m_pFolder = std::make_unique<DescribedFolder>();
+        for (const QString &head : m_sections.keys()) {
+            if (head.startsWith(QLatin1String("text ")))
+                addReport(head.section(' ', 1, 1).toUtf8(), described(head.section(' ', 1, 1)));
+        }
+        QJsonObject keys = QJsonDocument::fromJson(described(pc.section(' ', 0, 0))).object();
+        const QJsonObject more = QJsonDocument::fromJson(pc.section(' ', 1).toUtf8()).object();
+        if (keys.isEmpty() || more.isEmpty() != pc.section(' ', 1).isEmpty())
+            qFatal("no PC: %s", qPrintable(pc));
+        for (auto key = more.begin(); key != more.end(); ++key)
+            keys[key.key()] = key.value();
+        QJsonObject settings{{"TempValue", "C"}, {"FirstTimeLaunch", 1}};
+        const QJsonObject own = keys["settings"].toObject();
+        for (auto key = own.begin(); key != own.end(); ++key)
+            settings[key.key()] = key.value();
+        keys["settings"] = settings;
+        keys["pauses"] = false;
+        startPc(QJsonDocument(keys).toJson(), std::move(clock));
+    }
+
+    /// The window on that PC, after its first read.
+    void openPc(const QString &pc, simulated::Clock clock = {})
+    {
+        install(pc, std::move(clock));
+        makeWindow();
+        waitForRest();
+    }
 
     /// A PC with these disks. `settings` and `more`, the further keys, begin with a comma.
     static QByteArray pcOf(const QByteArray &disks, const QByteArray &settings = QByteArray(),
@@ -111,9 +178,10 @@ protected:
     /// Waits for the end of a read or a refresh.
     void waitForRest() const { QTRY_VERIFY_WITH_TIMEOUT(!shown("GifFrame") && !g_bListsLoading, 10000); }
 
-    void choose(int index) const
+    void choose(int index, const QString &name = QString()) const
     {
-        auto *combo = child<QComboBox>("DriveCombobox");
+        auto *combo =
+            m_pWindow->findChild<QComboBox *>(name.isEmpty() ? QStringLiteral("DriveCombobox") : name);
         combo->setCurrentIndex(index);
         emit combo->activated(index);
     }
@@ -169,6 +237,19 @@ protected:
         return told;
     }
 
+    /// What the mouse is told at a place of the only widget of that class.
+    QString tipAt(const char *className, const QPoint &place) const
+    {
+        for (QWidget *part : m_pWindow->findChildren<QWidget *>()) {
+            if (!part->inherits(className))
+                continue;
+            QMouseEvent move(QEvent::MouseMove, place, part->mapToGlobal(place), Qt::NoButton, Qt::NoButton,
+                             Qt::NoModifier);
+            QCoreApplication::sendEvent(part, &move);
+        }
+        return QToolTip::text();
+    }
+
     /// Pulls a disk out without a notice of its volumes.
     void pullOut(int disk) const
     {
@@ -205,7 +286,6 @@ protected:
             found << text(label);
         return found.join(QLatin1Char('|'));
     }
-    QString image(const char *label) const { return child<QLabel>(label)->property("imagePath").toString(); }
     bool shown(const char *name) const { return child<QWidget>(name)->isVisible(); }
     /// Whether all of these are visible, or none of them.
     bool areShown(bool expected, std::initializer_list<const char *> names) const
@@ -258,13 +338,8 @@ protected:
         return count;
     }
 
+    Sections m_sections; ///< those of the test's file
     std::unique_ptr<DescribedFolder> m_pFolder = std::make_unique<DescribedFolder>();
     std::unique_ptr<MainWindow> m_pWindow;
     QString m_strState;
-
-private:
-    static QByteArray testData(const char *folder, const char *name)
-    {
-        return contentOf(QStringLiteral(HALVANE_TEST_DATA) + QLatin1String(folder) + QLatin1String(name));
-    }
 };

@@ -178,32 +178,6 @@ private slots:
         QVERIFY(locked());
     }
 
-    void stops()
-    {
-        start(0, 1);
-        click("StopButton");
-        QCOMPARE(labelOf(dialog<ConfarmetionClass>(), "CenterTitleLabel")->text(),
-                 QStringLiteral("Stop Clone"));
-        answer<ConfarmetionClass>("NoButton");
-        QVERIFY(!dialog<ConfarmetionClass>() && !g_bAbortJob);
-        click("StopButton");
-        QTRY_VERIFY_WITH_TIMEOUT(child<QRoundProgressBar>()->Value() > 0, 10000); // a block is copied
-        QCOMPARE(commands("diskpart"), 3);
-        answer<ConfarmetionClass>("YesButton");
-        // The clone runs until the disk is back in the system. Until then the lists do not change.
-        m_pWindow->OnRefresh();
-        m_pWindow->Onyes();
-        QVERIFY(locked() && !g_bListsLoading);
-        QVERIFY(!checkForUpdates(m_pWindow.get()));
-        QCOMPARE(refusal(), QStringLiteral("Clone Running."));
-        waitForEnd();
-        QCOMPARE(commands("diskpart"), 5);
-        QCOMPARE(outcome(),
-                 QStringLiteral("Clone Disk|Cloning aborted.|Cloning process aborted by the user."));
-        answer<InfoDialogClass>("OkButton");
-        QVERIFY(selecting() && !shown("StopButton") && shown("CloneButton"));
-    }
-
     void goesOnBehindAnotherScreen()
     {
         fill(0, SourceSectors);
@@ -231,22 +205,6 @@ private slots:
         QVERIFY(isDown("ScanDiskButton") && enabled("DriveCombobox"));
         press("CloneDiskButton");
         QVERIFY(!dialog<ScanSwitchClass>() && shown("CloneButton") && shown("SourceComboBox"));
-    }
-
-    void diskThatDoesNotOpen()
-    {
-        QSignalSpy failed(page(), &CloneDisk::CloningProcesFailed);
-        pullOut(1);
-        start(0, 1);
-        waitForEnd();
-        QCOMPARE(failed.count(), 1);
-        QCOMPARE(outcome(), QStringLiteral("Clone Disk|The destination disk cannot be opened.|"
-                                           "Nothing was written on any disk."));
-        QVERIFY(enabled("DriveCombobox"));
-        QCOMPARE(commands("diskpart"), 0);
-        answer<InfoDialogClass>("OkButton");
-        waitForRest();
-        QCOMPARE(child<QComboBox>("DestinationComboBox")->findData(128 + 1), -1);
     }
 
     void tellsWhatWasLost()
@@ -317,10 +275,8 @@ private:
     void choosePair(int source, int target) const
     {
         chooseSource(source);
-        auto *onto = child<QComboBox>("DestinationComboBox");
-        const int row = onto->findData(128 + target);
-        onto->setCurrentIndex(row);
-        emit onto->activated(row);
+        const QString onto = QStringLiteral("DestinationComboBox");
+        choose(m_pWindow->findChild<QComboBox *>(onto)->findData(128 + target), onto);
     }
 
     /// The question about a clone of this disk onto that one.

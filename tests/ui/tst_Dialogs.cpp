@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "monitor/WatchSettings.h"
 #include "state/GlobalApp.h"
 #include "state/Languages.h"
 #include "state/Product.h"
@@ -52,38 +51,6 @@ QString cutText(const QWidget &dialog)
 }
 
 } // namespace
-
-/// The settings window with access to its fields.
-class OpenSettings : public Settings
-{
-public:
-    QComboBox *const unit = field<QComboBox>("degreeComboBox");
-    QSpinBox *const warning = field<QSpinBox>("WarningSpinBox");
-    QSpinBox *const shutDown = field<QSpinBox>("ShutDownSpinBox");
-    QSpinBox *const logLimit = field<QSpinBox>("LogLImitSpinBox");
-    QLineEdit *const logPath = field<QLineEdit>("PathlineEdit");
-
-    template<typename Widget>
-    Widget *field(const char *name) const
-    {
-        return findChild<Widget *>(QLatin1String(name));
-    }
-
-    /// Unit, warning, shutdown and limit of the log; the boxes that are checked; the fields that are enabled.
-    QString values() const
-    {
-        QString told;
-        for (const int value : {unit->currentIndex(), warning->value(), shutDown->value(), logLimit->value()})
-            told += QString::number(value) + ' ';
-        for (const char *box : {"TrayChkBox", "WarningTemp", "LogChkBox", "SizeLimitChkBox"})
-            told += field<QCheckBox>(box)->isChecked() ? *box : '-';
-        told += ' ';
-        for (const char *name : {"WarningSpinBox", "ShutDownSpinBox", "degreeComboBox_2", "PathlineEdit",
-                                 "BrowsButton_2", "LogLImitSpinBox"})
-            told += field<QWidget>(name)->isEnabled() ? *name : '-';
-        return told;
-    }
-};
 
 /// What all dialogs have from their frame, and what each adds. The settings on a store of their own.
 class DialogsTest : public QObject
@@ -272,72 +239,29 @@ private slots:
 
     void firstRun()
     {
-        OpenSettings window;
+        Settings window;
+        const auto values = [&window] {
+            QList<int> found{window.findChild<QComboBox *>("degreeComboBox")->currentIndex()};
+            for (const char *name : {"WarningSpinBox", "ShutDownSpinBox", "LogLImitSpinBox"})
+                found << window.findChild<QSpinBox *>(name)->value();
+            for (const char *name : {"TrayChkBox", "WarningTemp", "LogChkBox", "SizeLimitChkBox"})
+                found << window.findChild<QCheckBox *>(name)->isChecked();
+            return found;
+        };
         window.ApplyFirstRunDefaults();
         // 45 and 50 are below the minimum in Fahrenheit.
-        QCOMPARE(window.values(), QString("1 104 122 99 TWLS WSdPBL"));
+        QCOMPARE(values(), (QList<int>{1, 104, 122, 99, 1, 1, 1, 1}));
         window.LoadFromStore();
-        QCOMPARE(window.values(), QString("0 45 50 99 TWLS WSdPBL"));
+        QCOMPARE(values(), (QList<int>{0, 45, 50, 99, 1, 1, 1, 1}));
         QCOMPARE(SettingsStore().number(key::FirstTimeLaunch), 1);
-    }
-
-    void savingStoresAllTogether()
-    {
-        SettingsStore().write(key::FirstTimeLaunch, 1);
-        OpenSettings window;
-        window.ApplyFirstRunDefaults(); // a later run only changes the unit
-        QCOMPARE(window.values(), QString("1 113 122 100 --LS WSdPBL"));
-        window.LoadFromStore();
-        // Nobody has touched the limits, and Ok leaves it so.
-        QCOMPARE(window.values(), QString("0 45 50 99 -WLS WSdPBL"));
-        window.SaveToStore();
-        QVERIFY(WatchSettings::load().firstRunLimits && WatchSettings::load().warns);
-        const auto stored = [&window] {
-            window.SaveToStore();
-            const SettingsStore store;
-            QStringList found;
-            for (const TextSetting &text :
-                 {key::TempValue, key::WarningtemValue, key::ShutDowntemValue, key::LogSavePath})
-                found << store.text(text);
-            for (const NumberSetting &number :
-                 {key::ShowWarning, key::DontShow, key::WarningValue, key::ShutDownValue, key::MaxLogSize})
-                found << QString::number(store.number(number));
-            return found.join(' ');
-        };
-        window.unit->setCurrentIndex(1);
-        window.field<QCheckBox>("WarningTemp")->setChecked(false);
-        for (const char *box : {"WarningTemp", "LogChkBox"})
-            window.field<QCheckBox>(box)->setChecked(true);
-        QCOMPARE(window.values(), QString("1 113 122 99 -WLS WSdPBL"));
-        window.warning->setValue(150);
-        window.shutDown->setValue(130); // a shutdown below the warning is accepted
-        window.logPath->setText(QStringLiteral("D:\\logs\\disk.txt"));
-        QCOMPARE(stored(), QString("F F F D:\\logs\\disk.txt 1 0 150 130 99"));
-        for (const char *box : {"WarningTemp", "LogChkBox"})
-            window.field<QCheckBox>(box)->setChecked(false);
-        window.logPath->clear();
-        window.field<QCheckBox>("SizeLimitChkBox")->setChecked(false);
-        QCOMPARE(window.values(), QString("1 150 130 99 ---- --d---"));
-        window.field<QCheckBox>("SizeLimitChkBox")->setChecked(true);
-        window.logLimit->setValue(250);
-        QCOMPARE(stored(), QString("F F F  0 1 150 130 250"));
-        // The next start shows it.
-        SettingsStore().write(key::ShowTrayIcon, 1);
-        OpenSettings next;
-        next.LoadFromStore();
-        QCOMPARE(next.values(), QString("1 150 130 250 T--S -----L"));
-        next.field<QCheckBox>("SizeLimitChkBox")->setChecked(false);
-        next.SaveToStore();
-        window.LoadFromStore();
-        QCOMPARE(window.values(), QString("1 150 130 250 T--- ------"));
     }
 
     void captionsHaveOneGrey()
     {
-        OpenSettings window;
+        Settings window;
         window.show();
         for (const char *caption : {"TrayChkBox", "LogChkBox", "logSizeLbl", "logSizeLbl_2", "WarningTemp"}) {
-            const auto *shown = window.field<QWidget>(caption);
+            const auto *shown = window.findChild<QWidget *>(caption);
             QCOMPARE(shown->palette().color(shown->foregroundRole()), QColor(style::colour::Grey));
         }
     }

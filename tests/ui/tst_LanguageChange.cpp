@@ -124,7 +124,7 @@ private slots:
 private:
     void start(int type)
     {
-        addReport("ata.txt", sample("ata-seagate-st31500341as.txt"));
+        addReport("ata.txt", described(QStringLiteral("smart/ata-seagate-st31500341as.txt")));
         startPc(pcOf(R"({"number": 0, "model": "A ATA Device", "sectors": 2097152, "report": "ata.txt"})",
                      QByteArray(),
                      R"(, "partitions": [{"disk": 0, "index": 0, "letter": "C:"}], "volumes": [

@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "smart/DiskFigures.h"
 #include "smart/SmartGlobals.h"
-#include "state/SettingsStore.h"
 #include "tests/ui/WindowFixture.h"
 #include "ui/screens/CloneDisk.h"
 #include "ui/screens/DiskPartition.h"
@@ -21,20 +19,8 @@ class tst_MainWindow : public QObject, private WindowFixture
 private slots:
     void init()
     {
-        g_strLastTestType.clear();
-        g_strLastTestResult.clear();
-        g_strGraphTitle.clear();
-        addReport("ata.txt", sample("ata-wdc-wd10ezex-readfail.txt").replace("WDC WD10EZEX", "WDC/WD10EZEX"));
-        addReport("log.txt", "# 1  Extended offline    Completed: read failure   90%   1587   8\n\n");
-        addReport("nvme.txt", sample("nvme-samsung-970evoplus-500gb.txt"));
-        addReport("usb.txt", sample("err-unknown-usb-bridge.txt"));
-        openWindow(pcOf(R"(
-            {"number": 0, "model": "Alpha One ATA Device", "sectors": 1953525168, "report": "ata.txt",
-             "selfTestLog": "log.txt"},
-            {"number": 2, "model": "Beta Two NVMe Device", "sectors": 976773168, "report": "nvme.txt",
-             "selfTestLog": "log.txt"},
-            {"number": 3, "media": "removable", "model": "Gamma Stick USB Device", "interface": "USB",
-             "sectors": 1001472, "report": "usb.txt"})"));
+        m_sections = sectionsOf(QStringLiteral("MainWindow.txt"));
+        openPc(QStringLiteral("three"));
     }
     void cleanup() { tearDown(); }
 
@@ -56,33 +42,6 @@ private slots:
         QTRY_VERIFY(!view->isVisible());
         QCOMPARE(combo->currentIndex(), 2);
         waitForRest();
-    }
-
-    void eachDiskShowsItsOwn()
-    {
-        const auto *combo = child<QComboBox>("DriveCombobox");
-        QCOMPARE(combo->count(), 3);
-        QCOMPARE(combo->itemText(0), QStringLiteral("WDC/WD10EZEX-00RKKA0 | WD-WUG7R5732226 | 931.51 GB"));
-        QCOMPARE(combo->itemData(1).toInt(), 130);
-        QCOMPARE(child<QComboBox>("SourceComboBox")->itemText(0), QStringLiteral("WDC/WD10EZEX-00RKKA0"));
-
-        QCOMPARE(texts({"ModelNumValLbl", "SerialValLbl", "DisknumberValLbl", "SectorValLbl",
-                        "healthValueLbl", "performanceValueLbl"}),
-                 QStringLiteral("WDC/WD10EZEX-00RKKA0|WD-WUG7R5732226|0|1953525168|21%|100%"));
-        QCOMPARE(image("HelthLable"), QStringLiteral(":/images/img_HealthHigh.png"));
-        QVERIFY(text("PowerOnTimeValue").contains(QStringLiteral(" days, ")));
-        select(1);
-        QCOMPARE(texts({"ModelNumValLbl", "DisknumberValLbl", "DiskLifeValue"}),
-                 QStringLiteral("Samsung SSD 970 EVO Plus 500GB|2|Not available"));
-        select(2);
-        QCOMPARE(texts({"ModelNumValLbl", "SerialValLbl", "healthValueLbl", "DiskLifeValue"}),
-                 QStringLiteral("Gamma Stick|Gamma Stick |Not Supported|Not Available"));
-        // The first disk shows nothing of the others.
-        SettingsStore().write(key::TempValue, QStringLiteral("F"));
-        select(0);
-        QCOMPARE(text("ModelNumValLbl"), QStringLiteral("WDC/WD10EZEX-00RKKA0"));
-        QVERIFY(text("DiskLifeValue").endsWith(QStringLiteral(" days")));
-        QVERIFY(text("tempValueLbl").endsWith(QStringLiteral("\u00B0F")));
     }
 
     void noTextIsMarkup()
@@ -140,138 +99,6 @@ private slots:
         QVERIFY(scan->styleSheet().contains("img_ScanDiskNo"));
     }
 
-    void openResultsAskFirst()
-    {
-        press("ScanDiskButton");
-        g_bScanResultOpen = true;
-        press("DiskPartitionButton");
-        answer<ScanSwitchClass>("NoButton");
-        QVERIFY(child<ScanDisk>()->isVisible() && !dialog<ScanSwitchClass>());
-        QVERIFY(child<MyButton>("ScanDiskButton")->styleSheet().contains("Sel"));
-        QVERIFY(!child<MyButton>("DiskPartitionButton")->styleSheet().contains("Sel"));
-        // The last pressed button counts.
-        press("SmartStatusButton");
-        press("DiskPartitionButton");
-        answer<ScanSwitchClass>("YesButton");
-        QVERIFY(child<DiskPartition>()->isVisible() && !g_bScanResultOpen);
-    }
-
-    void aNoticeDuringARefreshIsNotLost()
-    {
-        const int before = commands("diskdrive get");
-        m_pWindow->OnRefresh();
-        m_pWindow->OnRefresh();
-        // During the load only the loader may use the lists, whatever the user does.
-        QVERIFY(!findPhysicalDisk(128));
-        choose(1);
-        press("ScanDiskButton");
-        press("CloneDiskButton");
-        press("DiskStatusButton");
-        // Two loads: the one of the first notice, and one more after it.
-        QTRY_COMPARE_WITH_TIMEOUT(commands("diskdrive get"), before + 4, 10000);
-        QTRY_VERIFY_WITH_TIMEOUT(findPhysicalDisk(128), 10000);
-        waitForRest();
-        QTRY_COMPARE(text("ModelNumValLbl"), QStringLiteral("WDC/WD10EZEX-00RKKA0"));
-        QCOMPARE(child<QComboBox>("DriveCombobox")->currentIndex(), 0);
-    }
-
-    /// Only on Disk Partition, and for the tile alone.
-    void pollOfTheTemperature()
-    {
-        auto *tile = child<QLabel>("tempValueLbl");
-        const QString shownText = tile->text();
-        const auto polled = [this, tile] {
-            tile->setText(QStringLiteral("before"));
-            g_strTemperatureText = QStringLiteral("kept");
-            const int before = commands("smartctl64Bit.exe -a");
-            m_pWindow->GetSmartTemprature();
-            return QString("%1 %2").arg(commands("smartctl64Bit.exe -a") - before).arg(tile->text());
-        };
-        QCOMPARE(polled(), QStringLiteral("0 before"));
-        press("DiskPartitionButton");
-        m_pWindow->OnRefresh();
-        tile->setText(QStringLiteral("before"));
-        m_pWindow->GetSmartTemprature();
-        QCOMPARE(tile->text(), QStringLiteral("before")); // a refresh runs
-        waitForRest();
-        QCOMPARE(polled(), "1 " + shownText);
-        QCOMPARE(g_strTemperatureText, QStringLiteral("kept"));
-        // A user who is warned of it can shut the system down.
-        m_pWindow->OnSystemShutDown();
-        QVERIFY(logLines("commands.log").last().endsWith(" /c shutdown /s "));
-    }
-
-    void closingAsks()
-    {
-        QVERIFY(!m_pWindow->close());
-        QVERIFY(m_pWindow->isVisible());
-        answer<CloseWgt>("NoButton");
-        QVERIFY(!dialog<CloseWgt>());
-        // During a job it is refused, on screens of no job without a word.
-        press("DiskPartitionButton");
-        g_bJobRunning = true;
-        m_pWindow->close();
-        m_pWindow->Onyes();
-        QVERIFY(m_pWindow->isVisible() && !dialog<CloseWgt>() && !dialog<DestinitionWarning>());
-    }
-
-    void startsOnTheClonePage()
-    {
-        m_pWindow.reset();
-        const int before = commands("TASKKILL.exe");
-        g_strStartArgument = QStringLiteral("CloneDisk####samsungssd970evoplus500gb");
-        makeWindow();
-        QVERIFY(isDown("CloneDiskButton"));
-        QCOMPARE(child<QComboBox>("SourceComboBox")->currentIndex(), 1);
-        // The placeholder and the two other disks.
-        QCOMPARE(child<QComboBox>("DestinationComboBox")->count(), 3);
-        QCOMPARE(commands("TASKKILL.exe"), before);
-    }
-
-    void tellsOfMissingRights()
-    {
-        tearDown();
-        startPc(pcOf(R"({"number": 0, "model": "Alpha", "opens": false})"));
-        const int atLoad = commands("smartctl64Bit.exe");
-        makeWindow();
-        press("CloneDiskButton");
-        QVERIFY(shown("m_pAdvice") && text("m_pAdvice").contains(QStringLiteral("administrator")));
-        QVERIFY(areShown(false, {"HelthLable", "GifFrame"}));
-        for (const char *button : {"ScanButton", "CloneButton", "ReportSaveButton", "ScreenshotButton"})
-            QVERIFY2(!enabled(button), button);
-        QCOMPARE(commands("smartctl64Bit.exe"), atLoad);
-
-        g_App.m_bAccessDenied = false;
-        m_pWindow->RefreshSelectedDisk();
-        QVERIFY(!shown("m_pAdvice") && shown("SourceComboBox") && enabled("DriveCombobox"));
-        QVERIFY(!enabled("ScanButton")); // there is no disk
-    }
-
-    void report()
-    {
-        goTo("SmartStatusButton");
-        const QString path = newFile("report of today");
-        QCOMPARE(ask("ReportSaveButton", path),
-                 QStringLiteral("Save File|Velmora Smart Report WDC-WD10EZEX-00RKKA0|*.pdf|MainWindow"));
-        QVERIFY(contentOf(path).startsWith("%PDF"));
-        QCOMPARE(commands(" -l selftest "), 1);
-        QCOMPARE(g_strLastTestResult, QStringLiteral("Failed by Read Element"));
-        QCOMPARE(g_strHealthText, QStringLiteral("21%"));
-        const QList<QByteArray> opened{"url\t" + QUrl::fromLocalFile(path).toEncoded() + '\t'};
-        QCOMPARE(logLines("opened.log"), opened);
-        // A path below a file cannot be written, not even by an administrator.
-        QVERIFY(!ask("ReportSaveButton", path + "/report.pdf").isEmpty());
-        // An NVMe disk has no log of self-tests.
-        select(1);
-        const int logs = commands(" -l selftest ");
-        QVERIFY(!ask("ReportSaveButton", QString()).isEmpty()); // cancelled
-        QCOMPARE(logLines("opened.log"), opened);
-        const QString offered = newFile("Velmora Smart Report Samsung SSD 970 EVO Plus 500GB");
-        ask("ReportSaveButton", offered);
-        QVERIFY(contentOf(offered + ".pdf").startsWith("%PDF") && !QFile::exists(offered));
-        QCOMPARE(commands(" -l selftest "), logs);
-    }
-
     void screenshot()
     {
         goTo("SmartStatusButton");
@@ -290,25 +117,6 @@ private slots:
         const QImage text = picture.copy(QRect(result->mapTo(page, QPoint()), result->size()));
         QVERIFY(text.scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).pixelColor(0, 0) !=
                 Qt::white);
-    }
-
-    void nothingToSave()
-    {
-        const auto offered = [this](bool both) {
-            return enabled("ReportSaveButton") == both && enabled("ScreenshotButton") == both;
-        };
-        press("SmartStatusButton");
-        QVERIFY(offered(false));
-        m_pWindow->SavePDFReport();
-        waitForRest();
-        QVERIFY(offered(true));
-        press("SmartStatusButton"); // the disk is read once more
-        QVERIFY(offered(false));
-        select(2); // a disk without SMART
-        QVERIFY(offered(false));
-        m_pWindow->SavePDFReport();
-        m_pWindow->TakeScreenshot();
-        QVERIFY(!QFile::exists(newFile("opened.log")) && !QApplication::activeModalWidget());
     }
 
 private:

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "scan/BlockMap.h"
+#include "scan/ScanGlobals.h"
 #include "state/GlobalApp.h"
 #include "state/Globals.h"
 #include "state/Scale.h"
@@ -8,6 +9,7 @@
 #include "ui/screens/DiskPartition.h"
 #include "ui/screens/DiskStatus.h"
 #include "ui/widgets/Images.h"
+#include "ui/widgets/QGridView.h"
 #include "ui/widgets/Style.h"
 
 #include <QClipboard>
@@ -231,6 +233,28 @@ private slots:
         QCOMPARE(path(1.3F, Family::Plain) + path(0.75F, Family::Folder), QString());
         // What has to have a picture takes that of 96 DPI.
         QCOMPARE(images::nearestPath("a.png"), QStringLiteral(":/images/a.png"));
+    }
+
+    /// Two cells are bad, and the second one is crossed out.
+    void theMapOfAScan()
+    {
+        QGridView map;
+        map.resize(501, 321);
+        g_nMapTotalSectors = map.m_i64Position = 163840;
+        for (const qint64 sector : {100, 819, 16384, 163839})
+            g_BadSectors.append(sector, 1);
+        const QImage image = map.grab().toImage();
+        const std::pair<QPoint, quint32> dots[] = {
+            {{10, 10}, blockmap::ProcessedColour},    {{24, 4}, blockmap::BadColour},
+            {{470, 310}, blockmap::ProcessedColour},  {{484, 304}, blockmap::BadColour},
+            {{490, 310}, blockmap::BackgroundColour}, {{40, 10}, blockmap::GridColour},
+            {{500, 320}, blockmap::GridColour}};
+        for (const auto &[place, colour] : dots)
+            QCOMPARE(image.pixel(place), colour);
+        // A disk that was pulled out has millions.
+        g_BadSectors.append(163840, 1474560);
+        QCOMPARE(map.badSectors().size(), QGridView::MostBadSectors);
+        g_BadSectors.clear();
     }
 
     void windowsStayOnTheirScreen()

@@ -8,38 +8,6 @@
 
 #include <cmath>
 
-namespace
-{
-
-/// The number of volumes on each disk.
-const QList<int> volumeCounts = {3, 0, 4, 7};
-
-/// Disks with volumes of 100, 50, 33.3 … GB, a quarter of which is free. Disk 2 is not healthy.
-QByteArray disksAndVolumes()
-{
-    const QString disk = R"({"number": %1, "model": "A", "sectors": 1953525168, "status": "%2"})";
-    const QString volume =
-        R"({"letter": "%1", "fileSystem": "NTFS", "size": %2, "free": %3, "bitLocker": "%4",
-        "extents": [{"disk": %5, "offset": %6, "length": %2}]})";
-    QStringList disks;
-    QStringList volumes;
-    for (int number = 0; number < volumeCounts.size(); ++number) {
-        disks << disk.arg(number).arg(number == 2 ? "Error" : "OK");
-        for (int i = 0; i < volumeCounts.at(number); ++i) {
-            const qint64 bytes = 26214400 / (i + 1) * qint64{4096};
-            volumes << volume.arg(QChar('C' + volumes.size()))
-                           .arg(bytes)
-                           .arg(bytes / 4)
-                           .arg(i == 0 ? "2.0" : "None")
-                           .arg(number)
-                           .arg(1048576 * (i + 1));
-        }
-    }
-    return (disks.join(',') + R"(], "volumes": [)" + volumes.join(',')).toUtf8();
-}
-
-} // namespace
-
 /// Disk Partition in the real window, on a PC with disks of many numbers of volumes.
 class tst_Partitions : public QObject, private WindowFixture
 {
@@ -48,61 +16,11 @@ class tst_Partitions : public QObject, private WindowFixture
 private slots:
     void init()
     {
-        openWindow(pcOf(disksAndVolumes()));
+        m_sections = sectionsOf(QStringLiteral("Partitions.txt"));
+        openPc(QStringLiteral("volumes"));
         press("DiskPartitionButton");
     }
     void cleanup() { tearDown(); }
-
-    void everyDisk()
-    {
-        for (int number = 0; number < volumeCounts.size(); ++number) {
-            const int count = volumeCounts.at(number);
-            // Past another disk, so that it does not rest on what showed before.
-            selectDisk(3);
-            bar()->setValue(bar()->maximum());
-            QVERIFY(bar()->value() > 0);
-            selectDisk(number);
-            QCOMPARE(bar()->value(), 0);
-            QCOMPARE(host()->visibleRegion().boundingRect().top(), 0);
-            QCOMPARE(texts("m_apStatusValue"),
-                     QVector<QString>(count, number == 2 ? "Not Healthy" : "Healthy").toList());
-            const QVariantList sizes = ring()->sliceValues();
-            QCOMPARE(sizes.size(), std::max(count, 1));
-            QCOMPARE(sizes.contains(12.0), count == 0);
-            const auto *notice = child<QLabel>("m_pNoPartition");
-            QCOMPARE(notice ? notice->text() : QString(), QString(count == 0 ? "No Partition Found" : ""));
-            QCOMPARE(bar()->isVisible() && bar()->isEnabled(), count >= 4);
-            QCOMPARE(host()->minimumHeight(), 300);
-        }
-    }
-
-    void texts()
-    {
-        QCOMPARE(texts("m_apVolumeName"), (QStringList{"C: (NTFS)(BitLocker)", "D: (NTFS)", "E: (NTFS)"}));
-        const auto first = [this] {
-            QStringList found;
-            for (const char *label : {"m_apPartitionTitle", "m_apVolumeName", "m_apSpaceTitle",
-                                      "m_apBlankLabel", "m_apSpaceValue", "m_apPercentage"})
-                found << texts(label).first();
-            return found.join('|');
-        };
-        const QString plain = "Partition|C: (NTFS)(BitLocker)|Space||25 GB Free of 100 GB|25% Free";
-        QCOMPARE(first(), plain);
-        {
-            const OtherLanguage language("~$");
-            QCOMPARE(first(), "~Partition|C: (NTFS)~(BitLocker)|~Space||25 GB~ Free of 100 GB|25~% Free");
-            // A selection writes the mark as it is.
-            selectDisk(0);
-            QCOMPARE(texts("m_apVolumeName").first(), QStringLiteral("C: (NTFS)(BitLocker)"));
-            press("ScanDiskButton");
-        }
-        // While another screen shows, the frames do not change.
-        QCoreApplication::processEvents();
-        QCOMPARE(texts("m_apSpaceTitle").first(), QStringLiteral("~Space"));
-        languages::setFlag(7);
-        press("DiskPartitionButton");
-        QCOMPARE(first(), QString(plain).replace("100 GB", "100 GB Available"));
-    }
 
     void allFramesCanBeScrolledTo()
     {
@@ -188,14 +106,6 @@ private:
     QWidget *host() const { return child<QWidget>("m_pFrameHost"); }
     QScrollBar *bar() const { return child<QScrollArea>("m_pScrollArea")->verticalScrollBar(); }
     QList<QFrame *> frames() const { return host()->findChildren<QFrame *>(QStringLiteral("m_apFrame")); }
-
-    QStringList texts(const char *label) const
-    {
-        QStringList found;
-        for (const QFrame *frame : frames())
-            found << labelOf(frame, label)->text();
-        return found;
-    }
 
     void turnWheel() const
     {
