@@ -277,7 +277,7 @@ private slots:
             row("mkdir -m 0700 private && chown 12345 private", false);
     }
 
-    void tempFolder()
+    void ownFolders()
     {
         startOn(path("none.img"));
         QCOMPARE(m_pc->GetTempPathW(), m_home.path() + "/velmora-halvane/");
@@ -289,11 +289,6 @@ private slots:
         // A path on C: leads below the root folder, not into the temp folder.
         QCOMPARE(m_pc->NativePath("C:\\updatetmps\\a"), "/updatetmps/a");
         QCOMPARE(m_pc->NativePath("C:\\LogFile.txt"), m_pc->StateFolder() + "/LogFile.txt");
-    }
-
-    void historyFolder()
-    {
-        startOn(path("none.img"));
         QCOMPARE(m_pc->HistoryFolder(m_folder->path()), path("history"));
         const QString own = m_home.filePath("data/velmora-halvane/history");
         QCOMPARE(m_pc->HistoryFolder("/usr/bin"), own);
