@@ -13,8 +13,6 @@
 
 #include <algorithm>
 
-#include <algorithm>
-
 namespace
 {
 

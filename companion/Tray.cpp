@@ -107,11 +107,17 @@ void Tray::take(const WatchView &view)
 {
     m_view = view;
     showIcon();
-    // Without that option it runs for the metrics alone.
-    const SettingsStore store;
-    m_icon.setVisible(store.numberOrFirst(key::ShowTrayIcon) != 0 || store.text(key::MetricsPath).isEmpty());
+    showOrHide();
     m_pPause->setChecked(isPaused());
     emit paused(isPaused());
+}
+
+void Tray::showOrHide()
+{
+    // Without that option it runs for the metrics alone, and comes up for a message.
+    const SettingsStore store;
+    m_icon.setVisible(store.numberOrFirst(key::ShowTrayIcon) != 0 || store.text(key::MetricsPath).isEmpty() ||
+                      !m_messages.empty());
 }
 
 void Tray::showIcon()
@@ -143,6 +149,7 @@ void Tray::shown(const WatchEvent &event)
 void Tray::nextMessage()
 {
     m_messages.pop_front();
+    showOrHide();
     showNextMessage();
 }
 
@@ -153,7 +160,8 @@ void Tray::showNextMessage()
     const auto &[event, fahrenheit] = m_messages.front();
     const QString title = traystate::titleOf(event);
     const QString text = traystate::messageOf(event, fahrenheit);
-    if (m_icon.isVisible() && QSystemTrayIcon::isSystemTrayAvailable())
+    showOrHide();
+    if (QSystemTrayIcon::isSystemTrayAvailable())
         m_icon.showMessage(title, text, iconOf(event.kind), MessageMs);
     else // a desktop without a tray may still show messages
         Platform::current().Shell_NotifyIconW(0, title, text);

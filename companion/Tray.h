@@ -45,6 +45,7 @@ private:
     void shown(const WatchEvent &event);
     void messageClicked();
     bool isPaused() const;
+    void showOrHide();
     void showIcon();
 
     Watch &m_watch;

@@ -4,7 +4,6 @@
 #include "inventory/CommandRunner.h"
 #include "platform/Log.h"
 #include "platform/OwnFiles.h"
-#include "state/Product.h"
 #include "update/Ed25519.h"
 #include "update/UpdateCheck.h"
 #include "update/UpdateFetch.h"
@@ -47,9 +46,7 @@ bool TrustedFetch::takeList(const QString &link, const QString &installed)
     const bool offers = buffer.open(QIODevice::ReadOnly) && fits(&buffer, *ofVersions);
     qCDebug(logs::update) << "the versions fit the list:" << offers;
     const QStringList lines = versionLines(versions);
-    // The setting may be of an older version than the program that runs.
-    return offers && version::isNewer(installed, lines) &&
-           version::isNewer(QLatin1String(product::Version), lines);
+    return offers && version::isUpgrade(installed, lines);
 }
 
 TrustedFetch::Result TrustedFetch::loadInstaller(const QString &link, qint32 milliseconds)

@@ -50,7 +50,7 @@ void compareVersions(const QString &installed)
     const bool opened = file.open(QIODevice::ReadOnly);
     const QStringList lines = opened ? versionLines(file.read(BytesOfTwoLines)) : QStringList();
     version::Offer offer = version::offerOf(installed, lines);
-    if (!g_publisherKey.isEmpty() && !version::isNewer(installed, lines)) {
+    if (!g_publisherKey.isEmpty() && !version::isUpgrade(installed, lines)) {
         // The download would refuse it. Nothing is to be gone on with either.
         offer = version::Offer();
         removeKept();

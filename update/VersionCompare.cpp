@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "update/VersionCompare.h"
 
+#include "state/Product.h"
+
 #include <QVersionNumber>
 
 #include <algorithm>
@@ -50,6 +52,11 @@ bool isNewer(const QString &installed, const QStringList &lines)
     };
     return std::any_of(lines.begin(), lines.end(),
                        [&](const QString &line) { return number(line) > number(installed); });
+}
+
+bool isUpgrade(const QString &installed, const QStringList &lines)
+{
+    return isNewer(installed, lines) && isNewer(QLatin1String(product::Version), lines);
 }
 
 Offer offerOf(const QString &installed, const QStringList &lines)

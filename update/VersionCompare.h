@@ -23,6 +23,9 @@ Newer compare(const QString &installed, const QString &offered);
 /// Whether the newest of the versions is newer than `installed` field by field, the first one first.
 bool isNewer(const QString &installed, const QStringList &lines);
 
+/// The same, and newer than this program, too: the setting may be of an older one.
+bool isUpgrade(const QString &installed, const QStringList &lines);
+
 /// What the two lines of the update's file offer.
 struct Offer {
     bool major = false;

@@ -62,6 +62,7 @@ private slots:
             {"press Nothing", "press Nothing: there is no such widget"},
             {"hidden Nothing", "hidden Nothing: saw \"Nothing\", not \"\""},
             {"shown ScanButton DriveCombobox CloneButton", "saw \"ScanButton CloneButton\", not \"\""},
+            {"Nothing.text ~ .", "saw"},
             {"DriveCombobox.nothing = ", "saw \"no such property\", not \"\""},
             {"call MainWindow.OnNothing", "OnNothing: there is no such slot"},
             {"off Nothing", "saw \"Nothing\", not \"\""},
@@ -109,8 +110,9 @@ private:
         QString seen;
         const auto fits = [&] {
             seen = m_readings.contains(word) ? m_readings[word].run(parts.captured(2)) : propertyOf(word);
-            return parts.captured(3) == "~" ? QRegularExpression(wanted).match(seen).hasMatch()
-                                            : seen == wanted;
+            if (parts.captured(3) != "~")
+                return seen == wanted;
+            return !seen.startsWith("no such") && QRegularExpression(wanted).match(seen).hasMatch();
         };
         const bool seenSo = waits ? QTest::qWaitFor(fits, 20000) : fits();
         return seenSo ? QString() : QStringLiteral("saw \"%1\", not \"%2\"").arg(seen, wanted);
@@ -171,8 +173,9 @@ private:
          }},
         {"times",
          [this](const QString &rest) {
-             return playSteps(
-                 QVector<QString>(rest.section(' ', 0, 0).toInt(), rest.section(' ', 1)).toList());
+             const int times = rest.section(' ', 0, 0).toInt();
+             return times > 0 ? playSteps(QVector<QString>(times, rest.section(' ', 1)).toList())
+                              : QStringLiteral("no number");
          }},
         {"rest", [this](const QString &) { waitForRest(); }},
         {"choose",

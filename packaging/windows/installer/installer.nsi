@@ -291,6 +291,21 @@ Function MakeEntries
   ${EndIf}
 FunctionEnd
 
+; The task of the program's own Settings: it runs on a battery, too, and has no end.
+Function WriteTask
+  FileOpen $2 "$PLUGINSDIR\task.xml" w
+  FileWriteUTF16LE /BOM $2 '<?xml version="1.0" encoding="UTF-16"?>$\r$\n'
+  FileWriteUTF16LE $2 '<Task version="1.2" xmlns="http://schemas.microsoft.com/windows/2004/02/mit/task">$\r$\n'
+  FileWriteUTF16LE $2 '<Triggers><LogonTrigger><Delay>PT30S</Delay></LogonTrigger></Triggers>$\r$\n'
+  FileWriteUTF16LE $2 '<Principals><Principal id="Author"><RunLevel>HighestAvailable</RunLevel></Principal></Principals>$\r$\n'
+  FileWriteUTF16LE $2 '<Settings><DisallowStartIfOnBatteries>false</DisallowStartIfOnBatteries>'
+  FileWriteUTF16LE $2 '<StopIfGoingOnBatteries>false</StopIfGoingOnBatteries><StartWhenAvailable>true</StartWhenAvailable>'
+  FileWriteUTF16LE $2 '<ExecutionTimeLimit>PT0S</ExecutionTimeLimit></Settings>$\r$\n'
+  FileWriteUTF16LE $2 '<Actions Context="Author"><Exec><Command>$INSTDIR\${COMPANION}.exe</Command>'
+  FileWriteUTF16LE $2 '<Arguments>Schedular</Arguments></Exec></Actions></Task>$\r$\n'
+  FileClose $2
+FunctionEnd
+
 ; Lets the companion run from logon on: where nobody opens the program nothing else would start it. A task that is there stays,
 ; it may be a user's own. Outside of the system's folder others may be able to replace what the task runs with all rights.
 Function WatchAtLogon
@@ -302,7 +317,8 @@ Function WatchAtLogon
   nsExec::Exec '"$SYSDIR\schtasks.exe" /Query /TN ${COMPANION}'
   Pop $2
   ${If} $2 != 0
-    nsExec::Exec '"$SYSDIR\schtasks.exe" /Create /F /TN ${COMPANION} /SC ONLOGON /RL HIGHEST /TR "\"$INSTDIR\${COMPANION}.exe\" Schedular"'
+    Call WriteTask
+    nsExec::Exec '"$SYSDIR\schtasks.exe" /Create /F /TN ${COMPANION} /XML "$PLUGINSDIR\task.xml"'
     Pop $2
   ${EndIf}
   ${If} $2 == 0
@@ -323,7 +339,9 @@ Function WriteRegistry
   ${EndIf}
   ${IfNot} ${Errors}
     WriteRegStr HKLM "${SETTINGS_KEY}" "MetricsPath" $0
-    Call WatchAtLogon
+    ${If} $0 != ""
+      Call WatchAtLogon
+    ${EndIf}
   ${EndIf}
   ${If} $NewLanguage = 1
     WriteRegStr HKLM "${SETTINGS_KEY}" "LanguageType" "$(LANGUAGE_TYPE)"
@@ -344,8 +362,8 @@ Function WriteRegistry
   WriteRegDWORD HKLM "${UNINSTALL}" "AsAdministrator" $AsAdmin
 FunctionEnd
 
-; The companion runs again if it ran before, or if its task is new: as the user who is logged on, who may be another than the one of this setup. The
-; task of the logon starts it so. Where there is none, or it starts nothing, the user's desktop does.
+; The companion runs again if it ran before, or if its task is new: as the user who is logged on, who may be another than the
+; one of this setup. The task of the logon starts it so. Where there is none, or it starts nothing, the user's desktop does.
 Function WatchAgain
   ${If} $Watched = 0
     Return
