@@ -244,7 +244,8 @@ private slots:
                     [&folder](const QString &json) {
                         QString error;
                         const bool wrong = !simulated::parsePc(json.toUtf8(), folder.path(), &error);
-                        return wrong ? error.replace(folder.path(), "<folder>") : "none";
+                        error.replace(folder.path(), "<folder>").replace(QDir::rootPath(), "/");
+                        return wrong ? error : "none";
                     });
         const auto refusal = [&folder](const QString &place) {
             QString error;
