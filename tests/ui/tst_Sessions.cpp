@@ -136,6 +136,7 @@ private:
     /// cancelled.
     QString save(const QString &rest)
     {
+        m_front.reset(); // else dialog and window take the front from each other for ever
         const QString path = rest.section('|', 0, 0);
         QString wrong;
         m_asked = asked([&] { wrong = playStep(rest.section('|', 2)); },
