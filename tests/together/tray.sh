@@ -3,7 +3,8 @@
 # The companion in a real tray, on the demo PC: its icon is there and has the colour of the worst disk, the pointer on it
 # brings the tooltip, a click the flyout.
 #
-# Usage: tray.sh FOLDER [PICTURES [DPI]]     FOLDER has the executable; the pictures are kept in PICTURES.
+# Usage: tray.sh FOLDER [PICTURES [DPI [LANGUAGE]]]     FOLDER has the executable; the pictures are kept in PICTURES. The
+# language goes by its number in the settings.
 set -euo pipefail
 source=$(dirname "$(readlink -f "$0")")/../..
 for tool in Xvfb trayer xdotool import jq; do
@@ -12,6 +13,7 @@ done
 scratch=$(mktemp -d)
 pictures=${2:-$scratch}
 dpi=${3:-96}
+language=${4:-0}
 pids=()
 clean() {
     exec 2>/dev/null # nobody has to know that they were killed
@@ -47,10 +49,12 @@ comes() {
 isPainted() { [ "$(import -window "$window" png:- | identify -format %k -)" -ge "$1" ]; }
 isRed() { import -window "$window" png:- | convert - txt:- | grep -i '#d93030' >/dev/null; }
 # take NAME: a picture of the screen.
-take() { import -window root "$pictures/$1-$dpi.png"; }
+take() { import -window root "$pictures/$1-$dpi-$language.png"; }
 
 export HALVANE_PC=$scratch/pc HALVANE_PC_STATE=$scratch/state QT_FONT_DPI=$dpi DBUS_SESSION_BUS_ADDRESS=disabled:
 "$source/demo/make-pc" "$HALVANE_PC" --dpi "$dpi" --no-images
+jq --arg language "$language" '.settings.LanguageType = $language' "$HALVANE_PC/pc.json" >"$scratch/pc.json"
+mv "$scratch/pc.json" "$HALVANE_PC/pc.json"
 mkdir -p "$HALVANE_PC_STATE" "$pictures"
 # All messages have been shown before, so that no other windows come.
 memory=$HALVANE_PC_STATE/watch.json
