@@ -149,18 +149,17 @@ void Tray::shown(const WatchEvent &event)
 void Tray::nextMessage()
 {
     m_messages.pop_front();
-    showOrHide();
     showNextMessage();
 }
 
 void Tray::showNextMessage()
 {
+    showOrHide();
     if (m_messages.empty())
         return;
     const auto &[event, fahrenheit] = m_messages.front();
     const QString title = traystate::titleOf(event);
     const QString text = traystate::messageOf(event, fahrenheit);
-    showOrHide();
     if (QSystemTrayIcon::isSystemTrayAvailable())
         m_icon.showMessage(title, text, iconOf(event.kind), MessageMs);
     else // a desktop without a tray may still show messages
