@@ -34,18 +34,32 @@ void setDefault(const char *name, const QByteArray &value)
         qputenv(name, value);
 }
 
-bool readArguments(const QStringList &arguments, QString *pc, QString *out)
+bool readArguments(const QStringList &arguments, QString *pc, bool *thisPc, QString *out)
 {
     for (int i = 0; i < arguments.size(); ++i) {
         const QString &argument = arguments.at(i);
-        if (argument == QLatin1String("--pc") && i + 1 < arguments.size())
+        if (argument == QLatin1String("--this-pc"))
+            *thisPc = true;
+        else if (argument == QLatin1String("--pc") && i + 1 < arguments.size())
             *pc = arguments.at(++i);
         else if (!argument.startsWith(QLatin1Char('-')) && out->isEmpty())
             *out = argument;
         else
             return false;
     }
-    return !out->isEmpty();
+    return !out->isEmpty() && (pc->isEmpty() || !*thisPc);
+}
+
+bool readDescription(const QString &folder, TourPlan *plan, QString *error)
+{
+    plan->pcFolder = QDir(folder).absolutePath();
+    const auto description = simulated::readPc(plan->pcFolder, error);
+    if (!description)
+        return false;
+    plan->pcName = description->name;
+    plan->dpi = description->dpi;
+    plan->wishes = description->tour;
+    return true;
 }
 
 } // namespace
@@ -66,19 +80,14 @@ bool read(int argc, char **argv, TourPlan *plan, QString *error)
         arguments.append(QString::fromLocal8Bit(argv[i]));
     QString pc;
     QString out;
-    if (!readArguments(arguments, &pc, &out)) {
-        *error = QStringLiteral("usage: halvane_tour [--pc DIR] OUT");
+    bool thisPc = false;
+    if (!readArguments(arguments, &pc, &thisPc, &out)) {
+        *error = QStringLiteral("usage: halvane_tour [--pc DIR | --this-pc] OUT");
         return false;
     }
     plan->out = QDir(out).absolutePath();
-    plan->pcFolder = QDir(chosenPc(pc)).absolutePath();
-
-    const auto description = simulated::readPc(plan->pcFolder, error);
-    if (!description)
+    if (!thisPc && !readDescription(chosenPc(pc), plan, error))
         return false;
-    plan->pcName = description->name;
-    plan->dpi = description->dpi;
-    plan->wishes = description->tour;
 
     if (qEnvironmentVariableIsSet(LimitVariable)) {
         plan->stepLimit = qEnvironmentVariableIntValue(LimitVariable);
@@ -92,8 +101,12 @@ bool read(int argc, char **argv, TourPlan *plan, QString *error)
 
 void setEnvironment(const TourPlan &plan, const QString &stateFolder)
 {
-    qputenv(PcVariable, QFile::encodeName(plan.pcFolder));
-    setDefault(StateVariable, QFile::encodeName(stateFolder));
+    if (plan.pcFolder.isEmpty()) {
+        qunsetenv(PcVariable);
+    } else {
+        qputenv(PcVariable, QFile::encodeName(plan.pcFolder));
+        setDefault(StateVariable, QFile::encodeName(stateFolder));
+    }
     setDefault("QT_QPA_PLATFORM", "offscreen");
     // With this, fonts have the scale of the display, as on a desktop.
     qputenv("QT_FONT_DPI", QByteArray::number(plan.dpi));

@@ -28,8 +28,6 @@
 #include <QThread>
 #include <QUrl>
 
-#include <cerrno>
-#include <fcntl.h>
 #include <pwd.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -178,9 +176,7 @@ bool LinuxPlatform::IsAccessDenied(const QString &name)
 {
     const inventory::Machine known = machine();
     const inventory::Disk *disk = diskOf(known, name);
-    return disk &&
-           faccessat(AT_FDCWD, QFile::encodeName(disk->node).constData(), R_OK | W_OK, AT_EACCESS) != 0 &&
-           errno == EACCES;
+    return disk && RawDevice::isDenied(disk->node);
 }
 
 DiskUse LinuxPlatform::DismountDisk(int number)

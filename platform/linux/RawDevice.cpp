@@ -108,6 +108,18 @@ std::unique_ptr<RawDevice> RawDevice::open(const QString &node, bool writable)
     return std::unique_ptr<RawDevice>(new RawDevice(descriptor, direct, writable));
 }
 
+bool RawDevice::isDenied(const QString &node)
+{
+    const QByteArray path = QFile::encodeName(node);
+    if (faccessat(AT_FDCWD, path.constData(), R_OK | W_OK, AT_EACCESS) != 0)
+        return errno == EACCES;
+    // A container keeps even root from the disks of its machine.
+    const int descriptor = openNode(path, O_RDONLY);
+    if (descriptor >= 0)
+        ::close(descriptor);
+    return descriptor < 0 && errno == EPERM;
+}
+
 RawDevice::RawDevice(int descriptor, bool direct, bool writable)
     : m_descriptor(descriptor), m_direct(direct), m_mayWrite(writable)
 {

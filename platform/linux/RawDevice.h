@@ -19,6 +19,8 @@ public:
     /// Null if the node cannot be opened for reading, or with `writable` if this process may not write it or
     /// the kernel holds it read-only.
     static std::unique_ptr<RawDevice> open(const QString &node, bool writable);
+    /// Whether this process lacks the rights to open the node.
+    static bool isDenied(const QString &node);
     ~RawDevice();
     RawDevice(const RawDevice &) = delete;
     RawDevice &operator=(const RawDevice &) = delete;
