@@ -236,7 +236,7 @@ private slots:
 
     void pauseAndSeen()
     {
-        open("0 t47 p1");
+        open("0 t47 p1; 9 t47 p1 r1");
         m_monitor = std::make_unique<Monitor>(m_listener);
         m_monitor->pauseAlarms(QDateTime::fromMSecsSinceEpoch(m_start + 5 * 60000));
         rounds(0, 3, false);
@@ -249,6 +249,15 @@ private slots:
         QCOMPARE(m_monitor->disks().at(0).unseen.size(), size_t(1));
         QCOMPARE(m_monitor->disks().at(0).heat, Heat::Warm);
         QCOMPARE(m_monitor->disks().at(0).day.size(), size_t(1));
+        rounds(9, 20, true);
+        QCOMPARE(m_monitor->disks().at(0).unseen.size(), size_t(2)); // what is of another kind stays
+    }
+
+    void wornOut()
+    {
+        open("0 nvme w120");
+        roundAt(0, false);
+        QCOMPARE(m_monitor->disks().at(0).reading.health.value_or(-1), 0);
     }
 
     /// A disk that cools down in a pause is told when it is hot again behind it.
