@@ -111,13 +111,15 @@ std::unique_ptr<RawDevice> RawDevice::open(const QString &node, bool writable)
 bool RawDevice::isDenied(const QString &node)
 {
     const QByteArray path = QFile::encodeName(node);
-    if (faccessat(AT_FDCWD, path.constData(), R_OK | W_OK, AT_EACCESS) != 0)
-        return errno == EACCES;
-    // A container keeps even root from the disks of its machine.
-    const int descriptor = openNode(path, O_RDONLY);
-    if (descriptor >= 0)
-        ::close(descriptor);
-    return descriptor < 0 && errno == EPERM;
+    bool opens = faccessat(AT_FDCWD, path.constData(), R_OK | W_OK, AT_EACCESS) == 0;
+    if (opens) {
+        const int descriptor = openNode(path, O_RDONLY);
+        opens = descriptor >= 0;
+        if (opens)
+            ::close(descriptor);
+    }
+    // A container keeps even root from the disks of its machine, in one way or the other.
+    return !opens && (errno == EACCES || errno == EPERM);
 }
 
 RawDevice::RawDevice(int descriptor, bool direct, bool writable)

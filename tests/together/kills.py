@@ -241,11 +241,13 @@ class Together:
         self.mark_seen(self.check())
 
     def mark_seen(self, memory):
-        """As a click on the flyout does it. A companion shows a message every few seconds, and one that always dies young
-        fewer than there are."""
+        """As if they had been shown and clicked. A companion shows a message every few seconds, so one that always dies
+        young shows fewer than there are."""
         waiting = [event for event in memory["events"] if not event["told"]]
         if len(waiting) > MOST_WAITING:
             for event in waiting:
+                shown = self.shown.get(str(event["id"]), 0)
+                must(shown < KEPT, "event", event["id"], "waits", shown, "s after it was shown")
                 event["told"] = event["seen"] = True
                 self.marked.add(str(event["id"]))
             put(self.state + "/watch.json", json.dumps(memory))
@@ -312,7 +314,8 @@ def main():
             process.wait()
     print(f"seed {SEED}: {ROUNDS} rounds, {together.kills} kills, {together.reads} reports read by the program; log: "
           f"{len(together.told)} rises and {len(together.warm)} warm disks, each once; shown: {len(together.shown)} events, "
-          f"{together.twice} of them again as the kill came at once, {len(together.marked)} were marked as seen, {waiting} wait; "
+          f"{together.twice} of them again as the kill came at once, {len(together.marked)} were marked as seen, "
+          f"{waiting} wait; "
           f"{len(together.left_over())} files left over")
     shutil.rmtree(root)
     return 0

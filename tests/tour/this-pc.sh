@@ -11,25 +11,30 @@ skip() {
 
 [ "$(id -u)" = 0 ] || skip "only root makes loop devices"
 if [ -z "${HALVANE_OWN_PLACES:-}" ]; then
-    unshare --mount true 2>/dev/null || skip "no mounts of its own are to be had"
-    HALVANE_OWN_PLACES=1 exec unshare --mount bash "$0" "$@"
+    own=(unshare --mount --mount-proc --pid --fork --kill-child)
+    "${own[@]}" true 2>/dev/null || skip "no mounts and processes of its own are to be had"
+    HALVANE_OWN_PLACES=1 exec "${own[@]}" bash "$0" "$@"
 fi
-# Nobody else sees these: settings and history begin anew, and those of this machine are not touched.
-made=()
-for place in /etc /var/lib /run; do
-    mkdir "$place/velmora-halvane" 2>/dev/null && made+=("$place/velmora-halvane")
-    mount -t tmpfs -o mode=0700 tmpfs "$place/velmora-halvane"
-done
+bin=$1
 work=$(mktemp -d)
+# Nobody else sees these: settings and history begin anew, and those of this machine are not touched. Nor is a companion: the
+# program of a fresh machine ends those that it sees.
+places=({/etc,/var/lib,/run}/velmora-halvane "$bin/history")
+made=()
 loops=()
 clean() {
+    set +e
     mountpoint -q "$work/volume" && umount "$work/volume"
     for loop in "${loops[@]}"; do losetup --detach "$loop"; done
-    umount /etc/velmora-halvane /var/lib/velmora-halvane /run/velmora-halvane
-    rmdir "${made[@]}" 2>/dev/null || true
+    for place in "${places[@]}"; do mountpoint -q "$place" && umount --lazy "$place"; done
+    for place in "${made[@]}"; do rmdir "$place"; done
     rm -rf "$work"
 }
 trap clean EXIT
+for place in "${places[@]}"; do
+    [ -d "$place" ] || { mkdir "$place" && made+=("$place"); }
+    mount -t tmpfs -o mode=0700 tmpfs "$place"
+done
 
 # disk <name> <size> <script of sfdisk>: sets $loop.
 disk() {
@@ -45,6 +50,7 @@ mkfs.ext2 -q -L Größe "$loop"
 mkdir "$work/volume"
 mount "$loop" "$work/volume"
 disk two 48M 'label: dos\nsize=20M,type=83\ntype=5\nsize=8M,type=7\n'
+udevadm settle 2>/dev/null || true
 unset HALVANE_PC
 HALVANE_DISKS=$(IFS=:; echo "${loops[*]}")
 export HALVANE_DISKS QT_QPA_PLATFORM=offscreen
@@ -63,7 +69,6 @@ shown() {
     jq -S 'del(.pc)' "$work/$1-out/screens.json" >"$work/$1.json"
 }
 
-bin=$1
 "$bin/VelmoraSMART" --collect "$work/case"
 shown machine --this-pc
 shown collection --pc "$work/case"
