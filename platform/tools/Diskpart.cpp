@@ -17,8 +17,8 @@ namespace
 
 constexpr qint64 LongestScript = 64 * 1024;
 
-const char Banner[] = "\r\nMicrosoft DiskPart version 10.0.22000.1\r\n"
-                      "\r\nCopyright (C) Microsoft Corporation.\r\nOn computer: PC\r\n";
+const char DiskpartBanner[] = "\r\nMicrosoft DiskPart version 10.0.22000.1\r\n"
+                              "\r\nCopyright (C) Microsoft Corporation.\r\nOn computer: PC\r\n";
 const char Usage[] =
     "\r\nMicrosoft DiskPart syntax:\r\n\tdiskpart [/s <script>] [/?]\r\n"
     "\r\n\t/s <script> - Use a DiskPart script.\r\n\t/?          - Show this help screen.\r\n";
@@ -156,18 +156,18 @@ QByteArray diskpart(const QStringList &arguments, const std::function<QString(co
                     ScriptedDisks &disks)
 {
     if (arguments.size() != 2 || arguments.first().compare(QLatin1String("/s"), Qt::CaseInsensitive) != 0)
-        return QByteArray(Banner) + Usage;
+        return QByteArray(DiskpartBanner) + Usage;
     QFile file;
     if (!ownfiles::openRegular(&file, nativePath(arguments.last()), QIODevice::ReadOnly) ||
         file.size() > LongestScript)
-        return QByteArray(Banner) + NoScript;
+        return QByteArray(DiskpartBanner) + NoScript;
     QString said;
     const QVector<Step> steps = parseScript(file.readAll(), &said);
     // Other programs may want the file while the tool works.
     file.close();
     if (!steps.isEmpty())
         said = runSteps(steps, disks);
-    return Banner + said.toLatin1();
+    return DiskpartBanner + said.toLatin1();
 }
 
 } // namespace tools

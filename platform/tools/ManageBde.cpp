@@ -14,9 +14,10 @@ namespace
 
 using inventory::Volume;
 
-const QString Banner = QStringLiteral("BitLocker Drive Encryption: Configuration Tool version 10.0.22000\r\n"
-                                      "Copyright (C) 2013 Microsoft Corporation. All rights reserved.\r\n"
-                                      "\r\n");
+const QString ManageBdeBanner =
+    QStringLiteral("BitLocker Drive Encryption: Configuration Tool version 10.0.22000\r\n"
+                   "Copyright (C) 2013 Microsoft Corporation. All rights reserved.\r\n"
+                   "\r\n");
 const QString Heading = QStringLiteral("Disk volumes that can be protected with\r\n"
                                        "BitLocker Drive Encryption:\r\n");
 const QString NotOpened =
@@ -92,8 +93,8 @@ QByteArray manageBde(const inventory::Machine &machine, const QStringList &argum
             blocks += describe(volume);
     }
     if (blocks.isEmpty() && !wanted.isEmpty())
-        return (Banner + NotOpened.arg(wanted)).toLocal8Bit();
-    return (Banner + Heading + blocks + QLatin1String("\r\n")).toLocal8Bit();
+        return (ManageBdeBanner + NotOpened.arg(wanted)).toLocal8Bit();
+    return (ManageBdeBanner + Heading + blocks + QLatin1String("\r\n")).toLocal8Bit();
 }
 
 } // namespace tools

@@ -9,26 +9,26 @@
 #include <QLabel>
 #include <QPushButton>
 
-const DialogShape Shape = {"AboutDialog",
-                           480,
-                           {"HeaderLabel", QT_TRANSLATE_NOOP("AboutDialog", "About Velmora Halvane")},
-                           {"LabelPixmap", "img_Product.png"},
-                           {{"ProductLabel", QT_TRANSLATE_NOOP("AboutDialog", "Velmora Halvane")},
-                            {"VersionLabel"},
-                            {"SystemLabel"},
-                            {"LegalLabel"}},
-                           {{"LicenseButton", QT_TRANSLATE_NOOP("AboutDialog", "License Agreement")},
-                            {"OkButton", QT_TRANSLATE_NOOP("AboutDialog", "OK")}},
-                           DialogButton::Last,
-                           DialogButton::Last,
-                           "frame",
-                           "BottomFrame",
-                           true};
+const DialogShape AboutShape = {"AboutDialog",
+                                480,
+                                {"HeaderLabel", QT_TRANSLATE_NOOP("AboutDialog", "About Velmora Halvane")},
+                                {"LabelPixmap", "img_Product.png"},
+                                {{"ProductLabel", QT_TRANSLATE_NOOP("AboutDialog", "Velmora Halvane")},
+                                 {"VersionLabel"},
+                                 {"SystemLabel"},
+                                 {"LegalLabel"}},
+                                {{"LicenseButton", QT_TRANSLATE_NOOP("AboutDialog", "License Agreement")},
+                                 {"OkButton", QT_TRANSLATE_NOOP("AboutDialog", "OK")}},
+                                DialogButton::Last,
+                                DialogButton::Last,
+                                "frame",
+                                "BottomFrame",
+                                true};
 
 AboutDlg::AboutDlg(QWidget *parent) : QDialog(parent), m_Frame(this)
 {
     setAttribute(Qt::WA_DeleteOnClose);
-    QVBoxLayout *column = m_Frame.build(Shape);
+    QVBoxLayout *column = m_Frame.build(AboutShape);
     column->setSpacing(4);
     auto *row = new QHBoxLayout;
     row->setContentsMargins(0, 8, 0, 0);

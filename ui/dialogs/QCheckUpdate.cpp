@@ -22,19 +22,19 @@
 
 #include <algorithm>
 
-const DialogShape Shape = {"CheckUpdate",
-                           400,
-                           {"HeaderLabel", QT_TRANSLATE_NOOP("CheckUpdate", "Velmora Halvane")},
-                           {},
-                           {{"label", QT_TRANSLATE_NOOP("CheckUpdate", "Checking for updates...")}},
-                           {},
-                           DialogButton::None,
-                           DialogButton::None,
-                           ""};
+const DialogShape CheckShape = {"CheckUpdate",
+                                400,
+                                {"HeaderLabel", QT_TRANSLATE_NOOP("CheckUpdate", "Velmora Halvane")},
+                                {},
+                                {{"label", QT_TRANSLATE_NOOP("CheckUpdate", "Checking for updates...")}},
+                                {},
+                                DialogButton::None,
+                                DialogButton::None,
+                                ""};
 
 QCheckUpdate::QCheckUpdate(QWidget *parent) : QDialog(parent), m_Frame(this)
 {
-    QVBoxLayout *column = m_Frame.build(Shape);
+    QVBoxLayout *column = m_Frame.build(CheckShape);
     column->setSpacing(10);
     m_pProgressBar = DialogFrame::addBar(column);
     m_Frame.dress();

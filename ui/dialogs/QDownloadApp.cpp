@@ -25,17 +25,17 @@ const QString BarSheet = QStringLiteral(
     "QProgressBar:horizontal{border: 1px solid gray; border-radius: 3px; background: white;padding: 0px;}"
     "QProgressBar::chunk:horizontal{background-color: rgb(1,169,26);margin-right: 0px;width: 1px}");
 
-const DialogShape Shape = {"DownloadUpdate",
-                           440,
-                           {"HeaderLabel", QT_TRANSLATE_NOOP("DownloadUpdate", "Software Update")},
-                           {},
-                           {{"label", QT_TRANSLATE_NOOP("DownloadUpdate", "Downloading Files")}},
-                           {},
-                           DialogButton::None,
-                           DialogButton::None,
-                           "frame",
-                           "",
-                           true};
+const DialogShape DownloadShape = {"DownloadUpdate",
+                                   440,
+                                   {"HeaderLabel", QT_TRANSLATE_NOOP("DownloadUpdate", "Software Update")},
+                                   {},
+                                   {{"label", QT_TRANSLATE_NOOP("DownloadUpdate", "Downloading Files")}},
+                                   {},
+                                   DialogButton::None,
+                                   DialogButton::None,
+                                   "frame",
+                                   "",
+                                   true};
 
 /// The text is a heading, an empty line and a sentence. Another sentence can take the place of that one.
 void tellFailure(QWidget *parent, const QString &title, const QString &text, const QString &other)
@@ -81,7 +81,7 @@ void QDownloadApp::buildDetails()
 {
     auto *frame = new QFrame;
     frame->setObjectName(QStringLiteral("CentralFrame"));
-    m_Frame.build(Shape)->addWidget(frame);
+    m_Frame.build(DownloadShape)->addWidget(frame);
     auto *column = new QVBoxLayout(frame);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(8);

@@ -14,21 +14,21 @@
 #include <QPushButton>
 #include <QTextEdit>
 
-const DialogShape Shape = {"ShowUpdateAvail",
-                           460,
-                           {"HeaderLabel", QT_TRANSLATE_NOOP("ShowUpdateAvail", "Velmora Halvane")},
-                           {"PixmapLabel", "img_Information.png"},
-                           {},
-                           {{"UpdateButton", QT_TRANSLATE_NOOP("ShowUpdateAvail", "Update")},
-                            {"CancelButton", QT_TRANSLATE_NOOP("ShowUpdateAvail", "Cancel")}},
-                           DialogButton::First,
-                           DialogButton::First,
-                           "",
-                           "BottomFrame"};
+const DialogShape OfferShape = {"ShowUpdateAvail",
+                                460,
+                                {"HeaderLabel", QT_TRANSLATE_NOOP("ShowUpdateAvail", "Velmora Halvane")},
+                                {"PixmapLabel", "img_Information.png"},
+                                {},
+                                {{"UpdateButton", QT_TRANSLATE_NOOP("ShowUpdateAvail", "Update")},
+                                 {"CancelButton", QT_TRANSLATE_NOOP("ShowUpdateAvail", "Cancel")}},
+                                DialogButton::First,
+                                DialogButton::First,
+                                "",
+                                "BottomFrame"};
 
 QShowUpdate::QShowUpdate(QWidget *parent, bool major) : QDialog(parent), m_Frame(this), m_bMajor(major)
 {
-    QVBoxLayout *column = m_Frame.build(Shape);
+    QVBoxLayout *column = m_Frame.build(OfferShape);
     m_pTextEdit = DialogFrame::addText(column);
     m_pTextEdit->setFocusPolicy(Qt::NoFocus);
     m_pLinkLabel = DialogFrame::addLink(column, "LinkLabel");
