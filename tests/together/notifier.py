@@ -50,7 +50,7 @@ class Watcher(dbus.service.Object):
 
 
 def until(what, condition):
-    end = time.time() + 20
+    end = time.time() + 60
     while not (found := condition()):
         if time.time() > end:
             sys.exit(f"notifier.py: no {what}")
