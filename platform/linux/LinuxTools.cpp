@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <csignal>
 #include <unistd.h>
+#include <utility>
 
 namespace linuxtools
 {
@@ -82,8 +83,8 @@ QByteArray outputOf(QProcess *process)
 
 } // namespace
 
-Limits::Limits(qint32 milliseconds, const std::function<bool()> &mayGoOn)
-    : m_end(milliseconds), m_mayGoOn(mayGoOn)
+Limits::Limits(qint32 milliseconds, std::function<bool()> mayGoOn)
+    : m_end(milliseconds), m_mayGoOn(std::move(mayGoOn))
 {
     limitsInForce = this;
 }

@@ -30,7 +30,7 @@ struct Ended {
 class Limits
 {
 public:
-    Limits(qint32 milliseconds, const std::function<bool()> &mayGoOn);
+    Limits(qint32 milliseconds, std::function<bool()> mayGoOn);
     ~Limits();
     Limits(const Limits &) = delete;
     Limits &operator=(const Limits &) = delete;
@@ -41,7 +41,7 @@ public:
 
 private:
     const QDeadlineTimer m_end;
-    const std::function<bool()> &m_mayGoOn;
+    const std::function<bool()> m_mayGoOn;
     mutable bool m_reached = false;
 };
 
