@@ -407,7 +407,9 @@ void LinuxPlatform::SetThreadExecutionState(quint32 flags)
 
 int LinuxPlatform::LogPixelsX()
 {
-    const QScreen *screen = qGuiApp ? QGuiApplication::primaryScreen() : nullptr;
+    // A process without windows has no screens.
+    const bool hasScreens = qobject_cast<QGuiApplication *>(QCoreApplication::instance());
+    const QScreen *screen = hasScreens ? QGuiApplication::primaryScreen() : nullptr;
     return screen ? qRound(screen->logicalDotsPerInchX()) : 96;
 }
 
