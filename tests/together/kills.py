@@ -245,12 +245,17 @@ class Together:
         young shows fewer than there are."""
         waiting = [event for event in memory["events"] if not event["told"]]
         if len(waiting) > MOST_WAITING:
+            self.marked |= self.ids_of(waiting)
             for event in waiting:
-                shown = self.shown.get(str(event["id"]), 0)
-                must(shown < KEPT, "event", event["id"], "waits", shown, "s after it was shown")
                 event["told"] = event["seen"] = True
-                self.marked.add(str(event["id"]))
             put(self.state + "/watch.json", json.dumps(memory))
+
+    def ids_of(self, waiting):
+        """What was shown does not wait for longer than it takes to be kept."""
+        ids = {str(event["id"]) for event in waiting}
+        for event in ids & self.shown.keys():
+            must(self.shown[event] < KEPT, "event", event, "waits", self.shown[event], "s after it was shown")
+        return ids
 
     def await_end(self, end, begin):
         """Or, from `begin` on, until right behind a line of the log: then the most has still to be kept."""
@@ -281,9 +286,7 @@ class Together:
         memory = self.check(caught_up=True)
         must(all(event["logged"] for event in memory["events"]), "not logged:", memory)
         must(sum(" SER1 " in line and "shutdown limit" in line for line in self.lines) == 1, "the hot disk is not told once")
-        waiting = {str(event["id"]) for event in memory["events"] if not event["told"]}
-        for event in waiting & self.shown.keys():
-            must(self.shown[event] < KEPT, "event", event, "waits", self.shown[event], "s after it was shown")
+        waiting = self.ids_of(event for event in memory["events"] if not event["told"])
         happened = len(self.told) + len(self.warm) + 1
         must(happened == len(waiting | self.marked | self.shown.keys()), happened, "events, but shown", len(self.shown),
              "marked", len(self.marked), "and waiting", len(waiting))
@@ -315,8 +318,7 @@ def main():
     print(f"seed {SEED}: {ROUNDS} rounds, {together.kills} kills, {together.reads} reports read by the program; log: "
           f"{len(together.told)} rises and {len(together.warm)} warm disks, each once; shown: {len(together.shown)} events, "
           f"{together.twice} of them again as the kill came at once, {len(together.marked)} were marked as seen, "
-          f"{waiting} wait; "
-          f"{len(together.left_over())} files left over")
+          f"{waiting} wait; {len(together.left_over())} files left over")
     shutil.rmtree(root)
     return 0
 
