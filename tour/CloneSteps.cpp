@@ -142,6 +142,11 @@ void stop(Walk &walk, const Wish &wish)
         walk.press(MainWindowClass, {QStringLiteral("StopButton")});
         walk.answer(StopQuestionClass, QStringLiteral("YesButton"));
         walk.waitForWindow(ResultClass);
+        // The result comes up a moment before the thread of the clone has ended.
+        walk.waitFor(QStringLiteral("the end of the clone"), []() {
+            return windows::child(windows::byClass(MainWindowClass), QStringLiteral("CloneButton")) !=
+                   nullptr;
+        });
         walk.record(QStringLiteral("clone-stopped"));
     }
     walk.answer(ResultClass, QStringLiteral("OkButton"));
