@@ -355,6 +355,8 @@ TourReport::Screen Walk::look(const QString &step, const Finder &find)
         screen.disk = windows::selectedDisk();
         screen.language = QLatin1String(languages::current().text);
         screen.scale = static_cast<double>(g_App.m_fScale);
+        // What was hidden or shown just now may not have moved the rest yet.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
         screen.picture = window->grab().toImage();
         screen.contents = screenrecorder::describe(window);
         screen.clipped = layoutcheck::clipped(window, step);
