@@ -9,11 +9,14 @@
 #include "ui/dialogs/MessageDialog.h"
 #include "ui/dialogs/QShowUpdate.h"
 #include "ui/screens/Settings.h"
+#include "ui/widgets/StartLook.h"
 #include "ui/widgets/Style.h"
 #include "update/HelpLinks.h"
 
 #include <QAction>
+#include <QFileDialog>
 #include <QMenu>
+#include <QMessageBox>
 #include <QScrollBar>
 #include <QTextEdit>
 #include <QtTest>
@@ -67,6 +70,22 @@ private slots:
         g_App.m_bKorvaneBrand = false;
         languages::setOffered();
         languages::setFlag(0);
+    }
+
+    /// Also those of the toolkit, and also under a dark theme.
+    void allWindowsAreLight()
+    {
+        QApplication::setPalette(QPalette(QColor(0x20, 0x20, 0x20)));
+        startlook::install();
+        const Settings settings;
+        const QMessageBox box;
+        const QFileDialog files;
+        for (const QWidget *window : std::initializer_list<const QWidget *>{&settings, &box, &files}) {
+            for (const auto ground : {QPalette::Window, QPalette::Base})
+                QVERIFY(window->palette().color(ground).lightness() > 240);
+            for (const auto text : {QPalette::WindowText, QPalette::Text})
+                QVERIFY(window->palette().color(text).lightness() < 110);
+        }
     }
 
     /// Texts of twice the length are not cut. To leave the dialog presses its dismissing button.

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/ui/Named.h"
 #include "tests/ui/WindowFixture.h"
 #include "ui/screens/Settings.h"
 
@@ -66,8 +67,9 @@ private slots:
             QVERIFY(window);
             auto *path = window->findChild<QLineEdit *>(QStringLiteral("PathlineEdit"));
             QCOMPARE(path->text(), first);
-            path->setFocus(Qt::TabFocusReason);
-            QTest::keyClick(path, Qt::Key_A, Qt::ControlModifier);
+            for (int i = 0; i < 60 && window->focusWidget() != path; ++i)
+                QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
+            QTest::keyClick(window->focusWidget(), Qt::Key_A, Qt::ControlModifier);
             QTest::keyClicks(path, QStringLiteral("C:\\logs"));
             QTest::keyClick(path, ok ? Qt::Key_Return : Qt::Key_Escape);
             QVERIFY(!window->isVisible());
@@ -75,22 +77,27 @@ private slots:
         }
     }
 
-    /// No control says nothing to a screen reader, and none says blanks or marks of keys.
+    /// What each control says to a screen reader is a text of the language, without blanks around it.
     void names()
     {
         QStringList nameless;
-        for (const QWidget *widget : QApplication::allWidgets()) {
+        const OtherLanguage language("$~");
+        for (QWidget *widget : QApplication::allWidgets()) {
             const bool control = (widget->focusPolicy() & Qt::TabFocus) != 0 && !widget->isWindow() &&
-                                 widget->objectName() != QLatin1String("qt_scrollarea_viewport") &&
-                                 !widget->objectName().isEmpty() && !widget->focusProxy();
-            if (!control || widget->isHidden())
-                continue;
-            const QString name =
-                QAccessible::queryAccessibleInterface(const_cast<QWidget *>(widget))->text(QAccessible::Name);
-            if (name.isEmpty() || name != name.trimmed())
-                nameless << widget->window()->objectName() + '/' + widget->objectName();
+                                 widget->window()->windowType() != Qt::Popup &&
+                                 !widget->objectName().startsWith(QLatin1String("qt_")) &&
+                                 !widget->focusProxy() && !widget->isHidden();
+            QString name = QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name);
+            if (qobject_cast<QComboBox *>(widget)) { // Linux is told the value, and which label names it
+                name = widget->accessibleName();
+                for (const QLabel *label : widget->window()->findChildren<QLabel *>())
+                    name += label->buddy() == widget ? label->text() : QString();
+            }
+            if (control && !QRegularExpression("^\\S.*~$").match(name).hasMatch())
+                nameless << widget->window()->objectName() + '/' + widget->metaObject()->className() + '/' +
+                                widget->objectName() + ' ' + name;
         }
-        QCOMPARE(nameless.join(QLatin1Char(' ')), QString());
+        QCOMPARE(nameless.join(QLatin1Char('\n')), QString());
     }
 
 private:

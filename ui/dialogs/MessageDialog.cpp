@@ -213,7 +213,10 @@ void InfoDialogClass::OfferSaving(bool bOffer)
 void InfoDialogClass::showEvent(QShowEvent *event)
 {
     MessageDialog::showEvent(event);
-    announce(m_Frame.label("label"));
+    for (const char *name : {"label", "label_2"}) {
+        if (QLabel *label = m_Frame.label(name); !label->text().isEmpty())
+            announce(label);
+    }
 }
 
 TemperatureWarning::TemperatureWarning(const DialogShape &shape, const NumberSetting &setting,

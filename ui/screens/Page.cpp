@@ -12,6 +12,7 @@
 #include <QGuiApplication>
 #include <QLabel>
 #include <QMenu>
+#include <QShortcut>
 
 #include <algorithm>
 #include <typeinfo>
@@ -75,9 +76,14 @@ void makeCopyable(std::initializer_list<QLabel *> labels)
         if (label->contextMenuPolicy() == Qt::CustomContextMenu)
             continue;
         label->setContextMenuPolicy(Qt::CustomContextMenu);
+        label->setFocusPolicy(Qt::ClickFocus);
         if (typeid(*label) == typeid(QLabel)) {
             label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-            label->setFocusPolicy(Qt::NoFocus); // a click leaves the keys where they were
+        } else {
+            auto *copy = new QShortcut(QKeySequence::Copy, label);
+            copy->setContext(Qt::WidgetShortcut);
+            QObject::connect(copy, &QShortcut::activated, label,
+                             [label] { QGuiApplication::clipboard()->setText(copyText(label)); });
         }
         QObject::connect(label, &QWidget::customContextMenuRequested, label, [label](const QPoint &place) {
             auto *menu = new QMenu(label);
@@ -89,6 +95,31 @@ void makeCopyable(std::initializer_list<QLabel *> labels)
             menu->popup(label->mapToGlobal(place));
         });
     }
+}
+
+QString shownText(const QWidget *page)
+{
+    using Place = std::pair<QPoint, const QLabel *>;
+    QVector<Place> places;
+    for (const QLabel *label : page->findChildren<QLabel *>()) {
+        if (label->isVisible() && !label->text().isEmpty() && label->styleSheet() != style::UnseenLabel)
+            places.append({label->mapTo(page, label->rect().center()), label});
+    }
+    std::sort(places.begin(), places.end(),
+              [](const Place &left, const Place &right) { return left.first.y() < right.first.y(); });
+    QStringList lines;
+    for (auto row = places.begin(); row != places.end();) {
+        const auto end = std::find_if(row, places.end(), [row](const Place &place) {
+            return place.first.y() > row->first.y() + row->second->height() / 2;
+        });
+        std::sort(row, end,
+                  [](const Place &left, const Place &right) { return left.first.x() < right.first.x(); });
+        QStringList texts;
+        for (; row != end; ++row)
+            texts << row->second->text().simplified();
+        lines << texts.join(QLatin1Char('\t'));
+    }
+    return lines.join(QLatin1Char('\n'));
 }
 
 void alignNames(std::initializer_list<QLabel *> labels)

@@ -45,11 +45,13 @@ void styleNames(std::initializer_list<QLabel *> labels);    ///< semibold 10 poi
 /// 10 point, grey; plain text that can be wider than its room without pushing its neighbours away.
 void styleValues(std::initializer_list<QLabel *> labels);
 
-/// Lets the user select the texts with the mouse, and copy them by a context menu. A label that draws itself
-/// has the menu only. Tab passes them by.
+/// Lets the user select the texts with the mouse, and copy them by Ctrl+C or a context menu. A label that
+/// draws itself is selected as a whole. Tab passes them by.
 void makeCopyable(std::initializer_list<QLabel *> labels);
-/// What the menu copies: the selected text, else the whole one without the caption and colon of a detail.
+/// What is copied then: the selected text, else the whole one without the caption and colon of a detail.
 QString copyText(const QLabel *label);
+/// All texts that the page shows: a line for each row, a tab between its labels.
+QString shownText(const QWidget *page);
 
 /// Gives the labels the width of the widest, so that what stands behind them is aligned. Call it again when
 /// their texts change.

@@ -73,10 +73,8 @@ SmartStatus::SmartStatus(QWidget *parent) : Page(parent)
                           style::GreyLabel);
     pagelook::makeCopyable(
         {m_ui.SerialNunValueLbl, m_ui.InterfaceValLbl, m_ui.CapcityValLbl, m_ui.SmartResultLabel});
-    // White on white: they keep their room and show nothing.
-    const QString unseen = style::label(style::colour::White);
-    pagelook::styleLabels({m_ui.m_pHeadingLabel}, style::semiBold(12), unseen);
-    pagelook::styleLabels({m_ui.m_pHeadingResultLabel}, style::semiBold(13, true), unseen);
+    pagelook::styleLabels({m_ui.m_pHeadingLabel}, style::semiBold(12), style::UnseenLabel);
+    pagelook::styleLabels({m_ui.m_pHeadingResultLabel}, style::semiBold(13, true), style::UnseenLabel);
     makeTree();
     addRest();
     FormatSmartTable();

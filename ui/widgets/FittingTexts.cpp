@@ -13,16 +13,27 @@
 namespace
 {
 
-/// Draws as the style draws a label, so that the style sheet's colour holds.
-void drawLine(QLabel *label, const QString &text, const QFont &font)
+/// Draws as the style draws a label, so that the style sheet's colour holds. With the focus it looks
+/// selected.
+void drawLine(QLabel *label, const QRect &room, int alignment, const QString &text, const QFont &font)
 {
     QStylePainter painter(label);
     painter.setFont(font);
     QStyleOption option;
     option.initFrom(label);
-    painter.drawItemText(label->contentsRect(),
-                         QStyle::visualAlignment(label->layoutDirection(), label->alignment()),
-                         option.palette, label->isEnabled(), text, label->foregroundRole());
+    QPalette::ColorRole colour = label->foregroundRole();
+    if (label->hasFocus()) {
+        painter.fillRect(painter.style()->itemTextRect(painter.fontMetrics(), room, alignment, true, text),
+                         option.palette.highlight());
+        colour = QPalette::HighlightedText;
+    }
+    painter.drawItemText(room, alignment, option.palette, label->isEnabled(), text, colour);
+}
+
+void drawLine(QLabel *label, const QString &text, const QFont &font)
+{
+    drawLine(label, label->contentsRect(),
+             QStyle::visualAlignment(label->layoutDirection(), label->alignment()), text, font);
 }
 
 QFont captionFont(const QFont &font)
@@ -97,14 +108,15 @@ void DetailLabel::paintEvent(QPaintEvent *)
     constexpr int Flags = Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine;
     const Parts shown = parts(text());
     const int room = std::max(0, width() - m_nValueX);
-    QPainter painter(this);
-    painter.setPen(palette().color(foregroundRole()));
-    painter.setFont(captionFont(font()));
-    painter.drawText(rect(), Flags, shown.caption);
-    painter.setFont(font());
+    {
+        QPainter painter(this);
+        painter.setPen(palette().color(foregroundRole()));
+        painter.setFont(captionFont(font()));
+        painter.drawText(rect(), Flags, shown.caption);
+    }
     const QString value = QFontMetrics(font()).elidedText(shown.value, Qt::ElideRight, room);
     style::setWholeTip(this, value == shown.value ? QString() : shown.caption + shown.value);
-    painter.drawText(QRect(m_nValueX, 0, room, height()), Flags, value);
+    drawLine(this, QRect(m_nValueX, 0, room, height()), Flags, value, font());
 }
 
 void ElidingComboBox::showPopup()

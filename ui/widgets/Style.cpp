@@ -23,6 +23,7 @@ const QString BlackLabel = label(colour::Text);
 const QString GreyLabel = label(colour::Grey);
 const QString PassedLabel = label(colour::Passed);
 const QString FailedLabel = label(colour::Failed);
+const QString UnseenLabel = label(colour::White);
 
 namespace
 {

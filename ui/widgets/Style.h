@@ -49,6 +49,7 @@ extern const QString BlackLabel;
 extern const QString GreyLabel;
 extern const QString PassedLabel;
 extern const QString FailedLabel;
+extern const QString UnseenLabel; ///< white on white: keeps its room and shows nothing
 
 /// Names the families that stand in for "Segoe UI". Once, at the start.
 void substituteFonts(bool chinese);

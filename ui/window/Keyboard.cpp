@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/screens/Page.h"
 #include "ui/window/MainWindow.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QKeyEvent>
 #include <QScrollArea>
 #include <QShortcut>
 
@@ -45,6 +49,15 @@ void MainWindow::connectKeys()
     add(QKeySequence(Qt::Key_F5), [this] { OnRefresh(); });
     add(QKeySequence(Qt::CTRL + Qt::Key_S), [this] { pressIfShown(m_ui.ReportSaveButton); });
     add(QKeySequence(Qt::CTRL + Qt::Key_P), [this] { pressIfShown(m_ui.ScreenshotButton); });
+}
+
+/// Where no text and no row is selected, all that the page says is copied.
+void MainWindow::keyPressEvent(QKeyEvent *event)
+{
+    if (m_screen && event->matches(QKeySequence::Copy))
+        QGuiApplication::clipboard()->setText(pagelook::shownText(m_apScreens[*m_screen]));
+    else
+        QMainWindow::keyPressEvent(event);
 }
 
 /// The key Tab goes through the window as it is read: title, navigation, disk, page, buttons below.

@@ -152,6 +152,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void changeEvent(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     using Screen = navigation::Screen;
@@ -256,7 +257,7 @@ private:
     CloneDisk::Pair m_askedPair;       ///< named in the question before a clone
     QHash<int, int> m_hashComboToDisk; ///< combo index to DiskNode::nId
     QMovie *m_pMovie = nullptr;
-    bool m_bStartedByKey = false; ///< the latest scan or clone
+    bool m_bStartedByKey = false; ///< the latest job
     bool m_bRefreshing = false;
     bool m_bRefreshAgain = false; ///< a volume came or went during a refresh
     QTimer *m_pTemperatureTimer = nullptr;

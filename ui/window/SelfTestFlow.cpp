@@ -56,6 +56,7 @@ void MainWindow::OnCheckShortTest1()
         m_ui.BackTestButton->show();
         return;
     }
+    m_bStartedByKey = focusWidget() == m_ui.ScanButton;
     m_ui.DriveCombobox->setEnabled(false);
     m_pScanDiskPage->ShowSelfTest(m_selfTest.shown());
     showTestButtons(true);
@@ -123,7 +124,11 @@ void MainWindow::takeTestStep(const SelfTest::Step &step)
         if (screen != navigation::ScanDiskScreen)
             setNavigationEnabled(screen, false);
     }
+    if (!m_ui.StopTestButton->isHidden())
+        return;
     m_ui.StopTestButton->show();
+    if (m_bStartedByKey)
+        m_ui.StopTestButton->setFocus();
 }
 
 void MainWindow::leaveTest()
@@ -131,6 +136,8 @@ void MainWindow::leaveTest()
     m_pConfirmation->hide();
     m_pTestTimer->stop();
     enableNavigation();
+    if (m_bStartedByKey && isOnShow(navigation::ScanDiskScreen))
+        m_apNavigation[navigation::ScanDiskScreen]->setFocus();
     showTestButtons(false);
 }
 
