@@ -57,10 +57,9 @@ QPushButton *addLink(QHBoxLayout *bar)
     link->setFlat(true);
     link->setCursor(Qt::PointingHandCursor);
     link->setFont(style::font(9));
-    link->setStyleSheet(style::sheet(
-        QStringLiteral("QPushButton{color: @accent; border: 1px solid transparent; padding: 2px 0px;}"
-                       "QPushButton:hover{text-decoration: underline;}"
-                       "QPushButton:focus{border-color: @main;}")));
+    link->setStyleSheet(
+        style::sheet(QStringLiteral("QPushButton{color: @accent; border: none; padding: 3px 0px;}"
+                                    "QPushButton:hover{text-decoration: underline;}")));
     bar->addWidget(link);
     return link;
 }

@@ -10,6 +10,7 @@
 #include "tests/ui/Named.h"
 #include "ui/dialogs/MessageDialog.h"
 #include "ui/widgets/MyButton.h"
+#include "ui/widgets/StartLook.h"
 #include "ui/window/MainWindow.h"
 
 #include <QAction>
@@ -60,7 +61,7 @@ class WindowFixture
 protected:
     WindowFixture()
     {
-        Q_INIT_RESOURCE(images);
+        startlook::install();
         // A test cannot use a file dialog of the system.
         QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     }

@@ -6,12 +6,12 @@
 #include <QWidget>
 
 /// Shows which control has the keyboard's focus, by a ring about it, in all windows of the program. A user
-/// who has just used the mouse sees it in dialogs only. Make one of it. Main thread only.
+/// who has just used the mouse sees it in dialogs only. startlook::install() makes the one of
+/// a process. Main thread only.
 class FocusRing : public QObject
 {
 public:
     explicit FocusRing(QObject *parent = nullptr);
-    ~FocusRing() override { delete m_pRing; }
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -3,6 +3,7 @@
 
 #include "state/GlobalApp.h"
 #include "state/Languages.h"
+#include "ui/widgets/FocusRing.h"
 #include "ui/widgets/Style.h"
 
 #include <QApplication>
@@ -22,6 +23,7 @@ void install()
     initialiseResources();
     QApplication::setPalette(style::lightPalette());
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/images/img_AppIcon.png")));
+    new FocusRing(qApp);
 }
 
 void speak()

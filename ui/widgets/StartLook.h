@@ -5,7 +5,7 @@
 namespace startlook
 {
 
-/// Pictures, palette and icon. Needs the application object.
+/// Pictures, palette, icon and the ring of the focus. Once; needs the application object.
 void install();
 
 /// Fonts and translations of the language in use.

@@ -15,7 +15,6 @@
 #include "ui/screens/ScanDisk.h"
 #include "ui/screens/Settings.h"
 #include "ui/screens/SmartStatus.h"
-#include "ui/widgets/FocusRing.h"
 #include "ui/widgets/FramelessDrag.h"
 #include "ui/widgets/MyButton.h"
 #include "ui/window/JobDisplay.h"
@@ -265,7 +264,6 @@ private:
     SelfTest m_selfTest;
     QTimer *m_pTestTimer = nullptr;
     FramelessDrag m_drag;
-    FocusRing m_focusRing;
     JobDisplay m_jobDisplay{this};
     SMARTThread m_smartThread;
     QRefThreadDevicesLoad m_refreshThread;
