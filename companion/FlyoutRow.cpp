@@ -10,7 +10,6 @@
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMenu>
-#include <QMouseEvent>
 #include <QPainter>
 
 namespace
@@ -44,7 +43,7 @@ QLabel *makeLabel(const char *name, const QFont &font)
 } // namespace
 
 FlyoutRow::FlyoutRow(QWidget *parent)
-    : QWidget(parent), m_pName(makeLabel("DiskName", style::semiBold(10))),
+    : QAbstractButton(parent), m_pName(makeLabel("DiskName", style::semiBold(10))),
       m_pState(makeLabel("DiskState", style::font(9))), m_pDay(new QWidget),
       m_pTemperature(makeLabel("DiskTemperature", style::font(14)))
 {
@@ -67,6 +66,7 @@ FlyoutRow::FlyoutRow(QWidget *parent)
     row->addWidget(m_pDay);
     row->addSpacing(style::px(Gap));
     row->addWidget(m_pTemperature);
+    connect(this, &QAbstractButton::clicked, this, [this] { emit openWanted(m_disk); });
 }
 
 void FlyoutRow::setDisk(const DiskSummary &disk, bool fahrenheit, const QDateTime &now)
@@ -98,29 +98,14 @@ void FlyoutRow::paintEvent(QPaintEvent *)
     }
     traypicture::drawSign(&painter, scaled(SignPlace), m_disk);
     traypicture::drawDay(&painter, m_pDay->geometry(), m_disk, m_nNow);
-    if (!hasFocus())
-        return;
-    painter.setPen(QColor(style::colour::Main));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRect(rect().adjusted(2, 2, -3, -2));
-}
-
-void FlyoutRow::mouseReleaseEvent(QMouseEvent *event)
-{
-    if (event->button() == Qt::LeftButton && rect().contains(event->pos()))
-        emit openWanted(m_disk);
 }
 
 void FlyoutRow::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space)
-        emit openWanted(m_disk);
-    else if (event->key() == Qt::Key_Down)
-        focusNextChild();
-    else if (event->key() == Qt::Key_Up)
-        focusPreviousChild();
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        click();
     else
-        QWidget::keyPressEvent(event);
+        QAbstractButton::keyPressEvent(event); // of the space bar and the arrows, too
 }
 
 void FlyoutRow::contextMenuEvent(QContextMenuEvent *event)

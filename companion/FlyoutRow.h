@@ -3,13 +3,13 @@
 
 #include "companion/Watch.h"
 
-#include <QWidget>
+#include <QAbstractButton>
 
 class QLabel;
 
 /// A disk in the flyout: sign, name, state, its last day as a line, and its temperature. A press opens the
 /// program on it.
-class FlyoutRow : public QWidget
+class FlyoutRow : public QAbstractButton
 {
     Q_OBJECT
 
@@ -25,7 +25,6 @@ signals:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
-    void mouseReleaseEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
 
