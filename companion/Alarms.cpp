@@ -4,9 +4,11 @@
 #include "companion/TrayState.h"
 #include "inventory/CommandRunner.h"
 #include "monitor/EventTexts.h"
+#include "ui/widgets/Announce.h"
 #include "ui/widgets/Style.h"
 
 #include <QCursor>
+#include <QLabel>
 
 #include <algorithm>
 
@@ -59,6 +61,9 @@ void Alarms::add(Warning *warning, const Line &line)
         style::centreOn(warning->dialog, style::availableArea(QCursor::pos()));
     warning->dialog->show();
     warning->dialog->raise();
+    // It has no focus that a screen reader could follow.
+    for (const char *label : {"WarningTxtLbl", "MediaNameLbl"})
+        announce(warning->dialog->findChild<QLabel *>(QLatin1String(label)));
     // The other one stays readable.
     const QWidget *other = warning == &m_warning ? m_shutDownWarning.dialog : m_warning.dialog;
     if (isNew && other->isVisible())
