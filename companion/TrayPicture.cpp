@@ -24,11 +24,13 @@ constexpr qint64 Gap = 60 * 60 * 1000;
 constexpr double LeastRange = 20; ///< °C from the lower to the upper edge of a day
 
 const QColor Dark(0x20, 0x20, 0x20);
-const QColor Grey(style::colour::Disabled);
+const QColor Amber(0xff, 0xbb, 0x33); ///< Dark stands on it
 
 QColor fillOf(Sign sign, bool darkBar)
 {
-    if (sign == Sign::Warm || sign == Sign::Hot)
+    if (sign == Sign::Warm)
+        return Amber;
+    if (sign == Sign::Hot)
         return colourOf(sign);
     return darkBar ? Dark : QColor(Qt::white);
 }
@@ -36,7 +38,7 @@ QColor fillOf(Sign sign, bool darkBar)
 QColor inkOf(Sign sign, bool darkBar)
 {
     if (sign == Sign::Unknown)
-        return Grey;
+        return colourOf(sign);
     return sign == Sign::Hot || (sign == Sign::InOrder && darkBar) ? QColor(Qt::white) : Dark;
 }
 
@@ -94,9 +96,10 @@ void drawLine(QPainter *painter, Sign sign, const QRect &inside, int width)
 
 QColor colourOf(Sign sign)
 {
-    static const QColor colours[] = {Grey, QColor(0x32, 0xcd, 0x32), QColor(0xff, 0xbb, 0x33),
-                                     QColor(0xd9, 0x30, 0x30)};
-    return colours[static_cast<std::size_t>(sign)];
+    namespace colour = style::colour;
+    static const char *const colours[] = {colour::EmptySign, colour::GoodSign, colour::WarmSign,
+                                          colour::BadSign};
+    return QColor(colours[static_cast<std::size_t>(sign)]);
 }
 
 QPixmap pixmap(const traystate::Icon &icon, int size, bool darkBar)

@@ -36,10 +36,13 @@ constexpr char Main[] = "#1f72d1";   ///< the main button
 constexpr char MainHover[] = "#1a63b8";
 constexpr char MainPressed[] = "#14569f";
 
-/// Signs without letters have 3 to white.
+/// Signs without letters have 3 to White and Pale.
 constexpr char Sign[] = "#2a81e5";      ///< chosen card, bar, line of a graph
 constexpr char GaugeSign[] = "#0080c0"; ///< ring of a clone
-constexpr char EmptySign[] = "#8c8c8c"; ///< ring of a disk without volumes
+constexpr char EmptySign[] = "#8c8c8c"; ///< ring of a disk without volumes, disk that tells nothing
+constexpr char GoodSign[] = "#2a9d2a";  ///< a disk in order, as are the next two
+constexpr char WarmSign[] = "#b87d00";
+constexpr char BadSign[] = "#d93030";
 } // namespace colour
 
 /// A style sheet that gives a label that colour.
