@@ -31,24 +31,28 @@ const DialogShape Shape = {"LimitsDialog",
 } // namespace
 
 LimitsDialog::LimitsDialog(const DiskSummary &disk, bool fahrenheit)
-    : m_strSerial(disk.serial), m_bFahrenheit(fahrenheit), m_Frame(this)
+    : m_strSerial(disk.serial), m_bFahrenheit(fahrenheit), m_Frame(this), m_pWarningCaption(new QLabel),
+      m_pShutDownCaption(new QLabel)
 {
     QVBoxLayout *column = m_Frame.build(Shape);
     const auto own = ownlimits::load(m_strSerial);
     const WatchSettings settings = WatchSettings::load();
-    m_pOwn = new QCheckBox(tr("Limits of its own"));
+    m_pOwn = new QCheckBox;
     m_pOwn->setFont(style::font(10));
     m_pOwn->setChecked(own.has_value());
     column->addWidget(m_pOwn);
-    m_pWarning = addLimit(column, tr("Warning Temperature"),
+    m_pWarning = addLimit(column, m_pWarningCaption,
                           own ? own->warning : disk.limits.warning.value_or(settings.warning));
-    m_pShutDown = addLimit(column, tr("Shutdown Temperature"),
+    m_pShutDown = addLimit(column, m_pShutDownCaption,
                            own ? own->shutDown : disk.limits.shutDown.value_or(settings.shutDown));
     for (QSpinBox *box : {m_pWarning, m_pShutDown}) {
         box->setEnabled(m_pOwn->isChecked());
         connect(m_pOwn, &QCheckBox::toggled, box, &QSpinBox::setEnabled);
     }
     m_Frame.dress();
+    for (QLabel *caption : {m_pWarningCaption, m_pShutDownCaption})
+        caption->setStyleSheet(style::GreyLabel);
+    m_Frame.keepTranslated([this] { retranslate(); });
     setStyleSheet(style::fieldSheet());
     setWindowFlag(Qt::WindowStaysOnTopHint);
     m_Frame.label("DiskLabel")->setText(disk.model);
@@ -58,11 +62,17 @@ LimitsDialog::LimitsDialog(const DiskSummary &disk, bool fahrenheit)
     connect(m_Frame.button(DialogButton::Last), &QPushButton::clicked, this, &QDialog::reject);
 }
 
-QSpinBox *LimitsDialog::addLimit(QVBoxLayout *column, const QString &caption, int celsius)
+void LimitsDialog::retranslate()
+{
+    m_pOwn->setText(tr("Limits of its own"));
+    m_pWarningCaption->setText(tr("Warning Temperature"));
+    m_pShutDownCaption->setText(tr("Shutdown Temperature"));
+}
+
+QSpinBox *LimitsDialog::addLimit(QVBoxLayout *column, QLabel *caption, int celsius)
 {
     auto *row = new QHBoxLayout;
     column->addLayout(row);
-    auto *label = new QLabel(caption);
     auto *box = new QSpinBox;
     box->setFixedHeight(30);
     box->setMinimumWidth(100);
@@ -71,8 +81,8 @@ QSpinBox *LimitsDialog::addLimit(QVBoxLayout *column, const QString &caption, in
                   displayTemperature(HottestCelsius, m_bFahrenheit));
     box->setSuffix(m_bFahrenheit ? QStringLiteral(" °F") : QStringLiteral(" °C"));
     box->setValue(displayTemperature(celsius, m_bFahrenheit));
-    box->setAccessibleName(caption);
-    row->addWidget(label);
+    caption->setBuddy(box);
+    row->addWidget(caption);
     row->addStretch();
     row->addWidget(box);
     return box;

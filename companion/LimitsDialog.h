@@ -7,6 +7,7 @@
 #include <QDialog>
 
 class QCheckBox;
+class QLabel;
 class QSpinBox;
 
 /// The limits of one disk, in the unit in which temperatures are shown. Accepted once they are stored.
@@ -21,13 +22,16 @@ public slots:
     void accept() override;
 
 private:
-    QSpinBox *addLimit(QVBoxLayout *column, const QString &caption, int celsius);
+    QSpinBox *addLimit(QVBoxLayout *column, QLabel *caption, int celsius);
+    void retranslate();
     int celsiusOf(const QSpinBox *box) const;
 
     const QString m_strSerial;
     const bool m_bFahrenheit;
     DialogFrame m_Frame;
     QCheckBox *m_pOwn = nullptr;
+    QLabel *m_pWarningCaption;
+    QLabel *m_pShutDownCaption;
     QSpinBox *m_pWarning = nullptr;
     QSpinBox *m_pShutDown = nullptr;
 };

@@ -249,6 +249,7 @@ void DialogFrame::styleButtons() const
     for (QPushButton *button : buttons) {
         style::styleButton(button, button == m_pMain ? style::ButtonRole::Main : style::ButtonRole::Light);
         button->setProperty(LeastWidth, button->minimumWidth());
+        button->setDefault(button == m_pMain); // Enter in a field presses it
     }
 }
 
