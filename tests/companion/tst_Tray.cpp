@@ -11,15 +11,21 @@
 #include "state/SettingsStore.h"
 #include "state/StartArgument.h"
 #include "tests/platform/DescribedFolder.h"
+#include "tests/support/Contrast.h"
 #include "tests/support/FakePlatform.h"
+#include "tests/support/ScreenReader.h"
+#include "ui/widgets/StartLook.h"
+#include "ui/widgets/Style.h"
 
 #include <QApplication>
 #include <QCheckBox>
 #include <QLabel>
+#include <QPainter>
 #include <QPushButton>
 #include <QSet>
 #include <QSignalSpy>
 #include <QSpinBox>
+#include <QTranslator>
 #include <QtTest>
 
 using traystate::Sign;
@@ -51,6 +57,42 @@ WatchView viewOf(std::vector<DiskSummary> disks, bool fahrenheit = false)
     return {std::move(disks), fahrenheit, QDateTime::currentDateTime()};
 }
 
+/// A language in capitals.
+class OtherLanguage : public QTranslator
+{
+    bool isEmpty() const override { return false; }
+    QString translate(const char *, const char *text, const char *, int) const override
+    {
+        return QString(text).toUpper();
+    }
+};
+
+/// The names that a screen reader tells as Tab goes once round the window, each time with the ring about the
+/// control; behind them how many controls Tab does not reach.
+QString namesByTab(QWidget *window)
+{
+    QStringList names;
+    QWidget *first = nullptr;
+    for (;;) {
+        QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
+        QWidget *at = window->focusWidget();
+        if (at == first)
+            break;
+        first = first ? first : at;
+        const auto *ring = window->findChild<QWidget *>("m_pFocusRing");
+        const bool isRinged = ring && ring->isVisible() &&
+                              ring->geometry().contains(at->mapTo(window, at->rect().center())) &&
+                              ring->height() < at->height() + 10;
+        names << QAccessible::queryAccessibleInterface(at)->text(QAccessible::Name) +
+                     QLatin1String(isRinged ? "" : " (no ring)");
+    }
+    int controls = 0;
+    for (const QWidget *each : window->findChildren<QWidget *>())
+        controls += int(each->isVisible() && each->isEnabled() &&
+                        (each->inherits("QAbstractButton") || each->inherits("QAbstractSpinBox")));
+    return (names << QString::number(controls - names.size())).join('|');
+}
+
 } // namespace
 
 /// The watch, the tray and the program together, on a described PC whose disk has three things to tell. What
@@ -60,9 +102,9 @@ class tst_Tray : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase() { startlook::install(); }
     void init()
     {
-        Q_INIT_RESOURCE(images);
         g_App.m_strApplicationFolder = "C:\\Halvane";
         g_App.m_strSettingsPath = "HKEY_LOCAL_MACHINE\\Velmora Halvane for Windows";
         g_App.m_bUse64BitTool = true;
@@ -249,6 +291,32 @@ private slots:
         }
     }
 
+    void signsStandOut()
+    {
+        const QColor ground(style::colour::Pale);
+        for (const auto &[state, heat] : {std::pair(DiskState::Asleep, Heat::InOrder),
+                                          {DiskState::NotSupported, Heat::InOrder},
+                                          {DiskState::Ok, Heat::InOrder},
+                                          {DiskState::Warning, Heat::Warm},
+                                          {DiskState::Failing, Heat::Hot}}) {
+            DiskSummary summary = disk(state, 50, 87, heat);
+            summary.day = {{1, 40}, {3000000, 40}};
+            for (const bool isDay : {false, true}) {
+                QImage picture(48, 48, QImage::Format_RGB32);
+                picture.fill(ground);
+                QPainter painter(&picture);
+                if (isDay)
+                    traypicture::drawDay(&painter, picture.rect(), summary, 3000000);
+                else
+                    traypicture::drawSign(&painter, picture.rect(), summary);
+                double most = 0;
+                for (int pixel = 0; pixel < 48 * 48; ++pixel)
+                    most = std::max(most, contrast(picture.pixelColor(pixel % 48, pixel / 48), ground));
+                QVERIFY2(most >= 3, qPrintable(QString("%1 %2 %3").arg(int(state)).arg(isDay).arg(most)));
+            }
+        }
+    }
+
     void rowsFollowTheDisks()
     {
         Flyout flyout;
@@ -263,6 +331,13 @@ private slots:
         rows[0]->setFocus();
         QTest::keyClick(rows[0], Qt::Key_Down);
         QCOMPARE(flyout.focusWidget(), rows[1]);
+        QSignalSpy wanted(rows[1], &FlyoutRow::openWanted);
+        QTest::mouseClick(rows[1]->findChild<QLabel *>("DiskName"), Qt::LeftButton);
+        for (const int key : {Qt::Key_Return, Qt::Key_Space})
+            QTest::keyClick(rows[1], Qt::Key(key));
+        auto *reader = QAccessible::queryAccessibleInterface(rows[1])->actionInterface();
+        reader->doAction(QAccessibleActionInterface::pressAction());
+        QTRY_COMPARE(wanted.count(), 4);
         const int high = flyout.height();
         flyout.take(viewOf({summary}));
         QVERIFY(flyout.height() < high);
@@ -298,6 +373,36 @@ private slots:
         QVERIFY(!ownlimits::load(summary.serial));
     }
 
+    void allByKeys()
+    {
+        Flyout flyout;
+        flyout.take(viewOf({disk(DiskState::Ok, 36, 97), disk(DiskState::Failing, 68, 13)}));
+        flyout.showAt(QRect());
+        QCOMPARE(namesByTab(&flyout), "Tarnwell TX2 500GB, In order · health 97 %, 36 °C|Tarnwell TX2 500GB, "
+                                      "Failing: back up this disk now, 68 °C|Pause alarms|Settings|Open|0");
+        flyout.hide();
+        const DiskSummary summary = disk(DiskState::Ok, 36, 97);
+        for (const int last : {Qt::Key_Escape, Qt::Key_Return}) {
+            LimitsDialog dialog(summary, false);
+            dialog.show();
+            QApplication::setActiveWindow(&dialog);
+            QTest::keyClick(dialog.focusWidget(), Qt::Key_Backtab);
+            QTest::keyClick(dialog.focusWidget(), Qt::Key_Space);
+            QCOMPARE(namesByTab(&dialog),
+                     "Warning Temperature|Shutdown Temperature|OK|Cancel|Limits of its own|0");
+            OtherLanguage language;
+            QApplication::installTranslator(&language);
+            QCoreApplication::processEvents();
+            QCOMPARE(namesByTab(&dialog),
+                     "SHUTDOWN TEMPERATURE|OK|CANCEL|LIMITS OF ITS OWN|WARNING TEMPERATURE|0");
+            QTest::keyClick(dialog.focusWidget(), Qt::Key_Up);
+            QTest::keyClick(dialog.focusWidget(), Qt::Key(last));
+            QVERIFY(!dialog.isVisible());
+            QCOMPARE(ownlimits::load(summary.serial).has_value(), last == Qt::Key_Return);
+        }
+        ownlimits::save(summary.serial, {});
+    }
+
     void shutDownReplacesTheWarning()
     {
         FakePlatform *machine = FakePlatform::install();
@@ -317,8 +422,11 @@ private slots:
             }
             return names;
         };
+        const ScreenReader reader;
         alarms.show(event, false);
         QCOMPARE(shown(), QStringList("SmartWarningDialog|Tarnwell TX2 500GB: 47 °C"));
+        QCOMPARE(reader.told.join('|'),
+                 "Hard Disk's temperature exceed the threshold value.|Tarnwell TX2 500GB: 47 °C");
         event.id = 4;
         event.kind = EventKind::TemperatureShutDown;
         event.value = 52;

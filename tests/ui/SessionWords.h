@@ -5,15 +5,12 @@
 #include "smart/AttributeHistory.h"
 #include "smart/SelfTestGlobals.h"
 #include "smart/SmartGlobals.h"
+#include "tests/support/ScreenReader.h"
 #include "tests/ui/WindowFixture.h"
 #include "ui/widgets/SmartChartView.h"
 
-#include <QAccessible>
 #include <QTreeWidget>
 #include <QtCharts/QLineSeries>
-#include <private/qguiapplication_p.h>
-#include <qpa/qplatformaccessibility.h>
-#include <qpa/qplatformintegration.h>
 
 /// The words of the sessions that need no more than the window. tests/data/ui/README.md tells them all.
 namespace sessionwords
@@ -74,32 +71,6 @@ inline const QMap<QString, QString *> variables{{"ApplicationFolder", &g_App.m_s
 /// Dialogs that are made when they are needed.
 inline const QStringList madeLater{"QShowUpdate", "QDownloadApp", "SmallMessageDlg", "Settings",
                                    "QFileDialog"};
-
-/// A screen reader for as long as it lives, and what the program announces to it. Only the private headers
-/// can tell Qt that there is one.
-class ScreenReader
-{
-public:
-    ScreenReader() : m_before(QAccessible::installUpdateHandler(listen))
-    {
-        told.clear();
-        QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(true);
-    }
-    ~ScreenReader()
-    {
-        QAccessible::installUpdateHandler(m_before);
-        QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(false);
-    }
-    static inline QStringList told;
-
-private:
-    static void listen(QAccessibleEvent *event)
-    {
-        if (event->type() == QAccessible::Alert)
-            told << event->accessibleInterface()->text(QAccessible::Name);
-    }
-    QAccessible::UpdateHandler m_before;
-};
 
 /// Those of the names that are not as `is` asks.
 template<typename Test>

@@ -4,6 +4,7 @@
 #include "state/GlobalApp.h"
 #include "state/Globals.h"
 #include "state/Scale.h"
+#include "tests/support/Contrast.h"
 #include "tests/ui/Named.h"
 #include "ui/screens/CloneDisk.h"
 #include "ui/screens/DiskPartition.h"
@@ -17,8 +18,6 @@
 #include <QMenu>
 #include <QTextLayout>
 #include <QtTest>
-
-#include <cmath>
 
 /// Pages and widgets without a window.
 class PagesTest : public QObject
@@ -106,16 +105,8 @@ private slots:
     /// All windows are light, whatever the system's colours are.
     void theColoursCanBeRead()
     {
-        const auto light = [](const QColor &colour) {
-            double sum = 0.05;
-            for (const auto &[part, weight] :
-                 {std::pair(colour.redF(), 0.2126), {colour.greenF(), 0.7152}, {colour.blueF(), 0.0722}})
-                sum += weight * (part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4));
-            return sum;
-        };
-        const auto verify = [&light](const QColor &sign, const QColor &ground, double contrast) {
-            const auto [darker, lighter] = std::minmax({light(sign), light(ground)});
-            QVERIFY2(lighter / darker >= contrast, qPrintable(sign.name() + " on " + ground.name()));
+        const auto verify = [](const QColor &sign, const QColor &ground, double least) {
+            QVERIFY2(contrast(sign, ground) >= least, qPrintable(sign.name() + " on " + ground.name()));
         };
         namespace colour = style::colour;
         for (const char *ground : {colour::White, colour::Pale, colour::Head, colour::Chosen}) {
@@ -132,8 +123,11 @@ private slots:
             verify(slice, Qt::white, 3);
         for (const quint32 cell : {blockmap::ProcessedColour, blockmap::WorkingColour, blockmap::BadColour})
             verify(QColor::fromRgba(cell), Qt::white, 3);
-        for (const char *sign : {colour::Sign, colour::GaugeSign, colour::EmptySign})
-            verify(sign, Qt::white, 3);
+        for (const char *sign : {colour::Sign, colour::GaugeSign, colour::EmptySign, colour::GoodSign,
+                                 colour::WarmSign, colour::BadSign}) {
+            verify(sign, colour::White, 3);
+            verify(sign, colour::Pale, 3);
+        }
         const QPalette palette = style::lightPalette();
         QVERIFY(palette.window().color().lightness() > 240 && palette.base().color().lightness() > 240);
         using Role = QPalette::ColorRole;
