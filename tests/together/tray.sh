@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
 # The companion in a real tray, on the demo PC: its icon is there and has the colour of the worst disk, the pointer on it
-# brings the tooltip, a click the flyout.
+# brings the tooltip, a click the flyout, the Menu key that of a disk.
 #
 # Usage: tray.sh FOLDER [PICTURES [DPI [LANGUAGE]]]     FOLDER has the executable; the pictures are kept in PICTURES. The
 # language goes by its number in the settings.
@@ -100,4 +100,8 @@ await "flyout" comes
 [ "$(xdotool getwindowname "$window")" = "Velmora Halvane" ] || fail "a click shows $(xdotool getwindowname "$window")"
 await "rows of the flyout" isPainted 100
 take flyout
-echo "the icon is there; the pointer brings the tooltip, a click the flyout"
+known=$(windows)
+xdotool key Tab Menu
+await "menu of a disk" comes
+take menu
+echo "the icon is there; the pointer brings the tooltip, a click the flyout, the Menu key its menu"
