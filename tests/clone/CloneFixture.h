@@ -7,8 +7,8 @@
 #include "state/GlobalApp.h"
 #include "state/Globals.h"
 #include "tests/support/FakePlatform.h"
+#include "tests/support/Files.h"
 
-#include <QRandomGenerator>
 #include <QtTest>
 
 constexpr qint64 BlockSectors = BlockReader::BlockSectors;
@@ -19,14 +19,6 @@ constexpr int Sectors = 40000; ///< of a disk if the size does not matter: a blo
 constexpr int BystanderSectors = 5000;
 using Set = QSet<qint64>; ///< of sectors
 using End = CloneOutcome::End;
-
-/// Bytes without repetition; the same seed gives the same bytes.
-inline QByteArray noise(qint64 sectors, quint32 seed)
-{
-    QVector<quint32> words(static_cast<int>(sectors * SectorSize / 4));
-    QRandomGenerator(seed).fillRange(words.data(), words.size());
-    return QByteArray(reinterpret_cast<const char *>(words.constData()), words.size() * 4);
-}
 
 inline Set range(qint64 first, qint64 count)
 {
