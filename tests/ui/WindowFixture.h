@@ -259,9 +259,7 @@ protected:
     /// Makes a file that plugs something in or pulls it out, and waits until the PC has acted on it.
     void touch(const QString &name) const
     {
-        const QString path = m_strState + QStringLiteral("/volumes-changed/") + name;
-        QVERIFY(writeFile(path, QByteArray()));
-        QTRY_VERIFY(!QFileInfo::exists(path));
+        m_pFolder->touch({name});
         QCoreApplication::processEvents();
     }
 
