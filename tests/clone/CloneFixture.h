@@ -114,6 +114,7 @@ protected:
         m_pc->onSleep = [this](quint32 milliseconds) {
             QCOMPARE(milliseconds, 4000u);
             m_prepared = m_pc->disks[Destination].bytes.replace(0, 4, "made");
+            m_pc->disks[Destination].bytes.detach(); // else the first write copies all, and takes long
         };
         m_disks.reset(); // it clears what the next one sets
         m_disks = std::make_unique<CloneDisks>(Source, sourceSectors, Destination);
