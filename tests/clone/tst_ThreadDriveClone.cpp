@@ -4,7 +4,6 @@
 #include "clone/RescueMap.h"
 #include "tests/clone/CloneFixture.h"
 #include "tests/support/ArrowRows.h"
-#include "tests/support/Files.h"
 
 #include <QElapsedTimer>
 
