@@ -21,11 +21,7 @@ class Program : public QProcess
 public:
     explicit Program(const DescribedFolder &folder)
     {
-        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        env.insert(QStringLiteral("HALVANE_PC"), folder.path());
-        env.insert(QStringLiteral("HALVANE_PC_STATE"), folder.state());
-        env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-        setProcessEnvironment(env);
+        setProcessEnvironment(folder.environment());
         setProgram(built(QStringLiteral("/../"), QStringLiteral("VelmoraHalvane")));
     }
 };

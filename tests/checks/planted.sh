@@ -103,9 +103,9 @@ finds 'tsort: state/State' platform/Seam.h '#include "state/State.h"\n'
 finds 'a widget' state/Widget.h '#include <QtWidgets/QLabel>\n'
 finds 'begin at the root' ui/Near.cpp '#include "Page.h"\n'
 finds 'a widget' inventory/Chart.cpp '#include <QtCharts/QChart>\n'
+finds 'what the companion does not know' companion/Up.cpp '#include "ui/window/MainWindow.h"\n'
 begins platforms
 finds 'smart/Os.cpp:1' smart/Os.cpp '#ifdef Q_OS_LINUX\n#endif\n'
-finds 'tests/Os.cpp:1' tests/Os.cpp '#if defined(_WIN32)\n#endif\n'
 begins format
 finds 'smart/Ugly.cpp:2' smart/Ugly.cpp "$licence\\nint  main( ) {return 0;}\n"
 finds 'smart/Free.cpp' smart/Free.cpp '// A line\n'
@@ -146,6 +146,8 @@ if begins translations; then
     finds "'Old': not in the code" $german "${translation/<message>/<message><source>Old</source><translation>Alt</translation></message><message>}\n"
     finds "'New': missing" ui/New.cpp 'auto c = QCoreApplication::translate("Page", "New");\n'
     finds 'no word of the reports' smart/ReportParser.cpp ''
+    finds 'LANG_PT.ts: missing' resources/translations/update \
+        "$(sed 's/languages=(/&[PT]=pt_PT /' "$root/resources/translations/update")\n"
 fi
 
 begins help

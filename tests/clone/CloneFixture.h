@@ -7,8 +7,8 @@
 #include "state/GlobalApp.h"
 #include "state/Globals.h"
 #include "tests/support/FakePlatform.h"
+#include "tests/support/Files.h"
 
-#include <QRandomGenerator>
 #include <QtTest>
 
 constexpr qint64 BlockSectors = BlockReader::BlockSectors;
@@ -19,14 +19,6 @@ constexpr int Sectors = 40000; ///< of a disk if the size does not matter: a blo
 constexpr int BystanderSectors = 5000;
 using Set = QSet<qint64>; ///< of sectors
 using End = CloneOutcome::End;
-
-/// Bytes without repetition; the same seed gives the same bytes.
-inline QByteArray noise(qint64 sectors, quint32 seed)
-{
-    QVector<quint32> words(static_cast<int>(sectors * SectorSize / 4));
-    QRandomGenerator(seed).fillRange(words.data(), words.size());
-    return QByteArray(reinterpret_cast<const char *>(words.constData()), words.size() * 4);
-}
 
 inline Set range(qint64 first, qint64 count)
 {
@@ -122,6 +114,7 @@ protected:
         m_pc->onSleep = [this](quint32 milliseconds) {
             QCOMPARE(milliseconds, 4000u);
             m_prepared = m_pc->disks[Destination].bytes.replace(0, 4, "made");
+            m_pc->disks[Destination].bytes.detach(); // else the first write copies all, and takes long
         };
         m_disks.reset(); // it clears what the next one sets
         m_disks = std::make_unique<CloneDisks>(Source, sourceSectors, Destination);

@@ -159,18 +159,13 @@ private slots:
         QVERIFY(text.count("\nhalvane_disk_") + text.count("\nhalvane_volume_") < 40 * disks);
 
         QVERIFY(Platform::current().deviceNotifier());
-        const auto remove = [&folder](const char *disk) {
-            const QString touched = folder.state() + "/volumes-changed/remove-" + disk;
-            QVERIFY(writeFile(touched, ""));
-            QTRY_VERIFY(!QFile::exists(touched));
-        };
-        remove("disk1");
+        folder.touch({"remove-disk1"});
         monitor.devicesChanged(true);
         monitor.round(Now.addSecs(60)); // a lost disk is looked for twice
         monitor.round(Now.addSecs(120));
         QCOMPARE(contentOf(file).count("\nhalvane_disk_up{"), 1);
         QVERIFY(!contentOf(file).contains("980 PRO"));
-        remove("disk0"); // of a table without any disk, as at a logon, nothing is believed
+        folder.touch({"remove-disk0"}); // of a table without any disk, as at a logon, nothing is believed
         const QByteArray before = contentOf(file);
         Monitor next(listener);
         next.round(Now.addSecs(180));

@@ -160,20 +160,15 @@ private slots:
         const QByteArray Other = R"(}, {"number": 1)";
         open("0 t40", "", Other);
         QVERIFY(m_pc->deviceNotifier());
-        const auto touch = [this](const char *name) {
-            const QString file = m_pc->stateFolder() + "/volumes-changed/" + name;
-            QFile(file).open(QIODevice::WriteOnly);
-            QTRY_VERIFY(!QFile::exists(file));
-        };
         roundAt(0, false);
-        touch("remove-disk0");
+        m_folder->touch({"remove-disk0"});
         roundAt(2, false); // no notice came, the tool finds no such disk
         roundAt(3, false);
         QCOMPARE(m_listener.told, QStringList("3 CRITICAL the disk is missing"));
         QVERIFY(m_monitor->disks().at(1).missing);
         m_monitor->markSeen(m_listener.last);
         QCOMPARE(m_monitor->disks().size(), size_t(1));
-        touch("arrive-disk0");
+        m_folder->touch({"arrive-disk0"});
         m_monitor->devicesChanged(false);
         roundAt(4, true);
         roundAt(5, true);
@@ -194,7 +189,7 @@ private slots:
             QVERIFY(m_pc->deviceNotifier());
             m_listener.told.clear();
             roundAt(6, true);
-            touch("remove-disk0");
+            m_folder->touch({"remove-disk0"});
             for (const int minute : {7, 8}) {
                 if (minute == noticed)
                     m_monitor->devicesChanged(true);

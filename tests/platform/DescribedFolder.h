@@ -6,7 +6,9 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QProcessEnvironment>
 #include <QTemporaryDir>
+#include <QtTest>
 
 /// A folder with the description of a PC, made by a test, and one for its state.
 class DescribedFolder
@@ -32,6 +34,26 @@ public:
         if (!pc)
             qFatal("%s", qPrintable(error));
         return pc;
+    }
+
+    /// Makes files that plug things in and out, and waits until the PC has acted on them.
+    void touch(const QStringList &names) const
+    {
+        const QDir changes(state() + QLatin1String("/volumes-changed"));
+        for (const QString &name : names)
+            QVERIFY(writeFile(changes.filePath(name), QByteArray()));
+        for (const QString &name : names)
+            QTRY_VERIFY(!changes.exists(name));
+    }
+
+    /// That of a program which shows its windows nowhere.
+    QProcessEnvironment environment() const
+    {
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert(QStringLiteral("HALVANE_PC"), path());
+        env.insert(QStringLiteral("HALVANE_PC_STATE"), state());
+        env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        return env;
     }
 
 private:

@@ -186,7 +186,7 @@ private slots:
         QElapsedTimer clock;
         clock.start();
         {
-            const linuxtools::Limits limits(300, [] { return true; });
+            const linuxtools::Limits limits(2000, [] { return true; });
             const linuxtools::Ended ended = linuxtools::run("sh", {"-c", "echo begun; exec sleep 60"});
             QVERIFY(limits.wereReached() && !ended.well);
             QCOMPARE(ended.output, QByteArray("begun\n"));

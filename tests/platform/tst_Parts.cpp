@@ -81,7 +81,7 @@ private slots:
     void slowToolWritesInPieces()
     {
         const auto slow = [](const QStringList &, const QByteArray &) { return QByteArray(1000, 'x'); };
-        m_interpreter.addTool("slow", slow, 400);
+        m_interpreter.addTool("slow", slow, 1500);
         QFile first(m_folder->filePath("out.txt"));
         const std::unique_ptr<QThread> process(
             QThread::create([this] { runLine("cmd.exe /c slow >> %1/out.txt "); }));

@@ -201,17 +201,8 @@ private:
     QString touched(const QStringList &names)
     {
         m_heard.clear();
-        touch(names);
+        m_folder.touch(names);
         return m_heard + ' ' + m_pc->GetLogicalDriveStringsW().join(QString()).remove(":\\") + '\n';
-    }
-
-    /// Makes the files that plug things in and out, and waits until the PC has removed them.
-    void touch(const QStringList &names)
-    {
-        for (const QString &name : names)
-            QVERIFY(writeFile(place(name), {}));
-        for (const QString &name : names)
-            QTRY_VERIFY(!QFile::exists(place(name)));
     }
 
     const DescribedFolder m_folder;

@@ -202,6 +202,7 @@ private slots:
     /// Sectors are found twice at the ends of chunks, and one behind the end of the disk.
     void saved()
     {
+        const bool hasTool = !QStandardPaths::findExecutable("ddrescuelog").isEmpty();
         for (const auto &[end, scanned, told, at] :
              {std::tuple(ScanRecord::End::Complete, 3000, "3000 of 3000 sectors\nResult: Scan Completed.\n",
                          "\n0x00000000     +  "),
@@ -228,8 +229,8 @@ private slots:
             QCOMPARE(contentOf(list), expected);
             QVERIFY(contentOf(map).contains(at));
 
-            if (QStandardPaths::findExecutable("ddrescuelog").isEmpty())
-                QSKIP("ddrescuelog is not installed");
+            if (!hasTool)
+                continue;
             const auto tool = [&map](const char *option) {
                 QProcess process;
                 process.start("ddrescuelog", {option, map});
@@ -247,6 +248,8 @@ private slots:
             QCOMPARE(tool("-l?"), untried.trimmed());
             QCOMPARE(QProcess::execute("ddrescuelog", {"-t", map}), 0);
         }
+        if (!hasTool)
+            QSKIP("ddrescuelog is not installed");
     }
 
     void savable()
@@ -419,16 +422,15 @@ private slots:
         QuickDisk *const quick = installQuickDisk(total);
         const SelectedDisk disk(3, total);
         QScanDriveThread thread;
-        qlonglong heard = 0;
+        qlonglong signalled = 0; // the last count comes twice
         qlonglong furthest = 0;
         QEventLoop loop;
         connect(
             &thread, &QScanDriveThread::TotalBlockCount, &thread, [quick] { quick->refuses = true; },
             Qt::DirectConnection);
         connect(&thread, &QScanDriveThread::ExactBadSectorCount, &loop, [&](qlonglong count) {
-            QVERIFY(count == heard + 1 || count == total + 6);
-            heard = count;
-            furthest = std::max(furthest, g_BadSectors.count() - heard);
+            QCOMPARE(count, std::min(++signalled, total + 6));
+            furthest = std::max(furthest, g_BadSectors.count() - count);
             if (count % 64 == 0)
                 QThread::usleep(100);
         });
@@ -439,7 +441,7 @@ private slots:
         QVERIFY(thread.wait(30000));
         // Each chunk finds its own sectors and the one behind it. At most three chunks are ahead of the
         // count: one told, one on its way, one just found.
-        QCOMPARE(heard, total + 6);
+        QCOMPARE(signalled, total + 7);
         QVERIFY2(furthest <= 3 * (Chunk + 1), qPrintable(QString::number(furthest)));
     }
 

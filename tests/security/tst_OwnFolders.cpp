@@ -276,9 +276,8 @@ private slots:
     {
         DescribedFolder folder;
         folder.add("pc.json", R"({"pauses": false})");
-        qputenv("HALVANE_PC", folder.path().toUtf8());
-        qputenv("HALVANE_PC_STATE", folder.state().toUtf8());
         QProcess program;
+        program.setProcessEnvironment(folder.environment());
         QCOMPARE(mkfifo(path("foreign/smartctl64Bit.exe"), 0666), 0);
         program.setWorkingDirectory(text("foreign"));
         program.start(HALVANE_BIN "/VelmoraHalvane", QStringList());

@@ -3,7 +3,9 @@
 
 #include <QByteArray>
 #include <QFile>
+#include <QRandomGenerator>
 #include <QString>
+#include <QVector>
 
 /// Whole files and their contents, for tests.
 
@@ -28,6 +30,14 @@ inline QByteArray pattern(int sectors)
     for (int i = 0; i < bytes.size(); ++i)
         bytes[i] = static_cast<char>((i * 31 + i / 512) & 0xFF);
     return bytes;
+}
+
+/// Bytes without repetition; the same seed gives the same bytes.
+inline QByteArray noise(qint64 sectors, quint32 seed)
+{
+    QVector<quint32> words(static_cast<int>(sectors * 512 / 4));
+    QRandomGenerator(seed).fillRange(words.data(), words.size());
+    return QByteArray(reinterpret_cast<const char *>(words.constData()), words.size() * 4);
 }
 
 /// As WMIC writes: little-endian behind a byte order mark.

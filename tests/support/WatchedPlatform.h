@@ -17,7 +17,6 @@ public:
     std::function<void(quint32 milliseconds)> onSleep;
     std::function<void()> onCommand;
     std::function<void()> onRead;
-    std::function<bool()> onFlush; ///< behind the flush; returns false to make it fail
 
     void Sleep(quint32 milliseconds) override
     {
@@ -35,10 +34,6 @@ public:
         if (onRead)
             onRead();
         return LinuxPlatform::ReadFile(handle, buffer, bytes, moved);
-    }
-    bool FlushFileBuffers(RawHandle handle) override
-    {
-        return LinuxPlatform::FlushFileBuffers(handle) && (!onFlush || onFlush());
     }
 };
 

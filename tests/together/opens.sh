@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
 # Traces the companion on a loop device of its own: no block device is ever opened for writing, volumes are
-# not looked into, and a disk without SMART is told as such.
+# looked into by a collection only, and a disk without SMART is told as such.
 #
 # Usage: opens.sh FOLDER [SECONDS]     FOLDER has the executable; the resident one runs for so long, 5 s by default.
 set -euo pipefail
@@ -50,13 +50,14 @@ state=$(jq -r '.disks[] | .state' "$scratch/told")
 [ "$state $code" = "notSupported 3" ] || { echo "a disk without SMART is told as: $state, code $code"; exit 1; }
 "$1/VelmoraSMART" --once --metrics > "$scratch/metrics" || true # the code tells of the disks
 grep -q '^halvane_volume_size_bytes' "$scratch/metrics" || { echo "the metrics tell of no volume"; exit 1; }
+traced collect "$1/VelmoraSMART" --collect "$scratch/collected" > "$scratch/told" || { echo "it cannot collect"; exit 1; }
 code=0
 traced resident timeout "${2:-5}" "$1/VelmoraSMART" Schedular || code=$?
 [ $code = 124 ] || { echo "the resident one ended with $code"; exit 1; }
 
-for name in once resident; do
+for name in once collect resident; do
     grep -q "\"$HALVANE_DISKS\"" "$scratch/$name" || { echo "$name: the disk was not looked at"; exit 1; }
-    ! grep -q 'execve("[^"]*/blkid"' "$scratch/$name" || { echo "$name: a volume was looked into"; exit 1; }
+    [ $name = collect ] || ! grep -q 'execve("[^"]*/blkid"' "$scratch/$name" || { echo "$name: a volume was looked into"; exit 1; }
     opened=0
     while read -r path flags; do
         [ -b "$path" ] || continue
@@ -64,5 +65,6 @@ for name in once resident; do
         [[ $flags != *O_WRONLY* && $flags != *O_RDWR* && $flags != creat* ]] ||
             { echo "$name: $path is opened with $flags"; exit 1; }
     done < <(sed -nE 's/^[0-9]+ +(open|openat|openat2|creat)\(([A-Z_]+, )?"([^"]*)", ?(.*)$/\3 \1 \4/p' "$scratch/$name")
+    [ $name != collect ] || [ $opened -gt 0 ] || { echo "$name: nothing was read"; exit 1; }
     echo "$name: opens a block device $opened times, never for writing"
 done

@@ -102,17 +102,17 @@ protected:
             if (head.startsWith(QLatin1String("text ")))
                 addReport(head.section(' ', 1, 1).toUtf8(), described(head.section(' ', 1, 1)));
         }
-        QJsonObject keys = QJsonDocument::fromJson(described(pc.section(' ', 0, 0))).object();
+        const QJsonObject own = QJsonDocument::fromJson(described(pc.section(' ', 0, 0))).object();
         const QJsonObject more = QJsonDocument::fromJson(pc.section(' ', 1).toUtf8()).object();
-        if (keys.isEmpty() || more.isEmpty() != pc.section(' ', 1).isEmpty())
+        if (own.isEmpty() || more.isEmpty() != pc.section(' ', 1).isEmpty())
             qFatal("no PC: %s", qPrintable(pc));
-        for (auto key = more.begin(); key != more.end(); ++key)
-            keys[key.key()] = key.value();
-        QJsonObject settings{{"TempValue", "C"}, {"FirstTimeLaunch", 1}};
-        const QJsonObject own = keys["settings"].toObject();
-        for (auto key = own.begin(); key != own.end(); ++key)
-            settings[key.key()] = key.value();
-        keys["settings"] = settings;
+        const auto with = [](QJsonObject keys, const QJsonObject &further) {
+            for (auto key = further.begin(); key != further.end(); ++key)
+                keys[key.key()] = key.value();
+            return keys;
+        };
+        QJsonObject keys = with(with({{"toolMilliseconds", 8}}, own), more);
+        keys["settings"] = with({{"TempValue", "C"}, {"FirstTimeLaunch", 1}}, keys["settings"].toObject());
         keys["pauses"] = false;
         startPc(QJsonDocument(keys).toJson(), std::move(clock));
     }
@@ -129,8 +129,8 @@ protected:
     static QByteArray pcOf(const QByteArray &disks, const QByteArray &settings = QByteArray(),
                            const QByteArray &more = QByteArray())
     {
-        return R"({"pauses": false, "settings": {"TempValue": "C", "FirstTimeLaunch": 1)" + settings +
-               R"(}, "disks": [)" + disks + "]" + more + "}";
+        return R"({"pauses": false, "toolMilliseconds": 8, "settings": {"TempValue": "C", "FirstTimeLaunch": 1)" +
+               settings + R"(}, "disks": [)" + disks + "]" + more + "}";
     }
 
     /// Installs the PC of `json` and loads its disks. Its reports have to exist already.
@@ -260,9 +260,7 @@ protected:
     /// Makes a file that plugs something in or pulls it out, and waits until the PC has acted on it.
     void touch(const QString &name) const
     {
-        const QString path = m_strState + QStringLiteral("/volumes-changed/") + name;
-        QVERIFY(writeFile(path, QByteArray()));
-        QTRY_VERIFY(!QFileInfo::exists(path));
+        m_pFolder->touch({name});
         QCoreApplication::processEvents();
     }
 

@@ -5,8 +5,6 @@
 #include "ui/screens/CloneDisk.h"
 #include "ui/widgets/QRoundProgressBar.h"
 
-#include <QRandomGenerator>
-
 namespace
 {
 
@@ -225,24 +223,6 @@ private slots:
         QVERIFY(!buttonOf(box, "SaveButton")->isVisible());
     }
 
-    void startsAndStopsManyTimes()
-    {
-        for (int round = 0; round < 3; ++round) {
-            start(0, 1);
-            QVERIFY(locked());
-            QTest::qWait(round * 7 % 60);
-            m_pWindow->OnStop();
-            m_pWindow->OnStopConfirm();
-            m_pWindow->OnRefresh();
-            waitForEnd();
-            QVERIFY(outcome().contains(QLatin1String("|Cloning aborted.|")));
-            answer<InfoDialogClass>("OkButton");
-            QVERIFY(selecting());
-            m_pWindow->OnRefresh();
-            waitForRest();
-        }
-    }
-
 private:
     static QString imageFile(int disk)
     {
@@ -250,13 +230,9 @@ private:
     }
     static QByteArray image(int disk) { return contentOf(imageFile(disk)); }
 
-    /// Fills a disk with noise, which is another one on each disk.
     static void fill(int disk, int sectors)
     {
-        QVector<quint32> words(sectors * 128);
-        QRandomGenerator(static_cast<quint32>(disk)).fillRange(words.data(), words.size());
-        QVERIFY(writeFile(imageFile(disk),
-                          QByteArray(reinterpret_cast<const char *>(words.constData()), words.size() * 4)));
+        QVERIFY(writeFile(imageFile(disk), noise(sectors, quint32(disk))));
     }
 
     CloneDisk *page() const { return child<CloneDisk>(); }

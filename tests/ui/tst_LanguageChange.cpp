@@ -136,18 +136,19 @@ private:
         waitForRest();
     }
 
-    /// The look of the window when its layout does not change any more.
-    Look settledLook() const
+    /// The look of a window when its layout does not change any more.
+    static Look settledLook(const QWidget *window)
     {
         constexpr int RestingRounds = 3;
-        constexpr int MostRounds = 400;
         Look look;
-        for (int round = 0, resting = 0; round < MostRounds && resting < RestingRounds; ++round) {
-            QTest::qWait(5);
-            const Look now = lookOf(m_pWindow.get());
-            resting = now == look ? resting + 1 : 0;
-            look = now;
-        }
+        int resting = 0;
+        const auto rests = [&] {
+            const Look before = std::exchange(look, lookOf(window));
+            resting = look == before ? resting + 1 : 0;
+            return resting == RestingRounds;
+        };
+        if (!QTest::qWaitFor(rests))
+            QTest::qFail("the layout does not come to rest", __FILE__, __LINE__);
         return look;
     }
 
@@ -159,16 +160,15 @@ private:
             for (auto entry = look.cbegin(); entry != look.cend(); ++entry)
                 all.insert(screen + entry.key(), entry.value());
         };
-        add(QStringLiteral("as it stands"), settledLook());
+        add(QStringLiteral("as it stands"), settledLook(m_pWindow.get()));
         for (const char *button : {"SmartStatusButton", "DiskPartitionButton", "ScanDiskButton",
                                    "CloneDiskButton", "DiskStatusButton"}) {
             goTo(button);
-            add(QLatin1String(button), settledLook());
+            add(QLatin1String(button), settledLook(m_pWindow.get()));
         }
         m_pWindow->OnShowSettings();
         auto *settings = dialog<Settings>();
-        QTest::qWait(50);
-        add(QStringLiteral("Settings"), lookOf(settings));
+        add(QStringLiteral("Settings"), settledLook(settings));
         settings->hide();
         return all;
     }

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/ui/WindowFixture.h"
 
-/// No scan and no self-test affects the next one, however it ends, and the window can be deleted meanwhile.
+/// No scan, self-test or clone affects the next one, however it ends, and the window can be deleted
+/// meanwhile.
 class tst_OverAndOver : public QObject, private WindowFixture
 {
     Q_OBJECT
@@ -78,6 +79,32 @@ private slots:
             QVERIFY(shown("frame_2") && !shown("frame_3") && enabled("DriveCombobox"));
         }
         start("radioButton_2");
+    }
+
+    void clones()
+    {
+        m_sections = sectionsOf(QStringLiteral("Clone.txt"));
+        openPc(QStringLiteral("two"));
+        const auto start = [this] {
+            choose(1, QStringLiteral("DestinationComboBox"));
+            click("CloneButton");
+            answer<CloneWarning>("StartButton");
+        };
+        press("CloneDiskButton");
+        for (int round = 0; round < rounds(); ++round) {
+            start();
+            QVERIFY(shellIs(false) && shown("StopButton") && shown("m_pRoundProgressBar"));
+            QTest::qWait(round * 7 % 60);
+            m_pWindow->OnStop();
+            m_pWindow->OnStopConfirm();
+            m_pWindow->OnRefresh();
+            QTRY_VERIFY_WITH_TIMEOUT(outcome().contains(QLatin1String("|Cloning aborted.|")), 20000);
+            answer<InfoDialogClass>("OkButton");
+            QVERIFY(!g_bJobRunning && shellIs(true) && shown("CloneButton") && !shown("m_pRoundProgressBar"));
+            m_pWindow->OnRefresh();
+            waitForRest();
+        }
+        start();
     }
 };
 

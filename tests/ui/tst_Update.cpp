@@ -123,7 +123,7 @@ private slots:
     void finishedDownloadStartsTheInstaller()
     {
         const QByteArray installer(InstallerBytes, 'i');
-        const WebFolder web({{Versions, {"12.0.0.0"}}, {Installer, {installer, -1, 0, 1500}}});
+        const WebFolder web({{Versions, {"12.0.0.0"}}, {Installer, {installer, -1, 0, 2500}}});
         startWindow(web.link());
         const QString stale = loaded("from-before/x");
         QVERIFY(QDir().mkpath(stale));
@@ -142,7 +142,7 @@ private slots:
             QTRY_VERIFY(fits(download, "CopiedLabel", "^1\\.(4[89]|50) MB copied\\) $"));
             QVERIFY(bar->value() > InstallerBytes / 2 - 32768);
             QCOMPARE(labelOf(download, "InfoLabel")->text(), QStringLiteral("Downloading under progress..."));
-            QVERIFY(fits(download, "TimeLabel", "^Time Elapsed: [01] sec $"));
+            QTRY_COMPARE(labelOf(download, "TimeLabel")->text(), QStringLiteral("Time Elapsed: 1 sec "));
         });
         QVERIFY(programEnds());
         QCOMPARE(logLines("opened.log").last(), '\t' + loaded(Installer).toUtf8() + '\t');
