@@ -53,15 +53,17 @@ void changeLanguage(Walk &walk, const QString &language)
 
 StepList languageSteps(Walk &walk)
 {
-    static const Chapter shownAgain[] = {{QStringLiteral("about"), aboutSteps},
-                                         {QStringLiteral("jobs"), jobSteps, true},
+    // The jobs end on a disk with SMART data, which the pages then show.
+    static const Chapter shownAgain[] = {{QStringLiteral("jobs"), jobSteps, true},
+                                         {QStringLiteral("pages"), [](Walk &) { return pageSteps(); }},
+                                         {QStringLiteral("about"), aboutSteps},
                                          {QStringLiteral("companion"), companionSteps, true}};
     StepList steps;
     for (const QJsonValue &value : walk.plan().wishes[QStringLiteral("languages")].toArray()) {
         const QString language = value.toString();
         steps.push_back({QStringLiteral("settings in ") + language,
                          [language](Walk &person) { changeLanguage(person, language); }});
-        StepList more = pageSteps();
+        StepList more;
         for (const Chapter &chapter : shownAgain) {
             if (chapter.onWish && !walk.plan().wants(chapter.name))
                 continue;
