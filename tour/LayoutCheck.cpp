@@ -17,6 +17,7 @@
 #include <QTextDocument>
 
 #include <algorithm>
+#include <cmath>
 #include <optional>
 
 namespace
@@ -178,16 +179,19 @@ std::optional<Cut> buttonCut(const QAbstractButton *button)
 
 QSize sizeOf(const QWidget *widget, const QString &text)
 {
-    return widget->fontMetrics().size(Qt::TextSingleLine, withoutTrailingBlanks(text));
+    const qreal width = QFontMetricsF(widget->font()).horizontalAdvance(text);
+    return {static_cast<int>(std::ceil(width)), widget->fontMetrics().height()};
 }
 
+/// It takes dots where the whole text does not fit between the margins.
 std::optional<Cut> comboCut(const QComboBox *combo)
 {
     QStyleOptionComboBox option;
     option.initFrom(combo);
-    const QRect area =
+    const QRect field =
         combo->style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, combo);
-    return lineCut(combo, combo->currentText(), area, sizeOf(combo, combo->currentText()));
+    return lineCut(combo, combo->currentText(), field.adjusted(1, 0, -1, 0),
+                   sizeOf(combo, combo->currentText()));
 }
 
 std::optional<Cut> spinCut(const QAbstractSpinBox *box)
@@ -214,8 +218,13 @@ std::optional<Cut> sectionCut(const QHeaderView *header, int section)
     option.rect =
         QRect(header->sectionViewportPosition(section), 0, header->sectionSize(section), header->height());
     const QString text = headerText(header, section);
-    const QRect area = header->style()->subElementRect(QStyle::SE_HeaderLabel, &option, header);
-    return lineCut(header, text, area, sizeOf(header, text));
+    QRect area = header->style()->subElementRect(QStyle::SE_HeaderLabel, &option, header);
+    // For its dots a header leaves these margins, and counts blanks at the end as letters.
+    const bool dots = header->textElideMode() != Qt::ElideNone;
+    if (dots)
+        area.setWidth(area.width() -
+                      2 * header->style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, header));
+    return lineCut(header, text, area, sizeOf(header, dots ? text : withoutTrailingBlanks(text)));
 }
 
 std::optional<Cut> cutOf(const QWidget *widget)
