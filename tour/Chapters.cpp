@@ -15,6 +15,8 @@ const std::vector<Chapter> &chapters()
         {QStringLiteral("update"), updateSteps, true},
         {QStringLiteral("about"), aboutSteps, true},
         {QStringLiteral("languages"), languageSteps, true},
+        // The chapter of the languages does them in each.
+        {QStringLiteral("jobs"), [](Walk &) { return StepList(); }, true},
         {QStringLiteral("companion"), companionSteps, true},
         {QStringLiteral("close"), closeSteps},
     };

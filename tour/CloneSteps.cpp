@@ -133,12 +133,14 @@ void seeToEnd(Walk &walk, const Wish &wish)
     walk.answer(ResultClass, QStringLiteral("OkButton"));
 }
 
-void stop(Walk &walk, const Wish &wish)
+void seeStopped(Walk &walk, const Wish &wish, bool recordRunning)
 {
     const Expectation result(&walk, ResultClass);
     const Expectation question(&walk, StopQuestionClass);
     startClone(walk, wish);
     if (waitForPercent(walk, 1.0)) {
+        if (recordRunning)
+            walk.record(QStringLiteral("clone-running"));
         walk.press(MainWindowClass, {QStringLiteral("StopButton")});
         walk.answer(StopQuestionClass, QStringLiteral("YesButton"));
         walk.waitForWindow(ResultClass);
@@ -170,7 +172,7 @@ StepList cloneSteps(Walk &walk)
         {"clone refused, same disk", seeSameDisk},
         {"clone refused, too small", seeSmallTarget},
         {"clone-finished", seeToEnd},
-        {"clone-stopped", stop},
+        {"clone-stopped", [](Walk &person, const Wish &wish) { seeStopped(person, wish, false); }},
     };
     StepList steps;
     const QJsonArray wishes = walk.plan().wishes[QStringLiteral("clone")].toArray();
@@ -183,4 +185,14 @@ StepList cloneSteps(Walk &walk)
         steps.push_back({wish.name("end of the clone"), leave});
     }
     return steps;
+}
+
+StepList stoppedCloneSteps(int source, int target)
+{
+    const Wish wish{source, target};
+    return {{wish.name("clone without a target"), [wish](Walk &walk) { seeNoTarget(walk, wish); }},
+            {wish.name("clone-stopped"), [wish](Walk &walk) {
+                 seeStopped(walk, wish, true);
+                 leave(walk);
+             }}};
 }

@@ -64,10 +64,14 @@ private:
     std::vector<WatchEvent> m_told;
 };
 
-/// The windows of the companion, with what it knows of the PC after a day. They live on the GUI thread.
-struct Parts {
+/// What the companion knows of the PC after a day.
+struct Day {
     Events events;
     WatchView view;
+};
+
+/// The windows of the companion. They live on the GUI thread.
+struct Parts {
     std::unique_ptr<TrayIcons> icons = std::make_unique<TrayIcons>();
     std::unique_ptr<Flyout> flyout = std::make_unique<Flyout>();
     std::unique_ptr<Alarms> alarms = std::make_unique<Alarms>();
@@ -93,17 +97,29 @@ void addStates(std::vector<DiskSummary> *disks)
     disks->push_back(disk);
 }
 
+/// GUI thread. Watched once only: a second day would begin before the end of the first one, and the history
+/// of the disks would go back and forth.
+const Day &day()
+{
+    static std::unique_ptr<Day> watched;
+    if (!watched) {
+        watched = std::make_unique<Day>();
+        Monitor monitor(watched->events);
+        const QDateTime now = Platform::current().Now();
+        for (int hour = Hours; hour >= 0; --hour)
+            monitor.round(now.addSecs(-3600 * hour));
+        watched->view = {monitor.disks(), monitor.settings().fahrenheit, now};
+        addStates(&watched->view.disks);
+    }
+    return *watched;
+}
+
 void watchADay(Walk &walk)
 {
     walk.waitIdle();
     walk.program().ask([] {
+        day();
         parts() = std::make_unique<Parts>();
-        Monitor monitor(parts()->events);
-        const QDateTime now = Platform::current().Now();
-        for (int hour = Hours; hour >= 0; --hour)
-            monitor.round(now.addSecs(-3600 * hour));
-        parts()->view = {monitor.disks(), monitor.settings().fahrenheit, now};
-        addStates(&parts()->view.disks);
     });
 }
 
@@ -130,7 +146,7 @@ void seeFlyout(Walk &walk)
     see(
         walk, QStringLiteral("flyout"), QStringLiteral("Flyout"),
         [] {
-            parts()->flyout->take(parts()->view);
+            parts()->flyout->take(day().view);
             parts()->flyout->showAt(QRect());
         },
         [] { parts()->flyout->hide(); });
@@ -141,9 +157,9 @@ void seeLimits(Walk &walk)
     see(
         walk, QStringLiteral("dialog:LimitsDialog"), QStringLiteral("LimitsDialog"),
         [] {
-            const std::vector<DiskSummary> &disks = parts()->view.disks;
+            const std::vector<DiskSummary> &disks = day().view.disks;
             parts()->limits = std::make_unique<LimitsDialog>(disks.empty() ? DiskSummary() : disks.front(),
-                                                             parts()->view.fahrenheit);
+                                                             day().view.fahrenheit);
             parts()->limits->show();
         },
         [] { parts()->limits->reject(); });
@@ -155,10 +171,10 @@ void seeAlarm(Walk &walk, EventKind kind, const QString &windowClass)
     const Expectation window(&walk, windowClass);
     const bool any = walk.program().ask([kind] {
         bool shown = false;
-        for (const WatchEvent &event : parts()->events.told()) {
+        for (const WatchEvent &event : day().events.told()) {
             if (event.kind != kind)
                 continue;
-            parts()->alarms->show(event, parts()->view.fahrenheit);
+            parts()->alarms->show(event, day().view.fahrenheit);
             shown = true;
         }
         return shown;

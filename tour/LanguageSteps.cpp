@@ -1,9 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "state/Languages.h"
 #include "tour/Steps.h"
 #include "tour/Walk.h"
 #include "tour/Windows.h"
 
 #include <QJsonArray>
+#include <QVariant>
+#include <QWidget>
+
+#include <utility>
 
 namespace
 {
@@ -28,26 +33,44 @@ void chooseLanguage(Walk &walk, const QString &language)
     walk.waitForNoWindow(SettingsClass);
 }
 
+/// A language whose translation is missing would show English, and pass.
+void changeLanguage(Walk &walk, const QString &language)
+{
+    const auto caption = [] {
+        QWidget *window = windows::byClass(QStringLiteral("MainWindow"));
+        const QWidget *entry = windows::button(window, {QStringLiteral("ScanDiskButton")});
+        return std::make_pair(languages::current().type,
+                              entry ? entry->property("text").toString() : QString());
+    };
+    const auto before = walk.program().ask(caption);
+    chooseLanguage(walk, language);
+    const auto now = walk.program().ask(caption);
+    if (now.first != before.first && now.second == before.second)
+        throw StepFailed(QStringLiteral("the texts are as before"));
+}
+
 } // namespace
 
 StepList languageSteps(Walk &walk)
 {
+    // The jobs end on a disk with SMART data, which the pages then show.
+    static const Chapter shownAgain[] = {{QStringLiteral("jobs"), jobSteps, true},
+                                         {QStringLiteral("pages"), [](Walk &) { return pageSteps(); }},
+                                         {QStringLiteral("about"), aboutSteps},
+                                         {QStringLiteral("companion"), companionSteps, true}};
     StepList steps;
     for (const QJsonValue &value : walk.plan().wishes[QStringLiteral("languages")].toArray()) {
         const QString language = value.toString();
         steps.push_back({QStringLiteral("settings in ") + language,
-                         [language](Walk &person) { chooseLanguage(person, language); }});
-        for (Step step : pageSteps()) {
-            step.name += QStringLiteral(" in ") + language;
-            steps.push_back(step);
+                         [language](Walk &person) { changeLanguage(person, language); }});
+        StepList more;
+        for (const Chapter &chapter : shownAgain) {
+            if (chapter.onWish && !walk.plan().wants(chapter.name))
+                continue;
+            for (const Step &step : chapter.steps(walk))
+                more.push_back(step);
         }
-        for (Step step : aboutSteps(walk)) {
-            step.name += QStringLiteral(" in ") + language;
-            steps.push_back(step);
-        }
-        if (!walk.plan().wishes[QStringLiteral("companion")].toBool())
-            continue;
-        for (Step step : companionSteps(walk)) {
+        for (Step &step : more) {
             step.name += QStringLiteral(" in ") + language;
             steps.push_back(step);
         }

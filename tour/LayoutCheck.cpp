@@ -5,14 +5,19 @@
 
 #include <QAbstractButton>
 #include <QAbstractScrollArea>
+#include <QAbstractSpinBox>
+#include <QComboBox>
 #include <QFontMetrics>
+#include <QHeaderView>
 #include <QJsonObject>
 #include <QLabel>
+#include <QLineEdit>
 #include <QStyle>
 #include <QStyleOptionButton>
 #include <QTextDocument>
 
 #include <algorithm>
+#include <cmath>
 #include <optional>
 
 namespace
@@ -141,6 +146,14 @@ std::optional<Cut> labelCut(const QLabel *label)
     return Cut{need, have};
 }
 
+/// A text on one line in the middle of `area`, for which `need` was measured.
+std::optional<Cut> lineCut(const QWidget *widget, const QString &text, const QRect &area, const QSize &need)
+{
+    if (need.width() <= area.width() && inkFits(widget, text, area, Qt::AlignVCenter))
+        return std::nullopt;
+    return Cut{need, area.size()};
+}
+
 std::optional<Cut> buttonCut(const QAbstractButton *button)
 {
     QStyleOptionButton option;
@@ -155,17 +168,63 @@ std::optional<Cut> buttonCut(const QAbstractButton *button)
     if (radio || check)
         element = radio ? QStyle::SE_RadioButtonContents : QStyle::SE_CheckBoxContents;
     const QRect area = button->style()->subElementRect(element, &option, button);
-    const QSize have = area.size();
 
     constexpr int IconGap = 4;
     const QFontMetrics metrics = button->fontMetrics();
     QSize need = metrics.size(Qt::TextShowMnemonic, withoutTrailingBlanks(button->text()));
     const int iconWidth = button->icon().isNull() ? 0 : button->iconSize().width() + IconGap;
     need.setWidth(need.width() + iconWidth);
-    const bool high = !inkFits(button, button->text(), area, Qt::AlignVCenter);
-    if (need.width() <= have.width() && !high)
-        return std::nullopt;
-    return Cut{need, have};
+    return lineCut(button, button->text(), area, need);
+}
+
+QSize sizeOf(const QWidget *widget, const QString &text)
+{
+    const qreal width = QFontMetricsF(widget->font()).horizontalAdvance(text);
+    return {static_cast<int>(std::ceil(width)), widget->fontMetrics().height()};
+}
+
+/// It takes dots where the whole text does not fit between the margins.
+std::optional<Cut> comboCut(const QComboBox *combo)
+{
+    QStyleOptionComboBox option;
+    option.initFrom(combo);
+    const QRect field =
+        combo->style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, combo);
+    return lineCut(combo, combo->currentText(), field.adjusted(1, 0, -1, 0),
+                   sizeOf(combo, combo->currentText()));
+}
+
+std::optional<Cut> spinCut(const QAbstractSpinBox *box)
+{
+    const auto *field = box->findChild<QLineEdit *>();
+    QStyleOptionFrame option;
+    option.initFrom(field);
+    constexpr int CursorMargin = 2; // on each side of a field's text
+    const QRect area = field->style()
+                           ->subElementRect(QStyle::SE_LineEditContents, &option, field)
+                           .adjusted(CursorMargin, 0, -CursorMargin, 0);
+    return lineCut(field, box->text(), area, sizeOf(field, box->text()));
+}
+
+QString headerText(const QHeaderView *header, int section)
+{
+    return header->model()->headerData(section, header->orientation()).toString();
+}
+
+std::optional<Cut> sectionCut(const QHeaderView *header, int section)
+{
+    QStyleOptionHeader option;
+    option.initFrom(header);
+    option.rect =
+        QRect(header->sectionViewportPosition(section), 0, header->sectionSize(section), header->height());
+    const QString text = headerText(header, section);
+    QRect area = header->style()->subElementRect(QStyle::SE_HeaderLabel, &option, header);
+    // For its dots a header leaves these margins, and counts blanks at the end as letters.
+    const bool dots = header->textElideMode() != Qt::ElideNone;
+    if (dots)
+        area.setWidth(area.width() -
+                      2 * header->style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, header));
+    return lineCut(header, text, area, sizeOf(header, dots ? text : withoutTrailingBlanks(text)));
 }
 
 std::optional<Cut> cutOf(const QWidget *widget)
@@ -176,6 +235,10 @@ std::optional<Cut> cutOf(const QWidget *widget)
         return labelCut(label);
     if (const auto *button = qobject_cast<const QAbstractButton *>(widget))
         return buttonCut(button);
+    if (const auto *combo = qobject_cast<const QComboBox *>(widget))
+        return comboCut(combo);
+    if (const auto *box = qobject_cast<const QAbstractSpinBox *>(widget))
+        return spinCut(box);
     return std::nullopt;
 }
 
@@ -197,15 +260,23 @@ namespace layoutcheck
 QJsonArray clipped(const QWidget *window, const QString &step)
 {
     QJsonArray found;
+    const auto tell = [&](const QWidget *widget, const QString &text, const std::optional<Cut> &cut) {
+        if (!cut)
+            return;
+        found.append(QJsonObject{{QStringLiteral("step"), step},
+                                 {QStringLiteral("name"), widgettexts::name(widget)},
+                                 {QStringLiteral("text"), text},
+                                 {QStringLiteral("need"), asArray(cut->need)},
+                                 {QStringLiteral("have"), asArray(cut->have)}});
+    };
     for (const QWidget *widget : widgettexts::visibleChildren(window)) {
-        if (!bearsText(widget))
-            continue;
-        if (const std::optional<Cut> cut = cutOf(widget)) {
-            found.append(QJsonObject{{QStringLiteral("step"), step},
-                                     {QStringLiteral("name"), widgettexts::name(widget)},
-                                     {QStringLiteral("text"), widgettexts::text(widget)},
-                                     {QStringLiteral("need"), asArray(cut->need)},
-                                     {QStringLiteral("have"), asArray(cut->have)}});
+        if (bearsText(widget))
+            tell(widget, widgettexts::text(widget), cutOf(widget));
+    }
+    for (const QHeaderView *header : window->findChildren<QHeaderView *>()) {
+        for (int section = 0; header->isVisible() && section < header->count(); ++section) {
+            if (!header->isSectionHidden(section))
+                tell(header, headerText(header, section), sectionCut(header, section));
         }
     }
     return found;

@@ -10,9 +10,9 @@ class QWidget;
 namespace layoutcheck
 {
 
-/// The visible labels and buttons of `window` whose text does not fit into them, and all widgets with a text
-/// that reach out of what their parents show: {step, name, text, need, have}, the last two as [width, height]
-/// in pixels.
+/// The visible labels, buttons, combos, spin boxes and sections of headers of `window` whose text does not
+/// fit into them, and all widgets with a text that reach out of what their parents show: {step, name, text,
+/// need, have}, the last two as [width, height] in pixels.
 QJsonArray clipped(const QWidget *window, const QString &step);
 
 /// The pairs of visible siblings with text that cover each other by more than a pixel:

@@ -97,12 +97,15 @@ bool stopScan(Walk &walk)
 }
 
 /// Scans the disk once more, from the page with the last results, and stops.
-void seeStopped(Walk &walk)
+void seeStopped(Walk &walk, bool recordRunning)
 {
     const Expectation result(&walk, ResultClass);
     const Expectation question(&walk, QuestionClass);
     startScan(walk);
-    if (waitForShare(walk, 0.25) && stopScan(walk))
+    const bool running = waitForShare(walk, 0.25);
+    if (running && recordRunning)
+        walk.record(QStringLiteral("scan-running"));
+    if (running && stopScan(walk))
         closeResult(walk, QStringLiteral("scan-stopped"));
     else
         walk.answer(ResultClass, QStringLiteral("OkButton"));
@@ -127,8 +130,18 @@ StepList scanSteps(Walk &walk)
         };
         steps.push_back({name("scan-running"), [disk](Walk &person) { seeRunning(person, disk); }});
         steps.push_back({name("scan-finished"), seeFinished});
-        steps.push_back({name("scan-stopped"), seeStopped});
+        steps.push_back({name("scan-stopped"), [](Walk &person) { seeStopped(person, false); }});
         steps.push_back({name("end of the scans"), leaveResults});
     }
     return steps;
+}
+
+StepList stoppedScanSteps(int disk)
+{
+    const auto scan = [disk](Walk &walk) {
+        openChooser(walk, disk);
+        seeStopped(walk, true);
+        leaveResults(walk);
+    };
+    return {{QStringLiteral("scan-stopped of disk %1").arg(disk), scan}};
 }

@@ -44,6 +44,7 @@ StepList hurrySteps(Walk &walk);
 StepList scanSteps(Walk &walk);
 StepList selfTestSteps(Walk &walk);
 StepList cloneSteps(Walk &walk);
+StepList jobSteps(Walk &walk);
 StepList updateSteps(Walk &walk);
 StepList languageSteps(Walk &walk);
 StepList aboutSteps(Walk &walk);
@@ -53,6 +54,13 @@ StepList closeSteps(Walk &walk);
 
 /// Graphs, report and screenshot of a drive whose SMART Status shows. By its place in the combo.
 StepList smartSteps(int drive);
+
+/// \name A job that is looked at while it runs, and then stopped. Disks by their physical numbers.
+/// @{
+StepList stoppedScanSteps(int disk);
+StepList stoppedSelfTestSteps(int disk);
+StepList stoppedCloneSteps(int source, int target);
+/// @}
 
 /// The five screens once, for the disk that is chosen, and the first one while it is read.
 StepList pageSteps();

@@ -3,6 +3,8 @@
 #include "tests/support/Files.h"
 #include "tour/LayoutCheck.h"
 
+#include <QComboBox>
+#include <QHeaderView>
 #include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -10,7 +12,9 @@
 #include <QLabel>
 #include <QProcess>
 #include <QScrollArea>
+#include <QSpinBox>
 #include <QTest>
+#include <QTreeWidget>
 
 /// The tour as a program: its exit status and the files that it leaves. The tour of the demo PC shows the
 /// chapters. And the faults that it finds in the layout of a window.
@@ -94,6 +98,31 @@ private slots:
         QCOMPARE(clipped({0, 0, 100, 25}, true), 1);
         QCOMPARE(clipped({350, 0, 300, 30}), 1); // out of the window
         QCOMPARE(clipped({5, 0, 500, 30}), 0);   // only its blank end is out of it
+    }
+
+    void findsClippedFields()
+    {
+        auto *combo = new QComboBox(m_window.get());
+        combo->addItem(QStringLiteral("Extended self-test"));
+        auto *box = new QSpinBox(m_window.get());
+        box->setMaximum(100000000);
+        box->setValue(100000000);
+        auto *tree = new QTreeWidget(m_window.get());
+        tree->setHeaderLabels({QStringLiteral("Threshold value   "), QStringLiteral("Threshold value")});
+        tree->hideColumn(1);
+        tree->header()->setStretchLastSection(false);
+        const auto clipped = [&](int comboWidth, int boxWidth, int column) {
+            combo->setGeometry(0, 0, comboWidth, 30);
+            box->setGeometry(0, 40, boxWidth, 30);
+            tree->setGeometry(0, 80, 300, 60);
+            tree->header()->resizeSection(0, column);
+            m_window->show();
+            return layoutcheck::clipped(m_window.get(), QString()).size();
+        };
+        QCOMPARE(clipped(300, 200, 250), 0);
+        QCOMPARE(clipped(60, 200, 250), 1);
+        QCOMPARE(clipped(300, 50, 250), 1);
+        QCOMPARE(clipped(300, 200, 60), 1);
     }
 
     void forgivesWhatCanBeScrolledTo()
