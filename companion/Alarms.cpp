@@ -62,8 +62,9 @@ void Alarms::add(Warning *warning, const Line &line)
     warning->dialog->show();
     warning->dialog->raise();
     // It has no focus that a screen reader could follow.
-    for (const char *label : {"WarningTxtLbl", "MediaNameLbl"})
-        announce(warning->dialog->findChild<QLabel *>(QLatin1String(label)));
+    if (isNew)
+        announce(warning->dialog->findChild<QLabel *>(QStringLiteral("WarningTxtLbl")));
+    announce(warning->dialog->findChild<QLabel *>(QStringLiteral("MediaNameLbl")));
     // The other one stays readable.
     const QWidget *other = warning == &m_warning ? m_shutDownWarning.dialog : m_warning.dialog;
     if (isNew && other->isVisible())

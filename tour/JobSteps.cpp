@@ -7,10 +7,13 @@
 StepList jobSteps(Walk &walk)
 {
     const QJsonObject jobs = walk.plan().wishes[QStringLiteral("jobs")].toObject();
+    const QJsonValue scan = jobs[QStringLiteral("scan")];
     const QJsonArray clone = jobs[QStringLiteral("clone")].toArray();
-    StepList steps = stoppedScanSteps(jobs[QStringLiteral("scan")].toInt(-1));
-    for (const StepList &more : {stoppedCloneSteps(clone.at(0).toInt(-1), clone.at(1).toInt(-1)),
-                                 stoppedSelfTestSteps(jobs[QStringLiteral("selfTest")].toInt(-1))})
+    const QJsonValue selfTest = jobs[QStringLiteral("selfTest")];
+    StepList steps = scan.isDouble() ? stoppedScanSteps(scan.toInt()) : StepList();
+    for (const StepList &more :
+         {clone.size() == 2 ? stoppedCloneSteps(clone.at(0).toInt(-1), clone.at(1).toInt(-1)) : StepList(),
+          selfTest.isDouble() ? stoppedSelfTestSteps(selfTest.toInt()) : StepList()})
         steps.insert(steps.end(), more.begin(), more.end());
     return steps;
 }

@@ -13,6 +13,7 @@
 #include "ui/widgets/Style.h"
 #include "update/HelpLinks.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QFileDialog>
 #include <QMenu>
@@ -115,6 +116,13 @@ private slots:
                     QTRY_COMPARE(cutText(*dialog), QString());
                     for (const QLabel *label : dialog->findChildren<QLabel *>())
                         QVERIFY2(label->textFormat() != Qt::AutoText, qPrintable(label->objectName()));
+                    // What a screen reader calls it is in that language, too.
+                    for (QWidget *part : dialog->findChildren<QWidget *>()) {
+                        const bool control = (part->focusPolicy() & Qt::TabFocus) != 0 && !part->isHidden();
+                        const QString name =
+                            QAccessible::queryAccessibleInterface(part)->text(QAccessible::Name);
+                        QVERIFY2(!control || name.contains(' '), qPrintable(part->objectName()));
+                    }
                 }
                 QPushButton *button = buttonOf(dialog.get(), dismiss);
                 QSignalSpy pressed(button, &QPushButton::clicked);

@@ -221,6 +221,9 @@ void DialogFrame::dress()
     styleButtons();
     if (m_Shape.picture.name)
         images::setLabelImage(label(m_Shape.picture.name), QLatin1String(m_Shape.picture.text));
+    // To a screen reader the title is the name of the text below it.
+    if (auto *text = m_pWindow->findChild<QTextEdit *>(); text && m_pTitle)
+        m_pTitle->setBuddy(text);
     m_pWindow->installEventFilter(this);
     fit();
 }

@@ -77,14 +77,12 @@ void makeCopyable(std::initializer_list<QLabel *> labels)
             continue;
         label->setContextMenuPolicy(Qt::CustomContextMenu);
         label->setFocusPolicy(Qt::ClickFocus);
-        if (typeid(*label) == typeid(QLabel)) {
+        if (typeid(*label) == typeid(QLabel))
             label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-        } else {
-            auto *copy = new QShortcut(QKeySequence::Copy, label);
-            copy->setContext(Qt::WidgetShortcut);
-            QObject::connect(copy, &QShortcut::activated, label,
-                             [label] { QGuiApplication::clipboard()->setText(copyText(label)); });
-        }
+        auto *copy = new QShortcut(QKeySequence::Copy, label);
+        copy->setContext(Qt::WidgetShortcut);
+        QObject::connect(copy, &QShortcut::activated, label,
+                         [label] { QGuiApplication::clipboard()->setText(copyText(label)); });
         QObject::connect(label, &QWidget::customContextMenuRequested, label, [label](const QPoint &place) {
             auto *menu = new QMenu(label);
             menu->setAttribute(Qt::WA_DeleteOnClose);
@@ -110,7 +108,7 @@ QString shownText(const QWidget *page)
     QStringList lines;
     for (auto row = places.begin(); row != places.end();) {
         const auto end = std::find_if(row, places.end(), [row](const Place &place) {
-            return place.first.y() > row->first.y() + row->second->height() / 2;
+            return place.first.y() > row->first.y() + row->second->fontMetrics().height() / 2;
         });
         std::sort(row, end,
                   [](const Place &left, const Place &right) { return left.first.x() < right.first.x(); });

@@ -50,7 +50,7 @@ void styleValues(std::initializer_list<QLabel *> labels);
 void makeCopyable(std::initializer_list<QLabel *> labels);
 /// What is copied then: the selected text, else the whole one without the caption and colon of a detail.
 QString copyText(const QLabel *label);
-/// All texts that the page shows: a line for each row, a tab between its labels.
+/// The texts of all labels that the page shows: a line for each row, a tab between its labels.
 QString shownText(const QWidget *page);
 
 /// Gives the labels the width of the widest, so that what stands behind them is aligned. Call it again when

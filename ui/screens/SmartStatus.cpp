@@ -93,7 +93,7 @@ void SmartStatus::makeTree()
     });
     m_ui.m_pCopyAction->setShortcut(QKeySequence::Copy);
     connect(m_ui.m_pCopyAction, &QAction::triggered, this, [this] {
-        if (const QString rows = SelectedRows(); !rows.isEmpty())
+        if (const QString rows = RowTexts(true); !rows.isEmpty())
             QGuiApplication::clipboard()->setText(rows);
     });
 
@@ -193,12 +193,12 @@ void SmartStatus::RetranslateSmartTable()
         ShowRows(currentRows());
 }
 
-QString SmartStatus::SelectedRows() const
+QString SmartStatus::RowTexts(bool selected) const
 {
     QStringList lines;
     for (int i = 0; i < m_ui.m_pAttributeTree->topLevelItemCount(); ++i) {
         const QTreeWidgetItem *item = m_ui.m_pAttributeTree->topLevelItem(i);
-        if (!item->isSelected())
+        if (selected && !item->isSelected())
             continue;
         QStringList cells;
         for (int column = 0; column < attributecolumns::Count; ++column) {

@@ -28,8 +28,8 @@ public:
 
     /// Puts rows in the place of those that show. Selects and gives the first; null where there is none.
     QTreeWidgetItem *ShowRows(const std::vector<AttributeRow> &rows);
-    /// The selected rows as a spreadsheet takes them: tabs between the cells, a line for each row.
-    QString SelectedRows() const;
+    /// The selected rows, or all, as a spreadsheet takes them: tabs between the cells, a line for each row.
+    QString RowTexts(bool selected) const;
     void ClearRows() { m_ui.m_pAttributeTree->clear(); }
     /// Shows a graph in place of the one before.
     /// `text` says what it shows.

@@ -3,6 +3,7 @@
 
 #include "ui/widgets/Style.h"
 
+#include <QKeyEvent>
 #include <QPainter>
 #include <QStyleOptionComboBox>
 #include <QStylePainter>
@@ -129,6 +130,15 @@ void ElidingComboBox::showPopup()
     for (int i = 0; i < count(); ++i)
         setItemData(i, style::wholeTip(itemText(i)), Qt::ToolTipRole);
     QComboBox::showPopup();
+}
+
+/// A combo takes each key that has a letter, even Ctrl+C, for the begin of an entry. The window copies by it.
+void ElidingComboBox::keyPressEvent(QKeyEvent *event)
+{
+    if (event->matches(QKeySequence::Copy))
+        event->ignore();
+    else
+        QComboBox::keyPressEvent(event);
 }
 
 void ElidingComboBox::paintEvent(QPaintEvent *)

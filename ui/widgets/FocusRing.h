@@ -6,8 +6,8 @@
 #include <QWidget>
 
 /// Shows which control has the keyboard's focus, by a ring about it, in all windows of the program. A user
-/// who has just used the mouse sees it in dialogs only. startlook::install() makes the one of
-/// a process. Main thread only.
+/// who has just used the mouse sees it in dialogs only. Each process has one, made by startlook::install().
+/// Main thread only.
 class FocusRing : public QObject
 {
 public:

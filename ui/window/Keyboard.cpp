@@ -54,10 +54,12 @@ void MainWindow::connectKeys()
 /// Where no text and no row is selected, all that the page says is copied.
 void MainWindow::keyPressEvent(QKeyEvent *event)
 {
-    if (m_screen && event->matches(QKeySequence::Copy))
-        QGuiApplication::clipboard()->setText(pagelook::shownText(m_apScreens[*m_screen]));
-    else
-        QMainWindow::keyPressEvent(event);
+    if (!m_screen || !event->matches(QKeySequence::Copy))
+        return QMainWindow::keyPressEvent(event);
+    QStringList texts{pagelook::shownText(m_apScreens[*m_screen])};
+    if (isOnShow(navigation::SmartStatusScreen))
+        texts << m_pSmartStatusPage->RowTexts(false);
+    QGuiApplication::clipboard()->setText(texts.join(QLatin1Char('\n')));
 }
 
 /// The key Tab goes through the window as it is read: title, navigation, disk, page, buttons below.
