@@ -30,9 +30,10 @@ void dress(QPushButton *button, const Images &files, std::size_t look)
     const QString path = images::path(QLatin1String(files[look]) + QStringLiteral(".png"));
     const QString picture =
         path.isEmpty() ? QString() : QStringLiteral("QPushButton{border-image: url(%1)}").arg(path);
-    button->setStyleSheet(picture +
-                          QStringLiteral("QPushButton{Text-align:left; color: %1;}")
-                              .arg(QLatin1String(look == 0 ? style::colour::Text : style::colour::Accent)));
+    const QString colours = look == 0
+                                ? QStringLiteral("color: @text;} QPushButton:disabled{color: @disabled;}")
+                                : QStringLiteral("color: @accent;}");
+    button->setStyleSheet(picture + style::sheet(QStringLiteral("QPushButton{Text-align:left; ") + colours));
 }
 
 } // namespace
