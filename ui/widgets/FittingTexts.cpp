@@ -129,6 +129,7 @@ void ElidingComboBox::showPopup()
         setItemDelegate(new QStyledItemDelegate(this));
     for (int i = 0; i < count(); ++i)
         setItemData(i, style::wholeTip(itemText(i)), Qt::ToolTipRole);
+    setMaxVisibleItems(count()); // as far as the screen has room: no disk hides behind a scroll bar
     QComboBox::showPopup();
 }
 
