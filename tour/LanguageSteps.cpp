@@ -8,8 +8,6 @@
 #include <QVariant>
 #include <QWidget>
 
-#include <utility>
-
 namespace
 {
 
@@ -36,15 +34,14 @@ void chooseLanguage(Walk &walk, const QString &language)
 /// A language whose translation is missing would show English, and pass.
 void changeLanguage(Walk &walk, const QString &language)
 {
-    const auto caption = [] {
+    chooseLanguage(walk, language);
+    const bool isUntranslated = walk.program().ask([] {
         QWidget *window = windows::byClass(QStringLiteral("MainWindow"));
         const QWidget *entry = windows::button(window, {QStringLiteral("ScanDiskButton")});
-        return std::make_pair(languages::current().type,
-                              entry ? entry->property("text").toString() : QString());
-    };
-    chooseLanguage(walk, language);
-    const auto now = walk.program().ask(caption);
-    if (now.first != LanguageType::English && now.second.trimmed() == QLatin1String("Scan Disk"))
+        return languages::current().type != LanguageType::English && entry &&
+               entry->property("text").toString().trimmed() == QLatin1String("Scan Disk");
+    });
+    if (isUntranslated)
         throw StepFailed(QStringLiteral("the texts are English"));
 }
 

@@ -34,8 +34,7 @@ struct DialogShape {
     DialogWord picture;            ///< its text is the file; without a name there is no picture
     std::vector<DialogWord> lines; ///< where there are several, the first is the heading
     std::vector<DialogWord> buttons;
-    DialogButton main =
-        DialogButton::Last; ///< the blue one, of Enter in a field; never one that loses something
+    DialogButton main = DialogButton::Last;    ///< blue, pressed by Enter in a field; loses nothing
     DialogButton initial = DialogButton::Last; ///< has the focus when the dialog shows
     const char *frame = "MainFrame";           ///< name of the frame about picture and lines
     const char *bottomFrame = "";              ///< name of the frame about the buttons
