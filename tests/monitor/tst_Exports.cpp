@@ -193,6 +193,7 @@ private slots:
         QCOMPARE(opened->description().disks.size(), 1);
         QCOMPARE(opened->description().volumes.size(), 1);
         QCOMPARE(opened->description().settings.value("WarningValue").toInt(), 44);
+        QCOMPARE(opened->description().settings.value("LogSavePath").toString(), "L:\\log.txt");
         const QByteArray before = allBytes();
         QCOMPARE(collection::collect(folder(), false), folder() + ": is not empty");
         QCOMPARE(allBytes(), before);

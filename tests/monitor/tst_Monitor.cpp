@@ -197,6 +197,8 @@ private slots:
             }
             QCOMPARE(m_listener.told.join('\n'), QString(told));
             QCOMPARE(m_monitor->disks().size(), size_t((*told ? 1 : 0) + (keys == usb ? 0 : 1)));
+            const QByteArray seen = "\"lastSeen\":" + QByteArray::number(m_start + 6 * 60000);
+            QVERIFY(contentOf(WatchMemory::path()).contains(seen)); // and not since
         }
     }
 

@@ -260,14 +260,17 @@ private slots:
             const quint64 added = some.add({}).id;
             QCOMPARE(added, quint64(some.events.size()));
         }
-        QByteArray many = "{\"events\": [", points = "[0,0]";
+        QByteArray many = "{\"events\": [", points = "[0,0]", disks;
         for (int i = 0; i < 1000; ++i) {
             many += R"({"kind": "pending", "id": 5},)";
             points += ",[" + QByteArray::number(i * 1000000) + ",30]";
+            disks += ",{}";
         }
-        const WatchMemory bounded = WatchMemory::fromJson(many + R"({"kind": "none"}], "disks": [{"day": [)" +
-                                                          points + R"(]}], "nextEvent": 3})");
+        const WatchMemory bounded =
+            WatchMemory::fromJson(many + R"({"kind": "none"}], "disks": [{"day": [)" + points +
+                                  R"(], "lastSeen": 1})" + disks + R"(], "nextEvent": 3})");
         QCOMPARE(bounded.events.size(), size_t(200));
+        QCOMPARE(bounded.disks.size(), size_t(64));
         QVERIFY(bounded.disks.at(0).day.size() <= 144);
         QCOMPARE(WatchMemory(bounded).add({}).id, quint64(6));
     }

@@ -45,5 +45,5 @@ private:
     QLabel *m_pRateLabel;
     QTimer m_timer;
     QElapsedTimer m_elapsed;
-    QDownloadThread m_thread;
+    QDownloadThread m_thread{this};
 };
