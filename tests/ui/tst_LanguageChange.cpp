@@ -4,6 +4,7 @@
 #include "ui/screens/Settings.h"
 
 #include <QDir>
+#include <QFileDialog>
 #include <QHeaderView>
 #include <QTreeWidget>
 
@@ -100,6 +101,8 @@ private slots:
     {
         QFETCH(int, type);
         start(type);
+        // The toolkit's own texts, too.
+        QCOMPARE(QFileDialog::tr("Look in:") == "Look in:", type == static_cast<int>(LanguageType::English));
         const Look started = walk();
         QVERIFY(started.size() > 300);
         cleanup();
