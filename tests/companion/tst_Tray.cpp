@@ -299,6 +299,9 @@ private slots:
                     traypicture::drawDay(&painter, picture.rect(), summary, 3000000);
                 else
                     traypicture::drawSign(&painter, picture.rect(), summary);
+                // The dash has a circle around it, the moon has not.
+                const bool isEdgeFree = picture.pixel(45, 24) == ground.rgb();
+                QVERIFY(isDay || state < DiskState::Asleep || isEdgeFree == (state == DiskState::Asleep));
                 double most = 0;
                 for (int pixel = 0; pixel < 48 * 48; ++pixel)
                     most = std::max(most, contrast(picture.pixelColor(pixel % 48, pixel / 48), ground));
