@@ -129,7 +129,7 @@ private slots:
         QVERIFY(QDir().mkpath(stale));
         QTimer::singleShot(0, this, [&] {
             answer<QShowUpdate>("UpdateButton");
-            QVERIFY(!QFile::exists(stale));
+            QVERIFY(!dialog<QShowUpdate>() && !QFile::exists(stale));
             auto *download = dialog<QDownloadApp>();
             QVERIFY(download);
             const auto *bar = download->findChild<QProgressBar *>();
