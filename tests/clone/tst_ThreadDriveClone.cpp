@@ -322,7 +322,8 @@ private slots:
     {
         openPc(2 * BlockSectors, 2 * BlockSectors);
         m_pc->onTransfer = [this](bool isWrite, qint64, quint32) {
-            m_pc->disks[Destination].gone = m_pc->disks[Destination].gone || isWrite;
+            if (isWrite) // blocks are read by another thread
+                m_pc->disks[Destination].gone = true;
             return true;
         };
         runClone();

@@ -268,7 +268,7 @@ private slots:
             QCOMPARE(stat(QFile::encodeName(path("private")).constData(), &status), 0);
             QVERIFY2(!taken || (status.st_mode & 07777) == 0700, made);
         };
-        QVERIFY(!folders::ensurePrivate(path("with blank")).isEmpty());
+        QVERIFY(!folders::ensurePrivate(path("a blank")).isEmpty()); // command lines have no quotes
         row("true", true);
         row("mkdir -m 0700 private", true);
         row("mkdir -m 0755 private", false);

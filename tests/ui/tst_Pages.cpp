@@ -280,7 +280,7 @@ private slots:
         QCOMPARE(spans(0, 0), (QList<int>{0, 0}));
         QCOMPARE(spans(9e18, -8.999999999e18), (QList<int>{5760, -360}));
         QCOMPARE(spans(qQNaN(), 1), (QList<int>{0, 0}));
-        const DonutLegend legend;
+        const DonutLegend legend; // to the left, unless it is told otherwise
         QVERIFY(legend.nStyleA == 1 && legend.nStyleB == 1 && legend.nStyleC == 1);
     }
 
