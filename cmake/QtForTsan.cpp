@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Qt is built without the thread sanitizer, which therefore sees neither Qt's locks nor its queued events,
 // and takes what they protect for unprotected. Each function here replaces the one of Qt with its name in a
-// test program, calls it, and tells the sanitizer what it does. A queued call is taken to come behind every
+// test program, calls it, and tells the sanitizer what it does. A queued call is taken to come after every
 // signal before it, of whatever thread: a race that such a signal happens to order is not reported.
 #include <QDeadlineTimer>
 #include <QEvent>

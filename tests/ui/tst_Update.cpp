@@ -215,7 +215,7 @@ private slots:
         verifyUsable();
         m_pWindow->OnCheckUpdate();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QVERIFY(dialog<QShowUpdate>()); // the end of the earlier download does not delete it
+        QVERIFY(dialog<QShowUpdate>()); // it does not go away with its check
     }
 
 private:
