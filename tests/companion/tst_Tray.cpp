@@ -15,6 +15,7 @@
 #include "tests/support/FakePlatform.h"
 #include "tests/support/ScreenReader.h"
 #include "tests/ui/Named.h"
+#include "ui/dialogs/MessageDialog.h"
 #include "ui/widgets/StartLook.h"
 #include "ui/widgets/Style.h"
 
@@ -423,10 +424,7 @@ private slots:
         event.value = 52;
         alarms.show(event, false);
         QCOMPARE(shown(), QStringList("SmartShutdownDialog|Tarnwell TX2 500GB: 52 °C"));
-        for (QWidget *window : QApplication::topLevelWidgets()) {
-            if (window->isVisible())
-                QTest::keyClick(window, Qt::Key_Escape);
-        }
+        QTest::keyClick(dialog<ShutDownWarning>(), Qt::Key_Escape);
         QCOMPARE(shown(), QStringList());
         QCOMPARE(seen.count(), 1);
         QCOMPARE(seen.at(0).at(0).toULongLong(), quint64(4));
@@ -437,20 +435,14 @@ private slots:
         typing.setFocus();
         QVERIFY(machine->commands().isEmpty());
         alarms.show(event, false);
-        const auto press = [](const char *button) {
-            for (const QWidget *window : QApplication::topLevelWidgets()) {
-                if (auto *found = window->findChild<QPushButton *>(button); found && window->isVisible())
-                    found->click();
-            }
-        };
-        press("ShutDownButton");
+        buttonOf(dialog<ShutDownWarning>(), "ShutDownButton")->click();
         QVERIFY(machine->commands().size() == 1 && machine->commands().at(0).contains("shutdown /s"));
         QCOMPARE(shown().size(), 1);
         QCOMPARE(seen.count(), 1);
         QCOMPARE(other.focusWidget(), &typing);
         event.kind = EventKind::TemperatureWarning;
         alarms.show(event, false);
-        press("DontShowButton");
+        buttonOf(dialog<SmartWarning>(), "DontShowButton")->click();
         QCOMPARE(shown().size(), 1);
         QVERIFY(SettingsStore().flag(key::DontShow));
     }

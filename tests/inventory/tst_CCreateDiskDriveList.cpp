@@ -10,8 +10,7 @@
 namespace
 {
 
-constexpr quint64 KiB = 1024;
-constexpr quint64 MiB = 1024 * KiB;
+constexpr quint64 MiB = 1024 * 1024;
 constexpr quint64 GiB = 1024 * MiB;
 constexpr quint8 Linux = 131;
 
@@ -180,7 +179,7 @@ private slots:
         addVolume('A', "", 0); // fixed and without a name: no node, and no id is used up
         addVolume('C', "NTFS", 3 * GiB + 1).label = "Sys\u202Etem";
         fake->volumes['C'].free = 7;
-        addVolume('E', "RAW", 512 * KiB);
+        addVolume('E', "RAW", MiB / 2);
         QCOMPARE(build(), QStringList({"257|1|2|0|C:\\|Sys\uFFFDtem|FIXED|NTFS|7|4|3.00 GB|"
                                        "3221225473|7|0|6291456|6291456|0|",
                                        "258|15|4|0|E:\\|Local Disk|FIXED|RAW|4|0|512.00 MB|"

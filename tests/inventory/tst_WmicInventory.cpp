@@ -40,10 +40,7 @@ QStringList volumeRecords()
     return rows;
 }
 
-ProbedIdentity ignoreIdentity(int, const QString &)
-{
-    return {};
-}
+const auto ignoreIdentity = [](int, const QString &) { return ProbedIdentity(); };
 
 } // namespace
 

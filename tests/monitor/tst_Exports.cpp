@@ -179,8 +179,6 @@ private slots:
     void nothingLeavesTheFolder()
     {
         open("../../../evil\\x");
-        const HistoryPaths history = historyPaths("../../../evil\\x");
-        QVERIFY(writeFile(history.dates, "21-11-2026\n") && writeFile(history.values, "[21-11-2026]\na=1\n"));
         QCOMPARE(collection::collect(folder(), false), QString());
         QCOMPARE(QDir(m_out->path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size(), 1);
         QCOMPARE(QDir(folder() + "/history").entryList(QDir::Files).size(), 2);
@@ -224,8 +222,6 @@ private slots:
     void anonymous()
     {
         open("SN-7788991");
-        const HistoryPaths history = historyPaths("SN-7788991");
-        QVERIFY(writeFile(history.dates, "21-11-2026\n") && writeFile(history.values, "[21-11-2026]\na=1\n"));
         QCOMPARE(collection::collect(folder(), true), QString());
         const QByteArray all = allBytes();
         for (const char *told :
@@ -244,14 +240,6 @@ private slots:
     }
 
 private:
-    static bool setAge(const QString &path, int seconds)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadWrite) &&
-               file.setFileTime(QDateTime::currentDateTime().addSecs(-seconds),
-                                QFileDevice::FileModificationTime);
-    }
-
     void open(const QByteArray &serial)
     {
         QByteArray disk(64 * 512, '\0');
@@ -274,6 +262,8 @@ private:
                        "report": "report.txt", "identity": {"model": "M", "serial": "ID-556677", "firmware": "F"}}],
             "volumes": [{"letter": "L", "fileSystem": "NTFS", "size": 8192, "extents": [{"disk": 0, "offset": 2048}]}],
             "settings": {"LogSavePath": "L:\\log.txt", "WarningValue": 44}})"));
+        const HistoryPaths history = historyPaths(serial);
+        QVERIFY(writeFile(history.dates, "21-11-2026\n") && writeFile(history.values, "[21-11-2026]\na=1\n"));
     }
 
     QString folder() const { return m_out->path() + "/case"; }

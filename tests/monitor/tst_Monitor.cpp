@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "inventory/CommandRunner.h"
 #include "monitor/EventTexts.h"
 #include "monitor/Monitor.h"
 #include "smart/AttributeHistory.h"
@@ -91,12 +90,10 @@ private slots:
         compareRows("Monitor/stories", [this](const QString &row) {
             const QString settings = row.startsWith('{') ? row.section('}', 0, 0).mid(1) : QString();
             const QString story = row.section("} ", -1);
-            m_listener.fahrenheit = settings.contains("TempValue");
             QStringList lives;
             for (const int life : {14, 1, 5}) {
-                m_folder = std::make_unique<DescribedFolder>();
-                m_listener.told.clear();
-                m_now = m_start;
+                init();
+                m_listener.fahrenheit = settings.contains("TempValue");
                 open(story, settings.toUtf8());
                 for (int minute = 0; minute < 14; ++minute)
                     roundAt(minute, minute % life == 0);
@@ -125,15 +122,10 @@ private slots:
         open("0 t40; 3 t47", R"("MetricsPath": "M:\\x.prom")");
         rounds(0, 5, false);
         const QRegularExpression time("^2026-11-21 \\d\\d:\\d\\d:07 [+-]\\d\\d:\\d\\d  ");
-        QCOMPARE(logged().size(), 3);
-        for (const QString &line : logged())
-            QVERIFY2(time.match(line).hasMatch(), qPrintable(line));
-        QCOMPARE(logged().at(0).section("  ", 1),
-                 QString("INFO  Disk 0  Tarnwell TX2  SER1  temperature 40 °C, health 100 %, ok"));
-        QCOMPARE(logged().at(1).section("  ", 1),
-                 QString("WARNING  the metrics cannot be written: M:\\x.prom"));
-        QCOMPARE(logged().at(2).section("  ", 1),
-                 QString("WARNING  Disk 0  Tarnwell TX2  SER1  temperature 47 °C, limit 45 °C"));
+        QCOMPARE(logged().replaceInStrings(time, "@ "),
+                 (QStringList{"@ INFO  Disk 0  Tarnwell TX2  SER1  temperature 40 °C, health 100 %, ok",
+                              "@ WARNING  the metrics cannot be written: M:\\x.prom",
+                              "@ WARNING  Disk 0  Tarnwell TX2  SER1  temperature 47 °C, limit 45 °C"}));
     }
 
     /// What is told when a kill hits is told in the next run, and is in the log once.
@@ -183,11 +175,9 @@ private slots:
                                                   {7, usb, ""},
                                                   {8, usb, ""},
                                                   {99, usb, "8 WARNING the disk does not answer"}}) {
-            m_folder = std::make_unique<DescribedFolder>();
-            m_now = m_start;
+            init();
             open("0 t40", "", keys);
             QVERIFY(m_pc->deviceNotifier());
-            m_listener.told.clear();
             roundAt(6, true);
             m_folder->touch({"remove-disk0"});
             for (const int minute : {7, 8}) {
@@ -294,8 +284,7 @@ private slots:
     void disksAtRest()
     {
         for (const auto &[keys, asked] : {std::pair(R"(, "idle": true)", 3), std::pair("", 61)}) {
-            m_folder = std::make_unique<DescribedFolder>();
-            m_now = m_start;
+            init();
             open("0 t40", "", keys);
             for (int minute = 0; minute <= 60; ++minute)
                 roundAt(minute, false);

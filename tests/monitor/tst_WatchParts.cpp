@@ -77,41 +77,29 @@ private slots:
         });
     }
 
+    /// One disk through the days. Of the day, the ms in it, °C, and "off" for no warning limit.
     void alarmOfALongDay()
     {
         TemperatureAlarm alarm;
-        const TemperatureLimits limits{45, 60};
-        using Tells = TemperatureAlarm::Tells;
-        QCOMPARE(alarm.take(45, limits, Day), Tells::Warning);
-        QCOMPARE(alarm.take(50, limits, 2 * Day - 1), Tells::Nothing);
-        QCOMPARE(alarm.take(50, limits, 2 * Day), Tells::Warning);
-        // Off and on again begins anew; so does a clock that was set back, after a day of its own.
-        QCOMPARE(alarm.take(50, {std::nullopt, 60}, 2 * Day + 1), Tells::Nothing);
-        QCOMPARE(alarm.take(50, limits, 2 * Day + 2), Tells::Warning);
-        QCOMPARE(alarm.take(50, limits, Minute), Tells::Nothing);
-        QCOMPARE(alarm.take(50, limits, Minute + Day), Tells::Warning);
-        // A day below the limit, and not cool: that time does not count.
-        QCOMPARE(alarm.take(44, limits, 2 * Minute + Day), Tells::Nothing);
-        QCOMPARE(alarm.take(45, limits, Minute + 2 * Day), Tells::Nothing);
-        QCOMPARE(alarm.take(45, limits, 2 * Day + 3 * Day / 2), Tells::Warning);
+        compareRows("WatchParts/alarm", [&alarm](const QString &row) {
+            const QVector<qint64> at = numbersOf(row);
+            const TemperatureLimits limits{row.endsWith("off") ? std::nullopt : std::optional(45), 60};
+            const auto tells = alarm.take(int(at[2]), limits, at[0] * Day + at[1]);
+            return QStringList{"nothing", "warning", "shutdown"}[int(tells)];
+        });
     }
 
-    /// A count that fell for a day begins anew, one that flickers does not.
+    /// A count that fell for a day begins anew, one that flickers does not. Of the day, the minute in it and
+    /// the pending sectors: the number of events.
     void countsThatFall()
     {
         HealthEvents health;
-        DiskReading reading;
-        const auto told = [&](int pending, qint64 now) {
-            reading.pending = pending;
-            return health.take(reading, now).size();
-        };
-        QCOMPARE(told(8, Day), size_t(1));
-        QCOMPARE(told(0, Day + Minute), size_t(0));
-        QCOMPARE(told(8, 2 * Day), size_t(0));
-        QCOMPARE(told(0, 2 * Day + Minute), size_t(0));
-        QCOMPARE(told(2, 3 * Day), size_t(0));
-        QCOMPARE(told(2, 3 * Day + Minute), size_t(0));
-        QCOMPARE(told(3, 3 * Day + 2 * Minute), size_t(1));
+        compareRows("WatchParts/counts", [&health](const QString &row) {
+            const QVector<qint64> at = numbersOf(row);
+            DiskReading reading;
+            reading.pending = at[2];
+            return int(health.take(reading, at[0] * Day + at[1] * Minute).size());
+        });
     }
 
     void schedule()
@@ -134,9 +122,7 @@ private slots:
     /// The other disk goes on, and the one that hangs is asked less often.
     void hangingTool()
     {
-        auto made = std::make_unique<HangingMachine>();
-        HangingMachine *machine = made.get();
-        Platform::install(std::move(made));
+        auto *const machine = FakePlatform::install<HangingMachine>();
         const QTemporaryDir folder;
         SettingsStore().write(key::LogSavePath, folder.path() + "\\log.txt");
         bool isReady = true;
@@ -175,7 +161,7 @@ private slots:
 
     void logAtItsLimit()
     {
-        Platform::install(std::make_unique<HangingMachine>());
+        FakePlatform::install<HangingMachine>();
         const QTemporaryDir folder;
         const QString path = folder.path() + "\\logs\\log.txt";
         const QString file = folder.filePath("logs/log.txt");
@@ -197,12 +183,9 @@ private slots:
         const bool isWindows = QSysInfo::kernelType() == QLatin1String("winnt");
         const QString left = folder.filePath("logs/.halvane-" + QString(32, '0'));
         for (const int age : {0, 2}) {
-            QFile unfinished(left);
-            QVERIFY(unfinished.open(QIODevice::WriteOnly));
-            QVERIFY(unfinished.setFileTime(QDateTime::currentDateTime().addSecs(-60 * age),
-                                           QFileDevice::FileModificationTime));
+            QVERIFY(writeFile(left, "") && setAge(left, 60 * age));
             QCOMPARE(log.append("012345678901234567890"), EventLog::Outcome::Written);
-            QCOMPARE(unfinished.exists(), isWindows || age == 0);
+            QCOMPARE(QFile::exists(left), isWindows || age == 0);
         }
         QCOMPARE(EventLog(folder.path() + "\\logs\\log.txt\\x", 30).append("x"),
                  EventLog::Outcome::Unwritable);

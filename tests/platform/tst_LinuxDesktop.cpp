@@ -22,6 +22,15 @@ public slots:
     }
 
 private slots:
+    /// Root tells the desktop of a user nothing.
+    void initTestCase()
+    {
+        qunsetenv("DBUS_SESSION_BUS_ADDRESS");
+        qunsetenv("XDG_RUNTIME_DIR");
+        constexpr uid_t Nobody = 65534;
+        QVERIFY(geteuid() != 0 || (setgid(Nobody) == 0 && setuid(Nobody) == 0));
+    }
+
     void launcher()
     {
         QProcess bus;
@@ -50,17 +59,5 @@ private:
     QStringList m_heard;
 };
 
-/// Root tells the desktop of a user nothing.
-int main(int argumentCount, char **arguments)
-{
-    unsetenv("DBUS_SESSION_BUS_ADDRESS");
-    unsetenv("XDG_RUNTIME_DIR");
-    constexpr uid_t Nobody = 65534;
-    if (geteuid() == 0 && (setgid(Nobody) != 0 || setuid(Nobody) != 0))
-        return 1;
-    QCoreApplication application(argumentCount, arguments);
-    tst_LinuxDesktop test;
-    return QTest::qExec(&test, argumentCount, arguments);
-}
-
+QTEST_GUILESS_MAIN(tst_LinuxDesktop)
 #include "tst_LinuxDesktop.moc"

@@ -252,12 +252,9 @@ private slots:
             QVERIFY(reader.waitForFinished());
             const QString text = QString::fromUtf8(reader.readAllStandardOutput());
             QCOMPARE(text.count('\f'), report.nvme ? 1 : 2);
-            QStringList parts{g_strModelName,
-                              g_strSerialNumber,
-                              g_strFirmware,
-                              report.log.LocalTime.text(),
-                              "Velmora Halvane profiling process.",
+            QStringList parts{"Velmora Halvane profiling process.",
                               "Velmora Halvane is a product of Velmora."};
+            parts << g_strModelName << g_strSerialNumber << g_strFirmware << report.log.LocalTime.text();
             for (const SmartReport::Row &cells : report.rows) {
                 parts << QString();
                 for (const SmartReport::Cell &cell : cells)

@@ -103,12 +103,10 @@ private:
 
 QuickDisk *installQuickDisk(qint64 sectors, const std::set<qint64> &bad = {})
 {
-    auto disk = std::make_unique<QuickDisk>();
-    QuickDisk *const installed = disk.get();
-    installed->sectors = sectors;
-    installed->bad = bad;
-    Platform::install(std::move(disk));
-    return installed;
+    auto *const disk = FakePlatform::install<QuickDisk>();
+    disk->sectors = sectors;
+    disk->bad = bad;
+    return disk;
 }
 
 } // namespace

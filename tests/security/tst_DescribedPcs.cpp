@@ -3,6 +3,7 @@
 #include "smart/AttributeHistory.h"
 #include "tests/platform/DescribedFolder.h"
 #include "tests/platform/RawDisk.h"
+#include "tests/support/ArrowRows.h"
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -23,28 +24,12 @@ private slots:
         QCOMPARE(mkfifo(QFile::encodeName(here.filePath("pipe")).constData(), 0600), 0);
         folder.add("long", "");
         QVERIFY(QFile::resize(here.filePath("long"), ownfiles::MostBytes + 1));
-        const auto refuses = [&folder](const QByteArray &json, QString error) {
-            folder.add("pc.json", json);
-            QCOMPARE(openingError(folder), "<pc>/pc.json: " + error.replace("<above>", QDir::tempPath()));
-        };
-        const auto disk = [&refuses](const QByteArray &json, const char *error) {
-            refuses(R"({"disks": [{"number": 0, )" + json + "}]}", QString("disks[0].") + error);
-        };
-        refuses(R"({"history": "/"})", "history: /: lies outside the folder");
-        refuses(R"({"history": "leaky"})", "history: <pc>/leaky/out: no regular file that can be read");
-        refuses(R"({"settings": {"EN/SupportLink": "a\\..\\..\\b"}})",
-                R"(settings["EN/SupportLink"]: a text without ".." is wanted)");
-        refuses(R"({"settings": {"LogSavePath": "/tmp/x/y.log"}})",
-                R"(settings["LogSavePath"]: a path on a drive is wanted)");
-        refuses(R"({"processes": [)" + QByteArray(R"("",)").repeated(70000) + R"(""]})",
-                "processes: at most 65536 entries are wanted");
-        disk(R"("image": "../x.img")", "image: <above>/x.img: lies outside the folder");
-        disk(R"("image": "pipe")", "image: <pc>/pipe: no regular file that can be read");
-        disk(R"("report": "out")", "report: <pc>/out: lies outside the folder");
-        disk(R"("capabilities": "/etc/passwd")", "capabilities: /etc/passwd: lies outside the folder");
-        disk(R"("report": "a\u0000b")", "report: a text without control characters is wanted");
-        disk(R"("selfTestLog": "pipe")", "selfTestLog: <pc>/pipe: no regular file that can be read");
-        disk(R"("report": "long")", "report: <pc>/long: more than 16 MiB");
+        compareRows("DescribedPcs/names", [&folder](const QString &json) {
+            folder.add("pc.json", json.toUtf8());
+            return openingError(folder).replace(QDir::tempPath(), "<above>");
+        });
+        folder.add("pc.json", R"({"processes": [)" + QByteArray(R"("",)").repeated(70000) + R"(""]})");
+        QCOMPARE(openingError(folder), "<pc>/pc.json: processes: at most 65536 entries are wanted");
     }
 
     void strangeDescription()

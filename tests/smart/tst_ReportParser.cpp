@@ -164,19 +164,15 @@ private slots:
         QVERIFY(g_nvmeTable.passed);
     }
 
-    /// Lines between bars: the number of rows, and whether the drive passes.
+    /// Lines between bars: the number of rows, whether the drive passes, and its serial number.
     void tableBounds()
     {
         compareRows("ReportParser/tableBounds", [](const QString &lines) {
             const SmartTable table = ataTable(QString(lines).replace('|', '\n'));
-            return QString::number(ataRows(table.rows).size()) + (table.passed ? " passed" : "");
+            const QString rows = QString::number(ataRows(table.rows).size());
+            const QString told = rows + (table.passed ? " passed " : " ") + table.drive.SerialNumber.text();
+            return told.trimmed();
         });
-        // Lines of the report's head are also looked for in the first row of the table, but in no later one.
-        const QByteArray row = "9 Serial Number: X\n";
-        const QString serial = "Serial Number: S\n";
-        QCOMPARE(ataTable(serial + AtaHeader + AtaRow + row).drive.SerialNumber.text(), QString("S"));
-        QCOMPARE(ataTable(serial + AtaHeader + row + AtaRow).drive.SerialNumber.text(), QString("X"));
-        QVERIFY(ataTable(serial + AtaHeader).drive.SerialNumber.isEmpty());
     }
 
     /// Of a real report with changes: "file: old text>new text|…".
@@ -324,10 +320,7 @@ private slots:
         days::record(m_serial, m_first, 10);
         const HistoryPaths paths = historyPaths(m_serial);
         const QDate day = m_first.addDays(10);
-        QFile values(paths.values);
-        QVERIFY(values.open(QIODevice::ReadWrite) &&
-                values.setFileTime(QDateTime::currentDateTime().addSecs(3600), QFile::FileModificationTime));
-        values.close();
+        QVERIFY(setAge(paths.values, -3600)); // in an hour
         for (const QString value : {"1", "2", "3"}) {
             const QDateTime before = QFileInfo(paths.values).lastModified();
             recordHistory(m_serial, QDateTime(day, QTime(8, 0)), {{days::key, value}});

@@ -102,25 +102,19 @@ private slots:
     /// The user is told once: by the window, or by the desktop.
     void notices()
     {
-        using Result = JobEnd::Result;
         QCOMPARE(jobnotices::windowTitle("V", 42), QString("42 % - V"));
         QCOMPARE(jobnotices::windowTitle("V", std::nullopt), QString("V"));
-        // Of scan, clone and self-test.
-        const auto told = [](Result result, bool inFront = false) {
+        // What is said of scan, clone and self-test.
+        const QStringList results{"well", "with faults", "failed", "stopped"};
+        compareRows("State/notices", [&results](const QString &row) {
+            const auto result = JobEnd::Result(results.indexOf(row.section(", ", 0, 0)));
             QStringList texts;
             for (const Job job : {Job::Scan, Job::Clone, Job::SelfTest}) {
-                const auto notice = jobnotices::notice({job, result, "why"}, inFront);
+                const auto notice = jobnotices::notice({job, result, "why"}, row.endsWith("in front"));
                 texts << (notice ? notice->title + '|' + notice->text : "-");
             }
-            return texts;
-        };
-        QCOMPARE(told(Result::Well), QStringList({"Scan Completed.|why", "Disk Cloning complete.|why",
-                                                  "The self-test has ended.|why"}));
-        QCOMPARE(told(Result::WithFaults),
-                 QStringList({"Scan Completed.|why", "Disk Cloning complete with errors.|why", "-"}));
-        QCOMPARE(told(Result::Failed),
-                 QStringList({"Scan Failed.|why", "Cloning Failed|why", "The self-test has ended.|why"}));
-        QCOMPARE(told(Result::Stopped) + told(Result::Well, true), QVector<QString>(6, "-").toList());
+            return texts.join(", ");
+        });
     }
 
     void stopEndsWhenTheThreadDoes()
@@ -183,27 +177,22 @@ private slots:
     void settings()
     {
         using namespace settings;
-        const auto limits = [](int unit, int warning, int shutDown) {
-            const AlarmLimits found = limitsForUnit(unit, warning, shutDown);
-            return QVector<int>{found.warning, found.shutDown, found.lowestWarning, found.lowestShutDown};
-        };
-        QCOMPARE(limits(Fahrenheit, 41, 63), QVector<int>({105, 145, 104, 122})); // cut, not rounded
-        // Whatever they were before, they begin at their lowest.
-        QCOMPARE(limits(Celsius, 140, 176), QVector<int>({40, 50, 40, 50}));
-        const QString tail = "\\VelmoraHalvane\\SmartLog\\log.txt";
-        QCOMPARE(defaultLogPath("D:\\Windows\\System32"), "D:" + tail);
-        QCOMPARE(defaultLogPath("C:\\windows\\system32"), "C:" + tail);
-        QCOMPARE(defaultLogPath("C:\\WINDOWS\\system32"), "C:\\WINDOWS" + tail);
-        QCOMPARE(logFolderOf("C:\\a\\\\b\\log.txt"), QString("C:\\a\\b\\"));
-        QCOMPARE(logFolderOf("log.txt"), QString());
+        // The thresholds that become of those shown before, and their lowest values.
+        compareRows("State/limits", [](const QString &row) {
+            const QVector<qint64> shown = numbersOf(row);
+            const int unit = row.startsWith('F') ? Fahrenheit : Celsius;
+            const AlarmLimits found = limitsForUnit(unit, int(shown[1]), int(shown[2]));
+            return joined(found.warning, found.shutDown, found.lowestWarning, found.lowestShutDown);
+        });
+        compareRows("State/logPaths", defaultLogPath);
+        compareRows("State/logFolders", logFolderOf);
     }
 
     /// The program knows what the installer writes, and looks for it where the installer does.
     void programAndInstallerAgree()
     {
-        QFile file(HALVANE_SOURCE_DIR "/packaging/product/velmora.json");
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const QJsonObject brand = QJsonDocument::fromJson(file.readAll()).object();
+        const QByteArray content = contentOf(HALVANE_SOURCE_DIR "/packaging/product/velmora.json");
+        const QJsonObject brand = QJsonDocument::fromJson(content).object();
         const QJsonObject settings = brand["settings"].toObject();
         QVERIFY(settings.size() > 40);
         for (auto setting = settings.begin(); setting != settings.end(); ++setting) {
@@ -271,12 +260,11 @@ private slots:
 
     void cloneNeverOffersTheSource()
     {
-        for (const auto &[id, kind] : {std::pair(128, FixedDisk),
-                                       {131, FixedDisk},
-                                       {129, RemovableDisk},
-                                       {2, VolumeNode},
-                                       {300, LinuxPartition}})
-            addNode(id, kind);
+        addNode(128, FixedDisk);
+        addNode(131, FixedDisk);
+        addNode(129, RemovableDisk);
+        addNode(2, VolumeNode);
+        addNode(300, LinuxPartition);
         const auto offered = [](int source) {
             QList<int> found;
             for (const clonetexts::Destination &disk : clonetexts::destinations(g_App.m_diskList, source))

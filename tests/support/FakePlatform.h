@@ -51,10 +51,11 @@ public:
     };
 
     /// Makes one, installs it, and returns it for the test to fill. Owned by Platform.
-    static FakePlatform *install()
+    template<typename Fake = FakePlatform>
+    static Fake *install()
     {
-        auto made = std::make_unique<FakePlatform>();
-        FakePlatform *fake = made.get();
+        auto made = std::make_unique<Fake>();
+        Fake *fake = made.get();
         Platform::install(std::move(made));
         return fake;
     }

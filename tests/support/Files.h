@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QDateTime>
 #include <QFile>
 #include <QRandomGenerator>
 #include <QString>
@@ -21,6 +22,14 @@ inline QByteArray contentOf(const QString &path)
 {
     QFile file(path);
     return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+}
+
+/// As if the file had been changed so many seconds ago. Returns false on error.
+[[nodiscard]] inline bool setAge(const QString &path, int seconds)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadWrite) &&
+           file.setFileTime(QDateTime::currentDateTime().addSecs(-seconds), QFile::FileModificationTime);
 }
 
 /// Sectors of 512 bytes, each of which differs from its neighbours.

@@ -3,8 +3,6 @@
 
 #include "platform/linux/LinuxPlatform.h"
 
-#include <QDir>
-
 #include <functional>
 
 /// A Linux PC whose calls a test can watch, and whose pauses take no time. Set the hooks before the code

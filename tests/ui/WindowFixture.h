@@ -10,11 +10,11 @@
 #include "tests/ui/Named.h"
 #include "ui/dialogs/MessageDialog.h"
 #include "ui/widgets/MyButton.h"
+#include "ui/widgets/QGridView.h"
 #include "ui/widgets/StartLook.h"
 #include "ui/window/MainWindow.h"
 
 #include <QAction>
-#include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -66,13 +66,6 @@ protected:
         QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     }
 
-    void addReport(const char *name, const QByteArray &contents) const
-    {
-        if (contents.isEmpty())
-            qFatal("no report: %s", name);
-        m_pFolder->add(QLatin1String(name), contents);
-    }
-
     /// A text of m_sections; one "from" another one is that with replacements.
     QByteArray described(const QString &name) const
     {
@@ -94,18 +87,23 @@ protected:
     }
 
     /// Installs the PC of that name of m_sections, with further keys behind the name, and loads its disks.
-    void install(const QString &pc, simulated::Clock clock = {})
+    void install(const QString &name, simulated::Clock clock = {})
     {
         m_pWindow.reset();
         m_pFolder = std::make_unique<DescribedFolder>();
         for (const QString &head : m_sections.keys()) {
-            if (head.startsWith(QLatin1String("text ")))
-                addReport(head.section(' ', 1, 1).toUtf8(), described(head.section(' ', 1, 1)));
+            if (!head.startsWith(QLatin1String("text ")))
+                continue;
+            const QString report = head.section(' ', 1, 1);
+            const QByteArray contents = described(report);
+            if (contents.isEmpty())
+                qFatal("no report: %s", qPrintable(report));
+            m_pFolder->add(report, contents);
         }
-        const QJsonObject own = QJsonDocument::fromJson(described(pc.section(' ', 0, 0))).object();
-        const QJsonObject more = QJsonDocument::fromJson(pc.section(' ', 1).toUtf8()).object();
-        if (own.isEmpty() || more.isEmpty() != pc.section(' ', 1).isEmpty())
-            qFatal("no PC: %s", qPrintable(pc));
+        const QJsonObject own = QJsonDocument::fromJson(described(name.section(' ', 0, 0))).object();
+        const QJsonObject more = QJsonDocument::fromJson(name.section(' ', 1).toUtf8()).object();
+        if (own.isEmpty() || more.isEmpty() != name.section(' ', 1).isEmpty())
+            qFatal("no PC: %s", qPrintable(name));
         const auto with = [](QJsonObject keys, const QJsonObject &further) {
             for (auto key = further.begin(); key != further.end(); ++key)
                 keys[key.key()] = key.value();
@@ -114,29 +112,7 @@ protected:
         QJsonObject keys = with(with({{"toolMilliseconds", 8}}, own), more);
         keys["settings"] = with({{"TempValue", "C"}, {"FirstTimeLaunch", 1}}, keys["settings"].toObject());
         keys["pauses"] = false;
-        startPc(QJsonDocument(keys).toJson(), std::move(clock));
-    }
-
-    /// The window on that PC, after its first read.
-    void openPc(const QString &pc, simulated::Clock clock = {})
-    {
-        install(pc, std::move(clock));
-        makeWindow();
-        waitForRest();
-    }
-
-    /// A PC with these disks. `settings` and `more`, the further keys, begin with a comma.
-    static QByteArray pcOf(const QByteArray &disks, const QByteArray &settings = QByteArray(),
-                           const QByteArray &more = QByteArray())
-    {
-        return R"({"pauses": false, "toolMilliseconds": 8, "settings": {"TempValue": "C", "FirstTimeLaunch": 1)" +
-               settings + R"(}, "disks": [)" + disks + "]" + more + "}";
-    }
-
-    /// Installs the PC of `json` and loads its disks. Its reports have to exist already.
-    void startPc(const QByteArray &json, simulated::Clock clock = {})
-    {
-        auto pc = m_pFolder->open(json, std::move(clock));
+        auto pc = m_pFolder->open(QJsonDocument(keys).toJson(), std::move(clock));
         m_strState = pc->stateFolder();
         g_App.m_strSystemFolder = pc->GetSystemDirectoryW();
         g_App.m_bUse64BitTool = true;
@@ -148,18 +124,18 @@ protected:
         deviceload::loadLists();
     }
 
+    /// The window on that PC, after its first read.
+    void openPc(const QString &pc, simulated::Clock clock = {})
+    {
+        install(pc, std::move(clock));
+        makeWindow();
+        waitForRest();
+    }
+
     void makeWindow()
     {
         m_pWindow = std::make_unique<MainWindow>();
         m_pWindow->show();
-    }
-
-    /// The window on the PC of `json`, after its first read.
-    void openWindow(const QByteArray &json, simulated::Clock clock = {})
-    {
-        startPc(json, std::move(clock));
-        makeWindow();
-        waitForRest();
     }
 
     void tearDown()
@@ -238,16 +214,13 @@ protected:
         return told;
     }
 
-    /// What the mouse is told at a place of the only widget of that class.
-    QString tipAt(const char *className, const QPoint &place) const
+    /// What the mouse is told at a place of the map.
+    QString tipAt(const QPoint &place) const
     {
-        for (QWidget *part : m_pWindow->findChildren<QWidget *>()) {
-            if (!part->inherits(className))
-                continue;
-            QMouseEvent move(QEvent::MouseMove, place, part->mapToGlobal(place), Qt::NoButton, Qt::NoButton,
-                             Qt::NoModifier);
-            QCoreApplication::sendEvent(part, &move);
-        }
+        auto *map = child<QGridView>();
+        QMouseEvent move(QEvent::MouseMove, place, map->mapToGlobal(place), Qt::NoButton, Qt::NoButton,
+                         Qt::NoModifier);
+        QCoreApplication::sendEvent(map, &move);
         return QToolTip::text();
     }
 
@@ -277,14 +250,6 @@ protected:
         return m_pWindow->findChild<Widget *>(QLatin1String(name));
     }
     QString text(const char *label) const { return child<QLabel>(label)->text(); }
-    /// The texts of labels, with a | between them.
-    QString texts(std::initializer_list<const char *> labels) const
-    {
-        QStringList found;
-        for (const char *label : labels)
-            found << text(label);
-        return found.join(QLatin1Char('|'));
-    }
     bool shown(const char *name) const { return child<QWidget>(name)->isVisible(); }
     /// Whether all of these are visible, or none of them.
     bool areShown(bool expected, std::initializer_list<const char *> names) const
@@ -329,10 +294,11 @@ protected:
         lines.removeLast();
         return lines;
     }
-    int commands(const QByteArray &part) const
+    /// How many commands had the part, without the first ones.
+    int commands(const QByteArray &part, int first = 0) const
     {
         int count = 0;
-        for (const QByteArray &line : logLines("commands.log"))
+        for (const QByteArray &line : logLines("commands.log").mid(first))
             count += line.contains(part) ? 1 : 0;
         return count;
     }

@@ -106,11 +106,14 @@ private slots:
     {
         goTo("SmartStatusButton");
         g_strGraphTitle = QStringLiteral("Reads/Writes");
-        const QString path = newFile("Reads-Writes.jpg");
-        QVERIFY(!ask("ScreenshotButton", QString()).isEmpty() && !QFile::exists(path)); // cancelled
+        const QString name = m_strState + "/Reads-Writes";
+        const QString path = name + ".jpg";
+        const auto shoot = [this] {
+            QTest::mouseClick(child<QPushButton>("ScreenshotButton"), Qt::LeftButton);
+        };
+        QVERIFY(!asked(shoot, QString()).isEmpty() && !QFile::exists(path)); // cancelled
         // The offered name gets its ending.
-        QCOMPARE(ask("ScreenshotButton", newFile("Reads-Writes")),
-                 QStringLiteral("Save File|Reads-Writes|JPEG (*.jpg);|"));
+        QCOMPARE(asked(shoot, name), QStringLiteral("Save File|Reads-Writes|JPEG (*.jpg);|"));
         const auto *page = child<SmartStatus>();
         const QImage picture(path, "JPEG");
         QCOMPARE(picture.size(), page->size());
@@ -121,15 +124,6 @@ private slots:
         QVERIFY(text.scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).pixelColor(0, 0) !=
                 Qt::white);
     }
-
-private:
-    /// What the button's file dialog asked; saves as `path`.
-    QString ask(const char *button, const QString &path) const
-    {
-        return asked([=] { QTest::mouseClick(child<QPushButton>(button), Qt::LeftButton); }, path);
-    }
-
-    QString newFile(const char *name) const { return m_strState + QLatin1Char('/') + QLatin1String(name); }
 };
 
 QTEST_MAIN(tst_MainWindow)

@@ -20,7 +20,7 @@ private slots:
             click("ScanButton");
             QVERIFY(shellIs(false) && shown("StopButton") && shown("frame") && !shown("frame_2"));
             QTest::qWait(round * 7 % 60);
-            QVERIFY(!tipAt("QGridView", QPoint(30, 30)).isEmpty());
+            QVERIFY(!tipAt({30, 30}).isEmpty());
             m_pWindow->OnRefresh();
             m_pWindow->close();
             if (round % 2 == 0) {

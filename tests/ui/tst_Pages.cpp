@@ -46,8 +46,8 @@ private slots:
     void aNewSourceTakesTheDestinationAway()
     {
         CloneDisk page;
-        QComboBox *source = comboOf(page, "SourceComboBox");
-        QComboBox *destination = comboOf(page, "DestinationComboBox");
+        auto *source = page.findChild<QComboBox *>("SourceComboBox");
+        auto *destination = page.findChild<QComboBox *>("DestinationComboBox");
         for (const DiskNode &node : g_App.m_diskList)
             source->addItem(QString::number(node.nId), node.nId);
         QCOMPARE(destination->itemData(0, Qt::SizeHintRole).toSize(), QSize(0, 0));
@@ -102,7 +102,6 @@ private slots:
     }
 
     /// Texts and signs stand out from what is behind them, by the measures for small letters and for signs.
-    /// All windows are light, whatever the system's colours are.
     void theColoursCanBeRead()
     {
         const auto verify = [](const QColor &sign, const QColor &ground, double least) {
@@ -129,7 +128,6 @@ private slots:
             verify(sign, colour::Pale, 3);
         }
         const QPalette palette = style::lightPalette();
-        QVERIFY(palette.window().color().lightness() > 240 && palette.base().color().lightness() > 240);
         using Role = QPalette::ColorRole;
         const std::pair<Role, Role> pairs[] = {
             {Role::WindowText, Role::Window},         {Role::Text, Role::Base},
@@ -174,7 +172,7 @@ private slots:
     {
         CloneDisk page;
         const QString name = QStringLiteral("A Name & Sons <b>1");
-        QComboBox *source = comboOf(page, "SourceComboBox");
+        auto *source = page.findChild<QComboBox *>("SourceComboBox");
         source->addItem(name);
         labelOf(&page, "ModelNLbl")->setText(QStringLiteral("Model: ") + name);
         for (QWidget *cut : std::initializer_list<QWidget *>{labelOf(&page, "ModelNLbl"), source}) {
@@ -296,11 +294,6 @@ private:
         record.nDiskId = static_cast<std::uint32_t>(id);
         record.szModel.assign(QStringLiteral("bus ") + model);
         record.szSmartModel.assign(model);
-    }
-
-    static QComboBox *comboOf(const CloneDisk &page, const char *name)
-    {
-        return page.findChild<QComboBox *>(QLatin1String(name));
     }
 };
 

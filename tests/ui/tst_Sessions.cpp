@@ -125,13 +125,6 @@ private:
         install(pc);
     }
 
-    int commandsSinceMark(const QString &part) const
-    {
-        const QList<QByteArray> lines = logLines("commands.log").mid(m_mark);
-        return int(std::count_if(lines.begin(), lines.end(),
-                                 [&](const QByteArray &line) { return line.contains(part.toUtf8()); }));
-    }
-
     /// PATH|KIND|STEP: the step opens a file dialog, which saves below the state folder; without a path it is
     /// cancelled.
     QString save(const QString &rest)
@@ -245,7 +238,7 @@ private:
         {"row", row},
         {"tip",
          [this](const QString &at) {
-             return tipAt("QGridView", QPoint(at.section(',', 0, 0).toInt(), at.section(',', 1).toInt()));
+             return tipAt({at.section(',', 0, 0).toInt(), at.section(',', 1).toInt()});
          }},
         {"points", points},
         {"history", history},
@@ -258,7 +251,8 @@ private:
         {"announced", [](const QString &) { return ScreenReader::told.join('|'); }},
         {"asked", [this](const QString &) { return m_asked; }},
         {"clipboard", [](const QString &) { return QGuiApplication::clipboard()->text(); }},
-        {"commands", [this](const QString &part) { return QString::number(commandsSinceMark(part)); }},
+        {"commands",
+         [this](const QString &part) { return QString::number(commands(part.toUtf8(), m_mark)); }},
         {"log",
          [this](const QString &file) { return logLines(file.toLatin1()).join(" / ").replace('\t', ' '); }},
         {"setting", [](const QString &name) { return SettingsStore().text(TextSetting{name.toLatin1()}); }},

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "smart/AttributeHistory.h"
-#include "smart/Rating.h"
 #include "smart/SmartGlobals.h"
 #include "smart/Temperature.h"
-#include "state/SettingsStore.h"
 #include "tests/ui/WindowFixture.h"
 #include "ui/widgets/SmartChartView.h"
 #include "ui/widgets/Style.h"
@@ -112,7 +110,7 @@ private slots:
         QCOMPARE(chart(), shownChart);
         QCOMPARE(tree()->topLevelItemCount(), 3);
         QCOMPARE(tree()->topLevelItem(1)->text(1), QStringLiteral("Reallocated Sector Count"));
-        QCOMPARE(texts({"SmartResultLabel", "GraphLabel"}), QStringLiteral("Failed|"));
+        QCOMPARE(text("SmartResultLabel") + '|' + text("GraphLabel"), QStringLiteral("Failed|"));
     }
 
 private:

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "state/SettingsStore.h"
 #include "tests/support/WebFolder.h"
 #include "tests/ui/WindowFixture.h"
 #include "ui/dialogs/QDownloadApp.h"
@@ -29,6 +30,7 @@ private slots:
     /// Closes each message by its button and keeps its text.
     void initTestCase()
     {
+        m_sections = sectionsOf(QStringLiteral("Update.txt"));
         QApplication::setQuitOnLastWindowClosed(false);
         update::g_publisherKey.clear(); // one may be built in
         auto *answers = new QTimer(this);
@@ -232,11 +234,9 @@ private:
     void startWindow(const QByteArray &link, const QByteArray &installed = "11.0.0.8",
                      const QByteArray &prefix = "EN")
     {
-        startPc(pcOf("",
-                     R"(, "AverageUpdateSize": "4194304", ")" + prefix + R"(/rxUpdateLink": ")" + link +
-                         R"(", "EN/rxUpdate": "https://velmora.example/new?a=1&b=2", "rxVersion": ")" +
-                         installed + '"',
-                     R"(, "network": true)"));
+        install(QStringLiteral("online"));
+        SettingsStore().write(TextSetting{prefix + "/rxUpdateLink"}, link);
+        SettingsStore().write(key::rxVersion, installed);
         makeWindow();
     }
 
