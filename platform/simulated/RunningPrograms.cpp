@@ -8,7 +8,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QMutexLocker>
 
 namespace simulated
 {
@@ -36,7 +35,6 @@ void RunningPrograms::addThis()
     QString name = QFileInfo(QCoreApplication::applicationFilePath()).fileName();
     if (!name.endsWith(Ending, Qt::CaseInsensitive))
         name += Ending;
-    const QMutexLocker guard(&m_mutex);
     // Somebody may just be looking whether it is free.
     m_own = std::make_unique<FileLock>(lockOf(name), PatienceMs);
     QFile number(m_folder + QLatin1Char('/') + name + NumberEnding);

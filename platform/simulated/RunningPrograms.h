@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QMutex>
 #include <QString>
 #include <QStringList>
 
@@ -13,7 +12,7 @@ namespace simulated
 {
 
 /// The real processes that run on a described PC: each holds a lock in the state folder for as long as it
-/// lives, so one that was killed is gone at once. Any thread.
+/// lives, so one that was killed is gone at once. Any thread, where nothing else is said.
 class RunningPrograms
 {
 public:
@@ -21,7 +20,7 @@ public:
     explicit RunningPrograms(const QString &folder);
     ~RunningPrograms();
 
-    /// This process runs on the PC from here on.
+    /// This process runs on the PC from here on. Main thread only.
     void addThis();
     /// Image names, with ".exe" on every system.
     QStringList names() const;
@@ -36,7 +35,6 @@ private:
     QString lockOf(const QString &imageName) const;
 
     const QString m_folder;
-    QMutex m_mutex;
     std::unique_ptr<FileLock> m_own;
 };
 

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/HttpDownload.h"
+#include "tests/support/AtOnce.h"
 #include "tests/support/FakePlatform.h"
 #include "tests/support/Files.h"
 #include "tests/support/LoopbackServer.h"
 #include "update/QDownloadThread.h"
 #include "update/UpdateCheck.h"
+#include "update/UpdateFetch.h"
 #include "update/UpdateGlobals.h"
 
 #include <QProcess>
@@ -102,6 +104,15 @@ private slots:
         ends("broken off", "interrupted", "good", {".exe", "200 OK", m_installer, Bytes / 2});
         ends("slow", "interrupted", "good", {".exe", "200 OK\r\nContent-Length: 2097152", "x", 1, true});
         ends("swapped after the check", "refused", "good", {"none", {}, {}, 0, false, true});
+    }
+
+    /// The window asks for the bytes while a thread makes the folder and takes it away.
+    void countsWhileItLoads()
+    {
+        m_pPc->onDownload = [](auto &, auto &, auto &) { return Platform::DownloadRefused; };
+        atOnce([] { update::fetch("https://x/", "x", update::VersionsLimits); },
+               [] { update::loadedBytes(); });
+        QCOMPARE(update::loadedBytes(), 0);
     }
 
     void plainHttpIsNotAsked()

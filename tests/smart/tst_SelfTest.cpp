@@ -283,6 +283,16 @@ private slots:
         QVERIFY(ended);
     }
 
+    /// However fast one disk follows the other, the last one is told.
+    void chosenInHaste()
+    {
+        SMARTThread thread;
+        for (int disk = 0; disk < 400; ++disk)
+            thread.RequestSmartRead(disk % 8);
+        QVERIFY(thread.wait(10000));
+        QCOMPARE(thread.takeReport().value().disk, 7);
+    }
+
 private:
     /// Prepares and starts a test; the drive names these minutes for the two kinds.
     bool start(SelfTest &test, SelfTestKind kind, int shortMinutes, int extendedMinutes)

@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/simulated/Presence.h"
+#include "tests/platform/DescribedFolder.h"
+#include "tests/support/AtOnce.h"
+
+/// What any thread may ask of a PC, by two at once.
+class tst_Locks : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void comesAndGoes()
+    {
+        const simulated::PcDescription pc;
+        simulated::Presence presence(pc);
+        atOnce([&] { presence.touch("remove-disk1") && presence.touch("arrive-disk1"); },
+               [&] { presence.hasDisk(1); });
+        QVERIFY(presence.hasDisk(1));
+    }
+
+    void programsEnd()
+    {
+        QByteArray names;
+        for (int i = 0; i < 400; ++i)
+            names += "\"p" + QByteArray::number(i) + ".exe\",";
+        const auto pc = m_folder.open(R"({"processes": [)" + names + R"("last.exe"]})");
+        int ended = 0;
+        atOnce([&] { run(*pc, QString("taskkill /F /IM p%1.exe > ").arg(ended++), "ends.txt"); },
+               [&] { run(*pc, "tasklist > ", "list.txt"); });
+        QCOMPARE(outputOf(*pc, "tasklist | findstr .exe").count('\n'), 1);
+    }
+
+    /// Of the list of reports each run gets its own.
+    void toolRuns()
+    {
+        m_folder.add("a.txt", "a");
+        m_folder.add("b.txt", "b");
+        const QByteArray reports = QByteArray("\"a.txt\",").repeated(800) + "\"b.txt\"";
+        const auto pc = m_folder.open(R"({"disks": [{"number": 0, "report": [)" + reports + "]}]}");
+        atOnce([&] { run(*pc, "smartctl.exe -a /dev/sda >> ", "one.txt"); },
+               [&] { run(*pc, "smartctl.exe -a /dev/sda >> ", "other.txt"); });
+        for (const char *file : {"one.txt", "other.txt"})
+            QCOMPARE(contentOf(pc->GetTempPathW() + file).count('a'), 400);
+        QCOMPARE(outputOf(*pc, "smartctl.exe -a /dev/sda"), QByteArray("b"));
+    }
+
+    void isChosenOnce()
+    {
+        m_folder.open("{}").reset();
+        qputenv("HALVANE_PC", m_folder.path().toUtf8());
+        qputenv("HALVANE_PC_STATE", m_folder.state().toUtf8());
+        for (int round = 0; round < 20; ++round) {
+            Platform::install(nullptr);
+            const Platform *one = nullptr;
+            const Platform *other = nullptr;
+            atOnce([&] { one = &Platform::current(); }, [&] { other = &Platform::current(); }, 1);
+            QVERIFY(one && one == other);
+        }
+    }
+
+private:
+    static void run(Platform &pc, const QString &command, const char *file)
+    {
+        const QString line = "CMD.EXE /c " + command + pc.GetTempPathW() + file;
+        pc.CreateProcessAndWait(line.toStdWString(), true);
+    }
+
+    DescribedFolder m_folder;
+};
+
+QTEST_GUILESS_MAIN(tst_Locks)
+#include "tst_Locks.moc"
