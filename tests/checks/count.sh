@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
-# count.sh <root>: prints lines of the sources by folder, the longest file and the longest function. It never fails.
+# count.sh <root>: prints lines of the sources by folder, the share of the tests, the longest file and the longest function. It
+# never fails.
 . "$(dirname "${BASH_SOURCE[0]}")/files.sh"
 
 list=$(files '*.cpp' '*.h' '*.ui')
@@ -36,6 +37,9 @@ awk '
         order = "platform state inventory smart scan clone update monitor reports " \
             "ui/widgets ui/dialogs ui/screens ui/window ui/forms app companion = tour bench fuzz tests"
         count = split(order, names, " ")
+        tests = lines["tests"]
+        code = -tests
+        for (folder in lines) code += folder ~ /^(bench|fuzz|ui\/forms)$/ ? 0 : lines[folder]
         printf "%-14s %7s %6s\n", "folder", "lines", "files"
         for (i = 1; i <= count; ++i) {
             if (names[i] == "=") {
@@ -48,6 +52,8 @@ awk '
             delete lines[names[i]]
         }
         for (other in lines) printf "%-14s %7d %6d\n", other, lines[other], files[other]
+        printf "tests are %.2f %% of the code, which is all but tests, bench, fuzz and forms: %d of %d lines\n",
+            100 * tests / code, tests, code
         for (whose in longest) {
             printf "longest file of %s: %s, %d lines\n", whose, longestFile[whose], longest[whose]
             printf "longest function of %s: %s, %d lines\n", whose, bodyAt[whose], body[whose]
