@@ -20,7 +20,7 @@ public:
     explicit RunningPrograms(const QString &folder);
     ~RunningPrograms();
 
-    /// This process runs on the PC from here on. Main thread only.
+    /// This process runs on the PC from here on. To be called once.
     void addThis();
     /// Image names, with ".exe" on every system.
     QStringList names() const;

@@ -3,7 +3,7 @@
 #include "tests/platform/DescribedFolder.h"
 #include "tests/support/AtOnce.h"
 
-/// What any thread may ask of a PC, by two at once.
+/// What any thread may ask of a PC, by two at once. Not all of it fails without the thread sanitizer.
 class tst_Locks : public QObject
 {
     Q_OBJECT
@@ -13,9 +13,9 @@ private slots:
     {
         const simulated::PcDescription pc;
         simulated::Presence presence(pc);
-        atOnce([&] { presence.touch("remove-disk1") && presence.touch("arrive-disk1"); },
+        atOnce([&] { presence.touch("arrive-disk1") && presence.touch("remove-disk1"); },
                [&] { presence.hasDisk(1); });
-        QVERIFY(presence.hasDisk(1));
+        QVERIFY(!presence.hasDisk(1));
     }
 
     void programsEnd()
@@ -27,7 +27,8 @@ private slots:
         int ended = 0;
         atOnce([&] { run(*pc, QString("taskkill /F /IM p%1.exe > ").arg(ended++), "ends.txt"); },
                [&] { run(*pc, "tasklist > ", "list.txt"); });
-        QCOMPARE(outputOf(*pc, "tasklist | findstr .exe").count('\n'), 1);
+        const QByteArray left = outputOf(*pc, "tasklist | findstr .exe");
+        QVERIFY(left.startsWith("last.exe") && left.count('\n') == 1);
     }
 
     /// Of the list of reports each run gets its own.
@@ -47,8 +48,13 @@ private slots:
     void isChosenOnce()
     {
         m_folder.open("{}").reset();
-        qputenv("HALVANE_PC", m_folder.path().toUtf8());
-        qputenv("HALVANE_PC_STATE", m_folder.state().toUtf8());
+        const auto restore = qScopeGuard([] {
+            Platform::install(nullptr);
+            qunsetenv("HALVANE_PC");
+            qunsetenv("HALVANE_PC_STATE");
+        });
+        qputenv("HALVANE_PC", QFile::encodeName(m_folder.path()));
+        qputenv("HALVANE_PC_STATE", QFile::encodeName(m_folder.state()));
         for (int round = 0; round < 20; ++round) {
             Platform::install(nullptr);
             const Platform *one = nullptr;

@@ -112,8 +112,9 @@ private:
     {
         static const QRegularExpression end("will complete after .*");
         const QByteArray bytes = outputOf(*m_pc, command);
-        const QTextCodec *codec = QTextCodec::codecForUtfText(bytes, QTextCodec::codecForName("ISO-8859-1"));
-        return codec->toUnicode(bytes).replace('\r', "\\r").replace(end, "will complete after ...");
+        const QByteArray name = bytes.startsWith("\xFF\xFE") ? "UTF-16LE" : "ISO-8859-1";
+        const QString text = QTextCodec::codecForName(name)->toUnicode(bytes);
+        return QString(text).replace('\r', "\\r").replace(end, "will complete after ...");
     }
 
     QString played(QString script)

@@ -8,8 +8,6 @@
 
 #include <QProcess>
 #include <QStandardPaths>
-#include <QTemporaryDir>
-#include <QtTest>
 
 #include <algorithm>
 #include <set>

@@ -15,7 +15,6 @@
 #include "update/UpdateTrust.h"
 
 #include <QTimer>
-#include <QtTest>
 
 #include <atomic>
 

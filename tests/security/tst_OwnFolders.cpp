@@ -12,7 +12,6 @@
 #include "tests/support/WatchedPlatform.h"
 
 #include <QProcess>
-#include <QtTest>
 
 #include <csignal>
 #include <functional>

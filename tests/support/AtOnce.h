@@ -5,8 +5,8 @@
 #include <functional>
 #include <thread>
 
-/// Does two things over and over, on two threads at once. Where they share what no lock guards, this crashes
-/// sooner or later, and the thread sanitizer tells of it at once.
+/// Does two things over and over, on two threads at once. Where they share what no lock guards, this may
+/// crash, and the thread sanitizer tells of it.
 inline void atOnce(const std::function<void()> &one, const std::function<void()> &other, int rounds = 400)
 {
     std::atomic<int> missing{2};
