@@ -10,6 +10,26 @@ host=x86_64-w64-mingw32
 build_folder=$root/build-windows
 dist_folder=$root/dist/windows
 
+fonts=/usr/share/fonts/truetype/open-sans
+
+# begin_wine <prefix> <home>: makes a Wine of its own with the fonts of the program, for what runs next on $DISPLAY. It runs until
+# "wineserver -k"; the process that keeps it up joins $helpers.
+begin_wine() {
+    export WINEPREFIX=$1 WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml=' HOME=$2
+    unset HALVANE_PC HALVANE_PC_STATE HALVANE_DISKS QT_FONT_DPI
+    quietly "Wine makes no folder of its own." timeout 120 wineboot --init
+    # The services of the first start in a new folder block each other; those of a second start work.
+    wineserver -k
+    wineserver -w
+    # The services end with the last program, so this one runs all the time: it waits for a line that never comes.
+    mkfifo "$HOME/line"
+    wine cmd <>"$HOME/line" >/dev/null 2>&1 &
+    helpers+=($!)
+    cp "$fonts"/*.ttf "$WINEPREFIX/drive_c/windows/Fonts/"
+    # The screen has no window manager. If Wine expected one, it would wait two seconds for each window.
+    quietly "Wine keeps no settings." wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f
+}
+
 # choose_product <brand>: sets $data to the data file of the brand, and $dist_folder to where its program is gathered.
 choose_product() {
     data=$root/packaging/product/$1.json

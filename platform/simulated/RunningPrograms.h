@@ -12,7 +12,7 @@ namespace simulated
 {
 
 /// The real processes that run on a described PC: each holds a lock in the state folder for as long as it
-/// lives, so one that was killed is gone at once. Any thread, where nothing else is said.
+/// lives, so one that was killed is gone at once. Any thread.
 class RunningPrograms
 {
 public:

@@ -61,10 +61,10 @@ private:
     QTemporaryDir m_state;
 };
 
-/// The output file of a command on the PC.
-inline QByteArray outputOf(Platform &pc, const QString &command)
+/// The output file of a command on the PC. Commands that run at once need names of their own for it.
+inline QByteArray outputOf(Platform &pc, const QString &command, const char *name = "out.txt")
 {
-    const QString file = pc.GetTempPathW() + QLatin1String("out.txt");
+    const QString file = pc.GetTempPathW() + QLatin1String(name);
     QFile::remove(file);
     pc.CreateProcessAndWait(
         (QLatin1String("CMD.EXE /c ") + command + QLatin1String(" >> ") + file).toStdWString(), true);
